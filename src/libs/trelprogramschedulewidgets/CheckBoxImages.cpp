@@ -1,0 +1,11 @@
+#include "CheckBoxImages.h"
+
+namespace trel::mediadispatch {
+
+CheckBoxImagePaths& checkBoxImagePaths()
+{
+    static CheckBoxImagePaths paths;
+    return paths;
+}
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+namespace trel::mediadispatch {
+
+/// The two words that may follow a program's name.
+struct ProgramSuffixes
+{
+    QString invalid; ///< The entry has gone bad.
+    QString null;    ///< The program no longer exists.
+};
+
+/// Finds the program behind an index; a record with isNull set when there is none.
+using ProgramLookup = std::function<ProgramIten(int progIndex)>;
+
+/// The text of one entry: its own name when it has gone bad, the catalogue's otherwise, with the
+/// suffix that applies. An entry from kInvalidProgIndex upward already holds its suffix.
+QString programText(const struProgInfo& entry, const ProgramLookup& lookup,
+                    const ProgramSuffixes& suffixes);
+
+/// The texts of all entries joined with a comma; empty for an empty list.
+QString programListText(const std::vector<struProgInfo>& entries, const ProgramLookup& lookup,
+                        const ProgramSuffixes& suffixes);
+
+} // namespace trel::mediadispatch

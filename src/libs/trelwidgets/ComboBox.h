@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace trel::widgets {
+
+/// A combo box for rows of a scrolling list: the wheel scrolls the list and never changes the box.
+class Q_DECL_EXPORT ComboBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit ComboBox(QWidget* parent = nullptr);
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+} // namespace trel::widgets

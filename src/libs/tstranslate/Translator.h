@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+
+namespace tessark::trans {
+
+/// Texts by key, in several languages, of which one is selected.
+///
+/// A language file is a compiled Linguist file (.qm) that names its language. In it the group is
+/// the Linguist context, the context its disambiguation and the key its source text. Not
+/// thread-safe.
+class Q_DECL_EXPORT Translator
+{
+public:
+    Translator();
+    ~Translator();
+    Translator(const Translator&) = delete;
+    Translator& operator=(const Translator&) = delete;
+
+    /// Loads a language file. A second file of a language takes the place of the first. Returns
+    /// false, and leaves every language as it was, for a file that is missing, empty, damaged or
+    /// no language file.
+    bool load(const QString& file);
+
+    /// Selects the language of later lookups, by name, such as "zh_CN". A name that was not loaded
+    /// is kept, and takes effect once its file is.
+    void switchLanguage(const QString& language);
+
+    /// The name last given to switchLanguage; "zh_CN" before the first call.
+    QString language() const;
+
+private:
+    friend Q_DECL_EXPORT QString translate(const Translator& translator, const QString& group,
+                                           const QString& context, const QString& key);
+
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+/// The text for a key in the selected language. What that language lacks is looked up in "zh_CN",
+/// and failing that the key itself is returned.
+Q_DECL_EXPORT QString translate(const Translator& translator, const QString& group,
+                                const QString& context, const QString& key);
+
+} // namespace tessark::trans
