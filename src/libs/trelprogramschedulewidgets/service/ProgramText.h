@@ -16,7 +16,8 @@ struct ProgramSuffixes
     QString null;    ///< The program no longer exists.
 };
 
-/// Finds the program behind an index; a record with isNull set when there is none.
+/// Gives isNull and progName of the program behind an index. The name is the one last known for the
+/// index, also when the program is gone. Not asked about an entry that has gone bad.
 using ProgramLookup = std::function<ProgramIten(int progIndex)>;
 
 /// The text of one entry: its own name when it has gone bad, the catalogue's otherwise, with the

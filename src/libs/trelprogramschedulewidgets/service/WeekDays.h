@@ -5,8 +5,9 @@
 
 namespace trel::mediadispatch {
 
-/// Reads the day numbers of a `weeks` text into numbers, in order, and tells whether one of them is
-/// EveryDay. An empty text counts as "0"; a token that is no number reads as 0, as atoi has it.
+/// Appends the day numbers of a `weeks` text to numbers, in order, and tells whether one of them is
+/// EveryDay. An empty text counts as "0"; a token that is no number reads as 0, as atoi has it, and
+/// so does an empty token, also behind the last comma.
 bool parseWeeks(const std::string& weeks, std::vector<int>& numbers);
 
 /// True when two plans with these days share one. Numbers outside 0 to 7 only meet themselves.

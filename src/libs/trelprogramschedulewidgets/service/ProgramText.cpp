@@ -1,0 +1,30 @@
+#include "service/ProgramText.h"
+
+#include <QStringList>
+
+namespace trel::mediadispatch {
+
+QString programText(const struProgInfo& entry, const ProgramLookup& lookup,
+                    const ProgramSuffixes& suffixes)
+{
+    if (entry.isInvalid) {
+        const QString name = QString::fromStdString(entry.progName);
+        return entry.progIndex < kInvalidProgIndex ? name + suffixes.invalid : name;
+    }
+    const ProgramIten program = lookup(entry.progIndex);
+    const QString name = QString::fromStdString(program.progName);
+    return program.isNull ? name + suffixes.null : name;
+}
+
+QString programListText(const std::vector<struProgInfo>& entries, const ProgramLookup& lookup,
+                        const ProgramSuffixes& suffixes)
+{
+    QStringList texts;
+    texts.reserve(static_cast<int>(entries.size()));
+    for (const struProgInfo& entry : entries) {
+        texts.append(programText(entry, lookup, suffixes));
+    }
+    return texts.join(QLatin1Char(','));
+}
+
+} // namespace trel::mediadispatch
