@@ -1,5 +1,10 @@
 #pragma once
 
+#include <QObject>
+
+#include <algorithm>
+#include <vector>
+
 namespace trel::mediadispatch {
 
 /// A widget of a plan row, with the number of that row. The table owns the widget.
@@ -9,5 +14,39 @@ struct RowWidget
     int row = -1;
     T* widget = nullptr;
 };
+
+/// The first widget of a row; null when the row has none.
+template <typename T>
+T* widgetOfRow(const std::vector<RowWidget<T>>& widgets, int row)
+{
+    const auto found =
+        std::find_if(widgets.begin(), widgets.end(),
+                     [row](const RowWidget<T>& entry) { return entry.row == row && entry.widget; });
+    return found == widgets.end() ? nullptr : found->widget;
+}
+
+/// The row of a widget, such as the sender of a signal; -1 when it belongs to no row.
+template <typename T>
+int rowOfWidget(const std::vector<RowWidget<T>>& widgets, const QObject* widget)
+{
+    const auto found =
+        std::find_if(widgets.begin(), widgets.end(),
+                     [widget](const RowWidget<T>& entry) { return entry.widget == widget; });
+    return !widget || found == widgets.end() ? -1 : found->row;
+}
+
+/// Forgets the widgets of a row and moves those of the rows below it up by one.
+template <typename T>
+void dropRow(std::vector<RowWidget<T>>& widgets, int row)
+{
+    widgets.erase(std::remove_if(widgets.begin(), widgets.end(),
+                                 [row](const RowWidget<T>& entry) { return entry.row == row; }),
+                  widgets.end());
+    for (RowWidget<T>& entry : widgets) {
+        if (entry.row > row) {
+            --entry.row;
+        }
+    }
+}
 
 } // namespace trel::mediadispatch

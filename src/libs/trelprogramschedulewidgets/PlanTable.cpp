@@ -1,0 +1,72 @@
+#include "PlanTable.h"
+
+#include "PlanColumns.h"
+#include "PlanStandardItemModel.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTableView>
+
+#include <array>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+constexpr int kRowHeight = 44;
+constexpr int kScrollBarWidth = 8;
+
+constexpr std::array<int, PlanColumnCount> kColumnWidths = {
+    60,       // title
+    150,      // programs
+    50,  66,  // mode
+    45,  88,  // start time
+    24,  88,  // end time
+    50,  45,  // times
+    40,  100, // weeks
+    64,  120, // end action
+    60,       // state
+    24,  24,  // copy, delete
+};
+
+void setUpHeaders(QTableView& table)
+{
+    table.horizontalHeader()->setVisible(false);
+    table.verticalHeader()->setVisible(false);
+    // The themes know the table by this name.
+    table.setObjectName(QStringLiteral("schedule"));
+    table.horizontalHeader()->setSectionsMovable(true);
+    table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table.verticalHeader()->setDefaultSectionSize(kRowHeight);
+    table.verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
+}
+
+void setUpBehaviour(QTableView& table)
+{
+    table.setDragDropMode(QAbstractItemView::InternalMove);
+    // The order of plans is the order in which they were added, so no row may be dragged.
+    table.setDragEnabled(false);
+    table.setDropIndicatorShown(false);
+    table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    table.setShowGrid(false);
+    table.setEditTriggers(QAbstractItemView::AllEditTriggers);
+    table.setFocusPolicy(Qt::NoFocus);
+}
+
+} // namespace
+
+void setUpPlanTable(QTableView& table, PlanStandardItemModel& model)
+{
+    table.verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
+    table.verticalScrollBar()->setFixedWidth(kScrollBarWidth);
+
+    model.setColumnCount(PlanColumnCount);
+    table.setModel(&model);
+    setUpHeaders(table);
+    setUpBehaviour(table);
+    for (int column = 0; column < PlanColumnCount; ++column) {
+        table.setColumnWidth(column, kColumnWidths.at(static_cast<std::size_t>(column)));
+    }
+}
+
+} // namespace trel::mediadispatch
