@@ -1,0 +1,192 @@
+#include "centerWidget.h"
+
+#include "PlanList.h"
+#include "Prompts.h"
+#include "ScheduleText.h"
+#include "service/TaskPeriods.h"
+#include "service/scheduleManage.h"
+#include "ui_centerWidget.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QScrollBar>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+constexpr int kScrollBarWidth = 8;
+constexpr int kSpaceAboveHint = 72;
+constexpr int kListSpacing = 6;
+constexpr int kListMargin = 11;
+
+constexpr char kStyle[] = "style";
+constexpr char kState[] = "state";
+
+QString taskName(int taskId)
+{
+    return QStringLiteral("%1%2").arg(scheduleText("zhPlayTaskStr"), QString::number(taskId));
+}
+
+} // namespace
+
+/// The form, and the layout that it holds for a list that brings none. PlanList brings its own, so
+/// that this one has no widget and lies idle.
+class centerWidget::Form : public Ui::centerWidget
+{
+public:
+    Form()
+    {
+        verticalLayout_2.setObjectName(QStringLiteral("verticalLayout_2"));
+        verticalLayout_2.setSpacing(kListSpacing);
+        verticalLayout_2.setContentsMargins(kListMargin, kListMargin, kListMargin, kListMargin);
+        verticalLayout_2.addItem(
+            new QSpacerItem(20, 349, QSizePolicy::Minimum, QSizePolicy::Expanding));
+    }
+
+    QVBoxLayout verticalLayout_2;
+};
+
+centerWidget::centerWidget(QWidget* parent)
+    : QWidget(parent)
+    , m_ui(std::make_unique<Form>())
+{
+    m_ui->setupUi(this);
+    setAttribute(Qt::WA_StyledBackground);
+    setProperty(kState, QStringLiteral("default"));
+    setUpScrollArea();
+    setUpHint();
+    setUpButtons();
+    connectAll();
+}
+
+centerWidget::~centerWidget()
+{
+    // The list tells its last count when it goes, which is after the panel's own members.
+    m_ui->widget->disconnect(this);
+}
+
+PlanList* centerWidget::planList() const
+{
+    return m_ui->widget;
+}
+
+void centerWidget::setUpScrollArea()
+{
+    m_ui->scrollArea->adjustSize();
+    QScrollBar* bar = m_ui->scrollArea->verticalScrollBar();
+    bar->setContextMenuPolicy(Qt::NoContextMenu);
+    m_ui->scrollArea->setWidget(m_ui->widget);
+    bar->setFixedWidth(kScrollBarWidth);
+}
+
+void centerWidget::setUpHint()
+{
+    m_hintLabel = new QLabel(m_ui->scrollArea);
+    m_hintLabel->setProperty(kStyle, QStringLiteral("grayHint"));
+
+    // A layout on the area itself, not on its viewport, so that the hint floats over the list.
+    auto* layout = new QVBoxLayout(m_ui->scrollArea);
+    layout->addStretch(0);
+    layout->addSpacing(kSpaceAboveHint);
+    layout->addWidget(m_hintLabel, 0, Qt::AlignHCenter);
+    layout->addStretch(0);
+    layout->setContentsMargins(0, 0, 0, 0);
+}
+
+void centerWidget::setUpButtons()
+{
+    m_ui->pushButtonAddTask->setProperty(kStyle, QStringLiteral("general"));
+    m_ui->pushButtonSave->setProperty(kStyle, QStringLiteral("general"));
+    m_ui->pushButtonStart->setProperty(kStyle, QStringLiteral("assist"));
+    m_ui->pushButtonClose->setProperty(kStyle, QStringLiteral("assist"));
+    for (QPushButton* button : {m_ui->pushButtonAddTask, m_ui->pushButtonSave,
+                                m_ui->pushButtonStart, m_ui->pushButtonClose}) {
+        button->setFocusPolicy(Qt::NoFocus);
+    }
+}
+
+void centerWidget::connectAll()
+{
+    PlanList* list = planList();
+    connect(m_ui->pushButtonAddTask, &QPushButton::clicked, list, &PlanList::slotAddOutput);
+    connect(m_ui->pushButtonSave, &QPushButton::clicked, this, &centerWidget::slotSave);
+    connect(m_ui->pushButtonStart, &QPushButton::clicked, this, &centerWidget::slotStart);
+    connect(m_ui->pushButtonClose, &QPushButton::clicked, this, &centerWidget::signalCancel);
+    connect(list, &PlanList::sigShowProcess, this, &centerWidget::slotShowProcess);
+    connect(list, &PlanList::sigCloseProcess, this, &centerWidget::slotCloseProcess);
+    connect(list, &PlanList::sigGetMapCount, this, &centerWidget::slotGetMapCount);
+    connect(this, &centerWidget::signalTranslation, list, &PlanList::sigTranslation);
+}
+
+bool centerWidget::checkTaskPeriods(QString& message) const
+{
+    const auto overlap = firstTaskOverlap(scheduleManage::getInstance().getAllTask());
+    if (!overlap) {
+        return true;
+    }
+    message = QStringLiteral("%1,%2 %3")
+                  .arg(taskName(overlap->first), taskName(overlap->second),
+                       scheduleText("zhSegConflictStr"));
+    return false;
+}
+
+bool centerWidget::periodsAllowIt()
+{
+    QString message;
+    if (checkTaskPeriods(message)) {
+        return true;
+    }
+    showRefusal(message);
+    return false;
+}
+
+void centerWidget::slotSave()
+{
+    if (periodsAllowIt()) {
+        emit signalSave();
+    }
+}
+
+void centerWidget::slotStart()
+{
+    if (periodsAllowIt()) {
+        emit signalStart();
+    }
+}
+
+void centerWidget::slotGetMapCount(int count)
+{
+    const bool empty = count < 1;
+    m_hintLabel->setVisible(empty);
+    setProperty(kState, empty ? QStringLiteral("default") : QStringLiteral("busy"));
+    // Makes the style sheet look at the property again.
+    setStyle(QApplication::style());
+}
+
+void centerWidget::slotShowProcess()
+{
+    disconnect(m_ui->pushButtonAddTask, &QPushButton::clicked, planList(),
+               &PlanList::slotAddOutput);
+    m_ui->pushButtonAddTask->setText(scheduleText("zhScheduleLoading"));
+    m_ui->pushButtonAddTask->setDisabled(true);
+}
+
+void centerWidget::slotCloseProcess()
+{
+    connect(m_ui->pushButtonAddTask, &QPushButton::clicked, planList(), &PlanList::slotAddOutput);
+    m_ui->pushButtonAddTask->setText(scheduleText("zhSchedulePlayStrAdd"));
+    m_ui->pushButtonAddTask->setEnabled(true);
+}
+
+void centerWidget::slotTranslation()
+{
+    m_ui->pushButtonClose->setText(scheduleText("zhCancelAct"));
+    m_ui->pushButtonSave->setText(scheduleText("zhFixAct"));
+    m_ui->pushButtonStart->setText(scheduleText("zhEnable"));
+    m_ui->pushButtonAddTask->setText(scheduleText("zhSchedulePlayStrAdd"));
+    m_hintLabel->setText(scheduleText("zhNoPlayTask"));
+    emit signalTranslation();
+}
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,151 @@
+#include "scheduleControlUI.h"
+
+#include "CheckBoxImages.h"
+#include "PlanList.h"
+#include "ProgramSheduleWidgetTranslateManager.h"
+#include "ScheduleText.h"
+#include "centerWidget.h"
+#include "service/Clock.h"
+#include "service/scheduleManage.h"
+#include "tstranslate/Translator.h"
+
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+constexpr QSize kPanelSize(1140, 600);
+constexpr int kShowLockMSecs = 1000;
+
+tessark::trans::Translator& translator()
+{
+    return ProgramSheduleWidgetTranslateManager::instance().translator();
+}
+
+} // namespace
+
+scheduleControlUI::scheduleControlUI(QWidget* parent)
+    : Dialog(parent)
+    , m_menu(nullptr)
+{
+    m_centerWidget = new centerWidget(dialogWidget());
+    m_centerWidget->setFixedSize(kPanelSize);
+
+    m_layout = new QVBoxLayout(dialogWidget());
+    m_layout->addWidget(m_centerWidget);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(0);
+
+    connectPanel();
+    m_showTimer.start();
+}
+
+scheduleControlUI::~scheduleControlUI() = default;
+
+void scheduleControlUI::connectPanel()
+{
+    PlanList* list = m_centerWidget->planList();
+    connect(m_centerWidget, &centerWidget::signalCancel, this, &scheduleControlUI::slotCancel,
+            Qt::DirectConnection);
+    connect(m_centerWidget, &centerWidget::signalSave, this, &scheduleControlUI::slotSave,
+            Qt::DirectConnection);
+    connect(m_centerWidget, &centerWidget::signalStart, this, &scheduleControlUI::slotStart,
+            Qt::DirectConnection);
+    connect(this, &scheduleControlUI::signalUpdatePlanList, list, &PlanList::refreshPlanList,
+            Qt::DirectConnection);
+    connect(this, &scheduleControlUI::sigclearPlanList, list, &PlanList::slotclearPlanList,
+            Qt::DirectConnection);
+}
+
+void scheduleControlUI::clearAndInitialize()
+{
+    emit sigclearPlanList();
+    scheduleManage::getInstance().resetUiTask();
+    emit signalUpdatePlanList();
+}
+
+void scheduleControlUI::loadLanguageFiles(const std::vector<QString>& files) const
+{
+    for (const QString& file : files) {
+        translator().load(file);
+    }
+    switchLanguage(QStringLiteral("zh_CN"));
+}
+
+void scheduleControlUI::switchLanguage(const QString& language) const
+{
+    translator().switchLanguage(language);
+}
+
+void scheduleControlUI::translate()
+{
+    setTitle(scheduleText("zhSchedulePlayStr"));
+    m_centerWidget->slotTranslation();
+}
+
+void scheduleControlUI::setCheckBoxImagePath(const QString& checkedPath,
+                                             const QString& uncheckedPath) const
+{
+    checkBoxImagePaths() = {checkedPath, uncheckedPath};
+}
+
+void scheduleControlUI::unsetScheduleManage() const {}
+
+void scheduleControlUI::slotCancel()
+{
+    close();
+}
+
+void scheduleControlUI::slotSave()
+{
+    scheduleManage::getInstance().save();
+    slotCancel();
+}
+
+void scheduleControlUI::slotStart() const
+{
+    scheduleManage::getInstance().save();
+    scheduleManage::getInstance().slotOpen();
+}
+
+bool scheduleControlUI::isLocked() const
+{
+    // A 32-bit count, as the hosts' own tick counts are: it wraps around after 24 days.
+    const auto elapsed = static_cast<qint32>(Clock::current().elapsed(m_showTimer));
+    return elapsed < kShowLockMSecs;
+}
+
+void scheduleControlUI::slotShow(bool bUpdatePlanList)
+{
+    if (isLocked()) {
+        return;
+    }
+    if (!isVisible()) {
+        show();
+        showNormal();
+        raise();
+        if (bUpdatePlanList) {
+            emit signalUpdatePlanList();
+        }
+    }
+    m_showTimer.restart();
+}
+
+void scheduleControlUI::slotShow()
+{
+    slotShow(true);
+}
+
+void scheduleControlUI::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        event->ignore();
+        return;
+    }
+    // Not the frame's own handler: its short cuts are not for the editor.
+    QDialog::keyPressEvent(event); // NOLINT(bugprone-parent-virtual-call)
+}
+
+} // namespace trel::mediadispatch

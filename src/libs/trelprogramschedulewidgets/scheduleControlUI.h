@@ -1,0 +1,91 @@
+#pragma once
+
+#include "trelwidgets/Dialog.h"
+
+#include <QElapsedTimer>
+#include <QMenu>
+
+#include <vector>
+
+class QKeyEvent;
+class QVBoxLayout;
+
+namespace trel::mediadispatch {
+
+class centerWidget;
+
+/// The schedule editor: the one window through which a host reaches it.
+///
+/// The window holds no schedule. It reads and writes the service behind scheduleManage, which must
+/// be usable before the window is built. The host keeps the object: closing hides it, and
+/// slotShow() shows it again. In order, and on the GUI thread, a host
+///
+/// 1. builds the window,
+/// 2. calls setCheckBoxImagePath(),
+/// 3. calls loadLanguageFiles() with every language file, which also selects "zh_CN",
+/// 4. calls switchLanguage() for another language,
+/// 5. calls translate(), now and after every switchLanguage() to come,
+/// 6. calls slotShow(), a second or more after the window was built,
+/// 7. calls clearAndInitialize() whenever the stored schedule was replaced from outside.
+class Q_DECL_EXPORT scheduleControlUI : public widgets::Dialog
+{
+    Q_OBJECT
+
+public:
+    explicit scheduleControlUI(QWidget* parent = nullptr);
+    ~scheduleControlUI() override;
+
+    /// Drops the cards and everything that was not saved, and reads the stored schedule.
+    void clearAndInitialize();
+    /// Loads language files, in order, and selects "zh_CN". A file that cannot be loaded is
+    /// skipped.
+    void loadLanguageFiles(const std::vector<QString>& files) const;
+    /// Selects the language of all texts that are fetched from now on. No text on screen changes
+    /// before translate().
+    void switchLanguage(const QString& language) const;
+    /// Fetches the title and the texts of the panel and of every card again.
+    void translate();
+    /// Where the images of a check mark lie. They hold for the cards and choosers that are built
+    /// after this call, in the whole process.
+    void setCheckBoxImagePath(const QString& checkedPath, const QString& uncheckedPath) const;
+    /// Has no effect. The service is never owned here, so there is nothing to let go of; hosts may
+    /// call it before they close their service.
+    void unsetScheduleManage() const;
+
+signals:
+    /// The list of cards is to be read again.
+    void signalUpdatePlanList();
+    /// The list of cards is to be emptied.
+    void sigclearPlanList();
+    /// For hosts that drive a language choice by index. Nothing in the window listens to it.
+    void signalTranslationByQz7(int);
+
+public slots:
+    /// Closes the window, which hides it. What was not saved goes with the next refresh.
+    void slotCancel();
+    /// Saves the schedule and closes the window.
+    void slotSave();
+    /// Saves the schedule and puts it into effect. The window stays.
+    void slotStart() const;
+    /// Shows a hidden window and reads the list again if asked to. Does nothing to a visible one,
+    /// and nothing at all less than a second after the window was built or the last call that was
+    /// accepted.
+    void slotShow(bool bUpdatePlanList);
+    /// Shows a hidden window and reads the list again.
+    void slotShow();
+
+protected:
+    /// Escape is left to whoever stands behind the window: it never closes a schedule in work.
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void connectPanel();
+    bool isLocked() const;
+
+    QMenu m_menu;
+    centerWidget* m_centerWidget = nullptr;
+    QVBoxLayout* m_layout = nullptr;
+    QElapsedTimer m_showTimer;
+};
+
+} // namespace trel::mediadispatch
