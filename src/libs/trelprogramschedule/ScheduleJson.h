@@ -10,7 +10,10 @@
 namespace trel::mediadispatch {
 
 /// The JSON form of a schedule: every field of every record, in a documented form
-/// (docs/schedule-json.md). Writing and reading back gives the same records.
+/// (docs/schedule-json.md), in UTF-8. Writing and reading back gives the same records, texts that
+/// are no UTF-8 included, and the same schedule always gives the same bytes. Each task stands in
+/// the map under its own id; a schedule that breaks this is written so that reading it back names
+/// the task.
 Q_DECL_EXPORT QByteArray scheduleToJson(const std::map<int, PlayTask>& tasks);
 
 /// A schedule read from JSON, or why it could not be read.
@@ -21,6 +24,8 @@ struct ScheduleFromJson
                    ///< "tasks[2].plans[0].startTime" or a line and column.
 };
 
+/// Reads all of a schedule or nothing: whatever the form does not know is an error, so that nothing
+/// is dropped without a word.
 Q_DECL_EXPORT ScheduleFromJson scheduleFromJson(const QByteArray& json);
 
 /// Writes the schedule to a file in one step: the file is replaced whole or left as it was.
