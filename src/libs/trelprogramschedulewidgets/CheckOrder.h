@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+
+#include <vector>
+
+namespace trel::mediadispatch {
+
+/// The text of a row number or of a place in the order of checking: two digits at least.
+QString formatRowNumber(int number);
+
+/// The order in which the rows of a table were checked: each checked row has a place, from 1, and
+/// the places close up when a row is unchecked.
+///
+/// Every operation answers as if it were carried out row by row from the top, and costs time in
+/// proportion to the rows it concerns. Checking a checked row moves it to the end and leaves its
+/// old place free; unchecking an unchecked row takes one off the count all the same, and moves
+/// every checked row up, to place 0 at the most.
+class CheckOrder
+{
+public:
+    /// The number given to the latest check. -1 and 0 both mean that no row is checked.
+    int count() const { return m_checkedCount; }
+    /// From checked row to its place.
+    const QMap<int, int>& places() const { return m_checkOrder; }
+    /// The checked rows by place.
+    std::vector<int> rows() const;
+
+    /// Gives the row the next place and returns that.
+    int check(int row);
+    /// Takes the row's place away. Returns the rows that have moved up by one for it.
+    std::vector<int> uncheck(int row);
+    /// Numbers the rows of a table of this size from the top, whatever was checked before.
+    void checkAll(int rowCount);
+    /// Unchecks each row of a table of this size, the unchecked ones too.
+    void clearAll(int rowCount);
+
+private:
+    int m_checkedCount = -1;
+    QMap<int, int> m_checkOrder;
+};
+
+} // namespace trel::mediadispatch

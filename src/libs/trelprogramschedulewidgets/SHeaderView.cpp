@@ -1,0 +1,89 @@
+#include "SHeaderView.h"
+
+#include "CheckBoxImages.h"
+#include "ScheduleText.h"
+
+#include <QColor>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+constexpr int kCheckSection = 0;
+constexpr int kLabelRaise = 4;      // The labels sit a little above the middle.
+constexpr int kSeparatorMargin = 8; // Free space above and below a separator.
+constexpr int kSeparatorWidth = 2;
+
+QString sectionLabel(int section)
+{
+    switch (section) {
+    case 1:
+        return scheduleText("zhCheckNumber");
+    case 2:
+        return scheduleText("szProgramLstStr");
+    case 3:
+        return scheduleText("zhPlayCounts");
+    default:
+        return QString();
+    }
+}
+
+} // namespace
+
+SHeaderView::SHeaderView(CheckType type, Qt::Orientation orientation, QWidget* parent)
+    : QHeaderView(orientation, parent)
+    , m_uncheckedPixmap(checkBoxImagePaths().unchecked)
+    , m_checkedPixmap(checkBoxImagePaths().checked)
+    , m_type(type)
+{}
+
+void SHeaderView::setChecked(bool checked)
+{
+    m_checked = checked;
+    updateSection(kCheckSection);
+}
+
+void SHeaderView::mousePressEvent(QMouseEvent* event)
+{
+    // The base does not see a press elsewhere: there is nothing to sort or to select by a header.
+    if (logicalIndexAt(event->pos()) != kCheckSection) {
+        return;
+    }
+    m_checked = !m_checked;
+    viewport()->update();
+    QHeaderView::mousePressEvent(event);
+    emit signalSelectAll(m_type, m_checked);
+}
+
+void SHeaderView::paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const
+{
+    painter->save();
+    QHeaderView::paintSection(painter, rect, logicalIndex);
+    painter->restore();
+
+    if (logicalIndex == kCheckSection) {
+        style()->drawItemPixmap(painter, rect, Qt::AlignCenter,
+                                m_checked ? m_checkedPixmap : m_uncheckedPixmap);
+    }
+
+    // With no role of the palette given, the pen is what colours the text.
+    painter->setPen(QColor(QStringLiteral("#B6B6B6")));
+    style()->drawItemText(painter, rect.adjusted(0, 0, 0, -kLabelRaise), Qt::AlignCenter, palette(),
+                          true, sectionLabel(logicalIndex), QPalette::NoRole);
+
+    if (logicalIndex < count() - 1) {
+        paintSeparator(painter, rect);
+    }
+}
+
+void SHeaderView::paintSeparator(QPainter* painter, const QRect& rect) const
+{
+    painter->setPen(QPen(QColor(QStringLiteral("#1AFFFFFF")), kSeparatorWidth));
+    painter->drawLine(rect.right(), rect.top() + kSeparatorMargin, rect.right(),
+                      rect.bottom() - kSeparatorMargin);
+}
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+
+#include <QHeaderView>
+#include <QPixmap>
+
+namespace trel::mediadispatch {
+
+/// The header of a chooser table: a check mark for the whole table in section 0, labels in the
+/// others, a thin separator between any two.
+///
+/// The images of the mark are taken when the header is built, and painted at the size of their
+/// files. The labels are fetched on every paint, so that a change of language needs a repaint only.
+class SHeaderView : public QHeaderView
+{
+    Q_OBJECT
+
+public:
+    SHeaderView(CheckType type, Qt::Orientation orientation, QWidget* parent = nullptr);
+
+    /// Sets the mark, to keep it in step with the marks of the rows. Emits nothing.
+    void setChecked(bool checked);
+
+signals:
+    /// The operator has pressed the mark; ischeck is its new state.
+    void signalSelectAll(CheckType type, bool ischeck);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
+
+private:
+    void paintSeparator(QPainter* painter, const QRect& rect) const;
+
+    QPixmap m_uncheckedPixmap;
+    QPixmap m_checkedPixmap;
+    bool m_checked = false;
+    CheckType m_type;
+};
+
+} // namespace trel::mediadispatch
