@@ -6,8 +6,7 @@ namespace trel::widgets {
 
 ComboBox::ComboBox(QWidget* parent)
     : QComboBox(parent)
-{
-}
+{}
 
 void ComboBox::wheelEvent(QWheelEvent* event)
 {

@@ -1,30 +1,117 @@
 #include "trelwidgets/Dialog.h"
 
-#include <QVBoxLayout>
+#include "FrameTitle.h"
+#include "WindowFrame.h"
+
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScreen>
+
+#include <optional>
 
 namespace trel::widgets {
+
+namespace {
+
+struct ScaleSwitch
+{
+    QSize compact;
+    QSize expanded;
+    bool isExpanded = false;
+};
+
+bool isReturn(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+/// A cell editor hands in its value when it loses the focus.
+void commitOpenEditor(QWidget* window)
+{
+    const QPointer<QWidget> focused = window->focusWidget();
+    if (!focused) {
+        return;
+    }
+    focused->clearFocus();
+    if (focused && focused->isVisible()) {
+        focused->setFocus();
+    }
+}
+
+void resizeOnScreen(QWidget* window, const QSize& wanted)
+{
+    const QRect area = window->screen()->availableGeometry();
+    const QSize size = wanted.boundedTo(area.size());
+    if (window->minimumSize() == window->maximumSize()) {
+        window->setFixedSize(size);
+    } else {
+        window->resize(size);
+    }
+    if (!window->isVisible()) {
+        return;
+    }
+    QRect placed(window->pos(), size);
+    placed.moveBottom(qMin(placed.bottom(), area.bottom()));
+    placed.moveRight(qMin(placed.right(), area.right()));
+    placed.moveTop(qMax(placed.top(), area.top()));
+    placed.moveLeft(qMax(placed.left(), area.left()));
+    window->move(placed.topLeft());
+}
+
+/// The window that the whole chain of dialogs stands on.
+QWidget* bottomWindow(QWidget* window)
+{
+    while (window->parentWidget()) {
+        window = window->parentWidget()->window();
+    }
+    return window;
+}
+
+} // namespace
 
 class Dialog::Private
 {
 public:
-    QWidget* client = nullptr;
+    explicit Private(Dialog* dialog)
+        : q(dialog)
+        , frame(new WindowFrame(dialog))
+    {}
+
+    void switchScale()
+    {
+        if (scale) {
+            setExpanded(!scale->isExpanded);
+        }
+    }
+
+    void setExpanded(bool expanded)
+    {
+        scale->isExpanded = expanded;
+        frame->title()->setExpanded(expanded);
+        resizeOnScreen(q, expanded ? scale->expanded : scale->compact);
+    }
+
+    Dialog* q;
+    WindowFrame* frame;
+    std::optional<ScaleSwitch> scale;
 };
 
 Dialog::Dialog(QWidget* parent)
-    : QDialog(parent)
-    , d(std::make_unique<Private>())
+    : QDialog(parent, WindowFrame::windowFlags())
+    , d(std::make_unique<Private>(this))
 {
-    d->client = new QWidget(this);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(d->client);
+    FrameTitle* title = d->frame->title();
+    connect(title, &FrameTitle::minimiseClicked, this,
+            [this] { bottomWindow(this)->showMinimized(); });
+    connect(title, &FrameTitle::scaleClicked, this, [this] { d->switchScale(); });
+    connect(title, &FrameTitle::doubleClicked, this, [this] { d->switchScale(); });
 }
 
 Dialog::~Dialog() = default;
 
 QWidget* Dialog::dialogWidget() const
 {
-    return d->client;
+    return d->frame->client();
 }
 
 void Dialog::setTitle(const QString& title)
@@ -32,9 +119,25 @@ void Dialog::setTitle(const QString& title)
     setWindowTitle(title);
 }
 
-void Dialog::setScaleSwitch(const QSize& compact, const QSize&)
+void Dialog::setScaleSwitch(const QSize& compact, const QSize& expanded)
 {
-    resize(compact);
+    d->scale = ScaleSwitch{compact, expanded};
+    d->frame->title()->setScaleVisible(true);
+    d->setExpanded(false);
+}
+
+void Dialog::keyPressEvent(QKeyEvent* event)
+{
+    if (!isReturn(*event)) {
+        QDialog::keyPressEvent(event);
+        return;
+    }
+    const bool accepts = (event->modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier;
+    event->setAccepted(accepts);
+    if (accepts && !event->isAutoRepeat()) {
+        commitOpenEditor(this);
+        emit signalAccept();
+    }
 }
 
 } // namespace trel::widgets

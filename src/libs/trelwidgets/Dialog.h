@@ -9,7 +9,20 @@ namespace trel::widgets {
 
 /// A window frame: a title bar of its own, by which the window moves, over a client area.
 ///
-/// Put the content into dialogWidget(), with a layout of your own on it.
+/// Put the content into dialogWidget(), with a layout of your own on it. The title bar has a
+/// button to minimise and one to close, which ends the dialog as Escape does, with reject().
+/// Closing hides the dialog; it can be shown again. A dialog over another window is minimised
+/// together with that window, as nothing would lead back to it alone.
+///
+/// Keys that the content leaves over: Escape rejects; Control with Return or Enter emits
+/// signalAccept(); Return and Enter alone do nothing, so that no button of the content is pressed
+/// from elsewhere.
+///
+/// Style hooks, by object name: "dialogFrame" (the border), "dialogTitle" with the property
+/// "style" = "BG4" (the title bar), in it "TitleLabel" and the buttons "ButtonMin", "ButtonScale"
+/// and "ButtonClose", and "dialogCenter" (the client area). The buttons carry the property
+/// "imageBtn": "minimise"; "maximise" or "restore", as the window is compact or expanded; "close".
+/// A style sheet replaces their signs with `icon`.
 class Q_DECL_EXPORT Dialog : public QDialog
 {
     Q_OBJECT
@@ -21,17 +34,23 @@ public:
     /// The client area, owned by the dialog.
     QWidget* dialogWidget() const;
 
-    /// Sets the text of the title bar and the title that the window manager shows.
+    /// Sets the text of the title bar, which is cut with dots where it has no room, and the title
+    /// that the window manager shows.
     void setTitle(const QString& title);
 
-    /// Gives the window two sizes, between which a button of the title bar and a double click on
-    /// the title switch. The window takes the compact size at once. Without a call there is no
-    /// such button.
+    /// Gives the window two sizes, title bar included, between which a button of the title bar and
+    /// a double click on the title switch. The window takes the compact size at once. A window of
+    /// fixed size is fixed at the other size then. It never gets larger than its screen, and is
+    /// moved back onto it. Without a call there is no such button.
     void setScaleSwitch(const QSize& compact, const QSize& expanded);
 
 signals:
-    /// The operator has accepted the dialog from the keyboard, with Ctrl and Return.
+    /// The operator has accepted the dialog from the keyboard, with Control and Return. A cell
+    /// editor that was open has handed in its value before. The dialog does not close by itself.
     void signalAccept();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     class Private;

@@ -1,36 +1,180 @@
 #include "trelwidgets/TipDialog.h"
 
+#include "FrameTitle.h"
+#include "WindowFrame.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
+#include <QVariant>
+#include <QWindow>
 
 #include <array>
 
 namespace trel::widgets {
 
+namespace {
+
+constexpr std::size_t kButtonCount = 3;
+constexpr int kMinimumTextWidth = 220;
+constexpr int kMaximumTextWidth = 420;
+
+/// The window that an answer is wanted for; none when the application shows no window.
+QWidget* windowBelow(const QWidget& prompt)
+{
+    if (prompt.parentWidget()) {
+        return prompt.parentWidget()->window();
+    }
+    QWidget* modal = QApplication::activeModalWidget();
+    return modal ? modal : QApplication::activeWindow();
+}
+
+bool isHeldDown(QEvent* event)
+{
+    return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat();
+}
+
+} // namespace
+
 class TipDialog::Private
 {
 public:
-    QLabel* text = nullptr;
-    std::array<QPushButton*, 3> buttons{};
-    int pressed = 0;
+    Private(TipDialog* dialog, int tipType)
+        : q(dialog)
+        , type(tipType == Confirmation ? Confirmation : Notice)
+        , frame(new WindowFrame(dialog))
+        , icon(new QLabel(frame->client()))
+        , text(new QLabel(frame->client()))
+    {
+        frame->title()->setMinimiseVisible(false);
+        icon->setObjectName(QStringLiteral("dialogTipIcon"));
+        icon->setProperty("labelImage", type == Confirmation ? QStringLiteral("question")
+                                                             : QStringLiteral("notice"));
+        text->setObjectName(QStringLiteral("dialogTipLabel"));
+        text->setTextFormat(Qt::PlainText);
+        text->setWordWrap(true);
+        text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        for (std::size_t i = 0; i < kButtonCount; ++i) {
+            buttons[i] = makeButton(static_cast<int>(i) + 1);
+        }
+        layOut();
+    }
+
+    void showIcon()
+    {
+        const QStyle::StandardPixmap image =
+            type == Confirmation ? QStyle::SP_MessageBoxQuestion : QStyle::SP_MessageBoxWarning;
+        const int side = q->style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, q);
+        icon->setPixmap(q->style()
+                            ->standardIcon(image, nullptr, q)
+                            .pixmap(q->windowHandle(), QSize(side, side)));
+    }
+
+    /// Wide enough for a short text on one line; a long one gets as many lines as it takes.
+    void fitText()
+    {
+        text->ensurePolished();
+        const QString words = text->text();
+        const int oneLine =
+            text->fontMetrics().boundingRect(QRect(), int(Qt::TextExpandTabs), words).width();
+        const int longestWord = text->minimumSizeHint().width();
+        const int width =
+            qMax(longestWord, qBound(kMinimumTextWidth, oneLine + 2, kMaximumTextWidth));
+        text->setFixedSize(width, qMax(text->heightForWidth(width), icon->sizeHint().height()));
+    }
+
+    void chooseDefault()
+    {
+        for (QPushButton* button : buttons) {
+            if (!button->isHidden()) {
+                button->setDefault(true);
+                button->setFocus();
+                return;
+            }
+        }
+    }
+
+    void placeOver(QWidget* below)
+    {
+        q->layout()->activate();
+        const QScreen* screen = below ? below->screen() : q->screen();
+        const QRect area = screen->availableGeometry();
+        QRect placed(QPoint(), q->size());
+        placed.moveCenter(below ? below->frameGeometry().center() : area.center());
+        placed.moveBottom(qMin(placed.bottom(), area.bottom()));
+        placed.moveRight(qMin(placed.right(), area.right()));
+        placed.moveTop(qMax(placed.top(), area.top()));
+        placed.moveLeft(qMax(placed.left(), area.left()));
+        q->move(placed.topLeft());
+    }
+
+    void takeTitleFrom(const QWidget* below)
+    {
+        if (q->windowTitle().isEmpty()) {
+            const QString title = below ? below->windowTitle() : QString();
+            q->setWindowTitle(title.isEmpty() ? QGuiApplication::applicationDisplayName() : title);
+        }
+    }
+
+    TipDialog* q;
+    TipType type;
+    WindowFrame* frame;
+    QLabel* icon;
+    QLabel* text;
+    std::array<QPushButton*, kButtonCount> buttons{};
+    /// Shared with run(), which needs it when the dialog has died in the meantime.
+    std::shared_ptr<int> pressed = std::make_shared<int>(0);
+
+private:
+    QPushButton* makeButton(int number)
+    {
+        auto* button = new QPushButton(frame->client());
+        button->setObjectName(QStringLiteral("tipButton%1").arg(number));
+        button->setProperty("style",
+                            number == 1 ? QStringLiteral("general") : QStringLiteral("assist"));
+        button->hide();
+        button->installEventFilter(q);
+        QObject::connect(button, &QPushButton::clicked, q, [this, number] {
+            *pressed = number;
+            q->accept();
+        });
+        return button;
+    }
+
+    void layOut()
+    {
+        auto* message = new QHBoxLayout;
+        message->setSpacing(14);
+        message->addWidget(icon, 0, Qt::AlignTop);
+        message->addWidget(text, 1);
+
+        auto* row = new QHBoxLayout;
+        row->setSpacing(8);
+        row->addStretch();
+        for (QPushButton* button : buttons) {
+            row->addWidget(button);
+        }
+
+        auto* layout = new QVBoxLayout(frame->client());
+        layout->setContentsMargins(18, 16, 18, 14);
+        layout->setSpacing(18);
+        layout->addLayout(message, 1);
+        layout->addLayout(row);
+        q->layout()->setSizeConstraint(QLayout::SetFixedSize);
+    }
 };
 
-TipDialog::TipDialog(int, QWidget* parent)
-    : QDialog(parent)
-    , d(std::make_unique<Private>())
+TipDialog::TipDialog(int tipType, QWidget* parent)
+    : QDialog(parent, WindowFrame::windowFlags() & ~Qt::WindowMinimizeButtonHint)
+    , d(std::make_unique<Private>(this, tipType))
 {
-    auto* layout = new QVBoxLayout(this);
-    d->text = new QLabel(this);
-    layout->addWidget(d->text);
-    for (std::size_t i = 0; i < d->buttons.size(); ++i) {
-        d->buttons[i] = new QPushButton(this);
-        layout->addWidget(d->buttons[i]);
-        connect(d->buttons[i], &QPushButton::clicked, this, [this, i] {
-            d->pressed = static_cast<int>(i) + 1;
-            accept();
-        });
-    }
+    setWindowModality(Qt::ApplicationModal);
 }
 
 TipDialog::~TipDialog() = default;
@@ -38,11 +182,12 @@ TipDialog::~TipDialog() = default;
 void TipDialog::setTipText(const QString& text)
 {
     d->text->setText(text);
+    d->fitText();
 }
 
 void TipDialog::setBtnText(const QString& first, const QString& second, const QString& third)
 {
-    const std::array<QString, 3> texts{first, second, third};
+    const std::array<QString, kButtonCount> texts{first, second, third};
     for (std::size_t i = 0; i < texts.size(); ++i) {
         d->buttons[i]->setText(texts[i]);
         d->buttons[i]->setVisible(!texts[i].isEmpty());
@@ -51,9 +196,36 @@ void TipDialog::setBtnText(const QString& first, const QString& second, const QS
 
 PromptBoxTriggerInfo TipDialog::run()
 {
+    const QPointer<TipDialog> self(this);
+    const std::shared_ptr<int> pressed = d->pressed;
+    QWidget* below = windowBelow(*this);
+    d->takeTitleFrom(below);
+    d->showIcon();
+    d->fitText();
+    d->chooseDefault();
+    d->placeOver(below);
+    if (below && !parentWidget()) {
+        // A window manager keeps the prompt above the window that it belongs to.
+        winId();
+        windowHandle()->setTransientParent(below->windowHandle());
+    }
     exec();
-    deleteLater();
-    return {d->pressed};
+    delete self.data();
+    return {*pressed};
+}
+
+void TipDialog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange) {
+        d->showIcon();
+        d->fitText();
+    }
+}
+
+bool TipDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    return isHeldDown(event) || QDialog::eventFilter(watched, event);
 }
 
 } // namespace trel::widgets

@@ -12,11 +12,20 @@ struct PromptBoxTriggerInfo
     int button = 0; ///< 1, 2 or 3 for the buttons in order; 0 for any other way out.
 };
 
-/// A prompt with a text and up to three buttons.
+/// A prompt with a text and up to three buttons, modal to the application.
 ///
-/// Made on the heap, run once, and gone afterwards: run() frees the dialog before control returns
-/// to the event loop of the caller. Return and Enter press the first button; Escape and the close
-/// control answer with none.
+/// Made on the heap, run once, and gone afterwards: run() frees the dialog before it returns.
+/// Return and Enter press the first button, or the one that the operator has reached with Tab.
+/// Escape and the close control answer with none. A key that was already held down when the prompt
+/// appeared answers nothing.
+///
+/// Without a parent it stands over the window that is active when it runs. It takes that window's
+/// title, or the name of the application, unless it was given a title of its own.
+///
+/// Style hooks beside those of Dialog, by object name: "dialogTipIcon" with the property
+/// "labelImage" = "notice" or "question", "dialogTipLabel", and the buttons "tipButton1",
+/// "tipButton2" and "tipButton3", of which the first has the property "style" = "general" and the
+/// others "assist".
 class Q_DECL_EXPORT TipDialog : public QDialog
 {
     Q_OBJECT
@@ -31,11 +40,17 @@ public:
     explicit TipDialog(int tipType, QWidget* parent = nullptr);
     ~TipDialog() override;
 
+    /// Plain text; long lines are wrapped.
     void setTipText(const QString& text);
     /// The texts of the buttons, in order; a button with an empty text is not shown.
     void setBtnText(const QString& first, const QString& second, const QString& third);
-    /// Shows the prompt and blocks until it is answered.
+    /// Shows the prompt, blocks until it is answered and deletes it. The prompt may also die while
+    /// it runs, with its parent, and then counts as not answered.
     PromptBoxTriggerInfo run();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     class Private;

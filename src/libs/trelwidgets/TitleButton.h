@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QPushButton>
+
+namespace trel::widgets {
+
+/// A button of a window's title bar. It never takes the focus and is never pressed by Return.
+///
+/// Its sign is drawn in the colour that the palette gives to button texts, so it stays legible
+/// under every theme; a style sheet may give another one with `icon`.
+class TitleButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    enum Sign { Minimise, Expand, Restore, Close };
+
+    TitleButton(Sign sign, const QString& objectName, QWidget* parent);
+
+    /// Changes what the button shows, and its property "imageBtn" with it.
+    void setSign(Sign sign);
+    Sign sign() const { return m_sign; }
+
+    QSize sizeHint() const override;
+
+private:
+    Sign m_sign;
+};
+
+} // namespace trel::widgets
