@@ -36,8 +36,9 @@ FrameTitle::FrameTitle(QWidget* parent)
     m_scale->hide();
 
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(10, 2, 2, 2);
+    layout->setContentsMargins(2, 2, 2, 2);
     layout->setSpacing(2);
+    layout->addSpacing(6);
     layout->addWidget(m_title, 1);
     for (TitleButton* button : {m_minimise, m_scale, m_close}) {
         layout->addWidget(button);

@@ -2,9 +2,26 @@
 
 #include "FrameTitle.h"
 
+#include <QStyleOptionFrame>
+#include <QStylePainter>
 #include <QVBoxLayout>
 
 namespace trel::widgets {
+
+namespace {
+
+/// Between background and text, so that the border stands out on light and on dark windows, and
+/// also where one window lies over another of the same colour.
+QColor borderColor(const QPalette& palette)
+{
+    const QColor ground = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
+    const auto mix = [](int first, int second) { return (first * 3 + second * 2) / 5; };
+    return QColor(mix(ground.red(), text.red()), mix(ground.green(), text.green()),
+                  mix(ground.blue(), text.blue()));
+}
+
+} // namespace
 
 Qt::WindowFlags WindowFrame::windowFlags()
 {
@@ -18,7 +35,7 @@ WindowFrame::WindowFrame(QDialog* dialog)
     , m_client(new QWidget(this))
 {
     setObjectName(QStringLiteral("dialogFrame"));
-    setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
     m_client->setObjectName(QStringLiteral("dialogCenter"));
 
     auto* inner = new QVBoxLayout(this);
@@ -33,6 +50,15 @@ WindowFrame::WindowFrame(QDialog* dialog)
 
     connect(dialog, &QWidget::windowTitleChanged, m_title, &FrameTitle::setTitle);
     connect(m_title, &FrameTitle::closeClicked, dialog, &QWidget::close);
+}
+
+void WindowFrame::paintEvent(QPaintEvent*)
+{
+    QStylePainter painter(this);
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    option.palette.setColor(QPalette::WindowText, borderColor(palette()));
+    painter.drawControl(QStyle::CE_ShapedFrame, option);
 }
 
 } // namespace trel::widgets

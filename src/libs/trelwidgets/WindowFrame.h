@@ -25,6 +25,9 @@ public:
     FrameTitle* title() const { return m_title; }
     QWidget* client() const { return m_client; }
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     FrameTitle* m_title;
     QWidget* m_client;
