@@ -4,6 +4,7 @@
 #include "PlanList.h"
 #include "ProgramSheduleWidgetTranslateManager.h"
 #include "ScheduleText.h"
+#include "TitleBar.h"
 #include "centerWidget.h"
 #include "service/Clock.h"
 #include "service/scheduleManage.h"
@@ -38,15 +39,20 @@ scheduleControlUI::scheduleControlUI(QWidget* parent)
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
 
-    connectPanel();
+    connectAll();
     m_showTimer.start();
 }
 
 scheduleControlUI::~scheduleControlUI() = default;
 
-void scheduleControlUI::connectPanel()
+void scheduleControlUI::connectAll()
 {
     PlanList* list = m_centerWidget->planList();
+    // The first and the last connection wait for a title bar. Without one the toolkit refuses both
+    // with a line on the debug stream, which tells whoever embeds the window that its language
+    // index goes nowhere.
+    connect(m_titleBar, &TitleBar::signalButtonCloseClicked, this, &scheduleControlUI::slotCancel,
+            Qt::DirectConnection);
     connect(m_centerWidget, &centerWidget::signalCancel, this, &scheduleControlUI::slotCancel,
             Qt::DirectConnection);
     connect(m_centerWidget, &centerWidget::signalSave, this, &scheduleControlUI::slotSave,
@@ -57,6 +63,8 @@ void scheduleControlUI::connectPanel()
             Qt::DirectConnection);
     connect(this, &scheduleControlUI::sigclearPlanList, list, &PlanList::slotclearPlanList,
             Qt::DirectConnection);
+    connect(this, &scheduleControlUI::signalTranslationByQz7, m_titleBar,
+            &TitleBar::setLanguageIndex, Qt::DirectConnection);
 }
 
 void scheduleControlUI::clearAndInitialize()
@@ -112,7 +120,7 @@ void scheduleControlUI::slotStart() const
 
 bool scheduleControlUI::isLocked() const
 {
-    // A 32-bit count, as the hosts' own tick counts are: it wraps around after 24 days.
+    // Kept in 32 bits, so that the count wraps around after 24 days.
     const auto elapsed = static_cast<qint32>(Clock::current().elapsed(m_showTimer));
     return elapsed < kShowLockMSecs;
 }

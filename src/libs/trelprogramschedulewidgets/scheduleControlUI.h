@@ -12,6 +12,7 @@ class QVBoxLayout;
 
 namespace trel::mediadispatch {
 
+class TitleBar;
 class centerWidget;
 
 /// The schedule editor: the one window through which a host reaches it.
@@ -79,10 +80,12 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void connectPanel();
+    void connectAll();
     bool isLocked() const;
 
     QMenu m_menu;
+    // The frame brings the title bar of the window; this place for another stays empty.
+    TitleBar* m_titleBar = nullptr;
     centerWidget* m_centerWidget = nullptr;
     QVBoxLayout* m_layout = nullptr;
     QElapsedTimer m_showTimer;
