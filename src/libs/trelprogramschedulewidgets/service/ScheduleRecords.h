@@ -14,9 +14,9 @@
 namespace trel::mediadispatch {
 
 /// Format of every time of day in a record and on screen: 24 hours, always eight characters.
-inline constexpr QLatin1String kTimeFormat("hh:mm:ss");
+inline constexpr QLatin1String kTimeFormat("hh:mm:ss", 8);
 /// Format of every date in a record and on screen: always ten characters.
-inline constexpr QLatin1String kDateFormat("yyyy.MM.dd");
+inline constexpr QLatin1String kDateFormat("yyyy.MM.dd", 10);
 
 /// The earliest time of day.
 inline constexpr char kDayStart[] = "00:00:00";
@@ -82,10 +82,10 @@ enum class ProgramKind {
 /// A program of the catalogue, as the service hands it out.
 struct ProgramIten
 {
-    int progIndex = -1;   ///< Its number in the catalogue, the reference that everything else takes.
-    std::string progName; ///< UTF-8, as it is shown.
-    std::string mediaPath;           ///< UTF-8: absolute path of the file, or address of a live source.
-    double durationMs = 0.0;         ///< One play, in milliseconds; negative when it is not known.
+    int progIndex = -1; ///< Its number in the catalogue, the reference that everything else takes.
+    std::string progName;    ///< UTF-8, as it is shown.
+    std::string mediaPath;   ///< UTF-8: absolute path of the file, or address of a live source.
+    double durationMs = 0.0; ///< One play, in milliseconds; negative when it is not known.
     ProgramKind kind = ProgramKind::Other;
     bool isNull = false; ///< True when nothing stands behind the index any more.
 };
@@ -102,21 +102,21 @@ struct struProgInfo
 /// When, on which days and how often a list of programs plays.
 struct PlayPlan
 {
-    int mode = TimeMode;                    ///< A PlanMode.
-    int id = 0;                             ///< Within the task; -1 while none has been given.
-    std::string startTime;                  ///< kTimeFormat.
-    std::string endTime;                    ///< kTimeFormat.
-    int times = 0;                          ///< Runs of the whole list in FrequencyMode.
-    std::int32_t serviceCount = 0;          ///< Carried for the service.
-    int endAction = BlackScreen;            ///< A PlanEndAction.
-    std::vector<std::int64_t> serviceList;  ///< Carried for the service.
-    std::vector<struProgInfo> programs;     ///< In playing order.
-    bool isConflict = false;                ///< Collides with an earlier plan of the same task.
-    std::string weeks;                      ///< Day numbers joined by commas; empty means every day.
-    std::string serviceTime;                ///< Carried for the service.
-    bool hasNoDuration = false;             ///< At least one program has no length of its own.
-    bool serviceFlagA = false;              ///< Carried for the service.
-    bool serviceFlagB = false;              ///< Carried for the service.
+    int mode = TimeMode;                   ///< A PlanMode.
+    int id = 0;                            ///< Within the task; -1 while none has been given.
+    std::string startTime;                 ///< kTimeFormat.
+    std::string endTime;                   ///< kTimeFormat.
+    int times = 0;                         ///< Runs of the whole list in FrequencyMode.
+    std::int32_t serviceCount = 0;         ///< Carried for the service.
+    int endAction = BlackScreen;           ///< A PlanEndAction.
+    std::vector<std::int64_t> serviceList; ///< Carried for the service.
+    std::vector<struProgInfo> programs;    ///< In playing order.
+    bool isConflict = false;               ///< Collides with an earlier plan of the same task.
+    std::string weeks;                     ///< Day numbers joined by commas; empty means every day.
+    std::string serviceTime;               ///< Carried for the service.
+    bool hasNoDuration = false;            ///< At least one program has no length of its own.
+    bool serviceFlagA = false;             ///< Carried for the service.
+    bool serviceFlagB = false;             ///< Carried for the service.
 };
 
 /// A period of validity with its plans, in the order of their rows.
@@ -134,7 +134,10 @@ inline bool operator==(const struProgInfo& a, const struProgInfo& b)
            std::tie(b.progIndex, b.isInvalid, b.progName, b.playCount);
 }
 
-inline bool operator!=(const struProgInfo& a, const struProgInfo& b) { return !(a == b); }
+inline bool operator!=(const struProgInfo& a, const struProgInfo& b)
+{
+    return !(a == b);
+}
 
 inline bool operator==(const PlayPlan& a, const PlayPlan& b)
 {
@@ -146,7 +149,10 @@ inline bool operator==(const PlayPlan& a, const PlayPlan& b)
                     b.hasNoDuration, b.serviceFlagA, b.serviceFlagB);
 }
 
-inline bool operator!=(const PlayPlan& a, const PlayPlan& b) { return !(a == b); }
+inline bool operator!=(const PlayPlan& a, const PlayPlan& b)
+{
+    return !(a == b);
+}
 
 inline bool operator==(const PlayTask& a, const PlayTask& b)
 {
@@ -154,7 +160,10 @@ inline bool operator==(const PlayTask& a, const PlayTask& b)
            std::tie(b.id, b.startDate, b.endDate, b.plans);
 }
 
-inline bool operator!=(const PlayTask& a, const PlayTask& b) { return !(a == b); }
+inline bool operator!=(const PlayTask& a, const PlayTask& b)
+{
+    return !(a == b);
+}
 
 } // namespace trel::mediadispatch
 
