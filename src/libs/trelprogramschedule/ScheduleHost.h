@@ -18,6 +18,7 @@ enum class StoreProblem {
     None,
     NotOpen,       ///< No store is open.
     FolderMissing, ///< The folder of the file does not exist.
+    FileMissing,   ///< There is no file, and none may be made.
     NotADatabase,  ///< The file is no SQLite database.
     Foreign,       ///< A database of another program.
     NewerSchema,   ///< Written by a newer version of this program.
@@ -25,8 +26,8 @@ enum class StoreProblem {
     ReadOnly,      ///< The file, or its folder, cannot be written.
     Damaged,       ///< The database fails its check.
     DiskFull,
-    MovedOn,       ///< The stored set changed since it was read.
-    Full,          ///< No index is left to give out.
+    MovedOn, ///< The stored set changed since it was read.
+    Full,    ///< No index is left to give out.
     Other
 };
 

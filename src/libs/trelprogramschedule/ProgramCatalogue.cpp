@@ -1,0 +1,113 @@
+#include "ProgramCatalogue.h"
+
+#include <QFileInfo>
+#include <QString>
+
+#include <tuple>
+#include <utility>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+auto lengthOf(const ProgramIten& program)
+{
+    return std::tie(program.durationMs, program.kind);
+}
+
+auto shownOf(const ProgramIten& program)
+{
+    return std::tie(program.progName, program.mediaPath, program.isNull);
+}
+
+bool isThere(const ProgramIten& program)
+{
+    return program.kind == ProgramKind::Live ||
+           QFileInfo(QString::fromStdString(program.mediaPath)).isFile();
+}
+
+} // namespace
+
+void ProgramCatalogue::assign(ProgramMap programs, std::map<int, std::string> removedNames)
+{
+    m_programs = std::move(programs);
+    m_removedNames = std::move(removedNames);
+}
+
+void ProgramCatalogue::clear()
+{
+    m_programs.clear();
+    m_removedNames.clear();
+}
+
+ProgramIten ProgramCatalogue::program(int progIndex) const
+{
+    const auto found = m_programs.find(progIndex);
+    if (found != m_programs.end()) {
+        return found->second;
+    }
+    ProgramIten missing;
+    missing.progIndex = progIndex;
+    missing.progName = name(progIndex);
+    missing.isNull = true;
+    return missing;
+}
+
+std::string ProgramCatalogue::name(int progIndex) const
+{
+    const auto found = m_programs.find(progIndex);
+    if (found != m_programs.end()) {
+        return found->second.progName;
+    }
+    const auto removed = m_removedNames.find(progIndex);
+    return removed == m_removedNames.end() ? std::string() : removed->second;
+}
+
+double ProgramCatalogue::duration(int progIndex) const
+{
+    const auto found = m_programs.find(progIndex);
+    return found == m_programs.end() ? 0.0 : found->second.durationMs;
+}
+
+bool ProgramCatalogue::hasNoDuration(int progIndex) const
+{
+    const auto found = m_programs.find(progIndex);
+    return found != m_programs.end() &&
+           (found->second.kind == ProgramKind::Image || found->second.kind == ProgramKind::Live);
+}
+
+bool ProgramCatalogue::checkFiles()
+{
+    bool changed = false;
+    for (auto& [index, program] : m_programs) {
+        const bool isNull = !isThere(program);
+        changed = changed || isNull != program.isNull;
+        program.isNull = isNull;
+    }
+    return changed;
+}
+
+CatalogueChange catalogueChange(const ProgramMap& before, const ProgramMap& after)
+{
+    CatalogueChange change;
+    const auto lost = [&change] { change.any = change.lengths = true; };
+    auto former = before.begin();
+    for (const auto& [index, program] : after) {
+        for (; former != before.end() && former->first < index; ++former) {
+            lost();
+        }
+        if (former == before.end() || former->first != index) {
+            change.any = true; // No plan can have referred to a program that is new.
+            continue;
+        }
+        change.lengths = change.lengths || lengthOf(former->second) != lengthOf(program);
+        change.any = change.any || change.lengths || shownOf(former->second) != shownOf(program);
+        ++former;
+    }
+    if (former != before.end()) {
+        lost();
+    }
+    return change;
+}
+
+} // namespace trel::mediadispatch

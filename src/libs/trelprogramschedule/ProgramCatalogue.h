@@ -1,0 +1,49 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+
+#include <map>
+#include <string>
+
+namespace trel::mediadispatch {
+
+using ProgramMap = std::map<int, ProgramIten>;
+
+/// The programs, by index, with the names of those that have been taken out.
+class ProgramCatalogue
+{
+public:
+    const ProgramMap& programs() const { return m_programs; }
+
+    /// Replaces everything. Which files are there is not looked at; see checkFiles.
+    void assign(ProgramMap programs, std::map<int, std::string> removedNames);
+    void clear();
+
+    bool contains(int progIndex) const { return m_programs.count(progIndex) > 0; }
+    /// A record with isNull set for a program that was taken out or never was.
+    ProgramIten program(int progIndex) const;
+    /// Also of a program that was taken out; empty when there never was one.
+    std::string name(int progIndex) const;
+    /// In milliseconds; 0 for a program that was taken out or never was.
+    double duration(int progIndex) const;
+    bool hasNoDuration(int progIndex) const;
+
+    /// Makes the programs null whose files are not there, and only those. Live sources are always
+    /// there. True when a program came or went.
+    bool checkFiles();
+
+private:
+    ProgramMap m_programs;
+    std::map<int, std::string> m_removedNames;
+};
+
+/// How two states of a catalogue differ.
+struct CatalogueChange
+{
+    bool any = false;
+    bool lengths = false; ///< What a plan's length is worked out from.
+};
+
+CatalogueChange catalogueChange(const ProgramMap& before, const ProgramMap& after);
+
+} // namespace trel::mediadispatch

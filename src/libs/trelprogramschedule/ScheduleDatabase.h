@@ -1,0 +1,89 @@
+#pragma once
+
+#include "ProgramCatalogue.h"
+#include "ScheduleHost.h"
+#include "StoreFile.h"
+#include "TaskSets.h"
+
+#include <QString>
+#include <QtGlobal>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace trel::mediadispatch {
+
+class StoreConnection;
+struct MediaSource;
+
+/// Which state of the store somebody has read. Every change of the schedule counts the first
+/// number up by one, every change of the catalogue the second.
+struct StoreRevision
+{
+    qint64 schedule = 0;
+    qint64 catalogue = 0;
+};
+
+/// What a store holds.
+struct StoreContents
+{
+    StoreRevision revision;
+    TaskMap tasks;
+    ProgramMap programs;
+    std::map<int, std::string> removedNames; ///< Of programs that were taken out, by index.
+};
+
+/// Which parts to read.
+enum class StorePart {
+    Schedule,
+    Catalogue,
+    Both,
+};
+
+/// The store on disk: the one class that speaks to the database.
+///
+/// Every change is one transaction, synchronised to the disk before the call returns. A call that
+/// fails leaves the file as it was and the object usable. One connection, which lives from open to
+/// close; an object belongs to one thread, and needs a QCoreApplication.
+class ScheduleDatabase
+{
+public:
+    ScheduleDatabase();
+    ~ScheduleDatabase();
+    Q_DISABLE_COPY(ScheduleDatabase)
+
+    /// See ScheduleHost::open. A file that is refused stays as it is, to the byte, and nothing is
+    /// left beside it. No file of the process may be open on the same path.
+    StoreResult open(const QString& path, ScheduleHost::OpenMode mode);
+    void close();
+    bool isOpen() const { return m_connection != nullptr; }
+    /// Where the file is, behind any links; empty when none is open.
+    QString path() const { return isOpen() ? m_file.path() : QString(); }
+
+    StoreResult readRevision(StoreRevision& revision) const;
+    /// Reads the parts and the revision that they have, all from one state of the store.
+    StoreResult read(StorePart part, StoreContents& contents) const;
+
+    /// Writes what is to be changed in the tasks, if the store still has the schedule revision
+    /// that is given; MovedOn otherwise. The revision is counted up, unless there is no change.
+    StoreResult writeTasks(const TaskEdits& edits, qint64& revision);
+
+    /// Puts sources into the catalogue; see ScheduleHost::addPrograms.
+    ImportResult addPrograms(const std::vector<MediaSource>& sources);
+    /// Takes a program out; an index that is not in the catalogue changes nothing.
+    StoreResult removeProgram(int progIndex);
+
+private:
+    StoreResult create() const;
+    StoreResult probe() const;
+    StoreResult connect();
+    StoreResult judgeInPlace() const;
+
+    StoreFile m_file;
+    StoreFile::Identity m_identity;
+    std::unique_ptr<StoreConnection> m_connection;
+};
+
+} // namespace trel::mediadispatch

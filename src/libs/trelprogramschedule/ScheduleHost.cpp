@@ -1,0 +1,81 @@
+#include "ScheduleHost.h"
+
+#include "ProgramImporter.h"
+#include "ScheduleService.h"
+
+namespace trel::mediadispatch {
+
+namespace {
+
+ScheduleService& service()
+{
+    return ScheduleService::instance();
+}
+
+} // namespace
+
+ScheduleHost::ScheduleHost()
+{
+    qRegisterMetaType<StoreResult>();
+    service(); // Made first, so that it goes last.
+}
+
+ScheduleHost::~ScheduleHost() = default;
+
+ScheduleHost& ScheduleHost::instance()
+{
+    static ScheduleHost host;
+    return host;
+}
+
+StoreResult ScheduleHost::open(const QString& path, OpenMode mode)
+{
+    return service().open(path, mode);
+}
+
+void ScheduleHost::close()
+{
+    service().close();
+}
+
+bool ScheduleHost::isOpen() const
+{
+    return service().database().isOpen();
+}
+
+QString ScheduleHost::path() const
+{
+    return service().database().path();
+}
+
+bool ScheduleHost::hasUnsavedChanges() const
+{
+    return service().state().tasks.isEdited();
+}
+
+StoreResult ScheduleHost::trySave()
+{
+    return service().save();
+}
+
+StoreResult ScheduleHost::replaceSchedule(const std::map<int, PlayTask>& tasks)
+{
+    return service().replace(tasks);
+}
+
+StoreResult ScheduleHost::reload()
+{
+    return service().reload();
+}
+
+ImportResult ScheduleHost::addPrograms(const std::vector<MediaSource>& sources)
+{
+    return service().addPrograms(sources);
+}
+
+StoreResult ScheduleHost::removeProgram(int progIndex)
+{
+    return service().removeProgram(progIndex);
+}
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,200 @@
+#include "ScheduleService.h"
+
+#include "service/scheduleManage.h"
+
+#include <QCoreApplication>
+
+#include <cstdlib>
+#include <utility>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+/// Stands for no program in particular.
+constexpr int kAnyProgram = -1;
+
+void closeAtEnd()
+{
+    ScheduleService::instance().close();
+}
+
+/// The store is closed before the driver of the database goes: with the application object, or,
+/// where a host leaves with exit() and that object stays, with the process.
+void closeWithApplication()
+{
+    qRemovePostRoutine(closeAtEnd);
+    qAddPostRoutine(closeAtEnd);
+    static const int registered = std::atexit(closeAtEnd);
+    Q_UNUSED(registered)
+}
+
+void announce(const CatalogueChange& change, int progIndex)
+{
+    if (!change.any) {
+        return;
+    }
+    scheduleManage& manager = scheduleManage::getInstance();
+    emit manager.sigProgIndexChanged();
+    if (change.lengths) {
+        emit manager.signalUpdatePlanEndTime();
+        emit manager.signalReflushConflict(progIndex);
+    }
+    emit ScheduleHost::instance().catalogueChanged();
+}
+
+TaskMap filedByTheirIds(const TaskMap& tasks)
+{
+    TaskMap filed;
+    for (const auto& [key, task] : tasks) {
+        filed.insert_or_assign(task.id, task);
+    }
+    return filed;
+}
+
+} // namespace
+
+ScheduleService& ScheduleService::instance()
+{
+    static ScheduleService service;
+    return service;
+}
+
+StoreResult ScheduleService::open(const QString& path, ScheduleHost::OpenMode mode)
+{
+    close();
+    StoreResult result = m_database.open(path, mode);
+    if (result) {
+        closeWithApplication();
+        result = read(StorePart::Both);
+    }
+    if (!result) {
+        close();
+        return result;
+    }
+    m_state.tasks.resetWorking();
+    return result;
+}
+
+void ScheduleService::close()
+{
+    m_database.close();
+    m_state = ScheduleState();
+    m_revision = StoreRevision();
+}
+
+StoreResult ScheduleService::read(StorePart part)
+{
+    StoreContents contents;
+    StoreResult result = m_database.read(part, contents);
+    if (result && part != StorePart::Schedule) {
+        takeCatalogue(contents);
+    }
+    if (result && part != StorePart::Catalogue) {
+        m_state.tasks.setStored(std::move(contents.tasks));
+        m_revision.schedule = contents.revision.schedule;
+        markLostEntries();
+    }
+    return result;
+}
+
+void ScheduleService::takeCatalogue(StoreContents& contents)
+{
+    m_state.catalogue.assign(std::move(contents.programs), std::move(contents.removedNames));
+    m_state.catalogue.checkFiles();
+    m_revision.catalogue = contents.revision.catalogue;
+}
+
+StoreResult ScheduleService::readCatalogue(int progIndex)
+{
+    const ProgramMap before = m_state.catalogue.programs();
+    StoreResult result = read(StorePart::Catalogue);
+    announce(catalogueChange(before, m_state.catalogue.programs()), progIndex);
+    return result;
+}
+
+bool ScheduleService::markLostEntries()
+{
+    const ProgramCatalogue& catalogue = m_state.catalogue;
+    return m_state.tasks.markLostEntries(
+        [&catalogue](int progIndex) { return catalogue.contains(progIndex); });
+}
+
+StoreResult ScheduleService::save()
+{
+    const TaskEdits edits = m_state.tasks.edits();
+    StoreResult result = m_database.writeTasks(edits, m_revision.schedule);
+    if (result && !edits.isEmpty()) {
+        m_state.tasks.commitWorking();
+        emit ScheduleHost::instance().storedSetChanged();
+    }
+    return result;
+}
+
+StoreResult ScheduleService::replace(const TaskMap& tasks)
+{
+    TaskMap filed = filedByTheirIds(tasks);
+    StoreResult result =
+        m_database.writeTasks(editsBetween(m_state.tasks.stored(), filed), m_revision.schedule);
+    if (!result) {
+        return result;
+    }
+    m_state.tasks.setStored(std::move(filed));
+    m_state.tasks.resetWorking();
+    emit ScheduleHost::instance().storedSetChanged();
+    emit scheduleManage::getInstance().signalReflushConflict(kAnyProgram);
+    // An editor that still shows the former tasks answers with them.
+    m_state.tasks.resetWorking();
+    return result;
+}
+
+StoreResult ScheduleService::reload()
+{
+    const ProgramMap programs = m_state.catalogue.programs();
+    const TaskMap tasks = m_state.tasks.stored();
+    StoreResult result = read(StorePart::Both);
+    if (!result) {
+        return result;
+    }
+    announce(catalogueChange(programs, m_state.catalogue.programs()), kAnyProgram);
+    if (m_state.tasks.stored() != tasks) {
+        emit ScheduleHost::instance().storedSetChanged();
+        emit scheduleManage::getInstance().signalReflushConflict(kAnyProgram);
+    }
+    return result;
+}
+
+void ScheduleService::refresh()
+{
+    StoreRevision now;
+    const bool isRead = bool(m_database.readRevision(now));
+    if (isRead && now.catalogue != m_revision.catalogue) {
+        readCatalogue(kAnyProgram);
+    } else {
+        CatalogueChange change;
+        change.any = m_state.catalogue.checkFiles();
+        announce(change, kAnyProgram);
+    }
+    if (isRead && now.schedule != m_revision.schedule) {
+        read(StorePart::Schedule);
+    } else {
+        markLostEntries();
+    }
+}
+
+ImportResult ScheduleService::addPrograms(const std::vector<MediaSource>& sources)
+{
+    ImportResult result = m_database.addPrograms(sources);
+    if (result.store) {
+        result.store = readCatalogue(kAnyProgram);
+    }
+    return result;
+}
+
+StoreResult ScheduleService::removeProgram(int progIndex)
+{
+    StoreResult result = m_database.removeProgram(progIndex);
+    return result ? readCatalogue(progIndex) : result;
+}
+
+} // namespace trel::mediadispatch

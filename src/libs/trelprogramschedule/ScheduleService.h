@@ -1,0 +1,73 @@
+#pragma once
+
+#include "ProgramCatalogue.h"
+#include "ScheduleDatabase.h"
+#include "ScheduleHost.h"
+#include "ScheduleInEffect.h"
+#include "TaskSets.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace trel::mediadispatch {
+
+struct MediaSource;
+
+/// What the service holds in memory.
+struct ScheduleState
+{
+    TaskSets tasks;
+    ProgramCatalogue catalogue;
+    ScheduleInEffect inEffect;
+    std::string selectedProgram; ///< UTF-8; see scheduleManage::setqstrSelectedProgram.
+};
+
+/// The one service behind scheduleManage and ScheduleHost: its state and the store it is kept in.
+///
+/// Works with no store as well; then nothing can be saved and the catalogue is empty. Emits
+/// nothing while a set or the catalogue is being changed: signals go out once all of it holds.
+class ScheduleService
+{
+public:
+    static ScheduleService& instance();
+
+    ScheduleState& state() { return m_state; }
+    const ScheduleState& state() const { return m_state; }
+
+    StoreResult open(const QString& path, ScheduleHost::OpenMode mode);
+    void close();
+    const ScheduleDatabase& database() const { return m_database; }
+
+    /// Commits the working set.
+    StoreResult save();
+    /// Commits other tasks and makes them the working set.
+    StoreResult replace(const TaskMap& tasks);
+    /// Reads catalogue and stored set again; the working set stays.
+    StoreResult reload();
+    /// Takes over what other editors have changed in the store and looks which files are there.
+    /// What cannot be read stays as it was.
+    void refresh();
+
+    ImportResult addPrograms(const std::vector<MediaSource>& sources);
+    StoreResult removeProgram(int progIndex);
+
+private:
+    ScheduleService() = default;
+    ~ScheduleService() = default;
+    Q_DISABLE_COPY(ScheduleService)
+
+    /// Reads the parts that are asked for into the state.
+    StoreResult read(StorePart part);
+    void takeCatalogue(StoreContents& contents);
+    /// Reads the catalogue and tells how it has changed.
+    StoreResult readCatalogue(int progIndex);
+    /// Marks stored entries whose programs have left the catalogue; true when there were any.
+    bool markLostEntries();
+
+    ScheduleState m_state;
+    ScheduleDatabase m_database;
+    StoreRevision m_revision; ///< What has been read of the store.
+};
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "ScheduleHost.h"
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+
+namespace trel::mediadispatch {
+
+/// What the members of StoreConnection throw; it never leaves the class that uses them.
+struct StoreError
+{
+    StoreResult result;
+};
+
+/// One named connection to a database file, open from construction to destruction. All queries on
+/// it must have gone before it goes. Members throw StoreError where the database refuses.
+class StoreConnection
+{
+public:
+    enum class Access {
+        Create,
+        ReadWrite, ///< The file must exist.
+        ReadOnly,  ///< Shares the file with other programs.
+        Untouched, ///< Takes no lock and makes no file; nobody else may have the file open.
+    };
+
+    StoreConnection(const QString& path, Access access);
+    ~StoreConnection();
+    Q_DISABLE_COPY(StoreConnection)
+
+    void run(const QString& statement) const;
+    /// The first value of the first row; Damaged when there is no row.
+    QVariant value(const QString& statement) const;
+    /// A query that is ready to be run, as often as it takes.
+    QSqlQuery prepare(const QString& statement) const;
+    /// A query that has been run.
+    QSqlQuery query(const QString& statement) const;
+    /// Runs a prepared query with the values that are bound to it.
+    void exec(QSqlQuery& query) const;
+    /// Goes to the next row; false behind the last.
+    bool next(QSqlQuery& query) const;
+
+private:
+    [[noreturn]] void refuse(const QSqlQuery& query) const;
+
+    friend class StoreTransaction;
+
+    QString m_path;
+    QString m_name;
+    QSqlDatabase m_database;
+};
+
+/// A transaction that is undone unless it is committed.
+class StoreTransaction
+{
+public:
+    enum class Purpose {
+        Read,  ///< One state of the store for all queries.
+        Write, ///< Nobody else writes until the end.
+    };
+
+    StoreTransaction(const StoreConnection& connection, Purpose purpose);
+    ~StoreTransaction();
+    Q_DISABLE_COPY(StoreTransaction)
+
+    void commit();
+
+private:
+    const StoreConnection& m_connection;
+    bool m_committed = false;
+};
+
+} // namespace trel::mediadispatch

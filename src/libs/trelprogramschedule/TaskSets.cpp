@@ -1,0 +1,159 @@
+#include "TaskSets.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+/// Adds what turns one task of a set into the one of the same id in another set.
+void addEdit(TaskEdits& edits, const TaskMap& from, const TaskMap& to, int taskId)
+{
+    const auto before = from.find(taskId);
+    const auto after = to.find(taskId);
+    if (before != from.end() && after != to.end() && before->second == after->second) {
+        return;
+    }
+    if (before != from.end()) {
+        edits.removed.push_back(taskId);
+    }
+    if (after != to.end()) {
+        edits.written.push_back(&after->second);
+    }
+}
+
+/// Makes one task of a set match the one of the same id in another set.
+void copyTask(const TaskMap& from, TaskMap& to, int taskId)
+{
+    const auto source = from.find(taskId);
+    if (source == from.end()) {
+        to.erase(taskId);
+    } else {
+        to.insert_or_assign(taskId, source->second);
+    }
+}
+
+std::set<int> idsOfBoth(const TaskMap& a, const TaskMap& b)
+{
+    std::set<int> ids;
+    for (const TaskMap* tasks : {&a, &b}) {
+        for (const auto& [id, task] : *tasks) {
+            ids.insert(ids.end(), id);
+        }
+    }
+    return ids;
+}
+
+std::vector<PlayPlan>::iterator planWithId(std::vector<PlayPlan>& plans, int planId)
+{
+    return std::find_if(plans.begin(), plans.end(),
+                        [planId](const PlayPlan& plan) { return plan.id == planId; });
+}
+
+} // namespace
+
+TaskEdits editsBetween(const TaskMap& from, const TaskMap& to)
+{
+    TaskEdits edits;
+    for (const int id : idsOfBoth(from, to)) {
+        addEdit(edits, from, to, id);
+    }
+    return edits;
+}
+
+void TaskSets::setStored(TaskMap tasks)
+{
+    m_stored = std::move(tasks);
+    m_touched = idsOfBoth(m_stored, m_working);
+}
+
+void TaskSets::resetWorking()
+{
+    for (const int id : m_touched) {
+        copyTask(m_stored, m_working, id);
+    }
+    m_touched.clear();
+}
+
+void TaskSets::commitWorking()
+{
+    for (const int id : m_touched) {
+        copyTask(m_working, m_stored, id);
+    }
+    m_touched.clear();
+}
+
+void TaskSets::clear()
+{
+    m_stored.clear();
+    m_working.clear();
+    m_touched.clear();
+}
+
+void TaskSets::putTask(const PlayTask& task)
+{
+    m_working.insert_or_assign(task.id, task);
+    m_touched.insert(task.id);
+}
+
+void TaskSets::removeTask(int taskId)
+{
+    if (m_working.erase(taskId) > 0) {
+        m_touched.insert(taskId);
+    }
+}
+
+void TaskSets::putPlan(int taskId, const PlayPlan& plan)
+{
+    const auto task = m_working.find(taskId);
+    if (task == m_working.end()) {
+        return;
+    }
+    std::vector<PlayPlan>& plans = task->second.plans;
+    const auto place = planWithId(plans, plan.id);
+    if (place == plans.end()) {
+        plans.push_back(plan);
+    } else {
+        *place = plan;
+    }
+    m_touched.insert(taskId);
+}
+
+bool TaskSets::isEdited() const
+{
+    return !edits().isEmpty();
+}
+
+TaskEdits TaskSets::edits() const
+{
+    TaskEdits edits;
+    for (const int id : m_touched) {
+        addEdit(edits, m_stored, m_working, id);
+    }
+    return edits;
+}
+
+PlayTask findTask(const TaskMap& tasks, int taskId)
+{
+    const auto found = tasks.find(taskId);
+    return found == tasks.end() ? PlayTask() : found->second;
+}
+
+PlayPlan findPlan(const TaskMap& tasks, int taskId, int planId, int& index)
+{
+    const auto task = tasks.find(taskId);
+    if (task == tasks.end()) {
+        return PlayPlan();
+    }
+    const std::vector<PlayPlan>& plans = task->second.plans;
+    const auto found = std::find_if(plans.begin(), plans.end(),
+                                    [planId](const PlayPlan& plan) { return plan.id == planId; });
+    if (found == plans.end()) {
+        return PlayPlan();
+    }
+    index = static_cast<int>(found - plans.begin());
+    return *found;
+}
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+
+#include <map>
+#include <set>
+#include <vector>
+
+namespace trel::mediadispatch {
+
+using TaskMap = std::map<int, PlayTask>;
+
+/// What turns a stored set into another: the tasks to take out first, and those to put in then. A
+/// task that has changed stands in both. The pointers lead into the set that was asked.
+struct TaskEdits
+{
+    std::vector<int> removed;
+    std::vector<const PlayTask*> written;
+
+    bool isEmpty() const { return removed.empty() && written.empty(); }
+};
+
+/// Everything that turns one set into another one.
+TaskEdits editsBetween(const TaskMap& from, const TaskMap& to);
+
+/// The stored and the working set. Knows which tasks have been touched since the two were last the
+/// same, so that its questions cost what was edited and not what there is.
+class TaskSets
+{
+public:
+    const TaskMap& stored() const { return m_stored; }
+    const TaskMap& working() const { return m_working; }
+
+    /// Replaces the stored set; the working set stays.
+    void setStored(TaskMap tasks);
+    /// Marks the entries of the stored set whose program is not among the known ones as gone bad;
+    /// true when there was one.
+    template <typename IsKnown>
+    bool markLostEntries(const IsKnown& isKnown);
+    /// Makes the working set match the stored set.
+    void resetWorking();
+    /// Makes the stored set match the working set.
+    void commitWorking();
+    void clear();
+
+    void putTask(const PlayTask& task);
+    void removeTask(int taskId);
+    /// Replaces the first plan with this id, or appends it; nothing without such a task.
+    void putPlan(int taskId, const PlayPlan& plan);
+
+    bool isEdited() const;
+    /// What turns the stored set into the working set.
+    TaskEdits edits() const;
+
+private:
+    TaskMap m_stored;
+    TaskMap m_working;
+    std::set<int> m_touched; ///< Every task in which the two may differ.
+};
+
+/// The task, or a record as nobody has filled it in.
+PlayTask findTask(const TaskMap& tasks, int taskId);
+/// The first plan with this id, with its position in index; index stays as it is without one.
+PlayPlan findPlan(const TaskMap& tasks, int taskId, int planId, int& index);
+
+/// Marks entries that refer to a program which is not known any more; true when there was one. An
+/// entry that refers to nothing in the first place stays as it is.
+template <typename IsKnown>
+bool markLostEntries(PlayTask& task, const IsKnown& isKnown)
+{
+    bool marked = false;
+    for (PlayPlan& plan : task.plans) {
+        for (struProgInfo& entry : plan.programs) {
+            if (!entry.isInvalid && entry.progIndex < kInvalidProgIndex &&
+                !isKnown(entry.progIndex)) {
+                entry.isInvalid = true;
+                marked = true;
+            }
+        }
+    }
+    return marked;
+}
+
+template <typename IsKnown>
+bool TaskSets::markLostEntries(const IsKnown& isKnown)
+{
+    bool marked = false;
+    for (auto& [id, task] : m_stored) {
+        if (mediadispatch::markLostEntries(task, isKnown)) {
+            m_touched.insert(id);
+            marked = true;
+        }
+    }
+    return marked;
+}
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,170 @@
+#include "service/scheduleManage.h"
+
+#include "ScheduleService.h"
+#include "service/Clock.h"
+
+#include <QDate>
+#include <QTime>
+
+namespace trel::mediadispatch {
+
+class scheduleManage::Private
+{
+public:
+    ScheduleService& service = ScheduleService::instance();
+    ScheduleState& state = service.state();
+};
+
+scheduleManage::scheduleManage()
+    : d(std::make_unique<Private>())
+{}
+
+scheduleManage::~scheduleManage() = default;
+
+scheduleManage& scheduleManage::getInstance()
+{
+    static scheduleManage manager;
+    return manager;
+}
+
+std::map<int, PlayTask> scheduleManage::getgTaskMap()
+{
+    d->service.refresh();
+    return d->state.tasks.stored();
+}
+
+void scheduleManage::updateUItask()
+{
+    d->state.tasks.resetWorking();
+}
+
+void scheduleManage::resetUiTask()
+{
+    // The working set is not emptied: between this call and the rebuilding of the list events are
+    // handled, and a save among them would wipe the stored set out.
+    d->state.tasks.resetWorking();
+    d->state.selectedProgram.clear();
+}
+
+std::map<int, PlayTask> scheduleManage::getAllTask()
+{
+    return d->state.tasks.working();
+}
+
+PlayTask scheduleManage::getTask(int taskId)
+{
+    return findTask(d->state.tasks.working(), taskId);
+}
+
+void scheduleManage::addTask(const PlayTask& task)
+{
+    d->state.tasks.putTask(task);
+}
+
+void scheduleManage::deleteTask(int taskId)
+{
+    d->state.tasks.removeTask(taskId);
+}
+
+void scheduleManage::save()
+{
+    const StoreResult result = d->service.save();
+    if (!result) {
+        emit ScheduleHost::instance().saveFailed(result);
+    }
+}
+
+void scheduleManage::slotOpen()
+{
+    d->state.inEffect.start(d->state.tasks.stored());
+}
+
+PlayPlan scheduleManage::getPlan(int taskId, int planId, int& index)
+{
+    return findPlan(d->state.tasks.working(), taskId, planId, index);
+}
+
+PlayPlan scheduleManage::getNowUsePlan(int taskId, int planId, int& index)
+{
+    return d->state.inEffect.plan(taskId, planId, index);
+}
+
+void scheduleManage::addPlan(int taskId, const PlayPlan& plan)
+{
+    d->state.tasks.putPlan(taskId, plan);
+}
+
+void scheduleManage::setInsertPlanTask(int taskId, int planId, const PlayPlan& plan, bool immediate)
+{
+    d->state.inEffect.insert(taskId, planId, plan, !immediate);
+}
+
+void scheduleManage::setInsertPlanTaskDelayExcute(int taskId, int planId, const PlayPlan& plan)
+{
+    d->state.inEffect.insert(taskId, planId, plan, true);
+}
+
+void scheduleManage::passOriginalPlanProgInfo(const std::vector<struProgInfo>& programs)
+{
+    d->state.inEffect.setOriginal(programs);
+}
+
+bool scheduleManage::getScheduleState() const
+{
+    return !d->state.inEffect.isRunning();
+}
+
+std::map<int, ProgramIten> scheduleManage::getPrograms()
+{
+    return d->state.catalogue.programs();
+}
+
+ProgramIten scheduleManage::getProgramItemByIndex(int progIndex)
+{
+    return d->state.catalogue.program(progIndex);
+}
+
+std::string scheduleManage::getProgramNameByProgIndex(int progIndex)
+{
+    return d->state.catalogue.name(progIndex);
+}
+
+double scheduleManage::getDurationByIndex(int progIndex)
+{
+    return d->state.catalogue.duration(progIndex);
+}
+
+bool scheduleManage::isNoDurationType(int progIndex)
+{
+    return d->state.catalogue.hasNoDuration(progIndex);
+}
+
+DataCompareType scheduleManage::comparisionDate(const std::string& date) const
+{
+    // A period whose end does not parse has no day left to play on: it counts as over.
+    const QDate day = QDate::fromString(QString::fromStdString(date), kDateFormat);
+    const QDate today = Clock::current().today();
+    if (!day.isValid() || day < today) {
+        return DateBeforeToday;
+    }
+    return day == today ? DateIsToday : DateAfterToday;
+}
+
+bool scheduleManage::comparisonTime(const std::string& time) const
+{
+    // A time that does not parse is not to come any more today.
+    const QTime moment = QTime::fromString(QString::fromStdString(time), kTimeFormat);
+    return !moment.isValid() || moment < Clock::current().timeOfDay();
+}
+
+void scheduleManage::setqstrSelectedProgram(const std::string& text)
+{
+    d->state.selectedProgram = text;
+}
+
+std::string scheduleManage::getqstrSelectedProgram() const
+{
+    return d->state.selectedProgram;
+}
+
+} // namespace trel::mediadispatch
