@@ -26,7 +26,13 @@ struct Span
 class EarlierSpans
 {
 public:
-    void announceStart(int start) { m_starts.push_back(start); }
+    /// Returns the place of the start, for add().
+    std::size_t announceStart(int start)
+    {
+        m_starts.push_back(start);
+        m_latestEnds.push_back(kNoEnd);
+        return m_starts.size() - 1;
+    }
 
     bool collideWith(const Span& span) const
     {
@@ -36,12 +42,11 @@ public:
         return m_hasInverted || span.isInverted() || latestEndBefore(span.end) > span.start;
     }
 
-    void add(const Span& span)
+    void add(const Span& span, std::size_t place)
     {
         m_isEmpty = false;
         m_hasInverted = m_hasInverted || span.isInverted();
-        m_latestEnds.resize(m_starts.size(), kNoEnd);
-        for (std::size_t i = startsBefore(span.start); i < m_latestEnds.size(); i |= i + 1) {
+        for (std::size_t i = place; i < m_latestEnds.size(); i |= i + 1) {
             m_latestEnds[i] = std::max(m_latestEnds[i], span.end);
         }
     }
@@ -49,16 +54,11 @@ public:
 private:
     static constexpr int kNoEnd = -1;
 
-    std::size_t startsBefore(int time) const
-    {
-        return static_cast<std::size_t>(std::lower_bound(m_starts.begin(), m_starts.end(), time) -
-                                        m_starts.begin());
-    }
-
     int latestEndBefore(int time) const
     {
+        const auto startsLater = std::lower_bound(m_starts.begin(), m_starts.end(), time);
         int latest = kNoEnd;
-        for (std::size_t i = startsBefore(time); i > 0; i &= i - 1) {
+        for (auto i = static_cast<std::size_t>(startsLater - m_starts.begin()); i > 0; i &= i - 1) {
             latest = std::max(latest, m_latestEnds[i - 1]);
         }
         return latest;
@@ -127,12 +127,13 @@ class DayTable
 {
 public:
     explicit DayTable(const std::vector<PlanClaim>& claims)
-        : m_daysOfClaim(claims.size())
     {
         const std::vector<TimeMark> marks = sortedTimeMarks(claims);
         m_spans = rankedSpans(marks);
-        for (std::size_t i = 0; i < claims.size(); ++i) {
-            readDays(claims[i].weeks, m_daysOfClaim[i]);
+        m_claims.reserve(claims.size());
+        for (const PlanClaim& claim : claims) {
+            m_claims.push_back({&daysOf(claim.weeks), m_places.size()});
+            m_places.resize(m_places.size() + m_claims.back().days->joined.size());
         }
         for (const TimeMark& mark : marks) {
             if (mark.isStart) {
@@ -141,64 +142,83 @@ public:
         }
     }
 
+    // The days point into the table.
+    DayTable(const DayTable&) = delete;
+    DayTable& operator=(const DayTable&) = delete;
+
     bool collidesWithEarlier(std::size_t claim) const
     {
         const Span& span = m_spans[claim];
-        const std::vector<EarlierSpans*>& days = m_daysOfClaim[claim];
-        if (days.empty()) {
-            return m_all.collideWith(span);
-        }
-        return m_everyDay.collideWith(span) ||
-               std::any_of(days.begin(), days.end(),
-                           [&span](const EarlierSpans* day) { return day->collideWith(span); });
+        const std::vector<EarlierSpans*>& met = m_claims[claim].days->met;
+        return std::any_of(met.begin(), met.end(),
+                           [&span](const EarlierSpans* spans) { return spans->collideWith(span); });
     }
 
     void add(std::size_t claim)
     {
-        const Span& span = m_spans[claim];
-        m_all.add(span);
-        if (m_daysOfClaim[claim].empty()) {
-            m_everyDay.add(span);
-        }
-        for (EarlierSpans* day : m_daysOfClaim[claim]) {
-            day->add(span);
+        const std::vector<EarlierSpans*>& joined = m_claims[claim].days->joined;
+        for (std::size_t i = 0; i < joined.size(); ++i) {
+            joined[i]->add(m_spans[claim], m_places[m_claims[claim].firstPlace + i]);
         }
     }
 
 private:
-    void readDays(const std::string& weeks, std::vector<EarlierSpans*>& days)
+    /// What a `weeks` text comes to: the spans that its claims meet, and those that they join.
+    struct Days
     {
-        m_numbers.clear();
-        if (parseWeeks(weeks, m_numbers)) {
-            return;
+        std::vector<EarlierSpans*> met;
+        std::vector<EarlierSpans*> joined;
+    };
+
+    struct Claim
+    {
+        const Days* days = nullptr;
+        std::size_t firstPlace = 0; // In m_places, one for each entry of days->joined.
+    };
+
+    // Plans of one task mostly share a handful of texts, and each is read once.
+    const Days& daysOf(const std::string& weeks)
+    {
+        const auto [found, isNew] = m_daysByText.try_emplace(weeks);
+        if (isNew) {
+            found->second = readDays(weeks);
+        }
+        return found->second;
+    }
+
+    Days readDays(const std::string& weeks)
+    {
+        std::vector<int> numbers;
+        if (parseWeeks(weeks, numbers)) {
+            return {{&m_all}, {&m_all, &m_everyDay}};
         }
         // A claim that names a day twice must not meet itself there.
-        std::sort(m_numbers.begin(), m_numbers.end());
-        m_numbers.erase(std::unique(m_numbers.begin(), m_numbers.end()), m_numbers.end());
-        days.reserve(m_numbers.size());
-        for (const int number : m_numbers) {
-            days.push_back(&m_byDay[number]);
+        std::sort(numbers.begin(), numbers.end());
+        numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+        Days days{{&m_everyDay}, {&m_all}};
+        for (const int number : numbers) {
+            days.met.push_back(&m_byDay[number]);
+            days.joined.push_back(&m_byDay[number]);
         }
+        return days;
     }
 
     void announce(std::size_t claim)
     {
-        const int start = m_spans[claim].start;
-        m_all.announceStart(start);
-        if (m_daysOfClaim[claim].empty()) {
-            m_everyDay.announceStart(start);
-        }
-        for (EarlierSpans* day : m_daysOfClaim[claim]) {
-            day->announceStart(start);
+        const std::vector<EarlierSpans*>& joined = m_claims[claim].days->joined;
+        for (std::size_t i = 0; i < joined.size(); ++i) {
+            m_places[m_claims[claim].firstPlace + i] =
+                joined[i]->announceStart(m_spans[claim].start);
         }
     }
 
     std::vector<Span> m_spans;
-    std::vector<std::vector<EarlierSpans*>> m_daysOfClaim; // Empty for an every-day claim.
-    std::map<int, EarlierSpans> m_byDay;                   // Claims that name their days.
-    EarlierSpans m_everyDay;
+    std::vector<Claim> m_claims;
+    std::vector<std::size_t> m_places;
+    std::unordered_map<std::string_view, Days> m_daysByText;
+    std::map<int, EarlierSpans> m_byDay; // Claims that name their days.
+    EarlierSpans m_everyDay;             // Claims that do not.
     EarlierSpans m_all;
-    std::vector<int> m_numbers;
 };
 
 } // namespace
