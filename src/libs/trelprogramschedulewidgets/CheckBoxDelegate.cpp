@@ -1,0 +1,62 @@
+#include "CheckBoxDelegate.h"
+
+#include "CheckBoxImages.h"
+#include "ChooserColumns.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+// Both tables of the chooser have their marks in the same column.
+static_assert(int(OfferCheckColumn) == int(ChoiceCheckColumn));
+constexpr int kCheckColumn = OfferCheckColumn;
+
+} // namespace
+
+CheckBoxDelegate::CheckBoxDelegate(CheckType type, QObject* parent)
+    : QStyledItemDelegate(parent)
+    , m_uncheckedPixmap(checkBoxImagePaths().unchecked)
+    , m_checkedPixmap(checkBoxImagePaths().checked)
+    , m_type(type)
+{}
+
+void CheckBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const
+{
+    QStyleOptionViewItem cell(option);
+    initStyleOption(&cell, index);
+    cell.state &= ~QStyle::State_HasFocus;
+    QStyledItemDelegate::paint(painter, cell, index);
+
+    if (index.column() != kCheckColumn) {
+        return;
+    }
+    const QStyle* const style = option.widget ? option.widget->style() : QApplication::style();
+    const bool isChecked = index.data(kCheckRole).toBool();
+    style->drawItemPixmap(painter, option.rect, Qt::AlignCenter,
+                          isChecked ? m_checkedPixmap : m_uncheckedPixmap);
+}
+
+bool CheckBoxDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
+                                   const QStyleOptionViewItem& option, const QModelIndex& index)
+{
+    if (event->type() != QEvent::MouseButtonPress) {
+        return true;
+    }
+    if (!option.rect.contains(static_cast<QMouseEvent*>(event)->pos()) ||
+        index.column() != kCheckColumn) {
+        return true;
+    }
+    const bool isChecked = !index.data(kCheckRole).toBool();
+    const int row = index.row();
+    model->setData(index, isChecked, kCheckRole);
+    emit signalChecked(m_type, row, isChecked);
+    return true;
+}
+
+} // namespace trel::mediadispatch

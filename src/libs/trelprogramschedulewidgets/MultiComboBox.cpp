@@ -1,0 +1,238 @@
+#include "MultiComboBox.h"
+
+#include "BoolCheckDelegate.h"
+#include "service/Clock.h"
+
+#include <QAbstractItemView>
+#include <QDebug>
+#include <QFontMetrics>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QStyle>
+#include <QWheelEvent>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+// The entry that stands for everything and excludes all others.
+constexpr int kEverythingEntry = 0;
+
+constexpr int kTextWidth = 93;
+constexpr int kReopenDelayMs = 100;
+
+// A point on the arrow, in from the right edge and down from the top.
+constexpr int kArrowInset = 10;
+
+} // namespace
+
+MultiComboBox::MultiComboBox(QWidget* parent)
+    : QComboBox(parent)
+    , m_separator(QLatin1Char(','))
+    , m_lastHideTime(Clock::current().timeOfDay())
+{
+    view()->viewport()->installEventFilter(this);
+    auto* const delegate = new BoolCheckDelegate(this);
+    setItemDelegate(delegate);
+    connect(delegate, &BoolCheckDelegate::toggleRequested, this, &MultiComboBox::toggle);
+
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+    lineEdit()->setAttribute(Qt::WA_TransparentForMouseEvents);
+    lineEdit()->setReadOnly(true);
+    lineEdit()->setCursorPosition(0);
+
+    // The toolkit puts the label of the current entry into the line whenever that entry changes or
+    // the keyboard moves on to another one. The line shows the chosen labels, whatever is current.
+    connect(model(), &QAbstractItemModel::dataChanged, this, &MultiComboBox::keepShownText);
+    connect(this, QOverload<int>::of(&QComboBox::activated), this, &MultiComboBox::keepShownText);
+}
+
+void MultiComboBox::setSeparator(const QString& separator)
+{
+    m_separator = separator;
+}
+
+void MultiComboBox::setEveryDayText(const QString& text)
+{
+    m_everyDayText = text;
+}
+
+void MultiComboBox::setShownText(const QString& text)
+{
+    m_currentText = text;
+    m_cutText = QFontMetrics(font()).elidedText(text, Qt::ElideRight, kTextWidth);
+    setCurrentText(m_cutText);
+    lineEdit()->setCursorPosition(0);
+    setToolTip(text);
+}
+
+void MultiComboBox::restoreCheckMarks()
+{
+    m_pendingText = m_currentText;
+    const QStringList labels = m_currentText.split(m_separator);
+    for (int i = 0; i < count(); ++i) {
+        setChecked(i, labels.contains(itemText(i)));
+    }
+    setShownText(m_pendingText);
+}
+
+void MultiComboBox::applySelection(const QString& text)
+{
+    setShownText(text);
+    restoreCheckMarks();
+    commit();
+}
+
+void MultiComboBox::updateBox()
+{
+    const QStringList labels = checkedLabels();
+    qDebug() << "#############################:" << labels;
+    showLabels(labels);
+}
+
+void MultiComboBox::showPopup()
+{
+    // The click that closes the list reaches the box as well and must not open it again. Times of
+    // one day are compared: over midnight one click is lost.
+    if (m_lastHideTime.msecsTo(Clock::current().timeOfDay()) < kReopenDelayMs) {
+        return;
+    }
+    restoreCheckMarks();
+    fitPopupToLabels();
+    QComboBox::showPopup();
+}
+
+void MultiComboBox::hidePopup()
+{
+    m_lastHideTime = Clock::current().timeOfDay();
+    commit();
+    QComboBox::hidePopup();
+}
+
+bool MultiComboBox::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::MouseButtonRelease) {
+        return QObject::eventFilter(watched, event);
+    }
+    toggle(view()->indexAt(static_cast<QMouseEvent*>(event)->pos()));
+    // Nobody else may see the release: it would choose the entry and close the list.
+    return true;
+}
+
+void MultiComboBox::mousePressEvent(QMouseEvent* event)
+{
+    // An editable box opens on its arrow only, and here the text is as good a place.
+    if (lineEdit()->geometry().contains(event->pos())) {
+        event->setLocalPos(QPointF(width() - kArrowInset, kArrowInset));
+    }
+    QComboBox::mousePressEvent(event);
+}
+
+void MultiComboBox::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+}
+
+void MultiComboBox::hideEvent(QHideEvent* event)
+{
+    // The toolkit closes the list of a box that goes out of sight, open or not. Without an open
+    // list there is nothing to settle, and folding a card must not look like an edit of its rows.
+    if (isPopupOpen()) {
+        QComboBox::hideEvent(event);
+    }
+}
+
+void MultiComboBox::changeEvent(QEvent* event)
+{
+    // As above, for a box that is disabled.
+    if (event->type() == QEvent::EnabledChange && !isPopupOpen()) {
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): the class between closes the list.
+        QWidget::changeEvent(event);
+        return;
+    }
+    QComboBox::changeEvent(event);
+}
+
+bool MultiComboBox::isChecked(int entry) const
+{
+    return itemData(entry, Qt::CheckStateRole).toBool();
+}
+
+void MultiComboBox::setChecked(int entry, bool checked)
+{
+    setItemData(entry, checked, Qt::CheckStateRole);
+}
+
+void MultiComboBox::toggle(const QModelIndex& entry)
+{
+    excludeOthers(entry.row());
+    view()->model()->setData(entry, !entry.data(Qt::CheckStateRole).toBool(), Qt::CheckStateRole);
+    setShownText(m_pendingText);
+}
+
+void MultiComboBox::excludeOthers(int toggledEntry)
+{
+    if (toggledEntry != kEverythingEntry) {
+        if (isChecked(kEverythingEntry)) {
+            setChecked(kEverythingEntry, false);
+        }
+        return;
+    }
+    for (int i = kEverythingEntry + 1; i < count(); ++i) {
+        if (isChecked(i)) {
+            setChecked(i, false);
+        }
+    }
+}
+
+QStringList MultiComboBox::checkedLabels() const
+{
+    QStringList labels;
+    for (int i = 0; i < count(); ++i) {
+        if (isChecked(i)) {
+            labels.append(itemText(i));
+        }
+    }
+    return labels;
+}
+
+void MultiComboBox::showLabels(const QStringList& labels)
+{
+    setShownText(labels.isEmpty() ? m_defaultText : labels.join(m_separator));
+}
+
+void MultiComboBox::keepShownText()
+{
+    if (lineEdit()->text() != m_cutText) {
+        lineEdit()->setText(m_cutText);
+        lineEdit()->setCursorPosition(0);
+    }
+}
+
+bool MultiComboBox::isPopupOpen() const
+{
+    return view()->isVisible();
+}
+
+void MultiComboBox::fitPopupToLabels()
+{
+    const int scrollBarWidth = view()->verticalScrollBar()->sizeHint().width();
+    view()->setMinimumWidth(view()->sizeHintForColumn(modelColumn()) + scrollBarWidth);
+}
+
+void MultiComboBox::commit()
+{
+    QStringList labels;
+    for (int i = 0; i < count(); ++i) {
+        if (isChecked(i)) {
+            labels.append(itemText(i));
+            setCurrentIndex(i);
+        }
+    }
+    showLabels(labels);
+    emit signalSelectedText(labels);
+}
+
+} // namespace trel::mediadispatch

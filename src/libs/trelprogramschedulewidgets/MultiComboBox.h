@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QComboBox>
+#include <QStringList>
+#include <QTime>
+
+namespace trel::mediadispatch {
+
+/// A combo box whose list holds check marks, so that several entries can be chosen at once. The
+/// first entry and the others exclude each other, as an entry for everything needs it.
+///
+/// The box shows the chosen labels joined with the separator, cut to fit; its tool tip shows them
+/// all. The text is what is kept: the marks follow it when the list opens, and it follows the marks
+/// when the list closes. Clicks in the open list change marks and nothing else. The mark of an
+/// entry is its data under Qt::CheckStateRole, a bool.
+class MultiComboBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit MultiComboBox(QWidget* parent = nullptr);
+
+    /// What stands between two labels; "," at the start. It must occur in no label.
+    void setSeparator(const QString& separator);
+
+    /// Keeps the word for a choice of everything. The box shows it nowhere of its own accord: the
+    /// label of the first entry does that.
+    void setEveryDayText(const QString& text);
+    const QString& everyDayText() const { return m_everyDayText; }
+
+    /// Shows a text, labels joined with the separator, and leaves the marks as they are.
+    void setShownText(const QString& text);
+
+    /// Marks the entries whose labels stand in the text last shown, and no others. A label that no
+    /// entry has is passed over.
+    void restoreCheckMarks();
+
+    /// Shows a text, marks its labels, and settles for them as a closing list does, with the
+    /// signal.
+    void applySelection(const QString& text);
+
+    /// Shows what the marks stand for, and writes it to the debug log. Emits nothing and leaves the
+    /// current index alone.
+    void updateBox();
+
+    void showPopup() override;
+    void hidePopup() override;
+
+signals:
+    /// The list has closed on these labels, in the order of the entries; also when nothing changed.
+    void signalSelectedText(const QStringList& labels);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    bool isChecked(int entry) const;
+    void setChecked(int entry, bool checked);
+    void toggle(const QModelIndex& entry);
+    void excludeOthers(int toggledEntry);
+    QStringList checkedLabels() const;
+    void showLabels(const QStringList& labels);
+    void keepShownText();
+    bool isPopupOpen() const;
+    void fitPopupToLabels();
+    void commit();
+
+    QString m_separator;
+    QString m_defaultText; // Shown when nothing is chosen.
+    QString m_pendingText; // The text when the list last opened.
+    QString m_currentText; // The text last shown, uncut.
+    QTime m_lastHideTime;
+    QString m_everyDayText;
+    QString m_cutText;
+};
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,48 @@
+#include "SpinBoxDelegate.h"
+
+#include <QSpinBox>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+constexpr int kLeastCount = 1;
+constexpr int kMostCount = 999;
+constexpr QSize kBoxSize(80, 30);
+
+} // namespace
+
+SpinBoxDelegate::SpinBoxDelegate(QObject* parent)
+    : QStyledItemDelegate(parent)
+{}
+
+QWidget* SpinBoxDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                       const QModelIndex& index) const
+{
+    auto* const box = new QSpinBox(parent);
+    box->setFixedSize(kBoxSize);
+    box->setRange(kLeastCount, kMostCount);
+    box->setFrame(false);
+    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            [this, index](int value) { emit valueChanged(index, value); });
+    return box;
+}
+
+void SpinBoxDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+{
+    auto* const box = qobject_cast<QSpinBox*>(editor);
+    if (box && index.model()) {
+        box->setValue(index.data(Qt::EditRole).toInt());
+    }
+}
+
+void SpinBoxDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                   const QModelIndex& index) const
+{
+    const auto* const box = qobject_cast<const QSpinBox*>(editor);
+    if (box && model) {
+        model->setData(index, box->value(), Qt::EditRole);
+    }
+}
+
+} // namespace trel::mediadispatch
