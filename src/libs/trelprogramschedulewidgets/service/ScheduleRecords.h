@@ -64,8 +64,8 @@ enum DataCompareType {
     DateAfterToday = 2,
 };
 
-/// The table that a check mark belongs to.
-enum CheckType {
+/// The table that a check mark belongs to. Whoever is told passes over any other value.
+enum CheckType : int {
     ProgramListCheck = 0, ///< All programs on offer.
     PlanListCheck = 1,    ///< The programs of the plan.
 };

@@ -1,0 +1,150 @@
+#include "ChooserRows.h"
+
+#include "CheckOrder.h"
+
+#include <QStandardItem>
+
+#include <algorithm>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+QStandardItem* makeCentred(const QString& text)
+{
+    auto* item = new QStandardItem(text);
+    item->setTextAlignment(Qt::AlignCenter);
+    return item;
+}
+
+} // namespace
+
+QList<QStandardItem*> makeOfferCells(const QString& name)
+{
+    auto* nameItem = new QStandardItem(name);
+    nameItem->setToolTip(name);
+    return {new QStandardItem, makeCentred(QString()), nameItem};
+}
+
+QList<QStandardItem*> makeChoiceCells(const ChoiceRow& row)
+{
+    auto* name = new QStandardItem(row.name);
+    if (!row.toolTip.isEmpty()) {
+        name->setToolTip(row.toolTip);
+    }
+    if (row.foreground.style() != Qt::NoBrush) {
+        name->setForeground(row.foreground);
+    }
+    const QList<QStandardItem*> cells = {
+        new QStandardItem,
+        makeCentred(row.number > 0 ? formatRowNumber(row.number) : QString()),
+        name,
+        new QStandardItem(QString::number(row.playCount)),
+        new QStandardItem(QString::number(row.progIndex)),
+        new QStandardItem(row.isNew ? QStringLiteral("1") : QStringLiteral("0"))};
+    for (QStandardItem* cell : cells) {
+        cell->setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    }
+    cells.at(ChoiceCountColumn)->setEditable(true);
+    return cells;
+}
+
+bool isRowChecked(const QAbstractItemModel& model, int row)
+{
+    static_assert(int(OfferCheckColumn) == int(ChoiceCheckColumn));
+    return model.index(row, ChoiceCheckColumn).data(kCheckRole).toBool();
+}
+
+void setRowChecked(QAbstractItemModel& model, int row, bool checked)
+{
+    model.setData(model.index(row, ChoiceCheckColumn), checked, kCheckRole);
+}
+
+std::vector<int> checkedRows(const QAbstractItemModel& model)
+{
+    std::vector<int> rows;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        if (isRowChecked(model, row)) {
+            rows.push_back(row);
+        }
+    }
+    return rows;
+}
+
+int countCheckedRows(const QAbstractItemModel& model)
+{
+    int count = 0;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        count += isRowChecked(model, row) ? 1 : 0;
+    }
+    return count;
+}
+
+struProgInfo choiceAt(const QAbstractItemModel& model, int row)
+{
+    struProgInfo entry;
+    entry.progIndex = choiceIndexAt(model, row);
+    entry.progName = model.index(row, ChoiceNameColumn).data().toString().toStdString();
+    entry.playCount = choiceCountAt(model, row);
+    return entry;
+}
+
+int choiceIndexAt(const QAbstractItemModel& model, int row)
+{
+    return model.index(row, ChoiceIndexColumn).data().toString().toInt();
+}
+
+int choiceCountAt(const QAbstractItemModel& model, int row)
+{
+    return model.index(row, ChoiceCountColumn).data().toString().toInt();
+}
+
+bool isNewChoice(const QAbstractItemModel& model, int row)
+{
+    return model.index(row, ChoiceNewColumn).data().toBool();
+}
+
+void removeRows(QAbstractItemModel& model, const std::vector<int>& rows)
+{
+    // From the end, so that the numbers of the runs before stay right.
+    for (auto last = rows.rbegin(); last != rows.rend();) {
+        auto first = last;
+        while (std::next(first) != rows.rend() && *std::next(first) == *first - 1) {
+            ++first;
+        }
+        model.removeRows(*first, *last - *first + 1);
+        last = std::next(first);
+    }
+}
+
+void removeEntries(std::vector<struProgInfo>& entries, const std::vector<int>& rows)
+{
+    std::vector<struProgInfo> kept;
+    kept.reserve(entries.size());
+    auto removed = rows.begin();
+    for (std::size_t row = 0; row < entries.size(); ++row) {
+        if (removed != rows.end() && static_cast<std::size_t>(*removed) == row) {
+            ++removed;
+        } else {
+            kept.push_back(std::move(entries[row]));
+        }
+    }
+    entries = std::move(kept);
+}
+
+double totalDuration(const QAbstractItemModel& model, int editedRow, int editedCount,
+                     double (*length)(int progIndex))
+{
+    double total = 0.0;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        if (row != editedRow) {
+            total += length(choiceIndexAt(model, row)) * choiceCountAt(model, row);
+        }
+    }
+    if (editedRow >= 0 && editedCount > 0) {
+        total += length(choiceIndexAt(model, editedRow)) * editedCount;
+    }
+    return total;
+}
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,87 @@
+#include "ChooserTables.h"
+
+#include "CheckBoxDelegate.h"
+#include "ChooserColumns.h"
+#include "CustomTableModel.h"
+#include "LeftCheckNumDelegate.h"
+#include "RightCheckNumDelegate.h"
+#include "SHeaderView.h"
+#include "SpinBoxDelegate.h"
+
+#include <QScrollBar>
+#include <QTableView>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+constexpr int kRowHeight = 31;
+constexpr int kCheckWidth = 34;
+constexpr int kNumberWidth = 50;
+constexpr int kNameWidth = 110;
+constexpr int kCountWidth = 94;
+
+SHeaderView* setUpHeader(QTableView* table, CustomTableModel* model, CheckType type)
+{
+    auto* header = new SHeaderView(type, Qt::Horizontal, table);
+    header->setObjectName(QStringLiteral("schedule"));
+    table->setHorizontalHeader(header);
+    header->setDefaultAlignment(Qt::AlignCenter);
+    // Some styles would not let a section be as narrow as the mark.
+    header->setMinimumSectionSize(kCheckWidth);
+    // The header paints labels of its own; a section without an item would show its number below.
+    for (int section = 0; section < model->columnCount(); ++section) {
+        model->setHorizontalHeaderItem(section, new QStandardItem);
+        header->setSectionResizeMode(section, QHeaderView::Fixed);
+    }
+    header->setStretchLastSection(true);
+    return header;
+}
+
+SHeaderView* setUpTable(QTableView* table, CustomTableModel* model, CheckType type)
+{
+    static_assert(int(OfferCheckColumn) == int(ChoiceCheckColumn));
+    static_assert(int(OfferOrderColumn) == int(ChoiceNumberColumn));
+    table->setObjectName(QStringLiteral("schedule"));
+    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table->setModel(model);
+    SHeaderView* header = setUpHeader(table, model, type);
+    table->verticalHeader()->setDefaultSectionSize(kRowHeight);
+    table->verticalHeader()->hide();
+    table->setShowGrid(false);
+    table->setFocusPolicy(Qt::NoFocus);
+    table->setColumnWidth(OfferCheckColumn, kCheckWidth);
+    table->setColumnWidth(OfferOrderColumn, kNumberWidth);
+    table->setSelectionMode(QAbstractItemView::NoSelection);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setItemDelegateForColumn(OfferCheckColumn, new CheckBoxDelegate(type, table));
+    table->verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
+    return header;
+}
+
+} // namespace
+
+SHeaderView* setUpProgramTable(QTableView* table, CustomTableModel* model)
+{
+    model->setColumnCount(OfferColumnCount);
+    SHeaderView* header = setUpTable(table, model, ProgramListCheck);
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setItemDelegateForColumn(OfferOrderColumn, new LeftCheckNumDelegate(table));
+    table->setAttribute(Qt::WA_Hover);
+    return header;
+}
+
+SHeaderView* setUpPlanTable(QTableView* table, CustomTableModel* model)
+{
+    // The hidden columns come into being with the first row.
+    model->setColumnCount(ChoiceVisibleColumnCount);
+    SHeaderView* header = setUpTable(table, model, PlanListCheck);
+    table->setColumnWidth(ChoiceNameColumn, kNameWidth);
+    table->setColumnWidth(ChoiceCountColumn, kCountWidth);
+    table->setItemDelegateForColumn(ChoiceNumberColumn, new RightCheckNumDelegate(table));
+    table->setItemDelegateForColumn(ChoiceCountColumn, new SpinBoxDelegate(table));
+    table->setEditTriggers(QAbstractItemView::DoubleClicked);
+    return header;
+}
+
+} // namespace trel::mediadispatch
