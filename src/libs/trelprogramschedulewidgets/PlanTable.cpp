@@ -1,7 +1,9 @@
 #include "PlanTable.h"
 
+#include "LineEditDelegate.h"
 #include "PlanColumns.h"
 #include "PlanStandardItemModel.h"
+#include "ReadOnlyDelegate.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
@@ -53,9 +55,22 @@ void setUpBehaviour(QTableView& table)
     table.setFocusPolicy(Qt::NoFocus);
 }
 
+LineEditDelegate* addDelegates(QTableView& table, QObject* owner)
+{
+    auto* const readOnly = new ReadOnlyDelegate(owner);
+    for (const int column :
+         {TitleColumn, ModeCaptionColumn, StartTimeCaptionColumn, EndTimeCaptionColumn,
+          TimesCaptionColumn, WeeksCaptionColumn, EndActionCaptionColumn, StateColumn}) {
+        table.setItemDelegateForColumn(column, readOnly);
+    }
+    auto* const programs = new LineEditDelegate(owner);
+    table.setItemDelegateForColumn(ProgramsColumn, programs);
+    return programs;
+}
+
 } // namespace
 
-void setUpPlanTable(QTableView& table, PlanStandardItemModel& model)
+LineEditDelegate* setUpPlanTable(QTableView& table, PlanStandardItemModel& model, QObject* owner)
 {
     table.verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
     table.verticalScrollBar()->setFixedWidth(kScrollBarWidth);
@@ -64,9 +79,11 @@ void setUpPlanTable(QTableView& table, PlanStandardItemModel& model)
     table.setModel(&model);
     setUpHeaders(table);
     setUpBehaviour(table);
+    LineEditDelegate* const programs = addDelegates(table, owner);
     for (int column = 0; column < PlanColumnCount; ++column) {
         table.setColumnWidth(column, kColumnWidths.at(static_cast<std::size_t>(column)));
     }
+    return programs;
 }
 
 } // namespace trel::mediadispatch

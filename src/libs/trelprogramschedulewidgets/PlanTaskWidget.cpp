@@ -1,80 +1,139 @@
 #include "PlanTaskWidget.h"
 
+#include "ConflictPass.h"
+#include "LineEditDelegate.h"
+#include "MultiComboBox.h"
+#include "PlanColumns.h"
+#include "PlanLabels.h"
+#include "PlanRow.h"
 #include "PlanStandardItemModel.h"
 #include "PlanTable.h"
+#include "PlanTaskForm.h"
+#include "ProgramPicking.h"
 #include "Prompts.h"
 #include "ScheduleText.h"
+#include "service/DateText.h"
+#include "service/NewPlan.h"
+#include "service/PlanTiming.h"
+#include "service/TimeText.h"
+#include "service/scheduleManage.h"
 
-#include "ui_PlanTaskWidget.h"
+#include "trelwidgets/ComboBox.h"
 
-#include <QApplication>
 #include <QDate>
-#include <QEnterEvent>
-#include <QToolTip>
+#include <QDebug>
+#include <QPointer>
+#include <QSpinBox>
+#include <QTimeEdit>
+
+#include <algorithm>
+#include <utility>
 
 namespace trel::mediadispatch {
 
+using widgets::ComboBox;
+
 namespace {
 
-constexpr int kCardWidth = 1100;
+constexpr int kLeastTimes = 1;
+/// One more than the box of a row can show: what reaches the card in other ways may hold it.
+constexpr int kMostTimes = 1000;
+constexpr int kConfirmed = 0;
 
-QDate dateFromText(const std::string& text)
+scheduleManage& service()
 {
-    return QDate::fromString(QString::fromStdString(text), kDateFormat);
+    return scheduleManage::getInstance();
 }
 
-void showToolTip(const QEvent& event, const QString& text, QPushButton* button)
+bool hasNoDuration(int progIndex)
 {
-    QToolTip::showText(static_cast<const QEnterEvent&>(event).globalPos(), text, button);
+    return service().isNoDurationType(progIndex);
+}
+
+bool areTimesTaken(int times)
+{
+    return times >= kLeastTimes && times <= kMostTimes;
+}
+
+template <typename Plans>
+auto planWithId(Plans& plans, int id)
+{
+    return std::find_if(plans.begin(), plans.end(),
+                        [id](const PlayPlan& plan) { return plan.id == id; });
 }
 
 } // namespace
 
 PlanTaskWidget::PlanTaskWidget(const PlayTask& task, QWidget* parent)
     : QWidget(parent)
-    , m_ui(std::make_unique<Ui::PlanTaskWidget>())
+    , m_ui(std::make_unique<PlanTaskForm>())
     , m_task(task)
 {
     qRegisterMetaType<ComBoxType>("ComBoxType");
-    setUpCard();
+    setUpForm();
     setUpTable();
-    showDates();
+    m_ui->showDates(m_task);
     makeConnections();
+    loadPlans();
 }
 
 PlanTaskWidget::~PlanTaskWidget() = default;
 
-void PlanTaskWidget::setUpCard()
+void PlanTaskWidget::setUpForm()
 {
-    setFixedWidth(kCardWidth);
-    setAttribute(Qt::WA_StyledBackground);
-    setProperty("style", QStringLiteral("BG1"));
-
-    m_ui->setupUi(this);
+    m_ui->setUp(*this);
+    m_ui->translate(m_task);
     m_ui->pbtCreatCopy->installEventFilter(this);
     m_ui->pushButtonDelete->installEventFilter(this);
-    m_ui->arrow->setProperty("labelImage", QStringLiteral("down"));
-    translateFrame();
 }
 
 void PlanTaskWidget::setUpTable()
 {
     m_model = new PlanStandardItemModel(this);
-    setUpPlanTable(*m_ui->tableView, *m_model);
+    LineEditDelegate* const programs = setUpPlanTable(*m_ui->tableView, *m_model, this);
+    connect(programs, &LineEditDelegate::signalClicked, this, &PlanTaskWidget::slotAddProgram);
     m_ui->tableView->viewport()->installEventFilter(this);
-}
-
-void PlanTaskWidget::showDates()
-{
-    m_ui->dateEditVaildStartTime->setDate(dateFromText(m_task.startDate));
-    m_ui->dateEditVaildEndTime->setDate(dateFromText(m_task.endDate));
 }
 
 void PlanTaskWidget::makeConnections()
 {
     connect(m_ui->title, &QPushButton::toggled, this, &PlanTaskWidget::slotFold);
+    connect(m_ui->pushButtonAdd, &QPushButton::clicked, this,
+            &PlanTaskWidget::onPushButtonAddClicked);
+    connect(m_ui->dateEditVaildStartTime, &QDateEdit::dateChanged, this,
+            &PlanTaskWidget::slotUpdateStartTimeDate);
+    connect(m_ui->dateEditVaildEndTime, &QDateEdit::dateChanged, this,
+            &PlanTaskWidget::slotUpdateEndTimeDate);
     connect(m_ui->pushButtonDelete, &QPushButton::clicked, this, &PlanTaskWidget::slotDeleteTask);
     connect(m_ui->pbtCreatCopy, &QPushButton::clicked, this, &PlanTaskWidget::slotCopyTask);
+    connect(m_model, &PlanStandardItemModel::itemChanged, this,
+            &PlanTaskWidget::slotcurrentChanged);
+    connect(&service(), &scheduleManage::signalReflushConflict, this,
+            &PlanTaskWidget::slotReflushConflict);
+    connect(&service(), &scheduleManage::signalUpdatePlanEndTime, this,
+            &PlanTaskWidget::slotUpdateEndTime);
+}
+
+// Does for each plan what slotAddRowPlan does. While rows are all that is added the plans stay as
+// they are, and so do their collisions: they are worked out once.
+void PlanTaskWidget::loadPlans()
+{
+    if (m_task.plans.empty()) {
+        return;
+    }
+    m_ui->tableView->setUpdatesEnabled(false);
+    const std::set<int> colliding = markConflicts(m_task);
+    for (std::size_t i = 0; i < m_task.plans.size(); ++i) {
+        PlayPlan plan = m_task.plans[i];
+        if (plan.id == kNoPlanId) {
+            completeNewPlan(plan, m_task);
+        }
+        const int row = buildRow(plan);
+        showState(m_conflictLabels.back(), colliding);
+        service().addTask(m_task);
+        openRowEditors(*m_ui->tableView, row);
+    }
+    m_ui->tableView->setUpdatesEnabled(true);
 }
 
 void PlanTaskWidget::setFolded(bool folded)
@@ -89,30 +148,424 @@ bool PlanTaskWidget::isFolded() const
 
 void PlanTaskWidget::slotFold(bool isFold)
 {
-    m_ui->arrow->setProperty("labelImage",
-                             isFold ? QStringLiteral("right") : QStringLiteral("down"));
-    // A style sheet looks at a property again only when the style is set anew.
-    m_ui->arrow->setStyle(QApplication::style());
-    m_ui->widget->setVisible(!isFold);
+    m_ui->showFolded(isFold);
     adjustSize();
 }
 
 bool PlanTaskWidget::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Enter) {
-        if (watched == m_ui->pbtCreatCopy) {
-            showToolTip(*event, scheduleText("zhCreateCopy"), m_ui->pbtCreatCopy);
-        } else if (watched == m_ui->pushButtonDelete) {
-            showToolTip(*event, scheduleText("szDeleteStr"), m_ui->pushButtonDelete);
-        }
-    }
+    m_ui->showToolTipOnEnter(watched, *event);
     return QWidget::eventFilter(watched, event);
 }
 
-void PlanTaskWidget::slotDeleteTask()
+void PlanTaskWidget::slotTranslation()
 {
-    if (askConfirmation(scheduleText("szDeleteTaskConfirmStr"))) {
-        emit signalDeleteTask(m_task.id);
+    for (const auto& box : m_modeCombos) {
+        translateModeBox(*box.widget);
+    }
+    for (const auto& box : m_weekCombos) {
+        translateWeekBox(*box.widget);
+    }
+    for (const auto& box : m_endActionCombos) {
+        translateEndActionBox(*box.widget);
+    }
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        translatePlanRow(*m_ui->tableView, row);
+    }
+    m_ui->translate(m_task);
+    m_ui->pbtCreatCopy->setToolTip(scheduleText("zhCreateCopy"));
+    m_ui->pushButtonDelete->setToolTip(scheduleText("szDeleteStr"));
+    refreshConflicts();
+}
+
+void PlanTaskWidget::onPushButtonAddClicked()
+{
+    slotAddRowPlan(planTemplate(), false);
+}
+
+void PlanTaskWidget::slotAddRowPlan(PlayPlan plan, bool init)
+{
+    if (plan.id == kNoPlanId) {
+        completeNewPlan(plan, m_task);
+    }
+    if (!init && !choosePrograms(plan)) {
+        return;
+    }
+    plan.isConflict = false;
+    const int row = buildRow(plan);
+    if (!init) {
+        service().addPlan(m_task.id, plan);
+        m_task.plans.push_back(std::move(plan));
+    }
+    refreshConflicts();
+    openRowEditors(*m_ui->tableView, row);
+}
+
+bool PlanTaskWidget::choosePrograms(PlayPlan& plan)
+{
+    ProgramPicking picking(&m_task, m_task.id, plan.id, this, true);
+    if (picking.execChoose() != kConfirmed) {
+        return false;
+    }
+    plan.hasNoDuration = picking.hasNoDuration();
+    plan.programs = picking.getSelectedPrograms();
+    return true;
+}
+
+int PlanTaskWidget::buildRow(PlayPlan& plan)
+{
+    const PlanRowEditors editors = appendPlanRow(*m_ui->tableView, *m_model, plan);
+    connect(editors.mode, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &PlanTaskWidget::slotModeIndexChanged);
+    connect(editors.startTime, &QTimeEdit::timeChanged, this,
+            &PlanTaskWidget::slotStartTimeChanged);
+    connect(editors.endTime, &QTimeEdit::timeChanged, this, &PlanTaskWidget::slotEndTimeChanged);
+    connect(editors.times, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            &PlanTaskWidget::slotTimesChanged);
+    connect(editors.weeks, &MultiComboBox::signalSelectedText, this,
+            &PlanTaskWidget::slotSelectedText);
+    connect(editors.endAction, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &PlanTaskWidget::slotEndActionIndexChanged);
+    connect(editors.copy, &QPushButton::clicked, this, &PlanTaskWidget::slotCopyPlan);
+    connect(editors.remove, &QPushButton::clicked, this, &PlanTaskWidget::slotDeletePlan);
+
+    m_modeCombos.push_back({editors.row, editors.mode});
+    m_startTimeEdits.push_back({editors.row, editors.startTime});
+    m_endTimeEdits.push_back({editors.row, editors.endTime});
+    m_timesSpins.push_back({editors.row, editors.times});
+    m_conflictLabels.push_back({editors.row, editors.state});
+    m_weekCombos.push_back({editors.row, editors.weeks});
+    m_endActionCombos.push_back({editors.row, editors.endAction});
+    // Neither takes the place of an entry that is there.
+    m_rowByPlanId.emplace(plan.id, editors.row);
+    m_planIdByRow.emplace(editors.row, plan.id);
+    return editors.row;
+}
+
+void PlanTaskWidget::slotAddProgram(int row)
+{
+    const auto planId = m_planIdByRow.find(row);
+    if (planId == m_planIdByRow.end()) {
+        return;
+    }
+    ProgramPicking picking(&m_task, m_task.id, planId->second, this, false);
+    QString text = picking.getSelectedProgramText();
+    if (picking.execChoose() == kConfirmed) {
+        text = picking.getSelectedProgramText();
+        m_model->setData(m_model->index(row, ProgramsColumn), text, ProgramTextRole);
+        lockModeOfRow(row, planId->second);
+    }
+    service().setqstrSelectedProgram(text.toStdString());
+    m_task = service().getTask(m_task.id);
+
+    const PlayPlan* const plan = planOfRow(row);
+    if (plan && plan->mode == FrequencyMode) {
+        recomputeEnd(row, service().getPrograms());
+        refreshConflicts();
+    }
+}
+
+// Allows a choice of the mode only as long as every program of the stored plan has a length.
+void PlanTaskWidget::lockModeOfRow(int row, int planId)
+{
+    ComboBox* const box = widgetOfRow(m_modeCombos, row);
+    if (!box) {
+        return;
+    }
+    int index = -1;
+    const bool isLocked = service().getPlan(m_task.id, planId, index).hasNoDuration;
+    if (isLocked) {
+        box->setCurrentIndex(TimeMode);
+    }
+    box->setDisabled(isLocked);
+}
+
+PlayPlan* PlanTaskWidget::planOfRow(int row)
+{
+    // A task that was read from the service again may hold fewer plans than there are rows.
+    const auto index = static_cast<std::size_t>(row);
+    return row >= 0 && index < m_task.plans.size() ? &m_task.plans[index] : nullptr;
+}
+
+PlayPlan* PlanTaskWidget::planByIdOfRow(int row)
+{
+    const auto id = m_planIdByRow.find(row);
+    if (id == m_planIdByRow.end()) {
+        return nullptr;
+    }
+    const auto plan = planWithId(m_task.plans, id->second);
+    return plan == m_task.plans.end() ? nullptr : &*plan;
+}
+
+void PlanTaskWidget::computeEndTime(int index, std::string& out)
+{
+    if (const PlayPlan* const plan = planOfRow(index)) {
+        out = plannedEnd(*plan, service().getPrograms(), hasNoDuration);
+    }
+}
+
+void PlanTaskWidget::recomputeEnd(int row, const std::map<int, ProgramIten>& catalogue)
+{
+    PlayPlan* const plan = planOfRow(row);
+    QTimeEdit* const editor = widgetOfRow(m_endTimeEdits, row);
+    if (!plan || !editor) {
+        return;
+    }
+    // Written first: the editor comes back through slotEndTimeChanged, which has to find nothing
+    // new.
+    plan->endTime = plannedEnd(*plan, catalogue, hasNoDuration);
+    editor->setTime(timeFromText(plan->endTime));
+}
+
+void PlanTaskWidget::slotUpdateEndTime()
+{
+    const std::map<int, ProgramIten> catalogue = service().getPrograms();
+    for (const auto& end : m_endTimeEdits) {
+        const PlayPlan* const plan = planOfRow(end.row);
+        if (plan && plan->mode == FrequencyMode) {
+            recomputeEnd(end.row, catalogue);
+        }
+    }
+    refreshConflicts();
+}
+
+void PlanTaskWidget::refreshConflicts()
+{
+    const std::set<int> colliding = markConflicts(m_task);
+    for (const auto& state : m_conflictLabels) {
+        showState(state, colliding);
+    }
+    m_ui->tableView->QWidget::update();
+    service().addTask(m_task);
+}
+
+void PlanTaskWidget::showState(const RowWidget<QLabel>& state, const std::set<int>& colliding)
+{
+    const auto planId = m_planIdByRow.find(state.row);
+    if (state.widget && planId != m_planIdByRow.end()) {
+        showPlanState(*state.widget, colliding.count(planId->second) > 0);
+    }
+}
+
+void PlanTaskWidget::slotReflushConflict(int)
+{
+    m_task = service().getTask(m_task.id);
+    refreshConflicts();
+}
+
+void PlanTaskWidget::slotModeIndexChanged(int index)
+{
+    const int row = rowOfWidget(m_modeCombos, sender());
+    if (row != -1) {
+        slotCurrentIndexChangeSignal(row, ModeCombo, index);
+    }
+}
+
+void PlanTaskWidget::slotEndActionIndexChanged(int index)
+{
+    const int row = rowOfWidget(m_endActionCombos, sender());
+    if (row != -1) {
+        slotCurrentIndexChangeSignal(row, EndActionCombo, index);
+    }
+}
+
+void PlanTaskWidget::slotCurrentIndexChangeSignal(int row, ComBoxType type, int value)
+{
+    switch (type) {
+    case ModeCombo:
+        changeMode(row, value);
+        break;
+    case EndActionCombo:
+        if (PlayPlan* const plan = planOfRow(row)) {
+            plan->endAction = value;
+        }
+        break;
+    }
+    refreshConflicts();
+}
+
+// The end is worked out in both directions, so that a plan that goes back to TimeMode starts from
+// the end that it had in FrequencyMode.
+void PlanTaskWidget::changeMode(int row, int mode)
+{
+    if (QSpinBox* const times = widgetOfRow(m_timesSpins, row)) {
+        times->setDisabled(mode == TimeMode);
+    }
+    if (QTimeEdit* const end = widgetOfRow(m_endTimeEdits, row)) {
+        end->setDisabled(mode != TimeMode);
+        recomputeEnd(row, service().getPrograms());
+    }
+    qDebug() << "mode changed:" << 0 << mode;
+    if (PlayPlan* const plan = planOfRow(row)) {
+        plan->mode = mode;
+    }
+}
+
+void PlanTaskWidget::slotStartTimeChanged(QTime newTime)
+{
+    const int row = rowOfWidget(m_startTimeEdits, sender());
+    PlayPlan* const plan = planOfRow(row);
+    if (!plan) {
+        return;
+    }
+    if (plan->mode == FrequencyMode) {
+        // The end follows the new start, while the check that comes after it has to compare with
+        // the start from before the edit.
+        const std::string formerStart = std::exchange(plan->startTime, timeToText(newTime));
+        recomputeEnd(row, service().getPrograms());
+        if (PlayPlan* const samePlan = planOfRow(row)) {
+            samePlan->startTime = formerStart;
+        }
+    }
+    slotUpdateTime(row, StartTimeColumn, newTime);
+}
+
+void PlanTaskWidget::slotEndTimeChanged(QTime newTime)
+{
+    const int row = rowOfWidget(m_endTimeEdits, sender());
+    if (row != -1) {
+        slotUpdateTime(row, EndTimeColumn, newTime);
+    }
+}
+
+void PlanTaskWidget::slotTimesChanged(int value)
+{
+    const int row = rowOfWidget(m_timesSpins, sender());
+    if (!areTimesTaken(value) || m_planIdByRow.count(row) == 0) {
+        return;
+    }
+    if (PlayPlan* const plan = planByIdOfRow(row)) {
+        plan->times = value;
+    }
+    recomputeEnd(row, service().getPrograms());
+    refreshConflicts();
+}
+
+// A number of runs that is written into the cell itself. The end and its editor are left to the
+// next recalculation.
+void PlanTaskWidget::slotcurrentChanged(QStandardItem* item)
+{
+    if (item->column() != TimesColumn) {
+        return;
+    }
+    const int times = item->text().toInt(nullptr, 10);
+    if (!areTimesTaken(times)) {
+        return;
+    }
+    if (PlayPlan* const plan = planByIdOfRow(item->row())) {
+        plan->times = times;
+        refreshConflicts();
+    }
+}
+
+void PlanTaskWidget::slotSelectedText(QStringList newWeeks)
+{
+    const int row = rowOfWidget(m_weekCombos, sender());
+    if (PlayPlan* const plan = planByIdOfRow(row)) {
+        plan->weeks = weeksFromLabels(newWeeks);
+        refreshConflicts();
+    }
+}
+
+void PlanTaskWidget::refreshEditorrow(int row)
+{
+    QAbstractItemDelegate* const delegate = m_ui->tableView->itemDelegateForColumn(ProgramsColumn);
+    if (auto* const programs = qobject_cast<LineEditDelegate*>(delegate)) {
+        programs->removeRow(row);
+    }
+}
+
+// What is refused goes back through the editor's own signal with the stored value, which passes.
+// A service or a host may act while a refusal is on screen: the card may be gone afterwards, or
+// hold a task that was read anew.
+
+void PlanTaskWidget::slotUpdateStartTimeDate(QDate date)
+{
+    const std::string text = dateToText(date);
+    if (m_task.endDate < text) {
+        if (isAliveAfterRefusal()) {
+            m_ui->dateEditVaildStartTime->setDate(dateFromText(m_task.startDate));
+        }
+        return;
+    }
+    m_task.startDate = text;
+    refreshConflicts();
+}
+
+void PlanTaskWidget::slotUpdateEndTimeDate(QDate date)
+{
+    const std::string text = dateToText(date);
+    if (text < m_task.startDate) {
+        if (isAliveAfterRefusal()) {
+            m_ui->dateEditVaildEndTime->setDate(dateFromText(m_task.endDate));
+        }
+        return;
+    }
+    m_task.endDate = text;
+    refreshConflicts();
+}
+
+void PlanTaskWidget::slotUpdateTime(int row, int clo, QTime time)
+{
+    if (!planByIdOfRow(row)) {
+        return;
+    }
+    if (clo == EndTimeColumn) {
+        updateEndTime(row, timeToText(time));
+    } else if (clo == StartTimeColumn) {
+        updateStartTime(row, timeToText(time));
+    } else {
+        refreshConflicts();
+    }
+}
+
+void PlanTaskWidget::updateEndTime(int row, const std::string& time)
+{
+    PlayPlan* const plan = planByIdOfRow(row);
+    // This is what ends the nested call when the card itself sets the editor.
+    if (time == plan->endTime) {
+        return;
+    }
+    if (time < plan->startTime) {
+        if (!isAliveAfterRefusal()) {
+            return;
+        }
+        restoreTime(widgetOfRow(m_endTimeEdits, row), row, &PlayPlan::endTime);
+    } else {
+        plan->endTime = time;
+    }
+    refreshConflicts();
+}
+
+void PlanTaskWidget::updateStartTime(int row, const std::string& time)
+{
+    PlayPlan* const plan = planByIdOfRow(row);
+    if (time == plan->startTime) {
+        return;
+    }
+    if (plan->endTime < time) {
+        if (!isAliveAfterRefusal()) {
+            return;
+        }
+        restoreTime(widgetOfRow(m_startTimeEdits, row), row, &PlayPlan::startTime);
+    } else {
+        plan->startTime = time;
+    }
+    refreshConflicts();
+}
+
+bool PlanTaskWidget::isAliveAfterRefusal()
+{
+    const QPointer<PlanTaskWidget> self(this);
+    showRefusal(scheduleText("zhStartVaildTimeError"));
+    return !self.isNull();
+}
+
+void PlanTaskWidget::restoreTime(QTimeEdit* editor, int row, std::string PlayPlan::*time)
+{
+    const PlayPlan* const plan = planByIdOfRow(row);
+    if (editor && plan) {
+        editor->setTime(timeFromText(plan->*time));
     }
 }
 
@@ -121,19 +574,86 @@ void PlanTaskWidget::slotCopyTask()
     emit signalCopyTask(m_task.id);
 }
 
-void PlanTaskWidget::translateFrame()
+void PlanTaskWidget::slotDeleteTask()
 {
-    m_ui->title->setText(
-        QStringLiteral("%1%2    ").arg(scheduleText("zhPlayTaskStr"), QString::number(m_task.id)));
-    m_ui->labelvalidTime->setText(scheduleText("zhEffectiveStr") + scheduleText("zhFromStr"));
-    m_ui->labelTo->setText(scheduleText("zhToStr"));
+    if (isConfirmed("szDeleteTaskConfirmStr")) {
+        emit signalDeleteTask(m_task.id);
+    }
 }
 
-void PlanTaskWidget::slotTranslation()
+void PlanTaskWidget::slotCopyPlan()
 {
-    translateFrame();
-    m_ui->pbtCreatCopy->setToolTip(scheduleText("zhCreateCopy"));
-    m_ui->pushButtonDelete->setToolTip(scheduleText("szDeleteStr"));
+    const auto* const button = qobject_cast<QPushButton*>(sender());
+    if (!button) {
+        return;
+    }
+    const int id = button->property("id").toInt();
+
+    const auto found = m_rowByPlanId.find(id);
+    const int row = found == m_rowByPlanId.end() ? -1 : found->second;
+    PlayPlan source;
+    if (row != -1) {
+        for (const PlayPlan& plan : m_task.plans) {
+            if (plan.id == id) {
+                source = plan;
+            }
+        }
+    }
+    PlayPlan copy = followingCopy(source, m_task);
+    m_task.plans.push_back(copy);
+    if (copy.mode == FrequencyMode) {
+        // The end comes from the plan below the source, which is the copy itself only when the
+        // source was the last row. The next edit of the copy works out its own.
+        computeEndTime(row + 1, copy.endTime);
+        m_task.plans.back().endTime = copy.endTime;
+    }
+    service().addPlan(m_task.id, copy);
+    slotAddRowPlan(copy, true);
+    refreshConflicts();
+}
+
+void PlanTaskWidget::slotDeletePlan()
+{
+    if (!isConfirmed("szDeletePlanConfirmStr")) {
+        return;
+    }
+    const auto* const button = qobject_cast<QPushButton*>(sender());
+    if (!button) {
+        return;
+    }
+    const int id = button->property("id").toInt();
+    const auto found = m_rowByPlanId.find(id);
+    if (found != m_rowByPlanId.end()) {
+        const auto plan = planWithId(m_task.plans, id);
+        if (plan != m_task.plans.end()) {
+            m_task.plans.erase(plan);
+        }
+        const int row = found->second;
+        m_model->removeRow(row);
+        forgetRow(row);
+    }
+    refreshConflicts();
+}
+
+// False also when the card has gone while the question was on screen.
+bool PlanTaskWidget::isConfirmed(const char* key)
+{
+    const QPointer<PlanTaskWidget> self(this);
+    return askConfirmation(scheduleText(key)) && self;
+}
+
+void PlanTaskWidget::forgetRow(int row)
+{
+    m_rowByPlanId = withoutRowValue(m_rowByPlanId, row);
+    m_planIdByRow = withoutRowKey(m_planIdByRow, row);
+    dropRow(m_modeCombos, row);
+    dropRow(m_endTimeEdits, row);
+    dropRow(m_startTimeEdits, row);
+    dropRow(m_timesSpins, row);
+    dropRow(m_weekCombos, row);
+    dropRow(m_conflictLabels, row);
+    dropRow(m_endActionCombos, row);
+    refreshEditorrow(row);
 }
 
 } // namespace trel::mediadispatch

@@ -20,10 +20,6 @@ class QStandardItem;
 class QTime;
 class QTimeEdit;
 
-namespace Ui {
-class PlanTaskWidget;
-}
-
 namespace trel::widgets {
 class ComboBox;
 }
@@ -32,6 +28,7 @@ namespace trel::mediadispatch {
 
 class MultiComboBox;
 class PlanStandardItemModel;
+class PlanTaskForm;
 
 /// The card of one task: its period of validity and a table with a row for each of its plans.
 ///
@@ -67,9 +64,54 @@ signals:
 
 public slots:
     void slotFold(bool isFold);
+    /// Asks for the programs of a new plan and adds it.
+    void onPushButtonAddClicked();
 
+    /// Adds a row for a plan at the end of the table. With init the plan already stands in the task
+    /// and in the service. Without it the operator is asked for the plan's programs first, and a
+    /// choice that is not confirmed adds nothing. A plan with the id -1 is given its id and times.
+    void slotAddRowPlan(PlayPlan plan = PlayPlan(), bool init = false);
+    /// Lets the operator choose the programs of a row's plan.
+    void slotAddProgram(int row);
+
+    /// Take a new first or last day, or refuse it and put the stored day back into the editor.
+    void slotUpdateStartTimeDate(QDate date);
+    void slotUpdateEndTimeDate(QDate date);
+
+    /// Takes a new mode or end action for a row's plan. Any other type changes nothing, but the
+    /// task is checked and stored all the same.
+    void slotCurrentIndexChangeSignal(int row, ComBoxType type, int value);
+
+    /// Asks, then emits signalDeleteTask.
     void slotDeleteTask();
     void slotCopyTask();
+    /// Asks, then removes the plan whose button was pressed.
+    void slotDeletePlan();
+    /// Adds a copy of the plan whose button was pressed at the end of the table.
+    void slotCopyPlan();
+
+    /// Takes a new start or end time for a row's plan, or refuses it and puts the stored time back
+    /// into the editor. clo is StartTimeColumn or EndTimeColumn; any other column changes nothing,
+    /// but the task is checked and stored all the same.
+    void slotUpdateTime(int row, int clo, QTime time);
+    /// Takes a number of runs, 1 to 1000, that was written into the cell of a row.
+    void slotcurrentChanged(QStandardItem* item);
+
+    // The editors of the rows.
+    void slotTimesChanged(int value);
+    void slotModeIndexChanged(int index);
+    void slotEndActionIndexChanged(int index);
+    void slotEndTimeChanged(QTime newTime);
+    void slotStartTimeChanged(QTime newTime);
+    void slotSelectedText(QStringList newWeeks);
+
+    /// Works out afresh the end of every plan whose end follows from its programs.
+    void slotUpdateEndTime();
+    /// Reads the task from the service again. The editors on show are not filled anew. progId tells
+    /// nothing: every card answers.
+    void slotReflushConflict(int progId);
+    /// Lets the program fields follow the removal of a row.
+    void refreshEditorrow(int row);
 
     /// Fetches every text of the card anew.
     void slotTranslation();
@@ -77,13 +119,44 @@ public slots:
 private:
     friend class PlanTaskWidgetInspector;
 
-    void setUpCard();
+    void setUpForm();
     void setUpTable();
-    void showDates();
     void makeConnections();
-    void translateFrame();
+    void loadPlans();
 
-    std::unique_ptr<Ui::PlanTaskWidget> m_ui;
+    bool choosePrograms(PlayPlan& plan);
+    /// Appends the plan's row and enters it everywhere. Corrects in the plan what a row cannot
+    /// show. Returns the row.
+    int buildRow(PlayPlan& plan);
+    void lockModeOfRow(int row, int planId);
+
+    /// The plan at the row's place in the task; null when the task has no such plan.
+    PlayPlan* planOfRow(int row);
+    /// The first plan with the id that the row was given; null when there is none.
+    PlayPlan* planByIdOfRow(int row);
+
+    /// The end of the plan at the index, worked out from its programs. Leaves out alone when there
+    /// is no such plan.
+    void computeEndTime(int index, std::string& out);
+    /// The same for the plan of a row, written into the plan and shown in the row.
+    void recomputeEnd(int row, const std::map<int, ProgramIten>& catalogue);
+
+    /// Marks the plans that collide with an earlier one, shows it in the rows and hands the task
+    /// to the service.
+    void refreshConflicts();
+    void showState(const RowWidget<QLabel>& state, const std::set<int>& colliding);
+
+    void changeMode(int row, int mode);
+
+    void updateStartTime(int row, const std::string& time);
+    void updateEndTime(int row, const std::string& time);
+    bool isAliveAfterRefusal();
+    void restoreTime(QTimeEdit* editor, int row, std::string PlayPlan::*time);
+
+    bool isConfirmed(const char* key);
+    void forgetRow(int row);
+
+    std::unique_ptr<PlanTaskForm> m_ui;
     PlanStandardItemModel* m_model = nullptr;
     PlayTask m_task;
     std::map<int, int> m_rowByPlanId;

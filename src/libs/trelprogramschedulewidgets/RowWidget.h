@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include <algorithm>
+#include <map>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -47,6 +48,32 @@ void dropRow(std::vector<RowWidget<T>>& widgets, int row)
             --entry.row;
         }
     }
+}
+
+/// The same for a map from row to anything.
+template <typename T>
+std::map<int, T> withoutRowKey(const std::map<int, T>& byRow, int row)
+{
+    std::map<int, T> rest;
+    for (const auto& [itsRow, value] : byRow) {
+        if (itsRow != row) {
+            rest.emplace_hint(rest.end(), itsRow > row ? itsRow - 1 : itsRow, value);
+        }
+    }
+    return rest;
+}
+
+/// The same for a map from anything to row.
+template <typename T>
+std::map<T, int> withoutRowValue(const std::map<T, int>& rows, int row)
+{
+    std::map<T, int> rest;
+    for (const auto& [key, itsRow] : rows) {
+        if (itsRow != row) {
+            rest.emplace_hint(rest.end(), key, itsRow > row ? itsRow - 1 : itsRow);
+        }
+    }
+    return rest;
 }
 
 } // namespace trel::mediadispatch

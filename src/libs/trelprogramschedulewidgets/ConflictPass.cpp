@@ -1,0 +1,56 @@
+#include "ConflictPass.h"
+
+#include "ScheduleText.h"
+#include "service/PlanConflicts.h"
+#include "service/scheduleManage.h"
+
+#include <QLabel>
+
+#include <algorithm>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+std::vector<bool> collisions(const std::vector<PlayPlan>& plans)
+{
+    auto& service = scheduleManage::getInstance();
+    const bool needsCatalogue = std::any_of(plans.begin(), plans.end(), [](const PlayPlan& plan) {
+        return plan.mode == FrequencyMode;
+    });
+    const auto catalogue = needsCatalogue ? service.getPrograms() : std::map<int, ProgramIten>();
+    const auto hasNoDuration = [&service](int progIndex) {
+        return service.isNoDurationType(progIndex);
+    };
+    return collidingClaims(planClaims(plans, catalogue, hasNoDuration));
+}
+
+} // namespace
+
+std::set<int> markConflicts(PlayTask& task)
+{
+    const std::vector<bool> collides = collisions(task.plans);
+    std::set<int> colliding;
+    for (std::size_t i = 0; i < task.plans.size(); ++i) {
+        task.plans[i].isConflict = collides[i];
+        if (collides[i]) {
+            colliding.insert(task.plans[i].id);
+        }
+    }
+    return colliding;
+}
+
+void showPlanState(QLabel& label, bool collides)
+{
+    const QString styleSheet = collides ? QStringLiteral("color:red; padding-left: 1px;")
+                                        : QStringLiteral("color:green; padding-left: 1px;");
+    const QString text = scheduleText(collides ? "zhconflictStr" : "zhnormalStr");
+    if (label.styleSheet() != styleSheet) {
+        label.setStyleSheet(styleSheet);
+    }
+    if (label.text() != text) {
+        label.setText(text);
+    }
+}
+
+} // namespace trel::mediadispatch

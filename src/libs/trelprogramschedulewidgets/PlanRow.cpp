@@ -1,0 +1,304 @@
+#include "PlanRow.h"
+
+#include "MultiComboBox.h"
+#include "PlanColumns.h"
+#include "PlanLabels.h"
+#include "ProgramNames.h"
+#include "ScheduleText.h"
+#include "service/TimeText.h"
+#include "service/scheduleManage.h"
+
+#include "trelwidgets/ComboBox.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTimeEdit>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+constexpr int kEditorHeight = 24;
+constexpr int kButtonSize = 24;
+constexpr int kModeBoxMargin = 9;
+
+constexpr int kLeastTimes = 1;
+constexpr int kMostTimes = 999;
+
+struct Caption
+{
+    PlanColumn column;
+    const char* key;
+};
+
+constexpr std::array<Caption, 6> kCaptions = {{
+    {ModeCaptionColumn, "zhModeStr"},
+    {StartTimeCaptionColumn, "zhFromStr"},
+    {EndTimeCaptionColumn, "zhToStr"},
+    {TimesCaptionColumn, "zhfrequencyStr"},
+    {WeeksCaptionColumn, "szDateStr"},
+    {EndActionCaptionColumn, "zhEndActionStr"},
+}};
+
+// Nobody asks for it in here; it is a hook for those who look at a row from outside.
+void markRow(QWidget& editor, int row)
+{
+    editor.setProperty("row", row);
+}
+
+int appendItems(QStandardItemModel& model, const PlayPlan& plan)
+{
+    QList<QStandardItem*> items;
+    items.reserve(PlanColumnCount);
+    for (int column = 0; column < PlanColumnCount; ++column) {
+        items.append(new QStandardItem);
+    }
+    items[TitleColumn]->setText(planTitle(plan.id));
+    items[TitleColumn]->setData(plan.id, PlanIdRole);
+    items[ProgramsColumn]->setData(programNames(plan.programs), ProgramTextRole);
+    for (const Caption& caption : kCaptions) {
+        items[caption.column]->setText(scheduleText(caption.key));
+    }
+    model.appendRow(items);
+    return model.rowCount() - 1;
+}
+
+/// Puts editors into the cells of one row, each showing its value.
+class RowBuilder
+{
+public:
+    RowBuilder(QTableView& table, int row)
+        : m_table(table)
+        , m_row(row)
+    {}
+
+    /// A locked box shows TimeMode, whatever the mode.
+    widgets::ComboBox* addModeBox(int mode, bool isLocked) const;
+    /// A text that does not parse leaves the editor at its default.
+    QTimeEdit* addTimeEdit(PlanColumn column, const std::string& time) const;
+    QSpinBox* addTimesBox(int times) const;
+    QLabel* addStateLabel() const;
+    MultiComboBox* addWeekBox(const std::string& weeks) const;
+    /// A value that is no PlanEndAction leaves the box on its first entry.
+    widgets::ComboBox* addEndActionBox(int endAction) const;
+    QPushButton* addButton(PlanColumn column, const QString& image, const QString& toolTip,
+                           int planId) const;
+
+private:
+    template <typename Editor>
+    Editor* makeEditor(QWidget*& holder) const;
+    void place(PlanColumn column, QWidget* holder) const;
+
+    QTableView& m_table;
+    int m_row;
+};
+
+// The holder belongs to the viewport from the start, which is where the table wants it, so that no
+// widget is polished twice.
+template <typename Editor>
+Editor* RowBuilder::makeEditor(QWidget*& holder) const
+{
+    holder = new QWidget(m_table.viewport());
+    auto* const layout = new QVBoxLayout(holder);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* const editor = new Editor(holder);
+    layout->addWidget(editor);
+    return editor;
+}
+
+widgets::ComboBox* RowBuilder::addModeBox(int mode, bool isLocked) const
+{
+    QWidget* holder = nullptr;
+    auto* const box = makeEditor<widgets::ComboBox>(holder);
+    holder->layout()->setContentsMargins(0, kModeBoxMargin, 0, kModeBoxMargin);
+    box->setFixedHeight(kEditorHeight);
+    for (const int value : {TimeMode, FrequencyMode}) {
+        box->addItem(modeText(value), value);
+    }
+    box->setCurrentIndex(isLocked ? TimeMode : mode);
+    box->setDisabled(isLocked);
+    markRow(*box, m_row);
+    place(ModeColumn, holder);
+    return box;
+}
+
+QTimeEdit* RowBuilder::addTimeEdit(PlanColumn column, const std::string& time) const
+{
+    QWidget* holder = nullptr;
+    auto* const editor = makeEditor<QTimeEdit>(holder);
+    editor->setFixedHeight(kEditorHeight);
+    editor->setContextMenuPolicy(Qt::NoContextMenu);
+    editor->setDisplayFormat(kTimeFormat);
+    editor->setTime(timeFromText(time));
+    markRow(*editor, m_row);
+    place(column, holder);
+    return editor;
+}
+
+QSpinBox* RowBuilder::addTimesBox(int times) const
+{
+    QWidget* holder = nullptr;
+    auto* const box = makeEditor<QSpinBox>(holder);
+    box->setFixedHeight(kEditorHeight);
+    box->setContextMenuPolicy(Qt::NoContextMenu);
+    if (times > 0) {
+        box->setRange(kLeastTimes, kMostTimes);
+        box->setValue(times);
+    } else {
+        // A plan without a number of runs shows as 0, in the range that a box has by itself; the
+        // operator sees that nothing has been entered yet.
+        box->setValue(0);
+    }
+    markRow(*box, m_row);
+    place(TimesColumn, holder);
+    return box;
+}
+
+QLabel* RowBuilder::addStateLabel() const
+{
+    auto* const label = new QLabel(m_table.viewport());
+    markRow(*label, m_row);
+    place(StateColumn, label);
+    return label;
+}
+
+MultiComboBox* RowBuilder::addWeekBox(const std::string& weeks) const
+{
+    QWidget* holder = nullptr;
+    auto* const box = makeEditor<MultiComboBox>(holder);
+    box->setFixedHeight(kEditorHeight);
+    box->setSeparator(QStringLiteral(","));
+    box->setEveryDayText(weekdayText(EveryDay));
+    for (int number = EveryDay; number < WeekDayCount; ++number) {
+        box->addItem(weekdayText(number), number);
+    }
+    box->setShownText(weekLabels(weeks));
+    box->restoreCheckMarks();
+    place(WeeksColumn, holder);
+    return box;
+}
+
+widgets::ComboBox* RowBuilder::addEndActionBox(int endAction) const
+{
+    QWidget* holder = nullptr;
+    auto* const box = makeEditor<widgets::ComboBox>(holder);
+    box->setFixedHeight(kEditorHeight);
+    for (const int value : {BlackScreen, FreezeCurrentFrame}) {
+        box->addItem(endActionText(value), value);
+    }
+    if (endAction == BlackScreen || endAction == FreezeCurrentFrame) {
+        box->setCurrentIndex(endAction);
+    }
+    markRow(*box, m_row);
+    place(EndActionColumn, holder);
+    return box;
+}
+
+QPushButton* RowBuilder::addButton(PlanColumn column, const QString& image, const QString& toolTip,
+                                   int planId) const
+{
+    QWidget* holder = nullptr;
+    auto* const button = makeEditor<QPushButton>(holder);
+    button->setFixedSize(kButtonSize, kButtonSize);
+    button->setFocusPolicy(Qt::NoFocus);
+    button->setProperty("imageBtn", image);
+    button->setProperty("id", planId);
+    // The whole cell tells what the button does.
+    holder->setToolTip(toolTip);
+    place(column, holder);
+    return button;
+}
+
+void RowBuilder::place(PlanColumn column, QWidget* holder) const
+{
+    m_table.setIndexWidget(m_table.model()->index(m_row, column), holder);
+}
+
+} // namespace
+
+PlanRowEditors appendPlanRow(QTableView& table, QStandardItemModel& model, PlayPlan& plan)
+{
+    const bool isLocked =
+        std::any_of(plan.programs.begin(), plan.programs.end(), [](const struProgInfo& entry) {
+            return scheduleManage::getInstance().isNoDurationType(entry.progIndex);
+        });
+    if (isLocked) {
+        plan.mode = TimeMode;
+    }
+    if (plan.weeks.empty()) {
+        plan.weeks = std::to_string(EveryDay);
+    }
+
+    PlanRowEditors editors;
+    editors.row = appendItems(model, plan);
+    const RowBuilder row(table, editors.row);
+    editors.mode = row.addModeBox(plan.mode, isLocked);
+    editors.startTime = row.addTimeEdit(StartTimeColumn, plan.startTime);
+    editors.endTime = row.addTimeEdit(EndTimeColumn, plan.endTime);
+    editors.endTime->setDisabled(plan.mode == FrequencyMode);
+    editors.times = row.addTimesBox(plan.times);
+    editors.times->setDisabled(plan.mode == TimeMode);
+    editors.state = row.addStateLabel();
+    editors.weeks = row.addWeekBox(plan.weeks);
+    editors.endAction = row.addEndActionBox(plan.endAction);
+    editors.copy = row.addButton(CopyColumn, QStringLiteral("projectSaveAs"),
+                                 scheduleText("zhCreateCopy"), plan.id);
+    editors.remove =
+        row.addButton(DeleteColumn, QStringLiteral("delete"), scheduleText("szDeleteStr"), plan.id);
+    return editors;
+}
+
+void openRowEditors(QTableView& table, int row)
+{
+    for (const int column : {ProgramsColumn, ModeColumn, StartTimeColumn, EndTimeColumn,
+                             TimesColumn, WeeksColumn, EndActionColumn, StateColumn}) {
+        table.openPersistentEditor(table.model()->index(row, column));
+    }
+}
+
+void translatePlanRow(QTableView& table, int row)
+{
+    QAbstractItemModel& model = *table.model();
+    const auto cell = [&model, row](int column) { return model.index(row, column); };
+
+    const int planId = model.data(cell(TitleColumn), PlanIdRole).toInt();
+    model.setData(cell(TitleColumn), retranslatedPlanTitle(planId), Qt::EditRole);
+    for (const Caption& caption : kCaptions) {
+        model.setData(cell(caption.column), scheduleText(caption.key), Qt::EditRole);
+    }
+    table.indexWidget(cell(CopyColumn))->setToolTip(scheduleText("zhCreateCopy"));
+    table.indexWidget(cell(DeleteColumn))->setToolTip(scheduleText("szDeleteStr"));
+}
+
+void translateModeBox(widgets::ComboBox& box)
+{
+    for (const int mode : {TimeMode, FrequencyMode}) {
+        box.setItemText(mode, modeText(mode));
+    }
+}
+
+void translateEndActionBox(widgets::ComboBox& box)
+{
+    for (const int endAction : {BlackScreen, FreezeCurrentFrame}) {
+        box.setItemText(endAction, endActionText(endAction));
+    }
+}
+
+void translateWeekBox(MultiComboBox& box)
+{
+    box.setEveryDayText(weekdayText(EveryDay));
+    for (int number = EveryDay; number < WeekDayCount; ++number) {
+        box.setItemText(number, weekdayText(number));
+    }
+    box.update();
+}
+
+} // namespace trel::mediadispatch

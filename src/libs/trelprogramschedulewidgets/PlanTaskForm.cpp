@@ -1,0 +1,67 @@
+#include "PlanTaskForm.h"
+
+#include "ScheduleText.h"
+#include "service/DateText.h"
+#include "service/ScheduleRecords.h"
+
+#include <QApplication>
+#include <QEnterEvent>
+#include <QToolTip>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+constexpr int kCardWidth = 1100;
+
+void showToolTip(const QEvent& event, const QString& text, QPushButton* button)
+{
+    QToolTip::showText(static_cast<const QEnterEvent&>(event).globalPos(), text, button);
+}
+
+} // namespace
+
+void PlanTaskForm::setUp(QWidget& card)
+{
+    card.setFixedWidth(kCardWidth);
+    card.setAttribute(Qt::WA_StyledBackground);
+    card.setProperty("style", QStringLiteral("BG1"));
+    setupUi(&card);
+    arrow->setProperty("labelImage", QStringLiteral("down"));
+}
+
+void PlanTaskForm::showDates(const PlayTask& task)
+{
+    dateEditVaildStartTime->setDate(dateFromText(task.startDate));
+    dateEditVaildEndTime->setDate(dateFromText(task.endDate));
+}
+
+void PlanTaskForm::showFolded(bool isFolded)
+{
+    arrow->setProperty("labelImage", isFolded ? QStringLiteral("right") : QStringLiteral("down"));
+    // A style sheet looks at a property again only when the style is set anew.
+    arrow->setStyle(QApplication::style());
+    widget->setVisible(!isFolded);
+}
+
+void PlanTaskForm::translate(const PlayTask& task)
+{
+    title->setText(
+        QStringLiteral("%1%2    ").arg(scheduleText("zhPlayTaskStr"), QString::number(task.id)));
+    labelvalidTime->setText(scheduleText("zhEffectiveStr") + scheduleText("zhFromStr"));
+    labelTo->setText(scheduleText("zhToStr"));
+}
+
+void PlanTaskForm::showToolTipOnEnter(const QObject* watched, const QEvent& event)
+{
+    if (event.type() != QEvent::Enter) {
+        return;
+    }
+    if (watched == pbtCreatCopy) {
+        showToolTip(event, scheduleText("zhCreateCopy"), pbtCreatCopy);
+    } else if (watched == pushButtonDelete) {
+        showToolTip(event, scheduleText("szDeleteStr"), pushButtonDelete);
+    }
+}
+
+} // namespace trel::mediadispatch
