@@ -42,8 +42,8 @@ frequencyPlan(int id, std::string start, int times,
     return plan;
 }
 
-inline trel::mediadispatch::PlayTask
-taskWithPlans(std::vector<trel::mediadispatch::PlayPlan> plans, int id = 1)
+inline trel::mediadispatch::PlayTask taskWithPlans(std::vector<trel::mediadispatch::PlayPlan> plans,
+                                                   int id = 1)
 {
     trel::mediadispatch::PlayTask task;
     task.id = id;

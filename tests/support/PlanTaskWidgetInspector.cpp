@@ -180,12 +180,11 @@ QString PlanTaskWidgetInspector::disagreement() const
     }
     for (int row = 0; row < rowCount(); ++row) {
         const int id = plans[static_cast<std::size_t>(row)].id;
-        const bool isInStep = model().index(row, TitleColumn).data(PlanIdRole) == id &&
-                              copyButton(row).property("id") == id &&
-                              deleteButton(row).property("id") == id &&
-                              programs(row).row() == row && rowByPlanId().count(id) == 1 &&
-                              rowByPlanId()[id] == row && planIdByRow().count(row) == 1 &&
-                              planIdByRow()[row] == id;
+        const bool isInStep =
+            model().index(row, TitleColumn).data(PlanIdRole) == id &&
+            copyButton(row).property("id") == id && deleteButton(row).property("id") == id &&
+            programs(row).row() == row && rowByPlanId().count(id) == 1 &&
+            rowByPlanId()[id] == row && planIdByRow().count(row) == 1 && planIdByRow()[row] == id;
         if (!isInStep) {
             found += QStringLiteral("row %1 of plan %2; ").arg(row).arg(id);
         }

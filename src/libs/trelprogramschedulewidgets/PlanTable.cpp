@@ -17,6 +17,7 @@ namespace {
 
 constexpr int kRowHeight = 44;
 constexpr int kScrollBarWidth = 8;
+constexpr int kLeastColumnWidth = 24;
 
 constexpr std::array<int, PlanColumnCount> kColumnWidths = {
     60,       // title
@@ -38,6 +39,8 @@ void setUpHeaders(QTableView& table)
     // The themes know the table by this name.
     table.setObjectName(QStringLiteral("schedule"));
     table.horizontalHeader()->setSectionsMovable(true);
+    // The toolkit does not let a column be narrower than a wide letter by itself.
+    table.horizontalHeader()->setMinimumSectionSize(kLeastColumnWidth);
     table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table.verticalHeader()->setDefaultSectionSize(kRowHeight);
     table.verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
