@@ -43,3 +43,12 @@ inline void click(QAbstractButton& button)
 {
     QTest::mouseClick(&button, Qt::LeftButton);
 }
+
+/// A widget or layout of the card by its name.
+template <typename T>
+inline T& named(const QWidget& card, const char* name)
+{
+    T* const found = card.findChild<T*>(QLatin1String(name));
+    Q_ASSERT(found);
+    return *found;
+}
