@@ -9,7 +9,7 @@
 #include "PlanStandardItemModel.h"
 #include "PlanTable.h"
 #include "PlanTaskForm.h"
-#include "ProgramPicking.h"
+#include "ProgramChoose.h"
 #include "Prompts.h"
 #include "ScheduleText.h"
 #include "service/DateText.h"
@@ -203,12 +203,12 @@ void PlanTaskWidget::slotAddRowPlan(PlayPlan plan, bool init)
 
 bool PlanTaskWidget::choosePrograms(PlayPlan& plan)
 {
-    ProgramPicking picking(&m_task, m_task.id, plan.id, this, true);
-    if (picking.execChoose() != kConfirmed) {
+    ProgramChoose chooser(&m_task, m_task.id, plan.id, this, true);
+    if (chooser.execChoose() != kConfirmed) {
         return false;
     }
-    plan.hasNoDuration = picking.hasNoDuration();
-    plan.programs = picking.getSelectedPrograms();
+    plan.hasNoDuration = chooser.hasNoDuration();
+    plan.programs = chooser.getSelectedPrograms();
     return true;
 }
 
@@ -244,16 +244,17 @@ int PlanTaskWidget::buildRow(PlayPlan& plan)
 
 void PlanTaskWidget::slotAddProgram(int row)
 {
-    const auto planId = m_planIdByRow.find(row);
-    if (planId == m_planIdByRow.end()) {
+    const auto found = m_planIdByRow.find(row);
+    if (found == m_planIdByRow.end()) {
         return;
     }
-    ProgramPicking picking(&m_task, m_task.id, planId->second, this, false);
-    QString text = picking.getSelectedProgramText();
-    if (picking.execChoose() == kConfirmed) {
-        text = picking.getSelectedProgramText();
+    const int planId = found->second;
+    ProgramChoose chooser(&m_task, m_task.id, planId, this, false);
+    QString text = chooser.getSelectedProgramText();
+    if (chooser.execChoose() == kConfirmed) {
+        text = chooser.getSelectedProgramText();
         m_model->setData(m_model->index(row, ProgramsColumn), text, ProgramTextRole);
-        lockModeOfRow(row, planId->second);
+        lockModeOfRow(row, planId);
     }
     service().setqstrSelectedProgram(text.toStdString());
     m_task = service().getTask(m_task.id);
