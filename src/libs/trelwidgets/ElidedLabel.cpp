@@ -19,7 +19,8 @@ QSize ElidedLabel::minimumSizeHint() const
 
 void ElidedLabel::paintEvent(QPaintEvent* event)
 {
-    QFrame::paintEvent(event);
+    // The label's own painting would draw the whole text.
+    QFrame::paintEvent(event); // NOLINT(bugprone-parent-virtual-call)
     QPainter painter(this);
     const QRect area = contentsRect();
     style()->drawItemText(

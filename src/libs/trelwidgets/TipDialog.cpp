@@ -84,8 +84,9 @@ public:
         const int oneLine =
             text->fontMetrics().boundingRect(QRect(), int(Qt::TextExpandTabs), words).width();
         const int longestWord = text->minimumSizeHint().width();
-        const int width =
+        const int wanted =
             qMax(longestWord, qBound(kMinimumTextWidth, oneLine + 2, kMaximumTextWidth));
+        const int width = qMin(wanted, q->screen()->availableSize().width() * 3 / 4);
         text->setFixedSize(width, qMax(text->heightForWidth(width), icon->sizeHint().height()));
     }
 

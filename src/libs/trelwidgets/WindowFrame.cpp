@@ -14,8 +14,8 @@ namespace {
 /// also where one window lies over another of the same colour.
 QColor borderColor(const QPalette& palette)
 {
-    const QColor ground = palette.color(QPalette::Window);
-    const QColor text = palette.color(QPalette::WindowText);
+    const QColor& ground = palette.color(QPalette::Window);
+    const QColor& text = palette.color(QPalette::WindowText);
     const auto mix = [](int first, int second) { return (first * 3 + second * 2) / 5; };
     return QColor(mix(ground.red(), text.red()), mix(ground.green(), text.green()),
                   mix(ground.blue(), text.blue()));

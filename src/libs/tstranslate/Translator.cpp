@@ -1,15 +1,43 @@
 #include "tstranslate/Translator.h"
 
+#include "LanguageFile.h"
+
 #include <QFileInfo>
 #include <QTranslator>
 
 #include <map>
+#include <utility>
 
 namespace tessark::trans {
 
 namespace {
 
 const QLatin1String kFallbackLanguage("zh_CN");
+
+/// The texts of one language. They stand in memory, so that a file may be replaced or taken away
+/// while the language is in use.
+class Language
+{
+public:
+    explicit Language(QByteArray bytes)
+        : m_bytes(std::move(bytes))
+        , m_isLoaded(
+              m_texts.load(reinterpret_cast<const uchar*>(m_bytes.constData()), m_bytes.size()))
+    {}
+
+    bool isLoaded() const { return m_isLoaded; }
+    QString name() const { return m_texts.language(); }
+
+    QString find(const QByteArray& group, const QByteArray& context, const QByteArray& key) const
+    {
+        return m_texts.translate(group.constData(), key.constData(), context.constData());
+    }
+
+private:
+    QByteArray m_bytes;
+    QTranslator m_texts; // Reads from the bytes, and so goes before them.
+    bool m_isLoaded;
+};
 
 } // namespace
 
@@ -21,32 +49,32 @@ public:
                  const QByteArray& key) const
     {
         const auto found = languages.find(language);
-        if (found == languages.end()) {
-            return QString();
-        }
-        return found->second->translate(group.constData(), key.constData(), context.constData());
+        return found == languages.end() ? QString() : found->second->find(group, context, key);
     }
 
-    std::map<QString, std::unique_ptr<QTranslator>> languages;
+    std::map<QString, std::unique_ptr<Language>> languages;
     QString selected = kFallbackLanguage;
 };
 
 Translator::Translator()
     : d(std::make_unique<Private>())
-{
-}
+{}
 
 Translator::~Translator() = default;
 
 bool Translator::load(const QString& file)
 {
-    auto translator = std::make_unique<QTranslator>();
-    if (!translator->load(file) || translator->isEmpty()) {
+    std::optional<QByteArray> read = readLanguageFile(file);
+    if (!read) {
         return false;
     }
-    const QString named = translator->language();
-    const QString language = named.isEmpty() ? QFileInfo(file).completeBaseName() : named;
-    d->languages[language] = std::move(translator);
+    auto language = std::make_unique<Language>(*std::move(read));
+    if (!language->isLoaded()) {
+        return false;
+    }
+    const QString named = language->name();
+    d->languages[named.isEmpty() ? QFileInfo(file).completeBaseName() : named] =
+        std::move(language);
     return true;
 }
 
@@ -67,7 +95,7 @@ QString translate(const Translator& translator, const QString& group, const QStr
     const QByteArray contextText = context.toUtf8();
     const QByteArray keyText = key.toUtf8();
     for (const QString& language : {translator.d->selected, QString(kFallbackLanguage)}) {
-        const QString text = translator.d->find(language, groupText, contextText, keyText);
+        QString text = translator.d->find(language, groupText, contextText, keyText);
         if (!text.isEmpty()) {
             return text;
         }

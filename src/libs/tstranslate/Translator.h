@@ -8,8 +8,9 @@ namespace tessark::trans {
 
 /// Texts by key, in several languages, of which one is selected.
 ///
-/// A language file is a compiled Linguist file (.qm) that names its language. In it the group is
-/// the Linguist context, the context its disambiguation and the key its source text. Not
+/// A language file is a compiled Linguist file (.qm) that names its language; one that names none
+/// is known by its own name without the suffix. In it the group is the Linguist context, the
+/// context its disambiguation and the key its source text. An empty text counts as lacking. Not
 /// thread-safe.
 class Q_DECL_EXPORT Translator
 {
@@ -19,9 +20,10 @@ public:
     Translator(const Translator&) = delete;
     Translator& operator=(const Translator&) = delete;
 
-    /// Loads a language file. A second file of a language takes the place of the first. Returns
-    /// false, and leaves every language as it was, for a file that is missing, empty, damaged or
-    /// no language file.
+    /// Loads a language file whole into memory; the file may change or go afterwards. A second file
+    /// of a language takes the place of the first. Returns false, and leaves every language as it
+    /// was, for a file that is missing, without texts, damaged or no language file, and for one
+    /// that refers to other files.
     bool load(const QString& file);
 
     /// Selects the language of later lookups, by name, such as "zh_CN". A name that was not loaded

@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -120,6 +121,7 @@ private slots:
     void expandedSizeStaysOnTheScreen();
     void mirrorsForRightToLeft();
     void followsThePalette();
+    void takesSignsFromAStyleSheet();
     void diesWhileItRuns();
 };
 
@@ -332,7 +334,11 @@ void TestDialog::keysOfAnInnerDialogArrive()
     class Inner : public QDialog
     {
     protected:
-        void keyPressEvent(QKeyEvent* event) override { QWidget::keyPressEvent(event); }
+        // Leaves Return and Escape to the frame, as a dialog placed in a frame does.
+        void keyPressEvent(QKeyEvent* event) override
+        {
+            QWidget::keyPressEvent(event); // NOLINT(bugprone-parent-virtual-call)
+        }
     };
     Dialog dialog;
     auto* inner = new Inner;
@@ -445,6 +451,24 @@ void TestDialog::followsThePalette()
     Parts(dialog).close->icon().paint(&painter, sign.rect());
     painter.end();
     QCOMPARE(sign.pixelColor(13, 13), QColor(Qt::yellow));
+}
+
+void TestDialog::takesSignsFromAStyleSheet()
+{
+    Dialog dialog;
+    open(dialog);
+    QTemporaryDir dir;
+    QImage red(16, 16, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    QVERIFY(red.save(dir.filePath(QStringLiteral("red.png"))));
+    dialog.setStyleSheet(QStringLiteral("QPushButton[imageBtn=\"close\"] { icon: url(%1); }"
+                                        "QFrame#dialogFrame { border: 2px solid #00ff00; }")
+                             .arg(dir.filePath(QStringLiteral("red.png"))));
+    const Parts parts(dialog);
+    const QImage shown = dialog.grab().toImage();
+    QCOMPARE(shown.pixelColor(parts.close->mapTo(&dialog, parts.close->rect().center())),
+             QColor(Qt::red));
+    QCOMPARE(shown.pixelColor(0, 150), QColor(Qt::green));
 }
 
 void TestDialog::diesWhileItRuns()
