@@ -22,7 +22,7 @@ namespace trel::widgets {
 /// "style" = "BG4" (the title bar), in it "TitleLabel" and the buttons "ButtonMin", "ButtonScale"
 /// and "ButtonClose", and "dialogCenter" (the client area). The buttons carry the property
 /// "imageBtn": "minimise"; "maximise" or "restore", as the window is compact or expanded; "close".
-/// A style sheet replaces their signs with `icon`.
+/// A style sheet replaces their signs with `qproperty-icon`.
 class Q_DECL_EXPORT Dialog : public QDialog
 {
     Q_OBJECT

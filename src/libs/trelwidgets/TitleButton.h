@@ -7,7 +7,7 @@ namespace trel::widgets {
 /// A button of a window's title bar. It never takes the focus and is never pressed by Return.
 ///
 /// Its sign is drawn in the colour that the palette gives to button texts, so it stays legible
-/// under every theme; a style sheet may give another one with `icon`.
+/// under every theme; a style sheet may give another one with `qproperty-icon`.
 class TitleButton : public QPushButton
 {
     Q_OBJECT

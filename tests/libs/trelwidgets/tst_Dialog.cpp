@@ -455,20 +455,32 @@ void TestDialog::followsThePalette()
 
 void TestDialog::takesSignsFromAStyleSheet()
 {
+    QTemporaryDir dir;
+    const auto picture = [&dir](const char* name, Qt::GlobalColor color) {
+        QImage image(16, 16, QImage::Format_RGB32);
+        image.fill(color);
+        const QString file = dir.filePath(QLatin1String(name));
+        return image.save(file) ? file : QString();
+    };
     Dialog dialog;
     open(dialog);
-    QTemporaryDir dir;
-    QImage red(16, 16, QImage::Format_RGB32);
-    red.fill(Qt::red);
-    QVERIFY(red.save(dir.filePath(QStringLiteral("red.png"))));
-    dialog.setStyleSheet(QStringLiteral("QPushButton[imageBtn=\"close\"] { icon: url(%1); }"
-                                        "QFrame#dialogFrame { border: 2px solid #00ff00; }")
-                             .arg(dir.filePath(QStringLiteral("red.png"))));
+    dialog.setScaleSwitch(QSize(300, 200), QSize(300, 500));
+    dialog.setStyleSheet(
+        QStringLiteral("QPushButton[imageBtn=\"close\"] { qproperty-icon: url(%1); }"
+                       "QPushButton[imageBtn=\"restore\"] { qproperty-icon: url(%2); }"
+                       "QFrame#dialogFrame { border: 2px solid #0000ff; }")
+            .arg(picture("close.png", Qt::red), picture("back.png", Qt::green)));
     const Parts parts(dialog);
-    const QImage shown = dialog.grab().toImage();
-    QCOMPARE(shown.pixelColor(parts.close->mapTo(&dialog, parts.close->rect().center())),
-             QColor(Qt::red));
-    QCOMPARE(shown.pixelColor(0, 150), QColor(Qt::green));
+    const auto colorAt = [&dialog](const QPoint& place) {
+        return dialog.grab().toImage().pixelColor(place);
+    };
+    QCOMPARE(colorAt(parts.close->mapTo(&dialog, parts.close->rect().center())), QColor(Qt::red));
+    QCOMPARE(colorAt(QPoint(0, 150)), QColor(Qt::blue));
+    QTest::mouseClick(parts.scale, Qt::LeftButton);
+    QCOMPARE(colorAt(parts.scale->mapTo(&dialog, parts.scale->rect().center())), QColor(Qt::green));
+    QTest::mouseClick(parts.scale, Qt::LeftButton);
+    QVERIFY(colorAt(parts.scale->mapTo(&dialog, parts.scale->rect().center())) !=
+            QColor(Qt::green));
 }
 
 void TestDialog::diesWhileItRuns()
