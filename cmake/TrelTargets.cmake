@@ -36,9 +36,11 @@ function(trel_library name)
   endif()
   target_sources(${code} PRIVATE ${ARG_SOURCES})
   target_link_libraries(${code} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE} trel_strict)
-  target_include_directories(${code} PUBLIC
-    $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src/libs>
-    $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>)
+  foreach(target IN ITEMS ${name} ${code})
+    target_include_directories(${target} PUBLIC
+      $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src/libs>
+      $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>)
+  endforeach()
   set_target_properties(${name} PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
 endfunction()

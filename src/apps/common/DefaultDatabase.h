@@ -17,7 +17,7 @@ inline QString defaultDatabasePath()
 /// A folder that cannot be made is found out by opening the database.
 inline QString makeDefaultDatabaseFolder()
 {
-    const QString path = defaultDatabasePath();
+    QString path = defaultDatabasePath();
     QDir().mkpath(QFileInfo(path).absolutePath());
     return path;
 }

@@ -1,0 +1,89 @@
+#include "Console.h"
+
+#include "DisplayText.h"
+
+#include <QJsonDocument>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int kUsualColumns = 80;
+
+int terminalColumns()
+{
+    winsize size = {};
+    const bool isKnown = ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    return isKnown ? size.ws_col : kUsualColumns;
+}
+
+bool writeBytes(std::FILE* stream, const QByteArray& bytes)
+{
+    const auto size = static_cast<std::size_t>(bytes.size());
+    return std::fwrite(bytes.constData(), 1, size, stream) == size;
+}
+
+} // namespace
+
+Console::~Console()
+{
+    clearProgress();
+}
+
+void Console::write(const QByteArray& utf8)
+{
+    clearProgress();
+    m_hasFailed = !writeBytes(stdout, utf8) || m_hasFailed;
+}
+
+void Console::writeJson(const QJsonObject& object)
+{
+    write(QJsonDocument(object).toJson(QJsonDocument::Indented));
+}
+
+void Console::tell(const QString& sentence)
+{
+    tellLine(QStringLiteral("schedulectl: ") + sentence);
+}
+
+void Console::tellLine(const QString& line)
+{
+    clearProgress();
+    writeBytes(stderr, line.toUtf8() + '\n');
+}
+
+void Console::showProgress(int done, int total, const QString& what)
+{
+    if (isatty(STDERR_FILENO) == 0) {
+        return;
+    }
+    clearProgress();
+    const QString place = QStringLiteral("[%1/%2] ").arg(done).arg(total);
+    // The last column stays free, since some terminals break the line when it is filled.
+    writeBytes(stderr, (place + shortened(what, terminalColumns() - 1 - place.size())).toUtf8());
+    std::fflush(stderr);
+    m_showsProgress = true;
+}
+
+QString Console::finish()
+{
+    if (std::fflush(stdout) == 0 && !m_hasFailed) {
+        return {};
+    }
+    return QStringLiteral("The results could not all be written: %1.")
+        .arg(QString::fromLocal8Bit(std::strerror(errno)));
+}
+
+void Console::clearProgress()
+{
+    if (m_showsProgress) {
+        writeBytes(stderr, "\r\x1B[K");
+        std::fflush(stderr);
+        m_showsProgress = false;
+    }
+}

@@ -1,0 +1,72 @@
+#include "Database.h"
+
+#include "common/DefaultDatabase.h"
+#include "service/scheduleManage.h"
+
+using trel::mediadispatch::ScheduleHost;
+using trel::mediadispatch::scheduleManage;
+using trel::mediadispatch::StoreProblem;
+
+namespace {
+
+QString fileOf(const Invocation& invocation, Database::Access access)
+{
+    if (!invocation.database.isEmpty()) {
+        return invocation.database;
+    }
+    return access == Database::Access::Write ? makeDefaultDatabaseFolder() : defaultDatabasePath();
+}
+
+ScheduleHost::OpenMode modeOf(Database::Access access)
+{
+    return access == Database::Access::Write ? ScheduleHost::OpenMode::CreateIfMissing
+                                             : ScheduleHost::OpenMode::MustExist;
+}
+
+} // namespace
+
+Database::Database(const Invocation& invocation, Access access)
+    : m_access(access)
+    , m_result(ScheduleHost::instance().open(fileOf(invocation, access), modeOf(access)))
+{}
+
+Database::~Database()
+{
+    ScheduleHost::instance().close();
+}
+
+QString Database::error() const
+{
+    const bool isMissing = m_result.problem == StoreProblem::FileMissing ||
+                           m_result.problem == StoreProblem::FolderMissing;
+    return isMissing && m_access == Access::Read
+               ? m_result.message + QStringLiteral(" \"schedulectl import\" makes a database.")
+               : m_result.message;
+}
+
+QString Database::path() const
+{
+    return ScheduleHost::instance().path();
+}
+
+std::map<int, trel::mediadispatch::PlayTask> Database::tasks() const
+{
+    return scheduleManage::getInstance().getgTaskMap();
+}
+
+std::map<int, trel::mediadispatch::ProgramIten> Database::programs() const
+{
+    return scheduleManage::getInstance().getPrograms();
+}
+
+Catalogue Database::catalogue() const
+{
+    return {programs(), [](int progIndex) {
+                return scheduleManage::getInstance().isNoDurationType(progIndex);
+            }};
+}
+
+ScheduleHost& Database::host() const
+{
+    return ScheduleHost::instance();
+}

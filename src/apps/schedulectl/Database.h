@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Command.h"
+#include "ScheduleCheck.h"
+#include "service/ScheduleRecords.h"
+#include "trelprogramschedule/ScheduleHost.h"
+
+#include <map>
+
+/// The store that a command works on: open from construction to the end of its life, unless it
+/// could not be opened.
+class Database
+{
+public:
+    enum class Access {
+        Read,  ///< The database has to exist.
+        Write, ///< It is made when it is missing.
+    };
+
+    Database(const Invocation& invocation, Access access);
+    ~Database();
+    Q_DISABLE_COPY(Database)
+
+    explicit operator bool() const { return static_cast<bool>(m_result); }
+    /// Why it could not be opened.
+    QString error() const;
+
+    /// Absolute path.
+    QString path() const;
+    std::map<int, trel::mediadispatch::PlayTask> tasks() const;
+    std::map<int, trel::mediadispatch::ProgramIten> programs() const;
+    Catalogue catalogue() const;
+    trel::mediadispatch::ScheduleHost& host() const;
+
+private:
+    Access m_access;
+    trel::mediadispatch::StoreResult m_result;
+};

@@ -1,0 +1,85 @@
+#include "HelpText.h"
+
+#include "common/DefaultDatabase.h"
+
+#include <algorithm>
+
+namespace {
+
+QString text(std::string_view latin)
+{
+    return QString::fromLatin1(latin.data(), static_cast<int>(latin.size()));
+}
+
+QString option(const char* name, const QString& meaning)
+{
+    constexpr int column = 19;
+    return QStringLiteral("  %1%2\n").arg(QString::fromLatin1(name), -column).arg(meaning);
+}
+
+QString databaseOption()
+{
+    return option("--database FILE",
+                  QStringLiteral("The database to work on; the editor's own when left out:\n") +
+                      QString(21, QLatin1Char(' ')) + defaultDatabasePath());
+}
+
+QString jsonOption()
+{
+    return option("--json", QStringLiteral("Write the result as JSON."));
+}
+
+QString helpOption()
+{
+    return option("-h, --help", QStringLiteral("Show this help."));
+}
+
+const char* const kExitStatus = R"(Exit status:
+  0  done
+  1  refused: understood, but not all of it could be done
+  2  misused: the command line was not understood, and nothing was done
+)";
+
+} // namespace
+
+QString generalHelp(const std::vector<Command>& commands)
+{
+    constexpr int column = 17;
+    QString help =
+        QStringLiteral("Usage: schedulectl [OPTION...] COMMAND [ARGUMENT...]\n\n"
+                       "Looks after the play schedule of media screens and the catalogue "
+                       "of its programs.\n\nCommands:\n");
+    for (const Command& command : commands) {
+        help +=
+            QStringLiteral("  %1%2\n").arg(text(command.name), -column).arg(text(command.summary));
+    }
+    help += QStringLiteral(
+        "\n\"schedulectl COMMAND --help\" tells more about a command.\n\nOptions:\n");
+    help += databaseOption();
+    help += option("--json", QStringLiteral("Write the result as JSON, where a command has one."));
+    help += helpOption();
+    help += option("--version", QStringLiteral("Show the version."));
+    help += option("--", QStringLiteral("Take everything that follows as an argument."));
+    return help + QLatin1Char('\n') + QString::fromLatin1(kExitStatus);
+}
+
+QString commandHelp(const Command& command)
+{
+    const QString arguments =
+        command.arguments.empty() ? QString() : QLatin1Char(' ') + text(command.arguments);
+    QString help = QStringLiteral("Usage: schedulectl %1 [OPTION...]%2\n\n%3\n\nOptions:\n")
+                       .arg(text(command.name), arguments, text(command.help));
+    help += databaseOption();
+    if (command.hasJson) {
+        help += jsonOption();
+    }
+    help += helpOption();
+    return help + QLatin1Char('\n') + QString::fromLatin1(kExitStatus);
+}
+
+QString helpHint(const Command* command)
+{
+    return command == nullptr
+               ? QStringLiteral("Try \"schedulectl --help\".")
+               : QStringLiteral("Try \"schedulectl %1 --help\".").arg(text(command->name));
+}

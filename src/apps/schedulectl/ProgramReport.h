@@ -1,0 +1,20 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+
+#include <map>
+#include <vector>
+
+/// The length of a program for people; a dash when it has none of its own.
+QString programLength(const trel::mediadispatch::ProgramIten& program);
+
+/// A program as the JSON output has it.
+QJsonObject programJson(const trel::mediadispatch::ProgramIten& program);
+
+/// The programs of these indexes, in their order.
+QJsonArray programsJson(const std::vector<int>& indexes,
+                        const std::map<int, trel::mediadispatch::ProgramIten>& programs);

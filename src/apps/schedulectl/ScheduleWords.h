@@ -1,0 +1,31 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+
+#include <QString>
+
+#include <map>
+#include <vector>
+
+/// The words that stand for the numbers of a record, for people to read.
+
+/// The days of a `weeks` text, such as "Mon,Wed" or "every day", in their order.
+QString daysText(const std::string& weeks);
+
+/// How often a plan plays: "3 times" in FrequencyMode, "until the end" otherwise.
+QString playsText(const trel::mediadispatch::PlayPlan& plan);
+
+QString endActionText(int endAction);
+
+QString kindText(trel::mediadispatch::ProgramKind kind);
+
+/// The entries of a plan with their counts, such as "News ×2, Weather (invalid)".
+QString entriesText(const std::vector<trel::mediadispatch::struProgInfo>& entries,
+                    const std::map<int, trel::mediadispatch::ProgramIten>& programs);
+
+/// The name of an entry as it is shown, with what has become of its program.
+QString entryText(const trel::mediadispatch::struProgInfo& entry,
+                  const std::map<int, trel::mediadispatch::ProgramIten>& programs);
+
+/// The two dates of a task's period.
+QString periodText(const trel::mediadispatch::PlayTask& task);

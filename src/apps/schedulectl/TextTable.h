@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+/// A table for a terminal: a line of titles and a line for each row, columns aligned by what the
+/// terminal shows. Cells are expected to be printable.
+class TextTable
+{
+public:
+    enum class Align { Left, Right };
+
+    struct Column
+    {
+        QString title;
+        Align align = Align::Left;
+    };
+
+    explicit TextTable(std::vector<Column> columns);
+
+    /// Adds a row with a cell for each column.
+    void addRow(const QStringList& cells);
+
+    bool isEmpty() const { return m_rows.empty(); }
+
+    /// All lines, each indented by so many blanks and ended by a line feed, without blanks at its
+    /// end. An empty table has no lines.
+    QString text(int indent = 0) const;
+
+private:
+    std::vector<int> widths() const;
+    QString line(const QStringList& cells, const std::vector<int>& widths) const;
+    QStringList titles() const;
+
+    std::vector<Column> m_columns;
+    std::vector<QStringList> m_rows;
+};

@@ -1,0 +1,49 @@
+#include "CommandLine.h"
+#include "CommandTable.h"
+#include "Console.h"
+#include "HelpText.h"
+
+#include <QCoreApplication>
+#include <QTextCodec>
+
+namespace {
+
+ExitStatus obey(const CommandLine& line, Console& console)
+{
+    switch (line.wish) {
+    case CommandLine::Wish::RunCommand:
+        return line.command->run(line.invocation, console);
+    case CommandLine::Wish::ShowHelp:
+        console.write(line.command == nullptr ? generalHelp(allCommands())
+                                              : commandHelp(*line.command));
+        return Done;
+    case CommandLine::Wish::ShowVersion:
+        console.writeLine(QStringLiteral("schedulectl " TREL_VERSION));
+        return Done;
+    case CommandLine::Wish::Misuse:
+        break;
+    }
+    console.tell(line.misuse);
+    console.tellLine(helpHint(line.command));
+    return Misused;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    // Names of files are bytes. Under a locale without UTF-8, as cron jobs have it, they would lose
+    // every character beyond ASCII.
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    const QCoreApplication application(argc, argv);
+
+    Console console;
+    const CommandLine line = CommandLine::read(QCoreApplication::arguments().mid(1), allCommands());
+    const ExitStatus status = obey(line, console);
+    const QString lost = console.finish();
+    if (!lost.isEmpty()) {
+        console.tell(lost);
+        return status == Done ? Refused : status;
+    }
+    return status;
+}

@@ -1,0 +1,226 @@
+#include "CtlFixture.h"
+
+#include "trelprogramschedule/ScheduleJson.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QtEndian>
+#include <QtTest>
+
+#include <array>
+#include <cstdlib>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+constexpr int kPatience = 60000; // milliseconds
+
+void prepare(QProcess& process, const QString& home)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), home);
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/data"));
+    // The poorest locale there is: nothing may depend on it.
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(home);
+    process.setProgram(QStringLiteral(SCHEDULECTL));
+}
+
+CtlResult finish(QProcess& process, const QByteArray& input)
+{
+    process.start();
+    process.write(input);
+    process.closeWriteChannel();
+    CtlResult result;
+    if (process.waitForFinished(kPatience) && process.exitStatus() == QProcess::NormalExit) {
+        result.status = process.exitCode();
+    }
+    result.out = process.readAllStandardOutput();
+    result.err = QString::fromUtf8(process.readAllStandardError());
+    return result;
+}
+
+/// The controlling side of a pair of terminals.
+class Terminal
+{
+public:
+    Terminal()
+        : m_handle(posix_openpt(O_RDWR | O_NOCTTY))
+    {
+        if (grantpt(m_handle) != 0 || unlockpt(m_handle) != 0) {
+            qFatal("no terminal to be had");
+        }
+        // The side that programs write to stays open, so that what they wrote can still be read.
+        m_kept = open(ptsname(m_handle), O_RDWR | O_NOCTTY);
+        fcntl(m_handle, F_SETFL, O_NONBLOCK);
+    }
+
+    ~Terminal()
+    {
+        close(m_kept);
+        close(m_handle);
+    }
+
+    Q_DISABLE_COPY(Terminal)
+
+    QString device() const { return QString::fromLocal8Bit(ptsname(m_handle)); }
+
+    QString readAll() const
+    {
+        QByteArray all;
+        std::array<char, 4096> buffer;
+        for (ssize_t got = 0; (got = read(m_handle, buffer.data(), buffer.size())) > 0;) {
+            all.append(buffer.data(), static_cast<int>(got));
+        }
+        return QString::fromUtf8(all);
+    }
+
+private:
+    int m_handle;
+    int m_kept = -1;
+};
+
+template <typename Number>
+QByteArray littleEndian(Number number)
+{
+    const Number stored = qToLittleEndian(number);
+    QByteArray bytes(sizeof stored, Qt::Uninitialized);
+    memcpy(bytes.data(), &stored, sizeof stored);
+    return bytes;
+}
+
+} // namespace
+
+QStringList CtlResult::lines() const
+{
+    QStringList all = text().split(QLatin1Char('\n'));
+    if (all.last().isEmpty()) {
+        all.removeLast();
+    }
+    return all;
+}
+
+QJsonObject CtlResult::json() const
+{
+    return QJsonDocument::fromJson(out).object();
+}
+
+CtlFixture::CtlFixture()
+{
+    if (!m_folder.isValid()) {
+        qFatal("no folder to be had");
+    }
+}
+
+CtlResult CtlFixture::run(const QStringList& arguments, const QByteArray& input) const
+{
+    QProcess process;
+    prepare(process, m_folder.path());
+    process.setArguments(arguments);
+    return finish(process, input);
+}
+
+CtlResult CtlFixture::onDatabase(const QStringList& arguments, const QByteArray& input) const
+{
+    return run(QStringList{QStringLiteral("--database"), database()} + arguments, input);
+}
+
+CtlResult CtlFixture::runInto(const QString& outputFile, const QStringList& arguments) const
+{
+    QProcess process;
+    prepare(process, m_folder.path());
+    process.setArguments(arguments);
+    process.setStandardOutputFile(outputFile);
+    return finish(process, {});
+}
+
+CtlResult CtlFixture::runWatched(const QStringList& arguments) const
+{
+    const Terminal terminal;
+    QProcess process;
+    prepare(process, m_folder.path());
+    process.setArguments(arguments);
+    process.setStandardErrorFile(terminal.device());
+    CtlResult result = finish(process, {});
+    result.err = terminal.readAll();
+    return result;
+}
+
+void CtlFixture::store(const Schedule& schedule) const
+{
+    const CtlResult result = onDatabase({QStringLiteral("import-schedule"), QStringLiteral("-")},
+                                        scheduleToJson(schedule));
+    QCOMPARE(result.status, 0);
+}
+
+QByteArray CtlFixture::exported() const
+{
+    return onDatabase({QStringLiteral("export"), QStringLiteral("-")}).out;
+}
+
+void CtlFixture::writeFile(const QString& name, const QByteArray& content) const
+{
+    QFile file(path(name));
+    QVERIFY(QFileInfo(file).dir().mkpath(QStringLiteral(".")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+QByteArray CtlFixture::fileContent(const QString& name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void CtlFixture::writeClip(const QString& name, int milliseconds) const
+{
+    constexpr quint32 rate = 8000;
+    const auto samples = static_cast<quint32>(milliseconds) * rate / 1000;
+    QByteArray wave = "WAVEfmt " + littleEndian(quint32(16)) + littleEndian(quint16(1)) +
+                      littleEndian(quint16(1)) + littleEndian(rate) + littleEndian(rate) +
+                      littleEndian(quint16(1)) + littleEndian(quint16(8)) + "data" +
+                      littleEndian(samples) + QByteArray(static_cast<int>(samples), char(-128));
+    writeFile(name, "RIFF" + littleEndian(static_cast<quint32>(wave.size())) + wave);
+}
+
+QStringList CtlFixture::files() const
+{
+    QStringList all;
+    QDirIterator iterator(m_folder.path(), QDir::Files | QDir::Hidden,
+                          QDirIterator::Subdirectories);
+    while (iterator.hasNext()) {
+        all.append(QDir(m_folder.path()).relativeFilePath(iterator.next()));
+    }
+    all.sort();
+    return all;
+}
+
+PlayTask januaryTask(int id, const std::vector<PlayPlan>& plans)
+{
+    PlayTask task;
+    task.id = id;
+    task.startDate = "2024.01.01";
+    task.endDate = "2024.01.31";
+    task.plans = plans;
+    return task;
+}
+
+PlayPlan timePlan(int id, const char* start, const char* end, const char* weeks, int progIndex)
+{
+    PlayPlan plan;
+    plan.id = id;
+    plan.startTime = start;
+    plan.endTime = end;
+    plan.weeks = weeks;
+    plan.times = 1;
+    plan.programs = {{progIndex, false, "entry", 1}};
+    return plan;
+}

@@ -1,0 +1,143 @@
+#include "CommandLine.h"
+
+#include <QtTest>
+
+namespace {
+
+ExitStatus doNothing(const Invocation& /*invocation*/, Console& /*console*/)
+{
+    return Done;
+}
+
+const std::vector<Command>& commands()
+{
+    static const std::vector<Command> all = {
+        {"list", "", 0, 0, true, "", "", doNothing},
+        {"take", "FILE", 1, 1, false, "", "", doNothing},
+        {"gather", "PATH...", 1, Command::kAnyNumber, true, "", "", doNothing},
+    };
+    return all;
+}
+
+/// What was understood, as one line.
+QString line(const CommandLine& read)
+{
+    QStringList parts;
+    switch (read.wish) {
+    case CommandLine::Wish::RunCommand:
+        parts.append(QStringLiteral("run"));
+        break;
+    case CommandLine::Wish::ShowHelp:
+        parts.append(QStringLiteral("help"));
+        break;
+    case CommandLine::Wish::ShowVersion:
+        return QStringLiteral("version");
+    case CommandLine::Wish::Misuse:
+        return QStringLiteral("misuse: ") + read.misuse;
+    }
+    if (read.command != nullptr) {
+        parts.append(QString::fromLatin1(read.command->name.data()));
+    }
+    if (!read.invocation.database.isEmpty()) {
+        parts.append(QStringLiteral("database=") + read.invocation.database);
+    }
+    if (read.invocation.json) {
+        parts.append(QStringLiteral("json"));
+    }
+    for (const QString& argument : read.invocation.arguments) {
+        parts.append(QStringLiteral("<%1>").arg(argument));
+    }
+    return parts.join(QLatin1Char(' '));
+}
+
+} // namespace
+
+class tst_CommandLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void read_data();
+    void read();
+};
+
+void tst_CommandLine::read_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("understood");
+
+    const auto row = [](const char* arguments, const char* understood) {
+        QTest::newRow(arguments) << QString::fromUtf8(arguments).split(QLatin1Char(' '))
+                                 << QString::fromUtf8(understood);
+    };
+    row("list", "run list");
+    row("list --json", "run list json");
+    row("--json list", "run list json");
+    row("list --database a.db", "run list database=a.db");
+    row("--database a.db list", "run list database=a.db");
+    row("list --database=a.db", "run list database=a.db");
+    row("list --database=a=b.db", "run list database=a=b.db");
+    row("list --database --json", "misuse: The option \"--database\" needs the name of a file.");
+    row("list --database=--json", "run list database=--json");
+    row("list --database=", "misuse: The option \"--database\" needs the name of a file.");
+    row("list --database", "misuse: The option \"--database\" needs the name of a file.");
+    row("list --database a --database b",
+        "misuse: The option \"--database\" can be given only once.");
+    row("take -", "run take <->");
+    row("take x", "run take <x>");
+    row("take", "misuse: The command \"take\" needs FILE.");
+    row("take x y", "misuse: The command \"take\" does not know what to do with \"y\".");
+    row("take --json x", "misuse: The command \"take\" has no option \"--json\".");
+    row("take -- --json", "run take <--json>");
+    row("take -- -- ", "misuse: The command \"take\" does not know what to do with \"\".");
+    row("take --overwrite x", "misuse: There is no option \"--overwrite\".");
+    row("take --overwrite=yes x", "misuse: There is no option \"--overwrite\".");
+    row("take -x", "misuse: There is no option \"-x\".");
+    row("take --json=yes x", "misuse: There is no option \"--json\".");
+    row("gather", "misuse: The command \"gather\" needs PATH....");
+    row("gather a b c", "run gather <a> <b> <c>");
+    row("gather a --json b", "run gather json <a> <b>");
+    row("gather list take", "run gather <list> <take>");
+    row("list x", "misuse: The command \"list\" does not know what to do with \"x\".");
+    row("lsit", "misuse: There is no command \"lsit\". Did you mean \"list\"?");
+    row("gahter a", "misuse: There is no command \"gahter\". Did you mean \"gather\"?");
+    row("something else", "misuse: There is no command \"something\".");
+    row("List", "misuse: There is no command \"List\". Did you mean \"list\"?");
+    row("--help", "help");
+    row("-h", "help");
+    row("list --help", "help list");
+    row("--help list", "help list");
+    row("take --help", "help take");
+    row("take --wrong --help", "help take");
+    row("nothing --help", "misuse: There is no command \"nothing\".");
+    row("--version", "version");
+    row("list --version", "version");
+    row("--version --wrong", "misuse: There is no option \"--wrong\".");
+    row("--json", "misuse: A command is missing.");
+    row("-- list", "run list");
+
+    QTest::newRow("nothing at all")
+        << QStringList() << QStringLiteral("misuse: A command is missing.");
+    QTest::newRow("empty argument")
+        << QStringList{QStringLiteral("take"), QString()}
+        << QStringLiteral("misuse: An argument of the command \"take\" is empty.");
+    QTest::newRow("empty command")
+        << QStringList{QString()} << QStringLiteral("misuse: There is no command \"\".");
+    QTest::newRow("blanks and odd characters")
+        << QStringList{QStringLiteral("gather"), QStringLiteral("a b"), QStringLiteral("\u65b0")}
+        << QStringLiteral("run gather <a b> <\u65b0>");
+    QTest::newRow("escapes in a message")
+        << QStringList{QStringLiteral("\x1B[31m")}
+        << QStringLiteral("misuse: There is no command \"\\x1b[31m\".");
+}
+
+void tst_CommandLine::read()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, understood);
+
+    QCOMPARE(line(CommandLine::read(arguments, commands())), understood);
+}
+
+QTEST_APPLESS_MAIN(tst_CommandLine)
+#include "tst_CommandLine.moc"

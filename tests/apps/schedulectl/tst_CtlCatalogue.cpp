@@ -1,0 +1,287 @@
+#include "CtlFixture.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QtTest>
+
+using namespace trel::mediadispatch;
+
+/// The commands import, programs and remove-program.
+class tst_CtlCatalogue : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void importTakesFilesFoldersAndAddresses();
+    void importAsJson();
+    void importAgainKeepsTheIndex();
+    void partlyRefusedImportKeepsTheRest();
+    void emptyFolderIsNoRefusal();
+    void progressIsForPeopleOnly();
+    void emptyCatalogueIsSaid();
+    void programsAsJson();
+    void goneFileIsMarked();
+    void oddNamesStayReadable();
+    void removedProgramLeavesInvalidEntries();
+    void removeRefusals();
+
+private:
+    static void importClips(const CtlFixture& fixture, const QStringList& names);
+};
+
+namespace {
+
+QJsonObject first(const QJsonObject& object, const QString& member)
+{
+    return object[member].toArray().first().toObject();
+}
+
+const QString kImport = QStringLiteral("import");
+const QString kPrograms = QStringLiteral("programs");
+const QString kRemove = QStringLiteral("remove-program");
+const QString kJson = QStringLiteral("--json");
+
+} // namespace
+
+void tst_CtlCatalogue::importClips(const CtlFixture& fixture, const QStringList& names)
+{
+    for (const QString& name : names) {
+        fixture.writeClip(name, 100);
+    }
+    QCOMPARE(fixture.onDatabase(QStringList{kImport} + names).status, 0);
+}
+
+void tst_CtlCatalogue::importTakesFilesFoldersAndAddresses()
+{
+    const CtlFixture fixture;
+    fixture.writeClip(QStringLiteral("one.wav"), 1500);
+    fixture.writeClip(QStringLiteral("media/\u665a/\u665a\u95f4\u65b0\u95fb.wav"), 90000);
+    fixture.writeFile(QStringLiteral("media/notes.txt"), "no media");
+    const CtlResult result =
+        fixture.onDatabase({kImport, QStringLiteral("one.wav"), QStringLiteral("media"),
+                            QStringLiteral("rtsp://host/live")});
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.status, 0);
+    QCOMPARE(
+        result.lines(),
+        (QStringList{
+            QStringLiteral("       Index  Name              Kind        Length  File"),
+            QStringLiteral("added      1  one               audio  0:00:01.500  %1")
+                .arg(fixture.path(QStringLiteral("one.wav"))),
+            QStringLiteral("added      2  \u665a\u95f4\u65b0\u95fb          audio  0:01:30.000  %1")
+                .arg(fixture.path(QStringLiteral("media/\u665a/\u665a\u95f4\u65b0\u95fb.wav"))),
+            QStringLiteral("added      3  rtsp://host/live  live             \u2013  "
+                           "rtsp://host/live"),
+            QStringLiteral("3 programs added, 0 updated, 0 refused."),
+        }));
+}
+
+void tst_CtlCatalogue::importAsJson()
+{
+    const CtlFixture fixture;
+    fixture.writeClip(QStringLiteral("one.wav"), 1500);
+    const CtlResult result = fixture.onDatabase(
+        {kImport, kJson, QStringLiteral("one.wav"), QStringLiteral("missing.wav")});
+    QCOMPARE(result.status, 1);
+    const QString missing = fixture.path(QStringLiteral("missing.wav"));
+    QCOMPARE(result.err, QStringLiteral("schedulectl: %1: There is no such file.\n").arg(missing));
+    const QJsonObject expected = {
+        {QStringLiteral("database"), fixture.database()},
+        {QStringLiteral("added"),
+         QJsonArray{QJsonObject{
+             {QStringLiteral("index"), 1},
+             {QStringLiteral("name"), QStringLiteral("one")},
+             {QStringLiteral("kind"), QStringLiteral("audio")},
+             {QStringLiteral("durationMs"), 1500},
+             {QStringLiteral("path"), fixture.path(QStringLiteral("one.wav"))},
+             {QStringLiteral("isGone"), false},
+         }}},
+        {QStringLiteral("updated"), QJsonArray()},
+        {QStringLiteral("refused"),
+         QJsonArray{
+             QJsonObject{{QStringLiteral("path"), missing},
+                         {QStringLiteral("reason"), QStringLiteral("There is no such file.")}}}},
+    };
+    QCOMPARE(result.json(), expected);
+}
+
+void tst_CtlCatalogue::importAgainKeepsTheIndex()
+{
+    const CtlFixture fixture;
+    importClips(fixture, {QStringLiteral("one.wav"), QStringLiteral("two.wav")});
+    fixture.writeClip(QStringLiteral("two.wav"), 2000);
+    const CtlResult again = fixture.onDatabase({kImport, kJson, QStringLiteral("two.wav")});
+    QCOMPARE(again.status, 0);
+    QVERIFY(again.json()[QStringLiteral("added")].toArray().isEmpty());
+    const QJsonObject updated = first(again.json(), QStringLiteral("updated"));
+    QCOMPARE(updated[QStringLiteral("index")].toInt(), 2);
+    QCOMPARE(updated[QStringLiteral("durationMs")].toDouble(), 2000.0);
+    const CtlResult inText = fixture.onDatabase({kImport, QStringLiteral("two.wav")});
+    QVERIFY(inText.lines().at(1).startsWith(QStringLiteral("updated      2  two")));
+    QCOMPARE(inText.lines().last(), QStringLiteral("0 programs added, 1 updated, 0 refused."));
+}
+
+void tst_CtlCatalogue::partlyRefusedImportKeepsTheRest()
+{
+    const CtlFixture fixture;
+    fixture.writeClip(QStringLiteral("one.wav"), 100);
+    fixture.writeFile(QStringLiteral("notes.txt"), "no media");
+    const CtlResult result =
+        fixture.onDatabase({kImport, QStringLiteral("notes.txt"), QStringLiteral("missing"),
+                            QStringLiteral("one.wav")});
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.lines().last(), QStringLiteral("1 program added, 0 updated, 2 refused."));
+    const QStringList errors = result.err.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(errors.size(), 2);
+    QVERIFY(errors[0].startsWith(
+        QStringLiteral("schedulectl: %1: ").arg(fixture.path(QStringLiteral("notes.txt")))));
+    QVERIFY(errors[1].startsWith(
+        QStringLiteral("schedulectl: %1: ").arg(fixture.path(QStringLiteral("missing")))));
+    QCOMPARE(fixture.onDatabase({kPrograms}).lines().size(), 2);
+}
+
+void tst_CtlCatalogue::emptyFolderIsNoRefusal()
+{
+    const CtlFixture fixture;
+    QVERIFY(QDir(fixture.path(QString())).mkdir(QStringLiteral("empty")));
+    const CtlResult result = fixture.onDatabase({kImport, QStringLiteral("empty")});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.lines(),
+             QStringList{QStringLiteral("0 programs added, 0 updated, 0 refused.")});
+}
+
+void tst_CtlCatalogue::progressIsForPeopleOnly()
+{
+    const CtlFixture fixture;
+    fixture.writeClip(QStringLiteral("one.wav"), 100);
+    fixture.writeClip(QStringLiteral("two.wav"), 100);
+    const QStringList arguments = {kImport,
+                                   QStringLiteral("--database"),
+                                   fixture.database(),
+                                   QStringLiteral("one.wav"),
+                                   QStringLiteral("two.wav"),
+                                   QStringLiteral("three.wav")};
+    QCOMPARE(fixture.run(arguments).err.count(QLatin1Char('\n')), 1);
+    QVERIFY(!fixture.run(arguments).err.contains(QStringLiteral("[1/")));
+
+    const CtlResult watched = fixture.runWatched(arguments);
+    QCOMPARE(watched.status, 1);
+    QVERIFY2(watched.err.contains(QStringLiteral("[1/3] ")), qPrintable(watched.err));
+    QVERIFY(watched.err.contains(QStringLiteral("[3/3] ")));
+    // The line of progress is gone before the refusal is told.
+    const int refusal = watched.err.indexOf(QStringLiteral("schedulectl: "));
+    QVERIFY(watched.err.left(refusal).endsWith(QStringLiteral("\r\x1B[K")));
+}
+
+void tst_CtlCatalogue::emptyCatalogueIsSaid()
+{
+    const CtlFixture fixture;
+    fixture.store({});
+    const CtlResult text = fixture.onDatabase({kPrograms});
+    QCOMPARE(text.status, 0);
+    QCOMPARE(text.lines(), QStringList{QStringLiteral(
+                               "The catalogue is empty; \"schedulectl import\" fills it.")});
+    const CtlResult json = fixture.onDatabase({kPrograms, kJson});
+    QCOMPARE(json.status, 0);
+    QVERIFY(json.json()[kPrograms].isArray());
+    QVERIFY(json.json()[kPrograms].toArray().isEmpty());
+}
+
+void tst_CtlCatalogue::programsAsJson()
+{
+    const CtlFixture fixture;
+    importClips(fixture, {QStringLiteral("one.wav")});
+    QCOMPARE(fixture.onDatabase({kImport, QStringLiteral("udp://@239.0.0.1:1234")}).status, 0);
+    const CtlResult result = fixture.onDatabase({kPrograms, kJson});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.json()[QStringLiteral("database")].toString(), fixture.database());
+    const QJsonArray programs = result.json()[kPrograms].toArray();
+    QCOMPARE(programs.size(), 2);
+    QCOMPARE(programs[0][QStringLiteral("durationMs")].toDouble(), 100.0);
+    QCOMPARE(programs[1][QStringLiteral("kind")].toString(), QStringLiteral("live"));
+    QVERIFY(programs[1][QStringLiteral("durationMs")].isNull());
+}
+
+void tst_CtlCatalogue::goneFileIsMarked()
+{
+    const CtlFixture fixture;
+    importClips(fixture, {QStringLiteral("one.wav")});
+    QVERIFY(QFile::remove(fixture.path(QStringLiteral("one.wav"))));
+    QVERIFY(
+        fixture.onDatabase({kPrograms}).lines().last().endsWith(QStringLiteral("/one.wav (gone)")));
+    const QJsonObject program = first(fixture.onDatabase({kPrograms, kJson}).json(), kPrograms);
+    QCOMPARE(program[QStringLiteral("isGone")].toBool(), true);
+}
+
+void tst_CtlCatalogue::oddNamesStayReadable()
+{
+    const CtlFixture fixture;
+    const QStringList names = {QStringLiteral("a\nb.wav"),
+                               QStringLiteral("\x1B[31mred.wav"),
+                               QStringLiteral("%1 %s.wav"),
+                               QStringLiteral("two  blanks.wav"),
+                               QString::fromUtf8("\xF0\x9F\x8E\xAC.wav"),
+                               QStringLiteral("\u062e\u0628\u0631.wav"),
+                               QStringLiteral("\"quoted\" 'name'.wav")};
+    importClips(fixture, names);
+    fixture.writeClip(QStringLiteral("--json"), 100);
+    QCOMPARE(fixture.onDatabase({kImport, QStringLiteral("--"), kJson}).status, 0);
+
+    const CtlResult text = fixture.onDatabase({kPrograms});
+    QCOMPARE(text.lines().size(), names.size() + 2);
+    QVERIFY(text.text().contains(QStringLiteral(" a\\nb ")));
+    QVERIFY(text.text().contains(QStringLiteral(" \\x1b[31mred ")));
+    QVERIFY(!text.out.contains('\x1B'));
+    QVERIFY(text.text().contains(QStringLiteral(" %1 %s ")));
+
+    const QJsonArray programs = fixture.onDatabase({kPrograms, kJson}).json()[kPrograms].toArray();
+    QCOMPARE(programs.size(), names.size() + 1);
+    for (int i = 0; i < names.size(); ++i) {
+        QCOMPARE(programs[i][QStringLiteral("path")].toString(), fixture.path(names[i]));
+    }
+}
+
+void tst_CtlCatalogue::removedProgramLeavesInvalidEntries()
+{
+    const CtlFixture fixture;
+    importClips(fixture, {QStringLiteral("one.wav"), QStringLiteral("two.wav")});
+    fixture.store({{1, januaryTask(1, {timePlan(1, "08:00:00", "09:00:00", "", 1),
+                                       timePlan(2, "09:00:00", "10:00:00", "", 1)})}});
+    const CtlResult removed = fixture.onDatabase({kRemove, QStringLiteral("1")});
+    QCOMPARE(removed.status, 0);
+    QCOMPARE(removed.lines(),
+             (QStringList{QStringLiteral("Program 1, one, was removed."),
+                          QStringLiteral("Its entries in 2 plans are invalid now.")}));
+    QVERIFY(fixture.onDatabase({QStringLiteral("show")})
+                .text()
+                .contains(QStringLiteral("entry (invalid)\n")));
+    QVERIFY(QFileInfo::exists(fixture.path(QStringLiteral("one.wav"))));
+
+    const CtlResult unused = fixture.onDatabase({kRemove, QStringLiteral("2")});
+    QCOMPARE(unused.lines(), QStringList{QStringLiteral("Program 2, two, was removed.")});
+    QVERIFY(fixture.onDatabase({kPrograms, kJson}).json()[kPrograms].toArray().isEmpty());
+    // Its index is not given out again.
+    const CtlResult again = fixture.onDatabase({kImport, kJson, QStringLiteral("two.wav")});
+    QCOMPARE(first(again.json(), QStringLiteral("added"))[QStringLiteral("index")].toInt(), 3);
+}
+
+void tst_CtlCatalogue::removeRefusals()
+{
+    const CtlFixture fixture;
+    importClips(fixture, {QStringLiteral("one.wav")});
+    const CtlResult unknown = fixture.onDatabase({kRemove, QStringLiteral("9")});
+    QCOMPARE(unknown.status, 1);
+    QCOMPARE(unknown.err,
+             QStringLiteral("schedulectl: There is no program 9 in %1.\n").arg(fixture.database()));
+    for (const char* text : {"one", "1x", "1.5", "99999999999"}) {
+        const CtlResult misused = fixture.onDatabase({kRemove, QString::fromLatin1(text)});
+        QCOMPARE(misused.status, 2);
+        QCOMPARE(misused.err, QStringLiteral("schedulectl: \"%1\" is no index; \"schedulectl "
+                                             "programs\" shows the indexes.\n")
+                                  .arg(QString::fromLatin1(text)));
+    }
+    QCOMPARE(fixture.onDatabase({kPrograms}).lines().size(), 2);
+}
+
+QTEST_GUILESS_MAIN(tst_CtlCatalogue)
+#include "tst_CtlCatalogue.moc"

@@ -1,0 +1,246 @@
+#include "CtlFixture.h"
+
+#include "support/SampleSchedule.h"
+#include "trelprogramschedule/ScheduleJson.h"
+
+#include <QDir>
+#include <QtTest>
+
+using namespace trel::mediadispatch;
+
+/// The commands export and import-schedule.
+class tst_CtlExchange : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void roundTripChangesNoByte_data();
+    void roundTripChangesNoByte();
+    void standardStreamsCarryASchedule();
+    void exportReplacesAFile();
+    void exportRefusals();
+    void importReplacesTheWholeSchedule();
+    void importMakesADatabase();
+    void importTellsWhatIsOdd();
+    void badFilesChangeNothing_data();
+    void badFilesChangeNothing();
+};
+
+namespace {
+
+const QString kExport = QStringLiteral("export");
+const QString kImportSchedule = QStringLiteral("import-schedule");
+const QString kStream = QStringLiteral("-");
+const QString kFile = QStringLiteral("schedule.json");
+
+QString told(const QString& sentence)
+{
+    return QStringLiteral("schedulectl: %1\n").arg(sentence);
+}
+
+/// The command that fills a catalogue with what the schedules refer to, and needs no files.
+QStringList fivePrograms()
+{
+    QStringList command = {QStringLiteral("import")};
+    for (int port = 1; port <= 5; ++port) {
+        command.append(QStringLiteral("udp://239.0.0.1:%1").arg(port));
+    }
+    return command;
+}
+
+} // namespace
+
+void tst_CtlExchange::roundTripChangesNoByte_data()
+{
+    QTest::addColumn<QByteArray>("json");
+
+    const auto row = [](const char* name, const CtlFixture::Schedule& schedule) {
+        QTest::newRow(name) << scheduleToJson(schedule);
+    };
+    row("empty", {});
+    row("every field", {{7, everyFieldTask(7)}});
+    row("many tasks", sampleSchedule(100, 5, 5));
+    PlayTask odd = everyFieldTask(-3);
+    odd.plans[0].programs = {{-1, true, "", -4},
+                             {70000, true, "line\nbreak \"quote\" \\ \x1B", 999},
+                             {65535, true, "\xE6\x96\xB0\xF0\x9F\x8E\xAC", 0}};
+    odd.plans[0].weeks = "8,abc,,1";
+    odd.plans[0].mode = -7;
+    odd.plans[0].endAction = 2;
+    odd.plans[0].startTime = "no time";
+    odd.startDate.clear();
+    row("odd values", {{-3, odd}});
+}
+
+void tst_CtlExchange::roundTripChangesNoByte()
+{
+    QFETCH(QByteArray, json);
+    const CtlFixture fixture;
+    const QString other = fixture.path(QStringLiteral("other.db"));
+    const QString option = QStringLiteral("--database");
+    for (const QString& database : {fixture.database(), other}) {
+        QCOMPARE(fixture.run(fivePrograms() + QStringList{option, database}).status, 0);
+    }
+    fixture.writeFile(kFile, json);
+    const CtlResult read = fixture.onDatabase({kImportSchedule, kFile});
+    QVERIFY2(read.status == 0, qPrintable(read.err));
+    const QString again = QStringLiteral("again.json");
+    QCOMPARE(fixture.onDatabase({kExport, again}).status, 0);
+    QCOMPARE(fixture.fileContent(again), json);
+    // And once more, into another database.
+    QCOMPARE(fixture.run({kImportSchedule, again, option, other}).status, 0);
+    QCOMPARE(fixture.run({kExport, kStream, option, other}).out, json);
+}
+
+void tst_CtlExchange::standardStreamsCarryASchedule()
+{
+    const CtlFixture fixture;
+    const QByteArray json = scheduleToJson(sampleSchedule(3, 2, 0));
+    const CtlResult read = fixture.onDatabase({kImportSchedule, kStream}, json);
+    QCOMPARE(read.status, 0);
+    QCOMPARE(read.text(),
+             QStringLiteral("3 tasks with 6 plans read from the standard input, in the "
+                            "place of 0 tasks with 0 plans.\n"));
+    const CtlResult written = fixture.onDatabase({kExport, kStream});
+    QCOMPARE(written.status, 0);
+    QCOMPARE(written.err, QString());
+    QCOMPARE(written.out, json);
+    QVERIFY(!QFileInfo::exists(fixture.path(kStream)));
+}
+
+void tst_CtlExchange::exportReplacesAFile()
+{
+    const CtlFixture fixture;
+    fixture.store({{1, januaryTask(1)}});
+    fixture.writeFile(kFile, QByteArray(100000, 'x'));
+    const CtlResult result = fixture.onDatabase({kExport, kFile});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.text(), QStringLiteral("1 task with 0 plans written to schedule.json.\n"));
+    QCOMPARE(fixture.fileContent(kFile), fixture.exported());
+}
+
+void tst_CtlExchange::exportRefusals()
+{
+    const CtlFixture fixture;
+    fixture.store({{1, januaryTask(1)}});
+    const QByteArray before = fixture.exported();
+
+    const CtlResult nowhere = fixture.onDatabase({kExport, QStringLiteral("nowhere/x.json")});
+    QCOMPARE(nowhere.status, 1);
+    QVERIFY2(
+        nowhere.err.startsWith(QStringLiteral("schedulectl: nowhere/x.json cannot be written: ")),
+        qPrintable(nowhere.err));
+
+    QVERIFY(QDir(fixture.path(QString())).mkdir(QStringLiteral("folder")));
+    QCOMPARE(fixture.onDatabase({kExport, QStringLiteral("folder")}).status, 1);
+
+    // By any of its names.
+    QVERIFY(QFile::link(fixture.database(), fixture.path(QStringLiteral("link.db"))));
+    for (const char* name : {"test.db", "folder/../test.db", "link.db"}) {
+        const CtlResult itself = fixture.onDatabase({kExport, QString::fromLatin1(name)});
+        QCOMPARE(itself.status, 1);
+        QCOMPARE(itself.err,
+                 told(QStringLiteral("%1 is the database itself and is not written over.")
+                          .arg(QString::fromLatin1(name))));
+    }
+    QCOMPARE(fixture.exported(), before);
+}
+
+void tst_CtlExchange::importReplacesTheWholeSchedule()
+{
+    const CtlFixture fixture;
+    fixture.store(sampleSchedule(4, 2, 0));
+    fixture.writeFile(kFile, scheduleToJson({{9, januaryTask(9)}}));
+    const CtlResult result = fixture.onDatabase({kImportSchedule, kFile});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.text(), QStringLiteral("1 task with 0 plans read from schedule.json, in the "
+                                           "place of 4 tasks with 8 plans.\n"));
+    QCOMPARE(fixture.exported(), scheduleToJson({{9, januaryTask(9)}}));
+}
+
+void tst_CtlExchange::importMakesADatabase()
+{
+    const CtlFixture fixture;
+    fixture.writeFile(kFile, scheduleToJson({}));
+    QCOMPARE(fixture.run({kImportSchedule, kFile}).status, 0);
+    QVERIFY(fixture.files().contains(QStringLiteral("data/trel/schedule/schedule.db")));
+    const CtlResult nowhere =
+        fixture.run({kImportSchedule, kFile, QStringLiteral("--database=nowhere/x.db")});
+    QCOMPARE(nowhere.status, 1);
+    QVERIFY(nowhere.err.contains(QStringLiteral("nowhere/x.db cannot be opened: its folder does "
+                                                "not exist.\n")));
+}
+
+void tst_CtlExchange::importTellsWhatIsOdd()
+{
+    const CtlFixture fixture;
+    PlayPlan plan = timePlan(1, "08:00:00", "09:00:00", "", 12);
+    plan.programs.push_back({5, false, "five", 1});
+    plan.programs.push_back({12, false, "twelve", 1});
+    plan.programs.push_back({65536, true, "tomb", 1});
+    fixture.writeFile(kFile, scheduleToJson({{1, januaryTask(1, {plan})}, {2, januaryTask(2)}}));
+    const CtlResult result = fixture.onDatabase({kImportSchedule, kFile});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(
+        result.err,
+        told(QStringLiteral("Periods of tasks overlap, so the editor would refuse to save this "
+                            "schedule; see \"schedulectl check\".")) +
+            told(QStringLiteral("Plans refer to programs that the catalogue does not have, so "
+                                "their entries are invalid: 5, 12.")));
+}
+
+void tst_CtlExchange::badFilesChangeNothing_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("error");
+
+    const QByteArray good = scheduleToJson({{1, januaryTask(1)}});
+    const auto row = [&good](const char* name, const char* before, const char* after,
+                             const char* error) {
+        QByteArray json = good;
+        QTest::newRow(name) << json.replace(before, after) << QString::fromUtf8(error);
+    };
+    QTest::newRow("empty") << QByteArray()
+                           << QStringLiteral("not JSON at line 1, column 1: a value is expected, "
+                                             "but the text ends here");
+    row("no JSON", "\"endDate\"", "endDate",
+        "not JSON at line 8, column 7: the name of a member is expected");
+    row("wrong kind", "\"2024.01.31\"", "31",
+        "tasks[0].endDate (line 8, column 18): a text is expected here, not a number");
+    row("unknown member", "\"plans\"", "\"plan\\u001b\"",
+        "tasks[0].plan\\x1b (line 9, column 7): there is no member \"plan\\x1b\" here");
+    row("newer version", "\"version\": 1", "\"version\": 2",
+        "version: 2 is newer than 1, the newest that this program reads");
+}
+
+void tst_CtlExchange::badFilesChangeNothing()
+{
+    QFETCH(QByteArray, json);
+    QFETCH(QString, error);
+
+    const CtlFixture fixture;
+    fixture.writeFile(kFile, json);
+    CtlResult result = fixture.onDatabase({kImportSchedule, kFile});
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.out, QByteArray());
+    QCOMPARE(result.err, told(QStringLiteral("schedule.json: %1.").arg(error)));
+    QCOMPARE(fixture.files(), QStringList{kFile});
+
+    fixture.store({{5, januaryTask(5)}});
+    result = fixture.onDatabase({kImportSchedule, kStream}, json);
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.err, told(QStringLiteral("the standard input: %1.").arg(error)));
+    QCOMPARE(fixture.exported(), scheduleToJson({{5, januaryTask(5)}}));
+
+    result = fixture.onDatabase({kImportSchedule, QStringLiteral("missing.json")});
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.err,
+             told(QStringLiteral("missing.json cannot be read: No such file or directory.")));
+    QVERIFY(QDir(fixture.path(QString())).mkdir(QStringLiteral("folder")));
+    result = fixture.onDatabase({kImportSchedule, QStringLiteral("folder")});
+    QCOMPARE(result.status, 1);
+    QVERIFY(result.err.startsWith(QStringLiteral("schedulectl: folder cannot be read: ")));
+}
+
+QTEST_GUILESS_MAIN(tst_CtlExchange)
+#include "tst_CtlExchange.moc"
