@@ -28,6 +28,12 @@ QString textOf(const TipDialog& prompt)
     return prompt.findChild<QLabel*>(QStringLiteral("dialogTipLabel"))->text();
 }
 
+/// Where a key goes: a prompt without buttons has nothing in it to take the focus.
+QWidget* keyTarget(TipDialog* prompt)
+{
+    return prompt->focusWidget() ? prompt->focusWidget() : prompt;
+}
+
 void click(QPushButton* button)
 {
     QTest::mouseClick(button, Qt::LeftButton);
@@ -102,10 +108,10 @@ void PromptAnswer::answer(TipDialog* prompt)
     const QPointer<TipDialog> open(prompt);
     switch (next) {
     case Enter:
-        QTest::keyClick(prompt->focusWidget(), Qt::Key_Return);
+        QTest::keyClick(keyTarget(prompt), Qt::Key_Return);
         break;
     case Escape:
-        QTest::keyClick(prompt->focusWidget(), Qt::Key_Escape);
+        QTest::keyClick(keyTarget(prompt), Qt::Key_Escape);
         break;
     case Close:
         click(prompt->findChild<QPushButton*>(QStringLiteral("ButtonClose")));
