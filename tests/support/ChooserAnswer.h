@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/ChooserWindow.h"
+#include "support/PlatformNotes.h"
 
 #include <QObject>
 
@@ -40,6 +41,7 @@ protected:
 private:
     void answer(QDialog* chooser);
 
+    NoPlatformNotes m_quiet;
     std::deque<Steps> m_steps;
     int m_count = 0;
 };

@@ -219,7 +219,7 @@ QStringList ChooserWindow::contextMenu(int row, int line) const
     withContextMenu(row, [&](QMenu& menu) {
         found = lines(menu);
         if (line >= 0) {
-            QTest::mouseClick(&menu, Qt::LeftButton, Qt::NoModifier,
+            QTest::mouseClick(menu.windowHandle(), Qt::LeftButton, Qt::NoModifier,
                               menu.actionGeometry(menu.actions().at(line)).center());
         }
     });

@@ -1,5 +1,7 @@
 #include "support/MessageLog.h"
 
+#include "support/PlatformNotes.h"
+
 namespace {
 
 MessageLog* s_log = nullptr;
@@ -39,8 +41,7 @@ QStringList MessageLog::warnings() const
 
 void MessageLog::take(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-    // The platform of the tests says so of every window with a limited size.
-    if (text == QLatin1String("This plugin does not support propagateSizeHints()"))
+    if (isPlatformNote(text))
         return;
     s_log->m_messages.push_back({type, text, QString::fromUtf8(context.file), context.line,
                                  QString::fromUtf8(context.function)});
