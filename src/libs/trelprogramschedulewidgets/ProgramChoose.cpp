@@ -7,6 +7,7 @@
 #include "SHeaderView.h"
 #include "ScheduleText.h"
 #include "SpinBoxDelegate.h"
+#include "service/InvalidEntries.h"
 #include "service/PlanInsertion.h"
 #include "service/ProgramTotal.h"
 #include "service/scheduleManage.h"
@@ -18,6 +19,8 @@
 #include <QMenu>
 
 #include <algorithm>
+#include <array>
+#include <iterator>
 
 namespace trel::mediadispatch {
 
@@ -32,11 +35,12 @@ constexpr QSize kTallFrameSize(610, 1000);
 /// No row of the right table is being edited.
 constexpr int kNoRow = -1;
 
-/// From here on, one below kInvalidProgIndex, an entry whose program is gone is read back from the
-/// table as gone bad.
-constexpr int kFirstInvalidReadBack = kInvalidProgIndex - 1;
-
 constexpr char kStyle[] = "style";
+
+/// The context menu of the right table, from the top.
+enum MenuLine { CutLine = 0, DelayLine, MoveUpLine, MoveDownLine, MenuLineCount };
+constexpr std::array<const char*, MenuLineCount> kMenuKeys = {"zhCutCurrentProg", "zhDelayInsert",
+                                                              "zhProgMoveUp", "zhProgMoveDown"};
 
 scheduleManage& service()
 {
@@ -184,9 +188,7 @@ void ProgramChoose::loadPlan()
         struProgInfo& entry = plan.programs[i];
         ChoiceRow row;
         if (entry.isInvalid) {
-            if (entry.progIndex < kInvalidProgIndex) {
-                entry.progName += scheduleText("szInvalidStr").toStdString();
-                entry.progIndex = kInvalidProgIndex;
+            if (buryInvalidEntry(entry, scheduleText("szInvalidStr").toStdString())) {
                 service().addPlan(m_taskId, plan);
             }
             row.name = QString::fromStdString(entry.progName);
@@ -432,7 +434,7 @@ void ProgramChoose::syncSelectedPrograms()
     for (int row = 0; row < m_planModel->rowCount(); ++row) {
         struProgInfo entry = choiceAt(*m_planModel, row);
         const ProgramIten program = service().getProgramItemByIndex(entry.progIndex);
-        entry.isInvalid = program.isNull && entry.progIndex >= kFirstInvalidReadBack;
+        entry.isInvalid = isInvalidReadBack(entry.progIndex, program.isNull);
         m_selectedPrograms.push_back(std::move(entry));
     }
     m_planChanged = false;
@@ -461,22 +463,16 @@ bool ProgramChoose::canInsert(int row) const
     const int progIndex = choiceIndexAt(*m_planModel, row);
     int index = -1;
     const PlayPlan inUse = service().getNowUsePlan(m_taskId, m_planId, index);
-    // A program may stand in the plan several times; its last entry counts.
-    const auto last = std::find_if(
-        inUse.programs.rbegin(), inUse.programs.rend(),
-        [progIndex](const struProgInfo& entry) { return entry.progIndex == progIndex; });
-    const bool isInvalid = last != inUse.programs.rend() && last->isInvalid;
     if (index < 0 || isNewChoice(*m_planModel, row)) {
         return false;
     }
-    return !service().getProgramItemByIndex(progIndex).isNull && !isInvalid;
+    return !service().getProgramItemByIndex(progIndex).isNull && !holdsAsInvalid(inUse, progIndex);
 }
 
 void ProgramChoose::showInsertMenu(bool enabled, QPoint pos)
 {
     QMenu menu;
-    for (const char* key :
-         {"zhCutCurrentProg", "zhDelayInsert", "zhProgMoveUp", "zhProgMoveDown"}) {
+    for (const char* key : kMenuKeys) {
         const QAction* action = menu.addAction(scheduleText(key));
         if (enabled) {
             connect(action, &QAction::triggered, this,
@@ -493,18 +489,24 @@ void ProgramChoose::onActionInsertProgramTriggered()
     if (!action) {
         return;
     }
-    const QString text = action->text();
-    if (text == scheduleText("zhCutCurrentProg")) {
-        insertProgram(false);
-    } else if (text == scheduleText("zhDelayInsert")) {
+    // The actions carry nothing but their text.
+    const auto key = std::find_if(kMenuKeys.begin(), kMenuKeys.end(), [action](const char* k) {
+        return action->text() == scheduleText(k);
+    });
+    switch (std::distance(kMenuKeys.begin(), key)) {
+    case DelayLine:
         insertProgram(true);
-    } else if (text == scheduleText("zhProgMoveUp")) {
+        break;
+    case MoveUpLine:
         moveRows(true, false);
-    } else if (text == scheduleText("zhProgMoveDown")) {
+        break;
+    case MoveDownLine:
         moveRows(false, false);
-    } else {
-        // The language has changed while the menu was open.
+        break;
+    default:
+        // Also for a text that is no longer known, as the language has changed under the menu.
         insertProgram(false);
+        break;
     }
 }
 
@@ -614,7 +616,8 @@ void ProgramChoose::slotProgIndexChanged() {}
 
 void ProgramChoose::keyPressEvent(QKeyEvent* event)
 {
-    QWidget::keyPressEvent(event);
+    // The base class would answer Return and Escape itself.
+    QWidget::keyPressEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 } // namespace trel::mediadispatch

@@ -118,7 +118,7 @@ QString saved(const QTemporaryDir& dir, const char* name, const QSize& size)
 {
     QImage image(size, QImage::Format_ARGB32);
     image.fill(Qt::magenta);
-    const QString path = dir.filePath(QString::fromLatin1(name));
+    QString path = dir.filePath(QString::fromLatin1(name));
     image.save(path);
     return path;
 }
