@@ -2,6 +2,8 @@
 
 #include "service/ScheduleRecords.h"
 
+#include <QMetaType>
+
 #include <string>
 #include <utility>
 #include <vector>
@@ -52,3 +54,6 @@ inline trel::mediadispatch::PlayTask taskWithPlans(std::vector<trel::mediadispat
     task.plans = std::move(plans);
     return task;
 }
+
+Q_DECLARE_METATYPE(trel::mediadispatch::PlayPlan)
+Q_DECLARE_METATYPE(trel::mediadispatch::PlayTask)

@@ -201,10 +201,12 @@ void PlanTaskWidget::slotAddRowPlan(PlayPlan plan, bool init)
     openRowEditors(*m_ui->tableView, row);
 }
 
+// False also when the card has gone while the chooser was on screen.
 bool PlanTaskWidget::choosePrograms(PlayPlan& plan)
 {
+    const QPointer<PlanTaskWidget> self(this);
     ProgramChoose chooser(&m_task, m_task.id, plan.id, this, true);
-    if (chooser.execChoose() != kConfirmed) {
+    if (chooser.execChoose() != kConfirmed || !self) {
         return false;
     }
     plan.hasNoDuration = chooser.hasNoDuration();
@@ -249,9 +251,14 @@ void PlanTaskWidget::slotAddProgram(int row)
         return;
     }
     const int planId = found->second;
+    const QPointer<PlanTaskWidget> self(this);
     ProgramChoose chooser(&m_task, m_task.id, planId, this, false);
     QString text = chooser.getSelectedProgramText();
-    if (chooser.execChoose() == kConfirmed) {
+    const int result = chooser.execChoose();
+    if (!self) {
+        return;
+    }
+    if (result == kConfirmed) {
         text = chooser.getSelectedProgramText();
         m_model->setData(m_model->index(row, ProgramsColumn), text, ProgramTextRole);
         lockModeOfRow(row, planId);
