@@ -71,7 +71,8 @@ public:
     /// Absolute path of the open store; empty when none is.
     QString path() const;
 
-    /// True while the working set differs from the stored set.
+    /// True while the working set differs from the stored set, in more than the marks of collision
+    /// that every display of a task works out afresh.
     bool hasUnsavedChanges() const;
     /// As scheduleManage::save, with the outcome as the result instead of a signal. After MovedOn
     /// it keeps refusing until the stored set has been read again.

@@ -51,6 +51,14 @@ std::vector<PlayPlan>::iterator planWithId(std::vector<PlayPlan>& plans, int pla
                         [planId](const PlayPlan& plan) { return plan.id == planId; });
 }
 
+PlayTask withoutCollisions(PlayTask task)
+{
+    for (PlayPlan& plan : task.plans) {
+        plan.isConflict = false;
+    }
+    return task;
+}
+
 } // namespace
 
 TaskEdits editsBetween(const TaskMap& from, const TaskMap& to)
@@ -122,7 +130,14 @@ void TaskSets::putPlan(int taskId, const PlayPlan& plan)
 
 bool TaskSets::isEdited() const
 {
-    return !edits().isEmpty();
+    return std::any_of(m_touched.begin(), m_touched.end(), [this](int id) {
+        const auto stored = m_stored.find(id);
+        const auto working = m_working.find(id);
+        if (stored == m_stored.end() || working == m_working.end()) {
+            return (stored == m_stored.end()) != (working == m_working.end());
+        }
+        return withoutCollisions(stored->second) != withoutCollisions(working->second);
+    });
 }
 
 TaskEdits TaskSets::edits() const

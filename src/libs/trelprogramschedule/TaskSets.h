@@ -48,6 +48,8 @@ public:
     /// Replaces the first plan with this id, or appends it; nothing without such a task.
     void putPlan(int taskId, const PlayPlan& plan);
 
+    /// True when the operator has changed something. Collisions are worked out afresh wherever a
+    /// task is shown, so that they alone are no change.
     bool isEdited() const;
     /// What turns the stored set into the working set.
     TaskEdits edits() const;
