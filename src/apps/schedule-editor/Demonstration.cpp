@@ -1,0 +1,93 @@
+#include "Demonstration.h"
+
+#include "service/Clock.h"
+#include "trelprogramschedule/ProgramImporter.h"
+#include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/ScheduleJson.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+struct Demonstration
+{
+    Q_DECLARE_TR_FUNCTIONS(Demonstration)
+};
+
+/// Copies the media beside the database; empty when one could not be copied.
+QString copyMedia(const QString& folder)
+{
+    const QFileInfo database(ScheduleHost::instance().path());
+    QDir target(database.absolutePath());
+    const QString name = database.completeBaseName() + QStringLiteral("-demonstration");
+    if (!target.mkpath(name) || !target.cd(name)) {
+        return QString();
+    }
+    const QFileInfoList media =
+        QDir(folder + QStringLiteral("/media")).entryInfoList(QDir::Files, QDir::Name);
+    for (const QFileInfo& file : media) {
+        const QString copy = target.filePath(file.fileName());
+        if (!QFile::exists(copy) && !QFile::copy(file.absoluteFilePath(), copy)) {
+            return QString();
+        }
+    }
+    return target.absolutePath();
+}
+
+QDate dateOf(const std::string& text)
+{
+    return QDate::fromString(QString::fromStdString(text), kDateFormat);
+}
+
+void moveTo(const QDate& firstDay, std::map<int, PlayTask>& tasks)
+{
+    if (tasks.empty()) {
+        return;
+    }
+    const auto earliest =
+        std::min_element(tasks.begin(), tasks.end(), [](const auto& a, const auto& b) {
+            return a.second.startDate < b.second.startDate;
+        });
+    const qint64 days = dateOf(earliest->second.startDate).daysTo(firstDay);
+    const auto move = [days](std::string& date) {
+        date = dateOf(date).addDays(days).toString(kDateFormat).toStdString();
+    };
+    for (auto& [id, task] : tasks) {
+        move(task.startDate);
+        move(task.endDate);
+    }
+}
+
+} // namespace
+
+QString fillWithDemonstration(const QString& folder)
+{
+    QFile file(folder + QStringLiteral("/schedule.json"));
+    if (!file.open(QIODevice::ReadOnly)) {
+        return Demonstration::tr("The demonstration could not be read: %1: %2")
+            .arg(file.fileName(), file.errorString());
+    }
+    ScheduleFromJson schedule = scheduleFromJson(file.readAll());
+    if (!schedule.error.isEmpty()) {
+        return Demonstration::tr("The demonstration could not be read: %1: %2")
+            .arg(file.fileName(), schedule.error);
+    }
+    const QString media = copyMedia(folder);
+    if (media.isEmpty()) {
+        return Demonstration::tr(
+            "The demonstration's media could not be copied beside the database.");
+    }
+    ScheduleHost& host = ScheduleHost::instance();
+    if (const ImportResult result = host.addPrograms(scanMedia({media}).sources); !result.store) {
+        return result.store.message;
+    }
+    moveTo(Clock::current().today(), schedule.tasks);
+    return host.replaceSchedule(schedule.tasks).message;
+}

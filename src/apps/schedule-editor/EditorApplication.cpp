@@ -1,0 +1,157 @@
+#include "EditorApplication.h"
+
+#include "EditorWindow.h"
+#include "Languages.h"
+#include "SaveRescue.h"
+#include "ScheduleSummary.h"
+#include "Theme.h"
+#include "common/DefaultDatabase.h"
+#include "scheduleControlUI.h"
+#include "service/scheduleManage.h"
+#include "trelprogramschedule/ScheduleHost.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+#include <QSettings>
+#include <QTextStream>
+#include <QTimer>
+
+#include <cstdio>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+const QLatin1String kLanguageSetting("language");
+
+/// The editor drops a show in the first second of its life.
+constexpr int kShowGuardMSecs = 1000;
+
+/// Lets the toolkit fall back to drawing off screen where it finds no display, instead of ending
+/// the program. A platform that was asked for by name is left alone.
+void allowOffScreen()
+{
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        return;
+    }
+    QByteArrayList platforms;
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+        platforms.append("wayland");
+    }
+    if (!qEnvironmentVariableIsEmpty("DISPLAY")) {
+        platforms.append("xcb");
+    }
+    platforms.append("offscreen");
+    qputenv("QT_QPA_PLATFORM", platforms.join(';'));
+}
+
+bool nobodyWatches()
+{
+    return QGuiApplication::platformName() == QLatin1String("offscreen") ||
+           QGuiApplication::platformName() == QLatin1String("minimal");
+}
+
+QString languageFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/../share/trelprogramschedulewidgets/languages"));
+}
+
+/// Opens the first card, so that the picture shows plans, and writes the picture.
+bool writePicture(scheduleControlUI& editor, const QString& file)
+{
+    if (auto* title = editor.findChild<QAbstractButton*>(QStringLiteral("title"))) {
+        title->setChecked(false);
+    }
+    QCoreApplication::processEvents();
+    return editor.grab().save(file);
+}
+
+/// Prints and draws what the operator would see, for a machine without a display.
+int report(scheduleControlUI& editor, const QString& picture)
+{
+    QTextStream out(stdout);
+    out << scheduleSummary(ScheduleHost::instance().path(),
+                           scheduleManage::getInstance().getgTaskMap(),
+                           scheduleManage::getInstance().getPrograms());
+    out.flush();
+    if (!writePicture(editor, picture)) {
+        QTextStream(stderr) << "The picture could not be written to " << picture << Qt::endl;
+        return 1;
+    }
+    out << "A picture of the editor was written to " << QDir(picture).absolutePath() << Qt::endl;
+    return 0;
+}
+
+} // namespace
+
+int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
+{
+    allowOffScreen();
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("trel"));
+    QCoreApplication::setApplicationName(QStringLiteral("schedule-editor"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TREL_VERSION));
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qss/img/schedule-editor.svg")));
+    theme::applyColours(application);
+
+    const bool unattended = nobodyWatches() || !options.screenshot.isEmpty();
+    if (nobodyWatches()) {
+        QTextStream(stdout) << "There is no display; running off screen." << Qt::endl;
+    }
+
+    scheduleControlUI editor;
+    theme::applySheet(editor);
+    editor.setCheckBoxImagePath(QStringLiteral(":/qss/img/checked.svg"),
+                                QStringLiteral(":/qss/img/unchecked.svg"));
+    Languages languages(languageFolder(), editor);
+    QSettings settings;
+    languages.select(languages.startLanguage(options.language.isEmpty()
+                                                 ? settings.value(kLanguageSetting).toString()
+                                                 : options.language));
+    QObject::connect(&languages, &Languages::changed, &settings, [&settings, &languages] {
+        settings.setValue(kLanguageSetting, languages.current());
+    });
+
+    EditorWindow window(editor, languages);
+    const SaveRescue rescue(ScheduleHost::instance(), &window);
+    const QString database =
+        options.database.isEmpty() ? makeDefaultDatabaseFolder() : options.database;
+    const QString error = window.openDatabase(database, options.demonstration);
+    if (unattended && !error.isEmpty()) {
+        QTextStream(stderr) << error << Qt::endl;
+        return 1;
+    }
+
+    int status = 0;
+    const auto reportAndLeave = [&] {
+        status = report(editor, options.screenshot.isEmpty()
+                                    ? QDir::temp().filePath(QStringLiteral("schedule-editor.png"))
+                                    : options.screenshot);
+        QCoreApplication::exit(status);
+    };
+    QTimer::singleShot(kShowGuardMSecs, &window, [&] {
+        window.showEditor();
+        if (!error.isEmpty()) {
+            window.tell(error);
+        }
+        if (unattended && options.imports.isEmpty()) {
+            reportAndLeave();
+        }
+        window.importMedia(options.imports);
+    });
+    if (unattended) {
+        QObject::connect(&window, &EditorWindow::importEnded, &application, reportAndLeave);
+    }
+    if (!unattended) {
+        window.show();
+    }
+    const int result = QApplication::exec();
+    // The store goes while the application still stands.
+    ScheduleHost::instance().close();
+    return status != 0 ? status : result;
+}

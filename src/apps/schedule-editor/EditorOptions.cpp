@@ -1,0 +1,65 @@
+#include "EditorOptions.h"
+
+#include <QCommandLineParser>
+
+namespace {
+
+EditorOptionsResult ended(EditorOptionsResult::Next next, const QString& text)
+{
+    EditorOptionsResult result;
+    result.next = next;
+    result.text = text;
+    return result;
+}
+
+} // namespace
+
+EditorOptionsResult readEditorOptions(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Edits the play schedule of media screens.\n\n"
+                       "With no display the editor runs off screen, writes a picture of its window "
+                       "and prints a summary of the schedule."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption database(
+        {QStringLiteral("d"), QStringLiteral("database")},
+        QStringLiteral("Open the schedule in FILE instead of your own; made if it is missing."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption demonstration(
+        QStringLiteral("demonstration"),
+        QStringLiteral("Fill a database that does not exist yet from FOLDER."),
+        QStringLiteral("FOLDER"));
+    const QCommandLineOption screenshot(
+        QStringLiteral("screenshot"),
+        QStringLiteral("Write a picture of the editor to FILE, print a summary and end."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption language(QStringLiteral("language"),
+                                      QStringLiteral("Start in this language, such as en_US."),
+                                      QStringLiteral("NAME"));
+    parser.addOptions({database, demonstration, screenshot, language});
+    parser.addPositionalArgument(QStringLiteral("MEDIA"),
+                                 QStringLiteral("Files and folders to import as programs."),
+                                 QStringLiteral("[MEDIA...]"));
+
+    if (!parser.parse(arguments)) {
+        return ended(EditorOptionsResult::Next::Misuse,
+                     parser.errorText() + QStringLiteral("\nTry --help."));
+    }
+    if (parser.isSet(help)) {
+        return ended(EditorOptionsResult::Next::Done, parser.helpText().trimmed());
+    }
+    if (parser.isSet(version)) {
+        return ended(EditorOptionsResult::Next::Done,
+                     QStringLiteral("schedule-editor " TREL_VERSION));
+    }
+
+    EditorOptionsResult result;
+    result.options.database = parser.value(database);
+    result.options.demonstration = parser.value(demonstration);
+    result.options.screenshot = parser.value(screenshot);
+    result.options.language = parser.value(language);
+    result.options.imports = parser.positionalArguments();
+    return result;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What the command line asks of the editor.
+struct EditorOptions
+{
+    QString database;      ///< Empty for the user's own.
+    QString demonstration; ///< Folder that a database which does not exist yet is filled from.
+    QString screenshot;  ///< Where to write a picture of the editor before ending; empty for none.
+    QString language;    ///< Empty for the language last chosen.
+    QStringList imports; ///< Media to import at the start.
+};
+
+/// How reading a command line ended.
+struct EditorOptionsResult
+{
+    enum class Next {
+        Start, ///< Go on with the options.
+        Done,  ///< Print text and end with 0.
+        Misuse ///< Print text and end with 2.
+    };
+
+    Next next = Next::Start;
+    EditorOptions options;
+    QString text;
+};
+
+/// Reads a command line, the program's name included. Needs no application object.
+EditorOptionsResult readEditorOptions(const QStringList& arguments);

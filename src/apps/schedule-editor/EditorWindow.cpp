@@ -1,0 +1,463 @@
+#include "EditorWindow.h"
+
+#include "Demonstration.h"
+#include "HostPrompts.h"
+#include "ImportJob.h"
+#include "Languages.h"
+#include "ProgramTableModel.h"
+#include "scheduleControlUI.h"
+#include "service/scheduleManage.h"
+#include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/ScheduleJson.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QProgressDialog>
+#include <QStatusBar>
+#include <QTableView>
+#include <QUrl>
+#include <QVBoxLayout>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+/// What of a drop can be imported: files, folders and addresses of streams.
+QStringList droppedMedia(const QMimeData* data)
+{
+    QStringList paths;
+    const QList<QUrl> urls = data->urls();
+    for (const QUrl& url : urls) {
+        paths.append(url.isLocalFile() ? url.toLocalFile() : url.toString());
+    }
+    return paths;
+}
+
+} // namespace
+
+struct EditorWindow::Actions
+{
+    QMenu* file = nullptr;
+    QMenu* programs = nullptr;
+    QMenu* language = nullptr;
+    QAction* schedule = nullptr;
+    QAction* open = nullptr;
+    QAction* exportSchedule = nullptr;
+    QAction* importSchedule = nullptr;
+    QAction* quit = nullptr;
+    QAction* importFiles = nullptr;
+    QAction* importFolder = nullptr;
+    QAction* remove = nullptr;
+};
+
+EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages)
+    : m_editor(editor)
+    , m_languages(languages)
+    , m_actions(std::make_unique<Actions>())
+    , m_programs(new ProgramTableModel(this))
+    , m_table(new QTableView(this))
+    , m_hint(new QLabel(this))
+    , m_languageGroup(new QActionGroup(this))
+{
+    setObjectName(QStringLiteral("editorWindow"));
+    setAcceptDrops(true);
+    m_editor.setAcceptDrops(true);
+    m_editor.installEventFilter(this);
+
+    m_table->setObjectName(QStringLiteral("programTable"));
+    m_table->setModel(m_programs);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setAlternatingRowColors(true);
+    m_table->setShowGrid(false);
+    m_table->setWordWrap(false);
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->setColumnWidth(ProgramTableModel::IndexColumn, 60);
+    m_table->setColumnWidth(ProgramTableModel::NameColumn, 260);
+    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
+
+    m_hint->setObjectName(QStringLiteral("programHint"));
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setWordWrap(true);
+
+    auto* centre = new QWidget(this);
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_hint, 1);
+    layout->addWidget(m_table, 1);
+    setCentralWidget(centre);
+
+    buildMenus();
+    retranslate();
+    resize(900, 520);
+
+    connect(&ScheduleHost::instance(), &ScheduleHost::catalogueChanged, this,
+            &EditorWindow::updateCatalogue);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { m_actions->remove->setEnabled(m_table->selectionModel()->hasSelection()); });
+    connect(&m_languages, &Languages::changed, this, &EditorWindow::updateTitle);
+    updateCatalogue();
+}
+
+EditorWindow::~EditorWindow() = default;
+
+void EditorWindow::buildMenus()
+{
+    Actions& actions = *m_actions;
+    const auto add = [this](QMenu* menu, const QKeySequence& keys, auto slot) {
+        QAction* action = menu->addAction(QString(), this, slot);
+        action->setShortcut(keys);
+        return action;
+    };
+
+    actions.file = menuBar()->addMenu(QString());
+    actions.schedule =
+        add(actions.file, QKeySequence(QStringLiteral("Ctrl+E")), &EditorWindow::showEditor);
+    actions.file->addSeparator();
+    actions.open = add(actions.file, QKeySequence::Open, &EditorWindow::chooseDatabase);
+    actions.importSchedule = add(actions.file, {}, &EditorWindow::importSchedule);
+    actions.exportSchedule = add(actions.file, {}, &EditorWindow::exportSchedule);
+    actions.file->addSeparator();
+    actions.quit = add(actions.file, QKeySequence::Quit, [this] { close(); });
+
+    actions.programs = menuBar()->addMenu(QString());
+    actions.importFiles = add(actions.programs, QKeySequence(QStringLiteral("Ctrl+I")),
+                              &EditorWindow::choosePrograms);
+    actions.importFolder = add(actions.programs, QKeySequence(QStringLiteral("Ctrl+Shift+I")),
+                               &EditorWindow::chooseFolder);
+    actions.programs->addSeparator();
+    actions.remove =
+        add(actions.programs, QKeySequence::Delete, &EditorWindow::removeSelectedPrograms);
+    actions.remove->setEnabled(false);
+    m_table->addAction(actions.importFiles);
+    m_table->addAction(actions.remove);
+
+    actions.language = menuBar()->addMenu(QString());
+    buildLanguageMenu();
+}
+
+void EditorWindow::buildLanguageMenu()
+{
+    const QStringList names = m_languages.names();
+    for (const QString& name : names) {
+        QAction* action = m_actions->language->addAction(Languages::nativeName(name));
+        action->setCheckable(true);
+        action->setData(name);
+        m_languageGroup->addAction(action);
+    }
+    const auto mark = [this] {
+        const QList<QAction*> actions = m_languageGroup->actions();
+        for (QAction* action : actions) {
+            action->setChecked(action->data().toString() == m_languages.current());
+        }
+    };
+    mark();
+    connect(&m_languages, &Languages::changed, this, mark);
+    connect(m_languageGroup, &QActionGroup::triggered, this,
+            [this](const QAction* action) { m_languages.select(action->data().toString()); });
+}
+
+void EditorWindow::retranslate()
+{
+    Actions& actions = *m_actions;
+    actions.file->setTitle(tr("&Schedule"));
+    actions.schedule->setText(tr("&Edit schedule"));
+    actions.open->setText(tr("&Open database…"));
+    actions.importSchedule->setText(tr("&Read schedule from a file…"));
+    actions.exportSchedule->setText(tr("&Write schedule to a file…"));
+    actions.quit->setText(tr("&Quit"));
+    actions.programs->setTitle(tr("&Programs"));
+    actions.importFiles->setText(tr("&Import files…"));
+    actions.importFolder->setText(tr("Import &folder…"));
+    actions.remove->setText(tr("&Remove from catalogue"));
+    actions.language->setTitle(tr("&Language"));
+    m_hint->setText(tr("No programs yet. Drop media files or folders here, or choose Import."));
+    m_programs->retranslate();
+    updateTitle();
+}
+
+void EditorWindow::updateTitle()
+{
+    const QString database = QFileInfo(ScheduleHost::instance().path()).fileName();
+    setWindowTitle(database.isEmpty() ? tr("Schedule editor")
+                                      : tr("%1 – Schedule editor").arg(database));
+    // The editor sets its own title on every change of language; the database's name goes behind.
+    if (!database.isEmpty()) {
+        m_editor.setTitle(QStringLiteral("%1 – %2").arg(Languages::editorTitle(), database));
+    }
+}
+
+void EditorWindow::updateCatalogue()
+{
+    m_programs->reload();
+    const bool empty = m_programs->rowCount() == 0;
+    m_hint->setVisible(empty);
+    m_table->setVisible(!empty);
+}
+
+QString EditorWindow::openDatabase(const QString& path, const QString& demonstration)
+{
+    const bool isNew = !QFileInfo::exists(path);
+    QString error = ScheduleHost::instance().open(path).message;
+    if (error.isEmpty() && isNew && !demonstration.isEmpty()) {
+        error = fillWithDemonstration(demonstration);
+    }
+    updateTitle();
+    updateCatalogue();
+    if (m_editor.isVisible()) {
+        m_editor.clearAndInitialize();
+    }
+    return error;
+}
+
+void EditorWindow::tell(const QString& text)
+{
+    prompts::notice(text);
+}
+
+void EditorWindow::showEditor()
+{
+    m_editor.slotShow();
+    m_editor.raise();
+    m_editor.activateWindow();
+}
+
+void EditorWindow::chooseDatabase()
+{
+    const QString file = QFileDialog::getOpenFileName(
+        this, tr("Open database"), QString(), tr("Schedules (*.db *.sqlite);;All files (*)"));
+    if (file.isEmpty() || !maySettle()) {
+        return;
+    }
+    if (const QString error = openDatabase(file); !error.isEmpty()) {
+        tell(error);
+    }
+}
+
+void EditorWindow::choosePrograms()
+{
+    importMedia(QFileDialog::getOpenFileNames(this, tr("Import files")));
+}
+
+void EditorWindow::chooseFolder()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Import folder"));
+    if (!folder.isEmpty()) {
+        importMedia({folder});
+    }
+}
+
+void EditorWindow::exportSchedule()
+{
+    const QString file = prompts::saveFileName(this, tr("Write the schedule to a file"),
+                                               tr("Schedules (*.json)"), QStringLiteral("json"));
+    if (file.isEmpty()) {
+        return;
+    }
+    const QString error = writeScheduleFile(file, scheduleManage::getInstance().getgTaskMap());
+    if (!error.isEmpty()) {
+        tell(error);
+        return;
+    }
+    statusBar()->showMessage(tr("Written to %1.").arg(file));
+}
+
+void EditorWindow::importSchedule()
+{
+    const QString name = QFileDialog::getOpenFileName(this, tr("Read a schedule from a file"),
+                                                      QString(), tr("Schedules (*.json)"));
+    if (name.isEmpty()) {
+        return;
+    }
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly)) {
+        tell(tr("%1 could not be read: %2").arg(name, file.errorString()));
+        return;
+    }
+    const ScheduleFromJson schedule = scheduleFromJson(file.readAll());
+    if (!schedule.error.isEmpty()) {
+        tell(tr("%1 could not be read: %2").arg(name, schedule.error));
+        return;
+    }
+    const int answer =
+        prompts::confirm(tr("Replace the whole schedule by the %n tasks of this file?", nullptr,
+                            static_cast<int>(schedule.tasks.size())),
+                         tr("Replace"), tr("Cancel"));
+    if (answer != 1) {
+        return;
+    }
+    if (const StoreResult result = ScheduleHost::instance().replaceSchedule(schedule.tasks);
+        !result) {
+        tell(result.message);
+        return;
+    }
+    if (m_editor.isVisible()) {
+        m_editor.clearAndInitialize();
+    }
+}
+
+void EditorWindow::removeSelectedPrograms()
+{
+    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    if (rows.isEmpty()) {
+        return;
+    }
+    const int answer = prompts::confirm(
+        tr("Remove %n programs from the catalogue? Plans that use them will show their entries as "
+           "invalid. The files stay.",
+           nullptr, rows.size()),
+        tr("Remove"), tr("Cancel"));
+    if (answer != 1) {
+        return;
+    }
+    std::vector<int> indexes;
+    for (const QModelIndex& row : rows) {
+        indexes.push_back(row.data(ProgramTableModel::ProgramIndexRole).toInt());
+    }
+    for (const int index : indexes) {
+        if (const StoreResult result = ScheduleHost::instance().removeProgram(index); !result) {
+            tell(result.message);
+            return;
+        }
+    }
+}
+
+void EditorWindow::importMedia(const QStringList& paths)
+{
+    if (paths.isEmpty() || m_job != nullptr) {
+        return;
+    }
+    m_job = new ImportJob(paths, this);
+    m_progress = new QProgressDialog(this);
+    m_progress->setObjectName(QStringLiteral("importProgress"));
+    m_progress->setWindowTitle(tr("Importing"));
+    m_progress->setCancelButtonText(tr("Cancel"));
+    m_progress->setWindowModality(Qt::WindowModal);
+    m_progress->setAutoReset(false);
+    m_progress->setMinimumWidth(420);
+    // A handful of files is done before anyone could read a dialog.
+    m_progress->setMinimumDuration(300);
+    connect(m_progress, &QProgressDialog::canceled, m_job, &ImportJob::cancel);
+    connect(m_job, &ImportJob::progressed, m_progress,
+            [progress = m_progress](int done, int total, const QString& path) {
+                if (progress->wasCanceled()) {
+                    return;
+                }
+                progress->setLabelText(QFileInfo(path).fileName());
+                progress->setMaximum(total);
+                progress->setValue(done);
+            });
+    connect(m_job, &ImportJob::finished, this, &EditorWindow::finishImport);
+    m_job->start();
+}
+
+void EditorWindow::finishImport()
+{
+    m_progress->deleteLater();
+    m_progress = nullptr;
+    m_job->deleteLater();
+    const ImportScan scan = std::exchange(m_job, nullptr)->scan();
+    if (scan.cancelled) {
+        statusBar()->showMessage(tr("The import was cancelled; nothing was taken in."));
+    } else {
+        const ImportResult result = ScheduleHost::instance().addPrograms(scan.sources);
+        if (result.store) {
+            reportImport(scan, static_cast<int>(result.added.size()),
+                         static_cast<int>(result.updated.size()));
+        } else {
+            tell(result.store.message);
+        }
+    }
+    emit importEnded();
+}
+
+void EditorWindow::reportImport(const ImportScan& scan, int added, int updated)
+{
+    statusBar()->showMessage(tr("Imported: %1 new, %2 updated.").arg(added).arg(updated));
+    if (scan.refusals.empty()) {
+        return;
+    }
+    constexpr std::size_t kShown = 8;
+    QStringList lines;
+    for (std::size_t i = 0; i < std::min(kShown, scan.refusals.size()); ++i) {
+        lines.append(QStringLiteral("%1: %2").arg(QFileInfo(scan.refusals[i].path).fileName(),
+                                                  scan.refusals[i].reason));
+    }
+    if (scan.refusals.size() > kShown) {
+        lines.append(
+            tr("… and %n more.", nullptr, static_cast<int>(scan.refusals.size() - kShown)));
+    }
+    tell(tr("Some files could not be imported:") + QLatin1Char('\n') +
+         lines.join(QLatin1Char('\n')));
+}
+
+bool EditorWindow::maySettle()
+{
+    ScheduleHost& host = ScheduleHost::instance();
+    if (!m_editor.isVisible() || !host.hasUnsavedChanges()) {
+        return true;
+    }
+    const int answer = prompts::confirm(tr("The schedule has changes that are not saved."),
+                                        tr("Save"), tr("Discard"), tr("Stay"));
+    if (answer == 1) {
+        // Through the service, so that a failure takes the same way as any other.
+        scheduleManage::getInstance().save();
+        return true;
+    }
+    return answer == 2;
+}
+
+void EditorWindow::closeEvent(QCloseEvent* event)
+{
+    if (!maySettle()) {
+        event->ignore();
+        return;
+    }
+    m_editor.close();
+    event->accept();
+}
+
+void EditorWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls()) {
+        event->acceptProposedAction();
+    }
+}
+
+void EditorWindow::dropEvent(QDropEvent* event)
+{
+    importMedia(droppedMedia(event->mimeData()));
+    event->acceptProposedAction();
+}
+
+void EditorWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    QMainWindow::changeEvent(event);
+}
+
+bool EditorWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == &m_editor && event->type() == QEvent::DragEnter) {
+        dragEnterEvent(static_cast<QDragEnterEvent*>(event));
+        return true;
+    }
+    if (watched == &m_editor && event->type() == QEvent::Drop) {
+        dropEvent(static_cast<QDropEvent*>(event));
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}

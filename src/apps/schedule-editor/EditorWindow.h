@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QStringList>
+
+#include <memory>
+
+class ImportJob;
+class Languages;
+class ProgramTableModel;
+class QActionGroup;
+class QLabel;
+class QMenu;
+class QProgressDialog;
+class QTableView;
+
+namespace trel::mediadispatch {
+class scheduleControlUI;
+struct ImportScan;
+} // namespace trel::mediadispatch
+
+/// The host's window: the catalogue of programs, the menus, and the way into the schedule editor.
+///
+/// Media dropped on it, or on the editor, are imported. Its title names the open database.
+class EditorWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Neither the editor nor the languages are owned; both outlive the window.
+    EditorWindow(trel::mediadispatch::scheduleControlUI& editor, Languages& languages);
+    ~EditorWindow() override;
+
+    /// Opens the store in a file. A database that does not exist yet is made, and filled from the
+    /// demonstration's folder unless that is empty. Returns an empty text, or a sentence that says
+    /// what went wrong.
+    QString openDatabase(const QString& path, const QString& demonstration = QString());
+
+    /// Imports media; shows progress, with a way to cancel, and reports what could not be taken.
+    /// While an import runs, another one is not begun.
+    void importMedia(const QStringList& paths);
+
+    /// Shows a message and waits until it has been read.
+    void tell(const QString& text);
+
+    /// Shows the schedule editor; in the first second of its life the editor stays away.
+    void showEditor();
+
+signals:
+    /// An import that was begun has ended, in whatever way.
+    void importEnded();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    struct Actions;
+
+    void buildMenus();
+    void buildLanguageMenu();
+    void retranslate();
+    void updateTitle();
+    void updateCatalogue();
+
+    void chooseDatabase();
+    void choosePrograms();
+    void chooseFolder();
+    void exportSchedule();
+    void importSchedule();
+    void removeSelectedPrograms();
+    void finishImport();
+    void reportImport(const trel::mediadispatch::ImportScan& scan, int added, int updated);
+    /// True when the window may go: nothing unsaved, or the operator has said what becomes of it.
+    bool maySettle();
+
+    trel::mediadispatch::scheduleControlUI& m_editor;
+    Languages& m_languages;
+    std::unique_ptr<Actions> m_actions;
+    ProgramTableModel* m_programs;
+    QTableView* m_table;
+    QLabel* m_hint;
+    QActionGroup* m_languageGroup;
+    ImportJob* m_job = nullptr;
+    QProgressDialog* m_progress = nullptr;
+};

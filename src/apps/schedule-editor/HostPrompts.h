@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// The few questions that the host asks, in the editor's own prompt. All block until answered.
+namespace prompts {
+
+/// Tells the operator something.
+void notice(const QString& text);
+
+/// Asks; the result is 1, 2 or 3 for the buttons in order, and 0 for any other way out.
+int confirm(const QString& text, const QString& first, const QString& second,
+            const QString& third = QString());
+
+/// Asks for a file to write; empty when the operator thinks better of it. The suffix is added to a
+/// name without one.
+QString saveFileName(QWidget* parent, const QString& title, const QString& filter,
+                     const QString& suffix);
+
+} // namespace prompts

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <QTranslator>
+
+namespace trel::mediadispatch {
+class scheduleControlUI;
+}
+
+/// The languages of the editor and of the host around it, and the one in use.
+///
+/// The editor's texts come from one language file each, loaded at construction; the host's own
+/// from the files with the prefix "schedule-editor_" beside them.
+class Languages : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Loads every language file of the folder into the editor.
+    Languages(const QString& folder, trel::mediadispatch::scheduleControlUI& editor,
+              QObject* parent = nullptr);
+
+    /// Names such as "zh_CN", sorted.
+    QStringList names() const { return m_names; }
+    /// The language as its own speakers write it.
+    static QString nativeName(const QString& name);
+    /// The editor's own title in the language in use.
+    static QString editorTitle();
+
+    QString current() const { return m_current; }
+    /// Switches editor and host; a name that no file has leaves the language as it is.
+    void select(const QString& name);
+
+    /// The language to start in: the wanted one if there is such a file, else the best match for
+    /// the operator's system, else the first.
+    QString startLanguage(const QString& wanted) const;
+
+signals:
+    /// Editor and host stand in the new language.
+    void changed();
+
+private:
+    QString m_folder;
+    trel::mediadispatch::scheduleControlUI& m_editor;
+    QStringList m_names;
+    QString m_current;
+    QTranslator m_hostTexts;
+};

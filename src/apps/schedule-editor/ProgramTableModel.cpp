@@ -1,0 +1,145 @@
+#include "ProgramTableModel.h"
+
+#include "service/scheduleManage.h"
+
+#include <QBrush>
+#include <QGuiApplication>
+#include <QPalette>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+/// A length as hours, minutes and seconds; hours may pass 24.
+QString lengthText(double durationMs)
+{
+    const auto seconds = static_cast<qint64>(durationMs / 1000.0);
+    return QStringLiteral("%1:%2:%3")
+        .arg(seconds / 3600, 2, 10, QLatin1Char('0'))
+        .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'))
+        .arg(seconds % 60, 2, 10, QLatin1Char('0'));
+}
+
+bool hasLength(const ProgramIten& program)
+{
+    return program.kind != ProgramKind::Image && program.kind != ProgramKind::Live &&
+           program.durationMs >= 0.0;
+}
+
+} // namespace
+
+ProgramTableModel::ProgramTableModel(QObject* parent)
+    : QAbstractTableModel(parent)
+{}
+
+int ProgramTableModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_programs.size());
+}
+
+int ProgramTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(ColumnCount);
+}
+
+QVariant ProgramTableModel::text(const ProgramIten& program, int column) const
+{
+    switch (column) {
+    case IndexColumn:
+        return program.progIndex;
+    case NameColumn:
+        return QString::fromStdString(program.progName);
+    case KindColumn:
+        switch (program.kind) {
+        case ProgramKind::Video:
+            return tr("Video");
+        case ProgramKind::Audio:
+            return tr("Audio");
+        case ProgramKind::Image:
+            return tr("Image");
+        case ProgramKind::Live:
+            return tr("Live");
+        case ProgramKind::Other:
+            return tr("Other");
+        }
+        return QVariant();
+    case LengthColumn:
+        return hasLength(program) ? lengthText(program.durationMs) : QString();
+    case PathColumn:
+        return QString::fromStdString(program.mediaPath);
+    default:
+        return QVariant();
+    }
+}
+
+QVariant ProgramTableModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return QVariant();
+    }
+    const ProgramIten& program = m_programs[static_cast<std::size_t>(index.row())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return text(program, index.column());
+    case Qt::ToolTipRole:
+        if (program.isNull) {
+            return tr("The file has gone: %1").arg(QString::fromStdString(program.mediaPath));
+        }
+        return QString::fromStdString(program.mediaPath);
+    case Qt::TextAlignmentRole:
+        if (index.column() == IndexColumn || index.column() == LengthColumn) {
+            return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
+        }
+        return QVariant();
+    case Qt::ForegroundRole:
+        if (program.isNull) {
+            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+        }
+        return QVariant();
+    case ProgramIndexRole:
+        return program.progIndex;
+    case MissingRole:
+        return program.isNull;
+    default:
+        return QVariant();
+    }
+}
+
+QVariant ProgramTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return QAbstractTableModel::headerData(section, orientation, role);
+    }
+    switch (section) {
+    case IndexColumn:
+        return tr("No.");
+    case NameColumn:
+        return tr("Program");
+    case KindColumn:
+        return tr("Kind");
+    case LengthColumn:
+        return tr("Length");
+    case PathColumn:
+        return tr("File");
+    default:
+        return QVariant();
+    }
+}
+
+void ProgramTableModel::reload()
+{
+    beginResetModel();
+    m_programs.clear();
+    for (const auto& [index, program] : scheduleManage::getInstance().getPrograms()) {
+        m_programs.push_back(program);
+    }
+    endResetModel();
+}
+
+void ProgramTableModel::retranslate()
+{
+    emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
+    if (!m_programs.empty()) {
+        emit dataChanged(index(0, KindColumn), index(rowCount() - 1, KindColumn));
+    }
+}

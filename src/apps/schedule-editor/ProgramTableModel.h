@@ -1,0 +1,39 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+
+#include <QAbstractTableModel>
+
+#include <vector>
+
+/// The programs of the catalogue, a row each, in the order of their indexes.
+class ProgramTableModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { IndexColumn, NameColumn, KindColumn, LengthColumn, PathColumn, ColumnCount };
+
+    enum Role {
+        ProgramIndexRole = Qt::UserRole, ///< int
+        MissingRole,                     ///< bool: the file has gone.
+    };
+
+    explicit ProgramTableModel(QObject* parent = nullptr);
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation,
+                        int role = Qt::DisplayRole) const override;
+
+    /// Takes over the catalogue as it stands in the service now.
+    void reload();
+    /// Shows captions and kinds in the language in use now; rows and selections stay.
+    void retranslate();
+
+private:
+    QVariant text(const trel::mediadispatch::ProgramIten& program, int column) const;
+
+    std::vector<trel::mediadispatch::ProgramIten> m_programs;
+};

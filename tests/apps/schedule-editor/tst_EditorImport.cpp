@@ -1,0 +1,205 @@
+#include "HostFixture.h"
+#include "ImportJob.h"
+#include "support/PromptAnswer.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QStatusBar>
+
+using namespace trel::mediadispatch;
+
+/// Importing media in the desktop host: by call, by dropping, with refusals and with a cancel.
+class tst_EditorImport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aFolderBecomesPrograms();
+    void importingAgainUpdates();
+    void dropping_data();
+    void dropping();
+    void aDragWithoutFilesIsNotTaken();
+    void whatCannotBeTakenIsToldInAPrompt();
+    void cancellingTakesNothingIn();
+    void aSecondImportWaitsItsTurn();
+    void theJobLooksAtFilesOnAnotherThread();
+    void aJobThatGoesWhileItRunsEnds();
+
+private:
+    static void waitForImport(EditorWindow& window, const std::function<void()>& begin)
+    {
+        QSignalSpy ended(&window, &EditorWindow::importEnded);
+        QVERIFY(ended.isValid());
+        begin();
+        QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 60000);
+    }
+};
+
+void tst_EditorImport::aFolderBecomesPrograms()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    const QString media = fixture.copyMedia(QStringLiteral("media"));
+    const PromptAnswer nothing;
+
+    waitForImport(fixture.window, [&] { fixture.window.importMedia({media}); });
+
+    QCOMPARE(fixture.manager.getPrograms().size(), std::size_t(8));
+    QCOMPARE(fixture.window.statusBar()->currentMessage(),
+             QStringLiteral("Imported: 8 new, 0 updated."));
+    QVERIFY(fixture.window.findChild<QProgressDialog*>() == nullptr ||
+            !fixture.window.findChild<QProgressDialog*>()->isVisible());
+}
+
+void tst_EditorImport::importingAgainUpdates()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    const QString media = fixture.copyMedia(QStringLiteral("media"));
+    waitForImport(fixture.window, [&] { fixture.window.importMedia({media}); });
+    waitForImport(fixture.window, [&] { fixture.window.importMedia({media}); });
+
+    QCOMPARE(fixture.window.statusBar()->currentMessage(),
+             QStringLiteral("Imported: 0 new, 8 updated."));
+}
+
+void tst_EditorImport::dropping_data()
+{
+    QTest::addColumn<bool>("onEditor");
+
+    QTest::newRow("on the window") << false;
+    QTest::newRow("on the editor") << true;
+}
+
+void tst_EditorImport::dropping()
+{
+    QFETCH(bool, onEditor);
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    QWidget* target = onEditor ? static_cast<QWidget*>(fixture.editor.get()) : &fixture.window;
+    const QString media = fixture.copyMedia(QStringLiteral("media"));
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(media + QStringLiteral("/Opening.mp4")),
+                  QUrl::fromLocalFile(media + QStringLiteral("/Lunch menu.png"))});
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+
+    waitForImport(fixture.window, [&] {
+        QCoreApplication::sendEvent(target, &enter);
+        QVERIFY(enter.isAccepted());
+        QCoreApplication::sendEvent(target, &drop);
+    });
+
+    const std::map<int, ProgramIten> programs = fixture.manager.getPrograms();
+    QCOMPARE(programs.size(), std::size_t(2));
+    QCOMPARE(programs.at(1).progName, std::string("Opening"));
+    QCOMPARE(programs.at(1).durationMs, 12000.0);
+    QVERIFY(programs.at(2).kind == ProgramKind::Image);
+}
+
+void tst_EditorImport::aDragWithoutFilesIsNotTaken()
+{
+    HostFixture fixture;
+    QMimeData data;
+    data.setText(QStringLiteral("some words"));
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+
+    QCoreApplication::sendEvent(&fixture.window, &enter);
+
+    QVERIFY(!enter.isAccepted());
+}
+
+void tst_EditorImport::whatCannotBeTakenIsToldInAPrompt()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    const QString media = fixture.copyMedia(QStringLiteral("media"));
+    PromptAnswer answer(1);
+
+    waitForImport(fixture.window, [&] {
+        fixture.window.importMedia(
+            {media + QStringLiteral("/Opening.mp4"), media + QStringLiteral("/nothing.mp4")});
+    });
+
+    QCOMPARE(fixture.manager.getPrograms().size(), std::size_t(1));
+    QCOMPARE(answer.count(), 1);
+    QVERIFY2(answer.texts().at(0).contains(QStringLiteral("nothing.mp4")),
+             qPrintable(answer.texts().at(0)));
+}
+
+void tst_EditorImport::cancellingTakesNothingIn()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    QStringList folders;
+    for (int i = 0; i < 40; ++i) {
+        folders.append(fixture.copyMedia(QStringLiteral("media%1").arg(i)));
+    }
+
+    waitForImport(fixture.window, [&] {
+        fixture.window.importMedia(folders);
+        auto* progress =
+            fixture.window.findChild<QProgressDialog*>(QStringLiteral("importProgress"));
+        QVERIFY(progress != nullptr);
+        progress->findChild<QPushButton*>()->click();
+    });
+
+    QVERIFY(fixture.manager.getPrograms().empty());
+    QVERIFY(fixture.window.statusBar()->currentMessage().contains(QStringLiteral("cancelled")));
+}
+
+void tst_EditorImport::aSecondImportWaitsItsTurn()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    const QString media = fixture.copyMedia(QStringLiteral("media"));
+
+    waitForImport(fixture.window, [&] {
+        fixture.window.importMedia({media + QStringLiteral("/Opening.mp4")});
+        fixture.window.importMedia({media + QStringLiteral("/Weather.mp4")});
+    });
+
+    QCOMPARE(fixture.manager.getPrograms().size(), std::size_t(1));
+}
+
+void tst_EditorImport::theJobLooksAtFilesOnAnotherThread()
+{
+    HostFixture fixture;
+    const QString media = fixture.copyMedia(QStringLiteral("media"));
+    ImportJob job({media});
+    QThread* looking = nullptr;
+    connect(
+        &job, &ImportJob::progressed, &job, [&looking] { looking = QThread::currentThread(); },
+        Qt::DirectConnection);
+    QSignalSpy finished(&job, &ImportJob::finished);
+    QVERIFY(finished.isValid());
+
+    job.start();
+    QTRY_COMPARE_WITH_TIMEOUT(finished.count(), 1, 60000);
+
+    QVERIFY(looking != nullptr && looking != QThread::currentThread());
+    QCOMPARE(job.scan().sources.size(), std::size_t(8));
+}
+
+void tst_EditorImport::aJobThatGoesWhileItRunsEnds()
+{
+    HostFixture fixture;
+    QStringList folders;
+    for (int i = 0; i < 20; ++i) {
+        folders.append(fixture.copyMedia(QStringLiteral("media%1").arg(i)));
+    }
+    int looked = 0;
+    {
+        ImportJob job(folders);
+        connect(
+            &job, &ImportJob::progressed, &job, [&looked] { ++looked; }, Qt::DirectConnection);
+        job.start();
+    }
+    QVERIFY(looked < 160);
+}
+
+QTEST_MAIN(tst_EditorImport)
+#include "tst_EditorImport.moc"

@@ -1,0 +1,99 @@
+#include "EditorOptions.h"
+
+#include <QtTest>
+
+using Next = EditorOptionsResult::Next;
+
+class tst_EditorOptions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nothingStartsOnTheUsersOwnSchedule();
+    void everyOptionIsRead();
+    void helpNamesEveryOption();
+    void theVersionIsTold();
+    void misuse_data();
+    void misuse();
+
+private:
+    static EditorOptionsResult read(const QStringList& arguments)
+    {
+        return readEditorOptions(QStringList{QStringLiteral("schedule-editor")} + arguments);
+    }
+};
+
+void tst_EditorOptions::nothingStartsOnTheUsersOwnSchedule()
+{
+    const EditorOptionsResult result = read({});
+
+    QCOMPARE(result.next, Next::Start);
+    QVERIFY(result.options.database.isEmpty());
+    QVERIFY(result.options.demonstration.isEmpty());
+    QVERIFY(result.options.screenshot.isEmpty());
+    QVERIFY(result.options.imports.isEmpty());
+}
+
+void tst_EditorOptions::everyOptionIsRead()
+{
+    const EditorOptionsResult result =
+        read({QStringLiteral("--database"), QStringLiteral("a.db"), QStringLiteral("--screenshot"),
+              QStringLiteral("shot.png"), QStringLiteral("--demonstration=demo"),
+              QStringLiteral("--language"), QStringLiteral("en_US"), QStringLiteral("clip.mp4"),
+              QStringLiteral("folder")});
+
+    QCOMPARE(result.next, Next::Start);
+    QCOMPARE(result.options.database, QStringLiteral("a.db"));
+    QCOMPARE(result.options.screenshot, QStringLiteral("shot.png"));
+    QCOMPARE(result.options.demonstration, QStringLiteral("demo"));
+    QCOMPARE(result.options.language, QStringLiteral("en_US"));
+    QCOMPARE(result.options.imports,
+             QStringList({QStringLiteral("clip.mp4"), QStringLiteral("folder")}));
+}
+
+void tst_EditorOptions::helpNamesEveryOption()
+{
+    const EditorOptionsResult result = read({QStringLiteral("--help")});
+
+    QCOMPARE(result.next, Next::Done);
+    for (const char* option : {"--database", "--demonstration", "--screenshot", "--language",
+                               "--help", "--version", "MEDIA"}) {
+        QVERIFY2(result.text.contains(QLatin1String(option)), option);
+    }
+}
+
+void tst_EditorOptions::theVersionIsTold()
+{
+    const EditorOptionsResult result = read({QStringLiteral("--version")});
+
+    QCOMPARE(result.next, Next::Done);
+    QVERIFY(QRegularExpression(QStringLiteral("^schedule-editor \\d+\\.\\d+\\.\\d+$"))
+                .match(result.text)
+                .hasMatch());
+}
+
+void tst_EditorOptions::misuse_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("named");
+
+    QTest::newRow("unknown option")
+        << QStringList{QStringLiteral("--frob")} << QStringLiteral("frob");
+    QTest::newRow("missing value")
+        << QStringList{QStringLiteral("--database")} << QStringLiteral("database");
+}
+
+void tst_EditorOptions::misuse()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, named);
+
+    const EditorOptionsResult result = read(arguments);
+
+    QCOMPARE(result.next, Next::Misuse);
+    QVERIFY2(result.text.contains(named), qPrintable(result.text));
+    QVERIFY(result.text.contains(QStringLiteral("--help")));
+}
+
+QTEST_GUILESS_MAIN(tst_EditorOptions)
+#include "tst_EditorOptions.moc"

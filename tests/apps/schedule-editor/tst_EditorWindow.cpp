@@ -1,0 +1,226 @@
+#include "HostFixture.h"
+#include "support/PromptAnswer.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableView>
+
+using namespace trel::mediadispatch;
+
+/// The host's window around the editor: databases, languages, the catalogue and the way out.
+class tst_EditorWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aNewDatabaseIsFilledOnce();
+    void withoutADemonstrationANewDatabaseIsEmpty();
+    void theTitlesNameTheDatabase();
+    void aFileThatIsNoDatabaseIsRefusedInWords();
+    void anotherDatabaseTakesThePlaceInAnOpenEditor();
+    void theLanguageChangesEverywhereAtOnce();
+    void theLanguageInUseIsMarked();
+    void anUnknownLanguageChangesNothing();
+    void removingAProgramAsksFirst();
+    void closingWithUnsavedChangesAsks_data();
+    void closingWithUnsavedChangesAsks();
+    void closingWithoutChangesAsksNothing();
+
+private:
+    static QAction* action(const QWidget& window, const QString& text)
+    {
+        const QList<QAction*> actions = window.findChildren<QAction*>();
+        for (QAction* action : actions) {
+            if (action->text().remove(QLatin1Char('&')) == text) {
+                return action;
+            }
+        }
+        return nullptr;
+    }
+};
+
+void tst_EditorWindow::aNewDatabaseIsFilledOnce()
+{
+    HostFixture fixture;
+
+    QCOMPARE(fixture.window.openDatabase(fixture.database, QStringLiteral(DEMONSTRATION)),
+             QString());
+    QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(3));
+
+    QVERIFY(fixture.host.replaceSchedule({}));
+    QCOMPARE(fixture.window.openDatabase(fixture.database, QStringLiteral(DEMONSTRATION)),
+             QString());
+    QVERIFY(fixture.manager.getgTaskMap().empty());
+}
+
+void tst_EditorWindow::withoutADemonstrationANewDatabaseIsEmpty()
+{
+    HostFixture fixture;
+
+    QCOMPARE(fixture.window.openDatabase(fixture.database), QString());
+
+    QVERIFY(fixture.manager.getgTaskMap().empty());
+    QVERIFY(fixture.window.findChild<QTableView*>(QStringLiteral("programTable"))->isHidden());
+    QVERIFY(!fixture.window.findChild<QLabel*>(QStringLiteral("programHint"))->isHidden());
+}
+
+void tst_EditorWindow::theTitlesNameTheDatabase()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+
+    QCOMPARE(fixture.window.windowTitle(), QStringLiteral("screen.db – Schedule editor"));
+    QVERIFY(fixture.editor->windowTitle().endsWith(QStringLiteral(" – screen.db")));
+    fixture.languages.select(QStringLiteral("zh_CN"));
+    QVERIFY(fixture.editor->windowTitle().endsWith(QStringLiteral(" – screen.db")));
+}
+
+void tst_EditorWindow::aFileThatIsNoDatabaseIsRefusedInWords()
+{
+    HostFixture fixture;
+    QFile file(fixture.database);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("This is a letter to a friend, and nothing that a store could be made of.");
+    file.close();
+
+    const QString error = fixture.window.openDatabase(fixture.database);
+
+    QVERIFY2(error.contains(fixture.database), qPrintable(error));
+    QVERIFY(!fixture.host.isOpen());
+}
+
+void tst_EditorWindow::anotherDatabaseTakesThePlaceInAnOpenEditor()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database, QStringLiteral(DEMONSTRATION));
+    fixture.showEditor();
+    const auto cards = [&fixture] {
+        return fixture.editor->findChildren<QWidget*>(QStringLiteral("PlanTaskWidget")).size();
+    };
+    QCOMPARE(cards(), 3);
+
+    fixture.window.openDatabase(fixture.folder.filePath(QStringLiteral("other.db")));
+
+    QCOMPARE(cards(), 0);
+}
+
+void tst_EditorWindow::theLanguageChangesEverywhereAtOnce()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    auto* save = fixture.editor->findChild<QPushButton*>(QStringLiteral("pushButtonSave"));
+    QVERIFY(save != nullptr);
+    const QString english = save->text();
+    const QAction* chinese = action(fixture.window, Languages::nativeName(QStringLiteral("zh_CN")));
+    QVERIFY(chinese != nullptr);
+    QVERIFY(action(fixture.window, QStringLiteral("Import files…")) != nullptr);
+
+    const_cast<QAction*>(chinese)->trigger();
+
+    QVERIFY(save->text() != english);
+    QTRY_VERIFY(action(fixture.window, QStringLiteral("Import files…")) == nullptr);
+    QVERIFY(action(fixture.window, QStringLiteral("导入文件(I)…")) != nullptr);
+    fixture.languages.select(QStringLiteral("en_US"));
+    QCOMPARE(save->text(), english);
+    QTRY_VERIFY(action(fixture.window, QStringLiteral("Import files…")) != nullptr);
+}
+
+void tst_EditorWindow::theLanguageInUseIsMarked()
+{
+    HostFixture fixture;
+    const QAction* english = action(fixture.window, Languages::nativeName(QStringLiteral("en_US")));
+    const QAction* chinese = action(fixture.window, Languages::nativeName(QStringLiteral("zh_CN")));
+
+    QVERIFY(english->isChecked());
+    QVERIFY(!chinese->isChecked());
+    fixture.languages.select(QStringLiteral("zh_CN"));
+    QVERIFY(!english->isChecked());
+    QVERIFY(chinese->isChecked());
+}
+
+void tst_EditorWindow::anUnknownLanguageChangesNothing()
+{
+    HostFixture fixture;
+    QSignalSpy changed(&fixture.languages, &Languages::changed);
+    QVERIFY(changed.isValid());
+
+    fixture.languages.select(QStringLiteral("xx_XX"));
+
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(fixture.languages.current(), QStringLiteral("en_US"));
+}
+
+void tst_EditorWindow::removingAProgramAsksFirst()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database, QStringLiteral(DEMONSTRATION));
+    fixture.window.show();
+    auto* table = fixture.window.findChild<QTableView*>(QStringLiteral("programTable"));
+    QAction* remove = action(fixture.window, QStringLiteral("Remove from catalogue"));
+    QVERIFY(!remove->isEnabled());
+    table->selectRow(1);
+    QVERIFY(remove->isEnabled());
+
+    {
+        PromptAnswer answer({2, 1});
+        remove->trigger();
+        QCOMPARE(fixture.manager.getPrograms().size(), std::size_t(8));
+        remove->trigger();
+        QCOMPARE(answer.count(), 2);
+    }
+    QCOMPARE(fixture.manager.getPrograms().size(), std::size_t(7));
+    QCOMPARE(fixture.manager.getPrograms().count(2), std::size_t(0));
+    QCOMPARE(table->model()->rowCount(), 7);
+}
+
+void tst_EditorWindow::closingWithUnsavedChangesAsks_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("closed");
+    QTest::addColumn<int>("storedTasks");
+
+    QTest::newRow("save") << 1 << true << 4;
+    QTest::newRow("discard") << 2 << true << 3;
+    QTest::newRow("stay") << 3 << false << 3;
+    QTest::newRow("escape") << static_cast<int>(PromptAnswer::Escape) << false << 3;
+}
+
+void tst_EditorWindow::closingWithUnsavedChangesAsks()
+{
+    QFETCH(int, button);
+    QFETCH(bool, closed);
+    QFETCH(int, storedTasks);
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database, QStringLiteral(DEMONSTRATION));
+    fixture.window.show();
+    fixture.showEditor();
+    PlayTask task;
+    task.id = 9;
+    fixture.manager.addTask(task);
+
+    PromptAnswer answer(button);
+    fixture.window.close();
+
+    QCOMPARE(answer.count(), 1);
+    QCOMPARE(fixture.window.isHidden(), closed);
+    QCOMPARE(fixture.editor->isHidden(), closed);
+    QCOMPARE(static_cast<int>(fixture.manager.getgTaskMap().size()), storedTasks);
+}
+
+void tst_EditorWindow::closingWithoutChangesAsksNothing()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database, QStringLiteral(DEMONSTRATION));
+    fixture.window.show();
+    // Building the cards marks collisions afresh; that is no change of the operator's.
+    fixture.showEditor();
+
+    const PromptAnswer nothing;
+    fixture.window.close();
+
+    QVERIFY(fixture.window.isHidden());
+}
+
+QTEST_MAIN(tst_EditorWindow)
+#include "tst_EditorWindow.moc"

@@ -1,0 +1,106 @@
+#include "ProgramTableModel.h"
+#include "service/scheduleManage.h"
+#include "trelprogramschedule/ProgramImporter.h"
+#include "trelprogramschedule/ScheduleHost.h"
+
+#include <QAbstractItemModelTester>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace trel::mediadispatch;
+
+class tst_ProgramTableModel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void showsOneLineAProgram();
+    void followsTheModelRules();
+    void aFileThatHasGoneIsMarked();
+
+private:
+    static QString row(const ProgramTableModel& model, int row);
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    ScheduleHost& m_host = ScheduleHost::instance();
+};
+
+QString tst_ProgramTableModel::row(const ProgramTableModel& model, int row)
+{
+    QStringList cells;
+    for (int column = 0; column < ProgramTableModel::PathColumn; ++column) {
+        cells.append(model.index(row, column).data().toString());
+    }
+    return cells.join(QLatin1Char('|'));
+}
+
+void tst_ProgramTableModel::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_host.open(m_folder->filePath(QStringLiteral("new.db"))));
+    const auto source = [this](const char* name, double ms, ProgramKind kind) {
+        const QString path = m_folder->filePath(QLatin1String(name));
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly)) {
+            qFatal("no file");
+        }
+        return MediaSource{QLatin1String(name), path, ms, kind};
+    };
+    QVERIFY(m_host
+                .addPrograms({source("film", 3661000.0, ProgramKind::Video),
+                              source("tune", 1999.0, ProgramKind::Audio),
+                              source("card", 0.0, ProgramKind::Image),
+                              {QStringLiteral("feed"), QStringLiteral("rtsp://feed"), 0.0,
+                               ProgramKind::Live}})
+                .store);
+}
+
+void tst_ProgramTableModel::cleanup()
+{
+    m_host.close();
+}
+
+void tst_ProgramTableModel::showsOneLineAProgram()
+{
+    ProgramTableModel model;
+    model.reload();
+
+    QCOMPARE(model.rowCount(), 4);
+    QCOMPARE(row(model, 0), QStringLiteral("1|film|Video|01:01:01"));
+    QCOMPARE(row(model, 1), QStringLiteral("2|tune|Audio|00:00:01"));
+    QCOMPARE(row(model, 2), QStringLiteral("3|card|Image|"));
+    QCOMPARE(row(model, 3), QStringLiteral("4|feed|Live|"));
+    QCOMPARE(model.index(3, ProgramTableModel::PathColumn).data().toString(),
+             QStringLiteral("rtsp://feed"));
+}
+
+void tst_ProgramTableModel::followsTheModelRules()
+{
+    ProgramTableModel model;
+    const QAbstractItemModelTester tester(&model,
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    QVERIFY(resets.isValid());
+
+    model.reload();
+    model.reload();
+
+    QCOMPARE(resets.count(), 2);
+}
+
+void tst_ProgramTableModel::aFileThatHasGoneIsMarked()
+{
+    QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("film"))));
+    QVERIFY(m_host.reload());
+    ProgramTableModel model;
+    model.reload();
+
+    QVERIFY(model.index(0, 0).data(ProgramTableModel::MissingRole).toBool());
+    QVERIFY(!model.index(1, 0).data(ProgramTableModel::MissingRole).toBool());
+    QVERIFY(model.index(0, 1).data(Qt::ToolTipRole).toString().contains(QStringLiteral("gone")));
+}
+
+QTEST_MAIN(tst_ProgramTableModel)
+#include "tst_ProgramTableModel.moc"

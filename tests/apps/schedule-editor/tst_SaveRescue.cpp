@@ -1,0 +1,218 @@
+#include "HostFixture.h"
+#include "SaveRescue.h"
+#include "support/PromptAnswer.h"
+#include "trelprogramschedule/ScheduleJson.h"
+
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTimer>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+/// Another program that holds the file for writing.
+class OtherProgram
+{
+public:
+    explicit OtherProgram(const QString& file)
+    {
+        auto database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name());
+        database.setDatabaseName(file);
+        if (!database.open()) {
+            qFatal("the other program cannot open the file");
+        }
+        QSqlQuery(database).exec(QStringLiteral("BEGIN IMMEDIATE"));
+    }
+
+    ~OtherProgram() { letGo(); }
+    Q_DISABLE_COPY(OtherProgram)
+
+    void letGo()
+    {
+        if (QSqlDatabase::contains(name())) {
+            QSqlQuery(QSqlDatabase::database(name())).exec(QStringLiteral("ROLLBACK"));
+            QSqlDatabase::database(name()).close();
+            QSqlDatabase::removeDatabase(name());
+        }
+    }
+
+private:
+    static QString name() { return QStringLiteral("other program"); }
+};
+
+/// Types a name into the next file dialog and accepts it, or turns it away for an empty name.
+void answerFileDialog(const QString& file)
+{
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, file] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) {
+            return;
+        }
+        timer->deleteLater();
+        if (file.isEmpty()) {
+            dialog->reject();
+            return;
+        }
+        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file);
+        QTest::keyClick(dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")),
+                        Qt::Key_Return);
+    });
+    timer->start(10);
+}
+
+} // namespace
+
+/// What the operator is asked when a save fails.
+class tst_SaveRescue : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    void aSaveThatSucceedsAsksNothing();
+    void tryingAgainSavesWhenTheLockHasGone();
+    void theScheduleGoesIntoAFile();
+    void aFileThatWasNotChosenAsksAgain();
+    void givingUpKeepsTheStoredSet();
+    void escapeIsNoAnswer();
+    void theSecondEditorIsRefused();
+
+private:
+    struct Edited : HostFixture
+    {
+        Edited()
+        {
+            window.openDatabase(database, QStringLiteral(DEMONSTRATION));
+            PlayTask task;
+            task.id = 7;
+            task.startDate = task.endDate = "2030.01.01";
+            manager.updateUItask();
+            manager.addTask(task);
+        }
+    };
+};
+
+void tst_SaveRescue::aSaveThatSucceedsAsksNothing()
+{
+    Edited fixture;
+    const SaveRescue rescue(fixture.host, &fixture.window);
+    const PromptAnswer nothing;
+
+    fixture.manager.save();
+
+    QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(4));
+}
+
+void tst_SaveRescue::tryingAgainSavesWhenTheLockHasGone()
+{
+    Edited fixture;
+    const SaveRescue rescue(fixture.host, &fixture.window);
+    OtherProgram other(fixture.database);
+    // The lock goes between the second refusal and the third try.
+    int refusals = 0;
+    connect(
+        &fixture.host, &ScheduleHost::saveFailed, &fixture.window, [&refusals] { ++refusals; },
+        Qt::DirectConnection);
+    PromptAnswer answer(1);
+    QTimer::singleShot(0, &fixture.window, [&other] { other.letGo(); });
+
+    fixture.manager.save();
+
+    QCOMPARE(refusals, 1);
+    QCOMPARE(answer.count(), 1);
+    QVERIFY(answer.texts().at(0).contains(fixture.database));
+    QCOMPARE(answer.buttons().at(0), QStringLiteral("Try again|Write to a file|Give up"));
+    QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(4));
+}
+
+void tst_SaveRescue::theScheduleGoesIntoAFile()
+{
+    Edited fixture;
+    SaveRescue rescue(fixture.host, &fixture.window);
+    const OtherProgram other(fixture.database);
+    const QString file = fixture.folder.filePath(QStringLiteral("rescued.json"));
+    QSignalSpy written(&rescue, &SaveRescue::written);
+    QVERIFY(written.isValid());
+    PromptAnswer answer(2);
+    answerFileDialog(file);
+
+    fixture.manager.save();
+
+    QCOMPARE(written.count(), 1);
+    QFile json(file);
+    QVERIFY(json.open(QIODevice::ReadOnly));
+    const ScheduleFromJson rescued = scheduleFromJson(json.readAll());
+    QCOMPARE(rescued.error, QString());
+    QVERIFY(rescued.tasks == fixture.manager.getAllTask());
+    QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(3));
+}
+
+void tst_SaveRescue::aFileThatWasNotChosenAsksAgain()
+{
+    Edited fixture;
+    SaveRescue rescue(fixture.host, &fixture.window);
+    const OtherProgram other(fixture.database);
+    QSignalSpy givenUp(&rescue, &SaveRescue::givenUp);
+    QVERIFY(givenUp.isValid());
+    PromptAnswer answer({2, 3});
+    answerFileDialog(QString());
+
+    fixture.manager.save();
+
+    QCOMPARE(answer.count(), 2);
+    QCOMPARE(givenUp.count(), 1);
+}
+
+void tst_SaveRescue::givingUpKeepsTheStoredSet()
+{
+    Edited fixture;
+    const SaveRescue rescue(fixture.host, &fixture.window);
+    const OtherProgram other(fixture.database);
+    PromptAnswer answer(3);
+
+    fixture.manager.save();
+
+    QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(3));
+    QCOMPARE(fixture.manager.getAllTask().size(), std::size_t(4));
+}
+
+void tst_SaveRescue::escapeIsNoAnswer()
+{
+    Edited fixture;
+    SaveRescue rescue(fixture.host, &fixture.window);
+    const OtherProgram other(fixture.database);
+    QSignalSpy givenUp(&rescue, &SaveRescue::givenUp);
+    QVERIFY(givenUp.isValid());
+    PromptAnswer answer({PromptAnswer::Escape, PromptAnswer::Close, 3});
+
+    fixture.manager.save();
+
+    QCOMPARE(answer.count(), 3);
+    QCOMPARE(givenUp.count(), 1);
+}
+
+void tst_SaveRescue::theSecondEditorIsRefused()
+{
+    Edited fixture;
+    const SaveRescue rescue(fixture.host, &fixture.window);
+    QProcess other;
+    other.start(QStringLiteral(SCHEDULECTL),
+                {QStringLiteral("import-schedule"), QStringLiteral(DEMONSTRATION "/schedule.json"),
+                 QStringLiteral("--database"), fixture.database});
+    QVERIFY(other.waitForFinished());
+    QCOMPARE(other.exitCode(), 0);
+    PromptAnswer answer({1, 3});
+
+    fixture.manager.save();
+
+    QCOMPARE(answer.count(), 2);
+    QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(3));
+}
+
+QTEST_MAIN(tst_SaveRescue)
+#include "tst_SaveRescue.moc"
