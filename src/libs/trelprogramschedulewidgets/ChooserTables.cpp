@@ -49,6 +49,8 @@ SHeaderView* setUpTable(QTableView* table, CustomTableModel* model, CheckType ty
     table->verticalHeader()->setDefaultSectionSize(kRowHeight);
     table->verticalHeader()->hide();
     table->setShowGrid(false);
+    // A row has room for one line: a long name is cut where the cell ends, not after a word.
+    table->setWordWrap(false);
     table->setFocusPolicy(Qt::NoFocus);
     table->setColumnWidth(OfferCheckColumn, kCheckWidth);
     table->setColumnWidth(OfferOrderColumn, kNumberWidth);

@@ -366,6 +366,7 @@ void tst_ProgramChooseTables::looksOfTheTables()
             QCOMPARE(table->verticalHeader()->defaultSectionSize(), 31);
             QVERIFY(table->verticalHeader()->isHidden());
             QVERIFY(!table->showGrid());
+            QVERIFY(!table->wordWrap());
             QCOMPARE(table->focusPolicy(), Qt::NoFocus);
             QCOMPARE(table->selectionMode(), QAbstractItemView::NoSelection);
             QCOMPARE(table->selectionBehavior(), QAbstractItemView::SelectRows);
