@@ -272,6 +272,12 @@ void TestTranslator::refuses_data()
     QTest::newRow("table leads elsewhere")
         << QmBytes::magic() + QmBytes::field('\x42', QByteArrayLiteral("\0\0\0\1\0\0\0\x63")) +
                QmBytes::field('\x69', QmBytes::field(3, QByteArray()) + one);
+    QTest::newRow("text under another one's hash")
+        << QmBytes()
+               .record(QByteArrayLiteral("cancel"), QByteArrayLiteral("C"),
+                       QmBytes::field(3, QByteArray()) + QmBytes::field(8, QByteArrayLiteral("C")) +
+                           QmBytes::field(6, QByteArrayLiteral("ok")) + one)
+               .bytes();
     QTest::newRow("contexts lead elsewhere")
         << english().section('\x2f', QByteArrayLiteral("\0\1\x7f\xff")).bytes();
     QTest::newRow("no chain of contexts")
