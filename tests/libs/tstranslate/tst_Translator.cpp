@@ -278,6 +278,14 @@ void TestTranslator::refuses_data()
                        QmBytes::field(3, QByteArray()) + QmBytes::field(8, QByteArrayLiteral("C")) +
                            QmBytes::field(6, QByteArrayLiteral("ok")) + one)
                .bytes();
+    const QByteArray record = QmBytes::field(3, QByteArray()) + one;
+    QTest::newRow("table out of order")
+        << QmBytes::magic() +
+               QmBytes::field('\x42', QByteArrayLiteral("\0\0\0\2\0\0\0\0\0\0\0\1\0\0\0\6")) +
+               QmBytes::field('\x69', record + record);
+    QTest::newRow("table too short")
+        << QmBytes::magic() + QmBytes::field('\x42', QByteArrayLiteral("\0\0\0\1\0\0\0\0")) +
+               QmBytes::field('\x69', record + record);
     QTest::newRow("contexts lead elsewhere")
         << english().section('\x2f', QByteArrayLiteral("\0\1\x7f\xff")).bytes();
     QTest::newRow("no chain of contexts")
