@@ -176,10 +176,19 @@ void PlanList::refreshPlanList()
 void PlanList::rebuild()
 {
     setUpdatesEnabled(false);
+    // A list that is shown with all its cards lays them out once; one that is visible already does
+    // so for every card anew.
+    const bool wasVisible = isVisible();
+    if (wasVisible) {
+        hide();
+    }
     const auto tasks = service().getgTaskMap();
     service().updateUItask();
     for (const auto& [id, task] : tasks) {
         addCard(task, true);
+    }
+    if (wasVisible) {
+        show();
     }
     setUpdatesEnabled(true);
 }

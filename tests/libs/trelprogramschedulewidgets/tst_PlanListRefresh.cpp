@@ -87,6 +87,7 @@ private slots:
     void cardsStandFoldedInOrderOfTheirIds();
     void everyCardIsBuiltAnew();
     void paintingIsOffWhileCardsAreBuilt();
+    void aVisibleListLaysItsCardsOutOnce();
     void eventsAreHandledBeforeAndAfterTheClearingOnly();
     void aRefreshFromWithinShowsEveryTaskOnce_data();
     void aRefreshFromWithinShowsEveryTaskOnce();
@@ -205,6 +206,27 @@ void tst_PlanListRefresh::paintingIsOffWhileCardsAreBuilt()
     list.refreshPlanList();
     QCOMPARE(painting, QStringList({QStringLiteral("show on"), QStringLiteral("clear on"),
                                     QStringLiteral("card off"), QStringLiteral("close on")}));
+}
+
+void tst_PlanListRefresh::aVisibleListLaysItsCardsOutOnce()
+{
+    for (int id = 1; id <= 40; ++id) {
+        service().stored[id] = makeTask(id, "2024.01.01", "2024.01.01");
+    }
+    QWidget window;
+    auto* list = new PlanList(&window);
+    window.show();
+    list->refreshPlanList();
+    // Every card is in its place already; nothing is left for the event loop to do card by card.
+    QVERIFY(list->isVisible());
+    const auto cards = list->findChildren<PlanTaskWidget*>();
+    QStringList places;
+    for (const PlanTaskWidget* card : cards) {
+        QVERIFY(card->isVisible());
+        places.append(QString::number(card->y()));
+    }
+    places.removeDuplicates();
+    QCOMPARE(places.size(), cards.size());
 }
 
 void tst_PlanListRefresh::eventsAreHandledBeforeAndAfterTheClearingOnly()
