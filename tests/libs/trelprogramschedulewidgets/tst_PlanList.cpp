@@ -1,11 +1,13 @@
 #include "PlanList.h"
 #include "PlanTaskWidget.h"
 #include "support/MetaMethods.h"
+#include "support/PromptAnswer.h"
 #include "support/RecordingService.h"
 #include "support/TaskRecords.h"
 #include "support/TestClock.h"
 
 #include <QBoxLayout>
+#include <QPointer>
 #include <QPushButton>
 #include <QtTest>
 
@@ -75,6 +77,7 @@ private slots:
     void copyIsLockedAsAddIs();
     void copyGetsTheOnlyOpenCard();
     void cardsReachTheList();
+    void theDeleteButtonOfACardTakesTheCardAway();
     void deleteTakesTheCardThenTheTask();
     void deleteWithoutACardReachesTheService();
 };
@@ -369,6 +372,26 @@ void tst_PlanList::cardsReachTheList()
     QCOMPARE(cardsInOrder(list).size(), 1);
     QCOMPARE(service().working.count(2), std::size_t{1});
     QCOMPARE(service().working.size(), std::size_t{1});
+}
+
+void tst_PlanList::theDeleteButtonOfACardTakesTheCardAway()
+{
+    const TestClock clock(kNow);
+    PlanList list;
+    list.slotAddOutput();
+    list.slotAddOutput();
+    const QPointer<QPushButton> button =
+        cardsInOrder(list).at(0)->findChild<QPushButton*>(QStringLiteral("pushButtonDelete"));
+    const PromptAnswer answers({2, 1});
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(!button.isNull());
+    QCOMPARE(service().count(QStringLiteral("deleteTask")), 0);
+    // The card goes while its own button is still being clicked.
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(button.isNull());
+    QCOMPARE(service().calls({QStringLiteral("deleteTask")}),
+             QStringList{QStringLiteral("deleteTask(1)")});
+    QCOMPARE(foldLine(list), QStringLiteral("open"));
 }
 
 void tst_PlanList::deleteTakesTheCardThenTheTask()

@@ -8,6 +8,7 @@
 #include "support/MessageLog.h"
 #include "support/MetaMethods.h"
 #include "support/RecordingService.h"
+#include "support/RefusedConnections.h"
 #include "support/TaskRecords.h"
 #include "support/TestClock.h"
 #include "tstranslate/Translator.h"
@@ -61,20 +62,6 @@ public:
 private:
     mutable QElapsedTimer m_seen;
     mutable bool m_restarted = false;
-};
-
-/// Expects the two refusals that a dialog without a title bar of its own brings about.
-struct RefusedConnections
-{
-    RefusedConnections()
-    {
-        QTest::ignoreMessage(QtWarningMsg,
-                             "QObject::connect(trel::mediadispatch::TitleBar, "
-                             "trel::mediadispatch::scheduleControlUI): invalid nullptr parameter");
-        QTest::ignoreMessage(QtWarningMsg,
-                             "QObject::connect(trel::mediadispatch::scheduleControlUI, Unknown): "
-                             "invalid nullptr parameter");
-    }
 };
 
 /// The dialog with its panel and what it asked of its list.
