@@ -1,0 +1,51 @@
+# The installed package: libraries, the headers of what they export, the two hosts, and the files
+# with which find_package(trelprogramschedulewidgets) finds them.
+include(CMakePackageConfigHelpers)
+
+set(include_dir ${CMAKE_INSTALL_INCLUDEDIR}/${PROJECT_NAME})
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/${PROJECT_NAME})
+
+set(libraries
+  schedulecontract trelprogramschedule trelprogramschedulewidgets trelwidgets tstranslate)
+foreach(library IN LISTS libraries)
+  target_include_directories(${library} INTERFACE $<INSTALL_INTERFACE:${include_dir}>)
+endforeach()
+set_target_properties(schedule-editor schedulectl PROPERTIES
+  INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+set_target_properties(trelprogramschedulewidgets PROPERTIES INSTALL_RPATH "$ORIGIN")
+
+install(TARGETS ${libraries} schedule-editor schedulectl EXPORT trelTargets)
+install(EXPORT trelTargets NAMESPACE trel:: DESTINATION ${package_dir})
+
+install(DIRECTORY src/libs/trelwidgets src/libs/tstranslate
+  DESTINATION ${include_dir}
+  FILES_MATCHING
+  PATTERN LanguageFile.h EXCLUDE
+  PATTERN *.h)
+install(FILES
+  src/libs/trelprogramschedule/ProgramImporter.h
+  src/libs/trelprogramschedule/ScheduleHost.h
+  src/libs/trelprogramschedule/ScheduleJson.h
+  DESTINATION ${include_dir}/trelprogramschedule)
+install(DIRECTORY src/libs/trelprogramschedulewidgets/service
+  DESTINATION ${include_dir}
+  FILES_MATCHING PATTERN *.h)
+install(FILES
+  src/libs/trelprogramschedulewidgets/ProgramSheduleWidgetTranslateManager.h
+  src/libs/trelprogramschedulewidgets/scheduleControlUI.h
+  DESTINATION ${include_dir})
+install(DIRECTORY resources/demonstration
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME}
+  PATTERN make-media EXCLUDE)
+
+configure_package_config_file(
+  cmake/${PROJECT_NAME}Config.cmake.in
+  ${CMAKE_BINARY_DIR}/${PROJECT_NAME}Config.cmake
+  INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(
+  ${CMAKE_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
+  COMPATIBILITY SameMinorVersion)
+install(FILES
+  ${CMAKE_BINARY_DIR}/${PROJECT_NAME}Config.cmake
+  ${CMAKE_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
+  DESTINATION ${package_dir})
