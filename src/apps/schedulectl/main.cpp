@@ -32,8 +32,8 @@ ExitStatus obey(const CommandLine& line, Console& console)
 
 int main(int argc, char** argv)
 {
-    // Names of files are bytes. Under a locale without UTF-8, as cron jobs have it, they would lose
-    // every character beyond ASCII.
+    // Arguments, names of files and output are in UTF-8, so that a script gives the same names
+    // under the poor locale of a cron job as in a terminal.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     const QCoreApplication application(argc, argv);
 
