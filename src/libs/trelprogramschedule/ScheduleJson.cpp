@@ -68,21 +68,25 @@ void writeWord(JsonWriter& writer, int value, const Word (&words)[Count])
     writer.number(value);
 }
 
+/// What may stand for the number, for people to read.
 template <std::size_t Count>
-bool readWord(JsonReader& reader, int& value, const Word (&words)[Count])
+QString knownWords(const Word (&words)[Count])
 {
     QStringList known;
     for (const Word& word : words) {
         known.append(quotedName(word.text));
     }
-    const QString expected = known.join(QStringLiteral(", ")) + QStringLiteral(" or a number");
-    switch (reader.nextKind()) {
-    case JsonReader::Kind::Number:
+    return known.join(QStringLiteral(", ")) + QStringLiteral(" or a number");
+}
+
+template <std::size_t Count>
+bool readWord(JsonReader& reader, int& value, const Word (&words)[Count])
+{
+    if (reader.nextKind() == JsonReader::Kind::Number) {
         return reader.readInt(value);
-    case JsonReader::Kind::Text:
-        break;
-    default:
-        return reader.failKind(expected);
+    }
+    if (reader.nextKind() != JsonReader::Kind::Text) {
+        return reader.failKind(knownWords(words));
     }
     std::string text;
     if (!reader.readText(text)) {
@@ -95,7 +99,7 @@ bool readWord(JsonReader& reader, int& value, const Word (&words)[Count])
         }
     }
     return reader.fail(
-        QStringLiteral("%1 is expected here, not %2").arg(expected, quotedName(text)));
+        QStringLiteral("%1 is expected here, not %2").arg(knownWords(words), quotedName(text)));
 }
 
 // ---- texts ----
