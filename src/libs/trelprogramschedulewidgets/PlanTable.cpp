@@ -58,6 +58,18 @@ void setUpBehaviour(QTableView& table)
     table.setFocusPolicy(Qt::NoFocus);
 }
 
+// Beside a vertical scroll bar the columns need a few pixels more than there are, and no scroll bar
+// moves the table sideways. So it always shows its right end, where the buttons are, and what goes
+// out of sight is the blank at the head of the titles.
+void keepRightEndInSight(QTableView& table)
+{
+    table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    QScrollBar* const bar = table.horizontalScrollBar();
+    const auto toTheEnd = [bar] { bar->setValue(bar->maximum()); };
+    QObject::connect(bar, &QScrollBar::rangeChanged, bar, toTheEnd);
+    QObject::connect(bar, &QScrollBar::valueChanged, bar, toTheEnd);
+}
+
 LineEditDelegate* addDelegates(QTableView& table, QObject* owner)
 {
     auto* const readOnly = new ReadOnlyDelegate(owner);
@@ -82,6 +94,7 @@ LineEditDelegate* setUpPlanTable(QTableView& table, PlanStandardItemModel& model
     table.setModel(&model);
     setUpHeaders(table);
     setUpBehaviour(table);
+    keepRightEndInSight(table);
     LineEditDelegate* const programs = addDelegates(table, owner);
     for (int column = 0; column < PlanColumnCount; ++column) {
         table.setColumnWidth(column, kColumnWidths.at(static_cast<std::size_t>(column)));

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QEnterEvent>
 #include <QToolTip>
+#include <QVBoxLayout>
 
 namespace trel::mediadispatch {
 
@@ -19,6 +20,25 @@ void showToolTip(const QEvent& event, const QString& text, QPushButton* button)
     QToolTip::showText(static_cast<const QEnterEvent&>(event).globalPos(), text, button);
 }
 
+/// Lets a widget reach over the side margins of its layout, to the edges of the card.
+class FullWidthItem : public QWidgetItem
+{
+public:
+    FullWidthItem(QWidget* widget, const QLayout& layout)
+        : QWidgetItem(widget)
+        , m_layout(layout)
+    {}
+
+    void setGeometry(const QRect& rect) override
+    {
+        const QMargins margins = m_layout.contentsMargins();
+        QWidgetItem::setGeometry(rect.adjusted(-margins.left(), 0, margins.right(), 0));
+    }
+
+private:
+    const QLayout& m_layout;
+};
+
 } // namespace
 
 void PlanTaskForm::setUp(QWidget& card)
@@ -27,6 +47,9 @@ void PlanTaskForm::setUp(QWidget& card)
     card.setAttribute(Qt::WA_StyledBackground);
     card.setProperty("style", QStringLiteral("BG1"));
     setupUi(&card);
+    // Between the margins there is no room for the last columns of the table.
+    verticalLayout->removeWidget(tableView);
+    verticalLayout->addItem(new FullWidthItem(tableView, *verticalLayout));
     arrow->setProperty("labelImage", QStringLiteral("down"));
 }
 

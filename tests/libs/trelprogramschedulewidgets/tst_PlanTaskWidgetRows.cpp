@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTableView>
 #include <QTimeEdit>
@@ -84,6 +85,8 @@ private slots:
     void aRowForADefaultPlanKeepsItsId();
     void aSecondRowOfAPlanKeepsTheFirstInTheBooks();
     void editorsDoNotOverlap();
+    void theButtonsAreInSight_data();
+    void theButtonsAreInSight();
 };
 
 void tst_PlanTaskWidgetRows::init()
@@ -396,6 +399,39 @@ void tst_PlanTaskWidgetRows::editorsDoNotOverlap()
             }
         }
     }
+}
+
+void tst_PlanTaskWidgetRows::theButtonsAreInSight_data()
+{
+    QTest::addColumn<int>("plans");
+    QTest::newRow("without a scroll bar") << 2;
+    QTest::newRow("with a scroll bar") << 6;
+}
+
+void tst_PlanTaskWidgetRows::theButtonsAreInSight()
+{
+    QFETCH(int, plans);
+    PlayTask task = taskWithPlans({});
+    for (int id = 1; id <= plans; ++id) {
+        task.plans.push_back(timePlan(id, "08:00:00", "09:00:00"));
+    }
+    const OpenCard open(task);
+    QCoreApplication::processEvents();
+    QTableView& table = open.rows.table();
+    QCOMPARE(table.verticalScrollBar()->isVisible(), plans > 4);
+    const auto isInSight = [&open](const QWidget& widget) {
+        return !widget.visibleRegion().isEmpty() &&
+               widget.visibleRegion().boundingRect() == widget.rect() &&
+               QRect(QPoint(), open.card.size())
+                   .contains(QRect(widget.mapTo(&open.card, QPoint()), widget.size()));
+    };
+    QVERIFY(isInSight(open.rows.deleteButton(0)));
+    QVERIFY(isInSight(open.rows.copyButton(0)));
+    QVERIFY(isInSight(open.rows.programs(0)));
+    // Neither a click on a cell nor a touch pad moves the table sideways.
+    table.scrollTo(open.rows.model().index(0, 0));
+    table.horizontalScrollBar()->setValue(0);
+    QVERIFY(isInSight(open.rows.deleteButton(0)));
 }
 
 QTEST_MAIN(tst_PlanTaskWidgetRows)
