@@ -1,6 +1,5 @@
 #include "OpenCard.h"
 
-#include "PlanStandardItemModel.h"
 #include "kCustomLineEdit.h"
 #include "support/ChooserAnswer.h"
 #include "support/PromptAnswer.h"
@@ -9,8 +8,6 @@
 
 #include <QPushButton>
 #include <QTimeEdit>
-
-#include <memory>
 
 using namespace trel::mediadispatch;
 
@@ -63,60 +60,36 @@ QString storedTask()
 
 } // namespace
 
-/// Both ways through the program chooser: a new plan, and the programs of an existing one.
-class tst_PlanTaskWidgetChoosing : public QObject
+/// What the card makes of a choice of programs: times, ids, ends, states and what is stored.
+class tst_PlanTaskWidgetAfterChoosing : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
-    void firstPlan();
     void newPlanHoldsTheTemplate();
     void newPlanFollowsTheLatestEnd_data();
     void newPlanFollowsTheLatestEnd();
     void newPlanTakesTheNextId_data();
     void newPlanTakesTheNextId();
     void newPlanInFrequencyModeKeepsItsEnd();
-    void newPlanWithAPicture();
-    void notConfirmedAddsNothing_data();
-    void notConfirmedAddsNothing();
     void nothingIsStoredBeforeTheAnswer();
-    void programsOfARow();
     void bothHalvesOfTheField();
-    void cancelledInTimeMode();
     void cancelledInFrequencyMode();
     void confirmedInTimeModeRunsNoPass();
     void confirmedInFrequencyMode();
     void aPictureEndsFrequencyMode();
-    void withoutThePictureTheModeIsFree();
     void theRowBelowADeletedOne();
-    void unknownRow();
-    void cardMayGoWhileTheChooserIsOpen();
 };
 
-void tst_PlanTaskWidgetChoosing::init()
+void tst_PlanTaskWidgetAfterChoosing::init()
 {
     service().reset();
     service().addProgram(1, "Film", 60000.0);
     service().addProgram(2, "Picture", 0.0, true);
 }
 
-void tst_PlanTaskWidgetChoosing::firstPlan()
-{
-    const OpenCard open(taskWithPlans({}));
-    const ChooserAnswer answer(choose(kFilm));
-    click(addButton(open));
-    QCOMPARE(open.rows.lines(),
-             QStringList(QStringLiteral("1 [Film] time 00:00:00-01:00:00 x1* szEveryDayStr end 0 "
-                                        "green")));
-    QCOMPARE(open.rows.disagreement(), QString());
-    const QString plan = QStringLiteral("id 1 time 00:00:00-01:00:00 x1 days 0 end 0 <1x1>");
-    QCOMPARE(service().edits(),
-             QStringList({QStringLiteral("addPlan(1, %1)").arg(plan),
-                          QStringLiteral("addTask(1 2024.03.01-2024.03.31 [%1])").arg(plan)}));
-}
-
-void tst_PlanTaskWidgetChoosing::newPlanHoldsTheTemplate()
+void tst_PlanTaskWidgetAfterChoosing::newPlanHoldsTheTemplate()
 {
     const OpenCard open(taskWithPlans({}));
     const ChooserAnswer answer(choose(kFilm));
@@ -129,7 +102,7 @@ void tst_PlanTaskWidgetChoosing::newPlanHoldsTheTemplate()
     QCOMPARE(open.rows.task().plans.front(), expected);
 }
 
-void tst_PlanTaskWidgetChoosing::newPlanFollowsTheLatestEnd_data()
+void tst_PlanTaskWidgetAfterChoosing::newPlanFollowsTheLatestEnd_data()
 {
     QTest::addColumn<QStringList>("ends");
     QTest::addColumn<QString>("span");
@@ -147,7 +120,7 @@ void tst_PlanTaskWidgetChoosing::newPlanFollowsTheLatestEnd_data()
     row("no end at all", {QString()}, "00:00:00-01:00:00");
 }
 
-void tst_PlanTaskWidgetChoosing::newPlanFollowsTheLatestEnd()
+void tst_PlanTaskWidgetAfterChoosing::newPlanFollowsTheLatestEnd()
 {
     QFETCH(QStringList, ends);
     PlayTask task = taskWithPlans({});
@@ -163,7 +136,7 @@ void tst_PlanTaskWidgetChoosing::newPlanFollowsTheLatestEnd()
     QCOMPARE(open.rows.endTime(ends.size()).text(), QString::fromStdString(plan.endTime));
 }
 
-void tst_PlanTaskWidgetChoosing::newPlanTakesTheNextId_data()
+void tst_PlanTaskWidgetAfterChoosing::newPlanTakesTheNextId_data()
 {
     QTest::addColumn<QVector<int>>("ids");
     QTest::addColumn<int>("next");
@@ -172,7 +145,7 @@ void tst_PlanTaskWidgetChoosing::newPlanTakesTheNextId_data()
     QTest::newRow("0 counts as none") << QVector<int>{0} << 1;
 }
 
-void tst_PlanTaskWidgetChoosing::newPlanTakesTheNextId()
+void tst_PlanTaskWidgetAfterChoosing::newPlanTakesTheNextId()
 {
     QFETCH(QVector<int>, ids);
     PlayTask task = taskWithPlans({});
@@ -185,7 +158,7 @@ void tst_PlanTaskWidgetChoosing::newPlanTakesTheNextId()
     QTEST(service().working[1].plans.back().id, "next");
 }
 
-void tst_PlanTaskWidgetChoosing::newPlanInFrequencyModeKeepsItsEnd()
+void tst_PlanTaskWidgetAfterChoosing::newPlanInFrequencyModeKeepsItsEnd()
 {
     OpenCard open(taskWithPlans({timePlan(1, "08:00:00", "09:00:00")}));
     const ChooserAnswer answer(choose(kFilm));
@@ -199,46 +172,7 @@ void tst_PlanTaskWidgetChoosing::newPlanInFrequencyModeKeepsItsEnd()
     QVERIFY(!service().addedPlans.front().second.isConflict);
 }
 
-void tst_PlanTaskWidgetChoosing::newPlanWithAPicture()
-{
-    const OpenCard open(taskWithPlans({}));
-    const ChooserAnswer answer(choose(kPicture));
-    click(addButton(open));
-    QCOMPARE(open.rows.line(0), QStringLiteral("1 [Picture] time* 00:00:00-01:00:00 x1* "
-                                               "szEveryDayStr end 0 green"));
-    QVERIFY(service().working[1].plans.front().hasNoDuration);
-}
-
-void tst_PlanTaskWidgetChoosing::notConfirmedAddsNothing_data()
-{
-    QTest::addColumn<bool>("byCancel");
-    QTest::newRow("cancel") << true;
-    QTest::newRow("close") << false;
-}
-
-void tst_PlanTaskWidgetChoosing::notConfirmedAddsNothing()
-{
-    QFETCH(bool, byCancel);
-    const PlayTask task = taskWithPlans({timePlan(4, "08:00:00", "09:00:00")});
-    const OpenCard open(task);
-    {
-        const ChooserAnswer answer([byCancel](ChooserWindow& chooser) {
-            chooser.checkProgram(kFilm);
-            chooser.choose();
-            byCancel ? chooser.cancel() : chooser.close();
-        });
-        click(addButton(open));
-    }
-    QCOMPARE(open.rows.rowCount(), 1);
-    QCOMPARE(open.rows.task(), task);
-    QCOMPARE(open.rows.disagreement(), QString());
-    QCOMPARE(service().edits(), QStringList());
-    const ChooserAnswer answer(choose(kFilm));
-    click(addButton(open));
-    QCOMPARE(service().working[1].plans.back().id, 5);
-}
-
-void tst_PlanTaskWidgetChoosing::nothingIsStoredBeforeTheAnswer()
+void tst_PlanTaskWidgetAfterChoosing::nothingIsStoredBeforeTheAnswer()
 {
     const OpenCard open(taskWithPlans({}));
     const ChooserAnswer answer([&open](ChooserWindow& chooser) {
@@ -250,24 +184,7 @@ void tst_PlanTaskWidgetChoosing::nothingIsStoredBeforeTheAnswer()
     QCOMPARE(open.rows.rowCount(), 1);
 }
 
-void tst_PlanTaskWidgetChoosing::programsOfARow()
-{
-    PlayPlan plan = timePlan(4, "08:00:00", "09:00:00");
-    plan.programs = {entry(1)};
-    const OpenCard open(taskWithPlans({timePlan(2, "01:00:00", "02:00:00"), plan}));
-    const ChooserAnswer answer(choose(kFilm));
-    click(field(open, 1));
-    QCOMPARE(open.rows.model().index(1, ProgramsColumn).data(ProgramTextRole).toString(),
-             QStringLiteral("Film,Film"));
-    QCOMPARE(open.rows.programs(1).text(), QStringLiteral("Film,Film"));
-    QCOMPARE(service().selectedProgram, std::string("Film,Film"));
-    QCOMPARE(line(service().working[1].plans[1]),
-             QStringLiteral("id 4 time 08:00:00-09:00:00 x1 days 0 end 0 <1x1,1x1>"));
-    QCOMPARE(open.rows.task(), service().working[1]);
-    QCOMPARE(open.rows.disagreement(), QString());
-}
-
-void tst_PlanTaskWidgetChoosing::bothHalvesOfTheField()
+void tst_PlanTaskWidgetAfterChoosing::bothHalvesOfTheField()
 {
     const OpenCard open(taskWithPlans({timePlan(4, "08:00:00", "09:00:00")}));
     ChooserAnswer answer(choose(kFilm));
@@ -277,28 +194,7 @@ void tst_PlanTaskWidgetChoosing::bothHalvesOfTheField()
     QCOMPARE(open.rows.programs(0).text(), QStringLiteral("Film,Film"));
 }
 
-void tst_PlanTaskWidgetChoosing::cancelledInTimeMode()
-{
-    PlayPlan plan = timePlan(4, "08:00:00", "09:00:00");
-    plan.programs = {entry(1)};
-    const PlayTask task = taskWithPlans({plan});
-    const OpenCard open(task);
-    const ChooserAnswer answer([](ChooserWindow& chooser) {
-        chooser.checkProgram(kPicture);
-        chooser.choose();
-        chooser.cancel();
-    });
-    click(field(open, 0));
-    QCOMPARE(open.rows.programs(0).text(), QStringLiteral("Film"));
-    QCOMPARE(open.rows.task(), task);
-    QCOMPARE(
-        service().calls({QStringLiteral("setqstrSelectedProgram"), QStringLiteral("getTask"),
-                         QStringLiteral("addTask"), QStringLiteral("getqstrSelectedProgram")}),
-        QStringList({QStringLiteral("setqstrSelectedProgram(\"Film\")"),
-                     QStringLiteral("getTask(1)"), QStringLiteral("getqstrSelectedProgram()")}));
-}
-
-void tst_PlanTaskWidgetChoosing::cancelledInFrequencyMode()
+void tst_PlanTaskWidgetAfterChoosing::cancelledInFrequencyMode()
 {
     const OpenCard open(taskWithPlans({filmPlan(4, "08:00:00")}));
     const ChooserAnswer answer(cancel());
@@ -309,7 +205,7 @@ void tst_PlanTaskWidgetChoosing::cancelledInFrequencyMode()
     QCOMPARE(open.stores(), 1);
 }
 
-void tst_PlanTaskWidgetChoosing::confirmedInTimeModeRunsNoPass()
+void tst_PlanTaskWidgetAfterChoosing::confirmedInTimeModeRunsNoPass()
 {
     const OpenCard open(
         taskWithPlans({timePlan(1, "08:00:00", "09:00:00"), timePlan(2, "10:00:00", "11:00:00")}));
@@ -322,7 +218,7 @@ void tst_PlanTaskWidgetChoosing::confirmedInTimeModeRunsNoPass()
     QCOMPARE(open.stores(), 0);
 }
 
-void tst_PlanTaskWidgetChoosing::confirmedInFrequencyMode()
+void tst_PlanTaskWidgetAfterChoosing::confirmedInFrequencyMode()
 {
     const OpenCard open(
         taskWithPlans({filmPlan(4, "08:00:00"), timePlan(5, "08:04:00", "08:05:00")}));
@@ -336,7 +232,7 @@ void tst_PlanTaskWidgetChoosing::confirmedInFrequencyMode()
     QCOMPARE(service().working[1], open.rows.task());
 }
 
-void tst_PlanTaskWidgetChoosing::aPictureEndsFrequencyMode()
+void tst_PlanTaskWidgetAfterChoosing::aPictureEndsFrequencyMode()
 {
     const OpenCard open(taskWithPlans({filmPlan(4, "08:00:00")}));
     const ChooserAnswer answer(choose(kPicture));
@@ -349,25 +245,7 @@ void tst_PlanTaskWidgetChoosing::aPictureEndsFrequencyMode()
     QCOMPARE(open.stores(), 1);
 }
 
-void tst_PlanTaskWidgetChoosing::withoutThePictureTheModeIsFree()
-{
-    PlayPlan plan = timePlan(4, "08:00:00", "09:00:00");
-    plan.programs = {entry(1), entry(2)};
-    plan.hasNoDuration = true;
-    const OpenCard open(taskWithPlans({plan}));
-    QVERIFY(!open.rows.mode(0).isEnabled());
-    const ChooserAnswer answer([](ChooserWindow& chooser) {
-        chooser.checkPlan(1);
-        chooser.remove();
-        chooser.confirm();
-    });
-    click(field(open, 0));
-    QVERIFY(open.rows.mode(0).isEnabled());
-    QCOMPARE(open.rows.mode(0).currentIndex(), int(TimeMode));
-    QCOMPARE(open.stores(), 0);
-}
-
-void tst_PlanTaskWidgetChoosing::theRowBelowADeletedOne()
+void tst_PlanTaskWidgetAfterChoosing::theRowBelowADeletedOne()
 {
     const OpenCard open(
         taskWithPlans({timePlan(1, "08:00:00", "09:00:00"), timePlan(2, "10:00:00", "11:00:00")}));
@@ -382,34 +260,5 @@ void tst_PlanTaskWidgetChoosing::theRowBelowADeletedOne()
     QCOMPARE(open.rows.programs(0).text(), QStringLiteral("Film"));
 }
 
-void tst_PlanTaskWidgetChoosing::unknownRow()
-{
-    const PlayTask task = taskWithPlans({timePlan(1, "08:00:00", "09:00:00")});
-    OpenCard open(task);
-    const ChooserAnswer noChooser;
-    open.card.slotAddProgram(1);
-    open.card.slotAddProgram(-1);
-    QCOMPARE(open.rows.task(), task);
-    QCOMPARE(service().log, QStringList());
-}
-
-void tst_PlanTaskWidgetChoosing::cardMayGoWhileTheChooserIsOpen()
-{
-    const PlayTask task = taskWithPlans({filmPlan(4, "08:00:00")});
-    service().working[1] = task;
-    auto card = std::make_unique<PlanTaskWidget>(task, nullptr);
-    const auto removeCard = [&card](ChooserWindow&) { card.reset(); };
-    ChooserAnswer answer(removeCard);
-    card->onPushButtonAddClicked();
-    QVERIFY(!card);
-    QCOMPARE(answer.count(), 1);
-
-    card = std::make_unique<PlanTaskWidget>(task, nullptr);
-    answer.expect(removeCard);
-    card->slotAddProgram(0);
-    QVERIFY(!card);
-    QCOMPARE(answer.count(), 2);
-}
-
-QTEST_MAIN(tst_PlanTaskWidgetChoosing)
-#include "tst_PlanTaskWidgetChoosing.moc"
+QTEST_MAIN(tst_PlanTaskWidgetAfterChoosing)
+#include "tst_PlanTaskWidgetAfterChoosing.moc"

@@ -1,0 +1,112 @@
+#include "service/NewPlan.h"
+
+#include "support/PlanRecords.h"
+
+#include <QtTest>
+
+using namespace trel::mediadispatch;
+
+class tst_NewPlan : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theTemplate();
+    void nextId_data();
+    void nextId();
+    void completes_data();
+    void completes();
+    void completingKeepsTheRest();
+    void copyFollowsItsSource();
+};
+
+void tst_NewPlan::theTemplate()
+{
+    PlayPlan expected;
+    expected.mode = TimeMode;
+    expected.id = -1;
+    expected.startTime = "00:00:00";
+    expected.endTime = "01:00:00";
+    expected.times = 1;
+    expected.endAction = BlackScreen;
+    expected.serviceTime = "23:59:59";
+    QCOMPARE(planTemplate(), expected);
+}
+
+void tst_NewPlan::nextId_data()
+{
+    QTest::addColumn<QVector<int>>("ids");
+    QTest::addColumn<int>("next");
+    QTest::newRow("no plans") << QVector<int>() << 1;
+    QTest::newRow("a gap stays") << QVector<int>{1, 7, 3} << 8;
+    QTest::newRow("negative") << QVector<int>{-5, -1} << 1;
+    QTest::newRow("0") << QVector<int>{0} << 1;
+}
+
+void tst_NewPlan::nextId()
+{
+    QFETCH(QVector<int>, ids);
+    PlayTask task = taskWithPlans({});
+    for (const int id : ids) {
+        task.plans.push_back(timePlan(id, "08:00:00", "09:00:00"));
+    }
+    QTEST(nextPlanId(task), "next");
+}
+
+void tst_NewPlan::completes_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("otherEnd");
+    QTest::addColumn<QString>("span");
+    QTest::newRow("after the latest end") << int(TimeMode) << "10:00:00"
+                                          << "10:00:00-11:00:00";
+    QTest::newRow("capped") << int(TimeMode) << "23:30:00"
+                            << "23:30:00-23:59:59";
+    QTest::newRow("no end before") << int(TimeMode) << ""
+                                   << "00:00:00-01:00:00";
+    QTest::newRow("an end that does not parse") << int(TimeMode) << "late"
+                                                << "00:00:00-01:00:00";
+    QTest::newRow("an end past the day") << int(TimeMode) << "24:00:00"
+                                         << "00:00:00-01:00:00";
+    QTest::newRow("FrequencyMode keeps its end") << int(FrequencyMode) << "10:00:00"
+                                                 << "10:00:00-03:00:00";
+}
+
+void tst_NewPlan::completes()
+{
+    QFETCH(int, mode);
+    QFETCH(QString, otherEnd);
+    PlayPlan plan = timePlan(-1, "02:00:00", "03:00:00");
+    plan.mode = mode;
+    completeNewPlan(plan, taskWithPlans({timePlan(4, "07:00:00", otherEnd.toStdString())}));
+    QTEST(QString::fromStdString(plan.startTime + '-' + plan.endTime), "span");
+    QCOMPARE(plan.id, 5);
+}
+
+void tst_NewPlan::completingKeepsTheRest()
+{
+    PlayPlan plan = timePlan(-1, "02:00:00", "03:00:00", "4");
+    plan.serviceList = {1, 2};
+    plan.programs = {entry(3)};
+    PlayPlan expected = plan;
+    completeNewPlan(plan, taskWithPlans({}));
+    expected.id = 1;
+    expected.startTime = "00:00:00";
+    expected.endTime = "01:00:00";
+    QCOMPARE(plan, expected);
+}
+
+void tst_NewPlan::copyFollowsItsSource()
+{
+    PlayPlan source = frequencyPlan(2, "08:00:00", 7, {entry(3)}, "1,2");
+    source.endTime = "22:30:00";
+    source.serviceFlagB = true;
+    PlayPlan expected = source;
+    expected.id = 10;
+    expected.startTime = "22:30:00";
+    expected.endTime = "23:30:00";
+    QCOMPARE(followingCopy(source, taskWithPlans({timePlan(9, "", "")})), expected);
+}
+
+QTEST_APPLESS_MAIN(tst_NewPlan)
+#include "tst_NewPlan.moc"
