@@ -157,7 +157,7 @@ void tst_scheduleControlUI::escapeLeavesTheWindowOpen()
     editor.dialog.slotShow(false);
     QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     escape.accept();
-    QVERIFY(!QCoreApplication::sendEvent(&editor.dialog, &escape) || !escape.isAccepted());
+    QCoreApplication::sendEvent(&editor.dialog, &escape);
     QVERIFY(!escape.isAccepted());
     QVERIFY(editor.dialog.isVisible());
     QTest::keyClick(&editor.dialog, Qt::Key_Escape);
