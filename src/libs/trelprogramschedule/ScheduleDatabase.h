@@ -76,6 +76,12 @@ public:
     StoreResult removeProgram(int progIndex);
 
 private:
+    // The statements of the database, by what they are about; each stands in files of its own.
+    class Schema;
+    class TaskReader;
+    class TaskWriter;
+    class Catalogue;
+
     StoreResult create() const;
     StoreResult probe() const;
     StoreResult connect();

@@ -67,6 +67,7 @@ TaskEdits editsBetween(const TaskMap& from, const TaskMap& to)
     for (const int id : idsOfBoth(from, to)) {
         addEdit(edits, from, to, id);
     }
+    edits.removesAll = edits.removed.size() == from.size();
     return edits;
 }
 
@@ -146,6 +147,7 @@ TaskEdits TaskSets::edits() const
     for (const int id : m_touched) {
         addEdit(edits, m_stored, m_working, id);
     }
+    edits.removesAll = edits.removed.size() == m_stored.size();
     return edits;
 }
 

@@ -16,6 +16,7 @@ struct TaskEdits
 {
     std::vector<int> removed;
     std::vector<const PlayTask*> written;
+    bool removesAll = false; ///< Not one task stays as it was.
 
     bool isEmpty() const { return removed.empty() && written.empty(); }
 };

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "ScheduleDatabase.h"
+
+#include <QSqlQuery>
+
+namespace trel::mediadispatch {
+
+/// The table of the programs, within a transaction. Members throw StoreError.
+class ScheduleDatabase::Catalogue
+{
+public:
+    Catalogue(const StoreConnection& connection, const QString& path);
+
+    void read(StoreContents& contents) const;
+    /// Updates the program of the same path or makes a new one.
+    void put(const MediaSource& source, ImportResult& result);
+    void remove(int progIndex);
+    /// Keeps what was changed as a new revision.
+    void finish() const;
+
+private:
+    int giveOutIndex();
+
+    const StoreConnection& m_connection;
+    const QString& m_path;
+    int m_nextIndex;
+    QSqlQuery m_find;
+    QSqlQuery m_update;
+    QSqlQuery m_insert;
+};
+
+} // namespace trel::mediadispatch

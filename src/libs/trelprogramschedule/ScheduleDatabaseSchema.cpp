@@ -1,0 +1,118 @@
+#include "ScheduleDatabaseSchema.h"
+
+#include "StoreConnection.h"
+#include "StoreMessages.h"
+
+#include <QVariant>
+
+namespace trel::mediadispatch {
+
+const std::vector<ScheduleDatabase::Schema::Step>& ScheduleDatabase::Schema::steps()
+{
+    // A step that operators have is never changed: a new version adds a step at the end.
+    static const std::vector<Step> steps = {
+        {1,
+         {QStringLiteral("CREATE TABLE store ("
+                         " one INTEGER PRIMARY KEY CHECK (one = 1),"
+                         " schedule_revision INTEGER NOT NULL,"
+                         " catalogue_revision INTEGER NOT NULL,"
+                         " next_prog_index INTEGER NOT NULL) STRICT"),
+          QStringLiteral("INSERT INTO store VALUES (1, 0, 0, 1)"),
+          // A program that is taken out stays as a row, so that its name is still known.
+          QStringLiteral("CREATE TABLE program ("
+                         " prog_index INTEGER PRIMARY KEY,"
+                         " name TEXT NOT NULL,"
+                         " media_path TEXT NOT NULL,"
+                         " duration_ms REAL NOT NULL,"
+                         " kind INTEGER NOT NULL,"
+                         " removed INTEGER NOT NULL DEFAULT 0) STRICT"),
+          QStringLiteral("CREATE UNIQUE INDEX program_path ON program (media_path)"
+                         " WHERE removed = 0"),
+          QStringLiteral("CREATE TABLE task ("
+                         " id INTEGER PRIMARY KEY,"
+                         " start_date TEXT NOT NULL,"
+                         " end_date TEXT NOT NULL) STRICT"),
+          // Rows are found by their place: two plans of a task may have the same id.
+          QStringLiteral("CREATE TABLE plan ("
+                         " task_id INTEGER NOT NULL REFERENCES task ON DELETE CASCADE,"
+                         " position INTEGER NOT NULL,"
+                         " id INTEGER NOT NULL,"
+                         " mode INTEGER NOT NULL,"
+                         " start_time TEXT NOT NULL,"
+                         " end_time TEXT NOT NULL,"
+                         " times INTEGER NOT NULL,"
+                         " service_count INTEGER NOT NULL,"
+                         " end_action INTEGER NOT NULL,"
+                         " is_conflict INTEGER NOT NULL,"
+                         " weeks TEXT NOT NULL,"
+                         " service_time TEXT NOT NULL,"
+                         " has_no_duration INTEGER NOT NULL,"
+                         " service_flag_a INTEGER NOT NULL,"
+                         " service_flag_b INTEGER NOT NULL,"
+                         " PRIMARY KEY (task_id, position)) STRICT, WITHOUT ROWID"),
+          QStringLiteral("CREATE TABLE plan_value ("
+                         " task_id INTEGER NOT NULL,"
+                         " plan_position INTEGER NOT NULL,"
+                         " position INTEGER NOT NULL,"
+                         " value INTEGER NOT NULL,"
+                         " PRIMARY KEY (task_id, plan_position, position),"
+                         " FOREIGN KEY (task_id, plan_position) REFERENCES plan"
+                         " ON DELETE CASCADE) STRICT, WITHOUT ROWID"),
+          QStringLiteral("CREATE TABLE entry ("
+                         " task_id INTEGER NOT NULL,"
+                         " plan_position INTEGER NOT NULL,"
+                         " position INTEGER NOT NULL,"
+                         " prog_index INTEGER NOT NULL,"
+                         " is_invalid INTEGER NOT NULL,"
+                         " name TEXT NOT NULL,"
+                         " play_count INTEGER NOT NULL,"
+                         " PRIMARY KEY (task_id, plan_position, position),"
+                         " FOREIGN KEY (task_id, plan_position) REFERENCES plan"
+                         " ON DELETE CASCADE) STRICT, WITHOUT ROWID")}},
+    };
+    return steps;
+}
+
+int ScheduleDatabase::Schema::newestVersion()
+{
+    return steps().back().version;
+}
+
+void ScheduleDatabase::Schema::migrate(const StoreConnection& connection)
+{
+    const int version = connection.value(QStringLiteral("PRAGMA user_version")).toInt();
+    for (const Step& step : steps()) {
+        if (step.version <= version) {
+            continue;
+        }
+        StoreTransaction transaction(connection, StoreTransaction::Purpose::Write);
+        for (const QString& statement : step.statements) {
+            connection.run(statement);
+        }
+        connection.run(QStringLiteral("PRAGMA user_version = %1").arg(step.version));
+        connection.run(QStringLiteral("PRAGMA application_id = %1").arg(kApplicationId));
+        transaction.commit();
+    }
+}
+
+void ScheduleDatabase::Schema::check(const StoreConnection& connection, const QString& path)
+{
+    if (connection.value(QStringLiteral("PRAGMA application_id")).toLongLong() != kApplicationId) {
+        throw StoreError{refusal(StoreProblem::Foreign, path)};
+    }
+    if (connection.value(QStringLiteral("PRAGMA user_version")).toInt() > newestVersion()) {
+        throw StoreError{refusal(StoreProblem::NewerSchema, path)};
+    }
+    const QString finding =
+        connection.value(QStringLiteral("PRAGMA quick_check(1)")).toString().simplified();
+    if (finding != QLatin1String("ok")) {
+        throw StoreError{refusal(StoreProblem::Damaged, path, finding)};
+    }
+    const int rows = connection.value(QStringLiteral("SELECT count(*) FROM store")).toInt();
+    if (rows != 1) {
+        throw StoreError{refusal(StoreProblem::Damaged, path,
+                                 QStringLiteral("it does not say which state it is in"))};
+    }
+}
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ScheduleDatabase.h"
+
+#include <QStringList>
+
+#include <vector>
+
+namespace trel::mediadispatch {
+
+/// The tables of the store and how they came to be what they are.
+class ScheduleDatabase::Schema
+{
+public:
+    /// Says in the head of the file whose it is: the letters "TrlS".
+    static constexpr qint64 kApplicationId = 0x54726c53;
+
+    static int newestVersion();
+    /// Takes a database, an empty one too, to the newest version, each step in one transaction.
+    static void migrate(const StoreConnection& connection);
+    /// Finds out, without writing, whether a database can be worked with; throws StoreError.
+    static void check(const StoreConnection& connection, const QString& path);
+
+private:
+    struct Step
+    {
+        int version; ///< What the schema is after the step.
+        QStringList statements;
+    };
+
+    static const std::vector<Step>& steps();
+};
+
+} // namespace trel::mediadispatch

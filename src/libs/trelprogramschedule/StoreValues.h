@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QSqlQuery>
+#include <QString>
+#include <QVariant>
+
+#include <string>
+
+namespace trel::mediadispatch {
+
+/// Binds values to the places of a query, from the given one on. A place keeps its value from one
+/// run of the query to the next.
+template <typename... Values>
+void bindFrom(int place, QSqlQuery& query, const Values&... values)
+{
+    (query.bindValue(place++, values), ...);
+}
+
+/// The bytes of a text, to be bound where the statement casts them to text: that way nothing is
+/// converted, and a name that is no proper UTF-8 survives too. Valid as long as the text is.
+inline QByteArray bytes(const std::string& text)
+{
+    return QByteArray::fromRawData(text.data(), static_cast<int>(text.size()));
+}
+
+/// The text for a column that takes no null.
+inline QString present(const QString& text)
+{
+    return text.isNull() ? QLatin1String("") : text;
+}
+
+/// The UTF-8 text of a column, read as text or as its bytes.
+inline std::string utf8(const QSqlQuery& row, int column)
+{
+    return row.value(column).toByteArray().toStdString();
+}
+
+} // namespace trel::mediadispatch
