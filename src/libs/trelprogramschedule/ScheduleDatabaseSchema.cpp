@@ -108,8 +108,11 @@ void ScheduleDatabase::Schema::check(const StoreConnection& connection, const QS
     if (finding != QLatin1String("ok")) {
         throw StoreError{refusal(StoreProblem::Damaged, path, finding)};
     }
-    const int rows = connection.value(QStringLiteral("SELECT count(*) FROM store")).toInt();
-    if (rows != 1) {
+    for (const char* table : {"program", "task", "plan", "plan_value", "entry"}) {
+        connection.run(QLatin1String("SELECT 1 FROM ") + QLatin1String(table) +
+                       QLatin1String(" LIMIT 1"));
+    }
+    if (connection.value(QStringLiteral("SELECT count(*) FROM store")).toInt() != 1) {
         throw StoreError{refusal(StoreProblem::Damaged, path,
                                  QStringLiteral("it does not say which state it is in"))};
     }

@@ -12,6 +12,7 @@ namespace {
 /// The primary result codes of SQLite that have a problem of their own here; the extended codes
 /// carry them in their lowest byte.
 enum SqliteCode {
+    UnknownName = 1,
     Busy = 5,
     TableLocked = 6,
     WriteProtected = 8,
@@ -76,6 +77,7 @@ StoreProblem problemOf(int code, const QString& path)
         return StoreProblem::ReadOnly;
     case InputOutput:
         return diskIsFull(path) ? StoreProblem::DiskFull : StoreProblem::Other;
+    case UnknownName: // Every statement fits the schema: a table or a column must be missing.
     case Corrupt:
     case NotADatabaseFile:
         return StoreProblem::Damaged;

@@ -1,0 +1,152 @@
+// Another program for the tests of the store: one that can be stopped, that keeps a file to itself
+// or that runs out of space. What it finds it writes line by line to its output.
+
+#include "DiskLimit.h"
+#include "ScheduleHost.h"
+#include "StoreConnection.h"
+#include "service/scheduleManage.h"
+#include "support/SampleSchedule.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTextStream>
+
+#include <csignal>
+#include <cstdio>
+
+#include <sys/time.h>
+#include <unistd.h>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+void say(const QString& line)
+{
+    std::puts(line.toUtf8().constData());
+    std::fflush(stdout);
+}
+
+void say(const char* what, const StoreResult& result)
+{
+    say(QStringLiteral("%1 %2").arg(QLatin1String(what)).arg(int(result.problem)));
+}
+
+/// Keeps the file to itself until its input ends.
+int hold(const QString& path)
+{
+    const StoreConnection connection(path, StoreConnection::Access::ReadWrite);
+    connection.run(QStringLiteral("BEGIN EXCLUSIVE"));
+    connection.run(QStringLiteral("UPDATE store SET schedule_revision = schedule_revision + 1"));
+    say(QStringLiteral("ready"));
+    QFile input;
+    if (input.open(stdin, QIODevice::ReadOnly)) {
+        input.readAll();
+    }
+    return 0;
+}
+
+/// Ends the process as a power cut would, after a time in microseconds.
+void stopAfter(int microseconds)
+{
+    std::signal(SIGALRM, [](int) { ::kill(::getpid(), SIGKILL); });
+    itimerval timer = {};
+    timer.it_value.tv_sec = microseconds / 1000000;
+    timer.it_value.tv_usec = microseconds % 1000000;
+    ::setitimer(ITIMER_REAL, &timer, nullptr);
+}
+
+/// Saves one generation after the other until it is stopped, and names each that was saved.
+int saveOn(const QString& path, int generation, int microseconds)
+{
+    ScheduleHost& host = ScheduleHost::instance();
+    if (const StoreResult result = host.open(path); !result) {
+        say(result.message);
+        return 1;
+    }
+    scheduleManage& manager = scheduleManage::getInstance();
+    stopAfter(microseconds);
+    for (;; ++generation) {
+        manager.updateUItask();
+        for (const auto& [id, task] : manager.getAllTask()) {
+            manager.deleteTask(id);
+        }
+        for (const auto& [id, task] : sampleSchedule(20 + generation % 20, 3, 3, generation)) {
+            manager.addTask(task);
+        }
+        if (const StoreResult result = host.trySave(); !result) {
+            say(result.message);
+            return 1;
+        }
+        say(QString::number(generation));
+    }
+}
+
+/// What another program finds in the store.
+std::size_t tasksInFile(const QString& path)
+{
+    const StoreConnection connection(path, StoreConnection::Access::ReadOnly);
+    return connection.value(QStringLiteral("SELECT count(*) FROM task")).toUInt();
+}
+
+/// Fills the disk under an open store, and finds space again.
+int runOutOfSpace(const QString& folder)
+{
+    DiskLimit disk(folder);
+    say(disk.kind());
+    const QString path = folder + QStringLiteral("/schedule.db");
+    ScheduleHost& host = ScheduleHost::instance();
+    scheduleManage& manager = scheduleManage::getInstance();
+    say("open", host.open(path));
+    say("programs", host.addPrograms(samplePrograms(5)).store);
+    say("small", host.replaceSchedule(sampleSchedule(3, 2, 5)));
+
+    disk.fill();
+    for (const auto& [id, task] : sampleSchedule(2000, 3, 5, 1)) {
+        manager.addTask(task);
+    }
+    QObject::connect(&host, &ScheduleHost::saveFailed, &host, [](const StoreResult& reason) {
+        say("failed", reason);
+        say(reason.message);
+    });
+    manager.save();
+    say(QStringLiteral("stored %1 working %2 file %3 unsaved %4")
+            .arg(manager.getgTaskMap().size())
+            .arg(manager.getAllTask().size())
+            .arg(tasksInFile(path))
+            .arg(host.hasUnsavedChanges()));
+    say("import", host.addPrograms(samplePrograms(5000, 100)).store);
+    say(QStringLiteral("programs %1").arg(manager.getPrograms().size()));
+
+    disk.free();
+    say("again", host.trySave());
+    host.close();
+    say("reopen", host.open(path));
+    say(QStringLiteral("stored %1").arg(manager.getgTaskMap().size()));
+    host.close();
+
+    disk.fill();
+    const QString fresh = folder + QStringLiteral("/fresh.db");
+    say("fresh", host.open(fresh));
+    say(QStringLiteral("left %1").arg(QFile::exists(fresh)));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    const QString task = arguments.value(1);
+    if (task == QLatin1String("hold")) {
+        return hold(arguments.value(2));
+    }
+    if (task == QLatin1String("save")) {
+        return saveOn(arguments.value(2), arguments.value(3).toInt(), arguments.value(4).toInt());
+    }
+    if (task == QLatin1String("fill")) {
+        return runOutOfSpace(arguments.value(2));
+    }
+    return 2;
+}

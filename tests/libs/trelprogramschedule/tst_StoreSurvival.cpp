@@ -1,0 +1,99 @@
+#include "StoreChild.h"
+#include "StoreFixture.h"
+
+#include <QtTest>
+
+#include <random>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+constexpr unsigned kSeed = 20240229;
+constexpr int kStops = 80;
+/// A save of the child takes some milliseconds.
+constexpr int kLongestLife = 60000;
+
+/// The generation of a schedule that is all of one; -1 for a mixture.
+int generationOf(const std::map<int, PlayTask>& tasks)
+{
+    if (tasks.empty()) {
+        return 0;
+    }
+    const int generation = tasks.begin()->second.plans.front().serviceCount;
+    return tasks == sampleSchedule(20 + generation % 20, 3, 3, generation) ? generation : -1;
+}
+
+} // namespace
+
+/// A program that is stopped, or runs out of space, in the middle of a save loses nothing.
+class tst_StoreSurvival : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void stoppedInTheMiddle();
+    void diskFull();
+};
+
+void tst_StoreSurvival::stoppedInTheMiddle()
+{
+    StoreFixture store;
+    QVERIFY(store.host.addPrograms(samplePrograms(3)).store);
+    std::mt19937 random(kSeed);
+    std::uniform_int_distribution<int> life(1, kLongestLife);
+    int generation = 0;
+    for (int stop = 0; stop < kStops; ++stop) {
+        const int microseconds = life(random);
+        const QString context =
+            QStringLiteral("seed %1, stop %2 after %3 us").arg(kSeed).arg(stop).arg(microseconds);
+        store.host.close();
+        StoreChild child({QStringLiteral("save"), store.path, QString::number(generation + 1),
+                          QString::number(microseconds)});
+        const QStringList saved = child.lines();
+        QVERIFY2(child.wasStopped(), qPrintable(context + saved.join(QLatin1Char(' '))));
+        store.open();
+
+        // What was acknowledged is there; what was not is there whole or not at all.
+        const int acknowledged = saved.isEmpty() ? generation : saved.last().toInt();
+        const int found = generationOf(store.manager.getgTaskMap());
+        QVERIFY2(found == acknowledged || found == acknowledged + 1,
+                 qPrintable(context +
+                            QStringLiteral(": found %1 after %2").arg(found).arg(acknowledged)));
+        generation = found;
+    }
+    QVERIFY2(generation > kStops, "the child was stopped before it could save");
+}
+
+void tst_StoreSurvival::diskFull()
+{
+    const QTemporaryDir folder;
+    StoreChild child({QStringLiteral("fill"), folder.path()});
+    QStringList lines = child.lines();
+    QVERIFY(!lines.isEmpty());
+    const bool isDisk = lines.takeFirst() == QLatin1String("disk");
+    // A file at its limit looks to the database like a disk that fails.
+    const int problem = int(isDisk ? StoreProblem::DiskFull : StoreProblem::Other);
+    QVERIFY2(lines.size() > 4, qPrintable(lines.join(QLatin1Char('\n'))));
+    const QString message = lines.takeAt(4);
+    QVERIFY2(message.contains(QLatin1String("schedule.db")), qPrintable(message));
+    QVERIFY2(!isDisk || message.contains(QLatin1String("the disk is full")), qPrintable(message));
+    const QStringList expected = {
+        QStringLiteral("open 0"),
+        QStringLiteral("programs 0"),
+        QStringLiteral("small 0"),
+        QStringLiteral("failed %1").arg(problem),
+        QStringLiteral("stored 3 working 2000 file 3 unsaved 1"),
+        QStringLiteral("import %1").arg(problem),
+        QStringLiteral("programs 5"),
+        QStringLiteral("again 0"),
+        QStringLiteral("reopen 0"),
+        QStringLiteral("stored 2000"),
+        QStringLiteral("fresh %1").arg(problem),
+        QStringLiteral("left 0"),
+    };
+    QCOMPARE(lines, expected);
+}
+
+QTEST_GUILESS_MAIN(tst_StoreSurvival)
+#include "tst_StoreSurvival.moc"
