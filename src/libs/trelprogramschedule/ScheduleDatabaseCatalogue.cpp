@@ -76,12 +76,16 @@ void ScheduleDatabase::Catalogue::put(const MediaSource& source, ImportResult& r
         m_find.finish();
         bindFrom(0, m_update, present(source.name), duration, kind, index);
         m_connection.exec(m_update);
-        result.updated.push_back(index);
+        const bool isOfThisImport = !m_done.insert(index).second;
+        if (!isOfThisImport) {
+            result.updated.push_back(index);
+        }
         return;
     }
     const int index = giveOutIndex();
     bindFrom(0, m_insert, index, present(source.name), present(source.path), duration, kind);
     m_connection.exec(m_insert);
+    m_done.insert(index);
     result.added.push_back(index);
 }
 

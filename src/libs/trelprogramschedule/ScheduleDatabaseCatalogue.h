@@ -4,6 +4,8 @@
 
 #include <QSqlQuery>
 
+#include <set>
+
 namespace trel::mediadispatch {
 
 /// The table of the programs, within a transaction. Members throw StoreError.
@@ -25,6 +27,7 @@ private:
     const StoreConnection& m_connection;
     const QString& m_path;
     int m_nextIndex;
+    std::set<int> m_done; ///< What was put so far; a path may come twice.
     QSqlQuery m_find;
     QSqlQuery m_update;
     QSqlQuery m_insert;

@@ -73,6 +73,11 @@ const std::vector<ScheduleDatabase::Schema::Step>& ScheduleDatabase::Schema::ste
     return steps;
 }
 
+int ScheduleDatabase::Schema::versionOf(const StoreConnection& connection)
+{
+    return connection.value(QStringLiteral("PRAGMA user_version")).toInt();
+}
+
 int ScheduleDatabase::Schema::newestVersion()
 {
     return steps().back().version;
@@ -80,12 +85,14 @@ int ScheduleDatabase::Schema::newestVersion()
 
 void ScheduleDatabase::Schema::migrate(const StoreConnection& connection)
 {
-    const int version = connection.value(QStringLiteral("PRAGMA user_version")).toInt();
     for (const Step& step : steps()) {
-        if (step.version <= version) {
+        if (versionOf(connection) >= step.version) {
             continue;
         }
         StoreTransaction transaction(connection, StoreTransaction::Purpose::Write);
+        if (versionOf(connection) >= step.version) {
+            continue; // Another program has taken the step meanwhile.
+        }
         for (const QString& statement : step.statements) {
             connection.run(statement);
         }
@@ -100,7 +107,7 @@ void ScheduleDatabase::Schema::check(const StoreConnection& connection, const QS
     if (connection.value(QStringLiteral("PRAGMA application_id")).toLongLong() != kApplicationId) {
         throw StoreError{refusal(StoreProblem::Foreign, path)};
     }
-    if (connection.value(QStringLiteral("PRAGMA user_version")).toInt() > newestVersion()) {
+    if (versionOf(connection) > newestVersion()) {
         throw StoreError{refusal(StoreProblem::NewerSchema, path)};
     }
     const QString finding =

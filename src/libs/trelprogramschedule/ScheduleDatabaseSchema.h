@@ -29,6 +29,7 @@ private:
     };
 
     static const std::vector<Step>& steps();
+    static int versionOf(const StoreConnection& connection);
 };
 
 } // namespace trel::mediadispatch
