@@ -143,6 +143,13 @@ void scanAddress(const QString& address, ImportScan& scan)
     scan.sources.push_back({shownAddress(address), address, 0.0, ProgramKind::Live});
 }
 
+/// The base name; all of it where there is nothing in front of the suffix.
+QString shownName(const QFileInfo& info)
+{
+    const QString name = info.completeBaseName();
+    return name.isEmpty() ? info.fileName() : name;
+}
+
 void scanFile(const Candidate& candidate, ImportScan& scan)
 {
     const QFileInfo info(candidate.path);
@@ -151,8 +158,7 @@ void scanFile(const Candidate& candidate, ImportScan& scan)
     if (reason.isEmpty()) {
         const MediaFacts facts = probeMedia(candidate.path, isMediaByName);
         if (facts.reason.isEmpty()) {
-            scan.sources.push_back(
-                {info.completeBaseName(), candidate.path, facts.durationMs, facts.kind});
+            scan.sources.push_back({shownName(info), candidate.path, facts.durationMs, facts.kind});
             return;
         }
         reason = facts.reason;

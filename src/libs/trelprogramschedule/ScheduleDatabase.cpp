@@ -170,7 +170,7 @@ StoreResult ScheduleDatabase::read(StorePart part, StoreContents& contents) cons
 
 StoreResult ScheduleDatabase::writeTasks(const TaskEdits& edits, qint64& revision)
 {
-    if (const StoreResult place = judgeInPlace(); !place) {
+    if (StoreResult place = judgeInPlace(); !place) {
         return place;
     }
     return attempt([&] {
@@ -216,7 +216,7 @@ ImportResult ScheduleDatabase::addPrograms(const std::vector<MediaSource>& sourc
 
 StoreResult ScheduleDatabase::removeProgram(int progIndex)
 {
-    if (const StoreResult place = judgeInPlace(); !place) {
+    if (StoreResult place = judgeInPlace(); !place) {
         return place;
     }
     return attempt([&] {

@@ -22,7 +22,7 @@ QString nextConnectionName()
 
 QString fileAddress(const QString& path, StoreConnection::Access access)
 {
-    const QString address = QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
+    QString address = QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
     switch (access) {
     case StoreConnection::Access::Create:
         return address + QLatin1String("?mode=rwc");

@@ -338,6 +338,7 @@ void tst_ProgramCatalogue::twentyThousandPrograms()
 {
     StoreFixture store;
     std::vector<MediaSource> sources;
+    sources.reserve(20000);
     for (int number = 0; number < 20000; ++number) {
         sources.push_back(
             fileSource(store.folder.filePath(QStringLiteral("clip %1.mp4").arg(number))));
