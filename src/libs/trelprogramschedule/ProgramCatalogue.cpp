@@ -20,6 +20,16 @@ auto shownOf(const ProgramIten& program)
     return std::tie(program.progName, program.mediaPath, program.isNull);
 }
 
+/// No plan can have referred to a program that is new.
+constexpr CatalogueChange kProgramNew = {true, false};
+constexpr CatalogueChange kProgramLost = {true, true};
+
+CatalogueChange difference(const ProgramIten& before, const ProgramIten& after)
+{
+    const bool lengths = lengthOf(before) != lengthOf(after);
+    return {lengths || shownOf(before) != shownOf(after), lengths};
+}
+
 bool isThere(const ProgramIten& program)
 {
     return program.kind == ProgramKind::Live ||
@@ -38,6 +48,26 @@ void ProgramCatalogue::clear()
 {
     m_programs.clear();
     m_removedNames.clear();
+}
+
+CatalogueChange ProgramCatalogue::put(ProgramIten program)
+{
+    program.isNull = !isThere(program);
+    const auto [place, isNew] = m_programs.try_emplace(program.progIndex);
+    const CatalogueChange change = isNew ? kProgramNew : difference(place->second, program);
+    place->second = std::move(program);
+    return change;
+}
+
+CatalogueChange ProgramCatalogue::remove(int progIndex)
+{
+    const auto found = m_programs.find(progIndex);
+    if (found == m_programs.end()) {
+        return {};
+    }
+    m_removedNames[progIndex] = std::move(found->second.progName);
+    m_programs.erase(found);
+    return kProgramLost;
 }
 
 ProgramIten ProgramCatalogue::program(int progIndex) const
@@ -90,22 +120,21 @@ bool ProgramCatalogue::checkFiles()
 CatalogueChange catalogueChange(const ProgramMap& before, const ProgramMap& after)
 {
     CatalogueChange change;
-    const auto lost = [&change] { change.any = change.lengths = true; };
     auto former = before.begin();
     for (const auto& [index, program] : after) {
-        for (; former != before.end() && former->first < index; ++former) {
-            lost();
+        while (former != before.end() && former->first < index) {
+            change.add(kProgramLost);
+            ++former;
         }
         if (former == before.end() || former->first != index) {
-            change.any = true; // No plan can have referred to a program that is new.
+            change.add(kProgramNew);
             continue;
         }
-        change.lengths = change.lengths || lengthOf(former->second) != lengthOf(program);
-        change.any = change.any || change.lengths || shownOf(former->second) != shownOf(program);
+        change.add(difference(former->second, program));
         ++former;
     }
     if (former != before.end()) {
-        lost();
+        change.add(kProgramLost);
     }
     return change;
 }

@@ -9,6 +9,19 @@ namespace trel::mediadispatch {
 
 using ProgramMap = std::map<int, ProgramIten>;
 
+/// How two states of a catalogue differ.
+struct CatalogueChange
+{
+    bool any = false;
+    bool lengths = false; ///< What a plan's length is worked out from.
+
+    void add(const CatalogueChange& other)
+    {
+        any = any || other.any;
+        lengths = lengths || other.lengths;
+    }
+};
+
 /// The programs, by index, with the names of those that have been taken out.
 class ProgramCatalogue
 {
@@ -18,6 +31,12 @@ public:
     /// Replaces everything. Which files are there is not looked at; see checkFiles.
     void assign(ProgramMap programs, std::map<int, std::string> removedNames);
     void clear();
+
+    /// Puts one program in, or in the place of the one with its index. Looks whether its file is
+    /// there.
+    CatalogueChange put(ProgramIten program);
+    /// Takes one program out.
+    CatalogueChange remove(int progIndex);
 
     bool contains(int progIndex) const { return m_programs.count(progIndex) > 0; }
     /// A record with isNull set for a program that was taken out or never was.
@@ -35,13 +54,6 @@ public:
 private:
     ProgramMap m_programs;
     std::map<int, std::string> m_removedNames;
-};
-
-/// How two states of a catalogue differ.
-struct CatalogueChange
-{
-    bool any = false;
-    bool lengths = false; ///< What a plan's length is worked out from.
 };
 
 CatalogueChange catalogueChange(const ProgramMap& before, const ProgramMap& after);

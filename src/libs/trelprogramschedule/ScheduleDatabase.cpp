@@ -168,6 +168,20 @@ StoreResult ScheduleDatabase::read(StorePart part, StoreContents& contents) cons
     });
 }
 
+StoreResult ScheduleDatabase::readPrograms(const std::vector<int>& indexes,
+                                           StoreContents& contents) const
+{
+    if (!isOpen()) {
+        return refusal(StoreProblem::NotOpen, QString());
+    }
+    return attempt([&] {
+        StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Read);
+        contents.revision = revisionOf(*m_connection);
+        Catalogue(*m_connection, m_file.path()).read(indexes, contents);
+        transaction.commit();
+    });
+}
+
 StoreResult ScheduleDatabase::writeTasks(const TaskEdits& edits, qint64& revision)
 {
     if (StoreResult place = judgeInPlace(); !place) {
@@ -198,6 +212,9 @@ ImportResult ScheduleDatabase::addPrograms(const std::vector<MediaSource>& sourc
         result.store = std::move(place);
         return result;
     }
+    if (sources.empty()) {
+        return result;
+    }
     StoreResult outcome = attempt([&] {
         StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
         Catalogue catalogue(*m_connection, m_file.path());
@@ -222,9 +239,10 @@ StoreResult ScheduleDatabase::removeProgram(int progIndex)
     return attempt([&] {
         StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
         Catalogue catalogue(*m_connection, m_file.path());
-        catalogue.remove(progIndex);
-        catalogue.finish();
-        transaction.commit();
+        if (catalogue.remove(progIndex)) {
+            catalogue.finish();
+            transaction.commit();
+        }
     });
 }
 

@@ -65,6 +65,8 @@ public:
     StoreResult readRevision(StoreRevision& revision) const;
     /// Reads the parts and the revision that they have, all from one state of the store.
     StoreResult read(StorePart part, StoreContents& contents) const;
+    /// As read, of a few programs only.
+    StoreResult readPrograms(const std::vector<int>& indexes, StoreContents& contents) const;
 
     /// Writes what is to be changed in the tasks, if the store still has the schedule revision
     /// that is given; MovedOn otherwise. The revision is counted up, unless there is no change.

@@ -29,6 +29,22 @@ ProgramKind kindOf(const QVariant& number)
                : ProgramKind::Other;
 }
 
+void takeRow(const QSqlQuery& row, StoreContents& contents)
+{
+    const int index = row.value(0).toInt();
+    if (row.value(5).toBool()) {
+        contents.removedNames.emplace_hint(contents.removedNames.end(), index, utf8(row, 1));
+        return;
+    }
+    ProgramIten program;
+    program.progIndex = index;
+    program.progName = utf8(row, 1);
+    program.mediaPath = utf8(row, 2);
+    program.durationMs = row.value(3).toDouble();
+    program.kind = kindOf(row.value(4));
+    contents.programs.emplace_hint(contents.programs.end(), index, std::move(program));
+}
+
 } // namespace
 
 ScheduleDatabase::Catalogue::Catalogue(const StoreConnection& connection, const QString& path)
@@ -50,18 +66,22 @@ void ScheduleDatabase::Catalogue::read(StoreContents& contents) const
         QStringLiteral("SELECT prog_index, name, media_path, duration_ms, kind, removed"
                        " FROM program ORDER BY prog_index"));
     while (m_connection.next(row)) {
-        const int index = row.value(0).toInt();
-        if (row.value(5).toBool()) {
-            contents.removedNames.emplace_hint(contents.removedNames.end(), index, utf8(row, 1));
-            continue;
+        takeRow(row, contents);
+    }
+}
+
+void ScheduleDatabase::Catalogue::read(const std::vector<int>& indexes,
+                                       StoreContents& contents) const
+{
+    QSqlQuery row = m_connection.prepare(
+        QStringLiteral("SELECT prog_index, name, media_path, duration_ms, kind, removed"
+                       " FROM program WHERE prog_index = ?"));
+    for (const int index : indexes) {
+        bindFrom(0, row, index);
+        m_connection.exec(row);
+        while (m_connection.next(row)) {
+            takeRow(row, contents);
         }
-        ProgramIten program;
-        program.progIndex = index;
-        program.progName = utf8(row, 1);
-        program.mediaPath = utf8(row, 2);
-        program.durationMs = row.value(3).toDouble();
-        program.kind = kindOf(row.value(4));
-        contents.programs.emplace_hint(contents.programs.end(), index, std::move(program));
     }
 }
 
@@ -106,10 +126,12 @@ void ScheduleDatabase::Catalogue::finish() const
                          .arg(m_nextIndex));
 }
 
-void ScheduleDatabase::Catalogue::remove(int progIndex)
+bool ScheduleDatabase::Catalogue::remove(int progIndex)
 {
-    m_connection.run(
-        QStringLiteral("UPDATE program SET removed = 1 WHERE prog_index = %1").arg(progIndex));
+    const QSqlQuery query = m_connection.query(
+        QStringLiteral("UPDATE program SET removed = 1 WHERE prog_index = %1 AND removed = 0")
+            .arg(progIndex));
+    return query.numRowsAffected() > 0;
 }
 
 } // namespace trel::mediadispatch

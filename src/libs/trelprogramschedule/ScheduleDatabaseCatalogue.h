@@ -15,9 +15,12 @@ public:
     Catalogue(const StoreConnection& connection, const QString& path);
 
     void read(StoreContents& contents) const;
+    /// Reads some programs; an index that is not in the catalogue is passed over.
+    void read(const std::vector<int>& indexes, StoreContents& contents) const;
     /// Updates the program of the same path or makes a new one.
     void put(const MediaSource& source, ImportResult& result);
-    void remove(int progIndex);
+    /// False when there is no such program.
+    bool remove(int progIndex);
     /// Keeps what was changed as a new revision.
     void finish() const;
 

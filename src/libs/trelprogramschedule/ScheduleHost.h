@@ -50,6 +50,13 @@ struct ImportResult
 
 /// The host's side of the schedule service: the same one service that scheduleManage shows to the
 /// editor, with what the editor has no business knowing. GUI thread only.
+///
+/// Every call is one transaction, on the disk when it returns, or changes nothing at all. A file
+/// that another program holds is waited for, two seconds at most. Two hosts may have the same file
+/// open: each sees the other's saves and imports when its list is next refreshed or on reload, and
+/// is refused a save that would undo what it has not seen (StoreProblem::MovedOn).
+// The destructor is private, for nobody but instance() makes or ends the one instance.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class Q_DECL_EXPORT ScheduleHost : public QObject
 {
     Q_OBJECT
@@ -64,8 +71,14 @@ public:
     static ScheduleHost& instance();
 
     /// Opens the store in a file and reads catalogue and stored set; a store that was open is
-    /// closed first. On failure the file is left untouched and no store is open.
+    /// closed first. On failure the file is left untouched and no store is open. Emits nothing: an
+    /// editor on show is to be refreshed by the host.
+    ///
+    /// A file or folder that is marked read-only is not written, by whatever right. A file of no
+    /// bytes is as good as none: it becomes a store where one may be made. Needs a
+    /// QCoreApplication, and closes by itself when that goes.
     StoreResult open(const QString& path, OpenMode mode = OpenMode::CreateIfMissing);
+    /// Forgets the store and everything read from it. What was not saved is lost.
     void close();
     bool isOpen() const;
     /// Absolute path of the open store; empty when none is.
@@ -75,25 +88,30 @@ public:
     /// that every display of a task works out afresh.
     bool hasUnsavedChanges() const;
     /// As scheduleManage::save, with the outcome as the result instead of a signal. After MovedOn
-    /// it keeps refusing until the stored set has been read again.
+    /// it keeps refusing until the stored set has been read again, by reload or by a refresh of the
+    /// list; a save after reload then overrides what the other editor did.
     StoreResult trySave();
-    /// Replaces the stored set, and with it the working set, in one transaction.
+    /// Replaces the stored set, and with it the working set, in one transaction. Tasks are filed
+    /// under their own ids. Refused like a save.
     StoreResult replaceSchedule(const std::map<int, PlayTask>& tasks);
     /// Reads catalogue and stored set again. The working set stays.
     StoreResult reload();
 
     /// Puts sources into the catalogue in one transaction: a path that is known updates its
-    /// program and keeps the index, any other gets the next index, which was never given out.
+    /// program and keeps the index, any other gets the next index, which was never given out. All
+    /// of them or, on failure, none.
     ImportResult addPrograms(const std::vector<MediaSource>& sources);
     /// Takes a program out of the catalogue. Its index is never given out again; plans that use it
-    /// find their entries marked invalid when the stored set is next read.
+    /// find their entries marked invalid when the stored set is next read. An index that is not in
+    /// the catalogue changes nothing.
     StoreResult removeProgram(int progIndex);
 
 signals:
     /// scheduleManage::save could not commit. Emitted while save still runs, so that a receiver can
     /// still ask the operator, call trySave again or write the working set elsewhere.
     void saveFailed(const trel::mediadispatch::StoreResult& reason);
-    /// The stored set was replaced by save, replaceSchedule or reload.
+    /// The stored set was replaced by save, replaceSchedule or reload, and is another than before.
+    /// After the latter two a host refreshes the editor.
     void storedSetChanged();
     /// Programs were added, changed or removed, or their files came or went.
     void catalogueChanged();

@@ -186,15 +186,56 @@ ImportResult ScheduleService::addPrograms(const std::vector<MediaSource>& source
 {
     ImportResult result = m_database.addPrograms(sources);
     if (result.store) {
-        result.store = readCatalogue(kAnyProgram);
+        std::vector<int> indexes = result.added;
+        indexes.insert(indexes.end(), result.updated.begin(), result.updated.end());
+        result.store = takePrograms(indexes);
     }
+    return result;
+}
+
+StoreResult ScheduleService::takePrograms(const std::vector<int>& indexes)
+{
+    if (indexes.empty()) {
+        return {};
+    }
+    StoreContents contents;
+    StoreResult result = m_database.readPrograms(indexes, contents);
+    if (!result) {
+        return result;
+    }
+    if (!isNextCatalogue(contents.revision)) {
+        return readCatalogue(kAnyProgram);
+    }
+    CatalogueChange change;
+    for (auto& [index, program] : contents.programs) {
+        change.add(m_state.catalogue.put(std::move(program)));
+    }
+    m_revision.catalogue = contents.revision.catalogue;
+    announce(change, kAnyProgram);
     return result;
 }
 
 StoreResult ScheduleService::removeProgram(int progIndex)
 {
+    StoreRevision now;
     StoreResult result = m_database.removeProgram(progIndex);
-    return result ? readCatalogue(progIndex) : result;
+    if (result) {
+        result = m_database.readRevision(now);
+    }
+    if (!result || now.catalogue == m_revision.catalogue) {
+        return result;
+    }
+    if (!isNextCatalogue(now)) {
+        return readCatalogue(progIndex);
+    }
+    m_revision.catalogue = now.catalogue;
+    announce(m_state.catalogue.remove(progIndex), progIndex);
+    return result;
+}
+
+bool ScheduleService::isNextCatalogue(const StoreRevision& revision) const
+{
+    return revision.catalogue == m_revision.catalogue + 1;
 }
 
 } // namespace trel::mediadispatch

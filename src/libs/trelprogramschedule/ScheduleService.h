@@ -62,6 +62,10 @@ private:
     void takeCatalogue(StoreContents& contents);
     /// Reads the catalogue and tells how it has changed.
     StoreResult readCatalogue(int progIndex);
+    /// Reads the programs that have just been written; only these, where nobody else wrote.
+    StoreResult takePrograms(const std::vector<int>& indexes);
+    /// Nothing but one change of this program lies between what was read and this revision.
+    bool isNextCatalogue(const StoreRevision& revision) const;
     /// Marks stored entries whose programs have left the catalogue; true when there were any.
     bool markLostEntries();
 

@@ -2,6 +2,7 @@
 
 #include "StoreMessages.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
@@ -26,7 +27,7 @@ QString resolved(const QString& path)
     if (info.exists()) {
         return info.canonicalFilePath();
     }
-    return info.isSymLink() ? info.symLinkTarget() : info.absoluteFilePath();
+    return info.isSymLink() ? info.symLinkTarget() : QDir::current().absoluteFilePath(path);
 }
 
 bool isMarkedReadOnly(const QFileInfo& info)

@@ -38,6 +38,8 @@ public:
 
     bool wasStopped() const { return m_process.exitStatus() == QProcess::CrashExit; }
 
+    bool hasSucceeded() const { return !wasStopped() && m_process.exitCode() == 0; }
+
 private:
     mutable QProcess m_process;
 };

@@ -13,6 +13,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 #include <sys/time.h>
 #include <unistd.h>
@@ -132,6 +133,17 @@ int runOutOfSpace(const QString& folder)
     return 0;
 }
 
+/// Leaves with an open store behind, in one of the ways in which programs end.
+int leave(const QString& path, bool byExit)
+{
+    say("open", ScheduleHost::instance().open(path));
+    say("saved", ScheduleHost::instance().replaceSchedule(sampleSchedule(2, 1, 0)));
+    if (byExit) {
+        std::exit(0);
+    }
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -144,6 +156,9 @@ int main(int argc, char* argv[])
     }
     if (task == QLatin1String("save")) {
         return saveOn(arguments.value(2), arguments.value(3).toInt(), arguments.value(4).toInt());
+    }
+    if (task == QLatin1String("return") || task == QLatin1String("exit")) {
+        return leave(arguments.value(2), task == QLatin1String("exit"));
     }
     if (task == QLatin1String("fill")) {
         return runOutOfSpace(arguments.value(2));

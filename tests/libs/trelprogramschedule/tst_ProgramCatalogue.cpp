@@ -62,6 +62,7 @@ private slots:
     void liveSourcesAreAlwaysThere();
     void oddSources();
     void emissions();
+    void oneByOneBesideAnotherEditor();
     void addTaskEmitsNothing();
     void replacingTheScheduleUnderAnEditor();
     void twentyThousandPrograms();
@@ -286,6 +287,30 @@ void tst_ProgramCatalogue::emissions()
     QCOMPARE(counts.take(), QString());
     store.restart();
     QCOMPARE(counts.take(), QString());
+}
+
+void tst_ProgramCatalogue::oneByOneBesideAnotherEditor()
+{
+    StoreFixture store;
+    QVERIFY(store.host.addPrograms(samplePrograms(1)).store);
+    ScheduleDatabase other;
+    QVERIFY(other.open(store.path, ScheduleHost::OpenMode::MustExist));
+    QCOMPARE(other.addPrograms(samplePrograms(1, 2)).added, std::vector<int>{2});
+    QVERIFY(other.removeProgram(1));
+
+    // One's own change brings those of the other along.
+    QCOMPARE(store.host.addPrograms(samplePrograms(1, 3)).added, std::vector<int>{3});
+    QCOMPARE(store.manager.getPrograms().size(), std::size_t(2));
+    QVERIFY(store.manager.getProgramItemByIndex(1).isNull);
+    QCOMPARE(store.manager.getProgramNameByProgIndex(1), std::string("program 1"));
+    QVERIFY(other.addPrograms(samplePrograms(1, 4)).store);
+    QVERIFY(store.host.removeProgram(3));
+    QCOMPARE(store.manager.getPrograms().size(), std::size_t(2));
+    QCOMPARE(store.manager.getProgramNameByProgIndex(4), std::string("program 4"));
+    // What the other has taken out already cannot be taken out again.
+    QVERIFY(other.removeProgram(2));
+    QVERIFY(store.host.removeProgram(2));
+    QCOMPARE(store.manager.getPrograms().size(), std::size_t(1));
 }
 
 void tst_ProgramCatalogue::addTaskEmitsNothing()

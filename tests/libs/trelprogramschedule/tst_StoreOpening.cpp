@@ -209,6 +209,7 @@ void tst_StoreOpening::missingFolder()
     QCOMPARE(result.problem, StoreProblem::FolderMissing);
     QVERIFY(result.message.contains(path));
     QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("no"))));
+    QCOMPARE(ScheduleHost::instance().open(QString()).problem, StoreProblem::NotADatabase);
 
     const QString file = folder.filePath(QStringLiteral("schedule.db"));
     QCOMPARE(ScheduleHost::instance().open(file, ScheduleHost::OpenMode::MustExist).problem,

@@ -34,6 +34,8 @@ class tst_StoreSurvival : public QObject
 private slots:
     void stoppedInTheMiddle();
     void diskFull();
+    void leftOpen_data();
+    void leftOpen();
 };
 
 void tst_StoreSurvival::stoppedInTheMiddle()
@@ -93,6 +95,25 @@ void tst_StoreSurvival::diskFull()
         QStringLiteral("left 0"),
     };
     QCOMPARE(lines, expected);
+}
+
+void tst_StoreSurvival::leftOpen_data()
+{
+    QTest::addColumn<QString>("way");
+    QTest::newRow("application ends") << QStringLiteral("return");
+    QTest::newRow("exit") << QStringLiteral("exit");
+}
+
+void tst_StoreSurvival::leftOpen()
+{
+    QFETCH(QString, way);
+    const QTemporaryDir folder;
+    StoreChild child({way, folder.filePath(QStringLiteral("schedule.db"))});
+    QCOMPARE(child.lines(), (QStringList{QStringLiteral("open 0"), QStringLiteral("saved 0")}));
+    QVERIFY(child.hasSucceeded());
+    // Closed as it should be, with its log worked in.
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
+             QStringList{QStringLiteral("schedule.db")});
 }
 
 QTEST_GUILESS_MAIN(tst_StoreSurvival)

@@ -86,7 +86,8 @@ public:
     std::string getqstrSelectedProgram() const;
 
 signals:
-    /// The conflict picture may have changed. Never emitted from inside addTask.
+    /// The conflict picture may have changed, through the program of this index, or for another
+    /// reason if it is -1. Never emitted from inside addTask.
     void signalReflushConflict(int progId);
     /// Lengths of programs may have changed. Never emitted from inside addTask.
     void signalUpdatePlanEndTime();
