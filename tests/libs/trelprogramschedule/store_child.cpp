@@ -8,6 +8,7 @@
 #include "support/SampleSchedule.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTextStream>
 
@@ -57,30 +58,36 @@ void stopAfter(int microseconds)
     ::setitimer(ITIMER_REAL, &timer, nullptr);
 }
 
-/// Saves one generation after the other until it is stopped, and names each that was saved.
-int saveOn(const QString& path, int generation, int microseconds)
+StoreResult saveGeneration(int generation)
 {
-    ScheduleHost& host = ScheduleHost::instance();
-    if (const StoreResult result = host.open(path); !result) {
-        say(result.message);
-        return 1;
-    }
     scheduleManage& manager = scheduleManage::getInstance();
-    stopAfter(microseconds);
-    for (;; ++generation) {
-        manager.updateUItask();
-        for (const auto& [id, task] : manager.getAllTask()) {
-            manager.deleteTask(id);
-        }
-        for (const auto& [id, task] : sampleSchedule(20 + generation % 20, 3, 3, generation)) {
-            manager.addTask(task);
-        }
-        if (const StoreResult result = host.trySave(); !result) {
-            say(result.message);
-            return 1;
-        }
-        say(QString::number(generation));
+    for (const auto& [id, task] : manager.getAllTask()) {
+        manager.deleteTask(id);
     }
+    for (const auto& [id, task] : sampleSchedule(20 + generation % 20, 3, 3, generation)) {
+        manager.addTask(task);
+    }
+    return ScheduleHost::instance().trySave();
+}
+
+/// Saves one generation after the other until it is stopped, and names each that was saved. It is
+/// stopped after the first one, in so many thousandths of the time that this one took.
+int saveOn(const QString& path, int generation, qint64 thousandths)
+{
+    StoreResult result = ScheduleHost::instance().open(path);
+    QElapsedTimer timer;
+    timer.start();
+    for (bool isFirst = true; result; isFirst = false, ++generation) {
+        result = saveGeneration(generation);
+        if (result) {
+            say(QString::number(generation));
+        }
+        if (isFirst) {
+            stopAfter(int(qMax<qint64>(1, timer.nsecsElapsed() / 1000 * thousandths / 1000)));
+        }
+    }
+    say(result.message);
+    return 1;
 }
 
 /// What another program finds in the store.

@@ -11,8 +11,8 @@ namespace {
 
 constexpr unsigned kSeed = 20240229;
 constexpr int kStops = 80;
-/// A save of the child takes some milliseconds.
-constexpr int kLongestLife = 60000;
+/// How long the child lives after its first save, in thousandths of the time which that took.
+constexpr int kLongestLife = 4000;
 
 /// The generation of a schedule that is all of one; -1 for a mixture.
 int generationOf(const std::map<int, PlayTask>& tasks)
@@ -46,25 +46,28 @@ void tst_StoreSurvival::stoppedInTheMiddle()
     std::uniform_int_distribution<int> life(1, kLongestLife);
     int generation = 0;
     for (int stop = 0; stop < kStops; ++stop) {
-        const int microseconds = life(random);
-        const QString context =
-            QStringLiteral("seed %1, stop %2 after %3 us").arg(kSeed).arg(stop).arg(microseconds);
+        const int thousandths = life(random);
+        const QString context = QStringLiteral("seed %1, stop %2 after %3/1000 of a save")
+                                    .arg(kSeed)
+                                    .arg(stop)
+                                    .arg(thousandths);
         store.host.close();
         StoreChild child({QStringLiteral("save"), store.path, QString::number(generation + 1),
-                          QString::number(microseconds)});
+                          QString::number(thousandths)});
         const QStringList saved = child.lines();
         QVERIFY2(child.wasStopped(), qPrintable(context + saved.join(QLatin1Char(' '))));
         store.open();
 
         // What was acknowledged is there; what was not is there whole or not at all.
-        const int acknowledged = saved.isEmpty() ? generation : saved.last().toInt();
+        QVERIFY2(!saved.isEmpty(), qPrintable(context));
+        const int acknowledged = saved.last().toInt();
         const int found = generationOf(store.manager.getgTaskMap());
         QVERIFY2(found == acknowledged || found == acknowledged + 1,
                  qPrintable(context +
                             QStringLiteral(": found %1 after %2").arg(found).arg(acknowledged)));
         generation = found;
     }
-    QVERIFY2(generation > kStops, "the child was stopped before it could save");
+    QVERIFY(generation >= kStops);
 }
 
 void tst_StoreSurvival::diskFull()
