@@ -93,6 +93,7 @@ StoreResult ScheduleService::read(StorePart part)
     if (result && part != StorePart::Catalogue) {
         m_state.tasks.setStored(std::move(contents.tasks));
         m_revision.schedule = contents.revision.schedule;
+        m_isMarkingDue = true;
         markLostEntries();
     }
     return result;
@@ -103,6 +104,7 @@ void ScheduleService::takeCatalogue(StoreContents& contents)
     m_state.catalogue.assign(std::move(contents.programs), std::move(contents.removedNames));
     m_state.catalogue.checkFiles();
     m_revision.catalogue = contents.revision.catalogue;
+    m_isMarkingDue = true;
 }
 
 StoreResult ScheduleService::readCatalogue(int progIndex)
@@ -113,10 +115,14 @@ StoreResult ScheduleService::readCatalogue(int progIndex)
     return result;
 }
 
-bool ScheduleService::markLostEntries()
+void ScheduleService::markLostEntries()
 {
+    if (!m_isMarkingDue) {
+        return;
+    }
+    m_isMarkingDue = false;
     const ProgramCatalogue& catalogue = m_state.catalogue;
-    return m_state.tasks.markLostEntries(
+    m_state.tasks.markLostEntries(
         [&catalogue](int progIndex) { return catalogue.contains(progIndex); });
 }
 
@@ -126,6 +132,7 @@ StoreResult ScheduleService::save()
     StoreResult result = m_database.writeTasks(edits, m_revision.schedule);
     if (result && !edits.isEmpty()) {
         m_state.tasks.commitWorking();
+        m_isMarkingDue = true;
         emit ScheduleHost::instance().storedSetChanged();
     }
     return result;
@@ -140,6 +147,7 @@ StoreResult ScheduleService::replace(const TaskMap& tasks)
         return result;
     }
     m_state.tasks.setStored(std::move(filed));
+    m_isMarkingDue = true;
     m_state.tasks.resetWorking();
     emit ScheduleHost::instance().storedSetChanged();
     emit scheduleManage::getInstance().signalReflushConflict(kAnyProgram);
@@ -211,6 +219,7 @@ StoreResult ScheduleService::takePrograms(const std::vector<int>& indexes)
         change.add(m_state.catalogue.put(std::move(program)));
     }
     m_revision.catalogue = contents.revision.catalogue;
+    m_isMarkingDue = true;
     announce(change, kAnyProgram);
     return result;
 }
@@ -229,6 +238,7 @@ StoreResult ScheduleService::removeProgram(int progIndex)
         return readCatalogue(progIndex);
     }
     m_revision.catalogue = now.catalogue;
+    m_isMarkingDue = true;
     announce(m_state.catalogue.remove(progIndex), progIndex);
     return result;
 }

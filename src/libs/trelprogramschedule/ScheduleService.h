@@ -66,12 +66,14 @@ private:
     StoreResult takePrograms(const std::vector<int>& indexes);
     /// Nothing but one change of this program lies between what was read and this revision.
     bool isNextCatalogue(const StoreRevision& revision) const;
-    /// Marks stored entries whose programs have left the catalogue; true when there were any.
-    bool markLostEntries();
+    /// Marks stored entries whose programs have left the catalogue.
+    void markLostEntries();
 
     ScheduleState m_state;
     ScheduleDatabase m_database;
     StoreRevision m_revision; ///< What has been read of the store.
+    /// Since entries were last marked, programs or stored tasks have changed.
+    bool m_isMarkingDue = false;
 };
 
 } // namespace trel::mediadispatch

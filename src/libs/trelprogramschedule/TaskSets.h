@@ -34,10 +34,9 @@ public:
 
     /// Replaces the stored set; the working set stays.
     void setStored(TaskMap tasks);
-    /// Marks the entries of the stored set whose program is not among the known ones as gone bad;
-    /// true when there was one.
+    /// Marks the entries of the stored set whose program is not among the known ones as gone bad.
     template <typename IsKnown>
-    bool markLostEntries(const IsKnown& isKnown);
+    void markLostEntries(const IsKnown& isKnown);
     /// Makes the working set match the stored set.
     void resetWorking();
     /// Makes the stored set match the working set.
@@ -85,16 +84,13 @@ bool markLostEntries(PlayTask& task, const IsKnown& isKnown)
 }
 
 template <typename IsKnown>
-bool TaskSets::markLostEntries(const IsKnown& isKnown)
+void TaskSets::markLostEntries(const IsKnown& isKnown)
 {
-    bool marked = false;
     for (auto& [id, task] : m_stored) {
         if (mediadispatch::markLostEntries(task, isKnown)) {
             m_touched.insert(id);
-            marked = true;
         }
     }
-    return marked;
 }
 
 } // namespace trel::mediadispatch

@@ -50,7 +50,7 @@ QString DiskLimit::kind() const
 void DiskLimit::fill()
 {
     if (!m_isDisk) {
-        limitFiles(64 * 1024);
+        limitFiles(4096);
         return;
     }
     QFile file(ballast(m_folder));
