@@ -19,6 +19,27 @@ QStandardItem* makeCentred(const QString& text)
 
 } // namespace
 
+ChoiceRow choiceRowOf(const struProgInfo& entry, ProgramIten (*lookup)(int progIndex),
+                      const QString& nullSuffix)
+{
+    ChoiceRow row;
+    if (entry.isInvalid) {
+        row.name = QString::fromStdString(entry.progName);
+        row.foreground = QBrush(Qt::red);
+    } else {
+        const ProgramIten program = lookup(entry.progIndex);
+        row.name = QString::fromStdString(program.progName);
+        if (program.isNull) {
+            row.name += nullSuffix;
+            row.foreground = QBrush(Qt::yellow);
+        }
+    }
+    row.toolTip = row.name;
+    row.playCount = entry.playCount;
+    row.progIndex = entry.progIndex;
+    return row;
+}
+
 QList<QStandardItem*> makeOfferCells(const QString& name)
 {
     auto* nameItem = new QStandardItem(name);

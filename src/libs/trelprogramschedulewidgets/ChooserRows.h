@@ -26,6 +26,12 @@ struct ChoiceRow
     bool isNew = false; ///< Added since the dialog opened.
 };
 
+/// The row of an entry that the plan holds already, with its name for a tool tip, but without a
+/// number: under its own name in red when it has gone bad, else under the name that the program has
+/// now; when that no longer exists, with the suffix and in yellow.
+ChoiceRow choiceRowOf(const struProgInfo& entry, ProgramIten (*lookup)(int progIndex),
+                      const QString& nullSuffix);
+
 /// The unchecked cells of a program on offer. The caller owns them.
 QList<QStandardItem*> makeOfferCells(const QString& name);
 /// The unchecked cells of a program of the plan. The caller owns them.

@@ -52,6 +52,11 @@ bool isNoDuration(int progIndex)
     return service().isNoDurationType(progIndex);
 }
 
+ProgramIten findProgram(int progIndex)
+{
+    return service().getProgramItemByIndex(progIndex);
+}
+
 double lengthOf(int progIndex)
 {
     return service().getDurationByIndex(progIndex);
@@ -173,38 +178,22 @@ void ProgramChoose::loadPrograms()
             continue;
         }
         m_programModel->appendRow(makeOfferCells(QString::fromStdString(program.progName)));
-        struProgInfo entry;
-        entry.progIndex = program.progIndex;
-        entry.progName = program.progName;
-        m_allPrograms.push_back(std::move(entry));
+        m_allPrograms.push_back({program.progIndex, false, program.progName, 1});
     }
 }
 
 void ProgramChoose::loadPlan()
 {
+    const std::string invalidSuffix = scheduleText("szInvalidStr").toStdString();
+    const QString nullSuffix = scheduleText("szProgNullStr");
     int index = -1;
     PlayPlan plan = service().getPlan(m_taskId, m_planId, index);
-    for (std::size_t i = 0; i < plan.programs.size(); ++i) {
-        struProgInfo& entry = plan.programs[i];
-        ChoiceRow row;
-        if (entry.isInvalid) {
-            if (buryInvalidEntry(entry, scheduleText("szInvalidStr").toStdString())) {
-                service().addPlan(m_taskId, plan);
-            }
-            row.name = QString::fromStdString(entry.progName);
-            row.foreground = QBrush(Qt::red);
-        } else {
-            const ProgramIten program = service().getProgramItemByIndex(entry.progIndex);
-            row.name = QString::fromStdString(program.progName);
-            if (program.isNull) {
-                row.name += scheduleText("szProgNullStr");
-                row.foreground = QBrush(Qt::yellow);
-            }
+    for (struProgInfo& entry : plan.programs) {
+        if (buryInvalidEntry(entry, invalidSuffix)) {
+            service().addPlan(m_taskId, plan);
         }
-        row.toolTip = row.name;
-        row.number = static_cast<int>(i) + 1;
-        row.playCount = entry.playCount;
-        row.progIndex = entry.progIndex;
+        ChoiceRow row = choiceRowOf(entry, findProgram, nullSuffix);
+        row.number = m_planModel->rowCount() + 1;
         appendPlanRow(row);
     }
     m_selectedPrograms = std::move(plan.programs);
@@ -433,8 +422,7 @@ void ProgramChoose::syncSelectedPrograms()
     m_selectedPrograms.clear();
     for (int row = 0; row < m_planModel->rowCount(); ++row) {
         struProgInfo entry = choiceAt(*m_planModel, row);
-        const ProgramIten program = service().getProgramItemByIndex(entry.progIndex);
-        entry.isInvalid = isInvalidReadBack(entry.progIndex, program.isNull);
+        entry.isInvalid = isInvalidReadBack(entry.progIndex, findProgram(entry.progIndex).isNull);
         m_selectedPrograms.push_back(std::move(entry));
     }
     m_planChanged = false;
@@ -466,7 +454,7 @@ bool ProgramChoose::canInsert(int row) const
     if (index < 0 || isNewChoice(*m_planModel, row)) {
         return false;
     }
-    return !service().getProgramItemByIndex(progIndex).isNull && !holdsAsInvalid(inUse, progIndex);
+    return !findProgram(progIndex).isNull && !holdsAsInvalid(inUse, progIndex);
 }
 
 void ProgramChoose::showInsertMenu(bool enabled, QPoint pos)
