@@ -192,7 +192,7 @@ private:
         if (parseWeeks(weeks, numbers)) {
             return {{&m_all}, {&m_all, &m_everyDay}};
         }
-        // A claim that names a day twice must not meet itself there.
+        // A day that is named twice is looked at once.
         std::sort(numbers.begin(), numbers.end());
         numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
         Days days{{&m_everyDay}, {&m_all}};

@@ -2,9 +2,11 @@
 #include "Pick.h"
 
 #include "service/PlanConflicts.h"
+#include "service/TimeText.h"
 
 #include <QTest>
 
+#include <algorithm>
 #include <random>
 
 using namespace trel::mediadispatch;
@@ -122,6 +124,7 @@ private slots:
     void neverAsksAboutTimedPlans();
     void followsTheWalkOverAllPairs();
     void followsTheWalkOnLongLists();
+    void manyClaimsWithoutACollision();
 };
 
 void tst_PlanConflicts::collides_data()
@@ -296,6 +299,20 @@ void tst_PlanConflicts::followsTheWalkOnLongLists()
         const QByteArray message = "list " + QByteArray::number(i) + described(plans);
         QVERIFY2(found == expected, message.constData());
     }
+}
+
+// A walk over all pairs of these would not come back.
+void tst_PlanConflicts::manyClaimsWithoutACollision()
+{
+    Claims claims;
+    for (int i = 0; i < 86399; ++i) {
+        const QTime start = QTime(0, 0).addSecs(static_cast<int>(i * 7919LL % 86399));
+        claims.push_back({timeToText(start), timeToText(start.addSecs(1)), "1,2,3,4,5,6,7"});
+    }
+    claims.push_back({"12:00:00", "12:00:02", "7"});
+    const std::vector<bool> collides = collidingClaims(claims);
+    QCOMPARE(std::count(collides.begin(), collides.end(), true), std::ptrdiff_t{1});
+    QVERIFY(collides.back());
 }
 
 Q_DECLARE_METATYPE(Claims)
