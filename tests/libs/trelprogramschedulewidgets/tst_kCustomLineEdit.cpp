@@ -166,7 +166,17 @@ void tst_kCustomLineEdit::aDirectCallDoesNothing()
 void tst_kCustomLineEdit::cutsALongText()
 {
     kCustomLineEdit field;
-    const QString whole = QStringLiteral("A program whose name is far too long for the field");
+    // A text that shows a pixel more or less of room by where it is cut.
+    const QFontMetrics metrics = fieldMetrics();
+    QString whole = QStringLiteral("A program whose name is far too long for the field");
+    const auto isTelling = [&](int width) {
+        return metrics.elidedText(whole, Qt::ElideRight, width) !=
+               metrics.elidedText(whole, Qt::ElideRight, 134);
+    };
+    for (int i = 0; i < 500 && !(isTelling(133) && isTelling(135)); ++i) {
+        whole.insert(i % 7, QLatin1Char("ilt.Wm"[i % 6]));
+    }
+    QVERIFY(isTelling(133) && isTelling(135));
     QString text = whole;
     field.setText(text);
     QCOMPARE(field.text(), fieldMetrics().elidedText(whole, Qt::ElideRight, 134));
