@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <random>
 
+Q_DECLARE_METATYPE(trel::mediadispatch::PlanClaim)
+
 using namespace trel::mediadispatch;
 
 namespace {
@@ -315,6 +317,5 @@ void tst_PlanConflicts::manyClaimsWithoutACollision()
     QVERIFY(collides.back());
 }
 
-Q_DECLARE_METATYPE(Claims)
 QTEST_APPLESS_MAIN(tst_PlanConflicts)
 #include "tst_PlanConflicts.moc"

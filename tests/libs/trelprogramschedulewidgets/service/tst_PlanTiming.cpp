@@ -8,6 +8,8 @@
 #include <limits>
 #include <random>
 
+Q_DECLARE_METATYPE(trel::mediadispatch::PlayPlan)
+
 using namespace trel::mediadispatch;
 
 namespace {
@@ -241,6 +243,5 @@ void tst_PlanTiming::plannedEndFollowsTheLiteralRule()
     }
 }
 
-Q_DECLARE_METATYPE(PlayPlan)
 QTEST_APPLESS_MAIN(tst_PlanTiming)
 #include "tst_PlanTiming.moc"
