@@ -115,7 +115,8 @@ void PlanTaskWidget::makeConnections()
 }
 
 // Does for each plan what slotAddRowPlan does. While rows are all that is added the plans stay as
-// they are, and so do their collisions: they are worked out once.
+// they are, and so do their collisions: they are worked out once. The editors of all rows are
+// opened last, since each of them would have the table laid out again.
 void PlanTaskWidget::loadPlans()
 {
     if (m_task.plans.empty()) {
@@ -128,9 +129,11 @@ void PlanTaskWidget::loadPlans()
         if (plan.id == kNoPlanId) {
             completeNewPlan(plan, m_task);
         }
-        const int row = buildRow(plan);
+        buildRow(plan);
         showState(m_conflictLabels.back(), colliding);
         service().addTask(m_task);
+    }
+    for (int row = 0; row < m_model->rowCount(); ++row) {
         openRowEditors(*m_ui->tableView, row);
     }
     m_ui->tableView->setUpdatesEnabled(true);
@@ -201,7 +204,6 @@ void PlanTaskWidget::slotAddRowPlan(PlayPlan plan, bool init)
     openRowEditors(*m_ui->tableView, row);
 }
 
-// False also when the card has gone while the chooser was on screen.
 bool PlanTaskWidget::choosePrograms(PlayPlan& plan)
 {
     const QPointer<PlanTaskWidget> self(this);
@@ -515,49 +517,41 @@ void PlanTaskWidget::slotUpdateEndTimeDate(QDate date)
 
 void PlanTaskWidget::slotUpdateTime(int row, int clo, QTime time)
 {
-    if (!planByIdOfRow(row)) {
+    const PlayPlan* const plan = planByIdOfRow(row);
+    if (!plan) {
         return;
     }
+    const std::string text = timeToText(time);
     if (clo == EndTimeColumn) {
-        updateEndTime(row, timeToText(time));
+        takeTime(row, &PlayPlan::endTime, text, text < plan->startTime);
     } else if (clo == StartTimeColumn) {
-        updateStartTime(row, timeToText(time));
+        takeTime(row, &PlayPlan::startTime, text, plan->endTime < text);
     } else {
         refreshConflicts();
     }
 }
 
-void PlanTaskWidget::updateEndTime(int row, const std::string& time)
+void PlanTaskWidget::takeTime(int row, std::string PlayPlan::*time, const std::string& text,
+                              bool isRefused)
 {
-    PlayPlan* const plan = planByIdOfRow(row);
+    PlayPlan* plan = planByIdOfRow(row);
     // This is what ends the nested call when the card itself sets the editor.
-    if (time == plan->endTime) {
+    if (text == plan->*time) {
         return;
     }
-    if (time < plan->startTime) {
-        if (!isAliveAfterRefusal()) {
-            return;
-        }
-        restoreTime(widgetOfRow(m_endTimeEdits, row), row, &PlayPlan::endTime);
-    } else {
-        plan->endTime = time;
-    }
-    refreshConflicts();
-}
-
-void PlanTaskWidget::updateStartTime(int row, const std::string& time)
-{
-    PlayPlan* const plan = planByIdOfRow(row);
-    if (time == plan->startTime) {
+    if (!isRefused) {
+        plan->*time = text;
+        refreshConflicts();
         return;
     }
-    if (plan->endTime < time) {
-        if (!isAliveAfterRefusal()) {
-            return;
-        }
-        restoreTime(widgetOfRow(m_startTimeEdits, row), row, &PlayPlan::startTime);
-    } else {
-        plan->startTime = time;
+    if (!isAliveAfterRefusal()) {
+        return;
+    }
+    plan = planByIdOfRow(row);
+    const auto& editors = time == &PlayPlan::startTime ? m_startTimeEdits : m_endTimeEdits;
+    QTimeEdit* const editor = widgetOfRow(editors, row);
+    if (plan && editor) {
+        editor->setTime(timeFromText(plan->*time));
     }
     refreshConflicts();
 }
@@ -567,14 +561,6 @@ bool PlanTaskWidget::isAliveAfterRefusal()
     const QPointer<PlanTaskWidget> self(this);
     showRefusal(scheduleText("zhStartVaildTimeError"));
     return !self.isNull();
-}
-
-void PlanTaskWidget::restoreTime(QTimeEdit* editor, int row, std::string PlayPlan::*time)
-{
-    const PlayPlan* const plan = planByIdOfRow(row);
-    if (editor && plan) {
-        editor->setTime(timeFromText(plan->*time));
-    }
 }
 
 void PlanTaskWidget::slotCopyTask()
@@ -643,7 +629,6 @@ void PlanTaskWidget::slotDeletePlan()
     refreshConflicts();
 }
 
-// False also when the card has gone while the question was on screen.
 bool PlanTaskWidget::isConfirmed(const char* key)
 {
     const QPointer<PlanTaskWidget> self(this);

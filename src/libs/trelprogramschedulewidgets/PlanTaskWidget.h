@@ -124,6 +124,7 @@ private:
     void makeConnections();
     void loadPlans();
 
+    /// Asks for the programs of a new plan. False also when the card has gone meanwhile.
     bool choosePrograms(PlayPlan& plan);
     /// Appends the plan's row and enters it everywhere. Corrects in the plan what a row cannot
     /// show. Returns the row.
@@ -148,11 +149,13 @@ private:
 
     void changeMode(int row, int mode);
 
-    void updateStartTime(int row, const std::string& time);
-    void updateEndTime(int row, const std::string& time);
+    /// Writes a new start or end time into a row's plan and stores the task, or tells that it is
+    /// refused and puts the stored time back into the editor.
+    void takeTime(int row, std::string PlayPlan::*time, const std::string& text, bool isRefused);
+    /// Tells that a day or a time is refused. False when the card has gone meanwhile.
     bool isAliveAfterRefusal();
-    void restoreTime(QTimeEdit* editor, int row, std::string PlayPlan::*time);
 
+    /// Asks the operator. False also when the card has gone meanwhile.
     bool isConfirmed(const char* key);
     void forgetRow(int row);
 
