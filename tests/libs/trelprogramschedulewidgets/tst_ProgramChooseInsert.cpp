@@ -1,33 +1,10 @@
-#include "ChooserFixture.h"
-
-#include "ScheduleText.h"
+#include "InUseFixture.h"
 
 #include <QMenu>
-#include <QPushButton>
-#include <QTableView>
-#include <QtTest>
 
 using namespace trel::mediadispatch;
 
 namespace {
-
-/// The lines of the menu, from the top.
-enum MenuLine { CutLine, DelayLine, UpLine, DownLine };
-
-QStringList menuTexts()
-{
-    return {scheduleText("zhCutCurrentProg"), scheduleText("zhDelayInsert"),
-            scheduleText("zhProgMoveUp"), scheduleText("zhProgMoveDown")};
-}
-
-QStringList greyed()
-{
-    QStringList texts;
-    for (const QString& text : menuTexts()) {
-        texts.append(QLatin1Char('(') + text + QLatin1Char(')'));
-    }
-    return texts;
-}
 
 QString refusal()
 {
@@ -39,67 +16,14 @@ QString joined(const QStringList& rows)
     return rows.join(QLatin1Char('|'));
 }
 
-QString names(const std::vector<struProgInfo>& programs)
-{
-    QString text;
-    for (const struProgInfo& program : programs) {
-        text += QString::fromStdString(program.progName);
-    }
-    return text;
-}
-
-/// A plan of A, B and C that is in use as it stands.
-class InUseFixture : public ChooserFixture
-{
-public:
-    explicit InUseFixture(std::vector<struProgInfo> programs = {entry(1, "A"), entry(2, "B"),
-                                                                entry(3, "C")})
-    {
-        setPrograms(programs);
-        service.planInUse = plan();
-    }
-
-    /// Opens the chooser, clicks on a line of a row's menu and cancels.
-    ChooserOutcome trigger(int row, MenuLine menuLine)
-    {
-        return openExisting([this, row, menuLine](ChooserWindow& chooser) {
-            service.clearLog();
-            QCOMPARE(chooser.contextMenu(row, menuLine), menuTexts());
-            message = chooser.message();
-            chooser.cancel();
-        });
-    }
-
-    /// The list that the one insertion handed over.
-    QString inserted() const
-    {
-        return service.insertions.size() == 1 ? names(service.insertions.front().plan.programs)
-                                              : QStringLiteral("not one insertion");
-    }
-
-    QString message;
-};
-
 } // namespace
 
-/// The menu of a row of the plan, and the insertions into the plan in use.
+/// Insertions into the plan in use.
 class tst_ProgramChooseInsert : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void theMenuOfAGoodRow();
-    void aBusyServiceGreysTheMenu();
-    void theEmptySpaceGreysTheMenu();
-    void aNewRowGreysTheMenu();
-    void aPlanNotInUseGreysTheMenu();
-    void aProgramThatIsGoneGreysTheMenu();
-    void theLastEntryInUseDecides_data();
-    void theLastEntryInUseDecides();
-    void openingTheMenuReadsTheTableBack();
-    void aGreyedMenuDoesNothing();
-    void movingByTheMenu_data();
-    void movingByTheMenu();
     void decisions_data();
     void decisions();
     void theListStartsAtTheRow_data();
@@ -117,182 +41,6 @@ private slots:
     void anActionWithAnotherTextInsertsAtOnce();
     void withoutAnActionNothingHappens();
 };
-
-void tst_ProgramChooseInsert::theMenuOfAGoodRow()
-{
-    InUseFixture fixture;
-    fixture.openExisting([&](ChooserWindow& chooser) {
-        fixture.service.clearLog();
-        QCOMPARE(chooser.contextMenu(1), menuTexts());
-        QCOMPARE(fixture.service.log, (QStringList{QStringLiteral("getScheduleState()"),
-                                                   QStringLiteral("getProgramItemByIndex(1)"),
-                                                   QStringLiteral("getProgramItemByIndex(2)"),
-                                                   QStringLiteral("getProgramItemByIndex(3)"),
-                                                   QStringLiteral("getNowUsePlan(3, 7, -1)"),
-                                                   QStringLiteral("getProgramItemByIndex(2)")}));
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseInsert::aBusyServiceGreysTheMenu()
-{
-    InUseFixture fixture;
-    fixture.service.scheduleState = true;
-    fixture.openExisting([&](ChooserWindow& chooser) {
-        fixture.service.clearLog();
-        QCOMPARE(chooser.contextMenu(1), greyed());
-        // Nothing else is asked then.
-        QCOMPARE(fixture.service.log, QStringList(QStringLiteral("getScheduleState()")));
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseInsert::theEmptySpaceGreysTheMenu()
-{
-    InUseFixture fixture;
-    fixture.openExisting([&](ChooserWindow& chooser) {
-        QCOMPARE(chooser.contextMenu(1), menuTexts());
-        fixture.service.clearLog();
-        QCOMPARE(chooser.contextMenu(3), greyed());
-        QCOMPARE(fixture.service.edits(), QStringList(QStringLiteral("getScheduleState()")));
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseInsert::aNewRowGreysTheMenu()
-{
-    InUseFixture fixture;
-    fixture.openExisting([&](ChooserWindow& chooser) {
-        chooser.checkProgram(0);
-        chooser.choose();
-        QCOMPARE(chooser.contextMenu(3), greyed());
-        QCOMPARE(chooser.contextMenu(0), menuTexts());
-        // The mark travels with its row.
-        chooser.checkPlan(3);
-        chooser.moveUp();
-        QCOMPARE(chooser.contextMenu(2), greyed());
-        QCOMPARE(chooser.contextMenu(3), menuTexts());
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseInsert::aPlanNotInUseGreysTheMenu()
-{
-    InUseFixture fixture;
-    fixture.service.planInUse.reset();
-    fixture.openExisting([](ChooserWindow& chooser) {
-        QCOMPARE(chooser.contextMenu(0), greyed());
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseInsert::aProgramThatIsGoneGreysTheMenu()
-{
-    InUseFixture fixture;
-    fixture.service.programs.at(2).isNull = true;
-    fixture.openExisting([](ChooserWindow& chooser) {
-        QCOMPARE(chooser.contextMenu(1), greyed());
-        QCOMPARE(chooser.contextMenu(0), menuTexts());
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseInsert::theLastEntryInUseDecides_data()
-{
-    QTest::addColumn<bool>("firstIsBad");
-    QTest::addColumn<bool>("lastIsBad");
-    QTest::addColumn<bool>("enabled");
-    QTest::newRow("both good") << false << false << true;
-    QTest::newRow("first bad") << true << false << true;
-    QTest::newRow("last bad") << false << true << false;
-    QTest::newRow("both bad") << true << true << false;
-}
-
-void tst_ProgramChooseInsert::theLastEntryInUseDecides()
-{
-    QFETCH(bool, firstIsBad);
-    QFETCH(bool, lastIsBad);
-    QFETCH(bool, enabled);
-    InUseFixture fixture;
-    std::vector<struProgInfo>& inUse = fixture.service.planInUse->programs;
-    inUse = {entry(2, "B"), badEntry(1, "A"), entry(2, "B"), badEntry(3, "C")};
-    inUse[0].isInvalid = firstIsBad;
-    inUse[2].isInvalid = lastIsBad;
-    fixture.openExisting([&](ChooserWindow& chooser) {
-        QCOMPARE(chooser.contextMenu(1), enabled ? menuTexts() : greyed());
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseInsert::openingTheMenuReadsTheTableBack()
-{
-    InUseFixture fixture;
-    const ChooserOutcome outcome = fixture.openExisting([](ChooserWindow& chooser) {
-        chooser.setCount(0, 4);
-        chooser.checkPlan(2);
-        chooser.moveUp();
-        chooser.contextMenu(3);
-        chooser.cancel();
-    });
-    QCOMPARE(line(outcome.programs), QStringLiteral("1 A x4, 3 C x1, 2 B x1"));
-}
-
-void tst_ProgramChooseInsert::aGreyedMenuDoesNothing()
-{
-    InUseFixture fixture;
-    fixture.openExisting([&](ChooserWindow& chooser) {
-        chooser.contextMenu(1);
-        fixture.service.scheduleState = true;
-        const QStringList before = chooser.planRows();
-        for (const int menuLine : {CutLine, DelayLine, UpLine, DownLine}) {
-            fixture.service.clearLog();
-            chooser.contextMenu(1, menuLine);
-            QCOMPARE(fixture.service.log, QStringList(QStringLiteral("getScheduleState()")));
-            QCOMPARE(chooser.planRows(), before);
-        }
-        // Nor by the actions themselves: nobody listens.
-        chooser.withContextMenu(1, [](QMenu& menu) {
-            for (QAction* action : menu.actions()) {
-                action->trigger();
-            }
-        });
-        QCOMPARE(chooser.planRows(), before);
-        QVERIFY(fixture.service.insertions.empty());
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseInsert::movingByTheMenu_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("menuLine");
-    QTest::addColumn<QString>("rows");
-    QTest::newRow("up") << 1 << int(UpLine) << QStringLiteral("[ ]01 B x1|[ ]02 A x1|[x]03 C x1");
-    QTest::newRow("down") << 1 << int(DownLine)
-                          << QStringLiteral("[ ]01 A x1|[x]02 C x1|[ ]03 B x1");
-    QTest::newRow("up from the top")
-        << 0 << int(UpLine) << QStringLiteral("[ ]01 A x1|[ ]02 B x1|[x]03 C x1");
-    QTest::newRow("down from the bottom")
-        << 2 << int(DownLine) << QStringLiteral("[ ]01 A x1|[ ]02 B x1|[x]03 C x1");
-}
-
-void tst_ProgramChooseInsert::movingByTheMenu()
-{
-    QFETCH(int, row);
-    QFETCH(int, menuLine);
-    QFETCH(QString, rows);
-    InUseFixture fixture;
-    fixture.openExisting([&](ChooserWindow& chooser) {
-        // The row under the pointer moves, whichever is checked.
-        chooser.checkPlan(2);
-        fixture.service.clearLog();
-        QCOMPARE(chooser.contextMenu(row, menuLine), menuTexts());
-        QCOMPARE(joined(chooser.planRows()), rows);
-        QCOMPARE(fixture.service.calls({QStringLiteral("getPlan"), QStringLiteral("getTask")}),
-                 QStringList());
-        chooser.cancel();
-    });
-}
 
 void tst_ProgramChooseInsert::decisions_data()
 {
@@ -367,7 +115,7 @@ void tst_ProgramChooseInsert::theListStartsAtTheRow()
     fixture.trigger(row, CutLine);
     QTEST(fixture.inserted(), "inserted");
     // The original goes out as it stands in the table.
-    QCOMPARE(names(fixture.service.originals.front()), QStringLiteral("ABC"));
+    QCOMPARE(namesOf(fixture.service.originals.front()), QStringLiteral("ABC"));
 }
 
 void tst_ProgramChooseInsert::anotherCountIsNotRotated()
@@ -464,7 +212,7 @@ void tst_ProgramChooseInsert::thePlanItselfStaysAsItIs()
     QVERIFY(fixture.service.working.at(ChooserFixture::kTask) == before);
     QVERIFY(fixture.task == before);
     QCOMPARE(fixture.service.insertions.size(), std::size_t(2));
-    QCOMPARE(names(fixture.service.insertions.back().plan.programs), QStringLiteral("CAB"));
+    QCOMPARE(namesOf(fixture.service.insertions.back().plan.programs), QStringLiteral("CAB"));
 }
 
 void tst_ProgramChooseInsert::aRefusalTakesThePlaceOfTheWarning()

@@ -2,39 +2,10 @@
 
 #include "ScheduleText.h"
 
-#include <QPushButton>
 #include <QTableView>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
-
-/// Check marks, and what moves programs into, out of and within the plan.
-class tst_ProgramChooseMoves : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void programsAreNumberedAndCopiedInTheOrderOfChecking();
-    void uncheckingClosesTheGap();
-    void theHeaderNumbersFromTheTop();
-    void theHeaderFollowsSingleChecks();
-    void theHeaderOfThePlanFollowsSingleChecks();
-    void theHeaderOfThePlanChecksAll();
-    void choosingNothingChangesNothing();
-    void choosingTwiceCopiesTwice();
-    void rowsThatWereAdded();
-    void deletingAllDisablesConfirming();
-    void deletingTakesTheCheckedRows();
-    void deletingLeavesTheHeaderAlone();
-    void movingByTheButtons_data();
-    void movingByTheButtons();
-    void aMovedRowKeepsItsCells();
-    void movingNeedsExactlyOneRow();
-    void movingAgainstTheEndHidesTheTip();
-    void anotherSenderMovesNothing();
-    void otherTablesAreIgnored();
-    void nothingReachesTheService();
-};
 
 namespace {
 
@@ -55,107 +26,26 @@ std::vector<struProgInfo> abc()
 
 } // namespace
 
-void tst_ProgramChooseMoves::programsAreNumberedAndCopiedInTheOrderOfChecking()
+/// What moves programs into, out of and within the plan.
+class tst_ProgramChooseMoves : public QObject
 {
-    ChooserFixture fixture;
-    fixture.openNew([](ChooserWindow& chooser) {
-        chooser.checkPrograms({5, 1, 3});
-        QCOMPARE(joined(chooser.programRows()),
-                 QStringLiteral("[ ] A|[x]02 B|[ ] C|[x]03 D|[ ] E|[x]01 F"));
-        chooser.choose();
-        QCOMPARE(joined(chooser.planRows()), QStringLiteral("[ ]01 F x1|[ ]02 B x1|[ ]03 D x1"));
-        QVERIFY(chooser.canConfirm());
-        QCOMPARE(chooser.total(), QStringLiteral("00:30:00.000"));
-        chooser.cancel();
-    });
-}
+    Q_OBJECT
 
-void tst_ProgramChooseMoves::uncheckingClosesTheGap()
-{
-    ChooserFixture fixture;
-    fixture.openNew([](ChooserWindow& chooser) {
-        chooser.checkPrograms({5, 1, 3});
-        chooser.checkProgram(1);
-        QCOMPARE(joined(chooser.programRows()),
-                 QStringLiteral("[ ] A|[ ] B|[ ] C|[x]02 D|[ ] E|[x]01 F"));
-        // The count is 2 again.
-        chooser.checkProgram(0);
-        QCOMPARE(chooser.programRows().first(), QStringLiteral("[x]03 A"));
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseMoves::theHeaderNumbersFromTheTop()
-{
-    ChooserFixture fixture;
-    fixture.openNew([](ChooserWindow& chooser) {
-        chooser.checkProgram(4);
-        chooser.checkAllPrograms();
-        QCOMPARE(joined(chooser.programRows()),
-                 QStringLiteral("[x]01 A|[x]02 B|[x]03 C|[x]04 D|[x]05 E|[x]06 F"));
-        chooser.checkAllPrograms();
-        QCOMPARE(joined(chooser.programRows()),
-                 QStringLiteral("[ ] A|[ ] B|[ ] C|[ ] D|[ ] E|[ ] F"));
-        chooser.checkProgram(4);
-        QCOMPARE(chooser.programRows().at(4), QStringLiteral("[x]01 E"));
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseMoves::theHeaderFollowsSingleChecks()
-{
-    ChooserFixture fixture;
-    fixture.openNew([](ChooserWindow& chooser) {
-        chooser.checkPrograms({3, 0, 1, 2, 5, 4});
-        // The mark is set now, so that a press clears everything.
-        chooser.checkAllPrograms();
-        QCOMPARE(joined(chooser.programRows()),
-                 QStringLiteral("[ ] A|[ ] B|[ ] C|[ ] D|[ ] E|[ ] F"));
-        chooser.checkPrograms({3, 0, 1, 2, 5, 4});
-        chooser.checkProgram(2);
-        // Cleared by the one: a press checks everything.
-        chooser.checkAllPrograms();
-        QCOMPARE(joined(chooser.programRows()),
-                 QStringLiteral("[x]01 A|[x]02 B|[x]03 C|[x]04 D|[x]05 E|[x]06 F"));
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseMoves::theHeaderOfThePlanFollowsSingleChecks()
-{
-    ChooserFixture fixture;
-    fixture.setPrograms(abc());
-    fixture.openExisting([](ChooserWindow& chooser) {
-        chooser.checkPlan(0);
-        chooser.checkPlan(1);
-        chooser.checkPlan(2);
-        chooser.checkAllPlan();
-        QCOMPARE(joined(chooser.planRows()), QStringLiteral("[ ]01 A x1|[ ]02 B x1|[ ]03 C x1"));
-        chooser.checkPlan(1);
-        chooser.checkAllPlan();
-        QCOMPARE(joined(chooser.planRows()), QStringLiteral("[x]01 A x1|[x]02 B x1|[x]03 C x1"));
-        chooser.checkPlan(1);
-        chooser.checkAllPlan();
-        QCOMPARE(joined(chooser.planRows()), QStringLiteral("[x]01 A x1|[x]02 B x1|[x]03 C x1"));
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseMoves::theHeaderOfThePlanChecksAll()
-{
-    ChooserFixture fixture;
-    fixture.setPrograms(abc());
-    fixture.openExisting([](ChooserWindow& chooser) {
-        chooser.checkAllPlan();
-        QCOMPARE(joined(chooser.planRows()), QStringLiteral("[x]01 A x1|[x]02 B x1|[x]03 C x1"));
-        chooser.checkAllPlan();
-        QCOMPARE(joined(chooser.planRows()), QStringLiteral("[ ]01 A x1|[ ]02 B x1|[ ]03 C x1"));
-        // The other table has a header of its own.
-        QCOMPARE(joined(chooser.programRows()),
-                 QStringLiteral("[ ] A|[ ] B|[ ] C|[ ] D|[ ] E|[ ] F"));
-        chooser.cancel();
-    });
-}
+private slots:
+    void choosingNothingChangesNothing();
+    void choosingTwiceCopiesTwice();
+    void rowsThatWereAdded();
+    void deletingAllDisablesConfirming();
+    void deletingTakesTheCheckedRows();
+    void deletingLeavesTheHeaderAlone();
+    void movingByTheButtons_data();
+    void movingByTheButtons();
+    void aMovedRowKeepsItsCells();
+    void movingNeedsExactlyOneRow();
+    void movingAgainstTheEndHidesTheTip();
+    void anotherSenderMovesNothing();
+    void nothingReachesTheService();
+};
 
 void tst_ProgramChooseMoves::choosingNothingChangesNothing()
 {
@@ -402,22 +292,6 @@ void tst_ProgramChooseMoves::anotherSenderMovesNothing()
         dialog->slotClicked();
         QCOMPARE(chooser.message(), QString());
         QCOMPARE(joined(chooser.planRows()), QStringLiteral("[ ]01 A x1|[x]02 B x1|[ ]03 C x1"));
-        chooser.cancel();
-    });
-}
-
-void tst_ProgramChooseMoves::otherTablesAreIgnored()
-{
-    ChooserFixture fixture;
-    fixture.setPrograms(abc());
-    fixture.openExisting([](ChooserWindow& chooser) {
-        const QStringList programs = chooser.programRows();
-        const QStringList plan = chooser.planRows();
-        auto* dialog = qobject_cast<ProgramChoose*>(chooser.chooser());
-        dialog->slotChecked(static_cast<CheckType>(2), 0, true);
-        dialog->slotSelectAll(static_cast<CheckType>(2), true);
-        QCOMPARE(chooser.programRows(), programs);
-        QCOMPARE(chooser.planRows(), plan);
         chooser.cancel();
     });
 }
