@@ -5,7 +5,7 @@ include_guard(GLOBAL)
 add_library(trel_strict INTERFACE)
 target_compile_options(trel_strict INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
-  -Wold-style-cast -Wnull-dereference
+  -Wold-style-cast
   $<$<BOOL:${TREL_WARNINGS_AS_ERRORS}>:-Werror>)
 target_compile_definitions(trel_strict INTERFACE
   QT_NO_CAST_FROM_ASCII
