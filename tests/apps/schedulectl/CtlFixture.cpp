@@ -1,5 +1,6 @@
 #include "CtlFixture.h"
 
+#include "support/MediaFiles.h"
 #include "trelprogramschedule/ScheduleJson.h"
 
 #include <QDir>
@@ -7,7 +8,6 @@
 #include <QJsonDocument>
 #include <QProcess>
 #include <QProcessEnvironment>
-#include <QtEndian>
 #include <QtTest>
 
 #include <array>
@@ -87,15 +87,6 @@ private:
     int m_handle;
     int m_kept = -1;
 };
-
-template <typename Number>
-QByteArray littleEndian(Number number)
-{
-    const Number stored = qToLittleEndian(number);
-    QByteArray bytes(sizeof stored, Qt::Uninitialized);
-    memcpy(bytes.data(), &stored, sizeof stored);
-    return bytes;
-}
 
 } // namespace
 
@@ -182,13 +173,8 @@ QByteArray CtlFixture::fileContent(const QString& name) const
 
 void CtlFixture::writeClip(const QString& name, int milliseconds) const
 {
-    constexpr quint32 rate = 8000;
-    const auto samples = static_cast<quint32>(milliseconds) * rate / 1000;
-    QByteArray wave = "WAVEfmt " + littleEndian(quint32(16)) + littleEndian(quint16(1)) +
-                      littleEndian(quint16(1)) + littleEndian(rate) + littleEndian(rate) +
-                      littleEndian(quint16(1)) + littleEndian(quint16(8)) + "data" +
-                      littleEndian(samples) + QByteArray(static_cast<int>(samples), char(-128));
-    writeFile(name, "RIFF" + littleEndian(static_cast<quint32>(wave.size())) + wave);
+    QVERIFY(QFileInfo(path(name)).dir().mkpath(QStringLiteral(".")));
+    QVERIFY(media::makeWav(path(name), milliseconds));
 }
 
 QStringList CtlFixture::files() const

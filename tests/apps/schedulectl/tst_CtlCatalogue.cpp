@@ -1,5 +1,7 @@
 #include "CtlFixture.h"
 
+#include "support/MediaFiles.h"
+
 #include <QDir>
 #include <QJsonArray>
 #include <QtTest>
@@ -13,6 +15,7 @@ class tst_CtlCatalogue : public QObject
 
 private slots:
     void importTakesFilesFoldersAndAddresses();
+    void everyKindOfMediaIsTaken();
     void importAsJson();
     void importAgainKeepsTheIndex();
     void partlyRefusedImportKeepsTheRest();
@@ -74,6 +77,21 @@ void tst_CtlCatalogue::importTakesFilesFoldersAndAddresses()
                            "rtsp://host/live"),
             QStringLiteral("3 programs added, 0 updated, 0 refused."),
         }));
+}
+
+void tst_CtlCatalogue::everyKindOfMediaIsTaken()
+{
+    const CtlFixture fixture;
+    QVERIFY(media::makeVideo(fixture.path(QStringLiteral("a.mov")), 50, 25));
+    QVERIFY(media::makeWav(fixture.path(QStringLiteral("b.wav")), 250));
+    QVERIFY(media::makeImage(fixture.path(QStringLiteral("c.png"))));
+    QVERIFY(media::makeText(fixture.path(QStringLiteral("d.txt"))));
+    QCOMPARE(fixture.onDatabase({kImport, QStringLiteral(".")}).status, 0);
+    const QStringList lines = fixture.onDatabase({kPrograms}).lines();
+    QCOMPARE(lines.size(), 4);
+    QVERIFY(lines[1].startsWith(QStringLiteral("    1  a     video  0:00:02.000  ")));
+    QVERIFY(lines[2].startsWith(QStringLiteral("    2  b     audio  0:00:00.250  ")));
+    QVERIFY(lines[3].startsWith(QStringLiteral("    3  c     image            \u2013  ")));
 }
 
 void tst_CtlCatalogue::importAsJson()
