@@ -35,6 +35,18 @@
         <translation>将排期写入文件(&amp;W)…</translation>
     </message>
     <message>
+        <source>&amp;View</source>
+        <translation>视图(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark theme</source>
+        <translation>深色主题(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Light theme</source>
+        <translation>浅色主题(&amp;L)</translation>
+    </message>
+    <message>
         <source>&amp;Quit</source>
         <translation>退出(&amp;Q)</translation>
     </message>

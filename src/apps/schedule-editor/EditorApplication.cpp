@@ -4,8 +4,8 @@
 #include "Languages.h"
 #include "SaveRescue.h"
 #include "ScheduleSummary.h"
-#include "Theme.h"
 #include "common/DefaultDatabase.h"
+#include "look/Themes.h"
 #include "scheduleControlUI.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
@@ -25,6 +25,7 @@ using namespace trel::mediadispatch;
 namespace {
 
 const QLatin1String kLanguageSetting("language");
+const QLatin1String kThemeSetting("theme");
 
 /// The editor drops a show in the first second of its life.
 constexpr int kShowGuardMSecs = 1000;
@@ -97,7 +98,7 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     QCoreApplication::setApplicationName(QStringLiteral("schedule-editor"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TREL_VERSION));
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qss/img/schedule-editor.svg")));
-    theme::applyColours(application);
+    Themes themes(application);
 
     const bool unattended = nobodyWatches() || !options.screenshot.isEmpty();
     if (nobodyWatches()) {
@@ -105,19 +106,22 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     }
 
     scheduleControlUI editor;
-    theme::applySheet(editor);
-    editor.setCheckBoxImagePath(QStringLiteral(":/qss/img/checked.svg"),
-                                QStringLiteral(":/qss/img/unchecked.svg"));
+    editor.setCheckBoxImagePath(QStringLiteral(":/qss/img/checked.png"),
+                                QStringLiteral(":/qss/img/unchecked.png"));
     Languages languages(languageFolder(), editor);
     QSettings settings;
     languages.select(languages.startLanguage(options.language.isEmpty()
                                                  ? settings.value(kLanguageSetting).toString()
                                                  : options.language));
+    themes.select(options.theme.isEmpty() ? settings.value(kThemeSetting).toString()
+                                          : options.theme);
+    QObject::connect(&themes, &Themes::changed, &settings,
+                     [&settings, &themes] { settings.setValue(kThemeSetting, themes.current()); });
     QObject::connect(&languages, &Languages::changed, &settings, [&settings, &languages] {
         settings.setValue(kLanguageSetting, languages.current());
     });
 
-    EditorWindow window(editor, languages);
+    EditorWindow window(editor, languages, themes);
     const SaveRescue rescue(ScheduleHost::instance(), &window);
     const QString database =
         options.database.isEmpty() ? makeDefaultDatabaseFolder() : options.database;

@@ -38,7 +38,10 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
     const QCommandLineOption language(QStringLiteral("language"),
                                       QStringLiteral("Start in this language, such as en_US."),
                                       QStringLiteral("NAME"));
-    parser.addOptions({database, demonstration, screenshot, language});
+    const QCommandLineOption theme(QStringLiteral("theme"),
+                                   QStringLiteral("Start in this theme, dark or light."),
+                                   QStringLiteral("NAME"));
+    parser.addOptions({database, demonstration, screenshot, language, theme});
     parser.addPositionalArgument(QStringLiteral("MEDIA"),
                                  QStringLiteral("Files and folders to import as programs."),
                                  QStringLiteral("[MEDIA...]"));
@@ -60,6 +63,7 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
     result.options.demonstration = parser.value(demonstration);
     result.options.screenshot = parser.value(screenshot);
     result.options.language = parser.value(language);
+    result.options.theme = parser.value(theme);
     result.options.imports = parser.positionalArguments();
     return result;
 }

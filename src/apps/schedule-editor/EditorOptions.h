@@ -10,6 +10,7 @@ struct EditorOptions
     QString demonstration; ///< Folder that a database which does not exist yet is filled from.
     QString screenshot;  ///< Where to write a picture of the editor before ending; empty for none.
     QString language;    ///< Empty for the language last chosen.
+    QString theme;       ///< "dark" or "light"; empty for the theme last chosen.
     QStringList imports; ///< Media to import at the start.
 };
 

@@ -5,6 +5,7 @@
 #include "ImportJob.h"
 #include "Languages.h"
 #include "ProgramTableModel.h"
+#include "look/Themes.h"
 #include "scheduleControlUI.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
@@ -49,6 +50,7 @@ struct EditorWindow::Actions
 {
     QMenu* file = nullptr;
     QMenu* programs = nullptr;
+    QMenu* view = nullptr;
     QMenu* language = nullptr;
     QAction* schedule = nullptr;
     QAction* open = nullptr;
@@ -60,14 +62,16 @@ struct EditorWindow::Actions
     QAction* remove = nullptr;
 };
 
-EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages)
+EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Themes& themes)
     : m_editor(editor)
     , m_languages(languages)
+    , m_themes(themes)
     , m_actions(std::make_unique<Actions>())
     , m_programs(new ProgramTableModel(this))
     , m_table(new QTableView(this))
     , m_hint(new QLabel(this))
     , m_languageGroup(new QActionGroup(this))
+    , m_themeGroup(new QActionGroup(this))
 {
     setObjectName(QStringLiteral("editorWindow"));
     setAcceptDrops(true);
@@ -83,6 +87,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages)
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->setColumnWidth(ProgramTableModel::IndexColumn, 60);
     m_table->setColumnWidth(ProgramTableModel::NameColumn, 260);
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
@@ -143,8 +148,31 @@ void EditorWindow::buildMenus()
     m_table->addAction(actions.importFiles);
     m_table->addAction(actions.remove);
 
+    actions.view = menuBar()->addMenu(QString());
+    buildThemeMenu();
     actions.language = menuBar()->addMenu(QString());
     buildLanguageMenu();
+}
+
+void EditorWindow::buildThemeMenu()
+{
+    const QStringList names = Themes::names();
+    for (const QString& name : names) {
+        QAction* action = m_actions->view->addAction(QString());
+        action->setCheckable(true);
+        action->setData(name);
+        m_themeGroup->addAction(action);
+    }
+    const auto mark = [this] {
+        const QList<QAction*> actions = m_themeGroup->actions();
+        for (QAction* action : actions) {
+            action->setChecked(action->data().toString() == m_themes.current());
+        }
+    };
+    mark();
+    connect(&m_themes, &Themes::changed, this, mark);
+    connect(m_themeGroup, &QActionGroup::triggered, this,
+            [this](const QAction* action) { m_themes.select(action->data().toString()); });
 }
 
 void EditorWindow::buildLanguageMenu()
@@ -178,9 +206,13 @@ void EditorWindow::retranslate()
     actions.exportSchedule->setText(tr("&Write schedule to a file…"));
     actions.quit->setText(tr("&Quit"));
     actions.programs->setTitle(tr("&Programs"));
+    m_table->setAccessibleName(actions.programs->title().remove(QLatin1Char('&')));
     actions.importFiles->setText(tr("&Import files…"));
     actions.importFolder->setText(tr("Import &folder…"));
     actions.remove->setText(tr("&Remove from catalogue"));
+    actions.view->setTitle(tr("&View"));
+    m_themeGroup->actions().at(0)->setText(tr("&Dark theme"));
+    m_themeGroup->actions().at(1)->setText(tr("&Light theme"));
     actions.language->setTitle(tr("&Language"));
     m_hint->setText(tr("No programs yet. Drop media files or folders here, or choose Import."));
     m_programs->retranslate();

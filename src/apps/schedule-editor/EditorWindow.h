@@ -8,6 +8,7 @@
 class ImportJob;
 class Languages;
 class ProgramTableModel;
+class Themes;
 class QActionGroup;
 class QLabel;
 class QMenu;
@@ -27,8 +28,9 @@ class EditorWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    /// Neither the editor nor the languages are owned; both outlive the window.
-    EditorWindow(trel::mediadispatch::scheduleControlUI& editor, Languages& languages);
+    /// Nothing of these is owned; all outlive the window.
+    EditorWindow(trel::mediadispatch::scheduleControlUI& editor, Languages& languages,
+                 Themes& themes);
     ~EditorWindow() override;
 
     /// Opens the store in a file. A database that does not exist yet is made, and filled from the
@@ -62,6 +64,7 @@ private:
 
     void buildMenus();
     void buildLanguageMenu();
+    void buildThemeMenu();
     void retranslate();
     void updateTitle();
     void updateCatalogue();
@@ -79,11 +82,13 @@ private:
 
     trel::mediadispatch::scheduleControlUI& m_editor;
     Languages& m_languages;
+    Themes& m_themes;
     std::unique_ptr<Actions> m_actions;
     ProgramTableModel* m_programs;
     QTableView* m_table;
     QLabel* m_hint;
     QActionGroup* m_languageGroup;
+    QActionGroup* m_themeGroup;
     ImportJob* m_job = nullptr;
     QProgressDialog* m_progress = nullptr;
 };

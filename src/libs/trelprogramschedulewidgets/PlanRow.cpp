@@ -48,6 +48,49 @@ constexpr std::array<Caption, 6> kCaptions = {{
     {EndActionCaptionColumn, "zhEndActionStr"},
 }};
 
+/// What a screen reader says of the editor in a column. Its caption stands in a cell of its own,
+/// where nothing leads from the editor to it.
+struct SpokenName
+{
+    PlanColumn column;
+    const char* key;
+};
+
+constexpr std::array<SpokenName, 9> kSpokenNames = {{
+    {ModeColumn, "zhModeStr"},
+    {StartTimeColumn, "zhFromStr"},
+    {EndTimeColumn, "zhToStr"},
+    {TimesColumn, "zhfrequencyStr"},
+    {WeeksColumn, "szDateStr"},
+    {EndActionColumn, "zhEndActionStr"},
+    {CopyColumn, "zhCreateCopy"},
+    {DeleteColumn, "szDeleteStr"},
+    {ProgramsColumn, "zhSelectProgramsStr"},
+}};
+
+/// What of a cell a screen reader stops at: the one widget in a holder, or the button with which a
+/// program field opens the chooser.
+QWidget* editorIn(QWidget* holder)
+{
+    if (auto* const add = holder->findChild<QPushButton*>(QStringLiteral("pushButton"))) {
+        return add;
+    }
+    QLayoutItem* const item = holder->layout() ? holder->layout()->itemAt(0) : nullptr;
+    return item && item->widget() ? item->widget() : holder;
+}
+
+void nameEditors(const QTableView& table, int row)
+{
+    const QAbstractItemModel& model = *table.model();
+    const QString plan = model.index(row, TitleColumn).data().toString().trimmed();
+    for (const SpokenName& name : kSpokenNames) {
+        QWidget* const holder = table.indexWidget(model.index(row, name.column));
+        if (holder) {
+            editorIn(holder)->setAccessibleName(plan + QLatin1Char(' ') + scheduleText(name.key));
+        }
+    }
+}
+
 // Nobody asks for it in here; it is a hook for those who look at a row from outside.
 void markRow(QWidget& editor, int row)
 {
@@ -262,6 +305,7 @@ void openRowEditors(QTableView& table, int row)
                              TimesColumn, WeeksColumn, EndActionColumn, StateColumn}) {
         table.openPersistentEditor(table.model()->index(row, column));
     }
+    nameEditors(table, row);
 }
 
 void translatePlanRow(QTableView& table, int row)
@@ -276,6 +320,7 @@ void translatePlanRow(QTableView& table, int row)
     }
     table.indexWidget(cell(CopyColumn))->setToolTip(scheduleText("zhCreateCopy"));
     table.indexWidget(cell(DeleteColumn))->setToolTip(scheduleText("szDeleteStr"));
+    nameEditors(table, row);
 }
 
 void translateModeBox(widgets::ComboBox& box)

@@ -73,6 +73,19 @@ void PlanTaskForm::translate(const PlayTask& task)
         QStringLiteral("%1%2    ").arg(scheduleText("zhPlayTaskStr"), QString::number(task.id)));
     labelvalidTime->setText(scheduleText("zhEffectiveStr") + scheduleText("zhFromStr"));
     labelTo->setText(scheduleText("zhToStr"));
+    nameControls();
+}
+
+/// For screen readers: what has no text of its own, or has it in a label beside.
+void PlanTaskForm::nameControls()
+{
+    const QString task = title->text().trimmed() + QLatin1Char(' ');
+    pbtCreatCopy->setAccessibleName(task + scheduleText("zhCreateCopy"));
+    pushButtonDelete->setAccessibleName(task + scheduleText("szDeleteStr"));
+    pushButtonAdd->setAccessibleName(task + scheduleText("zhSelectProgramsStr"));
+    dateEditVaildStartTime->setAccessibleName(task + labelvalidTime->text());
+    dateEditVaildEndTime->setAccessibleName(task + labelTo->text());
+    tableView->setAccessibleName(title->text().trimmed());
 }
 
 void PlanTaskForm::showToolTipOnEnter(const QObject* watched, const QEvent& event)

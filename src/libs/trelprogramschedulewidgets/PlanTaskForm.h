@@ -22,6 +22,9 @@ public:
     /// Shows the tool tip of a button of the title bar at once when the pointer enters it. To be
     /// told of the events of both buttons.
     void showToolTipOnEnter(const QObject* watched, const QEvent& event);
+
+private:
+    void nameControls();
 };
 
 } // namespace trel::mediadispatch

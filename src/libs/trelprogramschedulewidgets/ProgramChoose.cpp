@@ -128,6 +128,13 @@ void ProgramChoose::setUpTexts()
     ui->overTimeTip->setText(scheduleText("zhOverTimeTips"));
     ui->okBtn->setText(scheduleText("zhFixAct"));
     ui->cancelBtn->setText(scheduleText("zhCancelAct"));
+
+    // For screen readers: the controls that show no text.
+    ui->pushButtonChonse->setAccessibleName(scheduleText("zhSelectProgramsStr"));
+    ui->UpBtn->setAccessibleName(scheduleText("zhProgMoveUp"));
+    ui->DownBtn->setAccessibleName(scheduleText("zhProgMoveDown"));
+    ui->tableViewProgramList->setAccessibleName(scheduleText("szProgramLstStr"));
+    ui->tableViewChoonse->setAccessibleName(scheduleText("szPlanLstStr"));
 }
 
 void ProgramChoose::connectAll()

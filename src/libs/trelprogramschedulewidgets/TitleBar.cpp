@@ -213,8 +213,10 @@ void TitleBar::retranslate()
         {m_buttonClose, "zhCloseAct"},
     }};
     for (const auto& [button, key] : toolTips) {
-        if (button)
+        if (button) {
             button->setToolTip(scheduleText(key));
+            button->setAccessibleName(scheduleText(key));
+        }
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "EditorWindow.h"
 #include "Languages.h"
+#include "look/Themes.h"
 #include "scheduleControlUI.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
@@ -18,7 +19,8 @@ struct HostFixture
         , database(folder.filePath(QStringLiteral("screen.db")))
         , editor(quietEditor())
         , languages(QStringLiteral(LANGUAGES), *editor)
-        , window(*editor, languages)
+        , themes(*qApp)
+        , window(*editor, languages, themes)
     {
         languages.select(QStringLiteral("en_US"));
     }
@@ -53,6 +55,7 @@ struct HostFixture
     QString database;
     std::unique_ptr<trel::mediadispatch::scheduleControlUI> editor;
     Languages languages;
+    Themes themes;
     EditorWindow window;
 
 private:

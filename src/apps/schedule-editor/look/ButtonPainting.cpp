@@ -1,0 +1,191 @@
+#include "ButtonPainting.h"
+
+#include "StyleHooks.h"
+#include "ThemeImages.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+namespace look {
+
+namespace {
+
+constexpr qreal kRadius = 4.0;
+constexpr int kTitleInset = 32; ///< Behind the fold arrow of a card.
+constexpr int kTitleEnd = 72;   ///< Before the buttons of a card.
+constexpr int kFieldInset = 6;
+constexpr int kWideImage = 20;
+
+bool has(const QStyleOption& option, QStyle::StateFlag flag)
+{
+    return (option.state & flag) != 0;
+}
+
+const QColor& pick(const QStyleOption& option, const QColor& normal, const QColor& hovered,
+                   const QColor& pressed)
+{
+    if (has(option, QStyle::State_Sunken)) {
+        return pressed;
+    }
+    return has(option, QStyle::State_MouseOver) ? hovered : normal;
+}
+
+void paintCaptionButton(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
+                        ButtonKind kind)
+{
+    if (!has(option, QStyle::State_Enabled)) {
+        paintBox(painter, option.rect, colours.disabledField, colours.disabledLine, kRadius);
+        return;
+    }
+    const bool hasFocus =
+        has(option, QStyle::State_HasFocus) && has(option, QStyle::State_KeyboardFocusChange);
+    QColor ground;
+    QColor line;
+    if (kind == ButtonKind::General) {
+        ground = pick(option, colours.accent, colours.accentHover, colours.accentPressed);
+        line = hasFocus ? colours.text : ground;
+    } else if (kind == ButtonKind::Wide) {
+        ground = pick(option, colours.tint, colours.tintHover, colours.tintHover);
+        line = colours.accentLine;
+    } else {
+        ground = pick(option, colours.button, colours.buttonHover, colours.buttonPressed);
+        line = hasFocus
+                   ? colours.accentLine
+                   : pick(option, colours.fieldLine, colours.fieldLineHover, colours.fieldLine);
+    }
+    paintBox(painter, option.rect, ground, line, kRadius);
+}
+
+void paintImageButton(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
+                      const QWidget* button)
+{
+    const bool isEnabled = has(option, QStyle::State_Enabled);
+    const bool isActive =
+        isEnabled && (has(option, QStyle::State_MouseOver) || has(option, QStyle::State_Sunken));
+    // The half of a field shares the edge of the field.
+    const bool isHalf = isInsideProgramField(button->parentWidget());
+    if (isActive) {
+        const QRect ground = isHalf ? option.rect.adjusted(2, 2, -3, -2) : option.rect;
+        paintBox(painter, ground, colours.iconGround, Qt::transparent, kRadius);
+    }
+    const QString image = imageOf(button);
+    if (!image.isEmpty()) {
+        const QColor colour =
+            isActive ? colours.iconHover : (isEnabled ? colours.icon : colours.disabledText);
+        paintImage(painter, option.rect, image, colour);
+    }
+}
+
+void paintCardTitle(QPainter& painter, const ThemeColours& colours, const QStyleOption& option)
+{
+    const QColor& ground = pick(option, colours.title, colours.titleHover, colours.titleHover);
+    paintBox(painter, option.rect, ground, colours.cardLine, kRadius + 1);
+}
+
+void paintText(QPainter& painter, const QStyleOption& option, const QRect& rect, int alignment,
+               const QColor& colour, const QString& text)
+{
+    painter.setPen(colour);
+    const int flags =
+        static_cast<int>(QStyle::visualAlignment(option.direction, Qt::Alignment(alignment)));
+    painter.drawText(QStyle::visualRect(option.direction, option.rect, rect),
+                     flags | Qt::TextSingleLine | Qt::TextHideMnemonic, text);
+}
+
+void paintWideLabel(QPainter& painter, const ThemeColours& colours,
+                    const QStyleOptionButton& option)
+{
+    const QColor& colour = has(option, QStyle::State_Enabled) ? colours.text : colours.disabledText;
+    const int width = option.fontMetrics.horizontalAdvance(option.text) + kWideImage + 2;
+    QRect row(0, 0, width, option.rect.height());
+    row.moveCenter(option.rect.center());
+    const QRect image(row.topLeft(), QSize(kWideImage, row.height()));
+    paintImage(painter, image, QStringLiteral("add"), colour);
+    painter.setPen(colour);
+    painter.drawText(row.adjusted(kWideImage + 2, 0, 8, 0), Qt::AlignVCenter | Qt::AlignLeft,
+                     option.text);
+}
+
+} // namespace
+
+void paintBox(QPainter& painter, const QRect& rect, const QColor& ground, const QColor& line,
+              qreal radius)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, radius > 0);
+    const bool hasLine = line.alpha() > 0;
+    painter.setPen(hasLine ? QPen(line, 1.0) : QPen(Qt::NoPen));
+    painter.setBrush(ground);
+    const qreal inset = hasLine ? 0.5 : 0.0;
+    const QRectF box = QRectF(rect).adjusted(inset, inset, -inset, -inset);
+    if (radius > 0) {
+        painter.drawRoundedRect(box, radius, radius);
+    } else {
+        painter.drawRect(box);
+    }
+    painter.restore();
+}
+
+void paintButton(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
+                 const QWidget* button)
+{
+    switch (const ButtonKind kind = buttonKind(button)) {
+    case ButtonKind::Image:
+        paintImageButton(painter, colours, option, button);
+        break;
+    case ButtonKind::CardTitle:
+        paintCardTitle(painter, colours, option);
+        break;
+    case ButtonKind::FieldText:
+        break;
+    default:
+        paintCaptionButton(painter, colours, option, kind);
+    }
+}
+
+bool paintButtonLabel(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
+                      const QWidget* button)
+{
+    const auto* caption = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    if (caption == nullptr || !caption->icon.isNull()) {
+        return false;
+    }
+    const bool isEnabled = has(option, QStyle::State_Enabled);
+    const QColor& text = isEnabled ? colours.text : colours.disabledText;
+    switch (buttonKind(button)) {
+    case ButtonKind::Image:
+        break;
+    case ButtonKind::CardTitle: {
+        QFont font = painter.font();
+        font.setBold(true);
+        painter.save();
+        painter.setFont(font);
+        paintText(painter, option, option.rect.adjusted(kTitleInset, 0, -kTitleEnd, 0),
+                  Qt::AlignLeft | Qt::AlignVCenter, text, caption->text);
+        painter.restore();
+        break;
+    }
+    case ButtonKind::FieldText:
+        paintText(painter, option, option.rect.adjusted(kFieldInset, 0, 0, 0),
+                  Qt::AlignLeft | Qt::AlignVCenter, text, caption->text);
+        break;
+    case ButtonKind::Wide:
+        paintWideLabel(painter, colours, *caption);
+        break;
+    case ButtonKind::General:
+        paintText(painter, option, option.rect, Qt::AlignCenter,
+                  isEnabled ? colours.accentText : colours.disabledText, caption->text);
+        break;
+    case ButtonKind::Plain:
+        paintText(painter, option, option.rect, Qt::AlignCenter, text, caption->text);
+        break;
+    }
+    return true;
+}
+
+void paintFocus(QPainter& painter, const ThemeColours& colours, const QStyleOption& option)
+{
+    paintBox(painter, option.rect, Qt::transparent, colours.accentLine, kRadius);
+}
+
+} // namespace look

@@ -1,0 +1,379 @@
+#include "EditorStyle.h"
+
+#include "ButtonPainting.h"
+#include "FieldPainting.h"
+#include "StyleHooks.h"
+#include "ThemeImages.h"
+#include "ViewPainting.h"
+
+#include <QAbstractScrollArea>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QScrollBar>
+#include <QStyleOption>
+#include <QTableView>
+
+namespace look {
+
+namespace {
+
+/// How far the table of a card reaches over its place on each side. Its columns are wider than the
+/// place that the card has for them, by just this.
+constexpr int kTableReach = 10;
+constexpr int kHintPixels = 15;
+constexpr int kListHeaderMargin = 7;
+constexpr qreal kCardRadius = 5.0;
+
+/// Asks the table once more for the margins of its place; when it was made it had no name yet.
+void updateTableMargins(QWidget* table)
+{
+    QEvent change(QEvent::StyleChange);
+    QCoreApplication::sendEvent(table, &change);
+}
+
+void setTextColour(QWidget* label, const QColor& colour)
+{
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, colour);
+    label->setPalette(palette);
+}
+
+/// The widget that a painter was opened on, if it is one.
+const QWidget* paintedWidget(const QPainter& painter)
+{
+    return painter.device() != nullptr && painter.device()->devType() == QInternal::Widget
+               ? static_cast<const QWidget*>(painter.device())
+               : nullptr;
+}
+
+} // namespace
+
+EditorStyle::EditorStyle(const ThemeColours& colours)
+    : QProxyStyle(QStringLiteral("Fusion"))
+    , m_colours(colours)
+{}
+
+void EditorStyle::setColours(const ThemeColours& colours)
+{
+    m_colours = colours;
+}
+
+void EditorStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (isChooserList(widget)) {
+        widget->setPalette(listPalette(m_colours));
+    } else if (isPlanTable(widget)) {
+        updateTableMargins(widget);
+    } else if (isWell(widget)) {
+        // The frame paints the ground under the cards.
+        qobject_cast<QAbstractScrollArea*>(widget)->viewport()->setAutoFillBackground(false);
+    } else if (auto* bar = qobject_cast<QScrollBar*>(widget)) {
+        // Nothing but the thumb is painted, and what lies below shows.
+        bar->setAttribute(Qt::WA_OpaquePaintEvent, false);
+    } else if (isProgramField(widget)) {
+        widget->setAttribute(Qt::WA_Hover);
+    } else if (qobject_cast<QLabel*>(widget) != nullptr) {
+        const QString style = styleOf(widget);
+        if (style == QLatin1String("errorHint")) {
+            setTextColour(widget, m_colours.errorText);
+        } else if (style == QLatin1String("grayHint")) {
+            setTextColour(widget, m_colours.faintText);
+            QFont font = widget->font();
+            font.setPixelSize(kHintPixels);
+            widget->setFont(font);
+        }
+    }
+}
+
+void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const
+{
+    switch (element) {
+    case PE_Widget:
+        if (paintPanel(*option, *painter, widget)) {
+            return;
+        }
+        break;
+    case PE_Frame:
+        paintFrame(*option, *painter, widget);
+        return;
+    case PE_FrameLineEdit:
+    case PE_PanelLineEdit:
+        // The line of a spin box or a combo box lies on a ground that is painted already.
+        if (!isInsideField(widget)) {
+            paintField(*painter, m_colours, *option);
+        }
+        return;
+    case PE_PanelButtonCommand:
+        paintButton(*painter, m_colours, *option, widget);
+        return;
+    case PE_FrameFocusRect:
+        paintFocus(*painter, m_colours, *option);
+        return;
+    case PE_PanelItemViewRow:
+    case PE_PanelItemViewItem:
+        paintRow(*painter, m_colours, *option, widget);
+        return;
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+        paintCheckMark(*painter, m_colours, *option);
+        return;
+    default:
+        break;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void EditorStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const
+{
+    switch (element) {
+    case CE_PushButtonBevel:
+        paintButton(*painter, m_colours, *option, widget);
+        return;
+    case CE_PushButtonLabel:
+        if (paintButtonLabel(*painter, m_colours, *option, widget)) {
+            return;
+        }
+        break;
+    case CE_ComboBoxLabel:
+        if (const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
+            const QRect room =
+                proxy()->subControlRect(CC_ComboBox, box, SC_ComboBoxEditField, widget);
+            paintComboBoxLabel(*painter, m_colours, *box, room);
+            return;
+        }
+        break;
+    case CE_ShapedFrame:
+        if (paintLabelFrame(*option, *painter, widget)) {
+            return;
+        }
+        break;
+    case CE_HeaderSection:
+        paintHeaderSection(*painter, *option);
+        return;
+    case CE_HeaderEmptyArea:
+        painter->fillRect(option->rect, option->palette.color(QPalette::Button));
+        return;
+    case CE_ItemViewItem:
+        paintItem(option, painter, widget);
+        return;
+    default:
+        break;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                     QPainter* painter, const QWidget* widget) const
+{
+    if (const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option)) {
+        const QRect up = proxy()->subControlRect(control, option, SC_SpinBoxUp, widget);
+        const QRect down = proxy()->subControlRect(control, option, SC_SpinBoxDown, widget);
+        paintSpinBox(*painter, m_colours, *spin, up, down);
+        return;
+    }
+    if (const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
+        const QRect arrow = proxy()->subControlRect(control, option, SC_ComboBoxArrow, widget);
+        paintComboBox(*painter, m_colours, *box, arrow);
+        return;
+    }
+    if (control == CC_ScrollBar) {
+        const QRect thumb = proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget);
+        paintScrollBar(*painter, m_colours, *option, thumb);
+        return;
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+void EditorStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                               const QPalette& palette, bool enabled, const QString& text,
+                               QPalette::ColorRole textRole) const
+{
+    if (isStateLabel(paintedWidget(*painter))) {
+        // The word of a state stands in the middle of the ground that is painted for it.
+        flags = (flags & ~Qt::AlignHorizontal_Mask) | Qt::AlignHCenter;
+    }
+    // The base adds a line of the background's colour under disabled texts.
+    painter->save();
+    if (textRole != QPalette::NoRole) {
+        painter->setPen(
+            palette.color(enabled ? palette.currentColorGroup() : QPalette::Disabled, textRole));
+    }
+    painter->drawText(rect, flags, text);
+    painter->restore();
+}
+
+void EditorStyle::drawItemPixmap(QPainter* painter, const QRect& rect, int alignment,
+                                 const QPixmap& pixmap) const
+{
+    // At a ratio of 1.5 the images for 2 are shrunk.
+    const QPainter::RenderHints hints = painter->renderHints();
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    QProxyStyle::drawItemPixmap(painter, rect, alignment, pixmap);
+    painter->setRenderHints(painter->renderHints(), false);
+    painter->setRenderHints(hints);
+}
+
+QRect EditorStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                  const QWidget* widget) const
+{
+    if (element == SE_FrameLayoutItem && isPlanTable(widget)) {
+        return option->rect.adjusted(kTableReach, 0, -kTableReach, 0);
+    }
+    return QProxyStyle::subElementRect(element, option, widget);
+}
+
+QRect EditorStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                  SubControl subControl, const QWidget* widget) const
+{
+    QRect rect;
+    if (const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option)) {
+        rect = spinBoxPart(*spin, subControl);
+    } else if (const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
+        rect = comboBoxPart(*box, subControl);
+    } else if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+               bar != nullptr && control == CC_ScrollBar) {
+        rect = scrollBarPart(*bar, subControl);
+    } else {
+        return QProxyStyle::subControlRect(control, option, subControl, widget);
+    }
+    return visualRect(option->direction, option->rect, rect);
+}
+
+int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                             const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_DefaultFrameWidth:
+        return isPlanTable(widget) || isInsideProgramField(widget) ? 0 : 1;
+    case PM_SpinBoxFrameWidth:
+    case PM_ComboBoxFrameWidth:
+        return 1;
+    case PM_ScrollBarExtent:
+        return kScrollBarExtent;
+    case PM_ScrollBarSliderMin:
+        return kScrollBarLeastThumb;
+    case PM_ScrollView_ScrollBarOverlap:
+        // The last column of a card's table needs the whole width, and its buttons show beside
+        // the thumb.
+        return widget != nullptr && isPlanTable(widget->parentWidget()->parentWidget())
+                   ? kScrollBarExtent
+                   : 0;
+    case PM_FocusFrameHMargin:
+        // The captions of a card's table have narrow columns.
+        return isPlanTable(widget) ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+    case PM_HeaderMargin:
+        return isChooserList(widget) ? kListHeaderMargin
+                                     : QProxyStyle::pixelMetric(metric, option, widget);
+    case PM_LayoutLeftMargin:
+    case PM_LayoutRightMargin:
+        // With the toolkit's margins the cards would be wider than what they lie in. On the right
+        // the scroll bar takes the place of a margin.
+        if (isCardList(widget)) {
+            return metric == PM_LayoutLeftMargin ? kScrollBarExtent : 0;
+        }
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int EditorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* returnData) const
+{
+    switch (hint) {
+    case SH_ComboBox_Popup: // The list opens below the box and does not cover it.
+    case SH_EtchDisabledText:
+    case SH_DitherDisabledText:
+    case SH_UnderlineShortcut:
+        return 0;
+    case SH_ItemView_ShowDecorationSelected:
+        return 1;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+}
+
+QIcon EditorStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                const QWidget* widget) const
+{
+    switch (icon) {
+    case SP_MessageBoxQuestion:
+        return imageIcon(QStringLiteral("question"), m_colours.accentLine);
+    case SP_MessageBoxWarning:
+        return imageIcon(QStringLiteral("notice"), m_colours.icon);
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
+}
+
+/// The grounds that widgets ask for without painting anything themselves.
+bool EditorStyle::paintPanel(const QStyleOption& option, QPainter& painter,
+                             const QWidget* widget) const
+{
+    const QString style = styleOf(widget);
+    if (style == QLatin1String("BG1")) {
+        paintBox(painter, option.rect, m_colours.card, m_colours.cardLine, kCardRadius);
+    } else if (style == QLatin1String("BG3")) {
+        paintField(painter, m_colours, option);
+    } else if (style == QLatin1String("BG4")) {
+        painter.fillRect(option.rect, m_colours.header);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void EditorStyle::paintFrame(const QStyleOption& option, QPainter& painter,
+                             const QWidget* widget) const
+{
+    if (isInsideProgramField(widget)) {
+        return;
+    }
+    paintBox(painter, option.rect, isWell(widget) ? m_colours.well : QColor(Qt::transparent),
+             isChooserList(widget) ? m_colours.listLine : m_colours.cardLine, 0);
+}
+
+bool EditorStyle::paintLabelFrame(const QStyleOption& option, QPainter& painter,
+                                  const QWidget* widget) const
+{
+    if (isStateLabel(widget)) {
+        constexpr int kHeight = 24;
+        QRect ground = option.rect.adjusted(1, 0, -1, 0);
+        ground.setHeight(kHeight);
+        ground.moveCenter(option.rect.center());
+        paintBox(painter, ground, m_colours.state, m_colours.stateLine, kHeight / 2);
+        return true;
+    }
+    const QString image = imageOf(widget);
+    if (image.isEmpty()) {
+        return false;
+    }
+    paintImage(painter, option.rect, image, m_colours.icon);
+    return true;
+}
+
+void EditorStyle::paintItem(const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const
+{
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (item == nullptr) {
+        return;
+    }
+    if (isPlanTable(widget) && item->index.column() > 0) {
+        paintRow(*painter, m_colours, *item, widget);
+        paintCaption(*painter, *item);
+        return;
+    }
+    // A selected row is tinted, and its text stays what it is.
+    QStyleOptionViewItem tinted(*item);
+    tinted.palette.setColor(QPalette::HighlightedText, item->palette.color(QPalette::Text));
+    tinted.state &= ~QStyle::State_HasFocus;
+    QProxyStyle::drawControl(CE_ItemViewItem, &tinted, painter, widget);
+}
+
+} // namespace look

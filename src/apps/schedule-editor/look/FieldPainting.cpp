@@ -1,0 +1,139 @@
+#include "FieldPainting.h"
+
+#include "ButtonPainting.h"
+#include "ThemeImages.h"
+
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QPainter>
+
+namespace look {
+
+namespace {
+
+constexpr qreal kRadius = 3.0;
+/// The fields of a row are narrow: what the arrows do not take is left to the value.
+constexpr int kStepWidth = 14;
+constexpr int kArrowWidth = 16;
+constexpr int kTextInset = 4;
+constexpr int kEditableArrowWidth = 13;
+
+bool isEnabled(const QStyleOption& option)
+{
+    return (option.state & QStyle::State_Enabled) != 0;
+}
+
+void paintStep(QPainter& painter, const ThemeColours& colours, const QStyleOptionSpinBox& option,
+               const QRect& rect, QStyle::SubControl part, QAbstractSpinBox::StepEnabledFlag step)
+{
+    const bool isPossible = isEnabled(option) && (option.stepEnabled & step) != 0;
+    const bool isHovered = isPossible && option.activeSubControls == part &&
+                           (option.state & (QStyle::State_MouseOver | QStyle::State_Sunken)) != 0;
+    if (isHovered) {
+        paintBox(painter, rect, colours.iconGround, Qt::transparent, kRadius - 1);
+    }
+    const QColor colour = isPossible
+                              ? (isHovered ? colours.iconHover : colours.icon)
+                              : (isEnabled(option) ? colours.fieldLineHover : colours.fieldLine);
+    const bool isUp = part == QStyle::SC_SpinBoxUp;
+    paintImage(painter, rect, isUp ? QStringLiteral("spin-up") : QStringLiteral("spin-down"),
+               colour);
+}
+
+} // namespace
+
+bool isInsideField(const QWidget* widget)
+{
+    const QWidget* parent = widget != nullptr ? widget->parentWidget() : nullptr;
+    return qobject_cast<const QAbstractSpinBox*>(parent) != nullptr ||
+           qobject_cast<const QComboBox*>(parent) != nullptr;
+}
+
+void paintField(QPainter& painter, const ThemeColours& colours, const QStyleOption& option)
+{
+    if (!isEnabled(option)) {
+        paintBox(painter, option.rect, colours.disabledField, colours.disabledLine, kRadius);
+        return;
+    }
+    QColor line = colours.fieldLine;
+    if ((option.state & QStyle::State_HasFocus) != 0) {
+        line = colours.accentLine;
+    } else if ((option.state & QStyle::State_MouseOver) != 0) {
+        line = colours.fieldLineHover;
+    }
+    paintBox(painter, option.rect, colours.field, line, kRadius);
+}
+
+void paintSpinBox(QPainter& painter, const ThemeColours& colours, const QStyleOptionSpinBox& option,
+                  const QRect& up, const QRect& down)
+{
+    if ((option.subControls & QStyle::SC_SpinBoxFrame) != 0) {
+        if (option.frame) {
+            paintField(painter, colours, option);
+        } else {
+            painter.fillRect(option.rect, colours.field);
+        }
+    }
+    if (option.buttonSymbols != QAbstractSpinBox::NoButtons) {
+        paintStep(painter, colours, option, up, QStyle::SC_SpinBoxUp,
+                  QAbstractSpinBox::StepUpEnabled);
+        paintStep(painter, colours, option, down, QStyle::SC_SpinBoxDown,
+                  QAbstractSpinBox::StepDownEnabled);
+    }
+}
+
+void paintComboBox(QPainter& painter, const ThemeColours& colours,
+                   const QStyleOptionComboBox& option, const QRect& arrow)
+{
+    paintField(painter, colours, option);
+    paintImage(painter, arrow, QStringLiteral("combo-arrow"),
+               isEnabled(option) ? colours.icon : colours.fieldLineHover);
+}
+
+void paintComboBoxLabel(QPainter& painter, const ThemeColours& colours,
+                        const QStyleOptionComboBox& option, const QRect& room)
+{
+    if (option.editable) {
+        return;
+    }
+    painter.setPen(isEnabled(option) ? colours.text : colours.disabledText);
+    const int flags = static_cast<int>(
+        QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter));
+    painter.drawText(
+        room, flags | Qt::TextSingleLine,
+        option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, room.width()));
+}
+
+QRect spinBoxPart(const QStyleOptionSpinBox& option, QStyle::SubControl part)
+{
+    const QRect& box = option.rect;
+    const int steps = option.buttonSymbols == QAbstractSpinBox::NoButtons ? 0 : kStepWidth;
+    const int half = box.height() / 2;
+    const QRect stepColumn(box.right() - steps, box.top() + 1, steps, half - 1);
+    switch (part) {
+    case QStyle::SC_SpinBoxUp:
+        return stepColumn;
+    case QStyle::SC_SpinBoxDown:
+        return stepColumn.translated(0, half - 1);
+    case QStyle::SC_SpinBoxEditField:
+        return box.adjusted(2, 1, -steps - 1, -1);
+    default:
+        return box;
+    }
+}
+
+QRect comboBoxPart(const QStyleOptionComboBox& option, QStyle::SubControl part)
+{
+    const QRect& box = option.rect;
+    const int arrow = option.editable ? kEditableArrowWidth : kArrowWidth;
+    switch (part) {
+    case QStyle::SC_ComboBoxArrow:
+        return QRect(box.right() - arrow, box.top(), arrow, box.height());
+    case QStyle::SC_ComboBoxEditField:
+        return box.adjusted(option.editable ? 2 : kTextInset, 1, -arrow - 1, -1);
+    default:
+        return box;
+    }
+}
+
+} // namespace look

@@ -1,0 +1,167 @@
+#include "ThemeColours.h"
+
+namespace look {
+
+namespace {
+
+void setLists(ThemeColours& colours)
+{
+    colours.list = QColor(0x13, 0x15, 0x19);
+    colours.listHeader = QColor(0x1e, 0x22, 0x29);
+    colours.listLine = QColor(0x2a, 0x2f, 0x39);
+    colours.listText = QColor(0xe7, 0xea, 0xef);
+}
+
+void setDisabledTexts(QPalette& palette, const QColor& colour)
+{
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText}) {
+        palette.setColor(QPalette::Disabled, role, colour);
+    }
+}
+
+} // namespace
+
+ThemeColours darkColours()
+{
+    ThemeColours colours;
+    colours.window = QColor(0x1b, 0x1e, 0x24);
+    colours.well = QColor(0x14, 0x16, 0x1a);
+    colours.card = QColor(0x1f, 0x23, 0x2a);
+    colours.cardLine = QColor(0x32, 0x38, 0x43);
+    colours.title = QColor(0x28, 0x2d, 0x36);
+    colours.titleHover = QColor(0x30, 0x36, 0x42);
+    colours.text = QColor(0xe7, 0xea, 0xef);
+    colours.faintText = QColor(0xa2, 0xa9, 0xb6);
+    colours.disabledText = QColor(0x94, 0x9c, 0xaa);
+    colours.errorText = QColor(0xff, 0x92, 0x8c);
+
+    colours.field = QColor(0x14, 0x16, 0x1b);
+    colours.fieldLine = QColor(0x3d, 0x44, 0x51);
+    colours.fieldLineHover = QColor(0x66, 0x70, 0x82);
+    colours.disabledField = QColor(0x1f, 0x23, 0x2a);
+    colours.disabledLine = QColor(0x2f, 0x35, 0x40);
+
+    colours.button = QColor(0x2b, 0x30, 0x3a);
+    colours.buttonHover = QColor(0x36, 0x3d, 0x49);
+    colours.buttonPressed = QColor(0x22, 0x26, 0x2e);
+    colours.accent = QColor(0x2f, 0x6f, 0xd6);
+    colours.accentHover = QColor(0x29, 0x64, 0xc6);
+    colours.accentPressed = QColor(0x22, 0x56, 0xae);
+    colours.accentText = Qt::white;
+    colours.accentLine = QColor(0x5b, 0x9b, 0xf8);
+    colours.tint = QColor(0x1d, 0x2a, 0x40);
+    colours.tintHover = QColor(0x24, 0x36, 0x55);
+
+    colours.icon = QColor(0xc3, 0xc9, 0xd3);
+    colours.iconHover = Qt::white;
+    colours.iconGround = QColor(0x3a, 0x41, 0x4e);
+    colours.scrollThumb = QColor(0x4a, 0x52, 0x60);
+    colours.scrollThumbHover = QColor(0x68, 0x72, 0x84);
+
+    colours.alternateRow = QColor(0x18, 0x1b, 0x20);
+    colours.hoveredRow = QColor(0x24, 0x28, 0x30);
+    colours.selectedRow = QColor(0x25, 0x36, 0x55);
+    colours.header = QColor(0x25, 0x29, 0x31);
+    colours.line = QColor(0x2c, 0x31, 0x3b);
+    colours.floating = QColor(0x24, 0x28, 0x30);
+
+    colours.state = QColor(0x05, 0x05, 0x06);
+    colours.stateLine = QColor(0x2c, 0x31, 0x3b);
+    setLists(colours);
+    return colours;
+}
+
+ThemeColours lightColours()
+{
+    ThemeColours colours;
+    colours.window = QColor(0xf4, 0xf5, 0xf8);
+    colours.well = QColor(0xe8, 0xea, 0xef);
+    colours.card = Qt::white;
+    colours.cardLine = QColor(0xcf, 0xd4, 0xdd);
+    colours.title = QColor(0xf0, 0xf2, 0xf6);
+    colours.titleHover = QColor(0xe5, 0xe9, 0xf0);
+    colours.text = QColor(0x1b, 0x1f, 0x27);
+    colours.faintText = QColor(0x57, 0x5f, 0x6d);
+    colours.disabledText = QColor(0x5f, 0x67, 0x75);
+    colours.errorText = QColor(0xb3, 0x26, 0x1e);
+
+    colours.field = Qt::white;
+    colours.fieldLine = QColor(0xbd, 0xc4, 0xd0);
+    colours.fieldLineHover = QColor(0x86, 0x90, 0xa2);
+    colours.disabledField = QColor(0xf0, 0xf1, 0xf4);
+    colours.disabledLine = QColor(0xdc, 0xdf, 0xe6);
+
+    colours.button = Qt::white;
+    colours.buttonHover = QColor(0xee, 0xf1, 0xf6);
+    colours.buttonPressed = QColor(0xe1, 0xe5, 0xec);
+    colours.accent = QColor(0x24, 0x63, 0xcb);
+    colours.accentHover = QColor(0x1f, 0x57, 0xb4);
+    colours.accentPressed = QColor(0x1a, 0x4a, 0x9a);
+    colours.accentText = Qt::white;
+    colours.accentLine = QColor(0x2f, 0x74, 0xe4);
+    colours.tint = QColor(0xe9, 0xf0, 0xfd);
+    colours.tintHover = QColor(0xd9, 0xe6, 0xfb);
+
+    colours.icon = QColor(0x48, 0x50, 0x5e);
+    colours.iconHover = QColor(0x10, 0x14, 0x1a);
+    colours.iconGround = QColor(0xd9, 0xde, 0xe8);
+    colours.scrollThumb = QColor(0xb4, 0xbb, 0xc8);
+    colours.scrollThumbHover = QColor(0x8d, 0x97, 0xa8);
+
+    colours.alternateRow = QColor(0xf7, 0xf8, 0xfa);
+    colours.hoveredRow = QColor(0xed, 0xf1, 0xf8);
+    colours.selectedRow = QColor(0xd7, 0xe5, 0xfc);
+    colours.header = QColor(0xec, 0xee, 0xf2);
+    colours.line = QColor(0xd8, 0xdc, 0xe4);
+    colours.floating = Qt::white;
+
+    colours.state = Qt::white;
+    colours.stateLine = QColor(0xd8, 0xdc, 0xe4);
+    setLists(colours);
+    return colours;
+}
+
+QPalette windowPalette(const ThemeColours& colours)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Window, colours.window);
+    palette.setColor(QPalette::WindowText, colours.text);
+    palette.setColor(QPalette::Base, colours.field);
+    palette.setColor(QPalette::AlternateBase, colours.alternateRow);
+    palette.setColor(QPalette::ToolTipBase, colours.floating);
+    palette.setColor(QPalette::ToolTipText, colours.text);
+    palette.setColor(QPalette::Text, colours.text);
+    palette.setColor(QPalette::PlaceholderText, colours.faintText);
+    palette.setColor(QPalette::Button, colours.button);
+    palette.setColor(QPalette::ButtonText, colours.text);
+    palette.setColor(QPalette::BrightText, colours.accentText);
+    palette.setColor(QPalette::Link, colours.accentLine);
+    palette.setColor(QPalette::Highlight, colours.accent);
+    palette.setColor(QPalette::HighlightedText, colours.accentText);
+    palette.setColor(QPalette::Light, colours.buttonHover);
+    palette.setColor(QPalette::Midlight, colours.buttonHover);
+    palette.setColor(QPalette::Mid, colours.line);
+    palette.setColor(QPalette::Dark, colours.fieldLine);
+    setDisabledTexts(palette, colours.disabledText);
+    palette.setColor(QPalette::Disabled, QPalette::Base, colours.disabledField);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, colours.selectedRow);
+    return palette;
+}
+
+QPalette listPalette(const ThemeColours& colours)
+{
+    QPalette palette = windowPalette(colours);
+    palette.setColor(QPalette::Base, colours.list);
+    palette.setColor(QPalette::AlternateBase, colours.list);
+    palette.setColor(QPalette::Window, colours.list);
+    palette.setColor(QPalette::Button, colours.listHeader);
+    palette.setColor(QPalette::Mid, colours.listLine);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, colours.listText);
+    }
+    return palette;
+}
+
+} // namespace look

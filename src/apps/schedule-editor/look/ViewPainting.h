@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ThemeColours.h"
+
+#include <QStyleOption>
+
+class QPainter;
+class QWidget;
+
+namespace look {
+
+constexpr int kScrollBarExtent = 8;
+constexpr int kScrollBarLeastThumb = 28;
+
+/// The ground of a row, or of a cell of it.
+void paintRow(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
+              const QWidget* view);
+/// A word in front of a field of a plan row, close to its field.
+void paintCaption(QPainter& painter, const QStyleOptionViewItem& option);
+/// In the colours of the header's own palette.
+void paintHeaderSection(QPainter& painter, const QStyleOption& option);
+void paintCheckMark(QPainter& painter, const ThemeColours& colours, const QStyleOption& option);
+
+void paintScrollBar(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
+                    const QRect& thumb);
+QRect scrollBarPart(const QStyleOptionSlider& option, QStyle::SubControl part);
+
+} // namespace look

@@ -1,0 +1,61 @@
+#include "EditorWindow.h"
+#include "Languages.h"
+#include "PictureBook.h"
+#include "look/Themes.h"
+#include "scheduleControlUI.h"
+#include "trelprogramschedule/ScheduleHost.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+using namespace trel::mediadispatch;
+
+/// schedule-pictures FOLDER DEMONSTRATION: draws every window of the editor, in every language and
+/// theme, into the folder.
+int main(int argc, char** argv)
+{
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() != 3 || !QDir().mkpath(arguments[1])) {
+        QTextStream(stderr) << "Usage: schedule-pictures FOLDER DEMONSTRATION" << Qt::endl;
+        return 2;
+    }
+    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qss/img/schedule-editor.svg")));
+
+    Themes themes(application);
+    scheduleControlUI editor;
+    editor.setCheckBoxImagePath(QStringLiteral(":/qss/img/checked.png"),
+                                QStringLiteral(":/qss/img/unchecked.png"));
+    Languages languages(
+        QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                        QStringLiteral("/../share/trelprogramschedulewidgets/languages")),
+        editor);
+    EditorWindow window(editor, languages, themes);
+    const QTemporaryDir folder(QDir::temp().filePath(QStringLiteral("station-XXXXXX")));
+    const QString error =
+        window.openDatabase(folder.filePath(QStringLiteral("station.db")), arguments[2]);
+    bool isComplete = error.isEmpty();
+    editor.show();
+    QApplication::setActiveWindow(&editor);
+    for (const QString& language : languages.names()) {
+        languages.select(language);
+        for (const QString& theme : Themes::names()) {
+            themes.select(theme);
+            PictureBook book(window, editor, QDir(arguments[1]),
+                             QStringLiteral("-%1-%2").arg(language, theme));
+            book.drawAll();
+            isComplete = book.isComplete() && isComplete;
+        }
+    }
+    editor.close();
+    ScheduleHost::instance().close();
+    if (!isComplete) {
+        QTextStream(stderr) << "Not every picture could be drawn. " << error << Qt::endl;
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,307 @@
+#include "HostFixture.h"
+#include "LookSupport.h"
+
+#include "PlanColumns.h"
+
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTableView>
+#include <QTimer>
+
+using namespace trel::mediadispatch;
+
+/// Every text against its ground, on the pixels of the windows.
+class tst_Contrast : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void textsOfTheEditor_data() { addThemes(); }
+    void textsOfTheEditor();
+    void textsOfRows_data() { addThemes(); }
+    void textsOfRows();
+    void statesOfPlans_data() { addThemes(); }
+    void statesOfPlans();
+    void textsOfTheChooser_data() { addThemes(); }
+    void textsOfTheChooser();
+    void textsOfTheHost_data() { addThemes(); }
+    void textsOfTheHost();
+    void textsOfMenus_data() { addThemes(); }
+    void textsOfMenus();
+
+private:
+    static void addThemes();
+    QWidget* card() const;
+    QTableView* table() const;
+    void spoilPlan(int planId) const;
+
+    std::unique_ptr<HostFixture> m_host;
+};
+
+namespace {
+
+constexpr double kLeast = 4.5;
+/// No ground lets both of the colours of a state reach more than a little above this.
+constexpr double kLeastOfState = 3.9;
+
+enum State { Normal, Hovered, Disabled };
+
+/// Where a control shows its text, clear of its edge and its signs.
+QRect textPart(const QWidget* widget)
+{
+    if (qobject_cast<const QComboBox*>(widget)) {
+        return widget->rect().adjusted(4, 4, -18, -4);
+    }
+    if (qobject_cast<const QAbstractSpinBox*>(widget)) {
+        return widget->rect().adjusted(3, 4, -17, -4);
+    }
+    return widget->rect().adjusted(4, 2, -4, -2);
+}
+
+QString faultOf(const QImage& picture, const QRect& part, const QString& what,
+                double least = kLeast)
+{
+    const Seen seen = lookAt(picture, part);
+    return seen.contrast >= least ? QString()
+                                  : QStringLiteral("%1: %2 on %3 is %4\n")
+                                        .arg(what, seen.text.name(), seen.ground.name())
+                                        .arg(seen.contrast, 0, 'f', 2);
+}
+
+QString faultsOf(QWidget* widget, double least = kLeast)
+{
+    QString faults;
+    const bool wasEnabled = widget->isEnabled();
+    for (const State state : {Normal, Hovered, Disabled}) {
+        widget->setAttribute(Qt::WA_UnderMouse, state == Hovered);
+        widget->setEnabled(state != Disabled && wasEnabled);
+        faults += faultOf(pictureOf(widget), textPart(widget),
+                          QStringLiteral("%1 \"%2\" in state %3")
+                              .arg(widget->objectName(), widget->property("text").toString())
+                              .arg(state),
+                          least);
+    }
+    widget->setAttribute(Qt::WA_UnderMouse, false);
+    widget->setEnabled(wasEnabled);
+    return faults;
+}
+
+QString faultsOfCells(QTableView* table, const QList<int>& columns)
+{
+    const QImage picture = pictureOf(table->viewport());
+    QString faults;
+    for (int row = 0; row < table->model()->rowCount(); ++row) {
+        for (const int column : columns) {
+            const QModelIndex index = table->model()->index(row, column);
+            const QRect cell = table->visualRect(index).adjusted(0, 2, 0, -2);
+            if (!index.data().toString().trimmed().isEmpty() && picture.rect().contains(cell)) {
+                faults += faultOf(picture, cell, index.data().toString());
+            }
+        }
+    }
+    return faults;
+}
+
+} // namespace
+
+void tst_Contrast::addThemes()
+{
+    QTest::addColumn<QString>("theme");
+    const QStringList names = Themes::names();
+    for (const QString& name : names) {
+        QTest::newRow(qPrintable(name)) << name;
+    }
+}
+
+void tst_Contrast::init()
+{
+    m_host = std::make_unique<HostFixture>();
+    QFETCH(QString, theme);
+    m_host->themes.select(theme);
+    QCOMPARE(m_host->window.openDatabase(m_host->database, QStringLiteral(DEMONSTRATION)),
+             QString());
+    m_host->showEditor();
+    card()->findChild<QAbstractButton*>(QStringLiteral("title"))->setChecked(false);
+    QCoreApplication::processEvents();
+}
+
+void tst_Contrast::cleanup()
+{
+    m_host.reset();
+}
+
+QWidget* tst_Contrast::card() const
+{
+    return m_host->editor->findChild<QWidget*>(QStringLiteral("PlanTaskWidget"));
+}
+
+QTableView* tst_Contrast::table() const
+{
+    return card()->findChild<QTableView*>(QStringLiteral("schedule"));
+}
+
+void tst_Contrast::textsOfTheEditor()
+{
+    QString faults;
+    for (const char* name :
+         {"pushButtonAddTask", "pushButtonClose", "pushButtonStart", "pushButtonSave", "TitleLabel",
+          "title", "labelvalidTime", "labelTo", "dateEditVaildStartTime", "dateEditVaildEndTime"}) {
+        faults += faultsOf(m_host->editor->findChild<QWidget*>(QLatin1String(name)));
+    }
+    emit m_host->editor->sigclearPlanList();
+    const QList<QLabel*> labels = m_host->editor->findChildren<QLabel*>();
+    for (QLabel* label : labels) {
+        if (label->property("style").toString() == QLatin1String("grayHint")) {
+            QVERIFY(label->isVisible());
+            faults += faultsOf(label);
+        }
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void tst_Contrast::textsOfRows()
+{
+    QString faults;
+    const QList<int> captions{TitleColumn,           ModeCaptionColumn,  StartTimeCaptionColumn,
+                              EndTimeCaptionColumn,  TimesCaptionColumn, WeeksCaptionColumn,
+                              EndActionCaptionColumn};
+    faults += faultsOfCells(table(), captions);
+    for (const int row : {0, 1}) {
+        for (const int column : {ModeColumn, StartTimeColumn, EndTimeColumn, TimesColumn,
+                                 WeeksColumn, EndActionColumn}) {
+            QWidget* holder = table()->indexWidget(table()->model()->index(row, column));
+            faults += faultsOf(holder->layout()->itemAt(0)->widget());
+        }
+        QWidget* field = table()->indexWidget(table()->model()->index(row, ProgramsColumn));
+        faults += faultsOf(field->findChild<QWidget*>(QStringLiteral("lineEdit")));
+    }
+    table()->selectAll();
+    faults += faultsOfCells(table(), captions);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void tst_Contrast::statesOfPlans()
+{
+    QString faults;
+    QStringList words;
+    for (int row = 0; row < 4; ++row) {
+        auto* label =
+            qobject_cast<QLabel*>(table()->indexWidget(table()->model()->index(row, StateColumn)));
+        words.append(label->text());
+        faults += faultOf(pictureOf(label), label->rect().adjusted(6, 12, -6, -12), label->text(),
+                          kLeastOfState);
+    }
+    table()->selectAll();
+    auto* label =
+        qobject_cast<QLabel*>(table()->indexWidget(table()->model()->index(3, StateColumn)));
+    faults += faultOf(pictureOf(label), label->rect().adjusted(6, 12, -6, -12),
+                      QStringLiteral("selected"), kLeastOfState);
+    // Both states are there, and the words alone tell them apart.
+    QCOMPARE(words.count(words.first()), 3);
+    QVERIFY(words.last() != words.first());
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void tst_Contrast::spoilPlan(int planId) const
+{
+    int index = -1;
+    PlayPlan plan = m_host->manager.getPlan(1, planId, index);
+    struProgInfo invalid;
+    invalid.isInvalid = true;
+    invalid.progIndex = kInvalidProgIndex;
+    invalid.progName = "Summer sale";
+    struProgInfo gone;
+    gone.progIndex = 999;
+    gone.progName = "Gone";
+    plan.programs.push_back(invalid);
+    plan.programs.push_back(gone);
+    m_host->manager.addPlan(1, plan);
+}
+
+void tst_Contrast::textsOfTheChooser()
+{
+    spoilPlan(2);
+    QString faults = QStringLiteral("no chooser");
+    QTimer::singleShot(0, m_host->editor.get(), [&faults] {
+        QWidget* chooser = QApplication::activeModalWidget();
+        faults.clear();
+        for (const char* name : {"overTimeTip", "tipLab"}) {
+            chooser->findChild<QWidget*>(QLatin1String(name))->show();
+        }
+        QCoreApplication::processEvents();
+        for (const char* name : {"label", "label_2", "label_timeWord", "overTimeTip", "tipLab",
+                                 "pushButtonDelete", "cancelBtn", "comfirmBtn", "TitleLabel"}) {
+            faults += faultsOf(chooser->findChild<QWidget*>(QLatin1String(name)));
+        }
+        const auto tables = chooser->findChildren<QTableView*>(QStringLiteral("schedule"));
+        for (QTableView* table : tables) {
+            faults += faultsOfCells(table, {1, 2, 3});
+            // The pointer on each row in turn.
+            for (int row = 0; row < table->model()->rowCount(); ++row) {
+                const QPoint place = table->visualRect(table->model()->index(row, 2)).center();
+                QHoverEvent hover(QEvent::HoverMove, place, QPointF(-1, -1));
+                QCoreApplication::sendEvent(table->viewport(), &hover);
+                faults += faultsOfCells(table, {1, 2, 3});
+            }
+            const QImage header = pictureOf(table->horizontalHeader()->viewport());
+            for (int section = 1; section < table->model()->columnCount(); ++section) {
+                const QRect part(table->horizontalHeader()->sectionViewportPosition(section), 0,
+                                 table->horizontalHeader()->sectionSize(section), header.height());
+                if (part.width() > 0) {
+                    faults += faultOf(header, part.adjusted(3, 2, -3, -2),
+                                      QStringLiteral("section %1").arg(section));
+                }
+            }
+        }
+        chooser->close();
+    });
+    QWidget* field = table()->indexWidget(table()->model()->index(1, ProgramsColumn));
+    field->findChild<QPushButton*>(QStringLiteral("pushButton"))->click();
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void tst_Contrast::textsOfTheHost()
+{
+    m_host->window.show();
+    QCoreApplication::processEvents();
+    auto* programs = m_host->window.findChild<QTableView*>(QStringLiteral("programTable"));
+    const QList<int> columns{0, 1, 2, 3};
+    QString faults = faultsOfCells(programs, columns);
+    programs->selectAll();
+    faults += faultsOfCells(programs, columns);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void tst_Contrast::textsOfMenus()
+{
+    QString faults;
+    for (const bool isEnabled : {true, false}) {
+        QMenu menu;
+        menu.addAction(QStringLiteral("Move up"));
+        menu.addAction(QStringLiteral("Move down"));
+        menu.setEnabled(isEnabled);
+        menu.ensurePolished();
+        menu.resize(menu.sizeHint());
+        if (isEnabled) {
+            menu.setActiveAction(menu.actions().first());
+        }
+        const QImage picture = menu.grab().toImage();
+        for (QAction* action : menu.actions()) {
+            faults += faultOf(picture, menu.actionGeometry(action).adjusted(4, 3, -4, -3),
+                              action->text());
+        }
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+QTEST_MAIN(tst_Contrast)
+#include "tst_Contrast.moc"
