@@ -17,6 +17,7 @@
 #include <QTimeEdit>
 
 #include <algorithm>
+#include <limits>
 
 using namespace trel::mediadispatch;
 
@@ -237,7 +238,8 @@ void tst_Themes::theCheckMarksAreTheirDrawings()
     QFETCH(QString, name);
     for (const int scale : {1, 2}) {
         const QString suffix = scale == 2 ? QStringLiteral("@2x") : QString();
-        const QImage picture(QStringLiteral(":/qss/img/%1%2.png").arg(name, suffix));
+        QImage picture(QStringLiteral(":/qss/img/%1%2.png").arg(name, suffix));
+        picture.setDevicePixelRatio(1.0);
         QCOMPARE(picture.size(), QSize(12, 12) * scale);
         QImage drawn(picture.size(), QImage::Format_ARGB32);
         drawn.fill(Qt::transparent);
@@ -319,14 +321,9 @@ void tst_Themes::theFontHasTheLettersOfEveryLanguage()
 int tst_Themes::refreshTime() const
 {
     QElapsedTimer timer;
-    std::vector<int> times;
-    for (int i = 0; i < 5; ++i) {
-        timer.start();
-        m_host->editor->clearAndInitialize();
-        times.push_back(int(timer.nsecsElapsed() / 1000));
-    }
-    std::nth_element(times.begin(), times.begin() + 2, times.end());
-    return times[2];
+    timer.start();
+    m_host->editor->clearAndInitialize();
+    return int(timer.nsecsElapsed() / 1000);
 }
 
 void tst_Themes::aRefreshCostsAtMostTwice()
@@ -341,10 +338,15 @@ void tst_Themes::aRefreshCostsAtMostTwice()
     m_host->manager.addTask(task);
     m_host->manager.save();
 
-    const int themed = refreshTime();
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setPalette(QApplication::style()->standardPalette());
-    const int plain = refreshTime();
+    // In turn, and the best of each, so that a busy machine does not tell the two apart.
+    int themed = std::numeric_limits<int>::max();
+    int plain = themed;
+    for (int round = 0; round < 6; ++round) {
+        const Themes theme(*qApp);
+        themed = std::min(themed, refreshTime());
+        QApplication::setStyle(QStringLiteral("Fusion"));
+        plain = std::min(plain, refreshTime());
+    }
     qInfo("refresh with the theme: %d us, without: %d us, ratio %.2f", themed, plain,
           double(themed) / plain);
     QVERIFY(themed <= 2 * plain);

@@ -33,6 +33,13 @@ void updateTableMargins(QWidget* table)
     QCoreApplication::sendEvent(table, &change);
 }
 
+/// The bar lies in a container of its own.
+bool isBarOfPlanTable(const QWidget* bar)
+{
+    const QWidget* container = bar != nullptr ? bar->parentWidget() : nullptr;
+    return container != nullptr && isPlanTable(container->parentWidget());
+}
+
 void setTextColour(QWidget* label, const QColor& colour)
 {
     QPalette palette = label->palette();
@@ -63,28 +70,41 @@ void EditorStyle::setColours(const ThemeColours& colours)
 void EditorStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
-    if (isChooserList(widget)) {
-        widget->setPalette(listPalette(m_colours));
-    } else if (isPlanTable(widget)) {
-        updateTableMargins(widget);
-    } else if (isWell(widget)) {
-        // The frame paints the ground under the cards.
-        qobject_cast<QAbstractScrollArea*>(widget)->viewport()->setAutoFillBackground(false);
+    // Asked of every widget of every row, and so by class first.
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(widget)) {
+        polishArea(area);
+    } else if (qobject_cast<QLabel*>(widget) != nullptr) {
+        polishLabel(widget);
     } else if (auto* bar = qobject_cast<QScrollBar*>(widget)) {
         // Nothing but the thumb is painted, and what lies below shows.
         bar->setAttribute(Qt::WA_OpaquePaintEvent, false);
-    } else if (isProgramField(widget)) {
+    } else if (qobject_cast<QFrame*>(widget) != nullptr && isProgramField(widget)) {
         widget->setAttribute(Qt::WA_Hover);
-    } else if (qobject_cast<QLabel*>(widget) != nullptr) {
-        const QString style = styleOf(widget);
-        if (style == QLatin1String("errorHint")) {
-            setTextColour(widget, m_colours.errorText);
-        } else if (style == QLatin1String("grayHint")) {
-            setTextColour(widget, m_colours.faintText);
-            QFont font = widget->font();
-            font.setPixelSize(kHintPixels);
-            widget->setFont(font);
-        }
+    }
+}
+
+void EditorStyle::polishArea(QAbstractScrollArea* area) const
+{
+    if (isChooserList(area)) {
+        area->setPalette(listPalette(m_colours));
+    } else if (isPlanTable(area)) {
+        updateTableMargins(area);
+    } else if (isWell(area)) {
+        // The frame paints the ground under the cards.
+        area->viewport()->setAutoFillBackground(false);
+    }
+}
+
+void EditorStyle::polishLabel(QWidget* label) const
+{
+    const QString style = styleOf(label);
+    if (style == QLatin1String("errorHint")) {
+        setTextColour(label, m_colours.errorText);
+    } else if (style == QLatin1String("grayHint")) {
+        setTextColour(label, m_colours.faintText);
+        QFont font = label->font();
+        font.setPixelSize(kHintPixels);
+        label->setFont(font);
     }
 }
 
@@ -260,9 +280,7 @@ int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_ScrollView_ScrollBarOverlap:
         // The last column of a card's table needs the whole width, and its buttons show beside
         // the thumb.
-        return widget != nullptr && isPlanTable(widget->parentWidget()->parentWidget())
-                   ? kScrollBarExtent
-                   : 0;
+        return isBarOfPlanTable(widget) ? kScrollBarExtent : 0;
     case PM_FocusFrameHMargin:
         // The captions of a card's table have narrow columns.
         return isPlanTable(widget) ? 0 : QProxyStyle::pixelMetric(metric, option, widget);

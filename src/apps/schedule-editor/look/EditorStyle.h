@@ -4,6 +4,8 @@
 
 #include <QProxyStyle>
 
+class QAbstractScrollArea;
+
 namespace look {
 
 /// The look of the editor and of the host: flat, in the colours of one theme at a time.
@@ -49,6 +51,8 @@ public:
                        const QWidget* widget) const override;
 
 private:
+    void polishArea(QAbstractScrollArea* area) const;
+    void polishLabel(QWidget* label) const;
     bool paintPanel(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     void paintFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     bool paintLabelFrame(const QStyleOption& option, QPainter& painter,

@@ -22,6 +22,12 @@ QByteArray drawing(const QString& name, const QColor& colour)
     return file.readAll().replace(kThemeColour, colour.name().toLatin1());
 }
 
+/// Pixels of the device to one unit of the painter, also where a widget is drawn into a picture.
+qreal deviceScale(const QPainter& painter)
+{
+    return qMax(1.0, painter.deviceTransform().m11());
+}
+
 QPixmap render(QSvgRenderer& renderer, const QSize& size, qreal ratio)
 {
     QPixmap pixmap(size * ratio);
@@ -66,8 +72,8 @@ public:
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override
     {
-        painter->drawPixmap(rect, image(m_name, m_colour, rect.size(), rect.size(),
-                                        painter->device()->devicePixelRatioF()));
+        painter->drawPixmap(
+            rect, image(m_name, m_colour, rect.size(), rect.size(), deviceScale(*painter)));
     }
 
     // The size is in pixels of the device already.
@@ -87,8 +93,7 @@ private:
 
 void paintImage(QPainter& painter, const QRect& rect, const QString& name, const QColor& colour)
 {
-    const QPixmap pixmap =
-        image(name, colour, QSize(), rect.size(), painter.device()->devicePixelRatioF());
+    const QPixmap pixmap = image(name, colour, QSize(), rect.size(), deviceScale(painter));
     QRect target(QPoint(), pixmap.size() / pixmap.devicePixelRatioF());
     target.moveCenter(rect.center());
     painter.drawPixmap(target.topLeft(), pixmap);

@@ -23,6 +23,20 @@ QStringList fontFamilies()
             QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")};
 }
 
+/// The toolkit passes a new palette over the widgets below a style sheet, such as the list of the
+/// cards has. What a widget has set for itself it keeps.
+void takePalette(QWidget* widget)
+{
+    widget->setPalette(widget->testAttribute(Qt::WA_SetPalette) ? widget->palette() : QPalette());
+    const QObjectList children = widget->children();
+    for (QObject* child : children) {
+        auto* inner = qobject_cast<QWidget*>(child);
+        if (inner != nullptr && !inner->isWindow()) {
+            takePalette(inner);
+        }
+    }
+}
+
 void setFont()
 {
     const QStringList families = fontFamilies();
@@ -70,6 +84,10 @@ void Themes::apply()
     const QPalette palette = look::windowPalette(colours);
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        takePalette(window);
+    }
     const QWidgetList widgets = QApplication::allWidgets();
     for (QWidget* widget : widgets) {
         if (m_style && widget->testAttribute(Qt::WA_WState_Polished)) {
