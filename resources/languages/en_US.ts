@@ -86,7 +86,7 @@
     <message>
         <source>zhPlanTimeStr</source>
         <comment>Widget</comment>
-        <translation>No.</translation>
+        <translation>Plan </translation>
     </message>
     <message>
         <source>zhModeStr</source>

@@ -1,0 +1,287 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR">
+<context>
+    <name>SheduleWidgets</name>
+    <message>
+        <source>zhSchedulePlayStr</source>
+        <comment>Widget</comment>
+        <translation>Programmation</translation>
+    </message>
+    <message>
+        <source>zhSchedulePlayStrAdd</source>
+        <comment>Widget</comment>
+        <translation>Ajouter une tâche</translation>
+    </message>
+    <message>
+        <source>zhScheduleLoading</source>
+        <comment>Widget</comment>
+        <translation>Chargement…</translation>
+    </message>
+    <message>
+        <source>zhEnable</source>
+        <comment>Widget</comment>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>zhNoPlayTask</source>
+        <comment>Widget</comment>
+        <translation>Aucune tâche de diffusion. Cliquez sur «&#xa0;Ajouter une tâche&#xa0;» pour commencer.</translation>
+    </message>
+    <message>
+        <source>zhSegConflictStr</source>
+        <comment>Widget</comment>
+        <translation>ont des périodes de validité qui se chevauchent. Modifiez les dates, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>zhPlayTaskStr</source>
+        <comment>Widget</comment>
+        <translation>Tâche </translation>
+    </message>
+    <message>
+        <source>zhCancelAct</source>
+        <comment>Widget</comment>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>zhFixAct</source>
+        <comment>Widget</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>zhRefuseAct</source>
+        <comment>Widget</comment>
+        <translation>Refuser</translation>
+    </message>
+    <message>
+        <source>zhtitleTip</source>
+        <comment>Widget</comment>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>zhEffectiveStr</source>
+        <comment>Widget</comment>
+        <translation>Validité&#xa0;: </translation>
+    </message>
+    <message>
+        <source>zhFromStr</source>
+        <comment>Widget</comment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>zhToStr</source>
+        <comment>Widget</comment>
+        <translation>à</translation>
+    </message>
+    <message>
+        <source>zhCreateCopy</source>
+        <comment>Widget</comment>
+        <translation>Créer une copie</translation>
+    </message>
+    <message>
+        <source>szDeleteStr</source>
+        <comment>Widget</comment>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>zhPlanTimeStr</source>
+        <comment>Widget</comment>
+        <translation>N°&#xa0;</translation>
+    </message>
+    <message>
+        <source>zhModeStr</source>
+        <comment>Widget</comment>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>zhTimeStr</source>
+        <comment>Widget</comment>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>zhfrequencyStr</source>
+        <comment>Widget</comment>
+        <translation>Fois</translation>
+    </message>
+    <message>
+        <source>szDateStr</source>
+        <comment>Widget</comment>
+        <translation>Jours</translation>
+    </message>
+    <message>
+        <source>zhEndActionStr</source>
+        <comment>Widget</comment>
+        <translation>À la fin</translation>
+    </message>
+    <message>
+        <source>zhBlackScreen</source>
+        <comment>Widget</comment>
+        <translation>Écran noir</translation>
+    </message>
+    <message>
+        <source>zhFreezeCurrentFrame</source>
+        <comment>Widget</comment>
+        <translation>Image figée</translation>
+    </message>
+    <message>
+        <source>szEveryDayStr</source>
+        <comment>Widget</comment>
+        <translation>Chaque jour</translation>
+    </message>
+    <message>
+        <source>szMondayStr</source>
+        <comment>Widget</comment>
+        <translation>Lun</translation>
+    </message>
+    <message>
+        <source>szTuesdayStr</source>
+        <comment>Widget</comment>
+        <translation>Mar</translation>
+    </message>
+    <message>
+        <source>szWednesdayStr</source>
+        <comment>Widget</comment>
+        <translation>Mer</translation>
+    </message>
+    <message>
+        <source>szThursdayStr</source>
+        <comment>Widget</comment>
+        <translation>Jeu</translation>
+    </message>
+    <message>
+        <source>szFridayStr</source>
+        <comment>Widget</comment>
+        <translation>Ven</translation>
+    </message>
+    <message>
+        <source>szSaturdayStr</source>
+        <comment>Widget</comment>
+        <translation>Sam</translation>
+    </message>
+    <message>
+        <source>szSundayStr</source>
+        <comment>Widget</comment>
+        <translation>Dim</translation>
+    </message>
+    <message>
+        <source>zhconflictStr</source>
+        <comment>Widget</comment>
+        <translation>Conflit</translation>
+    </message>
+    <message>
+        <source>zhnormalStr</source>
+        <comment>Widget</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>szInvalidStr</source>
+        <comment>Widget</comment>
+        <translation> (non valide)</translation>
+    </message>
+    <message>
+        <source>szProgNullStr</source>
+        <comment>Widget</comment>
+        <translation> (supprimé)</translation>
+    </message>
+    <message>
+        <source>zhStartVaildTimeError</source>
+        <comment>Widget</comment>
+        <translation>Le début ne peut pas être postérieur à la fin.</translation>
+    </message>
+    <message>
+        <source>szDeletePlanConfirmStr</source>
+        <comment>Widget</comment>
+        <translation>Supprimer ce créneau de diffusion&#xa0;?</translation>
+    </message>
+    <message>
+        <source>szDeleteTaskConfirmStr</source>
+        <comment>Widget</comment>
+        <translation>Supprimer cette tâche et tous ses créneaux&#xa0;?</translation>
+    </message>
+    <message>
+        <source>zhSelectProgramsStr</source>
+        <comment>Widget</comment>
+        <translation>Choix des programmes</translation>
+    </message>
+    <message>
+        <source>szProgramLstStr</source>
+        <comment>Widget</comment>
+        <translation>Programmes</translation>
+    </message>
+    <message>
+        <source>szPlanLstStr</source>
+        <comment>Widget</comment>
+        <translation>Programmes du créneau</translation>
+    </message>
+    <message>
+        <source>zhCheckNumber</source>
+        <comment>Widget</comment>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>zhPlayCounts</source>
+        <comment>Widget</comment>
+        <translation>Diffusions</translation>
+    </message>
+    <message>
+        <source>zhOnlyOne</source>
+        <comment>Widget</comment>
+        <translation>Cochez un seul programme pour le déplacer.</translation>
+    </message>
+    <message>
+        <source>zhTotalDuration</source>
+        <comment>Widget</comment>
+        <translation>Durée totale du créneau&#xa0;: </translation>
+    </message>
+    <message>
+        <source>zhOverTimeTips</source>
+        <comment>Widget</comment>
+        <translation>Le créneau dépasse 24 heures. Veuillez le raccourcir.</translation>
+    </message>
+    <message>
+        <source>zhCutCurrentProg</source>
+        <comment>Widget</comment>
+        <translation>Insérer maintenant</translation>
+    </message>
+    <message>
+        <source>zhDelayInsert</source>
+        <comment>Widget</comment>
+        <translation>Insérer plus tard</translation>
+    </message>
+    <message>
+        <source>zhProgMoveUp</source>
+        <comment>Widget</comment>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>zhProgMoveDown</source>
+        <comment>Widget</comment>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>zhCutProgWarnning</source>
+        <comment>Widget</comment>
+        <translation>L’heure de diffusion est passée&#xa0;: insertion impossible.</translation>
+    </message>
+    <message>
+        <source>zhMinAct</source>
+        <comment>Widget</comment>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>zhReductionAct</source>
+        <comment>Widget</comment>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>zhMaxAct</source>
+        <comment>Widget</comment>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>zhCloseAct</source>
+        <comment>Widget</comment>
+        <translation>Fermer</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,260 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES" sourcelanguage="en_US">
+<context>
+    <name>Demonstration</name>
+    <message>
+        <source>The demonstration could not be read: %1: %2</source>
+        <translation>No se ha podido leer la demostración: %1: %2</translation>
+    </message>
+    <message>
+        <source>The demonstration&apos;s media could not be copied beside the database.</source>
+        <translation>No se han podido copiar los archivos multimedia de la demostración junto a la base de datos.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorWindow</name>
+    <message>
+        <source>&amp;Schedule</source>
+        <translation>Pro&amp;gramación</translation>
+    </message>
+    <message>
+        <source>&amp;Edit schedule</source>
+        <translation>&amp;Editar la programación</translation>
+    </message>
+    <message>
+        <source>&amp;Open database…</source>
+        <translation>&amp;Abrir base de datos…</translation>
+    </message>
+    <message>
+        <source>&amp;Read schedule from a file…</source>
+        <translation>&amp;Leer la programación de un archivo…</translation>
+    </message>
+    <message>
+        <source>&amp;Write schedule to a file…</source>
+        <translation>&amp;Guardar la programación en un archivo…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Programs</source>
+        <translation>&amp;Programas</translation>
+    </message>
+    <message>
+        <source>&amp;Import files…</source>
+        <translation>&amp;Importar archivos…</translation>
+    </message>
+    <message>
+        <source>Import &amp;folder…</source>
+        <translation>Importar &amp;carpeta…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from catalogue</source>
+        <translation>&amp;Quitar del catálogo</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose Import.</source>
+        <translation>Aún no hay programas. Arrastre aquí archivos multimedia o carpetas, o elija «Importar».</translation>
+    </message>
+    <message>
+        <source>Schedule editor</source>
+        <translation>Editor de programación</translation>
+    </message>
+    <message>
+        <source>%1 – Schedule editor</source>
+        <translation>%1 – Editor de programación</translation>
+    </message>
+    <message>
+        <source>Open database</source>
+        <translation>Abrir base de datos</translation>
+    </message>
+    <message>
+        <source>Schedules (*.db *.sqlite);;All files (*)</source>
+        <translation>Programaciones (*.db *.sqlite);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Import files</source>
+        <translation>Importar archivos</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>Importar carpeta</translation>
+    </message>
+    <message>
+        <source>Write the schedule to a file</source>
+        <translation>Guardar la programación en un archivo</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>Programaciones (*.json)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>Guardado en %1.</translation>
+    </message>
+    <message>
+        <source>Read a schedule from a file</source>
+        <translation>Leer una programación de un archivo</translation>
+    </message>
+    <message>
+        <source>%1 could not be read: %2</source>
+        <translation>No se ha podido leer %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <translation>
+            <numerusform>Este archivo contiene %n tarea. ¿Sustituir toda la programación?</numerusform>
+            <numerusform>Este archivo contiene %n tareas. ¿Sustituir toda la programación?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sustituir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <translation>
+            <numerusform>¿Quitar este programa del catálogo? Los planes que lo usan mostrarán sus entradas como no válidas. El archivo se conserva.</numerusform>
+            <numerusform>¿Quitar %n programas del catálogo? Los planes que los usan mostrarán sus entradas como no válidas. Los archivos se conservan.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Importing</source>
+        <translation>Importando</translation>
+    </message>
+    <message>
+        <source>The import was cancelled; nothing was taken in.</source>
+        <translation>Se ha cancelado la importación; no se ha añadido nada.</translation>
+    </message>
+    <message>
+        <source>Imported: %1 new, %2 updated.</source>
+        <translation>Importación terminada: %1 nuevos, %2 actualizados.</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more.</source>
+        <translation>
+            <numerusform>… y %n más.</numerusform>
+            <numerusform>… y %n más.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some files could not be imported:</source>
+        <translation>Algunos archivos no se han podido importar:</translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved.</source>
+        <translation>La programación tiene cambios sin guardar.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Seguir editando</translation>
+    </message>
+</context>
+<context>
+    <name>HostPrompts</name>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramTableModel</name>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>En directo</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Otro</translation>
+    </message>
+    <message>
+        <source>The file has gone: %1</source>
+        <translation>El archivo ya no existe: %1</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programa</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+</context>
+<context>
+    <name>SaveRescue</name>
+    <message>
+        <source>The schedule was not saved. %1
+
+What shall become of your changes?</source>
+        <translation>No se ha guardado la programación. %1
+
+¿Qué desea hacer con los cambios?</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Write to a file</source>
+        <translation>Guardar en un archivo</translation>
+    </message>
+    <message>
+        <source>Give up</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Write the schedule to a file</source>
+        <translation>Guardar la programación en un archivo</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>Programaciones (*.json)</translation>
+    </message>
+</context>
+</TS>

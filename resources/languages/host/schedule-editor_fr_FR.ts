@@ -1,0 +1,260 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en_US">
+<context>
+    <name>Demonstration</name>
+    <message>
+        <source>The demonstration could not be read: %1: %2</source>
+        <translation>Impossible de lire la démonstration&#xa0;: %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>The demonstration&apos;s media could not be copied beside the database.</source>
+        <translation>Impossible de copier les médias de la démonstration à côté de la base de données.</translation>
+    </message>
+</context>
+<context>
+    <name>EditorWindow</name>
+    <message>
+        <source>&amp;Schedule</source>
+        <translation>&amp;Programmation</translation>
+    </message>
+    <message>
+        <source>&amp;Edit schedule</source>
+        <translation>&amp;Modifier la programmation</translation>
+    </message>
+    <message>
+        <source>&amp;Open database…</source>
+        <translation>&amp;Ouvrir une base de données…</translation>
+    </message>
+    <message>
+        <source>&amp;Read schedule from a file…</source>
+        <translation>&amp;Lire la programmation depuis un fichier…</translation>
+    </message>
+    <message>
+        <source>&amp;Write schedule to a file…</source>
+        <translation>&amp;Enregistrer la programmation dans un fichier…</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Programs</source>
+        <translation>P&amp;rogrammes</translation>
+    </message>
+    <message>
+        <source>&amp;Import files…</source>
+        <translation>&amp;Importer des fichiers…</translation>
+    </message>
+    <message>
+        <source>Import &amp;folder…</source>
+        <translation>Importer un &amp;dossier…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from catalogue</source>
+        <translation>&amp;Retirer du catalogue</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Langue</translation>
+    </message>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose Import.</source>
+        <translation>Aucun programme pour l’instant. Déposez ici des fichiers multimédias ou des dossiers, ou choisissez «&#xa0;Importer&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Schedule editor</source>
+        <translation>Éditeur de programmation</translation>
+    </message>
+    <message>
+        <source>%1 – Schedule editor</source>
+        <translation>%1 – Éditeur de programmation</translation>
+    </message>
+    <message>
+        <source>Open database</source>
+        <translation>Ouvrir une base de données</translation>
+    </message>
+    <message>
+        <source>Schedules (*.db *.sqlite);;All files (*)</source>
+        <translation>Programmations (*.db *.sqlite);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Import files</source>
+        <translation>Importer des fichiers</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>Importer un dossier</translation>
+    </message>
+    <message>
+        <source>Write the schedule to a file</source>
+        <translation>Enregistrer la programmation dans un fichier</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>Programmations (*.json)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>Enregistré dans %1.</translation>
+    </message>
+    <message>
+        <source>Read a schedule from a file</source>
+        <translation>Lire une programmation depuis un fichier</translation>
+    </message>
+    <message>
+        <source>%1 could not be read: %2</source>
+        <translation>Impossible de lire %1&#xa0;: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <translation>
+            <numerusform>Ce fichier contient %n tâche. Remplacer toute la programmation&#xa0;?</numerusform>
+            <numerusform>Ce fichier contient %n tâches. Remplacer toute la programmation&#xa0;?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <translation>
+            <numerusform>Retirer ce programme du catalogue&#xa0;? Les créneaux qui l’utilisent l’afficheront comme non valide. Le fichier est conservé.</numerusform>
+            <numerusform>Retirer %n programmes du catalogue&#xa0;? Les créneaux qui les utilisent les afficheront comme non valides. Les fichiers sont conservés.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Importing</source>
+        <translation>Importation</translation>
+    </message>
+    <message>
+        <source>The import was cancelled; nothing was taken in.</source>
+        <translation>L’importation a été annulée&#xa0;; rien n’a été ajouté.</translation>
+    </message>
+    <message>
+        <source>Imported: %1 new, %2 updated.</source>
+        <translation>Importation terminée&#xa0;: %1 ajout(s), %2 mise(s) à jour.</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more.</source>
+        <translation>
+            <numerusform>… et %n autre.</numerusform>
+            <numerusform>… et %n autres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Some files could not be imported:</source>
+        <translation>Certains fichiers n’ont pas pu être importés&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved.</source>
+        <translation>La programmation contient des modifications non enregistrées.</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Continuer</translation>
+    </message>
+</context>
+<context>
+    <name>HostPrompts</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ProgramTableModel</name>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Direct</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autre</translation>
+    </message>
+    <message>
+        <source>The file has gone: %1</source>
+        <translation>Le fichier n’existe plus&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Program</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+</context>
+<context>
+    <name>SaveRescue</name>
+    <message>
+        <source>The schedule was not saved. %1
+
+What shall become of your changes?</source>
+        <translation>La programmation n’a pas été enregistrée. %1
+
+Que faire de vos modifications&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Write to a file</source>
+        <translation>Enregistrer dans un fichier</translation>
+    </message>
+    <message>
+        <source>Give up</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Write the schedule to a file</source>
+        <translation>Enregistrer la programmation dans un fichier</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>Programmations (*.json)</translation>
+    </message>
+</context>
+</TS>

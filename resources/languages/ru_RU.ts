@@ -1,0 +1,287 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru_RU">
+<context>
+    <name>SheduleWidgets</name>
+    <message>
+        <source>zhSchedulePlayStr</source>
+        <comment>Widget</comment>
+        <translation>Расписание показа</translation>
+    </message>
+    <message>
+        <source>zhSchedulePlayStrAdd</source>
+        <comment>Widget</comment>
+        <translation>Добавить задание</translation>
+    </message>
+    <message>
+        <source>zhScheduleLoading</source>
+        <comment>Widget</comment>
+        <translation>Загрузка…</translation>
+    </message>
+    <message>
+        <source>zhEnable</source>
+        <comment>Widget</comment>
+        <translation>Запустить</translation>
+    </message>
+    <message>
+        <source>zhNoPlayTask</source>
+        <comment>Widget</comment>
+        <translation>Заданий пока нет. Нажмите «Добавить задание», чтобы начать.</translation>
+    </message>
+    <message>
+        <source>zhSegConflictStr</source>
+        <comment>Widget</comment>
+        <translation>имеют пересекающиеся сроки действия. Измените даты и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>zhPlayTaskStr</source>
+        <comment>Widget</comment>
+        <translation>Задание </translation>
+    </message>
+    <message>
+        <source>zhCancelAct</source>
+        <comment>Widget</comment>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>zhFixAct</source>
+        <comment>Widget</comment>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>zhRefuseAct</source>
+        <comment>Widget</comment>
+        <translation>Отклонить</translation>
+    </message>
+    <message>
+        <source>zhtitleTip</source>
+        <comment>Widget</comment>
+        <translation>Сообщение</translation>
+    </message>
+    <message>
+        <source>zhEffectiveStr</source>
+        <comment>Widget</comment>
+        <translation>Действует </translation>
+    </message>
+    <message>
+        <source>zhFromStr</source>
+        <comment>Widget</comment>
+        <translation>с</translation>
+    </message>
+    <message>
+        <source>zhToStr</source>
+        <comment>Widget</comment>
+        <translation>до</translation>
+    </message>
+    <message>
+        <source>zhCreateCopy</source>
+        <comment>Widget</comment>
+        <translation>Создать копию</translation>
+    </message>
+    <message>
+        <source>szDeleteStr</source>
+        <comment>Widget</comment>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>zhPlanTimeStr</source>
+        <comment>Widget</comment>
+        <translation>№&#xa0;</translation>
+    </message>
+    <message>
+        <source>zhModeStr</source>
+        <comment>Widget</comment>
+        <translation>Режим</translation>
+    </message>
+    <message>
+        <source>zhTimeStr</source>
+        <comment>Widget</comment>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>zhfrequencyStr</source>
+        <comment>Widget</comment>
+        <translation>Раз</translation>
+    </message>
+    <message>
+        <source>szDateStr</source>
+        <comment>Widget</comment>
+        <translation>Дни</translation>
+    </message>
+    <message>
+        <source>zhEndActionStr</source>
+        <comment>Widget</comment>
+        <translation>В конце</translation>
+    </message>
+    <message>
+        <source>zhBlackScreen</source>
+        <comment>Widget</comment>
+        <translation>Чёрный экран</translation>
+    </message>
+    <message>
+        <source>zhFreezeCurrentFrame</source>
+        <comment>Widget</comment>
+        <translation>Стоп-кадр</translation>
+    </message>
+    <message>
+        <source>szEveryDayStr</source>
+        <comment>Widget</comment>
+        <translation>Ежедневно</translation>
+    </message>
+    <message>
+        <source>szMondayStr</source>
+        <comment>Widget</comment>
+        <translation>Пн</translation>
+    </message>
+    <message>
+        <source>szTuesdayStr</source>
+        <comment>Widget</comment>
+        <translation>Вт</translation>
+    </message>
+    <message>
+        <source>szWednesdayStr</source>
+        <comment>Widget</comment>
+        <translation>Ср</translation>
+    </message>
+    <message>
+        <source>szThursdayStr</source>
+        <comment>Widget</comment>
+        <translation>Чт</translation>
+    </message>
+    <message>
+        <source>szFridayStr</source>
+        <comment>Widget</comment>
+        <translation>Пт</translation>
+    </message>
+    <message>
+        <source>szSaturdayStr</source>
+        <comment>Widget</comment>
+        <translation>Сб</translation>
+    </message>
+    <message>
+        <source>szSundayStr</source>
+        <comment>Widget</comment>
+        <translation>Вс</translation>
+    </message>
+    <message>
+        <source>zhconflictStr</source>
+        <comment>Widget</comment>
+        <translation>Накладка</translation>
+    </message>
+    <message>
+        <source>zhnormalStr</source>
+        <comment>Widget</comment>
+        <translation>Норма</translation>
+    </message>
+    <message>
+        <source>szInvalidStr</source>
+        <comment>Widget</comment>
+        <translation> (недействительна)</translation>
+    </message>
+    <message>
+        <source>szProgNullStr</source>
+        <comment>Widget</comment>
+        <translation> (удалена)</translation>
+    </message>
+    <message>
+        <source>zhStartVaildTimeError</source>
+        <comment>Widget</comment>
+        <translation>Начало не может быть позже окончания.</translation>
+    </message>
+    <message>
+        <source>szDeletePlanConfirmStr</source>
+        <comment>Widget</comment>
+        <translation>Удалить этот план показа?</translation>
+    </message>
+    <message>
+        <source>szDeleteTaskConfirmStr</source>
+        <comment>Widget</comment>
+        <translation>Удалить это задание и все его планы?</translation>
+    </message>
+    <message>
+        <source>zhSelectProgramsStr</source>
+        <comment>Widget</comment>
+        <translation>Выбор программ</translation>
+    </message>
+    <message>
+        <source>szProgramLstStr</source>
+        <comment>Widget</comment>
+        <translation>Программы</translation>
+    </message>
+    <message>
+        <source>szPlanLstStr</source>
+        <comment>Widget</comment>
+        <translation>Программы плана</translation>
+    </message>
+    <message>
+        <source>zhCheckNumber</source>
+        <comment>Widget</comment>
+        <translation>№</translation>
+    </message>
+    <message>
+        <source>zhPlayCounts</source>
+        <comment>Widget</comment>
+        <translation>Показы</translation>
+    </message>
+    <message>
+        <source>zhOnlyOne</source>
+        <comment>Widget</comment>
+        <translation>Для перемещения отметьте ровно одну программу.</translation>
+    </message>
+    <message>
+        <source>zhTotalDuration</source>
+        <comment>Widget</comment>
+        <translation>Общая длительность плана: </translation>
+    </message>
+    <message>
+        <source>zhOverTimeTips</source>
+        <comment>Widget</comment>
+        <translation>План длиннее 24 часов. Сократите его.</translation>
+    </message>
+    <message>
+        <source>zhCutCurrentProg</source>
+        <comment>Widget</comment>
+        <translation>Вставить сейчас</translation>
+    </message>
+    <message>
+        <source>zhDelayInsert</source>
+        <comment>Widget</comment>
+        <translation>Вставить позже</translation>
+    </message>
+    <message>
+        <source>zhProgMoveUp</source>
+        <comment>Widget</comment>
+        <translation>Выше</translation>
+    </message>
+    <message>
+        <source>zhProgMoveDown</source>
+        <comment>Widget</comment>
+        <translation>Ниже</translation>
+    </message>
+    <message>
+        <source>zhCutProgWarnning</source>
+        <comment>Widget</comment>
+        <translation>Время показа прошло, вставка невозможна.</translation>
+    </message>
+    <message>
+        <source>zhMinAct</source>
+        <comment>Widget</comment>
+        <translation>Свернуть</translation>
+    </message>
+    <message>
+        <source>zhReductionAct</source>
+        <comment>Widget</comment>
+        <translation>Восстановить</translation>
+    </message>
+    <message>
+        <source>zhMaxAct</source>
+        <comment>Widget</comment>
+        <translation>Развернуть</translation>
+    </message>
+    <message>
+        <source>zhCloseAct</source>
+        <comment>Widget</comment>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+</TS>
