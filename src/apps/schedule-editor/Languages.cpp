@@ -1,13 +1,16 @@
 #include "Languages.h"
 
+#include "LanguageFont.h"
 #include "ProgramSheduleWidgetTranslateManager.h"
 #include "scheduleControlUI.h"
 #include "tstranslate/Translator.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
+#include <QHash>
 #include <QLocale>
 
+#include <algorithm>
 #include <vector>
 
 using namespace trel::mediadispatch;
@@ -37,8 +40,29 @@ Languages::Languages(const QString& folder, scheduleControlUI& editor, QObject* 
 
 QString Languages::nativeName(const QString& name)
 {
+    // The names of countries are for speakers who have to choose between two of a language.
+    static const QHash<QString, QString> known = {
+        {QStringLiteral("de_DE"), QStringLiteral("Deutsch")},
+        {QStringLiteral("en_US"), QStringLiteral("English")},
+        {QStringLiteral("es_ES"), QStringLiteral("Español")},
+        {QStringLiteral("fr_FR"), QStringLiteral("Français")},
+        {QStringLiteral("ja_JP"), QStringLiteral("日本語")},
+        {QStringLiteral("ko_KR"), QStringLiteral("한국어")},
+        {QStringLiteral("pt_BR"), QStringLiteral("Português (Brasil)")},
+        {QStringLiteral("ru_RU"), QStringLiteral("Русский")},
+        {QStringLiteral("zh_CN"), QStringLiteral("简体中文")},
+        {QStringLiteral("zh_TW"), QStringLiteral("繁體中文")},
+    };
+    const auto found = known.constFind(name);
+    if (found != known.constEnd()) {
+        return *found;
+    }
     const QLocale locale(name);
-    return QStringLiteral("%1 (%2)").arg(locale.nativeLanguageName(), locale.nativeCountryName());
+    // A file may have any name.
+    return locale.language() == QLocale::C
+               ? name
+               : QStringLiteral("%1 (%2)").arg(locale.nativeLanguageName(),
+                                               locale.nativeCountryName());
 }
 
 QString Languages::editorTitle()
@@ -56,11 +80,26 @@ QString Languages::startLanguage(const QString& wanted) const
     }
     candidates.append(QStringLiteral("en_US"));
     for (const QString& candidate : candidates) {
-        if (m_names.contains(candidate)) {
-            return candidate;
+        const QString match = bestMatch(candidate);
+        if (!match.isEmpty()) {
+            return match;
         }
     }
     return m_names.value(0);
+}
+
+QString Languages::bestMatch(const QString& candidate) const
+{
+    if (m_names.contains(candidate)) {
+        return candidate;
+    }
+    const QLocale wanted(candidate);
+    const auto isSameLanguage = [&wanted](const QString& name) {
+        const QLocale locale(name);
+        return locale.language() == wanted.language() && locale.script() == wanted.script();
+    };
+    const auto match = std::find_if(m_names.begin(), m_names.end(), isSameLanguage);
+    return wanted.language() == QLocale::C || match == m_names.end() ? QString() : *match;
 }
 
 void Languages::select(const QString& name)
@@ -69,6 +108,7 @@ void Languages::select(const QString& name)
         return;
     }
     m_current = name;
+    QApplication::setFont(languageFont(QApplication::font(), name));
     QCoreApplication::removeTranslator(&m_hostTexts);
     // English is the language that the host is written in; it has no file.
     if (m_hostTexts.load(kHostPrefix + name, m_folder)) {

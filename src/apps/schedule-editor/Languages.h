@@ -29,11 +29,12 @@ public:
     static QString editorTitle();
 
     QString current() const { return m_current; }
-    /// Switches editor and host; a name that no file has leaves the language as it is.
+    /// Switches editor, host and the families of the application's font; a name that no file has
+    /// leaves the language as it is.
     void select(const QString& name);
 
-    /// The language to start in: the wanted one if there is such a file, else the best match for
-    /// the operator's system, else the first.
+    /// The language to start in: the wanted one, else one of the operator's system, else English,
+    /// else the first. The same language of another country will do where there is no better file.
     QString startLanguage(const QString& wanted) const;
 
 signals:
@@ -41,6 +42,9 @@ signals:
     void changed();
 
 private:
+    /// The file for a language, of another country if need be; empty when there is none.
+    QString bestMatch(const QString& candidate) const;
+
     QString m_folder;
     trel::mediadispatch::scheduleControlUI& m_editor;
     QStringList m_names;

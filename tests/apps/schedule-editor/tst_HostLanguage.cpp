@@ -1,0 +1,127 @@
+#include "HostFixture.h"
+#include "LanguageFont.h"
+
+#include <QApplication>
+
+/// Which language the host starts in, what it calls the languages, and the fonts it gives them.
+class tst_HostLanguage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nativeNames_data();
+    void nativeNames();
+    void startLanguage_data();
+    void startLanguage();
+    void fontBeginsWithTheOwnFace_data();
+    void fontBeginsWithTheOwnFace();
+    void fontKeepsItsSize();
+    void selectingGivesTheApplicationTheFont();
+    void anUnknownLanguageKeepsTheFont();
+};
+
+void tst_HostLanguage::nativeNames_data()
+{
+    QTest::addColumn<QString>("name");
+    const auto row = [](const char* language, const char* name) {
+        QTest::newRow(language) << QString::fromUtf8(name);
+    };
+    row("de_DE", "Deutsch");
+    row("en_US", "English");
+    row("es_ES", "Español");
+    row("fr_FR", "Français");
+    row("ja_JP", "日本語");
+    row("ko_KR", "한국어");
+    row("pt_BR", "Português (Brasil)");
+    row("ru_RU", "Русский");
+    row("zh_CN", "简体中文");
+    row("zh_TW", "繁體中文");
+    row("it_IT", "italiano (Italia)");
+    row("house style", "house style");
+}
+
+void tst_HostLanguage::nativeNames()
+{
+    QFETCH(QString, name);
+    QCOMPARE(Languages::nativeName(QString::fromUtf8(QTest::currentDataTag())), name);
+}
+
+void tst_HostLanguage::startLanguage_data()
+{
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char* wanted, const char* expected) {
+        QTest::newRow(wanted) << QString::fromLatin1(expected);
+    };
+    row("fr_FR", "fr_FR");
+    row("de_AT", "de_DE");
+    row("es_MX", "es_ES");
+    row("pt_PT", "pt_BR");
+    row("zh_HK", "zh_TW");
+    row("zh_SG", "zh_CN");
+    row("ja", "ja_JP");
+}
+
+void tst_HostLanguage::startLanguage()
+{
+    QFETCH(QString, expected);
+    const HostFixture fixture;
+    QCOMPARE(fixture.languages.startLanguage(QString::fromLatin1(QTest::currentDataTag())),
+             expected);
+}
+
+void tst_HostLanguage::fontBeginsWithTheOwnFace_data()
+{
+    QTest::addColumn<QString>("face");
+    QTest::newRow("zh_CN") << QStringLiteral("Noto Sans CJK SC");
+    QTest::newRow("zh_TW") << QStringLiteral("Noto Sans CJK TC");
+    QTest::newRow("ja_JP") << QStringLiteral("Noto Sans CJK JP");
+    QTest::newRow("ko_KR") << QStringLiteral("Noto Sans CJK KR");
+    QTest::newRow("fr_FR") << QStringLiteral("Noto Sans CJK KR");
+}
+
+void tst_HostLanguage::fontBeginsWithTheOwnFace()
+{
+    QFETCH(QString, face);
+    const QStringList families =
+        languageFont(QFont(), QString::fromLatin1(QTest::currentDataTag())).families();
+    QStringList shipped = families.filter(QStringLiteral("Noto Sans CJK"));
+    QCOMPARE(shipped.takeFirst(), face);
+    // Names of programs are in any language.
+    QVERIFY(face == QLatin1String("Noto Sans CJK SC") ||
+            shipped.contains(QStringLiteral("Noto Sans CJK SC")));
+    QVERIFY(families.contains(QStringLiteral("Microsoft YaHei")));
+}
+
+void tst_HostLanguage::fontKeepsItsSize()
+{
+    QFont font;
+    font.setPixelSize(17);
+    font.setBold(true);
+    const QFont japanese = languageFont(font, QStringLiteral("ja_JP"));
+    QCOMPARE(japanese.pixelSize(), 17);
+    QVERIFY(japanese.bold());
+}
+
+void tst_HostLanguage::selectingGivesTheApplicationTheFont()
+{
+    HostFixture fixture;
+    fixture.languages.select(QStringLiteral("ja_JP"));
+    QCOMPARE(QApplication::font().families(),
+             languageFont(QFont(), QStringLiteral("ja_JP")).families());
+    QCOMPARE(fixture.editor->font().families(), QApplication::font().families());
+    fixture.languages.select(QStringLiteral("zh_CN"));
+    QCOMPARE(QApplication::font().families(),
+             languageFont(QFont(), QStringLiteral("zh_CN")).families());
+}
+
+void tst_HostLanguage::anUnknownLanguageKeepsTheFont()
+{
+    HostFixture fixture;
+    fixture.languages.select(QStringLiteral("ja_JP"));
+    fixture.languages.select(QStringLiteral("xx_XX"));
+    QCOMPARE(QApplication::font().families(),
+             languageFont(QFont(), QStringLiteral("ja_JP")).families());
+}
+
+QTEST_MAIN(tst_HostLanguage)
+#include "tst_HostLanguage.moc"
