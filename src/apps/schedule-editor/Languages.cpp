@@ -98,7 +98,7 @@ QString Languages::bestMatch(const QString& candidate) const
         const QLocale locale(name);
         return locale.language() == wanted.language() && locale.script() == wanted.script();
     };
-    const auto match = std::find_if(m_names.begin(), m_names.end(), isSameLanguage);
+    auto match = std::find_if(m_names.begin(), m_names.end(), isSameLanguage);
     return wanted.language() == QLocale::C || match == m_names.end() ? QString() : *match;
 }
 

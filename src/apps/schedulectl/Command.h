@@ -35,4 +35,5 @@ struct Command
     std::string_view summary; ///< One line for the list of commands.
     std::string_view help;    ///< What a person should know, in lines of up to 78 columns.
     ExitStatus (*run)(const Invocation& invocation, Console& console);
+    bool hasDatabase = true; ///< Works on a database.
 };

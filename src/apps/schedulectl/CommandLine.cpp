@@ -149,6 +149,8 @@ private:
         const QStringList& arguments = m_line.invocation.arguments;
         if (m_line.invocation.json && !command.hasJson) {
             misuse(QStringLiteral("The command %1 has no option \"--json\".").arg(name));
+        } else if (!m_line.invocation.database.isEmpty() && !command.hasDatabase) {
+            misuse(QStringLiteral("The command %1 has no option \"--database\".").arg(name));
         } else if (arguments.size() < command.leastArguments) {
             misuse(QStringLiteral("The command %1 needs %2.").arg(name, named(command.arguments)));
         } else if (command.mostArguments != Command::kAnyNumber &&

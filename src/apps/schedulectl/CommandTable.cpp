@@ -2,6 +2,7 @@
 
 #include "CatalogueCommands.h"
 #include "ExchangeCommands.h"
+#include "LanguageCommands.h"
 #include "ScheduleCommands.h"
 
 const std::vector<Command>& allCommands()
@@ -64,6 +65,24 @@ taken, since it can be put right in the editor; "schedulectl check" finds them.
 Entries of programs that the catalogue does not have become invalid, so import
 the programs first, in the order of their indexes.)",
          runImportSchedule},
+        {"check-language", "FILE", 1, 1, true, "Find what is wrong in a translation of the editor",
+         R"(Looks at the texts that a translator has written for the editor. FILE is a
+source file of the Linguist (.ts) or the compiled file that the editor loads
+(.qm). Listed are
+  - texts that are missing, empty, unfinished or there more than once,
+  - texts that the editor does not know,
+  - days, and entries of the chooser's menu, that are called the same, since the
+    editor tells them apart by their texts,
+  - characters that the editor takes for something else,
+  - captions that are too long for their cells.
+
+No font is loaded. Lengths are worked out from the letter widths of the font
+that the editor is shipped with, on the safe side: what passes here is not cut.
+Only captions in cells of a fixed size are looked at; the window gives way to
+others.
+
+The exit status is 0 when nothing is listed, and 1 otherwise.)",
+         runCheckLanguage, false},
     };
     return commands;
 }

@@ -69,7 +69,9 @@ QString commandHelp(const Command& command)
         command.arguments.empty() ? QString() : QLatin1Char(' ') + text(command.arguments);
     QString help = QStringLiteral("Usage: schedulectl %1 [OPTION...]%2\n\n%3\n\nOptions:\n")
                        .arg(text(command.name), arguments, text(command.help));
-    help += databaseOption();
+    if (command.hasDatabase) {
+        help += databaseOption();
+    }
     if (command.hasJson) {
         help += jsonOption();
     }

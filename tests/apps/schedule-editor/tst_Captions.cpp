@@ -2,6 +2,8 @@
 #include "LanguageFont.h"
 #include "PlanColumns.h"
 #include "ProgramSheduleWidgetTranslateManager.h"
+#include "schedulectl/EditorTexts.h"
+#include "schedulectl/TextWidth.h"
 #include "support/ChooserAnswer.h"
 #include "support/PlatformNotes.h"
 #include "support/SampleSchedule.h"
@@ -21,6 +23,7 @@
 #include <QTableView>
 
 #include <algorithm>
+#include <map>
 
 using namespace trel::mediadispatch;
 
@@ -45,6 +48,9 @@ private slots:
     void chooser();
     void prompts_data() { languageRows(); }
     void prompts();
+    void lengthsWithoutAFontAreOnTheSafeSide_data() { languageRows(); }
+    void lengthsWithoutAFontAreOnTheSafeSide();
+    void roomsWithoutAWindowAreThoseOfTheWindow();
 
 private:
     static void languageRows();
@@ -106,6 +112,7 @@ int roomInCell(const QTableView& table, const QModelIndex& index)
     option.rect = table.visualRect(index);
     option.text = index.data().toString();
     option.features = QStyleOptionViewItem::HasDisplay;
+    option.showDecorationSelected = true; // All of the room, also that a short text leaves over.
     const int margin =
         table.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, &table) + 1;
     return table.style()->subElementRect(QStyle::SE_ItemViewItemText, &option, &table).width() -
@@ -385,6 +392,71 @@ void tst_Captions::prompts()
     QCOMPARE(texts, (QStringList{editorText("szDeletePlanConfirmStr"),
                                  editorText("szDeleteTaskConfirmStr")}));
     QCOMPARE(cuts.text(), QString());
+}
+
+void tst_Captions::lengthsWithoutAFontAreOnTheSafeSide()
+{
+    const HostFixture fixture;
+    tessark::trans::Translator translator;
+    translator.load(QStringLiteral(LANGUAGES "/%1.qm").arg(language()));
+    translator.switchLanguage(language());
+    QFont font;
+    font.setPixelSize(12);
+    const QFontMetrics metrics(languageFont(font, language()));
+    for (const EditorText& known : editorTexts()) {
+        const QString text = tessark::trans::translate(translator, kTextGroup, kTextContext,
+                                                       QString::fromLatin1(known.key));
+        const int measured = metrics.horizontalAdvance(text);
+        const int told = textWidth(text);
+        const bool isNear = known.room == 0 || told <= measured + 2;
+        QVERIFY2(told >= measured && isNear, qPrintable(QStringLiteral("%1: %2 px, told as %3")
+                                                            .arg(QLatin1String(known.key))
+                                                            .arg(measured)
+                                                            .arg(told)));
+    }
+}
+
+void tst_Captions::roomsWithoutAWindowAreThoseOfTheWindow()
+{
+    CardFixture fixture;
+    fixture.showCard();
+    const auto cell = [&fixture](PlanColumn column) {
+        return roomInCell(fixture.table(), fixture.table().model()->index(0, column));
+    };
+    const int mode = roomInBox(fixture.cellEditor<QComboBox>(0, ModeColumn));
+    const int endAction = roomInBox(fixture.cellEditor<QComboBox>(0, EndActionColumn));
+    const int state = fixture.cellEditor<QLabel>(0, StateColumn).contentsRect().width();
+    const int day = roomInLine(*fixture.cellEditor<QComboBox>(0, WeeksColumn).lineEdit());
+    std::map<QString, int> rooms = {
+        {QStringLiteral("zhPlanTimeStr"), cell(TitleColumn)},
+        {QStringLiteral("zhModeStr"), cell(ModeCaptionColumn)},
+        {QStringLiteral("zhTimeStr"), mode},
+        {QStringLiteral("zhFromStr"), cell(StartTimeCaptionColumn)},
+        {QStringLiteral("zhToStr"), cell(EndTimeCaptionColumn)},
+        {QStringLiteral("zhfrequencyStr"), qMin(mode, cell(TimesCaptionColumn))},
+        {QStringLiteral("szDateStr"), cell(WeeksCaptionColumn)},
+        {QStringLiteral("zhEndActionStr"), cell(EndActionCaptionColumn)},
+        {QStringLiteral("zhBlackScreen"), endAction},
+        {QStringLiteral("zhFreezeCurrentFrame"), endAction},
+        {QStringLiteral("zhconflictStr"), state},
+        {QStringLiteral("zhnormalStr"), state},
+        // The sections of the chooser's headers.
+        {QStringLiteral("zhCheckNumber"), 50},
+        {QStringLiteral("szProgramLstStr"), 110},
+        {QStringLiteral("zhPlayCounts"), 94},
+    };
+    const QStringList days = comparedTexts().front().keys;
+    for (const QString& key : days) {
+        rooms[key] = day;
+    }
+    for (const EditorText& known : editorTexts()) {
+        const auto room = rooms.find(QString::fromLatin1(known.key));
+        const int expected = room == rooms.end() ? 0 : room->second;
+        QVERIFY2(known.room == expected, qPrintable(QStringLiteral("%1: %2 px, not %3")
+                                                        .arg(QLatin1String(known.key))
+                                                        .arg(expected)
+                                                        .arg(known.room)));
+    }
 }
 
 QTEST_MAIN(tst_Captions)

@@ -30,10 +30,14 @@ namespace {
 
 const QStringList& commandNames()
 {
-    static const QStringList names = {
-        QStringLiteral("import"),         QStringLiteral("programs"), QStringLiteral("show"),
-        QStringLiteral("remove-program"), QStringLiteral("check"),    QStringLiteral("export"),
-        QStringLiteral("import-schedule")};
+    static const QStringList names = {QStringLiteral("import"),
+                                      QStringLiteral("programs"),
+                                      QStringLiteral("show"),
+                                      QStringLiteral("remove-program"),
+                                      QStringLiteral("check"),
+                                      QStringLiteral("export"),
+                                      QStringLiteral("import-schedule"),
+                                      QStringLiteral("check-language")};
     return names;
 }
 
@@ -86,7 +90,8 @@ void tst_CtlUse::commandHelp()
     QCOMPARE(help.status, 0);
     QCOMPARE(help.err, QString());
     QVERIFY(help.text().startsWith(QStringLiteral("Usage: schedulectl %1 [OPTION...]").arg(name)));
-    QVERIFY(help.text().contains(QStringLiteral("--database FILE")));
+    QCOMPARE(help.text().contains(QStringLiteral("--database FILE")),
+             name != QLatin1String("check-language"));
     for (const QString& line : help.lines()) {
         // The path of the default database is as long as it is.
         QVERIFY2(line.size() <= 80 || line.contains(QStringLiteral("schedule.db")),
@@ -135,6 +140,11 @@ void tst_CtlUse::misuseIsAnsweredWithAHint_data()
         "The command \"import-schedule\" does not know what to do with \"b\".", "import-schedule ");
     row("import-schedule --json a", "The command \"import-schedule\" has no option \"--json\".",
         "import-schedule ");
+    row("check-language", "The command \"check-language\" needs FILE.", "check-language ");
+    row("check-language a b", "The command \"check-language\" does not know what to do with \"b\".",
+        "check-language ");
+    row("check-language a --database b",
+        "The command \"check-language\" has no option \"--database\".", "check-language ");
     row("remove-program", "The command \"remove-program\" needs INDEX.", "remove-program ");
     row("remove-program -1", "There is no option \"-1\".", "remove-program ");
     row("remove-program --json 1", "The command \"remove-program\" has no option \"--json\".",

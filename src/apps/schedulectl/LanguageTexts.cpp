@@ -1,0 +1,103 @@
+#include "LanguageTexts.h"
+
+#include "CompiledTexts.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QXmlStreamReader>
+
+namespace {
+
+/// Reads the messages of a source file.
+class SourceReader
+{
+public:
+    explicit SourceReader(QIODevice& device)
+        : m_xml(&device)
+    {}
+
+    LanguageTexts read()
+    {
+        if (!m_xml.readNextStartElement() || m_xml.name() != QLatin1String("TS")) {
+            m_result.error = QStringLiteral("is no language file");
+            return m_result;
+        }
+        while (m_xml.readNextStartElement()) {
+            if (m_xml.name() == QLatin1String("context")) {
+                readGroup();
+            } else {
+                m_xml.skipCurrentElement();
+            }
+        }
+        if (m_xml.hasError()) {
+            m_result.error = QStringLiteral("is damaged in line %1: %2")
+                                 .arg(m_xml.lineNumber())
+                                 .arg(m_xml.errorString());
+        }
+        return m_result;
+    }
+
+private:
+    void readGroup()
+    {
+        QString group;
+        while (m_xml.readNextStartElement()) {
+            if (m_xml.name() == QLatin1String("name")) {
+                group = m_xml.readElementText();
+            } else if (m_xml.name() == QLatin1String("message")) {
+                readMessage(group);
+            } else {
+                m_xml.skipCurrentElement();
+            }
+        }
+    }
+
+    void readMessage(const QString& group)
+    {
+        LanguageText text;
+        text.group = group;
+        bool isInUse = true;
+        while (m_xml.readNextStartElement()) {
+            if (m_xml.name() == QLatin1String("source")) {
+                text.key = m_xml.readElementText();
+            } else if (m_xml.name() == QLatin1String("comment")) {
+                text.context = m_xml.readElementText();
+            } else if (m_xml.name() == QLatin1String("translation")) {
+                const QStringRef type = m_xml.attributes().value(QLatin1String("type"));
+                isInUse = type != QLatin1String("obsolete") && type != QLatin1String("vanished");
+                text.isFinished = type != QLatin1String("unfinished");
+                text.text = m_xml.readElementText(QXmlStreamReader::IncludeChildElements);
+            } else {
+                m_xml.skipCurrentElement();
+            }
+        }
+        // What the Linguist keeps of former versions does not reach the compiled file.
+        if (isInUse) {
+            m_result.texts.push_back(text);
+        }
+    }
+
+    QXmlStreamReader m_xml;
+    LanguageTexts m_result;
+};
+
+} // namespace
+
+LanguageTexts readLanguageTexts(const QString& file)
+{
+    LanguageTexts result;
+    QFile source(file);
+    // A pipe or a device would block, or never end.
+    if (!QFileInfo::exists(file)) {
+        result.error = QStringLiteral("does not exist");
+    } else if (!QFileInfo(file).isFile()) {
+        result.error = QStringLiteral("is no language file");
+    } else if (!source.open(QIODevice::ReadOnly)) {
+        result.error = QStringLiteral("cannot be read: %1").arg(source.errorString());
+    } else if (isCompiledLanguage(source.peek(kCompiledMagicSize))) {
+        return readCompiledTexts(file);
+    } else {
+        return SourceReader(source).read();
+    }
+    return result;
+}
