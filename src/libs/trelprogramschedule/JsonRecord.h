@@ -1,15 +1,31 @@
 #pragma once
 
-#include "JsonReader.h"
-#include "JsonWriter.h"
+#include "JsonTree.h"
 
-#include <QString>
-
+#include <algorithm>
 #include <bitset>
-#include <cstddef>
-#include <string_view>
+#include <iterator>
 
 namespace trel::mediadispatch {
+
+/// Why a value is not taken. Thrown while a record is read; whoever holds the tree catches it.
+struct JsonRefusal
+{
+    const JsonValue* value; ///< In the tree that is read.
+    QString reason;
+};
+
+[[noreturn]] void refuse(const JsonValue& value, const QString& reason);
+
+/// Refuses an object that lacks a member.
+[[noreturn]] void refuseMissing(const JsonValue& object, std::string_view name);
+
+/// Refuses a value of another kind, with a name for what belongs there.
+void expect(const JsonValue& value, JsonValue::Kind kind, const QString& expected);
+void expect(const JsonValue& value, JsonValue::Kind kind);
+
+/// A text from the JSON for people to read, in quotes.
+QString quoted(std::string_view utf8);
 
 /// One member of a record in JSON: its name and both directions. A record is described by one table
 /// of these, so that what is written and what is read cannot come apart.
@@ -17,90 +33,58 @@ template <typename Record>
 struct JsonMember
 {
     std::string_view name;
-    void (*write)(JsonWriter& writer, const Record& record);
-    bool (*read)(JsonReader& reader, Record& record);
+    JsonValue (*write)(const Record& record);
+    void (*read)(const JsonValue& value, Record& record);
 };
 
-inline QString quotedName(std::string_view name)
-{
-    return QStringLiteral("\"%1\"").arg(
-        QString::fromUtf8(name.data(), static_cast<int>(name.size())));
-}
+/// A value that is to be printed.
+JsonValue jsonValue(JsonValue::Kind kind, std::string text = {});
 
-/// Refuses the member whose name was read last because it stands there a second time.
-inline bool failTwice(JsonReader& reader, std::string_view name)
-{
-    return reader.fail(
-        QStringLiteral("the member %1 stands here for the second time").arg(quotedName(name)));
-}
+void addMember(JsonValue& object, std::string_view name, JsonValue value);
 
-/// Refuses the member whose name was read last because nobody knows it.
-inline bool failUnknown(JsonReader& reader, std::string_view name)
-{
-    return reader.fail(QStringLiteral("there is no member %1 here").arg(quotedName(name)));
-}
-
-/// Refuses the object that begins at a mark because it lacks a member.
-inline bool failMissing(JsonReader& reader, std::string_view name, std::size_t mark)
-{
-    return reader.fail(QStringLiteral("the member %1 is missing").arg(quotedName(name)), mark);
-}
-
-/// Writes the members in the order of the table, inside an object that the caller begins and ends.
+/// Writes the members in the order of the table.
 template <typename Record, std::size_t Count>
-void writeMembers(JsonWriter& writer, const Record& record,
-                  const JsonMember<Record> (&members)[Count])
+JsonValue writeRecord(const Record& record, const JsonMember<Record> (&members)[Count])
 {
+    JsonValue object = jsonValue(JsonValue::Kind::Object);
+    object.children.reserve(Count);
     for (const JsonMember<Record>& member : members) {
-        writer.name(member.name);
-        member.write(writer, record);
+        addMember(object, member.name, member.write(record));
     }
+    return object;
 }
 
-/// Reads an object with exactly the members of the table, in any order. A name that the table lacks
-/// goes to onOther, which reads the value or refuses it.
-template <typename Record, std::size_t Count, typename OnOther>
-bool readRecord(JsonReader& reader, Record& record, const JsonMember<Record> (&members)[Count],
-                OnOther&& onOther)
-{
-    std::bitset<Count> seen;
-    // Most files keep the order of the table, so each search begins behind the last find.
-    std::size_t next = 0;
-    const auto find = [&](std::string_view name) {
-        for (std::size_t tried = 0; tried < Count; ++tried) {
-            const std::size_t at = (next + tried) % Count;
-            if (members[at].name == name) {
-                return at;
-            }
-        }
-        return Count;
-    };
-    const std::size_t start = reader.mark();
-    const bool read = reader.readObject([&](std::string_view name) {
-        const std::size_t found = find(name);
-        if (found == Count) {
-            return onOther(name);
-        }
-        if (seen.test(found)) {
-            return failTwice(reader, name);
-        }
-        seen.set(found);
-        next = found + 1;
-        return members[found].read(reader, record);
-    });
-    for (std::size_t at = 0; read && at < Count; ++at) {
-        if (!seen.test(at)) {
-            return failMissing(reader, members[at].name, start);
-        }
-    }
-    return read;
-}
-
+/// Reads an object with exactly the members of the table, in any order, and perhaps an optional one
+/// that is the caller's to read.
 template <typename Record, std::size_t Count>
-bool readRecord(JsonReader& reader, Record& record, const JsonMember<Record> (&members)[Count])
+void readRecord(const JsonValue& object, Record& record, const JsonMember<Record> (&members)[Count],
+                std::string_view optional = {})
 {
-    return readRecord(reader, record, members,
-                      [&reader](std::string_view name) { return failUnknown(reader, name); });
+    expect(object, JsonValue::Kind::Object);
+    std::bitset<Count + 1> seen;
+    for (const JsonValue& child : object.children) {
+        const auto named = [&child](const JsonMember<Record>& member) {
+            return member.name == child.name;
+        };
+        const auto at = static_cast<std::size_t>(std::distance(
+            std::begin(members), std::find_if(std::begin(members), std::end(members), named)));
+        if (at == Count && (optional.empty() || child.name != optional)) {
+            refuse(child, QStringLiteral("there is no member %1 here").arg(quoted(child.name)));
+        }
+        if (seen.test(at)) {
+            refuse(child, QStringLiteral("the member %1 stands here for the second time")
+                              .arg(quoted(child.name)));
+        }
+        seen.set(at);
+        if (at < Count) {
+            members[at].read(child, record);
+        }
+    }
+    for (std::size_t at = 0; at < Count; ++at) {
+        if (!seen.test(at)) {
+            refuseMissing(object, members[at].name);
+        }
+    }
 }
 
 } // namespace trel::mediadispatch

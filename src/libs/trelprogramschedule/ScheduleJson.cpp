@@ -1,19 +1,19 @@
 #include "ScheduleJson.h"
 
 #include "JsonRecord.h"
-#include "Utf8.h"
 
 #include <QDir>
 #include <QSaveFile>
+#include <QTextCodec>
 
 #include <charconv>
-#include <optional>
 
 namespace trel::mediadispatch {
 
 namespace {
 
-using Layout = JsonWriter::Layout;
+using Kind = JsonValue::Kind;
+using Schedule = std::map<int, PlayTask>;
 
 constexpr std::string_view kFormatName = "trel-schedule";
 constexpr int kVersion = 1;
@@ -22,28 +22,37 @@ constexpr std::string_view kFormat = "format";
 constexpr std::string_view kFormatVersion = "version";
 constexpr std::string_view kTasks = "tasks";
 constexpr std::string_view kTaskKey = "key";
-constexpr std::string_view kBase64 = "base64";
 
 // ---- numbers and words ----
 
-void writeValue(JsonWriter& writer, int value)
+JsonValue writeValue(int number)
 {
-    writer.number(value);
+    return jsonValue(Kind::Number, std::to_string(number));
 }
 
-bool readValue(JsonReader& reader, int& value)
+void readValue(const JsonValue& value, int& number)
 {
-    return reader.readInt(value);
+    expect(value, Kind::Number, QStringLiteral("a whole number"));
+    const std::string& digits = value.text;
+    if (digits.find_first_of(".eE") != std::string::npos) {
+        refuse(value, QStringLiteral("%1 is not written as a whole number")
+                          .arg(QString::fromStdString(digits)));
+    }
+    if (std::from_chars(digits.data(), digits.data() + digits.size(), number).ec != std::errc()) {
+        refuse(value,
+               QStringLiteral("%1 does not fit into 32 bits").arg(QString::fromStdString(digits)));
+    }
 }
 
-void writeValue(JsonWriter& writer, bool value)
+JsonValue writeValue(bool isTrue)
 {
-    writer.boolean(value);
+    return jsonValue(Kind::Boolean, isTrue ? "true" : "false");
 }
 
-bool readValue(JsonReader& reader, bool& value)
+void readValue(const JsonValue& value, bool& isTrue)
 {
-    return reader.readBoolean(value);
+    expect(value, Kind::Boolean);
+    isTrue = value.text == "true";
 }
 
 /// A number that has a name.
@@ -58,14 +67,14 @@ constexpr Word kEndActionWords[] = {{BlackScreen, "black"}, {FreezeCurrentFrame,
 
 /// Writes the word for a number, or the number itself when there is none.
 template <std::size_t Count>
-void writeWord(JsonWriter& writer, int value, const Word (&words)[Count])
+JsonValue writeWord(int number, const Word (&words)[Count])
 {
     for (const Word& word : words) {
-        if (word.value == value) {
-            return writer.text(word.text);
+        if (word.value == number) {
+            return jsonValue(Kind::Text, std::string(word.text));
         }
     }
-    writer.number(value);
+    return writeValue(number);
 }
 
 /// What may stand for the number, for people to read.
@@ -74,132 +83,122 @@ QString knownWords(const Word (&words)[Count])
 {
     QStringList known;
     for (const Word& word : words) {
-        known.append(quotedName(word.text));
+        known.append(quoted(word.text));
     }
     return known.join(QStringLiteral(", ")) + QStringLiteral(" or a number");
 }
 
 template <std::size_t Count>
-bool readWord(JsonReader& reader, int& value, const Word (&words)[Count])
+void readWord(const JsonValue& value, int& number, const Word (&words)[Count])
 {
-    if (reader.nextKind() == JsonReader::Kind::Number) {
-        return reader.readInt(value);
-    }
-    if (reader.nextKind() != JsonReader::Kind::Text) {
-        return reader.failKind(knownWords(words));
-    }
-    std::string text;
-    if (!reader.readText(text)) {
-        return false;
+    if (value.kind == Kind::Number) {
+        return readValue(value, number);
     }
     for (const Word& word : words) {
-        if (word.text == text) {
-            value = word.value;
-            return true;
+        if (value.kind == Kind::Text && value.text == word.text) {
+            number = word.value;
+            return;
         }
     }
-    return reader.fail(
-        QStringLiteral("%1 is expected here, not %2").arg(knownWords(words), quotedName(text)));
+    expect(value, Kind::Text, knownWords(words));
+    refuse(
+        value,
+        QStringLiteral("%1 is expected here, not %2").arg(knownWords(words), quoted(value.text)));
 }
 
 // ---- texts ----
 
+bool isUtf8(const std::string& text)
+{
+    constexpr int kMibOfUtf8 = 106;
+    static const QTextCodec* const codec = QTextCodec::codecForMib(kMibOfUtf8);
+    QTextCodec::ConverterState state;
+    codec->toUnicode(text.data(), static_cast<int>(text.size()), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+JsonValue writeBase64(const std::string& text)
+{
+    return jsonValue(Kind::Text, QByteArray::fromStdString(text).toBase64().toStdString());
+}
+
+void readBase64(const JsonValue& value, std::string& text)
+{
+    expect(value, Kind::Text);
+    const auto bytes = QByteArray::fromBase64Encoding(QByteArray::fromStdString(value.text),
+                                                      QByteArray::AbortOnBase64DecodingErrors);
+    if (!bytes) {
+        refuse(value, QStringLiteral("this text is not in Base64"));
+    }
+    text = bytes.decoded.toStdString();
+}
+
 /// A text that is no UTF-8 could not stand in JSON; its bytes travel in an object instead.
-void writeValue(JsonWriter& writer, const std::string& text)
+constexpr JsonMember<std::string> kEncodedTextMembers[] = {{"base64", writeBase64, readBase64}};
+
+JsonValue writeValue(const std::string& text)
 {
-    if (isUtf8(text)) {
-        return writer.text(text);
-    }
-    const QByteArray bytes = QByteArray::fromStdString(text).toBase64();
-    writer.beginObject(Layout::OneLine);
-    writer.name(kBase64);
-    writer.text({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-    writer.end();
+    return isUtf8(text) ? jsonValue(Kind::Text, text) : writeRecord(text, kEncodedTextMembers);
 }
 
-struct EncodedText
+void readValue(const JsonValue& value, std::string& text)
 {
-    std::string bytes;
-};
-
-bool readBase64(JsonReader& reader, EncodedText& text)
-{
-    std::string encoded;
-    if (!reader.readText(encoded)) {
-        return false;
+    if (value.kind == Kind::Object) {
+        return readRecord(value, text, kEncodedTextMembers);
     }
-    const auto decoded = QByteArray::fromBase64Encoding(QByteArray::fromStdString(encoded),
-                                                        QByteArray::AbortOnBase64DecodingErrors);
-    text.bytes = decoded.decoded.toStdString();
-    return decoded || reader.fail(QStringLiteral("this text is not in Base64"));
-}
-
-constexpr JsonMember<EncodedText> kEncodedTextMembers[] = {{kBase64, nullptr, readBase64}};
-
-bool readValue(JsonReader& reader, std::string& text)
-{
-    if (reader.nextKind() != JsonReader::Kind::Object) {
-        return reader.readText(text);
-    }
-    EncodedText encoded;
-    if (!readRecord(reader, encoded, kEncodedTextMembers)) {
-        return false;
-    }
-    text = std::move(encoded.bytes);
-    return true;
+    expect(value, Kind::Text);
+    text = value.text;
 }
 
 // ---- 64-bit numbers: many readers of JSON keep 53 bits of a number, but all of a text ----
 
-void writeValue(JsonWriter& writer, std::int64_t value)
+JsonValue writeValue(std::int64_t number)
 {
-    writer.text(std::to_string(value));
+    return jsonValue(Kind::Text, std::to_string(number));
 }
 
-bool readValue(JsonReader& reader, std::int64_t& value)
+void readValue(const JsonValue& value, std::int64_t& number)
 {
-    std::string digits;
-    if (reader.nextKind() != JsonReader::Kind::Text) {
-        return reader.failKind(QStringLiteral("a whole number written as a text"));
-    }
-    if (!reader.readText(digits)) {
-        return false;
-    }
-    const char* const end = digits.data() + digits.size();
-    const auto [last, error] = std::from_chars(digits.data(), end, value);
+    expect(value, Kind::Text, QStringLiteral("a whole number written as a text"));
+    const char* const end = value.text.data() + value.text.size();
+    const auto [last, error] = std::from_chars(value.text.data(), end, number);
     if (error == std::errc::result_out_of_range) {
-        return reader.fail(QStringLiteral("%1 does not fit into 64 bits").arg(quotedName(digits)));
+        refuse(value, QStringLiteral("%1 does not fit into 64 bits").arg(quoted(value.text)));
     }
     if (error != std::errc() || last != end) {
-        return reader.fail(QStringLiteral("%1 is no whole number").arg(quotedName(digits)));
+        refuse(value, QStringLiteral("%1 is no whole number").arg(quoted(value.text)));
     }
-    return true;
 }
 
 // ---- lists ----
 
-void writeValue(JsonWriter& writer, const struProgInfo& entry);
-bool readValue(JsonReader& reader, struProgInfo& entry);
-void writeValue(JsonWriter& writer, const PlayPlan& plan);
-bool readValue(JsonReader& reader, PlayPlan& plan);
+JsonValue writeValue(const struProgInfo& entry);
+void readValue(const JsonValue& value, struProgInfo& entry);
+JsonValue writeValue(const PlayPlan& plan);
+void readValue(const JsonValue& value, PlayPlan& plan);
 
-template <typename Value>
-void writeValue(JsonWriter& writer, const std::vector<Value>& values)
+template <typename Element>
+JsonValue writeValue(const std::vector<Element>& elements)
 {
-    writer.beginArray();
-    for (const Value& value : values) {
-        writeValue(writer, value);
+    JsonValue array = jsonValue(Kind::Array);
+    array.children.reserve(elements.size());
+    for (const Element& element : elements) {
+        array.children.push_back(writeValue(element));
     }
-    writer.end();
+    return array;
 }
 
-template <typename Value>
-bool readValue(JsonReader& reader, std::vector<Value>& values)
+template <typename Element>
+void readValue(const JsonValue& array, std::vector<Element>& elements)
 {
-    return reader.readArray([&] { return readValue(reader, values.emplace_back()); });
+    expect(array, Kind::Array);
+    elements.reserve(array.children.size());
+    for (const JsonValue& child : array.children) {
+        readValue(child, elements.emplace_back());
+    }
 }
 
-// ---- records ----
+// ---- the records of a schedule ----
 
 template <typename Record, typename Value>
 Record recordOf(Value Record::*);
@@ -212,9 +211,8 @@ template <auto Field>
 constexpr JsonMember<RecordOf<Field>> field(std::string_view name)
 {
     using Record = RecordOf<Field>;
-    return {name,
-            [](JsonWriter& writer, const Record& record) { writeValue(writer, record.*Field); },
-            [](JsonReader& reader, Record& record) { return readValue(reader, record.*Field); }};
+    return {name, [](const Record& record) { return writeValue(record.*Field); },
+            [](const JsonValue& value, Record& record) { readValue(value, record.*Field); }};
 }
 
 /// A field whose numbers have words.
@@ -222,10 +220,8 @@ template <auto Field, const auto& Words>
 constexpr JsonMember<RecordOf<Field>> wordField(std::string_view name)
 {
     using Record = RecordOf<Field>;
-    return {
-        name,
-        [](JsonWriter& writer, const Record& record) { writeWord(writer, record.*Field, Words); },
-        [](JsonReader& reader, Record& record) { return readWord(reader, record.*Field, Words); }};
+    return {name, [](const Record& record) { return writeWord(record.*Field, Words); },
+            [](const JsonValue& value, Record& record) { readWord(value, record.*Field, Words); }};
 }
 
 constexpr JsonMember<struProgInfo> kEntryMembers[] = {
@@ -260,199 +256,151 @@ constexpr JsonMember<PlayTask> kTaskMembers[] = {
     field<&PlayTask::plans>("plans"),
 };
 
-void writeValue(JsonWriter& writer, const struProgInfo& entry)
+JsonValue writeValue(const struProgInfo& entry)
 {
-    writer.beginObject(Layout::OneLine);
-    writeMembers(writer, entry, kEntryMembers);
-    writer.end();
+    return writeRecord(entry, kEntryMembers);
 }
 
-bool readValue(JsonReader& reader, struProgInfo& entry)
+void readValue(const JsonValue& value, struProgInfo& entry)
 {
-    return readRecord(reader, entry, kEntryMembers);
+    readRecord(value, entry, kEntryMembers);
 }
 
-void writeValue(JsonWriter& writer, const PlayPlan& plan)
+JsonValue writeValue(const PlayPlan& plan)
 {
-    writer.beginObject();
-    writeMembers(writer, plan, kPlanMembers);
-    writer.end();
+    return writeRecord(plan, kPlanMembers);
 }
 
-bool readValue(JsonReader& reader, PlayPlan& plan)
+void readValue(const JsonValue& value, PlayPlan& plan)
 {
-    return readRecord(reader, plan, kPlanMembers);
+    readRecord(value, plan, kPlanMembers);
 }
 
 /// A key that differs from the task's id is written down, so that reading refuses it by name
 /// instead of losing one of the two.
-void writeTask(JsonWriter& writer, int key, const PlayTask& task)
+JsonValue writeTasks(const Schedule& tasks)
 {
-    writer.beginObject();
-    writeMembers(writer, task, kTaskMembers);
-    if (key != task.id) {
-        writer.name(kTaskKey);
-        writer.number(key);
+    JsonValue array = jsonValue(Kind::Array);
+    array.children.reserve(tasks.size());
+    for (const auto& [key, task] : tasks) {
+        JsonValue& written = array.children.emplace_back(writeRecord(task, kTaskMembers));
+        if (key != task.id) {
+            addMember(written, kTaskKey, writeValue(key));
+        }
     }
-    writer.end();
+    return array;
 }
 
-bool readTask(JsonReader& reader, PlayTask& task)
+PlayTask readTask(const JsonValue& value)
 {
-    std::optional<int> key;
-    const std::size_t start = reader.mark();
-    const bool read = readRecord(reader, task, kTaskMembers, [&](std::string_view name) {
-        if (name != kTaskKey) {
-            return failUnknown(reader, name);
+    PlayTask task;
+    readRecord(value, task, kTaskMembers, kTaskKey);
+    if (const JsonValue* const member = value.member(kTaskKey)) {
+        int key = 0;
+        readValue(*member, key);
+        if (key != task.id) {
+            refuse(value, QStringLiteral("the key %1 is not the task's id, which is %2")
+                              .arg(key)
+                              .arg(task.id));
         }
-        return key ? failTwice(reader, name) : reader.readInt(key.emplace());
-    });
-    if (read && key && *key != task.id) {
-        return reader.fail(
-            QStringLiteral("the key %1 is not the task's id, which is %2").arg(*key).arg(task.id),
-            start);
     }
-    return read;
+    return task;
+}
+
+void readTasks(const JsonValue& array, Schedule& tasks)
+{
+    expect(array, Kind::Array);
+    std::map<int, std::size_t> places;
+    for (std::size_t place = 0; place < array.children.size(); ++place) {
+        PlayTask task = readTask(array.children[place]);
+        const int id = task.id;
+        const auto [known, isNew] = places.emplace(id, place);
+        if (!isNew) {
+            refuse(array.children[place],
+                   QStringLiteral("the id %1 is the one of tasks[%2] already")
+                       .arg(id)
+                       .arg(known->second));
+        }
+        tasks.emplace_hint(tasks.end(), id, std::move(task));
+    }
 }
 
 // ---- the file ----
 
-/// The tasks by their ids, and where each was met first.
-struct ReadTasks
+void readFormat(const JsonValue& value, Schedule&)
 {
-    std::map<int, PlayTask> tasks;
-    std::map<int, std::size_t> places;
-};
-
-bool readTasks(JsonReader& reader, ReadTasks& read)
-{
-    std::size_t place = 0;
-    return reader.readArray([&] {
-        PlayTask task;
-        const std::size_t start = reader.mark();
-        if (!readTask(reader, task)) {
-            return false;
-        }
-        const int id = task.id;
-        const auto [known, isNew] = read.places.emplace(id, place);
-        if (!isNew) {
-            return reader.fail(QStringLiteral("the id %1 is the one of tasks[%2] already")
-                                   .arg(id)
-                                   .arg(known->second),
-                               start);
-        }
-        ++place;
-        read.tasks.emplace_hint(read.tasks.end(), id, std::move(task));
-        return true;
-    });
+    expect(value, Kind::Text);
+    if (value.text != kFormatName) {
+        refuse(value,
+               QStringLiteral("this is %1, not %2").arg(quoted(value.text), quoted(kFormatName)));
+    }
 }
 
-/// What the top object says of itself. Read before everything else and wherever it stands, so that
-/// a file of another kind or a newer version is not blamed for members that nobody here knows.
-struct Heading
+void readVersion(const JsonValue& value, Schedule&)
 {
-    bool isObject = false;
-    std::optional<std::string> format;
-    std::optional<int> version;
-};
-
-/// Checks that all of the text is JSON, and takes the heading from it.
-bool readHeading(JsonReader& reader, Heading& heading)
-{
-    heading.isObject = reader.nextKind() == JsonReader::Kind::Object;
-    if (!heading.isObject) {
-        return reader.skipValue() && reader.readEnd();
-    }
-    const bool read = reader.readObject([&](std::string_view name) {
-        if (name == kFormat && !heading.format) {
-            return reader.readText(heading.format.emplace());
-        }
-        if (name == kFormatVersion && !heading.version) {
-            return reader.readInt(heading.version.emplace());
-        }
-        return reader.skipValue();
-    });
-    return read && reader.readEnd();
-}
-
-/// Why a file with this heading is not read; empty when it is.
-QString refusal(const Heading& heading)
-{
-    if (!heading.isObject) {
-        return QStringLiteral("the top of a schedule is an object; this is JSON of another kind");
-    }
-    if (!heading.format) {
-        return QStringLiteral("the member \"format\" is missing; this is no schedule");
-    }
-    if (*heading.format != kFormatName) {
-        return QStringLiteral("format: this is %1, not %2")
-            .arg(quotedName(*heading.format), quotedName(kFormatName));
-    }
-    if (!heading.version) {
-        return QStringLiteral("the member \"version\" is missing");
-    }
-    if (*heading.version > kVersion) {
-        return QStringLiteral("version: %1 is newer than %2, the newest that this program reads")
-            .arg(*heading.version)
-            .arg(kVersion);
-    }
-    if (*heading.version < 1) {
-        return QStringLiteral("version: there is no version %1").arg(*heading.version);
-    }
-    return {};
-}
-
-struct TopObject
-{
-    std::string format;
     int version = 0;
-    ReadTasks read;
+    readValue(value, version);
+    if (version > kVersion) {
+        refuse(value, QStringLiteral("%1 is newer than %2, the newest that this program reads")
+                          .arg(version)
+                          .arg(kVersion));
+    }
+    if (version < 1) {
+        refuse(value, QStringLiteral("there is no version %1").arg(version));
+    }
+}
+
+constexpr JsonMember<Schedule> kTopMembers[] = {
+    {kFormat, [](const Schedule&) { return jsonValue(Kind::Text, std::string(kFormatName)); },
+     readFormat},
+    {kFormatVersion, [](const Schedule&) { return writeValue(kVersion); }, readVersion},
+    {kTasks, writeTasks, readTasks},
 };
 
-constexpr JsonMember<TopObject> kTopMembers[] = {
-    field<&TopObject::format>(kFormat),
-    field<&TopObject::version>(kFormatVersion),
-    {kTasks, nullptr,
-     [](JsonReader& reader, TopObject& top) { return readTasks(reader, top.read); }},
-};
+Schedule readSchedule(const JsonValue& top)
+{
+    if (top.kind != Kind::Object) {
+        refuse(top, QStringLiteral("the top of a schedule is an object; this is JSON of another "
+                                   "kind"));
+    }
+    Schedule tasks;
+    // Format and version come before everything else, wherever they stand: a file of another kind
+    // or a newer version is not to be blamed for members that nobody here knows.
+    const JsonValue* const format = top.member(kFormat);
+    if (format == nullptr) {
+        refuse(top, QStringLiteral("the member \"format\" is missing; this is no schedule"));
+    }
+    readFormat(*format, tasks);
+    const JsonValue* const version = top.member(kFormatVersion);
+    if (version == nullptr) {
+        refuseMissing(top, kFormatVersion);
+    }
+    readVersion(*version, tasks);
+    readRecord(top, tasks, kTopMembers);
+    return tasks;
+}
 
 } // namespace
 
 QByteArray scheduleToJson(const std::map<int, PlayTask>& tasks)
 {
-    JsonWriter writer;
-    writer.beginObject();
-    writer.name(kFormat);
-    writer.text(kFormatName);
-    writer.name(kFormatVersion);
-    writer.number(kVersion);
-    writer.name(kTasks);
-    writer.beginArray();
-    for (const auto& [key, task] : tasks) {
-        writeTask(writer, key, task);
-    }
-    writer.end();
-    writer.end();
-    return writer.take();
+    return printJson(writeRecord(tasks, kTopMembers));
 }
 
 ScheduleFromJson scheduleFromJson(const QByteArray& json)
 {
-    Heading heading;
-    JsonReader headingReader(json);
-    if (!readHeading(headingReader, heading)) {
-        return {{}, headingReader.error()};
+    const ParsedJson parsed = parseJson(json);
+    if (!parsed.error.isEmpty()) {
+        return {{}, parsed.error};
     }
-    const QString reason = refusal(heading);
-    if (!reason.isEmpty()) {
-        return {{}, reason};
+    try {
+        return {readSchedule(parsed.top), {}};
+    } catch (const JsonRefusal& refusal) {
+        const QString path = jsonPath(parsed.top, *refusal.value);
+        const QString place =
+            QStringLiteral("%1 (line %2): ").arg(path, QString::number(refusal.value->line));
+        return {{}, path.isEmpty() ? refusal.reason : place + refusal.reason};
     }
-    TopObject top;
-    JsonReader reader(json);
-    if (!readRecord(reader, top, kTopMembers)) {
-        return {{}, reader.error()};
-    }
-    return {std::move(top.read.tasks), {}};
 }
 
 QString writeScheduleFile(const QString& path, const std::map<int, PlayTask>& tasks)

@@ -201,16 +201,18 @@ void tst_CtlExchange::badFilesChangeNothing_data()
         QTest::newRow(name) << json.replace(before, after) << QString::fromUtf8(error);
     };
     QTest::newRow("empty") << QByteArray()
-                           << QStringLiteral("not JSON at line 1, column 1: a value is expected, "
-                                             "but the text ends here");
+                           << QStringLiteral(
+                                  "not JSON at line 1, column 1: syntax error while parsing value "
+                                  "- unexpected end of input; expected '[', '{', or a literal");
     row("no JSON", "\"endDate\"", "endDate",
-        "not JSON at line 8, column 7: the name of a member is expected");
+        "not JSON at line 8, column 7: syntax error while parsing object key - invalid literal; "
+        "expected string literal");
     row("wrong kind", "\"2024.01.31\"", "31",
-        "tasks[0].endDate (line 8, column 18): a text is expected here, not a number");
+        "tasks[0].endDate (line 8): a text is expected here, not a number");
     row("unknown member", "\"plans\"", "\"plan\\u001b\"",
-        "tasks[0].plan\\x1b (line 9, column 7): there is no member \"plan\\x1b\" here");
+        "tasks[0].plan\\x1b (line 9): there is no member \"plan\\x1b\" here");
     row("newer version", "\"version\": 1", "\"version\": 2",
-        "version: 2 is newer than 1, the newest that this program reads");
+        "version (line 3): 2 is newer than 1, the newest that this program reads");
 }
 
 void tst_CtlExchange::badFilesChangeNothing()

@@ -332,6 +332,16 @@ void tst_ScheduleJson::textsSurvive_data()
     QTest::newRow("half a surrogate pair")
         << QByteArray("\xED\xA0\x80") << QByteArray(R"({ "base64": "7aCA" })");
     QTest::newRow("overlong") << QByteArray("\xC0\xAF") << QByteArray(R"({ "base64": "wK8=" })");
+    QTest::newRow("sequence cut off")
+        << QByteArray("\xE6\x96") << QByteArray(R"({ "base64": "5pY=" })");
+    QTest::newRow("beyond Unicode")
+        << QByteArray("\xF4\x90\x80\x80") << QByteArray(R"({ "base64": "9JCAgA==" })");
+    QTest::newRow("last character")
+        << QByteArray("\xF4\x8F\xBF\xBF") << QByteArray("\"\xF4\x8F\xBF\xBF\"");
+    QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF"
+                                                   "a")
+                                     << QByteArray("\"\xEF\xBB\xBF"
+                                                   "a\"");
 }
 
 void tst_ScheduleJson::textsSurvive()
