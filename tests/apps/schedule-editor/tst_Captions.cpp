@@ -58,7 +58,8 @@ private:
 
 namespace {
 
-constexpr int kPlans = 12; ///< The last titles have ids of two digits.
+constexpr int kPlans = 12;     ///< The last titles have ids of two digits.
+constexpr int kStyleReach = 8; ///< By how much the room in a cell differs from style to style.
 
 QString language()
 {
@@ -450,12 +451,15 @@ void tst_Captions::roomsWithoutAWindowAreThoseOfTheWindow()
         rooms[key] = day;
     }
     for (const EditorText& known : editorTexts()) {
-        const auto room = rooms.find(QString::fromLatin1(known.key));
-        const int expected = room == rooms.end() ? 0 : room->second;
-        QVERIFY2(known.room == expected, qPrintable(QStringLiteral("%1: %2 px, not %3")
-                                                        .arg(QLatin1String(known.key))
-                                                        .arg(expected)
-                                                        .arg(known.room)));
+        const auto found = rooms.find(QString::fromLatin1(known.key));
+        const int room = found == rooms.end() ? 0 : found->second;
+        // A style may leave a little more than the plainest one does.
+        const bool isRight =
+            room == 0 ? known.room == 0 : known.room <= room && known.room >= room - kStyleReach;
+        QVERIFY2(isRight, qPrintable(QStringLiteral("%1: %2 px, told as %3")
+                                         .arg(QLatin1String(known.key))
+                                         .arg(room)
+                                         .arg(known.room)));
     }
 }
 
