@@ -35,6 +35,18 @@
         <translation>Wiedergabeplan in Datei &amp;schreiben…</translation>
     </message>
     <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Dark theme</source>
+        <translation>&amp;Dunkles Design</translation>
+    </message>
+    <message>
+        <source>&amp;Light theme</source>
+        <translation>&amp;Helles Design</translation>
+    </message>
+    <message>
         <source>&amp;Quit</source>
         <translation>B&amp;eenden</translation>
     </message>

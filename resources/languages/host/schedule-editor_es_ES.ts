@@ -35,6 +35,18 @@
         <translation>&amp;Guardar la programación en un archivo…</translation>
     </message>
     <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Dark theme</source>
+        <translation>Tema &amp;oscuro</translation>
+    </message>
+    <message>
+        <source>&amp;Light theme</source>
+        <translation>Tema &amp;claro</translation>
+    </message>
+    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
     </message>

@@ -35,6 +35,18 @@
         <translation>&amp;Enregistrer la programmation dans un fichier…</translation>
     </message>
     <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Dark theme</source>
+        <translation>Thème &amp;sombre</translation>
+    </message>
+    <message>
+        <source>&amp;Light theme</source>
+        <translation>Thème &amp;clair</translation>
+    </message>
+    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
     </message>

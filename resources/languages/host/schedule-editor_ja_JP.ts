@@ -35,6 +35,18 @@
         <translation>スケジュールをファイルに書き出す(&amp;W)…</translation>
     </message>
     <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark theme</source>
+        <translation>ダークテーマ(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Light theme</source>
+        <translation>ライトテーマ(&amp;L)</translation>
+    </message>
+    <message>
         <source>&amp;Quit</source>
         <translation>終了(&amp;Q)</translation>
     </message>

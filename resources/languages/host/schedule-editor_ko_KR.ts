@@ -35,6 +35,18 @@
         <translation>일정을 파일로 저장(&amp;W)…</translation>
     </message>
     <message>
+        <source>&amp;View</source>
+        <translation>보기(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark theme</source>
+        <translation>어두운 테마(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Light theme</source>
+        <translation>밝은 테마(&amp;L)</translation>
+    </message>
+    <message>
         <source>&amp;Quit</source>
         <translation>종료(&amp;Q)</translation>
     </message>

@@ -35,6 +35,18 @@
         <translation>&amp;Gravar a programação em um arquivo…</translation>
     </message>
     <message>
+        <source>&amp;View</source>
+        <translation>E&amp;xibir</translation>
+    </message>
+    <message>
+        <source>&amp;Dark theme</source>
+        <translation>Tema &amp;escuro</translation>
+    </message>
+    <message>
+        <source>&amp;Light theme</source>
+        <translation>Tema &amp;claro</translation>
+    </message>
+    <message>
         <source>&amp;Quit</source>
         <translation>&amp;Sair</translation>
     </message>

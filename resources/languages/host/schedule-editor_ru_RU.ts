@@ -35,6 +35,18 @@
         <translation>&amp;Записать расписание в файл…</translation>
     </message>
     <message>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>&amp;Dark theme</source>
+        <translation>&amp;Тёмная тема</translation>
+    </message>
+    <message>
+        <source>&amp;Light theme</source>
+        <translation>&amp;Светлая тема</translation>
+    </message>
+    <message>
         <source>&amp;Quit</source>
         <translation>В&amp;ыход</translation>
     </message>

@@ -35,6 +35,18 @@
         <translation>將排程寫入檔案(&amp;W)…</translation>
     </message>
     <message>
+        <source>&amp;View</source>
+        <translation>檢視(&amp;V)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark theme</source>
+        <translation>深色主題(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Light theme</source>
+        <translation>淺色主題(&amp;L)</translation>
+    </message>
+    <message>
         <source>&amp;Quit</source>
         <translation>結束(&amp;Q)</translation>
     </message>
