@@ -19,9 +19,8 @@ namespace look {
 
 namespace {
 
-/// How far the table of a card reaches over its place on each side. Its columns are wider than the
-/// place that the card has for them, by just this.
-constexpr int kTableReach = 10;
+/// How far the table of a card stays away from the edges of the card, so that their lines are seen.
+constexpr int kTableInset = 1;
 constexpr int kHintPixels = 15;
 constexpr int kListHeaderMargin = 7;
 constexpr qreal kCardRadius = 5.0;
@@ -242,7 +241,7 @@ QRect EditorStyle::subElementRect(SubElement element, const QStyleOption* option
                                   const QWidget* widget) const
 {
     if (element == SE_FrameLayoutItem && isPlanTable(widget)) {
-        return option->rect.adjusted(kTableReach, 0, -kTableReach, 0);
+        return option->rect.adjusted(-kTableInset, 0, kTableInset, 0);
     }
     return QProxyStyle::subElementRect(element, option, widget);
 }
