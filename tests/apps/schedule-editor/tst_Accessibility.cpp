@@ -147,8 +147,8 @@ void tst_Accessibility::everyControlOfTheHostHasNameAndRole()
 
 void tst_Accessibility::namesTellPlanAndMeaning()
 {
-    QCOMPARE(nameOf(editorOf(1, StartTimeColumn)), QStringLiteral("No.2: from"));
-    QCOMPARE(nameOf(editorOf(1, DeleteColumn)), QStringLiteral("No.2: Delete"));
+    QCOMPARE(nameOf(editorOf(1, StartTimeColumn)), QStringLiteral("Plan 2: from"));
+    QCOMPARE(nameOf(editorOf(1, DeleteColumn)), QStringLiteral("Plan 2: Delete"));
     QCOMPARE(nameOf(card()->findChild<QWidget*>(QStringLiteral("pushButtonDelete"))),
              QStringLiteral("Play task 1 Delete"));
 }
