@@ -517,41 +517,40 @@ void PlanTaskWidget::slotUpdateEndTimeDate(QDate date)
 
 void PlanTaskWidget::slotUpdateTime(int row, int clo, QTime time)
 {
-    const PlayPlan* const plan = planByIdOfRow(row);
+    PlayPlan* const plan = planByIdOfRow(row);
     if (!plan) {
         return;
     }
     const std::string text = timeToText(time);
     if (clo == EndTimeColumn) {
-        takeTime(row, &PlayPlan::endTime, text, text < plan->startTime);
+        takeTime(row, *plan, &PlayPlan::endTime, text, text < plan->startTime);
     } else if (clo == StartTimeColumn) {
-        takeTime(row, &PlayPlan::startTime, text, plan->endTime < text);
+        takeTime(row, *plan, &PlayPlan::startTime, text, plan->endTime < text);
     } else {
         refreshConflicts();
     }
 }
 
-void PlanTaskWidget::takeTime(int row, std::string PlayPlan::*time, const std::string& text,
-                              bool isRefused)
+void PlanTaskWidget::takeTime(int row, PlayPlan& plan, std::string PlayPlan::*time,
+                              const std::string& text, bool isRefused)
 {
-    PlayPlan* plan = planByIdOfRow(row);
     // This is what ends the nested call when the card itself sets the editor.
-    if (text == plan->*time) {
+    if (text == plan.*time) {
         return;
     }
     if (!isRefused) {
-        plan->*time = text;
+        plan.*time = text;
         refreshConflicts();
         return;
     }
     if (!isAliveAfterRefusal()) {
         return;
     }
-    plan = planByIdOfRow(row);
+    const PlayPlan* const stored = planByIdOfRow(row);
     const auto& editors = time == &PlayPlan::startTime ? m_startTimeEdits : m_endTimeEdits;
     QTimeEdit* const editor = widgetOfRow(editors, row);
-    if (plan && editor) {
-        editor->setTime(timeFromText(plan->*time));
+    if (stored && editor) {
+        editor->setTime(timeFromText(stored->*time));
     }
     refreshConflicts();
 }

@@ -150,8 +150,9 @@ private:
     void changeMode(int row, int mode);
 
     /// Writes a new start or end time into a row's plan and stores the task, or tells that it is
-    /// refused and puts the stored time back into the editor.
-    void takeTime(int row, std::string PlayPlan::*time, const std::string& text, bool isRefused);
+    /// refused and puts the stored time back into the editor. The plan may be gone afterwards.
+    void takeTime(int row, PlayPlan& plan, std::string PlayPlan::*time, const std::string& text,
+                  bool isRefused);
     /// Tells that a day or a time is refused. False when the card has gone meanwhile.
     bool isAliveAfterRefusal();
 
