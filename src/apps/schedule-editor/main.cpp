@@ -1,26 +1,25 @@
 #include "EditorApplication.h"
 
+#include <QCoreApplication>
 #include <QTextStream>
 
 #include <cstdio>
 
 namespace {
 
-/// The arguments without the ones that the toolkit takes for itself.
-QStringList textArguments(int argc, char** argv)
+/// The toolkit words its help by the name of a running application, and the one with windows comes
+/// only after the options.
+EditorOptionsResult readOptions(int& argc, char** argv)
 {
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    }
-    return arguments;
+    const QCoreApplication console(argc, argv);
+    return readEditorOptions(QCoreApplication::arguments());
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    const EditorOptionsResult read = readEditorOptions(textArguments(argc, argv));
+    const EditorOptionsResult read = readOptions(argc, argv);
     if (read.next != EditorOptionsResult::Next::Start) {
         const bool misuse = read.next == EditorOptionsResult::Next::Misuse;
         QTextStream(misuse ? stderr : stdout) << read.text << Qt::endl;

@@ -14,6 +14,8 @@ private slots:
     void importsFromTheCommandLine();
     void aStoreThatCannotBeOpenedEndsWithOne();
     void misuseEndsWithTwo();
+    void helpAndVersionEndWithNothing_data();
+    void helpAndVersionEndWithNothing();
 
 private:
     struct Run
@@ -101,6 +103,27 @@ void tst_ScheduleEditor::misuseEndsWithTwo()
 
     QCOMPARE(run.status, 2);
     QVERIFY(run.err.contains(QStringLiteral("frob")));
+}
+
+void tst_ScheduleEditor::helpAndVersionEndWithNothing_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::addColumn<QString>("words");
+
+    QTest::newRow("help") << QStringLiteral("--help") << QStringLiteral("[MEDIA...]");
+    QTest::newRow("version") << QStringLiteral("--version") << QStringLiteral("schedule-editor ");
+}
+
+void tst_ScheduleEditor::helpAndVersionEndWithNothing()
+{
+    QFETCH(QString, option);
+    QFETCH(QString, words);
+
+    const Run run = start({option});
+
+    QCOMPARE(run.status, 0);
+    QVERIFY2(run.out.contains(words), qPrintable(run.out));
+    QCOMPARE(run.err, QString());
 }
 
 QTEST_GUILESS_MAIN(tst_ScheduleEditor)
