@@ -5,8 +5,7 @@
 namespace trel::mediadispatch {
 
 class scheduleManage::Private
-{
-};
+{};
 
 } // namespace trel::mediadispatch
 
@@ -156,8 +155,7 @@ QString line(const PlayTask& task)
 
 scheduleManage::scheduleManage()
     : d(std::make_unique<Private>())
-{
-}
+{}
 
 scheduleManage::~scheduleManage() = default;
 

@@ -3,8 +3,7 @@
 TestClock::TestClock(const QDateTime& now)
     : m_now(now)
     , m_former(install(this))
-{
-}
+{}
 
 TestClock::~TestClock()
 {

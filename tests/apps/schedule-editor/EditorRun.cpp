@@ -1,14 +1,10 @@
 #include "EditorRun.h"
 
-#include "Theme.h"
-
 #include <QLayout>
 
 EditorRun::EditorRun(const QString& name, const QString& language)
     : m_name(name + QLatin1Char('-') + language)
 {
-    theme::applyColours(*qApp);
-    theme::applySheet(*editor);
     editor->setCheckBoxImagePath(QStringLiteral(":/qss/img/checked.svg"),
                                  QStringLiteral(":/qss/img/unchecked.svg"));
     languages.select(language);

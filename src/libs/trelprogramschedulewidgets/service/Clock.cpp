@@ -7,8 +7,7 @@ namespace trel::mediadispatch {
 namespace {
 
 class MachineClock : public Clock
-{
-};
+{};
 
 const Clock*& clockInForce()
 {
