@@ -80,7 +80,7 @@ QString Languages::startLanguage(const QString& wanted) const
     }
     candidates.append(QStringLiteral("en_US"));
     for (const QString& candidate : candidates) {
-        const QString match = bestMatch(candidate);
+        QString match = bestMatch(candidate);
         if (!match.isEmpty()) {
             return match;
         }

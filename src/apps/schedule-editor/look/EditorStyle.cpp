@@ -363,7 +363,7 @@ bool EditorStyle::paintLabelFrame(const QStyleOption& option, QPainter& painter,
         QRect ground = option.rect.adjusted(1, 0, -1, 0);
         ground.setHeight(kHeight);
         ground.moveCenter(option.rect.center());
-        paintBox(painter, ground, m_colours.state, m_colours.stateLine, kHeight / 2);
+        paintBox(painter, ground, m_colours.state, m_colours.stateLine, kHeight / 2.0);
         return true;
     }
     const QString image = imageOf(widget);
