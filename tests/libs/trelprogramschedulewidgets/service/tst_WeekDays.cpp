@@ -109,7 +109,8 @@ void tst_WeekDays::readsLikeTheLiteralRule()
         const bool everyDay = parseWeeks(a, numbers);
         const bool expectedEveryDay = literal::parseWeeks(a, expected);
         QVERIFY2(everyDay == expectedEveryDay && numbers == expected, a.c_str());
-        QVERIFY2(weeksOverlap(a, b) == literal::weeksOverlap(a, b), (a + " and " + b).c_str());
+        const QByteArray both = QByteArray::fromStdString(a) + " and " + b.c_str();
+        QVERIFY2(weeksOverlap(a, b) == literal::weeksOverlap(a, b), both.constData());
     }
 }
 
