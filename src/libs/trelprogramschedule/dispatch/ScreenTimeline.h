@@ -1,0 +1,73 @@
+#pragma once
+
+#include "trelprogramschedule/dispatch/ScreenInsertion.h"
+#include "trelprogramschedule/dispatch/ScreenState.h"
+#include "service/ScheduleRecords.h"
+
+#include <QTimeZone>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace trel::mediadispatch {
+
+/// What a schedule shows at every moment of any date: a function of the tasks, the catalogue and
+/// the insertions alone, with no clock of its own.
+///
+/// The task in effect is the one whose validity holds the local day, the one with the lowest id
+/// where several do. Of its plans those claim a moment whose weekday fits and whose span holds the
+/// local time of day, start included, end not; a span that is empty or inverted claims nothing. The
+/// end of a plan in FrequencyMode is worked out with plannedEnd. The first of them in row order has
+/// the screen.
+///
+/// How far a plan has got follows from the time of day since its start, not from what was on screen
+/// before: a plan that gets the screen back is where it would have been. So a clock that leaps, an
+/// hour that is left out and one that comes twice all lead to what the local time says. Where no
+/// plan claims the moment, the screen keeps what the plan left that really had it last.
+///
+/// Lengths count to the microsecond. Building costs n log n over plans, a question log n over tasks
+/// and plans.
+class Q_DECL_EXPORT ScreenTimeline
+{
+public:
+    /// Copies what it needs; days and times of day are those of the zone.
+    ScreenTimeline(const std::map<int, PlayTask>& tasks,
+                   const std::map<int, ProgramIten>& catalogue, const QTimeZone& zone);
+    ~ScreenTimeline();
+    ScreenTimeline(ScreenTimeline&&) noexcept;
+    ScreenTimeline& operator=(ScreenTimeline&&) noexcept;
+
+    /// What is on screen at an instant.
+    ScreenState at(Instant moment, const ScreenInsertions& insertions = {}) const;
+
+    using Visitor = std::function<bool(const ScreenState&)>;
+    /// Every play of a program and every picture in between, in order, from the one at `from` to
+    /// the last that begins before `to`; ends early when the visitor returns false. Position is
+    /// that of the first instant shown, since and until are not cut off at the borders.
+    void visitPlays(Instant from, Instant to, const ScreenInsertions& insertions,
+                    const Visitor& visitor) const;
+    /// As visitPlays, with one state for the whole time that a plan has the screen without a break
+    /// (its first picture in that time; until as spanUntil), and one for each stretch between.
+    void visitSpans(Instant from, Instant to, const ScreenInsertions& insertions,
+                    const Visitor& visitor) const;
+
+    /// The insertions as they stand once a plan in effect is cut in at a moment: at once or, when
+    /// delayed, as soon as the play then on screen has ended. Those that are over are dropped, one
+    /// that waits gives way, one that has the screen ends when the new one begins. An insertion
+    /// with nothing to play outside its span, or whose span's end has passed, ends as it begins.
+    ScreenInsertions withInsertion(ScreenInsertions current, ScreenInsertion request,
+                                   Instant moment, bool isDelayed) const;
+
+    /// The local date and time of day of an instant, and the other way round: the earliest instant
+    /// at which the local clock shows this or more.
+    QDateTime local(Instant moment) const;
+    Instant instant(const QDate& date, const QTime& time) const;
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace trel::mediadispatch
