@@ -22,8 +22,7 @@ QString lengthText(double durationMs)
 
 bool hasLength(const ProgramIten& program)
 {
-    return program.kind != ProgramKind::Image && program.kind != ProgramKind::Live &&
-           program.durationMs >= 0.0;
+    return hasOwnLength(program) && program.durationMs >= 0.0;
 }
 
 } // namespace

@@ -102,8 +102,7 @@ double ProgramCatalogue::duration(int progIndex) const
 bool ProgramCatalogue::hasNoDuration(int progIndex) const
 {
     const auto found = m_programs.find(progIndex);
-    return found != m_programs.end() &&
-           (found->second.kind == ProgramKind::Image || found->second.kind == ProgramKind::Live);
+    return found != m_programs.end() && !hasOwnLength(found->second);
 }
 
 bool ProgramCatalogue::checkFiles()

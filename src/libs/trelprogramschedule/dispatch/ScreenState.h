@@ -11,6 +11,9 @@ using Instant = qint64;
 
 /// The instant that never comes.
 inline constexpr Instant kNever = std::numeric_limits<Instant>::max();
+/// The instant before all others. Far enough from the end of the range for the time since then to
+/// be worked out.
+inline constexpr Instant kEver = std::numeric_limits<Instant>::min() / 2;
 
 /// What a screen shows.
 enum class ScreenPicture {
@@ -51,7 +54,7 @@ struct ScreenState
     /// How far into the program the given instant lies or, frozen, where it stopped; milliseconds.
     qint64 position = 0;
 
-    Instant since = 0; ///< When this play, or this picture, began.
+    Instant since = 0; ///< When this play, or this picture, began. kEver is possible.
     /// When it is over: the play ends, or something else takes the screen. kNever is possible.
     Instant until = kNever;
     /// When the plan loses the screen, whatever it plays by then; as until where none has it.

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "service/ScheduleRecords.h"
 #include "trelprogramschedule/dispatch/ScreenInsertion.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
-#include "service/ScheduleRecords.h"
 
 #include <QTimeZone>
 
@@ -27,8 +27,12 @@ namespace trel::mediadispatch {
 /// hour that is left out and one that comes twice all lead to what the local time says. Where no
 /// plan claims the moment, the screen keeps what the plan left that really had it last.
 ///
+/// The picture of a plan is cut where the clock is changed, as its position leaps then; a plan that
+/// has the screen on both sides of the change keeps it, and so does a picture that does not move.
+///
 /// Lengths count to the microsecond. Building costs n log n over plans, a question log n over tasks
-/// and plans.
+/// and plans, and with an insertion on screen also once the length of its list. What a question
+/// finds out about a zone and a weekday is kept for the next, so that two threads need two objects.
 class Q_DECL_EXPORT ScreenTimeline
 {
 public:
@@ -45,23 +49,30 @@ public:
     using Visitor = std::function<bool(const ScreenState&)>;
     /// Every play of a program and every picture in between, in order, from the one at `from` to
     /// the last that begins before `to`; ends early when the visitor returns false. Position is
-    /// that of the first instant shown, since and until are not cut off at the borders.
+    /// that of the first instant shown, since and until are not cut off at the borders. A play that
+    /// falls between two milliseconds is left out. Costs a question for each.
     void visitPlays(Instant from, Instant to, const ScreenInsertions& insertions,
                     const Visitor& visitor) const;
     /// As visitPlays, with one state for the whole time that a plan has the screen without a break
-    /// (its first picture in that time; until as spanUntil), and one for each stretch between.
+    /// (its first picture in that time, also when that lies before `from`; until as spanUntil), one
+    /// for each insertion, and one for each stretch between.
     void visitSpans(Instant from, Instant to, const ScreenInsertions& insertions,
                     const Visitor& visitor) const;
 
     /// The insertions as they stand once a plan in effect is cut in at a moment: at once or, when
-    /// delayed, as soon as the play then on screen has ended. Those that are over are dropped, one
-    /// that waits gives way, one that has the screen ends when the new one begins. An insertion
-    /// with nothing to play outside its span, or whose span's end has passed, ends as it begins.
+    /// delayed, as soon as the play then on screen has ended. Of those before, the one that has the
+    /// screen ends when the new one begins, and the others are dropped: they are over, or give way.
+    /// The request comes last, whatever it has to play; its three instants are written here.
+    ///
+    /// It ends when the local clock first shows the end of its plan's span or more, counted on the
+    /// day on which it begins; with serviceFlagB, after one run of its list, or when a plan next
+    /// takes the screen if a program has no length. It ends as it begins when that has passed, or
+    /// when it has nothing to play outside the span. A play that never ends is not waited for.
     ScreenInsertions withInsertion(ScreenInsertions current, ScreenInsertion request,
                                    Instant moment, bool isDelayed) const;
 
     /// The local date and time of day of an instant, and the other way round: the earliest instant
-    /// at which the local clock shows this or more.
+    /// at which the local clock shows this or more; kNever for a date or time that is not valid.
     QDateTime local(Instant moment) const;
     Instant instant(const QDate& date, const QTime& time) const;
 

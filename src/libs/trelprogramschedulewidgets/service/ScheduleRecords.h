@@ -90,6 +90,12 @@ struct ProgramIten
     bool isNull = false; ///< True when nothing stands behind the index any more.
 };
 
+/// Whether a play of the program ends by itself. Its length may be unknown all the same.
+inline bool hasOwnLength(const ProgramIten& program)
+{
+    return program.kind != ProgramKind::Image && program.kind != ProgramKind::Live;
+}
+
 /// One entry of a plan's list: a reference to a program and what the plan remembers of it.
 struct struProgInfo
 {

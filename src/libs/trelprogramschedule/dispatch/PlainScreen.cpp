@@ -1,0 +1,193 @@
+#include "PlainScreen.h"
+
+#include <algorithm>
+
+namespace trel::mediadispatch {
+
+PlainScreen::PlainScreen(const std::map<int, PlayTask>& tasks,
+                         const std::map<int, ProgramIten>& catalogue, const QTimeZone& zone)
+    : m_wall(zone)
+    , m_calendar(tasks, catalogue)
+{}
+
+Microseconds PlainScreen::Held::elapsed(Instant moment) const
+{
+    return microseconds(piece.local(moment) - span.listBegin);
+}
+
+Instant PlainScreen::Held::reaches(Microseconds time) const
+{
+    return piece.instant(span.listBegin + millisecondsUp(time));
+}
+
+PlainScreen::Held PlainScreen::held(const HeldSpan& span, const WallPiece& piece)
+{
+    return {span, piece, std::max(piece.begin, piece.instant(span.begin)),
+            std::min(piece.end, piece.instant(span.end))};
+}
+
+std::optional<PlainScreen::Held> PlainScreen::heldAt(Instant moment) const
+{
+    const WallPiece& piece = m_wall.pieceAt(moment);
+    const std::optional<HeldSpan> span = m_calendar.firstAfter(piece.local(moment));
+    if (!span || span->begin > piece.local(moment)) {
+        return std::nullopt;
+    }
+    return held(*span, piece);
+}
+
+std::optional<PlainScreen::Held> PlainScreen::partBefore(const Held& part) const
+{
+    if (part.begin > part.piece.begin) {
+        return std::nullopt;
+    }
+    std::optional<Held> before = heldAt(part.begin - 1);
+    return before && before->span.plan == part.span.plan ? before : std::nullopt;
+}
+
+std::optional<PlainScreen::Held> PlainScreen::partAfter(const Held& part) const
+{
+    if (part.end < part.piece.end) {
+        return std::nullopt;
+    }
+    std::optional<Held> after = heldAt(part.end);
+    return after && after->span.plan == part.span.plan ? after : std::nullopt;
+}
+
+// Both searches go from one piece of the clock to the next, and pass over those in which no plan
+// can have the screen because the nearest one is more than an offset away.
+
+std::optional<PlainScreen::Held> PlainScreen::lastHeld(Instant moment) const
+{
+    for (Instant before = moment;;) {
+        const WallPiece& piece = m_wall.pieceAt(before - 1);
+        if (const auto span = m_calendar.lastBefore(piece.local(before))) {
+            const Held found = held(*span, piece);
+            if (found.begin < found.end) {
+                return found;
+            }
+        }
+        // An earlier piece may have shown later times.
+        const auto span = m_calendar.lastBefore(piece.begin + kLargestOffset);
+        if (piece.begin == kEver || !span) {
+            return std::nullopt;
+        }
+        before = std::min(piece.begin, span->end + kLargestOffset);
+    }
+}
+
+Instant PlainScreen::nextHeld(Instant moment) const
+{
+    for (Instant from = moment;;) {
+        const WallPiece& piece = m_wall.pieceAt(from);
+        if (const auto span = m_calendar.firstAfter(piece.local(from))) {
+            const Instant begin = std::max(from, piece.instant(span->begin));
+            if (begin < piece.end) {
+                return begin;
+            }
+        }
+        if (piece.end == kNever) {
+            return kNever;
+        }
+        const auto span = m_calendar.firstAfter(piece.end - kLargestOffset);
+        if (!span) {
+            return kNever;
+        }
+        from = std::max(piece.end, span->begin - kLargestOffset);
+    }
+}
+
+Instant PlainScreen::nextTaken(Instant moment) const
+{
+    return nextHeld(heldAt(moment) ? at(moment).state.spanUntil : moment);
+}
+
+ScreenShown PlainScreen::at(Instant moment) const
+{
+    const std::optional<Held> part = heldAt(moment);
+    return part ? ofPlan(*part, moment) : leftBehind(moment);
+}
+
+ScreenShown PlainScreen::ofPlan(const Held& part, Instant moment) const
+{
+    ScreenShown shown;
+    ScreenState& state = shown.state;
+    state.taskId = part.span.taskId;
+    state.planId = part.span.plan->planId;
+    state.planRow = part.span.row;
+
+    // A plan keeps the screen over a change of the clock if it has it on both sides.
+    shown.spanSince = part.begin;
+    for (auto before = partBefore(part); before; before = partBefore(*before)) {
+        shown.spanSince = before->begin;
+    }
+    state.spanUntil = part.end;
+    for (auto after = partAfter(part); after; after = partAfter(*after)) {
+        state.spanUntil = after->end;
+    }
+
+    const ListMoment list = part.list(moment);
+    showList(state, list, part.elapsed(moment), ListOwner::Plan, part.span.plan->freezes);
+    switch (list.kind) {
+    case ListMoment::Kind::Nothing:
+        state.since = shown.spanSince;
+        state.until = state.spanUntil;
+        break;
+    case ListMoment::Kind::Playing:
+        state.since = std::max(part.begin, part.reaches(list.begin));
+        state.until = list.end == kEndless ? part.end : std::min(part.end, part.reaches(list.end));
+        break;
+    case ListMoment::Kind::RanOut:
+        state.since = ranOutSince(part);
+        state.until = ranOutUntil(part);
+        break;
+    }
+    return shown;
+}
+
+Instant PlainScreen::ranOutSince(const Held& part) const
+{
+    const Instant ranOut = part.reaches(part.span.plan->list.length());
+    if (ranOut > part.begin) {
+        return ranOut;
+    }
+    const std::optional<Held> before = partBefore(part);
+    const bool ranOutBefore =
+        before && before->list(before->end - 1).kind == ListMoment::Kind::RanOut;
+    return ranOutBefore ? ranOutSince(*before) : part.begin;
+}
+
+Instant PlainScreen::ranOutUntil(const Held& part) const
+{
+    const std::optional<Held> after = partAfter(part);
+    const bool staysSo = after && after->list(after->begin).kind == ListMoment::Kind::RanOut;
+    return staysSo ? ranOutUntil(*after) : part.end;
+}
+
+ScreenShown PlainScreen::leftBehind(Instant moment) const
+{
+    ScreenShown shown;
+    ScreenState& state = shown.state;
+    state.reason = ScreenReason::NoPlanYet;
+    state.since = kEver;
+    state.until = nextHeld(moment);
+    state.spanUntil = state.until;
+    const std::optional<Held> last = lastHeld(moment);
+    if (!last) {
+        return shown;
+    }
+    state.reason = ScreenReason::PlanEnded;
+    state.taskId = last->span.taskId;
+    state.planId = last->span.plan->planId;
+    state.planRow = last->span.row;
+    state.since = last->end;
+    shown.spanSince = last->end;
+    const ListMoment list = last->list(last->end - 1);
+    if (last->span.plan->freezes && list.kind != ListMoment::Kind::Nothing) {
+        state.picture = ScreenPicture::Frozen;
+        showEntry(state, list, last->elapsed(last->end));
+    }
+    return shown;
+}
+
+} // namespace trel::mediadispatch

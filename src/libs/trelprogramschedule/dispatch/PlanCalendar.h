@@ -1,0 +1,67 @@
+#pragma once
+
+#include "trelprogramschedule/dispatch/ScreenPlan.h"
+#include "trelprogramschedule/dispatch/WallTime.h"
+
+#include <array>
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace trel::mediadispatch {
+
+/// A time in which one plan has the screen by the local clock, never beyond the end of a day.
+struct HeldSpan
+{
+    LocalTime begin = 0;
+    LocalTime end = 0; ///< Not included.
+    /// When the plan's list began that day, whoever had the screen by then.
+    LocalTime listBegin = 0;
+    int taskId = 0;
+    int row = 0;
+    const ScreenPlan* plan = nullptr; ///< The same one on every day.
+};
+
+/// Which plan has the screen at a time of the local clock. Who has it on a day of the week is
+/// worked out once for each task, when it is asked for. Not to be asked by two threads at a time.
+class PlanCalendar
+{
+public:
+    PlanCalendar(const std::map<int, PlayTask>& tasks, const std::map<int, ProgramIten>& catalogue);
+
+    /// The last span that begins before a time, and the first that ends after it. Each costs the
+    /// logarithm of the number of tasks and plans, however far away the span lies.
+    std::optional<HeldSpan> lastBefore(LocalTime time) const;
+    std::optional<HeldSpan> firstAfter(LocalTime time) const;
+
+    /// The row of a plan; -1 when there is no such plan.
+    int rowOf(int taskId, int planId) const;
+
+    /// How many days of the week have been worked out, over all tasks.
+    std::size_t knownDays() const { return m_knownDays; }
+
+private:
+    struct Task
+    {
+        int id = 0;
+        TaskValidity validity;
+        std::vector<ScreenPlan> plans;
+        mutable std::array<std::optional<std::vector<DaySpan>>, WeekDayCount> spansByWeekday;
+    };
+
+    static std::vector<Task> readTasks(const std::map<int, PlayTask>& tasks,
+                                       const std::map<int, ProgramIten>& catalogue);
+    static std::vector<TaskValidity> validities(const std::vector<Task>& tasks);
+    const Task& task(const TaskDay& day) const
+    {
+        return m_tasks[static_cast<std::size_t>(day.task)];
+    }
+    const std::vector<DaySpan>& spansOf(const TaskDay& day) const;
+    HeldSpan heldSpan(const TaskDay& day, const DaySpan& span) const;
+
+    std::vector<Task> m_tasks; // In ascending id order.
+    TaskDays m_days;
+    mutable std::size_t m_knownDays = 0;
+};
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+#include "trelprogramschedule/dispatch/DaySpans.h"
+#include "trelprogramschedule/dispatch/PlayList.h"
+#include "trelprogramschedule/dispatch/TaskDays.h"
+
+#include <map>
+#include <vector>
+
+namespace trel::mediadispatch {
+
+/// What of a plan counts for the screen.
+struct ScreenPlan
+{
+    int planId = 0;
+    WeekdaySet weekdays = 0;
+    ClaimedSpan claim;
+    bool freezes = false; ///< Leaves its last frame behind, not a black screen.
+    PlayList list;
+
+    bool claimsAnything() const { return claim.begin < claim.end && weekdays != 0; }
+};
+
+/// The plans of a task, or a plan that is cut in, in the order of the rows.
+std::vector<ScreenPlan> screenPlans(const std::vector<PlayPlan>& plans,
+                                    const std::map<int, ProgramIten>& catalogue);
+
+/// How often its list runs.
+qint64 runsOf(const PlayPlan& plan);
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "trelprogramschedule/dispatch/LocalTime.h"
+#include "trelprogramschedule/dispatch/ScreenState.h"
+
+#include <QTimeZone>
+
+#include <map>
+
+namespace trel::mediadispatch {
+
+/// A stretch of time in which the local clock runs evenly.
+struct WallPiece
+{
+    Instant begin = kEver;
+    Instant end = kNever; ///< Not included.
+    qint64 offset = 0;    ///< Local time less universal time, in milliseconds.
+
+    LocalTime local(Instant moment) const { return moment + offset; }
+    Instant instant(LocalTime local) const { return local - offset; }
+};
+
+/// The local clock of a time zone, as pieces of even run. A piece is looked up in the zone once and
+/// kept, so that a question costs the logarithm of the pieces met so far. Not to be asked by two
+/// threads at a time.
+class WallTime
+{
+public:
+    /// A zone that is not valid counts as universal time.
+    explicit WallTime(const QTimeZone& zone);
+
+    const QTimeZone& zone() const { return m_zone; }
+
+    /// The piece that holds a moment. Its neighbours have other offsets. Before the year 1 and
+    /// after the year 9999, which no date in a record leaves, the clock is not changed any more.
+    const WallPiece& pieceAt(Instant moment) const;
+
+    /// The first instant, not before `from`, at which the clock shows this or more.
+    Instant firstShown(LocalTime local, Instant from) const;
+    /// As above, of all instants.
+    Instant firstShown(LocalTime local) const;
+
+    /// How many pieces have been looked up.
+    std::size_t knownPieces() const { return m_pieces.size(); }
+
+private:
+    WallPiece findPiece(Instant moment) const;
+
+    QTimeZone m_zone;
+    mutable std::map<Instant, WallPiece> m_pieces; // By their begin.
+};
+
+/// No clock is further than this from universal time.
+inline constexpr qint64 kLargestOffset = kMillisecondsPerDay;
+
+} // namespace trel::mediadispatch
