@@ -20,6 +20,22 @@ QString lengthText(double durationMs)
         .arg(seconds % 60, 2, 10, QLatin1Char('0'));
 }
 
+/// Numbers stand under one another; everything else has the alignment of its view.
+QVariant alignmentOf(int column)
+{
+    const bool isNumber =
+        column == ProgramTableModel::IndexColumn || column == ProgramTableModel::LengthColumn;
+    return isNumber ? QVariant(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter)) : QVariant();
+}
+
+/// A path runs from left to right in every language. Without a mark its first slash would go to its
+/// end where one reads from the right.
+QString shownPath(const QString& path)
+{
+    const QChar leftToRightMark(0x200E);
+    return QGuiApplication::isRightToLeft() ? leftToRightMark + path : path;
+}
+
 bool hasLength(const ProgramIten& program)
 {
     return hasOwnLength(program) && program.durationMs >= 0.0;
@@ -65,7 +81,7 @@ QVariant ProgramTableModel::text(const ProgramIten& program, int column) const
     case LengthColumn:
         return hasLength(program) ? lengthText(program.durationMs) : QString();
     case PathColumn:
-        return QString::fromStdString(program.mediaPath);
+        return shownPath(QString::fromStdString(program.mediaPath));
     default:
         return QVariant();
     }
@@ -86,10 +102,7 @@ QVariant ProgramTableModel::data(const QModelIndex& index, int role) const
         }
         return QString::fromStdString(program.mediaPath);
     case Qt::TextAlignmentRole:
-        if (index.column() == IndexColumn || index.column() == LengthColumn) {
-            return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
-        }
-        return QVariant();
+        return alignmentOf(index.column());
     case Qt::ForegroundRole:
         if (program.isNull) {
             return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
@@ -106,6 +119,9 @@ QVariant ProgramTableModel::data(const QModelIndex& index, int role) const
 
 QVariant ProgramTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
+    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole) {
+        return alignmentOf(section);
+    }
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return QAbstractTableModel::headerData(section, orientation, role);
     }

@@ -165,6 +165,8 @@ void PictureBook::saveDialog(const QString& name, const std::function<void()>& o
                              const std::function<void(QWidget*)>& prepare)
 {
     bool isDrawn = false;
+    // A prompt names the window that it lies over.
+    QApplication::setActiveWindow(&m_editor);
     QTimer::singleShot(200, &m_editor, [&] {
         QPointer<QWidget> dialog = openWindow();
         if (!dialog) {

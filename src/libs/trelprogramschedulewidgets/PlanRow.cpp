@@ -179,6 +179,9 @@ QTimeEdit* RowBuilder::addTimeEdit(PlanColumn column, const std::string& time) c
     auto* const editor = makeEditor<QTimeEdit>(holder);
     editor->setFixedHeight(kEditorHeight);
     editor->setContextMenuPolicy(Qt::NoContextMenu);
+    // Where one reads from the right, the toolkit turns the sections round: seconds would stand
+    // where everybody reads the hours.
+    editor->setLayoutDirection(Qt::LeftToRight);
     editor->setDisplayFormat(kTimeFormat);
     editor->setTime(timeFromText(time));
     markRow(*editor, m_row);

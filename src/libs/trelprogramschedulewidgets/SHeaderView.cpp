@@ -82,8 +82,9 @@ void SHeaderView::paintSection(QPainter* painter, const QRect& rect, int logical
 void SHeaderView::paintSeparator(QPainter* painter, const QRect& rect) const
 {
     painter->setPen(QPen(QColor(QStringLiteral("#1AFFFFFF")), kSeparatorWidth));
-    painter->drawLine(rect.right(), rect.top() + kSeparatorMargin, rect.right(),
-                      rect.bottom() - kSeparatorMargin);
+    // Towards the next section, which lies to the left where one reads from the right.
+    const int x = isRightToLeft() ? rect.left() + kSeparatorWidth - 1 : rect.right();
+    painter->drawLine(x, rect.top() + kSeparatorMargin, x, rect.bottom() - kSeparatorMargin);
 }
 
 } // namespace trel::mediadispatch

@@ -221,6 +221,9 @@ void TipDialog::changeEvent(QEvent* event)
     if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange) {
         d->showIcon();
         d->fitText();
+    } else if (event->type() == QEvent::PaletteChange) {
+        // The icon may be drawn in colours of the palette.
+        d->showIcon();
     }
 }
 

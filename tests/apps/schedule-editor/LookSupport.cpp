@@ -1,6 +1,12 @@
 #include "LookSupport.h"
 
+#include "look/Themes.h"
+
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QHash>
+#include <QtTest>
 
 #include <cmath>
 
@@ -25,6 +31,20 @@ QHash<QRgb, int> countColours(const QImage& picture, const QRect& part)
         }
     }
     return counts;
+}
+
+enum State { Normal, Hovered, Pressed, Disabled };
+
+/// Where a control shows its text, clear of its edge and its signs.
+QRect textPart(const QWidget* widget)
+{
+    if (qobject_cast<const QComboBox*>(widget)) {
+        return widget->rect().adjusted(4, 4, -18, -4);
+    }
+    if (qobject_cast<const QAbstractSpinBox*>(widget)) {
+        return widget->rect().adjusted(3, 4, -17, -4);
+    }
+    return widget->rect().adjusted(4, 2, -4, -2);
 }
 
 } // namespace
@@ -68,4 +88,44 @@ QImage pictureOf(QWidget* widget)
     QWidget* window = widget->window();
     const QRect part(widget->mapTo(window, QPoint()), widget->size());
     return window->grab(part).toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+QString faultOf(const QImage& picture, const QRect& part, const QString& what, double least)
+{
+    const Seen seen = lookAt(picture, part);
+    return seen.contrast >= least ? QString()
+                                  : QStringLiteral("%1: %2 on %3 is %4\n")
+                                        .arg(what, seen.text.name(), seen.ground.name())
+                                        .arg(seen.contrast, 0, 'f', 2);
+}
+
+QString faultsOf(QWidget* widget, double least)
+{
+    QString faults;
+    const bool wasEnabled = widget->isEnabled();
+    auto* button = qobject_cast<QAbstractButton*>(widget);
+    for (const State state : {Normal, Hovered, Pressed, Disabled}) {
+        widget->setAttribute(Qt::WA_UnderMouse, state == Hovered || state == Pressed);
+        widget->setEnabled(state != Disabled && wasEnabled);
+        if (button != nullptr) {
+            button->setDown(state == Pressed);
+        }
+        faults += faultOf(pictureOf(widget), textPart(widget),
+                          QStringLiteral("%1 \"%2\" in state %3")
+                              .arg(widget->objectName(), widget->property("text").toString())
+                              .arg(state),
+                          least);
+    }
+    widget->setAttribute(Qt::WA_UnderMouse, false);
+    widget->setEnabled(wasEnabled);
+    return faults;
+}
+
+void addThemes()
+{
+    QTest::addColumn<QString>("theme");
+    const QStringList names = Themes::names();
+    for (const QString& name : names) {
+        QTest::newRow(qPrintable(name)) << name;
+    }
 }

@@ -8,6 +8,9 @@
 /// of the relative luminances.
 double contrast(const QColor& first, const QColor& second);
 
+/// The least that every text has to reach against its ground.
+constexpr double kLeastContrast = 4.5;
+
 /// What is seen in a part of a picture: the colour that fills most of it, and the one that stands
 /// out from it most, which is that of the strokes when the part holds text.
 struct Seen
@@ -24,3 +27,14 @@ double shareOf(const QImage& picture, const QColor& colour);
 
 /// A picture of the widget as it stands in its window, other widgets above it included.
 QImage pictureOf(QWidget* widget);
+
+/// A line that says where a text stands out too little, or nothing.
+QString faultOf(const QImage& picture, const QRect& part, const QString& what,
+                double least = kLeastContrast);
+
+/// The same for the text of a control in each of its states: at rest, with the pointer on it,
+/// pressed where it can be, and disabled.
+QString faultsOf(QWidget* widget, double least = kLeastContrast);
+
+/// A data row for each theme, in the column "theme".
+void addThemes();

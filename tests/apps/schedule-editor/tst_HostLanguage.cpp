@@ -1,7 +1,10 @@
 #include "HostFixture.h"
 #include "LanguageFont.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QTableView>
 
 /// Which language the host starts in, what it calls the languages, and the fonts it gives them.
 class tst_HostLanguage : public QObject
@@ -18,7 +21,84 @@ private slots:
     void fontKeepsItsSize();
     void selectingGivesTheApplicationTheFont();
     void anUnknownLanguageKeepsTheFont();
+    void aSwitchLeavesNoTextOfTheOldOne_data();
+    void aSwitchLeavesNoTextOfTheOldOne();
 };
+
+namespace {
+
+/// The editor and the host's window on the demonstration's schedule.
+struct LanguageFixture : HostFixture
+{
+    explicit LanguageFixture(const QString& language)
+    {
+        languages.select(language);
+        window.openDatabase(database, QStringLiteral(DEMONSTRATION));
+        showEditor();
+        window.show();
+        QCoreApplication::processEvents();
+    }
+
+    /// Every text of both windows, whether it is seen, comes up over a widget, or is read out.
+    QStringList texts() const
+    {
+        QStringList found;
+        for (const QWidget* top :
+             {static_cast<const QWidget*>(editor.get()), static_cast<const QWidget*>(&window)}) {
+            found.append(top->windowTitle());
+            const QList<QWidget*> widgets = top->findChildren<QWidget*>();
+            for (const QWidget* widget : widgets) {
+                addTexts(*widget, found);
+            }
+        }
+        found = found.replaceInStrings(folder.path(), QString());
+        // A title of a plan that has been translated once is set in by one blank more.
+        for (QString& text : found) {
+            text = text.trimmed();
+        }
+        found.removeAll(QString());
+        // A menu bar may keep some of its menus a second time, for when it gets too narrow.
+        found.removeDuplicates();
+        return found;
+    }
+
+private:
+    static void addTexts(const QWidget& widget, QStringList& found)
+    {
+        // A day box goes on showing the days as they were called when they were chosen.
+        const bool isDayBox = widget.inherits("trel::mediadispatch::MultiComboBox");
+        const bool isInDayBox =
+            widget.parentWidget()->inherits("trel::mediadispatch::MultiComboBox");
+        if (!isDayBox && !isInDayBox) {
+            found << widget.toolTip() << widget.property("text").toString();
+        }
+        found << widget.accessibleName() << widget.property("title").toString();
+        if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
+            for (int i = 0; i < box->count(); ++i) {
+                found.append(box->itemText(i));
+            }
+        }
+        if (const auto* table = qobject_cast<const QTableView*>(&widget)) {
+            addCells(*table->model(), found);
+        }
+        const QList<QAction*> actions = widget.actions();
+        for (const QAction* action : actions) {
+            found.append(action->text());
+        }
+    }
+
+    static void addCells(const QAbstractItemModel& model, QStringList& found)
+    {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            found.append(model.headerData(column, Qt::Horizontal).toString());
+            for (int row = 0; row < model.rowCount(); ++row) {
+                found.append(model.index(row, column).data().toString());
+            }
+        }
+    }
+};
+
+} // namespace
 
 void tst_HostLanguage::nativeNames_data()
 {
@@ -121,6 +201,38 @@ void tst_HostLanguage::anUnknownLanguageKeepsTheFont()
     fixture.languages.select(QStringLiteral("xx_XX"));
     QCOMPARE(QApplication::font().families(),
              languageFont(QFont(), QStringLiteral("ja_JP")).families());
+}
+
+void tst_HostLanguage::aSwitchLeavesNoTextOfTheOldOne_data()
+{
+    QTest::addColumn<QString>("before");
+    for (const char* language : {"de_DE", "en_US", "es_ES", "fr_FR", "ja_JP", "ko_KR", "pt_BR",
+                                 "ru_RU", "zh_CN", "zh_TW"}) {
+        const bool isChinese = QLatin1String(language) == QLatin1String("zh_CN");
+        QTest::newRow(language) << (isChinese ? QStringLiteral("ru_RU") : QStringLiteral("zh_CN"));
+    }
+}
+
+void tst_HostLanguage::aSwitchLeavesNoTextOfTheOldOne()
+{
+    QFETCH(QString, before);
+    const QString language = QString::fromLatin1(QTest::currentDataTag());
+    QStringList switched;
+    {
+        LanguageFixture fixture(before);
+        const QStringList old = fixture.texts();
+        fixture.languages.select(language);
+        QCoreApplication::processEvents();
+        switched = fixture.texts();
+        QVERIFY(switched != old);
+    }
+    LanguageFixture fresh(language);
+    // Some tool tips come with the first translation.
+    fresh.languages.select(language);
+    QCoreApplication::processEvents();
+    const QStringList wanted = fresh.texts();
+    QVERIFY(wanted.size() > 60);
+    QCOMPARE(switched, wanted);
 }
 
 QTEST_MAIN(tst_HostLanguage)

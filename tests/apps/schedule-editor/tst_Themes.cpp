@@ -8,10 +8,12 @@
 #include <QAbstractButton>
 #include <QDateEdit>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QStyle>
 #include <QSvgRenderer>
 #include <QTableView>
 #include <QTimeEdit>
@@ -43,6 +45,9 @@ private slots:
     void theCheckMarksAreTheirDrawings();
     void theFontHasTheLettersOfEveryLanguage_data();
     void theFontHasTheLettersOfEveryLanguage();
+    void chosenDaysAreCutBetweenLetters_data();
+    void chosenDaysAreCutBetweenLetters();
+    void chosenDaysAreSeenWithoutTheTheme();
     void rightToLeftKeepsEverythingInPlace();
     void aRefreshCostsAtMostTwice();
 
@@ -250,6 +255,36 @@ void tst_Themes::theCheckMarksAreTheirDrawings()
         painter.end();
         QCOMPARE(picture.convertToFormat(QImage::Format_ARGB32), drawn);
     }
+}
+
+void tst_Themes::chosenDaysAreCutBetweenLetters_data()
+{
+    QTest::addColumn<bool>("unused");
+    for (const char* language : {"en_US", "ru_RU", "de_DE", "zh_CN"}) {
+        QTest::newRow(language) << true;
+    }
+}
+
+void tst_Themes::chosenDaysAreCutBetweenLetters()
+{
+    m_host->languages.select(QString::fromLatin1(QTest::currentDataTag()));
+    m_host->editor->clearAndInitialize();
+    openCard();
+    auto* line = cell(0, WeeksColumn)->findChild<QLineEdit*>();
+    QVERIFY(line->fontMetrics().horizontalAdvance(line->text()) > line->width() - 8);
+    const QImage picture = pictureOf(line);
+    QVERIFY(lookAt(picture, picture.rect()).contrast > 4.5);
+    // Nothing of a letter stands at the edge of the room.
+    const QRect edge(picture.width() - 1, 0, 1, picture.height());
+    QCOMPARE(lookAt(picture, edge).contrast, 1.0);
+}
+
+void tst_Themes::chosenDaysAreSeenWithoutTheTheme()
+{
+    auto* line = cell(0, WeeksColumn)->findChild<QLineEdit*>();
+    QCOMPARE(line->palette().color(QPalette::Text).alpha(), 0);
+    QApplication::style()->unpolish(line);
+    QCOMPARE(line->palette().color(QPalette::Text), QApplication::palette().color(QPalette::Text));
 }
 
 void tst_Themes::rightToLeftKeepsEverythingInPlace()

@@ -1,5 +1,6 @@
 #include "ButtonPainting.h"
 
+#include "FieldPainting.h"
 #include "StyleHooks.h"
 #include "ThemeImages.h"
 
@@ -14,11 +15,26 @@ constexpr qreal kRadius = 4.0;
 constexpr int kTitleInset = 32; ///< Behind the fold arrow of a card.
 constexpr int kTitleEnd = 72;   ///< Before the buttons of a card.
 constexpr int kFieldInset = 6;
+/// A program field stands a little higher in its row than the other fields. What is seen of it
+/// begins at their height, and its text stands on their line.
+constexpr int kFieldDrop = 1;
 constexpr int kWideImage = 20;
 
 bool has(const QStyleOption& option, QStyle::StateFlag flag)
 {
     return (option.state & flag) != 0;
+}
+
+QRect visualRect(const QStyleOption& option, const QRect& rect)
+{
+    return QStyle::visualRect(option.direction, option.rect, rect);
+}
+
+/// What points onward points to the left where one reads to the left.
+QString alongTheReading(const QStyleOption& option, const QString& image)
+{
+    const bool isTurned = option.direction == Qt::RightToLeft && image == QLatin1String("next");
+    return isTurned ? QStringLiteral("previous") : image;
 }
 
 const QColor& pick(const QStyleOption& option, const QColor& normal, const QColor& hovered,
@@ -64,15 +80,17 @@ void paintImageButton(QPainter& painter, const ThemeColours& colours, const QSty
         isEnabled && (has(option, QStyle::State_MouseOver) || has(option, QStyle::State_Sunken));
     // The half of a field shares the edge of the field.
     const bool isHalf = isInsideProgramField(button->parentWidget());
+    const QRect place = isHalf ? option.rect.translated(0, kFieldDrop) : option.rect;
     if (isActive) {
-        const QRect ground = isHalf ? option.rect.adjusted(2, 2, -3, -2) : option.rect;
+        const QRect ground =
+            isHalf ? visualRect(option, place.adjusted(2, 2, -3, -3 - kFieldDrop)) : place;
         paintBox(painter, ground, colours.iconGround, Qt::transparent, kRadius);
     }
     const QString image = imageOf(button);
     if (!image.isEmpty()) {
         const QColor colour =
             isActive ? colours.iconHover : (isEnabled ? colours.icon : colours.disabledText);
-        paintImage(painter, option.rect, image, colour);
+        paintImage(painter, place, alongTheReading(option, image), colour);
     }
 }
 
@@ -88,8 +106,8 @@ void paintText(QPainter& painter, const QStyleOption& option, const QRect& rect,
     painter.setPen(colour);
     const int flags =
         static_cast<int>(QStyle::visualAlignment(option.direction, Qt::Alignment(alignment)));
-    painter.drawText(QStyle::visualRect(option.direction, option.rect, rect),
-                     flags | Qt::TextSingleLine | Qt::TextHideMnemonic, text);
+    painter.drawText(visualRect(option, rect), flags | Qt::TextSingleLine | Qt::TextHideMnemonic,
+                     text);
 }
 
 void paintWideLabel(QPainter& painter, const ThemeColours& colours,
@@ -100,10 +118,12 @@ void paintWideLabel(QPainter& painter, const ThemeColours& colours,
     QRect row(0, 0, width, option.rect.height());
     row.moveCenter(option.rect.center());
     const QRect image(row.topLeft(), QSize(kWideImage, row.height()));
-    paintImage(painter, image, QStringLiteral("add"), colour);
+    paintImage(painter, QStyle::visualRect(option.direction, row, image), QStringLiteral("add"),
+               colour);
+    const QRect caption = row.adjusted(kWideImage + 2, 0, 0, 0);
     painter.setPen(colour);
-    painter.drawText(row.adjusted(kWideImage + 2, 0, 8, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                     option.text);
+    painter.drawText(QStyle::visualRect(option.direction, row, caption),
+                     int(Qt::AlignCenter) | Qt::TextDontClip, option.text);
 }
 
 } // namespace
@@ -166,7 +186,7 @@ bool paintButtonLabel(QPainter& painter, const ThemeColours& colours, const QSty
         break;
     }
     case ButtonKind::FieldText:
-        paintText(painter, option, option.rect.adjusted(kFieldInset, 0, 0, 0),
+        paintText(painter, option, option.rect.adjusted(kFieldInset, 2 * kFieldDrop, 0, 0),
                   Qt::AlignLeft | Qt::AlignVCenter, text, caption->text);
         break;
     case ButtonKind::Wide:
@@ -181,6 +201,13 @@ bool paintButtonLabel(QPainter& painter, const ThemeColours& colours, const QSty
         break;
     }
     return true;
+}
+
+void paintProgramField(QPainter& painter, const ThemeColours& colours, const QStyleOption& option)
+{
+    QStyleOption seen(option);
+    seen.rect.adjust(0, kFieldDrop, 0, 0);
+    paintField(painter, colours, seen);
 }
 
 void paintFocus(QPainter& painter, const ThemeColours& colours, const QStyleOption& option)

@@ -21,6 +21,9 @@ void paintButton(QPainter& painter, const ThemeColours& colours, const QStyleOpt
 bool paintButtonLabel(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
                       const QWidget* button);
 
+/// The ground of a program field.
+void paintProgramField(QPainter& painter, const ThemeColours& colours, const QStyleOption& option);
+
 void paintFocus(QPainter& painter, const ThemeColours& colours, const QStyleOption& option);
 
 } // namespace look

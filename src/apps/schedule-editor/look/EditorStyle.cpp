@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleOption>
@@ -23,7 +24,13 @@ namespace {
 constexpr int kTableInset = 1;
 constexpr int kHintPixels = 15;
 constexpr int kListHeaderMargin = 7;
+constexpr int kListTextDrop = 1;
+constexpr int kCatalogueMargin = 6; ///< Beside the texts of the host's table.
 constexpr qreal kCardRadius = 5.0;
+constexpr qreal kStateRadius = 4.0;
+constexpr int kStateHeight = 24;
+constexpr int kStateGap = 2; ///< Between a state and the box before it.
+constexpr int kTotalGap = 3; ///< Between the total of a chooser and its caption.
 
 /// Asks the table once more for the margins of its place; when it was made it had no name yet.
 void updateTableMargins(QWidget* table)
@@ -44,6 +51,32 @@ void setTextColour(QWidget* label, const QColor& colour)
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, colour);
     label->setPalette(palette);
+}
+
+/// The ground of a plan's state, on which its word stands in the middle.
+QRect stateGround(const QWidget& label)
+{
+    QRect ground = label.rect().adjusted(kStateGap, 0, 0, 0);
+    ground.setHeight(kStateHeight);
+    ground.moveTop((label.height() - kStateHeight) / 2);
+    return QStyle::visualRect(label.layoutDirection(), label.rect(), ground);
+}
+
+/// Nobody types in a line of choices. It would cut them off in the middle of a letter, so it shows
+/// nothing itself, and the style paints what has room.
+void hideOwnText(QWidget& line)
+{
+    QPalette palette = line.palette();
+    for (const QPalette::ColorRole role :
+         {QPalette::Text, QPalette::Highlight, QPalette::HighlightedText}) {
+        palette.setColor(role, Qt::transparent);
+    }
+    line.setPalette(palette);
+}
+
+bool hidesOwnText(const QWidget* widget)
+{
+    return isLineOfChoices(widget) && widget->palette().color(QPalette::Text).alpha() == 0;
 }
 
 /// The widget that a painter was opened on, if it is one.
@@ -77,9 +110,19 @@ void EditorStyle::polish(QWidget* widget)
     } else if (auto* bar = qobject_cast<QScrollBar*>(widget)) {
         // Nothing but the thumb is painted, and what lies below shows.
         bar->setAttribute(Qt::WA_OpaquePaintEvent, false);
+    } else if (isLineOfChoices(widget)) {
+        hideOwnText(*widget);
     } else if (qobject_cast<QFrame*>(widget) != nullptr && isProgramField(widget)) {
         widget->setAttribute(Qt::WA_Hover);
     }
+}
+
+void EditorStyle::unpolish(QWidget* widget)
+{
+    if (hidesOwnText(widget)) {
+        widget->setPalette(QPalette());
+    }
+    QProxyStyle::unpolish(widget);
 }
 
 void EditorStyle::polishArea(QAbstractScrollArea* area) const
@@ -104,6 +147,8 @@ void EditorStyle::polishLabel(QWidget* label) const
         QFont font = label->font();
         font.setPixelSize(kHintPixels);
         label->setFont(font);
+    } else if (isNamed(label, "showTime_label")) {
+        label->setContentsMargins(kTotalGap, 0, kTotalGap, 0);
     }
 }
 
@@ -124,6 +169,9 @@ void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         // The line of a spin box or a combo box lies on a ground that is painted already.
         if (!isInsideField(widget)) {
             paintField(*painter, m_colours, *option);
+        } else if (hidesOwnText(widget)) {
+            paintChoices(*painter, m_colours, *option,
+                         static_cast<const QLineEdit*>(widget)->text());
         }
         return;
     case PE_PanelButtonCommand:
@@ -166,6 +214,12 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
             return;
         }
         break;
+    case CE_ProgressBar:
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option)) {
+            paintProgressBar(*painter, m_colours, *bar);
+            return;
+        }
+        break;
     case CE_ShapedFrame:
         if (paintLabelFrame(*option, *painter, widget)) {
             return;
@@ -202,7 +256,7 @@ void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
     }
     if (control == CC_ScrollBar) {
         const QRect thumb = proxy()->subControlRect(control, option, SC_ScrollBarSlider, widget);
-        paintScrollBar(*painter, m_colours, *option, thumb);
+        paintScrollBar(*painter, m_colours, *option, thumb, isBarOfPlanTable(widget));
         return;
     }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -212,9 +266,14 @@ void EditorStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
                                const QPalette& palette, bool enabled, const QString& text,
                                QPalette::ColorRole textRole) const
 {
-    if (isStateLabel(paintedWidget(*painter))) {
-        // The word of a state stands in the middle of the ground that is painted for it.
-        flags = (flags & ~Qt::AlignHorizontal_Mask) | Qt::AlignHCenter;
+    QRect place = rect;
+    const QWidget* painted = paintedWidget(*painter);
+    if (isStateLabel(painted)) {
+        place = stateGround(*painted);
+        flags = static_cast<int>(Qt::AlignCenter) | Qt::TextSingleLine;
+    } else if (painted != nullptr && isChooserHeader(painted->parentWidget())) {
+        // Level with the mark in the first section and with the lines between the sections.
+        place.setBottom(painted->rect().bottom());
     }
     // The base adds a line of the background's colour under disabled texts.
     painter->save();
@@ -222,7 +281,7 @@ void EditorStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
         painter->setPen(
             palette.color(enabled ? palette.currentColorGroup() : QPalette::Disabled, textRole));
     }
-    painter->drawText(rect, flags, text);
+    painter->drawText(place, flags, text);
     painter->restore();
 }
 
@@ -282,16 +341,26 @@ int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         return isBarOfPlanTable(widget) ? kScrollBarExtent : 0;
     case PM_FocusFrameHMargin:
         // The captions of a card's table have narrow columns.
-        return isPlanTable(widget) ? 0 : QProxyStyle::pixelMetric(metric, option, widget);
+        if (isPlanTable(widget)) {
+            return 0;
+        }
+        return isCatalogue(widget) ? kCatalogueMargin
+                                   : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_HeaderMargin:
-        return isChooserList(widget) ? kListHeaderMargin
-                                     : QProxyStyle::pixelMetric(metric, option, widget);
+        if (isChooserHeader(widget)) {
+            return kListHeaderMargin;
+        }
+        return widget != nullptr && isCatalogue(widget->parentWidget())
+                   ? kCatalogueMargin + 1
+                   : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_LayoutLeftMargin:
     case PM_LayoutRightMargin:
-        // With the toolkit's margins the cards would be wider than what they lie in. On the right
-        // the scroll bar takes the place of a margin.
+        // With the toolkit's margins the cards would be wider than what they lie in. On one
+        // side the scroll bar takes the place of a margin.
         if (isCardList(widget)) {
-            return metric == PM_LayoutLeftMargin ? kScrollBarExtent : 0;
+            const bool isRightToLeft = widget->layoutDirection() == Qt::RightToLeft;
+            const bool isBesideBar = (metric == PM_LayoutRightMargin) != isRightToLeft;
+            return isBesideBar ? 0 : kScrollBarExtent;
         }
         return QProxyStyle::pixelMetric(metric, option, widget);
     default:
@@ -336,7 +405,7 @@ bool EditorStyle::paintPanel(const QStyleOption& option, QPainter& painter,
     if (style == QLatin1String("BG1")) {
         paintBox(painter, option.rect, m_colours.card, m_colours.cardLine, kCardRadius);
     } else if (style == QLatin1String("BG3")) {
-        paintField(painter, m_colours, option);
+        paintProgramField(painter, m_colours, option);
     } else if (style == QLatin1String("BG4")) {
         painter.fillRect(option.rect, m_colours.header);
     } else {
@@ -359,11 +428,7 @@ bool EditorStyle::paintLabelFrame(const QStyleOption& option, QPainter& painter,
                                   const QWidget* widget) const
 {
     if (isStateLabel(widget)) {
-        constexpr int kHeight = 24;
-        QRect ground = option.rect.adjusted(1, 0, -1, 0);
-        ground.setHeight(kHeight);
-        ground.moveCenter(option.rect.center());
-        paintBox(painter, ground, m_colours.state, m_colours.stateLine, kHeight / 2.0);
+        paintBox(painter, stateGround(*widget), m_colours.state, m_colours.stateLine, kStateRadius);
         return true;
     }
     const QString image = imageOf(widget);
@@ -390,6 +455,10 @@ void EditorStyle::paintItem(const QStyleOption* option, QPainter* painter,
     QStyleOptionViewItem tinted(*item);
     tinted.palette.setColor(QPalette::HighlightedText, item->palette.color(QPalette::Text));
     tinted.state &= ~QStyle::State_HasFocus;
+    if (isChooserList(widget)) {
+        // The number of a row is set a little lower than the toolkit sets its texts.
+        tinted.rect.adjust(0, kListTextDrop, 0, 0);
+    }
     QProxyStyle::drawControl(CE_ItemViewItem, &tinted, painter, widget);
 }
 

@@ -26,6 +26,8 @@ public:
 
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
+    using QProxyStyle::unpolish;
+    void unpolish(QWidget* widget) override;
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;

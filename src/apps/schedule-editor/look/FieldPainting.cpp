@@ -17,6 +17,7 @@ constexpr int kStepWidth = 14;
 constexpr int kArrowWidth = 16;
 constexpr int kTextInset = 4;
 constexpr int kEditableArrowWidth = 13;
+constexpr int kLineInset = 2;
 
 bool isEnabled(const QStyleOption& option)
 {
@@ -38,6 +39,16 @@ void paintStep(QPainter& painter, const ThemeColours& colours, const QStyleOptio
     const bool isUp = part == QStyle::SC_SpinBoxUp;
     paintImage(painter, rect, isUp ? QStringLiteral("spin-up") : QStringLiteral("spin-down"),
                colour);
+}
+
+void paintValue(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
+                const QRect& room, const QString& text)
+{
+    painter.setPen(isEnabled(option) ? colours.text : colours.disabledText);
+    const int flags = static_cast<int>(
+        QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter));
+    painter.drawText(room, flags | Qt::TextSingleLine,
+                     option.fontMetrics.elidedText(text, Qt::ElideRight, room.width()));
 }
 
 } // namespace
@@ -96,12 +107,46 @@ void paintComboBoxLabel(QPainter& painter, const ThemeColours& colours,
     if (option.editable) {
         return;
     }
-    painter.setPen(isEnabled(option) ? colours.text : colours.disabledText);
-    const int flags = static_cast<int>(
-        QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter));
-    painter.drawText(
-        room, flags | Qt::TextSingleLine,
-        option.fontMetrics.elidedText(option.currentText, Qt::ElideRight, room.width()));
+    paintValue(painter, colours, option, room, option.currentText);
+}
+
+void paintChoices(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
+                  const QString& text)
+{
+    const QRect room = option.rect.adjusted(kLineInset, 0, -1, 0);
+    paintValue(painter, colours, option, QStyle::visualRect(option.direction, option.rect, room),
+               text);
+}
+
+void paintProgressBar(QPainter& painter, const ThemeColours& colours,
+                      const QStyleOptionProgressBar& option)
+{
+    const QRect& bar = option.rect;
+    const int range = option.maximum - option.minimum;
+    const int width =
+        range <= 0
+            ? 0
+            : static_cast<int>(qint64(bar.width()) * (option.progress - option.minimum) / range);
+    const QRect done = QStyle::visualRect(
+        option.direction, bar,
+        QRect(bar.topLeft(), QSize(qBound(0, width, bar.width()), bar.height())));
+    paintBox(painter, bar, colours.field, colours.fieldLine, kRadius);
+    painter.save();
+    painter.setClipRect(done);
+    paintBox(painter, bar, colours.accent, colours.accent, kRadius);
+    painter.restore();
+    if (!option.textVisible) {
+        return;
+    }
+    const auto paintFigure = [&painter, &option](const QRegion& where, const QColor& colour) {
+        painter.save();
+        painter.setClipRegion(where);
+        painter.setPen(colour);
+        painter.drawText(option.rect, Qt::AlignCenter, option.text);
+        painter.restore();
+    };
+    paintFigure(QRegion(bar).subtracted(done), colours.text);
+    paintFigure(done, colours.accentText);
 }
 
 QRect spinBoxPart(const QStyleOptionSpinBox& option, QStyle::SubControl part)

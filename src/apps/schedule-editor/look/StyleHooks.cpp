@@ -3,6 +3,7 @@
 #include <QAbstractScrollArea>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QVariant>
@@ -12,11 +13,6 @@ namespace look {
 namespace {
 
 const QLatin1String kTableName("schedule");
-
-bool isNamed(const QWidget* widget, const char* name)
-{
-    return widget != nullptr && widget->objectName() == QLatin1String(name);
-}
 
 QString text(const QWidget* widget, const char* property)
 {
@@ -57,6 +53,11 @@ QString labelImage(const QWidget* label)
 }
 
 } // namespace
+
+bool isNamed(const QWidget* widget, const char* name)
+{
+    return widget != nullptr && widget->objectName() == QLatin1String(name);
+}
 
 QString styleOf(const QWidget* widget)
 {
@@ -105,6 +106,16 @@ bool isChooserList(const QWidget* widget)
     return table != nullptr && isNamed(table->parentWidget(), "ProgramChoose");
 }
 
+bool isChooserHeader(const QWidget* widget)
+{
+    return qobject_cast<const QHeaderView*>(widget) != nullptr && isChooserList(widget);
+}
+
+bool isCatalogue(const QWidget* widget)
+{
+    return isNamed(widget, "programTable");
+}
+
 bool isPlanTable(const QWidget* widget)
 {
     return widget != nullptr && widget->objectName() == kTableName &&
@@ -131,6 +142,12 @@ bool isWell(const QWidget* widget)
 {
     return isNamed(widget, "scrollArea") &&
            qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+}
+
+bool isLineOfChoices(const QWidget* widget)
+{
+    return qobject_cast<const QLineEdit*>(widget) != nullptr && widget->parentWidget() != nullptr &&
+           widget->parentWidget()->inherits("trel::mediadispatch::MultiComboBox");
 }
 
 bool isCardList(const QWidget* widget)

@@ -27,6 +27,9 @@ QString imageOf(const QWidget* widget);
 bool isPlanTable(const QWidget* widget);
 /// A list of the chooser, or its header.
 bool isChooserList(const QWidget* widget);
+bool isChooserHeader(const QWidget* widget);
+/// The host's table of programs.
+bool isCatalogue(const QWidget* widget);
 /// The word of a plan's state.
 bool isStateLabel(const QWidget* widget);
 /// The outer frame of a program field.
@@ -38,6 +41,10 @@ bool isWell(const QWidget* widget);
 /// The widget that the cards lie on.
 bool isCardList(const QWidget* widget);
 
+/// The line in which a day box shows what is chosen in it.
+bool isLineOfChoices(const QWidget* widget);
+
 QString styleOf(const QWidget* widget);
+bool isNamed(const QWidget* widget, const char* name);
 
 } // namespace look

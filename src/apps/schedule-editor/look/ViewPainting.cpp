@@ -83,7 +83,7 @@ void paintCheckMark(QPainter& painter, const ThemeColours& colours, const QStyle
 }
 
 void paintScrollBar(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
-                    const QRect& thumb)
+                    const QRect& thumb, bool isOverlay)
 {
     const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(&option);
     if (slider == nullptr || slider->maximum <= slider->minimum) {
@@ -94,9 +94,11 @@ void paintScrollBar(QPainter& painter, const ThemeColours& colours, const QStyle
     // Slim, and towards the edge, so that it leaves free what it lies over.
     const bool isVertical = slider->orientation == Qt::Vertical;
     const bool isRightToLeft = option.direction == Qt::RightToLeft;
-    QRect bar = isVertical
-                    ? (isRightToLeft ? thumb.adjusted(1, 0, -3, 0) : thumb.adjusted(3, 0, -1, 0))
-                    : thumb.adjusted(0, 3, 0, -1);
+    const int edge = isOverlay ? 0 : 1;
+    const QRect bar = isVertical
+                          ? QStyle::visualRect(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight,
+                                               thumb, thumb.adjusted(4 - edge, 0, -edge, 0))
+                          : thumb.adjusted(0, 4 - edge, 0, -edge);
     paintBox(painter, bar, isActive ? colours.scrollThumbHover : colours.scrollThumb,
              Qt::transparent, 2.0);
 }

@@ -21,8 +21,9 @@ void paintCaption(QPainter& painter, const QStyleOptionViewItem& option);
 void paintHeaderSection(QPainter& painter, const QStyleOption& option);
 void paintCheckMark(QPainter& painter, const ThemeColours& colours, const QStyleOption& option);
 
+/// A bar that lies over what it moves keeps to its very edge.
 void paintScrollBar(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
-                    const QRect& thumb);
+                    const QRect& thumb, bool isOverlay);
 QRect scrollBarPart(const QStyleOptionSlider& option, QStyle::SubControl part);
 
 } // namespace look

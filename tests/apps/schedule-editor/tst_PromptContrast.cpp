@@ -1,0 +1,220 @@
+#include "HostFixture.h"
+#include "HostPrompts.h"
+#include "LookSupport.h"
+
+#include "PlanColumns.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QEnterEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTableView>
+#include <QTimer>
+#include <QToolTip>
+
+#include <functional>
+
+using namespace trel::mediadispatch;
+
+/// Every text against its ground, on the pixels of what opens over the windows for a moment.
+class tst_PromptContrast : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void questionOfTheEditor_data() { addThemes(); }
+    void questionOfTheEditor();
+    void refusalOfTheEditor_data() { addThemes(); }
+    void refusalOfTheEditor();
+    void questionOfTheHost_data() { addThemes(); }
+    void questionOfTheHost();
+    void noticeOfTheHost_data() { addThemes(); }
+    void noticeOfTheHost();
+    void progressOfAnImport_data() { addThemes(); }
+    void progressOfAnImport();
+    void toolTips_data() { addThemes(); }
+    void toolTips();
+
+private:
+    QWidget* card() const;
+    QString faultsOfPrompt(int buttons, const std::function<void()>& open) const;
+
+    std::unique_ptr<HostFixture> m_host;
+};
+
+namespace {
+
+QWidget* shownToolTip()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (window->inherits("QTipLabel") && window->isVisible()) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+QString faultsOfToolTip(const QString& text)
+{
+    QWidget* tip = shownToolTip();
+    if (tip == nullptr || tip->property("text").toString() != text) {
+        return QStringLiteral("no tool tip \"%1\"\n").arg(text);
+    }
+    return faultOf(pictureOf(tip), tip->rect().adjusted(2, 2, -2, -2), text);
+}
+
+void askForToolTip(QWidget* widget)
+{
+    const QPoint place = widget->rect().center();
+    QHelpEvent help(QEvent::ToolTip, place, widget->mapToGlobal(place));
+    QCoreApplication::sendEvent(widget, &help);
+}
+
+} // namespace
+
+void tst_PromptContrast::init()
+{
+    m_host = std::make_unique<HostFixture>();
+    QFETCH(QString, theme);
+    m_host->themes.select(theme);
+    QCOMPARE(m_host->window.openDatabase(m_host->database, QStringLiteral(DEMONSTRATION)),
+             QString());
+    m_host->showEditor();
+    card()->findChild<QAbstractButton*>(QStringLiteral("title"))->setChecked(false);
+    QCoreApplication::processEvents();
+}
+
+void tst_PromptContrast::cleanup()
+{
+    m_host.reset();
+}
+
+QWidget* tst_PromptContrast::card() const
+{
+    return m_host->editor->findChild<QWidget*>(QStringLiteral("PlanTaskWidget"));
+}
+
+QString tst_PromptContrast::faultsOfPrompt(int buttons, const std::function<void()>& open) const
+{
+    QString faults = QStringLiteral("no prompt");
+    QTimer::singleShot(0, m_host->editor.get(), [&faults, buttons] {
+        QWidget* prompt = QApplication::activeModalWidget();
+        faults.clear();
+        QStringList names{QStringLiteral("TitleLabel"), QStringLiteral("dialogTipLabel")};
+        for (int number = 1; number <= buttons; ++number) {
+            names.append(QStringLiteral("tipButton%1").arg(number));
+        }
+        for (const QString& name : qAsConst(names)) {
+            auto* part = prompt->findChild<QWidget*>(name);
+            faults += part->isVisible() ? faultsOf(part) : name + QStringLiteral(" is hidden\n");
+        }
+        // The sign beside the text, which says whether it asks or refuses.
+        auto* icon = prompt->findChild<QLabel*>(QStringLiteral("dialogTipIcon"));
+        faults += faultOf(pictureOf(icon), icon->rect(), QStringLiteral("icon"), 3.0);
+        prompt->close();
+    });
+    open();
+    return faults;
+}
+
+void tst_PromptContrast::questionOfTheEditor()
+{
+    const QString faults = faultsOfPrompt(2, [this] {
+        card()->findChild<QPushButton*>(QStringLiteral("pushButtonDelete"))->click();
+    });
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void tst_PromptContrast::refusalOfTheEditor()
+{
+    const QString faults = faultsOfPrompt(1, [this] {
+        auto* first = card()->findChild<QDateEdit*>(QStringLiteral("dateEditVaildStartTime"));
+        auto* last = card()->findChild<QDateEdit*>(QStringLiteral("dateEditVaildEndTime"));
+        first->setDate(last->date().addDays(1));
+    });
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void tst_PromptContrast::questionOfTheHost()
+{
+    const QString faults = faultsOfPrompt(3, [] {
+        prompts::confirm(QStringLiteral("The schedule has changes that are not saved."),
+                         QStringLiteral("Save"), QStringLiteral("Discard"), QStringLiteral("Stay"));
+    });
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void tst_PromptContrast::noticeOfTheHost()
+{
+    const QString faults =
+        faultsOfPrompt(1, [] { prompts::notice(QStringLiteral("The file could not be read.")); });
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void tst_PromptContrast::progressOfAnImport()
+{
+    QSignalSpy ended(&m_host->window, &EditorWindow::importEnded);
+    QVERIFY(ended.isValid());
+    m_host->window.importMedia({m_host->copyMedia(QStringLiteral("media"))});
+    auto* progress = m_host->window.findChild<QProgressDialog*>(QStringLiteral("importProgress"));
+    QVERIFY(progress != nullptr);
+    progress->setLabelText(QStringLiteral("News.mp4"));
+    progress->setMaximum(4);
+    // Some of it done, all of it done: the figure stands on either ground.
+    QString faults;
+    for (const int done : {0, 2, 4}) {
+        progress->setValue(done);
+        progress->show();
+        const QList<QWidget*> parts = progress->findChildren<QWidget*>();
+        for (QWidget* part : parts) {
+            if (qobject_cast<QLabel*>(part) || qobject_cast<QPushButton*>(part)) {
+                faults += faultsOf(part);
+            } else if (qobject_cast<QProgressBar*>(part) && done != 2) {
+                faults += faultOf(pictureOf(part), part->rect().adjusted(4, 4, -4, -4),
+                                  QStringLiteral("bar at %1 of 4").arg(done));
+            }
+        }
+    }
+    QTRY_COMPARE(ended.count(), 1);
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void tst_PromptContrast::toolTips()
+{
+    QString faults;
+    auto* copy = card()->findChild<QPushButton*>(QStringLiteral("pbtCreatCopy"));
+    const QPointF place = copy->rect().center();
+    QEnterEvent enter(place, copy->mapTo(copy->window(), place.toPoint()),
+                      copy->mapToGlobal(place.toPoint()));
+    QCoreApplication::sendEvent(copy, &enter);
+    faults += faultsOfToolTip(QStringLiteral("Make a copy"));
+
+    auto* table = card()->findChild<QTableView*>(QStringLiteral("schedule"));
+    const auto cell = [table](int column) {
+        return table->indexWidget(table->model()->index(0, column));
+    };
+    askForToolTip(cell(DeleteColumn));
+    faults += faultsOfToolTip(QStringLiteral("Delete"));
+    QWidget* days = cell(WeeksColumn)->findChild<QComboBox*>();
+    askForToolTip(days);
+    faults += faultsOfToolTip(days->toolTip());
+
+    // One that is open while the theme changes.
+    m_host->themes.select(m_host->themes.current() == QLatin1String("dark")
+                              ? QStringLiteral("light")
+                              : QStringLiteral("dark"));
+    faults += faultsOfToolTip(days->toolTip());
+    QToolTip::hideText();
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+QTEST_MAIN(tst_PromptContrast)
+#include "tst_PromptContrast.moc"
