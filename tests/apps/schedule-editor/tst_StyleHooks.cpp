@@ -181,6 +181,7 @@ void tst_StyleHooks::aSheetReachesEveryHookOfTheEditor()
     faults += missing(find("pushButtonAddTask"), General, 0.5);
     faults += missing(find("pushButtonSave"), General, 0.3);
     faults += missing(find("pushButtonStart"), Assist, 0.3);
+    faults += missing(find("pushButtonClose"), Assist, 0.3);
     faults += missing(find("PlanTaskWidget"), Card, 0.02);
     faults += missing(find("title"), CardTitle, 0.5);
     faults += missing(find("pushButtonAdd"), CardAdd, 0.3);
@@ -229,9 +230,11 @@ void tst_StyleHooks::aSheetReachesEveryHookOfTheChooser()
         faults += missing(find("warningLab"), Warning, 0.9);
         faults += missing(find("tipLab"), ErrorHint, 0.3);
         faults += missing(find("overTimeTip"), ErrorHint, 0.3);
-        auto* table = chooser->findChild<QTableView*>(QStringLiteral("schedule"));
-        faults += missing(table, Table, 0.3);
-        faults += missing(table->horizontalHeader(), Header, 0.3);
+        const auto tables = chooser->findChildren<QTableView*>(QStringLiteral("schedule"));
+        for (QTableView* table : tables) {
+            faults += missing(table, Table, 0.3);
+            faults += missing(table->horizontalHeader(), Header, 0.3);
+        }
         chooser->close();
     });
     rowButton(ProgramsColumn)->click();

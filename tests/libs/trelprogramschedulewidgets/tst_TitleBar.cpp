@@ -58,6 +58,7 @@ private slots:
     void letsAFilterHoverOverTitleAndButtons();
     void takesNoHoverFilterToo();
     void paintsTheBackgroundOfAStyleSheetAlone();
+    void aSheetReachesEveryControl();
     void isQuiet();
 
 private:
@@ -404,6 +405,41 @@ void tst_TitleBar::paintsTheBackgroundOfAStyleSheetAlone()
     QCOMPARE(image.pixelColor(60, 28), QColor(0x12, 0x34, 0x56));
     for (int x = 40; x < 300; ++x)
         QCOMPARE(image.pixelColor(x, 15), QColor(0x12, 0x34, 0x56));
+}
+
+void tst_TitleBar::aSheetReachesEveryControl()
+{
+    const QStringList selectors = {
+        QStringLiteral("QMenuBar[style=\"BG4\"]"),
+        QStringLiteral("#TitleIconLabel"),
+        QStringLiteral("#ComboxTrans"),
+        QStringLiteral("#ButtonMin"),
+        QStringLiteral("#ButtonRestore"),
+        QStringLiteral("#ButtonMax"),
+        QStringLiteral("QPushButton[imageBtn=\"close\"]"),
+    };
+    const QList<QWidget*> controls = {
+        m_bar,
+        m_bar->findChild<QLabel*>(QStringLiteral("TitleIconLabel")),
+        m_bar->findChild<QComboBox*>(QStringLiteral("ComboxTrans")),
+        button("ButtonMin"),
+        button("ButtonRestore"),
+        button("ButtonMax"),
+        closeButton(),
+    };
+    const auto colourOf = [](int control) { return QColor(200, 20 * control, 30); };
+    QString sheet;
+    for (int i = 0; i < selectors.size(); ++i) {
+        sheet += QStringLiteral("%1 { background-color: %2; border: none; }\n")
+                     .arg(selectors[i], colourOf(i).name());
+    }
+    m_window->setStyleSheet(sheet);
+    for (int i = 0; i < controls.size(); ++i) {
+        controls[i]->show();
+        controls[i]->resize(controls[i]->size().expandedTo(QSize(20, 20)));
+        const QImage picture = controls[i]->grab().toImage();
+        QVERIFY2(picture.pixelColor(2, 2) == colourOf(i), qPrintable(selectors[i]));
+    }
 }
 
 void tst_TitleBar::isQuiet()
