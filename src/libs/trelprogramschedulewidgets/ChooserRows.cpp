@@ -10,6 +10,43 @@ namespace trel::mediadispatch {
 
 namespace {
 
+/// So many rows are removed one by one; the views go through all rows for each of them.
+constexpr std::size_t kFewRows = 16;
+
+/// The pattern after which a model makes a cell that is missing: hands out the given cells, row by
+/// row, instead of copies of itself.
+class ReadyCells : public QStandardItem
+{
+public:
+    explicit ReadyCells(const std::vector<QList<QStandardItem*>>& rows)
+        : m_rows(rows)
+    {}
+
+    QStandardItem* clone() const override
+    {
+        const QList<QStandardItem*>& row = m_rows[m_row];
+        QStandardItem* const cell = row.at(m_column);
+        m_column = (m_column + 1) % row.size();
+        m_row += m_column == 0 ? 1 : 0;
+        return cell;
+    }
+
+private:
+    const std::vector<QList<QStandardItem*>>& m_rows;
+    mutable std::size_t m_row = 0;
+    mutable int m_column = 0;
+};
+
+QList<QStandardItem*> takeCells(QStandardItemModel& model, int row)
+{
+    QList<QStandardItem*> cells;
+    cells.reserve(model.columnCount());
+    for (int column = 0; column < model.columnCount(); ++column) {
+        cells.append(model.takeItem(row, column));
+    }
+    return cells;
+}
+
 QStandardItem* makeCentred(const QString& text)
 {
     auto* item = new QStandardItem(text);
@@ -125,17 +162,48 @@ bool isNewChoice(const QAbstractItemModel& model, int row)
     return model.index(row, ChoiceNewColumn).data().toBool();
 }
 
-void removeRows(QAbstractItemModel& model, const std::vector<int>& rows)
+void appendRows(QStandardItemModel& model, const std::vector<QList<QStandardItem*>>& rows)
 {
-    // From the end, so that the numbers of the runs before stay right.
-    for (auto last = rows.rbegin(); last != rows.rend();) {
-        auto first = last;
-        while (std::next(first) != rows.rend() && *std::next(first) == *first - 1) {
-            ++first;
-        }
-        model.removeRows(*first, *last - *first + 1);
-        last = std::next(first);
+    if (rows.empty()) {
+        return;
     }
+    const int columns = rows.front().size();
+    if (model.columnCount() < columns) {
+        model.setColumnCount(columns);
+    }
+    const int first = model.rowCount();
+    model.setItemPrototype(new ReadyCells(rows));
+    model.insertRows(first, static_cast<int>(rows.size()));
+    for (int row = first; row < model.rowCount(); ++row) {
+        for (int column = 0; column < columns; ++column) {
+            model.itemFromIndex(model.index(row, column));
+        }
+    }
+    model.setItemPrototype(nullptr);
+}
+
+void removeRows(QStandardItemModel& model, const std::vector<int>& rows)
+{
+    if (rows.size() <= kFewRows) {
+        // From the end, so that the numbers of the rows before stay right.
+        std::for_each(rows.rbegin(), rows.rend(), [&model](int row) { model.removeRow(row); });
+        return;
+    }
+    // With its place a cell also loses the knowledge of it, and would look for itself among all
+    // cells at the next change; put in anew it knows.
+    std::vector<QList<QStandardItem*>> kept;
+    auto removed = rows.begin();
+    for (int row = rows.front(); row < model.rowCount(); ++row) {
+        const QList<QStandardItem*> cells = takeCells(model, row);
+        if (removed != rows.end() && *removed == row) {
+            ++removed;
+            qDeleteAll(cells);
+        } else {
+            kept.push_back(cells);
+        }
+    }
+    model.removeRows(rows.front(), model.rowCount() - rows.front());
+    appendRows(model, kept);
 }
 
 void removeEntries(std::vector<struProgInfo>& entries, const std::vector<int>& rows)

@@ -11,6 +11,7 @@
 
 class QAbstractItemModel;
 class QStandardItem;
+class QStandardItemModel;
 
 namespace trel::mediadispatch {
 
@@ -37,6 +38,10 @@ QList<QStandardItem*> makeOfferCells(const QString& name);
 /// The unchecked cells of a program of the plan. The caller owns them.
 QList<QStandardItem*> makeChoiceCells(const ChoiceRow& row);
 
+/// Appends rows of cells, all of one length, and tells the views of them once. The model owns the
+/// cells from here on.
+void appendRows(QStandardItemModel& model, const std::vector<QList<QStandardItem*>>& rows);
+
 /// Whether a row of either table is checked.
 bool isRowChecked(const QAbstractItemModel& model, int row);
 void setRowChecked(QAbstractItemModel& model, int row, bool checked);
@@ -54,8 +59,10 @@ int choiceCountAt(const QAbstractItemModel& model, int row);
 /// Whether the row was added since the dialog opened.
 bool isNewChoice(const QAbstractItemModel& model, int row);
 
-/// Removes these rows, given from the top, in runs that lie together.
-void removeRows(QAbstractItemModel& model, const std::vector<int>& rows);
+/// Removes these rows, given from the top. A few go one by one; when they are many, the rows that
+/// stay behind the first of them are taken out and put back, which tells the views of two changes
+/// and ends the editing of a cell among them.
+void removeRows(QStandardItemModel& model, const std::vector<int>& rows);
 /// Removes the entries at these rows, given from the top. A row past the end is passed over.
 void removeEntries(std::vector<struProgInfo>& entries, const std::vector<int>& rows);
 

@@ -32,12 +32,11 @@ MultiComboBox::MultiComboBox(QWidget* parent)
     , m_separator(QLatin1Char(','))
     , m_lastHideTime(Clock::current().timeOfDay())
 {
-    view()->viewport()->installEventFilter(this);
-    auto* const delegate = new BoolCheckDelegate(this);
-    setItemDelegate(delegate);
-    connect(delegate, &BoolCheckDelegate::toggleRequested, this, &MultiComboBox::toggle);
-
-    setEditable(true);
+    // A line of its own is what makes a box editable. setEditable() would build the list as well,
+    // which is most of the box, and most boxes of a long schedule are never opened.
+    auto* const line = new QLineEdit(this);
+    line->setPalette(palette());
+    setLineEdit(line);
     setInsertPolicy(QComboBox::NoInsert);
     lineEdit()->setAttribute(Qt::WA_TransparentForMouseEvents);
     lineEdit()->setReadOnly(true);
@@ -61,11 +60,17 @@ void MultiComboBox::setEveryDayText(const QString& text)
 
 void MultiComboBox::setShownText(const QString& text)
 {
-    m_currentText = text;
-    m_cutText = QFontMetrics(font()).elidedText(text, Qt::ElideRight, kTextWidth);
-    setCurrentText(m_cutText);
+    // Measuring is what is dear here, and a list that opens shows the same text again.
+    if (text != m_currentText || font() != m_cutFont) {
+        m_currentText = text;
+        m_cutFont = font();
+        m_cutText = QFontMetrics(m_cutFont).elidedText(text, Qt::ElideRight, kTextWidth);
+    }
+    keepShownText();
     lineEdit()->setCursorPosition(0);
-    setToolTip(text);
+    if (toolTip() != text) {
+        setToolTip(text);
+    }
 }
 
 void MultiComboBox::restoreCheckMarks()
@@ -100,6 +105,7 @@ void MultiComboBox::showPopup()
         return;
     }
     restoreCheckMarks();
+    prepareList();
     fitPopupToLabels();
     QComboBox::showPopup();
 }
@@ -111,8 +117,24 @@ void MultiComboBox::hidePopup()
     QComboBox::hidePopup();
 }
 
+void MultiComboBox::childEvent(QChildEvent* event)
+{
+    QComboBox::childEvent(event);
+    // The one window is what holds the list. It is no more than begun, and tells when it gets it.
+    const bool isWindow = event->added() && event->child()->isWidgetType() &&
+                          static_cast<QWidget*>(event->child())->isWindow();
+    if (isWindow && !m_popup) {
+        m_popup = event->child();
+        m_popup->installEventFilter(this);
+    }
+}
+
 bool MultiComboBox::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_popup) {
+        watchList(*event);
+        return QComboBox::eventFilter(watched, event);
+    }
     if (event->type() != QEvent::MouseButtonRelease) {
         return QObject::eventFilter(watched, event);
     }
@@ -213,7 +235,32 @@ void MultiComboBox::keepShownText()
 
 bool MultiComboBox::isPopupOpen() const
 {
-    return view()->isVisible();
+    const auto* const popup = qobject_cast<const QWidget*>(m_popup);
+    return popup && popup->isVisible();
+}
+
+void MultiComboBox::watchList(const QEvent& event)
+{
+    if (event.type() != QEvent::ChildAdded) {
+        return;
+    }
+    const auto& added = static_cast<const QChildEvent&>(event);
+    if (const auto* const list = qobject_cast<QAbstractItemView*>(added.child())) {
+        list->viewport()->installEventFilter(this);
+    }
+}
+
+void MultiComboBox::prepareList()
+{
+    if (!m_delegate) {
+        m_delegate = new BoolCheckDelegate(this);
+        connect(m_delegate, &BoolCheckDelegate::toggleRequested, this, &MultiComboBox::toggle);
+    }
+    // Another style brings a delegate of its own, and whoever watches last is asked first.
+    if (itemDelegate() != m_delegate) {
+        setItemDelegate(m_delegate);
+    }
+    view()->viewport()->installEventFilter(this);
 }
 
 void MultiComboBox::fitPopupToLabels()

@@ -1,10 +1,14 @@
 #pragma once
 
 #include <QComboBox>
+#include <QFont>
+#include <QPointer>
 #include <QStringList>
 #include <QTime>
 
 namespace trel::mediadispatch {
+
+class BoolCheckDelegate;
 
 /// A combo box whose list holds check marks, so that several entries can be chosen at once. The
 /// first entry and the others exclude each other, as an entry for everything needs it.
@@ -51,6 +55,7 @@ signals:
     void signalSelectedText(const QStringList& labels);
 
 protected:
+    void childEvent(QChildEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -66,6 +71,8 @@ private:
     void showLabels(const QStringList& labels);
     void keepShownText();
     bool isPopupOpen() const;
+    void watchList(const QEvent& event);
+    void prepareList();
     void fitPopupToLabels();
     void commit();
 
@@ -76,6 +83,9 @@ private:
     QTime m_lastHideTime;
     QString m_everyDayText;
     QString m_cutText;
+    QFont m_cutFont; // The one that the text was cut for.
+    QPointer<QObject> m_popup;
+    QPointer<BoolCheckDelegate> m_delegate;
 };
 
 } // namespace trel::mediadispatch

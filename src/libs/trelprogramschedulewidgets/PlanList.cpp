@@ -59,6 +59,14 @@ void applyNewTaskDefaults(trel::mediadispatch::PlayTask& task)
     task.endDate = task.startDate;
 }
 
+/// Every widget asks for its look by an event as soon as it is made, and takes it when it is shown
+/// whether the event has come or not. Left to wait, the events of all cards are looked through for
+/// each layout of each card. Nobody else has any: they were handled before the first card was made.
+void forgetPolishRequests()
+{
+    QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
+}
+
 } // namespace
 
 PlanList::PlanList(QWidget* parent)
@@ -186,6 +194,7 @@ void PlanList::rebuild()
     service().updateUItask();
     for (const auto& [id, task] : tasks) {
         addCard(task, true);
+        forgetPolishRequests();
     }
     if (wasVisible) {
         show();

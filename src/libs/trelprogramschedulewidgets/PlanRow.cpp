@@ -5,6 +5,7 @@
 #include "PlanLabels.h"
 #include "ProgramNames.h"
 #include "ScheduleText.h"
+#include "kCustomLineEdit.h"
 #include "service/TimeText.h"
 #include "service/scheduleManage.h"
 
@@ -72,8 +73,8 @@ constexpr std::array<SpokenName, 9> kSpokenNames = {{
 /// program field opens the chooser.
 QWidget* editorIn(QWidget* holder)
 {
-    if (auto* const add = holder->findChild<QPushButton*>(QStringLiteral("pushButton"))) {
-        return add;
+    if (const auto* const field = qobject_cast<kCustomLineEdit*>(holder)) {
+        return field->findChild<QPushButton*>(QStringLiteral("pushButton"));
     }
     QLayoutItem* const item = holder->layout() ? holder->layout()->itemAt(0) : nullptr;
     return item && item->widget() ? item->widget() : holder;
@@ -145,15 +146,17 @@ private:
 };
 
 // The holder belongs to the viewport from the start, which is where the table wants it, so that no
-// widget is polished twice.
+// widget is polished twice. The layout comes to its holder when it is complete: until then nobody
+// asks for it to be carried out, and no request has to be looked for among all that wait.
 template <typename Editor>
 Editor* RowBuilder::makeEditor(QWidget*& holder) const
 {
     holder = new QWidget(m_table.viewport());
-    auto* const layout = new QVBoxLayout(holder);
+    auto* const layout = new QVBoxLayout;
     layout->setContentsMargins(0, 0, 0, 0);
     auto* const editor = new Editor(holder);
     layout->addWidget(editor);
+    holder->setLayout(layout);
     return editor;
 }
 
@@ -263,9 +266,19 @@ QPushButton* RowBuilder::addButton(PlanColumn column, const QString& image, cons
     return button;
 }
 
+// The table shows what it is given, and with that measures and lays out its contents, which under a
+// card that is not on screen would be done for nothing: it is done when the card comes into sight.
 void RowBuilder::place(PlanColumn column, QWidget* holder) const
 {
+    QLayout* const layout = m_table.isVisible() ? nullptr : holder->layout();
+    if (layout) {
+        holder->resize(m_table.columnWidth(column), m_table.rowHeight(m_row));
+        layout->setEnabled(false);
+    }
     m_table.setIndexWidget(m_table.model()->index(m_row, column), holder);
+    if (layout) {
+        layout->setEnabled(true);
+    }
 }
 
 } // namespace

@@ -90,10 +90,11 @@ LineEditDelegate* setUpPlanTable(QTableView& table, PlanStandardItemModel& model
     table.verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
     table.verticalScrollBar()->setFixedWidth(kScrollBarWidth);
 
-    model.setColumnCount(PlanColumnCount);
-    table.setModel(&model);
     setUpHeaders(table);
     setUpBehaviour(table);
+    // After the headers are hidden, or they would be measured in vain.
+    model.setColumnCount(PlanColumnCount);
+    table.setModel(&model);
     keepRightEndInSight(table);
     LineEditDelegate* const programs = addDelegates(table, owner);
     for (int column = 0; column < PlanColumnCount; ++column) {

@@ -180,13 +180,18 @@ void ProgramChoose::loadTables()
 
 void ProgramChoose::loadPrograms()
 {
-    for (const auto& [key, program] : service().getPrograms()) {
+    const std::map<int, ProgramIten> catalogue = service().getPrograms();
+    std::vector<QList<QStandardItem*>> rows;
+    rows.reserve(catalogue.size());
+    m_allPrograms.reserve(catalogue.size());
+    for (const auto& [key, program] : catalogue) {
         if (program.isNull) {
             continue;
         }
-        m_programModel->appendRow(makeOfferCells(QString::fromStdString(program.progName)));
+        rows.push_back(makeOfferCells(QString::fromStdString(program.progName)));
         m_allPrograms.push_back({program.progIndex, false, program.progName, 1});
     }
+    appendRows(*m_programModel, rows);
 }
 
 void ProgramChoose::loadPlan()
@@ -195,20 +200,29 @@ void ProgramChoose::loadPlan()
     const QString nullSuffix = scheduleText("szProgNullStr");
     int index = -1;
     PlayPlan plan = service().getPlan(m_taskId, m_planId, index);
+    std::vector<ChoiceRow> rows;
+    rows.reserve(plan.programs.size());
     for (struProgInfo& entry : plan.programs) {
         if (buryInvalidEntry(entry, invalidSuffix)) {
             service().addPlan(m_taskId, plan);
         }
         ChoiceRow row = choiceRowOf(entry, findProgram, nullSuffix);
-        row.number = m_planModel->rowCount() + 1;
-        appendPlanRow(row);
+        row.number = static_cast<int>(rows.size()) + 1;
+        rows.push_back(std::move(row));
     }
+    appendPlanRows(rows);
     m_selectedPrograms = std::move(plan.programs);
 }
 
-void ProgramChoose::appendPlanRow(const ChoiceRow& row)
+void ProgramChoose::appendPlanRows(const std::vector<ChoiceRow>& rows)
 {
-    m_planModel->appendRow(makeChoiceCells(row));
+    if (rows.empty()) {
+        return;
+    }
+    std::vector<QList<QStandardItem*>> cells;
+    cells.reserve(rows.size());
+    std::transform(rows.begin(), rows.end(), std::back_inserter(cells), makeChoiceCells);
+    appendRows(*m_planModel, cells);
     // These columns come into being with the first row.
     ui->tableViewChoonse->hideColumn(ChoiceIndexColumn);
     ui->tableViewChoonse->hideColumn(ChoiceNewColumn);
@@ -287,6 +301,7 @@ int ProgramChoose::countCheckedPlanRows() const
 
 void ProgramChoose::slotChose()
 {
+    std::vector<ChoiceRow> rows;
     for (const int row : m_checkOrder.rows()) {
         const auto position = static_cast<std::size_t>(row);
         if (position >= m_allPrograms.size()) {
@@ -297,10 +312,11 @@ void ProgramChoose::slotChose()
         added.name = QString::fromStdString(program.progName);
         added.progIndex = program.progIndex;
         added.isNew = true;
-        appendPlanRow(added);
+        rows.push_back(std::move(added));
         m_selectedPrograms.push_back(program);
         m_planChanged = true;
     }
+    appendPlanRows(rows);
     updateTotalDuration(kNoRow, kNoRow);
     renumberPlanRows();
     enableConfirming();

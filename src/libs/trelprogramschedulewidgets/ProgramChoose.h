@@ -101,7 +101,7 @@ private:
     void loadTables();
     void loadPrograms();
     void loadPlan();
-    void appendPlanRow(const ChoiceRow& row);
+    void appendPlanRows(const std::vector<ChoiceRow>& rows);
 
     void checkAllPrograms(bool check);
     void updateCheckOrder(int row, bool check);

@@ -42,10 +42,8 @@ kCustomLineEdit::~kCustomLineEdit() = default;
 
 void kCustomLineEdit::setText(QString& text)
 {
-    const QFontMetrics metrics = textMetrics();
-    if (metrics.horizontalAdvance(text) >= kTextWidth) {
-        text = metrics.elidedText(text, Qt::ElideRight, kTextWidth);
-    }
+    // A text that has room comes back as it is.
+    text = textMetrics().elidedText(text, Qt::ElideRight, kTextWidth);
     m_ui->lineEdit->setText(text);
 }
 

@@ -156,7 +156,7 @@ void tst_ProgramChooseLarge::choosingMany()
         QCOMPARE(table->model()->rowCount(), kPlanRows);
         QCOMPARE(cellText(table, 0, 2), QStringLiteral("Program %1").arg(kPlanRows));
         QCOMPARE(cellText(table, kPlanRows - 1, 1), QString::number(kPlanRows));
-        QCOMPARE(traffic.insertions, kPlanRows);
+        QCOMPARE(traffic.insertions, 1);
         QVERIFY(traffic.changes <= kPlanRows);
         QCOMPARE(fixture.service.log.size(), kPlanRows);
         chooser.cancel();
@@ -189,7 +189,12 @@ void tst_ProgramChooseLarge::deletingEverySecondRow()
             dialog->slotChecked(PlanListCheck, row, true);
         }
         const QTableView* table = chooser.planTable();
+        ModelTraffic traffic(table->model());
         chooser.remove();
+        // The views go through all rows for every change that they are told of.
+        QCOMPARE(traffic.removals, 1);
+        QCOMPARE(traffic.insertions, 1);
+        QVERIFY(traffic.changes <= kPlanRows / 2);
         QCOMPARE(table->model()->rowCount(), kPlanRows / 2);
         QCOMPARE(cellText(table, 0, 2), QStringLiteral("Program 2"));
         QCOMPARE(cellText(table, kPlanRows / 2 - 1, 1), QString::number(kPlanRows / 2));

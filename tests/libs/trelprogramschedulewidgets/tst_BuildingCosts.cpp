@@ -1,0 +1,215 @@
+#include "MultiComboBox.h"
+#include "PlanList.h"
+#include "PlanTaskWidget.h"
+#include "support/RecordingService.h"
+#include "support/TaskRecords.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QLineEdit>
+#include <QProxyStyle>
+#include <QTableView>
+#include <QtTest>
+
+#include <memory>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+/// Counts the events of one type that reach anything at all.
+class EventCount : public QObject
+{
+public:
+    explicit EventCount(QEvent::Type type)
+        : m_type(type)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == m_type ? 1 : 0;
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+};
+
+/// Counts how often somebody asks how large a combo box would like to be.
+class MeasuringCount : public QProxyStyle
+{
+public:
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override
+    {
+        count += type == CT_ComboBox ? 1 : 0;
+        return QProxyStyle::sizeFromContents(type, option, size, widget);
+    }
+
+    mutable int count = 0;
+};
+
+PlayTask taskOf(int id, int plans)
+{
+    PlayTask task = makeTask(id, "2024.01.01", "2024.01.02");
+    for (int planId = 1; planId <= plans; ++planId) {
+        PlayPlan plan;
+        plan.id = planId;
+        plan.startTime = "08:00:00";
+        plan.endTime = "08:30:00";
+        plan.weeks = std::to_string(planId % 7 + 1);
+        task.plans.push_back(plan);
+    }
+    return task;
+}
+
+/// The requests for a layout that wait when a card of so many plans has been built.
+int waitingLayouts(int plans)
+{
+    QCoreApplication::processEvents();
+    QWidget window;
+    const PlanTaskWidget card(taskOf(1, plans), &window);
+    const EventCount requests(QEvent::LayoutRequest);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    return requests.count;
+}
+
+QStringList places(const PlanTaskWidget& card)
+{
+    const auto* table = card.findChild<QTableView*>();
+    QStringList lines;
+    for (const QWidget* widget : table->viewport()->findChildren<QWidget*>()) {
+        if (widget->isVisible()) {
+            const QRect rect(widget->mapTo(&card, QPoint(0, 0)), widget->size());
+            lines.append(QStringLiteral("%1 %2,%3 %4x%5")
+                             .arg(QLatin1String(widget->metaObject()->className()))
+                             .arg(rect.x())
+                             .arg(rect.y())
+                             .arg(rect.width())
+                             .arg(rect.height()));
+        }
+    }
+    lines.sort();
+    return lines;
+}
+
+} // namespace
+
+/// What it takes to build cards and lists, counted: a thing that is done once too often for every
+/// row, or that is looked for among those of all rows, shows with the first long schedule.
+class tst_BuildingCosts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void aBoxIsBuiltWithoutItsList();
+    void theListOfABoxIsWatchedByWhomeverItIsMade();
+    void rowsOfAHiddenCardAreNotMeasured();
+    void rowsBuiltOutOfSightLieWhereOthersDo();
+    void aRowAsksForFewLayouts();
+    void noPolishRequestWaitsAfterARefresh();
+};
+
+void tst_BuildingCosts::init()
+{
+    RecordingService::instance().reset();
+}
+
+void tst_BuildingCosts::aBoxIsBuiltWithoutItsList()
+{
+    QWidget window;
+    auto* const box = new MultiComboBox(&window);
+    box->addItem(QStringLiteral("every day"));
+    box->addItem(QStringLiteral("Monday"));
+    box->setShownText(QStringLiteral("Monday"));
+    box->restoreCheckMarks();
+    window.show();
+    box->setEnabled(false);
+    box->hide();
+    QVERIFY(box->findChildren<QAbstractItemView*>().isEmpty());
+    QVERIFY(box->isEditable());
+    QVERIFY(box->lineEdit()->isReadOnly());
+}
+
+void tst_BuildingCosts::theListOfABoxIsWatchedByWhomeverItIsMade()
+{
+    MultiComboBox box;
+    box.addItem(QStringLiteral("every day"));
+    box.addItem(QStringLiteral("Monday"));
+    box.setShownText(QStringLiteral("every day"));
+    box.restoreCheckMarks();
+    // Nobody has opened the list.
+    QAbstractItemView* const list = box.view();
+    const QPoint monday = list->visualRect(box.model()->index(1, 0)).center();
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, monday);
+    QVERIFY(!box.itemData(0, Qt::CheckStateRole).toBool());
+    QVERIFY(box.itemData(1, Qt::CheckStateRole).toBool());
+}
+
+void tst_BuildingCosts::rowsOfAHiddenCardAreNotMeasured()
+{
+    auto* const style = new MeasuringCount;
+    QApplication::setStyle(style);
+    QWidget window;
+    PlanTaskWidget card(taskOf(1, 10), &window);
+    card.setFolded(true);
+    QCOMPARE(style->count, 0);
+    window.show();
+    card.setFolded(false);
+    QVERIFY(style->count > 0);
+}
+
+void tst_BuildingCosts::rowsBuiltOutOfSightLieWhereOthersDo()
+{
+    QWidget window;
+    window.resize(1100, 700);
+    auto* const early = new PlanTaskWidget(taskOf(1, 3), &window);
+    window.show();
+    QCoreApplication::processEvents();
+    // Built while its card is on screen.
+    auto* const late = new PlanTaskWidget(taskOf(2, 2), &window);
+    late->show();
+    late->slotAddRowPlan(taskOf(2, 3).plans.back(), true);
+    QCoreApplication::processEvents();
+    early->adjustSize();
+    late->adjustSize();
+    QTRY_COMPARE(places(*late), places(*early));
+    QVERIFY(places(*early).size() > 30);
+}
+
+void tst_BuildingCosts::aRowAsksForFewLayouts()
+{
+    // The program field has a form with two layouts; the holders of the other cells are made
+    // complete.
+    QCOMPARE(waitingLayouts(30) - waitingLayouts(10), 2 * 20);
+}
+
+void tst_BuildingCosts::noPolishRequestWaitsAfterARefresh()
+{
+    for (int id = 1; id <= 5; ++id) {
+        RecordingService::instance().stored[id] = taskOf(id, 3);
+    }
+    QWidget window;
+    auto* const list = new PlanList(&window);
+    window.show();
+    list->refreshPlanList();
+    const EventCount requests(QEvent::PolishRequest);
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(requests.count, 0);
+    // What is in sight has its look all the same.
+    const auto cards = list->findChildren<PlanTaskWidget*>();
+    QCOMPARE(cards.size(), 5);
+    for (const PlanTaskWidget* card : cards) {
+        QVERIFY(card->testAttribute(Qt::WA_WState_Polished));
+    }
+}
+
+QTEST_MAIN(tst_BuildingCosts)
+
+#include "tst_BuildingCosts.moc"
