@@ -28,6 +28,11 @@ ScheduleHost& ScheduleHost::instance()
     return host;
 }
 
+ScreenDispatch& ScheduleHost::dispatch()
+{
+    return service().state().inEffect.dispatch();
+}
+
 StoreResult ScheduleHost::open(const QString& path, OpenMode mode)
 {
     return service().open(path, mode);

@@ -11,6 +11,7 @@
 
 namespace trel::mediadispatch {
 
+class ScreenDispatch;
 struct MediaSource;
 
 /// Why the store refused something.
@@ -70,15 +71,21 @@ public:
     /// The one instance, beside scheduleManage::getInstance().
     static ScheduleHost& instance();
 
+    /// The schedule in effect at work: started by scheduleManage::slotOpen with the stored set, and
+    /// stopped by close. What is saved after that shows from the next start on; what becomes of the
+    /// programs shows at once. The same object on every call.
+    ScreenDispatch& dispatch();
+
     /// Opens the store in a file and reads catalogue and stored set; a store that was open is
-    /// closed first. On failure the file is left untouched and no store is open. Emits nothing: an
-    /// editor on show is to be refreshed by the host.
+    /// closed first. On failure the file is left untouched and no store is open. Emits nothing, but
+    /// that a schedule in effect has stopped: an editor on show is to be refreshed by the host.
     ///
     /// A file or folder that is marked read-only is not written, by whatever right. A file of no
     /// bytes is as good as none: it becomes a store where one may be made. Needs a
     /// QCoreApplication, and closes by itself when that goes.
     StoreResult open(const QString& path, OpenMode mode = OpenMode::CreateIfMissing);
-    /// Forgets the store and everything read from it. What was not saved is lost.
+    /// Forgets the store and everything read from it. What was not saved is lost, and a schedule in
+    /// effect stops.
     void close();
     bool isOpen() const;
     /// Absolute path of the open store; empty when none is.

@@ -1,26 +1,46 @@
 #include "ScheduleInEffect.h"
 
+#include "service/Clock.h"
+
+#include <algorithm>
+
 namespace trel::mediadispatch {
 
-void ScheduleInEffect::start(const TaskMap& tasks)
+namespace {
+
+Instant now()
 {
-    m_tasks = tasks;
-    m_insertion.reset();
-    m_running = true;
+    return Clock::current().msecsSinceEpoch();
 }
 
-void ScheduleInEffect::stop()
+/// The insertion that has the screen now; null without one.
+const ScreenInsertion* insertionOnScreen(const ScreenInsertions& insertions)
 {
-    m_tasks.clear();
-    m_insertion.reset();
-    m_running = false;
+    const Instant moment = now();
+    const auto found =
+        std::find_if(insertions.begin(), insertions.end(),
+                     [moment](const ScreenInsertion& one) { return one.hasScreenAt(moment); });
+    return found == insertions.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+bool ScheduleInEffect::takesInsertion() const
+{
+    const ScreenInsertions& insertions = m_dispatch.insertions();
+    const Instant moment = now();
+    const bool waits =
+        std::any_of(insertions.begin(), insertions.end(),
+                    [moment](const ScreenInsertion& one) { return one.isWaitingAt(moment); });
+    return m_dispatch.isRunning() && !waits;
 }
 
 PlayPlan ScheduleInEffect::plan(int taskId, int planId, int& index) const
 {
-    PlayPlan found = findPlan(m_tasks, taskId, planId, index);
-    if (m_insertion && m_insertion->taskId == taskId && m_insertion->planId == planId) {
-        return m_insertion->plan;
+    const PlayPlan found = findPlan(m_dispatch.tasks(), taskId, planId, index);
+    const ScreenInsertion* inserted = insertionOnScreen(m_dispatch.insertions());
+    if (inserted && inserted->taskId == taskId && inserted->planId == planId) {
+        return inserted->plan;
     }
     return found;
 }
@@ -28,16 +48,13 @@ PlayPlan ScheduleInEffect::plan(int taskId, int planId, int& index) const
 void ScheduleInEffect::insert(int taskId, int planId, const PlayPlan& plan, bool isDelayed)
 {
     int index = -1;
-    findPlan(m_tasks, taskId, planId, index);
+    findPlan(m_dispatch.tasks(), taskId, planId, index);
     if (index >= 0) {
-        m_insertion = PlanInsertion{taskId, planId, plan, isDelayed, {}};
-    }
-}
-
-void ScheduleInEffect::setOriginal(const std::vector<struProgInfo>& programs)
-{
-    if (m_insertion) {
-        m_insertion->original = programs;
+        ScreenInsertion request;
+        request.taskId = taskId;
+        request.planId = planId;
+        request.plan = plan;
+        m_dispatch.insert(std::move(request), isDelayed);
     }
 }
 

@@ -1,47 +1,46 @@
 #pragma once
 
+#include "ProgramCatalogue.h"
 #include "TaskSets.h"
+#include "trelprogramschedule/dispatch/ScreenDispatch.h"
 
-#include <optional>
 #include <vector>
 
 namespace trel::mediadispatch {
 
-/// A plan that takes the place of another for a while.
-struct PlanInsertion
-{
-    int taskId = 0;
-    int planId = 0;
-    PlayPlan plan;
-    bool isDelayed = false;             ///< Waits until the current play has ended.
-    std::vector<struProgInfo> original; ///< The plan's list as it stood before.
-};
-
-/// The schedule that was started, apart from what is stored and what is being edited, with the one
-/// insertion that may stand in it.
+/// The schedule that was started, apart from what is stored and what is being edited, and what the
+/// editor asks of it: which plans are in use, and whether and how others are cut in.
 class ScheduleInEffect
 {
 public:
-    /// Puts a schedule in the place of the former one, whose insertion goes with it.
-    void start(const TaskMap& tasks);
-    void stop();
-    bool isRunning() const { return m_running; }
+    explicit ScheduleInEffect(const ProgramCatalogue& catalogue)
+        : m_dispatch(catalogue.programs())
+    {}
 
-    const TaskMap& tasks() const { return m_tasks; }
-    const std::optional<PlanInsertion>& insertion() const { return m_insertion; }
+    /// Puts a schedule in the place of the former one, whose insertions go with it.
+    void start(const TaskMap& tasks) { m_dispatch.start(tasks); }
+    void stop() { m_dispatch.stop(); }
+    /// To be called when programs have changed.
+    void updatePrograms() { m_dispatch.updatePrograms(); }
 
-    /// As findPlan, with the insertion applied.
+    /// Whether an insertion can be taken: a schedule is in effect, and no insertion waits.
+    bool takesInsertion() const;
+    /// As findPlan; the inserted plan instead while it has the screen.
     PlayPlan plan(int taskId, int planId, int& index) const;
 
-    /// Takes the place of any earlier insertion. Ignored when the plan is not in effect.
+    /// Cuts a plan in for one in effect, at once or when the current play has ended. Ignored when
+    /// that plan is not in effect.
     void insert(int taskId, int planId, const PlayPlan& plan, bool isDelayed);
-    /// Kept with the insertion; ignored when there is none.
-    void setOriginal(const std::vector<struProgInfo>& programs);
+    /// Kept with the last insertion; ignored when there is none.
+    void setOriginal(const std::vector<struProgInfo>& programs)
+    {
+        m_dispatch.setOriginal(programs);
+    }
+
+    ScreenDispatch& dispatch() { return m_dispatch; }
 
 private:
-    bool m_running = false;
-    TaskMap m_tasks;
-    std::optional<PlanInsertion> m_insertion;
+    ScreenDispatch m_dispatch;
 };
 
 } // namespace trel::mediadispatch

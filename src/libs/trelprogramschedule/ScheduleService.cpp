@@ -29,20 +29,6 @@ void closeWithApplication()
     Q_UNUSED(registered)
 }
 
-void announce(const CatalogueChange& change, int progIndex)
-{
-    if (!change.any) {
-        return;
-    }
-    scheduleManage& manager = scheduleManage::getInstance();
-    emit manager.sigProgIndexChanged();
-    if (change.lengths) {
-        emit manager.signalUpdatePlanEndTime();
-        emit manager.signalReflushConflict(progIndex);
-    }
-    emit ScheduleHost::instance().catalogueChanged();
-}
-
 TaskMap filedByTheirIds(const TaskMap& tasks)
 {
     TaskMap filed;
@@ -79,8 +65,18 @@ StoreResult ScheduleService::open(const QString& path, ScheduleHost::OpenMode mo
 void ScheduleService::close()
 {
     m_database.close();
-    m_state = ScheduleState();
+    m_state.tasks.clear();
+    m_state.catalogue.clear();
+    m_state.selectedProgram.clear();
     m_revision = StoreRevision();
+    m_isMarkingDue = false;
+    m_state.inEffect.stop();
+}
+
+void ScheduleService::start()
+{
+    closeWithApplication();
+    m_state.inEffect.start(m_state.tasks.stored());
 }
 
 StoreResult ScheduleService::read(StorePart part)
@@ -105,6 +101,21 @@ void ScheduleService::takeCatalogue(StoreContents& contents)
     m_state.catalogue.checkFiles();
     m_revision.catalogue = contents.revision.catalogue;
     m_isMarkingDue = true;
+}
+
+void ScheduleService::announce(const CatalogueChange& change, int progIndex)
+{
+    if (!change.any) {
+        return;
+    }
+    m_state.inEffect.updatePrograms();
+    scheduleManage& manager = scheduleManage::getInstance();
+    emit manager.sigProgIndexChanged();
+    if (change.lengths) {
+        emit manager.signalUpdatePlanEndTime();
+        emit manager.signalReflushConflict(progIndex);
+    }
+    emit ScheduleHost::instance().catalogueChanged();
 }
 
 StoreResult ScheduleService::readCatalogue(int progIndex)

@@ -19,7 +19,7 @@ struct ScheduleState
 {
     TaskSets tasks;
     ProgramCatalogue catalogue;
-    ScheduleInEffect inEffect;
+    ScheduleInEffect inEffect{catalogue};
     std::string selectedProgram; ///< UTF-8; see scheduleManage::setqstrSelectedProgram.
 };
 
@@ -39,6 +39,8 @@ public:
     void close();
     const ScheduleDatabase& database() const { return m_database; }
 
+    /// Puts the stored set into effect.
+    void start();
     /// Commits the working set.
     StoreResult save();
     /// Commits other tasks and makes them the working set.
@@ -60,6 +62,8 @@ private:
     /// Reads the parts that are asked for into the state.
     StoreResult read(StorePart part);
     void takeCatalogue(StoreContents& contents);
+    /// Tells everybody how the catalogue has changed.
+    void announce(const CatalogueChange& change, int progIndex);
     /// Reads the catalogue and tells how it has changed.
     StoreResult readCatalogue(int progIndex);
     /// Reads the programs that have just been written; only these, where nobody else wrote.

@@ -76,7 +76,7 @@ void scheduleManage::save()
 
 void scheduleManage::slotOpen()
 {
-    d->state.inEffect.start(d->state.tasks.stored());
+    d->service.start();
 }
 
 PlayPlan scheduleManage::getPlan(int taskId, int planId, int& index)
@@ -111,7 +111,7 @@ void scheduleManage::passOriginalPlanProgInfo(const std::vector<struProgInfo>& p
 
 bool scheduleManage::getScheduleState() const
 {
-    return !d->state.inEffect.isRunning();
+    return !d->state.inEffect.takesInsertion();
 }
 
 std::map<int, ProgramIten> scheduleManage::getPrograms()

@@ -7,17 +7,21 @@
 
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace trel::mediadispatch {
 
 class ScreenTimeline;
 struct PlayTask;
+struct ProgramIten;
 
 /// The schedule in effect at work: what is on screen now, followed as time goes by.
 ///
 /// Sleeps until the next event, by the clock that was in force when the schedule was started, and
 /// is woken early when that clock is set, so that what it says is never more than a second old.
 /// Reached through ScheduleHost::dispatch(); GUI thread only.
+// The destructor is private, for nobody but the service makes or ends the one instance.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class Q_DECL_EXPORT ScreenDispatch : public QObject
 {
     Q_OBJECT
@@ -28,20 +32,43 @@ public:
     /// What is on screen at this moment, worked out anew.
     ScreenState state() const;
     /// The schedule in effect with its insertions, for questions about other moments. Without one
-    /// these are empty. Valid until the next changed().
+    /// these are empty. Valid until the next changed(), which a slot of that very signal may cause:
+    /// copy what is to outlive a call.
     const ScreenTimeline& timeline() const;
     const std::map<int, PlayTask>& tasks() const;
+    /// Those that are over stay until the next one comes. The original of the last one is filled in
+    /// right after changed() has told of it.
     const ScreenInsertions& insertions() const;
 
 signals:
     /// Something else is on screen than was last told, or was to come: a play has ended or begun,
-    /// a schedule was started or stopped, an insertion was taken, a program came or went.
+    /// a schedule was started or stopped, an insertion was taken, a program of the schedule came,
+    /// went or got another length, the clock leapt to another picture. Not emitted for what makes
+    /// no difference; what is on screen may still be what it was, where only what follows is new.
     void changed(const trel::mediadispatch::ScreenState& state);
 
 private:
     friend class ScheduleInEffect;
-    ScreenDispatch();
+    /// The programs are looked at whenever the timeline is built.
+    explicit ScreenDispatch(const std::map<int, ProgramIten>& programs);
     ~ScreenDispatch() override;
+
+    /// Puts a schedule in the place of the former one, whose insertions go with it.
+    void start(const std::map<int, PlayTask>& tasks);
+    void stop();
+    /// Takes note that the programs have changed.
+    void updatePrograms();
+    /// Cuts a plan in, at once or as soon as the play on screen has ended.
+    void insert(ScreenInsertion request, bool isDelayed);
+    /// Kept with the insertion that came last.
+    void setOriginal(const std::vector<struProgInfo>& programs);
+
+    void wake();
+    /// Tells what is on screen, if that is anything new, and sleeps until it is over.
+    void follow(bool isAnew);
+
+    class Private;
+    std::unique_ptr<Private> d;
 };
 
 } // namespace trel::mediadispatch

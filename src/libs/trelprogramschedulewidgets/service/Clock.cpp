@@ -1,5 +1,7 @@
 #include "service/Clock.h"
 
+#include "service/MachineAlarm.h"
+
 #include <utility>
 
 namespace trel::mediadispatch {
@@ -28,9 +30,19 @@ QDateTime Clock::now() const
     return QDateTime::currentDateTime();
 }
 
+QTimeZone Clock::zone() const
+{
+    return QTimeZone::systemTimeZone();
+}
+
 qint64 Clock::elapsed(const QElapsedTimer& timer) const
 {
     return timer.elapsed();
+}
+
+std::unique_ptr<ClockAlarm> Clock::makeAlarm(std::function<void()> ring) const
+{
+    return std::make_unique<MachineAlarm>(*this, std::move(ring));
 }
 
 const Clock* Clock::install(const Clock* clock)

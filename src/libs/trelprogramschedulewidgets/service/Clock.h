@@ -1,7 +1,13 @@
 #pragma once
 
+#include "service/ClockAlarm.h"
+
 #include <QDateTime>
 #include <QElapsedTimer>
+#include <QTimeZone>
+
+#include <functional>
+#include <memory>
 
 namespace trel::mediadispatch {
 
@@ -18,8 +24,14 @@ public:
     virtual ~Clock() = default;
 
     virtual QDateTime now() const;
+    /// The zone whose time of day local time is. May change while the program runs.
+    virtual QTimeZone zone() const;
     /// Milliseconds that a started timer has run.
     virtual qint64 elapsed(const QElapsedTimer& timer) const;
+    /// An alarm that goes by this clock and calls back when it rings. Takes note of every leap from
+    /// here on, also of those before it is first set. A clock that shows another time than the
+    /// machine's gives out alarms of its own.
+    virtual std::unique_ptr<ClockAlarm> makeAlarm(std::function<void()> ring) const;
 
     QDate today() const { return now().date(); }
     QTime timeOfDay() const { return now().time(); }
