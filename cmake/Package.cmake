@@ -27,9 +27,20 @@ install(FILES
   src/libs/trelprogramschedule/ScheduleHost.h
   src/libs/trelprogramschedule/ScheduleJson.h
   DESTINATION ${include_dir}/trelprogramschedule)
+install(FILES
+  src/libs/trelprogramschedule/dispatch/ScreenDispatch.h
+  src/libs/trelprogramschedule/dispatch/ScreenInsertion.h
+  src/libs/trelprogramschedule/dispatch/ScreenState.h
+  src/libs/trelprogramschedule/dispatch/ScreenTimeline.h
+  DESTINATION ${include_dir}/trelprogramschedule/dispatch)
 install(DIRECTORY src/libs/trelprogramschedulewidgets/service
   DESTINATION ${include_dir}
-  FILES_MATCHING PATTERN *.h)
+  FILES_MATCHING
+  PATTERN LookingAlarm.h EXCLUDE
+  PATTERN MachineAlarm.h EXCLUDE
+  PATTERN TimerDescriptor.h EXCLUDE
+  PATTERN ZoneWatch.h EXCLUDE
+  PATTERN *.h)
 install(FILES
   src/libs/trelprogramschedulewidgets/ProgramSheduleWidgetTranslateManager.h
   src/libs/trelprogramschedulewidgets/scheduleControlUI.h

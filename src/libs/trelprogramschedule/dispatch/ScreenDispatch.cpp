@@ -47,8 +47,8 @@ bool operator==(const Outlook& a, const Outlook& b)
 class ScreenDispatch::Private
 {
 public:
-    explicit Private(const std::map<int, ProgramIten>& programs)
-        : programs(programs)
+    explicit Private(const std::map<int, ProgramIten>& catalogue)
+        : programs(catalogue)
     {
         build();
     }
