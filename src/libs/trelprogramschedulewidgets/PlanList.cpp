@@ -1,6 +1,7 @@
 #include "PlanList.h"
 
 #include "PlanTaskWidget.h"
+#include "PolishRequests.h"
 #include "initProcess.h"
 #include "service/Clock.h"
 #include "service/scheduleManage.h"
@@ -12,6 +13,7 @@
 #include <algorithm>
 
 using trel::mediadispatch::Clock;
+using trel::mediadispatch::forgetPolishRequests;
 using trel::mediadispatch::initProcess;
 using trel::mediadispatch::kDateFormat;
 using trel::mediadispatch::scheduleManage;
@@ -57,14 +59,6 @@ void applyNewTaskDefaults(trel::mediadispatch::PlayTask& task)
     task.id = largestId + 1;
     task.startDate = dateText(next.isValid() ? next : Clock::current().today());
     task.endDate = task.startDate;
-}
-
-/// Every widget asks for its look by an event as soon as it is made, and takes it when it is shown
-/// whether the event has come or not. Left to wait, the events of all cards are looked through for
-/// each layout of each card. Nobody else has any: they were handled before the first card was made.
-void forgetPolishRequests()
-{
-    QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
 }
 
 } // namespace
@@ -194,6 +188,7 @@ void PlanList::rebuild()
     service().updateUItask();
     for (const auto& [id, task] : tasks) {
         addCard(task, true);
+        // Nobody else has any: they were handled before the first card was made.
         forgetPolishRequests();
     }
     if (wasVisible) {

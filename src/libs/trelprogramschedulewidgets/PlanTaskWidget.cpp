@@ -9,6 +9,7 @@
 #include "PlanStandardItemModel.h"
 #include "PlanTable.h"
 #include "PlanTaskForm.h"
+#include "PolishRequests.h"
 #include "ProgramChoose.h"
 #include "Prompts.h"
 #include "ScheduleText.h"
@@ -77,7 +78,14 @@ PlanTaskWidget::PlanTaskWidget(const PlayTask& task, QWidget* parent)
     loadPlans();
 }
 
-PlanTaskWidget::~PlanTaskWidget() = default;
+PlanTaskWidget::~PlanTaskWidget()
+{
+    // A card may go before any event was handled, and each of its many widgets would look for its
+    // own among those of all.
+    if (m_model->rowCount() > 0) {
+        forgetPolishRequests();
+    }
+}
 
 void PlanTaskWidget::setUpForm()
 {

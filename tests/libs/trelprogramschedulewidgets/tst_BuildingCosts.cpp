@@ -114,6 +114,7 @@ private slots:
     void rowsBuiltOutOfSightLieWhereOthersDo();
     void aRowAsksForFewLayouts();
     void noPolishRequestWaitsAfterARefresh();
+    void widgetsOfACardThatGoesWaitForNothing();
 };
 
 void tst_BuildingCosts::init()
@@ -208,6 +209,24 @@ void tst_BuildingCosts::noPolishRequestWaitsAfterARefresh()
     for (const PlanTaskWidget* card : cards) {
         QVERIFY(card->testAttribute(Qt::WA_WState_Polished));
     }
+}
+
+void tst_BuildingCosts::widgetsOfACardThatGoesWaitForNothing()
+{
+    QWidget window;
+    auto card = std::make_unique<PlanTaskWidget>(taskOf(1, 3), &window);
+    // The first of its children to go finds the queue free of them already.
+    QWidget bystander;
+    int waiting = -1;
+    QObject::connect(card->findChild<QTableView*>(), &QObject::destroyed, [&waiting] {
+        const EventCount requests(QEvent::PolishRequest);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::PolishRequest);
+        waiting = requests.count;
+    });
+    card.reset();
+    QCOMPARE(waiting, 0);
+    bystander.show();
+    QVERIFY(bystander.testAttribute(Qt::WA_WState_Polished));
 }
 
 QTEST_MAIN(tst_BuildingCosts)
