@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>&amp;Wiedergabeplan</translation>
@@ -70,6 +70,9 @@
         <source>&amp;Language</source>
         <translation>&amp;Sprache</translation>
     </message>
+</context>
+<context>
+    <name>EditorWindow</name>
     <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>Noch keine Programme. Ziehen Sie Mediendateien oder Ordner hierher oder wählen Sie „Importieren“.</translation>

@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>Pro&amp;gramación</translation>
@@ -70,6 +70,9 @@
         <source>&amp;Language</source>
         <translation>&amp;Idioma</translation>
     </message>
+</context>
+<context>
+    <name>EditorWindow</name>
     <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>Aún no hay programas. Arrastre aquí archivos multimedia o carpetas, o elija «Importar».</translation>

@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>&amp;Programmation</translation>
@@ -70,6 +70,9 @@
         <source>&amp;Language</source>
         <translation>&amp;Langue</translation>
     </message>
+</context>
+<context>
+    <name>EditorWindow</name>
     <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>Aucun programme pour l’instant. Déposez ici des fichiers multimédias ou des dossiers, ou choisissez «&#xa0;Importer&#xa0;».</translation>

@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>スケジュール(&amp;S)</translation>
@@ -70,6 +70,9 @@
         <source>&amp;Language</source>
         <translation>言語(&amp;L)</translation>
     </message>
+</context>
+<context>
+    <name>EditorWindow</name>
     <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>番組がまだありません。メディアファイルやフォルダーをここにドロップするか、メニューから取り込んでください。</translation>

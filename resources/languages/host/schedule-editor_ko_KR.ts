@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>일정(&amp;S)</translation>
@@ -70,6 +70,9 @@
         <source>&amp;Language</source>
         <translation>언어(&amp;L)</translation>
     </message>
+</context>
+<context>
+    <name>EditorWindow</name>
     <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>아직 프로그램이 없습니다. 미디어 파일이나 폴더를 여기에 끌어다 놓거나 가져오기를 선택하세요.</translation>

@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>Pro&amp;gramação</translation>
@@ -70,6 +70,9 @@
         <source>&amp;Language</source>
         <translation>&amp;Idioma</translation>
     </message>
+</context>
+<context>
+    <name>EditorWindow</name>
     <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>Ainda não há programas. Arraste arquivos de mídia ou pastas para cá ou escolha “Importar”.</translation>

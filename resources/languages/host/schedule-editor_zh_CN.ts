@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>排期(&amp;S)</translation>
@@ -70,6 +70,9 @@
         <source>&amp;Language</source>
         <translation>语言(&amp;L)</translation>
     </message>
+</context>
+<context>
+    <name>EditorWindow</name>
     <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>还没有节目。请将媒体文件或文件夹拖放到此处，或选择“导入”。</translation>

@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>排程(&amp;S)</translation>
@@ -70,6 +70,9 @@
         <source>&amp;Language</source>
         <translation>語言(&amp;L)</translation>
     </message>
+</context>
+<context>
+    <name>EditorWindow</name>
     <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>還沒有節目。請將媒體檔案或資料夾拖放到這裡，或選擇「匯入」。</translation>

@@ -1,20 +1,20 @@
 #include "EditorWindow.h"
 
 #include "Demonstration.h"
+#include "EditorMenus.h"
 #include "HostPrompts.h"
 #include "ImportJob.h"
 #include "Languages.h"
 #include "ProgramTableModel.h"
-#include "look/Themes.h"
 #include "scheduleControlUI.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/ScheduleJson.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
@@ -46,32 +46,12 @@ QStringList droppedMedia(const QMimeData* data)
 
 } // namespace
 
-struct EditorWindow::Actions
-{
-    QMenu* file = nullptr;
-    QMenu* programs = nullptr;
-    QMenu* view = nullptr;
-    QMenu* language = nullptr;
-    QAction* schedule = nullptr;
-    QAction* open = nullptr;
-    QAction* exportSchedule = nullptr;
-    QAction* importSchedule = nullptr;
-    QAction* quit = nullptr;
-    QAction* importFiles = nullptr;
-    QAction* importFolder = nullptr;
-    QAction* remove = nullptr;
-};
-
 EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Themes& themes)
     : m_editor(editor)
-    , m_languages(languages)
-    , m_themes(themes)
-    , m_actions(std::make_unique<Actions>())
+    , m_menus(new EditorMenus(*menuBar(), languages, themes))
     , m_programs(new ProgramTableModel(this))
     , m_table(new QTableView(this))
     , m_hint(new QLabel(this))
-    , m_languageGroup(new QActionGroup(this))
-    , m_themeGroup(new QActionGroup(this))
 {
     setObjectName(QStringLiteral("editorWindow"));
     setAcceptDrops(true);
@@ -103,117 +83,50 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     layout->addWidget(m_table, 1);
     setCentralWidget(centre);
 
-    buildMenus();
+    connectMenus();
     retranslate();
     resize(900, 520);
 
     connect(&ScheduleHost::instance(), &ScheduleHost::catalogueChanged, this,
             &EditorWindow::updateCatalogue);
-    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            [this] { m_actions->remove->setEnabled(m_table->selectionModel()->hasSelection()); });
-    connect(&m_languages, &Languages::changed, this, &EditorWindow::updateTitle);
+    connect(&languages, &Languages::changed, this, &EditorWindow::updateTitle);
     updateCatalogue();
 }
 
 EditorWindow::~EditorWindow() = default;
 
-void EditorWindow::buildMenus()
+void EditorWindow::connectMenus()
 {
-    Actions& actions = *m_actions;
-    const auto add = [this](QMenu* menu, const QKeySequence& keys, auto slot) {
-        QAction* action = menu->addAction(QString(), this, slot);
-        action->setShortcut(keys);
-        return action;
+    const auto run = [this](QAction* action, auto slot) {
+        connect(action, &QAction::triggered, this, slot);
     };
+    run(m_menus->editSchedule(), &EditorWindow::showEditor);
+    run(m_menus->openDatabase(), &EditorWindow::chooseDatabase);
+    run(m_menus->importSchedule(), &EditorWindow::importSchedule);
+    run(m_menus->exportSchedule(), &EditorWindow::exportSchedule);
+    run(m_menus->quit(), &EditorWindow::close);
+    run(m_menus->importFiles(), &EditorWindow::choosePrograms);
+    run(m_menus->importFolder(), &EditorWindow::chooseFolder);
+    run(m_menus->removePrograms(), &EditorWindow::removeSelectedPrograms);
 
-    actions.file = menuBar()->addMenu(QString());
-    actions.schedule =
-        add(actions.file, QKeySequence(QStringLiteral("Ctrl+E")), &EditorWindow::showEditor);
-    actions.file->addSeparator();
-    actions.open = add(actions.file, QKeySequence::Open, &EditorWindow::chooseDatabase);
-    actions.importSchedule = add(actions.file, {}, &EditorWindow::importSchedule);
-    actions.exportSchedule = add(actions.file, {}, &EditorWindow::exportSchedule);
-    actions.file->addSeparator();
-    actions.quit = add(actions.file, QKeySequence::Quit, [this] { close(); });
-
-    actions.programs = menuBar()->addMenu(QString());
-    actions.importFiles = add(actions.programs, QKeySequence(QStringLiteral("Ctrl+I")),
-                              &EditorWindow::choosePrograms);
-    actions.importFolder = add(actions.programs, QKeySequence(QStringLiteral("Ctrl+Shift+I")),
-                               &EditorWindow::chooseFolder);
-    actions.programs->addSeparator();
-    actions.remove =
-        add(actions.programs, QKeySequence::Delete, &EditorWindow::removeSelectedPrograms);
-    actions.remove->setEnabled(false);
-    m_table->addAction(actions.importFiles);
-    m_table->addAction(actions.remove);
-
-    actions.view = menuBar()->addMenu(QString());
-    buildThemeMenu();
-    actions.language = menuBar()->addMenu(QString());
-    buildLanguageMenu();
+    QAction* remove = m_menus->removePrograms();
+    m_table->addAction(m_menus->importFiles());
+    m_table->addAction(remove);
+    remove->setEnabled(false);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, remove,
+            [this, remove] { remove->setEnabled(m_table->selectionModel()->hasSelection()); });
 }
 
-void EditorWindow::buildThemeMenu()
+void EditorWindow::addPanel(QDockWidget* panel, Qt::DockWidgetArea area)
 {
-    const QStringList names = Themes::names();
-    for (const QString& name : names) {
-        QAction* action = m_actions->view->addAction(QString());
-        action->setCheckable(true);
-        action->setData(name);
-        m_themeGroup->addAction(action);
-    }
-    const auto mark = [this] {
-        const QList<QAction*> actions = m_themeGroup->actions();
-        for (QAction* action : actions) {
-            action->setChecked(action->data().toString() == m_themes.current());
-        }
-    };
-    mark();
-    connect(&m_themes, &Themes::changed, this, mark);
-    connect(m_themeGroup, &QActionGroup::triggered, this,
-            [this](const QAction* action) { m_themes.select(action->data().toString()); });
-}
-
-void EditorWindow::buildLanguageMenu()
-{
-    const QStringList names = m_languages.names();
-    for (const QString& name : names) {
-        QAction* action = m_actions->language->addAction(Languages::nativeName(name));
-        action->setCheckable(true);
-        action->setData(name);
-        m_languageGroup->addAction(action);
-    }
-    const auto mark = [this] {
-        const QList<QAction*> actions = m_languageGroup->actions();
-        for (QAction* action : actions) {
-            action->setChecked(action->data().toString() == m_languages.current());
-        }
-    };
-    mark();
-    connect(&m_languages, &Languages::changed, this, mark);
-    connect(m_languageGroup, &QActionGroup::triggered, this,
-            [this](const QAction* action) { m_languages.select(action->data().toString()); });
+    addDockWidget(area, panel);
+    m_menus->addPanel(panel->toggleViewAction());
 }
 
 void EditorWindow::retranslate()
 {
-    Actions& actions = *m_actions;
-    actions.file->setTitle(tr("&Schedule"));
-    actions.schedule->setText(tr("&Edit schedule"));
-    actions.open->setText(tr("&Open database…"));
-    actions.importSchedule->setText(tr("&Read schedule from a file…"));
-    actions.exportSchedule->setText(tr("&Write schedule to a file…"));
-    actions.quit->setText(tr("&Quit"));
-    actions.programs->setTitle(tr("&Programs"));
-    m_table->setAccessibleName(actions.programs->title().remove(QLatin1Char('&')));
-    actions.importFiles->setText(tr("&Import files…"));
-    actions.importFolder->setText(tr("Import &folder…"));
-    actions.remove->setText(tr("&Remove from catalogue"));
-    actions.view->setTitle(tr("&View"));
-    m_themeGroup->actions().at(0)->setText(tr("&Dark theme"));
-    m_themeGroup->actions().at(1)->setText(tr("&Light theme"));
-    actions.language->setTitle(tr("&Language"));
+    m_menus->retranslate();
+    m_table->setAccessibleName(m_menus->programsTitle());
     m_hint->setText(tr("No programs yet. Drop media files or folders here, or choose Import."));
     m_programs->retranslate();
     updateTitle();

@@ -3,15 +3,13 @@
 #include <QMainWindow>
 #include <QStringList>
 
-#include <memory>
-
+class EditorMenus;
 class ImportJob;
 class Languages;
 class ProgramTableModel;
 class Themes;
-class QActionGroup;
+class QDockWidget;
 class QLabel;
-class QMenu;
 class QProgressDialog;
 class QTableView;
 
@@ -60,11 +58,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Actions;
-
-    void buildMenus();
-    void buildLanguageMenu();
-    void buildThemeMenu();
+    void connectMenus();
+    /// Docks a panel, which becomes a child, and lets the view menu show and hide it.
+    void addPanel(QDockWidget* panel, Qt::DockWidgetArea area);
     void retranslate();
     void updateTitle();
     void updateCatalogue();
@@ -81,14 +77,10 @@ private:
     bool maySettle();
 
     trel::mediadispatch::scheduleControlUI& m_editor;
-    Languages& m_languages;
-    Themes& m_themes;
-    std::unique_ptr<Actions> m_actions;
+    EditorMenus* m_menus;
     ProgramTableModel* m_programs;
     QTableView* m_table;
     QLabel* m_hint;
-    QActionGroup* m_languageGroup;
-    QActionGroup* m_themeGroup;
     ImportJob* m_job = nullptr;
     QProgressDialog* m_progress = nullptr;
 };

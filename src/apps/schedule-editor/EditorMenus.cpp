@@ -1,0 +1,117 @@
+#include "EditorMenus.h"
+
+#include "Languages.h"
+#include "look/Themes.h"
+
+#include <QActionGroup>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace {
+
+QAction* add(QMenu& menu, const QKeySequence& keys)
+{
+    QAction* action = menu.addAction(QString());
+    action->setShortcut(keys);
+    return action;
+}
+
+void addChoice(QMenu& menu, QActionGroup& group, const QString& text, const QString& name)
+{
+    QAction* action = menu.addAction(text);
+    action->setCheckable(true);
+    action->setData(name);
+    group.addAction(action);
+}
+
+void mark(const QActionGroup& group, const QString& name)
+{
+    const QList<QAction*> actions = group.actions();
+    for (QAction* action : actions) {
+        action->setChecked(action->data().toString() == name);
+    }
+}
+
+} // namespace
+
+EditorMenus::EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes)
+    : QObject(&bar)
+    , m_schedule(bar.addMenu(QString()))
+    , m_programs(bar.addMenu(QString()))
+    , m_view(bar.addMenu(QString()))
+    , m_language(bar.addMenu(QString()))
+    , m_editSchedule(add(*m_schedule, QKeySequence(QStringLiteral("Ctrl+E"))))
+    , m_themes(new QActionGroup(this))
+{
+    m_schedule->addSeparator();
+    m_openDatabase = add(*m_schedule, QKeySequence::Open);
+    m_importSchedule = add(*m_schedule, {});
+    m_exportSchedule = add(*m_schedule, {});
+    m_schedule->addSeparator();
+    m_quit = add(*m_schedule, QKeySequence::Quit);
+
+    m_importFiles = add(*m_programs, QKeySequence(QStringLiteral("Ctrl+I")));
+    m_importFolder = add(*m_programs, QKeySequence(QStringLiteral("Ctrl+Shift+I")));
+    m_programs->addSeparator();
+    m_removePrograms = add(*m_programs, QKeySequence::Delete);
+
+    m_belowPanels = m_view->addSeparator();
+    buildThemes(themes);
+    buildLanguages(languages);
+    retranslate();
+}
+
+void EditorMenus::buildThemes(Themes& themes)
+{
+    const QStringList names = Themes::names();
+    for (const QString& name : names) {
+        addChoice(*m_view, *m_themes, QString(), name);
+    }
+    const auto markCurrent = [this, &themes] { mark(*m_themes, themes.current()); };
+    markCurrent();
+    connect(&themes, &Themes::changed, this, markCurrent);
+    connect(m_themes, &QActionGroup::triggered, this,
+            [&themes](const QAction* action) { themes.select(action->data().toString()); });
+}
+
+void EditorMenus::buildLanguages(Languages& languages)
+{
+    auto* group = new QActionGroup(this);
+    const QStringList names = languages.names();
+    for (const QString& name : names) {
+        addChoice(*m_language, *group, Languages::nativeName(name), name);
+    }
+    const auto markCurrent = [group, &languages] { mark(*group, languages.current()); };
+    markCurrent();
+    connect(&languages, &Languages::changed, this, markCurrent);
+    connect(group, &QActionGroup::triggered, this,
+            [&languages](const QAction* action) { languages.select(action->data().toString()); });
+}
+
+QString EditorMenus::programsTitle() const
+{
+    return m_programs->title().remove(QLatin1Char('&'));
+}
+
+void EditorMenus::addPanel(QAction* toggle)
+{
+    m_view->insertAction(m_belowPanels, toggle);
+}
+
+void EditorMenus::retranslate()
+{
+    m_schedule->setTitle(tr("&Schedule"));
+    m_editSchedule->setText(tr("&Edit schedule"));
+    m_openDatabase->setText(tr("&Open database…"));
+    m_importSchedule->setText(tr("&Read schedule from a file…"));
+    m_exportSchedule->setText(tr("&Write schedule to a file…"));
+    m_quit->setText(tr("&Quit"));
+    m_programs->setTitle(tr("&Programs"));
+    m_importFiles->setText(tr("&Import files…"));
+    m_importFolder->setText(tr("Import &folder…"));
+    m_removePrograms->setText(tr("&Remove from catalogue"));
+    m_view->setTitle(tr("&View"));
+    m_themes->actions().at(0)->setText(tr("&Dark theme"));
+    m_themes->actions().at(1)->setText(tr("&Light theme"));
+    m_language->setTitle(tr("&Language"));
+}

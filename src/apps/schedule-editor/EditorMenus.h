@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QObject>
+
+class Languages;
+class Themes;
+class QAction;
+class QActionGroup;
+class QMenu;
+class QMenuBar;
+
+/// The menus of the host's window: what stands in them, with its keys, and the choice of theme and
+/// language. What the other entries do is up to whoever connects them.
+class EditorMenus : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Fills the menu bar, whose child it becomes. Languages and themes outlive it.
+    EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes);
+
+    QAction* editSchedule() const { return m_editSchedule; }
+    QAction* openDatabase() const { return m_openDatabase; }
+    QAction* importSchedule() const { return m_importSchedule; }
+    QAction* exportSchedule() const { return m_exportSchedule; }
+    QAction* quit() const { return m_quit; }
+    QAction* importFiles() const { return m_importFiles; }
+    QAction* importFolder() const { return m_importFolder; }
+    QAction* removePrograms() const { return m_removePrograms; }
+
+    /// The name of the menu of programs, without the mark of its letter.
+    QString programsTitle() const;
+    /// Adds what shows or hides a part of the window, above the themes, in the order of the calls.
+    void addPanel(QAction* toggle);
+    /// Puts every text into the language in use.
+    void retranslate();
+
+private:
+    void buildThemes(Themes& themes);
+    void buildLanguages(Languages& languages);
+
+    QMenu* m_schedule;
+    QMenu* m_programs;
+    QMenu* m_view;
+    QMenu* m_language;
+    QAction* m_editSchedule;
+    QAction* m_openDatabase;
+    QAction* m_importSchedule;
+    QAction* m_exportSchedule;
+    QAction* m_quit;
+    QAction* m_importFiles;
+    QAction* m_importFolder;
+    QAction* m_removePrograms;
+    QAction* m_belowPanels; ///< Parts them from the themes.
+    QActionGroup* m_themes;
+};
