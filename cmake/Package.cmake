@@ -28,6 +28,7 @@ install(FILES
   src/libs/trelprogramschedule/ScheduleJson.h
   DESTINATION ${include_dir}/trelprogramschedule)
 install(FILES
+  src/libs/trelprogramschedule/dispatch/ClockChanges.h
   src/libs/trelprogramschedule/dispatch/ScreenDispatch.h
   src/libs/trelprogramschedule/dispatch/ScreenInsertion.h
   src/libs/trelprogramschedule/dispatch/ScreenState.h

@@ -35,11 +35,13 @@ ScreenDispatch& ScheduleHost::dispatch()
 
 StoreResult ScheduleHost::open(const QString& path, OpenMode mode)
 {
+    service().noteWorkingSet();
     return service().open(path, mode);
 }
 
 void ScheduleHost::close()
 {
+    service().noteWorkingSet();
     service().close();
 }
 
@@ -65,6 +67,7 @@ StoreResult ScheduleHost::trySave()
 
 StoreResult ScheduleHost::replaceSchedule(const std::map<int, PlayTask>& tasks)
 {
+    service().noteWorkingSet();
     return service().replace(tasks);
 }
 

@@ -78,7 +78,8 @@ public:
 
     /// Opens the store in a file and reads catalogue and stored set; a store that was open is
     /// closed first. On failure the file is left untouched and no store is open. Emits nothing, but
-    /// that a schedule in effect has stopped: an editor on show is to be refreshed by the host.
+    /// that a schedule in effect has stopped and, later, workingSetChanged: an editor on show is to
+    /// be refreshed by the host.
     ///
     /// A file or folder that is marked read-only is not written, by whatever right. A file of no
     /// bytes is as good as none: it becomes a store where one may be made. Needs a
@@ -120,6 +121,9 @@ signals:
     /// The stored set was replaced by save, replaceSchedule or reload, and is another than before.
     /// After the latter two a host refreshes the editor.
     void storedSetChanged();
+    /// The working set may be another than before: a task was edited, or the whole set read or
+    /// replaced. Comes from the event loop, once for everything since its last turn.
+    void workingSetChanged();
     /// Programs were added, changed or removed, or their files came or went.
     void catalogueChanged();
 

@@ -2,8 +2,6 @@
 
 #include "service/scheduleManage.h"
 
-#include <QCoreApplication>
-
 #include <cstdlib>
 #include <utility>
 
@@ -199,6 +197,21 @@ void ScheduleService::refresh()
     } else {
         markLostEntries();
     }
+}
+
+void ScheduleService::noteWorkingSet()
+{
+    // Without an application there is nobody to be told, and none of the former one's notices come.
+    if (m_noticeDue == QCoreApplication::instance()) {
+        return;
+    }
+    m_noticeDue = QCoreApplication::instance();
+    ScheduleHost& host = ScheduleHost::instance();
+    const auto tell = [this, &host] {
+        m_noticeDue.clear();
+        emit host.workingSetChanged();
+    };
+    QMetaObject::invokeMethod(&host, tell, Qt::QueuedConnection);
 }
 
 ImportResult ScheduleService::addPrograms(const std::vector<MediaSource>& sources)

@@ -6,6 +6,9 @@
 #include "ScheduleInEffect.h"
 #include "TaskSets.h"
 
+#include <QCoreApplication>
+#include <QPointer>
+
 #include <map>
 #include <string>
 #include <vector>
@@ -51,6 +54,10 @@ public:
     /// What cannot be read stays as it was.
     void refresh();
 
+    /// Tells, once the event loop has its turn, that the working set is another one. However often
+    /// it is called until then, what comes of it comes once.
+    void noteWorkingSet();
+
     ImportResult addPrograms(const std::vector<MediaSource>& sources);
     StoreResult removeProgram(int progIndex);
 
@@ -78,6 +85,8 @@ private:
     StoreRevision m_revision; ///< What has been read of the store.
     /// Since entries were last marked, programs or stored tasks have changed.
     bool m_isMarkingDue = false;
+    /// The application whose event loop is still to tell of the working set.
+    QPointer<QCoreApplication> m_noticeDue;
 };
 
 } // namespace trel::mediadispatch

@@ -36,6 +36,7 @@ std::map<int, PlayTask> scheduleManage::getgTaskMap()
 void scheduleManage::updateUItask()
 {
     d->state.tasks.resetWorking();
+    d->service.noteWorkingSet();
 }
 
 void scheduleManage::resetUiTask()
@@ -43,6 +44,7 @@ void scheduleManage::resetUiTask()
     // The working set is not emptied: between this call and the rebuilding of the list events are
     // handled, and a save among them would wipe the stored set out.
     d->state.tasks.resetWorking();
+    d->service.noteWorkingSet();
     d->state.selectedProgram.clear();
 }
 
@@ -59,11 +61,13 @@ PlayTask scheduleManage::getTask(int taskId)
 void scheduleManage::addTask(const PlayTask& task)
 {
     d->state.tasks.putTask(task);
+    d->service.noteWorkingSet();
 }
 
 void scheduleManage::deleteTask(int taskId)
 {
     d->state.tasks.removeTask(taskId);
+    d->service.noteWorkingSet();
 }
 
 void scheduleManage::save()
@@ -92,6 +96,7 @@ PlayPlan scheduleManage::getNowUsePlan(int taskId, int planId, int& index)
 void scheduleManage::addPlan(int taskId, const PlayPlan& plan)
 {
     d->state.tasks.putPlan(taskId, plan);
+    d->service.noteWorkingSet();
 }
 
 void scheduleManage::setInsertPlanTask(int taskId, int planId, const PlayPlan& plan, bool immediate)

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+
+#include <QDate>
+#include <QTimeZone>
+
+#include <map>
+#include <vector>
+
+namespace trel::mediadispatch {
+
+/// What a change of the clocks does to a stretch of local time.
+enum class ClockChangeKind {
+    LeftOut, ///< The clock is put forward over it: it never comes.
+    Doubled, ///< The clock is put back to its start: it comes twice.
+};
+
+/// A stretch of a local day that its clock leaves out or shows twice. One that runs over midnight
+/// stands as two, one for each day.
+struct ClockChange
+{
+    QDate date;
+    ClockChangeKind kind = ClockChangeKind::LeftOut;
+    int begin = 0; ///< Second of the local day.
+    int end = 0;   ///< The same, not included any more; 86400 at the end of the day.
+};
+
+/// Every change on the local days from first to last, both included, in the order of time. Changes
+/// that leave the time of day as it is, such as of the zone's name, are none.
+Q_DECL_EXPORT std::vector<ClockChange> clockChanges(const QDate& first, const QDate& last,
+                                                    const QTimeZone& zone);
+
+/// What a change does to a plan whose span shares time with it.
+enum class ClockChangeEffect {
+    Lost,         ///< The whole span is left out: it does not play.
+    BeginsLate,   ///< Its start is left out: it begins at the end of the gap, inside its list.
+    EndsEarly,    ///< Its end is left out: it is over where the gap begins.
+    Skips,        ///< It goes on behind the gap, and that part of its list is left out.
+    PlaysTwice,   ///< The whole span comes twice.
+    BeginsTwice,  ///< It begins, is cut when the clock is put back, and begins again.
+    EndsTwice,    ///< It ends, and its last part comes again.
+    RepeatsAPart, ///< A part in the midst of it comes twice.
+};
+
+/// A plan that shares time with a change.
+struct TouchedPlan
+{
+    int planId = 0;
+    int row = 0;   ///< In its task, from 0.
+    int begin = 0; ///< Its span, the end as it is in force: seconds of the local day.
+    int end = 0;   ///< Not included.
+    ClockChangeEffect effect = ClockChangeEffect::Lost;
+};
+
+/// A change on a day on which a task is in effect, with the plans that it touches: none, or some.
+struct TaskClockChange
+{
+    ClockChange change;
+    int taskId = 0;
+    std::vector<TouchedPlan> plans; ///< In the order of their rows.
+};
+
+/// The next changes, `count` at most, on days from `from` on on which a task is in effect: of
+/// several that are valid the one with the lowest id. A plan is touched when it plays on that
+/// weekday and its span and the change share a second; a span that is empty or inverted shares
+/// none. Whether another plan has the screen at that time is not asked.
+///
+/// Costs what it returns, and nothing for the years that tasks last or lie ahead.
+Q_DECL_EXPORT std::vector<TaskClockChange>
+nextClockChanges(const std::map<int, PlayTask>& tasks, const std::map<int, ProgramIten>& catalogue,
+                 const QTimeZone& zone, const QDate& from, int count);
+
+} // namespace trel::mediadispatch
