@@ -17,7 +17,7 @@ using namespace trel::mediadispatch;
 
 namespace {
 
-/// Counts the events of one type that reach anything at all.
+/// Counts the events of one type, and keeps them from whomever they are for.
 class EventCount : public QObject
 {
 public:
@@ -32,8 +32,9 @@ public:
 protected:
     bool eventFilter(QObject*, QEvent* event) override
     {
-        count += event->type() == m_type ? 1 : 0;
-        return false;
+        const bool isCounted = event->type() == m_type;
+        count += isCounted ? 1 : 0;
+        return isCounted;
     }
 
 private:
