@@ -325,8 +325,8 @@ void tst_PlanTaskWidgetConflicts::agreesWithTheWalkOverAllPairs()
         }
         service().clearLog();
         pass(open);
-        const std::vector<bool> expected =
-            literal::collidingPlans(open.rows.task().plans, service().programs, hasNoDuration);
+        const std::vector<bool> expected = literal::collidingPlans(
+            open.rows.task().plans, literal::lookupIn(service().programs), hasNoDuration);
         QStringList states;
         for (const bool collides : expected) {
             states.append(QLatin1String(collides ? "red" : "green"));

@@ -71,20 +71,29 @@ std::string addDuration(const std::string& start, int seconds)
     return result;
 }
 
-std::string plannedEnd(const PlayPlan& plan, const std::map<int, ProgramIten>& catalogue,
+Lookup lookupIn(const std::map<int, ProgramIten>& catalogue)
+{
+    return [&catalogue](int progIndex) {
+        const auto found = catalogue.find(progIndex);
+        return found == catalogue.end() ? std::nullopt : std::make_optional(found->second);
+    };
+}
+
+std::string plannedEnd(const PlayPlan& plan, const Lookup& lookup,
                        const NoDurationTest& hasNoDuration)
 {
     const QString format = QStringLiteral("hh:mm:ss");
     const QTime start = QTime::fromString(QString::fromStdString(plan.startTime), format);
     double total = 0.0;
     for (const struProgInfo& entry : plan.programs) {
-        if (catalogue.count(entry.progIndex) == 0) {
+        const std::optional<ProgramIten> program = lookup(entry.progIndex);
+        if (!program) {
             continue;
         }
         if (hasNoDuration(entry.progIndex)) {
             return "23:59:59";
         }
-        const double duration = catalogue.at(entry.progIndex).durationMs;
+        const double duration = program->durationMs;
         if (duration >= 0.0) {
             total += entry.playCount * duration;
         }
@@ -100,8 +109,7 @@ std::string plannedEnd(const PlayPlan& plan, const std::map<int, ProgramIten>& c
     return start.addMSecs(milliseconds).toString(format).toStdString();
 }
 
-std::vector<bool> collidingPlans(const std::vector<PlayPlan>& plans,
-                                 const std::map<int, ProgramIten>& catalogue,
+std::vector<bool> collidingPlans(const std::vector<PlayPlan>& plans, const Lookup& lookup,
                                  const NoDurationTest& hasNoDuration)
 {
     std::vector<bool> collides(plans.size(), false);
@@ -109,13 +117,13 @@ std::vector<bool> collidingPlans(const std::vector<PlayPlan>& plans,
         const std::string startA = plans[i].startTime;
         std::string endA = plans[i].endTime;
         if (plans[i].mode == 1) {
-            endA = literal::plannedEnd(plans[i], catalogue, hasNoDuration);
+            endA = literal::plannedEnd(plans[i], lookup, hasNoDuration);
         }
         for (std::size_t j = i + 1; j < plans.size(); ++j) {
             const std::string startB = plans[j].startTime;
             std::string endB = plans[j].endTime;
             if (plans[j].mode == 1) {
-                endB = literal::plannedEnd(plans[j], catalogue, hasNoDuration);
+                endB = literal::plannedEnd(plans[j], lookup, hasNoDuration);
             }
             if (!literal::weeksOverlap(plans[i].weeks, plans[j].weeks)) {
                 continue;

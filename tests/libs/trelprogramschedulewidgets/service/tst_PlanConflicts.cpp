@@ -267,7 +267,8 @@ void tst_PlanConflicts::followsTheWalkOverAllPairs()
         for (std::size_t left = random() % 8; left > 0; --left) {
             plans.push_back(randomPlan(random));
         }
-        const QString expected = marks(literal::collidingPlans(plans, catalogue(), isImage));
+        const QString expected =
+            marks(literal::collidingPlans(plans, literal::lookupIn(catalogue()), isImage));
         const QString found = marks(collidingClaims(planClaims(plans, catalogue(), isImage)));
         const QByteArray message = "task " + QByteArray::number(i) + ": " + found.toLatin1() +
                                    " instead of " + expected.toLatin1() + described(plans);
@@ -296,7 +297,8 @@ void tst_PlanConflicts::followsTheWalkOnLongLists()
                          std::to_string(1 + static_cast<int>(random() % 5));
             plans.push_back(plan);
         }
-        const QString expected = marks(literal::collidingPlans(plans, catalogue(), isImage));
+        const QString expected =
+            marks(literal::collidingPlans(plans, literal::lookupIn(catalogue()), isImage));
         const QString found = marks(collidingClaims(planClaims(plans, catalogue(), isImage)));
         const QByteArray message = "list " + QByteArray::number(i) + described(plans);
         QVERIFY2(found == expected, message.constData());

@@ -234,8 +234,8 @@ void tst_PlanTiming::plannedEndFollowsTheLiteralRule()
                     : pick(random, {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, kMissing, 1, 2, 3, 9});
             tried.programs.push_back(entry(index, pick(random, {1, 1, 2, 7, 999, 0, -3})));
         }
-        const QString expected =
-            QString::fromStdString(literal::plannedEnd(tried, m_catalogue, isImage));
+        const QString expected = QString::fromStdString(
+            literal::plannedEnd(tried, literal::lookupIn(m_catalogue), isImage));
         const QString end = QString::fromStdString(plannedEnd(tried, m_catalogue, isImage));
         const QByteArray message = described(tried, m_catalogue) + ": " + end.toUtf8() +
                                    " instead of " + expected.toUtf8();

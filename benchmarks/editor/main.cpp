@@ -1,0 +1,23 @@
+#include "CardCases.h"
+#include "ChooserCases.h"
+#include "Comparison.h"
+#include "ConflictCases.h"
+#include "Fixture.h"
+#include "ListCases.h"
+#include "QuietService.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("fusion"));
+    bench::initialize(argc, argv);
+    bench::loadLanguage();
+    bench::QuietService::instance().programs = bench::samplePrograms(1000);
+    bench::addCardCases();
+    bench::addConflictCases();
+    bench::addListCases();
+    bench::addChooserCases();
+    return bench::run();
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace bench {
+
+/// Saving a schedule and opening it again.
+void addStoreCases();
+
+} // namespace bench

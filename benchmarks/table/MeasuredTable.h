@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace bench {
+
+/// One ratio, and what it may be at most.
+struct MeasuredRow
+{
+    std::string name;
+    std::string size;
+    double ratio = 0.0;
+    double target = 0.0;
+
+    bool isMet() const { return ratio <= target; }
+};
+
+using MeasuredTable = std::vector<MeasuredRow>;
+
+/// Reads the results that a benchmark program has written as JSON. Throws std::runtime_error when
+/// it is none, or when a benchmark has failed.
+MeasuredTable readResults(const std::string& json);
+
+/// For the terminal, in columns.
+std::string toText(const MeasuredTable& table);
+/// An array with an object a row: case, size, ratio, target, met.
+std::string toJson(const MeasuredTable& table);
+/// For a document, with a line about the machine below.
+std::string toMarkdown(const MeasuredTable& table, const std::string& machine);
+
+/// The document with what stands between its two marker lines replaced. Throws std::runtime_error
+/// for a document without them.
+std::string withTable(const std::string& document, const std::string& markdown);
+
+} // namespace bench
