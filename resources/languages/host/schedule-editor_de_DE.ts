@@ -74,6 +74,14 @@
 <context>
     <name>EditorWindow</name>
     <message>
+        <source>Now and next</source>
+        <translation>Jetzt und danach</translation>
+    </message>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>Zeitumstellungen</translation>
+    </message>
+    <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>Noch keine Programme. Ziehen Sie Mediendateien oder Ordner hierher oder wählen Sie „Importieren“.</translation>
     </message>
@@ -270,6 +278,217 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>Schedules (*.json)</source>
         <translation>Wiedergabepläne (*.json)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangePanel</name>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>Zeitumstellungen</translation>
+    </message>
+    <message>
+        <source>No change of the clocks falls on a day of any task.</source>
+        <translation>Auf keinen Tag eines Auftrags fällt eine Zeitumstellung.</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 is left out;</source>
+        <translation>%1: %2–%3 entfällt;</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 comes twice;</source>
+        <translation>%1: %2–%3 kommt zweimal;</translation>
+    </message>
+    <message>
+        <source>it touches no plan of task %1.</source>
+        <translation>kein Plan von Auftrag %1 ist betroffen.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 does not play.</source>
+        <translation>Plan %1 von Auftrag %2 läuft nicht.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
+        <translation>Plan %1 von Auftrag %2 beginnt um %3 mitten in seiner Liste.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 is cut off at %3.</source>
+        <translation>Plan %1 von Auftrag %2 bricht um %3 ab.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 skips this part of its list.</source>
+        <translation>Plan %1 von Auftrag %2 überspringt diesen Teil seiner Liste.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 plays twice.</source>
+        <translation>Plan %1 von Auftrag %2 läuft zweimal.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts twice at %3.</source>
+        <translation>Plan %1 von Auftrag %2 beginnt zweimal um %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 ends twice at %3.</source>
+        <translation>Plan %1 von Auftrag %2 endet zweimal um %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 repeats this part of its list.</source>
+        <translation>Plan %1 von Auftrag %2 wiederholt diesen Teil seiner Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewDock</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Full screen preview</source>
+        <translation>&amp;Vollbildvorschau</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Preview of the screen</source>
+        <translation>Vorschau des Bildschirms</translation>
+    </message>
+</context>
+<context>
+    <name>NowNextPanel</name>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Danach</translation>
+    </message>
+    <message>
+        <source>Cut in</source>
+        <translation>Eingefügt</translation>
+    </message>
+    <message>
+        <source>Now and next</source>
+        <translation>Jetzt und danach</translation>
+    </message>
+    <message>
+        <source>What the screen shows</source>
+        <translation>Was der Bildschirm zeigt</translation>
+    </message>
+    <message>
+        <source>Program on screen</source>
+        <translation>Programm auf dem Bildschirm</translation>
+    </message>
+    <message>
+        <source>Position in the program</source>
+        <translation>Stelle im Programm</translation>
+    </message>
+    <message>
+        <source>Why this is on screen</source>
+        <translation>Warum das zu sehen ist</translation>
+    </message>
+    <message>
+        <source>Program that comes next</source>
+        <translation>Programm, das danach kommt</translation>
+    </message>
+    <message>
+        <source>Not started</source>
+        <translation>Nicht gestartet</translation>
+    </message>
+    <message>
+        <source>%1 played</source>
+        <translation>%1 gespielt</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>%1, until %2, %3 left</source>
+        <translation>%1, bis %2, noch %3</translation>
+    </message>
+    <message>
+        <source>Nothing else comes.</source>
+        <translation>Es kommt nichts weiter.</translation>
+    </message>
+    <message>
+        <source>at %1, in %2</source>
+        <translation>um %1, in %2</translation>
+    </message>
+    <message>
+        <source>on %1 at %2</source>
+        <translation>am %1 um %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenWords</name>
+    <message>
+        <source>Playing</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Frozen</source>
+        <translation>Eingefroren</translation>
+    </message>
+    <message>
+        <source>Last frame of %1</source>
+        <translation>Letztes Bild von %1</translation>
+    </message>
+    <message>
+        <source>Black screen</source>
+        <translation>Schwarzer Bildschirm</translation>
+    </message>
+    <message>
+        <source>Entry %1 of %2, play %3 of %4</source>
+        <translation>Eintrag %1 von %2, Wiedergabe %3 von %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2</source>
+        <translation>Auftrag %1, Plan %2</translation>
+    </message>
+    <message>
+        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
+        <translation>Der Startknopf im Wiedergabeplan-Editor setzt den gespeicherten Plan in Kraft.</translation>
+    </message>
+    <message>
+        <source>No plan has had the screen up to now.</source>
+        <translation>Bisher hatte kein Plan den Bildschirm.</translation>
+    </message>
+    <message>
+        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <translation>Von den Plänen für diese Uhrzeit kommt Plan %1 von Auftrag %2 zuerst.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
+        <translation>Plan %1 von Auftrag %2 hat den Bildschirm, aber keines seiner Programme kann laufen.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has played its list as often as it should.</source>
+        <translation>Plan %1 von Auftrag %2 hat seine Liste so oft gespielt, wie er soll.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 is over, and no other has begun.</source>
+        <translation>Plan %1 von Auftrag %2 ist zu Ende, und kein anderer hat begonnen.</translation>
+    </message>
+    <message>
+        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <translation>Von Hand eingefügt, anstelle von Plan %1 von Auftrag %2.</translation>
+    </message>
+    <message>
+        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <translation>Das anstelle von Plan %1 von Auftrag %2 Eingefügte hat nichts mehr zu spielen.</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Eingefügt: %1</translation>
+    </message>
+    <message>
+        <source>Before: %1</source>
+        <translation>Vorher: %1</translation>
     </message>
 </context>
 </TS>

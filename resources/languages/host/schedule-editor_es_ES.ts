@@ -74,6 +74,14 @@
 <context>
     <name>EditorWindow</name>
     <message>
+        <source>Now and next</source>
+        <translation>Ahora y después</translation>
+    </message>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>Cambios de hora</translation>
+    </message>
+    <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>Aún no hay programas. Arrastre aquí archivos multimedia o carpetas, o elija «Importar».</translation>
     </message>
@@ -270,6 +278,217 @@ What shall become of your changes?</source>
     <message>
         <source>Schedules (*.json)</source>
         <translation>Programaciones (*.json)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangePanel</name>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>Cambios de hora</translation>
+    </message>
+    <message>
+        <source>No change of the clocks falls on a day of any task.</source>
+        <translation>Ningún cambio de hora cae en un día de una tarea.</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 is left out;</source>
+        <translation>%1: se omite %2–%3;</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 comes twice;</source>
+        <translation>%1: %2–%3 ocurre dos veces;</translation>
+    </message>
+    <message>
+        <source>it touches no plan of task %1.</source>
+        <translation>no afecta a ningún plan de la tarea %1.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 does not play.</source>
+        <translation>el plan %1 de la tarea %2 no se reproduce.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
+        <translation>el plan %1 de la tarea %2 empieza a las %3 en medio de su lista.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 is cut off at %3.</source>
+        <translation>el plan %1 de la tarea %2 se corta a las %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 skips this part of its list.</source>
+        <translation>el plan %1 de la tarea %2 se salta esta parte de su lista.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 plays twice.</source>
+        <translation>el plan %1 de la tarea %2 se reproduce dos veces.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts twice at %3.</source>
+        <translation>el plan %1 de la tarea %2 empieza dos veces a las %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 ends twice at %3.</source>
+        <translation>el plan %1 de la tarea %2 termina dos veces a las %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 repeats this part of its list.</source>
+        <translation>el plan %1 de la tarea %2 repite esta parte de su lista.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewDock</name>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>&amp;Full screen preview</source>
+        <translation>Vista previa a &amp;pantalla completa</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Preview of the screen</source>
+        <translation>Vista previa de la pantalla</translation>
+    </message>
+</context>
+<context>
+    <name>NowNextPanel</name>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Después</translation>
+    </message>
+    <message>
+        <source>Cut in</source>
+        <translation>Insertado</translation>
+    </message>
+    <message>
+        <source>Now and next</source>
+        <translation>Ahora y después</translation>
+    </message>
+    <message>
+        <source>What the screen shows</source>
+        <translation>Lo que muestra la pantalla</translation>
+    </message>
+    <message>
+        <source>Program on screen</source>
+        <translation>Programa en pantalla</translation>
+    </message>
+    <message>
+        <source>Position in the program</source>
+        <translation>Posición en el programa</translation>
+    </message>
+    <message>
+        <source>Why this is on screen</source>
+        <translation>Por qué está en pantalla</translation>
+    </message>
+    <message>
+        <source>Program that comes next</source>
+        <translation>Programa que viene después</translation>
+    </message>
+    <message>
+        <source>Not started</source>
+        <translation>No iniciado</translation>
+    </message>
+    <message>
+        <source>%1 played</source>
+        <translation>%1 reproducido</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>queda %1</translation>
+    </message>
+    <message>
+        <source>%1, until %2, %3 left</source>
+        <translation>%1, hasta %2, queda %3</translation>
+    </message>
+    <message>
+        <source>Nothing else comes.</source>
+        <translation>No viene nada más.</translation>
+    </message>
+    <message>
+        <source>at %1, in %2</source>
+        <translation>a las %1, en %2</translation>
+    </message>
+    <message>
+        <source>on %1 at %2</source>
+        <translation>el %1 a las %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenWords</name>
+    <message>
+        <source>Playing</source>
+        <translation>En reproducción</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Negro</translation>
+    </message>
+    <message>
+        <source>Frozen</source>
+        <translation>Congelado</translation>
+    </message>
+    <message>
+        <source>Last frame of %1</source>
+        <translation>Último fotograma de %1</translation>
+    </message>
+    <message>
+        <source>Black screen</source>
+        <translation>Pantalla negra</translation>
+    </message>
+    <message>
+        <source>Entry %1 of %2, play %3 of %4</source>
+        <translation>Entrada %1 de %2, reproducción %3 de %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2</source>
+        <translation>Tarea %1, plan %2</translation>
+    </message>
+    <message>
+        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
+        <translation>El botón de inicio del editor pone en vigor el plan guardado.</translation>
+    </message>
+    <message>
+        <source>No plan has had the screen up to now.</source>
+        <translation>Hasta ahora ningún plan ha tenido la pantalla.</translation>
+    </message>
+    <message>
+        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <translation>De los planes para esta hora, el plan %1 de la tarea %2 es el primero.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
+        <translation>El plan %1 de la tarea %2 tiene la pantalla, pero ninguno de sus programas puede reproducirse.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has played its list as often as it should.</source>
+        <translation>El plan %1 de la tarea %2 ya reprodujo su lista las veces previstas.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 is over, and no other has begun.</source>
+        <translation>El plan %1 de la tarea %2 ha terminado y no ha empezado otro.</translation>
+    </message>
+    <message>
+        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <translation>Insertado a mano, en lugar del plan %1 de la tarea %2.</translation>
+    </message>
+    <message>
+        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <translation>Lo insertado en lugar del plan %1 de la tarea %2 no tiene nada más que reproducir.</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Insertado: %1</translation>
+    </message>
+    <message>
+        <source>Before: %1</source>
+        <translation>Antes: %1</translation>
     </message>
 </context>
 </TS>

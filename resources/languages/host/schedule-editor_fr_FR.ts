@@ -74,6 +74,14 @@
 <context>
     <name>EditorWindow</name>
     <message>
+        <source>Now and next</source>
+        <translation>Maintenant et ensuite</translation>
+    </message>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>Changements d&apos;heure</translation>
+    </message>
+    <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>Aucun programme pour l’instant. Déposez ici des fichiers multimédias ou des dossiers, ou choisissez «&#xa0;Importer&#xa0;».</translation>
     </message>
@@ -270,6 +278,217 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>Schedules (*.json)</source>
         <translation>Programmations (*.json)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangePanel</name>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>Changements d&apos;heure</translation>
+    </message>
+    <message>
+        <source>No change of the clocks falls on a day of any task.</source>
+        <translation>Aucun changement d&apos;heure ne tombe un jour d&apos;une tâche.</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 is left out;</source>
+        <translation>%1 : %2–%3 n&apos;existe pas ;</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 comes twice;</source>
+        <translation>%1 : %2–%3 revient deux fois ;</translation>
+    </message>
+    <message>
+        <source>it touches no plan of task %1.</source>
+        <translation>aucun plan de la tâche %1 n&apos;est touché.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 does not play.</source>
+        <translation>le plan %1 de la tâche %2 n&apos;est pas joué.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
+        <translation>le plan %1 de la tâche %2 commence à %3 au milieu de sa liste.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 is cut off at %3.</source>
+        <translation>le plan %1 de la tâche %2 est coupé à %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 skips this part of its list.</source>
+        <translation>le plan %1 de la tâche %2 saute cette partie de sa liste.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 plays twice.</source>
+        <translation>le plan %1 de la tâche %2 est joué deux fois.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts twice at %3.</source>
+        <translation>le plan %1 de la tâche %2 commence deux fois à %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 ends twice at %3.</source>
+        <translation>le plan %1 de la tâche %2 finit deux fois à %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 repeats this part of its list.</source>
+        <translation>le plan %1 de la tâche %2 répète cette partie de sa liste.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewDock</name>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>&amp;Full screen preview</source>
+        <translation>Aperçu en &amp;plein écran</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Preview of the screen</source>
+        <translation>Aperçu de l&apos;écran</translation>
+    </message>
+</context>
+<context>
+    <name>NowNextPanel</name>
+    <message>
+        <source>Now</source>
+        <translation>Maintenant</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Ensuite</translation>
+    </message>
+    <message>
+        <source>Cut in</source>
+        <translation>Inséré</translation>
+    </message>
+    <message>
+        <source>Now and next</source>
+        <translation>Maintenant et ensuite</translation>
+    </message>
+    <message>
+        <source>What the screen shows</source>
+        <translation>Ce que montre l&apos;écran</translation>
+    </message>
+    <message>
+        <source>Program on screen</source>
+        <translation>Programme à l&apos;écran</translation>
+    </message>
+    <message>
+        <source>Position in the program</source>
+        <translation>Position dans le programme</translation>
+    </message>
+    <message>
+        <source>Why this is on screen</source>
+        <translation>Pourquoi cela est à l&apos;écran</translation>
+    </message>
+    <message>
+        <source>Program that comes next</source>
+        <translation>Programme qui vient ensuite</translation>
+    </message>
+    <message>
+        <source>Not started</source>
+        <translation>Pas démarré</translation>
+    </message>
+    <message>
+        <source>%1 played</source>
+        <translation>%1 joué</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>reste %1</translation>
+    </message>
+    <message>
+        <source>%1, until %2, %3 left</source>
+        <translation>%1, jusqu&apos;à %2, reste %3</translation>
+    </message>
+    <message>
+        <source>Nothing else comes.</source>
+        <translation>Rien d&apos;autre ne vient.</translation>
+    </message>
+    <message>
+        <source>at %1, in %2</source>
+        <translation>à %1, dans %2</translation>
+    </message>
+    <message>
+        <source>on %1 at %2</source>
+        <translation>le %1 à %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenWords</name>
+    <message>
+        <source>Playing</source>
+        <translation>En lecture</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Noir</translation>
+    </message>
+    <message>
+        <source>Frozen</source>
+        <translation>Figé</translation>
+    </message>
+    <message>
+        <source>Last frame of %1</source>
+        <translation>Dernière image de %1</translation>
+    </message>
+    <message>
+        <source>Black screen</source>
+        <translation>Écran noir</translation>
+    </message>
+    <message>
+        <source>Entry %1 of %2, play %3 of %4</source>
+        <translation>Entrée %1 sur %2, lecture %3 sur %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2</source>
+        <translation>Tâche %1, plan %2</translation>
+    </message>
+    <message>
+        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
+        <translation>Le bouton de démarrage de l&apos;éditeur met en vigueur le planning enregistré.</translation>
+    </message>
+    <message>
+        <source>No plan has had the screen up to now.</source>
+        <translation>Aucun plan n&apos;a encore eu l&apos;écran.</translation>
+    </message>
+    <message>
+        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <translation>Parmi les plans de cette heure, le plan %1 de la tâche %2 vient en premier.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
+        <translation>Le plan %1 de la tâche %2 a l&apos;écran, mais aucun de ses programmes ne peut être joué.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has played its list as often as it should.</source>
+        <translation>Le plan %1 de la tâche %2 a joué sa liste autant de fois que prévu.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 is over, and no other has begun.</source>
+        <translation>Le plan %1 de la tâche %2 est terminé et aucun autre n&apos;a commencé.</translation>
+    </message>
+    <message>
+        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <translation>Inséré à la main, à la place du plan %1 de la tâche %2.</translation>
+    </message>
+    <message>
+        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <translation>Ce qui fut inséré à la place du plan %1 de la tâche %2 n&apos;a plus rien à jouer.</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Inséré : %1</translation>
+    </message>
+    <message>
+        <source>Before: %1</source>
+        <translation>Avant : %1</translation>
     </message>
 </context>
 </TS>

@@ -74,6 +74,14 @@
 <context>
     <name>EditorWindow</name>
     <message>
+        <source>Now and next</source>
+        <translation>現在と次</translation>
+    </message>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>時刻の切り替え</translation>
+    </message>
+    <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>番組がまだありません。メディアファイルやフォルダーをここにドロップするか、メニューから取り込んでください。</translation>
     </message>
@@ -267,6 +275,217 @@ What shall become of your changes?</source>
     <message>
         <source>Schedules (*.json)</source>
         <translation>スケジュール (*.json)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangePanel</name>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>時刻の切り替え</translation>
+    </message>
+    <message>
+        <source>No change of the clocks falls on a day of any task.</source>
+        <translation>どのタスクの日にも時刻の切り替えはありません。</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 is left out;</source>
+        <translation>%1: %2–%3 は飛ばされます。</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 comes twice;</source>
+        <translation>%1: %2–%3 は二度来ます。</translation>
+    </message>
+    <message>
+        <source>it touches no plan of task %1.</source>
+        <translation>タスク %1 のプランには影響しません。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 does not play.</source>
+        <translation>タスク %2 のプラン %1 は再生されません。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
+        <translation>タスク %2 のプラン %1 は %3 にリストの途中から始まります。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 is cut off at %3.</source>
+        <translation>タスク %2 のプラン %1 は %3 で打ち切られます。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 skips this part of its list.</source>
+        <translation>タスク %2 のプラン %1 はリストのこの部分を飛ばします。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 plays twice.</source>
+        <translation>タスク %2 のプラン %1 は二度再生されます。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts twice at %3.</source>
+        <translation>タスク %2 のプラン %1 は %3 に二度始まります。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 ends twice at %3.</source>
+        <translation>タスク %2 のプラン %1 は %3 に二度終わります。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 repeats this part of its list.</source>
+        <translation>タスク %2 のプラン %1 はリストのこの部分を繰り返します。</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewDock</name>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>&amp;Full screen preview</source>
+        <translation>全画面プレビュー(&amp;F)</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Preview of the screen</source>
+        <translation>画面のプレビュー</translation>
+    </message>
+</context>
+<context>
+    <name>NowNextPanel</name>
+    <message>
+        <source>Now</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次</translation>
+    </message>
+    <message>
+        <source>Cut in</source>
+        <translation>割り込み</translation>
+    </message>
+    <message>
+        <source>Now and next</source>
+        <translation>現在と次</translation>
+    </message>
+    <message>
+        <source>What the screen shows</source>
+        <translation>画面の状態</translation>
+    </message>
+    <message>
+        <source>Program on screen</source>
+        <translation>画面の番組</translation>
+    </message>
+    <message>
+        <source>Position in the program</source>
+        <translation>番組の再生位置</translation>
+    </message>
+    <message>
+        <source>Why this is on screen</source>
+        <translation>表示の理由</translation>
+    </message>
+    <message>
+        <source>Program that comes next</source>
+        <translation>次の番組</translation>
+    </message>
+    <message>
+        <source>Not started</source>
+        <translation>開始していません</translation>
+    </message>
+    <message>
+        <source>%1 played</source>
+        <translation>%1 再生済み</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>残り %1</translation>
+    </message>
+    <message>
+        <source>%1, until %2, %3 left</source>
+        <translation>%1、%2 まで、残り %3</translation>
+    </message>
+    <message>
+        <source>Nothing else comes.</source>
+        <translation>この後はありません。</translation>
+    </message>
+    <message>
+        <source>at %1, in %2</source>
+        <translation>%1、あと %2</translation>
+    </message>
+    <message>
+        <source>on %1 at %2</source>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenWords</name>
+    <message>
+        <source>Playing</source>
+        <translation>再生中</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>黒</translation>
+    </message>
+    <message>
+        <source>Frozen</source>
+        <translation>静止</translation>
+    </message>
+    <message>
+        <source>Last frame of %1</source>
+        <translation>%1 の最後のフレーム</translation>
+    </message>
+    <message>
+        <source>Black screen</source>
+        <translation>黒い画面</translation>
+    </message>
+    <message>
+        <source>Entry %1 of %2, play %3 of %4</source>
+        <translation>項目 %1/%2、再生 %3/%4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2</source>
+        <translation>タスク %1、プラン %2</translation>
+    </message>
+    <message>
+        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
+        <translation>エディターの開始ボタンで、保存したスケジュールが有効になります。</translation>
+    </message>
+    <message>
+        <source>No plan has had the screen up to now.</source>
+        <translation>これまで画面を使ったプランはありません。</translation>
+    </message>
+    <message>
+        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <translation>この時刻のプランのうち、タスク %2 のプラン %1 が最初です。</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
+        <translation>タスク %2 のプラン %1 の番ですが、再生できる番組がありません。</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has played its list as often as it should.</source>
+        <translation>タスク %2 のプラン %1 はリストを所定の回数再生しました。</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 is over, and no other has begun.</source>
+        <translation>タスク %2 のプラン %1 は終わり、次のプランはまだ始まっていません。</translation>
+    </message>
+    <message>
+        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <translation>タスク %2 のプラン %1 の代わりに手動で割り込みました。</translation>
+    </message>
+    <message>
+        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <translation>タスク %2 のプラン %1 の代わりの割り込みには、もう再生するものがありません。</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>割り込み: %1</translation>
+    </message>
+    <message>
+        <source>Before: %1</source>
+        <translation>元: %1</translation>
     </message>
 </context>
 </TS>

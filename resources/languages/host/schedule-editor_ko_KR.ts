@@ -74,6 +74,14 @@
 <context>
     <name>EditorWindow</name>
     <message>
+        <source>Now and next</source>
+        <translation>지금과 다음</translation>
+    </message>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>시각 변경</translation>
+    </message>
+    <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>아직 프로그램이 없습니다. 미디어 파일이나 폴더를 여기에 끌어다 놓거나 가져오기를 선택하세요.</translation>
     </message>
@@ -267,6 +275,217 @@ What shall become of your changes?</source>
     <message>
         <source>Schedules (*.json)</source>
         <translation>일정 (*.json)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangePanel</name>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>시각 변경</translation>
+    </message>
+    <message>
+        <source>No change of the clocks falls on a day of any task.</source>
+        <translation>어느 작업의 날에도 시각 변경이 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 is left out;</source>
+        <translation>%1: %2–%3 은(는) 건너뜁니다.</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 comes twice;</source>
+        <translation>%1: %2–%3 은(는) 두 번 옵니다.</translation>
+    </message>
+    <message>
+        <source>it touches no plan of task %1.</source>
+        <translation>작업 %1의 계획에는 영향이 없습니다.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 does not play.</source>
+        <translation>작업 %2의 계획 %1은(는) 재생되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
+        <translation>작업 %2의 계획 %1은(는) %3에 목록 중간부터 시작합니다.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 is cut off at %3.</source>
+        <translation>작업 %2의 계획 %1은(는) %3에 끊깁니다.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 skips this part of its list.</source>
+        <translation>작업 %2의 계획 %1은(는) 목록의 이 부분을 건너뜁니다.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 plays twice.</source>
+        <translation>작업 %2의 계획 %1은(는) 두 번 재생됩니다.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts twice at %3.</source>
+        <translation>작업 %2의 계획 %1은(는) %3에 두 번 시작합니다.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 ends twice at %3.</source>
+        <translation>작업 %2의 계획 %1은(는) %3에 두 번 끝납니다.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 repeats this part of its list.</source>
+        <translation>작업 %2의 계획 %1은(는) 목록의 이 부분을 반복합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewDock</name>
+    <message>
+        <source>Preview</source>
+        <translation>미리 보기</translation>
+    </message>
+    <message>
+        <source>&amp;Full screen preview</source>
+        <translation>전체 화면 미리 보기(&amp;F)</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Preview of the screen</source>
+        <translation>화면 미리 보기</translation>
+    </message>
+</context>
+<context>
+    <name>NowNextPanel</name>
+    <message>
+        <source>Now</source>
+        <translation>지금</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>다음</translation>
+    </message>
+    <message>
+        <source>Cut in</source>
+        <translation>삽입됨</translation>
+    </message>
+    <message>
+        <source>Now and next</source>
+        <translation>지금과 다음</translation>
+    </message>
+    <message>
+        <source>What the screen shows</source>
+        <translation>화면 상태</translation>
+    </message>
+    <message>
+        <source>Program on screen</source>
+        <translation>화면의 프로그램</translation>
+    </message>
+    <message>
+        <source>Position in the program</source>
+        <translation>프로그램 재생 위치</translation>
+    </message>
+    <message>
+        <source>Why this is on screen</source>
+        <translation>표시 이유</translation>
+    </message>
+    <message>
+        <source>Program that comes next</source>
+        <translation>다음 프로그램</translation>
+    </message>
+    <message>
+        <source>Not started</source>
+        <translation>시작되지 않음</translation>
+    </message>
+    <message>
+        <source>%1 played</source>
+        <translation>%1 재생됨</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 남음</translation>
+    </message>
+    <message>
+        <source>%1, until %2, %3 left</source>
+        <translation>%1, %2까지, %3 남음</translation>
+    </message>
+    <message>
+        <source>Nothing else comes.</source>
+        <translation>이후에는 없습니다.</translation>
+    </message>
+    <message>
+        <source>at %1, in %2</source>
+        <translation>%1, %2 후</translation>
+    </message>
+    <message>
+        <source>on %1 at %2</source>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenWords</name>
+    <message>
+        <source>Playing</source>
+        <translation>재생 중</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>검은 화면</translation>
+    </message>
+    <message>
+        <source>Frozen</source>
+        <translation>정지</translation>
+    </message>
+    <message>
+        <source>Last frame of %1</source>
+        <translation>%1의 마지막 프레임</translation>
+    </message>
+    <message>
+        <source>Black screen</source>
+        <translation>검은 화면</translation>
+    </message>
+    <message>
+        <source>Entry %1 of %2, play %3 of %4</source>
+        <translation>항목 %1/%2, 재생 %3/%4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2</source>
+        <translation>작업 %1, 계획 %2</translation>
+    </message>
+    <message>
+        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
+        <translation>편집기의 시작 버튼이 저장된 일정을 적용합니다.</translation>
+    </message>
+    <message>
+        <source>No plan has had the screen up to now.</source>
+        <translation>지금까지 화면을 사용한 계획이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <translation>이 시각의 계획 중 작업 %2의 계획 %1이(가) 처음입니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
+        <translation>작업 %2의 계획 %1 차례이지만 재생할 수 있는 프로그램이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has played its list as often as it should.</source>
+        <translation>작업 %2의 계획 %1은(는) 목록을 정해진 횟수만큼 재생했습니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 is over, and no other has begun.</source>
+        <translation>작업 %2의 계획 %1이(가) 끝났고 다른 계획은 시작되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <translation>작업 %2의 계획 %1 대신 수동으로 삽입되었습니다.</translation>
+    </message>
+    <message>
+        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <translation>작업 %2의 계획 %1 대신 삽입된 내용은 더 재생할 것이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>삽입: %1</translation>
+    </message>
+    <message>
+        <source>Before: %1</source>
+        <translation>이전: %1</translation>
     </message>
 </context>
 </TS>

@@ -74,6 +74,14 @@
 <context>
     <name>EditorWindow</name>
     <message>
+        <source>Now and next</source>
+        <translation>Agora e depois</translation>
+    </message>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>Mudanças de horário</translation>
+    </message>
+    <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>Ainda não há programas. Arraste arquivos de mídia ou pastas para cá ou escolha “Importar”.</translation>
     </message>
@@ -270,6 +278,217 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>Schedules (*.json)</source>
         <translation>Programações (*.json)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangePanel</name>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>Mudanças de horário</translation>
+    </message>
+    <message>
+        <source>No change of the clocks falls on a day of any task.</source>
+        <translation>Nenhuma mudança de horário cai em um dia de uma tarefa.</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 is left out;</source>
+        <translation>%1: %2–%3 não existe;</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 comes twice;</source>
+        <translation>%1: %2–%3 ocorre duas vezes;</translation>
+    </message>
+    <message>
+        <source>it touches no plan of task %1.</source>
+        <translation>nenhum plano da tarefa %1 é afetado.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 does not play.</source>
+        <translation>o plano %1 da tarefa %2 não é reproduzido.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
+        <translation>o plano %1 da tarefa %2 começa às %3 no meio da lista.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 is cut off at %3.</source>
+        <translation>o plano %1 da tarefa %2 é cortado às %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 skips this part of its list.</source>
+        <translation>o plano %1 da tarefa %2 pula esta parte da lista.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 plays twice.</source>
+        <translation>o plano %1 da tarefa %2 é reproduzido duas vezes.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts twice at %3.</source>
+        <translation>o plano %1 da tarefa %2 começa duas vezes às %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 ends twice at %3.</source>
+        <translation>o plano %1 da tarefa %2 termina duas vezes às %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 repeats this part of its list.</source>
+        <translation>o plano %1 da tarefa %2 repete esta parte da lista.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewDock</name>
+    <message>
+        <source>Preview</source>
+        <translation>Pré-visualização</translation>
+    </message>
+    <message>
+        <source>&amp;Full screen preview</source>
+        <translation>Pré-visualização em &amp;tela cheia</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Preview of the screen</source>
+        <translation>Pré-visualização da tela</translation>
+    </message>
+</context>
+<context>
+    <name>NowNextPanel</name>
+    <message>
+        <source>Now</source>
+        <translation>Agora</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Depois</translation>
+    </message>
+    <message>
+        <source>Cut in</source>
+        <translation>Inserido</translation>
+    </message>
+    <message>
+        <source>Now and next</source>
+        <translation>Agora e depois</translation>
+    </message>
+    <message>
+        <source>What the screen shows</source>
+        <translation>O que a tela mostra</translation>
+    </message>
+    <message>
+        <source>Program on screen</source>
+        <translation>Programa na tela</translation>
+    </message>
+    <message>
+        <source>Position in the program</source>
+        <translation>Posição no programa</translation>
+    </message>
+    <message>
+        <source>Why this is on screen</source>
+        <translation>Por que isto está na tela</translation>
+    </message>
+    <message>
+        <source>Program that comes next</source>
+        <translation>Programa que vem depois</translation>
+    </message>
+    <message>
+        <source>Not started</source>
+        <translation>Não iniciado</translation>
+    </message>
+    <message>
+        <source>%1 played</source>
+        <translation>%1 reproduzido</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>resta %1</translation>
+    </message>
+    <message>
+        <source>%1, until %2, %3 left</source>
+        <translation>%1, até %2, resta %3</translation>
+    </message>
+    <message>
+        <source>Nothing else comes.</source>
+        <translation>Nada mais vem.</translation>
+    </message>
+    <message>
+        <source>at %1, in %2</source>
+        <translation>às %1, em %2</translation>
+    </message>
+    <message>
+        <source>on %1 at %2</source>
+        <translation>em %1 às %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenWords</name>
+    <message>
+        <source>Playing</source>
+        <translation>Reproduzindo</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Preto</translation>
+    </message>
+    <message>
+        <source>Frozen</source>
+        <translation>Congelado</translation>
+    </message>
+    <message>
+        <source>Last frame of %1</source>
+        <translation>Último quadro de %1</translation>
+    </message>
+    <message>
+        <source>Black screen</source>
+        <translation>Tela preta</translation>
+    </message>
+    <message>
+        <source>Entry %1 of %2, play %3 of %4</source>
+        <translation>Entrada %1 de %2, reprodução %3 de %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2</source>
+        <translation>Tarefa %1, plano %2</translation>
+    </message>
+    <message>
+        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
+        <translation>O botão de início do editor põe em vigor a programação salva.</translation>
+    </message>
+    <message>
+        <source>No plan has had the screen up to now.</source>
+        <translation>Até agora nenhum plano teve a tela.</translation>
+    </message>
+    <message>
+        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <translation>Dos planos para esta hora, o plano %1 da tarefa %2 vem primeiro.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
+        <translation>O plano %1 da tarefa %2 tem a tela, mas nenhum programa pode ser reproduzido.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has played its list as often as it should.</source>
+        <translation>O plano %1 da tarefa %2 já reproduziu sua lista as vezes previstas.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 is over, and no other has begun.</source>
+        <translation>O plano %1 da tarefa %2 terminou, e nenhum outro começou.</translation>
+    </message>
+    <message>
+        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <translation>Inserido à mão, no lugar do plano %1 da tarefa %2.</translation>
+    </message>
+    <message>
+        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <translation>O que foi inserido no lugar do plano %1 da tarefa %2 não tem mais nada a reproduzir.</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Inserido: %1</translation>
+    </message>
+    <message>
+        <source>Before: %1</source>
+        <translation>Antes: %1</translation>
     </message>
 </context>
 </TS>

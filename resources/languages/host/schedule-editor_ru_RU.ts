@@ -74,6 +74,14 @@
 <context>
     <name>EditorWindow</name>
     <message>
+        <source>Now and next</source>
+        <translation>Сейчас и далее</translation>
+    </message>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>Переводы часов</translation>
+    </message>
+    <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>Программ пока нет. Перетащите сюда медиафайлы или папки либо выберите «Импорт».</translation>
     </message>
@@ -273,6 +281,217 @@ What shall become of your changes?</source>
     <message>
         <source>Schedules (*.json)</source>
         <translation>Расписания (*.json)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangePanel</name>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>Переводы часов</translation>
+    </message>
+    <message>
+        <source>No change of the clocks falls on a day of any task.</source>
+        <translation>Ни на один день задания не приходится перевод часов.</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 is left out;</source>
+        <translation>%1: %2–%3 пропускается;</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 comes twice;</source>
+        <translation>%1: %2–%3 наступает дважды;</translation>
+    </message>
+    <message>
+        <source>it touches no plan of task %1.</source>
+        <translation>планы задания %1 не затронуты.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 does not play.</source>
+        <translation>план %1 задания %2 не воспроизводится.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
+        <translation>план %1 задания %2 начинается в %3 с середины списка.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 is cut off at %3.</source>
+        <translation>план %1 задания %2 обрывается в %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 skips this part of its list.</source>
+        <translation>план %1 задания %2 пропускает эту часть списка.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 plays twice.</source>
+        <translation>план %1 задания %2 воспроизводится дважды.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts twice at %3.</source>
+        <translation>план %1 задания %2 начинается дважды в %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 ends twice at %3.</source>
+        <translation>план %1 задания %2 заканчивается дважды в %3.</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 repeats this part of its list.</source>
+        <translation>план %1 задания %2 повторяет эту часть списка.</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewDock</name>
+    <message>
+        <source>Preview</source>
+        <translation>Предпросмотр</translation>
+    </message>
+    <message>
+        <source>&amp;Full screen preview</source>
+        <translation>Предпросмотр на &amp;весь экран</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Preview of the screen</source>
+        <translation>Предпросмотр экрана</translation>
+    </message>
+</context>
+<context>
+    <name>NowNextPanel</name>
+    <message>
+        <source>Now</source>
+        <translation>Сейчас</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Далее</translation>
+    </message>
+    <message>
+        <source>Cut in</source>
+        <translation>Вставлено</translation>
+    </message>
+    <message>
+        <source>Now and next</source>
+        <translation>Сейчас и далее</translation>
+    </message>
+    <message>
+        <source>What the screen shows</source>
+        <translation>Что на экране</translation>
+    </message>
+    <message>
+        <source>Program on screen</source>
+        <translation>Программа на экране</translation>
+    </message>
+    <message>
+        <source>Position in the program</source>
+        <translation>Позиция в программе</translation>
+    </message>
+    <message>
+        <source>Why this is on screen</source>
+        <translation>Почему это на экране</translation>
+    </message>
+    <message>
+        <source>Program that comes next</source>
+        <translation>Следующая программа</translation>
+    </message>
+    <message>
+        <source>Not started</source>
+        <translation>Не запущено</translation>
+    </message>
+    <message>
+        <source>%1 played</source>
+        <translation>Прошло %1</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>Осталось %1</translation>
+    </message>
+    <message>
+        <source>%1, until %2, %3 left</source>
+        <translation>%1, до %2, осталось %3</translation>
+    </message>
+    <message>
+        <source>Nothing else comes.</source>
+        <translation>Больше ничего не будет.</translation>
+    </message>
+    <message>
+        <source>at %1, in %2</source>
+        <translation>в %1, через %2</translation>
+    </message>
+    <message>
+        <source>on %1 at %2</source>
+        <translation>%1 в %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenWords</name>
+    <message>
+        <source>Playing</source>
+        <translation>Идёт</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Чёрный</translation>
+    </message>
+    <message>
+        <source>Frozen</source>
+        <translation>Застыло</translation>
+    </message>
+    <message>
+        <source>Last frame of %1</source>
+        <translation>Последний кадр: %1</translation>
+    </message>
+    <message>
+        <source>Black screen</source>
+        <translation>Чёрный экран</translation>
+    </message>
+    <message>
+        <source>Entry %1 of %2, play %3 of %4</source>
+        <translation>Запись %1 из %2, показ %3 из %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2</source>
+        <translation>Задание %1, план %2</translation>
+    </message>
+    <message>
+        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
+        <translation>Кнопка запуска в редакторе вводит сохранённое расписание в действие.</translation>
+    </message>
+    <message>
+        <source>No plan has had the screen up to now.</source>
+        <translation>До сих пор ни один план не занимал экран.</translation>
+    </message>
+    <message>
+        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <translation>Из планов на это время план %1 задания %2 стоит первым.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
+        <translation>Экран у плана %1 задания %2, но ни одна его программа не может идти.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has played its list as often as it should.</source>
+        <translation>План %1 задания %2 показал список нужное число раз.</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 is over, and no other has begun.</source>
+        <translation>План %1 задания %2 закончился, а другой ещё не начался.</translation>
+    </message>
+    <message>
+        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <translation>Вставлено вручную вместо плана %1 задания %2.</translation>
+    </message>
+    <message>
+        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <translation>Вставке вместо плана %1 задания %2 больше нечего показывать.</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Вставлено: %1</translation>
+    </message>
+    <message>
+        <source>Before: %1</source>
+        <translation>Прежде: %1</translation>
     </message>
 </context>
 </TS>

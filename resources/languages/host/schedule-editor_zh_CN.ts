@@ -74,6 +74,14 @@
 <context>
     <name>EditorWindow</name>
     <message>
+        <source>Now and next</source>
+        <translation>当前与下一个</translation>
+    </message>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>时钟调整</translation>
+    </message>
+    <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>还没有节目。请将媒体文件或文件夹拖放到此处，或选择“导入”。</translation>
     </message>
@@ -267,6 +275,217 @@ What shall become of your changes?</source>
     <message>
         <source>Schedules (*.json)</source>
         <translation>排期 (*.json)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangePanel</name>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>时钟调整</translation>
+    </message>
+    <message>
+        <source>No change of the clocks falls on a day of any task.</source>
+        <translation>没有时钟调整落在任何任务的日期内。</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 is left out;</source>
+        <translation>%1：%2–%3 被跳过；</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 comes twice;</source>
+        <translation>%1：%2–%3 出现两次；</translation>
+    </message>
+    <message>
+        <source>it touches no plan of task %1.</source>
+        <translation>不影响任务 %1 的计划。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 does not play.</source>
+        <translation>任务 %2 的计划 %1 不播放。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
+        <translation>任务 %2 的计划 %1 在 %3 从列表中间开始。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 is cut off at %3.</source>
+        <translation>任务 %2 的计划 %1 在 %3 中断。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 skips this part of its list.</source>
+        <translation>任务 %2 的计划 %1 跳过列表的这一部分。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 plays twice.</source>
+        <translation>任务 %2 的计划 %1 播放两次。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts twice at %3.</source>
+        <translation>任务 %2 的计划 %1 在 %3 开始两次。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 ends twice at %3.</source>
+        <translation>任务 %2 的计划 %1 在 %3 结束两次。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 repeats this part of its list.</source>
+        <translation>任务 %2 的计划 %1 重复列表的这一部分。</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewDock</name>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>&amp;Full screen preview</source>
+        <translation>全屏预览(&amp;F)</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Preview of the screen</source>
+        <translation>屏幕预览</translation>
+    </message>
+</context>
+<context>
+    <name>NowNextPanel</name>
+    <message>
+        <source>Now</source>
+        <translation>当前</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一个</translation>
+    </message>
+    <message>
+        <source>Cut in</source>
+        <translation>已插播</translation>
+    </message>
+    <message>
+        <source>Now and next</source>
+        <translation>当前与下一个</translation>
+    </message>
+    <message>
+        <source>What the screen shows</source>
+        <translation>屏幕状态</translation>
+    </message>
+    <message>
+        <source>Program on screen</source>
+        <translation>屏幕上的节目</translation>
+    </message>
+    <message>
+        <source>Position in the program</source>
+        <translation>节目播放位置</translation>
+    </message>
+    <message>
+        <source>Why this is on screen</source>
+        <translation>显示原因</translation>
+    </message>
+    <message>
+        <source>Program that comes next</source>
+        <translation>下一个节目</translation>
+    </message>
+    <message>
+        <source>Not started</source>
+        <translation>未启动</translation>
+    </message>
+    <message>
+        <source>%1 played</source>
+        <translation>已播放 %1</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>剩余 %1</translation>
+    </message>
+    <message>
+        <source>%1, until %2, %3 left</source>
+        <translation>%1，到 %2，剩余 %3</translation>
+    </message>
+    <message>
+        <source>Nothing else comes.</source>
+        <translation>之后没有内容。</translation>
+    </message>
+    <message>
+        <source>at %1, in %2</source>
+        <translation>%1，%2 后</translation>
+    </message>
+    <message>
+        <source>on %1 at %2</source>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenWords</name>
+    <message>
+        <source>Playing</source>
+        <translation>播放中</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>黑屏</translation>
+    </message>
+    <message>
+        <source>Frozen</source>
+        <translation>定格</translation>
+    </message>
+    <message>
+        <source>Last frame of %1</source>
+        <translation>%1 的最后一帧</translation>
+    </message>
+    <message>
+        <source>Black screen</source>
+        <translation>黑屏</translation>
+    </message>
+    <message>
+        <source>Entry %1 of %2, play %3 of %4</source>
+        <translation>第 %1 项，共 %2 项，第 %3 次，共 %4 次</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2</source>
+        <translation>任务 %1，计划 %2</translation>
+    </message>
+    <message>
+        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
+        <translation>编辑器的启动按钮使已保存的排期生效。</translation>
+    </message>
+    <message>
+        <source>No plan has had the screen up to now.</source>
+        <translation>到目前为止还没有计划占用屏幕。</translation>
+    </message>
+    <message>
+        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <translation>在此时段的计划中，任务 %2 的计划 %1 排在最前。</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
+        <translation>屏幕归任务 %2 的计划 %1，但其节目都无法播放。</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has played its list as often as it should.</source>
+        <translation>任务 %2 的计划 %1 已按次数播完列表。</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 is over, and no other has begun.</source>
+        <translation>任务 %2 的计划 %1 已结束，其他计划尚未开始。</translation>
+    </message>
+    <message>
+        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <translation>手动插播，代替任务 %2 的计划 %1。</translation>
+    </message>
+    <message>
+        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <translation>代替任务 %2 的计划 %1 的插播已无内容可播。</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>插播：%1</translation>
+    </message>
+    <message>
+        <source>Before: %1</source>
+        <translation>原来：%1</translation>
     </message>
 </context>
 </TS>

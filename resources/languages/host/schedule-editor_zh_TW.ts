@@ -74,6 +74,14 @@
 <context>
     <name>EditorWindow</name>
     <message>
+        <source>Now and next</source>
+        <translation>目前與下一個</translation>
+    </message>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>時鐘調整</translation>
+    </message>
+    <message>
         <source>No programs yet. Drop media files or folders here, or choose Import.</source>
         <translation>還沒有節目。請將媒體檔案或資料夾拖放到這裡，或選擇「匯入」。</translation>
     </message>
@@ -267,6 +275,217 @@ What shall become of your changes?</source>
     <message>
         <source>Schedules (*.json)</source>
         <translation>排程 (*.json)</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangePanel</name>
+    <message>
+        <source>Changes of the clocks</source>
+        <translation>時鐘調整</translation>
+    </message>
+    <message>
+        <source>No change of the clocks falls on a day of any task.</source>
+        <translation>沒有時鐘調整落在任何任務的日期內。</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 is left out;</source>
+        <translation>%1：%2–%3 被跳過；</translation>
+    </message>
+    <message>
+        <source>%1: %2–%3 comes twice;</source>
+        <translation>%1：%2–%3 出現兩次；</translation>
+    </message>
+    <message>
+        <source>it touches no plan of task %1.</source>
+        <translation>不影響任務 %1 的計畫。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 does not play.</source>
+        <translation>任務 %2 的計畫 %1 不播放。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
+        <translation>任務 %2 的計畫 %1 在 %3 從清單中間開始。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 is cut off at %3.</source>
+        <translation>任務 %2 的計畫 %1 在 %3 中斷。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 skips this part of its list.</source>
+        <translation>任務 %2 的計畫 %1 跳過清單的這一部分。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 plays twice.</source>
+        <translation>任務 %2 的計畫 %1 播放兩次。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 starts twice at %3.</source>
+        <translation>任務 %2 的計畫 %1 在 %3 開始兩次。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 ends twice at %3.</source>
+        <translation>任務 %2 的計畫 %1 在 %3 結束兩次。</translation>
+    </message>
+    <message>
+        <source>plan %1 of task %2 repeats this part of its list.</source>
+        <translation>任務 %2 的計畫 %1 重複清單的這一部分。</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewDock</name>
+    <message>
+        <source>Preview</source>
+        <translation>預覽</translation>
+    </message>
+    <message>
+        <source>&amp;Full screen preview</source>
+        <translation>全螢幕預覽(&amp;F)</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewScreen</name>
+    <message>
+        <source>Preview of the screen</source>
+        <translation>螢幕預覽</translation>
+    </message>
+</context>
+<context>
+    <name>NowNextPanel</name>
+    <message>
+        <source>Now</source>
+        <translation>目前</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>下一個</translation>
+    </message>
+    <message>
+        <source>Cut in</source>
+        <translation>已插播</translation>
+    </message>
+    <message>
+        <source>Now and next</source>
+        <translation>目前與下一個</translation>
+    </message>
+    <message>
+        <source>What the screen shows</source>
+        <translation>螢幕狀態</translation>
+    </message>
+    <message>
+        <source>Program on screen</source>
+        <translation>螢幕上的節目</translation>
+    </message>
+    <message>
+        <source>Position in the program</source>
+        <translation>節目播放位置</translation>
+    </message>
+    <message>
+        <source>Why this is on screen</source>
+        <translation>顯示原因</translation>
+    </message>
+    <message>
+        <source>Program that comes next</source>
+        <translation>下一個節目</translation>
+    </message>
+    <message>
+        <source>Not started</source>
+        <translation>未啟動</translation>
+    </message>
+    <message>
+        <source>%1 played</source>
+        <translation>已播放 %1</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>剩餘 %1</translation>
+    </message>
+    <message>
+        <source>%1, until %2, %3 left</source>
+        <translation>%1，到 %2，剩餘 %3</translation>
+    </message>
+    <message>
+        <source>Nothing else comes.</source>
+        <translation>之後沒有內容。</translation>
+    </message>
+    <message>
+        <source>at %1, in %2</source>
+        <translation>%1，%2 後</translation>
+    </message>
+    <message>
+        <source>on %1 at %2</source>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>ScreenWords</name>
+    <message>
+        <source>Playing</source>
+        <translation>播放中</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>黑屏</translation>
+    </message>
+    <message>
+        <source>Frozen</source>
+        <translation>定格</translation>
+    </message>
+    <message>
+        <source>Last frame of %1</source>
+        <translation>%1 的最後一幀</translation>
+    </message>
+    <message>
+        <source>Black screen</source>
+        <translation>黑屏</translation>
+    </message>
+    <message>
+        <source>Entry %1 of %2, play %3 of %4</source>
+        <translation>第 %1 項，共 %2 項，第 %3 次，共 %4 次</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2</source>
+        <translation>任務 %1，計畫 %2</translation>
+    </message>
+    <message>
+        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
+        <translation>編輯器的啟動按鈕使已儲存的排程生效。</translation>
+    </message>
+    <message>
+        <source>No plan has had the screen up to now.</source>
+        <translation>到目前為止還沒有計畫佔用螢幕。</translation>
+    </message>
+    <message>
+        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <translation>在此時段的計畫中，任務 %2 的計畫 %1 排在最前。</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
+        <translation>螢幕歸任務 %2 的計畫 %1，但其節目都無法播放。</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 has played its list as often as it should.</source>
+        <translation>任務 %2 的計畫 %1 已按次數播完清單。</translation>
+    </message>
+    <message>
+        <source>Plan %1 of task %2 is over, and no other has begun.</source>
+        <translation>任務 %2 的計畫 %1 已結束，其他計畫尚未開始。</translation>
+    </message>
+    <message>
+        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <translation>手動插播，代替任務 %2 的計畫 %1。</translation>
+    </message>
+    <message>
+        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <translation>代替任務 %2 的計畫 %1 的插播已無內容可播。</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>插播：%1</translation>
+    </message>
+    <message>
+        <source>Before: %1</source>
+        <translation>原來：%1</translation>
     </message>
 </context>
 </TS>

@@ -6,7 +6,11 @@
 #include "ImportJob.h"
 #include "Languages.h"
 #include "ProgramTableModel.h"
+#include "clock/ClockChangePanel.h"
 #include "scheduleControlUI.h"
+#include "screen/NowNextPanel.h"
+#include "screen/PreviewDock.h"
+#include "screen/ScreenFollower.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/ScheduleJson.h"
@@ -52,6 +56,8 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     , m_programs(new ProgramTableModel(this))
     , m_table(new QTableView(this))
     , m_hint(new QLabel(this))
+    , m_nowNext(new QDockWidget(this))
+    , m_clockChanges(new QDockWidget(this))
 {
     setObjectName(QStringLiteral("editorWindow"));
     setAcceptDrops(true);
@@ -84,8 +90,9 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     setCentralWidget(centre);
 
     connectMenus();
+    buildPanels();
     retranslate();
-    resize(900, 520);
+    resize(1180, 720);
 
     connect(&ScheduleHost::instance(), &ScheduleHost::catalogueChanged, this,
             &EditorWindow::updateCatalogue);
@@ -117,6 +124,24 @@ void EditorWindow::connectMenus()
             [this, remove] { remove->setEnabled(m_table->selectionModel()->hasSelection()); });
 }
 
+void EditorWindow::buildPanels()
+{
+    auto* follower = new ScreenFollower(ScheduleHost::instance().dispatch(), this);
+    m_nowNext->setObjectName(QStringLiteral("nowNextDock"));
+    m_nowNext->setWidget(new NowNextPanel(*follower, m_nowNext));
+    addPanel(m_nowNext, Qt::RightDockWidgetArea);
+    auto* preview = new PreviewDock(*follower, this);
+    addPanel(preview, Qt::RightDockWidgetArea);
+    m_menus->addPanel(preview->fullScreen());
+    m_clockChanges->setObjectName(QStringLiteral("clockChangeDock"));
+    m_clockChanges->setWidget(new ClockChangePanel(m_clockChanges));
+    addPanel(m_clockChanges, Qt::BottomDockWidgetArea);
+    // What is on screen stands beside the list of changes, not above it.
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    resizeDocks({m_nowNext}, {360}, Qt::Horizontal);
+    resizeDocks({m_nowNext, preview, m_clockChanges}, {430, 210, 130}, Qt::Vertical);
+}
+
 void EditorWindow::addPanel(QDockWidget* panel, Qt::DockWidgetArea area)
 {
     addDockWidget(area, panel);
@@ -128,6 +153,8 @@ void EditorWindow::retranslate()
     m_menus->retranslate();
     m_table->setAccessibleName(m_menus->programsTitle());
     m_hint->setText(tr("No programs yet. Drop media files or folders here, or choose Import."));
+    m_nowNext->setWindowTitle(tr("Now and next"));
+    m_clockChanges->setWindowTitle(tr("Changes of the clocks"));
     m_programs->retranslate();
     updateTitle();
 }

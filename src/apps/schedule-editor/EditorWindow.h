@@ -59,6 +59,7 @@ protected:
 
 private:
     void connectMenus();
+    void buildPanels();
     /// Docks a panel, which becomes a child, and lets the view menu show and hide it.
     void addPanel(QDockWidget* panel, Qt::DockWidgetArea area);
     void retranslate();
@@ -81,6 +82,8 @@ private:
     ProgramTableModel* m_programs;
     QTableView* m_table;
     QLabel* m_hint;
+    QDockWidget* m_nowNext;
+    QDockWidget* m_clockChanges;
     ImportJob* m_job = nullptr;
     QProgressDialog* m_progress = nullptr;
 };

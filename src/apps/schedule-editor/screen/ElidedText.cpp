@@ -1,0 +1,76 @@
+#include "screen/ElidedText.h"
+
+#include <QEvent>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QTextLayout>
+#include <QToolTip>
+
+ElidedText::ElidedText(QWidget* parent, int lines)
+    : QLabel(parent)
+    , m_lines(lines)
+{
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+QSize ElidedText::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(text()), minimumSizeHint().height()};
+}
+
+QSize ElidedText::minimumSizeHint() const
+{
+    const QMargins margins = contentsMargins();
+    return {0, fontMetrics().lineSpacing() * m_lines + margins.top() + margins.bottom()};
+}
+
+ElidedText::Shown ElidedText::shown() const
+{
+    const int width = contentsRect().width();
+    Shown shown;
+    QTextLayout layout(text(), font());
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        const bool isLast = shown.lines.size() + 1 == m_lines;
+        line.setLineWidth(isLast ? INT_MAX / 256 : width);
+        const QString part = text().mid(line.textStart(), line.textLength()).trimmed();
+        const QString fitting = fontMetrics().elidedText(part, Qt::ElideRight, width);
+        shown.isWhole = shown.isWhole && fitting == part;
+        shown.lines.append(fitting);
+        if (isLast) {
+            break;
+        }
+    }
+    layout.endLayout();
+    return shown;
+}
+
+bool ElidedText::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip) {
+        return QLabel::event(event);
+    }
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QString whole = shown().isWhole ? QString() : text();
+    QToolTip::showText(help->globalPos(), m_longText.isEmpty() ? whole : m_longText, this);
+    return true;
+}
+
+void ElidedText::paintEvent(QPaintEvent* event)
+{
+    // The label's own painting would draw the whole text.
+    QFrame::paintEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    QPainter painter(this);
+    const int alignment = int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)) |
+                          int(Qt::AlignVCenter) | int(Qt::TextSingleLine);
+    QRect line = contentsRect();
+    line.setHeight(fontMetrics().lineSpacing());
+    const QStringList lines = shown().lines;
+    for (const QString& text : lines) {
+        style()->drawItemText(&painter, line, alignment, palette(), isEnabled(), text,
+                              foregroundRole());
+        line.translate(0, line.height());
+    }
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QLabel>
+
+/// A text of one or a few lines that ends in dots where it has no room; then a tool tip shows all
+/// of it. It asks for no width, so that a long text never widens its window. text() is always the
+/// whole text.
+class ElidedText : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit ElidedText(QWidget* parent, int lines = 1);
+
+    /// Shown in place of the text where there is one, whether the text has room or not.
+    void setLongText(const QString& text) { m_longText = text; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    struct Shown
+    {
+        QStringList lines;
+        bool isWhole = true;
+    };
+    Shown shown() const;
+
+    int m_lines;
+    QString m_longText;
+};

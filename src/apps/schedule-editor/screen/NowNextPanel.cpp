@@ -1,0 +1,262 @@
+#include "screen/NowNextPanel.h"
+
+#include "screen/Badge.h"
+#include "screen/ElidedText.h"
+#include "screen/PlayBar.h"
+#include "screen/ScreenFollower.h"
+#include "screen/ScreenWords.h"
+
+#include <QEvent>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+constexpr qint64 kDay = 86'400'000;
+constexpr int kProgramPixels = 16;
+constexpr int kReasonLines = 2;
+
+/// A label that one reads past while the others are read.
+template <typename Label>
+Label* faint(Label* label)
+{
+    label->setForegroundRole(QPalette::PlaceholderText);
+    return label;
+}
+
+template <typename Label>
+Label* named(Label* label, const char* name)
+{
+    label->setObjectName(QLatin1String(name));
+    return label;
+}
+
+void setBold(QWidget* widget, int pixels)
+{
+    QFont font = widget->font();
+    font.setBold(true);
+    if (pixels > 0) {
+        font.setPixelSize(pixels);
+    }
+    widget->setFont(font);
+}
+
+/// A text without its room where there is none.
+void setOptional(QLabel* label, const QString& text)
+{
+    label->setText(text);
+    label->setVisible(!text.isEmpty());
+}
+
+QHBoxLayout* row(std::initializer_list<QWidget*> leading, std::initializer_list<QWidget*> trailing)
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
+    for (QWidget* widget : leading) {
+        row->addWidget(widget);
+    }
+    row->addStretch(1);
+    for (QWidget* widget : trailing) {
+        row->addWidget(widget);
+    }
+    return row;
+}
+
+} // namespace
+
+NowNextPanel::NowNextPanel(ScreenFollower& follower, QWidget* parent)
+    : QWidget(parent)
+    , m_follower(follower)
+    , m_nowTitle(named(faint(new QLabel(this)), "nowTitle"))
+    , m_picture(named(new Badge(this), "nowPicture"))
+    , m_inserted(named(new Badge(this), "nowInserted"))
+    , m_program(named(new ElidedText(this), "nowProgram"))
+    , m_bar(named(new PlayBar(this), "nowBar"))
+    , m_gone(named(new QLabel(this), "nowGone"))
+    , m_toCome(named(new QLabel(this), "nowToCome"))
+    , m_entry(named(new ElidedText(this), "nowEntry"))
+    , m_plan(named(new ElidedText(this), "nowPlan"))
+    , m_reason(named(faint(new ElidedText(this, kReasonLines)), "nowReason"))
+    , m_nextPart(new QWidget(this))
+    , m_nextTitle(named(faint(new QLabel(m_nextPart)), "nextTitle"))
+    , m_nextInserted(named(new Badge(m_nextPart), "nextInserted"))
+    , m_nextProgram(named(new ElidedText(m_nextPart), "nextProgram"))
+    , m_nextPlan(named(new ElidedText(m_nextPart), "nextPlan"))
+    , m_nextTime(named(new ElidedText(m_nextPart), "nextTime"))
+{
+    setObjectName(QStringLiteral("nowNextPanel"));
+    build();
+    retranslate();
+    m_inserted->installEventFilter(this);
+    m_nextInserted->installEventFilter(this);
+    m_follower.addViewer(*this);
+    const auto show = [this] {
+        showScreen();
+        showNext();
+    };
+    connect(&m_follower, &ScreenFollower::changed, this, show);
+    connect(&m_follower, &ScreenFollower::ticked, this, &NowNextPanel::showTimes);
+}
+
+void NowNextPanel::build()
+{
+    setBold(m_program, kProgramPixels);
+    setBold(m_nextProgram, 0);
+    m_inserted->setRoles(QPalette::Button, QPalette::ButtonText);
+    m_nextInserted->setRoles(QPalette::Button, QPalette::ButtonText);
+
+    auto* line = new QFrame(m_nextPart);
+    line->setFrameShape(QFrame::HLine);
+    line->setForegroundRole(QPalette::Mid);
+    line->setFrameShadow(QFrame::Plain);
+
+    auto* next = new QVBoxLayout(m_nextPart);
+    next->setContentsMargins(0, 4, 0, 0);
+    next->setSpacing(4);
+    next->addWidget(line);
+    next->addLayout(row({m_nextTitle}, {m_nextInserted}));
+    next->addWidget(m_nextProgram);
+    next->addWidget(m_nextPlan);
+    next->addWidget(m_nextTime);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 8, 12, 10);
+    layout->setSpacing(4);
+    layout->addLayout(row({m_nowTitle}, {m_inserted, m_picture}));
+    layout->addWidget(m_program);
+    layout->addWidget(m_bar);
+    layout->addLayout(row({m_gone}, {m_toCome}));
+    layout->addWidget(m_entry);
+    layout->addWidget(m_plan);
+    layout->addWidget(m_reason);
+    layout->addWidget(m_nextPart);
+    layout->addStretch(1);
+}
+
+void NowNextPanel::retranslate()
+{
+    m_nowTitle->setText(tr("Now"));
+    m_inserted->setText(tr("Cut in"));
+    m_nextTitle->setText(tr("Next"));
+    m_nextInserted->setText(tr("Cut in"));
+    setAccessibleName(tr("Now and next"));
+    m_picture->setAccessibleName(tr("What the screen shows"));
+    m_program->setAccessibleName(tr("Program on screen"));
+    m_bar->setAccessibleName(tr("Position in the program"));
+    m_reason->setAccessibleName(tr("Why this is on screen"));
+    m_nextProgram->setAccessibleName(tr("Program that comes next"));
+    showScreen();
+    showNext();
+}
+
+void NowNextPanel::showScreen()
+{
+    const ScreenScene& now = m_follower.now();
+    const bool isRunning = m_follower.isRunning();
+    const bool isPlaying = now.state.isPlaying();
+    m_picture->setText(ScreenWords::picture(now.state.picture));
+    m_picture->setRoles(isPlaying ? QPalette::Highlight : QPalette::Button,
+                        isPlaying ? QPalette::HighlightedText : QPalette::ButtonText);
+    m_picture->setVisible(isRunning);
+    m_inserted->setVisible(now.state.isInserted());
+    m_program->setText(isRunning ? ScreenWords::program(now) : tr("Not started"));
+    m_reason->setText(ScreenWords::reason(now));
+    setOptional(m_entry, ScreenWords::entry(now));
+    m_bar->setVisible(isPlaying);
+    m_gone->setVisible(isPlaying);
+    m_toCome->setVisible(isPlaying);
+    showTimes();
+}
+
+void NowNextPanel::showTimes()
+{
+    const ScreenScene& now = m_follower.now();
+    const qint64 gone = m_follower.position();
+    const std::optional<qint64> toCome = m_follower.remaining();
+    m_gone->setText(ScreenWords::gone(gone));
+    m_gone->setAccessibleName(tr("%1 played").arg(m_gone->text()));
+    m_toCome->setText(toCome ? QStringLiteral("−%1").arg(ScreenWords::toCome(*toCome)) : QString());
+    m_toCome->setAccessibleName(toCome ? tr("%1 left").arg(ScreenWords::toCome(*toCome))
+                                       : QString());
+    m_bar->setPlay(gone, toCome ? gone + *toCome : 0);
+
+    const std::optional<qint64> planToCome = m_follower.planRemaining();
+    const bool hasPlan = now.state.reason != ScreenReason::PlanEnded;
+    const QString plan = ScreenWords::plan(now);
+    setOptional(m_plan,
+                plan.isEmpty() || !planToCome || !hasPlan
+                    ? plan
+                    : tr("%1, until %2, %3 left")
+                          .arg(plan, m_follower.local(now.state.spanUntil).toString(kTimeFormat),
+                               ScreenWords::toCome(*planToCome)));
+    showNextTime();
+}
+
+void NowNextPanel::showNext()
+{
+    m_nextPart->setVisible(m_follower.isRunning());
+    const std::optional<ScreenScene>& next = m_follower.next();
+    m_nextInserted->setVisible(next && next->state.isInserted());
+    m_nextProgram->setText(next ? ScreenWords::program(*next) : tr("Nothing else comes."));
+    QStringList parts;
+    if (next) {
+        parts = QStringList{ScreenWords::plan(*next), ScreenWords::entry(*next)};
+        parts.removeAll(QString());
+    }
+    setOptional(m_nextPlan, parts.join(QStringLiteral(" · ")));
+    showNextTime();
+}
+
+void NowNextPanel::showNextTime()
+{
+    const Instant until = m_follower.now().state.until;
+    const std::optional<qint64> toCome = m_follower.remaining();
+    if (!m_follower.next() || !toCome) {
+        setOptional(m_nextTime, QString());
+        return;
+    }
+    const QDateTime moment = m_follower.local(until);
+    const QString time = moment.toString(kTimeFormat);
+    m_nextTime->setVisible(true);
+    m_nextTime->setText(*toCome < kDay ? tr("at %1, in %2").arg(time, ScreenWords::toCome(*toCome))
+                                       : tr("on %1 at %2").arg(moment.toString(kDateFormat), time));
+}
+
+QString NowNextPanel::insertionText(const QObject* badge) const
+{
+    const ScreenState& now = m_follower.now().state;
+    // An insertion has the screen before the play ends that it shows now, if it has it at all.
+    const std::optional<ScreenInsertion> insertion =
+        m_follower.insertionAt(badge == m_inserted ? now.since : now.until);
+    return insertion ? ScreenWords::insertion(insertion->plan.programs, insertion->original)
+                     : QString();
+}
+
+bool NowNextPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        // Asked for late: the list that stood there before is handed in after the insertion.
+        qobject_cast<QWidget*>(watched)->setToolTip(insertionText(watched));
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+bool NowNextPanel::event(QEvent* event)
+{
+    if (event->type() == QEvent::Show) {
+        // Nobody has told of time while the panel was hidden.
+        showTimes();
+    }
+    return QWidget::event(event);
+}
+
+void NowNextPanel::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    QWidget::changeEvent(event);
+}

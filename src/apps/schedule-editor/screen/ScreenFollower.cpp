@@ -1,0 +1,152 @@
+#include "screen/ScreenFollower.h"
+
+#include "service/Clock.h"
+#include "service/ClockAlarm.h"
+#include "service/scheduleManage.h"
+#include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/dispatch/ScreenDispatch.h"
+#include "trelprogramschedule/dispatch/ScreenTimeline.h"
+
+#include <QEvent>
+#include <QWidget>
+
+#include <algorithm>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+constexpr qint64 kSecond = 1000;
+
+const ScreenInsertion* findAt(const ScreenInsertions& insertions, Instant moment)
+{
+    const auto found =
+        std::find_if(insertions.begin(), insertions.end(),
+                     [moment](const ScreenInsertion& i) { return i.hasScreenAt(moment); });
+    return found == insertions.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+ScreenFollower::ScreenFollower(ScreenDispatch& dispatch, QObject* parent)
+    : QObject(parent)
+    , m_dispatch(dispatch)
+{
+    const auto follow = [this] {
+        update();
+        emit changed();
+    };
+    connect(&dispatch, &ScreenDispatch::changed, this, follow);
+    // A program may have got another name, or its file come.
+    connect(&ScheduleHost::instance(), &ScheduleHost::catalogueChanged, this, follow);
+    update();
+}
+
+ScreenFollower::~ScreenFollower() = default;
+
+void ScreenFollower::addViewer(QWidget& viewer)
+{
+    viewer.installEventFilter(this);
+    connect(&viewer, &QObject::destroyed, this, [this](QObject* gone) { setVisible(gone, false); });
+    setVisible(&viewer, viewer.isVisible());
+}
+
+bool ScreenFollower::isRunning() const
+{
+    return m_dispatch.isRunning();
+}
+
+void ScreenFollower::update()
+{
+    m_at = Clock::current().msecsSinceEpoch();
+    m_now = sceneOf(m_dispatch.state(), m_at);
+    m_next.reset();
+    const Instant until = m_now.state.until;
+    if (isRunning() && until != kNever) {
+        m_next = sceneOf(m_dispatch.timeline().at(until, m_dispatch.insertions()), until);
+    }
+}
+
+ScreenScene ScreenFollower::sceneOf(const ScreenState& state, Instant moment) const
+{
+    ScreenScene scene;
+    scene.state = state;
+    scene.program.isNull = true;
+    if (state.progIndex >= 0) {
+        scene.program = scheduleManage::getInstance().getProgramItemByIndex(state.progIndex);
+    }
+    const ScreenInsertion* inserted =
+        state.isInserted() ? findAt(m_dispatch.insertions(), moment) : nullptr;
+    const auto task = m_dispatch.tasks().find(state.taskId);
+    if (inserted != nullptr) {
+        scene.plan = inserted->plan;
+    } else if (task != m_dispatch.tasks().end() && state.planRow >= 0 &&
+               state.planRow < static_cast<int>(task->second.plans.size())) {
+        scene.plan = task->second.plans[static_cast<std::size_t>(state.planRow)];
+    }
+    return scene;
+}
+
+qint64 ScreenFollower::position() const
+{
+    const ScreenState& state = m_now.state;
+    if (!state.isPlaying()) {
+        return state.position;
+    }
+    const Instant now = Clock::current().msecsSinceEpoch();
+    return std::max<qint64>(0, state.position + std::min(now, state.until) - m_at);
+}
+
+std::optional<qint64> ScreenFollower::timeTo(Instant moment) const
+{
+    if (moment == kNever) {
+        return {};
+    }
+    return std::max<qint64>(0, moment - Clock::current().msecsSinceEpoch());
+}
+
+QDateTime ScreenFollower::local(Instant moment) const
+{
+    return m_dispatch.timeline().local(moment);
+}
+
+std::optional<ScreenInsertion> ScreenFollower::insertionAt(Instant moment) const
+{
+    const ScreenInsertion* found = findAt(m_dispatch.insertions(), moment);
+    return found == nullptr ? std::nullopt : std::optional<ScreenInsertion>(*found);
+}
+
+bool ScreenFollower::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
+        setVisible(watched, event->type() == QEvent::Show);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void ScreenFollower::setVisible(QObject* viewer, bool isVisible)
+{
+    if (isVisible) {
+        m_visible.insert(viewer);
+    } else {
+        m_visible.erase(viewer);
+    }
+    if (m_visible.empty()) {
+        m_alarm.reset();
+    } else if (!m_alarm) {
+        m_alarm = Clock::current().makeAlarm([this] { tick(); });
+        setAlarm();
+    }
+}
+
+void ScreenFollower::setAlarm()
+{
+    const Instant now = Clock::current().msecsSinceEpoch();
+    m_alarm->set(now - now % kSecond + kSecond);
+}
+
+void ScreenFollower::tick()
+{
+    setAlarm();
+    emit ticked();
+}

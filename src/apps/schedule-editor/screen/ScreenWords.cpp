@@ -1,0 +1,131 @@
+#include "screen/ScreenWords.h"
+
+#include "screen/ScreenFollower.h"
+
+#include <QStringList>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+constexpr qint64 kSecond = 1000;
+
+QString clockText(qint64 seconds)
+{
+    const auto twoDigits = [](qint64 number) {
+        return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+    };
+    const qint64 hours = seconds / 3600;
+    const qint64 minutes = seconds / 60 % 60;
+    const QString rest = twoDigits(seconds % 60);
+    return hours == 0 ? QStringLiteral("%1:%2").arg(minutes).arg(rest)
+                      : QStringLiteral("%1:%2:%3").arg(hours).arg(twoDigits(minutes), rest);
+}
+
+} // namespace
+
+QString ScreenWords::picture(ScreenPicture picture)
+{
+    switch (picture) {
+    case ScreenPicture::Playing:
+        return tr("Playing");
+    case ScreenPicture::Frozen:
+        return tr("Frozen");
+    case ScreenPicture::Black:
+        break;
+    }
+    return tr("Black");
+}
+
+QString ScreenWords::program(const ScreenScene& scene)
+{
+    const QString name = QString::fromStdString(scene.program.progName);
+    switch (scene.state.picture) {
+    case ScreenPicture::Playing:
+        return name;
+    case ScreenPicture::Frozen:
+        return tr("Last frame of %1").arg(name);
+    case ScreenPicture::Black:
+        break;
+    }
+    return tr("Black screen");
+}
+
+QString ScreenWords::entry(const ScreenScene& scene)
+{
+    const int entry = scene.state.entry;
+    const std::vector<struProgInfo>& list = scene.plan.programs;
+    if (entry < 0 || entry >= static_cast<int>(list.size()) || !scene.state.isPlaying()) {
+        return {};
+    }
+    return tr("Entry %1 of %2, play %3 of %4")
+        .arg(entry + 1)
+        .arg(list.size())
+        .arg(scene.state.play + 1)
+        .arg(list[static_cast<std::size_t>(entry)].playCount);
+}
+
+QString ScreenWords::plan(const ScreenScene& scene)
+{
+    const ScreenState& state = scene.state;
+    return state.planRow < 0 ? QString()
+                             : tr("Task %1, plan %2").arg(state.taskId).arg(state.planId);
+}
+
+QString ScreenWords::reason(const ScreenScene& scene)
+{
+    const ScreenState& state = scene.state;
+    const auto ofPlan = [&state](const QString& sentence) {
+        return sentence.arg(state.planId).arg(state.taskId);
+    };
+    switch (state.reason) {
+    case ScreenReason::NothingInEffect:
+        return tr("The start button of the schedule editor puts the saved schedule into effect.");
+    case ScreenReason::NoPlanYet:
+        return tr("No plan has had the screen up to now.");
+    case ScreenReason::PlanPlays:
+        return ofPlan(tr("Of the plans for this time of day, plan %1 of task %2 comes first."));
+    case ScreenReason::PlanHasNothing:
+        return ofPlan(tr("Plan %1 of task %2 has the screen, but none of its programs can play."));
+    case ScreenReason::PlanRanOut:
+        return ofPlan(tr("Plan %1 of task %2 has played its list as often as it should."));
+    case ScreenReason::PlanEnded:
+        return ofPlan(tr("Plan %1 of task %2 is over, and no other has begun."));
+    case ScreenReason::InsertionPlays:
+        return ofPlan(tr("It was cut in by hand, in the place of plan %1 of task %2."));
+    case ScreenReason::InsertionHasNothing:
+    case ScreenReason::InsertionRanOut:
+        break;
+    }
+    return ofPlan(
+        tr("What was cut in, in the place of plan %1 of task %2, has nothing more to play."));
+}
+
+QString ScreenWords::list(const std::vector<struProgInfo>& programs)
+{
+    QStringList names;
+    for (const struProgInfo& entry : programs) {
+        const QString name = QString::fromStdString(entry.progName);
+        names.append(
+            entry.playCount == 1 ? name : QStringLiteral("%1 ×%2").arg(name).arg(entry.playCount));
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+QString ScreenWords::insertion(const std::vector<struProgInfo>& inserted,
+                               const std::vector<struProgInfo>& original)
+{
+    const QString cutIn = tr("Cut in: %1").arg(list(inserted));
+    return original.empty() ? cutIn
+                            : cutIn + QLatin1Char('\n') + tr("Before: %1").arg(list(original));
+}
+
+QString ScreenWords::gone(qint64 msecs)
+{
+    return clockText(msecs / kSecond);
+}
+
+QString ScreenWords::toCome(qint64 msecs)
+{
+    return clockText((msecs + kSecond - 1) / kSecond);
+}

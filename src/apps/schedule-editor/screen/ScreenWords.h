@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <vector>
+
+namespace trel::mediadispatch {
+struct PlayPlan;
+struct struProgInfo;
+enum class ScreenPicture;
+} // namespace trel::mediadispatch
+
+class ScreenFollower;
+struct ScreenScene;
+
+/// What the host says about a screen, in the language in use.
+class ScreenWords
+{
+    Q_DECLARE_TR_FUNCTIONS(ScreenWords)
+
+public:
+    /// "Playing", "Black" or "Frozen".
+    static QString picture(trel::mediadispatch::ScreenPicture picture);
+    /// The program's name, or what is there instead of one.
+    static QString program(const ScreenScene& scene);
+    /// "Entry 2 of 5, play 1 of 3"; empty where no entry is on screen.
+    static QString entry(const ScreenScene& scene);
+    /// "Task 1, plan 2"; empty where no plan has or had the screen.
+    static QString plan(const ScreenScene& scene);
+    /// The rule that makes the screen show what it does, as a sentence.
+    static QString reason(const ScreenScene& scene);
+    /// The names of a list in their order, with the number of plays where it is not one.
+    static QString list(const std::vector<trel::mediadispatch::struProgInfo>& programs);
+    /// The list that was cut in and the one in whose place it stands, in rows.
+    static QString insertion(const std::vector<trel::mediadispatch::struProgInfo>& inserted,
+                             const std::vector<trel::mediadispatch::struProgInfo>& original);
+
+    /// "0:09", "12:34", "1:02:03". Of what is gone the whole seconds count, of what is to come the
+    /// second that has begun, so that 0:00 is left only at the end.
+    static QString gone(qint64 msecs);
+    static QString toCome(qint64 msecs);
+};
