@@ -37,7 +37,7 @@ bool ScheduleInEffect::takesInsertion() const
 
 PlayPlan ScheduleInEffect::plan(int taskId, int planId, int& index) const
 {
-    const PlayPlan found = findPlan(m_dispatch.tasks(), taskId, planId, index);
+    PlayPlan found = findPlan(m_dispatch.tasks(), taskId, planId, index);
     const ScreenInsertion* inserted = insertionOnScreen(m_dispatch.insertions());
     if (inserted && inserted->taskId == taskId && inserted->planId == planId) {
         return inserted->plan;
