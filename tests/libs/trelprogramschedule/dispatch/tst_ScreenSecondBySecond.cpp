@@ -14,8 +14,8 @@ struct Case
     const char* name;
     const char* zone;
     const char* begin; ///< Before midnight of the first day on which a task may be valid.
-    int minutes;
     Drawing drawing;
+    int minutes;
     int schedules;
 };
 
@@ -24,20 +24,20 @@ const Case kCases[] = {
     {"leap day",
      "Europe/Berlin",
      "2028.02.28 23:50:00",
-     24 * 60 + 40,
      {{"2028.02.29", "2028.02.29", "2028.03.01", "2028.02.30", ""}, 0, 23},
+     24 * 60 + 40,
      150},
     {"no leap day",
      "America/New_York",
      "2100.02.28 00:00:00",
-     24 * 60 + 60,
      {{"2100.02.28", "2100.02.29", "2100.03.01", "2100.03.02"}, 0, 23},
+     24 * 60 + 60,
      60},
     {"day of the change",
      "Europe/Berlin",
      "2024.10.26 23:59:00",
-     60 * 60,
      {{"2024.10.27", "2024.10.28", "2024.10.29"}, 0, 23},
+     60 * 60,
      40},
 };
 #else
@@ -45,38 +45,38 @@ const Case kCases[] = {
     {"Berlin, hour left out",
      "Europe/Berlin",
      "2024.03.30 23:58:00",
-     240,
      {{"2024.03.31", "2024.03.31", "2024.04.01", "2024.3.1"}, 0, 4},
+     240,
      360},
     {"Berlin, hour doubled",
      "Europe/Berlin",
      "2024.10.26 23:58:00",
-     270,
      {{"2024.10.27", "2024.10.27", "2024.10.28", "2024.13.01"}, 0, 3},
+     270,
      360},
     {"New York, hour left out",
      "America/New_York",
      "2040.03.10 23:58:00",
-     200,
      {{"2040.03.11", "2040.03.11", "2040.03.12", ""}, 0, 4},
+     200,
      360},
     {"New York, hour doubled",
      "America/New_York",
      "2040.11.03 23:58:00",
-     240,
      {{"2040.11.04", "2040.11.04", "2040.11.05", "x"}, 0, 3},
+     240,
      360},
     {"Lord Howe, half an hour left out",
      "Australia/Lord_Howe",
      "2024.10.05 23:58:00",
-     200,
      {{"2024.10.06", "2024.10.06", "2024.10.07"}, 0, 3},
+     200,
      360},
     {"Lord Howe, half an hour doubled",
      "Australia/Lord_Howe",
      "2024.04.06 23:58:00",
-     220,
      {{"2024.04.07", "2024.04.07", "2024.04.08"}, 0, 3},
+     220,
      360},
 };
 #endif
