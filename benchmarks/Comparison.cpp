@@ -34,7 +34,7 @@ void measure(benchmark::State& state, const Comparison& comparison)
     std::vector<double> subject;
     std::vector<double> floor;
     bool isSubjectFirst = false;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         if (isSubjectFirst) {
             subject.push_back(comparison.subject());
         }
@@ -95,16 +95,15 @@ void add(const Comparison& comparison)
         ->Unit(benchmark::kMillisecond);
 }
 
-int run()
+void run()
 {
     // What goes by while it runs is news for whoever waits; the table is made of the results.
     benchmark::ConsoleReporter console(benchmark::ConsoleReporter::OO_None);
     console.SetOutputStream(&std::cerr);
     console.SetErrorStream(&std::cerr);
-    const bool hasRun = benchmark::RunSpecifiedBenchmarks(&console) > 0;
+    benchmark::RunSpecifiedBenchmarks(&console);
     // What lanes have kept goes while the application is still there.
     benchmark::ClearRegisteredBenchmarks();
-    return hasRun ? 0 : 1;
 }
 
 double processorSeconds(const std::function<void()>& action)

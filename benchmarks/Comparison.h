@@ -31,8 +31,8 @@ bool isQuick();
 /// so that whatever else the machine is doing falls on both. The ratio is that of the medians.
 void add(const Comparison& comparison);
 
-/// Runs what has been entered and what the options ask for. Returns an exit status.
-int run();
+/// Runs what has been entered and what the options ask for, which may be nothing.
+void run();
 
 /// The seconds of processor time that something takes. A machine that works for others as well
 /// does not show in them.

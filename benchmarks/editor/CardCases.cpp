@@ -114,7 +114,8 @@ void addDestroying(PlanMode mode)
 {
     for (const auto& [few, many] : {std::pair(10, 100), std::pair(100, 300)}) {
         add({"Destroy a card, against fewer plans",
-             std::to_string(many) + " against " + planCount(few, mode), linear(many / few),
+             std::to_string(many) + " against " + planCount(few, mode),
+             linear(static_cast<double>(many) / few),
              destroying(buildCard, sampleTask(1, many, mode)),
              destroying(buildCard, sampleTask(1, few, mode)), 9});
     }

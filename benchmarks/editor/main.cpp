@@ -19,5 +19,6 @@ int main(int argc, char** argv)
     bench::addConflictCases();
     bench::addListCases();
     bench::addChooserCases();
-    return bench::run();
+    bench::run();
+    return 0;
 }

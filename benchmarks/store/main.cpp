@@ -18,7 +18,8 @@ int main(int argc, char** argv)
     bench::addStoreCases();
     bench::addStartCases();
     try {
-        return bench::run();
+        bench::run();
+        return 0;
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return 1;
