@@ -491,4 +491,143 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Vorher: %1</translation>
     </message>
 </context>
+<context>
+    <name>Week</name>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>Plan %1 läuft nie: Er endet, wie er beginnt, um %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>Plan %1 läuft nie: Er beginnt um %2 und endet davor, um %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
+        <translation>Plan %1 läuft nie: „%2“ bis „%3“ sind keine Uhrzeiten.</translation>
+    </message>
+    <message>
+        <source>On screen: %1, %2 into it</source>
+        <translation>Auf dem Bildschirm: %1, Stelle %2</translation>
+    </message>
+    <message>
+        <source>On screen: %1</source>
+        <translation>Auf dem Bildschirm: %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <translation>%1 bis %2 entfällt: Die Uhren werden vorgestellt.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <translation>%1 bis %2 kommt zweimal: Die Uhren werden zurückgestellt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans are kept from the screen.</source>
+        <translation>
+            <numerusform>%n weiterer Plan kommt nicht auf den Bildschirm.</numerusform>
+            <numerusform>%n weitere Pläne kommen nicht auf den Bildschirm.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Plan %1 stands above it and has the screen instead.</source>
+        <translation>Plan %1 steht darüber und hat stattdessen den Bildschirm.</translation>
+    </message>
+    <message>
+        <source>It collides with a plan above it.</source>
+        <translation>Er überschneidet sich mit einem Plan darüber.</translation>
+    </message>
+    <message>
+        <source>Plan %1, %2 to %3</source>
+        <translation>Plan %1, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>An diesem Tag gilt kein Auftrag.</translation>
+    </message>
+    <message>
+        <source>No task is valid</source>
+        <translation>Kein Auftrag gilt</translation>
+    </message>
+    <message>
+        <source>No task</source>
+        <translation>Kein Auftrag</translation>
+    </message>
+    <message>
+        <source>Task %1</source>
+        <translation>Auftrag %1</translation>
+    </message>
+    <message>
+        <source>Frozen: %1</source>
+        <translation>Eingefroren: %1</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Eingefügt: %1</translation>
+    </message>
+    <message>
+        <source>Left out: clocks go forward</source>
+        <translation>Entfällt: Uhren werden vorgestellt</translation>
+    </message>
+    <message>
+        <source>Comes twice: clocks go back</source>
+        <translation>Kommt zweimal: Uhren zurück</translation>
+    </message>
+    <message>
+        <source>nothing to show</source>
+        <translation>nichts zu zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>WeekDock</name>
+    <message>
+        <source>Week</source>
+        <translation>Woche</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekView</name>
+    <message>
+        <source>Week</source>
+        <translation>Woche</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekPanel</name>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Whole day</source>
+        <translation>Ganzer Tag</translation>
+    </message>
+    <message>
+        <source>As edited</source>
+        <translation>Wie bearbeitet</translation>
+    </message>
+    <message>
+        <source>In effect</source>
+        <translation>In Kraft</translation>
+    </message>
+    <message>
+        <source>Week before</source>
+        <translation>Woche davor</translation>
+    </message>
+    <message>
+        <source>Week after</source>
+        <translation>Woche danach</translation>
+    </message>
+    <message>
+        <source>Hours less high</source>
+        <translation>Stunden niedriger</translation>
+    </message>
+    <message>
+        <source>Hours higher</source>
+        <translation>Stunden höher</translation>
+    </message>
+    <message>
+        <source>Which schedule is shown</source>
+        <translation>Welcher Plan gezeigt wird</translation>
+    </message>
+</context>
 </TS>

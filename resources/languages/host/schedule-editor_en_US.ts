@@ -25,4 +25,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>Week</name>
+    <message numerus="yes">
+        <source>%n more plans are kept from the screen.</source>
+        <translation>
+            <numerusform>%n more plan is kept from the screen.</numerusform>
+            <numerusform>%n more plans are kept from the screen.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -491,4 +491,143 @@ What shall become of your changes?</source>
         <translation>Antes: %1</translation>
     </message>
 </context>
+<context>
+    <name>Week</name>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>El plan %1 nunca se reproduce: termina al empezar, a las %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>El plan %1 nunca se reproduce: empieza a las %2 y termina antes, a las %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
+        <translation>El plan %1 nunca se reproduce: «%2» a «%3» no son horas.</translation>
+    </message>
+    <message>
+        <source>On screen: %1, %2 into it</source>
+        <translation>En pantalla: %1, en %2</translation>
+    </message>
+    <message>
+        <source>On screen: %1</source>
+        <translation>En pantalla: %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <translation>De %1 a %2 no existe: los relojes se adelantan.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <translation>De %1 a %2 ocurre dos veces: los relojes se atrasan.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans are kept from the screen.</source>
+        <translation>
+            <numerusform>%n plan más no obtiene la pantalla.</numerusform>
+            <numerusform>%n planes más no obtienen la pantalla.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Plan %1 stands above it and has the screen instead.</source>
+        <translation>El plan %1 está por encima y tiene la pantalla en su lugar.</translation>
+    </message>
+    <message>
+        <source>It collides with a plan above it.</source>
+        <translation>Choca con un plan que está por encima.</translation>
+    </message>
+    <message>
+        <source>Plan %1, %2 to %3</source>
+        <translation>Plan %1, %2 a %3</translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>Ninguna tarea es válida este día.</translation>
+    </message>
+    <message>
+        <source>No task is valid</source>
+        <translation>Ninguna tarea válida</translation>
+    </message>
+    <message>
+        <source>No task</source>
+        <translation>Sin tarea</translation>
+    </message>
+    <message>
+        <source>Task %1</source>
+        <translation>Tarea %1</translation>
+    </message>
+    <message>
+        <source>Frozen: %1</source>
+        <translation>Congelado: %1</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Insertado: %1</translation>
+    </message>
+    <message>
+        <source>Left out: clocks go forward</source>
+        <translation>No existe: se adelanta la hora</translation>
+    </message>
+    <message>
+        <source>Comes twice: clocks go back</source>
+        <translation>Dos veces: se atrasa la hora</translation>
+    </message>
+    <message>
+        <source>nothing to show</source>
+        <translation>nada que mostrar</translation>
+    </message>
+</context>
+<context>
+    <name>WeekDock</name>
+    <message>
+        <source>Week</source>
+        <translation>Semana</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekView</name>
+    <message>
+        <source>Week</source>
+        <translation>Semana</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekPanel</name>
+    <message>
+        <source>Today</source>
+        <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>Whole day</source>
+        <translation>Día entero</translation>
+    </message>
+    <message>
+        <source>As edited</source>
+        <translation>En edición</translation>
+    </message>
+    <message>
+        <source>In effect</source>
+        <translation>En vigor</translation>
+    </message>
+    <message>
+        <source>Week before</source>
+        <translation>Semana anterior</translation>
+    </message>
+    <message>
+        <source>Week after</source>
+        <translation>Semana siguiente</translation>
+    </message>
+    <message>
+        <source>Hours less high</source>
+        <translation>Horas más bajas</translation>
+    </message>
+    <message>
+        <source>Hours higher</source>
+        <translation>Horas más altas</translation>
+    </message>
+    <message>
+        <source>Which schedule is shown</source>
+        <translation>Qué programación se muestra</translation>
+    </message>
+</context>
 </TS>

@@ -491,4 +491,143 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Avant : %1</translation>
     </message>
 </context>
+<context>
+    <name>Week</name>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>Le plan %1 n&apos;est jamais joué : il finit dès qu&apos;il commence, à %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>Le plan %1 n&apos;est jamais joué : il commence à %2 et finit avant, à %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
+        <translation>Le plan %1 n&apos;est jamais joué : « %2 » à « %3 » ne sont pas des heures.</translation>
+    </message>
+    <message>
+        <source>On screen: %1, %2 into it</source>
+        <translation>À l&apos;écran : %1, à %2</translation>
+    </message>
+    <message>
+        <source>On screen: %1</source>
+        <translation>À l&apos;écran : %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <translation>De %1 à %2 n&apos;existe pas : on avance les horloges.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <translation>De %1 à %2 revient deux fois : on recule les horloges.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans are kept from the screen.</source>
+        <translation>
+            <numerusform>%n autre plan n&apos;a pas l&apos;écran.</numerusform>
+            <numerusform>%n autres plans n&apos;ont pas l&apos;écran.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Plan %1 stands above it and has the screen instead.</source>
+        <translation>Le plan %1 est au-dessus et a l&apos;écran à sa place.</translation>
+    </message>
+    <message>
+        <source>It collides with a plan above it.</source>
+        <translation>Il chevauche un plan au-dessus.</translation>
+    </message>
+    <message>
+        <source>Plan %1, %2 to %3</source>
+        <translation>Plan %1, %2 à %3</translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>Aucune tâche n&apos;est valable ce jour.</translation>
+    </message>
+    <message>
+        <source>No task is valid</source>
+        <translation>Aucune tâche valable</translation>
+    </message>
+    <message>
+        <source>No task</source>
+        <translation>Aucune tâche</translation>
+    </message>
+    <message>
+        <source>Task %1</source>
+        <translation>Tâche %1</translation>
+    </message>
+    <message>
+        <source>Frozen: %1</source>
+        <translation>Figé : %1</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Inséré : %1</translation>
+    </message>
+    <message>
+        <source>Left out: clocks go forward</source>
+        <translation>N&apos;existe pas : on avance l&apos;heure</translation>
+    </message>
+    <message>
+        <source>Comes twice: clocks go back</source>
+        <translation>Deux fois : on recule l&apos;heure</translation>
+    </message>
+    <message>
+        <source>nothing to show</source>
+        <translation>rien à montrer</translation>
+    </message>
+</context>
+<context>
+    <name>WeekDock</name>
+    <message>
+        <source>Week</source>
+        <translation>Semaine</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekView</name>
+    <message>
+        <source>Week</source>
+        <translation>Semaine</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekPanel</name>
+    <message>
+        <source>Today</source>
+        <translation>Aujourd&apos;hui</translation>
+    </message>
+    <message>
+        <source>Whole day</source>
+        <translation>Jour entier</translation>
+    </message>
+    <message>
+        <source>As edited</source>
+        <translation>En édition</translation>
+    </message>
+    <message>
+        <source>In effect</source>
+        <translation>En vigueur</translation>
+    </message>
+    <message>
+        <source>Week before</source>
+        <translation>Semaine précédente</translation>
+    </message>
+    <message>
+        <source>Week after</source>
+        <translation>Semaine suivante</translation>
+    </message>
+    <message>
+        <source>Hours less high</source>
+        <translation>Heures moins hautes</translation>
+    </message>
+    <message>
+        <source>Hours higher</source>
+        <translation>Heures plus hautes</translation>
+    </message>
+    <message>
+        <source>Which schedule is shown</source>
+        <translation>Planning affiché</translation>
+    </message>
+</context>
 </TS>

@@ -488,4 +488,142 @@ What shall become of your changes?</source>
         <translation>元: %1</translation>
     </message>
 </context>
+<context>
+    <name>Week</name>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>プラン %1 は再生されません。開始と終了が同じ %2 です。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>プラン %1 は再生されません。%2 に始まり、それより前の %3 に終わります。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
+        <translation>プラン %1 は再生されません。「%2」～「%3」は時刻ではありません。</translation>
+    </message>
+    <message>
+        <source>On screen: %1, %2 into it</source>
+        <translation>画面: %1、%2 経過</translation>
+    </message>
+    <message>
+        <source>On screen: %1</source>
+        <translation>画面: %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <translation>%1～%2 は飛ばされます。時計が進められます。</translation>
+    </message>
+    <message>
+        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <translation>%1～%2 は二度来ます。時計が戻されます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans are kept from the screen.</source>
+        <translation>
+            <numerusform>ほかに %n 件のプランが画面に出ません。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Plan %1 stands above it and has the screen instead.</source>
+        <translation>上にあるプラン %1 が代わりに画面を使います。</translation>
+    </message>
+    <message>
+        <source>It collides with a plan above it.</source>
+        <translation>上のプランと重なっています。</translation>
+    </message>
+    <message>
+        <source>Plan %1, %2 to %3</source>
+        <translation>プラン %1、%2～%3</translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>この日に有効なタスクはありません。</translation>
+    </message>
+    <message>
+        <source>No task is valid</source>
+        <translation>有効なタスクなし</translation>
+    </message>
+    <message>
+        <source>No task</source>
+        <translation>タスクなし</translation>
+    </message>
+    <message>
+        <source>Task %1</source>
+        <translation>タスク %1</translation>
+    </message>
+    <message>
+        <source>Frozen: %1</source>
+        <translation>静止: %1</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>割り込み: %1</translation>
+    </message>
+    <message>
+        <source>Left out: clocks go forward</source>
+        <translation>なし: 時計が進む</translation>
+    </message>
+    <message>
+        <source>Comes twice: clocks go back</source>
+        <translation>二度: 時計が戻る</translation>
+    </message>
+    <message>
+        <source>nothing to show</source>
+        <translation>表示するものなし</translation>
+    </message>
+</context>
+<context>
+    <name>WeekDock</name>
+    <message>
+        <source>Week</source>
+        <translation>週</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekView</name>
+    <message>
+        <source>Week</source>
+        <translation>週</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekPanel</name>
+    <message>
+        <source>Today</source>
+        <translation>今日</translation>
+    </message>
+    <message>
+        <source>Whole day</source>
+        <translation>一日全体</translation>
+    </message>
+    <message>
+        <source>As edited</source>
+        <translation>編集中</translation>
+    </message>
+    <message>
+        <source>In effect</source>
+        <translation>有効</translation>
+    </message>
+    <message>
+        <source>Week before</source>
+        <translation>前の週</translation>
+    </message>
+    <message>
+        <source>Week after</source>
+        <translation>次の週</translation>
+    </message>
+    <message>
+        <source>Hours less high</source>
+        <translation>時間を低く</translation>
+    </message>
+    <message>
+        <source>Hours higher</source>
+        <translation>時間を高く</translation>
+    </message>
+    <message>
+        <source>Which schedule is shown</source>
+        <translation>表示するスケジュール</translation>
+    </message>
+</context>
 </TS>

@@ -488,4 +488,142 @@ What shall become of your changes?</source>
         <translation>이전: %1</translation>
     </message>
 </context>
+<context>
+    <name>Week</name>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다: 시작과 끝이 %2로 같습니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다: %2에 시작하고 그보다 앞선 %3에 끝납니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다: “%2”~“%3”은(는) 시각이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>On screen: %1, %2 into it</source>
+        <translation>화면: %1, %2 경과</translation>
+    </message>
+    <message>
+        <source>On screen: %1</source>
+        <translation>화면: %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <translation>%1~%2은(는) 건너뜁니다: 시계를 앞당깁니다.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <translation>%1~%2은(는) 두 번 옵니다: 시계를 늦춥니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans are kept from the screen.</source>
+        <translation>
+            <numerusform>다른 계획 %n개가 화면에 나오지 않습니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Plan %1 stands above it and has the screen instead.</source>
+        <translation>위에 있는 계획 %1이(가) 대신 화면을 씁니다.</translation>
+    </message>
+    <message>
+        <source>It collides with a plan above it.</source>
+        <translation>위의 계획과 겹칩니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1, %2 to %3</source>
+        <translation>계획 %1, %2~%3</translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>이 날에 유효한 작업이 없습니다.</translation>
+    </message>
+    <message>
+        <source>No task is valid</source>
+        <translation>유효한 작업 없음</translation>
+    </message>
+    <message>
+        <source>No task</source>
+        <translation>작업 없음</translation>
+    </message>
+    <message>
+        <source>Task %1</source>
+        <translation>작업 %1</translation>
+    </message>
+    <message>
+        <source>Frozen: %1</source>
+        <translation>정지: %1</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>삽입: %1</translation>
+    </message>
+    <message>
+        <source>Left out: clocks go forward</source>
+        <translation>없음: 시계 앞당김</translation>
+    </message>
+    <message>
+        <source>Comes twice: clocks go back</source>
+        <translation>두 번: 시계 늦춤</translation>
+    </message>
+    <message>
+        <source>nothing to show</source>
+        <translation>보여 줄 것 없음</translation>
+    </message>
+</context>
+<context>
+    <name>WeekDock</name>
+    <message>
+        <source>Week</source>
+        <translation>주</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekView</name>
+    <message>
+        <source>Week</source>
+        <translation>주</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekPanel</name>
+    <message>
+        <source>Today</source>
+        <translation>오늘</translation>
+    </message>
+    <message>
+        <source>Whole day</source>
+        <translation>하루 전체</translation>
+    </message>
+    <message>
+        <source>As edited</source>
+        <translation>편집 중</translation>
+    </message>
+    <message>
+        <source>In effect</source>
+        <translation>적용 중</translation>
+    </message>
+    <message>
+        <source>Week before</source>
+        <translation>이전 주</translation>
+    </message>
+    <message>
+        <source>Week after</source>
+        <translation>다음 주</translation>
+    </message>
+    <message>
+        <source>Hours less high</source>
+        <translation>시간 낮게</translation>
+    </message>
+    <message>
+        <source>Hours higher</source>
+        <translation>시간 높게</translation>
+    </message>
+    <message>
+        <source>Which schedule is shown</source>
+        <translation>표시할 일정</translation>
+    </message>
+</context>
 </TS>

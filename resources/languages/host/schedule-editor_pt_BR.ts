@@ -491,4 +491,143 @@ O que deseja fazer com as alterações?</translation>
         <translation>Antes: %1</translation>
     </message>
 </context>
+<context>
+    <name>Week</name>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>O plano %1 nunca é reproduzido: termina ao começar, às %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>O plano %1 nunca é reproduzido: começa às %2 e termina antes, às %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
+        <translation>O plano %1 nunca é reproduzido: “%2” a “%3” não são horas.</translation>
+    </message>
+    <message>
+        <source>On screen: %1, %2 into it</source>
+        <translation>Na tela: %1, em %2</translation>
+    </message>
+    <message>
+        <source>On screen: %1</source>
+        <translation>Na tela: %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <translation>De %1 a %2 não existe: os relógios são adiantados.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <translation>De %1 a %2 ocorre duas vezes: os relógios são atrasados.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans are kept from the screen.</source>
+        <translation>
+            <numerusform>Mais %n plano não obtém a tela.</numerusform>
+            <numerusform>Mais %n planos não obtêm a tela.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Plan %1 stands above it and has the screen instead.</source>
+        <translation>O plano %1 está acima e tem a tela em seu lugar.</translation>
+    </message>
+    <message>
+        <source>It collides with a plan above it.</source>
+        <translation>Conflita com um plano acima.</translation>
+    </message>
+    <message>
+        <source>Plan %1, %2 to %3</source>
+        <translation>Plano %1, %2 a %3</translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>Nenhuma tarefa vale neste dia.</translation>
+    </message>
+    <message>
+        <source>No task is valid</source>
+        <translation>Nenhuma tarefa válida</translation>
+    </message>
+    <message>
+        <source>No task</source>
+        <translation>Sem tarefa</translation>
+    </message>
+    <message>
+        <source>Task %1</source>
+        <translation>Tarefa %1</translation>
+    </message>
+    <message>
+        <source>Frozen: %1</source>
+        <translation>Congelado: %1</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Inserido: %1</translation>
+    </message>
+    <message>
+        <source>Left out: clocks go forward</source>
+        <translation>Não existe: adianta-se a hora</translation>
+    </message>
+    <message>
+        <source>Comes twice: clocks go back</source>
+        <translation>Duas vezes: atrasa-se a hora</translation>
+    </message>
+    <message>
+        <source>nothing to show</source>
+        <translation>nada a mostrar</translation>
+    </message>
+</context>
+<context>
+    <name>WeekDock</name>
+    <message>
+        <source>Week</source>
+        <translation>Semana</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekView</name>
+    <message>
+        <source>Week</source>
+        <translation>Semana</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekPanel</name>
+    <message>
+        <source>Today</source>
+        <translation>Hoje</translation>
+    </message>
+    <message>
+        <source>Whole day</source>
+        <translation>Dia inteiro</translation>
+    </message>
+    <message>
+        <source>As edited</source>
+        <translation>Em edição</translation>
+    </message>
+    <message>
+        <source>In effect</source>
+        <translation>Em vigor</translation>
+    </message>
+    <message>
+        <source>Week before</source>
+        <translation>Semana anterior</translation>
+    </message>
+    <message>
+        <source>Week after</source>
+        <translation>Semana seguinte</translation>
+    </message>
+    <message>
+        <source>Hours less high</source>
+        <translation>Horas mais baixas</translation>
+    </message>
+    <message>
+        <source>Hours higher</source>
+        <translation>Horas mais altas</translation>
+    </message>
+    <message>
+        <source>Which schedule is shown</source>
+        <translation>Qual programação é mostrada</translation>
+    </message>
+</context>
 </TS>

@@ -494,4 +494,144 @@ What shall become of your changes?</source>
         <translation>Прежде: %1</translation>
     </message>
 </context>
+<context>
+    <name>Week</name>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>План %1 никогда не идёт: он кончается в момент начала, в %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>План %1 никогда не идёт: он начинается в %2, а кончается раньше, в %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
+        <translation>План %1 никогда не идёт: «%2» – «%3» не время суток.</translation>
+    </message>
+    <message>
+        <source>On screen: %1, %2 into it</source>
+        <translation>На экране: %1, прошло %2</translation>
+    </message>
+    <message>
+        <source>On screen: %1</source>
+        <translation>На экране: %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <translation>%1–%2 пропускается: часы переводят вперёд.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <translation>%1–%2 наступает дважды: часы переводят назад.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans are kept from the screen.</source>
+        <translation>
+            <numerusform>Ещё %n план не попадает на экран.</numerusform>
+            <numerusform>Ещё %n плана не попадают на экран.</numerusform>
+            <numerusform>Ещё %n планов не попадают на экран.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Plan %1 stands above it and has the screen instead.</source>
+        <translation>План %1 стоит выше и занимает экран вместо него.</translation>
+    </message>
+    <message>
+        <source>It collides with a plan above it.</source>
+        <translation>Он пересекается с планом выше.</translation>
+    </message>
+    <message>
+        <source>Plan %1, %2 to %3</source>
+        <translation>План %1, %2–%3</translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>В этот день не действует ни одно задание.</translation>
+    </message>
+    <message>
+        <source>No task is valid</source>
+        <translation>Нет действующего задания</translation>
+    </message>
+    <message>
+        <source>No task</source>
+        <translation>Нет задания</translation>
+    </message>
+    <message>
+        <source>Task %1</source>
+        <translation>Задание %1</translation>
+    </message>
+    <message>
+        <source>Frozen: %1</source>
+        <translation>Застыло: %1</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Вставлено: %1</translation>
+    </message>
+    <message>
+        <source>Left out: clocks go forward</source>
+        <translation>Пропускается: часы вперёд</translation>
+    </message>
+    <message>
+        <source>Comes twice: clocks go back</source>
+        <translation>Дважды: часы назад</translation>
+    </message>
+    <message>
+        <source>nothing to show</source>
+        <translation>нечего показать</translation>
+    </message>
+</context>
+<context>
+    <name>WeekDock</name>
+    <message>
+        <source>Week</source>
+        <translation>Неделя</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekView</name>
+    <message>
+        <source>Week</source>
+        <translation>Неделя</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekPanel</name>
+    <message>
+        <source>Today</source>
+        <translation>Сегодня</translation>
+    </message>
+    <message>
+        <source>Whole day</source>
+        <translation>Весь день</translation>
+    </message>
+    <message>
+        <source>As edited</source>
+        <translation>Редактируемое</translation>
+    </message>
+    <message>
+        <source>In effect</source>
+        <translation>Действующее</translation>
+    </message>
+    <message>
+        <source>Week before</source>
+        <translation>Предыдущая неделя</translation>
+    </message>
+    <message>
+        <source>Week after</source>
+        <translation>Следующая неделя</translation>
+    </message>
+    <message>
+        <source>Hours less high</source>
+        <translation>Часы ниже</translation>
+    </message>
+    <message>
+        <source>Hours higher</source>
+        <translation>Часы выше</translation>
+    </message>
+    <message>
+        <source>Which schedule is shown</source>
+        <translation>Какое расписание показано</translation>
+    </message>
+</context>
 </TS>

@@ -488,4 +488,142 @@ What shall become of your changes?</source>
         <translation>原来：%1</translation>
     </message>
 </context>
+<context>
+    <name>Week</name>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>计划 %1 从不播放：开始与结束同为 %2。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>计划 %1 从不播放：%2 开始，却在此前的 %3 结束。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
+        <translation>计划 %1 从不播放：“%2”至“%3”不是时间。</translation>
+    </message>
+    <message>
+        <source>On screen: %1, %2 into it</source>
+        <translation>屏幕：%1，已播 %2</translation>
+    </message>
+    <message>
+        <source>On screen: %1</source>
+        <translation>屏幕：%1</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <translation>%1 至 %2 被跳过：时钟拨快。</translation>
+    </message>
+    <message>
+        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <translation>%1 至 %2 出现两次：时钟拨慢。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans are kept from the screen.</source>
+        <translation>
+            <numerusform>另有 %n 个计划没有占用屏幕。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Plan %1 stands above it and has the screen instead.</source>
+        <translation>排在上面的计划 %1 占用了屏幕。</translation>
+    </message>
+    <message>
+        <source>It collides with a plan above it.</source>
+        <translation>它与上面的计划冲突。</translation>
+    </message>
+    <message>
+        <source>Plan %1, %2 to %3</source>
+        <translation>计划 %1，%2 至 %3</translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>这一天没有有效的任务。</translation>
+    </message>
+    <message>
+        <source>No task is valid</source>
+        <translation>没有有效的任务</translation>
+    </message>
+    <message>
+        <source>No task</source>
+        <translation>无任务</translation>
+    </message>
+    <message>
+        <source>Task %1</source>
+        <translation>任务 %1</translation>
+    </message>
+    <message>
+        <source>Frozen: %1</source>
+        <translation>定格：%1</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>插播：%1</translation>
+    </message>
+    <message>
+        <source>Left out: clocks go forward</source>
+        <translation>跳过：时钟拨快</translation>
+    </message>
+    <message>
+        <source>Comes twice: clocks go back</source>
+        <translation>两次：时钟拨慢</translation>
+    </message>
+    <message>
+        <source>nothing to show</source>
+        <translation>无可播放</translation>
+    </message>
+</context>
+<context>
+    <name>WeekDock</name>
+    <message>
+        <source>Week</source>
+        <translation>周</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekView</name>
+    <message>
+        <source>Week</source>
+        <translation>周</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekPanel</name>
+    <message>
+        <source>Today</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>Whole day</source>
+        <translation>全天</translation>
+    </message>
+    <message>
+        <source>As edited</source>
+        <translation>编辑中</translation>
+    </message>
+    <message>
+        <source>In effect</source>
+        <translation>生效中</translation>
+    </message>
+    <message>
+        <source>Week before</source>
+        <translation>上一周</translation>
+    </message>
+    <message>
+        <source>Week after</source>
+        <translation>下一周</translation>
+    </message>
+    <message>
+        <source>Hours less high</source>
+        <translation>降低小时高度</translation>
+    </message>
+    <message>
+        <source>Hours higher</source>
+        <translation>增加小时高度</translation>
+    </message>
+    <message>
+        <source>Which schedule is shown</source>
+        <translation>显示哪个排期</translation>
+    </message>
+</context>
 </TS>

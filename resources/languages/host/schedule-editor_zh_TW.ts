@@ -488,4 +488,142 @@ What shall become of your changes?</source>
         <translation>原來：%1</translation>
     </message>
 </context>
+<context>
+    <name>Week</name>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>計畫 %1 從不播放：開始與結束同為 %2。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>計畫 %1 從不播放：%2 開始，卻在此前的 %3 結束。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
+        <translation>計畫 %1 從不播放：「%2」至「%3」不是時間。</translation>
+    </message>
+    <message>
+        <source>On screen: %1, %2 into it</source>
+        <translation>螢幕：%1，已播 %2</translation>
+    </message>
+    <message>
+        <source>On screen: %1</source>
+        <translation>螢幕：%1</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <translation>%1 至 %2 被跳過：時鐘撥快。</translation>
+    </message>
+    <message>
+        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <translation>%1 至 %2 出現兩次：時鐘撥慢。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans are kept from the screen.</source>
+        <translation>
+            <numerusform>另有 %n 個計畫沒有佔用螢幕。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Plan %1 stands above it and has the screen instead.</source>
+        <translation>排在上面的計畫 %1 佔用了螢幕。</translation>
+    </message>
+    <message>
+        <source>It collides with a plan above it.</source>
+        <translation>它與上面的計畫衝突。</translation>
+    </message>
+    <message>
+        <source>Plan %1, %2 to %3</source>
+        <translation>計畫 %1，%2 至 %3</translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>這一天沒有有效的任務。</translation>
+    </message>
+    <message>
+        <source>No task is valid</source>
+        <translation>沒有有效的任務</translation>
+    </message>
+    <message>
+        <source>No task</source>
+        <translation>無任務</translation>
+    </message>
+    <message>
+        <source>Task %1</source>
+        <translation>任務 %1</translation>
+    </message>
+    <message>
+        <source>Frozen: %1</source>
+        <translation>定格：%1</translation>
+    </message>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>插播：%1</translation>
+    </message>
+    <message>
+        <source>Left out: clocks go forward</source>
+        <translation>跳過：時鐘撥快</translation>
+    </message>
+    <message>
+        <source>Comes twice: clocks go back</source>
+        <translation>兩次：時鐘撥慢</translation>
+    </message>
+    <message>
+        <source>nothing to show</source>
+        <translation>無可播放</translation>
+    </message>
+</context>
+<context>
+    <name>WeekDock</name>
+    <message>
+        <source>Week</source>
+        <translation>週</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekView</name>
+    <message>
+        <source>Week</source>
+        <translation>週</translation>
+    </message>
+</context>
+<context>
+    <name>week::WeekPanel</name>
+    <message>
+        <source>Today</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>Whole day</source>
+        <translation>全天</translation>
+    </message>
+    <message>
+        <source>As edited</source>
+        <translation>編輯中</translation>
+    </message>
+    <message>
+        <source>In effect</source>
+        <translation>生效中</translation>
+    </message>
+    <message>
+        <source>Week before</source>
+        <translation>上一週</translation>
+    </message>
+    <message>
+        <source>Week after</source>
+        <translation>下一週</translation>
+    </message>
+    <message>
+        <source>Hours less high</source>
+        <translation>降低小時高度</translation>
+    </message>
+    <message>
+        <source>Hours higher</source>
+        <translation>增加小時高度</translation>
+    </message>
+    <message>
+        <source>Which schedule is shown</source>
+        <translation>顯示哪個排程</translation>
+    </message>
+</context>
 </TS>

@@ -14,6 +14,7 @@
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/ScheduleJson.h"
+#include "week/WeekDock.h"
 
 #include <QAction>
 #include <QApplication>
@@ -90,7 +91,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     setCentralWidget(centre);
 
     connectMenus();
-    buildPanels();
+    buildPanels(languages, themes);
     retranslate();
     resize(1180, 720);
 
@@ -124,7 +125,7 @@ void EditorWindow::connectMenus()
             [this, remove] { remove->setEnabled(m_table->selectionModel()->hasSelection()); });
 }
 
-void EditorWindow::buildPanels()
+void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
 {
     auto* follower = new ScreenFollower(ScheduleHost::instance().dispatch(), this);
     m_nowNext->setObjectName(QStringLiteral("nowNextDock"));
@@ -136,6 +137,10 @@ void EditorWindow::buildPanels()
     m_clockChanges->setObjectName(QStringLiteral("clockChangeDock"));
     m_clockChanges->setWidget(new ClockChangePanel(m_clockChanges));
     addPanel(m_clockChanges, Qt::BottomDockWidgetArea);
+    auto* week = new WeekDock(languages, themes, this);
+    connect(week, &WeekDock::activated, this, &EditorWindow::showEditor);
+    addPanel(week, Qt::BottomDockWidgetArea);
+    tabifyDockWidget(m_clockChanges, week);
     // What is on screen stands beside the list of changes, not above it.
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({m_nowNext}, {360}, Qt::Horizontal);

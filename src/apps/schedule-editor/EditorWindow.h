@@ -59,7 +59,7 @@ protected:
 
 private:
     void connectMenus();
-    void buildPanels();
+    void buildPanels(const Languages& languages, const Themes& themes);
     /// Docks a panel, which becomes a child, and lets the view menu show and hide it.
     void addPanel(QDockWidget* panel, Qt::DockWidgetArea area);
     void retranslate();

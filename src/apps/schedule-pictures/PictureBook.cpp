@@ -4,6 +4,8 @@
 #include "PictureSchedule.h"
 #include "PlanColumns.h"
 #include "scheduleControlUI.h"
+#include "week/WeekDock.h"
+#include "week/WeekView.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -77,6 +79,18 @@ void PictureBook::drawWindow()
     m_window.show();
     settle();
     save(&m_window, QStringLiteral("window"));
+    auto* dock = m_window.findChild<WeekDock*>();
+    dock->show();
+    dock->setFloating(true);
+    dock->resize(1180, 720);
+    // The first whole week of the demonstration.
+    auto* view = dock->findChild<week::WeekView*>();
+    view->stepWeeks(1);
+    settle();
+    save(dock, QStringLiteral("week"));
+    view->stepWeeks(-1);
+    dock->setFloating(false);
+    dock->hide();
     m_window.hide();
     QApplication::setActiveWindow(&m_editor);
 }

@@ -12,6 +12,58 @@ void setLists(ThemeColours& colours)
     colours.listText = QColor(0xe7, 0xea, 0xef);
 }
 
+void setDarkWeek(ThemeColours& colours)
+{
+    colours.weekGround = QColor(0x1f, 0x23, 0x2a);
+    colours.weekLine = QColor(0x32, 0x38, 0x43);
+    colours.weekToday = QColor(0x25, 0x36, 0x55);
+    colours.weekBlock = QColor(0x26, 0x4a, 0x7d);
+    colours.weekBlockLine = QColor(0x5b, 0x9b, 0xf8);
+    colours.weekBlockText = QColor(0xf2, 0xf6, 0xff);
+    colours.weekHidden = QColor(0x2a, 0x2f, 0x39);
+    colours.weekHiddenPattern = QColor(0x3d, 0x44, 0x51);
+    colours.weekHiddenText = QColor(0xe0, 0xe4, 0xec);
+    colours.weekCollision = QColor(0xff, 0x8a, 0x3d);
+    colours.weekBlack = QColor(0x09, 0x0a, 0x0c);
+    colours.weekBlackText = QColor(0xa2, 0xa9, 0xb6);
+    colours.weekFrozen = QColor(0x12, 0x33, 0x36);
+    colours.weekFrozenPattern = QColor(0x1b, 0x44, 0x47);
+    colours.weekFrozenText = QColor(0xb5, 0xe3, 0xe2);
+    colours.weekInserted = QColor(0x5a, 0x35, 0x83);
+    colours.weekInsertedText = QColor(0xf7, 0xf0, 0xff);
+    colours.weekClock = QColor(0x3a, 0x32, 0x1c);
+    colours.weekClockPattern = QColor(0x54, 0x47, 0x24);
+    colours.weekClockText = QColor(0xff, 0xe2, 0x9a);
+    colours.weekNow = QColor(0xff, 0x5c, 0x5c);
+    colours.weekNowText = QColor(0x1a, 0x05, 0x05);
+}
+
+void setLightWeek(ThemeColours& colours)
+{
+    colours.weekGround = Qt::white;
+    colours.weekLine = QColor(0xd8, 0xdc, 0xe4);
+    colours.weekToday = QColor(0xd7, 0xe5, 0xfc);
+    colours.weekBlock = QColor(0xcf, 0xe0, 0xfb);
+    colours.weekBlockLine = QColor(0x24, 0x63, 0xcb);
+    colours.weekBlockText = QColor(0x0f, 0x26, 0x4d);
+    colours.weekHidden = QColor(0xf2, 0xf3, 0xf6);
+    colours.weekHiddenPattern = QColor(0xd9, 0xdd, 0xe5);
+    colours.weekHiddenText = QColor(0x3f, 0x47, 0x55);
+    colours.weekCollision = QColor(0xd0, 0x4a, 0x02);
+    colours.weekBlack = QColor(0x3a, 0x3f, 0x49);
+    colours.weekBlackText = QColor(0xe7, 0xea, 0xef);
+    colours.weekFrozen = QColor(0xda, 0xf1, 0xf0);
+    colours.weekFrozenPattern = QColor(0xc3, 0xe5, 0xe3);
+    colours.weekFrozenText = QColor(0x0d, 0x4a, 0x4b);
+    colours.weekInserted = QColor(0xe8, 0xd9, 0xf8);
+    colours.weekInsertedText = QColor(0x3d, 0x14, 0x66);
+    colours.weekClock = QColor(0xff, 0xf4, 0xd6);
+    colours.weekClockPattern = QColor(0xf5, 0xe2, 0xa8);
+    colours.weekClockText = QColor(0x5c, 0x42, 0x00);
+    colours.weekNow = QColor(0xc6, 0x22, 0x22);
+    colours.weekNowText = Qt::white;
+}
+
 void setDisabledTexts(QPalette& palette, const QColor& colour)
 {
     for (const QPalette::ColorRole role :
@@ -69,6 +121,7 @@ ThemeColours darkColours()
     colours.state = QColor(0x05, 0x05, 0x06);
     colours.stateLine = QColor(0x2c, 0x31, 0x3b);
     setLists(colours);
+    setDarkWeek(colours);
     return colours;
 }
 
@@ -119,6 +172,7 @@ ThemeColours lightColours()
     colours.state = Qt::white;
     colours.stateLine = QColor(0xd8, 0xdc, 0xe4);
     setLists(colours);
+    setLightWeek(colours);
     return colours;
 }
 

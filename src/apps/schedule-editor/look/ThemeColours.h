@@ -61,6 +61,31 @@ struct ThemeColours
     QColor listHeader;
     QColor listLine;
     QColor listText;
+
+    /// The picture of a week. What stands as a pattern on a ground differs from it little enough
+    /// for a text to be read on both.
+    QColor weekGround;
+    QColor weekLine; ///< Between days and hours.
+    QColor weekToday;
+    QColor weekBlock; ///< A plan that has the screen.
+    QColor weekBlockLine;
+    QColor weekBlockText;
+    QColor weekHidden; ///< A plan that another one keeps from the screen.
+    QColor weekHiddenPattern;
+    QColor weekHiddenText;
+    QColor weekCollision;
+    QColor weekBlack; ///< The screen is black, or keeps a last frame, between plans.
+    QColor weekBlackText;
+    QColor weekFrozen;
+    QColor weekFrozenPattern;
+    QColor weekFrozenText;
+    QColor weekInserted;
+    QColor weekInsertedText;
+    QColor weekClock; ///< What a change of the clocks leaves out or doubles.
+    QColor weekClockPattern;
+    QColor weekClockText;
+    QColor weekNow;
+    QColor weekNowText;
 };
 
 ThemeColours darkColours();

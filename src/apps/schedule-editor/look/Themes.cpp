@@ -64,6 +64,11 @@ QStringList Themes::names()
     return {kDark, kLight};
 }
 
+look::ThemeColours Themes::colours() const
+{
+    return coloursOf(m_current);
+}
+
 void Themes::select(const QString& name)
 {
     const QString known = names().contains(name) ? name : QString(kDark);
@@ -77,7 +82,7 @@ void Themes::select(const QString& name)
 
 void Themes::apply()
 {
-    const look::ThemeColours colours = coloursOf(m_current);
+    const look::ThemeColours colours = this->colours();
     if (m_style) {
         m_style->setColours(colours);
     }

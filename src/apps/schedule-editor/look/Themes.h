@@ -21,6 +21,8 @@ public:
     static QStringList names();
 
     QString current() const { return m_current; }
+    /// The colours of the theme in force.
+    look::ThemeColours colours() const;
 
     /// Puts a theme in force, on the windows that are open and on those to come. A name that is not
     /// known chooses the default.

@@ -163,7 +163,7 @@ void NowNextPanel::showScreen()
     m_picture->setVisible(isRunning);
     m_inserted->setVisible(now.state.isInserted());
     m_program->setText(isRunning ? ScreenWords::program(now) : tr("Not started"));
-    m_reason->setText(ScreenWords::reason(now));
+    m_reason->setText(ScreenWords::reason(now.state));
     setOptional(m_entry, ScreenWords::entry(now));
     m_bar->setVisible(isPlaying);
     m_gone->setVisible(isPlaying);

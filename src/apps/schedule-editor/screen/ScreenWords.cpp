@@ -39,8 +39,12 @@ QString ScreenWords::picture(ScreenPicture picture)
 
 QString ScreenWords::program(const ScreenScene& scene)
 {
-    const QString name = QString::fromStdString(scene.program.progName);
-    switch (scene.state.picture) {
+    return program(scene.state, QString::fromStdString(scene.program.progName));
+}
+
+QString ScreenWords::program(const ScreenState& state, const QString& name)
+{
+    switch (state.picture) {
     case ScreenPicture::Playing:
         return name;
     case ScreenPicture::Frozen:
@@ -72,9 +76,8 @@ QString ScreenWords::plan(const ScreenScene& scene)
                              : tr("Task %1, plan %2").arg(state.taskId).arg(state.planId);
 }
 
-QString ScreenWords::reason(const ScreenScene& scene)
+QString ScreenWords::reason(const ScreenState& state)
 {
-    const ScreenState& state = scene.state;
     const auto ofPlan = [&state](const QString& sentence) {
         return sentence.arg(state.planId).arg(state.taskId);
     };

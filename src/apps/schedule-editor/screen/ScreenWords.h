@@ -7,6 +7,7 @@
 
 namespace trel::mediadispatch {
 struct PlayPlan;
+struct ScreenState;
 struct struProgInfo;
 enum class ScreenPicture;
 } // namespace trel::mediadispatch
@@ -24,12 +25,13 @@ public:
     static QString picture(trel::mediadispatch::ScreenPicture picture);
     /// The program's name, or what is there instead of one.
     static QString program(const ScreenScene& scene);
+    static QString program(const trel::mediadispatch::ScreenState& state, const QString& name);
     /// "Entry 2 of 5, play 1 of 3"; empty where no entry is on screen.
     static QString entry(const ScreenScene& scene);
     /// "Task 1, plan 2"; empty where no plan has or had the screen.
     static QString plan(const ScreenScene& scene);
     /// The rule that makes the screen show what it does, as a sentence.
-    static QString reason(const ScreenScene& scene);
+    static QString reason(const trel::mediadispatch::ScreenState& state);
     /// The names of a list in their order, with the number of plays where it is not one.
     static QString list(const std::vector<trel::mediadispatch::struProgInfo>& programs);
     /// The list that was cut in and the one in whose place it stands, in rows.

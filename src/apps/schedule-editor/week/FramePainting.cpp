@@ -1,0 +1,105 @@
+#include "week/FramePainting.h"
+
+#include "look/ThemeColours.h"
+#include "week/WeekScene.h"
+#include "week/WeekWords.h"
+
+#include <QPainter>
+#include <QRegularExpression>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace week {
+
+namespace {
+
+constexpr int kSpace = 4;
+
+/// The date without its year, in the order of the language.
+QString dateOf(const QLocale& locale, const QDate& date)
+{
+    QString format = locale.dateFormat(QLocale::ShortFormat);
+    // Whatever the years stand between goes with them.
+    format.remove(QRegularExpression(QStringLiteral("[^dM]*y+[^dM]*$")));
+    format.remove(QRegularExpression(QStringLiteral("^[^dM]*y+[^dM]*")));
+    return locale.dayName(date.dayOfWeek(), QLocale::ShortFormat) + QLatin1Char(' ') +
+           locale.toString(date, format);
+}
+
+} // namespace
+
+int datesHeight(int lineHeight)
+{
+    return lineHeight * 2 + kSpace * 3;
+}
+
+void paintDates(QPainter& painter, const WeekScene& scene, const QRect& strip)
+{
+    const look::ThemeColours& colours = scene.colours;
+    painter.fillRect(strip, colours.header);
+    const QFont plain = painter.font();
+    QFont bold = plain;
+    bold.setBold(true);
+    const int lineHeight = painter.fontMetrics().height();
+    for (int day = 0; day < kDays; ++day) {
+        const WeekColumn& column = scene.layout.days[static_cast<std::size_t>(day)];
+        QRect place = scene.geometry.column(day);
+        place.setTop(strip.top());
+        place.setHeight(strip.height());
+        const bool isToday = column.date == scene.now.date;
+        if (isToday) {
+            painter.fillRect(place, colours.weekToday);
+            painter.fillRect(QRect(place.left(), place.bottom() - 2, place.width(), 3),
+                             colours.weekNow);
+        }
+        QRect text = place.adjusted(kSpace + 1, kSpace, -kSpace, 0);
+        painter.setFont(bold);
+        drawLabel(painter, text, dateOf(scene.locale, column.date), colours.text);
+        painter.setFont(plain);
+        text.translate(0, lineHeight + kSpace / 2);
+        text.setBottom(place.bottom());
+        drawLabel(painter, text,
+                  column.task ? Words::tr("Task %1").arg(*column.task) : Words::tr("No task"),
+                  colours.faintText);
+        if (day > 0) {
+            const int x =
+                scene.geometry.direction() == Qt::LeftToRight ? place.left() : place.right();
+            drawLine(painter, {x, strip.top()}, {x, strip.bottom()}, colours.weekLine);
+        }
+    }
+    drawLine(painter, strip.bottomLeft(), strip.bottomRight(), colours.weekLine);
+}
+
+void paintHours(QPainter& painter, const WeekScene& scene, const QRect& strip)
+{
+    const look::ThemeColours& colours = scene.colours;
+    painter.fillRect(strip, colours.header);
+    const int lineHeight = painter.fontMetrics().height();
+    const int step = labelStep(scene.geometry.hourHeight(), lineHeight) * 60;
+    const int first = scene.geometry.secondAt(strip.top() - lineHeight) / step;
+    for (int second = first * step; second < kDaySeconds; second += step) {
+        const int y = scene.geometry.top(second);
+        if (y - lineHeight > strip.bottom()) {
+            break;
+        }
+        // Midnight stands below its line, as there is nothing above.
+        const int top = second == 0 ? 0 : y - lineHeight / 2;
+        painter.setPen(colours.faintText);
+        painter.drawText(QRect(strip.left(), top, strip.width() - kSpace, lineHeight),
+                         Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute, shortTime(second));
+    }
+    const qint64 day = scene.layout.first().daysTo(scene.now.date);
+    if (day >= 0 && day < kDays) {
+        const int y = scene.geometry.top(scene.now.second);
+        const QRect tag(strip.left(), std::max(y - lineHeight / 2 - 1, 0), strip.width(),
+                        lineHeight + 2);
+        painter.fillRect(tag, colours.weekNow);
+        painter.setPen(colours.weekNowText);
+        painter.drawText(tag.adjusted(0, 0, -kSpace, 0),
+                         Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute,
+                         shortTime(scene.now.second / 60 * 60));
+    }
+}
+
+} // namespace week

@@ -1,0 +1,40 @@
+#include "week/WeekDock.h"
+
+#include "Languages.h"
+#include "look/Themes.h"
+#include "week/WeekPanel.h"
+
+#include <QEvent>
+
+WeekDock::WeekDock(const Languages& languages, const Themes& themes, QWidget* parent)
+    : QDockWidget(parent)
+    , m_panel(new week::WeekPanel(this))
+{
+    setObjectName(QStringLiteral("weekDock"));
+    setWidget(m_panel);
+    connect(m_panel, &week::WeekPanel::activated, this, &WeekDock::activated);
+
+    const auto takeColours = [this, &themes] { m_panel->setColours(themes.colours()); };
+    const auto takeLanguage = [this, &languages] {
+        m_panel->setLanguage(QLocale(languages.current()));
+    };
+    connect(&themes, &Themes::changed, this, takeColours);
+    connect(&languages, &Languages::changed, this, takeLanguage);
+    takeColours();
+    takeLanguage();
+    retranslate();
+    hide();
+}
+
+void WeekDock::retranslate()
+{
+    setWindowTitle(tr("Week"));
+}
+
+void WeekDock::changeEvent(QEvent* event)
+{
+    QDockWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}

@@ -1,0 +1,168 @@
+#include "week/WeekPanel.h"
+
+#include "week/WeekView.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace week {
+
+namespace {
+
+constexpr double kZoomStep = 1.5;
+constexpr int kSignWidth = 28;
+
+/// A sign is no name: the words are for those who cannot see it, or do not know it.
+void setWords(QWidget* widget, const QString& words)
+{
+    widget->setToolTip(words);
+    widget->setAccessibleName(words);
+}
+
+} // namespace
+
+WeekPanel::WeekPanel(QWidget* parent)
+    : QWidget(parent)
+    , m_feed(this)
+    , m_view(new WeekView(this))
+    , m_former(addButton("weekFormer", QStringLiteral("‹")))
+    , m_today(addButton("weekToday", QString()))
+    , m_next(addButton("weekNext", QStringLiteral("›")))
+    , m_title(new QLabel(this))
+    , m_source(new QComboBox(this))
+    , m_smaller(addButton("weekSmaller", QStringLiteral("−")))
+    , m_larger(addButton("weekLarger", QStringLiteral("+")))
+    , m_fit(addButton("weekFit", QString()))
+{
+    m_view->setObjectName(QStringLiteral("weekView"));
+    m_title->setObjectName(QStringLiteral("weekTitle"));
+    m_source->setObjectName(QStringLiteral("weekSource"));
+    m_source->addItem(QString(), static_cast<int>(WeekSource::Edited));
+    m_source->addItem(QString(), static_cast<int>(WeekSource::InEffect));
+    m_source->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    buildControls();
+    connectControls();
+    retranslate();
+}
+
+QPushButton* WeekPanel::addButton(const char* name, const QString& sign)
+{
+    auto* button = new QPushButton(sign, this);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    if (!sign.isEmpty()) {
+        button->setFixedWidth(kSignWidth);
+    }
+    return button;
+}
+
+void WeekPanel::buildControls()
+{
+    auto* controls = new QHBoxLayout;
+    controls->setSpacing(4);
+    for (QWidget* widget : {m_former, m_today, m_next}) {
+        controls->addWidget(widget);
+    }
+    controls->addSpacing(8);
+    controls->addWidget(m_title);
+    controls->addStretch();
+    controls->addWidget(m_source);
+    controls->addSpacing(8);
+    for (QWidget* widget : {m_smaller, m_larger, m_fit}) {
+        controls->addWidget(widget);
+    }
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addLayout(controls);
+    layout->addWidget(m_view, 1);
+    QWidget* former = m_former;
+    for (QWidget* next : std::initializer_list<QWidget*>{m_today, m_next, m_source, m_smaller,
+                                                         m_larger, m_fit, m_view}) {
+        setTabOrder(former, next);
+        former = next;
+    }
+}
+
+void WeekPanel::connectControls()
+{
+    connect(&m_feed, &WeekFeed::changed, m_view, &WeekView::setSchedule);
+    connect(m_view, &WeekView::activated, this, &WeekPanel::activated);
+    connect(m_view, &WeekView::weekChanged, this, &WeekPanel::updateTitle);
+    connect(m_view, &WeekView::zoomChanged, this, &WeekPanel::updateButtons);
+    connect(m_former, &QPushButton::clicked, m_view, [this] { m_view->stepWeeks(-1); });
+    connect(m_next, &QPushButton::clicked, m_view, [this] { m_view->stepWeeks(1); });
+    connect(m_today, &QPushButton::clicked, m_view, &WeekView::showNow);
+    connect(m_smaller, &QPushButton::clicked, m_view, [this] { m_view->zoom(1 / kZoomStep); });
+    connect(m_larger, &QPushButton::clicked, m_view, [this] { m_view->zoom(kZoomStep); });
+    connect(m_fit, &QPushButton::clicked, m_view, &WeekView::zoomToFit);
+    connect(m_source, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            [this] { m_feed.setSource(static_cast<WeekSource>(m_source->currentData().toInt())); });
+}
+
+void WeekPanel::setColours(const look::ThemeColours& colours)
+{
+    m_view->setColours(colours);
+}
+
+void WeekPanel::setLanguage(const QLocale& locale)
+{
+    setLocale(locale);
+    retranslate();
+}
+
+void WeekPanel::retranslate()
+{
+    m_today->setText(tr("Today"));
+    m_fit->setText(tr("Whole day"));
+    m_source->setItemText(0, tr("As edited"));
+    m_source->setItemText(1, tr("In effect"));
+    setWords(m_former, tr("Week before"));
+    setWords(m_next, tr("Week after"));
+    setWords(m_smaller, tr("Hours less high"));
+    setWords(m_larger, tr("Hours higher"));
+    setWords(m_source, tr("Which schedule is shown"));
+    m_view->retranslate();
+    updateTitle();
+    updateButtons();
+}
+
+void WeekPanel::updateTitle()
+{
+    const QDate first = m_view->firstDay();
+    m_title->setText(QStringLiteral("%1 – %2").arg(
+        locale().toString(first, QLocale::ShortFormat),
+        locale().toString(first.addDays(kDays - 1), QLocale::ShortFormat)));
+}
+
+void WeekPanel::updateButtons()
+{
+    m_fit->setEnabled(!m_view->isFit());
+    m_smaller->setEnabled(!m_view->isFit());
+    m_larger->setEnabled(m_view->hourHeight() < WeekGeometry::kMostHour);
+}
+
+void WeekPanel::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    m_feed.setWatched(true);
+}
+
+void WeekPanel::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    m_feed.setWatched(false);
+}
+
+void WeekPanel::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
+} // namespace week

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "look/ThemeColours.h"
+#include "week/WeekFeed.h"
+
+#include <QWidget>
+
+class QComboBox;
+class QLabel;
+class QPushButton;
+
+namespace week {
+
+class WeekView;
+
+/// The picture of a week with its controls: which week, which schedule, how high an hour is.
+class WeekPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit WeekPanel(QWidget* parent = nullptr);
+
+    WeekView* view() const { return m_view; }
+    void setColours(const look::ThemeColours& colours);
+    /// The language of dates, and the country whose weeks they are.
+    void setLanguage(const QLocale& locale);
+
+signals:
+    /// The operator wants to get to a plan.
+    void activated(int taskId, int planRow);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    QPushButton* addButton(const char* name, const QString& sign);
+    void buildControls();
+    void connectControls();
+    void retranslate();
+    void updateTitle();
+    void updateButtons();
+
+    WeekFeed m_feed;
+    WeekView* m_view;
+    QPushButton* m_former;
+    QPushButton* m_today;
+    QPushButton* m_next;
+    QLabel* m_title;
+    QComboBox* m_source;
+    QPushButton* m_smaller;
+    QPushButton* m_larger;
+    QPushButton* m_fit;
+};
+
+} // namespace week

@@ -1,0 +1,124 @@
+#include "week/WeekReasons.h"
+
+#include "screen/ScreenWords.h"
+#include "week/WeekHit.h"
+#include "week/WeekSchedule.h"
+#include "week/WeekWords.h"
+
+#include <QStringList>
+
+using namespace trel::mediadispatch;
+
+namespace week {
+
+namespace {
+
+constexpr int kMostLetters = 60;
+
+QString shortened(const QString& text)
+{
+    return text.size() <= kMostLetters ? text : text.left(kMostLetters - 1) + QChar(0x2026);
+}
+
+QString whatText(const WeekSchedule& schedule, const ScreenState& state)
+{
+    const QString program = shortened(schedule.program(state.progIndex));
+    if (state.isPlaying()) {
+        return Words::tr("On screen: %1, %2 into it")
+            .arg(program, ScreenWords::gone(state.position));
+    }
+    return Words::tr("On screen: %1").arg(ScreenWords::program(state, program));
+}
+
+QString neverText(const WeekBlock& block)
+{
+    const int number = block.planId;
+    switch (block.never) {
+    case NeverPlays::EmptySpan:
+        return Words::tr("Plan %1 never plays: it ends as it starts, at %2.")
+            .arg(number)
+            .arg(block.start);
+    case NeverPlays::InvertedSpan:
+        return Words::tr("Plan %1 never plays: it starts at %2 and ends before, at %3.")
+            .arg(number)
+            .arg(block.start, block.end);
+    case NeverPlays::UnreadableTime:
+        return Words::tr("Plan %1 never plays: “%2” to “%3” are no times of day.")
+            .arg(number)
+            .arg(shortened(block.start), shortened(block.end));
+    case NeverPlays::No:
+        break;
+    }
+    return QString();
+}
+
+QString changeText(const ClockChange& change)
+{
+    const QString from = shortTime(change.from);
+    const QString to = shortTime(change.to);
+    return change.isLeftOut
+               ? Words::tr("%1 to %2 is left out: the clocks go forward.").arg(from, to)
+               : Words::tr("%1 to %2 comes twice: the clocks go back.").arg(from, to);
+}
+
+void addBlock(QStringList& lines, const WeekColumn& column, const WeekHit& hit)
+{
+    if (hit.piece != nullptr && hit.piece->state == DayPiece::Several) {
+        lines.append(
+            Words::tr("%n more plans are kept from the screen.", nullptr, hit.piece->count));
+    }
+    if (hit.block == nullptr) {
+        return;
+    }
+    lines.append(blockText(*hit.block));
+    const WeekBlock* holder = column.holderAt(hit.second);
+    if (holder != nullptr && holder != hit.block) {
+        lines.append(
+            Words::tr("Plan %1 stands above it and has the screen instead.").arg(holder->planId));
+    }
+    if (hit.block->collides) {
+        lines.append(Words::tr("It collides with a plan above it."));
+    }
+}
+
+} // namespace
+
+QString blockText(const WeekBlock& block)
+{
+    if (block.never != NeverPlays::No) {
+        return neverText(block);
+    }
+    QString text = Words::tr("Plan %1, %2 to %3")
+                       .arg(block.planId)
+                       .arg(shortTime(block.from), shortTime(block.to));
+    if (!block.programs.isEmpty()) {
+        text += QStringLiteral(": ") + shortened(block.programs.join(QStringLiteral(", ")));
+    }
+    return text;
+}
+
+QString reasonText(const WeekSchedule& schedule, const WeekLayout& layout, const WeekHit& hit,
+                   const QLocale& locale)
+{
+    const WeekColumn& column = layout.days[static_cast<std::size_t>(hit.day)];
+    QStringList lines{QStringLiteral("%1, %2").arg(
+        locale.toString(column.date, QLocale::LongFormat), shortTime(hit.second))};
+    if (hit.change != nullptr) {
+        lines.append(changeText(*hit.change));
+    }
+    if (hit.change == nullptr || !hit.change->isLeftOut) {
+        const ScreenState state = schedule.at(layout.clock.instant(hit.day, hit.second, hit.pass));
+        lines.append(whatText(schedule, state));
+        lines.append(ScreenWords::reason(state));
+    }
+    if (!column.task) {
+        lines.append(Words::tr("No task is valid on this day."));
+    }
+    addBlock(lines, column, hit);
+    for (const WeekBlock* mark : hit.marks) {
+        lines.append(neverText(*mark));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace week

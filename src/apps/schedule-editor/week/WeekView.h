@@ -1,0 +1,115 @@
+#pragma once
+
+#include "look/ThemeColours.h"
+#include "week/BlockSteps.h"
+#include "week/MinuteTimer.h"
+#include "week/WeekHit.h"
+#include "week/WeekSchedule.h"
+
+#include <QAbstractScrollArea>
+
+#include <memory>
+
+class QGestureEvent;
+class QHelpEvent;
+
+namespace week {
+
+class WeekStrip;
+
+/// A week of a schedule: days across, in the order of the widget's locale, and hours down. Dates
+/// and hours stay in sight. A line follows the clock in force while the picture is shown.
+///
+/// Arrows move the selected block, Enter and a double click activate it, Space shows its tool tip;
+/// plus, minus and 0 change the height of an hour, as do the wheel with Ctrl and a pinch; Home
+/// leads to the present moment, and Page Up and Page Down with Ctrl to another week.
+class WeekView : public QAbstractScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit WeekView(QWidget* parent = nullptr);
+    ~WeekView() override;
+
+    /// Shows a schedule; the selected block stays where it has not gone. Never null.
+    void setSchedule(std::shared_ptr<const WeekSchedule> schedule);
+    void setColours(const look::ThemeColours& colours);
+    /// Takes the texts and the order of days from the language anew.
+    void retranslate();
+
+    QDate firstDay() const { return m_layout.first(); }
+    void showWeekOf(const QDate& day);
+    void stepWeeks(int weeks);
+    /// Shows the present moment. As long as no other week is asked for, the picture then moves on
+    /// with the days.
+    void showNow();
+
+    double hourHeight() const { return m_geometry.hourHeight(); }
+    /// Makes hours so many times as high, around what is in the middle.
+    void zoom(double factor);
+    /// Makes hours as high as the whole day fits into, also when the widget changes its size.
+    void zoomToFit();
+    bool isFit() const { return m_isFit; }
+
+    std::optional<BlockRef> selected() const { return m_selected; }
+    const WeekLayout& layoutOfWeek() const { return m_layout; }
+    /// Where a block stands in the viewport, from its first piece on; empty when it is not there.
+    QRect visualRect(const BlockRef& block) const;
+
+signals:
+    /// The operator wants to get to a plan.
+    void activated(int taskId, int planRow);
+    void weekChanged();
+    void zoomChanged();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+
+private:
+    void layOut(const QDate& first);
+    void updateNow();
+    void updateGeometry(double hourHeight);
+    void placeStrips();
+    void repaintAll();
+
+    QPoint offset() const;
+    WeekScene scene(const QRect& visible) const;
+    WeekHit hit(const QPoint& place) const;
+    double fittingHour() const;
+    void zoomAt(double factor, int y);
+    bool zoomByKey(int key);
+    bool stepByKey(const QKeyEvent& event);
+
+    void select(const std::optional<BlockRef>& block);
+    void showSelected();
+    void activateSelected();
+    void showTip(const QHelpEvent& event);
+    void showTipOfSelected();
+    bool pinch(const QGestureEvent& event);
+
+    std::shared_ptr<const WeekSchedule> m_schedule;
+    look::ThemeColours m_colours;
+    WeekLayout m_layout;
+    WeekGeometry m_geometry;
+    WallMoment m_now;
+    MinuteTimer m_minutes;
+    WeekStrip* m_dates;
+    WeekStrip* m_hours;
+    std::optional<BlockRef> m_selected;
+    bool m_isFit = true;
+    bool m_followsNow = true;
+};
+
+} // namespace week

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QCoreApplication>
+
+namespace week {
+
+/// The words of the picture that no widget of its own speaks.
+struct Words
+{
+    Q_DECLARE_TR_FUNCTIONS(Week)
+};
+
+} // namespace week

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "week/WeekView.h"
+
+#include "support/PlanRecords.h"
+#include "support/TestClock.h"
+
+#include <QtTest>
+
+#include <memory>
+
+/// A schedule in Berlin, on Wednesday, 2024-03-06, at nine.
+namespace weekfixture {
+
+inline QTimeZone berlin()
+{
+    return QTimeZone("Europe/Berlin");
+}
+
+inline QDateTime wednesdayAtNine()
+{
+    return QDateTime(QDate(2024, 3, 6), QTime(9, 0), berlin());
+}
+
+inline trel::mediadispatch::ProgramIten program(int index, const char* name, double msecs,
+                                                trel::mediadispatch::ProgramKind kind)
+{
+    trel::mediadispatch::ProgramIten item;
+    item.progIndex = index;
+    item.progName = name;
+    item.durationMs = msecs;
+    item.kind = kind;
+    return item;
+}
+
+inline week::WeekSchedule::Catalogue catalogue()
+{
+    using trel::mediadispatch::ProgramKind;
+    return {{1, program(1, "City news", 90000, ProgramKind::Video)},
+            {2, program(2, "Weather", 30000, ProgramKind::Video)},
+            {3, program(3, "Logo", -1, ProgramKind::Image)}};
+}
+
+inline std::shared_ptr<const week::WeekSchedule>
+scheduleOf(std::vector<trel::mediadispatch::PlayPlan> plans)
+{
+    for (trel::mediadispatch::PlayPlan& plan : plans) {
+        if (plan.programs.empty()) {
+            plan.programs = {entry(1), entry(2)};
+        }
+    }
+    return std::make_shared<week::WeekSchedule>(
+        week::WeekSchedule::Tasks{{1, taskWithPlans(std::move(plans))}}, catalogue(),
+        trel::mediadispatch::ScreenInsertions(), berlin());
+}
+
+/// A plan each of what a week can hold, on Wednesdays.
+inline std::vector<trel::mediadispatch::PlayPlan> mixedPlans()
+{
+    std::vector<trel::mediadispatch::PlayPlan> plans{
+        timePlan(11, "08:00:00", "10:00:00", "3"), timePlan(12, "09:00:00", "12:00:00", "3"),
+        timePlan(13, "14:00:00", "16:00:00", "3,4"), timePlan(14, "20:00:00", "18:00:00", "3")};
+    plans[1].endAction = trel::mediadispatch::FreezeCurrentFrame;
+    return plans;
+}
+
+} // namespace weekfixture
