@@ -3,7 +3,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <string_view>
+#include <vector>
 
 class Console;
 
@@ -20,6 +22,25 @@ struct Invocation
     QString database;      ///< As given; empty for the user's own.
     bool json = false;     ///< Results as JSON instead of text.
     QStringList arguments; ///< As many as the command takes.
+    /// The options of the command's own that were given, by name; a switch has an empty value.
+    std::map<QString, QString> options;
+
+    bool has(const char* option) const { return options.count(QLatin1String(option)) > 0; }
+    /// Empty when the option was not given.
+    QString value(const char* option) const
+    {
+        const auto found = options.find(QLatin1String(option));
+        return found == options.end() ? QString() : found->second;
+    }
+};
+
+/// An option that only some commands have.
+struct CommandOption
+{
+    std::string_view name;    ///< With its two dashes.
+    std::string_view value;   ///< What stands behind it in the usage line; empty for a switch.
+    std::string_view meaning; ///< For the help, in lines of up to 57 columns.
+    bool isRequired = false;
 };
 
 /// One command: what it is called, what it takes and who does it.
@@ -36,4 +57,5 @@ struct Command
     std::string_view help;    ///< What a person should know, in lines of up to 78 columns.
     ExitStatus (*run)(const Invocation& invocation, Console& console);
     bool hasDatabase = true; ///< Works on a database.
+    std::vector<CommandOption> options = {};
 };

@@ -66,12 +66,51 @@ private:
             readDatabase(equals < 0 ? takeValue() : word.mid(equals + 1));
         } else if (word == QLatin1String("--json")) {
             m_line.invocation.json = true;
+        } else if (const CommandOption* own = ownOption(name);
+                   own != nullptr && !(own->value.empty() && equals >= 0)) {
+            readOwnOption(*own, word, equals);
         } else if (word == QLatin1String("--help") || word == QLatin1String("-h")) {
             m_wantsHelp = true;
         } else if (word == QLatin1String("--version")) {
             m_wantsVersion = true;
         } else {
             misuse(QStringLiteral("There is no option %1.").arg(quoted(name)));
+        }
+    }
+
+    /// The option of this name that some command has. Which one is meant may not be known yet.
+    const CommandOption* ownOption(const QString& name) const
+    {
+        for (const Command& command : m_commands) {
+            const CommandOption* const option = optionOf(command, name);
+            if (option != nullptr) {
+                return option;
+            }
+        }
+        return nullptr;
+    }
+
+    static const CommandOption* optionOf(const Command& command, const QString& name)
+    {
+        const auto found = std::find_if(
+            command.options.begin(), command.options.end(),
+            [&name](const CommandOption& option) { return named(option.name) == name; });
+        return found == command.options.end() ? nullptr : &*found;
+    }
+
+    void readOwnOption(const CommandOption& option, const QString& word, int equals)
+    {
+        const QString name = named(option.name);
+        QString value;
+        if (!option.value.empty()) {
+            value = equals < 0 ? takeValue() : word.mid(equals + 1);
+            if (value.isEmpty()) {
+                misuse(QStringLiteral("The option %1 needs %2.")
+                           .arg(quoted(name), named(option.value)));
+            }
+        }
+        if (!m_line.invocation.options.try_emplace(name, value).second) {
+            misuse(QStringLiteral("The option %1 can be given only once.").arg(quoted(name)));
         }
     }
 
@@ -151,6 +190,8 @@ private:
             misuse(QStringLiteral("The command %1 has no option \"--json\".").arg(name));
         } else if (!m_line.invocation.database.isEmpty() && !command.hasDatabase) {
             misuse(QStringLiteral("The command %1 has no option \"--database\".").arg(name));
+        } else if (const QString foreign = foreignOption(command); !foreign.isEmpty()) {
+            misuse(QStringLiteral("The command %1 has no option %2.").arg(name, quoted(foreign)));
         } else if (arguments.size() < command.leastArguments) {
             misuse(QStringLiteral("The command %1 needs %2.").arg(name, named(command.arguments)));
         } else if (command.mostArguments != Command::kAnyNumber &&
@@ -159,6 +200,30 @@ private:
                        .arg(name, quoted(arguments[command.mostArguments])));
         } else if (arguments.contains(QString())) {
             misuse(QStringLiteral("An argument of the command %1 is empty.").arg(name));
+        } else {
+            checkRequiredOptions(command);
+        }
+    }
+
+    /// The first option that was given and that belongs to other commands only.
+    QString foreignOption(const Command& command) const
+    {
+        for (const auto& [option, value] : m_line.invocation.options) {
+            if (optionOf(command, option) == nullptr) {
+                return option;
+            }
+        }
+        return {};
+    }
+
+    void checkRequiredOptions(const Command& command)
+    {
+        for (const CommandOption& option : command.options) {
+            const QString name = named(option.name);
+            if (option.isRequired && m_line.invocation.options.count(name) == 0) {
+                misuse(QStringLiteral("The command %1 needs the option \"%2 %3\".")
+                           .arg(quoted(named(command.name)), name, named(option.value)));
+            }
         }
     }
 

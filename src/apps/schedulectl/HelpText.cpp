@@ -11,17 +11,37 @@ QString text(std::string_view latin)
     return QString::fromLatin1(latin.data(), static_cast<int>(latin.size()));
 }
 
+/// Where the meaning of an option begins, behind the margin.
+constexpr int kMeaningColumn = 19;
+
+QString option(const QString& name, const QString& meaning)
+{
+    return QStringLiteral("  %1%2\n").arg(name, -kMeaningColumn).arg(meaning);
+}
+
 QString option(const char* name, const QString& meaning)
 {
-    constexpr int column = 19;
-    return QStringLiteral("  %1%2\n").arg(QString::fromLatin1(name), -column).arg(meaning);
+    return option(QString::fromLatin1(name), meaning);
+}
+
+/// What comes behind a line break in a meaning stands below it.
+QString hanging(QString meaning)
+{
+    return meaning.replace(QLatin1Char('\n'),
+                           QLatin1Char('\n') + QString(kMeaningColumn + 2, QLatin1Char(' ')));
+}
+
+QString usageOf(const CommandOption& own)
+{
+    return own.value.empty() ? text(own.name) : text(own.name) + QLatin1Char(' ') + text(own.value);
 }
 
 QString databaseOption()
 {
     return option("--database FILE",
-                  QStringLiteral("The database to work on; the editor's own when left out:\n") +
-                      QString(21, QLatin1Char(' ')) + defaultDatabasePath());
+                  hanging(QStringLiteral("The database to work on; the editor's own when left "
+                                         "out:\n") +
+                          defaultDatabasePath()));
 }
 
 QString jsonOption()
@@ -65,10 +85,16 @@ QString generalHelp(const std::vector<Command>& commands)
 
 QString commandHelp(const Command& command)
 {
-    const QString arguments =
+    QString arguments =
         command.arguments.empty() ? QString() : QLatin1Char(' ') + text(command.arguments);
+    for (const CommandOption& own : command.options) {
+        arguments += own.isRequired ? QLatin1Char(' ') + usageOf(own) : QString();
+    }
     QString help = QStringLiteral("Usage: schedulectl %1 [OPTION...]%2\n\n%3\n\nOptions:\n")
                        .arg(text(command.name), arguments, text(command.help));
+    for (const CommandOption& own : command.options) {
+        help += option(usageOf(own), hanging(text(own.meaning)));
+    }
     if (command.hasDatabase) {
         help += databaseOption();
     }

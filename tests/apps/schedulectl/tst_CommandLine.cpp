@@ -15,6 +15,17 @@ const std::vector<Command>& commands()
         {"list", "", 0, 0, true, "", "", doNothing},
         {"take", "FILE", 1, 1, false, "", "", doNothing},
         {"gather", "PATH...", 1, Command::kAnyNumber, true, "", "", doNothing},
+        {"watch",
+         "",
+         0,
+         1,
+         true,
+         "",
+         "",
+         doNothing,
+         true,
+         {{"--at", "MOMENT", ""}, {"--loud", "", ""}}},
+        {"span", "", 0, 0, true, "", "", doNothing, true, {{"--at", "MOMENT", "", true}}},
     };
     return all;
 }
@@ -46,6 +57,9 @@ QString line(const CommandLine& read)
     }
     for (const QString& argument : read.invocation.arguments) {
         parts.append(QStringLiteral("<%1>").arg(argument));
+    }
+    for (const auto& [option, value] : read.invocation.options) {
+        parts.append(value.isEmpty() ? option : QStringLiteral("%1=%2").arg(option, value));
     }
     return parts.join(QLatin1Char(' '));
 }
@@ -115,6 +129,23 @@ void tst_CommandLine::read_data()
     row("--version --wrong", "misuse: There is no option \"--wrong\".");
     row("--json", "misuse: A command is missing.");
     row("-- list", "run list");
+    row("watch", "run watch");
+    row("watch --at now", "run watch --at=now");
+    row("watch --at=now", "run watch --at=now");
+    row("--at now watch x", "run watch <x> --at=now");
+    row("watch --at -x", "run watch --at=-x");
+    row("watch --loud x --at now", "run watch <x> --at=now --loud");
+    row("watch --at", "misuse: The option \"--at\" needs MOMENT.");
+    row("watch --at --loud", "misuse: The option \"--at\" needs MOMENT.");
+    row("watch --at=", "misuse: The option \"--at\" needs MOMENT.");
+    row("watch --at a --at a", "misuse: The option \"--at\" can be given only once.");
+    row("watch --loud --loud", "misuse: The option \"--loud\" can be given only once.");
+    row("watch --loud=yes", "misuse: There is no option \"--loud\".");
+    row("list --at now", "misuse: The command \"list\" has no option \"--at\".");
+    row("--loud span --at now", "misuse: The command \"span\" has no option \"--loud\".");
+    row("span", "misuse: The command \"span\" needs the option \"--at MOMENT\".");
+    row("span --at now", "run span --at=now");
+    row("watch -- --at", "run watch <--at>");
 
     QTest::newRow("nothing at all")
         << QStringList() << QStringLiteral("misuse: A command is missing.");
