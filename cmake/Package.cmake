@@ -29,6 +29,7 @@ install(FILES
   DESTINATION ${include_dir}/trelprogramschedule)
 install(FILES
   src/libs/trelprogramschedule/dispatch/ClockChanges.h
+  src/libs/trelprogramschedule/dispatch/ProgramVerdict.h
   src/libs/trelprogramschedule/dispatch/ScreenDispatch.h
   src/libs/trelprogramschedule/dispatch/ScreenInsertion.h
   src/libs/trelprogramschedule/dispatch/ScreenState.h
