@@ -4,6 +4,7 @@
 #include "ExchangeCommands.h"
 #include "LanguageCommands.h"
 #include "ScheduleCommands.h"
+#include "ScreenCommands.h"
 
 const std::vector<Command>& allCommands()
 {
@@ -49,6 +50,65 @@ with an earlier plan of its task is marked.)",
 The exit status is 0 when there are neither overlaps nor collisions, and 1
 otherwise. Remarks do not count.)",
          runCheck},
+        {"now",
+         "",
+         0,
+         0,
+         true,
+         "Show what is on screen, and what comes next",
+         R"(Shows what the saved schedule has on screen at a moment: the program, with the
+position in it, its entry, play and run, the plan, until when, and the rule that
+makes it so; and the next program and the next plan with their moments.
+
+A moment is a date and a time of day, such as "2024-03-31 08:00:00" or
+2024-03-31T08:00; the seconds may be left out, and a time alone is one of today.
+Times are local unless an offset such as +01:00, or Z, follows. A time that the
+clock leaves out is taken as the first moment after the gap, one that comes
+twice as the first of the two; both are said on the standard error.)",
+         runNow,
+         true,
+         {{"--at", "MOMENT", "The moment; now when left out."}}},
+        {"timeline",
+         "",
+         0,
+         0,
+         true,
+         "List what is on screen from one moment to another",
+         R"(Lists what the saved schedule has on screen from one moment to another: a line
+for each time that a plan has the screen without a break, and one for each
+stretch between. The first line begins when that did, also before --from, and
+the last one ends when that does.
+
+Moments are written as for "schedulectl now"; a date alone is the start of that
+day.)",
+         runTimeline,
+         true,
+         {{"--from", "MOMENT", "The first moment.", true},
+          {"--to", "MOMENT", "The moment before which the list ends.", true},
+          {"--plays", "", "A line for each play of a program."}}},
+        {"why",
+         "PROGRAM",
+         1,
+         1,
+         true,
+         "Tell why a program plays, or what keeps it away",
+         R"(Tells of a program whether the saved schedule has it on screen at a moment. If
+not, it names for every plan that holds the program the rule that kept it away,
+and what is on screen instead.
+
+PROGRAM is an index, a name, or a part of a name that only one program has.
+Moments are written as for "schedulectl now".)",
+         runWhy,
+         true,
+         {{"--at", "MOMENT", "The moment; now when left out."}}},
+        {"run", "", 0, 0, true, "Execute the schedule on the terminal",
+         R"(Puts the saved schedule into effect and writes a line for each event: when it
+is, what is on screen, until when, and the rule that makes it so. What another
+program saves meanwhile is taken over at once.
+
+Sleeps between the events. Ends with status 0 when it is interrupted or told to
+terminate (SIGINT, SIGTERM). With --json each line is an object by itself.)",
+         runSchedule},
         {"export", "FILE", 1, 1, false, "Write the schedule to a JSON file",
          R"(Writes all tasks, with every field, to FILE as JSON; "-" is the standard output.
 A file that exists is replaced, in one step. The same schedule always gives the

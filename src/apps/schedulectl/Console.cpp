@@ -41,6 +41,12 @@ void Console::write(const QByteArray& utf8)
     m_hasFailed = !writeBytes(stdout, utf8) || m_hasFailed;
 }
 
+bool Console::flush()
+{
+    m_hasFailed = std::fflush(stdout) != 0 || m_hasFailed;
+    return !m_hasFailed;
+}
+
 void Console::writeJson(const QJsonObject& object)
 {
     write(QJsonDocument(object).toJson(QJsonDocument::Indented));

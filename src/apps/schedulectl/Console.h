@@ -19,6 +19,12 @@ public:
     /// Writes a result and ends the line.
     void writeLine(const QString& line) { write(line + QLatin1Char('\n')); }
     void writeJson(const QJsonObject& object);
+    /// False once something that was written did not arrive.
+    bool arrives() const { return !m_hasFailed; }
+
+    /// Hands over what was written so far, so that a reader at the other end has it; false when
+    /// that, or anything written before, did not arrive.
+    bool flush();
 
     /// Tells the user what went wrong or should be known, under the program's name.
     void tell(const QString& sentence);

@@ -59,6 +59,12 @@ std::map<int, trel::mediadispatch::ProgramIten> Database::programs() const
     return scheduleManage::getInstance().getPrograms();
 }
 
+QString Database::programName(int progIndex) const
+{
+    return QString::fromStdString(
+        scheduleManage::getInstance().getProgramNameByProgIndex(progIndex));
+}
+
 Catalogue Database::catalogue() const
 {
     return {programs(), [](int progIndex) {

@@ -29,6 +29,8 @@ public:
     QString path() const;
     std::map<int, trel::mediadispatch::PlayTask> tasks() const;
     std::map<int, trel::mediadispatch::ProgramIten> programs() const;
+    /// The name last known for an index, also of a program that was removed; empty for none.
+    QString programName(int progIndex) const;
     Catalogue catalogue() const;
     trel::mediadispatch::ScheduleHost& host() const;
 

@@ -8,8 +8,6 @@
 
 using namespace trel::mediadispatch;
 
-namespace {
-
 QString dayText(int day)
 {
     switch (day) {
@@ -32,8 +30,6 @@ QString dayText(int day)
         return QStringLiteral("day %1").arg(day);
     }
 }
-
-} // namespace
 
 QString daysText(const std::string& weeks)
 {

@@ -12,6 +12,9 @@
 /// The days of a `weeks` text, such as "Mon,Wed" or "every day", in their order.
 QString daysText(const std::string& weeks);
 
+/// A day of the week by its number, such as "Mon".
+QString dayText(int day);
+
 /// How often a plan plays: "3 times" in FrequencyMode, "until the end" otherwise.
 QString playsText(const trel::mediadispatch::PlayPlan& plan);
 

@@ -145,6 +145,14 @@ CtlResult CtlFixture::runWatched(const QStringList& arguments) const
     return result;
 }
 
+void CtlFixture::start(QProcess& process, const QStringList& arguments) const
+{
+    prepare(process, m_folder.path());
+    process.setArguments(QStringList{QStringLiteral("--database"), database()} + arguments);
+    process.start();
+    QVERIFY(process.waitForStarted());
+}
+
 void CtlFixture::store(const Schedule& schedule) const
 {
     const CtlResult result = onDatabase({QStringLiteral("import-schedule"), QStringLiteral("-")},

@@ -10,6 +10,8 @@
 
 #include <map>
 
+class QProcess;
+
 /// How a run of the program ended and what it said.
 struct CtlResult
 {
@@ -44,6 +46,9 @@ public:
     CtlResult runInto(const QString& outputFile, const QStringList& arguments) const;
     /// Runs the program with a terminal as its standard error; err is what the terminal got.
     CtlResult runWatched(const QStringList& arguments) const;
+
+    /// Starts a command on the database of the fixture and does not wait for it.
+    void start(QProcess& process, const QStringList& arguments) const;
 
     /// Puts a schedule into the database, by import-schedule.
     void store(const Schedule& schedule) const;

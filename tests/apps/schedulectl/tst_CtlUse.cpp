@@ -37,7 +37,11 @@ const QStringList& commandNames()
                                       QStringLiteral("check"),
                                       QStringLiteral("export"),
                                       QStringLiteral("import-schedule"),
-                                      QStringLiteral("check-language")};
+                                      QStringLiteral("check-language"),
+                                      QStringLiteral("now"),
+                                      QStringLiteral("timeline"),
+                                      QStringLiteral("why"),
+                                      QStringLiteral("run")};
     return names;
 }
 
@@ -52,7 +56,8 @@ void addReadingCommands()
     QTest::addColumn<QStringList>("arguments");
     for (const char* command :
          {"programs", "programs --json", "show", "show --json", "check", "check --json",
-          "export out.json", "export -", "remove-program 1"}) {
+          "export out.json", "export -", "remove-program 1", "now", "now --json",
+          "timeline --from 08:00 --to 09:00", "why 1", "run"}) {
         QTest::newRow(command) << words(command);
     }
 }
@@ -145,6 +150,11 @@ void tst_CtlUse::misuseIsAnsweredWithAHint_data()
         "check-language ");
     row("check-language a --database b",
         "The command \"check-language\" has no option \"--database\".", "check-language ");
+    row("timeline --from 08:00", "The command \"timeline\" needs the option \"--to MOMENT\".",
+        "timeline ");
+    row("now --at", "The option \"--at\" needs MOMENT.", "now ");
+    row("show --at 08:00", "The command \"show\" has no option \"--at\".", "show ");
+    row("why", "The command \"why\" needs PROGRAM.", "why ");
     row("remove-program", "The command \"remove-program\" needs INDEX.", "remove-program ");
     row("remove-program -1", "There is no option \"-1\".", "remove-program ");
     row("remove-program --json 1", "The command \"remove-program\" has no option \"--json\".",
@@ -241,6 +251,9 @@ void tst_CtlUse::lostOutputIsNoticed_data()
     QTest::newRow("programs") << words("programs");
     QTest::newRow("show") << words("show --json");
     QTest::newRow("check") << words("check");
+    QTest::newRow("now") << words("now");
+    QTest::newRow("timeline") << words("timeline --from 2024-01-01 --to 2024-12-31 --plays");
+    QTest::newRow("run") << words("run");
     QTest::newRow("export") << words("export -");
     QTest::newRow("help") << words("--help");
 }

@@ -6,9 +6,9 @@ using trel::mediadispatch::kNever;
 
 namespace {
 
-LocalTime berlin()
+LocalClock berlin()
 {
-    return LocalTime(QTimeZone("Europe/Berlin"));
+    return LocalClock(QTimeZone("Europe/Berlin"));
 }
 
 /// What was read, as one line: the moment in UTC, and what is to be said about it.
@@ -157,7 +157,7 @@ void tst_MomentText::places()
 void tst_MomentText::dateAlone()
 {
     const auto start = [](const char* date, const char* zone) {
-        return line(readMoment(QLatin1String(date), LocalTime(QTimeZone(zone)), QDate(2024, 6, 15),
+        return line(readMoment(QLatin1String(date), LocalClock(QTimeZone(zone)), QDate(2024, 6, 15),
                                DateAlone::StartOfDay));
     };
     QCOMPARE(start("2024-01-31", "Europe/Berlin"), QStringLiteral("2024-01-30 23:00:00.000"));
@@ -175,7 +175,7 @@ void tst_MomentText::dateAlone()
 
 void tst_MomentText::shownTexts()
 {
-    const LocalTime local = berlin();
+    const LocalClock local = berlin();
     const auto moment = [&](const char* text) {
         return readMoment(QLatin1String(text), local, QDate(), DateAlone::StartOfDay)
             .instant.value();
@@ -194,8 +194,8 @@ void tst_MomentText::shownTexts()
     QCOMPARE(local.text(doubled), QStringLiteral("2024-10-27 02:30:00 +02:00"));
     QCOMPARE(local.text(doubled + 3600000), QStringLiteral("2024-10-27 02:30:00 +01:00"));
     QCOMPARE(local.text(doubled, doubled + 1), QStringLiteral("02:30:00 +02:00"));
-    QCOMPARE(LocalTime::offsetText(-34200), QStringLiteral("-09:30"));
-    QCOMPARE(LocalTime::offsetText(0), QStringLiteral("+00:00"));
+    QCOMPARE(LocalClock::offsetText(-34200), QStringLiteral("-09:30"));
+    QCOMPARE(LocalClock::offsetText(0), QStringLiteral("+00:00"));
 
     QVERIFY(isDated(moment("0001-01-01 12:00")));
     QVERIFY(isDated(moment("9999-12-31 12:00")));
@@ -205,19 +205,19 @@ void tst_MomentText::shownTexts()
 
 void tst_MomentText::daysOfChange()
 {
-    const LocalTime local = berlin();
+    const LocalClock local = berlin();
     for (QDate day(2024, 1, 1); day.year() == 2024; day = day.addDays(1)) {
         const bool isChange = day == QDate(2024, 3, 31) || day == QDate(2024, 10, 27);
         QCOMPARE(local.changesOn(day), isChange);
     }
-    QVERIFY(!LocalTime(QTimeZone::utc()).changesOn(QDate(2024, 3, 31)));
+    QVERIFY(!LocalClock(QTimeZone::utc()).changesOn(QDate(2024, 3, 31)));
 }
 
 /// What was looked up before does not colour what is looked up next.
 void tst_MomentText::stretchesInAnyOrder()
 {
     const QTimeZone zone("Europe/Berlin");
-    const LocalTime local(zone);
+    const LocalClock local(zone);
     constexpr trel::mediadispatch::Instant step = 7 * 60 * 60 * 1000;
     constexpr int count = 20000; // About sixteen years.
     for (int i = 0; i < count; ++i) {
@@ -249,7 +249,7 @@ void tst_MomentText::zonesOfTheirOwnKind()
     QFETCH(QString, text);
     QFETCH(QString, moment);
     const MomentReading reading =
-        readMoment(text, LocalTime(QTimeZone(zone)), QDate(), DateAlone::Refused);
+        readMoment(text, LocalClock(QTimeZone(zone)), QDate(), DateAlone::Refused);
     QCOMPARE(line(reading).section(QLatin1Char('|'), 0, 0), moment);
 }
 

@@ -1,7 +1,6 @@
-#include "LocalTime.h"
+#include "LocalClock.h"
 
 #include <limits>
-#include <utility>
 
 using trel::mediadispatch::Instant;
 
@@ -23,21 +22,21 @@ QDateTime inUtc(Instant moment)
 
 } // namespace
 
-LocalTime::LocalTime(QTimeZone zone)
-    : m_zone(zone.isValid() ? std::move(zone) : QTimeZone::utc())
+LocalClock::LocalClock(const QTimeZone& zone)
+    : m_zone(zone.isValid() ? zone : QTimeZone::utc())
 {}
 
-int LocalTime::offsetAt(Instant moment) const
+int LocalClock::offsetAt(Instant moment) const
 {
     return stretchAt(moment).offset;
 }
 
-QDateTime LocalTime::shownAt(Instant moment) const
+QDateTime LocalClock::shownAt(Instant moment) const
 {
     return inUtc(moment + offsetAt(moment) * kSecond);
 }
 
-bool LocalTime::changesOn(const QDate& day) const
+bool LocalClock::changesOn(const QDate& day) const
 {
     if (day != m_day) {
         const QTime midnight(0, 0);
@@ -48,7 +47,7 @@ bool LocalTime::changesOn(const QDate& day) const
     return m_dayChanges;
 }
 
-LocalTime::Occurrence LocalTime::find(const QDate& date, const QTime& time) const
+LocalClock::Occurrence LocalClock::find(const QDate& date, const QTime& time) const
 {
     const Instant shown = QDateTime(date, time, Qt::UTC).toMSecsSinceEpoch();
     Occurrence found;
@@ -75,27 +74,27 @@ LocalTime::Occurrence LocalTime::find(const QDate& date, const QTime& time) cons
     return found;
 }
 
-QString LocalTime::text(Instant moment) const
+QString LocalClock::text(Instant moment) const
 {
     return isDated(moment)
                ? shownAt(moment).date().toString(Qt::ISODate) + QLatin1Char(' ') + timeText(moment)
                : QStringLiteral("\u2013");
 }
 
-QString LocalTime::text(Instant moment, Instant besides) const
+QString LocalClock::text(Instant moment, Instant besides) const
 {
     const bool isSameDay =
         isDated(moment) && isDated(besides) && shownAt(moment).date() == shownAt(besides).date();
     return isSameDay ? timeText(moment) : text(moment);
 }
 
-QString LocalTime::isoText(Instant moment) const
+QString LocalClock::isoText(Instant moment) const
 {
     return shownAt(moment).toString(QStringLiteral("yyyy-MM-ddThh:mm:ss.zzz")) +
            offsetText(offsetAt(moment));
 }
 
-QString LocalTime::timeText(Instant moment) const
+QString LocalClock::timeText(Instant moment) const
 {
     const QDateTime shown = shownAt(moment);
     const bool isWhole = shown.time().msec() == 0;
@@ -107,7 +106,7 @@ QString LocalTime::timeText(Instant moment) const
     return text;
 }
 
-QString LocalTime::offsetText(int seconds)
+QString LocalClock::offsetText(int seconds)
 {
     constexpr int minute = 60;
     constexpr int hour = 60 * minute;
@@ -118,7 +117,7 @@ QString LocalTime::offsetText(int seconds)
         .arg(size % hour / minute, 2, 10, QLatin1Char('0'));
 }
 
-const LocalTime::Stretch& LocalTime::stretchAt(Instant moment) const
+const LocalClock::Stretch& LocalClock::stretchAt(Instant moment) const
 {
     if (moment < m_stretch.from || moment >= m_stretch.to) {
         m_stretch = lookUp(moment);
@@ -126,13 +125,18 @@ const LocalTime::Stretch& LocalTime::stretchAt(Instant moment) const
     return m_stretch;
 }
 
-LocalTime::Stretch LocalTime::lookUp(Instant moment) const
+LocalClock::Stretch LocalClock::lookUp(Instant moment) const
 {
     if (moment >= m_stretch.from && moment < m_stretch.to) {
         return m_stretch;
     }
     const QTimeZone::OffsetData former = m_zone.previousTransition(inUtc(moment + 1));
-    const QTimeZone::OffsetData next = m_zone.nextTransition(inUtc(moment));
+    QTimeZone::OffsetData next = m_zone.nextTransition(inUtc(moment));
+    if (!next.atUtc.isValid()) {
+        // From the last change in its table a zone does not go on to those that follow by rule;
+        // from the moment behind it, it does.
+        next = m_zone.nextTransition(inUtc(moment + 1));
+    }
     return {former.atUtc.isValid() ? former.atUtc.toMSecsSinceEpoch() : kBeginning,
             next.atUtc.isValid() ? next.atUtc.toMSecsSinceEpoch() : kEnd,
             m_zone.offsetFromUtc(inUtc(moment))};

@@ -9,13 +9,14 @@
 
 /// The local time of a zone. Looks the zone's rules up once for each stretch between two changes of
 /// the clock, so that a long list of moments in order costs next to nothing.
-class LocalTime
+class LocalClock
 {
 public:
     using Instant = trel::mediadispatch::Instant;
 
-    explicit LocalTime(QTimeZone zone);
+    explicit LocalClock(const QTimeZone& zone);
 
+    const QTimeZone& zone() const { return m_zone; }
     /// Seconds that the local clock is ahead of UTC.
     int offsetAt(Instant moment) const;
     /// Date and time that the local clock shows.

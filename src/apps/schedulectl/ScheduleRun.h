@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Command.h"
+#include "Database.h"
+#include "ScreenWords.h"
+#include "StopSignals.h"
+#include "StoreWatch.h"
+
+#include <QEventLoop>
+#include <QObject>
+
+#include <map>
+#include <optional>
+
+class Console;
+
+/// The stored schedule in effect on a terminal: a line for each event on the screen, until a signal
+/// ends it. Saves of other programs are taken over as they come.
+class ScheduleRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The database has to be open, and both have to live on.
+    ScheduleRun(const Database& database, bool json, Console& console);
+
+    /// Runs until a signal comes, or until what is written does not arrive any more.
+    ExitStatus run();
+
+private:
+    void takeOver();
+    void putIntoEffect();
+    void write(const trel::mediadispatch::ScreenState& state);
+    trel::mediadispatch::Instant momentOf(const trel::mediadispatch::ScreenState& state) const;
+
+    const Database& m_database;
+    bool m_json;
+    Console& m_console;
+    QEventLoop m_loop;
+    StopSignals m_signals;
+    StoreWatch m_watch;
+    bool m_isTold = false; ///< That the store cannot be read; once is enough.
+    std::optional<std::map<int, trel::mediadispatch::ProgramIten>> m_programs;
+    std::optional<trel::mediadispatch::ScreenState> m_last;
+};
