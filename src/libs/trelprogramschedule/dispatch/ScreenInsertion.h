@@ -1,7 +1,7 @@
 #pragma once
 
-#include "trelprogramschedule/dispatch/ScreenState.h"
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule/dispatch/ScreenState.h"
 
 #include <vector>
 
@@ -16,9 +16,9 @@ struct ScreenInsertion
     PlayPlan plan;                      ///< What it plays instead, from the first entry on.
     std::vector<struProgInfo> original; ///< The list as the operator saw it before.
 
-    Instant requested = 0;  ///< When it was asked for.
-    Instant begins = 0;     ///< When it takes the screen; later than requested when delayed.
-    Instant ends = kNever;  ///< When the screen goes back to the rules.
+    Instant requested = 0; ///< When it was asked for.
+    Instant begins = 0;    ///< When it takes the screen; later than requested when delayed.
+    Instant ends = kNever; ///< When the screen goes back to the rules.
 
     bool isWaitingAt(Instant moment) const { return requested <= moment && moment < begins; }
     bool hasScreenAt(Instant moment) const { return begins <= moment && moment < ends; }

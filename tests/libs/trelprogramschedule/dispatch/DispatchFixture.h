@@ -71,7 +71,10 @@ public:
             QStringLiteral("1 2024.03.04-2024.03.10 / %1").arg(QLatin1String(plans))));
     }
 
-    QString file(const QString& name) const { return folder.filePath(name + QStringLiteral(".mp4")); }
+    QString file(const QString& name) const
+    {
+        return folder.filePath(name + QStringLiteral(".mp4"));
+    }
     void touch(const QString& name) const
     {
         QFile made(file(name));
