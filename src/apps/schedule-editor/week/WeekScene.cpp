@@ -20,7 +20,7 @@ void drawLine(QPainter& painter, const QPoint& from, const QPoint& to, const QCo
 
 QRectF crisp(const QPainter& painter, const QRectF& rect)
 {
-    const QTransform toDevice = painter.deviceTransform();
+    const QTransform& toDevice = painter.deviceTransform();
     const QRectF device = toDevice.mapRect(rect);
     const QPointF topLeft(std::round(device.left()), std::round(device.top()));
     const QPointF bottomRight(std::round(device.right()), std::round(device.bottom()));
