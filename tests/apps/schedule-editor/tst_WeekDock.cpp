@@ -69,6 +69,17 @@ private:
             QCoreApplication::processEvents();
         }
 
+        /// In a window of its own, large enough for every text.
+        void showMixedPlans(const QString& theme)
+        {
+            themes.select(theme);
+            dock.setFloating(true);
+            dock.resize(1300, 900);
+            showDock();
+            view.setSchedule(scheduleOf(mixedPlans()));
+            view.showNow();
+        }
+
         WeekDock& dock;
         WeekView& view;
     };
@@ -164,12 +175,7 @@ void tst_WeekDock::textsStandOut()
     QFETCH(QString, theme);
     const TestClock clock(wednesdayAtNine());
     Window fixture;
-    fixture.themes.select(theme);
-    fixture.dock.setFloating(true);
-    fixture.dock.resize(1300, 900);
-    fixture.showDock();
-    fixture.view.setSchedule(scheduleOf(mixedPlans()));
-    fixture.view.showNow();
+    fixture.showMixedPlans(theme);
     const QDate wednesday(2024, 3, 6);
     const QImage picture = pictureOf(fixture.view.viewport());
     const QRect plan = fixture.view.visualRect({wednesday, 0});
@@ -206,12 +212,7 @@ void tst_WeekDock::eachPictureHasItsGround()
     QFETCH(QString, theme);
     const TestClock clock(wednesdayAtNine());
     Window fixture;
-    fixture.themes.select(theme);
-    fixture.dock.setFloating(true);
-    fixture.dock.resize(1300, 900);
-    fixture.showDock();
-    fixture.view.setSchedule(scheduleOf(mixedPlans()));
-    fixture.view.showNow();
+    fixture.showMixedPlans(theme);
     const QImage picture = pictureOf(fixture.view.viewport());
     const QRect plan = fixture.view.visualRect({QDate(2024, 3, 6), 0});
     const auto groundAt = [&](double hour) {
