@@ -15,6 +15,10 @@ set_target_properties(schedule-editor schedulectl PROPERTIES
 set_target_properties(trelprogramschedulewidgets PROPERTIES INSTALL_RPATH "$ORIGIN")
 
 install(TARGETS ${libraries} schedule-editor schedulectl EXPORT trelTargets)
+# Beside the library that opens it. Nothing links it; hosts that carry their libraries with them
+# take it from $<TARGET_FILE:trel::trelmedia>.
+install(TARGETS trelmedia EXPORT trelTargets
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/${PROJECT_NAME})
 install(EXPORT trelTargets NAMESPACE trel:: DESTINATION ${package_dir})
 
 install(DIRECTORY src/libs/trelwidgets src/libs/tstranslate
@@ -35,6 +39,9 @@ install(FILES
   src/libs/trelprogramschedule/dispatch/ScreenState.h
   src/libs/trelprogramschedule/dispatch/ScreenTimeline.h
   DESTINATION ${include_dir}/trelprogramschedule/dispatch)
+install(FILES
+  src/libs/trelprogramschedule/media/MediaPicture.h
+  DESTINATION ${include_dir}/trelprogramschedule/media)
 install(DIRECTORY src/libs/trelprogramschedulewidgets/service
   DESTINATION ${include_dir}
   FILES_MATCHING

@@ -1,6 +1,6 @@
 # Fails unless the example host builds against the installed package and behaves when started.
 function(run)
-  cmake_parse_arguments(ARG "" "STATUS;OUTPUT" "" ${ARGN})
+  cmake_parse_arguments(ARG "" "STATUS;OUTPUT;WITHOUT" "" ${ARGN})
   execute_process(COMMAND ${ARG_UNPARSED_ARGUMENTS}
     RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE out)
   if(NOT ARG_STATUS)
@@ -11,6 +11,9 @@ function(run)
   endif()
   if(ARG_OUTPUT AND NOT out MATCHES "${ARG_OUTPUT}")
     message(FATAL_ERROR "${ARG_UNPARSED_ARGUMENTS}: no \"${ARG_OUTPUT}\" in\n${out}")
+  endif()
+  if(ARG_WITHOUT AND out MATCHES "${ARG_WITHOUT}")
+    message(FATAL_ERROR "${ARG_UNPARSED_ARGUMENTS}: \"${ARG_WITHOUT}\" in\n${out}")
   endif()
 endfunction()
 
@@ -25,3 +28,32 @@ run(${WORK}/build/minimal-host STATUS 2 OUTPUT "Usage: minimal-host")
 run(${WORK}/build/minimal-host ${WORK}/no/such/folder/schedule.db STATUS 1 OUTPUT "no/such/folder")
 run(${WORK}/installed/bin/schedulectl --help OUTPUT "schedulectl")
 run(${WORK}/installed/bin/schedule-editor --version OUTPUT "schedule-editor [0-9]")
+
+# The tree can be moved, and media are read by whatever part of it needs them.
+file(RENAME ${WORK}/installed ${WORK}/moved)
+file(GLOB_RECURSE modules ${WORK}/moved/trelmedia.so)
+list(LENGTH modules count)
+if(NOT count EQUAL 1)
+  message(FATAL_ERROR "One module for media files is expected, and not: ${modules}")
+endif()
+get_filename_component(library_dir ${modules}/../.. ABSOLUTE)
+set(import ${WORK}/moved/bin/schedulectl import --database ${WORK}/media.db)
+run(${import} ${MEDIA}/Opening.mp4 OUTPUT "Opening +video +0:00:12.000")
+
+# None of the programs brings the libraries for media files along; the module does.
+foreach(program IN ITEMS
+    bin/schedule-editor bin/schedulectl ${library_dir}/libtrelprogramschedule.so)
+  cmake_path(ABSOLUTE_PATH program BASE_DIRECTORY ${WORK}/moved)
+  run(ldd ${program} OUTPUT libQt5Core WITHOUT "lib(av|sw)[a-z]+\\.so")
+endforeach()
+run(ldd ${modules} OUTPUT "libavformat.*libswscale|libswscale.*libavformat")
+
+# Without the module, or with one that is broken, the operator learns which file it is, and
+# everything else goes on.
+file(REMOVE ${modules})
+run(${import} ${MEDIA}/Weather.mp4 udp://@239.0.0.1:1234 STATUS 1
+  OUTPUT "Weather.mp4: Media cannot be read, .* missing: ${modules}\n.*live")
+file(WRITE ${modules} "no module")
+run(${import} ${MEDIA}/Weather.mp4 udp://@239.0.0.1:1235 STATUS 1
+  OUTPUT "Weather.mp4: Media cannot be read, .* cannot be loaded: ${modules}: .*live")
+run(${WORK}/moved/bin/schedulectl programs --database ${WORK}/media.db OUTPUT "Opening")

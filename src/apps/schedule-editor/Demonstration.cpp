@@ -84,8 +84,13 @@ QString fillWithDemonstration(const QString& folder)
         return Demonstration::tr(
             "The demonstration's media could not be copied beside the database.");
     }
+    const ImportScan scan = scanMedia({media});
+    if (!scan.refusals.empty()) {
+        return Demonstration::tr("The demonstration could not be read: %1: %2")
+            .arg(scan.refusals.front().path, scan.refusals.front().reason);
+    }
     ScheduleHost& host = ScheduleHost::instance();
-    if (const ImportResult result = host.addPrograms(scanMedia({media}).sources); !result.store) {
+    if (const ImportResult result = host.addPrograms(scan.sources); !result.store) {
         return result.store.message;
     }
     moveTo(Clock::current().today(), schedule.tasks);

@@ -1,6 +1,6 @@
 #include "ProgramImporter.h"
 
-#include "MediaProbe.h"
+#include "media/MediaModule.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -8,6 +8,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <optional>
 
 namespace trel::mediadispatch {
 
@@ -150,13 +151,31 @@ QString shownName(const QFileInfo& info)
     return name.isEmpty() ? info.fileName() : name;
 }
 
-void scanFile(const Candidate& candidate, ImportScan& scan)
+/// The module for media files, opened with the first file of a scan and asked for once in it: where
+/// it cannot be opened, trying again for each of many files would only take its time.
+class Probe
+{
+public:
+    MediaFacts facts(const QString& path, bool isNamedAsMedia)
+    {
+        if (!m_opened) {
+            m_opened = MediaModule::instance().open();
+        }
+        return m_opened->reader == nullptr ? MediaFacts{ProgramKind::Other, 0.0, m_opened->problem}
+                                           : m_opened->reader->facts(path, isNamedAsMedia);
+    }
+
+private:
+    std::optional<MediaModule::Opened> m_opened;
+};
+
+void scanFile(const Candidate& candidate, Probe& probe, ImportScan& scan)
 {
     const QFileInfo info(candidate.path);
     const bool isMediaByName = isNamedAsMedia(candidate.path);
     QString reason = obstacle(info);
     if (reason.isEmpty()) {
-        const MediaFacts facts = probeMedia(candidate.path, isMediaByName);
+        const MediaFacts facts = probe.facts(candidate.path, isMediaByName);
         if (facts.reason.isEmpty()) {
             scan.sources.push_back({shownName(info), candidate.path, facts.durationMs, facts.kind});
             return;
@@ -200,6 +219,7 @@ ImportScan scanMedia(const QStringList& paths, const ImportProgress& progress)
 {
     ImportScan scan;
     const std::vector<Candidate> found = candidates(paths);
+    Probe probe;
     int done = 0;
     for (const Candidate& candidate : found) {
         if (progress && !progress(done, static_cast<int>(found.size()), candidate.path)) {
@@ -209,7 +229,7 @@ ImportScan scanMedia(const QStringList& paths, const ImportProgress& progress)
         if (isAddress(candidate.path)) {
             scanAddress(candidate.path, scan);
         } else {
-            scanFile(candidate, scan);
+            scanFile(candidate, probe, scan);
         }
         ++done;
     }

@@ -1,18 +1,12 @@
 #include "MediaProbe.h"
 
+#include "MediaHandles.h"
+
 #include <QFile>
 
 #include <algorithm>
 #include <cstring>
-#include <memory>
-#include <mutex>
 #include <vector>
-
-extern "C" {
-#include <libavformat/avformat.h>
-#include <libavutil/dict.h>
-#include <libavutil/log.h>
-}
 
 namespace trel::mediadispatch {
 
@@ -22,22 +16,7 @@ namespace {
 constexpr char kProbeBytes[] = "10000000";
 constexpr char kProbeTime[] = "10000000";
 
-struct CloseInput
-{
-    void operator()(AVFormatContext* context) const { avformat_close_input(&context); }
-};
-using Input = std::unique_ptr<AVFormatContext, CloseInput>;
-
-struct FreePacket
-{
-    void operator()(AVPacket* packet) const { av_packet_free(&packet); }
-};
-
-void keepQuiet()
-{
-    static std::once_flag once;
-    std::call_once(once, [] { av_log_set_level(AV_LOG_QUIET); });
-}
+using Input = OwnedMedia<AVFormatContext>;
 
 Input openInput(const QString& path)
 {
@@ -107,7 +86,7 @@ double milliseconds(std::int64_t count, AVRational unit)
 double measuredLength(AVFormatContext& context)
 {
     std::vector<std::int64_t> lengths(context.nb_streams, 0);
-    const std::unique_ptr<AVPacket, FreePacket> packet(av_packet_alloc());
+    const OwnedMedia<AVPacket> packet(av_packet_alloc());
     while (av_read_frame(&context, packet.get()) >= 0) {
         const auto stream = static_cast<std::size_t>(packet->stream_index);
         if (stream < lengths.size() && packet->duration > 0) {
@@ -140,7 +119,6 @@ MediaFacts refused(const char* reason)
 
 MediaFacts probeMedia(const QString& path, bool isNamedAsMedia)
 {
-    keepQuiet();
     MediaFacts facts;
     if (isPictureBrand(path)) {
         facts.kind = ProgramKind::Image;
