@@ -97,6 +97,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
 
     connect(&ScheduleHost::instance(), &ScheduleHost::catalogueChanged, this,
             &EditorWindow::updateCatalogue);
+    ScheduleHost::instance().watchFiles();
     connect(&languages, &Languages::changed, this, &EditorWindow::updateTitle);
     updateCatalogue();
 }

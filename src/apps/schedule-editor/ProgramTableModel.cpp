@@ -6,6 +6,9 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+#include <algorithm>
+#include <utility>
+
 using namespace trel::mediadispatch;
 
 namespace {
@@ -34,6 +37,14 @@ QString shownPath(const QString& path)
 {
     const QChar leftToRightMark(0x200E);
     return QGuiApplication::isRightToLeft() ? leftToRightMark + path : path;
+}
+
+bool haveSameIndexes(const std::vector<ProgramIten>& a, const std::vector<ProgramIten>& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](const ProgramIten& one, const ProgramIten& other) {
+                          return one.progIndex == other.progIndex;
+                      });
 }
 
 bool hasLength(const ProgramIten& program)
@@ -143,11 +154,20 @@ QVariant ProgramTableModel::headerData(int section, Qt::Orientation orientation,
 
 void ProgramTableModel::reload()
 {
-    beginResetModel();
-    m_programs.clear();
-    for (const auto& [index, program] : scheduleManage::getInstance().getPrograms()) {
-        m_programs.push_back(program);
+    std::vector<ProgramIten> programs;
+    for (auto& [index, program] : scheduleManage::getInstance().getPrograms()) {
+        programs.push_back(std::move(program));
     }
+    if (haveSameIndexes(programs, m_programs)) {
+        // The operator keeps the selection and the place in the table.
+        m_programs = std::move(programs);
+        if (!m_programs.empty()) {
+            emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+        }
+        return;
+    }
+    beginResetModel();
+    m_programs = std::move(programs);
     endResetModel();
 }
 

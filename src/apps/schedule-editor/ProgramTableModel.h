@@ -27,7 +27,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
 
-    /// Takes over the catalogue as it stands in the service now.
+    /// Takes over the catalogue as it stands in the service now. Selections stay where the programs
+    /// are the same and only tell something else of themselves, such as that their file has gone.
     void reload();
     /// Shows captions and kinds in the language in use now; rows and selections stay.
     void retranslate();

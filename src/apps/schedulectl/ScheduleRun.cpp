@@ -42,6 +42,7 @@ ExitStatus ScheduleRun::run()
         m_console.tell(QStringLiteral("The system does not tell of changes of files; what other "
                                       "programs save will not be taken over."));
     }
+    m_database.host().watchFiles();
     // What was saved before the watch began is not missed.
     m_database.tasks();
     putIntoEffect();

@@ -116,6 +116,31 @@ bool ProgramCatalogue::checkFiles()
     return changed;
 }
 
+ProgramFiles ProgramCatalogue::files() const
+{
+    ProgramFiles files;
+    files.reserve(m_programs.size());
+    for (const auto& [index, program] : m_programs) {
+        if (program.kind != ProgramKind::Live) {
+            files.push_back({index, QString::fromStdString(program.mediaPath), !program.isNull});
+        }
+    }
+    return files;
+}
+
+bool ProgramCatalogue::takeFiles(const ProgramFiles& files)
+{
+    bool changed = false;
+    for (const ProgramFile& file : files) {
+        const auto found = m_programs.find(file.progIndex);
+        if (found != m_programs.end()) {
+            changed = changed || found->second.isNull == file.isThere;
+            found->second.isNull = !file.isThere;
+        }
+    }
+    return changed;
+}
+
 CatalogueChange catalogueChange(const ProgramMap& before, const ProgramMap& after)
 {
     CatalogueChange change;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ProgramFileScan.h"
 #include "service/ScheduleRecords.h"
 
 #include <map>
@@ -50,6 +51,10 @@ public:
     /// Makes the programs null whose files are not there, and only those. Live sources are always
     /// there. True when a program came or went.
     bool checkFiles();
+    /// The files that there should be, and which of them there are.
+    ProgramFiles files() const;
+    /// Takes note that files have come or gone. True when a program came or went.
+    bool takeFiles(const ProgramFiles& files);
 
 private:
     ProgramMap m_programs;

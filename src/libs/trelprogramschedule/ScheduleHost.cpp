@@ -76,6 +76,11 @@ StoreResult ScheduleHost::reload()
     return service().reload();
 }
 
+void ScheduleHost::watchFiles(bool isOn)
+{
+    service().watchFiles(isOn);
+}
+
 ImportResult ScheduleHost::addPrograms(const std::vector<MediaSource>& sources)
 {
     return service().addPrograms(sources);

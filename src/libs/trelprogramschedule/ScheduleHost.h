@@ -105,6 +105,12 @@ public:
     /// Reads catalogue and stored set again. The working set stays.
     StoreResult reload();
 
+    /// Notices from now on when files of programs come or go; without this they are looked at when
+    /// the store is opened, when the list is refreshed and on reload. What happens to a local file
+    /// is noticed at once, what happens on a server or to a whole file system within seconds. Off
+    /// at first and, since it needs a QCoreApplication, when that has gone.
+    void watchFiles(bool isOn = true);
+
     /// Puts sources into the catalogue in one transaction: a path that is known updates its
     /// program and keeps the index, any other gets the next index, which was never given out. All
     /// of them or, on failure, none.

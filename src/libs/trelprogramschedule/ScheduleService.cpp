@@ -14,6 +14,7 @@ constexpr int kAnyProgram = -1;
 
 void closeAtEnd()
 {
+    ScheduleService::instance().watchFiles(false);
     ScheduleService::instance().close();
 }
 
@@ -57,6 +58,7 @@ StoreResult ScheduleService::open(const QString& path, ScheduleHost::OpenMode mo
         return result;
     }
     m_state.tasks.resetWorking();
+    renewWatch();
     return result;
 }
 
@@ -69,6 +71,7 @@ void ScheduleService::close()
     m_revision = StoreRevision();
     m_isMarkingDue = false;
     m_state.inEffect.stop();
+    renewWatch();
 }
 
 void ScheduleService::start()
@@ -103,9 +106,14 @@ void ScheduleService::takeCatalogue(StoreContents& contents)
 
 void ScheduleService::announce(const CatalogueChange& change, int progIndex)
 {
-    if (!change.any) {
-        return;
+    if (change.any) {
+        renewWatch();
+        tellEverybody(change, progIndex);
     }
+}
+
+void ScheduleService::tellEverybody(const CatalogueChange& change, int progIndex)
+{
     m_state.inEffect.updatePrograms();
     scheduleManage& manager = scheduleManage::getInstance();
     emit manager.sigProgIndexChanged();
@@ -196,6 +204,33 @@ void ScheduleService::refresh()
         read(StorePart::Schedule);
     } else {
         markLostEntries();
+    }
+}
+
+void ScheduleService::watchFiles(bool isOn)
+{
+    if (!isOn) {
+        m_fileWatch.reset();
+        return;
+    }
+    if (m_fileWatch) {
+        return;
+    }
+    closeWithApplication();
+    m_fileWatch = std::make_unique<ProgramFileWatch>([this] { return m_state.catalogue.files(); });
+    QObject::connect(m_fileWatch.get(), &ProgramFileWatch::found, m_fileWatch.get(),
+                     [this](const ProgramFiles& files) {
+                         if (m_state.catalogue.takeFiles(files)) {
+                             tellEverybody({true, false}, kAnyProgram);
+                         }
+                     });
+    renewWatch();
+}
+
+void ScheduleService::renewWatch()
+{
+    if (m_fileWatch) {
+        m_fileWatch->renew();
     }
 }
 

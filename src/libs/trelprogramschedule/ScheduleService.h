@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ProgramCatalogue.h"
+#include "ProgramFileWatch.h"
 #include "ScheduleDatabase.h"
 #include "ScheduleHost.h"
 #include "ScheduleInEffect.h"
@@ -10,6 +11,7 @@
 #include <QPointer>
 
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -54,6 +56,9 @@ public:
     /// What cannot be read stays as it was.
     void refresh();
 
+    /// See ScheduleHost::watchFiles.
+    void watchFiles(bool isOn);
+
     /// Tells, once the event loop has its turn, that the working set is another one. However often
     /// it is called until then, what comes of it comes once.
     void noteWorkingSet();
@@ -69,8 +74,11 @@ private:
     /// Reads the parts that are asked for into the state.
     StoreResult read(StorePart part);
     void takeCatalogue(StoreContents& contents);
-    /// Tells everybody how the catalogue has changed.
+    /// Tells everybody how the catalogue has changed, and has other files watched.
     void announce(const CatalogueChange& change, int progIndex);
+    void tellEverybody(const CatalogueChange& change, int progIndex);
+    /// Lets the watch know that the files, or what is known of them, are others.
+    void renewWatch();
     /// Reads the catalogue and tells how it has changed.
     StoreResult readCatalogue(int progIndex);
     /// Reads the programs that have just been written; only these, where nobody else wrote.
@@ -85,6 +93,7 @@ private:
     StoreRevision m_revision; ///< What has been read of the store.
     /// Since entries were last marked, programs or stored tasks have changed.
     bool m_isMarkingDue = false;
+    std::unique_ptr<ProgramFileWatch> m_fileWatch; ///< Only while files are watched.
     /// The application whose event loop is still to tell of the working set.
     QPointer<QCoreApplication> m_noticeDue;
 };

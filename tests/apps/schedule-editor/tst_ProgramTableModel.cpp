@@ -84,19 +84,37 @@ void tst_ProgramTableModel::followsTheModelRules()
     QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     QVERIFY(resets.isValid());
 
-    model.reload();
-    model.reload();
+    QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
+    QVERIFY(changes.isValid());
 
+    model.reload();
+    QCOMPARE(resets.count(), 1);
+    QCOMPARE(changes.count(), 0);
+    model.reload();
+    QCOMPARE(resets.count(), 1);
+    QCOMPARE(changes.count(), 1);
+    QVERIFY(m_host.removeProgram(2));
+    model.reload();
     QCOMPARE(resets.count(), 2);
+    QCOMPARE(row(model, 1), QStringLiteral("3|card|Image|"));
+    m_host.close();
+    model.reload();
+    model.reload();
+    QCOMPARE(model.rowCount(), 0);
+    QCOMPARE(changes.count(), 1);
 }
 
 void tst_ProgramTableModel::aFileThatHasGoneIsMarked()
 {
-    QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("film"))));
-    QVERIFY(m_host.reload());
     ProgramTableModel model;
     model.reload();
+    QItemSelectionModel selection(&model);
+    selection.select(model.index(2, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("film"))));
+    QVERIFY(m_host.reload());
+    model.reload();
 
+    QVERIFY(selection.isRowSelected(2, {}));
     QVERIFY(model.index(0, 0).data(ProgramTableModel::MissingRole).toBool());
     QVERIFY(!model.index(1, 0).data(ProgramTableModel::MissingRole).toBool());
     QVERIFY(model.index(0, 1).data(Qt::ToolTipRole).toString().contains(QStringLiteral("gone")));

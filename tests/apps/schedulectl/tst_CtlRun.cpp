@@ -19,6 +19,7 @@ private slots:
     void endsCleanlyOnASignal_data();
     void endsCleanlyOnASignal();
     void tellsEventsInOrder();
+    void noticesFilesThatComeAndGo();
     void takesOverWhatOthersSave();
     void otherWritesChangeNothing();
 
@@ -136,6 +137,27 @@ void tst_CtlRun::tellsEventsInOrder()
     run.process.terminate();
     QVERIFY(run.process.waitForFinished(kPatience));
     QCOMPARE(run.process.exitCode(), 0);
+}
+
+void tst_CtlRun::noticesFilesThatComeAndGo()
+{
+    m_fixture->writeClip(QStringLiteral("media/a.wav"), 60000);
+    import(QStringLiteral("media/a.wav"));
+    m_fixture->store(allDay({{3, false, "a", 1}}));
+    Run run;
+    m_fixture->start(run.process, words("run --json"));
+    QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(3));
+    for (int round = 0; round < 2; ++round) {
+        QVERIFY(QDir(m_fixture->path(QStringLiteral("media"))).removeRecursively());
+        QCOMPARE(run.event()[QStringLiteral("reason")].toString(),
+                 QStringLiteral("planHasNothing"));
+        m_fixture->writeClip(QStringLiteral("media/a.wav"), 60000);
+        QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(3));
+    }
+    run.process.terminate();
+    QVERIFY(run.process.waitForFinished(kPatience));
+    QCOMPARE(run.process.exitCode(), 0);
+    QCOMPARE(run.process.readAllStandardError(), QByteArray());
 }
 
 void tst_CtlRun::takesOverWhatOthersSave()
