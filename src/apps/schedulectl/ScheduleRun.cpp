@@ -1,6 +1,7 @@
 #include "ScheduleRun.h"
 
 #include "Console.h"
+#include "DisplayText.h"
 #include "ScheduleReport.h"
 #include "service/Clock.h"
 #include "service/scheduleManage.h"
@@ -14,6 +15,11 @@
 using namespace trel::mediadispatch;
 
 namespace {
+
+/// How long another program is left alone that is about to commit.
+constexpr std::chrono::milliseconds kCommitPause{50};
+/// How long a file is left alone that cannot be read.
+constexpr std::chrono::seconds kLossPause{2};
 
 /// What a line tells; the position in the program goes on without an event.
 auto toldOf(const ScreenState& state)
@@ -33,6 +39,8 @@ ScheduleRun::ScheduleRun(const Database& database, bool json, Console& console)
 {
     connect(&m_signals, &StopSignals::stopped, &m_loop, &QEventLoop::quit);
     connect(&m_watch, &StoreWatch::written, this, &ScheduleRun::takeOver);
+    m_nextLook.setSingleShot(true);
+    connect(&m_nextLook, &QTimer::timeout, this, &ScheduleRun::takeOver);
     connect(&database.host().dispatch(), &ScreenDispatch::changed, this, &ScheduleRun::write);
 }
 
@@ -55,27 +63,49 @@ ExitStatus ScheduleRun::run()
 
 void ScheduleRun::takeOver()
 {
-    m_programs.reset();
-    bool isAnother = false;
-    const auto connection = connect(&m_database.host(), &ScheduleHost::storedSetChanged, this,
-                                    [&isAnother] { isAnother = true; });
-    const StoreResult result = m_database.host().reload();
-    disconnect(connection);
-    if (!result) {
-        constexpr std::chrono::seconds pause{2};
-        if (!m_isTold) {
-            m_console.tell(result.message);
-        }
-        m_isTold = true;
-        QTimer::singleShot(pause, this, &ScheduleRun::takeOver);
+    ScheduleHost& host = m_database.host();
+    if (host.isBeingWritten()) {
+        m_nextLook.start(kCommitPause);
         return;
     }
-    m_isTold = false;
+    m_programs.reset();
+    bool isAnother = false;
+    const auto connection =
+        connect(&host, &ScheduleHost::storedSetChanged, this, [&isAnother] { isAnother = true; });
+    StoreResult result = host.reload();
+    if (result && m_watch.renew()) {
+        result = host.reload();
+    }
+    disconnect(connection);
+    if (result) {
+        tellOfReturn();
+    } else {
+        tellOfLoss(result);
+        m_nextLook.start(kLossPause);
+    }
     if (isAnother) {
         m_console.tell(QStringLiteral("Another program has saved the schedule; %1 in effect.")
                            .arg(sizeText(m_database.tasks())));
         putIntoEffect();
     }
+}
+
+void ScheduleRun::tellOfLoss(const StoreResult& result)
+{
+    if (result.message != m_loss) {
+        m_console.tell(result.message +
+                       QStringLiteral(" What was read before goes on; the file is tried again "
+                                      "every two seconds."));
+    }
+    m_loss = result.message;
+}
+
+void ScheduleRun::tellOfReturn()
+{
+    if (!m_loss.isEmpty()) {
+        m_console.tell(QStringLiteral("%1 is read again.").arg(printable(m_database.path())));
+    }
+    m_loss.clear();
 }
 
 void ScheduleRun::putIntoEffect()

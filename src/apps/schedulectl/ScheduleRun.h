@@ -8,6 +8,8 @@
 
 #include <QEventLoop>
 #include <QObject>
+#include <QString>
+#include <QTimer>
 
 #include <map>
 #include <optional>
@@ -29,6 +31,8 @@ public:
 
 private:
     void takeOver();
+    void tellOfLoss(const trel::mediadispatch::StoreResult& result);
+    void tellOfReturn();
     void putIntoEffect();
     void write(const trel::mediadispatch::ScreenState& state);
     trel::mediadispatch::Instant momentOf(const trel::mediadispatch::ScreenState& state) const;
@@ -39,7 +43,8 @@ private:
     QEventLoop m_loop;
     StopSignals m_signals;
     StoreWatch m_watch;
-    bool m_isTold = false; ///< That the store cannot be read; once is enough.
+    QTimer m_nextLook; ///< At a store that cannot be read just now.
+    QString m_loss;    ///< Why the store cannot be read; told once, and empty when it can.
     std::optional<std::map<int, trel::mediadispatch::ProgramIten>> m_programs;
     std::optional<trel::mediadispatch::ScreenState> m_last;
 };

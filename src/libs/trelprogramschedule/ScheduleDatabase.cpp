@@ -51,7 +51,7 @@ StoreResult ScheduleDatabase::open(const QString& path, ScheduleHost::OpenMode m
 {
     close();
     m_file = StoreFile(path);
-    StoreResult result = m_file.judge(mode, Schema::kApplicationId, Schema::newestVersion());
+    StoreResult result = judge(mode);
     if (result && m_file.isVacant()) {
         result = create();
     }
@@ -61,7 +61,15 @@ StoreResult ScheduleDatabase::open(const QString& path, ScheduleHost::OpenMode m
     if (result) {
         result = connect();
     }
+    if (!result) {
+        close();
+    }
     return result;
+}
+
+StoreResult ScheduleDatabase::judge(ScheduleHost::OpenMode mode) const
+{
+    return m_file.judge(mode, Schema::kApplicationId, Schema::newestVersion());
 }
 
 StoreResult ScheduleDatabase::create() const
@@ -121,20 +129,71 @@ StoreResult ScheduleDatabase::connect()
         m_connection = std::move(connection);
     });
     m_identity = m_file.identity();
+    m_logIdentity = m_file.logIdentity();
     return result;
 }
 
 void ScheduleDatabase::close()
 {
     m_connection.reset();
+    m_file = StoreFile();
+}
+
+bool ScheduleDatabase::isInPlace() const
+{
+    return isOpen() && m_file.identity() == m_identity;
+}
+
+StoreResult ScheduleDatabase::reopen()
+{
+    if (!m_file.isThere()) {
+        return refusal(StoreProblem::FileMissing, m_file.path());
+    }
+    StoreResult result = judge(ScheduleHost::OpenMode::MustExist);
+    if (result && isOpen()) {
+        result = leave();
+    }
+    if (result) {
+        result = probe();
+    }
+    return result ? connect() : result;
+}
+
+StoreResult ScheduleDatabase::leave()
+{
+    // The former file may have been moved elsewhere: what its log holds goes along. Left here, the
+    // log would be replayed into the file that has taken its place.
+    StoreResult result = attempt([this] {
+        const StoreHaste haste(*m_connection);
+        if (m_connection->value(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)")).toInt() != 0) {
+            throw StoreError{refusal(StoreProblem::Locked, m_file.path())};
+        }
+    });
+    if (result) {
+        m_connection.reset();
+        m_file.removeLog(m_logIdentity);
+    }
+    return result;
+}
+
+bool ScheduleDatabase::isBeingWritten() const
+{
+    if (!isOpen()) {
+        return false;
+    }
+    const StoreResult trial = attempt([this] {
+        const StoreHaste haste(*m_connection);
+        const StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
+    });
+    return trial.problem == StoreProblem::Locked;
 }
 
 StoreResult ScheduleDatabase::judgeInPlace() const
 {
-    if (!isOpen()) {
+    if (path().isEmpty()) {
         return refusal(StoreProblem::NotOpen, QString());
     }
-    if (m_file.identity() != m_identity) {
+    if (!isInPlace()) {
         // The database would go on writing into a file that nobody will find again.
         return refusal(StoreProblem::Other, m_file.path(),
                        QStringLiteral("it was removed or replaced since it was opened"));

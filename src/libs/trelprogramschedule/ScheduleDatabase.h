@@ -60,7 +60,16 @@ public:
     void close();
     bool isOpen() const { return m_connection != nullptr; }
     /// Where the file is, behind any links; empty when none is open.
-    QString path() const { return isOpen() ? m_file.path() : QString(); }
+    QString path() const { return m_file.path(); }
+
+    /// Whether the file that was opened still stands at its path.
+    bool isInPlace() const;
+    /// Opens the file that has taken the place of the one that was opened. Where that is refused it
+    /// can be tried again; all other calls may be refused until then.
+    StoreResult reopen();
+    /// Another program is about to commit. What it told the system of up to now can only be read
+    /// when it has.
+    bool isBeingWritten() const;
 
     StoreResult readRevision(StoreRevision& revision) const;
     /// Reads the parts and the revision that they have, all from one state of the store.
@@ -84,13 +93,16 @@ private:
     class TaskWriter;
     class Catalogue;
 
+    StoreResult judge(ScheduleHost::OpenMode mode) const;
     StoreResult create() const;
     StoreResult probe() const;
     StoreResult connect();
+    StoreResult leave();
     StoreResult judgeInPlace() const;
 
     StoreFile m_file;
     StoreFile::Identity m_identity;
+    StoreFile::Identity m_logIdentity;
     std::unique_ptr<StoreConnection> m_connection;
 };
 

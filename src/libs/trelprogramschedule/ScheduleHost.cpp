@@ -47,7 +47,7 @@ void ScheduleHost::close()
 
 bool ScheduleHost::isOpen() const
 {
-    return service().database().isOpen();
+    return !path().isEmpty();
 }
 
 QString ScheduleHost::path() const
@@ -74,6 +74,11 @@ StoreResult ScheduleHost::replaceSchedule(const std::map<int, PlayTask>& tasks)
 StoreResult ScheduleHost::reload()
 {
     return service().reload();
+}
+
+bool ScheduleHost::isBeingWritten() const
+{
+    return service().database().isBeingWritten();
 }
 
 void ScheduleHost::watchFiles(bool isOn)

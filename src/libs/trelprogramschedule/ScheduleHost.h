@@ -102,8 +102,14 @@ public:
     /// Replaces the stored set, and with it the working set, in one transaction. Tasks are filed
     /// under their own ids. Refused like a save.
     StoreResult replaceSchedule(const std::map<int, PlayTask>& tasks);
-    /// Reads catalogue and stored set again. The working set stays.
+    /// Reads catalogue and stored set again. The working set stays. A file that was put in the
+    /// place of the one that was opened is opened in its stead; on failure everything that was read
+    /// stays, and reload can be tried again.
     StoreResult reload();
+    /// True while another program is about to commit: only when it has, a reload reads what it
+    /// wrote. For hosts that watch the file, since the system tells of the writing and not of the
+    /// commit.
+    bool isBeingWritten() const;
 
     /// Notices from now on when files of programs come or go; without this they are looked at when
     /// the store is opened, when the list is refreshed and on reload. What happens to a local file

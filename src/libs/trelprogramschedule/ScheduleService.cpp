@@ -177,7 +177,13 @@ StoreResult ScheduleService::reload()
 {
     const ProgramMap programs = m_state.catalogue.programs();
     const TaskMap tasks = m_state.tasks.stored();
-    StoreResult result = read(StorePart::Both);
+    StoreResult result;
+    if (!m_database.path().isEmpty() && !m_database.isInPlace()) {
+        result = m_database.reopen();
+    }
+    if (result) {
+        result = read(StorePart::Both);
+    }
     if (!result) {
         return result;
     }

@@ -117,6 +117,22 @@ void StoreConnection::refuse(const QSqlQuery& query) const
     throw StoreError{refusal(query.lastError(), m_path)};
 }
 
+void StoreConnection::setPatience(int milliseconds) const
+{
+    QSqlQuery(m_database).exec(QStringLiteral("PRAGMA busy_timeout = %1").arg(milliseconds));
+}
+
+StoreHaste::StoreHaste(const StoreConnection& connection)
+    : m_connection(connection)
+{
+    m_connection.setPatience(0);
+}
+
+StoreHaste::~StoreHaste()
+{
+    m_connection.setPatience(kBusyTimeout);
+}
+
 StoreTransaction::StoreTransaction(const StoreConnection& connection, Purpose purpose)
     : m_connection(connection)
 {

@@ -45,11 +45,26 @@ public:
 private:
     [[noreturn]] void refuse(const QSqlQuery& query) const;
 
+    friend class StoreHaste;
     friend class StoreTransaction;
+
+    void setPatience(int milliseconds) const;
 
     QString m_path;
     QString m_name;
     QSqlDatabase m_database;
+};
+
+/// While it lives, the connection waits for no other program and refuses with Locked at once.
+class StoreHaste
+{
+public:
+    explicit StoreHaste(const StoreConnection& connection);
+    ~StoreHaste();
+    Q_DISABLE_COPY(StoreHaste)
+
+private:
+    const StoreConnection& m_connection;
 };
 
 /// A transaction that is undone unless it is committed.

@@ -39,6 +39,15 @@ bool isMarkedReadOnly(const QFileInfo& info)
     return !(info.permissions() & stored) || !info.isWritable();
 }
 
+StoreFile::Identity identityOf(const QString& path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0) {
+        return {};
+    }
+    return {status.st_dev, status.st_ino};
+}
+
 qint64 headerNumber(const QByteArray& header, int offset)
 {
     return qFromBigEndian<quint32>(header.constData() + offset);
@@ -49,6 +58,11 @@ qint64 headerNumber(const QByteArray& header, int offset)
 StoreFile::StoreFile(const QString& path)
     : m_path(resolved(path))
 {}
+
+bool StoreFile::isThere() const
+{
+    return QFileInfo::exists(m_path);
+}
 
 bool StoreFile::isVacant() const
 {
@@ -130,6 +144,13 @@ void StoreFile::removeLogIndex() const
     QFile::remove(logIndexPath());
 }
 
+void StoreFile::removeLog(const Identity& log) const
+{
+    if (logIdentity() == log && QFile::remove(logPath())) {
+        removeLogIndex();
+    }
+}
+
 bool StoreFile::fillFrom(const QString& finished) const
 {
     if (!QFileInfo::exists(m_path)) {
@@ -142,11 +163,12 @@ bool StoreFile::fillFrom(const QString& finished) const
 
 StoreFile::Identity StoreFile::identity() const
 {
-    struct stat status = {};
-    if (::stat(QFile::encodeName(m_path).constData(), &status) != 0) {
-        return {};
-    }
-    return {status.st_dev, status.st_ino};
+    return identityOf(m_path);
+}
+
+StoreFile::Identity StoreFile::logIdentity() const
+{
+    return identityOf(logPath());
 }
 
 QString StoreFile::logPath() const

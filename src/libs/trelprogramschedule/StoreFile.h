@@ -15,12 +15,16 @@ namespace trel::mediadispatch {
 class StoreFile
 {
 public:
+    /// Device and number of a file.
+    using Identity = std::pair<std::uint64_t, std::uint64_t>;
+
     StoreFile() = default;
     /// Follows links, since the database keeps its log beside the file that a link leads to.
     explicit StoreFile(const QString& path);
 
     QString path() const { return m_path; }
 
+    bool isThere() const;
     /// There is no file yet, or one that holds nothing.
     bool isVacant() const;
     /// Whether a store can be made here, or what is here can be opened as one of this program's
@@ -37,12 +41,17 @@ public:
     /// Takes the index of the log away; only for one that this program made.
     void removeLogIndex() const;
 
+    /// Takes the log away, with its index, if it still is the one that is given; only for one whose
+    /// database stands here no more.
+    void removeLog(const Identity& log) const;
+
     /// Puts a finished database in the place of a vacant file. False when that is not possible.
     bool fillFrom(const QString& finished) const;
 
     /// Device and number of the file that now stands at the path; zeros when there is none.
-    using Identity = std::pair<std::uint64_t, std::uint64_t>;
     Identity identity() const;
+    /// The same of the log beside it.
+    Identity logIdentity() const;
 
 private:
     StoreResult judgeVacant(ScheduleHost::OpenMode mode) const;

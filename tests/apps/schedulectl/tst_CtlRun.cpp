@@ -5,6 +5,7 @@
 #include <QtTest>
 
 #include <csignal>
+#include <cstdio>
 
 using namespace trel::mediadispatch;
 
@@ -22,6 +23,8 @@ private slots:
     void noticesFilesThatComeAndGo();
     void takesOverWhatOthersSave();
     void otherWritesChangeNothing();
+    void playsOnWhileTheDatabaseIsGone();
+    void takesOverAnotherDatabase();
 
 private:
     void import(const QString& source) const;
@@ -56,7 +59,20 @@ struct Run
         return process.readLine();
     }
 
+    /// Reads the standard error up to a line that ends so.
+    bool hasTold(const QString& end)
+    {
+        const auto isTold = [&] {
+            m_told += QString::fromUtf8(process.readAllStandardError());
+            return m_told.contains(end + QLatin1Char('\n'));
+        };
+        return QTest::qWaitFor(isTold, kPatience);
+    }
+
     QJsonObject event() { return QJsonDocument::fromJson(line()).object(); }
+
+private:
+    QString m_told;
 };
 
 /// Plays all day on every day there is.
@@ -188,6 +204,57 @@ void tst_CtlRun::otherWritesChangeNothing()
     m_fixture->store(allDay({{1, false, "first", 1}}));
     m_fixture->store(allDay({{3, false, "third", 1}}));
     QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(3));
+}
+
+void tst_CtlRun::playsOnWhileTheDatabaseIsGone()
+{
+    m_fixture->writeClip(QStringLiteral("a.wav"), 300);
+    import(QStringLiteral("a.wav"));
+    m_fixture->store(allDay({{3, false, "a", 1}}));
+    const QString database = m_fixture->database();
+    Run run;
+    m_fixture->start(run.process, words("run --json"));
+    QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(3));
+    const QString aside = m_fixture->path(QStringLiteral("aside.db"));
+    QVERIFY(QFile::rename(database, aside));
+    QVERIFY(run.hasTold(QStringLiteral("schedulectl: %1 does not exist. What was read before goes "
+                                       "on; the file is tried again every two seconds.")
+                            .arg(database)));
+    run.process.readAllStandardOutput();
+    QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(3));
+    QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(3));
+    QVERIFY(QFile::rename(aside, database));
+    QVERIFY(run.hasTold(QStringLiteral("schedulectl: %1 is read again.").arg(database)));
+    m_fixture->store(allDay({{1, false, "first", 1}}));
+    QJsonValue program;
+    while (program != QJsonValue(1)) {
+        program = run.event()[QStringLiteral("program")];
+        QVERIFY(program.isDouble());
+    }
+    run.process.terminate();
+    QVERIFY(run.process.waitForFinished(kPatience));
+    QCOMPARE(run.process.exitCode(), 0);
+}
+
+void tst_CtlRun::takesOverAnotherDatabase()
+{
+    const QString database = m_fixture->database();
+    const QString other = m_fixture->path(QStringLiteral("other.db"));
+    m_fixture->store(allDay({{2, false, "second", 1}}));
+    QVERIFY(QFile::copy(database, other));
+    m_fixture->store(allDay({{1, false, "first", 1}}));
+    Run run;
+    m_fixture->start(run.process, words("run --json"));
+    QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(1));
+    QCOMPARE(std::rename(qPrintable(other), qPrintable(database)), 0);
+    QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(2));
+    QVERIFY(run.hasTold(QStringLiteral("1 task with 1 plan in effect.")));
+    // The new file is watched like the former one.
+    m_fixture->store(allDay({{1, false, "first", 1}}));
+    QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(1));
+    run.process.terminate();
+    QVERIFY(run.process.waitForFinished(kPatience));
+    QCOMPARE(run.process.exitCode(), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_CtlRun)
