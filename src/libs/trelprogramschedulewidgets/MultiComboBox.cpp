@@ -4,6 +4,8 @@
 #include "service/Clock.h"
 
 #include <QAbstractItemView>
+#include <QCompleter>
+#include <QCoreApplication>
 #include <QDebug>
 #include <QFontMetrics>
 #include <QLineEdit>
@@ -25,6 +27,22 @@ constexpr int kReopenDelayMs = 100;
 // A point on the arrow, in from the right edge and down from the top.
 constexpr int kArrowInset = 10;
 
+/// Makes a line the one that a box shows, and thereby the box editable. setEditable() would build
+/// the list as well, which is most of the box, and most boxes of a long schedule are never opened.
+///
+/// To a line without a completer the toolkit gives one of its own, with a model over the entries. A
+/// line that nobody can type into never asks it, so one that is empty stands in for it meanwhile.
+void setLine(QComboBox& box, QLineEdit* line)
+{
+    static QPointer<QCompleter> standIn;
+    if (!standIn) {
+        standIn = new QCompleter(QCoreApplication::instance());
+    }
+    line->setCompleter(standIn);
+    box.setLineEdit(line);
+    line->setCompleter(nullptr);
+}
+
 } // namespace
 
 MultiComboBox::MultiComboBox(QWidget* parent)
@@ -32,15 +50,13 @@ MultiComboBox::MultiComboBox(QWidget* parent)
     , m_separator(QLatin1Char(','))
     , m_lastHideTime(Clock::current().timeOfDay())
 {
-    // A line of its own is what makes a box editable. setEditable() would build the list as well,
-    // which is most of the box, and most boxes of a long schedule are never opened.
     auto* const line = new QLineEdit(this);
     line->setPalette(palette());
-    setLineEdit(line);
+    setLine(*this, line);
     setInsertPolicy(QComboBox::NoInsert);
-    lineEdit()->setAttribute(Qt::WA_TransparentForMouseEvents);
-    lineEdit()->setReadOnly(true);
-    lineEdit()->setCursorPosition(0);
+    line->setAttribute(Qt::WA_TransparentForMouseEvents);
+    line->setReadOnly(true);
+    line->setCursorPosition(0);
 
     // The toolkit puts the label of the current entry into the line whenever that entry changes or
     // the keyboard moves on to another one. The line shows the chosen labels, whatever is current.

@@ -1,7 +1,7 @@
 #include "PlanList.h"
 
 #include "PlanTaskWidget.h"
-#include "PolishRequests.h"
+#include "WaitingRequests.h"
 #include "initProcess.h"
 #include "service/Clock.h"
 #include "service/scheduleManage.h"

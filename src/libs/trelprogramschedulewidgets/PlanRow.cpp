@@ -98,23 +98,6 @@ void markRow(QWidget& editor, int row)
     editor.setProperty("row", row);
 }
 
-int appendItems(QStandardItemModel& model, const PlayPlan& plan)
-{
-    QList<QStandardItem*> items;
-    items.reserve(PlanColumnCount);
-    for (int column = 0; column < PlanColumnCount; ++column) {
-        items.append(new QStandardItem);
-    }
-    items[TitleColumn]->setText(planTitle(plan.id));
-    items[TitleColumn]->setData(plan.id, PlanIdRole);
-    items[ProgramsColumn]->setData(programNames(plan.programs), ProgramTextRole);
-    for (const Caption& caption : kCaptions) {
-        items[caption.column]->setText(scheduleText(caption.key));
-    }
-    model.appendRow(items);
-    return model.rowCount() - 1;
-}
-
 /// Puts editors into the cells of one row, each showing its value.
 class RowBuilder
 {
@@ -283,7 +266,24 @@ void RowBuilder::place(PlanColumn column, QWidget* holder) const
 
 } // namespace
 
-PlanRowEditors appendPlanRow(QTableView& table, QStandardItemModel& model, PlayPlan& plan)
+int appendPlanCells(QStandardItemModel& model, const PlayPlan& plan)
+{
+    QList<QStandardItem*> items;
+    items.reserve(PlanColumnCount);
+    for (int column = 0; column < PlanColumnCount; ++column) {
+        items.append(new QStandardItem);
+    }
+    items[TitleColumn]->setText(planTitle(plan.id));
+    items[TitleColumn]->setData(plan.id, PlanIdRole);
+    items[ProgramsColumn]->setData(programNames(plan.programs), ProgramTextRole);
+    for (const Caption& caption : kCaptions) {
+        items[caption.column]->setText(scheduleText(caption.key));
+    }
+    model.appendRow(items);
+    return model.rowCount() - 1;
+}
+
+PlanRowEditors addPlanEditors(QTableView& table, int number, PlayPlan& plan)
 {
     const bool isLocked =
         std::any_of(plan.programs.begin(), plan.programs.end(), [](const struProgInfo& entry) {
@@ -297,8 +297,7 @@ PlanRowEditors appendPlanRow(QTableView& table, QStandardItemModel& model, PlayP
     }
 
     PlanRowEditors editors;
-    editors.row = appendItems(model, plan);
-    const RowBuilder row(table, editors.row);
+    const RowBuilder row(table, number);
     editors.mode = row.addModeBox(plan.mode, isLocked);
     editors.startTime = row.addTimeEdit(StartTimeColumn, plan.startTime);
     editors.endTime = row.addTimeEdit(EndTimeColumn, plan.endTime);

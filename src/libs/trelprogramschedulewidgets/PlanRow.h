@@ -20,7 +20,6 @@ class MultiComboBox;
 /// The editors of one plan row. The table owns them.
 struct PlanRowEditors
 {
-    int row = -1;
     widgets::ComboBox* mode = nullptr;
     QTimeEdit* startTime = nullptr;
     QTimeEdit* endTime = nullptr;
@@ -32,12 +31,18 @@ struct PlanRowEditors
     QPushButton* remove = nullptr; ///< move.
 };
 
-/// Appends a row for the plan to the table and its model. The editors show the plan's values and
-/// are not connected to anything.
+/// Appends the cells of a plan to the model, without editors, and returns their row.
+///
+/// Where many rows are added the cells of all come first: for each row that is inserted the model
+/// goes through all cells that have an editor.
+int appendPlanCells(QStandardItemModel& model, const PlayPlan& plan);
+
+/// Gives the cells of a row their editors. They show the plan's values and are not connected to
+/// anything.
 ///
 /// Corrects in the plan what a row cannot show: a plan with a program that has no length of its own
 /// goes to TimeMode, where its mode box is locked, and days left empty become every day.
-PlanRowEditors appendPlanRow(QTableView& table, QStandardItemModel& model, PlayPlan& plan);
+PlanRowEditors addPlanEditors(QTableView& table, int row, PlayPlan& plan);
 
 /// Opens the field of the row's programs and shows its editors.
 void openRowEditors(QTableView& table, int row);

@@ -9,10 +9,10 @@
 #include "PlanStandardItemModel.h"
 #include "PlanTable.h"
 #include "PlanTaskForm.h"
-#include "PolishRequests.h"
 #include "ProgramChoose.h"
 #include "Prompts.h"
 #include "ScheduleText.h"
+#include "WaitingRequests.h"
 #include "service/DateText.h"
 #include "service/NewPlan.h"
 #include "service/PlanTiming.h"
@@ -123,8 +123,9 @@ void PlanTaskWidget::makeConnections()
 }
 
 // Does for each plan what slotAddRowPlan does. While rows are all that is added the plans stay as
-// they are, and so do their collisions: they are worked out once. The editors of all rows are
-// opened last, since each of them would have the table laid out again.
+// they are, and so do their collisions: they are worked out once. The cells of all rows come first,
+// and their editors are opened last, since each of them would have the table laid out again. No row
+// finds requests of the rows before it waiting, so that nothing is looked for among them.
 void PlanTaskWidget::loadPlans()
 {
     if (m_task.plans.empty()) {
@@ -132,17 +133,22 @@ void PlanTaskWidget::loadPlans()
     }
     m_ui->tableView->setUpdatesEnabled(false);
     const std::set<int> colliding = markConflicts(m_task);
-    for (std::size_t i = 0; i < m_task.plans.size(); ++i) {
-        PlayPlan plan = m_task.plans[i];
+    std::vector<PlayPlan> plans = m_task.plans;
+    for (PlayPlan& plan : plans) {
         if (plan.id == kNoPlanId) {
             completeNewPlan(plan, m_task);
         }
-        buildRow(plan);
+        appendPlanCells(*m_model, plan);
+    }
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        buildEditors(row, plans[static_cast<std::size_t>(row)]);
         showState(m_conflictLabels.back(), colliding);
         service().addTask(m_task);
+        forgetPolishRequests();
     }
     for (int row = 0; row < m_model->rowCount(); ++row) {
         openRowEditors(*m_ui->tableView, row);
+        forgetPolishRequests();
     }
     m_ui->tableView->setUpdatesEnabled(true);
 }
@@ -203,7 +209,8 @@ void PlanTaskWidget::slotAddRowPlan(PlayPlan plan, bool init)
         return;
     }
     plan.isConflict = false;
-    const int row = buildRow(plan);
+    const int row = appendPlanCells(*m_model, plan);
+    buildEditors(row, plan);
     if (!init) {
         service().addPlan(m_task.id, plan);
         m_task.plans.push_back(std::move(plan));
@@ -224,9 +231,9 @@ bool PlanTaskWidget::choosePrograms(PlayPlan& plan)
     return true;
 }
 
-int PlanTaskWidget::buildRow(PlayPlan& plan)
+void PlanTaskWidget::buildEditors(int row, PlayPlan& plan)
 {
-    const PlanRowEditors editors = appendPlanRow(*m_ui->tableView, *m_model, plan);
+    const PlanRowEditors editors = addPlanEditors(*m_ui->tableView, row, plan);
     connect(editors.mode, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &PlanTaskWidget::slotModeIndexChanged);
     connect(editors.startTime, &QTimeEdit::timeChanged, this,
@@ -241,17 +248,16 @@ int PlanTaskWidget::buildRow(PlayPlan& plan)
     connect(editors.copy, &QPushButton::clicked, this, &PlanTaskWidget::slotCopyPlan);
     connect(editors.remove, &QPushButton::clicked, this, &PlanTaskWidget::slotDeletePlan);
 
-    m_modeCombos.push_back({editors.row, editors.mode});
-    m_startTimeEdits.push_back({editors.row, editors.startTime});
-    m_endTimeEdits.push_back({editors.row, editors.endTime});
-    m_timesSpins.push_back({editors.row, editors.times});
-    m_conflictLabels.push_back({editors.row, editors.state});
-    m_weekCombos.push_back({editors.row, editors.weeks});
-    m_endActionCombos.push_back({editors.row, editors.endAction});
+    m_modeCombos.push_back({row, editors.mode});
+    m_startTimeEdits.push_back({row, editors.startTime});
+    m_endTimeEdits.push_back({row, editors.endTime});
+    m_timesSpins.push_back({row, editors.times});
+    m_conflictLabels.push_back({row, editors.state});
+    m_weekCombos.push_back({row, editors.weeks});
+    m_endActionCombos.push_back({row, editors.endAction});
     // Neither takes the place of an entry that is there.
-    m_rowByPlanId.emplace(plan.id, editors.row);
-    m_planIdByRow.emplace(editors.row, plan.id);
-    return editors.row;
+    m_rowByPlanId.emplace(plan.id, row);
+    m_planIdByRow.emplace(row, plan.id);
 }
 
 void PlanTaskWidget::slotAddProgram(int row)

@@ -126,9 +126,9 @@ private:
 
     /// Asks for the programs of a new plan. False also when the card has gone meanwhile.
     bool choosePrograms(PlayPlan& plan);
-    /// Appends the plan's row and enters it everywhere. Corrects in the plan what a row cannot
-    /// show. Returns the row.
-    int buildRow(PlayPlan& plan);
+    /// Gives a row its editors and enters them everywhere. Corrects in the plan what a row cannot
+    /// show.
+    void buildEditors(int row, PlayPlan& plan);
     void lockModeOfRow(int row, int planId);
 
     /// The plan at the row's place in the task; null when the task has no such plan.

@@ -6,6 +6,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCompleter>
 #include <QLineEdit>
 #include <QProxyStyle>
 #include <QTableView>
@@ -69,16 +70,36 @@ PlayTask taskOf(int id, int plans)
     return task;
 }
 
-/// The requests for a layout that wait when a card of so many plans has been built.
-int waitingLayouts(int plans)
+/// The requests of one type that wait when a card of so many plans has been built.
+int waitingRequests(int plans, QEvent::Type type)
 {
     QCoreApplication::processEvents();
     QWidget window;
     const PlanTaskWidget card(taskOf(1, plans), &window);
-    const EventCount requests(QEvent::LayoutRequest);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    const EventCount requests(type);
+    QCoreApplication::sendPostedEvents(nullptr, type);
     return requests.count;
 }
+
+/// Tells how many rows a table has when the first widget is put into it.
+class RowsBeforeWidgets : public QObject
+{
+public:
+    RowsBeforeWidgets() { qApp->installEventFilter(this); }
+
+    int rows = -1;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto* const table = qobject_cast<QTableView*>(watched->parent());
+        if (rows == -1 && event->type() == QEvent::ChildAdded && table && table->model() &&
+            table->viewport() == watched) {
+            rows = table->model()->rowCount();
+        }
+        return false;
+    }
+};
 
 QStringList places(const PlanTaskWidget& card)
 {
@@ -101,6 +122,8 @@ QStringList places(const PlanTaskWidget& card)
 
 } // namespace
 
+Q_DECLARE_METATYPE(QEvent::Type)
+
 /// What it takes to build cards and lists, counted: a thing that is done once too often for every
 /// row, or that is looked for among those of all rows, shows with the first long schedule.
 class tst_BuildingCosts : public QObject
@@ -113,7 +136,9 @@ private slots:
     void theListOfABoxIsWatchedByWhomeverItIsMade();
     void rowsOfAHiddenCardAreNotMeasured();
     void rowsBuiltOutOfSightLieWhereOthersDo();
-    void aRowAsksForFewLayouts();
+    void rowsLeaveNoRequestsBehind_data();
+    void rowsLeaveNoRequestsBehind();
+    void cellsOfAllRowsComeBeforeTheirEditors();
     void noPolishRequestWaitsAfterARefresh();
     void widgetsOfACardThatGoesWaitForNothing();
 };
@@ -135,6 +160,9 @@ void tst_BuildingCosts::aBoxIsBuiltWithoutItsList()
     box->setEnabled(false);
     box->hide();
     QVERIFY(box->findChildren<QAbstractItemView*>().isEmpty());
+    // Nor is there anything that would complete what nobody can type.
+    QVERIFY(box->findChildren<QCompleter*>().isEmpty());
+    QVERIFY(!box->completer());
     QVERIFY(box->isEditable());
     QVERIFY(box->lineEdit()->isReadOnly());
 }
@@ -185,11 +213,25 @@ void tst_BuildingCosts::rowsBuiltOutOfSightLieWhereOthersDo()
     QVERIFY(places(*early).size() > 30);
 }
 
-void tst_BuildingCosts::aRowAsksForFewLayouts()
+void tst_BuildingCosts::rowsLeaveNoRequestsBehind_data()
 {
-    // The program field has a form with two layouts; the holders of the other cells are made
-    // complete.
-    QCOMPARE(waitingLayouts(30) - waitingLayouts(10), 2 * 20);
+    QTest::addColumn<QEvent::Type>("type");
+    QTest::newRow("to be laid out") << QEvent::LayoutRequest;
+    QTest::newRow("to be given a look") << QEvent::PolishRequest;
+}
+
+void tst_BuildingCosts::rowsLeaveNoRequestsBehind()
+{
+    QFETCH(QEvent::Type, type);
+    QCOMPARE(waitingRequests(30, type), waitingRequests(10, type));
+}
+
+void tst_BuildingCosts::cellsOfAllRowsComeBeforeTheirEditors()
+{
+    QWidget window;
+    const RowsBeforeWidgets table;
+    const PlanTaskWidget card(taskOf(1, 10), &window);
+    QCOMPARE(table.rows, 10);
 }
 
 void tst_BuildingCosts::noPolishRequestWaitsAfterARefresh()
@@ -216,6 +258,7 @@ void tst_BuildingCosts::widgetsOfACardThatGoesWaitForNothing()
 {
     QWidget window;
     auto card = std::make_unique<PlanTaskWidget>(taskOf(1, 3), &window);
+    card->slotAddRowPlan(taskOf(1, 4).plans.back(), true);
     // The first of its children to go finds the queue free of them already.
     QWidget bystander;
     int waiting = -1;
