@@ -1,15 +1,12 @@
 #include "LocalClock.h"
 
-#include <limits>
-
 using trel::mediadispatch::Instant;
+using trel::mediadispatch::kLargestOffset;
+using trel::mediadispatch::WallPiece;
 
 namespace {
 
 constexpr Instant kSecond = 1000;
-constexpr Instant kDay = 24 * 60 * 60 * kSecond;
-constexpr Instant kBeginning = std::numeric_limits<Instant>::min();
-constexpr Instant kEnd = std::numeric_limits<Instant>::max();
 
 /// The years that have four digits.
 constexpr Instant kFirstDated = -62135596800 * kSecond;
@@ -23,12 +20,12 @@ QDateTime inUtc(Instant moment)
 } // namespace
 
 LocalClock::LocalClock(const QTimeZone& zone)
-    : m_zone(zone.isValid() ? zone : QTimeZone::utc())
+    : m_wall(zone)
 {}
 
 int LocalClock::offsetAt(Instant moment) const
 {
-    return stretchAt(moment).offset;
+    return static_cast<int>(m_wall.pieceAt(moment).offset / kSecond);
 }
 
 QDateTime LocalClock::shownAt(Instant moment) const
@@ -52,14 +49,13 @@ LocalClock::Occurrence LocalClock::find(const QDate& date, const QTime& time) co
     const Instant shown = QDateTime(date, time, Qt::UTC).toMSecsSinceEpoch();
     Occurrence found;
     bool isFound = false;
-    // No clock is further from UTC than this.
-    for (Stretch stretch = lookUp(shown - kDay); stretch.from <= shown + kDay;
-         stretch = lookUp(stretch.to)) {
-        const Instant moment = shown - stretch.offset * kSecond;
-        if (moment < stretch.from && !isFound) {
-            return {stretch.from, {}, true};
+    for (Instant at = shown - kLargestOffset; at <= shown + kLargestOffset;) {
+        const WallPiece& piece = m_wall.pieceAt(at);
+        const Instant moment = piece.instant(shown);
+        if (moment < piece.begin && !isFound) {
+            return {piece.begin, {}, true};
         }
-        if (moment >= stretch.from && moment < stretch.to) {
+        if (moment >= piece.begin && moment < piece.end) {
             if (isFound) {
                 found.second = moment;
                 break;
@@ -67,9 +63,7 @@ LocalClock::Occurrence LocalClock::find(const QDate& date, const QTime& time) co
             found.first = moment;
             isFound = true;
         }
-        if (stretch.to == kEnd) {
-            break;
-        }
+        at = piece.end;
     }
     return found;
 }
@@ -115,31 +109,6 @@ QString LocalClock::offsetText(int seconds)
         .arg(seconds < 0 ? QLatin1Char('-') : QLatin1Char('+'))
         .arg(size / hour, 2, 10, QLatin1Char('0'))
         .arg(size % hour / minute, 2, 10, QLatin1Char('0'));
-}
-
-const LocalClock::Stretch& LocalClock::stretchAt(Instant moment) const
-{
-    if (moment < m_stretch.from || moment >= m_stretch.to) {
-        m_stretch = lookUp(moment);
-    }
-    return m_stretch;
-}
-
-LocalClock::Stretch LocalClock::lookUp(Instant moment) const
-{
-    if (moment >= m_stretch.from && moment < m_stretch.to) {
-        return m_stretch;
-    }
-    const QTimeZone::OffsetData former = m_zone.previousTransition(inUtc(moment + 1));
-    QTimeZone::OffsetData next = m_zone.nextTransition(inUtc(moment));
-    if (!next.atUtc.isValid()) {
-        // From the last change in its table a zone does not go on to those that follow by rule;
-        // from the moment behind it, it does.
-        next = m_zone.nextTransition(inUtc(moment + 1));
-    }
-    return {former.atUtc.isValid() ? former.atUtc.toMSecsSinceEpoch() : kBeginning,
-            next.atUtc.isValid() ? next.atUtc.toMSecsSinceEpoch() : kEnd,
-            m_zone.offsetFromUtc(inUtc(moment))};
 }
 
 bool isDated(Instant moment)

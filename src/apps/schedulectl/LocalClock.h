@@ -1,14 +1,15 @@
 #pragma once
 
 #include "trelprogramschedule/dispatch/ScreenState.h"
+#include "trelprogramschedule/dispatch/WallTime.h"
 
 #include <QDateTime>
 #include <QTimeZone>
 
 #include <optional>
 
-/// The local time of a zone. Looks the zone's rules up once for each stretch between two changes of
-/// the clock, so that a long list of moments in order costs next to nothing.
+/// The local time of a zone, in texts and found from texts. A long list of moments in order costs
+/// next to nothing.
 class LocalClock
 {
 public:
@@ -16,7 +17,7 @@ public:
 
     explicit LocalClock(const QTimeZone& zone);
 
-    const QTimeZone& zone() const { return m_zone; }
+    const QTimeZone& zone() const { return m_wall.zone(); }
     /// Seconds that the local clock is ahead of UTC.
     int offsetAt(Instant moment) const;
     /// Date and time that the local clock shows.
@@ -44,20 +45,9 @@ public:
     static QString offsetText(int seconds);
 
 private:
-    /// A time without changes.
-    struct Stretch
-    {
-        Instant from;
-        Instant to;
-        int offset; ///< Seconds.
-    };
-
     QString timeText(Instant moment) const;
-    const Stretch& stretchAt(Instant moment) const;
-    Stretch lookUp(Instant moment) const;
 
-    QTimeZone m_zone;
-    mutable Stretch m_stretch = {0, 0, 0};
+    trel::mediadispatch::WallTime m_wall;
     mutable QDate m_day; ///< The day that was last asked about.
     mutable bool m_dayChanges = false;
 };

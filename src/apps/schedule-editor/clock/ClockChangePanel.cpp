@@ -83,7 +83,7 @@ void ClockChangePanel::addSentence(const QString& sentence, bool isFaint)
 void ClockChangePanel::addChange(const TaskClockChange& change)
 {
     const QString date = QString::fromStdString(dateToText(change.change.date));
-    const bool isLeftOut = change.change.kind == ClockChangeKind::LeftOut;
+    const bool isLeftOut = change.change.isLeftOut();
     const QString head =
         (isLeftOut ? tr("%1: %2–%3 is left out;") : tr("%1: %2–%3 comes twice;"))
             .arg(date, timeOfDay(change.change.begin), timeOfDay(change.change.end)) +

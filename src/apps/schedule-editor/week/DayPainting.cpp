@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+using namespace trel::mediadispatch;
+
 namespace week {
 
 namespace {
@@ -109,16 +111,16 @@ void paintGrid(QPainter& painter, const WeekScene& scene, const QRect& exposed)
     }
 }
 
-void paintClockChange(QPainter& painter, const WeekScene& scene, const ClockChange& change,
+void paintClockChange(QPainter& painter, const WeekScene& scene, int day, const ClockChange& change,
                       const QRect& exposed)
 {
     const look::ThemeColours& colours = scene.colours;
-    QRect rect = scene.geometry.span(change.day, change.from, change.to);
+    QRect rect = scene.geometry.span(day, change.begin, change.end);
     rect.setHeight(std::max(rect.height(), 2));
     if (!rect.intersects(exposed)) {
         return;
     }
-    if (change.isLeftOut) {
+    if (change.isLeftOut()) {
         painter.fillRect(rect, colours.weekClock);
         paintPattern(painter, rect, colours.weekClockPattern, Qt::BDiagPattern);
         drawLabel(painter, labelPlace(scene, rect, 0), Words::tr("Left out: clocks go forward"),
@@ -126,17 +128,17 @@ void paintClockChange(QPainter& painter, const WeekScene& scene, const ClockChan
         return;
     }
     // What comes twice keeps its ground: two passes side by side, between two lines.
-    const int middle = scene.geometry.span(change.day, change.from, change.to, Pass::Second).left();
+    const int middle = scene.geometry.span(day, change.begin, change.end, Pass::Second).left();
     const int half = scene.geometry.direction() == Qt::LeftToRight ? middle : rect.center().x();
     drawLine(painter, {half, rect.top()}, {half, rect.bottom()}, colours.weekClockPattern);
 }
 
 /// Says above the blocks that an hour comes twice.
-void paintDoubled(QPainter& painter, const WeekScene& scene, const ClockChange& change,
+void paintDoubled(QPainter& painter, const WeekScene& scene, int day, const ClockChange& change,
                   const QRect& exposed)
 {
-    const QRect rect = scene.geometry.span(change.day, change.from, change.to);
-    if (change.isLeftOut || !rect.intersects(exposed)) {
+    const QRect rect = scene.geometry.span(day, change.begin, change.end);
+    if (change.isLeftOut() || !rect.intersects(exposed)) {
         return;
     }
     const look::ThemeColours& colours = scene.colours;
@@ -177,7 +179,7 @@ void paintColumn(QPainter& painter, const WeekScene& scene, int day, const QRect
         }
     }
     for (const ClockChange& change : column.changes) {
-        paintClockChange(painter, scene, change, exposed);
+        paintClockChange(painter, scene, day, change, exposed);
     }
     paintBlocks(painter, scene, day, exposed);
     for (const WeekStretch& stretch : column.stretches) {
@@ -186,7 +188,7 @@ void paintColumn(QPainter& painter, const WeekScene& scene, int day, const QRect
         }
     }
     for (const ClockChange& change : column.changes) {
-        paintDoubled(painter, scene, change, exposed);
+        paintDoubled(painter, scene, day, change, exposed);
     }
     paintMarks(painter, scene, day, exposed);
 }

@@ -1,7 +1,5 @@
 #include "week/WallClock.h"
 
-#include <QDateTime>
-
 #include <algorithm>
 
 using namespace trel::mediadispatch;
@@ -11,90 +9,39 @@ namespace week {
 namespace {
 
 constexpr qint64 kSecond = 1000;
-constexpr qint64 kDay = qint64{kDaySeconds} * kSecond;
-
-qint64 floorToDay(qint64 msecs)
-{
-    const qint64 days = msecs / kDay;
-    return msecs % kDay < 0 ? days - 1 : days;
-}
-
-qint64 offsetAt(const QTimeZone& zone, Instant moment)
-{
-    return zone.offsetFromUtc(QDateTime::fromMSecsSinceEpoch(moment, Qt::UTC)) * kSecond;
-}
-
-/// A change of offset, the latter one being in force from `at` on.
-struct Shift
-{
-    Instant at = 0;
-    qint64 offset = 0;
-};
-
-std::vector<Shift> shiftsBetween(const QTimeZone& zone, Instant from, Instant to)
-{
-    std::vector<Shift> shifts{{from, offsetAt(zone, from)}};
-    const QTimeZone::OffsetDataList changes = zone.transitions(
-        QDateTime::fromMSecsSinceEpoch(from, Qt::UTC), QDateTime::fromMSecsSinceEpoch(to, Qt::UTC));
-    for (const QTimeZone::OffsetData& change : changes) {
-        const Instant at = change.atUtc.toMSecsSinceEpoch();
-        const qint64 offset = change.offsetFromUtc * kSecond;
-        // A change may be one of the name alone.
-        if (at > from && at < to && offset != shifts.back().offset) {
-            shifts.push_back({at, offset});
-        }
-    }
-    return shifts;
-}
 
 } // namespace
 
 WallClock::WallClock(const QDate& first, int days, const QTimeZone& zone)
-    : m_firstDay(QDate(1970, 1, 1).daysTo(first))
+    : m_firstDay(dayNumber(first))
     , m_days(days)
+    , m_changes(clockChanges(first, first.addDays(days - 1), zone))
 {
-    // No zone is more than a day away from UTC, before or after a change.
-    const Instant from = (m_firstDay - 2) * kDay;
-    const Instant to = (m_firstDay + days + 2) * kDay;
-    const std::vector<Shift> shifts = shiftsBetween(zone, from, to);
-    for (std::size_t i = 0; i < shifts.size(); ++i) {
-        const bool isLast = i + 1 == shifts.size();
-        const qint64 offset = shifts[i].offset;
-        const qint64 former = i == 0 ? offset : shifts[i - 1].offset;
-        const qint64 next = isLast ? offset : shifts[i + 1].offset;
-        if (offset != former) {
-            addChange(shifts[i].at + std::min(offset, former),
-                      shifts[i].at + std::max(offset, former), offset > former);
-        }
-        addRuns(shifts[i].at, isLast ? to : shifts[i + 1].at, offset, former, next);
+    const WallTime wall(zone);
+    // Also a change by a whole day, which has been, is taken in.
+    const Instant from = timeOn(m_firstDay, 0) - 2 * kLargestOffset;
+    const Instant to = timeOn(m_firstDay + days, 0) + 2 * kLargestOffset;
+    qint64 former = wall.pieceAt(from).offset;
+    for (Instant at = from; at < to;) {
+        WallPiece piece = wall.pieceAt(at);
+        piece.begin = at;
+        piece.end = std::min(piece.end, to);
+        addRuns(piece, former, wall.pieceAt(piece.end).offset);
+        former = piece.offset;
+        at = piece.end;
     }
 }
 
-void WallClock::addChange(qint64 from, qint64 to, bool isLeftOut)
-{
-    for (qint64 day = floorToDay(from); day * kDay < to; ++day) {
-        const qint64 index = day - m_firstDay;
-        if (index >= 0 && index < m_days) {
-            m_changes.push_back(
-                {static_cast<int>(index),
-                 static_cast<int>((std::max(from, day * kDay) - day * kDay) / kSecond),
-                 static_cast<int>((std::min(to, (day + 1) * kDay) - day * kDay) / kSecond),
-                 isLeftOut});
-        }
-    }
-}
-
-void WallClock::addRuns(Instant begin, Instant end, qint64 offset, qint64 formerOffset,
-                        qint64 nextOffset)
+void WallClock::addRuns(const WallPiece& piece, qint64 formerOffset, qint64 nextOffset)
 {
     // Where the clock has gone back at the begin, the first of this time comes for the second time;
     // where it goes back at the end, the last of it will come again.
-    const Instant repeatsUntil = begin + std::max<qint64>(0, formerOffset - offset);
-    const Instant repeatedFrom = end - std::max<qint64>(0, offset - nextOffset);
-    Instant at = begin;
-    while (at < end) {
-        const qint64 day = floorToDay(at + offset);
-        Instant next = std::min(end, (day + 1) * kDay - offset);
+    const Instant repeatsUntil = piece.begin + std::max<qint64>(0, formerOffset - piece.offset);
+    const Instant repeatedFrom = piece.end - std::max<qint64>(0, piece.offset - nextOffset);
+    Instant at = piece.begin;
+    while (at < piece.end) {
+        const DayNumber day = dayOf(piece.local(at));
+        Instant next = std::min(piece.end, piece.instant(timeOn(day + 1, 0)));
         Pass pass = Pass::Only;
         if (at < repeatsUntil) {
             pass = Pass::Second;
@@ -104,9 +51,10 @@ void WallClock::addRuns(Instant begin, Instant end, qint64 offset, qint64 former
         } else {
             next = std::min(next, repeatedFrom);
         }
-        const qint64 index = day - m_firstDay;
+        const DayNumber index = day - m_firstDay;
         if (index >= 0 && index < m_days) {
-            m_runs.push_back({at, next, static_cast<int>(index), at + offset - day * kDay, pass});
+            m_runs.push_back(
+                {at, next, static_cast<int>(index), piece.local(at) - timeOn(day, 0), pass});
         }
         at = next;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "trelprogramschedule/dispatch/ScreenState.h"
+#include "trelprogramschedule/dispatch/ClockChanges.h"
+#include "trelprogramschedule/dispatch/WallTime.h"
 
 #include <QDate>
 #include <QTimeZone>
@@ -27,17 +28,8 @@ struct WallSpan
     Pass pass = Pass::Only;
 };
 
-/// Hours that a day lacks or has twice, because the clocks are changed.
-struct ClockChange
-{
-    int day = 0;
-    int from = 0;
-    int to = 0;
-    bool isLeftOut = false; ///< Otherwise they come twice.
-};
-
-/// How the wall clock of a zone runs through some days: pure arithmetic over the zone's changes of
-/// offset, which may fall on any time of day, midnight included.
+/// How the wall clock of a zone runs through some days, cut at midnights and at its changes, which
+/// may fall on any time of day.
 class WallClock
 {
 public:
@@ -47,7 +39,7 @@ public:
     /// changes. What lies outside the days is left out; parts of seconds are dropped.
     std::vector<WallSpan> spans(trel::mediadispatch::Instant from,
                                 trel::mediadispatch::Instant to) const;
-    const std::vector<ClockChange>& changes() const { return m_changes; }
+    const std::vector<trel::mediadispatch::ClockChange>& changes() const { return m_changes; }
 
     /// From the first instant of the days to the one after their last.
     trel::mediadispatch::Instant begin() const;
@@ -68,14 +60,13 @@ private:
         Pass pass = Pass::Only;
     };
 
-    void addChange(qint64 from, qint64 to, bool isLeftOut);
-    void addRuns(trel::mediadispatch::Instant begin, trel::mediadispatch::Instant end,
-                 qint64 offset, qint64 formerOffset, qint64 nextOffset);
+    void addRuns(const trel::mediadispatch::WallPiece& piece, qint64 formerOffset,
+                 qint64 nextOffset);
 
-    qint64 m_firstDay; ///< Days since 1970-01-01.
+    trel::mediadispatch::DayNumber m_firstDay;
     int m_days;
     std::vector<Run> m_runs;
-    std::vector<ClockChange> m_changes;
+    std::vector<trel::mediadispatch::ClockChange> m_changes;
 };
 
 } // namespace week

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace trel::mediadispatch;
+
 namespace week {
 
 namespace {
@@ -10,7 +12,7 @@ const ClockChange* changeAt(const WeekColumn& column, int second)
 {
     const auto found = std::find_if(column.changes.begin(), column.changes.end(),
                                     [second](const ClockChange& change) {
-                                        return change.from <= second && second < change.to;
+                                        return change.begin <= second && second < change.end;
                                     });
     return found == column.changes.end() ? nullptr : &*found;
 }
@@ -48,7 +50,7 @@ WeekHit hitAt(const WeekLayout& layout, const WeekGeometry& geometry, const QPoi
         }
     }
     hit.change = changeAt(column, hit.second);
-    if (hit.change != nullptr && !hit.change->isLeftOut) {
+    if (hit.change != nullptr && !hit.change->isLeftOut()) {
         hit.pass = geometry.passAt(hit.day, place.x());
     }
     return hit;

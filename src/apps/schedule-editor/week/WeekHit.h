@@ -12,7 +12,7 @@ struct WeekHit
     int day = 0;
     int second = 0;
     Pass pass = Pass::Only; ///< Which of the two times in a doubled hour.
-    const ClockChange* change = nullptr;
+    const trel::mediadispatch::ClockChange* change = nullptr;
     const DayPiece* piece = nullptr;
     const WeekBlock* block = nullptr; ///< Of the piece; null for several.
     std::vector<const WeekBlock*> marks;

@@ -141,8 +141,8 @@ DayLanes lanesOf(const WeekColumn& day)
 {
     std::vector<LeftOutTime> leftOut;
     for (const ClockChange& change : day.changes) {
-        if (change.isLeftOut) {
-            leftOut.push_back({change.from, change.to});
+        if (change.isLeftOut()) {
+            leftOut.push_back({change.begin, change.end});
         }
     }
     std::vector<DayClaim> claims;
@@ -234,7 +234,8 @@ WeekLayout layoutWeek(const WeekQuestion& question)
     const Plans withNothing = plansWithNothing(question.spans);
     std::map<int, TaskBlocks> blocksOfTask;
     for (const ClockChange& change : week.clock.changes()) {
-        week.days[static_cast<std::size_t>(change.day)].changes.push_back(change);
+        const qint64 day = question.first.daysTo(change.date);
+        week.days[static_cast<std::size_t>(day)].changes.push_back(change);
     }
     for (std::size_t i = 0; i < week.days.size(); ++i) {
         WeekColumn& day = week.days[i];

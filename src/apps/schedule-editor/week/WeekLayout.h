@@ -66,7 +66,7 @@ struct WeekColumn
     std::vector<WeekBlock> blocks; ///< By start, then by row.
     DayLanes lanes;                ///< Their claims are positions in blocks.
     std::vector<WeekStretch> stretches;
-    std::vector<ClockChange> changes;
+    std::vector<trel::mediadispatch::ClockChange> changes;
 
     /// The block of a row; null when it has none on this day.
     const WeekBlock* blockOf(int row) const;

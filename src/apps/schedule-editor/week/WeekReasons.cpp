@@ -54,9 +54,9 @@ QString neverText(const WeekBlock& block)
 
 QString changeText(const ClockChange& change)
 {
-    const QString from = shortTime(change.from);
-    const QString to = shortTime(change.to);
-    return change.isLeftOut
+    const QString from = shortTime(change.begin);
+    const QString to = shortTime(change.end);
+    return change.isLeftOut()
                ? Words::tr("%1 to %2 is left out: the clocks go forward.").arg(from, to)
                : Words::tr("%1 to %2 comes twice: the clocks go back.").arg(from, to);
 }
@@ -106,7 +106,7 @@ QString reasonText(const WeekSchedule& schedule, const WeekLayout& layout, const
     if (hit.change != nullptr) {
         lines.append(changeText(*hit.change));
     }
-    if (hit.change == nullptr || !hit.change->isLeftOut) {
+    if (hit.change == nullptr || !hit.change->isLeftOut()) {
         const ScreenState state = schedule.at(layout.clock.instant(hit.day, hit.second, hit.pass));
         lines.append(whatText(schedule, state));
         lines.append(ScreenWords::reason(state));

@@ -4,40 +4,30 @@
 #include "service/PlanConflicts.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
-
-#include <QDateTime>
+#include "trelprogramschedule/dispatch/WallTime.h"
 
 #include <algorithm>
 #include <iterator>
-#include <limits>
 #include <optional>
 
 namespace trel::mediadispatch {
 
 namespace {
 
-constexpr qint64 kSecondsPerDay = 86'400;
-
-/// Local days begin at most this long before or after those of universal time.
-constexpr qint64 kFurthestOffset = 2 * kSecondsPerDay;
-
-/// The first moment that may belong to a local day, in seconds since 1970-01-01 00:00:00 UTC.
-qint64 earliestSecond(const QDate& day)
+int secondOn(DayNumber day, LocalTime time)
 {
-    return QDateTime(day, QTime(0, 0), Qt::UTC).toSecsSinceEpoch() - kFurthestOffset;
+    return static_cast<int>((time - timeOn(day, 0)) / 1000);
 }
 
-/// What the local clock shows, in seconds since its own 1970-01-01 00:00:00, cut at midnight.
-void appendDays(std::vector<ClockChange>& changes, ClockChangeKind kind, qint64 begin, qint64 end)
+/// What the clock leaves out or shows twice, cut at midnight.
+void appendDays(std::vector<ClockChange>& changes, ClockChangeKind kind, LocalTime begin,
+                LocalTime end)
 {
-    const QDate epoch(1970, 1, 1);
     while (begin < end) {
-        const qint64 second = (begin % kSecondsPerDay + kSecondsPerDay) % kSecondsPerDay;
-        const qint64 midnight = begin - second;
-        const qint64 length = std::min(end - begin, kSecondsPerDay - second);
-        changes.push_back({epoch.addDays(midnight / kSecondsPerDay), kind, static_cast<int>(second),
-                           static_cast<int>(second + length)});
-        begin += length;
+        const DayNumber day = dayOf(begin);
+        const LocalTime until = std::min(end, timeOn(day + 1, 0));
+        changes.push_back({dateOf(day), kind, secondOn(day, begin), secondOn(day, until)});
+        begin = until;
     }
 }
 
@@ -46,45 +36,43 @@ class ChangeWalk
 {
 public:
     ChangeWalk(const QTimeZone& zone, const QDate& first)
-        : m_zone(zone)
-    {
-        skipTo(first);
-    }
+        : m_wall(zone)
+        , m_moment(earliest(first))
+    {}
 
     /// What the next change of the clock does, one piece for each day that it touches. Empty when
     /// there is none any more.
     std::vector<ClockChange> next()
     {
         std::vector<ClockChange> changes;
-        while (changes.empty() && m_zone.hasTransitions()) {
-            const QTimeZone::OffsetData change =
-                m_zone.nextTransition(QDateTime::fromSecsSinceEpoch(m_second, Qt::UTC));
-            if (!change.atUtc.isValid() || change.atUtc.toSecsSinceEpoch() <= m_second) {
-                break;
-            }
-            m_second = change.atUtc.toSecsSinceEpoch();
-            append(changes, change.offsetFromUtc);
+        const WallPiece& before = m_wall.pieceAt(m_moment);
+        if (before.end == kNever) {
+            return changes;
+        }
+        m_moment = before.end;
+        const WallPiece& after = m_wall.pieceAt(m_moment);
+        if (after.offset > before.offset) {
+            appendDays(changes, ClockChangeKind::LeftOut, before.local(m_moment),
+                       after.local(m_moment));
+        } else {
+            appendDays(changes, ClockChangeKind::Doubled, after.local(m_moment),
+                       before.local(m_moment));
         }
         return changes;
     }
 
     /// Passes over the changes before a day, unless it is beyond it already.
-    void skipTo(const QDate& day) { m_second = std::max(m_second, earliestSecond(day)); }
+    void skipTo(const QDate& day) { m_moment = std::max(m_moment, earliest(day)); }
 
 private:
-    void append(std::vector<ClockChange>& changes, int offset) const
+    /// A moment before all that belong to a local day, or to a change that touches it.
+    static Instant earliest(const QDate& day)
     {
-        const int before =
-            m_zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(m_second - 1, Qt::UTC));
-        if (offset > before) {
-            appendDays(changes, ClockChangeKind::LeftOut, m_second + before, m_second + offset);
-        } else {
-            appendDays(changes, ClockChangeKind::Doubled, m_second + offset, m_second + before);
-        }
+        return timeOn(dayNumber(day), 0) - 2 * kLargestOffset;
     }
 
-    QTimeZone m_zone;
-    qint64 m_second = std::numeric_limits<qint64>::min();
+    WallTime m_wall;
+    Instant m_moment;
 };
 
 /// The days of one task.
@@ -141,7 +129,7 @@ ClockChangeEffect effectOn(const TouchedPlan& plan, const ClockChange& change)
 {
     const bool isStartInside = plan.begin >= change.begin;
     const bool isEndInside = plan.end <= change.end;
-    const bool isLeftOut = change.kind == ClockChangeKind::LeftOut;
+    const bool isLeftOut = change.isLeftOut();
     if (isStartInside && isEndInside) {
         return isLeftOut ? ClockChangeEffect::Lost : ClockChangeEffect::PlaysTwice;
     }

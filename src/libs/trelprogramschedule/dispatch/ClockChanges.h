@@ -24,6 +24,8 @@ struct ClockChange
     ClockChangeKind kind = ClockChangeKind::LeftOut;
     int begin = 0; ///< Second of the local day.
     int end = 0;   ///< The same, not included any more; 86400 at the end of the day.
+
+    bool isLeftOut() const { return kind == ClockChangeKind::LeftOut; }
 };
 
 /// Every change on the local days from first to last, both included, in the order of time. Changes

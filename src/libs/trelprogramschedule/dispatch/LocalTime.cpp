@@ -7,6 +7,8 @@ namespace {
 constexpr qint64 kMillisecondsPerSecond = 1000;
 constexpr qint64 kDaysPerWeek = 7;
 
+const QDate kFirstDay(1970, 1, 1);
+
 /// The remainder from 0 on, also for numbers below it.
 qint64 remainder(qint64 number, qint64 divisor)
 {
@@ -18,7 +20,12 @@ qint64 remainder(qint64 number, qint64 divisor)
 
 DayNumber dayNumber(const QDate& date)
 {
-    return QDate(1970, 1, 1).daysTo(date);
+    return kFirstDay.daysTo(date);
+}
+
+QDate dateOf(DayNumber day)
+{
+    return kFirstDay.addDays(day);
 }
 
 DayNumber dayOf(LocalTime time)

@@ -13,9 +13,10 @@ using DayNumber = qint64;
 
 inline constexpr qint64 kMillisecondsPerDay = 86'400'000;
 
-DayNumber dayNumber(const QDate& date);
-DayNumber dayOf(LocalTime time);
-LocalTime timeOn(DayNumber day, int secondOfDay);
+Q_DECL_EXPORT DayNumber dayNumber(const QDate& date);
+Q_DECL_EXPORT DayNumber dayOf(LocalTime time);
+Q_DECL_EXPORT LocalTime timeOn(DayNumber day, int secondOfDay);
+QDate dateOf(DayNumber day);
 /// 1 for Monday to 7 for Sunday.
 int weekdayOf(DayNumber day);
 

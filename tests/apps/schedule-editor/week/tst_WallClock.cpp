@@ -27,7 +27,7 @@ QString textOf(int second)
         .arg(second / 60 % 60, 2, 10, QLatin1Char('0'));
 }
 
-QString linesOf(const WallClock& clock, Instant from, Instant to)
+QString linesOf(const WallClock& clock, const QDate& first, Instant from, Instant to)
 {
     QStringList lines;
     for (const WallSpan& span : clock.spans(from, to)) {
@@ -40,9 +40,9 @@ QString linesOf(const WallClock& clock, Instant from, Instant to)
     for (const ClockChange& change : clock.changes()) {
         lines.append(
             QStringLiteral("%1: %2-%3 %4")
-                .arg(change.day)
-                .arg(textOf(change.from), textOf(change.to),
-                     change.isLeftOut ? QStringLiteral("left out") : QStringLiteral("twice")));
+                .arg(first.daysTo(change.date))
+                .arg(textOf(change.begin), textOf(change.end),
+                     change.isLeftOut() ? QStringLiteral("left out") : QStringLiteral("twice")));
     }
     return lines.join(QLatin1Char('\n'));
 }
@@ -96,20 +96,22 @@ void tst_WallClock::days()
     QFETCH(QDate, first);
     QFETCH(int, count);
     const WallClock clock(first, count, QTimeZone(zone));
-    QTEST(linesOf(clock, clock.begin(), clock.end()), "expected");
-    QTEST(linesOf(clock, std::numeric_limits<Instant>::min(), kNever), "expected");
+    QTEST(linesOf(clock, first, clock.begin(), clock.end()), "expected");
+    QTEST(linesOf(clock, first, std::numeric_limits<Instant>::min(), kNever), "expected");
 }
 
 void tst_WallClock::spansAreCutAtTheirEnds()
 {
     const QTimeZone zone("Europe/Berlin");
-    const WallClock clock(QDate(2026, 3, 9), 2, zone);
+    const QDate first(2026, 3, 9);
+    const WallClock clock(first, 2, zone);
     const Instant evening = instantOf("2026-03-09T20:30:00", zone);
     const Instant morning = instantOf("2026-03-10T08:15:00", zone);
-    QCOMPARE(linesOf(clock, evening, morning), QStringLiteral("0: 20:30-24:00\n1: 00:00-08:15"));
-    QCOMPARE(linesOf(clock, morning, morning), QString());
-    QCOMPARE(linesOf(clock, clock.end(), kNever), QString());
-    QCOMPARE(linesOf(clock, 0, clock.begin()), QString());
+    QCOMPARE(linesOf(clock, first, evening, morning),
+             QStringLiteral("0: 20:30-24:00\n1: 00:00-08:15"));
+    QCOMPARE(linesOf(clock, first, morning, morning), QString());
+    QCOMPARE(linesOf(clock, first, clock.end(), kNever), QString());
+    QCOMPARE(linesOf(clock, first, 0, clock.begin()), QString());
 }
 
 void tst_WallClock::instantsOfSeconds()
