@@ -81,4 +81,14 @@ WeekHit hitOf(const WeekLayout& layout, int day, const WeekBlock& block)
     return hit;
 }
 
+QRect placeOf(const WeekHit& hit, const WeekGeometry& geometry)
+{
+    const WeekBlock& block = *hit.target();
+    if (block.never != NeverPlays::No) {
+        return geometry.mark(hit.day, block.from);
+    }
+    return hit.piece != nullptr ? geometry.piece(hit.day, *hit.piece)
+                                : geometry.span(hit.day, block.from, block.to);
+}
+
 } // namespace week

@@ -26,4 +26,7 @@ WeekHit hitAt(const WeekLayout& layout, const WeekGeometry& geometry, const QPoi
 /// What stands at the first moment of a block that is drawn.
 WeekHit hitOf(const WeekLayout& layout, int day, const WeekBlock& block);
 
+/// Where that stands: the first piece of the block, or its mark.
+QRect placeOf(const WeekHit& hit, const WeekGeometry& geometry);
+
 } // namespace week

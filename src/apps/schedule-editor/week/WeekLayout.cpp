@@ -227,6 +227,12 @@ const WeekBlock* WeekColumn::holderAt(int second) const
                : &blocks[static_cast<std::size_t>(piece->claim)];
 }
 
+std::optional<int> WeekLayout::dayOf(const QDate& date) const
+{
+    const qint64 day = first().daysTo(date);
+    return day >= 0 && day < kDays ? std::optional<int>(static_cast<int>(day)) : std::nullopt;
+}
+
 WeekLayout layoutWeek(const WeekQuestion& question)
 {
     WeekLayout week{std::vector<WeekColumn>(kDays),

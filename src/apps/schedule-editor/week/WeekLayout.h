@@ -95,6 +95,8 @@ struct WeekLayout
     WallClock clock;
 
     QDate first() const { return days.front().date; }
+    /// The place of a date among the days; nothing for one of another week.
+    std::optional<int> dayOf(const QDate& date) const;
 };
 
 /// Costs n log n over the plans that are in effect in these days, and the spans.

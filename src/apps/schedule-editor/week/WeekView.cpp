@@ -9,10 +9,8 @@
 #include <QGestureEvent>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QScrollBar>
 #include <QToolTip>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -22,7 +20,6 @@ namespace week {
 
 namespace {
 
-constexpr int kLeastColumn = 72;
 constexpr double kZoomStep = 1.25;
 constexpr double kWheelStep = 120.0;
 
@@ -45,22 +42,26 @@ WeekView::WeekView(QWidget* parent)
     , m_colours(look::darkColours())
     , m_layout(m_schedule->layout(startOfWeek(Clock::current().today(), locale())))
     , m_minutes(this)
+    , m_area(new WeekArea(this))
     , m_dates(new WeekStrip(
           [this](QPainter& painter, const QRect&) {
-              painter.translate(-offset().x(), 0);
-              paintDates(painter, scene(QRect()), m_dates->rect().translated(offset().x(), 0));
+              painter.translate(-m_area->offset().x(), 0);
+              paintDates(painter, scene(QRect()),
+                         m_dates->rect().translated(m_area->offset().x(), 0));
           },
           this))
     , m_hours(new WeekStrip(
           [this](QPainter& painter, const QRect&) {
-              painter.translate(0, -offset().y());
-              paintHours(painter, scene(QRect()), m_hours->rect().translated(0, offset().y()));
+              painter.translate(0, -m_area->offset().y());
+              paintHours(painter, scene(QRect()),
+                         m_hours->rect().translated(0, m_area->offset().y()));
           },
           this))
 {
     setFocusPolicy(Qt::StrongFocus);
     viewport()->grabGesture(Qt::PinchGesture);
-    horizontalScrollBar()->setSingleStep(kLeastColumn / 4);
+    connect(m_area, &WeekArea::moved, this, &WeekView::repaintAll);
+    connect(m_area, &WeekArea::zoomed, this, &WeekView::zoomChanged);
     connect(&m_minutes, &MinuteTimer::minuteBegan, this, &WeekView::updateNow);
     retranslate();
     updateNow();
@@ -133,92 +134,44 @@ void WeekView::showNow()
 {
     updateNow();
     showWeekOf(m_now.date);
-    const int y = m_geometry.top(m_now.second);
-    verticalScrollBar()->setValue(y - viewport()->height() / 2);
-    const QRect column = m_geometry.column(static_cast<int>(firstDay().daysTo(m_now.date)));
-    horizontalScrollBar()->setValue(
-        layoutDirection() == Qt::LeftToRight ? column.left() : m_geometry.width() - column.right());
-}
-
-QPoint WeekView::offset() const
-{
-    const QScrollBar* bar = horizontalScrollBar();
-    const int x =
-        layoutDirection() == Qt::LeftToRight ? bar->value() : bar->maximum() - bar->value();
-    return {x, verticalScrollBar()->value()};
+    m_area->centre(*m_layout.dayOf(m_now.date), m_now.second);
 }
 
 WeekScene WeekView::scene(const QRect& visible) const
 {
-    return {m_layout, m_geometry, m_colours, locale(), visible, m_now, m_selected, hasFocus()};
+    return {m_layout, m_area->geometry(), m_colours, locale(), visible,
+            m_now,    m_selected,         hasFocus()};
 }
 
 WeekHit WeekView::hit(const QPoint& place) const
 {
-    return hitAt(m_layout, m_geometry, place + offset());
+    return hitAt(m_layout, m_area->geometry(), place + m_area->offset());
+}
+
+std::optional<WeekHit> WeekView::hit(const BlockRef& block) const
+{
+    const std::optional<int> day = m_layout.dayOf(block.date);
+    if (!day) {
+        return std::nullopt;
+    }
+    const WeekBlock* found = m_layout.days[static_cast<std::size_t>(*day)].blockOf(block.row);
+    return found == nullptr ? std::nullopt : std::optional(hitOf(m_layout, *day, *found));
 }
 
 QRect WeekView::visualRect(const BlockRef& block) const
 {
-    const qint64 day = firstDay().daysTo(block.date);
-    if (day < 0 || day >= kDays) {
-        return QRect();
-    }
-    const WeekColumn& column = m_layout.days[static_cast<std::size_t>(day)];
-    const WeekBlock* found = column.blockOf(block.row);
-    if (found == nullptr) {
-        return QRect();
-    }
-    const int index = static_cast<int>(day);
-    const WeekHit place = hitOf(m_layout, index, *found);
-    QRect rect = m_geometry.span(index, found->from, found->to);
-    if (found->never != NeverPlays::No) {
-        rect = m_geometry.mark(index, found->from);
-    } else if (place.piece != nullptr) {
-        rect = m_geometry.piece(index, *place.piece);
-    }
-    return rect.translated(-offset());
-}
-
-double WeekView::fittingHour() const
-{
-    return std::max(viewport()->height() / 24.0, WeekGeometry::kLeastHour);
-}
-
-void WeekView::updateGeometry(double hourHeight)
-{
-    const int width = std::max(viewport()->width(), kLeastColumn * kDays);
-    const double former = m_geometry.hourHeight();
-    m_geometry = WeekGeometry(width, hourHeight, layoutDirection());
-    horizontalScrollBar()->setRange(0, width - viewport()->width());
-    horizontalScrollBar()->setPageStep(viewport()->width());
-    verticalScrollBar()->setRange(0, std::max(0, m_geometry.height() - viewport()->height()));
-    verticalScrollBar()->setPageStep(viewport()->height());
-    verticalScrollBar()->setSingleStep(std::max(20, m_geometry.top(900)));
-    repaintAll();
-    if (former != m_geometry.hourHeight()) {
-        emit zoomChanged();
-    }
+    const std::optional<WeekHit> place = hit(block);
+    return place ? placeOf(*place, m_area->geometry()).translated(-m_area->offset()) : QRect();
 }
 
 void WeekView::zoom(double factor)
 {
-    zoomAt(factor, viewport()->height() / 2);
-}
-
-void WeekView::zoomAt(double factor, int y)
-{
-    const double hour = (verticalScrollBar()->value() + y) / hourHeight();
-    const double wanted = std::min(hourHeight() * factor, WeekGeometry::kMostHour);
-    m_isFit = wanted <= fittingHour();
-    updateGeometry(m_isFit ? fittingHour() : wanted);
-    verticalScrollBar()->setValue(qRound(hour * hourHeight() - y));
+    m_area->zoomAt(factor, viewport()->height() / 2);
 }
 
 void WeekView::zoomToFit()
 {
-    m_isFit = true;
-    updateGeometry(fittingHour());
+    m_area->fit();
 }
 
 void WeekView::placeStrips()
@@ -237,7 +190,7 @@ void WeekView::resizeEvent(QResizeEvent* event)
 {
     QAbstractScrollArea::resizeEvent(event);
     placeStrips();
-    updateGeometry(m_isFit ? fittingHour() : hourHeight());
+    m_area->adapt();
 }
 
 void WeekView::scrollContentsBy(int, int)
@@ -271,7 +224,7 @@ void WeekView::changeEvent(QEvent* event)
     case QEvent::StyleChange:
     case QEvent::LayoutDirectionChange:
         placeStrips();
-        updateGeometry(m_isFit ? fittingHour() : hourHeight());
+        m_area->adapt();
         break;
     default:
         break;
@@ -294,12 +247,13 @@ void WeekView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(viewport());
     painter.setLayoutDirection(layoutDirection());
-    painter.translate(-offset());
-    const QRect visible = viewport()->rect().translated(offset());
-    const QRect days = event->rect().translated(offset());
+    painter.translate(-m_area->offset());
+    const QRect visible = viewport()->rect().translated(m_area->offset());
+    const QRect days = event->rect().translated(m_area->offset());
     // A little is left over below the day where its hours do not fill the place to the pixel.
     painter.fillRect(days, m_colours.weekGround);
-    paintDays(painter, scene(visible), days & QRect(0, 0, m_geometry.width(), m_geometry.height()));
+    paintDays(painter, scene(visible),
+              days & QRect(0, 0, m_area->geometry().width(), m_area->geometry().height()));
 }
 
 void WeekView::select(const std::optional<BlockRef>& block)
@@ -310,52 +264,51 @@ void WeekView::select(const std::optional<BlockRef>& block)
     m_selected = block;
     QString description;
     if (block) {
-        const WeekColumn& column =
-            m_layout.days[static_cast<std::size_t>(firstDay().daysTo(block->date))];
-        description =
-            QStringLiteral("%1. %2").arg(locale().toString(block->date, QLocale::LongFormat),
-                                         blockText(*column.blockOf(block->row)));
+        description = QStringLiteral("%1. %2").arg(
+            locale().toString(block->date, QLocale::LongFormat), blockText(*hit(*block)->target()));
     }
     setAccessibleDescription(description);
     viewport()->update();
 }
 
-void WeekView::showSelected()
+void WeekView::step(BlockStep step)
 {
-    if (!m_selected) {
-        return;
-    }
-    const QRect rect = visualRect(*m_selected);
-    const QRect view = viewport()->rect();
-    if (rect.top() < view.top() || rect.height() > view.height()) {
-        verticalScrollBar()->setValue(verticalScrollBar()->value() + rect.top() - 8);
-    } else if (rect.bottom() > view.bottom()) {
-        verticalScrollBar()->setValue(verticalScrollBar()->value() + rect.bottom() - view.bottom() +
-                                      8);
-    }
-    const int sign = layoutDirection() == Qt::LeftToRight ? 1 : -1;
-    if (rect.left() < view.left()) {
-        horizontalScrollBar()->setValue(horizontalScrollBar()->value() + sign * (rect.left() - 4));
-    } else if (rect.right() > view.right()) {
-        horizontalScrollBar()->setValue(horizontalScrollBar()->value() +
-                                        sign * (rect.right() - view.right() + 4));
+    select(stepFrom(m_layout, m_selected, step, m_now));
+    if (m_selected) {
+        m_area->reveal(visualRect(*m_selected));
     }
 }
 
-void WeekView::activateSelected()
+bool WeekView::activateSelected()
 {
-    const WeekColumn& column =
-        m_layout.days[static_cast<std::size_t>(firstDay().daysTo(m_selected->date))];
-    emit activated(*column.task, m_selected->row);
+    const std::optional<WeekHit> place = m_selected ? hit(*m_selected) : std::nullopt;
+    if (place) {
+        emit activated(*m_layout.days[static_cast<std::size_t>(place->day)].task, m_selected->row);
+    }
+    return place.has_value();
+}
+
+bool WeekView::explainSelected()
+{
+    const std::optional<WeekHit> place = m_selected ? hit(*m_selected) : std::nullopt;
+    if (place) {
+        showTip((visualRect(*m_selected) & viewport()->rect()).center(), *place);
+    }
+    return place.has_value();
+}
+
+void WeekView::showTip(const QPoint& place, const WeekHit& hit)
+{
+    QToolTip::showText(viewport()->mapToGlobal(place),
+                       reasonText(*m_schedule, m_layout, hit, locale()), viewport());
 }
 
 void WeekView::mousePressEvent(QMouseEvent* event)
 {
-    const WeekHit place = hit(event->pos());
     if (event->button() != Qt::LeftButton) {
-        QAbstractScrollArea::mousePressEvent(event);
         return;
     }
+    const WeekHit place = hit(event->pos());
     if (place.target() == nullptr) {
         select(std::nullopt);
         return;
@@ -363,10 +316,16 @@ void WeekView::mousePressEvent(QMouseEvent* event)
     select(BlockRef{m_layout.days[static_cast<std::size_t>(place.day)].date, place.target()->row});
 }
 
+void WeekView::mouseReleaseEvent(QMouseEvent* event)
+{
+    // The press was taken here; the release is nobody else's.
+    event->accept();
+}
+
 void WeekView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     mousePressEvent(event);
-    if (event->button() == Qt::LeftButton && m_selected) {
+    if (event->button() == Qt::LeftButton) {
         activateSelected();
     }
 }
@@ -377,104 +336,59 @@ void WeekView::wheelEvent(QWheelEvent* event)
         QAbstractScrollArea::wheelEvent(event);
         return;
     }
-    zoomAt(std::pow(kZoomStep, event->angleDelta().y() / kWheelStep),
-           event->position().toPoint().y());
+    m_area->zoomAt(std::pow(kZoomStep, event->angleDelta().y() / kWheelStep),
+                   event->position().toPoint().y());
     event->accept();
 }
 
-bool WeekView::zoomByKey(int key)
+bool WeekView::carryOut(WeekCommand command)
 {
-    switch (key) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal: // The key of the plus, on many keyboards.
+    switch (command) {
+    case WeekCommand::None:
+        return false;
+    case WeekCommand::ZoomIn:
         zoom(kZoomStep);
         return true;
-    case Qt::Key_Minus:
+    case WeekCommand::ZoomOut:
         zoom(1 / kZoomStep);
         return true;
-    case Qt::Key_0:
+    case WeekCommand::ZoomToFit:
         zoomToFit();
         return true;
-    default:
-        return false;
+    case WeekCommand::Earlier:
+        step(BlockStep::Earlier);
+        return true;
+    case WeekCommand::Later:
+        step(BlockStep::Later);
+        return true;
+    case WeekCommand::DayBefore:
+        step(BlockStep::DayBefore);
+        return true;
+    case WeekCommand::DayAfter:
+        step(BlockStep::DayAfter);
+        return true;
+    case WeekCommand::WeekBefore:
+        stepWeeks(-1);
+        return true;
+    case WeekCommand::WeekAfter:
+        stepWeeks(1);
+        return true;
+    case WeekCommand::Now:
+        showNow();
+        return true;
+    case WeekCommand::Activate:
+        return activateSelected();
+    case WeekCommand::Explain:
+        return explainSelected();
     }
-}
-
-bool WeekView::stepByKey(const QKeyEvent& event)
-{
-    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
-    BlockStep step = BlockStep::Earlier;
-    switch (event.key()) {
-    case Qt::Key_Up:
-        break;
-    case Qt::Key_Down:
-        step = BlockStep::Later;
-        break;
-    case Qt::Key_Left:
-        step = isMirrored ? BlockStep::DayAfter : BlockStep::DayBefore;
-        break;
-    case Qt::Key_Right:
-        step = isMirrored ? BlockStep::DayBefore : BlockStep::DayAfter;
-        break;
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        if ((event.modifiers() & Qt::ControlModifier) != 0) {
-            stepWeeks(event.key() == Qt::Key_PageDown ? 1 : -1);
-            return true;
-        }
-        return false;
-    default:
-        return false;
-    }
-    select(stepFrom(m_layout, m_selected, step, m_now));
-    showSelected();
-    return true;
+    return false;
 }
 
 void WeekView::keyPressEvent(QKeyEvent* event)
 {
-    if (zoomByKey(event->key()) || stepByKey(*event)) {
-        return;
+    if (!carryOut(commandOf(*event, layoutDirection()))) {
+        QAbstractScrollArea::keyPressEvent(event);
     }
-    const bool hasSelected = m_selected && !visualRect(*m_selected).isNull();
-    switch (event->key()) {
-    case Qt::Key_Home:
-        showNow();
-        return;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (hasSelected) {
-            activateSelected();
-            return;
-        }
-        break;
-    case Qt::Key_Space:
-        if (hasSelected) {
-            showTipOfSelected();
-            return;
-        }
-        break;
-    default:
-        break;
-    }
-    QAbstractScrollArea::keyPressEvent(event);
-}
-
-void WeekView::showTip(const QHelpEvent& event)
-{
-    const WeekHit place = hit(event.pos());
-    QToolTip::showText(event.globalPos(), reasonText(*m_schedule, m_layout, place, locale()),
-                       viewport());
-}
-
-void WeekView::showTipOfSelected()
-{
-    const qint64 day = firstDay().daysTo(m_selected->date);
-    const WeekBlock* block = m_layout.days[static_cast<std::size_t>(day)].blockOf(m_selected->row);
-    const QRect rect = visualRect(*m_selected) & viewport()->rect();
-    const WeekHit place = hitOf(m_layout, static_cast<int>(day), *block);
-    QToolTip::showText(viewport()->mapToGlobal(rect.center()),
-                       reasonText(*m_schedule, m_layout, place, locale()), viewport());
 }
 
 bool WeekView::pinch(const QGestureEvent& event)
@@ -484,8 +398,8 @@ bool WeekView::pinch(const QGestureEvent& event)
         return false;
     }
     if ((gesture->changeFlags() & QPinchGesture::ScaleFactorChanged) != 0) {
-        zoomAt(gesture->scaleFactor(),
-               viewport()->mapFromGlobal(gesture->centerPoint().toPoint()).y());
+        m_area->zoomAt(gesture->scaleFactor(),
+                       viewport()->mapFromGlobal(gesture->centerPoint().toPoint()).y());
     }
     return true;
 }
@@ -493,9 +407,11 @@ bool WeekView::pinch(const QGestureEvent& event)
 bool WeekView::viewportEvent(QEvent* event)
 {
     switch (event->type()) {
-    case QEvent::ToolTip:
-        showTip(*static_cast<QHelpEvent*>(event));
+    case QEvent::ToolTip: {
+        const QPoint place = static_cast<QHelpEvent*>(event)->pos();
+        showTip(place, hit(place));
         return true;
+    }
     case QEvent::Gesture: {
         auto* gestures = static_cast<QGestureEvent*>(event);
         if (pinch(*gestures)) {
@@ -507,7 +423,7 @@ bool WeekView::viewportEvent(QEvent* event)
     case QEvent::NativeGesture: {
         const auto* native = static_cast<QNativeGestureEvent*>(event);
         if (native->gestureType() == Qt::ZoomNativeGesture) {
-            zoomAt(1.0 + native->value(), native->pos().y());
+            m_area->zoomAt(1.0 + native->value(), native->pos().y());
             return true;
         }
         break;

@@ -3,7 +3,9 @@
 #include "look/ThemeColours.h"
 #include "week/BlockSteps.h"
 #include "week/MinuteTimer.h"
+#include "week/WeekArea.h"
 #include "week/WeekHit.h"
+#include "week/WeekKeys.h"
 #include "week/WeekSchedule.h"
 
 #include <QAbstractScrollArea>
@@ -11,7 +13,6 @@
 #include <memory>
 
 class QGestureEvent;
-class QHelpEvent;
 
 namespace week {
 
@@ -44,12 +45,12 @@ public:
     /// with the days.
     void showNow();
 
-    double hourHeight() const { return m_geometry.hourHeight(); }
+    double hourHeight() const { return m_area->geometry().hourHeight(); }
     /// Makes hours so many times as high, around what is in the middle.
     void zoom(double factor);
     /// Makes hours as high as the whole day fits into, also when the widget changes its size.
     void zoomToFit();
-    bool isFit() const { return m_isFit; }
+    bool isFit() const { return m_area->isFit(); }
 
     std::optional<BlockRef> selected() const { return m_selected; }
     const WeekLayout& layoutOfWeek() const { return m_layout; }
@@ -72,6 +73,7 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -80,35 +82,31 @@ protected:
 private:
     void layOut(const QDate& first);
     void updateNow();
-    void updateGeometry(double hourHeight);
     void placeStrips();
     void repaintAll();
 
-    QPoint offset() const;
     WeekScene scene(const QRect& visible) const;
     WeekHit hit(const QPoint& place) const;
-    double fittingHour() const;
-    void zoomAt(double factor, int y);
-    bool zoomByKey(int key);
-    bool stepByKey(const QKeyEvent& event);
+    /// The first moment of a block; nothing when it does not stand in this week.
+    std::optional<WeekHit> hit(const BlockRef& block) const;
 
     void select(const std::optional<BlockRef>& block);
-    void showSelected();
-    void activateSelected();
-    void showTip(const QHelpEvent& event);
-    void showTipOfSelected();
+    void step(BlockStep step);
+    bool activateSelected();
+    bool explainSelected();
+    bool carryOut(WeekCommand command);
+    void showTip(const QPoint& place, const WeekHit& hit);
     bool pinch(const QGestureEvent& event);
 
     std::shared_ptr<const WeekSchedule> m_schedule;
     look::ThemeColours m_colours;
     WeekLayout m_layout;
-    WeekGeometry m_geometry;
     WallMoment m_now;
     MinuteTimer m_minutes;
+    WeekArea* m_area;
     WeekStrip* m_dates;
     WeekStrip* m_hours;
     std::optional<BlockRef> m_selected;
-    bool m_isFit = true;
     bool m_followsNow = true;
 };
 

@@ -3,8 +3,10 @@
 #include "week/WeekView.h"
 
 #include "support/PlanRecords.h"
+#include "support/PlatformNotes.h"
 #include "support/TestClock.h"
 
+#include <QToolTip>
 #include <QtTest>
 
 #include <memory>
@@ -63,5 +65,42 @@ inline std::vector<trel::mediadispatch::PlayPlan> mixedPlans()
     plans[1].endAction = trel::mediadispatch::FreezeCurrentFrame;
     return plans;
 }
+
+/// The picture of that week in a window, as a German operator sees it.
+class ShownWeek
+{
+public:
+    ShownWeek()
+        : clock(wednesdayAtNine())
+    {
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        view.setLocale(QLocale());
+        view.setSchedule(scheduleOf(mixedPlans()));
+        view.resize(900, 560);
+        view.show();
+        [this] { QVERIFY(QTest::qWaitForWindowExposed(&view)); }();
+        view.setFocus();
+    }
+
+    ~ShownWeek() { QToolTip::hideText(); }
+
+    Q_DISABLE_COPY(ShownWeek)
+
+    void key(Qt::Key key) { QTest::keyClick(&view, key); }
+
+    void wheel(int delta, const QPoint& place, Qt::KeyboardModifiers modifiers)
+    {
+        QWheelEvent event(place, view.viewport()->mapToGlobal(place), QPoint(), QPoint(0, delta),
+                          Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(view.viewport(), &event);
+    }
+
+private:
+    NoPlatformNotes m_quiet;
+
+public:
+    TestClock clock;
+    week::WeekView view;
+};
 
 } // namespace weekfixture

@@ -117,6 +117,7 @@ private slots:
     void changesOfAZone_data();
     void changesOfAZone();
     void daysWithoutAChangeHaveNone();
+    void everyYearHasItsChanges();
     void whatAChangeDoesToAPlan_data();
     void whatAChangeDoesToAPlan();
     void aPlanPlaysOnItsDaysOnly_data();
@@ -199,6 +200,16 @@ void tst_ClockChanges::daysWithoutAChangeHaveNone()
     QVERIFY(clockChanges(QDate(), day("2027.12.31"), berlin).empty());
     QVERIFY(clockChanges(day("2027.01.01"), QDate(), berlin).empty());
     QVERIFY(clockChanges(day("2027.01.01"), day("2027.12.31"), QTimeZone()).empty());
+}
+
+/// Those in the table of a zone and those that follow it by rule, without a year between them.
+void tst_ClockChanges::everyYearHasItsChanges()
+{
+    for (const char* name : {"Europe/Berlin", "America/New_York", "Australia/Lord_Howe"}) {
+        const QTimeZone place = zone(name);
+        QVERIFY(place.isValid());
+        QCOMPARE(clockChanges(day("2020.01.01"), day("2059.12.31"), place).size(), std::size_t(80));
+    }
 }
 
 void tst_ClockChanges::whatAChangeDoesToAPlan_data()
