@@ -21,43 +21,49 @@ constexpr int kNumberWidth = 50;
 constexpr int kNameWidth = 110;
 constexpr int kCountWidth = 94;
 
-SHeaderView* setUpHeader(QTableView* table, CustomTableModel* model, CheckType type)
+/// Says all about a header that it can be told while it has no sections.
+SHeaderView* makeHeader(QTableView* table, CheckType type)
 {
     auto* header = new SHeaderView(type, Qt::Horizontal, table);
     header->setObjectName(QStringLiteral("schedule"));
-    table->setHorizontalHeader(header);
     header->setDefaultAlignment(Qt::AlignCenter);
     // Some styles would not let a section be as narrow as the mark.
     header->setMinimumSectionSize(kCheckWidth);
-    // The header paints labels of its own; a section without an item would show its number below.
-    for (int section = 0; section < model->columnCount(); ++section) {
-        model->setHorizontalHeaderItem(section, new QStandardItem);
-        header->setSectionResizeMode(section, QHeaderView::Fixed);
-    }
-    header->setStretchLastSection(true);
     return header;
 }
 
+/// Gives the table its model last. A header that is replaced or changed while it shows a model is
+/// measured, and connected to the model, more than once.
 SHeaderView* setUpTable(QTableView* table, CustomTableModel* model, CheckType type)
 {
     static_assert(int(OfferCheckColumn) == int(ChoiceCheckColumn));
     static_assert(int(OfferOrderColumn) == int(ChoiceNumberColumn));
     table->setObjectName(QStringLiteral("schedule"));
     table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    table->setModel(model);
-    SHeaderView* header = setUpHeader(table, model, type);
+    SHeaderView* header = makeHeader(table, type);
+    table->setHorizontalHeader(header);
     table->verticalHeader()->setDefaultSectionSize(kRowHeight);
     table->verticalHeader()->hide();
     table->setShowGrid(false);
     // A row has room for one line: a long name is cut where the cell ends, not after a word.
     table->setWordWrap(false);
     table->setFocusPolicy(Qt::NoFocus);
-    table->setColumnWidth(OfferCheckColumn, kCheckWidth);
-    table->setColumnWidth(OfferOrderColumn, kNumberWidth);
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setItemDelegateForColumn(OfferCheckColumn, new CheckBoxDelegate(type, table));
     table->verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
+
+    // The header paints labels of its own; a section without an item would show its number below.
+    for (int section = 0; section < model->columnCount(); ++section) {
+        model->setHorizontalHeaderItem(section, new QStandardItem);
+    }
+    table->setModel(model);
+    for (int section = 0; section < model->columnCount(); ++section) {
+        header->setSectionResizeMode(section, QHeaderView::Fixed);
+    }
+    header->setStretchLastSection(true);
+    table->setColumnWidth(OfferCheckColumn, kCheckWidth);
+    table->setColumnWidth(OfferOrderColumn, kNumberWidth);
     return header;
 }
 
