@@ -32,16 +32,16 @@ int CheckOrder::check(int row)
     return m_checkedCount;
 }
 
-std::vector<int> CheckOrder::uncheck(int row)
+std::vector<CheckedRow> CheckOrder::uncheck(int row)
 {
     m_checkedCount = std::max(m_checkedCount, 0) - 1;
     const int oldPlace = m_checkOrder.take(row);
 
-    std::vector<int> moved;
+    std::vector<CheckedRow> moved;
     for (auto it = m_checkOrder.begin(); it != m_checkOrder.end(); ++it) {
         if (it.value() > oldPlace) {
             --it.value();
-            moved.push_back(it.key());
+            moved.push_back({it.key(), it.value()});
         }
     }
     return moved;

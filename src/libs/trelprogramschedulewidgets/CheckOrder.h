@@ -10,6 +10,18 @@ namespace trel::mediadispatch {
 /// The text of a row number or of a place in the order of checking: two digits at least.
 QString formatRowNumber(int number);
 
+/// A checked row and its place in the order of checking.
+struct CheckedRow
+{
+    int row = 0;
+    int place = 0;
+
+    bool operator==(const CheckedRow& other) const
+    {
+        return row == other.row && place == other.place;
+    }
+};
+
 /// The order in which the rows of a table were checked: each checked row has a place, from 1, and
 /// the places close up when a row is unchecked.
 ///
@@ -29,8 +41,8 @@ public:
 
     /// Gives the row the next place and returns that.
     int check(int row);
-    /// Takes the row's place away. Returns the rows that have moved up by one for it.
-    std::vector<int> uncheck(int row);
+    /// Takes the row's place away. Returns the rows that have moved up by one for it, from the top.
+    std::vector<CheckedRow> uncheck(int row);
     /// Numbers the rows of a table of this size from the top, whatever was checked before.
     void checkAll(int rowCount);
     /// Unchecks each row of a table of this size, the unchecked ones too.

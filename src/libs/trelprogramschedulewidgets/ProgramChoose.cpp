@@ -279,10 +279,10 @@ void ProgramChoose::updateCheckOrder(int row, bool check)
         }
         return;
     }
-    const std::vector<int> moved = m_checkOrder.uncheck(row);
+    const std::vector<CheckedRow> moved = m_checkOrder.uncheck(row);
     showCheckNumber(row, QString());
-    for (const int other : moved) {
-        showCheckNumber(other, formatRowNumber(m_checkOrder.places().value(other)));
+    for (const CheckedRow& other : moved) {
+        showCheckNumber(other.row, formatRowNumber(other.place));
     }
     m_programHeader->setChecked(false);
 }

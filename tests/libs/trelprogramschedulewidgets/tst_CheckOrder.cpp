@@ -81,7 +81,7 @@ void tst_CheckOrder::givesPlacesInTheOrderOfChecking()
 void tst_CheckOrder::closesUpWhenARowIsUnchecked()
 {
     CheckOrder order = checkedRows({5, 1, 3, 0});
-    QCOMPARE(order.uncheck(1), (std::vector<int>{0, 3}));
+    QCOMPARE(order.uncheck(1), (std::vector<CheckedRow>{{0, 3}, {3, 2}}));
     QCOMPARE(order.places(), (Places{{5, 1}, {3, 2}, {0, 3}}));
     QCOMPARE(order.count(), 3);
     QVERIFY(order.uncheck(0).empty());
