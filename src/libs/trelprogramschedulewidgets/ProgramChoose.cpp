@@ -1,5 +1,6 @@
 #include "ProgramChoose.h"
 
+#include "ChooserCells.h"
 #include "ChooserRows.h"
 #include "ChooserTables.h"
 #include "CustomTableModel.h"
@@ -21,6 +22,8 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <map>
+#include <utility>
 
 namespace trel::mediadispatch {
 
@@ -60,6 +63,22 @@ ProgramIten findProgram(int progIndex)
 double lengthOf(int progIndex)
 {
     return service().getDurationByIndex(progIndex);
+}
+
+/// The entries of a plan for the programs of the catalogue that exist, in its order.
+std::vector<struProgInfo> offeredPrograms()
+{
+    // The catalogue is a copy: its names are moved out of it, and it goes before the rows are made,
+    // which then find their memory in its place.
+    std::map<int, ProgramIten> catalogue = service().getPrograms();
+    std::vector<struProgInfo> offers;
+    offers.reserve(catalogue.size());
+    for (auto& [key, program] : catalogue) {
+        if (!program.isNull) {
+            offers.push_back({program.progIndex, false, std::move(program.progName), 1});
+        }
+    }
+    return offers;
 }
 
 } // namespace
@@ -180,18 +199,8 @@ void ProgramChoose::loadTables()
 
 void ProgramChoose::loadPrograms()
 {
-    const std::map<int, ProgramIten> catalogue = service().getPrograms();
-    std::vector<QList<QStandardItem*>> rows;
-    rows.reserve(catalogue.size());
-    m_allPrograms.reserve(catalogue.size());
-    for (const auto& [key, program] : catalogue) {
-        if (program.isNull) {
-            continue;
-        }
-        rows.push_back(makeOfferCells(QString::fromStdString(program.progName)));
-        m_allPrograms.push_back({program.progIndex, false, program.progName, 1});
-    }
-    appendRows(*m_programModel, rows);
+    m_allPrograms = offeredPrograms();
+    appendOffers(*m_programModel, m_allPrograms);
 }
 
 void ProgramChoose::loadPlan()
@@ -219,10 +228,7 @@ void ProgramChoose::appendPlanRows(const std::vector<ChoiceRow>& rows)
     if (rows.empty()) {
         return;
     }
-    std::vector<QList<QStandardItem*>> cells;
-    cells.reserve(rows.size());
-    std::transform(rows.begin(), rows.end(), std::back_inserter(cells), makeChoiceCells);
-    appendRows(*m_planModel, cells);
+    appendChoices(*m_planModel, rows);
     // These columns come into being with the first row.
     ui->tableViewChoonse->hideColumn(ChoiceIndexColumn);
     ui->tableViewChoonse->hideColumn(ChoiceNewColumn);
@@ -301,14 +307,18 @@ int ProgramChoose::countCheckedPlanRows() const
 
 void ProgramChoose::slotChose()
 {
+    const std::vector<int> checked = m_checkOrder.rows();
     std::vector<ChoiceRow> rows;
-    for (const int row : m_checkOrder.rows()) {
+    rows.reserve(checked.size());
+    int number = m_planModel->rowCount();
+    for (const int row : checked) {
         const auto position = static_cast<std::size_t>(row);
         if (position >= m_allPrograms.size()) {
             continue;
         }
         const struProgInfo& program = m_allPrograms[position];
         ChoiceRow added;
+        added.number = ++number;
         added.name = QString::fromStdString(program.progName);
         added.progIndex = program.progIndex;
         added.isNew = true;
