@@ -5,11 +5,13 @@
 #include "PlainChooser.h"
 #include "ProgramChoose.h"
 #include "QuietService.h"
+#include "trelwidgets/Dialog.h"
 
 #include <QCoreApplication>
 #include <QPushButton>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <QVBoxLayout>
 
 #include <memory>
 #include <optional>
@@ -74,6 +76,23 @@ Lane fillingModel(int programs)
     };
 }
 
+/// A window like that of the chooser, with the frame around it, whose tables stay empty; and a
+/// model of its own that is filled.
+Lane openingEmpty(int programs)
+{
+    return [sample = samplePrograms(programs)] {
+        setLook(Look::Plain);
+        QWidget parent;
+        QStandardItemModel model(0, 3);
+        return processorSeconds([&] {
+            auto* const frame = new trel::widgets::Dialog(&parent);
+            auto* const layout = new QVBoxLayout(frame->dialogWidget());
+            layout->addWidget(new PlainChooser(ProgramMap()));
+            fillOffer(model, sample);
+        });
+    };
+}
+
 Lane openingPlain(int programs)
 {
     return [sample = samplePrograms(programs)] {
@@ -93,6 +112,8 @@ void addOpening(int programs)
     const int rounds = programs >= 20000 ? 9 : 31;
     add({"Open the chooser, against a filled model", size, kAgainstModel, opening(programs, false),
          fillingModel(programs), rounds});
+    add({"Open the chooser, against an empty window and a filled model", size, kAgainstModel,
+         opening(programs, false), openingEmpty(programs), rounds});
     add({"Open the chooser and show it, against plain widgets", size, kAgainstModel,
          opening(programs, true), openingPlain(programs), rounds});
 }
