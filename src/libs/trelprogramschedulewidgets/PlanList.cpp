@@ -8,12 +8,14 @@
 
 #include <QCoreApplication>
 #include <QScopedValueRollback>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
 using trel::mediadispatch::Clock;
-using trel::mediadispatch::forgetPolishRequests;
+using trel::mediadispatch::finishWaitingWork;
+using trel::mediadispatch::forgetPaintRequestsIn;
 using trel::mediadispatch::initProcess;
 using trel::mediadispatch::kDateFormat;
 using trel::mediadispatch::scheduleManage;
@@ -188,13 +190,32 @@ void PlanList::rebuild()
     service().updateUItask();
     for (const auto& [id, task] : tasks) {
         addCard(task, true);
-        // Nobody else has any: they were handled before the first card was made.
-        forgetPolishRequests();
+        finishWaitingWork(*m_taskWidgets[id]);
     }
+    // Before the list is shown: on show, every widget would ask for its own painting once more.
+    setUpdatesEnabled(true);
     if (wasVisible) {
+        takeRoom();
         show();
     }
-    setUpdatesEnabled(true);
+}
+
+// Has the scroll area give the list the height of all its cards. When they come into sight they are
+// in their places and need not move one by one.
+void PlanList::takeRoom()
+{
+    m_layout->activate();
+    if (parentWidget()) {
+        QCoreApplication::sendPostedEvents(parentWidget(), QEvent::LayoutRequest);
+    }
+}
+
+void PlanList::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!event->spontaneous()) {
+        forgetPaintRequestsIn(*this);
+    }
 }
 
 void PlanList::slotclearPlanList()

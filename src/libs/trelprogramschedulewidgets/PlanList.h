@@ -55,11 +55,15 @@ public slots:
     /// Destroys every card. The service is not touched.
     void slotclearPlanList();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     using PlanTaskWidget = trel::mediadispatch::PlanTaskWidget;
     using PlayTask = trel::mediadispatch::PlayTask;
 
     void rebuild();
+    void takeRoom();
     bool mayAdd() const;
     void foldAll();
     void addTask(const PlayTask& task);
