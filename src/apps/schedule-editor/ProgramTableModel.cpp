@@ -1,5 +1,6 @@
 #include "ProgramTableModel.h"
 
+#include "BidiText.h"
 #include "service/scheduleManage.h"
 
 #include <QBrush>
@@ -35,8 +36,7 @@ QVariant alignmentOf(int column)
 /// end where one reads from the right.
 QString shownPath(const QString& path)
 {
-    const QChar leftToRightMark(0x200E);
-    return QGuiApplication::isRightToLeft() ? leftToRightMark + path : path;
+    return QGuiApplication::isRightToLeft() ? leftToRight(path) : path;
 }
 
 bool haveSameIndexes(const std::vector<ProgramIten>& a, const std::vector<ProgramIten>& b)

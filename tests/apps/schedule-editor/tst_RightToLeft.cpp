@@ -3,6 +3,7 @@
 
 #include "PlanColumns.h"
 #include "ProgramTableModel.h"
+#include "screen/ElidedText.h"
 
 #include <QDateEdit>
 #include <QHeaderView>
@@ -36,6 +37,8 @@ private slots:
     void theHeaderHasItsSeparators();
     void theTotalStandsOffItsCaption();
     void pathsKeepTheirFirstSlash();
+    void theEllipsisStandsWhereTheTextIsCut_data();
+    void theEllipsisStandsWhereTheTextIsCut();
 
 private:
     void openEditor();
@@ -247,9 +250,37 @@ void tst_RightToLeft::pathsKeepTheirFirstSlash()
     auto* programs = m_host->window.findChild<QTableView*>(QStringLiteral("programTable"));
     const QModelIndex path = programs->model()->index(0, ProgramTableModel::PathColumn);
     const QString shown = path.data().toString();
-    QCOMPARE(shown.at(0), QChar(0x200E));
+    QCOMPARE(shown.at(0), QChar(0x2066));
     QCOMPARE(shown.at(1), QLatin1Char('/'));
-    QCOMPARE(path.data(Qt::ToolTipRole).toString(), shown.mid(1));
+    QCOMPARE(shown.at(shown.size() - 1), QChar(0x2069));
+    QCOMPARE(path.data(Qt::ToolTipRole).toString(), shown.mid(1, shown.size() - 2));
+}
+
+void tst_RightToLeft::theEllipsisStandsWhereTheTextIsCut_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isAtTheRight");
+    QTest::newRow("from the left") << QStringLiteral("HHHHHHHHHHHHHHHHHHHHHHHH") << true;
+    QTest::newRow("from the right") << QString(24, QChar(0x05D4)) << false;
+}
+
+/// The dots are the only ink at their end, and stand low.
+void tst_RightToLeft::theEllipsisStandsWhereTheTextIsCut()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, isAtTheRight);
+    ElidedText label(nullptr, 1);
+    label.setText(text);
+    label.resize(120, label.minimumSizeHint().height());
+    QVERIFY(label.isRightToLeft());
+    const QImage picture = label.grab().toImage();
+    const int upperHalf = picture.height() / 2;
+    const auto isEmpty = [&](int from) {
+        return inkIn(picture, QRect(from, 0, 6, upperHalf)).isNull();
+    };
+    const QRect ink = inkIn(picture, picture.rect());
+    QCOMPARE(isEmpty(ink.right() - 5), isAtTheRight);
+    QCOMPARE(isEmpty(ink.left()), !isAtTheRight);
 }
 
 QTEST_MAIN(tst_RightToLeft)

@@ -1,5 +1,7 @@
 #include "screen/ElidedText.h"
 
+#include "BidiText.h"
+
 #include <QEvent>
 #include <QHelpEvent>
 #include <QPainter>
@@ -36,8 +38,9 @@ ElidedText::Shown ElidedText::shown() const
         const bool isLast = shown.lines.size() + 1 == m_lines;
         line.setLineWidth(isLast ? INT_MAX / 256 : width);
         const QString part = text().mid(line.textStart(), line.textLength()).trimmed();
-        const QString fitting = fontMetrics().elidedText(part, Qt::ElideRight, width);
-        shown.isWhole = shown.isWhole && fitting == part;
+        const QString standing = isolated(part, text());
+        const QString fitting = fontMetrics().elidedText(standing, Qt::ElideRight, width);
+        shown.isWhole = shown.isWhole && fitting == standing;
         shown.lines.append(fitting);
         if (isLast) {
             break;

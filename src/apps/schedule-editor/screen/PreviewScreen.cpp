@@ -1,5 +1,7 @@
 #include "screen/PreviewScreen.h"
 
+#include "BidiText.h"
+
 #include "screen/PreviewDrawings.h"
 #include "screen/ScreenFollower.h"
 #include "screen/ScreenWords.h"
@@ -151,7 +153,7 @@ void PreviewScreen::paintBand(QPainter& painter) const
         painter.drawText(QStyle::visualRect(layoutDirection(), text, room),
                          int(seen | Qt::AlignVCenter) | Qt::TextSingleLine, words);
     };
-    const QString name = QString::fromStdString(m_follower.now().program.progName);
+    const QString name = isolated(QString::fromStdString(m_follower.now().program.progName));
     draw(nameRoom, Qt::AlignLeft, metrics.elidedText(name, Qt::ElideRight, nameWidth));
     draw(timeRoom, Qt::AlignRight, time);
 }

@@ -1,5 +1,6 @@
 #include "week/BlockPainting.h"
 
+#include "BidiText.h"
 #include "look/ThemeColours.h"
 #include "week/WeekScene.h"
 #include "week/WeekWords.h"
@@ -20,6 +21,8 @@ constexpr int kTextSpace = 4;
 constexpr double kRadius = 2.5;
 /// Lower pieces are a bar of one colour.
 constexpr int kLeastForm = 6;
+
+const QLatin1String kGap("  ");
 
 /// What is drawn of a piece, by its state.
 struct Look
@@ -47,41 +50,37 @@ Look lookOf(const look::ThemeColours& colours, const DayPiece& piece, const Week
     return {colours.weekBlock, QColor(), colours.weekBlockLine, colours.weekBlockText, Qt::NoPen};
 }
 
-QString titleOf(const DayPiece& piece, const WeekBlock* block)
+/// The names, each of which runs in a direction of its own.
+QStringList namesOf(const WeekBlock& block)
 {
-    if (block == nullptr) {
-        return QStringLiteral("+%1").arg(piece.count);
+    QStringList names;
+    for (const QString& program : block.programs) {
+        names.append(isolated(program));
     }
-    return QString::number(block->planId);
-}
-
-/// The times keep their order also where the text around them runs the other way.
-QString timesOf(const WeekBlock& block)
-{
-    return QChar(0x2066) + shortTime(block.from) + QChar(0x2013) + shortTime(block.to) +
-           QChar(0x2069);
+    return names;
 }
 
 /// The lines of text for a height of so many.
-QStringList linesOf(const DayPiece& piece, const WeekBlock* block, int lines)
+QStringList linesOf(const DayPiece& piece, const WeekBlock* block, int lines,
+                    const QFontMetrics& metrics, int width)
 {
-    const QString title = titleOf(piece, block);
     if (block == nullptr) {
-        return {title};
+        return {QStringLiteral("+%1").arg(piece.count)};
     }
-    const QString names = block->hasNothing ? Words::tr("nothing to show")
-                                            : block->programs.join(QStringLiteral(", "));
+    const QStringList programs = namesOf(*block);
+    const QString names =
+        block->hasNothing ? Words::tr("nothing to show") : programs.join(QStringLiteral(", "));
     if (lines < 2) {
-        return {title + QStringLiteral("  ") + names};
+        return {QString::number(block->planId) + kGap + names};
     }
-    QStringList texts{title + QStringLiteral("  ") + timesOf(*block)};
+    QStringList texts{blockTitle(*block, metrics, width)};
     if (lines < 3 || block->hasNothing) {
         texts.append(names);
         return texts;
     }
     const int room = lines - 1;
-    const bool isCut = block->programs.size() > room || block->hasMorePrograms;
-    texts += block->programs.mid(0, isCut ? room - 1 : room);
+    const bool isCut = programs.size() > room || block->hasMorePrograms;
+    texts += programs.mid(0, isCut ? room - 1 : room);
     if (isCut) {
         texts.append(QStringLiteral("…"));
     }
@@ -100,7 +99,7 @@ void paintTexts(QPainter& painter, const WeekScene& scene, const QRect& rect, co
         return;
     }
     const QColor plate = look.pattern.isValid() ? look.ground : QColor();
-    for (const QString& line : linesOf(piece, block, lines)) {
+    for (const QString& line : linesOf(piece, block, lines, painter.fontMetrics(), place.width())) {
         drawLabel(painter, place, line, look.text, plate);
         place.setTop(place.top() + lineHeight);
     }
@@ -215,6 +214,18 @@ void paintSelection(QPainter& painter, const WeekScene& scene, int day, const QR
 }
 
 } // namespace
+
+QString blockTitle(const WeekBlock& block, const QFontMetrics& metrics, int width)
+{
+    const QString number = QString::number(block.planId);
+    const QString begin = shortTime(block.from);
+    const QString whole = number + kGap + leftToRight(begin + QChar(0x2013) + shortTime(block.to));
+    if (metrics.horizontalAdvance(whole) <= width) {
+        return whole;
+    }
+    const QString half = number + kGap + begin;
+    return metrics.horizontalAdvance(half) <= width ? half : number;
+}
 
 void paintBlocks(QPainter& painter, const WeekScene& scene, int day, const QRect& exposed)
 {

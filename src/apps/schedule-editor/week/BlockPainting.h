@@ -1,11 +1,19 @@
 #pragma once
 
+#include <QFontMetrics>
+#include <QString>
+
 class QPainter;
 class QRect;
 
 namespace week {
 
+struct WeekBlock;
 struct WeekScene;
+
+/// The number of a plan and its times, or only as much of them as a width holds: a time is told as
+/// a whole or not at all.
+QString blockTitle(const WeekBlock& block, const QFontMetrics& metrics, int width);
 
 /// Draws the blocks of a day: plans that have the screen solid, what they keep from it hatched
 /// beside them, and around the selected one a frame.

@@ -1,5 +1,6 @@
 #include "week/DayPainting.h"
 
+#include "BidiText.h"
 #include "look/ThemeColours.h"
 #include "screen/ScreenWords.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
@@ -44,11 +45,11 @@ QString labelOf(const WeekStretch& stretch)
     case WeekStretch::Black:
         return ScreenWords::picture(trel::mediadispatch::ScreenPicture::Black);
     case WeekStretch::Frozen:
-        return Words::tr("Frozen: %1").arg(stretch.program);
+        return isolated(Words::tr("Frozen: %1").arg(isolated(stretch.program)));
     case WeekStretch::Inserted:
         break;
     }
-    return Words::tr("Cut in: %1").arg(stretch.program);
+    return isolated(Words::tr("Cut in: %1").arg(isolated(stretch.program)));
 }
 
 QColor groundOf(const WeekStretch& stretch, const look::ThemeColours& colours)
@@ -123,8 +124,9 @@ void paintClockChange(QPainter& painter, const WeekScene& scene, int day, const 
     if (change.isLeftOut()) {
         painter.fillRect(rect, colours.weekClock);
         paintPattern(painter, rect, colours.weekClockPattern, Qt::BDiagPattern);
-        drawLabel(painter, labelPlace(scene, rect, 0), Words::tr("Left out: clocks go forward"),
-                  colours.weekClockText, colours.weekClock);
+        drawLabel(painter, labelPlace(scene, rect, 0),
+                  isolated(Words::tr("Left out: clocks go forward")), colours.weekClockText,
+                  colours.weekClock);
         return;
     }
     // What comes twice keeps its ground: two passes side by side, between two lines.
@@ -151,8 +153,8 @@ void paintDoubled(QPainter& painter, const WeekScene& scene, int day, const Cloc
     if (rect.height() >= height * 2) {
         const QRect line(rect.left() + kTextSpace, rect.bottom() - height - 1,
                          rect.width() - 2 * kTextSpace, height);
-        drawLabel(painter, line, Words::tr("Comes twice: clocks go back"), colours.weekClockText,
-                  colours.weekClock);
+        drawLabel(painter, line, isolated(Words::tr("Comes twice: clocks go back")),
+                  colours.weekClockText, colours.weekClock);
     }
 }
 

@@ -38,6 +38,7 @@ void paintDates(QPainter& painter, const WeekScene& scene, const QRect& strip)
 {
     const look::ThemeColours& colours = scene.colours;
     painter.fillRect(strip, colours.header);
+    drawLine(painter, strip.bottomLeft(), strip.bottomRight(), colours.weekLine);
     const QFont plain = painter.font();
     QFont bold = plain;
     bold.setBold(true);
@@ -68,7 +69,6 @@ void paintDates(QPainter& painter, const WeekScene& scene, const QRect& strip)
             drawLine(painter, {x, strip.top()}, {x, strip.bottom()}, colours.weekLine);
         }
     }
-    drawLine(painter, strip.bottomLeft(), strip.bottomRight(), colours.weekLine);
 }
 
 void paintHours(QPainter& painter, const WeekScene& scene, const QRect& strip)

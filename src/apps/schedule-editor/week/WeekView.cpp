@@ -179,11 +179,12 @@ void WeekView::placeStrips()
     const QFontMetrics metrics = fontMetrics();
     const int hours = metrics.horizontalAdvance(QStringLiteral("00:00")) + 14;
     const int dates = datesHeight(metrics.height());
-    setViewportMargins(hours, dates, 0, 0);
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    setViewportMargins(isMirrored ? 0 : hours, dates, isMirrored ? hours : 0, 0);
     const QRect days = viewport()->geometry();
     m_dates->setGeometry(days.left(), days.top() - dates, days.width(), dates);
-    const int x = layoutDirection() == Qt::LeftToRight ? days.left() - hours : days.right() + 1;
-    m_hours->setGeometry(x, days.top(), hours, days.height());
+    m_hours->setGeometry(isMirrored ? days.right() + 1 : days.left() - hours, days.top(), hours,
+                         days.height());
 }
 
 void WeekView::resizeEvent(QResizeEvent* event)
