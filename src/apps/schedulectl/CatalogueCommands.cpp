@@ -79,9 +79,8 @@ qint64 plansWith(int progIndex, const std::map<int, PlayTask>& tasks)
 ExitStatus runImport(const Invocation& invocation, Console& console)
 {
     // Opened first, so that nobody waits for a long scan that has nowhere to go.
-    const Database database(invocation, Database::Access::Write);
+    const auto database = openDatabase(invocation, Database::Access::Write, console);
     if (!database) {
-        console.tell(database.error());
         return Refused;
     }
     const ImportScan scan =
@@ -92,14 +91,14 @@ ExitStatus runImport(const Invocation& invocation, Console& console)
     for (const ImportRefusal& refusal : scan.refusals) {
         console.tell(QStringLiteral("%1: %2").arg(printable(refusal.path), refusal.reason));
     }
-    const ImportResult result = database.host().addPrograms(scan.sources);
+    const ImportResult result = database->host().addPrograms(scan.sources);
     if (!result.store) {
         console.tell(result.store.message);
         return Refused;
     }
-    const Programs programs = database.programs();
+    const Programs programs = database->programs();
     if (invocation.json) {
-        console.writeJson({{QStringLiteral("database"), database.path()},
+        console.writeJson({{QStringLiteral("database"), database->path()},
                            {QStringLiteral("added"), programsJson(result.added, programs)},
                            {QStringLiteral("updated"), programsJson(result.updated, programs)},
                            {QStringLiteral("refused"), refusalsJson(scan.refusals)}});
@@ -111,19 +110,18 @@ ExitStatus runImport(const Invocation& invocation, Console& console)
 
 ExitStatus runPrograms(const Invocation& invocation, Console& console)
 {
-    const Database database(invocation, Database::Access::Read);
+    const auto database = openDatabase(invocation, Database::Access::Read, console);
     if (!database) {
-        console.tell(database.error());
         return Refused;
     }
-    const Programs programs = database.programs();
+    const Programs programs = database->programs();
     if (invocation.json) {
         QJsonArray array;
         for (const auto& [index, program] : programs) {
             array.append(programJson(program));
         }
         console.writeJson(
-            {{QStringLiteral("database"), database.path()}, {QStringLiteral("programs"), array}});
+            {{QStringLiteral("database"), database->path()}, {QStringLiteral("programs"), array}});
         return Done;
     }
     if (programs.empty()) {
@@ -155,20 +153,19 @@ ExitStatus runRemoveProgram(const Invocation& invocation, Console& console)
                          .arg(quoted(text)));
         return Misused;
     }
-    const Database database(invocation, Database::Access::Read);
+    const auto database = openDatabase(invocation, Database::Access::Read, console);
     if (!database) {
-        console.tell(database.error());
         return Refused;
     }
-    const Programs programs = database.programs();
+    const Programs programs = database->programs();
     const auto found = programs.find(index);
     if (found == programs.end()) {
         console.tell(QStringLiteral("There is no program %1 in %2.")
-                         .arg(QString::number(index), printable(database.path())));
+                         .arg(QString::number(index), printable(database->path())));
         return Refused;
     }
-    const qint64 plans = plansWith(index, database.tasks());
-    const StoreResult result = database.host().removeProgram(index);
+    const qint64 plans = plansWith(index, database->tasks());
+    const StoreResult result = database->host().removeProgram(index);
     if (!result) {
         console.tell(result.message);
         return Refused;

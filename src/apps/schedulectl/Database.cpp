@@ -1,5 +1,6 @@
 #include "Database.h"
 
+#include "Console.h"
 #include "common/DefaultDatabase.h"
 #include "service/scheduleManage.h"
 
@@ -75,4 +76,15 @@ Catalogue Database::catalogue() const
 ScheduleHost& Database::host() const
 {
     return ScheduleHost::instance();
+}
+
+std::unique_ptr<Database> openDatabase(const Invocation& invocation, Database::Access access,
+                                       Console& console)
+{
+    auto database = std::make_unique<Database>(invocation, access);
+    if (!*database) {
+        console.tell(database->error());
+        return nullptr;
+    }
+    return database;
 }

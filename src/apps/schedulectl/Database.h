@@ -6,6 +6,9 @@
 #include "trelprogramschedule/ScheduleHost.h"
 
 #include <map>
+#include <memory>
+
+class Console;
 
 /// The store that a command works on: open from construction to the end of its life, unless it
 /// could not be opened.
@@ -38,3 +41,7 @@ private:
     Access m_access;
     trel::mediadispatch::StoreResult m_result;
 };
+
+/// Opens the database of a command. Null, and the user is told why, when that is not possible.
+std::unique_ptr<Database> openDatabase(const Invocation& invocation, Database::Access access,
+                                       Console& console);

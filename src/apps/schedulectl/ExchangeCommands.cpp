@@ -99,18 +99,17 @@ void tellOddities(Console& console, const std::map<int, PlayTask>& tasks,
 
 ExitStatus runExport(const Invocation& invocation, Console& console)
 {
-    const Database database(invocation, Database::Access::Read);
+    const auto database = openDatabase(invocation, Database::Access::Read, console);
     if (!database) {
-        console.tell(database.error());
         return Refused;
     }
     const QString& file = invocation.arguments.first();
-    const auto tasks = database.tasks();
+    const auto tasks = database->tasks();
     if (file == kStandardStream) {
         console.write(scheduleToJson(tasks));
         return Done;
     }
-    if (isSameFile(file, database.path())) {
+    if (isSameFile(file, database->path())) {
         console.tell(QStringLiteral("%1 is the database itself and is not written over.")
                          .arg(printable(file)));
         return Refused;
@@ -137,18 +136,17 @@ ExitStatus runImportSchedule(const Invocation& invocation, Console& console)
         console.tell(QStringLiteral("%1: %2.").arg(shownName(file), printable(schedule.error)));
         return Refused;
     }
-    const Database database(invocation, Database::Access::Write);
+    const auto database = openDatabase(invocation, Database::Access::Write, console);
     if (!database) {
-        console.tell(database.error());
         return Refused;
     }
-    const QString before = sizeText(database.tasks());
-    const StoreResult result = database.host().replaceSchedule(schedule.tasks);
+    const QString before = sizeText(database->tasks());
+    const StoreResult result = database->host().replaceSchedule(schedule.tasks);
     if (!result) {
         console.tell(result.message);
         return Refused;
     }
-    tellOddities(console, schedule.tasks, database.programs());
+    tellOddities(console, schedule.tasks, database->programs());
     console.writeLine(QStringLiteral("%1 read from %2, in the place of %3.")
                           .arg(sizeText(schedule.tasks), shownName(file), before));
     return Done;

@@ -10,15 +10,14 @@ using namespace trel::mediadispatch;
 
 ExitStatus runShow(const Invocation& invocation, Console& console)
 {
-    const Database database(invocation, Database::Access::Read);
+    const auto database = openDatabase(invocation, Database::Access::Read, console);
     if (!database) {
-        console.tell(database.error());
         return Refused;
     }
-    const auto tasks = database.tasks();
-    const Catalogue catalogue = database.catalogue();
+    const auto tasks = database->tasks();
+    const Catalogue catalogue = database->catalogue();
     if (invocation.json) {
-        console.writeJson({{QStringLiteral("database"), database.path()},
+        console.writeJson({{QStringLiteral("database"), database->path()},
                            {QStringLiteral("tasks"), tasksJson(tasks, catalogue)}});
     } else {
         console.write(tasksText(tasks, catalogue));
@@ -28,16 +27,15 @@ ExitStatus runShow(const Invocation& invocation, Console& console)
 
 ExitStatus runCheck(const Invocation& invocation, Console& console)
 {
-    const Database database(invocation, Database::Access::Read);
+    const auto database = openDatabase(invocation, Database::Access::Read, console);
     if (!database) {
-        console.tell(database.error());
         return Refused;
     }
-    const auto tasks = database.tasks();
-    const ScheduleCheck check = checkSchedule(tasks, database.catalogue());
+    const auto tasks = database->tasks();
+    const ScheduleCheck check = checkSchedule(tasks, database->catalogue());
     if (invocation.json) {
         QJsonObject object = checkJson(check, tasks);
-        object.insert(QStringLiteral("database"), database.path());
+        object.insert(QStringLiteral("database"), database->path());
         console.writeJson(object);
     } else {
         console.write(checkText(check, tasks));

@@ -51,6 +51,22 @@ void writeTimelineJson(const StoredScreen& screen, Instant from, Instant to, boo
     report.end();
 }
 
+/// Does with the screen what a command does at the moment of its option "--at".
+template <typename Work>
+ExitStatus atMoment(const Invocation& invocation, Console& console, const Work& work)
+{
+    const LocalClock local(Clock::current().zone());
+    const auto moment = momentOption(invocation, "--at", local, DateAlone::Refused, console);
+    if (!moment) {
+        return Misused;
+    }
+    const auto database = openDatabase(invocation, Database::Access::Read, console);
+    if (!database) {
+        return Refused;
+    }
+    return work(*database, StoredScreen(*database, local), *moment);
+}
+
 /// The one program that a word means; none, and the user is told why, where it means another
 /// number of them.
 std::optional<int> chosenProgram(const ProgramChoice& choice, const QString& word,
@@ -79,27 +95,19 @@ std::optional<int> chosenProgram(const ProgramChoice& choice, const QString& wor
 
 ExitStatus runNow(const Invocation& invocation, Console& console)
 {
-    const LocalClock local(Clock::current().zone());
-    const auto moment = momentOption(invocation, "--at", local, DateAlone::Refused, console);
-    if (!moment) {
-        return Misused;
-    }
-    const Database database(invocation, Database::Access::Read);
-    if (!database) {
-        console.tell(database.error());
-        return Refused;
-    }
-    const StoredScreen screen(database, local);
-    const ScreenState state = screen.timeline().at(*moment);
-    const Upcoming next = upcoming(screen.timeline(), state);
-    if (invocation.json) {
-        QJsonObject object = nowJson(*moment, state, next, screen.words());
-        object.insert(QStringLiteral("database"), database.path());
-        console.writeJson(object);
-    } else {
-        console.write(nowText(*moment, state, next, screen.words()));
-    }
-    return Done;
+    const auto work = [&](const Database& database, const StoredScreen& screen, Instant moment) {
+        const ScreenState state = screen.timeline().at(moment);
+        const Upcoming next = upcoming(screen.timeline(), state);
+        if (invocation.json) {
+            QJsonObject object = nowJson(moment, state, next, screen.words());
+            object.insert(QStringLiteral("database"), database.path());
+            console.writeJson(object);
+        } else {
+            console.write(nowText(moment, state, next, screen.words()));
+        }
+        return Done;
+    };
+    return atMoment(invocation, console, work);
 }
 
 ExitStatus runTimeline(const Invocation& invocation, Console& console)
@@ -116,16 +124,15 @@ ExitStatus runTimeline(const Invocation& invocation, Console& console)
                          .arg(local.text(*to), local.text(*from)));
         return Misused;
     }
-    const Database database(invocation, Database::Access::Read);
+    const auto database = openDatabase(invocation, Database::Access::Read, console);
     if (!database) {
-        console.tell(database.error());
         return Refused;
     }
-    const StoredScreen screen(database, local);
+    const StoredScreen screen(*database, local);
     const bool hasPlays = invocation.has("--plays");
     if (invocation.json) {
         writeTimelineJson(screen, *from, *to, hasPlays,
-                          {{QStringLiteral("database"), database.path()}}, console);
+                          {{QStringLiteral("database"), database->path()}}, console);
     } else {
         writeTimelineText(screen, *from, *to, hasPlays, console);
     }
@@ -134,42 +141,33 @@ ExitStatus runTimeline(const Invocation& invocation, Console& console)
 
 ExitStatus runWhy(const Invocation& invocation, Console& console)
 {
-    const LocalClock local(Clock::current().zone());
-    const auto moment = momentOption(invocation, "--at", local, DateAlone::Refused, console);
-    if (!moment) {
-        return Misused;
-    }
-    const Database database(invocation, Database::Access::Read);
-    if (!database) {
-        console.tell(database.error());
-        return Refused;
-    }
-    const StoredScreen screen(database, local);
-    const ProgramChoice choice(database, screen.tasks(), screen.programs());
-    const std::optional<int> progIndex =
-        chosenProgram(choice, invocation.arguments.first(), database, console);
-    if (!progIndex) {
-        return Refused;
-    }
-    const ProgramVerdict verdict = programVerdict(screen.timeline(), screen.tasks(),
-                                                  screen.programs(), {}, *progIndex, *moment);
-    const VerdictSubject subject{*progIndex, choice.name(*progIndex), *moment, verdict};
-    if (invocation.json) {
-        QJsonObject object = verdictJson(subject, screen.words());
-        object.insert(QStringLiteral("database"), database.path());
-        console.writeJson(object);
-    } else {
-        console.write(verdictText(subject, screen.words()));
-    }
-    return Done;
+    const auto work = [&](const Database& database, const StoredScreen& screen, Instant moment) {
+        const ProgramChoice choice(database, screen.tasks(), screen.programs());
+        const std::optional<int> progIndex =
+            chosenProgram(choice, invocation.arguments.first(), database, console);
+        if (!progIndex) {
+            return Refused;
+        }
+        const ProgramVerdict verdict = programVerdict(screen.timeline(), screen.tasks(),
+                                                      screen.programs(), {}, *progIndex, moment);
+        const VerdictSubject subject{*progIndex, choice.name(*progIndex), moment, verdict};
+        if (invocation.json) {
+            QJsonObject object = verdictJson(subject, screen.words());
+            object.insert(QStringLiteral("database"), database.path());
+            console.writeJson(object);
+        } else {
+            console.write(verdictText(subject, screen.words()));
+        }
+        return Done;
+    };
+    return atMoment(invocation, console, work);
 }
 
 ExitStatus runSchedule(const Invocation& invocation, Console& console)
 {
-    const Database database(invocation, Database::Access::Read);
+    const auto database = openDatabase(invocation, Database::Access::Read, console);
     if (!database) {
-        console.tell(database.error());
         return Refused;
     }
-    return ScheduleRun(database, invocation.json, console).run();
+    return ScheduleRun(*database, invocation.json, console).run();
 }
