@@ -1,3 +1,5 @@
+#include "LanguageNames.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QMap>
@@ -122,17 +124,6 @@ QStringList placeMarkers(const QString& text)
     }
     markers.sort();
     return markers;
-}
-
-QStringList languages()
-{
-    QStringList names;
-    const QStringList files =
-        QDir(QStringLiteral(LANGUAGE_SOURCE_DIR)).entryList({QStringLiteral("*.ts")});
-    for (const QString& file : files) {
-        names.append(QFileInfo(file).completeBaseName());
-    }
-    return names;
 }
 
 } // namespace

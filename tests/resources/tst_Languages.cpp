@@ -1,3 +1,4 @@
+#include "LanguageNames.h"
 #include "support/TextKeys.h"
 #include "tstranslate/Translator.h"
 
@@ -120,17 +121,6 @@ const QStringList& menuKeys()
         QStringLiteral("zhCutCurrentProg"), QStringLiteral("zhDelayInsert"),
         QStringLiteral("zhProgMoveUp"), QStringLiteral("zhProgMoveDown")};
     return keys;
-}
-
-QStringList languages()
-{
-    QStringList names;
-    const QStringList files =
-        QDir(QStringLiteral(LANGUAGE_SOURCE_DIR)).entryList({QStringLiteral("*.ts")});
-    for (const QString& file : files) {
-        names.append(QFileInfo(file).completeBaseName());
-    }
-    return names;
 }
 
 void languageRows()

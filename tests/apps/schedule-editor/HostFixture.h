@@ -7,6 +7,8 @@
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 
+#include <QAbstractButton>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -33,6 +35,24 @@ struct HostFixture
     {
         editor->show();
         editor->clearAndInitialize();
+    }
+
+    /// Shows the editor with the demonstration's schedule, its first card open.
+    void showDemonstration()
+    {
+        QCOMPARE(window.openDatabase(database, QStringLiteral(DEMONSTRATION)), QString());
+        showEditor();
+        firstCard()->findChild<QAbstractButton*>(QStringLiteral("title"))->setChecked(false);
+        QCoreApplication::processEvents();
+    }
+
+    QWidget* firstCard() const
+    {
+        return editor->findChild<QWidget*>(QStringLiteral("PlanTaskWidget"));
+    }
+    QTableView* firstTable() const
+    {
+        return firstCard()->findChild<QTableView*>(QStringLiteral("schedule"));
     }
 
     /// Copies of the demonstration's media, which a test may lose.

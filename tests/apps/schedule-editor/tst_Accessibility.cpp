@@ -29,7 +29,6 @@ private slots:
     void tabGoesThroughARowAsItIsRead();
 
 private:
-    QWidget* card() const;
     QWidget* editorOf(int row, int column) const;
 
     std::unique_ptr<HostFixture> m_host;
@@ -97,11 +96,7 @@ QStringList faultsIn(QWidget* window)
 void tst_Accessibility::init()
 {
     m_host = std::make_unique<HostFixture>();
-    QCOMPARE(m_host->window.openDatabase(m_host->database, QStringLiteral(DEMONSTRATION)),
-             QString());
-    m_host->showEditor();
-    card()->findChild<QAbstractButton*>(QStringLiteral("title"))->setChecked(false);
-    QCoreApplication::processEvents();
+    m_host->showDemonstration();
 }
 
 void tst_Accessibility::cleanup()
@@ -109,14 +104,9 @@ void tst_Accessibility::cleanup()
     m_host.reset();
 }
 
-QWidget* tst_Accessibility::card() const
-{
-    return m_host->editor->findChild<QWidget*>(QStringLiteral("PlanTaskWidget"));
-}
-
 QWidget* tst_Accessibility::editorOf(int row, int column) const
 {
-    auto* table = card()->findChild<QTableView*>(QStringLiteral("schedule"));
+    auto* table = m_host->firstTable();
     QWidget* holder = table->indexWidget(table->model()->index(row, column));
     QWidget* field = holder->findChild<QPushButton*>(QStringLiteral("pushButton"));
     return field != nullptr ? field : holder->layout()->itemAt(0)->widget();
@@ -149,7 +139,7 @@ void tst_Accessibility::namesTellPlanAndMeaning()
 {
     QCOMPARE(nameOf(editorOf(1, StartTimeColumn)), QStringLiteral("Plan 2: from"));
     QCOMPARE(nameOf(editorOf(1, DeleteColumn)), QStringLiteral("Plan 2: Delete"));
-    QCOMPARE(nameOf(card()->findChild<QWidget*>(QStringLiteral("pushButtonDelete"))),
+    QCOMPARE(nameOf(m_host->firstCard()->findChild<QWidget*>(QStringLiteral("pushButtonDelete"))),
              QStringLiteral("Play task 1 Delete"));
 }
 
@@ -157,7 +147,7 @@ void tst_Accessibility::namesFollowTheLanguage()
 {
     m_host->languages.select(QStringLiteral("zh_CN"));
     QCOMPARE(nameOf(editorOf(1, StartTimeColumn)), QStringLiteral("计划2: 从"));
-    QCOMPARE(nameOf(card()->findChild<QWidget*>(QStringLiteral("pushButtonDelete"))),
+    QCOMPARE(nameOf(m_host->firstCard()->findChild<QWidget*>(QStringLiteral("pushButtonDelete"))),
              QStringLiteral("播放任务1 删除"));
 }
 

@@ -40,8 +40,6 @@ private slots:
     void textsOfMenus();
 
 private:
-    QWidget* card() const;
-    QTableView* table() const;
     void spoilPlan(int planId) const;
 
     std::unique_ptr<HostFixture> m_host;
@@ -68,6 +66,15 @@ QString faultsOfCells(QTableView* table, const QList<int>& columns)
     return faults;
 }
 
+/// At rest, and with everything selected.
+QString faultsOfStates(QTableView* table, const QList<int>& columns)
+{
+    table->clearSelection();
+    const QString atRest = faultsOfCells(table, columns);
+    table->selectAll();
+    return atRest + faultsOfCells(table, columns);
+}
+
 } // namespace
 
 void tst_Contrast::init()
@@ -75,26 +82,12 @@ void tst_Contrast::init()
     m_host = std::make_unique<HostFixture>();
     QFETCH(QString, theme);
     m_host->themes.select(theme);
-    QCOMPARE(m_host->window.openDatabase(m_host->database, QStringLiteral(DEMONSTRATION)),
-             QString());
-    m_host->showEditor();
-    card()->findChild<QAbstractButton*>(QStringLiteral("title"))->setChecked(false);
-    QCoreApplication::processEvents();
+    m_host->showDemonstration();
 }
 
 void tst_Contrast::cleanup()
 {
     m_host.reset();
-}
-
-QWidget* tst_Contrast::card() const
-{
-    return m_host->editor->findChild<QWidget*>(QStringLiteral("PlanTaskWidget"));
-}
-
-QTableView* tst_Contrast::table() const
-{
-    return card()->findChild<QTableView*>(QStringLiteral("schedule"));
 }
 
 void tst_Contrast::textsOfTheEditor()
@@ -119,7 +112,8 @@ void tst_Contrast::textsOfTheEditor()
 void tst_Contrast::selectedTexts()
 {
     auto* date = m_host->editor->findChild<QDateEdit*>(QStringLiteral("dateEditVaildStartTime"));
-    QWidget* times = table()->indexWidget(table()->model()->index(0, TimesColumn));
+    QWidget* times =
+        m_host->firstTable()->indexWidget(m_host->firstTable()->model()->index(0, TimesColumn));
     QString faults;
     for (QAbstractSpinBox* box :
          {static_cast<QAbstractSpinBox*>(date), times->findChild<QAbstractSpinBox*>()}) {
@@ -138,37 +132,38 @@ void tst_Contrast::textsOfRows()
     const QList<int> captions{TitleColumn,           ModeCaptionColumn,  StartTimeCaptionColumn,
                               EndTimeCaptionColumn,  TimesCaptionColumn, WeeksCaptionColumn,
                               EndActionCaptionColumn};
-    faults += faultsOfCells(table(), captions);
     for (const int row : {0, 1}) {
         for (const int column : {ModeColumn, StartTimeColumn, EndTimeColumn, TimesColumn,
                                  WeeksColumn, EndActionColumn}) {
-            QWidget* holder = table()->indexWidget(table()->model()->index(row, column));
+            QWidget* holder = m_host->firstTable()->indexWidget(
+                m_host->firstTable()->model()->index(row, column));
             faults += faultsOf(holder->layout()->itemAt(0)->widget());
         }
-        QWidget* field = table()->indexWidget(table()->model()->index(row, ProgramsColumn));
+        QWidget* field = m_host->firstTable()->indexWidget(
+            m_host->firstTable()->model()->index(row, ProgramsColumn));
         faults += faultsOf(field->findChild<QWidget*>(QStringLiteral("lineEdit")));
     }
-    table()->selectAll();
-    faults += faultsOfCells(table(), captions);
+    faults += faultsOfStates(m_host->firstTable(), captions);
     QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
 
 void tst_Contrast::statesOfPlans()
 {
+    QTableView* table = m_host->firstTable();
     QString faults;
     QStringList words;
-    for (int row = 0; row < 4; ++row) {
+    const auto look = [&](int row) {
         auto* label =
-            qobject_cast<QLabel*>(table()->indexWidget(table()->model()->index(row, StateColumn)));
+            qobject_cast<QLabel*>(table->indexWidget(table->model()->index(row, StateColumn)));
         words.append(label->text());
         faults += faultOf(pictureOf(label), label->rect().adjusted(6, 12, -6, -12), label->text(),
                           kLeastOfState);
+    };
+    for (int row = 0; row < 4; ++row) {
+        look(row);
     }
-    table()->selectAll();
-    auto* label =
-        qobject_cast<QLabel*>(table()->indexWidget(table()->model()->index(3, StateColumn)));
-    faults += faultOf(pictureOf(label), label->rect().adjusted(6, 12, -6, -12),
-                      QStringLiteral("selected"), kLeastOfState);
+    table->selectAll();
+    look(3);
     // Both states are there, and the words alone tell them apart.
     QCOMPARE(words.count(words.first()), 3);
     QVERIFY(words.last() != words.first());
@@ -228,7 +223,8 @@ void tst_Contrast::textsOfTheChooser()
         }
         chooser->close();
     });
-    QWidget* field = table()->indexWidget(table()->model()->index(1, ProgramsColumn));
+    QWidget* field =
+        m_host->firstTable()->indexWidget(m_host->firstTable()->model()->index(1, ProgramsColumn));
     field->findChild<QPushButton*>(QStringLiteral("pushButton"))->click();
     QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
@@ -238,10 +234,7 @@ void tst_Contrast::textsOfTheHost()
     m_host->window.show();
     QCoreApplication::processEvents();
     auto* programs = m_host->window.findChild<QTableView*>(QStringLiteral("programTable"));
-    const QList<int> columns{0, 1, 2, 3};
-    QString faults = faultsOfCells(programs, columns);
-    programs->selectAll();
-    faults += faultsOfCells(programs, columns);
+    const QString faults = faultsOfStates(programs, {0, 1, 2, 3});
     QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
 

@@ -43,8 +43,7 @@ private slots:
     void toolTips();
 
 private:
-    QWidget* card() const;
-    QString faultsOfPrompt(int buttons, const std::function<void()>& open) const;
+    void lookAtPrompt(int buttons, const std::function<void()>& open) const;
 
     std::unique_ptr<HostFixture> m_host;
 };
@@ -85,11 +84,7 @@ void tst_PromptContrast::init()
     m_host = std::make_unique<HostFixture>();
     QFETCH(QString, theme);
     m_host->themes.select(theme);
-    QCOMPARE(m_host->window.openDatabase(m_host->database, QStringLiteral(DEMONSTRATION)),
-             QString());
-    m_host->showEditor();
-    card()->findChild<QAbstractButton*>(QStringLiteral("title"))->setChecked(false);
-    QCoreApplication::processEvents();
+    m_host->showDemonstration();
 }
 
 void tst_PromptContrast::cleanup()
@@ -97,12 +92,7 @@ void tst_PromptContrast::cleanup()
     m_host.reset();
 }
 
-QWidget* tst_PromptContrast::card() const
-{
-    return m_host->editor->findChild<QWidget*>(QStringLiteral("PlanTaskWidget"));
-}
-
-QString tst_PromptContrast::faultsOfPrompt(int buttons, const std::function<void()>& open) const
+void tst_PromptContrast::lookAtPrompt(int buttons, const std::function<void()>& open) const
 {
     QString faults = QStringLiteral("no prompt");
     QTimer::singleShot(0, m_host->editor.get(), [&faults, buttons] {
@@ -122,41 +112,38 @@ QString tst_PromptContrast::faultsOfPrompt(int buttons, const std::function<void
         prompt->close();
     });
     open();
-    return faults;
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
 
 void tst_PromptContrast::questionOfTheEditor()
 {
-    const QString faults = faultsOfPrompt(2, [this] {
-        card()->findChild<QPushButton*>(QStringLiteral("pushButtonDelete"))->click();
+    lookAtPrompt(2, [this] {
+        m_host->firstCard()->findChild<QPushButton*>(QStringLiteral("pushButtonDelete"))->click();
     });
-    QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
 
 void tst_PromptContrast::refusalOfTheEditor()
 {
-    const QString faults = faultsOfPrompt(1, [this] {
-        auto* first = card()->findChild<QDateEdit*>(QStringLiteral("dateEditVaildStartTime"));
-        auto* last = card()->findChild<QDateEdit*>(QStringLiteral("dateEditVaildEndTime"));
+    lookAtPrompt(1, [this] {
+        auto* first =
+            m_host->firstCard()->findChild<QDateEdit*>(QStringLiteral("dateEditVaildStartTime"));
+        auto* last =
+            m_host->firstCard()->findChild<QDateEdit*>(QStringLiteral("dateEditVaildEndTime"));
         first->setDate(last->date().addDays(1));
     });
-    QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
 
 void tst_PromptContrast::questionOfTheHost()
 {
-    const QString faults = faultsOfPrompt(3, [] {
+    lookAtPrompt(3, [] {
         prompts::confirm(QStringLiteral("The schedule has changes that are not saved."),
                          QStringLiteral("Save"), QStringLiteral("Discard"), QStringLiteral("Stay"));
     });
-    QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
 
 void tst_PromptContrast::noticeOfTheHost()
 {
-    const QString faults =
-        faultsOfPrompt(1, [] { prompts::notice(QStringLiteral("The file could not be read.")); });
-    QVERIFY2(faults.isEmpty(), qPrintable(faults));
+    lookAtPrompt(1, [] { prompts::notice(QStringLiteral("The file could not be read.")); });
 }
 
 void tst_PromptContrast::progressOfAnImport()
@@ -190,14 +177,14 @@ void tst_PromptContrast::progressOfAnImport()
 void tst_PromptContrast::toolTips()
 {
     QString faults;
-    auto* copy = card()->findChild<QPushButton*>(QStringLiteral("pbtCreatCopy"));
+    auto* copy = m_host->firstCard()->findChild<QPushButton*>(QStringLiteral("pbtCreatCopy"));
     const QPointF place = copy->rect().center();
     QEnterEvent enter(place, copy->mapTo(copy->window(), place.toPoint()),
                       copy->mapToGlobal(place.toPoint()));
     QCoreApplication::sendEvent(copy, &enter);
     faults += faultsOfToolTip(QStringLiteral("Make a copy"));
 
-    auto* table = card()->findChild<QTableView*>(QStringLiteral("schedule"));
+    auto* table = m_host->firstTable();
     const auto cell = [table](int column) {
         return table->indexWidget(table->model()->index(0, column));
     };

@@ -42,7 +42,6 @@ private slots:
 
 private:
     void openEditor();
-    QWidget* card() const;
     QWidget* cell(int column) const;
     QStringList times() const;
     void withChooser(const std::function<void(QWidget&)>& look) const;
@@ -72,7 +71,7 @@ QRect inkIn(const QImage& picture, const QRect& part)
 void tst_RightToLeft::init()
 {
     openEditor();
-    QVERIFY(card()->isRightToLeft());
+    QVERIFY(m_host->firstCard()->isRightToLeft());
 }
 
 void tst_RightToLeft::cleanup()
@@ -86,21 +85,12 @@ void tst_RightToLeft::openEditor()
     m_host = std::make_unique<HostFixture>();
     // A language brings its direction along, and so this comes after its choice.
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
-    QCOMPARE(m_host->window.openDatabase(m_host->database, QStringLiteral(DEMONSTRATION)),
-             QString());
-    m_host->showEditor();
-    card()->findChild<QAbstractButton*>(QStringLiteral("title"))->setChecked(false);
-    QCoreApplication::processEvents();
-}
-
-QWidget* tst_RightToLeft::card() const
-{
-    return m_host->editor->findChild<QWidget*>(QStringLiteral("PlanTaskWidget"));
+    m_host->showDemonstration();
 }
 
 QWidget* tst_RightToLeft::cell(int column) const
 {
-    auto* table = card()->findChild<QTableView*>(QStringLiteral("schedule"));
+    auto* table = m_host->firstTable();
     return table->indexWidget(table->model()->index(0, column));
 }
 
@@ -109,7 +99,7 @@ QStringList tst_RightToLeft::times() const
 {
     QStringList shown;
     for (const char* name : {"dateEditVaildStartTime", "dateEditVaildEndTime"}) {
-        shown.append(card()->findChild<QDateEdit*>(QLatin1String(name))->text());
+        shown.append(m_host->firstCard()->findChild<QDateEdit*>(QLatin1String(name))->text());
     }
     for (const int column : {StartTimeColumn, EndTimeColumn}) {
         shown.append(cell(column)->findChild<QTimeEdit*>()->text());
@@ -154,8 +144,10 @@ void tst_RightToLeft::cardsKeepTheirDistance()
 {
     auto* area = m_host->editor->findChild<QScrollArea*>(QStringLiteral("scrollArea"));
     const int width = area->viewport()->width();
-    const auto left = [this, area] { return card()->mapTo(area->viewport(), QPoint()).x(); };
-    const int fromTheRight = width - left() - card()->width();
+    const auto left = [this, area] {
+        return m_host->firstCard()->mapTo(area->viewport(), QPoint()).x();
+    };
+    const int fromTheRight = width - left() - m_host->firstCard()->width();
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     QCoreApplication::processEvents();
     QCOMPARE(fromTheRight, left());

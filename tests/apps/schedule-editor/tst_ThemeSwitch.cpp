@@ -31,7 +31,6 @@ private slots:
 private:
     using Open = std::function<void()>;
 
-    QWidget* card() const;
     QWidget* cell(int column) const;
     QImage pictureOfModal(const Open& open, const QString& switchTo) const;
     void compareModal(const Open& open) const;
@@ -49,11 +48,7 @@ const QString kLight = QStringLiteral("light");
 void tst_ThemeSwitch::init()
 {
     m_host = std::make_unique<HostFixture>();
-    QCOMPARE(m_host->window.openDatabase(m_host->database, QStringLiteral(DEMONSTRATION)),
-             QString());
-    m_host->showEditor();
-    card()->findChild<QAbstractButton*>(QStringLiteral("title"))->setChecked(false);
-    QCoreApplication::processEvents();
+    m_host->showDemonstration();
 }
 
 void tst_ThemeSwitch::cleanup()
@@ -61,14 +56,9 @@ void tst_ThemeSwitch::cleanup()
     m_host.reset();
 }
 
-QWidget* tst_ThemeSwitch::card() const
-{
-    return m_host->editor->findChild<QWidget*>(QStringLiteral("PlanTaskWidget"));
-}
-
 QWidget* tst_ThemeSwitch::cell(int column) const
 {
-    auto* table = card()->findChild<QTableView*>(QStringLiteral("schedule"));
+    auto* table = m_host->firstTable();
     return table->indexWidget(table->model()->index(1, column));
 }
 
@@ -112,8 +102,9 @@ void tst_ThemeSwitch::anOpenChooserFollows()
 
 void tst_ThemeSwitch::anOpenPromptFollows()
 {
-    compareModal(
-        [this] { card()->findChild<QPushButton*>(QStringLiteral("pushButtonDelete"))->click(); });
+    compareModal([this] {
+        m_host->firstCard()->findChild<QPushButton*>(QStringLiteral("pushButtonDelete"))->click();
+    });
 }
 
 void tst_ThemeSwitch::anOpenListFollows()

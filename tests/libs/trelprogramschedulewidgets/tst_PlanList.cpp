@@ -1,8 +1,8 @@
 #include "CardLines.h"
+#include "KeptTasks.h"
 
 #include "support/MetaMethods.h"
 #include "support/PromptAnswer.h"
-#include "support/RecordingService.h"
 #include "support/TaskRecords.h"
 #include "support/TestClock.h"
 
@@ -12,22 +12,6 @@
 #include <QtTest>
 
 using namespace trel::mediadispatch;
-
-namespace {
-
-const QDateTime kNow(QDate(2024, 3, 10), QTime(12, 0));
-
-RecordingService& service()
-{
-    return RecordingService::instance();
-}
-
-void keep(const PlayTask& task)
-{
-    service().working[task.id] = task;
-}
-
-} // namespace
 
 /// Adding and deleting of single tasks, and what a list that is full refuses.
 class tst_PlanList : public QObject

@@ -1,28 +1,12 @@
 #include "CardLines.h"
+#include "KeptTasks.h"
 
-#include "support/RecordingService.h"
 #include "support/TaskRecords.h"
 #include "support/TestClock.h"
 
 #include <QtTest>
 
 using namespace trel::mediadispatch;
-
-namespace {
-
-const QDateTime kNow(QDate(2024, 3, 10), QTime(12, 0));
-
-RecordingService& service()
-{
-    return RecordingService::instance();
-}
-
-void keep(const PlayTask& task)
-{
-    service().working[task.id] = task;
-}
-
-} // namespace
 
 /// Copying of single tasks.
 class tst_PlanListCopy : public QObject

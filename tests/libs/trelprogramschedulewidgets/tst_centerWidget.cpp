@@ -1,8 +1,8 @@
+#include "KeptTasks.h"
 #include "PlanList.h"
 #include "PlanTaskWidget.h"
 #include "centerWidget.h"
 #include "support/PromptAnswer.h"
-#include "support/RecordingService.h"
 #include "support/TaskRecords.h"
 #include "support/TestClock.h"
 
@@ -14,18 +14,6 @@
 using namespace trel::mediadispatch;
 
 namespace {
-
-const QDateTime kNow(QDate(2024, 3, 10), QTime(12, 0));
-
-RecordingService& service()
-{
-    return RecordingService::instance();
-}
-
-void keep(const PlayTask& task)
-{
-    service().working[task.id] = task;
-}
 
 QPushButton* button(const centerWidget& panel, const char* name)
 {
