@@ -34,13 +34,14 @@ constexpr int kModeBoxMargin = 9;
 constexpr int kLeastTimes = 1;
 constexpr int kMostTimes = 999;
 
-struct Caption
+/// The key of a text that belongs to a column.
+struct ColumnText
 {
     PlanColumn column;
     const char* key;
 };
 
-constexpr std::array<Caption, 6> kCaptions = {{
+constexpr std::array<ColumnText, 6> kCaptions = {{
     {ModeCaptionColumn, "zhModeStr"},
     {StartTimeCaptionColumn, "zhFromStr"},
     {EndTimeCaptionColumn, "zhToStr"},
@@ -51,13 +52,7 @@ constexpr std::array<Caption, 6> kCaptions = {{
 
 /// What a screen reader says of the editor in a column. Its caption stands in a cell of its own,
 /// where nothing leads from the editor to it.
-struct SpokenName
-{
-    PlanColumn column;
-    const char* key;
-};
-
-constexpr std::array<SpokenName, 9> kSpokenNames = {{
+constexpr std::array<ColumnText, 9> kSpokenNames = {{
     {ModeColumn, "zhModeStr"},
     {StartTimeColumn, "zhFromStr"},
     {EndTimeColumn, "zhToStr"},
@@ -84,7 +79,7 @@ void nameEditors(const QTableView& table, int row)
 {
     const QAbstractItemModel& model = *table.model();
     const QString plan = model.index(row, TitleColumn).data().toString().trimmed();
-    for (const SpokenName& name : kSpokenNames) {
+    for (const ColumnText& name : kSpokenNames) {
         QWidget* const holder = table.indexWidget(model.index(row, name.column));
         if (holder) {
             editorIn(holder)->setAccessibleName(plan + QLatin1Char(' ') + scheduleText(name.key));
@@ -276,7 +271,7 @@ int appendPlanCells(QStandardItemModel& model, const PlayPlan& plan)
     items[TitleColumn]->setText(planTitle(plan.id));
     items[TitleColumn]->setData(plan.id, PlanIdRole);
     items[ProgramsColumn]->setData(programNames(plan.programs), ProgramTextRole);
-    for (const Caption& caption : kCaptions) {
+    for (const ColumnText& caption : kCaptions) {
         items[caption.column]->setText(scheduleText(caption.key));
     }
     model.appendRow(items);
@@ -330,7 +325,7 @@ void translatePlanRow(QTableView& table, int row)
 
     const int planId = model.data(cell(TitleColumn), PlanIdRole).toInt();
     model.setData(cell(TitleColumn), retranslatedPlanTitle(planId), Qt::EditRole);
-    for (const Caption& caption : kCaptions) {
+    for (const ColumnText& caption : kCaptions) {
         model.setData(cell(caption.column), scheduleText(caption.key), Qt::EditRole);
     }
     table.indexWidget(cell(CopyColumn))->setToolTip(scheduleText("zhCreateCopy"));

@@ -55,6 +55,13 @@ struct HostFixture
         return firstCard()->findChild<QTableView*>(QStringLiteral("schedule"));
     }
 
+    /// What stands in a cell of it.
+    QWidget* cell(int row, int column) const
+    {
+        const QTableView* table = firstTable();
+        return table->indexWidget(table->model()->index(row, column));
+    }
+
     /// Copies of the demonstration's media, which a test may lose.
     QString copyMedia(const QString& name)
     {

@@ -106,8 +106,7 @@ void tst_Accessibility::cleanup()
 
 QWidget* tst_Accessibility::editorOf(int row, int column) const
 {
-    auto* table = m_host->firstTable();
-    QWidget* holder = table->indexWidget(table->model()->index(row, column));
+    QWidget* holder = m_host->cell(row, column);
     QWidget* field = holder->findChild<QPushButton*>(QStringLiteral("pushButton"));
     return field != nullptr ? field : holder->layout()->itemAt(0)->widget();
 }

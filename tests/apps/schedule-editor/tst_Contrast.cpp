@@ -112,8 +112,7 @@ void tst_Contrast::textsOfTheEditor()
 void tst_Contrast::selectedTexts()
 {
     auto* date = m_host->editor->findChild<QDateEdit*>(QStringLiteral("dateEditVaildStartTime"));
-    QWidget* times =
-        m_host->firstTable()->indexWidget(m_host->firstTable()->model()->index(0, TimesColumn));
+    QWidget* times = m_host->cell(0, TimesColumn);
     QString faults;
     for (QAbstractSpinBox* box :
          {static_cast<QAbstractSpinBox*>(date), times->findChild<QAbstractSpinBox*>()}) {
@@ -135,12 +134,10 @@ void tst_Contrast::textsOfRows()
     for (const int row : {0, 1}) {
         for (const int column : {ModeColumn, StartTimeColumn, EndTimeColumn, TimesColumn,
                                  WeeksColumn, EndActionColumn}) {
-            QWidget* holder = m_host->firstTable()->indexWidget(
-                m_host->firstTable()->model()->index(row, column));
+            QWidget* holder = m_host->cell(row, column);
             faults += faultsOf(holder->layout()->itemAt(0)->widget());
         }
-        QWidget* field = m_host->firstTable()->indexWidget(
-            m_host->firstTable()->model()->index(row, ProgramsColumn));
+        QWidget* field = m_host->cell(row, ProgramsColumn);
         faults += faultsOf(field->findChild<QWidget*>(QStringLiteral("lineEdit")));
     }
     faults += faultsOfStates(m_host->firstTable(), captions);
@@ -149,12 +146,10 @@ void tst_Contrast::textsOfRows()
 
 void tst_Contrast::statesOfPlans()
 {
-    QTableView* table = m_host->firstTable();
     QString faults;
     QStringList words;
     const auto look = [&](int row) {
-        auto* label =
-            qobject_cast<QLabel*>(table->indexWidget(table->model()->index(row, StateColumn)));
+        auto* label = qobject_cast<QLabel*>(m_host->cell(row, StateColumn));
         words.append(label->text());
         faults += faultOf(pictureOf(label), label->rect().adjusted(6, 12, -6, -12), label->text(),
                           kLeastOfState);
@@ -162,7 +157,7 @@ void tst_Contrast::statesOfPlans()
     for (int row = 0; row < 4; ++row) {
         look(row);
     }
-    table->selectAll();
+    m_host->firstTable()->selectAll();
     look(3);
     // Both states are there, and the words alone tell them apart.
     QCOMPARE(words.count(words.first()), 3);
@@ -223,8 +218,7 @@ void tst_Contrast::textsOfTheChooser()
         }
         chooser->close();
     });
-    QWidget* field =
-        m_host->firstTable()->indexWidget(m_host->firstTable()->model()->index(1, ProgramsColumn));
+    QWidget* field = m_host->cell(1, ProgramsColumn);
     field->findChild<QPushButton*>(QStringLiteral("pushButton"))->click();
     QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }

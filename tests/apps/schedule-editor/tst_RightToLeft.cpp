@@ -90,8 +90,7 @@ void tst_RightToLeft::openEditor()
 
 QWidget* tst_RightToLeft::cell(int column) const
 {
-    auto* table = m_host->firstTable();
-    return table->indexWidget(table->model()->index(0, column));
+    return m_host->cell(0, column);
 }
 
 /// The dates of the task and the times of its first plan, as they stand in their boxes.
