@@ -219,7 +219,7 @@ QString blockTitle(const WeekBlock& block, const QFontMetrics& metrics, int widt
 {
     const QString number = QString::number(block.planId);
     const QString begin = shortTime(block.from);
-    const QString whole = number + kGap + leftToRight(begin + QChar(0x2013) + shortTime(block.to));
+    QString whole = number + kGap + leftToRight(begin + QChar(0x2013) + shortTime(block.to));
     if (metrics.horizontalAdvance(whole) <= width) {
         return whole;
     }
