@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStandardItemModel>
+#include <QStringBuilder>
 #include <QTableView>
 #include <QTimeEdit>
 #include <QVBoxLayout>
@@ -82,7 +83,7 @@ void nameEditors(const QTableView& table, int row)
     for (const ColumnText& name : kSpokenNames) {
         QWidget* const holder = table.indexWidget(model.index(row, name.column));
         if (holder) {
-            editorIn(holder)->setAccessibleName(plan + QLatin1Char(' ') + scheduleText(name.key));
+            editorIn(holder)->setAccessibleName(plan % QLatin1Char(' ') % scheduleText(name.key));
         }
     }
 }

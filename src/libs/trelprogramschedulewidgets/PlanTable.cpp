@@ -6,6 +6,7 @@
 #include "ReadOnlyDelegate.h"
 
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QScrollBar>
 #include <QTableView>
 
@@ -58,6 +59,21 @@ void setUpBehaviour(QTableView& table)
     table.setFocusPolicy(Qt::NoFocus);
 }
 
+// A header makes a selection of its own for its model and leaves it behind when the table hands it
+// the one that they share. Each would follow all that happens to the rows for nobody.
+void dropSpareSelections(const QTableView& table)
+{
+    for (const QHeaderView* const header : {table.horizontalHeader(), table.verticalHeader()}) {
+        const auto selections =
+            header->findChildren<QItemSelectionModel*>(QString(), Qt::FindDirectChildrenOnly);
+        for (QItemSelectionModel* const selection : selections) {
+            if (selection != header->selectionModel()) {
+                delete selection;
+            }
+        }
+    }
+}
+
 // Beside a vertical scroll bar the columns need a few pixels more than there are, and no scroll bar
 // moves the table sideways. So it always shows its right end, where the buttons are, and what goes
 // out of sight is the blank at the head of the titles.
@@ -95,6 +111,7 @@ LineEditDelegate* setUpPlanTable(QTableView& table, PlanStandardItemModel& model
     // After the headers are hidden, or they would be measured in vain.
     model.setColumnCount(PlanColumnCount);
     table.setModel(&model);
+    dropSpareSelections(table);
     keepRightEndInSight(table);
     LineEditDelegate* const programs = addDelegates(table, owner);
     for (int column = 0; column < PlanColumnCount; ++column) {

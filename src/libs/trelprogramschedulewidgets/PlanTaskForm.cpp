@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QEnterEvent>
+#include <QStringBuilder>
 #include <QToolTip>
 #include <QVBoxLayout>
 
@@ -80,11 +81,11 @@ void PlanTaskForm::translate(const PlayTask& task)
 void PlanTaskForm::nameControls()
 {
     const QString task = title->text().trimmed() + QLatin1Char(' ');
-    pbtCreatCopy->setAccessibleName(task + scheduleText("zhCreateCopy"));
-    pushButtonDelete->setAccessibleName(task + scheduleText("szDeleteStr"));
-    pushButtonAdd->setAccessibleName(task + scheduleText("zhSelectProgramsStr"));
-    dateEditVaildStartTime->setAccessibleName(task + labelvalidTime->text());
-    dateEditVaildEndTime->setAccessibleName(task + labelTo->text());
+    pbtCreatCopy->setAccessibleName(task % scheduleText("zhCreateCopy"));
+    pushButtonDelete->setAccessibleName(task % scheduleText("szDeleteStr"));
+    pushButtonAdd->setAccessibleName(task % scheduleText("zhSelectProgramsStr"));
+    dateEditVaildStartTime->setAccessibleName(task % labelvalidTime->text());
+    dateEditVaildEndTime->setAccessibleName(task % labelTo->text());
     tableView->setAccessibleName(title->text().trimmed());
 }
 

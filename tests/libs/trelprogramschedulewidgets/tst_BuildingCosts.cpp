@@ -7,6 +7,8 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
+#include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QProxyStyle>
 #include <QTableView>
@@ -134,6 +136,7 @@ private slots:
     void init();
     void aBoxIsBuiltWithoutItsList();
     void theListOfABoxIsWatchedByWhomeverItIsMade();
+    void aTableHasOneSelection();
     void rowsOfAHiddenCardAreNotMeasured();
     void rowsBuiltOutOfSightLieWhereOthersDo();
     void rowsLeaveNoRequestsBehind_data();
@@ -180,6 +183,17 @@ void tst_BuildingCosts::theListOfABoxIsWatchedByWhomeverItIsMade()
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, monday);
     QVERIFY(!box.itemData(0, Qt::CheckStateRole).toBool());
     QVERIFY(box.itemData(1, Qt::CheckStateRole).toBool());
+}
+
+void tst_BuildingCosts::aTableHasOneSelection()
+{
+    QWidget window;
+    const PlanTaskWidget card(taskOf(1, 0), &window);
+    const auto* const table = card.findChild<QTableView*>();
+    const auto selections = card.findChildren<QItemSelectionModel*>();
+    QCOMPARE(selections.size(), 1);
+    QCOMPARE(table->selectionModel(), selections.constFirst());
+    QCOMPARE(table->verticalHeader()->selectionModel(), selections.constFirst());
 }
 
 void tst_BuildingCosts::rowsOfAHiddenCardAreNotMeasured()
