@@ -27,10 +27,10 @@ std::vector<bool> collisions(const std::vector<PlayPlan>& plans)
 
 } // namespace
 
-std::set<int> markConflicts(PlayTask& task)
+std::unordered_set<int> markConflicts(PlayTask& task)
 {
     const std::vector<bool> collides = collisions(task.plans);
-    std::set<int> colliding;
+    std::unordered_set<int> colliding;
     for (std::size_t i = 0; i < task.plans.size(); ++i) {
         task.plans[i].isConflict = collides[i];
         if (collides[i]) {
@@ -40,16 +40,19 @@ std::set<int> markConflicts(PlayTask& task)
     return colliding;
 }
 
-void showPlanState(QLabel& label, bool collides)
+PlanStateLook::PlanStateLook()
+    : m_normal{QStringLiteral("color:green; padding-left: 1px;"), scheduleText("zhnormalStr")}
+    , m_colliding{QStringLiteral("color:red; padding-left: 1px;"), scheduleText("zhconflictStr")}
+{}
+
+void PlanStateLook::show(QLabel& label, bool collides) const
 {
-    const QString styleSheet = collides ? QStringLiteral("color:red; padding-left: 1px;")
-                                        : QStringLiteral("color:green; padding-left: 1px;");
-    const QString text = scheduleText(collides ? "zhconflictStr" : "zhnormalStr");
-    if (label.styleSheet() != styleSheet) {
-        label.setStyleSheet(styleSheet);
+    const State& state = collides ? m_colliding : m_normal;
+    if (label.styleSheet() != state.styleSheet) {
+        label.setStyleSheet(state.styleSheet);
     }
-    if (label.text() != text) {
-        label.setText(text);
+    if (label.text() != state.text) {
+        label.setText(state.text);
     }
 }
 

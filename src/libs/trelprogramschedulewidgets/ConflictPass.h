@@ -2,7 +2,9 @@
 
 #include "service/ScheduleRecords.h"
 
-#include <set>
+#include <QString>
+
+#include <unordered_set>
 
 class QLabel;
 
@@ -11,10 +13,28 @@ namespace trel::mediadispatch {
 /// Sets isConflict of every plan of the task afresh and returns the ids of the plans that collide
 /// with an earlier one. Ends that follow from programs are worked out on the service's catalogue,
 /// which is fetched once; the endTime of the plans stays as it is.
-std::set<int> markConflicts(PlayTask& task);
+std::unordered_set<int> markConflicts(PlayTask& task);
 
-/// Shows in the state label of a row whether its plan collides with an earlier one. Costs next to
-/// nothing when the label shows it already.
-void showPlanState(QLabel& label, bool collides);
+/// What the state labels of the rows show, in the language of the moment. Made once for the labels
+/// of all rows: they share its texts, and to look up a text costs more than the label itself.
+class PlanStateLook
+{
+public:
+    PlanStateLook();
+
+    /// Shows in the label of a row whether its plan collides with an earlier one. Costs next to
+    /// nothing when the label shows it already.
+    void show(QLabel& label, bool collides) const;
+
+private:
+    struct State
+    {
+        QString styleSheet;
+        QString text;
+    };
+
+    State m_normal;
+    State m_colliding;
+};
 
 } // namespace trel::mediadispatch

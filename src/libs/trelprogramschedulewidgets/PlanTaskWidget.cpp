@@ -132,20 +132,20 @@ void PlanTaskWidget::loadPlans()
         return;
     }
     m_ui->tableView->setUpdatesEnabled(false);
-    const std::set<int> colliding = markConflicts(m_task);
+    const std::unordered_set<int> colliding = markConflicts(m_task);
     std::vector<PlayPlan> plans = m_task.plans;
     for (PlayPlan& plan : plans) {
         if (plan.id == kNoPlanId) {
             completeNewPlan(plan, m_task);
         }
-        appendPlanCells(*m_model, plan);
+        appendRow(plan);
     }
     for (int row = 0; row < m_model->rowCount(); ++row) {
         buildEditors(row, plans[static_cast<std::size_t>(row)]);
-        showState(m_conflictLabels.back(), colliding);
         service().addTask(m_task);
         forgetPolishRequests();
     }
+    showStates(colliding);
     for (int row = 0; row < m_model->rowCount(); ++row) {
         openRowEditors(*m_ui->tableView, row);
         forgetPolishRequests();
@@ -209,7 +209,7 @@ void PlanTaskWidget::slotAddRowPlan(PlayPlan plan, bool init)
         return;
     }
     plan.isConflict = false;
-    const int row = appendPlanCells(*m_model, plan);
+    const int row = appendRow(plan);
     buildEditors(row, plan);
     if (!init) {
         service().addPlan(m_task.id, plan);
@@ -229,6 +229,15 @@ bool PlanTaskWidget::choosePrograms(PlayPlan& plan)
     plan.hasNoDuration = chooser.hasNoDuration();
     plan.programs = chooser.getSelectedPrograms();
     return true;
+}
+
+int PlanTaskWidget::appendRow(const PlayPlan& plan)
+{
+    const int row = appendPlanCells(*m_model, plan);
+    // Neither takes the place of an entry that is there.
+    m_rowByPlanId.emplace(plan.id, row);
+    m_planIdByRow.emplace(row, plan.id);
+    return row;
 }
 
 void PlanTaskWidget::buildEditors(int row, PlayPlan& plan)
@@ -255,9 +264,6 @@ void PlanTaskWidget::buildEditors(int row, PlayPlan& plan)
     m_conflictLabels.push_back({row, editors.state});
     m_weekCombos.push_back({row, editors.weeks});
     m_endActionCombos.push_back({row, editors.endAction});
-    // Neither takes the place of an entry that is there.
-    m_rowByPlanId.emplace(plan.id, row);
-    m_planIdByRow.emplace(row, plan.id);
 }
 
 void PlanTaskWidget::slotAddProgram(int row)
@@ -355,19 +361,27 @@ void PlanTaskWidget::slotUpdateEndTime()
 
 void PlanTaskWidget::refreshConflicts()
 {
-    const std::set<int> colliding = markConflicts(m_task);
-    for (const auto& state : m_conflictLabels) {
-        showState(state, colliding);
-    }
+    showStates(markConflicts(m_task));
     m_ui->tableView->QWidget::update();
     service().addTask(m_task);
 }
 
-void PlanTaskWidget::showState(const RowWidget<QLabel>& state, const std::set<int>& colliding)
+void PlanTaskWidget::showStates(const std::unordered_set<int>& colliding)
 {
-    const auto planId = m_planIdByRow.find(state.row);
-    if (state.widget && planId != m_planIdByRow.end()) {
-        showPlanState(*state.widget, colliding.count(planId->second) > 0);
+    const PlanStateLook look;
+    auto planId = m_planIdByRow.cbegin();
+    for (const auto& state : m_conflictLabels) {
+        // Labels stand in the order of their rows, so that it mostly is the next entry.
+        if (planId == m_planIdByRow.cend() || planId->first != state.row) {
+            planId = m_planIdByRow.find(state.row);
+        }
+        if (planId == m_planIdByRow.cend()) {
+            continue;
+        }
+        if (state.widget) {
+            look.show(*state.widget, colliding.count(planId->second) > 0);
+        }
+        ++planId;
     }
 }
 

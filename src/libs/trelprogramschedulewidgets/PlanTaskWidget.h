@@ -8,8 +8,8 @@
 
 #include <map>
 #include <memory>
-#include <set>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 class QDate;
@@ -126,6 +126,8 @@ private:
 
     /// Asks for the programs of a new plan. False also when the card has gone meanwhile.
     bool choosePrograms(PlayPlan& plan);
+    /// Appends the cells of a plan and enters it under their row, which is returned.
+    int appendRow(const PlayPlan& plan);
     /// Gives a row its editors and enters them everywhere. Corrects in the plan what a row cannot
     /// show.
     void buildEditors(int row, PlayPlan& plan);
@@ -145,7 +147,7 @@ private:
     /// Marks the plans that collide with an earlier one, shows it in the rows and hands the task
     /// to the service.
     void refreshConflicts();
-    void showState(const RowWidget<QLabel>& state, const std::set<int>& colliding);
+    void showStates(const std::unordered_set<int>& colliding);
 
     void changeMode(int row, int mode);
 

@@ -9,6 +9,7 @@
 #include <QCompleter>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QLabel>
 #include <QLineEdit>
 #include <QProxyStyle>
 #include <QTableView>
@@ -139,6 +140,7 @@ private slots:
     void aTableHasOneSelection();
     void rowsOfAHiddenCardAreNotMeasured();
     void rowsBuiltOutOfSightLieWhereOthersDo();
+    void labelsOfAllRowsShareTheirTexts();
     void rowsLeaveNoRequestsBehind_data();
     void rowsLeaveNoRequestsBehind();
     void cellsOfAllRowsComeBeforeTheirEditors();
@@ -225,6 +227,17 @@ void tst_BuildingCosts::rowsBuiltOutOfSightLieWhereOthersDo()
     late->adjustSize();
     QTRY_COMPARE(places(*late), places(*early));
     QVERIFY(places(*early).size() > 30);
+}
+
+void tst_BuildingCosts::labelsOfAllRowsShareTheirTexts()
+{
+    QWidget window;
+    PlanTaskWidget card(taskOf(1, 3), &window);
+    QVector<const QChar*> texts;
+    for (const QLabel* label : card.findChild<QTableView*>()->findChildren<QLabel*>()) {
+        texts.append(label->text().constData());
+    }
+    QCOMPARE(texts, QVector<const QChar*>(3, texts.constFirst()));
 }
 
 void tst_BuildingCosts::rowsLeaveNoRequestsBehind_data()

@@ -26,20 +26,30 @@ struct Span
 class EarlierSpans
 {
 public:
+    /// To be called before everything else where collideWith() will be. Spans that nobody asks
+    /// after, such as those of all days where no claim is for every day, are not kept.
+    void expectQuestions() { m_isAsked = true; }
+
     /// Returns the place of the start, for add().
-    std::size_t announceStart(int start)
+    std::size_t announceStart()
     {
-        m_starts.push_back(start);
+        if (!m_isAsked) {
+            return 0;
+        }
         m_latestEnds.push_back(kNoEnd);
-        return m_starts.size() - 1;
+        return m_latestEnds.size() - 1;
     }
 
-    bool collideWith(const Span& span) const
+    /// How many starts have been announced.
+    std::size_t starts() const { return m_latestEnds.size(); }
+
+    /// startsBeforeEnd tells how many of the announced starts come before the end of the span.
+    bool collideWith(const Span& span, std::size_t startsBeforeEnd) const
     {
         if (m_isEmpty) {
             return false;
         }
-        return m_hasInverted || span.isInverted() || latestEndBefore(span.end) > span.start;
+        return m_hasInverted || span.isInverted() || latestEnd(startsBeforeEnd) > span.start;
     }
 
     void add(const Span& span, std::size_t place)
@@ -54,20 +64,20 @@ public:
 private:
     static constexpr int kNoEnd = -1;
 
-    int latestEndBefore(int time) const
+    /// Of the spans at the first places.
+    int latestEnd(std::size_t places) const
     {
-        const auto startsLater = std::lower_bound(m_starts.begin(), m_starts.end(), time);
         int latest = kNoEnd;
-        for (auto i = static_cast<std::size_t>(startsLater - m_starts.begin()); i > 0; i &= i - 1) {
+        for (std::size_t i = places; i > 0; i &= i - 1) {
             latest = std::max(latest, m_latestEnds[i - 1]);
         }
         return latest;
     }
 
-    std::vector<int> m_starts;
-    // A binary indexed tree over m_starts: entry i holds the latest end of the spans whose start is
-    // among the last few up to i, as many as the lowest set bit of i + 1.
+    // A binary indexed tree over the places: entry i holds the latest end of the spans at the last
+    // few places up to i, as many as the lowest set bit of i + 1.
     std::vector<int> m_latestEnds;
+    bool m_isAsked = false;
     bool m_isEmpty = true;
     bool m_hasInverted = false;
 };
@@ -76,15 +86,19 @@ private:
 /// the usual width compare in one step.
 struct TimeMark
 {
-    std::uint64_t head = 0;
-    std::string_view text;
-    std::size_t claim = 0;
-    bool isStart = false;
+    /// What ends at a time comes before what starts at it: the two do not collide.
+    enum Kind : std::uint32_t { End, Start };
 
-    TimeMark(const std::string& time, std::size_t itsClaim, bool isItsStart)
-        : text(time)
-        , claim(itsClaim)
-        , isStart(isItsStart)
+    // No padding is left at the tail: sorting copies a mark faster in whole words.
+    std::uint64_t head = 0;
+    const std::string* text = nullptr;
+    std::uint32_t claim = 0;
+    Kind kind = End;
+
+    TimeMark(const std::string& time, std::size_t itsClaim, Kind itsKind)
+        : text(&time)
+        , claim(static_cast<std::uint32_t>(itsClaim))
+        , kind(itsKind)
     {
         for (std::size_t i = 0; i < sizeof head; ++i) {
             const unsigned char byte = i < time.size() ? static_cast<unsigned char>(time[i]) : 0;
@@ -92,9 +106,18 @@ struct TimeMark
         }
     }
 
+    int compareTime(const TimeMark& other) const
+    {
+        if (head != other.head) {
+            return head < other.head ? -1 : 1;
+        }
+        return text->compare(*other.text);
+    }
+
     friend bool operator<(const TimeMark& a, const TimeMark& b)
     {
-        return a.head != b.head ? a.head < b.head : a.text < b.text;
+        const int order = a.compareTime(b);
+        return order != 0 ? order < 0 : a.kind < b.kind;
     }
 };
 
@@ -103,8 +126,8 @@ std::vector<TimeMark> sortedTimeMarks(const std::vector<PlanClaim>& claims)
     std::vector<TimeMark> marks;
     marks.reserve(claims.size() * 2);
     for (std::size_t i = 0; i < claims.size(); ++i) {
-        marks.emplace_back(claims[i].start, i, true);
-        marks.emplace_back(claims[i].end, i, false);
+        marks.emplace_back(claims[i].start, i, TimeMark::Start);
+        marks.emplace_back(claims[i].end, i, TimeMark::End);
     }
     std::sort(marks.begin(), marks.end());
     return marks;
@@ -115,9 +138,9 @@ std::vector<Span> rankedSpans(const std::vector<TimeMark>& marks)
     std::vector<Span> spans(marks.size() / 2);
     int rank = 0;
     for (std::size_t i = 0; i < marks.size(); ++i) {
-        rank += i > 0 && marks[i - 1] < marks[i] ? 1 : 0;
+        rank += i > 0 && marks[i - 1].compareTime(marks[i]) < 0 ? 1 : 0;
         Span& span = spans[marks[i].claim];
-        (marks[i].isStart ? span.start : span.end) = rank;
+        (marks[i].kind == TimeMark::Start ? span.start : span.end) = rank;
     }
     return spans;
 }
@@ -132,12 +155,16 @@ public:
         m_spans = rankedSpans(marks);
         m_claims.reserve(claims.size());
         for (const PlanClaim& claim : claims) {
-            m_claims.push_back({&daysOf(claim.weeks), m_places.size()});
-            m_places.resize(m_places.size() + m_claims.back().days->joined.size());
+            const Days& days = daysOf(claim.weeks);
+            m_claims.push_back({&days, m_places.size(), m_startsBeforeEnd.size()});
+            m_places.resize(m_places.size() + days.joined.size());
+            m_startsBeforeEnd.resize(m_startsBeforeEnd.size() + days.met.size());
         }
         for (const TimeMark& mark : marks) {
-            if (mark.isStart) {
-                announce(mark.claim);
+            if (mark.kind == TimeMark::Start) {
+                announce(m_claims[mark.claim]);
+            } else {
+                countStartsBefore(m_claims[mark.claim]);
             }
         }
     }
@@ -146,12 +173,16 @@ public:
     DayTable(const DayTable&) = delete;
     DayTable& operator=(const DayTable&) = delete;
 
-    bool collidesWithEarlier(std::size_t claim) const
+    bool collidesWithEarlier(std::size_t number) const
     {
-        const Span& span = m_spans[claim];
-        const std::vector<EarlierSpans*>& met = m_claims[claim].days->met;
-        return std::any_of(met.begin(), met.end(),
-                           [&span](const EarlierSpans* spans) { return spans->collideWith(span); });
+        const Claim& claim = m_claims[number];
+        const std::vector<EarlierSpans*>& met = claim.days->met;
+        for (std::size_t i = 0; i < met.size(); ++i) {
+            if (met[i]->collideWith(m_spans[number], m_startsBeforeEnd[claim.firstCount + i])) {
+                return true;
+            }
+        }
+        return false;
     }
 
     void add(std::size_t claim)
@@ -174,6 +205,7 @@ private:
     {
         const Days* days = nullptr;
         std::size_t firstPlace = 0; // In m_places, one for each entry of days->joined.
+        std::size_t firstCount = 0; // In m_startsBeforeEnd, one for each entry of days->met.
     };
 
     // Plans of one task mostly share a handful of texts, and each is read once.
@@ -182,6 +214,9 @@ private:
         const auto [found, isNew] = m_daysByText.try_emplace(weeks);
         if (isNew) {
             found->second = readDays(weeks);
+            for (EarlierSpans* const spans : found->second.met) {
+                spans->expectQuestions();
+            }
         }
         return found->second;
     }
@@ -203,18 +238,26 @@ private:
         return days;
     }
 
-    void announce(std::size_t claim)
+    void announce(const Claim& claim)
     {
-        const std::vector<EarlierSpans*>& joined = m_claims[claim].days->joined;
+        const std::vector<EarlierSpans*>& joined = claim.days->joined;
         for (std::size_t i = 0; i < joined.size(); ++i) {
-            m_places[m_claims[claim].firstPlace + i] =
-                joined[i]->announceStart(m_spans[claim].start);
+            m_places[claim.firstPlace + i] = joined[i]->announceStart();
+        }
+    }
+
+    void countStartsBefore(const Claim& claim)
+    {
+        const std::vector<EarlierSpans*>& met = claim.days->met;
+        for (std::size_t i = 0; i < met.size(); ++i) {
+            m_startsBeforeEnd[claim.firstCount + i] = met[i]->starts();
         }
     }
 
     std::vector<Span> m_spans;
     std::vector<Claim> m_claims;
     std::vector<std::size_t> m_places;
+    std::vector<std::size_t> m_startsBeforeEnd;
     std::unordered_map<std::string_view, Days> m_daysByText;
     std::map<int, EarlierSpans> m_byDay; // Claims that name their days.
     EarlierSpans m_everyDay;             // Claims that do not.
