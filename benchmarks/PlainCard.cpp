@@ -1,6 +1,5 @@
 #include "PlainCard.h"
 
-#include "PlainRow.h"
 #include "PlanColumns.h"
 #include "ui_PlanTaskWidget.h"
 
@@ -79,7 +78,7 @@ void PlainCard::setUpTable()
     }
 }
 
-void PlainCard::addRows(const PlayTask& task)
+void PlainCard::addRows(const PlayTask& task, DayLists dayLists)
 {
     m_table->setUpdatesEnabled(false);
     for (const PlayPlan& plan : task.plans) {
@@ -88,7 +87,7 @@ void PlainCard::addRows(const PlayTask& task)
     QWidget* const viewport = m_table->viewport();
     for (int row = 0; row < m_model->rowCount(); ++row) {
         const PlayPlan& plan = task.plans[static_cast<std::size_t>(row)];
-        addPlainEditors(*m_table, row, plan, viewport);
+        addPlainEditors(*m_table, row, plan, viewport, dayLists);
         m_table->setIndexWidget(m_model->index(row, ProgramsColumn),
                                 makePlainField(plan, viewport));
     }

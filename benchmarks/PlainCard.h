@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PlainRow.h"
+
 #include "service/ScheduleRecords.h"
 
 #include <QWidget>
@@ -18,7 +20,7 @@ public:
     explicit PlainCard(const trel::mediadispatch::PlayTask& task, QWidget* parent);
 
     /// Builds the rows of all plans.
-    void addRows(const trel::mediadispatch::PlayTask& task);
+    void addRows(const trel::mediadispatch::PlayTask& task, DayLists dayLists = DayLists::Made);
     void fold();
 
     QTableView* table() const { return m_table; }

@@ -15,14 +15,16 @@ PlainList::PlainList(QWidget* parent)
     m_layout->addItem(new QSpacerItem(1100, 480, QSizePolicy::Expanding, QSizePolicy::Expanding));
 }
 
-void PlainList::build(const TaskMap& tasks)
+void PlainList::build(const TaskMap& tasks, DayLists dayLists)
 {
     const bool wasVisible = isVisible();
     setUpdatesEnabled(false);
-    hide();
+    if (wasVisible) {
+        hide();
+    }
     for (const auto& [id, task] : tasks) {
         auto* card = new PlainCard(task, this);
-        card->addRows(task);
+        card->addRows(task, dayLists);
         card->fold();
         m_layout->insertWidget(m_layout->count() - 1, card);
         m_cards.push_back(card);

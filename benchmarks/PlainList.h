@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PlainRow.h"
 #include "Samples.h"
 
 #include <QWidget>
@@ -18,7 +19,7 @@ public:
 
     /// Builds a card for each task. A list on show is hidden meanwhile, so that it is laid out
     /// once.
-    void build(const TaskMap& tasks);
+    void build(const TaskMap& tasks, DayLists dayLists = DayLists::Made);
     void clear();
 
 private:

@@ -100,13 +100,17 @@ public:
         return label;
     }
 
-    void addDays(const std::string& weeks) const
+    void addDays(const std::string& weeks, DayLists lists) const
     {
         QWidget* holder = makeHolder(0);
         auto* box = make<QComboBox>(holder);
         box->setFixedHeight(24);
-        box->setItemDelegate(new QStyledItemDelegate(box));
-        box->setEditable(true);
+        if (lists == DayLists::Made) {
+            box->setItemDelegate(new QStyledItemDelegate(box));
+            box->setEditable(true);
+        } else {
+            box->setLineEdit(new QLineEdit(box));
+        }
         box->setInsertPolicy(QComboBox::NoInsert);
         box->lineEdit()->setAttribute(Qt::WA_TransparentForMouseEvents);
         box->lineEdit()->setReadOnly(true);
@@ -202,7 +206,8 @@ QWidget* makePlainField(const PlayPlan& plan, QWidget* parent)
     return field;
 }
 
-QLabel* addPlainEditors(QTableView& table, int row, const PlayPlan& plan, QWidget* owner)
+QLabel* addPlainEditors(QTableView& table, int row, const PlayPlan& plan, QWidget* owner,
+                        DayLists dayLists)
 {
     const RowMaker maker(table, row, owner);
     const bool hasEnd = plan.mode == TimeMode;
@@ -211,7 +216,7 @@ QLabel* addPlainEditors(QTableView& table, int row, const PlayPlan& plan, QWidge
     maker.addTime(EndTimeColumn, plan.endTime, hasEnd);
     maker.addTimes(plan.times, !hasEnd);
     QLabel* const label = maker.addLabel();
-    maker.addDays(plan.weeks);
+    maker.addDays(plan.weeks, dayLists);
     maker.addBox(EndActionColumn, {QStringLiteral("Black screen"), QStringLiteral("Freeze")},
                  plan.endAction, 0);
     maker.addButton(CopyColumn, QStringLiteral("projectSaveAs"), QStringLiteral("Copy"), plan.id);

@@ -2,7 +2,7 @@
 
 #include "Comparison.h"
 #include "EditorWindow.h"
-#include "FirstPaint.h"
+#include "LanguageFont.h"
 #include "Languages.h"
 #include "look/Themes.h"
 #include "scheduleControlUI.h"
@@ -10,7 +10,7 @@
 #include "trelprogramschedule/ScheduleHost.h"
 
 #include <QApplication>
-#include <QIcon>
+#include <QFont>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -24,6 +24,7 @@ namespace bench {
 namespace {
 
 constexpr double kAgainstDialog = 1.5;
+constexpr char kLanguage[] = "en_US";
 
 /// The processor time in which a program has come to its first painting.
 double startSeconds(const QString& program, const QStringList& arguments)
@@ -56,24 +57,27 @@ public:
         if (!error.isEmpty()) {
             throw std::runtime_error(error.toStdString());
         }
+        const QStringList families = languageFont(QFont(), QLatin1String(kLanguage)).families();
+        m_widgets =
+            QStringList{families.join(QLatin1Char(',')),
+                        QString::number(scheduleManage::getInstance().getPrograms().size())};
         for (const auto& [id, task] : scheduleManage::getInstance().getgTaskMap()) {
-            m_planCounts.append(QString::number(task.plans.size()));
+            m_widgets.append(QString::number(task.plans.size()));
         }
         ScheduleHost::instance().close();
     }
 
     double startEditor() const
     {
-        return startSeconds(QCoreApplication::applicationFilePath(),
-                            {QStringLiteral("--start"), m_path});
+        return startSeconds(QStringLiteral(START), {m_path, QLatin1String(kLanguage)});
     }
 
-    double startWidgets() const { return startSeconds(QStringLiteral(BARE), m_planCounts); }
+    double startWidgets() const { return startSeconds(QStringLiteral(BARE), m_widgets); }
 
 private:
     QTemporaryDir m_folder;
     QString m_path;
-    QStringList m_planCounts;
+    QStringList m_widgets; ///< What the bare program is told of them.
 };
 
 double startDialog()
@@ -96,27 +100,6 @@ void addStartCases()
              return demonstration()->startEditor() - widgets;
          },
          startDialog, 15});
-}
-
-void startEditor(int argc, char** argv, const QString& database)
-{
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QApplication application(argc, argv);
-    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qss/img/schedule-editor.svg")));
-    Themes themes(application);
-    scheduleControlUI editor;
-    editor.setCheckBoxImagePath(QStringLiteral(":/qss/img/checked.png"),
-                                QStringLiteral(":/qss/img/unchecked.png"));
-    Languages languages(QStringLiteral(LANGUAGES), editor);
-    languages.select(QStringLiteral("en_US"));
-    EditorWindow window(editor, languages, themes);
-    window.openDatabase(database, QString());
-    window.show();
-    editor.show();
-    emit editor.signalUpdatePlanList();
-    waitForPaint(editor);
-    reportStart();
 }
 
 } // namespace bench

@@ -1,70 +1,63 @@
 // Shows a window of the bare toolkit and tells what the start has cost.
 //
-// bench_bare                an empty dialog
-// bench_bare PLANS...       a dialog with a plain card for each number of plans, and a plain window
-//                           like the one that the editor is opened from
+// bench_bare                            an empty dialog
+// bench_bare FONTS PROGRAMS PLANS...    the windows of the editor out of plain widgets, in the
+//                                       first of these fonts that there is, with so many programs
+//                                       and a card for each number of plans
 
 #include "FirstPaint.h"
-#include "PlainList.h"
+#include "PlainDialog.h"
+#include "PlainWindow.h"
 
 #include <QApplication>
-#include <QDialog>
-#include <QLabel>
-#include <QMainWindow>
-#include <QMenuBar>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QStatusBar>
-#include <QTableView>
-#include <QVBoxLayout>
 
 using namespace trel::mediadispatch;
 
 namespace {
 
-void setUpWindow(QMainWindow& window)
+constexpr int kFirstPlans = 3;
+constexpr int kTextPixels = 12;
+
+void setFont(const QString& families)
 {
-    for (const char* name : {"Schedule", "Programs", "View", "Language"}) {
-        window.menuBar()->addMenu(QLatin1String(name));
-    }
-    window.setCentralWidget(new QTableView);
-    window.statusBar();
-    window.resize(900, 520);
+    QFont font;
+    font.setFamilies(families.split(QLatin1Char(',')));
+    font.setPixelSize(kTextPixels);
+    QApplication::setFont(font);
 }
 
-bench::PlainList* setUpDialog(QDialog& dialog)
+[[noreturn]] void startDialog()
 {
-    auto* layout = new QVBoxLayout(&dialog);
-    layout->addWidget(new QPushButton(QStringLiteral("Add")));
-    auto* area = new QScrollArea;
-    area->setWidgetResizable(true);
-    auto* list = new bench::PlainList;
-    area->setWidget(list);
-    layout->addWidget(area);
-    for (const char* name : {"Cancel", "Save", "Start"}) {
-        layout->addWidget(new QPushButton(QLatin1String(name)));
+    QDialog dialog;
+    dialog.show();
+    bench::waitForPaint(dialog);
+    bench::reportStart();
+}
+
+[[noreturn]] void startWidgets(const QStringList& arguments)
+{
+    setFont(arguments.at(1));
+    bench::PlainWindow window(arguments.at(2).toInt());
+    bench::PlainDialog dialog;
+    bench::TaskMap tasks;
+    for (int i = kFirstPlans; i < arguments.size(); ++i) {
+        const int id = i - kFirstPlans + 1;
+        tasks[id] = bench::sampleTask(id, arguments.at(i).toInt(), TimeMode);
     }
-    dialog.resize(1140, 640);
-    return list;
+    dialog.build(tasks);
+    window.show();
+    dialog.show();
+    bench::waitForPaint(dialog);
+    bench::reportStart();
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    QApplication application(argc, argv);
-    QDialog dialog;
-    QMainWindow window;
-    if (argc > 1) {
-        setUpWindow(window);
-        window.show();
-        bench::TaskMap tasks;
-        for (int id = 1; id < argc; ++id) {
-            tasks[id] = bench::sampleTask(id, QByteArray(argv[id]).toInt(), TimeMode);
-        }
-        setUpDialog(dialog)->build(tasks);
+    const QApplication application(argc, argv);
+    if (argc > kFirstPlans) {
+        startWidgets(QCoreApplication::arguments());
     }
-    dialog.show();
-    bench::waitForPaint(dialog);
-    bench::reportStart();
+    startDialog();
 }

@@ -1,0 +1,237 @@
+#include "PlainWindow.h"
+
+#include <QAbstractScrollArea>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace bench {
+
+namespace {
+
+/// Some of the panels' contents wait for a schedule that runs.
+template <typename Widget>
+Widget* hidden(Widget* widget)
+{
+    widget->hide();
+    return widget;
+}
+
+QLabel* line(const char* text, QWidget* parent)
+{
+    auto* label = new QLabel(QLatin1String(text), parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return label;
+}
+
+QHBoxLayout* row(std::initializer_list<QWidget*> leading, std::initializer_list<QWidget*> trailing)
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(6);
+    for (QWidget* widget : leading) {
+        row->addWidget(widget);
+    }
+    row->addStretch(1);
+    for (QWidget* widget : trailing) {
+        row->addWidget(widget);
+    }
+    return row;
+}
+
+QStandardItemModel* makePrograms(int count, QObject* parent)
+{
+    auto* model = new QStandardItemModel(0, 5, parent);
+    model->setHorizontalHeaderLabels({QStringLiteral("No."), QStringLiteral("Program"),
+                                      QStringLiteral("Kind"), QStringLiteral("Length"),
+                                      QStringLiteral("File")});
+    for (int index = 1; index <= count; ++index) {
+        const QStringList texts{QString::number(index), QStringLiteral("Programme %1").arg(index),
+                                QStringLiteral("Video"), QStringLiteral("00:00:12"),
+                                QStringLiteral("/srv/media/Programme %1.mp4").arg(index)};
+        QList<QStandardItem*> cells;
+        for (const QString& text : texts) {
+            cells.append(new QStandardItem(text));
+        }
+        cells[0]->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        cells[3]->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        model->appendRow(cells);
+    }
+    return model;
+}
+
+QPushButton* sign(const char* text, QWidget* parent)
+{
+    auto* button = new QPushButton(QLatin1String(text), parent);
+    button->setAutoDefault(false);
+    button->setFixedWidth(28);
+    return button;
+}
+
+} // namespace
+
+PlainWindow::PlainWindow(int programs)
+{
+    addMenus();
+    addTable(programs);
+    addPanels();
+    resize(1180, 720);
+}
+
+void PlainWindow::addMenus()
+{
+    const std::initializer_list<std::pair<const char*, int>> menus = {
+        {"&Schedule", 5}, {"&Programs", 3}, {"&View", 7}, {"&Language", 10}};
+    for (const auto& [title, actions] : menus) {
+        QMenu* menu = menuBar()->addMenu(QLatin1String(title));
+        for (int i = 0; i < actions; ++i) {
+            menu->addAction(QStringLiteral("Action %1").arg(i));
+        }
+    }
+}
+
+void PlainWindow::addTable(int programs)
+{
+    auto* centre = new QWidget(this);
+    auto* table = new QTableView(centre);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setAlternatingRowColors(true);
+    table->setShowGrid(false);
+    table->setWordWrap(false);
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    table->setModel(makePrograms(programs, this));
+    table->setColumnWidth(0, 60);
+    table->setColumnWidth(1, 260);
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(hidden(new QLabel(QStringLiteral("No programs yet."), centre)), 1);
+    layout->addWidget(table, 1);
+    setCentralWidget(centre);
+}
+
+void PlainWindow::addPanels()
+{
+    auto* picture = new QWidget;
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    picture->setSizePolicy(policy);
+    picture->setMinimumSize(160, 90);
+
+    QDockWidget* now = addPanel(QStringLiteral("Now and next"), nowNext(), Qt::RightDockWidgetArea);
+    QDockWidget* preview = addPanel(QStringLiteral("Preview"), picture, Qt::RightDockWidgetArea);
+    QDockWidget* clocks =
+        addPanel(QStringLiteral("Changes of the clocks"), clockChanges(), Qt::BottomDockWidgetArea);
+    QDockWidget* days = hidden(addPanel(QStringLiteral("Week"), week(), Qt::BottomDockWidgetArea));
+    tabifyDockWidget(clocks, days);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    resizeDocks({now}, {360}, Qt::Horizontal);
+    resizeDocks({now, preview, clocks}, {430, 210, 130}, Qt::Vertical);
+}
+
+QDockWidget* PlainWindow::addPanel(const QString& title, QWidget* content, Qt::DockWidgetArea area)
+{
+    auto* panel = new QDockWidget(title, this);
+    panel->setObjectName(title);
+    panel->setWidget(content);
+    addDockWidget(area, panel);
+    return panel;
+}
+
+QWidget* PlainWindow::nowNext()
+{
+    auto* panel = new QWidget;
+    auto* program = line("Not started", panel);
+    QFont large = font();
+    large.setBold(true);
+    large.setPixelSize(16);
+    program->setFont(large);
+
+    auto* nextPart = new QWidget(panel);
+    auto* rule = new QFrame(nextPart);
+    rule->setFrameStyle(static_cast<int>(QFrame::HLine) | static_cast<int>(QFrame::Plain));
+    auto* nextProgram = line("Nothing else comes.", nextPart);
+    QFont bold = font();
+    bold.setBold(true);
+    nextProgram->setFont(bold);
+    auto* next = new QVBoxLayout(nextPart);
+    next->setContentsMargins(0, 4, 0, 0);
+    next->setSpacing(4);
+    next->addWidget(rule);
+    next->addLayout(row({line("Next", nextPart)}, {hidden(line("Cut in", nextPart))}));
+    next->addWidget(nextProgram);
+    next->addWidget(hidden(line("", nextPart)));
+    next->addWidget(hidden(line("", nextPart)));
+
+    auto* bar = new QProgressBar(panel);
+    bar->setTextVisible(false);
+    auto* reason = line("The schedule has not been started. Nothing is put on screen.", panel);
+    reason->setWordWrap(true);
+    reason->setMinimumHeight(2 * reason->fontMetrics().lineSpacing());
+    auto* layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(12, 8, 12, 10);
+    layout->setSpacing(4);
+    layout->addLayout(row({new QLabel(QStringLiteral("Now"), panel)},
+                          {hidden(line("Cut in", panel)), hidden(line("plays", panel))}));
+    layout->addWidget(program);
+    layout->addWidget(hidden(bar));
+    layout->addLayout(row({hidden(line("0:00", panel))}, {hidden(line("0:00", panel))}));
+    layout->addWidget(hidden(line("", panel)));
+    layout->addWidget(hidden(line("", panel)));
+    layout->addWidget(reason);
+    layout->addWidget(hidden(nextPart));
+    layout->addStretch(1);
+    return panel;
+}
+
+QWidget* PlainWindow::clockChanges()
+{
+    auto* list = new QListWidget;
+    list->setWordWrap(true);
+    list->setResizeMode(QListView::Adjust);
+    list->setSelectionMode(QAbstractItemView::NoSelection);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setFrameShape(QFrame::NoFrame);
+    list->addItem(QStringLiteral("No change of the clocks falls on a day of any task."));
+    return list;
+}
+
+QWidget* PlainWindow::week()
+{
+    auto* panel = new QWidget;
+    auto* source = new QComboBox(panel);
+    source->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    source->addItems({QStringLiteral("As edited"), QStringLiteral("In effect")});
+    auto* view = new QAbstractScrollArea(panel);
+    new QWidget(view); // Dates above the days, and hours beside them.
+    new QWidget(view);
+
+    auto* controls = new QHBoxLayout;
+    controls->setSpacing(4);
+    controls->addWidget(sign("<", panel));
+    controls->addWidget(new QPushButton(QStringLiteral("Today"), panel));
+    controls->addWidget(sign(">", panel));
+    controls->addWidget(new QLabel(QStringLiteral("11/16/26 - 11/22/26"), panel));
+    controls->addStretch();
+    controls->addWidget(source);
+    controls->addWidget(sign("-", panel));
+    controls->addWidget(sign("+", panel));
+    controls->addWidget(new QPushButton(QStringLiteral("Whole day"), panel));
+    auto* layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addLayout(controls);
+    layout->addWidget(view, 1);
+    return panel;
+}
+
+} // namespace bench

@@ -1,0 +1,84 @@
+#include "HostFixture.h"
+#include "PlainDialog.h"
+#include "PlainWindow.h"
+
+#include <QMap>
+
+using namespace trel::mediadispatch;
+
+/// The floor of the start has to be the windows of the editor: no widget more, and none less.
+class tst_StartFloor : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void itsWidgetsAreThoseOfTheEditor();
+
+private:
+    static QString kindOf(const QWidget& widget);
+    /// How many there are of each kind, on show and hidden.
+    static QStringList widgets();
+};
+
+QString tst_StartFloor::kindOf(const QWidget& widget)
+{
+    const auto isOfToolkit = [](const QMetaObject* type) {
+        const QLatin1String name(type->className());
+        return name.size() > 1 && name.at(0) == QLatin1Char('Q') && QChar(name.at(1)).isUpper();
+    };
+    const QMetaObject* type = widget.metaObject();
+    while (!isOfToolkit(type)) {
+        type = type->superClass();
+    }
+    return QString::fromLatin1(type->className());
+}
+
+QStringList tst_StartFloor::widgets()
+{
+    QMap<QString, int> counts;
+    const QWidgetList all = QApplication::allWidgets();
+    for (const QWidget* widget : all) {
+        const QLatin1String state(widget->isVisible() ? "on show" : "hidden");
+        ++counts[QStringLiteral("%1 %2").arg(kindOf(*widget), state)];
+    }
+    QStringList lines;
+    for (auto count = counts.cbegin(); count != counts.cend(); ++count) {
+        lines.append(QStringLiteral("%1: %2").arg(count.key()).arg(count.value()));
+    }
+    return lines;
+}
+
+void tst_StartFloor::itsWidgetsAreThoseOfTheEditor()
+{
+    bench::TaskMap tasks;
+    int programs = 0;
+    QStringList ofEditor;
+    {
+        HostFixture fixture;
+        QCOMPARE(fixture.window.openDatabase(fixture.database, QStringLiteral(DEMONSTRATION)),
+                 QString());
+        fixture.window.show();
+        fixture.showEditor();
+        QVERIFY(QTest::qWaitForWindowExposed(fixture.editor.get()));
+        for (const auto& [id, task] : fixture.manager.getgTaskMap()) {
+            tasks[id] = bench::sampleTask(id, static_cast<int>(task.plans.size()), TimeMode);
+        }
+        programs = static_cast<int>(fixture.manager.getPrograms().size());
+        ofEditor = widgets();
+    }
+    QCOMPARE(programs, 8);
+    QCOMPARE(tasks.size(), std::size_t(3));
+    QCOMPARE(widgets(), QStringList());
+
+    bench::PlainWindow window(programs);
+    bench::PlainDialog dialog;
+    dialog.build(tasks);
+    window.show();
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+
+    QCOMPARE(widgets(), ofEditor);
+}
+
+QTEST_MAIN(tst_StartFloor)
+#include "tst_StartFloor.moc"
