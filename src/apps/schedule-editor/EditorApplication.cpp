@@ -5,6 +5,7 @@
 #include "SaveRescue.h"
 #include "ScheduleSummary.h"
 #include "common/DefaultDatabase.h"
+#include "look/ThemeImages.h"
 #include "look/Themes.h"
 #include "scheduleControlUI.h"
 #include "service/scheduleManage.h"
@@ -13,7 +14,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
-#include <QIcon>
 #include <QSettings>
 #include <QTextStream>
 #include <QTimer>
@@ -97,7 +97,7 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     QCoreApplication::setOrganizationName(QStringLiteral("trel"));
     QCoreApplication::setApplicationName(QStringLiteral("schedule-editor"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TREL_VERSION));
-    QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qss/img/schedule-editor.svg")));
+    QGuiApplication::setWindowIcon(look::imageIcon(QStringLiteral("schedule-editor"), QColor()));
     Themes themes(application);
 
     const bool unattended = nobodyWatches() || !options.screenshot.isEmpty();

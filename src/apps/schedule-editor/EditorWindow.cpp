@@ -31,6 +31,7 @@
 #include <QProgressDialog>
 #include <QStatusBar>
 #include <QTableView>
+#include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -425,6 +426,28 @@ void EditorWindow::changeEvent(QEvent* event)
         retranslate();
     }
     QMainWindow::changeEvent(event);
+}
+
+void EditorWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (event->spontaneous()) {
+        return;
+    }
+    // The panels and the table take their places in several passes, each of which would paint the
+    // whole window. It is painted once, when they are through.
+    setUpdatesEnabled(false);
+    QTimer::singleShot(0, this, &EditorWindow::enableUpdates);
+}
+
+void EditorWindow::enableUpdates()
+{
+    setUpdatesEnabled(true);
+    // A panel that was taken out meanwhile is a window of its own, which the call above leaves out.
+    const QList<QDockWidget*> panels = findChildren<QDockWidget*>();
+    for (QDockWidget* panel : panels) {
+        panel->setUpdatesEnabled(true);
+    }
 }
 
 bool EditorWindow::eventFilter(QObject* watched, QEvent* event)

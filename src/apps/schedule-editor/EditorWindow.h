@@ -55,6 +55,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -65,6 +66,7 @@ private:
     void retranslate();
     void updateTitle();
     void updateCatalogue();
+    void enableUpdates();
 
     void chooseDatabase();
     void choosePrograms();

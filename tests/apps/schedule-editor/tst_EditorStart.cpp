@@ -4,6 +4,8 @@
 #include "trelprogramschedule/ScheduleJson.h"
 
 #include <QDir>
+#include <QDockWidget>
+#include <QProcess>
 
 using namespace trel::mediadispatch;
 
@@ -14,8 +16,26 @@ class tst_EditorStart : public QObject
 
 private slots:
     void mediaLibrariesAwaitTheFirstFile();
+    void theWindowIsPaintedWhenItsPartsAreInTheirPlaces();
+    void aPanelTakenOutMeanwhileIsPaintedToo();
+    void theProgramLoadsNoLibraryThatItDoesNotNeed();
 
 private:
+    /// Counts how often a widget is painted.
+    class PaintCounter : public QObject
+    {
+    public:
+        explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return QObject::eventFilter(watched, event);
+        }
+
+        int count = 0;
+    };
+
     /// The demonstration, stored without a look at its media.
     static void store(HostFixture& fixture);
 };
@@ -56,6 +76,63 @@ void tst_EditorStart::mediaLibrariesAwaitTheFirstFile()
     QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 60000);
 
     QVERIFY(hasMediaLibraries());
+}
+
+void tst_EditorStart::theWindowIsPaintedWhenItsPartsAreInTheirPlaces()
+{
+    HostFixture fixture;
+    store(fixture);
+    QCOMPARE(fixture.window.openDatabase(fixture.database), QString());
+    PaintCounter paints(fixture.window);
+
+    fixture.window.show();
+    fixture.showEditor();
+    QTRY_VERIFY(fixture.window.updatesEnabled());
+    QVERIFY(QTest::qWaitForWindowExposed(fixture.editor.get()));
+
+    // The toolkit paints the lines between the panels once more when it has moved them.
+    QVERIFY2(paints.count >= 1 && paints.count <= 2, qPrintable(QString::number(paints.count)));
+}
+
+void tst_EditorStart::aPanelTakenOutMeanwhileIsPaintedToo()
+{
+    HostFixture fixture;
+    auto* panel = fixture.window.findChild<QDockWidget*>(QStringLiteral("nowNextDock"));
+    QVERIFY(panel != nullptr);
+    PaintCounter paints(*panel->widget());
+
+    fixture.window.show();
+    panel->setFloating(true);
+
+    QTRY_VERIFY(paints.count > 0);
+    QVERIFY(panel->updatesEnabled());
+}
+
+void tst_EditorStart::theProgramLoadsNoLibraryThatItDoesNotNeed()
+{
+    const QTemporaryDir folder;
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    // The linker names each file that it opens, whoever asked for it.
+    environment.insert(QStringLiteral("LD_DEBUG"), QStringLiteral("files"));
+    environment.insert(QStringLiteral("LD_DEBUG_OUTPUT"), folder.filePath(QStringLiteral("files")));
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.path());
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(EDITOR),
+                  {QStringLiteral("--database"), folder.filePath(QStringLiteral("new.db")),
+                   QStringLiteral("--screenshot"), folder.filePath(QStringLiteral("new.png"))});
+    QVERIFY(process.waitForFinished(120000));
+    QCOMPARE(process.exitCode(), 0);
+
+    const QStringList names = QDir(folder.path()).entryList({QStringLiteral("files.*")});
+    QCOMPARE(names.size(), 1);
+    QFile list(folder.filePath(names.front()));
+    QVERIFY(list.open(QIODevice::ReadOnly));
+    const QByteArray files = list.readAll();
+    QVERIFY(files.contains("libQt5Sql"));
+    for (const char* name : {"libav", "libsw", "trelmedia", "libqsvgicon"}) {
+        QVERIFY2(!files.contains(name), name);
+    }
 }
 
 QTEST_MAIN(tst_EditorStart)
