@@ -30,6 +30,7 @@ install(FILES
   src/libs/trelprogramschedule/ProgramImporter.h
   src/libs/trelprogramschedule/ScheduleHost.h
   src/libs/trelprogramschedule/ScheduleJson.h
+  src/libs/trelprogramschedule/ShownAddress.h
   DESTINATION ${include_dir}/trelprogramschedule)
 install(FILES
   src/libs/trelprogramschedule/dispatch/ClockChanges.h

@@ -14,6 +14,7 @@
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/ScheduleJson.h"
+#include "trelprogramschedule/ShownAddress.h"
 #include "week/WeekDock.h"
 
 #include <QAction>
@@ -48,6 +49,12 @@ QStringList droppedMedia(const QMimeData* data)
         paths.append(url.isLocalFile() ? url.toLocalFile() : url.toString());
     }
     return paths;
+}
+
+/// What is told of a file or an address while it is imported.
+QString shownName(const QString& path)
+{
+    return QFileInfo(shownAddress(path)).fileName();
 }
 
 } // namespace
@@ -333,7 +340,7 @@ void EditorWindow::importMedia(const QStringList& paths)
                 if (progress->wasCanceled()) {
                     return;
                 }
-                progress->setLabelText(QFileInfo(path).fileName());
+                progress->setLabelText(shownName(path));
                 progress->setMaximum(total);
                 progress->setValue(done);
             });
@@ -370,7 +377,7 @@ void EditorWindow::reportImport(const ImportScan& scan, int added, int updated)
     constexpr std::size_t kShown = 8;
     QStringList lines;
     for (std::size_t i = 0; i < std::min(kShown, scan.refusals.size()); ++i) {
-        lines.append(QStringLiteral("%1: %2").arg(QFileInfo(scan.refusals[i].path).fileName(),
+        lines.append(QStringLiteral("%1: %2").arg(shownName(scan.refusals[i].path),
                                                   scan.refusals[i].reason));
     }
     if (scan.refusals.size() > kShown) {

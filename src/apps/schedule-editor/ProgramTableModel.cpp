@@ -2,6 +2,7 @@
 
 #include "BidiText.h"
 #include "service/scheduleManage.h"
+#include "trelprogramschedule/ShownAddress.h"
 
 #include <QBrush>
 #include <QGuiApplication>
@@ -92,7 +93,7 @@ QVariant ProgramTableModel::text(const ProgramIten& program, int column) const
     case LengthColumn:
         return hasLength(program) ? lengthText(program.durationMs) : QString();
     case PathColumn:
-        return shownPath(QString::fromStdString(program.mediaPath));
+        return shownPath(shownAddress(QString::fromStdString(program.mediaPath)));
     default:
         return QVariant();
     }
@@ -109,9 +110,10 @@ QVariant ProgramTableModel::data(const QModelIndex& index, int role) const
         return text(program, index.column());
     case Qt::ToolTipRole:
         if (program.isNull) {
-            return tr("The file has gone: %1").arg(QString::fromStdString(program.mediaPath));
+            return tr("The file has gone: %1")
+                .arg(shownAddress(QString::fromStdString(program.mediaPath)));
         }
-        return QString::fromStdString(program.mediaPath);
+        return shownAddress(QString::fromStdString(program.mediaPath));
     case Qt::TextAlignmentRole:
         return alignmentOf(index.column());
     case Qt::ForegroundRole:

@@ -7,6 +7,7 @@
 #include "ScheduleWords.h"
 #include "TextTable.h"
 #include "trelprogramschedule/ProgramImporter.h"
+#include "trelprogramschedule/ShownAddress.h"
 
 #include <algorithm>
 
@@ -24,8 +25,7 @@ void addImported(TextTable& table, const QString& what, const std::vector<int>& 
         if (found != programs.end()) {
             const ProgramIten& program = found->second;
             table.addRow({what, QString::number(index), printable(program.progName),
-                          kindText(program.kind), programLength(program),
-                          printable(program.mediaPath)});
+                          kindText(program.kind), programLength(program), programPath(program)});
         }
     }
 }
@@ -85,11 +85,12 @@ ExitStatus runImport(const Invocation& invocation, Console& console)
     }
     const ImportScan scan =
         scanMedia(invocation.arguments, [&console](int done, int total, const QString& path) {
-            console.showProgress(done + 1, total, path);
+            console.showProgress(done + 1, total, shownAddress(path));
             return true;
         });
     for (const ImportRefusal& refusal : scan.refusals) {
-        console.tell(QStringLiteral("%1: %2").arg(printable(refusal.path), refusal.reason));
+        console.tell(
+            QStringLiteral("%1: %2").arg(printable(shownAddress(refusal.path)), refusal.reason));
     }
     const ImportResult result = database->host().addPrograms(scan.sources);
     if (!result.store) {
@@ -137,7 +138,7 @@ ExitStatus runPrograms(const Invocation& invocation, Console& console)
     for (const auto& [index, program] : programs) {
         const QString mark = program.isNull ? QStringLiteral(" (gone)") : QString();
         table.addRow({QString::number(index), printable(program.progName), kindText(program.kind),
-                      programLength(program), printable(program.mediaPath) + mark});
+                      programLength(program), programPath(program) + mark});
     }
     console.write(table.text());
     return Done;
@@ -150,7 +151,7 @@ ExitStatus runRemoveProgram(const Invocation& invocation, Console& console)
     const int index = text.toInt(&isNumber);
     if (!isNumber) {
         console.tell(QStringLiteral("%1 is no index; \"schedulectl programs\" shows the indexes.")
-                         .arg(quoted(text)));
+                         .arg(quoted(shownAddress(text))));
         return Misused;
     }
     const auto database = openDatabase(invocation, Database::Access::Read, console);

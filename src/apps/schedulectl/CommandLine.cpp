@@ -1,8 +1,11 @@
 #include "CommandLine.h"
 
 #include "DisplayText.h"
+#include "trelprogramschedule/ShownAddress.h"
 
 #include <algorithm>
+
+using trel::mediadispatch::shownAddress;
 
 namespace {
 
@@ -145,7 +148,8 @@ private:
             return;
         }
         m_isCommandUnknown = true;
-        misuse(QStringLiteral("There is no command %1.%2").arg(quoted(word), suggestion(word)));
+        misuse(QStringLiteral("There is no command %1.%2")
+                   .arg(quoted(shownAddress(word)), suggestion(word)));
     }
 
     QString suggestion(const QString& word) const
@@ -197,7 +201,7 @@ private:
         } else if (command.mostArguments != Command::kAnyNumber &&
                    arguments.size() > command.mostArguments) {
             misuse(QStringLiteral("The command %1 does not know what to do with %2.")
-                       .arg(name, quoted(arguments[command.mostArguments])));
+                       .arg(name, quoted(shownAddress(arguments[command.mostArguments]))));
         } else if (arguments.contains(QString())) {
             misuse(QStringLiteral("An argument of the command %1 is empty.").arg(name));
         } else {

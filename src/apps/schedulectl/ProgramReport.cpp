@@ -3,6 +3,7 @@
 #include "DisplayText.h"
 #include "ScheduleWords.h"
 #include "service/scheduleManage.h"
+#include "trelprogramschedule/ShownAddress.h"
 
 using namespace trel::mediadispatch;
 
@@ -19,6 +20,11 @@ bool hasLength(const ProgramIten& program)
 QString programLength(const ProgramIten& program)
 {
     return hasLength(program) ? durationText(program.durationMs) : QStringLiteral("\u2013");
+}
+
+QString programPath(const ProgramIten& program)
+{
+    return printable(shownAddress(QString::fromStdString(program.mediaPath)));
 }
 
 QJsonObject programJson(const ProgramIten& program)

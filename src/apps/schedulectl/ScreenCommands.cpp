@@ -9,6 +9,7 @@
 #include "TimelineReport.h"
 #include "VerdictReport.h"
 #include "service/Clock.h"
+#include "trelprogramschedule/ShownAddress.h"
 
 using namespace trel::mediadispatch;
 
@@ -79,11 +80,11 @@ std::optional<int> chosenProgram(const ProgramChoice& choice, const QString& wor
     if (found.empty()) {
         console.tell(QStringLiteral("There is no program %1 in %2; \"schedulectl programs\" lists "
                                     "the programs.")
-                         .arg(quoted(word), printable(database.path())));
+                         .arg(quoted(shownAddress(word)), printable(database.path())));
         return {};
     }
     console.tell(QStringLiteral("Several programs are called %1; an index tells them apart:")
-                     .arg(quoted(word)));
+                     .arg(quoted(shownAddress(word))));
     for (const int progIndex : found) {
         console.tellLine(
             QStringLiteral("  %1  %2").arg(progIndex, 5).arg(printable(choice.name(progIndex))));

@@ -1,6 +1,7 @@
 #include "VerdictReport.h"
 
 #include "DisplayText.h"
+#include "ProgramReport.h"
 #include "ScheduleWords.h"
 
 #include <QJsonArray>
@@ -181,7 +182,7 @@ QString standingText(const VerdictSubject& subject, const ScreenWords& words)
         return QStringLiteral("It is not in the catalogue any more.\n");
     }
     return found->second.isNull
-               ? QStringLiteral("Its file is gone: %1\n").arg(printable(found->second.mediaPath))
+               ? QStringLiteral("Its file is gone: %1\n").arg(programPath(found->second))
                : QString();
 }
 

@@ -1,5 +1,6 @@
 #include "ProgramImporter.h"
 
+#include "ShownAddress.h"
 #include "media/MediaModule.h"
 
 #include <QDir>
@@ -57,13 +58,6 @@ QString schemeOf(const QString& path)
 {
     const int end = path.indexOf(QLatin1String("://"));
     return end < 0 ? QString() : path.left(end).toLower();
-}
-
-/// The address without the password in it: names are shown on every screen of the house.
-QString shownAddress(const QString& address)
-{
-    const QUrl url(address);
-    return url.password().isEmpty() ? address : url.toString(QUrl::RemovePassword);
 }
 
 /// Collects the files of folders, in the order of their names.

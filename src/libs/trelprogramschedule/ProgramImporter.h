@@ -13,7 +13,8 @@ namespace trel::mediadispatch {
 /// Something that can become a program.
 struct MediaSource
 {
-    QString name;            ///< As it will be shown: the file's base name, or the address.
+    QString
+        name; ///< As it will be shown: the file's base name, or the address without its password.
     QString path;            ///< Absolute and clean, or the address of a live source.
     double durationMs = 0.0; ///< 0 for images and live sources.
     ProgramKind kind = ProgramKind::Other;

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+namespace trel::mediadispatch {
+
+/// An address as people may see it, on a screen or in a log: without the password in front of its
+/// host. The user's name stays, and so does every letter of an address without a password and of
+/// the path of a file.
+///
+/// For texts only: what plays or stores a program takes its mediaPath as it is.
+Q_DECL_EXPORT QString shownAddress(const QString& address);
+
+} // namespace trel::mediadispatch
