@@ -160,6 +160,10 @@
         <translation>Import läuft</translation>
     </message>
     <message>
+        <source>Looking for files: %1 found</source>
+        <translation>Dateien werden gesucht: %1 gefunden</translation>
+    </message>
+    <message>
         <source>The import was cancelled; nothing was taken in.</source>
         <translation>Der Import wurde abgebrochen; es wurde nichts übernommen.</translation>
     </message>

@@ -160,6 +160,10 @@
         <translation>Importando</translation>
     </message>
     <message>
+        <source>Looking for files: %1 found</source>
+        <translation>Buscando archivos: %1 encontrados</translation>
+    </message>
+    <message>
         <source>The import was cancelled; nothing was taken in.</source>
         <translation>Se ha cancelado la importación; no se ha añadido nada.</translation>
     </message>

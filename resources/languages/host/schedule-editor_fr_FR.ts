@@ -160,6 +160,10 @@
         <translation>Importation</translation>
     </message>
     <message>
+        <source>Looking for files: %1 found</source>
+        <translation>Recherche de fichiers&#xa0;: %1 trouvé(s)</translation>
+    </message>
+    <message>
         <source>The import was cancelled; nothing was taken in.</source>
         <translation>L’importation a été annulée&#xa0;; rien n’a été ajouté.</translation>
     </message>

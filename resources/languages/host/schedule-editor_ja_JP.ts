@@ -158,6 +158,10 @@
         <translation>取り込み中</translation>
     </message>
     <message>
+        <source>Looking for files: %1 found</source>
+        <translation>ファイルを検索中：%1件</translation>
+    </message>
+    <message>
         <source>The import was cancelled; nothing was taken in.</source>
         <translation>取り込みをキャンセルしました。何も取り込まれていません。</translation>
     </message>

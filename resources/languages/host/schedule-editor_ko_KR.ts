@@ -158,6 +158,10 @@
         <translation>가져오는 중</translation>
     </message>
     <message>
+        <source>Looking for files: %1 found</source>
+        <translation>파일을 찾는 중: %1개</translation>
+    </message>
+    <message>
         <source>The import was cancelled; nothing was taken in.</source>
         <translation>가져오기가 취소되어 아무것도 가져오지 않았습니다.</translation>
     </message>

@@ -160,6 +160,10 @@
         <translation>Importando</translation>
     </message>
     <message>
+        <source>Looking for files: %1 found</source>
+        <translation>Procurando arquivos: %1 encontrados</translation>
+    </message>
+    <message>
         <source>The import was cancelled; nothing was taken in.</source>
         <translation>A importação foi cancelada; nada foi adicionado.</translation>
     </message>

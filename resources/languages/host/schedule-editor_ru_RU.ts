@@ -162,6 +162,10 @@
         <translation>Импорт</translation>
     </message>
     <message>
+        <source>Looking for files: %1 found</source>
+        <translation>Поиск файлов: найдено %1</translation>
+    </message>
+    <message>
         <source>The import was cancelled; nothing was taken in.</source>
         <translation>Импорт отменён, ничего не добавлено.</translation>
     </message>

@@ -158,6 +158,10 @@
         <translation>正在导入</translation>
     </message>
     <message>
+        <source>Looking for files: %1 found</source>
+        <translation>正在查找文件：已找到 %1 个</translation>
+    </message>
+    <message>
         <source>The import was cancelled; nothing was taken in.</source>
         <translation>导入已取消，未导入任何内容。</translation>
     </message>

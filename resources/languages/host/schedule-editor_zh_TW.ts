@@ -158,6 +158,10 @@
         <translation>正在匯入</translation>
     </message>
     <message>
+        <source>Looking for files: %1 found</source>
+        <translation>正在尋找檔案：已找到 %1 個</translation>
+    </message>
+    <message>
         <source>The import was cancelled; nothing was taken in.</source>
         <translation>匯入已取消，未匯入任何內容。</translation>
     </message>

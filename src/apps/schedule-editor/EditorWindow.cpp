@@ -57,6 +57,11 @@ QString shownName(const QString& path)
     return QFileInfo(shownAddress(path)).fileName();
 }
 
+void showSearch(QProgressDialog& progress, int found)
+{
+    progress.setLabelText(EditorWindow::tr("Looking for files: %1 found").arg(found));
+}
+
 } // namespace
 
 EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Themes& themes)
@@ -334,7 +339,13 @@ void EditorWindow::importMedia(const QStringList& paths)
     m_progress->setMinimumWidth(420);
     // A handful of files is done before anyone could read a dialog.
     m_progress->setMinimumDuration(300);
+    // How many there are is not known before all have been found.
+    m_progress->setMaximum(0);
+    m_progress->setValue(0);
+    showSearch(*m_progress, 0);
     connect(m_progress, &QProgressDialog::canceled, m_job, &ImportJob::cancel);
+    connect(m_job, &ImportJob::searched, m_progress,
+            [progress = m_progress](int found) { showSearch(*progress, found); });
     connect(m_job, &ImportJob::progressed, m_progress,
             [progress = m_progress](int done, int total, const QString& path) {
                 if (progress->wasCanceled()) {
@@ -353,8 +364,9 @@ void EditorWindow::finishImport()
     m_progress->deleteLater();
     m_progress = nullptr;
     m_job->deleteLater();
+    const bool isCancelled = m_job->isCancelled();
     const ImportScan scan = std::exchange(m_job, nullptr)->scan();
-    if (scan.cancelled) {
+    if (isCancelled) {
         statusBar()->showMessage(tr("The import was cancelled; nothing was taken in."));
     } else {
         const ImportResult result = ScheduleHost::instance().addPrograms(scan.sources);

@@ -4,6 +4,7 @@
 #include "media/MediaModule.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QSet>
 #include <QUrl>
@@ -60,32 +61,64 @@ QString schemeOf(const QString& path)
     return end < 0 ? QString() : path.left(end).toLower();
 }
 
-/// Collects the files of folders, in the order of their names.
+/// Collects the files of folders, in the order of their names, until it is told to end.
 class Walk
 {
 public:
-    void add(const QString& path, bool isNamed);
+    explicit Walk(const ImportSearch& search)
+        : m_search(search)
+    {}
 
+    void addNamed(const QString& path);
+
+    bool isEnded() const { return m_isEnded; }
     std::vector<Candidate> takeFiles() { return std::move(m_files); }
 
 private:
-    void addFolder(const QString& path);
+    struct Entry
+    {
+        QString name;
+        QString path;
+        bool isFolder = false;
+    };
 
+    /// Asks whether to go on; once it is not, nothing goes on any more.
+    bool goesOn();
+    /// False for a file that was found before.
+    bool findFile(const QString& path);
+    void addFolder(const QString& path);
+    std::vector<Entry> entries(const QString& path);
+
+    const ImportSearch& m_search;
+    bool m_isEnded = false;
     std::vector<Candidate> m_files;
-    QSet<QString> m_known;   ///< Files that stand in the list.
+    QSet<QString> m_found;   ///< Files, those included that do not stand in the list yet.
     QSet<QString> m_folders; ///< Folders that were gone through, behind any links.
 };
 
-void Walk::add(const QString& path, bool isNamed)
+void Walk::addNamed(const QString& path)
 {
-    if (QFileInfo(path).isDir()) {
-        addFolder(path);
+    if (!goesOn()) {
         return;
     }
-    if (!m_known.contains(path)) {
-        m_known.insert(path);
-        m_files.push_back({path, isNamed});
+    if (QFileInfo(path).isDir()) {
+        addFolder(path);
+    } else if (findFile(path)) {
+        m_files.push_back({path, true});
     }
+}
+
+bool Walk::goesOn()
+{
+    m_isEnded = m_isEnded || (m_search && !m_search(m_found.size()));
+    return !m_isEnded;
+}
+
+bool Walk::findFile(const QString& path)
+{
+    const int before = m_found.size();
+    m_found.insert(path);
+    return m_found.size() > before;
 }
 
 void Walk::addFolder(const QString& path)
@@ -95,15 +128,36 @@ void Walk::addFolder(const QString& path)
         return; // A link may lead back up.
     }
     m_folders.insert(canonical);
-    const QDir folder(path);
-    QStringList names = folder.entryList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
-    std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
-        const int order = a.compare(b, Qt::CaseInsensitive);
-        return order == 0 ? a < b : order < 0;
-    });
-    for (const QString& name : qAsConst(names)) {
-        add(folder.filePath(name), false);
+    for (const Entry& entry : entries(path)) {
+        if (m_isEnded) {
+            return;
+        }
+        if (!entry.isFolder) {
+            m_files.push_back({entry.path, false});
+        } else if (goesOn()) {
+            addFolder(entry.path);
+        }
     }
+}
+
+/// What stands in a folder and was not found before, by name. Read one by one, since a single
+/// folder may hold very many.
+std::vector<Walk::Entry> Walk::entries(const QString& path)
+{
+    std::vector<Entry> list;
+    QDirIterator next(path, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
+    while (next.hasNext() && goesOn()) {
+        const QString inner = next.next();
+        const bool isFolder = next.fileInfo().isDir();
+        if (isFolder || findFile(inner)) {
+            list.push_back({next.fileName(), inner, isFolder});
+        }
+    }
+    std::sort(list.begin(), list.end(), [](const Entry& a, const Entry& b) {
+        const int order = a.name.compare(b.name, Qt::CaseInsensitive);
+        return order == 0 ? a.name < b.name : order < 0;
+    });
+    return list;
 }
 
 /// Why a file cannot be read, before its content is looked at; empty when it can.
@@ -194,25 +248,30 @@ bool isAddress(const QString& path)
     return !scheme.isEmpty() && scheme != QLatin1String("file") && !QFileInfo::exists(path);
 }
 
-std::vector<Candidate> candidates(const QStringList& paths)
+void addTo(Walk& walk, const QStringList& paths)
 {
-    Walk walk;
     for (const QString& path : paths) {
         if (isAddress(path)) {
-            walk.add(path, true);
+            walk.addNamed(path);
         } else if (!path.isEmpty()) {
-            walk.add(localPath(path), true);
+            walk.addNamed(localPath(path));
         }
     }
-    return walk.takeFiles();
 }
 
 } // namespace
 
-ImportScan scanMedia(const QStringList& paths, const ImportProgress& progress)
+ImportScan scanMedia(const QStringList& paths, const ImportProgress& progress,
+                     const ImportSearch& search)
 {
     ImportScan scan;
-    const std::vector<Candidate> found = candidates(paths);
+    Walk walk(search);
+    addTo(walk, paths);
+    if (walk.isEnded()) {
+        scan.cancelled = true;
+        return scan;
+    }
+    const std::vector<Candidate> found = walk.takeFiles();
     Probe probe;
     int done = 0;
     for (const Candidate& candidate : found) {

@@ -50,6 +50,17 @@ QStringList refusals(const ImportScan& scan)
     return list;
 }
 
+/// Three files and two folders, one of which is empty.
+void makeTree(const QString& path)
+{
+    const QDir dir(path);
+    QVERIFY(dir.mkpath(QStringLiteral("a")));
+    QVERIFY(dir.mkpath(QStringLiteral("c")));
+    for (const char* name : {"a.wav", "b.wav", "a/x.wav"}) {
+        QVERIFY(media::makeWav(dir.filePath(QLatin1String(name)), 100));
+    }
+}
+
 } // namespace
 
 /// Files, folders and addresses on their way into the catalogue.
@@ -76,6 +87,8 @@ private slots:
     void refusedAddresses();
     void relativePathsAndFileAddresses();
     void progressAndCancel();
+    void searchTellsEveryEntry();
+    void searchIsCancelledAtAnyEntry();
     void runsOnOtherThreads();
 
 private:
@@ -349,6 +362,53 @@ void tst_ProgramImporter::progressAndCancel()
     QVERIFY(stopped.cancelled);
     QCOMPARE(stopped.sources.size(), std::size_t(2));
     QCOMPARE(calls.size(), 3);
+}
+
+void tst_ProgramImporter::searchTellsEveryEntry()
+{
+    const QTemporaryDir folder;
+    makeTree(folder.path());
+    QStringList found;
+    bool hasReading = false;
+    const auto progress = [&hasReading](int, int, const QString&) { return hasReading = true; };
+    const auto search = [&](int count) {
+        found.append(QString::number(count));
+        return !hasReading;
+    };
+    const QString file = folder.filePath(QStringLiteral("b.wav"));
+
+    const ImportScan scan = scanMedia(
+        {file, folder.path(), QStringLiteral("rtsp://camera/1"), folder.path()}, progress, search);
+
+    QCOMPARE(::names(scan).join(QLatin1Char(' ')), QStringLiteral("b x a rtsp://camera/1"));
+    QVERIFY(hasReading);
+    QCOMPARE(found.first(), QStringLiteral("0"));
+    QCOMPARE(found.last(), QStringLiteral("4"));
+    // The four that are named, five entries, and both folders before their own entries.
+    QCOMPARE(found.size(), 4 + 5 + 2);
+}
+
+void tst_ProgramImporter::searchIsCancelledAtAnyEntry()
+{
+    const QTemporaryDir folder;
+    makeTree(folder.path());
+    const QStringList paths = {folder.path(), QStringLiteral("rtsp://camera/1")};
+    int all = 0;
+    scanMedia(paths, {}, [&all](int) { return ++all > 0; });
+    QCOMPARE(all, 2 + 5 + 2);
+
+    for (int last = 1; last <= all; ++last) {
+        int calls = 0;
+        bool hasReading = false;
+        const ImportScan scan = scanMedia(
+            paths, [&hasReading](int, int, const QString&) { return hasReading = true; },
+            [&calls, last](int) { return ++calls < last; });
+        QVERIFY(scan.cancelled);
+        QVERIFY(scan.sources.empty());
+        QVERIFY(scan.refusals.empty());
+        QVERIFY(!hasReading);
+        QCOMPARE(calls, last);
+    }
 }
 
 void tst_ProgramImporter::runsOnOtherThreads()
