@@ -53,6 +53,7 @@ private slots:
     void damagedAndMended_data();
     void damagedAndMended();
     void formerFileInUse();
+    void whoStaysWithTheFormerFileDoesNoHarm();
     void closedWhileGone();
     void tellsOfACommitOnItsWay();
 
@@ -217,6 +218,24 @@ void tst_StoreReplaced::formerFileInUse()
     other.reset();
     QVERIFY(m_store->host.reload());
     QVERIFY(m_store->manager.getgTaskMap() == m_other);
+}
+
+/// Somebody else has the former file open, and goes on writing into it.
+void tst_StoreReplaced::whoStaysWithTheFormerFileDoesNoHarm()
+{
+    const StoreConnection other(m_store->path, StoreConnection::Access::ReadWrite);
+    QCOMPARE(other.value(QStringLiteral("SELECT count(*) FROM task")).toInt(), 3);
+    const StoreFile file(m_store->path);
+    const StoreFile::Identity formerLog = file.logIdentity();
+    replace(m_other);
+    QVERIFY(m_store->host.reload());
+    QVERIFY(file.logIdentity() != formerLog);
+    other.run(QStringLiteral("DELETE FROM task"));
+    QVERIFY(m_store->manager.getgTaskMap() == m_other);
+    QVERIFY(m_store->host.trySave());
+    other.run(QStringLiteral("UPDATE store SET schedule_revision = schedule_revision + 9"));
+    m_store->host.close();
+    QVERIFY(tasksInFile(m_store->path) == m_former);
 }
 
 void tst_StoreReplaced::closedWhileGone()
