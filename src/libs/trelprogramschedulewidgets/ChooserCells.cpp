@@ -201,6 +201,16 @@ ChoiceRow choiceRowOf(const struProgInfo& entry, ProgramIten (*lookup)(int progI
     return row;
 }
 
+ChoiceRow addedRowOf(const struProgInfo& program, int number)
+{
+    ChoiceRow row;
+    row.number = number;
+    row.name = QString::fromStdString(program.progName);
+    row.progIndex = program.progIndex;
+    row.isNew = true;
+    return row;
+}
+
 void appendOffers(QStandardItemModel& model, const std::vector<struProgInfo>& programs)
 {
     const OfferCells cells(programs);

@@ -28,6 +28,8 @@ struct ChoiceRow
 /// now; when that no longer exists, with the suffix and in yellow.
 ChoiceRow choiceRowOf(const struProgInfo& entry, ProgramIten (*lookup)(int progIndex),
                       const QString& nullSuffix);
+/// The row of a program that is being added, with this number and no tool tip.
+ChoiceRow addedRowOf(const struProgInfo& program, int number);
 
 /// Appends an unchecked row to the left table for each program, and tells the views of them once.
 void appendOffers(QStandardItemModel& model, const std::vector<struProgInfo>& programs);

@@ -2,6 +2,7 @@
 
 #include <QAbstractItemModel>
 
+#include <algorithm>
 #include <utility>
 
 namespace trel::mediadispatch {
@@ -76,6 +77,14 @@ void removeEntries(std::vector<struProgInfo>& entries, const std::vector<int>& r
         ++kept;
     }
     entries.resize(kept);
+}
+
+int moveTarget(const std::vector<int>& rows, bool up, int rowCount)
+{
+    const int lastRow = rowCount - 1;
+    const int target = std::clamp(up ? rows.front() - 1 : rows.back() + 1, 0, lastRow);
+    const bool endsTable = rows.back() == lastRow;
+    return endsTable && target == lastRow ? rows.front() : target;
 }
 
 double totalDuration(const QAbstractItemModel& model, int editedRow, int editedCount,

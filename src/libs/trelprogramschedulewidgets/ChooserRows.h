@@ -29,6 +29,10 @@ bool isNewChoice(const QAbstractItemModel& model, int row);
 /// Removes the entries at these rows, given from the top. A row past the end is passed over.
 void removeEntries(std::vector<struProgInfo>& entries, const std::vector<int>& rows);
 
+/// Where the rows to move, given from the top and at least one, are put in again to move by one
+/// place in a table of this size. At the ends of the table they stay where they are.
+int moveTarget(const std::vector<int>& rows, bool up, int rowCount);
+
 /// The length of the whole right table in milliseconds: of each row the length of one play, times
 /// its play count. The row being edited counts with the editor's count instead of its own, and for
 /// nothing when that is 0 or less; -1 when no row is. Asks for the length once for each row.

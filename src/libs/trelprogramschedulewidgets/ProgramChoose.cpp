@@ -1,28 +1,28 @@
 #include "ProgramChoose.h"
 
 #include "ChooserCells.h"
+#include "ChooserForm.h"
 #include "ChooserRows.h"
 #include "ChooserTables.h"
 #include "CustomTableModel.h"
+#include "InsertMenu.h"
+#include "ProgramInsertion.h"
 #include "ProgramNames.h"
 #include "SHeaderView.h"
 #include "ScheduleText.h"
 #include "SpinBoxDelegate.h"
 #include "service/InvalidEntries.h"
 #include "service/PlanInsertion.h"
-#include "service/ProgramTotal.h"
+#include "service/ProgramOffers.h"
 #include "service/scheduleManage.h"
 #include "trelwidgets/Dialog.h"
-#include "ui_ProgramChoose.h"
 
 #include <QAction>
 #include <QKeyEvent>
 #include <QMenu>
 
 #include <algorithm>
-#include <array>
-#include <iterator>
-#include <map>
+#include <optional>
 #include <utility>
 
 namespace trel::mediadispatch {
@@ -39,11 +39,6 @@ constexpr QSize kTallFrameSize(610, 1000);
 constexpr int kNoRow = -1;
 
 constexpr char kStyle[] = "style";
-
-/// The context menu of the right table, from the top.
-enum MenuLine { CutLine = 0, DelayLine, MoveUpLine, MoveDownLine, MenuLineCount };
-constexpr std::array<const char*, MenuLineCount> kMenuKeys = {"zhCutCurrentProg", "zhDelayInsert",
-                                                              "zhProgMoveUp", "zhProgMoveDown"};
 
 scheduleManage& service()
 {
@@ -65,28 +60,12 @@ double lengthOf(int progIndex)
     return service().getDurationByIndex(progIndex);
 }
 
-/// The entries of a plan for the programs of the catalogue that exist, in its order.
-std::vector<struProgInfo> offeredPrograms()
-{
-    // The catalogue is a copy: its names are moved out of it, and it goes before the rows are made,
-    // which then find their memory in its place.
-    std::map<int, ProgramIten> catalogue = service().getPrograms();
-    std::vector<struProgInfo> offers;
-    offers.reserve(catalogue.size());
-    for (auto& [key, program] : catalogue) {
-        if (!program.isNull) {
-            offers.push_back({program.progIndex, false, std::move(program.progName), 1});
-        }
-    }
-    return offers;
-}
-
 } // namespace
 
 ProgramChoose::ProgramChoose(PlayTask* task, int taskId, int planId, QWidget* parent,
                              bool isNewPlan)
     : QDialog(parent)
-    , ui(std::make_unique<Ui::ProgramChoose>())
+    , ui(std::make_unique<ChooserForm>())
     , m_task(task)
     , m_isNewPlan(isNewPlan)
     , m_taskId(taskId)
@@ -123,37 +102,18 @@ void ProgramChoose::setUpFrame()
 
 void ProgramChoose::setUpTables()
 {
-    setUpTexts();
+    ui->translate();
     ui->tipLab->setProperty(kStyle, QStringLiteral("errorHint"));
     ui->overTimeTip->setProperty(kStyle, QStringLiteral("errorHint"));
     m_programModel = new CustomTableModel(this);
     m_programHeader = setUpProgramTable(ui->tableViewProgramList, m_programModel);
     m_planModel = new CustomTableModel(this);
     m_planHeader = setUpPlanTable(ui->tableViewChoonse, m_planModel);
-    hideTip();
+    ui->hideTip();
     ui->overTimeTip->hide();
     ui->pushButtonChonse->setProperty("imageBtn", QStringLiteral("turnNext"));
     loadTables();
     connectAll();
-}
-
-void ProgramChoose::setUpTexts()
-{
-    ui->label->setText(scheduleText("szProgramLstStr"));
-    ui->label_2->setText(scheduleText("szPlanLstStr"));
-    ui->tipLab->setText(scheduleText("zhOnlyOne"));
-    ui->pushButtonDelete->setText(scheduleText("szDeleteStr"));
-    ui->label_timeWord->setText(scheduleText("zhTotalDuration"));
-    ui->overTimeTip->setText(scheduleText("zhOverTimeTips"));
-    ui->okBtn->setText(scheduleText("zhFixAct"));
-    ui->cancelBtn->setText(scheduleText("zhCancelAct"));
-
-    // For screen readers: the controls that show no text.
-    ui->pushButtonChonse->setAccessibleName(scheduleText("zhSelectProgramsStr"));
-    ui->UpBtn->setAccessibleName(scheduleText("zhProgMoveUp"));
-    ui->DownBtn->setAccessibleName(scheduleText("zhProgMoveDown"));
-    ui->tableViewProgramList->setAccessibleName(scheduleText("szProgramLstStr"));
-    ui->tableViewChoonse->setAccessibleName(scheduleText("szPlanLstStr"));
 }
 
 void ProgramChoose::connectAll()
@@ -199,7 +159,9 @@ void ProgramChoose::loadTables()
 
 void ProgramChoose::loadPrograms()
 {
-    m_allPrograms = offeredPrograms();
+    // The copy of the catalogue is gone when the rows are made: they find their memory in its
+    // place.
+    m_allPrograms = offeredPrograms(service().getPrograms());
     appendOffers(*m_programModel, m_allPrograms);
 }
 
@@ -317,12 +279,7 @@ void ProgramChoose::slotChose()
             continue;
         }
         const struProgInfo& program = m_allPrograms[position];
-        ChoiceRow added;
-        added.number = ++number;
-        added.name = QString::fromStdString(program.progName);
-        added.progIndex = program.progIndex;
-        added.isNew = true;
-        rows.push_back(std::move(added));
+        rows.push_back(addedRowOf(program, ++number));
         m_selectedPrograms.push_back(program);
         m_planChanged = true;
     }
@@ -350,7 +307,7 @@ void ProgramChoose::slotClicked()
         return;
     }
     if (checked > 1) {
-        showTip("zhOnlyOne");
+        ui->showTip("zhOnlyOne");
         return;
     }
     const auto* button = qobject_cast<QPushButton*>(sender());
@@ -359,7 +316,7 @@ void ProgramChoose::slotClicked()
     } else if (button == ui->UpBtn) {
         moveRows(true, true);
     }
-    hideTip();
+    ui->hideTip();
     updateTotalDuration(kNoRow, kNoRow);
 }
 
@@ -376,11 +333,7 @@ void ProgramChoose::moveRows(bool up, bool byChecks)
         return;
     }
 
-    const int lastRow = model->rowCount() - 1;
-    int target = std::clamp(up ? rows.front() - 1 : rows.back() + 1, 0, lastRow);
-    if (rows.back() == lastRow && target == lastRow) {
-        target = rows.front();
-    }
+    const int target = moveTarget(rows, up, model->rowCount());
     std::for_each(rows.rbegin(), rows.rend(),
                   [&](int row) { model->insertRow(target, model->takeRow(row)); });
 
@@ -415,28 +368,8 @@ double ProgramChoose::updateTotalDuration(int editedRow, int editedCount)
         return 0.0;
     }
     const double total = totalDuration(*m_planModel, editedRow, editedCount, lengthOf);
-    if (exceedsDay(total)) {
-        hideTip();
-        ui->overTimeTip->show();
-    } else {
-        ui->overTimeTip->hide();
-    }
-    ui->showTime_label->setText(totalText(total));
+    ui->showTotal(total);
     return total;
-}
-
-void ProgramChoose::showTip(const char* key)
-{
-    ui->tipLab->setText(scheduleText(key));
-    ui->overTimeTip->hide();
-    ui->tipLab->show();
-    ui->warningLab->show();
-}
-
-void ProgramChoose::hideTip()
-{
-    ui->tipLab->hide();
-    ui->warningLab->hide();
 }
 
 // The records behind the right table
@@ -493,9 +426,9 @@ bool ProgramChoose::canInsert(int row) const
 void ProgramChoose::showInsertMenu(bool enabled, QPoint pos)
 {
     QMenu menu;
-    for (const char* key : kMenuKeys) {
-        const QAction* action = menu.addAction(scheduleText(key));
-        if (enabled) {
+    fillInsertMenu(menu);
+    if (enabled) {
+        for (const QAction* action : menu.actions()) {
             connect(action, &QAction::triggered, this,
                     &ProgramChoose::onActionInsertProgramTriggered, Qt::UniqueConnection);
         }
@@ -510,63 +443,38 @@ void ProgramChoose::onActionInsertProgramTriggered()
     if (!action) {
         return;
     }
-    // The actions carry nothing but their text.
-    const auto key = std::find_if(kMenuKeys.begin(), kMenuKeys.end(), [action](const char* k) {
-        return action->text() == scheduleText(k);
-    });
-    switch (std::distance(kMenuKeys.begin(), key)) {
-    case DelayLine:
+    switch (insertMenuLine(action->text())) {
+    case InsertMenuLine::Cut:
+        insertProgram(false);
+        break;
+    case InsertMenuLine::Delay:
         insertProgram(true);
         break;
-    case MoveUpLine:
+    case InsertMenuLine::MoveUp:
         moveRows(true, false);
         break;
-    case MoveDownLine:
+    case InsertMenuLine::MoveDown:
         moveRows(false, false);
-        break;
-    default:
-        // Also for a text that is no longer known, as the language has changed under the menu.
-        insertProgram(false);
         break;
     }
 }
 
 void ProgramChoose::insertProgram(bool delayed)
 {
-    int index = -1;
-    PlayPlan plan = service().getPlan(m_taskId, m_planId, index);
-    if (index < 0) {
+    std::optional<ProgramInsertion> insertion = ProgramInsertion::prepare(m_taskId, m_planId);
+    if (!insertion) {
         return;
     }
-    const PlayTask task = service().getTask(m_taskId);
-    const DataCompareType lastDay = service().comparisionDate(task.endDate);
-    const bool endPassed = service().comparisonTime(plan.endTime);
-    const InsertionScope scope = insertionScope(lastDay, endPassed);
-    if (scope == InsertionScope::Refused) {
-        showTip("zhCutProgWarnning");
+    if (insertion->isRefused()) {
+        ui->showTip("zhCutProgWarnning");
         return;
     }
-    hideTip();
+    ui->hideTip();
     updateTotalDuration(kNoRow, kNoRow);
 
-    struProgInfo target = choiceAt(*m_planModel, m_contextRow);
-    target.playCount = 1;
-    std::vector<struProgInfo> programs;
-    if (scope == InsertionScope::OneProgram) {
-        m_hasNoDuration = false;
-        programs.push_back(std::move(target));
-    } else {
-        programs = listFromRow(m_selectedPrograms, target, m_contextRow);
-        m_hasNoDuration = containsNoDuration(programs, isNoDuration);
-        plan.hasNoDuration = m_hasNoDuration;
-    }
-    const PlayPlan newPlan = insertedPlan(std::move(plan), std::move(programs), scope);
-
-    if (delayed) {
-        service().setInsertPlanTaskDelayExcute(m_taskId, m_planId, newPlan);
-    } else {
-        service().setInsertPlanTask(m_taskId, m_planId, newPlan, true);
-    }
+    insertion->setPrograms(m_selectedPrograms, choiceAt(*m_planModel, m_contextRow), m_contextRow);
+    m_hasNoDuration = insertion->hasNoDuration();
+    insertion->handOver(delayed);
     service().passOriginalPlanProgInfo(m_selectedPrograms);
 }
 

@@ -10,16 +10,13 @@
 #include <memory>
 #include <vector>
 
-namespace Ui {
-class ProgramChoose;
-}
-
 namespace trel::widgets {
 class Dialog;
 }
 
 namespace trel::mediadispatch {
 
+class ChooserForm;
 class CustomTableModel;
 class SHeaderView;
 struct ChoiceRow;
@@ -95,7 +92,6 @@ protected:
 private:
     void setUpFrame();
     void setUpTables();
-    void setUpTexts();
     void connectAll();
 
     void loadTables();
@@ -113,14 +109,12 @@ private:
     void syncSelectedPrograms();
     void readBackPlanRows();
     void enableConfirming();
-    void showTip(const char* key);
-    void hideTip();
 
     bool canInsert(int row) const;
     void showInsertMenu(bool enabled, QPoint pos);
     void insertProgram(bool delayed);
 
-    std::unique_ptr<Ui::ProgramChoose> ui;
+    std::unique_ptr<ChooserForm> ui;
     PlayTask* m_task;
     bool m_isNewPlan;
     int m_taskId;
