@@ -16,6 +16,7 @@
 #include "service/DateText.h"
 #include "service/NewPlan.h"
 #include "service/PlanTiming.h"
+#include "service/TaskPlans.h"
 #include "service/TimeText.h"
 #include "service/scheduleManage.h"
 
@@ -27,7 +28,6 @@
 #include <QSpinBox>
 #include <QTimeEdit>
 
-#include <algorithm>
 #include <utility>
 
 namespace trel::mediadispatch {
@@ -54,13 +54,6 @@ bool hasNoDuration(int progIndex)
 bool areTimesTaken(int times)
 {
     return times >= kLeastTimes && times <= kMostTimes;
-}
-
-template <typename Plans>
-auto planWithId(Plans& plans, int id)
-{
-    return std::find_if(plans.begin(), plans.end(),
-                        [id](const PlayPlan& plan) { return plan.id == id; });
 }
 
 } // namespace
@@ -313,18 +306,13 @@ void PlanTaskWidget::lockModeOfRow(int row, int planId)
 PlayPlan* PlanTaskWidget::planOfRow(int row)
 {
     // A task that was read from the service again may hold fewer plans than there are rows.
-    const auto index = static_cast<std::size_t>(row);
-    return row >= 0 && index < m_task.plans.size() ? &m_task.plans[index] : nullptr;
+    return planAt(m_task, row);
 }
 
 PlayPlan* PlanTaskWidget::planByIdOfRow(int row)
 {
     const auto id = m_planIdByRow.find(row);
-    if (id == m_planIdByRow.end()) {
-        return nullptr;
-    }
-    const auto plan = planWithId(m_task.plans, id->second);
-    return plan == m_task.plans.end() ? nullptr : &*plan;
+    return id == m_planIdByRow.end() ? nullptr : firstPlanWithId(m_task, id->second);
 }
 
 void PlanTaskWidget::computeEndTime(int index, std::string& out)
@@ -612,15 +600,8 @@ void PlanTaskWidget::slotCopyPlan()
 
     const auto found = m_rowByPlanId.find(id);
     const int row = found == m_rowByPlanId.end() ? -1 : found->second;
-    PlayPlan source;
-    if (row != -1) {
-        for (const PlayPlan& plan : m_task.plans) {
-            if (plan.id == id) {
-                source = plan;
-            }
-        }
-    }
-    PlayPlan copy = followingCopy(source, m_task);
+    const PlayPlan* const source = row == -1 ? nullptr : lastPlanWithId(m_task, id);
+    PlayPlan copy = followingCopy(source ? *source : PlayPlan(), m_task);
     m_task.plans.push_back(copy);
     if (copy.mode == FrequencyMode) {
         // The end comes from the plan below the source, which is the copy itself only when the
@@ -645,10 +626,7 @@ void PlanTaskWidget::slotDeletePlan()
     const int id = button->property("id").toInt();
     const auto found = m_rowByPlanId.find(id);
     if (found != m_rowByPlanId.end()) {
-        const auto plan = planWithId(m_task.plans, id);
-        if (plan != m_task.plans.end()) {
-            m_task.plans.erase(plan);
-        }
+        removeFirstPlanWithId(m_task, id);
         const int row = found->second;
         m_model->removeRow(row);
         forgetRow(row);
