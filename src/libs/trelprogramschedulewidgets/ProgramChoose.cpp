@@ -1,11 +1,13 @@
 #include "ProgramChoose.h"
 
+#include "CheckOrder.h"
 #include "ChooserCells.h"
 #include "ChooserForm.h"
 #include "ChooserRows.h"
 #include "ChooserTables.h"
 #include "CustomTableModel.h"
 #include "InsertMenu.h"
+#include "OfferChecks.h"
 #include "ProgramInsertion.h"
 #include "ProgramNames.h"
 #include "SHeaderView.h"
@@ -107,6 +109,7 @@ void ProgramChoose::setUpTables()
     ui->overTimeTip->setProperty(kStyle, QStringLiteral("errorHint"));
     m_programModel = new CustomTableModel(this);
     m_programHeader = setUpProgramTable(ui->tableViewProgramList, m_programModel);
+    m_checkOrder = std::make_unique<OfferChecks>(*m_programModel, *m_programHeader);
     m_planModel = new CustomTableModel(this);
     m_planHeader = setUpPlanTable(ui->tableViewChoonse, m_planModel);
     ui->hideTip();
@@ -212,7 +215,7 @@ void ProgramChoose::slotChecked(CheckType type, int row, bool check)
 void ProgramChoose::slotSelectAll(CheckType type, bool ischeck)
 {
     if (type == ProgramListCheck) {
-        checkAllPrograms(ischeck);
+        m_checkOrder->setAllChecked(ischeck);
     } else if (type == PlanListCheck) {
         for (int row = 0; row < m_planModel->rowCount(); ++row) {
             setRowChecked(*m_planModel, row, ischeck);
@@ -221,43 +224,13 @@ void ProgramChoose::slotSelectAll(CheckType type, bool ischeck)
     }
 }
 
-void ProgramChoose::checkAllPrograms(bool check)
-{
-    const int rowCount = m_programModel->rowCount();
-    if (check) {
-        m_checkOrder.checkAll(rowCount);
-    } else {
-        m_checkOrder.clearAll(rowCount);
-    }
-    for (int row = 0; row < rowCount; ++row) {
-        setRowChecked(*m_programModel, row, check);
-        showCheckNumber(row, check ? formatRowNumber(row + 1) : QString());
-    }
-    if (rowCount > 0) {
-        m_programHeader->setChecked(check);
-    }
-}
-
 void ProgramChoose::updateCheckOrder(int row, bool check)
 {
     if (check) {
-        showCheckNumber(row, formatRowNumber(m_checkOrder.check(row)));
-        if (m_programModel->rowCount() == m_checkOrder.count()) {
-            m_programHeader->setChecked(true);
-        }
-        return;
+        m_checkOrder->check(row);
+    } else {
+        m_checkOrder->uncheck(row);
     }
-    const std::vector<CheckedRow> moved = m_checkOrder.uncheck(row);
-    showCheckNumber(row, QString());
-    for (const CheckedRow& other : moved) {
-        showCheckNumber(other.row, formatRowNumber(other.place));
-    }
-    m_programHeader->setChecked(false);
-}
-
-void ProgramChoose::showCheckNumber(int row, const QString& text)
-{
-    m_programModel->setData(m_programModel->index(row, OfferOrderColumn), text);
 }
 
 int ProgramChoose::countCheckedPlanRows() const
@@ -269,7 +242,7 @@ int ProgramChoose::countCheckedPlanRows() const
 
 void ProgramChoose::slotChose()
 {
-    const std::vector<int> checked = m_checkOrder.rows();
+    const std::vector<int> checked = m_checkOrder->rows();
     std::vector<ChoiceRow> rows;
     rows.reserve(checked.size());
     int number = m_planModel->rowCount();

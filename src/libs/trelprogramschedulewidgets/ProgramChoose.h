@@ -1,6 +1,5 @@
 #pragma once
 
-#include "CheckOrder.h"
 #include "service/ScheduleRecords.h"
 
 #include <QDialog>
@@ -18,6 +17,7 @@ namespace trel::mediadispatch {
 
 class ChooserForm;
 class CustomTableModel;
+class OfferChecks;
 class SHeaderView;
 struct ChoiceRow;
 
@@ -99,9 +99,7 @@ private:
     void loadPlan();
     void appendPlanRows(const std::vector<ChoiceRow>& rows);
 
-    void checkAllPrograms(bool check);
     void updateCheckOrder(int row, bool check);
-    void showCheckNumber(int row, const QString& text);
     int countCheckedPlanRows() const;
     void moveRows(bool up, bool byChecks);
     void renumberPlanRows();
@@ -125,9 +123,9 @@ private:
     std::vector<struProgInfo> m_allPrograms;      ///< One entry for each row of the left table.
     std::vector<struProgInfo> m_selectedPrograms; ///< One entry for each row of the right table.
     bool m_hasNoDuration = false;
-    bool m_planChanged = false; ///< The right table is to be read back.
-    CheckOrder m_checkOrder;    ///< Of the left table.
-    int m_contextRow = -1;      ///< Where the last context menu was opened.
+    bool m_planChanged = false;                ///< The right table is to be read back.
+    std::unique_ptr<OfferChecks> m_checkOrder; ///< Of the left table.
+    int m_contextRow = -1;                     ///< Where the last context menu was opened.
     int m_result;
     SHeaderView* m_programHeader = nullptr;
     SHeaderView* m_planHeader = nullptr;
