@@ -1,6 +1,7 @@
 #include "MultiComboBox.h"
 #include "PlanList.h"
 #include "PlanTaskWidget.h"
+#include "WidgetPlaces.h"
 #include "support/RecordingService.h"
 #include "support/TaskRecords.h"
 
@@ -106,21 +107,7 @@ protected:
 
 QStringList places(const PlanTaskWidget& card)
 {
-    const auto* table = card.findChild<QTableView*>();
-    QStringList lines;
-    for (const QWidget* widget : table->viewport()->findChildren<QWidget*>()) {
-        if (widget->isVisible()) {
-            const QRect rect(widget->mapTo(&card, QPoint(0, 0)), widget->size());
-            lines.append(QStringLiteral("%1 %2,%3 %4x%5")
-                             .arg(QLatin1String(widget->metaObject()->className()))
-                             .arg(rect.x())
-                             .arg(rect.y())
-                             .arg(rect.width())
-                             .arg(rect.height()));
-        }
-    }
-    lines.sort();
-    return lines;
+    return visiblePlaces(*card.findChild<QTableView*>()->viewport(), card);
 }
 
 } // namespace

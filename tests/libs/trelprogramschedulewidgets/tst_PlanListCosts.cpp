@@ -1,5 +1,6 @@
 #include "PlanList.h"
 #include "PlanTaskWidget.h"
+#include "WidgetPlaces.h"
 #include "support/RecordingService.h"
 #include "support/TaskRecords.h"
 
@@ -200,20 +201,7 @@ struct Waiting
 /// Where everything in a card is that can be seen.
 QStringList places(const PlanTaskWidget& card)
 {
-    QStringList lines;
-    for (const QWidget* widget : card.findChildren<QWidget*>()) {
-        if (widget->isVisible()) {
-            const QRect rect(widget->mapTo(&card, QPoint(0, 0)), widget->size());
-            lines.append(QStringLiteral("%1 %2,%3 %4x%5")
-                             .arg(QLatin1String(widget->metaObject()->className()))
-                             .arg(rect.x())
-                             .arg(rect.y())
-                             .arg(rect.width())
-                             .arg(rect.height()));
-        }
-    }
-    lines.sort();
-    return lines;
+    return visiblePlaces(card, card);
 }
 
 } // namespace
