@@ -1,3 +1,4 @@
+#include "EventCount.h"
 #include "MultiComboBox.h"
 #include "PlanList.h"
 #include "PlanTaskWidget.h"
@@ -21,30 +22,6 @@
 using namespace trel::mediadispatch;
 
 namespace {
-
-/// Counts the events of one type, and keeps them from whomever they are for.
-class EventCount : public QObject
-{
-public:
-    explicit EventCount(QEvent::Type type)
-        : m_type(type)
-    {
-        qApp->installEventFilter(this);
-    }
-
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        const bool isCounted = event->type() == m_type;
-        count += isCounted ? 1 : 0;
-        return isCounted;
-    }
-
-private:
-    QEvent::Type m_type;
-};
 
 /// Counts how often somebody asks how large a combo box would like to be.
 class MeasuringCount : public QProxyStyle
@@ -80,9 +57,7 @@ int waitingRequests(int plans, QEvent::Type type)
     QCoreApplication::processEvents();
     QWidget window;
     const PlanTaskWidget card(taskOf(1, plans), &window);
-    const EventCount requests(type);
-    QCoreApplication::sendPostedEvents(nullptr, type);
-    return requests.count;
+    return takeWaiting(type);
 }
 
 /// Tells how many rows a table has when the first widget is put into it.

@@ -1,3 +1,4 @@
+#include "EventCount.h"
 #include "PlanList.h"
 #include "PlanTaskWidget.h"
 #include "WidgetPlaces.h"
@@ -52,35 +53,6 @@ protected:
 private:
     const QWidget& m_widget;
     std::map<QEvent::Type, int> m_counts;
-};
-
-/// Counts events of a type, for whomever, and keeps them.
-class WaitingEvents : public QObject
-{
-public:
-    static int take(QEvent::Type type)
-    {
-        WaitingEvents events(type);
-        qApp->installEventFilter(&events);
-        QCoreApplication::sendPostedEvents(nullptr, type);
-        return events.m_count;
-    }
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        const bool isCounted = event->type() == m_type;
-        m_count += isCounted ? 1 : 0;
-        return isCounted;
-    }
-
-private:
-    explicit WaitingEvents(QEvent::Type type)
-        : m_type(type)
-    {}
-
-    QEvent::Type m_type;
-    int m_count = 0;
 };
 
 /// Is told whenever a widget is shown.
@@ -183,9 +155,9 @@ struct Waiting
         ListWindow window;
         QObject::connect(&window.list(), &PlanList::sigGetMapCount, [&](int count) {
             if (count == tasks) {
-                polishes = WaitingEvents::take(QEvent::PolishRequest);
-                layouts = WaitingEvents::take(QEvent::LayoutRequest);
-                calls = WaitingEvents::take(QEvent::MetaCall);
+                polishes = takeWaiting(QEvent::PolishRequest);
+                layouts = takeWaiting(QEvent::LayoutRequest);
+                calls = takeWaiting(QEvent::MetaCall);
                 timers = dueTimersIn(window.list());
             }
         });
