@@ -1,4 +1,4 @@
-#include "look/ButtonPainting.h"
+#include "look/BoxPainting.h"
 
 #include <QPaintDevice>
 #include <QPaintEngine>

@@ -1,5 +1,6 @@
 #include "ButtonPainting.h"
 
+#include "BoxPainting.h"
 #include "FieldPainting.h"
 #include "StyleHooks.h"
 #include "ThemeImages.h"
@@ -127,30 +128,6 @@ void paintWideLabel(QPainter& painter, const ThemeColours& colours,
 }
 
 } // namespace
-
-void paintBox(QPainter& painter, const QRect& rect, const QColor& ground, const QColor& line,
-              qreal radius)
-{
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, radius > 0);
-    const bool hasLine = line.alpha() > 0;
-    painter.setPen(hasLine ? QPen(line, 1.0) : QPen(Qt::NoPen));
-    const qreal inset = hasLine ? 0.5 : 0.0;
-    const QRectF box = QRectF(rect).adjusted(inset, inset, -inset, -inset);
-    if (radius > 0) {
-        painter.setBrush(ground);
-        painter.drawRoundedRect(box, radius, radius);
-    } else {
-        // The ground of a shape is blended dot by dot, even where it does not show, and this may be
-        // as large as a window's table. A fill is not.
-        if (ground.alpha() > 0) {
-            painter.fillRect(box, ground);
-        }
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(box);
-    }
-    painter.restore();
-}
 
 void paintButton(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
                  const QWidget* button)

@@ -3,15 +3,10 @@
 #include "ThemeColours.h"
 
 class QPainter;
-class QRect;
 class QStyleOption;
 class QWidget;
 
 namespace look {
-
-/// A filled box with a line of one pixel around it. A transparent colour leaves either out.
-void paintBox(QPainter& painter, const QRect& rect, const QColor& ground, const QColor& line,
-              qreal radius);
 
 /// All of a button except its caption.
 void paintButton(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,

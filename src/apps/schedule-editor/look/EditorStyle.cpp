@@ -1,5 +1,6 @@
 #include "EditorStyle.h"
 
+#include "BoxPainting.h"
 #include "ButtonPainting.h"
 #include "FieldPainting.h"
 #include "StyleHooks.h"

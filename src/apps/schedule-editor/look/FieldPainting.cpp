@@ -1,6 +1,6 @@
 #include "FieldPainting.h"
 
-#include "ButtonPainting.h"
+#include "BoxPainting.h"
 #include "ThemeImages.h"
 
 #include <QAbstractSpinBox>

@@ -1,6 +1,6 @@
 #include "ViewPainting.h"
 
-#include "ButtonPainting.h"
+#include "BoxPainting.h"
 #include "StyleHooks.h"
 #include "ThemeImages.h"
 

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QtGlobal>
+
+class QColor;
+class QPainter;
+class QRect;
+
+namespace look {
+
+/// A filled box with a line of one pixel around it. A transparent colour leaves either out.
+void paintBox(QPainter& painter, const QRect& rect, const QColor& ground, const QColor& line,
+              qreal radius);
+
+} // namespace look
