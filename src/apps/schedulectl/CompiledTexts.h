@@ -1,6 +1,6 @@
 #pragma once
 
-#include "LanguageTexts.h"
+#include "LanguageText.h"
 
 #include <QByteArray>
 

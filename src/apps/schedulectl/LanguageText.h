@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+/// One text of a language file. The Linguist's names for its parts are context, disambiguation and
+/// source text.
+struct LanguageText
+{
+    QString group;
+    QString context;
+    QString key;
+    QString text;
+    bool isFinished = true; ///< A source file marks what its translator is not sure of.
+};
+
+/// What a language file holds.
+struct LanguageTexts
+{
+    std::vector<LanguageText> texts; ///< In the order of the file, repeated ones included.
+    QString error; ///< Why the file cannot be used, as part of a sentence; else empty.
+};
