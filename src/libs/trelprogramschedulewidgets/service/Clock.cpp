@@ -42,7 +42,7 @@ qint64 Clock::elapsed(const QElapsedTimer& timer) const
 
 std::unique_ptr<ClockAlarm> Clock::makeAlarm(std::function<void()> ring) const
 {
-    return std::make_unique<MachineAlarm>(*this, std::move(ring));
+    return std::make_unique<MachineAlarm>([this] { return msecsSinceEpoch(); }, std::move(ring));
 }
 
 const Clock* Clock::install(const Clock* clock)

@@ -30,7 +30,7 @@ public:
     virtual qint64 elapsed(const QElapsedTimer& timer) const;
     /// An alarm that goes by this clock and calls back when it rings. Takes note of every leap from
     /// here on, also of those before it is first set. A clock that shows another time than the
-    /// machine's gives out alarms of its own.
+    /// machine's gives out alarms of its own. The clock outlives its alarms.
     virtual std::unique_ptr<ClockAlarm> makeAlarm(std::function<void()> ring) const;
 
     QDate today() const { return now().date(); }

@@ -1,7 +1,5 @@
 #include "service/LookingAlarm.h"
 
-#include "service/Clock.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -15,8 +13,8 @@ constexpr qint64 kLeap = 250;
 
 } // namespace
 
-LookingAlarm::LookingAlarm(const Clock& clock, std::function<void()> ring)
-    : m_clock(clock)
+LookingAlarm::LookingAlarm(std::function<qint64()> now, std::function<void()> ring)
+    : m_now(std::move(now))
     , m_ring(std::move(ring))
 {
     m_timer.setSingleShot(true);
@@ -27,7 +25,7 @@ LookingAlarm::LookingAlarm(const Clock& clock, std::function<void()> ring)
 void LookingAlarm::set(qint64 moment)
 {
     m_moment = moment;
-    m_setAt = m_clock.msecsSinceEpoch();
+    m_setAt = m_now();
     m_sinceSet.start();
     sleep(m_setAt);
 }
@@ -40,7 +38,7 @@ void LookingAlarm::sleep(qint64 now)
 
 void LookingAlarm::look()
 {
-    const qint64 now = m_clock.msecsSinceEpoch();
+    const qint64 now = m_now();
     if (now < m_moment && !hasLeapt(now)) {
         sleep(now);
         return;

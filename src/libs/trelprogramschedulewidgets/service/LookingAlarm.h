@@ -9,15 +9,13 @@
 
 namespace trel::mediadispatch {
 
-class Clock;
-
 /// An alarm that looks at its clock once a second, for systems that do not tell when the clock is
 /// set. A leap shows by what the clock and the machine's running time disagree on.
 class LookingAlarm : public ClockAlarm
 {
 public:
-    /// The clock outlives the alarm.
-    LookingAlarm(const Clock& clock, std::function<void()> ring);
+    /// now gives what the clock shows, in milliseconds since the epoch.
+    LookingAlarm(std::function<qint64()> now, std::function<void()> ring);
 
     void set(qint64 moment) override;
 
@@ -26,7 +24,7 @@ private:
     void look();
     bool hasLeapt(qint64 now) const;
 
-    const Clock& m_clock;
+    std::function<qint64()> m_now;
     std::function<void()> m_ring;
     qint64 m_moment = 0;
     qint64 m_setAt = 0; ///< What the clock showed when the alarm was set.

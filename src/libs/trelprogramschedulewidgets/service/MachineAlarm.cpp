@@ -7,13 +7,13 @@
 
 namespace trel::mediadispatch {
 
-MachineAlarm::MachineAlarm(const Clock& clock, std::function<void()> ring)
+MachineAlarm::MachineAlarm(std::function<qint64()> now, std::function<void()> ring)
     : m_ring(std::move(ring))
     , m_zone([this] { ringOnce(); })
     , m_timer(TimerDescriptor::open([this] { ringOnce(); }))
 {
     if (!m_timer) {
-        m_timer = std::make_unique<LookingAlarm>(clock, [this] { ringOnce(); });
+        m_timer = std::make_unique<LookingAlarm>(std::move(now), [this] { ringOnce(); });
     }
 }
 

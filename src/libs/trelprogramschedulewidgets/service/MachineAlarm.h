@@ -8,15 +8,14 @@
 
 namespace trel::mediadispatch {
 
-class Clock;
-
 /// The alarm of the machine's clock. Sleeps in the system's own timer, which wakes it when the
 /// clock is set; where there is none it looks at the clock once a second.
 class MachineAlarm : public ClockAlarm
 {
 public:
-    /// The clock is asked only where there is no timer of the system.
-    MachineAlarm(const Clock& clock, std::function<void()> ring);
+    /// now gives what the clock shows, in milliseconds since the epoch; it is asked only where
+    /// there is no timer of the system.
+    MachineAlarm(std::function<qint64()> now, std::function<void()> ring);
 
     void set(qint64 moment) override;
 
