@@ -31,6 +31,7 @@ install(FILES
   src/libs/trelprogramschedule/ScheduleHost.h
   src/libs/trelprogramschedule/ScheduleJson.h
   src/libs/trelprogramschedule/ShownAddress.h
+  src/libs/trelprogramschedule/StoreResult.h
   DESTINATION ${include_dir}/trelprogramschedule)
 install(FILES
   src/libs/trelprogramschedule/dispatch/ClockChanges.h
@@ -42,6 +43,7 @@ install(FILES
   DESTINATION ${include_dir}/trelprogramschedule/dispatch)
 install(FILES
   src/libs/trelprogramschedule/media/MediaPicture.h
+  src/libs/trelprogramschedule/media/PictureRequest.h
   DESTINATION ${include_dir}/trelprogramschedule/media)
 install(DIRECTORY src/libs/trelprogramschedulewidgets/service
   DESTINATION ${include_dir}

@@ -1,11 +1,12 @@
 #include "ScheduleDatabase.h"
 
 #include "ProgramImporter.h"
-#include "ScheduleDatabaseCatalogue.h"
-#include "ScheduleDatabaseSchema.h"
-#include "ScheduleDatabaseTasks.h"
+#include "StoreCatalogue.h"
 #include "StoreConnection.h"
 #include "StoreMessages.h"
+#include "StoreSchema.h"
+#include "StoreTaskReader.h"
+#include "StoreTaskWriter.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -47,7 +48,7 @@ StoreRevision revisionOf(const StoreConnection& connection)
 ScheduleDatabase::ScheduleDatabase() = default;
 ScheduleDatabase::~ScheduleDatabase() = default;
 
-StoreResult ScheduleDatabase::open(const QString& path, ScheduleHost::OpenMode mode)
+StoreResult ScheduleDatabase::open(const QString& path, StoreOpenMode mode)
 {
     close();
     m_file = StoreFile(path);
@@ -67,9 +68,9 @@ StoreResult ScheduleDatabase::open(const QString& path, ScheduleHost::OpenMode m
     return result;
 }
 
-StoreResult ScheduleDatabase::judge(ScheduleHost::OpenMode mode) const
+StoreResult ScheduleDatabase::judge(StoreOpenMode mode) const
 {
-    return m_file.judge(mode, Schema::kApplicationId, Schema::newestVersion());
+    return m_file.judge(mode, StoreSchema::kApplicationId, StoreSchema::newestVersion());
 }
 
 StoreResult ScheduleDatabase::create() const
@@ -80,7 +81,7 @@ StoreResult ScheduleDatabase::create() const
     QFile::remove(draft);
     StoreResult result = attempt([&draft] {
         const StoreConnection connection(draft, StoreConnection::Access::Create);
-        Schema::migrate(connection);
+        StoreSchema::migrate(connection);
         connection.run(QStringLiteral("PRAGMA journal_mode = WAL"));
     });
     if (result && !m_file.fillFrom(draft) && m_file.isVacant()) {
@@ -98,9 +99,10 @@ StoreResult ScheduleDatabase::probe() const
     const bool isShared = m_file.hasSidecars();
     const bool hadLogIndex = m_file.hasLogIndex();
     StoreResult result = attempt([this, isShared] {
-        Schema::check(StoreConnection(m_file.path(), isShared ? StoreConnection::Access::ReadOnly
+        StoreSchema::check(StoreConnection(m_file.path(), isShared
+                                                              ? StoreConnection::Access::ReadOnly
                                                               : StoreConnection::Access::Untouched),
-                      m_file.path());
+                           m_file.path());
     });
     if (!result && !isShared && m_file.hasSidecars()) {
         // Another program has opened the store meanwhile, and wrote while it was looked at.
@@ -125,7 +127,7 @@ StoreResult ScheduleDatabase::connect()
             const StoreTransaction trial(*connection, StoreTransaction::Purpose::Write);
         }
         connection->run(QStringLiteral("PRAGMA journal_mode = WAL"));
-        Schema::migrate(*connection);
+        StoreSchema::migrate(*connection);
         m_connection = std::move(connection);
     });
     m_identity = m_file.identity();
@@ -149,7 +151,7 @@ StoreResult ScheduleDatabase::reopen()
     if (!m_file.isThere()) {
         return refusal(StoreProblem::FileMissing, m_file.path());
     }
-    StoreResult result = judge(ScheduleHost::OpenMode::MustExist);
+    StoreResult result = judge(StoreOpenMode::MustExist);
     if (result && isOpen()) {
         result = leave();
     }
@@ -218,10 +220,10 @@ StoreResult ScheduleDatabase::read(StorePart part, StoreContents& contents) cons
         StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Read);
         contents.revision = revisionOf(*m_connection);
         if (part != StorePart::Catalogue) {
-            contents.tasks = TaskReader(*m_connection, m_file.path()).read();
+            contents.tasks = StoreTaskReader(*m_connection, m_file.path()).read();
         }
         if (part != StorePart::Schedule) {
-            Catalogue(*m_connection, m_file.path()).read(contents);
+            StoreCatalogue(*m_connection, m_file.path()).read(contents);
         }
         transaction.commit();
     });
@@ -236,7 +238,7 @@ StoreResult ScheduleDatabase::readPrograms(const std::vector<int>& indexes,
     return attempt([&] {
         StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Read);
         contents.revision = revisionOf(*m_connection);
-        Catalogue(*m_connection, m_file.path()).read(indexes, contents);
+        StoreCatalogue(*m_connection, m_file.path()).read(indexes, contents);
         transaction.commit();
     });
 }
@@ -256,7 +258,7 @@ StoreResult ScheduleDatabase::writeTasks(const TaskEdits& edits, qint64& revisio
         if (edits.isEmpty()) {
             return;
         }
-        TaskWriter(*m_connection).write(edits);
+        StoreTaskWriter(*m_connection).write(edits);
         m_connection->run(
             QStringLiteral("UPDATE store SET schedule_revision = schedule_revision + 1"));
         transaction.commit();
@@ -276,7 +278,7 @@ ImportResult ScheduleDatabase::addPrograms(const std::vector<MediaSource>& sourc
     }
     StoreResult outcome = attempt([&] {
         StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
-        Catalogue catalogue(*m_connection, m_file.path());
+        StoreCatalogue catalogue(*m_connection, m_file.path());
         for (const MediaSource& source : sources) {
             catalogue.put(source, result);
         }
@@ -297,7 +299,7 @@ StoreResult ScheduleDatabase::removeProgram(int progIndex)
     }
     return attempt([&] {
         StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
-        Catalogue catalogue(*m_connection, m_file.path());
+        StoreCatalogue catalogue(*m_connection, m_file.path());
         if (catalogue.remove(progIndex)) {
             catalogue.finish();
             transaction.commit();

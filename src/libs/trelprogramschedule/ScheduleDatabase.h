@@ -1,39 +1,20 @@
 #pragma once
 
-#include "ProgramCatalogue.h"
-#include "ScheduleHost.h"
+#include "StoreContents.h"
 #include "StoreFile.h"
+#include "StoreResult.h"
 #include "TaskSets.h"
 
 #include <QString>
 #include <QtGlobal>
 
-#include <map>
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace trel::mediadispatch {
 
 class StoreConnection;
 struct MediaSource;
-
-/// Which state of the store somebody has read. Every change of the schedule counts the first
-/// number up by one, every change of the catalogue the second.
-struct StoreRevision
-{
-    qint64 schedule = 0;
-    qint64 catalogue = 0;
-};
-
-/// What a store holds.
-struct StoreContents
-{
-    StoreRevision revision;
-    TaskMap tasks;
-    ProgramMap programs;
-    std::map<int, std::string> removedNames; ///< Of programs that were taken out, by index.
-};
 
 /// Which parts to read.
 enum class StorePart {
@@ -56,7 +37,7 @@ public:
 
     /// See ScheduleHost::open. A file that is refused stays as it is, to the byte, and nothing is
     /// left beside it. No file of the process may be open on the same path.
-    StoreResult open(const QString& path, ScheduleHost::OpenMode mode);
+    StoreResult open(const QString& path, StoreOpenMode mode);
     void close();
     bool isOpen() const { return m_connection != nullptr; }
     /// Where the file is, behind any links; empty when none is open.
@@ -87,13 +68,7 @@ public:
     StoreResult removeProgram(int progIndex);
 
 private:
-    // The statements of the database, by what they are about; each stands in files of its own.
-    class Schema;
-    class TaskReader;
-    class TaskWriter;
-    class Catalogue;
-
-    StoreResult judge(ScheduleHost::OpenMode mode) const;
+    StoreResult judge(StoreOpenMode mode) const;
     StoreResult create() const;
     StoreResult probe() const;
     StoreResult connect();

@@ -1,53 +1,18 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule/StoreResult.h"
 
 #include <QObject>
 #include <QString>
 
 #include <map>
-#include <memory>
 #include <vector>
 
 namespace trel::mediadispatch {
 
 class ScreenDispatch;
 struct MediaSource;
-
-/// Why the store refused something.
-enum class StoreProblem {
-    None,
-    NotOpen,       ///< No store is open.
-    FolderMissing, ///< The folder of the file does not exist.
-    FileMissing,   ///< There is no file, and none may be made.
-    NotADatabase,  ///< The file is no SQLite database.
-    Foreign,       ///< A database of another program.
-    NewerSchema,   ///< Written by a newer version of this program.
-    Locked,        ///< Another program holds the file.
-    ReadOnly,      ///< The file, or its folder, cannot be written.
-    Damaged,       ///< The database fails its check.
-    DiskFull,
-    MovedOn, ///< The stored set changed since it was read.
-    Full,    ///< No index is left to give out.
-    Other
-};
-
-/// How a call of the store ended.
-struct StoreResult
-{
-    StoreProblem problem = StoreProblem::None;
-    QString message; ///< A sentence for the operator, naming the file; empty when all went well.
-
-    explicit operator bool() const { return problem == StoreProblem::None; }
-};
-
-/// What an import did to the catalogue.
-struct ImportResult
-{
-    StoreResult store;
-    std::vector<int> added;   ///< Indexes of programs that are new.
-    std::vector<int> updated; ///< Indexes of programs that were known by their path.
-};
 
 /// The host's side of the schedule service: the same one service that scheduleManage shows to the
 /// editor, with what the editor has no business knowing. GUI thread only.
@@ -63,10 +28,7 @@ class Q_DECL_EXPORT ScheduleHost : public QObject
     Q_OBJECT
 
 public:
-    enum class OpenMode {
-        CreateIfMissing,
-        MustExist,
-    };
+    using OpenMode = StoreOpenMode;
 
     /// The one instance, beside scheduleManage::getInstance().
     static ScheduleHost& instance();
@@ -145,5 +107,3 @@ private:
 };
 
 } // namespace trel::mediadispatch
-
-Q_DECLARE_METATYPE(trel::mediadispatch::StoreResult)

@@ -45,7 +45,7 @@ ScheduleService& ScheduleService::instance()
     return service;
 }
 
-StoreResult ScheduleService::open(const QString& path, ScheduleHost::OpenMode mode)
+StoreResult ScheduleService::open(const QString& path, StoreOpenMode mode)
 {
     close();
     StoreResult result = m_database.open(path, mode);

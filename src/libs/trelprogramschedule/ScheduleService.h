@@ -40,7 +40,7 @@ public:
     ScheduleState& state() { return m_state; }
     const ScheduleState& state() const { return m_state; }
 
-    StoreResult open(const QString& path, ScheduleHost::OpenMode mode);
+    StoreResult open(const QString& path, StoreOpenMode mode);
     void close();
     const ScheduleDatabase& database() const { return m_database; }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ScheduleHost.h"
+#include "StoreResult.h"
 
 #include <QSqlDatabase>
 #include <QSqlQuery>

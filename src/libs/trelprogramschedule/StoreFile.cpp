@@ -70,8 +70,7 @@ bool StoreFile::isVacant() const
     return !info.exists() || (info.isFile() && info.size() == 0);
 }
 
-StoreResult StoreFile::judge(ScheduleHost::OpenMode mode, qint64 applicationId,
-                             int newestSchema) const
+StoreResult StoreFile::judge(StoreOpenMode mode, qint64 applicationId, int newestSchema) const
 {
     const QFileInfo info(m_path);
     if (!QFileInfo(info.absolutePath()).isDir()) {
@@ -85,7 +84,7 @@ StoreResult StoreFile::judge(ScheduleHost::OpenMode mode, qint64 applicationId,
     return content ? judgeWritable() : content;
 }
 
-StoreResult StoreFile::judgeVacant(ScheduleHost::OpenMode mode) const
+StoreResult StoreFile::judgeVacant(StoreOpenMode mode) const
 {
     if (QFileInfo(logPath()).size() > 0) {
         // The log would be replayed into whatever is put here next.
@@ -93,7 +92,7 @@ StoreResult StoreFile::judgeVacant(ScheduleHost::OpenMode mode) const
                        QStringLiteral("it has gone or is empty, yet its log %1 is still there")
                            .arg(QFileInfo(logPath()).fileName()));
     }
-    if (mode == ScheduleHost::OpenMode::CreateIfMissing) {
+    if (mode == StoreOpenMode::CreateIfMissing) {
         return {};
     }
     return refusal(

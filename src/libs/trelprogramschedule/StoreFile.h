@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ScheduleHost.h"
+#include "StoreResult.h"
 
 #include <QString>
 
@@ -29,7 +29,7 @@ public:
     bool isVacant() const;
     /// Whether a store can be made here, or what is here can be opened as one of this program's
     /// with a schema up to the given one.
-    StoreResult judge(ScheduleHost::OpenMode mode, qint64 applicationId, int newestSchema) const;
+    StoreResult judge(StoreOpenMode mode, qint64 applicationId, int newestSchema) const;
     /// ReadOnly when the file or its folder is marked so. Marks count also for a user whom the
     /// system would let write all the same.
     StoreResult judgeWritable() const;
@@ -54,7 +54,7 @@ public:
     Identity logIdentity() const;
 
 private:
-    StoreResult judgeVacant(ScheduleHost::OpenMode mode) const;
+    StoreResult judgeVacant(StoreOpenMode mode) const;
     StoreResult judgeHeader(qint64 applicationId, int newestSchema) const;
     QString logPath() const;
     QString logIndexPath() const;

@@ -2,7 +2,7 @@
 // files, or beside none. Tells line by line what it finds in the files that it is given.
 
 #include "ProgramImporter.h"
-#include "media/MediaPicture.h"
+#include "media/PictureRequest.h"
 
 #include <QCoreApplication>
 #include <QTextStream>

@@ -1,6 +1,6 @@
 #include "screen/FirstFrame.h"
 
-#include "trelprogramschedule/media/MediaPicture.h"
+#include "trelprogramschedule/media/PictureRequest.h"
 
 #include <QTransform>
 

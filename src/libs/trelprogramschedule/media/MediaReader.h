@@ -6,6 +6,8 @@
 #include <QString>
 #include <QtPlugin>
 
+#include <atomic>
+
 namespace trel::mediadispatch {
 
 /// What a file turned out to be.
@@ -32,7 +34,7 @@ public:
     /// tell from noise, such as a few frames of sound, is taken for what the name says.
     virtual MediaFacts facts(const QString& path, bool isNamedAsMedia) const = 0;
 
-    /// As the function of the same name in MediaPicture.h.
+    /// As the function of the same name in PictureRequest.h.
     virtual MediaPicture firstPicture(const QString& path, const QSize& bound,
                                       const std::atomic<bool>& isCancelled) const = 0;
 

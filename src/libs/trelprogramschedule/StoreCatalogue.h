@@ -1,18 +1,23 @@
 #pragma once
 
-#include "ScheduleDatabase.h"
+#include "StoreContents.h"
+#include "StoreResult.h"
 
 #include <QSqlQuery>
 
 #include <set>
+#include <vector>
 
 namespace trel::mediadispatch {
 
+class StoreConnection;
+struct MediaSource;
+
 /// The table of the programs, within a transaction. Members throw StoreError.
-class ScheduleDatabase::Catalogue
+class StoreCatalogue
 {
 public:
-    Catalogue(const StoreConnection& connection, const QString& path);
+    StoreCatalogue(const StoreConnection& connection, const QString& path);
 
     void read(StoreContents& contents) const;
     /// Reads some programs; an index that is not in the catalogue is passed over.

@@ -1,4 +1,4 @@
-#include "media/MediaPicture.h"
+#include "media/PictureRequest.h"
 
 #include "media/MediaModule.h"
 

@@ -1,4 +1,4 @@
-#include "ScheduleDatabaseCatalogue.h"
+#include "StoreCatalogue.h"
 
 #include "ProgramImporter.h"
 #include "StoreConnection.h"
@@ -47,7 +47,7 @@ void takeRow(const QSqlQuery& row, StoreContents& contents)
 
 } // namespace
 
-ScheduleDatabase::Catalogue::Catalogue(const StoreConnection& connection, const QString& path)
+StoreCatalogue::StoreCatalogue(const StoreConnection& connection, const QString& path)
     : m_connection(connection)
     , m_path(path)
     , m_nextIndex(connection.value(QStringLiteral("SELECT next_prog_index FROM store")).toInt())
@@ -60,7 +60,7 @@ ScheduleDatabase::Catalogue::Catalogue(const StoreConnection& connection, const 
                          " VALUES (?, ?, ?, ?, ?)")))
 {}
 
-void ScheduleDatabase::Catalogue::read(StoreContents& contents) const
+void StoreCatalogue::read(StoreContents& contents) const
 {
     QSqlQuery row = m_connection.query(
         QStringLiteral("SELECT prog_index, name, media_path, duration_ms, kind, removed"
@@ -70,8 +70,7 @@ void ScheduleDatabase::Catalogue::read(StoreContents& contents) const
     }
 }
 
-void ScheduleDatabase::Catalogue::read(const std::vector<int>& indexes,
-                                       StoreContents& contents) const
+void StoreCatalogue::read(const std::vector<int>& indexes, StoreContents& contents) const
 {
     QSqlQuery row = m_connection.prepare(
         QStringLiteral("SELECT prog_index, name, media_path, duration_ms, kind, removed"
@@ -85,7 +84,7 @@ void ScheduleDatabase::Catalogue::read(const std::vector<int>& indexes,
     }
 }
 
-void ScheduleDatabase::Catalogue::put(const MediaSource& source, ImportResult& result)
+void StoreCatalogue::put(const MediaSource& source, ImportResult& result)
 {
     const int kind = static_cast<int>(source.kind);
     const double duration = storedDuration(source.durationMs);
@@ -109,7 +108,7 @@ void ScheduleDatabase::Catalogue::put(const MediaSource& source, ImportResult& r
     result.added.push_back(index);
 }
 
-int ScheduleDatabase::Catalogue::giveOutIndex()
+int StoreCatalogue::giveOutIndex()
 {
     if (m_nextIndex >= kIndexLimit) {
         throw StoreError{refusal(StoreProblem::Full, m_path,
@@ -119,14 +118,14 @@ int ScheduleDatabase::Catalogue::giveOutIndex()
     return m_nextIndex++;
 }
 
-void ScheduleDatabase::Catalogue::finish() const
+void StoreCatalogue::finish() const
 {
     m_connection.run(QStringLiteral("UPDATE store SET catalogue_revision = catalogue_revision + 1,"
                                     " next_prog_index = %1")
                          .arg(m_nextIndex));
 }
 
-bool ScheduleDatabase::Catalogue::remove(int progIndex)
+bool StoreCatalogue::remove(int progIndex)
 {
     const QSqlQuery query = m_connection.query(
         QStringLiteral("UPDATE program SET removed = 1 WHERE prog_index = %1 AND removed = 0")

@@ -1,4 +1,4 @@
-#include "ScheduleDatabaseSchema.h"
+#include "StoreSchema.h"
 
 #include "StoreConnection.h"
 #include "StoreMessages.h"
@@ -7,7 +7,7 @@
 
 namespace trel::mediadispatch {
 
-const std::vector<ScheduleDatabase::Schema::Step>& ScheduleDatabase::Schema::steps()
+const std::vector<StoreSchema::Step>& StoreSchema::steps()
 {
     // A step that operators have is never changed: a new version adds a step at the end.
     static const std::vector<Step> steps = {
@@ -73,17 +73,17 @@ const std::vector<ScheduleDatabase::Schema::Step>& ScheduleDatabase::Schema::ste
     return steps;
 }
 
-int ScheduleDatabase::Schema::versionOf(const StoreConnection& connection)
+int StoreSchema::versionOf(const StoreConnection& connection)
 {
     return connection.value(QStringLiteral("PRAGMA user_version")).toInt();
 }
 
-int ScheduleDatabase::Schema::newestVersion()
+int StoreSchema::newestVersion()
 {
     return steps().back().version;
 }
 
-void ScheduleDatabase::Schema::migrate(const StoreConnection& connection)
+void StoreSchema::migrate(const StoreConnection& connection)
 {
     for (const Step& step : steps()) {
         if (versionOf(connection) >= step.version) {
@@ -102,7 +102,7 @@ void ScheduleDatabase::Schema::migrate(const StoreConnection& connection)
     }
 }
 
-void ScheduleDatabase::Schema::check(const StoreConnection& connection, const QString& path)
+void StoreSchema::check(const StoreConnection& connection, const QString& path)
 {
     if (connection.value(QStringLiteral("PRAGMA application_id")).toLongLong() != kApplicationId) {
         throw StoreError{refusal(StoreProblem::Foreign, path)};

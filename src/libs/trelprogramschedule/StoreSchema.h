@@ -1,15 +1,16 @@
 #pragma once
 
-#include "ScheduleDatabase.h"
-
+#include <QString>
 #include <QStringList>
 
 #include <vector>
 
 namespace trel::mediadispatch {
 
+class StoreConnection;
+
 /// The tables of the store and how they came to be what they are.
-class ScheduleDatabase::Schema
+class StoreSchema
 {
 public:
     /// Says in the head of the file whose it is: the letters "TrlS".

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+
+#include <vector>
+
+namespace trel::mediadispatch {
+
+/// What becomes of a path at which there is no store yet.
+enum class StoreOpenMode {
+    CreateIfMissing,
+    MustExist,
+};
+
+/// Why the store refused something.
+enum class StoreProblem {
+    None,
+    NotOpen,       ///< No store is open.
+    FolderMissing, ///< The folder of the file does not exist.
+    FileMissing,   ///< There is no file, and none may be made.
+    NotADatabase,  ///< The file is no SQLite database.
+    Foreign,       ///< A database of another program.
+    NewerSchema,   ///< Written by a newer version of this program.
+    Locked,        ///< Another program holds the file.
+    ReadOnly,      ///< The file, or its folder, cannot be written.
+    Damaged,       ///< The database fails its check.
+    DiskFull,
+    MovedOn, ///< The stored set changed since it was read.
+    Full,    ///< No index is left to give out.
+    Other
+};
+
+/// How a call of the store ended.
+struct StoreResult
+{
+    StoreProblem problem = StoreProblem::None;
+    QString message; ///< A sentence for the operator, naming the file; empty when all went well.
+
+    explicit operator bool() const { return problem == StoreProblem::None; }
+};
+
+/// What an import did to the catalogue.
+struct ImportResult
+{
+    StoreResult store;
+    std::vector<int> added;   ///< Indexes of programs that are new.
+    std::vector<int> updated; ///< Indexes of programs that were known by their path.
+};
+
+} // namespace trel::mediadispatch
+
+Q_DECLARE_METATYPE(trel::mediadispatch::StoreResult)

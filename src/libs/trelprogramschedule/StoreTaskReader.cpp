@@ -1,0 +1,131 @@
+#include "StoreTaskReader.h"
+
+#include "StoreConnection.h"
+#include "StoreMessages.h"
+#include "StoreValues.h"
+
+#include <utility>
+
+namespace trel::mediadispatch {
+
+StoreTaskReader::StoreTaskReader(const StoreConnection& connection, const QString& path)
+    : m_connection(connection)
+    , m_path(path)
+    , m_current(m_tasks.end())
+{}
+
+TaskMap StoreTaskReader::read()
+{
+    readTasks();
+    readPlans();
+    readValues();
+    readEntries();
+    return std::move(m_tasks);
+}
+
+void StoreTaskReader::readTasks()
+{
+    QSqlQuery row = m_connection.query(
+        QStringLiteral("SELECT id, CAST(start_date AS BLOB), CAST(end_date AS BLOB)"
+                       " FROM task ORDER BY id"));
+    while (m_connection.next(row)) {
+        PlayTask read;
+        read.id = row.value(0).toInt();
+        read.startDate = utf8(row, 1);
+        read.endDate = utf8(row, 2);
+        m_tasks.emplace_hint(m_tasks.end(), read.id, std::move(read));
+    }
+}
+
+void StoreTaskReader::readPlans()
+{
+    QSqlQuery row = m_connection.query(
+        QStringLiteral("SELECT task_id, position, id, mode, CAST(start_time AS BLOB), "
+                       "CAST(end_time AS BLOB), times,"
+                       " service_count,"
+                       " end_action, is_conflict, CAST(weeks AS BLOB), CAST(service_time AS BLOB), "
+                       "has_no_duration,"
+                       " service_flag_a, service_flag_b FROM plan ORDER BY task_id, position"));
+    while (m_connection.next(row)) {
+        std::vector<PlayPlan>& plans = task(row.value(0)).plans;
+        expectPlace(row.value(1), plans.size());
+        PlayPlan& read = plans.emplace_back();
+        read.id = row.value(2).toInt();
+        read.mode = row.value(3).toInt();
+        read.startTime = utf8(row, 4);
+        read.endTime = utf8(row, 5);
+        read.times = row.value(6).toInt();
+        read.serviceCount = row.value(7).toInt();
+        read.endAction = row.value(8).toInt();
+        read.isConflict = row.value(9).toBool();
+        read.weeks = utf8(row, 10);
+        read.serviceTime = utf8(row, 11);
+        read.hasNoDuration = row.value(12).toBool();
+        read.serviceFlagA = row.value(13).toBool();
+        read.serviceFlagB = row.value(14).toBool();
+    }
+}
+
+void StoreTaskReader::readValues()
+{
+    QSqlQuery row = m_connection.query(
+        QStringLiteral("SELECT task_id, plan_position, position, value FROM plan_value"
+                       " ORDER BY task_id, plan_position, position"));
+    while (m_connection.next(row)) {
+        std::vector<std::int64_t>& values = plan(row).serviceList;
+        expectPlace(row.value(2), values.size());
+        values.push_back(row.value(3).toLongLong());
+    }
+}
+
+void StoreTaskReader::readEntries()
+{
+    QSqlQuery row = m_connection.query(QStringLiteral(
+        "SELECT task_id, plan_position, position, prog_index, is_invalid, CAST(name AS BLOB),"
+        " play_count FROM entry ORDER BY task_id, plan_position, position"));
+    while (m_connection.next(row)) {
+        std::vector<struProgInfo>& entries = plan(row).programs;
+        expectPlace(row.value(2), entries.size());
+        struProgInfo& read = entries.emplace_back();
+        read.progIndex = row.value(3).toInt();
+        read.isInvalid = row.value(4).toBool();
+        read.progName = utf8(row, 5);
+        read.playCount = row.value(6).toInt();
+    }
+}
+
+PlayTask& StoreTaskReader::task(const QVariant& id)
+{
+    if (m_current == m_tasks.end() || m_current->first != id.toInt()) {
+        m_current = m_tasks.find(id.toInt());
+    }
+    if (m_current == m_tasks.end()) {
+        refuse();
+    }
+    return m_current->second;
+}
+
+PlayPlan& StoreTaskReader::plan(const QSqlQuery& row)
+{
+    std::vector<PlayPlan>& plans = task(row.value(0)).plans;
+    const qulonglong position = row.value(1).toULongLong();
+    if (position >= plans.size()) {
+        refuse();
+    }
+    return plans[position];
+}
+
+void StoreTaskReader::expectPlace(const QVariant& position, std::size_t expected) const
+{
+    if (position.toULongLong() != expected) {
+        refuse();
+    }
+}
+
+void StoreTaskReader::refuse() const
+{
+    throw StoreError{
+        refusal(StoreProblem::Damaged, m_path, QStringLiteral("its plans do not fit together"))};
+}
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "TaskSets.h"
+
+#include <QSqlQuery>
+#include <QVariant>
+
+#include <cstddef>
+
+namespace trel::mediadispatch {
+
+class StoreConnection;
+
+/// Puts the tasks together from their tables. Each is read in the order of its key, so that the
+/// record that a row belongs to is the one in hand or the next. Members throw StoreError.
+class StoreTaskReader
+{
+public:
+    StoreTaskReader(const StoreConnection& connection, const QString& path);
+
+    TaskMap read();
+
+private:
+    void readTasks();
+    void readPlans();
+    void readValues();
+    void readEntries();
+
+    PlayTask& task(const QVariant& id);
+    /// The plan that a row belongs to by its first two columns.
+    PlayPlan& plan(const QSqlQuery& row);
+    /// Lists come without gaps: a row that is not the next of its list is damage.
+    void expectPlace(const QVariant& position, std::size_t expected) const;
+    [[noreturn]] void refuse() const;
+
+    const StoreConnection& m_connection;
+    const QString& m_path;
+    TaskMap m_tasks;
+    TaskMap::iterator m_current;
+};
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,103 @@
+#include "StoreTaskWriter.h"
+
+#include "StoreConnection.h"
+#include "StoreValues.h"
+
+namespace trel::mediadispatch {
+
+StoreTaskWriter::StoreTaskWriter(const StoreConnection& connection)
+    : m_connection(connection)
+    , m_removeEntries(connection.prepare(QStringLiteral("DELETE FROM entry WHERE task_id = ?")))
+    , m_removeValues(connection.prepare(QStringLiteral("DELETE FROM plan_value WHERE task_id = ?")))
+    , m_removePlans(connection.prepare(QStringLiteral("DELETE FROM plan WHERE task_id = ?")))
+    , m_removeTask(connection.prepare(QStringLiteral("DELETE FROM task WHERE id = ?")))
+    , m_task(connection.prepare(QStringLiteral("INSERT INTO task (id, start_date, end_date)"
+                                               " VALUES (?, CAST(? AS TEXT), CAST(? AS TEXT))")))
+    , m_plan(connection.prepare(QStringLiteral(
+          "INSERT INTO plan (task_id, position, id, mode, start_time, end_time, times,"
+          " service_count, end_action, is_conflict, weeks, service_time, has_no_duration,"
+          " service_flag_a, service_flag_b)"
+          " VALUES (?, ?, ?, ?, CAST(? AS TEXT), CAST(? AS TEXT), ?, ?, ?, ?, CAST(? AS TEXT),"
+          " CAST(? AS TEXT), ?, ?, ?)")))
+    , m_value(connection.prepare(
+          QStringLiteral("INSERT INTO plan_value (task_id, plan_position, position, value)"
+                         " VALUES (?, ?, ?, ?)")))
+    , m_entry(connection.prepare(QStringLiteral(
+          "INSERT INTO entry (task_id, plan_position, position, prog_index, is_invalid, name,"
+          " play_count) VALUES (?, ?, ?, ?, ?, CAST(? AS TEXT), ?)")))
+{}
+
+void StoreTaskWriter::write(const TaskEdits& edits)
+{
+    if (edits.removesAll) {
+        removeAll();
+    } else {
+        for (const int taskId : edits.removed) {
+            remove(taskId);
+        }
+    }
+    for (const PlayTask* task : edits.written) {
+        insert(*task);
+    }
+}
+
+void StoreTaskWriter::removeAll() const
+{
+    // From the leaves on, which is far quicker than to let each task take its own along.
+    for (const char* table : {"entry", "plan_value", "plan", "task"}) {
+        m_connection.run(QLatin1String("DELETE FROM ") + QLatin1String(table));
+    }
+}
+
+void StoreTaskWriter::remove(int taskId)
+{
+    for (QSqlQuery* query : {&m_removeEntries, &m_removeValues, &m_removePlans, &m_removeTask}) {
+        bindFrom(0, *query, taskId);
+        m_connection.exec(*query);
+    }
+}
+
+void StoreTaskWriter::insert(const PlayTask& task)
+{
+    bindFrom(0, m_task, task.id, bytes(task.startDate), bytes(task.endDate));
+    m_connection.exec(m_task);
+    int position = 0;
+    for (const PlayPlan& plan : task.plans) {
+        insertPlan(task.id, position, plan);
+        insertValues(task.id, position, plan);
+        insertEntries(task.id, position, plan);
+        ++position;
+    }
+}
+
+void StoreTaskWriter::insertPlan(int taskId, int position, const PlayPlan& plan)
+{
+    bindFrom(0, m_plan, taskId, position, plan.id, plan.mode, bytes(plan.startTime),
+             bytes(plan.endTime), plan.times, plan.serviceCount, plan.endAction, plan.isConflict,
+             bytes(plan.weeks), bytes(plan.serviceTime), plan.hasNoDuration, plan.serviceFlagA,
+             plan.serviceFlagB);
+    m_connection.exec(m_plan);
+}
+
+void StoreTaskWriter::insertValues(int taskId, int position, const PlayPlan& plan)
+{
+    bindFrom(0, m_value, taskId, position);
+    int place = 0;
+    for (const std::int64_t value : plan.serviceList) {
+        bindFrom(2, m_value, place++, static_cast<qlonglong>(value));
+        m_connection.exec(m_value);
+    }
+}
+
+void StoreTaskWriter::insertEntries(int taskId, int position, const PlayPlan& plan)
+{
+    bindFrom(0, m_entry, taskId, position);
+    int place = 0;
+    for (const struProgInfo& entry : plan.programs) {
+        bindFrom(2, m_entry, place++, entry.progIndex, entry.isInvalid, bytes(entry.progName),
+                 entry.playCount);
+        m_connection.exec(m_entry);
+    }
+}
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "TaskSets.h"
+
+#include <QSqlQuery>
+
+namespace trel::mediadispatch {
+
+class StoreConnection;
+
+/// Writes tasks row by row, with each statement prepared once. Members throw StoreError.
+class StoreTaskWriter
+{
+public:
+    explicit StoreTaskWriter(const StoreConnection& connection);
+
+    void write(const TaskEdits& edits);
+
+private:
+    void removeAll() const;
+    void remove(int taskId);
+    void insert(const PlayTask& task);
+    void insertPlan(int taskId, int position, const PlayPlan& plan);
+    void insertValues(int taskId, int position, const PlayPlan& plan);
+    void insertEntries(int taskId, int position, const PlayPlan& plan);
+
+    const StoreConnection& m_connection;
+    QSqlQuery m_removeEntries;
+    QSqlQuery m_removeValues;
+    QSqlQuery m_removePlans;
+    QSqlQuery m_removeTask;
+    QSqlQuery m_task;
+    QSqlQuery m_plan;
+    QSqlQuery m_value;
+    QSqlQuery m_entry;
+};
+
+} // namespace trel::mediadispatch
