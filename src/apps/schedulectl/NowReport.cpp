@@ -38,7 +38,7 @@ QString positionText(const ScreenState& state, const ScreenWords& words)
 }
 
 /// "2 of 5", or the number alone where there is no knowing of how many.
-QString countText(int number, qint64 total)
+QString countText(qint64 number, qint64 total)
 {
     return total > number ? QStringLiteral("%1 of %2").arg(number + 1).arg(total)
                           : QString::number(number + 1);

@@ -173,7 +173,7 @@ QString ScreenWords::leftText(const ScreenState& state) const
                : QStringLiteral("a black screen");
 }
 
-QJsonValue jsonCount(int number)
+QJsonValue jsonCount(qint64 number)
 {
     return number < 0 ? QJsonValue(QJsonValue::Null) : QJsonValue(number + 1);
 }

@@ -55,4 +55,4 @@ private:
 };
 
 /// A number that counts from 0, as people count; null for none.
-QJsonValue jsonCount(int number);
+QJsonValue jsonCount(qint64 number);

@@ -16,12 +16,12 @@ constexpr int kMomentWidth = 19;
 constexpr int kExactMomentWidth = 23; ///< With milliseconds.
 constexpr int kNumberWidth = 5;
 
-QString numberText(int number)
+QString numberText(qint64 number)
 {
     return number < 0 ? QStringLiteral("\u2013") : QString::number(number);
 }
 
-QString countText(int number)
+QString countText(qint64 number)
 {
     return numberText(number < 0 ? number : number + 1);
 }

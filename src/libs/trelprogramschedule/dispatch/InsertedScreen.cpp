@@ -39,4 +39,11 @@ ScreenShown InsertedScreen::at(Instant moment) const
     return shown;
 }
 
+Instant InsertedScreen::nextPlay(Instant moment, const SoughtPlay& sought) const
+{
+    const auto shown =
+        m_list.firstShown(sought, microseconds(moment - m_begins), microseconds(m_ends - m_begins));
+    return shown ? m_begins + millisecondsUp(*shown) : kNever;
+}
+
 } // namespace trel::mediadispatch

@@ -23,6 +23,9 @@ public:
 
     /// Only for a moment at which it has the screen.
     ScreenShown at(Instant moment) const;
+    /// The next instant at which it plays what is sought, the moment itself included; kNever when
+    /// it does not while it has the screen.
+    Instant nextPlay(Instant moment, const SoughtPlay& sought) const;
 
 private:
     ScreenState m_owner;

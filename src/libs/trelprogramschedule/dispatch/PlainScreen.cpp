@@ -1,5 +1,7 @@
 #include "PlainScreen.h"
 
+#include "trelprogramschedule/dispatch/PlaySearch.h"
+
 #include <algorithm>
 
 namespace trel::mediadispatch {
@@ -54,7 +56,7 @@ std::optional<PlainScreen::Held> PlainScreen::partAfter(const Held& part) const
     return after && after->span.plan == part.span.plan ? after : std::nullopt;
 }
 
-// Both searches go from one piece of the clock to the next, and pass over those in which no plan
+// These searches go from one piece of the clock to the next, and pass over those in which no plan
 // can have the screen because the nearest one is more than an offset away.
 
 std::optional<PlainScreen::Held> PlainScreen::lastHeld(Instant moment) const
@@ -94,6 +96,28 @@ Instant PlainScreen::nextHeld(Instant moment) const
             return kNever;
         }
         from = std::max(piece.end, span->begin - kLargestOffset);
+    }
+}
+
+Instant PlainScreen::nextPlay(Instant moment, const SoughtPlay& sought) const
+{
+    PlaySearch search(m_calendar, sought);
+    for (Instant from = moment;;) {
+        const WallPiece& piece = m_wall.pieceAt(from);
+        if (const auto shown = search.firstFrom(piece.local(from))) {
+            if (piece.instant(*shown) < piece.end) {
+                return piece.instant(*shown);
+            }
+        }
+        if (piece.end == kNever) {
+            return kNever;
+        }
+        // A later piece may show earlier times.
+        const auto shown = search.firstFrom(piece.end - kLargestOffset);
+        if (!shown) {
+            return kNever;
+        }
+        from = std::max(piece.end, *shown - kLargestOffset);
     }
 }
 

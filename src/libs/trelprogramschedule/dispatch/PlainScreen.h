@@ -24,6 +24,10 @@ public:
     Instant nextHeld(Instant moment) const;
     /// When a plan next takes the screen: one that has it at the moment keeps it first.
     Instant nextTaken(Instant moment) const;
+    /// The next instant at which a plan plays what is sought, the moment itself included; kNever
+    /// when none does any more. Where it lies does not count for the cost: beside the spans that
+    /// PlaySearch looks at, it grows with the changes of the clock that leave out what it finds.
+    Instant nextPlay(Instant moment, const SoughtPlay& sought) const;
 
 private:
     /// A span in which a plan has the screen, as far as it lies within one piece of the clock.

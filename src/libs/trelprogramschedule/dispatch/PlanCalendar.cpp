@@ -135,7 +135,8 @@ HeldSpan PlanCalendar::heldSpan(const TaskDay& day, const DaySpan& span) const
             timeOn(day.day, plan.claim.begin),
             ofDay.id,
             span.row,
-            &plan};
+            &plan,
+            day.lastOfRange};
 }
 
 } // namespace trel::mediadispatch

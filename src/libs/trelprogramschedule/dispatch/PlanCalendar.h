@@ -20,6 +20,8 @@ struct HeldSpan
     int taskId = 0;
     int row = 0;
     const ScreenPlan* plan = nullptr; ///< The same one on every day.
+    /// The last of the days in a row on which its task is in effect.
+    DayNumber lastDay = 0;
 };
 
 /// Which plan has the screen at a time of the local clock. Who has it on a day of the week is

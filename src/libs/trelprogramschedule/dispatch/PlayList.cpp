@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace trel::mediadispatch {
 
@@ -9,6 +10,7 @@ namespace {
 
 // Ten thousand years. Longer times count as this, so that sums of two stay in range.
 constexpr Microseconds kLongest = 315'576'000'000'000'000;
+constexpr Microseconds kPerMillisecond = 1000;
 
 Microseconds multiplied(Microseconds length, qint64 count)
 {
@@ -28,9 +30,10 @@ Microseconds lengthOf(const ProgramIten& program)
     return length < static_cast<double>(kLongest) ? std::llround(length) : kLongest;
 }
 
-int asNumber(qint64 count)
+Microseconds wholeMillisecondFrom(Microseconds time)
 {
-    return static_cast<int>(std::min<qint64>(count, std::numeric_limits<int>::max()));
+    const Microseconds rest = time % kPerMillisecond;
+    return rest == 0 ? time : time + kPerMillisecond - rest;
 }
 
 } // namespace
@@ -56,10 +59,9 @@ void PlayList::append(int entry, const struProgInfo& info, const ProgramIten& pr
     if (length == 0 || info.playCount <= 0) {
         return;
     }
-    m_items.push_back({entry, info.progIndex, m_runLength, length, info.playCount});
-    m_runLength = length == kEndless
-                      ? kEndless
-                      : std::min(kLongest, m_runLength + multiplied(length, info.playCount));
+    const Microseconds ofAll = length == kEndless ? kEndless : multiplied(length, info.playCount);
+    m_items.push_back({entry, info.progIndex, m_runLength, length, info.playCount, ofAll});
+    m_runLength = length == kEndless ? kEndless : std::min(kLongest, m_runLength + ofAll);
 }
 
 Microseconds PlayList::length() const
@@ -92,12 +94,58 @@ ListMoment PlayList::at(Microseconds elapsed) const
     moment.kind = ListMoment::Kind::Playing;
     moment.entry = item.entry;
     moment.progIndex = item.progIndex;
-    moment.play = asNumber(play);
-    moment.run = asNumber(run);
+    moment.play = static_cast<int>(play);
+    moment.run = run;
     moment.length = item.length;
     moment.begin = run * m_runLength + item.begin + play * item.length;
     moment.end = item.length == kEndless ? kEndless : moment.begin + item.length;
     return moment;
+}
+
+// Run r begins at r times the length of a run. Only its remainder by a millisecond decides which of
+// its plays meet a whole millisecond, and the remainders repeat after 1000 / gcd(length, 1000)
+// runs. So that many runs behind the first one, which may be asked about in part only, show all
+// that the list will ever show.
+std::optional<Microseconds> PlayList::firstShown(const SoughtPlay& sought, Microseconds from,
+                                                 Microseconds to) const
+{
+    const bool isThere = std::any_of(m_items.begin(), m_items.end(), [&sought](const Item& item) {
+        return sought.isOf(item.progIndex);
+    });
+    if (!isThere) {
+        return std::nullopt;
+    }
+    const qint64 first = from / m_runLength;
+    const qint64 pattern = kPerMillisecond / std::gcd(m_runLength, kPerMillisecond);
+    Microseconds runBegin = first * m_runLength;
+    for (qint64 run = first; run < m_runs && run <= first + pattern; ++run) {
+        if (const auto shown = firstShownInRun(sought, runBegin, from, to)) {
+            return shown;
+        }
+        if (to - runBegin <= m_runLength) {
+            break;
+        }
+        runBegin += m_runLength;
+    }
+    return std::nullopt;
+}
+
+std::optional<Microseconds> PlayList::firstShownInRun(const SoughtPlay& sought,
+                                                      Microseconds runBegin, Microseconds from,
+                                                      Microseconds to) const
+{
+    for (const Item& item : m_items) {
+        if (item.begin >= to - runBegin) {
+            break;
+        }
+        const Microseconds begin = runBegin + item.begin;
+        const Microseconds end = item.lengthOfAll >= to - begin ? to : begin + item.lengthOfAll;
+        const Microseconds shown = wholeMillisecondFrom(std::max(from, begin));
+        if (sought.isOf(item.progIndex) && shown < end) {
+            return shown;
+        }
+    }
+    return std::nullopt;
 }
 
 ListMoment PlayList::ranOut() const
@@ -108,7 +156,7 @@ ListMoment PlayList::ranOut() const
     moment.entry = last.entry;
     moment.progIndex = last.progIndex;
     moment.play = last.playCount - 1;
-    moment.run = asNumber(m_runs - 1);
+    moment.run = m_runs - 1;
     moment.length = last.length;
     moment.begin = length();
     return moment;

@@ -6,6 +6,7 @@
 
 #include <limits>
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -28,7 +29,7 @@ struct ListMoment
     int entry = -1;
     int progIndex = -1;
     int play = -1;
-    int run = -1;
+    qint64 run = -1;
     Microseconds begin = 0;      ///< Since the start of the list, when this began.
     Microseconds end = kEndless; ///< And when it is over.
     Microseconds length = 0;     ///< Of the program.
@@ -39,6 +40,15 @@ struct ListMoment
         const Microseconds played = elapsed - begin;
         return kind == Kind::RanOut || played > length ? length : played;
     }
+};
+
+/// The plays that somebody waits for: those of one program, or those of all others.
+struct SoughtPlay
+{
+    int progIndex = -1;
+    bool isOther = false;
+
+    bool isOf(int program) const { return (program == progIndex) != isOther; }
 };
 
 /// A plan's list as it runs: which play is on after a while.
@@ -61,6 +71,12 @@ public:
     Microseconds length() const;
     /// Costs the logarithm of the number of entries.
     ListMoment at(Microseconds elapsed) const;
+    /// The first whole millisecond from one time on and before another, since the start of the
+    /// list, at which a sought play is on. Plays that fall between two milliseconds are not seen.
+    /// Costs the number of entries once where a sought entry lasts for a millisecond, and a
+    /// thousand times at most where none does.
+    std::optional<Microseconds> firstShown(const SoughtPlay& sought, Microseconds from,
+                                           Microseconds to) const;
 
 private:
     struct Item
@@ -70,8 +86,12 @@ private:
         Microseconds begin = 0; ///< Within the run.
         Microseconds length = 0;
         int playCount = 0;
+        /// Of all its plays in a row.
+        Microseconds lengthOfAll = 0;
     };
 
+    std::optional<Microseconds> firstShownInRun(const SoughtPlay& sought, Microseconds runBegin,
+                                                Microseconds from, Microseconds to) const;
     void append(int entry, const struProgInfo& info, const ProgramIten& program);
     ListMoment ranOut() const;
 

@@ -148,15 +148,12 @@ private:
         }
         verdict.rule = VerdictRule::NotItsTurn;
         verdict.otherEntry = m_screen.entry;
-        m_timeline.visitPlays(m_screen.until, m_screen.spanUntil, m_insertions,
-                              [&](const ScreenState& state) {
-                                  if (!state.isPlaying() || state.progIndex != m_progIndex) {
-                                      return true;
-                                  }
-                                  verdict.entry = state.entry;
-                                  verdict.nextTurn = state.since;
-                                  return false;
-                              });
+        const auto turn = m_timeline.nextPlay(m_screen.until, m_screen.spanUntil, m_insertions,
+                                              {m_progIndex, false});
+        if (turn) {
+            verdict.entry = turn->entry;
+            verdict.nextTurn = turn->since;
+        }
     }
 
     const ScreenTimeline& m_timeline;

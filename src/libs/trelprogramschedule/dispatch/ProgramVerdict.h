@@ -76,7 +76,7 @@ struct Q_DECL_EXPORT ProgramVerdict
 
 /// Judges a program at a moment. The timeline has to be one of these tasks and this catalogue. An
 /// entry holds the program by its index, also when it has gone bad. Costs as much as a walk over
-/// all entries, and over one run of the list that is on screen.
+/// all entries.
 Q_DECL_EXPORT ProgramVerdict programVerdict(const ScreenTimeline& timeline,
                                             const std::map<int, PlayTask>& tasks,
                                             const std::map<int, ProgramIten>& catalogue,

@@ -50,7 +50,7 @@ struct ScreenState
     int entry = -1;     ///< Its row in the plan's list, from 0.
     int progIndex = -1; ///< Its program.
     int play = -1;      ///< Which of the entry's plays in a row, from 0.
-    int run = -1;       ///< Which run of the whole list, from 0.
+    qint64 run = -1;    ///< Which run of the whole list, from 0.
     /// How far into the program the given instant lies or, frozen, where it stopped; milliseconds.
     qint64 position = 0;
 

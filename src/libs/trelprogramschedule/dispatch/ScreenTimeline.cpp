@@ -79,6 +79,32 @@ public:
         return shown;
     }
 
+    /// kNever when it does not come before `to`.
+    Instant nextPlay(Instant from, Instant to, const Inserted& inserted,
+                     const SoughtPlay& sought) const
+    {
+        for (Instant moment = from; moment < to;) {
+            const auto has =
+                std::find_if(inserted.begin(), inserted.end(), [moment](const InsertedScreen& one) {
+                    return one.hasScreenAt(moment);
+                });
+            Instant limit = to;
+            for (const InsertedScreen& one : inserted) {
+                limit = one.begins() > moment ? std::min(limit, one.begins()) : limit;
+            }
+            if (has != inserted.end()) {
+                limit = std::min(limit, has->ends());
+            }
+            const Instant found = has == inserted.end() ? plain.nextPlay(moment, sought)
+                                                        : has->nextPlay(moment, sought);
+            if (found < limit) {
+                return found;
+            }
+            moment = limit;
+        }
+        return kNever;
+    }
+
     Instant endOf(const ScreenInsertion& insertion) const
     {
         return insertion.plan.serviceFlagB ? endOfOneRun(insertion) : endOfSpan(insertion);
@@ -145,6 +171,18 @@ void ScreenTimeline::visitSpans(Instant from, Instant to, const ScreenInsertions
         }
         moment = shown.state.until;
     }
+}
+
+std::optional<ScreenState> ScreenTimeline::nextPlay(Instant from, Instant to,
+                                                    const ScreenInsertions& insertions,
+                                                    const SoughtPlay& sought) const
+{
+    if (from >= to) {
+        return std::nullopt;
+    }
+    const Private::Inserted inserted = d->inserted(insertions);
+    const Instant found = d->nextPlay(withinReach(from), to, inserted, sought);
+    return found == kNever ? std::nullopt : std::make_optional(d->at(found, inserted).state);
 }
 
 ScreenInsertions ScreenTimeline::withInsertion(ScreenInsertions current, ScreenInsertion request,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule/dispatch/PlayList.h"
 #include "trelprogramschedule/dispatch/ScreenInsertion.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
 
@@ -9,6 +10,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -58,6 +60,14 @@ public:
     /// for each insertion, and one for each stretch between.
     void visitSpans(Instant from, Instant to, const ScreenInsertions& insertions,
                     const Visitor& visitor) const;
+
+    /// The first of the plays from `from` on that begin before `to`, or are on at `from`, and are
+    /// sought, as visitPlays tells it; nothing when there is none. Walks neither plays nor days: it
+    /// costs the spans of a week for each stretch of days with one task in effect, in most cases
+    /// once the length of each of their lists.
+    std::optional<ScreenState> nextPlay(Instant from, Instant to,
+                                        const ScreenInsertions& insertions,
+                                        const SoughtPlay& sought) const;
 
     /// The insertions as they stand once a plan in effect is cut in at a moment: at once or, when
     /// delayed, as soon as the play then on screen has ended. Of those before, the one that has the

@@ -88,7 +88,7 @@ std::optional<TaskDay> TaskDays::lastUpTo(DayNumber day) const
     while (!hasPlanOn(range, found)) {
         --found;
     }
-    return TaskDay{found, range.task};
+    return TaskDay{found, range.task, range.last};
 }
 
 std::optional<TaskDay> TaskDays::firstFrom(DayNumber day) const
@@ -103,7 +103,7 @@ std::optional<TaskDay> TaskDays::firstFrom(DayNumber day) const
     while (!hasPlanOn(*range, found)) {
         ++found;
     }
-    return TaskDay{found, range->task};
+    return TaskDay{found, range->task, range->last};
 }
 
 } // namespace trel::mediadispatch

@@ -40,6 +40,8 @@ struct TaskDay
 {
     DayNumber day = 0;
     int task = 0;
+    /// The last of the days in a row on which the task is in effect.
+    DayNumber lastOfRange = 0;
 };
 
 /// Which task is in effect on a day: of several that are valid the first of the list. Days without
