@@ -129,6 +129,7 @@ void PlanTaskWidget::loadPlans()
     std::vector<PlayPlan> plans = m_task.plans;
     for (PlayPlan& plan : plans) {
         if (plan.id == kNoPlanId) {
+            // Without an id left it is shown as it is.
             completeNewPlan(plan, m_task);
         }
         appendRow(plan);
@@ -195,8 +196,8 @@ void PlanTaskWidget::onPushButtonAddClicked()
 
 void PlanTaskWidget::slotAddRowPlan(PlayPlan plan, bool init)
 {
-    if (plan.id == kNoPlanId) {
-        completeNewPlan(plan, m_task);
+    if (plan.id == kNoPlanId && !completeNewPlan(plan, m_task) && !init) {
+        return;
     }
     if (!init && !choosePrograms(plan)) {
         return;
@@ -601,7 +602,11 @@ void PlanTaskWidget::slotCopyPlan()
     const auto found = m_rowByPlanId.find(id);
     const int row = found == m_rowByPlanId.end() ? -1 : found->second;
     const PlayPlan* const source = row == -1 ? nullptr : lastPlanWithId(m_task, id);
-    PlayPlan copy = followingCopy(source ? *source : PlayPlan(), m_task);
+    const auto following = followingCopy(source ? *source : PlayPlan(), m_task);
+    if (!following) {
+        return;
+    }
+    PlayPlan copy = *following;
     m_task.plans.push_back(copy);
     if (copy.mode == FrequencyMode) {
         // The end comes from the plan below the source, which is the copy itself only when the

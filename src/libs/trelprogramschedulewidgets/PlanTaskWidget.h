@@ -69,7 +69,8 @@ public slots:
 
     /// Adds a row for a plan at the end of the table. With init the plan already stands in the task
     /// and in the service. Without it the operator is asked for the plan's programs first, and a
-    /// choice that is not confirmed adds nothing. A plan with the id -1 is given its id and times.
+    /// choice that is not confirmed adds nothing. A plan with the id -1 is given its id and times;
+    /// where no id is left, nothing is asked and nothing added.
     void slotAddRowPlan(PlayPlan plan = PlayPlan(), bool init = false);
     /// Lets the operator choose the programs of a row's plan.
     void slotAddProgram(int row);
@@ -87,7 +88,8 @@ public slots:
     void slotCopyTask();
     /// Asks, then removes the plan whose button was pressed.
     void slotDeletePlan();
-    /// Adds a copy of the plan whose button was pressed at the end of the table.
+    /// Adds a copy of the plan whose button was pressed at the end of the table. Does nothing when
+    /// the task has no id left for it.
     void slotCopyPlan();
 
     /// Takes a new start or end time for a row's plan, or refuses it and puts the stored time back

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <limits>
 
 using namespace trel::mediadispatch;
 
@@ -91,6 +92,7 @@ private slots:
     void deleteOfAnUnknownId();
     void deleteOfAPlanThatIsGone();
     void deleteFreesTheEditors();
+    void noPlanBehindTheLargestId();
     void directCallsDoNothing();
     void cardMayGoDuringTheQuestion();
     void theOperatorCannotDragRows();
@@ -342,6 +344,23 @@ void tst_PlanTaskWidgetCopyDelete::deleteFreesTheEditors()
     confirmDelete(open, 1);
     QTRY_VERIFY(std::all_of(widgets.begin(), widgets.end(),
                             [](const QPointer<QWidget>& widget) { return widget.isNull(); }));
+}
+
+void tst_PlanTaskWidgetCopyDelete::noPlanBehindTheLargestId()
+{
+    const PlayTask task =
+        taskWithPlans({timePlan(std::numeric_limits<int>::max(), "08:00:00", "09:00:00"),
+                       timePlan(-1, "10:00:00", "11:00:00")});
+    const OpenCard open(task);
+    const PromptAnswer noPrompt;
+    click(open.rows.copyButton(0));
+    // No chooser appears.
+    click(named<QPushButton>(open.card, "pushButtonAdd"));
+    QCOMPARE(open.rows.task(), task);
+    QCOMPARE(open.rows.rowCount(), 2);
+    QCOMPARE(service().edits(), QStringList());
+    // A stored plan that has no id keeps its row.
+    QCOMPARE(open.rows.disagreement(), QString());
 }
 
 void tst_PlanTaskWidgetCopyDelete::directCallsDoNothing()

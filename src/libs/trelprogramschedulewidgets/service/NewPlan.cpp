@@ -1,5 +1,6 @@
 #include "service/NewPlan.h"
 
+#include "service/NextId.h"
 #include "service/PlanTiming.h"
 #include "service/TimeText.h"
 
@@ -36,29 +37,38 @@ PlayPlan planTemplate()
     return plan;
 }
 
-int nextPlanId(const PlayTask& task)
+std::optional<int> nextPlanId(const PlayTask& task)
 {
     int largest = 0;
     for (const PlayPlan& plan : task.plans) {
         largest = std::max(largest, plan.id);
     }
-    return largest + 1;
+    return idAfter(largest);
 }
 
-void completeNewPlan(PlayPlan& plan, const PlayTask& task)
+bool completeNewPlan(PlayPlan& plan, const PlayTask& task)
 {
-    plan.id = nextPlanId(task);
+    const std::optional<int> id = nextPlanId(task);
+    if (!id) {
+        return false;
+    }
+    plan.id = *id;
     const QTime start = timeFromText(latestEnd(task));
     plan.startTime = start.isValid() ? timeToText(start) : kDayStart;
     if (plan.mode == TimeMode) {
         plan.endTime = addDuration(plan.startTime, kNewPlanSeconds);
     }
+    return true;
 }
 
-PlayPlan followingCopy(const PlayPlan& source, const PlayTask& task)
+std::optional<PlayPlan> followingCopy(const PlayPlan& source, const PlayTask& task)
 {
+    const std::optional<int> id = nextPlanId(task);
+    if (!id) {
+        return std::nullopt;
+    }
     PlayPlan copy = source;
-    copy.id = nextPlanId(task);
+    copy.id = *id;
     copy.startTime = copy.endTime;
     copy.endTime = addDuration(copy.startTime, kNewPlanSeconds);
     return copy;

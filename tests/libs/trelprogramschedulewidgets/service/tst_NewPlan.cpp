@@ -4,6 +4,8 @@
 
 #include <QtTest>
 
+#include <limits>
+
 using namespace trel::mediadispatch;
 
 class tst_NewPlan : public QObject
@@ -18,6 +20,7 @@ private slots:
     void completes();
     void completingKeepsTheRest();
     void copyFollowsItsSource();
+    void behindTheLargestIdThereIsNone();
 };
 
 void tst_NewPlan::theTemplate()
@@ -41,6 +44,8 @@ void tst_NewPlan::nextId_data()
     QTest::newRow("a gap stays") << QVector<int>{1, 7, 3} << 8;
     QTest::newRow("negative") << QVector<int>{-5, -1} << 1;
     QTest::newRow("0") << QVector<int>{0} << 1;
+    QTest::newRow("the last one") << QVector<int>{std::numeric_limits<int>::max() - 1}
+                                  << std::numeric_limits<int>::max();
 }
 
 void tst_NewPlan::nextId()
@@ -50,7 +55,7 @@ void tst_NewPlan::nextId()
     for (const int id : ids) {
         task.plans.push_back(timePlan(id, "08:00:00", "09:00:00"));
     }
-    QTEST(nextPlanId(task), "next");
+    QTEST(nextPlanId(task).value_or(-1), "next");
 }
 
 void tst_NewPlan::completes_data()
@@ -78,7 +83,8 @@ void tst_NewPlan::completes()
     QFETCH(QString, otherEnd);
     PlayPlan plan = timePlan(-1, "02:00:00", "03:00:00");
     plan.mode = mode;
-    completeNewPlan(plan, taskWithPlans({timePlan(4, "07:00:00", otherEnd.toStdString())}));
+    QVERIFY(
+        completeNewPlan(plan, taskWithPlans({timePlan(4, "07:00:00", otherEnd.toStdString())})));
     QTEST(QString::fromStdString(plan.startTime + '-' + plan.endTime), "span");
     QCOMPARE(plan.id, 5);
 }
@@ -89,7 +95,7 @@ void tst_NewPlan::completingKeepsTheRest()
     plan.serviceList = {1, 2};
     plan.programs = {entry(3)};
     PlayPlan expected = plan;
-    completeNewPlan(plan, taskWithPlans({}));
+    QVERIFY(completeNewPlan(plan, taskWithPlans({})));
     expected.id = 1;
     expected.startTime = "00:00:00";
     expected.endTime = "01:00:00";
@@ -105,7 +111,21 @@ void tst_NewPlan::copyFollowsItsSource()
     expected.id = 10;
     expected.startTime = "22:30:00";
     expected.endTime = "23:30:00";
-    QCOMPARE(followingCopy(source, taskWithPlans({timePlan(9, "", "")})), expected);
+    const auto copy = followingCopy(source, taskWithPlans({timePlan(9, "", "")}));
+    QVERIFY(copy.has_value());
+    QCOMPARE(*copy, expected);
+}
+
+void tst_NewPlan::behindTheLargestIdThereIsNone()
+{
+    const PlayTask task = taskWithPlans(
+        {timePlan(std::numeric_limits<int>::max(), "07:00:00", "08:00:00"), timePlan(3, "", "")});
+    QVERIFY(!nextPlanId(task));
+    PlayPlan plan = timePlan(-1, "02:00:00", "03:00:00");
+    const PlayPlan before = plan;
+    QVERIFY(!completeNewPlan(plan, task));
+    QCOMPARE(plan, before);
+    QVERIFY(!followingCopy(before, task));
 }
 
 QTEST_APPLESS_MAIN(tst_NewPlan)
