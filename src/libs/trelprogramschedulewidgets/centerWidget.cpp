@@ -31,27 +31,32 @@ QString taskName(int taskId)
 } // namespace
 
 /// The form, and the layout that it holds for a list that brings none. PlanList brings its own, so
-/// that this one has no widget and lies idle.
+/// that this one is a child of the list by name only and lies idle.
 class centerWidget::Form : public Ui::centerWidget
 {
 public:
-    Form()
+    void setUp(QWidget& panel)
     {
-        verticalLayout_2.setObjectName(QStringLiteral("verticalLayout_2"));
-        verticalLayout_2.setSpacing(kListSpacing);
-        verticalLayout_2.setContentsMargins(kListMargin, kListMargin, kListMargin, kListMargin);
-        verticalLayout_2.addItem(
+        setupUi(&panel);
+        verticalLayout_2 = new QVBoxLayout;
+        verticalLayout_2->setObjectName(QStringLiteral("verticalLayout_2"));
+        verticalLayout_2->setSpacing(kListSpacing);
+        verticalLayout_2->setContentsMargins(kListMargin, kListMargin, kListMargin, kListMargin);
+        verticalLayout_2->addItem(
             new QSpacerItem(20, 349, QSizePolicy::Minimum, QSizePolicy::Expanding));
+        // Last: a layout that is changed tells its parent, which it expects to be another layout,
+        // but only once as long as it is not carried out.
+        verticalLayout_2->setParent(widget);
     }
 
-    QVBoxLayout verticalLayout_2;
+    QVBoxLayout* verticalLayout_2 = nullptr;
 };
 
 centerWidget::centerWidget(QWidget* parent)
     : QWidget(parent)
     , m_ui(std::make_unique<Form>())
 {
-    m_ui->setupUi(this);
+    m_ui->setUp(*this);
     setAttribute(Qt::WA_StyledBackground);
     setProperty(kState, QStringLiteral("default"));
     setUpScrollArea();

@@ -136,7 +136,16 @@ void tst_centerWidgetForm::theListKeepsItsOwnLayout()
     const centerWidget panel;
     QCOMPARE(panel.planList()->layout()->spacing(), 2);
     QCOMPARE(panel.planList()->layout()->count(), 2);
-    QVERIFY(child<QLayout>(panel, "verticalLayout_2") == nullptr);
+    const auto* idle = child<QVBoxLayout>(panel, "verticalLayout_2");
+    QVERIFY(idle != nullptr);
+    QVERIFY(idle != panel.planList()->layout());
+    QCOMPARE(idle->parent(), panel.planList());
+    QCOMPARE(idle->spacing(), 6);
+    QCOMPARE(idle->contentsMargins(), QMargins(11, 11, 11, 11));
+    QCOMPARE(idle->count(), 1);
+    QCOMPARE(idle->itemAt(0)->spacerItem()->sizeHint(), QSize(20, 349));
+    QCOMPARE(idle->itemAt(0)->spacerItem()->sizePolicy(),
+             QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding));
 }
 
 void tst_centerWidgetForm::theHintFloatsOverTheList()
