@@ -4,18 +4,24 @@
 #include "WaitingRequests.h"
 #include "initProcess.h"
 #include "service/Clock.h"
+#include "service/NextId.h"
 #include "service/scheduleManage.h"
 
 #include <QCoreApplication>
-#include <QScopedValueRollback>
+#include <QPointer>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
 
 using trel::mediadispatch::Clock;
 using trel::mediadispatch::finishWaitingWork;
 using trel::mediadispatch::forgetPaintRequestsIn;
+using trel::mediadispatch::idAfter;
 using trel::mediadispatch::initProcess;
 using trel::mediadispatch::kDateFormat;
 using trel::mediadispatch::scheduleManage;
@@ -25,7 +31,6 @@ namespace {
 constexpr int kCardSpacing = 2;
 /// The layout starts with a stretch and ends with a spacer; the cards stand between them.
 constexpr int kFirstCard = 1;
-constexpr int kFrameItems = 2;
 constexpr QSize kSpacerSize(1100, 480);
 
 constexpr qint64 kLockAfterRefreshMSecs = 1000;
@@ -48,8 +53,9 @@ QDate dayAfter(const std::string& date)
 }
 
 /// Gives a task the next free id and one day: the one after the last day of all known tasks, or
-/// today when none of them has a readable one. The rest of the task stays as it is.
-void applyNewTaskDefaults(trel::mediadispatch::PlayTask& task)
+/// today when none of them has a readable one. The rest of the task stays as it is, and all of it
+/// when no id is left: false then.
+bool applyNewTaskDefaults(trel::mediadispatch::PlayTask& task)
 {
     int largestId = 0;
     std::string lastDate;
@@ -57,10 +63,15 @@ void applyNewTaskDefaults(trel::mediadispatch::PlayTask& task)
         largestId = std::max(largestId, known.id);
         lastDate = std::max(lastDate, known.endDate);
     }
+    const std::optional<int> id = idAfter(largestId);
+    if (!id) {
+        return false;
+    }
     const QDate next = dayAfter(lastDate);
-    task.id = largestId + 1;
+    task.id = *id;
     task.startDate = dateText(next.isValid() ? next : Clock::current().today());
     task.endDate = task.startDate;
+    return true;
 }
 
 } // namespace
@@ -79,7 +90,11 @@ PlanList::PlanList(QWidget* parent)
 
 PlanList::~PlanList()
 {
-    destroyCards();
+    // Until none is left: a card that is added meanwhile must not outlive the map that knows it.
+    while (!m_taskWidgets.isEmpty()) {
+        delete m_taskWidgets.take(m_taskWidgets.firstKey());
+    }
+    emit sigGetMapCount(m_taskWidgets.size());
 }
 
 bool PlanList::mayAdd() const
@@ -93,10 +108,11 @@ void PlanList::slotAddOutput()
     if (!mayAdd()) {
         return;
     }
-    foldAll();
     PlayTask task;
-    applyNewTaskDefaults(task);
-    addTask(task);
+    if (applyNewTaskDefaults(task)) {
+        foldAll();
+        addTask(task);
+    }
 }
 
 void PlanList::slotCopyTask(int taskId)
@@ -104,14 +120,16 @@ void PlanList::slotCopyTask(int taskId)
     if (!mayAdd()) {
         return;
     }
-    foldAll();
     PlayTask copy = service().getTask(taskId);
     const QDate next = dayAfter(copy.endDate);
-    applyNewTaskDefaults(copy);
+    if (!applyNewTaskDefaults(copy)) {
+        return;
+    }
     // The copy follows its source and may well run into another task; that is told at save time.
     // A source whose end cannot be read leaves the dates open.
     copy.endDate = dateText(next);
     copy.startDate = copy.endDate;
+    foldAll();
     addTask(copy);
 }
 
@@ -130,22 +148,62 @@ void PlanList::addTask(const PlayTask& task)
 
 void PlanList::addCard(const PlayTask& task, bool folded)
 {
-    auto* card = new PlanTaskWidget(task, this);
+    const QPointer<PlanTaskWidget> card = new PlanTaskWidget(task, this);
     card->setFolded(folded);
+    // A set that was written elsewhere may hold an id twice. The service tells tasks apart by their
+    // ids only, so that two cards would overwrite each other's edits.
+    destroyCard(task.id);
+    if (!card) {
+        return;
+    }
     m_layout->insertWidget(m_layout->count() - 1, card);
     m_taskWidgets[task.id] = card;
     emit sigGetMapCount(m_taskWidgets.size());
+    if (!card) {
+        return;
+    }
     connect(card, &PlanTaskWidget::signalDeleteTask, this, &PlanList::slotDeleteTask);
     connect(card, &PlanTaskWidget::signalCopyTask, this, &PlanList::slotCopyTask);
     connect(this, &PlanList::sigTranslation, card, &PlanTaskWidget::slotTranslation);
+    connect(card, &QObject::destroyed, this, [this, taskId = task.id](const QObject* destroyed) {
+        forgetDestroyedCard(taskId, destroyed);
+    });
+}
+
+void PlanList::takeOutOfLayout(PlanTaskWidget& card)
+{
+    // Mostly it is the first: cards stand in the order of their ids and go in that order.
+    QLayoutItem* const first = m_layout->itemAt(kFirstCard);
+    if (first->widget() == &card) {
+        const std::unique_ptr<QLayoutItem> item(m_layout->takeAt(kFirstCard));
+    } else {
+        m_layout->removeWidget(&card);
+    }
+}
+
+void PlanList::destroyCard(int taskId)
+{
+    if (PlanTaskWidget* const card = m_taskWidgets.take(taskId)) {
+        takeOutOfLayout(*card);
+        delete card;
+    }
+}
+
+// The list itself takes a card out of the map before it destroys it.
+void PlanList::forgetDestroyedCard(int taskId, const QObject* card)
+{
+    const auto known = m_taskWidgets.constFind(taskId);
+    if (known == m_taskWidgets.constEnd() || known.value() != card) {
+        return;
+    }
+    m_layout->removeWidget(known.value());
+    m_taskWidgets.remove(taskId);
+    emit sigGetMapCount(m_taskWidgets.size());
 }
 
 void PlanList::slotDeleteTask(int taskId)
 {
-    if (PlanTaskWidget* card = m_taskWidgets.take(taskId)) {
-        m_layout->removeWidget(card);
-        delete card;
-    }
+    destroyCard(taskId);
     emit sigGetMapCount(m_taskWidgets.size());
     service().deleteTask(taskId);
 }
@@ -158,8 +216,11 @@ void PlanList::slotShowProcess()
 
 void PlanList::slotCloseProcess()
 {
+    const QPointer<PlanList> self(this);
     emit sigCloseProcess();
-    m_lastRefreshMSecs = Clock::current().msecsSinceEpoch();
+    if (self) {
+        m_lastRefreshMSecs = Clock::current().msecsSinceEpoch();
+    }
 }
 
 void PlanList::refreshPlanList()
@@ -169,12 +230,24 @@ void PlanList::refreshPlanList()
     if (m_refreshing) {
         return;
     }
-    const QScopedValueRollback<bool> refreshing(m_refreshing, true);
+    const QPointer<PlanList> self(this);
+    m_refreshing = true;
     slotShowProcess();
-    slotclearPlanList();
-    QCoreApplication::processEvents();
-    rebuild();
-    slotCloseProcess();
+    if (self) {
+        slotclearPlanList();
+    }
+    if (self) {
+        QCoreApplication::processEvents();
+    }
+    if (self) {
+        rebuild();
+    }
+    if (self) {
+        slotCloseProcess();
+    }
+    if (self) {
+        m_refreshing = false;
+    }
 }
 
 void PlanList::rebuild()
@@ -188,9 +261,15 @@ void PlanList::rebuild()
     }
     const auto tasks = service().getgTaskMap();
     service().updateUItask();
-    for (const auto& [id, task] : tasks) {
+    const QPointer<PlanList> self(this);
+    for (const auto& [key, task] : tasks) {
         addCard(task, true);
-        finishWaitingWork(*m_taskWidgets[id]);
+        if (!self) {
+            return;
+        }
+        if (PlanTaskWidget* const card = m_taskWidgets.value(task.id)) {
+            finishWaitingWork(*card);
+        }
     }
     // Before the list is shown: on show, every widget would ask for its own painting once more.
     setUpdatesEnabled(true);
@@ -220,24 +299,21 @@ void PlanList::showEvent(QShowEvent* event)
 
 void PlanList::slotclearPlanList()
 {
-    takeCardsOutOfLayout();
-    destroyCards();
-}
-
-void PlanList::takeCardsOutOfLayout()
-{
-    // All at once and from the front: the layout looks through all its items both for a widget to
-    // remove and for a widget that is deleted.
-    while (m_layout->count() > kFrameItems) {
-        delete m_layout->takeAt(kFirstCard);
+    std::vector<std::pair<int, QPointer<PlanTaskWidget>>> cards;
+    cards.reserve(static_cast<std::size_t>(m_taskWidgets.size()));
+    for (auto card = m_taskWidgets.cbegin(); card != m_taskWidgets.cend(); ++card) {
+        cards.emplace_back(card.key(), card.value());
     }
-}
-
-void PlanList::destroyCards()
-{
-    for (PlanTaskWidget* card : qAsConst(m_taskWidgets)) {
-        delete card;
+    // The layout would look for each card among all that are left, where it is no more.
+    m_layout->setEnabled(false);
+    for (const auto& [taskId, card] : cards) {
+        // A listener may have destroyed it or put another one in its place.
+        if (card && m_taskWidgets.value(taskId) == card) {
+            destroyCard(taskId);
+        }
     }
-    m_taskWidgets.clear();
+    m_layout->setEnabled(true);
+    // What asked to be laid out meanwhile was not heard.
+    m_layout->activate();
     emit sigGetMapCount(m_taskWidgets.size());
 }

@@ -15,6 +15,11 @@ struct PlayTask;
 ///
 /// The one place where cards are made and destroyed and where new tasks enter the service. A new
 /// card stands last. The list is built without a parent and handed to its scroll area.
+///
+/// Where two tasks of the service have the same id, the card of the later one replaces that of the
+/// earlier one. A card that is destroyed by somebody else leaves the list, and the count is told.
+/// The list and what it stands in may be destroyed in answer to any of its signals. While a card is
+/// being destroyed, other cards may be added, destroyed and built again.
 class PlanList : public QWidget
 {
     Q_OBJECT
@@ -37,7 +42,8 @@ signals:
 
 public slots:
     /// Adds a task of one day, after the last day of all others, and its card, the only open one.
-    /// Does nothing in the first second after a rebuild, or when the list is full.
+    /// Does nothing, and folds nothing, in the first second after a rebuild, when the list is full,
+    /// or when there is no number behind the largest id.
     void slotAddOutput();
     /// Removes the card, then the task; the task also when there is no such card. Asks nothing.
     void slotDeleteTask(int taskId);
@@ -52,7 +58,8 @@ public slots:
     /// set, in ascending id order. Handles pending events before it reads that set, so that a call
     /// from one of those has nothing left to do.
     void refreshPlanList();
-    /// Destroys every card. The service is not touched.
+    /// Takes every card out of the layout and destroys it, one after the other in ascending id
+    /// order. The service is not touched. Cards that are added meanwhile stay.
     void slotclearPlanList();
 
 protected:
@@ -67,9 +74,11 @@ private:
     bool mayAdd() const;
     void foldAll();
     void addTask(const PlayTask& task);
+    /// The card, or the list with it, may be gone afterwards.
     void addCard(const PlayTask& task, bool folded);
-    void takeCardsOutOfLayout();
-    void destroyCards();
+    void takeOutOfLayout(PlanTaskWidget& card);
+    void destroyCard(int taskId);
+    void forgetDestroyedCard(int taskId, const QObject* card);
 
     QMap<int, PlanTaskWidget*> m_taskWidgets;
     QVBoxLayout* m_layout;

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QtTest>
 
+#include <limits>
+
 using namespace trel::mediadispatch;
 
 /// Adding and deleting of single tasks, and what a list that is full refuses.
@@ -33,6 +35,8 @@ private slots:
     void addsDoNotLockEachOther();
     void aFullListTakesNoMore_data();
     void aFullListTakesNoMore();
+    void noTaskBehindTheLargestId_data();
+    void noTaskBehindTheLargestId();
     void cardsReachTheList();
     void theDeleteButtonOfACardTakesTheCardAway();
     void deleteTakesTheCardThenTheTask();
@@ -225,6 +229,27 @@ void tst_PlanList::aFullListTakesNoMore()
     QCOMPARE(layout->count(), 10001);
     QCOMPARE(service().log, QStringList());
     QCOMPARE(foldLine(list), QStringLiteral("folded open"));
+}
+
+void tst_PlanList::noTaskBehindTheLargestId_data()
+{
+    aFullListTakesNoMore_data();
+}
+
+void tst_PlanList::noTaskBehindTheLargestId()
+{
+    QFETCH(const bool, copy);
+    const TestClock clock(kNow);
+    const int largest = std::numeric_limits<int>::max();
+    keep(makeTask(largest - 1, "2024.01.01", "2024.01.02"));
+    PlanList list;
+    const auto addOne = [&] { copy ? list.slotCopyTask(largest - 1) : list.slotAddOutput(); };
+    addOne();
+    QCOMPARE(service().addedTasks.at(0).id, largest);
+    service().clearLog();
+    addOne();
+    QCOMPARE(service().count(QStringLiteral("addTask")), 0);
+    QCOMPARE(foldLine(list), QStringLiteral("open"));
 }
 
 void tst_PlanList::cardsReachTheList()
