@@ -52,7 +52,7 @@ struct Shown
     int entry = -1;
     int progIndex = -1;
     int play = -1;
-    int run = -1;
+    qint64 run = -1;
     Instant position = 0;
 
     bool operator==(const Shown& other) const;
