@@ -1,6 +1,7 @@
 #include "ProgramCatalogue.h"
 
-#include <QFileInfo>
+#include "FileLook.h"
+
 #include <QString>
 
 #include <tuple>
@@ -33,13 +34,23 @@ CatalogueChange difference(const ProgramIten& before, const ProgramIten& after)
 bool isThere(const ProgramIten& program)
 {
     return program.kind == ProgramKind::Live ||
-           QFileInfo(QString::fromStdString(program.mediaPath)).isFile();
+           FileLook::current().isThere(QString::fromStdString(program.mediaPath));
+}
+
+/// Makes a program null when its file is not there, and only then. True when that is new.
+bool look(ProgramIten& program)
+{
+    const bool isNull = !isThere(program);
+    return std::exchange(program.isNull, isNull) != isNull;
 }
 
 } // namespace
 
 void ProgramCatalogue::assign(ProgramMap programs, std::map<int, std::string> removedNames)
 {
+    for (auto& [index, program] : programs) {
+        program.isNull = isKnownLost(program);
+    }
     m_programs = std::move(programs);
     m_removedNames = std::move(removedNames);
 }
@@ -52,7 +63,7 @@ void ProgramCatalogue::clear()
 
 CatalogueChange ProgramCatalogue::put(ProgramIten program)
 {
-    program.isNull = !isThere(program);
+    program.isNull = isKnownLost(program);
     const auto [place, isNew] = m_programs.try_emplace(program.progIndex);
     const CatalogueChange change = isNew ? kProgramNew : difference(place->second, program);
     place->second = std::move(program);
@@ -109,11 +120,22 @@ bool ProgramCatalogue::checkFiles()
 {
     bool changed = false;
     for (auto& [index, program] : m_programs) {
-        const bool isNull = !isThere(program);
-        changed = changed || isNull != program.isNull;
-        program.isNull = isNull;
+        changed = look(program) || changed;
     }
     return changed;
+}
+
+bool ProgramCatalogue::checkFile(int progIndex)
+{
+    const auto found = m_programs.find(progIndex);
+    return found != m_programs.end() && look(found->second);
+}
+
+bool ProgramCatalogue::isKnownLost(const ProgramIten& program) const
+{
+    const auto known = m_programs.find(program.progIndex);
+    return known != m_programs.end() && known->second.isNull &&
+           known->second.mediaPath == program.mediaPath;
 }
 
 ProgramFiles ProgramCatalogue::files() const

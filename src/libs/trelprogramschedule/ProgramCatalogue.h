@@ -29,12 +29,13 @@ class ProgramCatalogue
 public:
     const ProgramMap& programs() const { return m_programs; }
 
-    /// Replaces everything. Which files are there is not looked at; see checkFiles.
+    /// Replaces everything. Which files are there is not looked at: what was known of a program
+    /// stays known as long as its path does, and every other file is taken to be there.
     void assign(ProgramMap programs, std::map<int, std::string> removedNames);
     void clear();
 
-    /// Puts one program in, or in the place of the one with its index. Looks whether its file is
-    /// there.
+    /// Puts one program in, or in the place of the one with its index. Its file is not looked at;
+    /// see assign.
     CatalogueChange put(ProgramIten program);
     /// Takes one program out.
     CatalogueChange remove(int progIndex);
@@ -51,12 +52,17 @@ public:
     /// Makes the programs null whose files are not there, and only those. Live sources are always
     /// there. True when a program came or went.
     bool checkFiles();
+    /// As checkFiles, of one program; nothing without it.
+    bool checkFile(int progIndex);
     /// The files that there should be, and which of them there are.
     ProgramFiles files() const;
     /// Takes note that files have come or gone. True when a program came or went.
     bool takeFiles(const ProgramFiles& files);
 
 private:
+    /// Whether a program is known to have lost its file.
+    bool isKnownLost(const ProgramIten& program) const;
+
     ProgramMap m_programs;
     std::map<int, std::string> m_removedNames;
 };

@@ -1,5 +1,7 @@
 #include "ProgramFileScan.h"
 
+#include "FileLook.h"
+
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QSet>
@@ -39,7 +41,7 @@ bool isStopping()
 } // namespace
 
 FileScanHabits::FileScanHabits()
-    : isThere([](const QString& path) { return QFileInfo(path).isFile(); })
+    : isThere([](const QString& path) { return FileLook::current().isThere(path); })
 {}
 
 ProgramFileScan::ProgramFileScan(FileScanHabits habits)
@@ -69,6 +71,13 @@ void ProgramFileScan::take(int generation, ProgramFiles files)
     });
     m_due.clear();
     lookAtAll();
+}
+
+void ProgramFileScan::lookSoon()
+{
+    if (!m_folders.empty()) {
+        m_round->start(0);
+    }
 }
 
 void ProgramFileScan::noteChange(const QString& watched)

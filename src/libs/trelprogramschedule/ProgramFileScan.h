@@ -56,6 +56,8 @@ public:
     /// Looks at these files from now on, all of them at once. Their isThere says what is known of
     /// them; the generation comes back with what is found.
     void take(int generation, ProgramFiles files);
+    /// Looks at all of them as soon as the thread is free, once for all calls until then.
+    void lookSoon();
 
 signals:
     /// These files have come or gone. Whoever is told knows it from then on.

@@ -45,6 +45,17 @@ ProgramFileWatch::~ProgramFileWatch()
 void ProgramFileWatch::renew()
 {
     ++m_generation;
+    m_isRenewed = true;
+    passSoon();
+}
+
+void ProgramFileWatch::look()
+{
+    passSoon();
+}
+
+void ProgramFileWatch::passSoon()
+{
     if (!std::exchange(m_isDue, true)) {
         QMetaObject::invokeMethod(this, &ProgramFileWatch::pass, Qt::QueuedConnection);
     }
@@ -53,6 +64,10 @@ void ProgramFileWatch::renew()
 void ProgramFileWatch::pass()
 {
     m_isDue = false;
+    if (!std::exchange(m_isRenewed, false)) {
+        QMetaObject::invokeMethod(m_scan, &ProgramFileScan::lookSoon);
+        return;
+    }
     QMetaObject::invokeMethod(
         m_scan, [scan = m_scan, generation = m_generation, files = m_source()]() mutable {
             scan->take(generation, std::move(files));

@@ -30,17 +30,21 @@ public:
     /// event loop has its turn, once for all calls until then; what was found for the former files
     /// is not told any more.
     void renew();
+    /// Looks at all files now, and not only at the next round. Returns at once.
+    void look();
 
 signals:
     /// These files have come or gone, against what the source and former signals told.
     void found(const trel::mediadispatch::ProgramFiles& files);
 
 private:
+    void passSoon();
     void pass();
 
     Source m_source;
     int m_generation = 0;
     bool m_isDue = false;
+    bool m_isRenewed = false; ///< What is due is more than another look.
     std::unique_ptr<QThread> m_thread;
     ProgramFileScan* m_scan; ///< Lives in the thread, and goes with it.
 };

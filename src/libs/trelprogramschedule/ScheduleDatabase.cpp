@@ -292,7 +292,7 @@ ImportResult ScheduleDatabase::addPrograms(const std::vector<MediaSource>& sourc
     return result;
 }
 
-StoreResult ScheduleDatabase::removeProgram(int progIndex)
+StoreResult ScheduleDatabase::removePrograms(const std::vector<int>& progIndexes)
 {
     if (StoreResult place = judgeInPlace(); !place) {
         return place;
@@ -300,11 +300,19 @@ StoreResult ScheduleDatabase::removeProgram(int progIndex)
     return attempt([&] {
         StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
         StoreCatalogue catalogue(*m_connection, m_file.path());
-        if (catalogue.remove(progIndex)) {
+        if (catalogue.remove(progIndexes)) {
             catalogue.finish();
             transaction.commit();
         }
     });
+}
+
+StoreResult ScheduleDatabase::countPlansWith(const std::vector<int>& progIndexes, int& count) const
+{
+    if (!isOpen()) {
+        return refusal(StoreProblem::NotOpen, QString());
+    }
+    return attempt([&] { count = StoreTaskReader::countPlansWith(*m_connection, progIndexes); });
 }
 
 } // namespace trel::mediadispatch

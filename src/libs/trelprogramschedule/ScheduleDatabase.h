@@ -64,8 +64,11 @@ public:
 
     /// Puts sources into the catalogue; see ScheduleHost::addPrograms.
     ImportResult addPrograms(const std::vector<MediaSource>& sources);
-    /// Takes a program out; an index that is not in the catalogue changes nothing.
-    StoreResult removeProgram(int progIndex);
+    /// Takes programs out, all of them or none; an index that is not in the catalogue changes
+    /// nothing.
+    StoreResult removePrograms(const std::vector<int>& progIndexes);
+    /// See ScheduleHost::plansWith.
+    StoreResult countPlansWith(const std::vector<int>& progIndexes, int& count) const;
 
 private:
     StoreResult judge(StoreOpenMode mode) const;

@@ -39,6 +39,12 @@ StoreResult ScheduleHost::open(const QString& path, OpenMode mode)
     return service().open(path, mode);
 }
 
+StoreResult ScheduleHost::openCatalogue(const QString& path, OpenMode mode)
+{
+    service().noteWorkingSet();
+    return service().open(path, mode, StorePart::Catalogue);
+}
+
 void ScheduleHost::close()
 {
     service().noteWorkingSet();
@@ -93,7 +99,18 @@ ImportResult ScheduleHost::addPrograms(const std::vector<MediaSource>& sources)
 
 StoreResult ScheduleHost::removeProgram(int progIndex)
 {
-    return service().removeProgram(progIndex);
+    return removePrograms({progIndex});
+}
+
+StoreResult ScheduleHost::removePrograms(const std::vector<int>& progIndexes)
+{
+    return service().removePrograms(progIndexes);
+}
+
+int ScheduleHost::plansWith(const std::vector<int>& progIndexes) const
+{
+    int count = 0;
+    return service().database().countPlansWith(progIndexes, count) ? count : 0;
 }
 
 } // namespace trel::mediadispatch

@@ -47,6 +47,10 @@ public:
     /// bytes is as good as none: it becomes a store where one may be made. Needs a
     /// QCoreApplication, and closes by itself when that goes.
     StoreResult open(const QString& path, OpenMode mode = OpenMode::CreateIfMissing);
+    /// As open, for a host that has to do with the catalogue alone: the schedule is not read before
+    /// the list is refreshed (scheduleManage::getgTaskMap) or the store reloaded. Until then both
+    /// sets are empty, and a save is refused like one after MovedOn.
+    StoreResult openCatalogue(const QString& path, OpenMode mode = OpenMode::CreateIfMissing);
     /// Forgets the store and everything read from it. What was not saved is lost, and a schedule in
     /// effect stops.
     void close();
@@ -73,10 +77,14 @@ public:
     /// commit.
     bool isBeingWritten() const;
 
-    /// Notices from now on when files of programs come or go; without this they are looked at when
-    /// the store is opened, when the list is refreshed and on reload. What happens to a local file
-    /// is noticed at once, what happens on a server or to a whole file system within seconds. Off
-    /// at first and, since it needs a QCoreApplication, when that has gone.
+    /// Notices from now on when files of programs come or go, and never looks at a file within a
+    /// call: that happens in a thread of its own, also when the store is opened, when the list is
+    /// refreshed, on reload and on import. What it finds comes later, with catalogueChanged; until
+    /// then a file that has not been looked at is taken to be there. What happens to a local file
+    /// is noticed at once, what happens on a server or to a whole file system within seconds.
+    /// Without this, each of those calls looks at the files before it returns, which takes long
+    /// where they lie on a server. Off at first and, since it needs a QCoreApplication, when that
+    /// has gone.
     void watchFiles(bool isOn = true);
 
     /// Puts sources into the catalogue in one transaction: a path that is known updates its
@@ -87,6 +95,12 @@ public:
     /// find their entries marked invalid when the stored set is next read. An index that is not in
     /// the catalogue changes nothing.
     StoreResult removeProgram(int progIndex);
+    /// As removeProgram, of any number: one transaction and one announcement for all of them.
+    StoreResult removePrograms(const std::vector<int>& progIndexes);
+    /// How many plans of the stored set, as it is in the store now, have an entry of one of these
+    /// programs that has not gone bad. Reads no schedule into memory. 0 when the store cannot be
+    /// read.
+    int plansWith(const std::vector<int>& progIndexes) const;
 
 signals:
     /// scheduleManage::save could not commit. Emitted while save still runs, so that a receiver can

@@ -45,13 +45,13 @@ ScheduleService& ScheduleService::instance()
     return service;
 }
 
-StoreResult ScheduleService::open(const QString& path, StoreOpenMode mode)
+StoreResult ScheduleService::open(const QString& path, StoreOpenMode mode, StorePart part)
 {
     close();
     StoreResult result = m_database.open(path, mode);
     if (result) {
         closeWithApplication();
-        result = read(StorePart::Both);
+        result = read(part);
     }
     if (!result) {
         close();
@@ -99,36 +99,55 @@ StoreResult ScheduleService::read(StorePart part)
 void ScheduleService::takeCatalogue(StoreContents& contents)
 {
     m_state.catalogue.assign(std::move(contents.programs), std::move(contents.removedNames));
-    m_state.catalogue.checkFiles();
+    checkFiles();
     m_revision.catalogue = contents.revision.catalogue;
     m_isMarkingDue = true;
 }
 
-void ScheduleService::announce(const CatalogueChange& change, int progIndex)
+bool ScheduleService::checkFiles()
+{
+    return !leaveLookToWatch() && m_state.catalogue.checkFiles();
+}
+
+bool ScheduleService::checkFile(int progIndex)
+{
+    return !leaveLookToWatch() && m_state.catalogue.checkFile(progIndex);
+}
+
+bool ScheduleService::leaveLookToWatch()
+{
+    if (m_fileWatch) {
+        m_fileWatch->look();
+    }
+    return m_fileWatch != nullptr;
+}
+
+void ScheduleService::announce(const CatalogueChange& change)
 {
     if (change.any) {
         renewWatch();
-        tellEverybody(change, progIndex);
+        tellEverybody(change);
     }
 }
 
-void ScheduleService::tellEverybody(const CatalogueChange& change, int progIndex)
+void ScheduleService::tellEverybody(const CatalogueChange& change)
 {
     m_state.inEffect.updatePrograms();
     scheduleManage& manager = scheduleManage::getInstance();
     emit manager.sigProgIndexChanged();
     if (change.lengths) {
+        // Whoever works out its ends anew works out its collisions with them: a second signal for
+        // these would only have everything done twice.
         emit manager.signalUpdatePlanEndTime();
-        emit manager.signalReflushConflict(progIndex);
     }
     emit ScheduleHost::instance().catalogueChanged();
 }
 
-StoreResult ScheduleService::readCatalogue(int progIndex)
+StoreResult ScheduleService::readCatalogue()
 {
     const ProgramMap before = m_state.catalogue.programs();
     StoreResult result = read(StorePart::Catalogue);
-    announce(catalogueChange(before, m_state.catalogue.programs()), progIndex);
+    announce(catalogueChange(before, m_state.catalogue.programs()));
     return result;
 }
 
@@ -187,7 +206,7 @@ StoreResult ScheduleService::reload()
     if (!result) {
         return result;
     }
-    announce(catalogueChange(programs, m_state.catalogue.programs()), kAnyProgram);
+    announce(catalogueChange(programs, m_state.catalogue.programs()));
     if (m_state.tasks.stored() != tasks) {
         emit ScheduleHost::instance().storedSetChanged();
         emit scheduleManage::getInstance().signalReflushConflict(kAnyProgram);
@@ -200,11 +219,11 @@ void ScheduleService::refresh()
     StoreRevision now;
     const bool isRead = bool(m_database.readRevision(now));
     if (isRead && now.catalogue != m_revision.catalogue) {
-        readCatalogue(kAnyProgram);
+        readCatalogue();
     } else {
         CatalogueChange change;
-        change.any = m_state.catalogue.checkFiles();
-        announce(change, kAnyProgram);
+        change.any = checkFiles();
+        announce(change);
     }
     if (isRead && now.schedule != m_revision.schedule) {
         read(StorePart::Schedule);
@@ -227,7 +246,7 @@ void ScheduleService::watchFiles(bool isOn)
     QObject::connect(m_fileWatch.get(), &ProgramFileWatch::found, m_fileWatch.get(),
                      [this](const ProgramFiles& files) {
                          if (m_state.catalogue.takeFiles(files)) {
-                             tellEverybody({true, false}, kAnyProgram);
+                             tellEverybody({true, false});
                          }
                      });
     renewWatch();
@@ -277,22 +296,23 @@ StoreResult ScheduleService::takePrograms(const std::vector<int>& indexes)
         return result;
     }
     if (!isNextCatalogue(contents.revision)) {
-        return readCatalogue(kAnyProgram);
+        return readCatalogue();
     }
     CatalogueChange change;
     for (auto& [index, program] : contents.programs) {
         change.add(m_state.catalogue.put(std::move(program)));
+        change.add({checkFile(index), false});
     }
     m_revision.catalogue = contents.revision.catalogue;
     m_isMarkingDue = true;
-    announce(change, kAnyProgram);
+    announce(change);
     return result;
 }
 
-StoreResult ScheduleService::removeProgram(int progIndex)
+StoreResult ScheduleService::removePrograms(const std::vector<int>& progIndexes)
 {
     StoreRevision now;
-    StoreResult result = m_database.removeProgram(progIndex);
+    StoreResult result = m_database.removePrograms(progIndexes);
     if (result) {
         result = m_database.readRevision(now);
     }
@@ -300,11 +320,15 @@ StoreResult ScheduleService::removeProgram(int progIndex)
         return result;
     }
     if (!isNextCatalogue(now)) {
-        return readCatalogue(progIndex);
+        return readCatalogue();
+    }
+    CatalogueChange change;
+    for (const int index : progIndexes) {
+        change.add(m_state.catalogue.remove(index));
     }
     m_revision.catalogue = now.catalogue;
     m_isMarkingDue = true;
-    announce(m_state.catalogue.remove(progIndex), progIndex);
+    announce(change);
     return result;
 }
 

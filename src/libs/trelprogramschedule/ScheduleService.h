@@ -40,7 +40,7 @@ public:
     ScheduleState& state() { return m_state; }
     const ScheduleState& state() const { return m_state; }
 
-    StoreResult open(const QString& path, StoreOpenMode mode);
+    StoreResult open(const QString& path, StoreOpenMode mode, StorePart part = StorePart::Both);
     void close();
     const ScheduleDatabase& database() const { return m_database; }
 
@@ -52,7 +52,7 @@ public:
     StoreResult replace(const TaskMap& tasks);
     /// Reads catalogue and stored set again; the working set stays.
     StoreResult reload();
-    /// Takes over what other editors have changed in the store and looks which files are there.
+    /// Takes over what other editors have changed in the store and has the files looked at.
     /// What cannot be read stays as it was.
     void refresh();
 
@@ -64,7 +64,8 @@ public:
     void noteWorkingSet();
 
     ImportResult addPrograms(const std::vector<MediaSource>& sources);
-    StoreResult removeProgram(int progIndex);
+    /// Takes programs out, all in one transaction and with one announcement.
+    StoreResult removePrograms(const std::vector<int>& progIndexes);
 
 private:
     ScheduleService() = default;
@@ -74,13 +75,19 @@ private:
     /// Reads the parts that are asked for into the state.
     StoreResult read(StorePart part);
     void takeCatalogue(StoreContents& contents);
+    /// Has the files looked at: at once, or, where they are watched, in the thread of the watch,
+    /// whose findings come later. True when something is found at once.
+    bool checkFiles();
+    bool checkFile(int progIndex);
+    /// False without a watch.
+    bool leaveLookToWatch();
     /// Tells everybody how the catalogue has changed, and has other files watched.
-    void announce(const CatalogueChange& change, int progIndex);
-    void tellEverybody(const CatalogueChange& change, int progIndex);
+    void announce(const CatalogueChange& change);
+    void tellEverybody(const CatalogueChange& change);
     /// Lets the watch know that the files, or what is known of them, are others.
     void renewWatch();
     /// Reads the catalogue and tells how it has changed.
-    StoreResult readCatalogue(int progIndex);
+    StoreResult readCatalogue();
     /// Reads the programs that have just been written; only these, where nobody else wrote.
     StoreResult takePrograms(const std::vector<int>& indexes);
     /// Nothing but one change of this program lies between what was read and this revision.

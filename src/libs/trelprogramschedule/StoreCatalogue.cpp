@@ -125,12 +125,17 @@ void StoreCatalogue::finish() const
                          .arg(m_nextIndex));
 }
 
-bool StoreCatalogue::remove(int progIndex)
+bool StoreCatalogue::remove(const std::vector<int>& progIndexes)
 {
-    const QSqlQuery query = m_connection.query(
-        QStringLiteral("UPDATE program SET removed = 1 WHERE prog_index = %1 AND removed = 0")
-            .arg(progIndex));
-    return query.numRowsAffected() > 0;
+    QSqlQuery removal = m_connection.prepare(
+        QStringLiteral("UPDATE program SET removed = 1 WHERE prog_index = ? AND removed = 0"));
+    bool isAnyRemoved = false;
+    for (const int index : progIndexes) {
+        bindFrom(0, removal, index);
+        m_connection.exec(removal);
+        isAnyRemoved = removal.numRowsAffected() > 0 || isAnyRemoved;
+    }
+    return isAnyRemoved;
 }
 
 } // namespace trel::mediadispatch

@@ -24,8 +24,8 @@ public:
     void read(const std::vector<int>& indexes, StoreContents& contents) const;
     /// Updates the program of the same path or makes a new one.
     void put(const MediaSource& source, ImportResult& result);
-    /// False when there is no such program.
-    bool remove(int progIndex);
+    /// False when there is none of these programs.
+    bool remove(const std::vector<int>& progIndexes);
     /// Keeps what was changed as a new revision.
     void finish() const;
 

@@ -4,6 +4,8 @@
 #include "StoreMessages.h"
 #include "StoreValues.h"
 
+#include <QStringList>
+
 #include <utility>
 
 namespace trel::mediadispatch {
@@ -21,6 +23,21 @@ TaskMap StoreTaskReader::read()
     readValues();
     readEntries();
     return std::move(m_tasks);
+}
+
+int StoreTaskReader::countPlansWith(const StoreConnection& connection,
+                                    const std::vector<int>& progIndexes)
+{
+    QStringList indexes;
+    indexes.reserve(static_cast<int>(progIndexes.size()));
+    for (const int index : progIndexes) {
+        indexes.append(QString::number(index));
+    }
+    return connection
+        .value(QStringLiteral("SELECT count(*) FROM (SELECT DISTINCT task_id, plan_position"
+                              " FROM entry WHERE is_invalid = 0 AND prog_index IN (%1))")
+                   .arg(indexes.join(QLatin1Char(','))))
+        .toInt();
 }
 
 void StoreTaskReader::readTasks()

@@ -20,6 +20,10 @@ public:
 
     TaskMap read();
 
+    /// How many plans have an entry of one of these programs that has not gone bad.
+    static int countPlansWith(const StoreConnection& connection,
+                              const std::vector<int>& progIndexes);
+
 private:
     void readTasks();
     void readPlans();

@@ -123,14 +123,14 @@ void tst_WatchedFiles::theScreenTurnsBlack()
     QTRY_VERIFY(dispatch.state().reason == ScreenReason::PlanPlays);
 }
 
-/// A refresh that looks for itself does not make the watch believe what is not so.
+/// A refresh that has the files looked at does not make the watch believe what is not so.
 void tst_WatchedFiles::goesBehindARefresh()
 {
     const QString film = import(QStringLiteral("film"));
     for (int round = 0; round < 3; ++round) {
         QVERIFY(QFile::remove(film));
         m_store->manager.getgTaskMap();
-        QVERIFY(!isThere(1));
+        QTRY_VERIFY(!isThere(1));
         touch(QStringLiteral("film"));
         QTRY_VERIFY(isThere(1));
     }

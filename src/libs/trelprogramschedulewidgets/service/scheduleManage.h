@@ -89,7 +89,8 @@ signals:
     /// The conflict picture may have changed, through the program of this index, or for another
     /// reason if it is -1. Never emitted from inside addTask.
     void signalReflushConflict(int progId);
-    /// Lengths of programs may have changed. Never emitted from inside addTask.
+    /// Lengths of programs may have changed, and with them ends of plans and their collisions; no
+    /// signalReflushConflict follows for these. Never emitted from inside addTask.
     void signalUpdatePlanEndTime();
     /// The catalogue has changed.
     void sigProgIndexChanged();
