@@ -9,7 +9,8 @@
 #include "trelprogramschedule/ProgramImporter.h"
 #include "trelprogramschedule/ShownAddress.h"
 
-#include <algorithm>
+#include <optional>
+#include <set>
 
 using namespace trel::mediadispatch;
 
@@ -59,19 +60,59 @@ QJsonArray refusalsJson(const std::vector<ImportRefusal>& refusals)
     return array;
 }
 
-/// How many plans have an entry of a program.
-qint64 plansWith(int progIndex, const std::map<int, PlayTask>& tasks)
+/// The arguments as indexes, each once, in their order. Nothing, and the user is told why, when one
+/// of them is none.
+std::optional<std::vector<int>> indexesOf(const QStringList& arguments, Console& console)
 {
-    const auto isProgram = [progIndex](const struProgInfo& entry) {
-        return !entry.isInvalid && entry.progIndex == progIndex;
-    };
-    qint64 count = 0;
-    for (const auto& [id, task] : tasks) {
-        count += std::count_if(task.plans.begin(), task.plans.end(), [&](const PlayPlan& plan) {
-            return std::any_of(plan.programs.begin(), plan.programs.end(), isProgram);
-        });
+    std::vector<int> indexes;
+    std::set<int> known;
+    for (const QString& text : arguments) {
+        bool isNumber = false;
+        const int index = text.toInt(&isNumber);
+        if (!isNumber) {
+            console.tell(
+                QStringLiteral("%1 is no index; \"schedulectl programs\" shows the indexes.")
+                    .arg(quoted(shownAddress(text))));
+            return std::nullopt;
+        }
+        if (known.insert(index).second) {
+            indexes.push_back(index);
+        }
     }
-    return count;
+    return indexes;
+}
+
+/// Whether the catalogue has all of them; the user is told of those that it has not.
+bool areKnown(const std::vector<int>& indexes, const Programs& programs, const QString& path,
+              Console& console)
+{
+    bool known = true;
+    for (const int index : indexes) {
+        if (programs.count(index) == 0) {
+            console.tell(QStringLiteral("There is no program %1 in %2.")
+                             .arg(QString::number(index), printable(path)));
+            known = false;
+        }
+    }
+    if (!known && indexes.size() > 1) {
+        console.tell(QStringLiteral("Nothing was removed."));
+    }
+    return known;
+}
+
+void writeRemoval(Console& console, const std::vector<int>& indexes, const Programs& programs,
+                  int plans)
+{
+    for (const int index : indexes) {
+        console.writeLine(QStringLiteral("Program %1, %2, was removed.")
+                              .arg(QString::number(index), printable(programs.at(index).progName)));
+    }
+    if (plans > 0) {
+        const QString whose =
+            indexes.size() == 1 ? QStringLiteral("Its entries") : QStringLiteral("Their entries");
+        console.writeLine(QStringLiteral("%1 in %2 are invalid now.")
+                              .arg(whose, counted(plans, QStringLiteral("plan"))));
+    }
 }
 
 } // namespace
@@ -79,7 +120,8 @@ qint64 plansWith(int progIndex, const std::map<int, PlayTask>& tasks)
 ExitStatus runImport(const Invocation& invocation, Console& console)
 {
     // Opened first, so that nobody waits for a long scan that has nowhere to go.
-    const auto database = openDatabase(invocation, Database::Access::Write, console);
+    const auto database =
+        openDatabase(invocation, Database::Access::Write, console, Database::Part::Catalogue);
     if (!database) {
         return Refused;
     }
@@ -111,7 +153,8 @@ ExitStatus runImport(const Invocation& invocation, Console& console)
 
 ExitStatus runPrograms(const Invocation& invocation, Console& console)
 {
-    const auto database = openDatabase(invocation, Database::Access::Read, console);
+    const auto database =
+        openDatabase(invocation, Database::Access::Read, console, Database::Part::Catalogue);
     if (!database) {
         return Refused;
     }
@@ -146,36 +189,25 @@ ExitStatus runPrograms(const Invocation& invocation, Console& console)
 
 ExitStatus runRemoveProgram(const Invocation& invocation, Console& console)
 {
-    const QString& text = invocation.arguments.first();
-    bool isNumber = false;
-    const int index = text.toInt(&isNumber);
-    if (!isNumber) {
-        console.tell(QStringLiteral("%1 is no index; \"schedulectl programs\" shows the indexes.")
-                         .arg(quoted(shownAddress(text))));
+    const auto indexes = indexesOf(invocation.arguments, console);
+    if (!indexes) {
         return Misused;
     }
-    const auto database = openDatabase(invocation, Database::Access::Read, console);
+    const auto database =
+        openDatabase(invocation, Database::Access::Read, console, Database::Part::Catalogue);
     if (!database) {
         return Refused;
     }
     const Programs programs = database->programs();
-    const auto found = programs.find(index);
-    if (found == programs.end()) {
-        console.tell(QStringLiteral("There is no program %1 in %2.")
-                         .arg(QString::number(index), printable(database->path())));
+    if (!areKnown(*indexes, programs, database->path(), console)) {
         return Refused;
     }
-    const qint64 plans = plansWith(index, database->tasks());
-    const StoreResult result = database->host().removeProgram(index);
+    const int plans = database->host().plansWith(*indexes);
+    const StoreResult result = database->host().removePrograms(*indexes);
     if (!result) {
         console.tell(result.message);
         return Refused;
     }
-    console.writeLine(QStringLiteral("Program %1, %2, was removed.")
-                          .arg(QString::number(index), printable(found->second.progName)));
-    if (plans > 0) {
-        console.writeLine(QStringLiteral("Its entries in %1 are invalid now.")
-                              .arg(counted(plans, QStringLiteral("plan"))));
-    }
+    writeRemoval(console, *indexes, programs, plans);
     return Done;
 }

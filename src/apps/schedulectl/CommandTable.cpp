@@ -29,11 +29,15 @@ Progress is shown while a person watches.)",
          R"(Lists the programs with index, name, kind, length and file. A program whose file
 is no longer there is marked as gone.)",
          runPrograms},
-        {"remove-program", "INDEX", 1, 1, false, "Take a program out of the catalogue",
-         R"(Takes the program of this index out of the catalogue; its file is left alone.
-"schedulectl programs" shows the indexes. Plans that use the program keep their
-entries, which are marked as invalid from then on. The index is never given out
-again.)",
+        {"remove-program", "INDEX...", 1, Command::kAnyNumber, false,
+         "Take programs out of the catalogue",
+         R"(Takes the programs of these indexes out of the catalogue; their files are left
+alone. "schedulectl programs" shows the indexes. Plans that use the programs
+keep their entries, which are marked as invalid from then on. The indexes are
+never given out again.
+
+All of them are removed, or none: where the catalogue does not have one of them,
+it is named on the standard error, and the exit status is 1.)",
          runRemoveProgram},
         {"show", "", 0, 0, true, "Show the tasks and their plans",
          R"(Shows every task with its plans, as they were last saved. The end of a plan that

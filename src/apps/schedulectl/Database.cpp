@@ -7,6 +7,7 @@
 using trel::mediadispatch::ScheduleHost;
 using trel::mediadispatch::scheduleManage;
 using trel::mediadispatch::StoreProblem;
+using trel::mediadispatch::StoreResult;
 
 namespace {
 
@@ -24,11 +25,17 @@ ScheduleHost::OpenMode modeOf(Database::Access access)
                                              : ScheduleHost::OpenMode::MustExist;
 }
 
+StoreResult openPart(Database::Part part, const QString& file, ScheduleHost::OpenMode mode)
+{
+    ScheduleHost& host = ScheduleHost::instance();
+    return part == Database::Part::All ? host.open(file, mode) : host.openCatalogue(file, mode);
+}
+
 } // namespace
 
-Database::Database(const Invocation& invocation, Access access)
+Database::Database(const Invocation& invocation, Access access, Part part)
     : m_access(access)
-    , m_result(ScheduleHost::instance().open(fileOf(invocation, access), modeOf(access)))
+    , m_result(openPart(part, fileOf(invocation, access), modeOf(access)))
 {}
 
 Database::~Database()
@@ -79,9 +86,9 @@ ScheduleHost& Database::host() const
 }
 
 std::unique_ptr<Database> openDatabase(const Invocation& invocation, Database::Access access,
-                                       Console& console)
+                                       Console& console, Database::Part part)
 {
-    auto database = std::make_unique<Database>(invocation, access);
+    auto database = std::make_unique<Database>(invocation, access, part);
     if (!*database) {
         console.tell(database->error());
         return nullptr;

@@ -20,7 +20,13 @@ public:
         Write, ///< It is made when it is missing.
     };
 
-    Database(const Invocation& invocation, Access access);
+    /// How much of it is read when it is opened.
+    enum class Part {
+        All,
+        Catalogue, ///< The schedule is read when tasks() asks for it.
+    };
+
+    Database(const Invocation& invocation, Access access, Part part);
     ~Database();
     Q_DISABLE_COPY(Database)
 
@@ -44,4 +50,4 @@ private:
 
 /// Opens the database of a command. Null, and the user is told why, when that is not possible.
 std::unique_ptr<Database> openDatabase(const Invocation& invocation, Database::Access access,
-                                       Console& console);
+                                       Console& console, Database::Part part = Database::Part::All);

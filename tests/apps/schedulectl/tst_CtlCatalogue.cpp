@@ -4,6 +4,8 @@
 
 #include <QDir>
 #include <QJsonArray>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
@@ -27,6 +29,9 @@ private slots:
     void oddNamesStayReadable();
     void removedProgramLeavesInvalidEntries();
     void removeRefusals();
+    void manyAreRemovedAtOnce();
+    void allOrNoneAreRemoved();
+    void theScheduleIsNotRead();
 
 private:
     static void importClips(const CtlFixture& fixture, const QStringList& names);
@@ -299,6 +304,69 @@ void tst_CtlCatalogue::removeRefusals()
                                   .arg(QString::fromLatin1(text)));
     }
     QCOMPARE(fixture.onDatabase({kPrograms}).lines().size(), 2);
+}
+
+void tst_CtlCatalogue::manyAreRemovedAtOnce()
+{
+    const CtlFixture fixture;
+    importClips(fixture, {QStringLiteral("one.wav"), QStringLiteral("two.wav"),
+                          QStringLiteral("three.wav"), QStringLiteral("four.wav")});
+    fixture.store({{1, januaryTask(1, {timePlan(1, "08:00:00", "09:00:00", "", 1),
+                                       timePlan(2, "09:00:00", "10:00:00", "", 4)})}});
+    // One that is named twice goes once.
+    const CtlResult removed = fixture.onDatabase({kRemove, QStringLiteral("4"), QStringLiteral("1"),
+                                                  QStringLiteral("3"), QStringLiteral("4")});
+    QCOMPARE(removed.err, QString());
+    QCOMPARE(removed.status, 0);
+    QCOMPARE(removed.lines(),
+             (QStringList{QStringLiteral("Program 4, four, was removed."),
+                          QStringLiteral("Program 1, one, was removed."),
+                          QStringLiteral("Program 3, three, was removed."),
+                          QStringLiteral("Their entries in 2 plans are invalid now.")}));
+    const QJsonArray left = fixture.onDatabase({kPrograms, kJson}).json()[kPrograms].toArray();
+    QCOMPARE(left.size(), 1);
+    QCOMPARE(left[0][QStringLiteral("index")].toInt(), 2);
+}
+
+void tst_CtlCatalogue::allOrNoneAreRemoved()
+{
+    const CtlFixture fixture;
+    importClips(fixture, {QStringLiteral("one.wav"), QStringLiteral("two.wav")});
+    const CtlResult refused = fixture.onDatabase(
+        {kRemove, QStringLiteral("1"), QStringLiteral("9"), QStringLiteral("2")});
+    QCOMPARE(refused.status, 1);
+    QCOMPARE(refused.out, QByteArray());
+    QCOMPARE(refused.err, QStringLiteral("schedulectl: There is no program 9 in %1.\n"
+                                         "schedulectl: Nothing was removed.\n")
+                              .arg(fixture.database()));
+    const CtlResult misused =
+        fixture.onDatabase({kRemove, QStringLiteral("1"), QStringLiteral("two")});
+    QCOMPARE(misused.status, 2);
+    QVERIFY(misused.err.startsWith(QStringLiteral("schedulectl: \"two\" is no index;")));
+    QCOMPARE(fixture.onDatabase({kPrograms}).lines().size(), 3);
+}
+
+/// What has to do with the catalogue alone works beside a schedule that cannot be read.
+void tst_CtlCatalogue::theScheduleIsNotRead()
+{
+    const CtlFixture fixture;
+    importClips(fixture, {QStringLiteral("one.wav"), QStringLiteral("two.wav")});
+    fixture.store({{1, januaryTask(1, {timePlan(1, "08:00:00", "09:00:00", "", 1)})}});
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"));
+        database.setDatabaseName(fixture.database());
+        QVERIFY(database.open());
+        QVERIFY(QSqlQuery(database).exec(QStringLiteral("UPDATE entry SET position = 7")));
+    }
+    QSqlDatabase::removeDatabase(QLatin1String(QSqlDatabase::defaultConnection));
+    QCOMPARE(fixture.onDatabase({QStringLiteral("show")}).status, 1);
+
+    QCOMPARE(fixture.onDatabase({kPrograms}).lines().size(), 3);
+    QCOMPARE(fixture.onDatabase({kImport, QStringLiteral("udp://@239.0.0.1:1234")}).status, 0);
+    const CtlResult removed = fixture.onDatabase({kRemove, QStringLiteral("1")});
+    QCOMPARE(removed.lines(),
+             (QStringList{QStringLiteral("Program 1, one, was removed."),
+                          QStringLiteral("Its entries in 1 plan are invalid now.")}));
 }
 
 QTEST_GUILESS_MAIN(tst_CtlCatalogue)

@@ -155,7 +155,7 @@ void tst_CtlUse::misuseIsAnsweredWithAHint_data()
     row("now --at", "The option \"--at\" needs MOMENT.", "now ");
     row("show --at 08:00", "The command \"show\" has no option \"--at\".", "show ");
     row("why", "The command \"why\" needs PROGRAM.", "why ");
-    row("remove-program", "The command \"remove-program\" needs INDEX.", "remove-program ");
+    row("remove-program", "The command \"remove-program\" needs INDEX....", "remove-program ");
     row("remove-program -1", "There is no option \"-1\".", "remove-program ");
     row("remove-program --json 1", "The command \"remove-program\" has no option \"--json\".",
         "remove-program ");
