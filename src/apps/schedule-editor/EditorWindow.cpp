@@ -316,11 +316,8 @@ void EditorWindow::removeSelectedPrograms()
     for (const QModelIndex& row : rows) {
         indexes.push_back(row.data(ProgramTableModel::ProgramIndexRole).toInt());
     }
-    for (const int index : indexes) {
-        if (const StoreResult result = ScheduleHost::instance().removeProgram(index); !result) {
-            tell(result.message);
-            return;
-        }
+    if (const StoreResult result = ScheduleHost::instance().removePrograms(indexes); !result) {
+        tell(result.message);
     }
 }
 
