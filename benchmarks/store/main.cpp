@@ -1,6 +1,7 @@
 #include "Comparison.h"
 #include "StartCases.h"
 #include "StoreCases.h"
+#include "WaitCases.h"
 
 #include <QApplication>
 
@@ -13,6 +14,7 @@ int main(int argc, char** argv)
     bench::initialize(argc, argv);
     bench::addStoreCases();
     bench::addStartCases();
+    bench::addWaitCases();
     try {
         bench::run();
         return 0;

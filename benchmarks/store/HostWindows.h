@@ -1,0 +1,43 @@
+#pragma once
+
+#include "EditorWindow.h"
+#include "Languages.h"
+#include "Samples.h"
+#include "look/Themes.h"
+#include "scheduleControlUI.h"
+#include "trelprogramschedule/ProgramImporter.h"
+
+#include <QTemporaryDir>
+
+#include <vector>
+
+namespace bench {
+
+/// The windows of the desktop host on a store in a folder of its own. One at a time.
+class HostWindows
+{
+public:
+    HostWindows();
+    ~HostWindows();
+    Q_DISABLE_COPY(HostWindows)
+
+    /// Makes a store with so many programs and tasks. The programs are files of no bytes, or live
+    /// sources, which need none.
+    void fill(int programs, bool areFiles, const TaskMap& tasks);
+    /// Closes the store and opens it again.
+    void reopen();
+    /// Shows the editor with all its cards, and handles what comes of that.
+    void showEditor();
+    trel::mediadispatch::scheduleControlUI& editor() { return m_editor; }
+
+private:
+    QString path() const { return m_folder.filePath(QStringLiteral("schedule.db")); }
+
+    QTemporaryDir m_folder;
+    trel::mediadispatch::scheduleControlUI m_editor;
+    Languages m_languages;
+    Themes m_themes;
+    EditorWindow m_window;
+};
+
+} // namespace bench

@@ -1,0 +1,100 @@
+#include "WaitCases.h"
+
+#include "Comparison.h"
+#include "HostWindows.h"
+#include "service/scheduleManage.h"
+#include "trelprogramschedule/ScheduleHost.h"
+
+#include <QCoreApplication>
+
+#include <numeric>
+#include <string>
+
+using namespace trel::mediadispatch;
+
+namespace bench {
+
+namespace {
+
+constexpr double kTenTimes = 11.67;
+constexpr double kFarLess = 0.1;
+constexpr double kNoMore = 1.3;
+constexpr int kTasks = 100;
+constexpr int kPlansOfTask = 5;
+constexpr int kProgramsInUse = 1000;
+
+std::vector<int> firstIndexes(int count)
+{
+    std::vector<int> indexes(static_cast<std::size_t>(count));
+    std::iota(indexes.begin(), indexes.end(), 1);
+    return indexes;
+}
+
+/// Takes programs out of the catalogue of a host whose editor has not been opened.
+double remove(int programs, int removed, bool atOnce)
+{
+    HostWindows windows;
+    windows.fill(programs, false, sampleTasks(kTasks, kPlansOfTask));
+    const std::vector<int> indexes = firstIndexes(removed);
+    return wallSeconds([&] {
+        ScheduleHost& host = ScheduleHost::instance();
+        if (atOnce) {
+            host.removePrograms(indexes);
+        } else {
+            for (const int index : indexes) {
+                host.removeProgram(index);
+            }
+        }
+        QCoreApplication::processEvents();
+    });
+}
+
+/// Opens a store, without what the thread of the watch does then.
+double open(int programs, bool areFiles)
+{
+    HostWindows windows;
+    windows.fill(programs, areFiles, sampleTasks(kTasks, kPlansOfTask));
+    return wallSeconds([&windows] { windows.reopen(); });
+}
+
+/// Saves what the editor shows, as it was opened or with one more task.
+double save(int tasks, bool isEdited)
+{
+    HostWindows windows;
+    windows.fill(kProgramsInUse, false, sampleTasks(tasks, kPlansOfTask));
+    windows.showEditor();
+    if (isEdited) {
+        scheduleManage::getInstance().addTask(sampleTask(tasks + 1, kPlansOfTask, TimeMode));
+    }
+    return wallSeconds([] { scheduleManage::getInstance().save(); });
+}
+
+/// Puts a schedule into effect.
+double start(int plans)
+{
+    HostWindows windows;
+    windows.fill(kProgramsInUse, false, sampleTasks(plans / kPlansOfTask, kPlansOfTask));
+    return wallSeconds([] { scheduleManage::getInstance().slotOpen(); });
+}
+
+} // namespace
+
+void addWaitCases()
+{
+    add({"Remove programs, against one by one", "100 of 10,000 programs", kFarLess,
+         [] { return remove(10000, 100, true); }, [] { return remove(10000, 100, false); }, 3});
+    add({"Remove programs, against fewer", "1,000 of 10,000 against 100 of 1,000", kTenTimes,
+         [] { return remove(10000, 1000, true); }, [] { return remove(1000, 100, true); }, 9});
+    add({"Open a store of files, against live sources", "10,000 programs", kNoMore,
+         [] { return open(10000, true); }, [] { return open(10000, false); }, 9});
+    for (const bool isEdited : {false, true}) {
+        const std::string name = isEdited ? "Save an added task" : "Save what was not edited";
+        add({name + ", against fewer tasks", "1,000 tasks of 5 plans against 100 tasks", kTenTimes,
+             [isEdited] { return save(1000, isEdited); },
+             [isEdited] { return save(100, isEdited); }, 5});
+    }
+    add({"Put a schedule into effect, against fewer plans", "50,000 against 5,000 plans", kTenTimes,
+         [] { return start(50000); }, [] { return start(5000); }, 9});
+}
+
+} // namespace bench
