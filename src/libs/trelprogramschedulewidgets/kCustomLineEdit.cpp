@@ -7,6 +7,8 @@
 #include <QFontMetrics>
 #include <QPointer>
 
+#include <initializer_list>
+
 namespace trel::mediadispatch {
 
 namespace {
@@ -35,7 +37,8 @@ kCustomLineEdit::kCustomLineEdit(QWidget* parent)
     setAttribute(Qt::WA_StyledBackground);
     setProperty("style", QStringLiteral("BG3"));
     m_ui->pushButton->setProperty("imageBtn", QStringLiteral("add"));
-    for (QPushButton* const half : {m_ui->pushButton, m_ui->lineEdit}) {
+    for (QPushButton* const half :
+         std::initializer_list<QPushButton*>{m_ui->pushButton, m_ui->lineEdit}) {
         half->setFocusPolicy(Qt::NoFocus);
         connect(half, &QPushButton::clicked, this, &kCustomLineEdit::slotClicked);
     }
@@ -45,9 +48,12 @@ kCustomLineEdit::~kCustomLineEdit() = default;
 
 void kCustomLineEdit::setText(QString& text)
 {
-    // A text that has room comes back as it is.
-    text = textMetrics().elidedText(text, Qt::ElideRight, kTextWidth);
-    m_ui->lineEdit->setText(text);
+    const QFontMetrics metrics = textMetrics();
+    // The cutter would pick one of the lengths that U+009C keeps apart, whatever room there is.
+    if (metrics.horizontalAdvance(text) >= kTextWidth) {
+        text = metrics.elidedText(text, Qt::ElideRight, kTextWidth);
+    }
+    m_ui->lineEdit->setPlainText(text);
 }
 
 QString kCustomLineEdit::text() const

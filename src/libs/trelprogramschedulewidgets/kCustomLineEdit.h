@@ -20,8 +20,9 @@ public:
     explicit kCustomLineEdit(QWidget* parent = nullptr);
     ~kCustomLineEdit() override;
 
-    /// Shows a text, cut with an ellipsis when it is too wide. The cut text is written back into
-    /// text; the field keeps no other.
+    /// Shows a text, cut with an ellipsis when it is 134 pixels wide or more, and as it is when it
+    /// has room. The cut text is written back into text; the field keeps no other. An ampersand is
+    /// shown as one and opens no shortcut.
     void setText(QString& text);
     /// The text shown.
     QString text() const;

@@ -76,6 +76,7 @@ private slots:
 
     void showsTheTextOfTheUserRole();
     void writesTheEditRole();
+    void ampersandsComeAndGoAsTheyAre();
     void makingAFieldOpensNothing();
     void leavesRoomAboveTheField();
     void passesClicksOn();
@@ -111,6 +112,17 @@ void tst_LineEditDelegate::writesTheEditRole()
     QCOMPARE(index.data(Qt::EditRole).toString(), table.field(0)->text());
     QVERIFY(index.data(Qt::EditRole).toString().endsWith(QChar(0x2026)));
     QCOMPARE(index.data(Qt::UserRole).toString(), whole);
+}
+
+void tst_LineEditDelegate::ampersandsComeAndGoAsTheyAre()
+{
+    FieldTable table(1);
+    const QModelIndex index = table.model.index(0, kColumn);
+    const QString name = QStringLiteral("R&D && A & B");
+    table.model.setData(index, name, Qt::UserRole);
+    QCOMPARE(table.field(0)->text(), name);
+    table.delegate.setModelData(table.field(0), &table.model, index);
+    QCOMPARE(index.data(Qt::EditRole).toString(), name);
 }
 
 void tst_LineEditDelegate::makingAFieldOpensNothing()

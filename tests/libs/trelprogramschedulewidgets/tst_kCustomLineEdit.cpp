@@ -3,11 +3,14 @@
 #include "TellingText.h"
 #include "support/RecordingService.h"
 
+#include <QAccessible>
 #include <QFontMetrics>
 #include <QLayout>
 #include <QPointer>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStyleOptionButton>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
@@ -27,6 +30,25 @@ QPushButton* half(kCustomLineEdit& field, const char* name)
     return field.findChild<QPushButton*>(QLatin1String(name));
 }
 
+/// Takes down the labels of buttons as they are seen, the mark of a shortcut in brackets.
+class LabelStyle : public QProxyStyle
+{
+public:
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        if (element == CE_PushButtonLabel) {
+            QString text = qstyleoption_cast<const QStyleOptionButton*>(option)->text;
+            text.replace(QLatin1String("&&"), QString(QChar::Null));
+            text.replace(QLatin1Char('&'), QLatin1String("[]"));
+            visible.append(text.replace(QChar::Null, QLatin1Char('&')));
+        }
+        QProxyStyle::drawControl(element, option, painter, widget);
+    }
+
+    mutable QStringList visible;
+};
+
 } // namespace
 
 class tst_kCustomLineEdit : public QObject
@@ -45,6 +67,9 @@ private slots:
     void cutsALongText_data();
     void cutsALongText();
     void cutsFromTheWidthOn();
+    void keepsWhatHasRoomAsItIs();
+    void anAmpersandIsNoShortcut();
+    void anAmpersandIsShown();
     void cutsWhatTheServiceHolds();
     void longTextsLeaveThePlusButtonInPlace();
     void mayDieInsideItsSignal();
@@ -205,6 +230,57 @@ void tst_kCustomLineEdit::cutsFromTheWidthOn()
     field.setText(wider);
     QCOMPARE(field.text(), expected);
     QCOMPARE(wider, expected);
+}
+
+void tst_kCustomLineEdit::keepsWhatHasRoomAsItIs()
+{
+    // The toolkit takes U+009C for the mark between a text and its shorter forms.
+    const QString whole = QStringLiteral("News") + QChar(0x9c) + QStringLiteral("N");
+    kCustomLineEdit field;
+    QString text = whole;
+    field.setText(text);
+    QCOMPARE(field.text(), whole);
+    QCOMPARE(text, whole);
+    QCOMPARE(half(field, "lineEdit")->text(), whole);
+}
+
+void tst_kCustomLineEdit::anAmpersandIsNoShortcut()
+{
+    QWidget window;
+    kCustomLineEdit field(&window);
+    QString text = QStringLiteral("R&D && A & B");
+    const QString whole = text;
+    field.setText(text);
+    QCOMPARE(text, whole);
+    QCOMPARE(field.text(), whole);
+    QPushButton* const shown = half(field, "lineEdit");
+    QCOMPARE(shown->text(), whole);
+    QCOMPARE(shown->shortcut(), QKeySequence());
+    QCOMPARE(QAccessible::queryAccessibleInterface(shown)->text(QAccessible::Name), whole);
+
+    QSignalSpy clicked(&field, &kCustomLineEdit::signalClicked);
+    QVERIFY(clicked.isValid());
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_D, Qt::AltModifier);
+    QTest::qWait(0);
+    QCOMPARE(clicked.count(), 0);
+
+    text = QStringLiteral("News");
+    field.setText(text);
+    QCOMPARE(QAccessible::queryAccessibleInterface(shown)->text(QAccessible::Name), text);
+}
+
+void tst_kCustomLineEdit::anAmpersandIsShown()
+{
+    LabelStyle style;
+    kCustomLineEdit field;
+    QPushButton* const shown = half(field, "lineEdit");
+    shown->setStyle(&style);
+    QString text = QStringLiteral("R&D && A & B");
+    field.setText(text);
+    field.grab();
+    QCOMPARE(style.visible, QStringList(text));
 }
 
 void tst_kCustomLineEdit::cutsWhatTheServiceHolds()
