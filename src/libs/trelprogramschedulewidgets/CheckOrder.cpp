@@ -16,10 +16,15 @@ QString formatRowNumber(int number)
     return number <= 9 ? QLatin1Char('0') + digits : digits;
 }
 
+CheckOrder::CheckOrder(int& count, QMap<int, int>& places)
+    : m_count(count)
+    , m_places(places)
+{}
+
 std::vector<int> CheckOrder::rows() const
 {
     QMap<int, int> rowByPlace;
-    for (auto it = m_checkOrder.cbegin(); it != m_checkOrder.cend(); ++it) {
+    for (auto it = m_places.cbegin(); it != m_places.cend(); ++it) {
         rowByPlace.insert(it.value(), it.key());
     }
     return {rowByPlace.cbegin(), rowByPlace.cend()};
@@ -27,18 +32,18 @@ std::vector<int> CheckOrder::rows() const
 
 int CheckOrder::check(int row)
 {
-    m_checkedCount = std::max(m_checkedCount, 0) + 1;
-    m_checkOrder[row] = m_checkedCount;
-    return m_checkedCount;
+    m_count = std::max(m_count, 0) + 1;
+    m_places[row] = m_count;
+    return m_count;
 }
 
 std::vector<CheckedRow> CheckOrder::uncheck(int row)
 {
-    m_checkedCount = std::max(m_checkedCount, 0) - 1;
-    const int oldPlace = m_checkOrder.take(row);
+    m_count = std::max(m_count, 0) - 1;
+    const int oldPlace = m_places.take(row);
 
     std::vector<CheckedRow> moved;
-    for (auto it = m_checkOrder.begin(); it != m_checkOrder.end(); ++it) {
+    for (auto it = m_places.begin(); it != m_places.end(); ++it) {
         if (it.value() > oldPlace) {
             --it.value();
             moved.push_back({it.key(), it.value()});
@@ -49,10 +54,10 @@ std::vector<CheckedRow> CheckOrder::uncheck(int row)
 
 void CheckOrder::checkAll(int rowCount)
 {
-    m_checkedCount = rowCount;
-    m_checkOrder.clear();
+    m_count = rowCount;
+    m_places.clear();
     for (int row = 0; row < rowCount; ++row) {
-        m_checkOrder.insert(m_checkOrder.cend(), row, row + 1);
+        m_places.insert(m_places.cend(), row, row + 1);
     }
 }
 
@@ -61,8 +66,8 @@ void CheckOrder::clearAll(int rowCount)
     if (rowCount == 0) {
         return;
     }
-    m_checkedCount = std::max(std::max(m_checkedCount, 0) - rowCount, kNoneChecked);
-    m_checkOrder.clear();
+    m_count = std::max(std::max(m_count, 0) - rowCount, kNoneChecked);
+    m_places.clear();
 }
 
 } // namespace trel::mediadispatch

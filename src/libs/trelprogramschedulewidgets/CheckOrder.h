@@ -22,8 +22,9 @@ struct CheckedRow
     }
 };
 
-/// The order in which the rows of a table were checked: each checked row has a place, from 1, and
-/// the places close up when a row is unchecked.
+/// Works on the order in which the rows of a table were checked: each checked row has a place, from
+/// 1, and the places close up when a row is unchecked. Count and places are the caller's and hold
+/// all there is; this keeps nothing of its own.
 ///
 /// Every operation answers as if it were carried out row by row from the top, and costs time in
 /// proportion to the rows it concerns. Checking a checked row moves it to the end and leaves its
@@ -32,10 +33,15 @@ struct CheckedRow
 class CheckOrder
 {
 public:
+    /// count is the number given to the latest check, places leads from checked row to its place.
+    /// A table with nothing checked has a count of -1 or 0 and no places. Both have to live as long
+    /// as this.
+    CheckOrder(int& count, QMap<int, int>& places);
+
     /// The number given to the latest check. -1 and 0 both mean that no row is checked.
-    int count() const { return m_checkedCount; }
+    int count() const { return m_count; }
     /// From checked row to its place.
-    const QMap<int, int>& places() const { return m_checkOrder; }
+    const QMap<int, int>& places() const { return m_places; }
     /// The checked rows by place.
     std::vector<int> rows() const;
 
@@ -49,8 +55,8 @@ public:
     void clearAll(int rowCount);
 
 private:
-    int m_checkedCount = -1;
-    QMap<int, int> m_checkOrder;
+    int& m_count;
+    QMap<int, int>& m_places;
 };
 
 } // namespace trel::mediadispatch

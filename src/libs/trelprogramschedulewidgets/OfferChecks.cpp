@@ -8,9 +8,11 @@
 
 namespace trel::mediadispatch {
 
-OfferChecks::OfferChecks(QAbstractItemModel& model, SHeaderView& header)
+OfferChecks::OfferChecks(QAbstractItemModel& model, SHeaderView& header, int& count,
+                         QMap<int, int>& places)
     : m_model(model)
     , m_header(header)
+    , m_order(count, places)
 {}
 
 void OfferChecks::check(int row)

@@ -8,14 +8,14 @@ namespace trel::mediadispatch {
 
 class SHeaderView;
 
-/// The order in which the rows of the chooser's left table were checked, and all that shows it: the
-/// place in each row, and the mark in the header once every row is checked. The marks of the rows
-/// themselves are the table's.
+/// Keeps the order in which the rows of the chooser's left table were checked together with all
+/// that shows it: the place in each row, and the mark in the header once every row is checked. The
+/// marks of the rows themselves are the table's.
 class OfferChecks
 {
 public:
-    /// Model and header have to live as long as this.
-    OfferChecks(QAbstractItemModel& model, SHeaderView& header);
+    /// count and places as for CheckOrder. All have to live as long as this.
+    OfferChecks(QAbstractItemModel& model, SHeaderView& header, int& count, QMap<int, int>& places);
 
     /// The checked rows in the order of checking.
     std::vector<int> rows() const { return m_order.rows(); }

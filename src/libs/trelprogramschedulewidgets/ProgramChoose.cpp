@@ -109,7 +109,9 @@ void ProgramChoose::setUpTables()
     ui->overTimeTip->setProperty(kStyle, QStringLiteral("errorHint"));
     m_programModel = new CustomTableModel(this);
     m_programHeader = setUpProgramTable(ui->tableViewProgramList, m_programModel);
-    m_checkOrder = std::make_unique<OfferChecks>(*m_programModel, *m_programHeader);
+    ui->tableViewProgramList->installEventFilter(this);
+    m_offerChecks = std::make_unique<OfferChecks>(*m_programModel, *m_programHeader, m_checkedCount,
+                                                  m_checkOrder);
     m_planModel = new CustomTableModel(this);
     m_planHeader = setUpPlanTable(ui->tableViewChoonse, m_planModel);
     ui->hideTip();
@@ -215,7 +217,7 @@ void ProgramChoose::slotChecked(CheckType type, int row, bool check)
 void ProgramChoose::slotSelectAll(CheckType type, bool ischeck)
 {
     if (type == ProgramListCheck) {
-        m_checkOrder->setAllChecked(ischeck);
+        m_offerChecks->setAllChecked(ischeck);
     } else if (type == PlanListCheck) {
         for (int row = 0; row < m_planModel->rowCount(); ++row) {
             setRowChecked(*m_planModel, row, ischeck);
@@ -227,9 +229,9 @@ void ProgramChoose::slotSelectAll(CheckType type, bool ischeck)
 void ProgramChoose::updateCheckOrder(int row, bool check)
 {
     if (check) {
-        m_checkOrder->check(row);
+        m_offerChecks->check(row);
     } else {
-        m_checkOrder->uncheck(row);
+        m_offerChecks->uncheck(row);
     }
 }
 
@@ -242,7 +244,7 @@ int ProgramChoose::countCheckedPlanRows() const
 
 void ProgramChoose::slotChose()
 {
-    const std::vector<int> checked = m_checkOrder->rows();
+    const std::vector<int> checked = m_offerChecks->rows();
     std::vector<ChoiceRow> rows;
     rows.reserve(checked.size());
     int number = m_planModel->rowCount();

@@ -3,6 +3,7 @@
 #include "service/ScheduleRecords.h"
 
 #include <QDialog>
+#include <QMap>
 #include <QModelIndex>
 #include <QPointer>
 
@@ -123,12 +124,14 @@ private:
     std::vector<struProgInfo> m_allPrograms;      ///< One entry for each row of the left table.
     std::vector<struProgInfo> m_selectedPrograms; ///< One entry for each row of the right table.
     bool m_hasNoDuration = false;
-    bool m_planChanged = false;                ///< The right table is to be read back.
-    std::unique_ptr<OfferChecks> m_checkOrder; ///< Of the left table.
-    int m_contextRow = -1;                     ///< Where the last context menu was opened.
+    bool m_planChanged = false;  ///< The right table is to be read back.
+    int m_checkedCount = -1;     ///< The number given to the latest check in the left table.
+    QMap<int, int> m_checkOrder; ///< From row of the left table to place in the order of checking.
+    int m_contextRow = -1;       ///< Where the last context menu was opened.
     int m_result;
     SHeaderView* m_programHeader = nullptr;
     SHeaderView* m_planHeader = nullptr;
+    std::unique_ptr<OfferChecks> m_offerChecks; ///< Works on m_checkedCount and m_checkOrder.
 };
 
 } // namespace trel::mediadispatch

@@ -15,6 +15,7 @@ private slots:
     void numbersHaveTwoDigits_data();
     void numbersHaveTwoDigits();
     void startsWithNothingChecked();
+    void worksOnWhatItIsGiven();
     void givesPlacesInTheOrderOfChecking();
     void closesUpWhenARowIsUnchecked();
     void uncheckingUncheckedRowsStopsBelowZero();
@@ -30,14 +31,21 @@ namespace {
 
 using Places = QMap<int, int>;
 
-CheckOrder checkedRows(const std::vector<int>& rows)
+/// An order with the count and the places that it works on.
+class OwnOrder
 {
-    CheckOrder order;
-    for (const int row : rows) {
-        order.check(row);
+public:
+    explicit OwnOrder(const std::vector<int>& rows = {})
+    {
+        for (const int row : rows) {
+            order.check(row);
+        }
     }
-    return order;
-}
+
+    int count = -1;
+    Places places;
+    CheckOrder order{count, places};
+};
 
 } // namespace
 
@@ -62,15 +70,30 @@ void tst_CheckOrder::numbersHaveTwoDigits()
 
 void tst_CheckOrder::startsWithNothingChecked()
 {
-    const CheckOrder order;
+    const OwnOrder own;
+    const CheckOrder& order = own.order;
     QCOMPARE(order.count(), -1);
     QVERIFY(order.places().isEmpty());
     QVERIFY(order.rows().empty());
 }
 
+void tst_CheckOrder::worksOnWhatItIsGiven()
+{
+    OwnOrder own({4});
+    QCOMPARE(own.count, 1);
+    QCOMPARE(own.places, (Places{{4, 1}}));
+    own.count = 2;
+    own.places = {{4, 2}, {0, 1}};
+    QCOMPARE(own.order.rows(), (std::vector<int>{0, 4}));
+    QCOMPARE(own.order.uncheck(0), (std::vector<CheckedRow>{{4, 1}}));
+    QCOMPARE(own.count, 1);
+    QCOMPARE(own.places, (Places{{4, 1}}));
+}
+
 void tst_CheckOrder::givesPlacesInTheOrderOfChecking()
 {
-    CheckOrder order;
+    OwnOrder own;
+    CheckOrder& order = own.order;
     QCOMPARE(order.check(5), 1);
     QCOMPARE(order.check(1), 2);
     QCOMPARE(order.check(3), 3);
@@ -80,7 +103,8 @@ void tst_CheckOrder::givesPlacesInTheOrderOfChecking()
 
 void tst_CheckOrder::closesUpWhenARowIsUnchecked()
 {
-    CheckOrder order = checkedRows({5, 1, 3, 0});
+    OwnOrder own({5, 1, 3, 0});
+    CheckOrder& order = own.order;
     QCOMPARE(order.uncheck(1), (std::vector<CheckedRow>{{0, 3}, {3, 2}}));
     QCOMPARE(order.places(), (Places{{5, 1}, {3, 2}, {0, 3}}));
     QCOMPARE(order.count(), 3);
@@ -90,7 +114,8 @@ void tst_CheckOrder::closesUpWhenARowIsUnchecked()
 
 void tst_CheckOrder::uncheckingUncheckedRowsStopsBelowZero()
 {
-    CheckOrder order = checkedRows({2});
+    OwnOrder own({2});
+    CheckOrder& order = own.order;
     order.uncheck(2);
     QCOMPARE(order.count(), 0);
     order.uncheck(2);
@@ -102,7 +127,8 @@ void tst_CheckOrder::uncheckingUncheckedRowsStopsBelowZero()
 
 void tst_CheckOrder::checkingAllNumbersFromTheTop()
 {
-    CheckOrder order = checkedRows({2, 0});
+    OwnOrder own({2, 0});
+    CheckOrder& order = own.order;
     order.checkAll(4);
     QCOMPARE(order.places(), (Places{{0, 1}, {1, 2}, {2, 3}, {3, 4}}));
     QCOMPARE(order.count(), 4);
@@ -120,7 +146,8 @@ void tst_CheckOrder::clearingAllLeavesNothing_data()
 void tst_CheckOrder::clearingAllLeavesNothing()
 {
     QFETCH(int, checked);
-    CheckOrder order;
+    OwnOrder own;
+    CheckOrder& order = own.order;
     for (int row = 0; row < checked; ++row) {
         order.check(row);
     }
@@ -131,7 +158,8 @@ void tst_CheckOrder::clearingAllLeavesNothing()
 
 void tst_CheckOrder::anEmptyTableChangesNothingWhenCleared()
 {
-    CheckOrder order;
+    OwnOrder own;
+    CheckOrder& order = own.order;
     order.checkAll(0);
     QCOMPARE(order.count(), 0);
     order.clearAll(0);
@@ -152,7 +180,8 @@ void tst_CheckOrder::equalsTheStepwiseWay()
     QFETCH(int, rowCount);
     for (quint32 seed = 0; seed < 60; ++seed) {
         QRandomGenerator random(seed);
-        CheckOrder quick;
+        OwnOrder own;
+        CheckOrder& quick = own.order;
         StepwiseChecks stepwise(rowCount);
         QStringList history;
         for (int step = 0; step < 120; ++step) {
