@@ -13,8 +13,8 @@ namespace trel::mediadispatch {
 
 namespace {
 
-/// So many rows are removed one by one; the views go through all rows for each of them.
-constexpr std::size_t kFewRows = 16;
+/// The work of removing rows one by one that takes about a tenth of a second.
+constexpr double kMuchWork = 15e6;
 
 /// Makes a cell of the rows that are being appended, counted from the first of them.
 using CellMaker = std::function<QStandardItem*(std::size_t row, int column)>;
@@ -171,10 +171,40 @@ private:
     QStandardItem m_known;
 };
 
-void takeRow(QStandardItemModel& model, int row, std::vector<QStandardItem*>& cells)
+/// For each removal, model and views go through all rows, and the model through the persistent
+/// indexes of the removals that are still to come, which takes it some six times as long.
+bool isMuchWork(std::size_t removals, int rowCount)
 {
-    for (int column = 0; column < model.columnCount(); ++column) {
-        cells.push_back(model.takeItem(row, column));
+    const auto count = static_cast<double>(removals);
+    return count * (rowCount + 6 * count) > kMuchWork;
+}
+
+void removeOneByOne(QStandardItemModel& model, const std::vector<int>& rows)
+{
+    std::vector<QPersistentModelIndex> indexes;
+    indexes.reserve(rows.size());
+    for (const int row : rows) {
+        indexes.emplace_back(model.index(row, 0));
+    }
+    for (const QPersistentModelIndex& index : indexes) {
+        if (index.isValid()) {
+            model.removeRow(index.row());
+        }
+    }
+}
+
+void removeByRuns(QStandardItemModel& model, const std::vector<int>& rows)
+{
+    int removed = 0;
+    for (auto run = rows.begin(); run != rows.end();) {
+        auto end = run + 1;
+        while (end != rows.end() && *end == *(end - 1) + 1) {
+            ++end;
+        }
+        const auto length = static_cast<int>(end - run);
+        model.removeRows(*run - removed, length);
+        removed += length;
+        run = end;
     }
 }
 
@@ -225,28 +255,11 @@ void appendChoices(QStandardItemModel& model, const std::vector<ChoiceRow>& rows
 
 void removeRows(QStandardItemModel& model, const std::vector<int>& rows)
 {
-    if (rows.size() <= kFewRows) {
-        // From the end, so that the numbers of the rows before stay right.
-        std::for_each(rows.rbegin(), rows.rend(), [&model](int row) { model.removeRow(row); });
-        return;
+    if (isMuchWork(rows.size(), model.rowCount())) {
+        removeByRuns(model, rows);
+    } else {
+        removeOneByOne(model, rows);
     }
-    // With its place a cell also loses the knowledge of it, and would look for itself among all
-    // cells at the next change; put in anew it knows.
-    std::vector<QStandardItem*> kept;
-    auto removed = rows.begin();
-    for (int row = rows.front(); row < model.rowCount(); ++row) {
-        if (removed != rows.end() && *removed == row) {
-            ++removed;
-        } else {
-            takeRow(model, row, kept);
-        }
-    }
-    model.removeRows(rows.front(), model.rowCount() - rows.front());
-    const int columns = model.columnCount();
-    const auto width = static_cast<std::size_t>(columns);
-    appendRows(model, kept.size() / width, columns, [&](std::size_t row, int column) {
-        return kept[row * width + static_cast<std::size_t>(column)];
-    });
 }
 
 } // namespace trel::mediadispatch

@@ -36,9 +36,9 @@ void appendOffers(QStandardItemModel& model, const std::vector<struProgInfo>& pr
 /// Appends unchecked rows to the right table, and tells the views of them once.
 void appendChoices(QStandardItemModel& model, const std::vector<ChoiceRow>& rows);
 
-/// Removes these rows, given from the top. A few go one by one; when they are many, the rows that
-/// stay behind the first of them are taken out and put back, which tells the views of two changes
-/// and ends the editing of a cell among them.
+/// Removes these rows, given from the top, first to last. They go one by one, and the views are
+/// told of each; where that would take longer than about a tenth of a second, neighbours go at
+/// once. Rows that stay are not touched: an editor that is open in one of them stays open.
 void removeRows(QStandardItemModel& model, const std::vector<int>& rows);
 
 } // namespace trel::mediadispatch

@@ -5,8 +5,12 @@
 #include "support/AllocationCount.h"
 
 #include <QAbstractItemModelTester>
+#include <QPointer>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QtTest>
+
+#include <numeric>
 
 using namespace trel::mediadispatch;
 
@@ -15,6 +19,30 @@ namespace {
 /// A cell and what the toolkit keeps behind it.
 constexpr int kObjectsOfCell = 2;
 constexpr int kRows = 100;
+/// To remove half of them one by one would take too long.
+constexpr int kManyRows = 4000;
+
+QString run(int first, int last)
+{
+    return QStringLiteral("%1-%2").arg(first).arg(last);
+}
+
+/// The index of the program of each row.
+QString numbersOf(const QStandardItemModel& model)
+{
+    QStringList texts;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        texts.append(QString::number(choiceIndexAt(model, row)));
+    }
+    return texts.join(QLatin1Char(' '));
+}
+
+std::vector<int> allRows(int count)
+{
+    std::vector<int> rows(static_cast<std::size_t>(count));
+    std::iota(rows.begin(), rows.end(), 0);
+    return rows;
+}
 
 /// A model that is checked for consistency, with what it tells its views.
 class WatchedModel
@@ -31,6 +59,18 @@ public:
         QVERIFY(removals.isValid());
         QVERIFY(changes.isValid());
     }
+
+    /// The rows of each removal, such as "1-1 4-6", as they were numbered then.
+    QString removed() const
+    {
+        QStringList texts;
+        for (const QList<QVariant>& removal : removals) {
+            texts.append(run(removal.at(1).toInt(), removal.at(2).toInt()));
+        }
+        return texts.join(QLatin1Char(' '));
+    }
+
+    QString numbers() const { return numbersOf(model); }
 
     /// Of the rows: "+2 -1 ~0" after two insertions, a removal and no change of a cell.
     QString news() const
@@ -116,8 +156,12 @@ private slots:
     void aChoiceIsSixCells();
     void alikeCellsShareWhatTheyHold();
     void aCellChangesForItselfAlone();
-    void removingFewRows();
-    void removingManyRowsKeepsTheCells();
+    void rowsGoOneByOneFromTheFirst();
+    void manyRowsGoByRunsOfNeighbours();
+    void rowsThatStayAreNotTakenOut_data();
+    void rowsThatStayAreNotTakenOut();
+    void anOpenEditorStays_data();
+    void anOpenEditorStays();
 };
 
 void tst_ChooserCells::offers()
@@ -220,38 +264,96 @@ void tst_ChooserCells::aCellChangesForItselfAlone()
     QVERIFY(!isRowChecked(model, 3));
 }
 
-void tst_ChooserCells::removingFewRows()
+void tst_ChooserCells::rowsGoOneByOneFromTheFirst()
 {
     WatchedModel watched;
     appendChoices(watched.model, choices(5));
-    removeRows(watched.model, {1, 3});
-    QCOMPARE(watched.news(), QStringLiteral("+1 -2 ~0"));
-    QCOMPARE(watched.model.rowCount(), 3);
-    QCOMPARE(choiceIndexAt(watched.model, 1), 3);
-    QCOMPARE(choiceIndexAt(watched.model, 2), 5);
+    removeRows(watched.model, {1, 2, 4});
+    QCOMPARE(watched.news(), QStringLiteral("+1 -3 ~0"));
+    QCOMPARE(watched.removed(), QStringLiteral("1-1 1-1 2-2"));
+    QCOMPARE(watched.numbers(), QStringLiteral("1 4"));
+
+    // Neighbours too, as long as they are not very many.
+    WatchedModel more;
+    appendChoices(more.model, choices(kRows));
+    removeRows(more.model, allRows(kRows));
+    QCOMPARE(more.removals.size(), kRows);
+    QCOMPARE(more.model.rowCount(), 0);
 }
 
-void tst_ChooserCells::removingManyRowsKeepsTheCells()
+void tst_ChooserCells::manyRowsGoByRunsOfNeighbours()
 {
-    WatchedModel watched;
-    appendChoices(watched.model, choices(kRows));
+    QStandardItemModel model;
+    appendChoices(model, choices(kManyRows));
+    QStringList removed;
+    connect(&model, &QAbstractItemModel::rowsRemoved, this,
+            [&](const QModelIndex&, int first, int last) { removed.append(run(first, last)); });
+    // All but the first, two in the middle and the last.
+    std::vector<int> rows = allRows(kManyRows);
+    rows.pop_back();
+    rows.erase(rows.begin() + 1000, rows.begin() + 1002);
+    rows.erase(rows.begin());
+    removeRows(model, rows);
+    QCOMPARE(removed, (QStringList{run(1, 999), run(3, kManyRows - 1001)}));
+    QCOMPARE(numbersOf(model), QStringLiteral("1 1001 1002 %1").arg(kManyRows));
+}
+
+void tst_ChooserCells::rowsThatStayAreNotTakenOut_data()
+{
+    QTest::addColumn<int>("rowCount");
+    QTest::newRow("few rows") << kRows;
+    QTest::newRow("many rows") << kManyRows;
+}
+
+void tst_ChooserCells::rowsThatStayAreNotTakenOut()
+{
+    QFETCH(int, rowCount);
+    QStandardItemModel model;
+    appendChoices(model, choices(rowCount));
     std::vector<int> rows;
-    for (int row = 1; row < kRows; row += 2) {
-        rows.push_back(row);
-    }
     std::vector<const QStandardItem*> kept;
-    for (int row = 0; row < kRows; row += 2) {
-        kept.push_back(watched.model.item(row, ChoiceNameColumn));
+    std::vector<QPersistentModelIndex> indexes;
+    for (int row = 0; row < rowCount; row += 2) {
+        kept.push_back(model.item(row, ChoiceNameColumn));
+        indexes.emplace_back(model.index(row, ChoiceNameColumn));
+        rows.push_back(row + 1);
     }
-    watched.insertions.clear();
-    removeRows(watched.model, rows);
-    QCOMPARE(watched.removals.size(), 1);
-    QCOMPARE(watched.insertions.size(), 1);
-    QCOMPARE(watched.model.rowCount(), kRows / 2);
-    for (int row = 0; row < watched.model.rowCount(); ++row) {
-        QCOMPARE(watched.model.item(row, ChoiceNameColumn), kept[static_cast<std::size_t>(row)]);
-        QCOMPARE(watched.model.item(row, ChoiceNameColumn)->row(), row);
+    QSignalSpy insertions(&model, &QAbstractItemModel::rowsInserted);
+    QVERIFY(insertions.isValid());
+    removeRows(model, rows);
+    QCOMPARE(insertions.size(), 0);
+    QCOMPARE(model.rowCount(), rowCount / 2);
+    for (int row = 0; row < model.rowCount(); ++row) {
+        QCOMPARE(model.item(row, ChoiceNameColumn), kept[static_cast<std::size_t>(row)]);
+        QCOMPARE(indexes[static_cast<std::size_t>(row)].row(), row);
     }
+}
+
+void tst_ChooserCells::anOpenEditorStays_data()
+{
+    rowsThatStayAreNotTakenOut_data();
+}
+
+void tst_ChooserCells::anOpenEditorStays()
+{
+    QFETCH(int, rowCount);
+    QStandardItemModel model;
+    appendChoices(model, choices(rowCount));
+    QTableView view;
+    view.setModel(&model);
+    view.show();
+    const QPersistentModelIndex edited = model.index(3, ChoiceCountColumn);
+    view.setCurrentIndex(edited);
+    view.edit(edited);
+    const QPointer<QWidget> editor = view.indexWidget(edited);
+    QVERIFY(editor);
+    std::vector<int> rows = allRows(rowCount);
+    rows.erase(rows.begin() + 3);
+    removeRows(model, rows);
+    QCOMPARE(model.rowCount(), 1);
+    QVERIFY(editor && editor->isVisible());
+    QCOMPARE(view.indexWidget(edited), editor.data());
+    QCOMPARE(edited.row(), 0);
 }
 
 QTEST_MAIN(tst_ChooserCells)
