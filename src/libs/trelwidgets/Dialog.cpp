@@ -25,6 +25,11 @@ bool isReturn(const QKeyEvent& event)
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
+bool isWithControlAlone(const QKeyEvent& event)
+{
+    return (event.modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier;
+}
+
 /// A cell editor hands in its value when it loses the focus.
 void commitOpenEditor(QWidget* window)
 {
@@ -94,6 +99,7 @@ public:
     Dialog* q;
     WindowFrame* frame;
     std::optional<ScaleSwitch> scale;
+    bool acceptsByKey = false;
 };
 
 Dialog::Dialog(QWidget* parent)
@@ -126,13 +132,23 @@ void Dialog::setScaleSwitch(const QSize& compact, const QSize& expanded)
     d->setExpanded(false);
 }
 
+void Dialog::setAcceptsByKey(bool accepts)
+{
+    d->acceptsByKey = accepts;
+}
+
+bool Dialog::acceptsByKey() const
+{
+    return d->acceptsByKey;
+}
+
 void Dialog::keyPressEvent(QKeyEvent* event)
 {
     if (!isReturn(*event)) {
         QDialog::keyPressEvent(event);
         return;
     }
-    const bool accepts = (event->modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier;
+    const bool accepts = d->acceptsByKey && isWithControlAlone(*event);
     event->setAccepted(accepts);
     if (accepts && !event->isAutoRepeat()) {
         commitOpenEditor(this);

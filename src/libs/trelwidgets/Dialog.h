@@ -14,9 +14,9 @@ namespace trel::widgets {
 /// Closing hides the dialog; it can be shown again. A dialog over another window is minimised
 /// together with that window, as nothing would lead back to it alone.
 ///
-/// Keys that the content leaves over: Escape rejects; Control with Return or Enter emits
-/// signalAccept(); Return and Enter alone do nothing, so that no button of the content is pressed
-/// from elsewhere.
+/// Keys that the content leaves over: Escape rejects; Return and Enter do nothing, so that no
+/// button of the content is pressed from elsewhere. With setAcceptsByKey(), Control with Return or
+/// Enter emits signalAccept().
 ///
 /// Style hooks, by object name: "dialogFrame" (the border), "dialogTitle" with the property
 /// "style" = "BG4" (the title bar), in it "TitleLabel" and the buttons "ButtonMin", "ButtonScale"
@@ -26,6 +26,7 @@ namespace trel::widgets {
 class Q_DECL_EXPORT Dialog : public QDialog
 {
     Q_OBJECT
+    Q_PROPERTY(bool acceptsByKey READ acceptsByKey WRITE setAcceptsByKey)
 
 public:
     explicit Dialog(QWidget* parent = nullptr);
@@ -44,9 +45,15 @@ public:
     /// moved back onto it. Without a call there is no such button.
     void setScaleSwitch(const QSize& compact, const QSize& expanded);
 
+    /// Whether Control with Return or Enter emits signalAccept(). Off by default: a receiver that
+    /// has not asked for the key hears of it only when somebody else emits the signal.
+    void setAcceptsByKey(bool accepts);
+    bool acceptsByKey() const;
+
 signals:
-    /// The operator has accepted the dialog from the keyboard, with Control and Return. A cell
-    /// editor that was open has handed in its value before. The dialog does not close by itself.
+    /// The operator has accepted the dialog from the keyboard, with Control and Return.
+    /// Emitted only with acceptsByKey(). A cell editor that was open has handed in its value
+    /// before. The dialog does not close by itself.
     void signalAccept();
 
 protected:

@@ -23,7 +23,7 @@ std::vector<struProgInfo> abc()
 
 void acceptFrame(const ChooserWindow& chooser)
 {
-    QTest::keyClick(chooser.frame(), Qt::Key_Return, Qt::ControlModifier);
+    emit qobject_cast<trel::widgets::Dialog*>(chooser.frame())->signalAccept();
 }
 
 } // namespace

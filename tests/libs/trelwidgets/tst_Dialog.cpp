@@ -79,6 +79,7 @@ private slots:
     void returnPressesNothing();
     void controlReturnAccepts_data();
     void controlReturnAccepts();
+    void nothingAcceptsUnlessAskedFor();
     void acceptHandsInAnOpenEditor();
     void keysOfAnInnerDialogArrive();
     void diesWhileItRuns();
@@ -249,6 +250,7 @@ void TestDialog::controlReturnAccepts()
     QFETCH(int, modifiers);
     QFETCH(int, signalled);
     Dialog dialog;
+    dialog.setAcceptsByKey(true);
     QVERIFY(showAt(dialog));
     QSignalSpy accepted(&dialog, &Dialog::signalAccept);
     QVERIFY(accepted.isValid());
@@ -257,9 +259,31 @@ void TestDialog::controlReturnAccepts()
     QVERIFY(dialog.isVisible());
 }
 
+void TestDialog::nothingAcceptsUnlessAskedFor()
+{
+    Dialog dialog;
+    QVERIFY(!dialog.acceptsByKey());
+    QVERIFY(showAt(dialog));
+    QSignalSpy accepted(&dialog, &Dialog::signalAccept);
+    QVERIFY(accepted.isValid());
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        QTest::keyClick(&dialog, key, Qt::ControlModifier);
+    }
+    QCOMPARE(accepted.count(), 0);
+    dialog.setAcceptsByKey(true);
+    QVERIFY(dialog.acceptsByKey());
+    QTest::keyClick(&dialog, Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(accepted.count(), 1);
+    dialog.setAcceptsByKey(false);
+    QTest::keyClick(&dialog, Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(accepted.count(), 1);
+    QVERIFY(dialog.isVisible());
+}
+
 void TestDialog::acceptHandsInAnOpenEditor()
 {
     Dialog dialog;
+    dialog.setAcceptsByKey(true);
     QStandardItemModel model(1, 1);
     auto* view = new QTableView;
     view->setModel(&model);
@@ -289,6 +313,7 @@ void TestDialog::keysOfAnInnerDialogArrive()
         }
     };
     Dialog dialog;
+    dialog.setAcceptsByKey(true);
     auto* inner = new Inner;
     (new QVBoxLayout(dialog.dialogWidget()))->addWidget(inner);
     auto* button = new QPushButton(QStringLiteral("Cancel"));
