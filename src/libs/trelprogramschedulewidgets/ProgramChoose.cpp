@@ -22,6 +22,7 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QSpinBox>
 
 #include <algorithm>
 #include <optional>
@@ -60,6 +61,11 @@ ProgramIten findProgram(int progIndex)
 double lengthOf(int progIndex)
 {
     return service().getDurationByIndex(progIndex);
+}
+
+SpinBoxDelegate* countDelegate(const QTableView& planTable)
+{
+    return qobject_cast<SpinBoxDelegate*>(planTable.itemDelegateForColumn(ChoiceCountColumn));
 }
 
 } // namespace
@@ -141,11 +147,13 @@ void ProgramChoose::connectAll()
     ui->tableViewChoonse->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(ui->tableViewChoonse, &QWidget::customContextMenuRequested, this,
             &ProgramChoose::onCustomContextMenuRequested);
-    const auto* spinBox = qobject_cast<SpinBoxDelegate*>(
-        ui->tableViewChoonse->itemDelegateForColumn(ChoiceCountColumn));
+    const auto* spinBox = countDelegate(*ui->tableViewChoonse);
     connect(spinBox, &SpinBoxDelegate::valueChanged, this, &ProgramChoose::onSpinBoxValueChanged);
     connect(ui->okBtn, &QPushButton::clicked, this, &ProgramChoose::onOkBtnClicked);
     connect(ui->cancelBtn, &QPushButton::clicked, this, &ProgramChoose::onCancelBtnClicked);
+
+    // The view listens as well, since before, and has put the editor away by then.
+    connect(spinBox, &SpinBoxDelegate::closeEditor, this, &ProgramChoose::showTotalOfTable);
 }
 
 // Filling the tables
@@ -244,6 +252,7 @@ int ProgramChoose::countCheckedPlanRows() const
 
 void ProgramChoose::slotChose()
 {
+    takeOverOpenCount();
     const std::vector<int> checked = m_offerChecks->rows();
     std::vector<ChoiceRow> rows;
     rows.reserve(checked.size());
@@ -266,6 +275,7 @@ void ProgramChoose::slotChose()
 
 void ProgramChoose::slotDelete()
 {
+    takeOverOpenCount();
     const std::vector<int> rows = checkedRows(*m_planModel);
     removeRows(*m_planModel, rows);
     removeEntries(m_selectedPrograms, rows);
@@ -285,6 +295,7 @@ void ProgramChoose::slotClicked()
         ui->showTip("zhOnlyOne");
         return;
     }
+    takeOverOpenCount();
     const auto* button = qobject_cast<QPushButton*>(sender());
     if (button == ui->DownBtn) {
         moveRows(false, true);
@@ -333,8 +344,25 @@ void ProgramChoose::enableConfirming()
 
 void ProgramChoose::onSpinBoxValueChanged(QModelIndex index, int value)
 {
-    // The value reaches the table only when the editor closes.
+    // The table does not have the value yet.
     updateTotalDuration(index.row(), value);
+}
+
+void ProgramChoose::takeOverOpenCount()
+{
+    auto* const delegate = countDelegate(*ui->tableViewChoonse);
+    // A box that has closed is still there until it is deleted, but is not shown.
+    for (QSpinBox* box : ui->tableViewChoonse->viewport()->findChildren<QSpinBox*>(
+             QString(), Qt::FindDirectChildrenOnly)) {
+        if (!box->isHidden()) {
+            delegate->takeOver(box);
+        }
+    }
+}
+
+void ProgramChoose::showTotalOfTable()
+{
+    updateTotalDuration(kNoRow, kNoRow);
 }
 
 double ProgramChoose::updateTotalDuration(int editedRow, int editedCount)
@@ -351,6 +379,7 @@ double ProgramChoose::updateTotalDuration(int editedRow, int editedCount)
 
 void ProgramChoose::readBackPlanRows()
 {
+    takeOverOpenCount();
     m_planChanged = true;
     syncSelectedPrograms();
 }
@@ -418,6 +447,7 @@ void ProgramChoose::onActionInsertProgramTriggered()
     if (!action) {
         return;
     }
+    takeOverOpenCount();
     switch (insertMenuLine(action->text())) {
     case InsertMenuLine::Cut:
         insertProgram(false);

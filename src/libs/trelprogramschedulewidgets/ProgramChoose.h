@@ -81,7 +81,8 @@ public slots:
     void onActionInsertProgramTriggered();
     /// The catalogue has changed. Both tables stay as they are under the operator's hands.
     void slotProgIndexChanged();
-    /// The play count of a row is being edited and is at this value now.
+    /// The play count of a row is being edited and is at this value now. It reaches the table when
+    /// the editor closes or something is done to the table.
     void onSpinBoxValueChanged(QModelIndex index, int value);
     void onOkBtnClicked();
     void onCancelBtnClicked();
@@ -108,6 +109,8 @@ private:
     void syncSelectedPrograms();
     void readBackPlanRows();
     void enableConfirming();
+    void takeOverOpenCount();
+    void showTotalOfTable();
 
     bool canInsert(int row) const;
     void showInsertMenu(bool enabled, QPoint pos);

@@ -23,8 +23,9 @@ QWidget* SpinBoxDelegate::createEditor(QWidget* parent, const QStyleOptionViewIt
     box->setFixedSize(kBoxSize);
     box->setRange(kLeastCount, kMostCount);
     box->setFrame(false);
-    connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this,
-            [this, index](int value) { emit valueChanged(index, value); });
+    connect(
+        box, QOverload<int>::of(&QSpinBox::valueChanged), this,
+        [this, cell = QPersistentModelIndex(index)](int value) { emit valueChanged(cell, value); });
     return box;
 }
 
@@ -43,6 +44,12 @@ void SpinBoxDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
     if (box && model) {
         model->setData(index, box->value(), Qt::EditRole);
     }
+}
+
+void SpinBoxDelegate::takeOver(QSpinBox* box)
+{
+    box->interpretText();
+    emit commitData(box);
 }
 
 } // namespace trel::mediadispatch

@@ -30,6 +30,10 @@ private slots:
     void tellsEveryStep();
     void tellsWhatItTakesFromTheModel();
     void tellsBeforeTheModelHasIt();
+    void tellsWhereTheCellStandsNow();
+    void takesOverAnOpenBox();
+    void takesOverTheLastCount();
+    void takesOverNothingOfAStranger();
     void refusesWhatIsOutOfRange_data();
     void refusesWhatIsOutOfRange();
     void otherEditorsAreLeftAlone();
@@ -137,6 +141,50 @@ void tst_SpinBoxDelegate::tellsBeforeTheModelHasIt()
             [&seen](const QModelIndex& index) { seen = index.data(Qt::EditRole); });
     box->stepUp();
     QCOMPARE(seen, QVariant(1));
+}
+
+void tst_SpinBoxDelegate::tellsWhereTheCellStandsNow()
+{
+    QSpinBox* const box = makeBox(2);
+    m_model->removeRow(0);
+    box->stepUp();
+    QCOMPARE(told(), QStringList{QStringLiteral("1,3: 2")});
+}
+
+void tst_SpinBoxDelegate::takesOverAnOpenBox()
+{
+    const QModelIndex index = m_model->index(1, kColumn);
+    m_view->edit(index);
+    auto* const box = qobject_cast<QSpinBox*>(m_view->indexWidget(index));
+    QVERIFY(box);
+    box->setValue(5);
+    QCOMPARE(index.data(), QVariant(1));
+    m_delegate->takeOver(box);
+    QCOMPARE(index.data(), QVariant(5));
+    QCOMPARE(m_view->indexWidget(index), box);
+    QVERIFY(box->isVisible());
+}
+
+void tst_SpinBoxDelegate::takesOverTheLastCount()
+{
+    m_model->setData(m_model->index(1, kColumn), 7, Qt::EditRole);
+    QSpinBox* const box = makeBox(1);
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_Delete);
+    QCOMPARE(box->cleanText(), QString());
+    m_delegate->takeOver(box);
+    QCOMPARE(m_model->index(1, kColumn).data(), QVariant(7));
+    QCOMPARE(box->cleanText(), QStringLiteral("7"));
+}
+
+void tst_SpinBoxDelegate::takesOverNothingOfAStranger()
+{
+    QSpinBox stranger;
+    stranger.setValue(9);
+    m_delegate->takeOver(&stranger);
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        QCOMPARE(m_model->index(row, kColumn).data(), QVariant(1));
+    }
 }
 
 void tst_SpinBoxDelegate::refusesWhatIsOutOfRange_data()
