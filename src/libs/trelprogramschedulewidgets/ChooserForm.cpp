@@ -3,6 +3,8 @@
 #include "ScheduleText.h"
 #include "service/ProgramTotal.h"
 
+#include <QShortcut>
+
 namespace trel::mediadispatch {
 
 void ChooserForm::translate()
@@ -21,6 +23,17 @@ void ChooserForm::translate()
     DownBtn->setAccessibleName(scheduleText("zhProgMoveDown"));
     tableViewProgramList->setAccessibleName(scheduleText("szProgramLstStr"));
     tableViewChoonse->setAccessibleName(scheduleText("szPlanLstStr"));
+}
+
+void ChooserForm::confirmByKey()
+{
+    // A table whose editor is open keeps these keys from the window; a shortcut comes before it.
+    // One that belongs to the button is out of force while the button is.
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* const shortcut = new QShortcut(int(Qt::ControlModifier) | int(key), okBtn);
+        shortcut->setAutoRepeat(false);
+        QObject::connect(shortcut, &QShortcut::activated, okBtn, &QPushButton::click);
+    }
 }
 
 void ChooserForm::showTip(const char* key)

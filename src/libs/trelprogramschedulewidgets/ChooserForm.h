@@ -15,6 +15,10 @@ public:
     /// those that show none.
     void translate();
 
+    /// Has Control with Return or Enter click the confirm button, whatever has the focus. Nothing
+    /// happens while that is disabled. Call it once, after setupUi().
+    void confirmByKey();
+
     /// Shows the text of the key as tip, in place of the warning.
     void showTip(const char* key);
     void hideTip();

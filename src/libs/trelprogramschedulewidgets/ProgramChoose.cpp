@@ -154,6 +154,7 @@ void ProgramChoose::connectAll()
 
     // The view listens as well, since before, and has put the editor away by then.
     connect(spinBox, &SpinBoxDelegate::closeEditor, this, &ProgramChoose::showTotalOfTable);
+    ui->confirmByKey();
 }
 
 // Filling the tables
