@@ -53,6 +53,9 @@ void setUpBehaviour(QTableView& table)
     // The order of plans is the order in which they were added, so no row may be dragged.
     table.setDragEnabled(false);
     table.setDropIndicatorShown(false);
+    // With dragging turned off the toolkit takes the table for one that drops of any source may
+    // move the rows of.
+    table.viewport()->setAcceptDrops(false);
     table.setSelectionBehavior(QAbstractItemView::SelectRows);
     table.setShowGrid(false);
     table.setEditTriggers(QAbstractItemView::AllEditTriggers);
