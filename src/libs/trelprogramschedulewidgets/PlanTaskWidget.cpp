@@ -169,6 +169,11 @@ bool PlanTaskWidget::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
+std::string PlanTaskWidget::addDuration(const std::string& start, int seconds)
+{
+    return mediadispatch::addDuration(start, seconds);
+}
+
 void PlanTaskWidget::slotTranslation()
 {
     for (const auto& box : m_modeCombos) {

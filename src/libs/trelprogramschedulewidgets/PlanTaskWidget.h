@@ -56,6 +56,9 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    /// The end of a new or copied plan in TimeMode; see the function of this name in PlanTiming.
+    static std::string addDuration(const std::string& start, int seconds);
+
 signals:
     /// The operator has confirmed that the task is to go.
     void signalDeleteTask(int taskId);

@@ -53,6 +53,8 @@ private slots:
     void updateAnswersTheService();
     void updateOfARowWithoutPlan();
     void aLengthThatChangesWaitsForTheNextEdit();
+    void addedDuration_data();
+    void addedDuration();
 };
 
 void tst_PlanTaskWidgetTiming::init()
@@ -188,6 +190,30 @@ void tst_PlanTaskWidgetTiming::aLengthThatChangesWaitsForTheNextEdit()
     open.rows.endAction(0).setCurrentIndex(FreezeCurrentFrame);
     QCOMPARE(open.rows.states(), QStringLiteral("green red"));
     QCOMPARE(storedEnds(open.rows.task()), QStringLiteral("00:00:00|12:01:00"));
+}
+
+void tst_PlanTaskWidgetTiming::addedDuration_data()
+{
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<int>("seconds");
+    QTest::addColumn<QString>("end");
+    const auto row = [](const char* start, int seconds, const char* end) {
+        QTest::newRow(start) << QString::fromLatin1(start) << seconds << QString::fromLatin1(end);
+    };
+    row("22:30:00", 3600, "23:30:00");
+    row("22:59:59", 3600, "23:59:59");
+    row("23:00:00", 3600, "23:59:59");
+    row("08:00:00", 90, "08:01:30");
+    row("noon", 3600, "");
+}
+
+void tst_PlanTaskWidgetTiming::addedDuration()
+{
+    QFETCH(QString, start);
+    QFETCH(int, seconds);
+    const OpenCard open(taskWithPlans({}));
+    QTEST(QString::fromStdString(open.card.addDuration(start.toStdString(), seconds)), "end");
+    QCOMPARE(service().log, QStringList());
 }
 
 QTEST_MAIN(tst_PlanTaskWidgetTiming)
