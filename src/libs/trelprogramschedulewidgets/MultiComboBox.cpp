@@ -76,6 +76,12 @@ void MultiComboBox::setEveryDayText(const QString& text)
 
 void MultiComboBox::setShownText(const QString& text)
 {
+    showText(text);
+    rememberShownEntries();
+}
+
+void MultiComboBox::showText(const QString& text)
+{
     // Measuring is what is dear here, and a list that opens shows the same text again.
     if (text != m_currentText || font() != m_cutFont) {
         m_currentText = text;
@@ -83,7 +89,9 @@ void MultiComboBox::setShownText(const QString& text)
         m_cutText = QFontMetrics(m_cutFont).elidedText(text, Qt::ElideRight, kTextWidth);
     }
     keepShownText();
-    lineEdit()->setCursorPosition(0);
+    if (lineEdit()) {
+        lineEdit()->setCursorPosition(0);
+    }
     if (toolTip() != text) {
         setToolTip(text);
     }
@@ -92,11 +100,12 @@ void MultiComboBox::setShownText(const QString& text)
 void MultiComboBox::restoreCheckMarks()
 {
     m_pendingText = m_currentText;
-    const QStringList labels = m_currentText.split(m_separator);
+    QStringList words = m_currentText.split(m_separator);
+    const QVector<int> shown = takeShownEntries(words);
     for (int i = 0; i < count(); ++i) {
-        setChecked(i, labels.contains(itemText(i)));
+        setChecked(i, shown.contains(i) || words.contains(itemText(i)));
     }
-    setShownText(m_pendingText);
+    showText(m_pendingText);
 }
 
 void MultiComboBox::applySelection(const QString& text)
@@ -162,7 +171,7 @@ bool MultiComboBox::eventFilter(QObject* watched, QEvent* event)
 void MultiComboBox::mousePressEvent(QMouseEvent* event)
 {
     // An editable box opens on its arrow only, and here the text is as good a place.
-    if (lineEdit()->geometry().contains(event->pos())) {
+    if (lineEdit() && lineEdit()->geometry().contains(event->pos())) {
         event->setLocalPos(QPointF(width() - kArrowInset, kArrowInset));
     }
     QComboBox::mousePressEvent(event);
@@ -193,6 +202,40 @@ void MultiComboBox::changeEvent(QEvent* event)
     QComboBox::changeEvent(event);
 }
 
+QModelIndex MultiComboBox::entryIndex(int entry) const
+{
+    return model()->index(entry, modelColumn(), rootModelIndex());
+}
+
+void MultiComboBox::rememberShownEntries()
+{
+    m_shownEntries.clear();
+    const QStringList words = m_currentText.split(m_separator);
+    for (int i = 0; i < count(); ++i) {
+        const QString label = itemText(i);
+        if (words.contains(label)) {
+            m_shownEntries.push_back({entryIndex(i), label});
+        }
+    }
+}
+
+QVector<int> MultiComboBox::takeShownEntries(QStringList& words) const
+{
+    QVector<int> entries;
+    QStringList labels;
+    for (const ShownEntry& shown : m_shownEntries) {
+        const bool isHere = shown.entry.isValid() && shown.entry.model() == model();
+        if (isHere && words.contains(shown.label)) {
+            entries.append(shown.entry.row());
+            labels.append(shown.label);
+        }
+    }
+    for (const QString& label : labels) {
+        words.removeAll(label);
+    }
+    return entries;
+}
+
 bool MultiComboBox::isChecked(int entry) const
 {
     return itemData(entry, Qt::CheckStateRole).toBool();
@@ -207,7 +250,7 @@ void MultiComboBox::toggle(const QModelIndex& entry)
 {
     excludeOthers(entry.row());
     view()->model()->setData(entry, !entry.data(Qt::CheckStateRole).toBool(), Qt::CheckStateRole);
-    setShownText(m_pendingText);
+    showText(m_pendingText);
 }
 
 void MultiComboBox::excludeOthers(int toggledEntry)
@@ -243,7 +286,7 @@ void MultiComboBox::showLabels(const QStringList& labels)
 
 void MultiComboBox::keepShownText()
 {
-    if (lineEdit()->text() != m_cutText) {
+    if (lineEdit() && lineEdit()->text() != m_cutText) {
         lineEdit()->setText(m_cutText);
         lineEdit()->setCursorPosition(0);
     }

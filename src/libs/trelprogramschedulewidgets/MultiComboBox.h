@@ -2,9 +2,13 @@
 
 #include <QComboBox>
 #include <QFont>
+#include <QPersistentModelIndex>
 #include <QPointer>
 #include <QStringList>
 #include <QTime>
+#include <QVector>
+
+#include <vector>
 
 namespace trel::mediadispatch {
 
@@ -17,6 +21,9 @@ class BoolCheckDelegate;
 /// all. The text is what is kept: the marks follow it when the list opens, and it follows the marks
 /// when the list closes. Clicks in the open list change marks and nothing else. The mark of an
 /// entry is its data under Qt::CheckStateRole, a bool.
+///
+/// New labels, such as those of another language, change neither the text nor what it stands for:
+/// opening the list marks the same entries, and closing it shows and emits their new labels.
 class MultiComboBox : public QComboBox
 {
     Q_OBJECT
@@ -32,11 +39,13 @@ public:
     void setEveryDayText(const QString& text);
     const QString& everyDayText() const { return m_everyDayText; }
 
-    /// Shows a text, labels joined with the separator, and leaves the marks as they are.
+    /// Shows a text, labels joined with the separator, and leaves the marks as they are. The text
+    /// stands for the entries that have these labels now, also when they are given others later.
     void setShownText(const QString& text);
 
-    /// Marks the entries whose labels stand in the text last shown, and no others. A label that no
-    /// entry has is passed over.
+    /// Marks the entries whose labels stand in the text last shown, and no others. An entry that
+    /// has been given another label since is known by the one that it had. A label that no entry
+    /// has or had is passed over.
     void restoreCheckMarks();
 
     /// Shows a text, marks its labels, and settles for them as a closing list does, with the
@@ -63,6 +72,18 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    /// An entry that the shown text stands for, with the label that it had when it was shown.
+    struct ShownEntry
+    {
+        QPersistentModelIndex entry;
+        QString label;
+    };
+
+    QModelIndex entryIndex(int entry) const;
+    void showText(const QString& text);
+    void rememberShownEntries();
+    /// Takes the labels of entries that are still there out of words and returns those entries.
+    QVector<int> takeShownEntries(QStringList& words) const;
     bool isChecked(int entry) const;
     void setChecked(int entry, bool checked);
     void toggle(const QModelIndex& entry);
@@ -86,6 +107,7 @@ private:
     QFont m_cutFont; // The one that the text was cut for.
     QPointer<QObject> m_popup;
     QPointer<BoolCheckDelegate> m_delegate;
+    std::vector<ShownEntry> m_shownEntries;
 };
 
 } // namespace trel::mediadispatch
