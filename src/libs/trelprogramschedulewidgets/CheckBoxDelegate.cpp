@@ -45,7 +45,7 @@ void CheckBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
 bool CheckBoxDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                                    const QStyleOptionViewItem& option, const QModelIndex& index)
 {
-    if (event->type() != QEvent::MouseButtonPress) {
+    if (!event || !model || event->type() != QEvent::MouseButtonPress) {
         return true;
     }
     if (!option.rect.contains(static_cast<QMouseEvent*>(event)->pos()) ||

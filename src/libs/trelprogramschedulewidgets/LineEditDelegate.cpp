@@ -32,7 +32,8 @@ void LineEditDelegate::setEditorData(QWidget* editor, const QModelIndex& index) 
 void LineEditDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                     const QModelIndex& index) const
 {
-    if (const auto* const field = qobject_cast<const kCustomLineEdit*>(editor)) {
+    const auto* const field = qobject_cast<const kCustomLineEdit*>(editor);
+    if (field && model) {
         model->setData(index, field->text(), Qt::EditRole);
     }
 }
@@ -40,7 +41,9 @@ void LineEditDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
 void LineEditDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                             const QModelIndex&) const
 {
-    editor->setGeometry(planEditorRect(option.rect));
+    if (editor) {
+        editor->setGeometry(planEditorRect(option.rect));
+    }
 }
 
 void LineEditDelegate::removeRow(int row)

@@ -66,7 +66,7 @@ constexpr std::array<ColumnText, 9> kSpokenNames = {{
 }};
 
 /// What of a cell a screen reader stops at: the one widget in a holder, or the button with which a
-/// program field opens the chooser.
+/// program field opens the chooser; null when the field has none.
 QWidget* editorIn(QWidget* holder)
 {
     if (const auto* const field = qobject_cast<kCustomLineEdit*>(holder)) {
@@ -76,15 +76,28 @@ QWidget* editorIn(QWidget* holder)
     return item && item->widget() ? item->widget() : holder;
 }
 
+/// Invalid when the table has been given another model, or none.
+QModelIndex cellOf(const QTableView& table, int row, int column)
+{
+    return table.model() ? table.model()->index(row, column) : QModelIndex();
+}
+
 void nameEditors(const QTableView& table, int row)
 {
-    const QAbstractItemModel& model = *table.model();
-    const QString plan = model.index(row, TitleColumn).data().toString().trimmed();
+    const QString plan = cellOf(table, row, TitleColumn).data().toString().trimmed();
     for (const ColumnText& name : kSpokenNames) {
-        QWidget* const holder = table.indexWidget(model.index(row, name.column));
-        if (holder) {
-            editorIn(holder)->setAccessibleName(plan % QLatin1Char(' ') % scheduleText(name.key));
+        QWidget* const holder = table.indexWidget(cellOf(table, row, name.column));
+        QWidget* const editor = holder ? editorIn(holder) : nullptr;
+        if (editor) {
+            editor->setAccessibleName(plan % QLatin1Char(' ') % scheduleText(name.key));
         }
+    }
+}
+
+void setCellToolTip(const QTableView& table, const QModelIndex& cell, const QString& text)
+{
+    if (QWidget* const holder = table.indexWidget(cell)) {
+        holder->setToolTip(text);
     }
 }
 
@@ -254,7 +267,7 @@ void RowBuilder::place(PlanColumn column, QWidget* holder) const
         holder->resize(m_table.columnWidth(column), m_table.rowHeight(m_row));
         layout->setEnabled(false);
     }
-    m_table.setIndexWidget(m_table.model()->index(m_row, column), holder);
+    m_table.setIndexWidget(cellOf(m_table, m_row, column), holder);
     if (layout) {
         layout->setEnabled(true);
     }
@@ -314,13 +327,16 @@ void openRowEditors(QTableView& table, int row)
 {
     for (const int column : {ProgramsColumn, ModeColumn, StartTimeColumn, EndTimeColumn,
                              TimesColumn, WeeksColumn, EndActionColumn, StateColumn}) {
-        table.openPersistentEditor(table.model()->index(row, column));
+        table.openPersistentEditor(cellOf(table, row, column));
     }
     nameEditors(table, row);
 }
 
 void translatePlanRow(QTableView& table, int row)
 {
+    if (!table.model()) {
+        return;
+    }
     QAbstractItemModel& model = *table.model();
     const auto cell = [&model, row](int column) { return model.index(row, column); };
 
@@ -329,8 +345,8 @@ void translatePlanRow(QTableView& table, int row)
     for (const ColumnText& caption : kCaptions) {
         model.setData(cell(caption.column), scheduleText(caption.key), Qt::EditRole);
     }
-    table.indexWidget(cell(CopyColumn))->setToolTip(scheduleText("zhCreateCopy"));
-    table.indexWidget(cell(DeleteColumn))->setToolTip(scheduleText("szDeleteStr"));
+    setCellToolTip(table, cell(CopyColumn), scheduleText("zhCreateCopy"));
+    setCellToolTip(table, cell(DeleteColumn), scheduleText("szDeleteStr"));
     nameEditors(table, row);
 }
 

@@ -177,13 +177,19 @@ std::string PlanTaskWidget::addDuration(const std::string& start, int seconds)
 void PlanTaskWidget::slotTranslation()
 {
     for (const auto& box : m_modeCombos) {
-        translateModeBox(*box.widget);
+        if (box.widget) {
+            translateModeBox(*box.widget);
+        }
     }
     for (const auto& box : m_weekCombos) {
-        translateWeekBox(*box.widget);
+        if (box.widget) {
+            translateWeekBox(*box.widget);
+        }
     }
     for (const auto& box : m_endActionCombos) {
-        translateEndActionBox(*box.widget);
+        if (box.widget) {
+            translateEndActionBox(*box.widget);
+        }
     }
     for (int row = 0; row < m_model->rowCount(); ++row) {
         translatePlanRow(*m_ui->tableView, row);
@@ -239,6 +245,14 @@ int PlanTaskWidget::appendRow(const PlayPlan& plan)
     return row;
 }
 
+template <typename T>
+void PlanTaskWidget::enterWidget(std::vector<RowWidget<T>>& widgets, int row, T* widget)
+{
+    widgets.push_back({row, widget});
+    connect(widget, &QObject::destroyed, m_editorWatch.get(),
+            [&widgets](const QObject* gone) { loseWidget(widgets, gone); });
+}
+
 void PlanTaskWidget::buildEditors(int row, PlayPlan& plan)
 {
     const PlanRowEditors editors = addPlanEditors(*m_ui->tableView, row, plan);
@@ -256,13 +270,13 @@ void PlanTaskWidget::buildEditors(int row, PlayPlan& plan)
     connect(editors.copy, &QPushButton::clicked, this, &PlanTaskWidget::slotCopyPlan);
     connect(editors.remove, &QPushButton::clicked, this, &PlanTaskWidget::slotDeletePlan);
 
-    m_modeCombos.push_back({row, editors.mode});
-    m_startTimeEdits.push_back({row, editors.startTime});
-    m_endTimeEdits.push_back({row, editors.endTime});
-    m_timesSpins.push_back({row, editors.times});
-    m_conflictLabels.push_back({row, editors.state});
-    m_weekCombos.push_back({row, editors.weeks});
-    m_endActionCombos.push_back({row, editors.endAction});
+    enterWidget(m_modeCombos, row, editors.mode);
+    enterWidget(m_startTimeEdits, row, editors.startTime);
+    enterWidget(m_endTimeEdits, row, editors.endTime);
+    enterWidget(m_timesSpins, row, editors.times);
+    enterWidget(m_conflictLabels, row, editors.state);
+    enterWidget(m_weekCombos, row, editors.weeks);
+    enterWidget(m_endActionCombos, row, editors.endAction);
 }
 
 void PlanTaskWidget::slotAddProgram(int row)
@@ -477,7 +491,7 @@ void PlanTaskWidget::slotTimesChanged(int value)
 // next recalculation.
 void PlanTaskWidget::slotcurrentChanged(QStandardItem* item)
 {
-    if (item->column() != TimesColumn) {
+    if (!item || item->column() != TimesColumn) {
         return;
     }
     const int times = item->text().toInt(nullptr, 10);

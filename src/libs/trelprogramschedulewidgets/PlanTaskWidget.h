@@ -167,6 +167,10 @@ private:
     bool isConfirmed(const char* key);
     void forgetRow(int row);
 
+    /// Enters an editor under its row, for as long as there is the editor.
+    template <typename T>
+    void enterWidget(std::vector<RowWidget<T>>& widgets, int row, T* widget);
+
     std::unique_ptr<PlanTaskForm> m_ui;
     PlanStandardItemModel* m_model = nullptr;
     PlayTask m_task;
@@ -179,6 +183,8 @@ private:
     std::vector<RowWidget<MultiComboBox>> m_weekCombos;
     std::vector<RowWidget<QLabel>> m_conflictLabels;
     std::vector<RowWidget<widgets::ComboBox>> m_endActionCombos;
+    /// Receives the news that an editor is gone. Goes before the editors do.
+    std::unique_ptr<QObject> m_editorWatch = std::make_unique<QObject>();
 };
 
 } // namespace trel::mediadispatch

@@ -8,7 +8,8 @@
 
 namespace trel::mediadispatch {
 
-/// A widget of a plan row, with the number of that row. The table owns the widget.
+/// A widget of a plan row, with the number of that row. The table owns the widget; null once it is
+/// gone.
 template <typename T>
 struct RowWidget
 {
@@ -34,6 +35,17 @@ int rowOfWidget(const std::vector<RowWidget<T>>& widgets, const QObject* widget)
         std::find_if(widgets.begin(), widgets.end(),
                      [widget](const RowWidget<T>& entry) { return entry.widget == widget; });
     return !widget || found == widgets.end() ? -1 : found->row;
+}
+
+/// Takes note that a widget is gone. Its row keeps its entry.
+template <typename T>
+void loseWidget(std::vector<RowWidget<T>>& widgets, const QObject* gone)
+{
+    for (RowWidget<T>& entry : widgets) {
+        if (entry.widget == gone) {
+            entry.widget = nullptr;
+        }
+    }
 }
 
 /// Forgets the widgets of a row and moves those of the rows below it up by one.

@@ -41,7 +41,7 @@ void TimeDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                 const QModelIndex& index) const
 {
     auto* const timeEdit = qobject_cast<QTimeEdit*>(editor);
-    if (!timeEdit) {
+    if (!timeEdit || !model) {
         return;
     }
     const QTime time = timeEdit->time();
@@ -56,7 +56,9 @@ void TimeDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
 void TimeDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
                                         const QModelIndex&) const
 {
-    editor->setGeometry(planEditorRect(option.rect));
+    if (editor) {
+        editor->setGeometry(planEditorRect(option.rect));
+    }
 }
 
 } // namespace trel::mediadispatch

@@ -28,6 +28,7 @@ private slots:
     void initTestCase();
     void findsTheFirstOfARow();
     void findsTheRowOfAWidget();
+    void losesAWidget();
     void dropsARow_data();
     void dropsARow();
     void dropsEveryEntryOfARow();
@@ -63,6 +64,15 @@ void tst_RowWidget::findsTheRowOfAWidget()
     QCOMPARE(rowOfWidget(widgets, &m_b), -1);
     QCOMPARE(rowOfWidget(widgets, nullptr), -1);
     QCOMPARE(rowOfWidget(std::vector<RowWidget<QObject>>(), &m_a), -1);
+}
+
+void tst_RowWidget::losesAWidget()
+{
+    std::vector<RowWidget<QObject>> widgets = {{0, &m_a}, {1, &m_b}, {2, &m_a}};
+    loseWidget(widgets, &m_c);
+    QCOMPARE(text(widgets), QStringLiteral("0:a 1:b 2:a"));
+    loseWidget(widgets, &m_a);
+    QCOMPARE(text(widgets), QStringLiteral("0:- 1:b 2:-"));
 }
 
 void tst_RowWidget::dropsARow_data()
