@@ -17,7 +17,12 @@ ScheduleService& service()
 ScheduleHost::ScheduleHost()
 {
     qRegisterMetaType<StoreResult>();
-    service(); // Made first, so that it goes last.
+    // Made first, so that it goes last.
+    const ScheduleService& shown = service();
+    connect(&shown, &ScheduleService::saveFailed, this, &ScheduleHost::saveFailed);
+    connect(&shown, &ScheduleService::storedSetChanged, this, &ScheduleHost::storedSetChanged);
+    connect(&shown, &ScheduleService::workingSetChanged, this, &ScheduleHost::workingSetChanged);
+    connect(&shown, &ScheduleService::catalogueChanged, this, &ScheduleHost::catalogueChanged);
 }
 
 ScheduleHost::~ScheduleHost() = default;

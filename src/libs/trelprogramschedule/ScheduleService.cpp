@@ -1,16 +1,11 @@
 #include "ScheduleService.h"
 
-#include "service/scheduleManage.h"
-
 #include <cstdlib>
 #include <utility>
 
 namespace trel::mediadispatch {
 
 namespace {
-
-/// Stands for no program in particular.
-constexpr int kAnyProgram = -1;
 
 void closeAtEnd()
 {
@@ -133,14 +128,13 @@ void ScheduleService::announce(const CatalogueChange& change)
 void ScheduleService::tellEverybody(const CatalogueChange& change)
 {
     m_state.inEffect.updatePrograms();
-    scheduleManage& manager = scheduleManage::getInstance();
-    emit manager.sigProgIndexChanged();
+    emit programsChanged();
     if (change.lengths) {
         // Whoever works out its ends anew works out its collisions with them: a second signal for
         // these would only have everything done twice.
-        emit manager.signalUpdatePlanEndTime();
+        emit lengthsChanged();
     }
-    emit ScheduleHost::instance().catalogueChanged();
+    emit catalogueChanged();
 }
 
 StoreResult ScheduleService::readCatalogue()
@@ -169,9 +163,17 @@ StoreResult ScheduleService::save()
     if (result && !edits.isEmpty()) {
         m_state.tasks.commitWorking();
         m_isMarkingDue = true;
-        emit ScheduleHost::instance().storedSetChanged();
+        emit storedSetChanged();
     }
     return result;
+}
+
+void ScheduleService::saveOrTell()
+{
+    const StoreResult result = save();
+    if (!result) {
+        emit saveFailed(result);
+    }
 }
 
 StoreResult ScheduleService::replace(const TaskMap& tasks)
@@ -185,8 +187,8 @@ StoreResult ScheduleService::replace(const TaskMap& tasks)
     m_state.tasks.setStored(std::move(filed));
     m_isMarkingDue = true;
     m_state.tasks.resetWorking();
-    emit ScheduleHost::instance().storedSetChanged();
-    emit scheduleManage::getInstance().signalReflushConflict(kAnyProgram);
+    emit storedSetChanged();
+    emit tasksReplaced();
     // An editor that still shows the former tasks answers with them.
     m_state.tasks.resetWorking();
     return result;
@@ -208,8 +210,8 @@ StoreResult ScheduleService::reload()
     }
     announce(catalogueChange(programs, m_state.catalogue.programs()));
     if (m_state.tasks.stored() != tasks) {
-        emit ScheduleHost::instance().storedSetChanged();
-        emit scheduleManage::getInstance().signalReflushConflict(kAnyProgram);
+        emit storedSetChanged();
+        emit tasksReplaced();
     }
     return result;
 }
@@ -266,12 +268,11 @@ void ScheduleService::noteWorkingSet()
         return;
     }
     m_noticeDue = QCoreApplication::instance();
-    ScheduleHost& host = ScheduleHost::instance();
-    const auto tell = [this, &host] {
+    const auto tell = [this] {
         m_noticeDue.clear();
-        emit host.workingSetChanged();
+        emit workingSetChanged();
     };
-    QMetaObject::invokeMethod(&host, tell, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 ImportResult ScheduleService::addPrograms(const std::vector<MediaSource>& sources)

@@ -3,11 +3,11 @@
 #include "ProgramCatalogue.h"
 #include "ProgramFileWatch.h"
 #include "ScheduleDatabase.h"
-#include "ScheduleHost.h"
 #include "ScheduleInEffect.h"
 #include "TaskSets.h"
 
 #include <QCoreApplication>
+#include <QObject>
 #include <QPointer>
 
 #include <map>
@@ -32,8 +32,12 @@ struct ScheduleState
 ///
 /// Works with no store as well; then nothing can be saved and the catalogue is empty. Emits
 /// nothing while a set or the catalogue is being changed: signals go out once all of it holds.
-class ScheduleService
+// The destructor is private: instance() alone makes the one instance.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
+class ScheduleService : public QObject
 {
+    Q_OBJECT
+
 public:
     static ScheduleService& instance();
 
@@ -48,6 +52,8 @@ public:
     void start();
     /// Commits the working set.
     StoreResult save();
+    /// The same, with saveFailed in the place of a refusal.
+    void saveOrTell();
     /// Commits other tasks and makes them the working set.
     StoreResult replace(const TaskMap& tasks);
     /// Reads catalogue and stored set again; the working set stays.
@@ -67,10 +73,23 @@ public:
     /// Takes programs out, all in one transaction and with one announcement.
     StoreResult removePrograms(const std::vector<int>& progIndexes);
 
+signals:
+    // For the two classes that show the service: each passes on what its own users wait for. What
+    // comes of one change is emitted in the order in which the signals stand here.
+
+    void programsChanged();
+    void lengthsChanged();
+    void catalogueChanged();
+    void storedSetChanged();
+    /// Displays of tasks are to read them again.
+    void tasksReplaced();
+    void workingSetChanged();
+    /// A save that nobody waits for the outcome of was refused.
+    void saveFailed(const trel::mediadispatch::StoreResult& reason);
+
 private:
     ScheduleService() = default;
-    ~ScheduleService() = default;
-    Q_DISABLE_COPY(ScheduleService)
+    ~ScheduleService() override = default;
 
     /// Reads the parts that are asked for into the state.
     StoreResult read(StorePart part);

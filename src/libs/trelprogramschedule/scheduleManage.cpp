@@ -8,6 +8,13 @@
 
 namespace trel::mediadispatch {
 
+namespace {
+
+/// Stands for no program in particular.
+constexpr int kAnyProgram = -1;
+
+} // namespace
+
 class scheduleManage::Private
 {
 public:
@@ -17,7 +24,14 @@ public:
 
 scheduleManage::scheduleManage()
     : d(std::make_unique<Private>())
-{}
+{
+    connect(&d->service, &ScheduleService::programsChanged, this,
+            &scheduleManage::sigProgIndexChanged);
+    connect(&d->service, &ScheduleService::lengthsChanged, this,
+            &scheduleManage::signalUpdatePlanEndTime);
+    connect(&d->service, &ScheduleService::tasksReplaced, this,
+            [this] { emit signalReflushConflict(kAnyProgram); });
+}
 
 scheduleManage::~scheduleManage() = default;
 
@@ -72,10 +86,7 @@ void scheduleManage::deleteTask(int taskId)
 
 void scheduleManage::save()
 {
-    const StoreResult result = d->service.save();
-    if (!result) {
-        emit ScheduleHost::instance().saveFailed(result);
-    }
+    d->service.saveOrTell();
 }
 
 void scheduleManage::slotOpen()
