@@ -100,10 +100,15 @@ void TaskSets::clear()
     m_touched.clear();
 }
 
-void TaskSets::putTask(const PlayTask& task)
+bool TaskSets::putTask(const PlayTask& task)
 {
-    m_working.insert_or_assign(task.id, task);
+    const auto [place, isNew] = m_working.try_emplace(task.id);
+    if (!isNew && place->second == task) {
+        return false;
+    }
+    place->second = task;
     m_touched.insert(task.id);
+    return true;
 }
 
 void TaskSets::removeTask(int taskId)

@@ -43,7 +43,8 @@ public:
     void commitWorking();
     void clear();
 
-    void putTask(const PlayTask& task);
+    /// False, and nothing is copied or touched, when the working set has the task as it is.
+    bool putTask(const PlayTask& task);
     void removeTask(int taskId);
     /// Replaces the first plan with this id, or appends it; nothing without such a task.
     void putPlan(int taskId, const PlayPlan& plan);

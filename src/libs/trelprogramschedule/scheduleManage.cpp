@@ -74,8 +74,10 @@ PlayTask scheduleManage::getTask(int taskId)
 
 void scheduleManage::addTask(const PlayTask& task)
 {
-    d->state.tasks.putTask(task);
-    d->service.noteWorkingSet();
+    // Cards file their whole tasks whenever they work out collisions, mostly as they were.
+    if (d->state.tasks.putTask(task)) {
+        d->service.noteWorkingSet();
+    }
 }
 
 void scheduleManage::deleteTask(int taskId)

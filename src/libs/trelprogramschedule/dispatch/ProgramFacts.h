@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 #include <tuple>
+#include <unordered_map>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -33,7 +34,7 @@ private:
     /// that the catalogue lacks.
     using Fact = std::optional<std::tuple<bool, bool, double>>;
 
-    std::map<int, Fact> m_facts;
+    std::unordered_map<int, Fact> m_facts;
 };
 
 } // namespace trel::mediadispatch

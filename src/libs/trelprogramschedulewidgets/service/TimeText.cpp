@@ -1,5 +1,6 @@
 #include "service/TimeText.h"
 
+#include "service/FixedText.h"
 #include "service/ScheduleRecords.h"
 
 #include <QString>
@@ -7,25 +8,6 @@
 namespace trel::mediadispatch {
 
 namespace {
-
-constexpr std::size_t kTimeLength = 8;
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-bool hasExactFormat(const std::string& text)
-{
-    return text.size() == kTimeLength && isDigit(text[0]) && isDigit(text[1]) && text[2] == ':' &&
-           isDigit(text[3]) && isDigit(text[4]) && text[5] == ':' && isDigit(text[6]) &&
-           isDigit(text[7]);
-}
-
-int twoDigits(const std::string& text, std::size_t position)
-{
-    return (text[position] - '0') * 10 + (text[position + 1] - '0');
-}
 
 void putTwoDigits(std::string& text, std::size_t position, int number)
 {
@@ -38,8 +20,8 @@ void putTwoDigits(std::string& text, std::size_t position, int number)
 QTime timeFromText(const std::string& text)
 {
     // The general reader costs microseconds, and a conflict pass reads every plan of a card.
-    if (hasExactFormat(text)) {
-        const QTime time(twoDigits(text, 0), twoDigits(text, 3), twoDigits(text, 6));
+    if (hasForm(text, "00:00:00")) {
+        const QTime time(digitsAt(text, 0, 2), digitsAt(text, 3, 2), digitsAt(text, 6, 2));
         if (time.isValid()) {
             return time;
         }
