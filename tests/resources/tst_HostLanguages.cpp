@@ -78,7 +78,7 @@ Messages readLanguage(const QString& language)
         QStringLiteral(LANGUAGE_SOURCE_DIR "/host/schedule-editor_%1.ts").arg(language));
 }
 
-/// What stands in the host's code.
+/// What stands in the host's code, and in the one that it shares with the console.
 const Messages& messagesOfTheCode()
 {
     static const Messages messages = [] {
@@ -88,7 +88,7 @@ const Messages& messagesOfTheCode()
         process.start(QStringLiteral(LUPDATE),
                       {QStringLiteral("-silent"), QStringLiteral("-locations"),
                        QStringLiteral("none"), QStringLiteral(HOST_SOURCE_DIR),
-                       QStringLiteral("-ts"), file});
+                       QStringLiteral(COMMON_SOURCE_DIR), QStringLiteral("-ts"), file});
         if (!process.waitForFinished() || process.exitCode() != 0) {
             qFatal("lupdate failed");
         }

@@ -471,6 +471,10 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Plan %1 von Auftrag %2 hat den Bildschirm, aber keines seiner Programme kann laufen.</translation>
     </message>
     <message>
+        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
+        <translation>Plan %1 von Auftrag %2 hat den Bildschirm, aber seine Liste soll weniger als einmal laufen.</translation>
+    </message>
+    <message>
         <source>Plan %1 of task %2 has played its list as often as it should.</source>
         <translation>Plan %1 von Auftrag %2 hat seine Liste so oft gespielt, wie er soll.</translation>
     </message>
@@ -497,18 +501,6 @@ Was soll mit Ihren Änderungen geschehen?</translation>
 </context>
 <context>
     <name>Week</name>
-    <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>Plan %1 läuft nie: Er endet, wie er beginnt, um %2.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>Plan %1 läuft nie: Er beginnt um %2 und endet davor, um %3.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
-        <translation>Plan %1 läuft nie: „%2“ bis „%3“ sind keine Uhrzeiten.</translation>
-    </message>
     <message>
         <source>On screen: %1, %2 into it</source>
         <translation>Auf dem Bildschirm: %1, Stelle %2</translation>
@@ -539,6 +531,10 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>It collides with a plan above it.</source>
         <translation>Er überschneidet sich mit einem Plan darüber.</translation>
+    </message>
+    <message>
+        <source>Its list is over at %1, before the plan ends.</source>
+        <translation>Seine Liste ist um %1 zu Ende, vor dem Plan.</translation>
     </message>
     <message>
         <source>Plan %1, %2 to %3</source>
@@ -632,6 +628,44 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>Which schedule is shown</source>
         <translation>Welcher Plan gezeigt wird</translation>
+    </message>
+</context>
+<context>
+    <name>PlanFaultText</name>
+    <message>
+        <source>Plan %1 never plays: none of its days is a day of the week.</source>
+        <translation>Plan %1 läuft nie: Keiner seiner Tage ist ein Wochentag.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
+        <translation>Plan %1 läuft nie: Sein Beginn „%2“ ist keine Uhrzeit in der Form %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
+        <translation>Plan %1 läuft nie: Sein Ende „%2“ ist keine Uhrzeit in der Form %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
+        <translation>Plan %1 läuft nie: Sein Beginn „%2“ und sein Ende „%3“ sind keine Uhrzeiten in der Form %4.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its list is to run less than once.</source>
+        <translation>Plan %1 läuft nie: Seine Liste soll weniger als einmal laufen.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>Plan %1 läuft nie: Er endet, wie er beginnt, um %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>Plan %1 läuft nie: Er beginnt um %2 und endet davor, um %3.</translation>
+    </message>
+</context>
+<context>
+    <name>ZoneError</name>
+    <message>
+        <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
+        <translation>Das System kennt keine Zeitzone mit dem Namen „%1“, daher ist die Ortszeit nicht bekannt.</translation>
     </message>
 </context>
 </TS>

@@ -471,6 +471,10 @@ What shall become of your changes?</source>
         <translation>El plan %1 de la tarea %2 tiene la pantalla, pero ninguno de sus programas puede reproducirse.</translation>
     </message>
     <message>
+        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
+        <translation>El plan %1 de la tarea %2 tiene la pantalla, pero su lista debe reproducirse menos de una vez.</translation>
+    </message>
+    <message>
         <source>Plan %1 of task %2 has played its list as often as it should.</source>
         <translation>El plan %1 de la tarea %2 ya reprodujo su lista las veces previstas.</translation>
     </message>
@@ -497,18 +501,6 @@ What shall become of your changes?</source>
 </context>
 <context>
     <name>Week</name>
-    <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>El plan %1 nunca se reproduce: termina al empezar, a las %2.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>El plan %1 nunca se reproduce: empieza a las %2 y termina antes, a las %3.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
-        <translation>El plan %1 nunca se reproduce: «%2» a «%3» no son horas.</translation>
-    </message>
     <message>
         <source>On screen: %1, %2 into it</source>
         <translation>En pantalla: %1, en %2</translation>
@@ -539,6 +531,10 @@ What shall become of your changes?</source>
     <message>
         <source>It collides with a plan above it.</source>
         <translation>Choca con un plan que está por encima.</translation>
+    </message>
+    <message>
+        <source>Its list is over at %1, before the plan ends.</source>
+        <translation>Su lista termina a las %1, antes que el plan.</translation>
     </message>
     <message>
         <source>Plan %1, %2 to %3</source>
@@ -632,6 +628,44 @@ What shall become of your changes?</source>
     <message>
         <source>Which schedule is shown</source>
         <translation>Qué programación se muestra</translation>
+    </message>
+</context>
+<context>
+    <name>PlanFaultText</name>
+    <message>
+        <source>Plan %1 never plays: none of its days is a day of the week.</source>
+        <translation>El plan %1 nunca se reproduce: ninguno de sus días es un día de la semana.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
+        <translation>El plan %1 nunca se reproduce: su inicio, «%2», no es una hora con el formato %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
+        <translation>El plan %1 nunca se reproduce: su fin, «%2», no es una hora con el formato %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
+        <translation>El plan %1 nunca se reproduce: su inicio, «%2», y su fin, «%3», no son horas con el formato %4.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its list is to run less than once.</source>
+        <translation>El plan %1 nunca se reproduce: su lista debe reproducirse menos de una vez.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>El plan %1 nunca se reproduce: termina al empezar, a las %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>El plan %1 nunca se reproduce: empieza a las %2 y termina antes, a las %3.</translation>
+    </message>
+</context>
+<context>
+    <name>ZoneError</name>
+    <message>
+        <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
+        <translation>El sistema no conoce ninguna zona horaria llamada «%1», por lo que no se conoce la hora local.</translation>
     </message>
 </context>
 </TS>

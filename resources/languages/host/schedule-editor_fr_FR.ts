@@ -471,6 +471,10 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Le plan %1 de la tâche %2 a l&apos;écran, mais aucun de ses programmes ne peut être joué.</translation>
     </message>
     <message>
+        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
+        <translation>Le plan %1 de la tâche %2 a l&apos;écran, mais sa liste doit être jouée moins d&apos;une fois.</translation>
+    </message>
+    <message>
         <source>Plan %1 of task %2 has played its list as often as it should.</source>
         <translation>Le plan %1 de la tâche %2 a joué sa liste autant de fois que prévu.</translation>
     </message>
@@ -497,18 +501,6 @@ Que faire de vos modifications&#xa0;?</translation>
 </context>
 <context>
     <name>Week</name>
-    <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>Le plan %1 n&apos;est jamais joué : il finit dès qu&apos;il commence, à %2.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>Le plan %1 n&apos;est jamais joué : il commence à %2 et finit avant, à %3.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
-        <translation>Le plan %1 n&apos;est jamais joué : « %2 » à « %3 » ne sont pas des heures.</translation>
-    </message>
     <message>
         <source>On screen: %1, %2 into it</source>
         <translation>À l&apos;écran : %1, à %2</translation>
@@ -539,6 +531,10 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>It collides with a plan above it.</source>
         <translation>Il chevauche un plan au-dessus.</translation>
+    </message>
+    <message>
+        <source>Its list is over at %1, before the plan ends.</source>
+        <translation>Sa liste est finie à %1, avant le plan.</translation>
     </message>
     <message>
         <source>Plan %1, %2 to %3</source>
@@ -632,6 +628,44 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>Which schedule is shown</source>
         <translation>Planning affiché</translation>
+    </message>
+</context>
+<context>
+    <name>PlanFaultText</name>
+    <message>
+        <source>Plan %1 never plays: none of its days is a day of the week.</source>
+        <translation>Le plan %1 n&apos;est jamais joué : aucun de ses jours n&apos;est un jour de la semaine.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
+        <translation>Le plan %1 n&apos;est jamais joué : son début, « %2 », n&apos;est pas une heure de la forme %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
+        <translation>Le plan %1 n&apos;est jamais joué : sa fin, « %2 », n&apos;est pas une heure de la forme %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
+        <translation>Le plan %1 n&apos;est jamais joué : son début, « %2 », et sa fin, « %3 », ne sont pas des heures de la forme %4.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its list is to run less than once.</source>
+        <translation>Le plan %1 n&apos;est jamais joué : sa liste doit être jouée moins d&apos;une fois.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>Le plan %1 n&apos;est jamais joué : il finit dès qu&apos;il commence, à %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>Le plan %1 n&apos;est jamais joué : il commence à %2 et finit avant, à %3.</translation>
+    </message>
+</context>
+<context>
+    <name>ZoneError</name>
+    <message>
+        <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
+        <translation>Le système ne connaît aucun fuseau horaire du nom de « %1 » ; l&apos;heure locale n&apos;est donc pas connue.</translation>
     </message>
 </context>
 </TS>

@@ -468,6 +468,10 @@ What shall become of your changes?</source>
         <translation>タスク %2 のプラン %1 の番ですが、再生できる番組がありません。</translation>
     </message>
     <message>
+        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
+        <translation>タスク %2 のプラン %1 の番ですが、リストの再生回数が 1 回未満です。</translation>
+    </message>
+    <message>
         <source>Plan %1 of task %2 has played its list as often as it should.</source>
         <translation>タスク %2 のプラン %1 はリストを所定の回数再生しました。</translation>
     </message>
@@ -494,18 +498,6 @@ What shall become of your changes?</source>
 </context>
 <context>
     <name>Week</name>
-    <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>プラン %1 は再生されません。開始と終了が同じ %2 です。</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>プラン %1 は再生されません。%2 に始まり、それより前の %3 に終わります。</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
-        <translation>プラン %1 は再生されません。「%2」～「%3」は時刻ではありません。</translation>
-    </message>
     <message>
         <source>On screen: %1, %2 into it</source>
         <translation>画面: %1、%2 経過</translation>
@@ -535,6 +527,10 @@ What shall become of your changes?</source>
     <message>
         <source>It collides with a plan above it.</source>
         <translation>上のプランと重なっています。</translation>
+    </message>
+    <message>
+        <source>Its list is over at %1, before the plan ends.</source>
+        <translation>リストはプランの終了より前の %1 に終わります。</translation>
     </message>
     <message>
         <source>Plan %1, %2 to %3</source>
@@ -628,6 +624,44 @@ What shall become of your changes?</source>
     <message>
         <source>Which schedule is shown</source>
         <translation>表示するスケジュール</translation>
+    </message>
+</context>
+<context>
+    <name>PlanFaultText</name>
+    <message>
+        <source>Plan %1 never plays: none of its days is a day of the week.</source>
+        <translation>プラン %1 は再生されません。指定された曜日がいずれも存在しません。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
+        <translation>プラン %1 は再生されません。開始「%2」は %3 の形式の時刻ではありません。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
+        <translation>プラン %1 は再生されません。終了「%2」は %3 の形式の時刻ではありません。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
+        <translation>プラン %1 は再生されません。開始「%2」と終了「%3」は %4 の形式の時刻ではありません。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its list is to run less than once.</source>
+        <translation>プラン %1 は再生されません。リストの再生回数が 1 回未満です。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>プラン %1 は再生されません。開始と終了が同じ %2 です。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>プラン %1 は再生されません。%2 に始まり、それより前の %3 に終わります。</translation>
+    </message>
+</context>
+<context>
+    <name>ZoneError</name>
+    <message>
+        <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
+        <translation>「%1」という名前のタイムゾーンがシステムにないため、現地時刻がわかりません。</translation>
     </message>
 </context>
 </TS>

@@ -468,6 +468,10 @@ What shall become of your changes?</source>
         <translation>작업 %2의 계획 %1 차례이지만 재생할 수 있는 프로그램이 없습니다.</translation>
     </message>
     <message>
+        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
+        <translation>작업 %2의 계획 %1 차례이지만 목록의 재생 횟수가 1회 미만입니다.</translation>
+    </message>
+    <message>
         <source>Plan %1 of task %2 has played its list as often as it should.</source>
         <translation>작업 %2의 계획 %1은(는) 목록을 정해진 횟수만큼 재생했습니다.</translation>
     </message>
@@ -494,18 +498,6 @@ What shall become of your changes?</source>
 </context>
 <context>
     <name>Week</name>
-    <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>계획 %1은(는) 재생되지 않습니다: 시작과 끝이 %2로 같습니다.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>계획 %1은(는) 재생되지 않습니다: %2에 시작하고 그보다 앞선 %3에 끝납니다.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
-        <translation>계획 %1은(는) 재생되지 않습니다: “%2”~“%3”은(는) 시각이 아닙니다.</translation>
-    </message>
     <message>
         <source>On screen: %1, %2 into it</source>
         <translation>화면: %1, %2 경과</translation>
@@ -535,6 +527,10 @@ What shall become of your changes?</source>
     <message>
         <source>It collides with a plan above it.</source>
         <translation>위의 계획과 겹칩니다.</translation>
+    </message>
+    <message>
+        <source>Its list is over at %1, before the plan ends.</source>
+        <translation>목록은 계획이 끝나기 전인 %1에 끝납니다.</translation>
     </message>
     <message>
         <source>Plan %1, %2 to %3</source>
@@ -628,6 +624,44 @@ What shall become of your changes?</source>
     <message>
         <source>Which schedule is shown</source>
         <translation>표시할 일정</translation>
+    </message>
+</context>
+<context>
+    <name>PlanFaultText</name>
+    <message>
+        <source>Plan %1 never plays: none of its days is a day of the week.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다: 지정된 날 중 요일인 것이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다: 시작 “%2”은(는) %3 형식의 시각이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다: 끝 “%2”은(는) %3 형식의 시각이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다: 시작 “%2”과(와) 끝 “%3”은(는) %4 형식의 시각이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its list is to run less than once.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다: 목록의 재생 횟수가 1회 미만입니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다: 시작과 끝이 %2로 같습니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다: %2에 시작하고 그보다 앞선 %3에 끝납니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ZoneError</name>
+    <message>
+        <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
+        <translation>시스템에 “%1”(이)라는 시간대가 없어 현지 시각을 알 수 없습니다.</translation>
     </message>
 </context>
 </TS>

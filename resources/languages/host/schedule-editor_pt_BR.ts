@@ -471,6 +471,10 @@ O que deseja fazer com as alterações?</translation>
         <translation>O plano %1 da tarefa %2 tem a tela, mas nenhum programa pode ser reproduzido.</translation>
     </message>
     <message>
+        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
+        <translation>O plano %1 da tarefa %2 tem a tela, mas sua lista deve ser reproduzida menos de uma vez.</translation>
+    </message>
+    <message>
         <source>Plan %1 of task %2 has played its list as often as it should.</source>
         <translation>O plano %1 da tarefa %2 já reproduziu sua lista as vezes previstas.</translation>
     </message>
@@ -497,18 +501,6 @@ O que deseja fazer com as alterações?</translation>
 </context>
 <context>
     <name>Week</name>
-    <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>O plano %1 nunca é reproduzido: termina ao começar, às %2.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>O plano %1 nunca é reproduzido: começa às %2 e termina antes, às %3.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
-        <translation>O plano %1 nunca é reproduzido: “%2” a “%3” não são horas.</translation>
-    </message>
     <message>
         <source>On screen: %1, %2 into it</source>
         <translation>Na tela: %1, em %2</translation>
@@ -539,6 +531,10 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>It collides with a plan above it.</source>
         <translation>Conflita com um plano acima.</translation>
+    </message>
+    <message>
+        <source>Its list is over at %1, before the plan ends.</source>
+        <translation>Sua lista termina às %1, antes do plano.</translation>
     </message>
     <message>
         <source>Plan %1, %2 to %3</source>
@@ -632,6 +628,44 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>Which schedule is shown</source>
         <translation>Qual programação é mostrada</translation>
+    </message>
+</context>
+<context>
+    <name>PlanFaultText</name>
+    <message>
+        <source>Plan %1 never plays: none of its days is a day of the week.</source>
+        <translation>O plano %1 nunca é reproduzido: nenhum dos seus dias é um dia da semana.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
+        <translation>O plano %1 nunca é reproduzido: seu início, “%2”, não é uma hora no formato %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
+        <translation>O plano %1 nunca é reproduzido: seu fim, “%2”, não é uma hora no formato %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
+        <translation>O plano %1 nunca é reproduzido: seu início, “%2”, e seu fim, “%3”, não são horas no formato %4.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its list is to run less than once.</source>
+        <translation>O plano %1 nunca é reproduzido: sua lista deve ser reproduzida menos de uma vez.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>O plano %1 nunca é reproduzido: termina ao começar, às %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>O plano %1 nunca é reproduzido: começa às %2 e termina antes, às %3.</translation>
+    </message>
+</context>
+<context>
+    <name>ZoneError</name>
+    <message>
+        <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
+        <translation>O sistema não conhece nenhum fuso horário chamado “%1”; por isso a hora local não é conhecida.</translation>
     </message>
 </context>
 </TS>

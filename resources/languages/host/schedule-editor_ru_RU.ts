@@ -474,6 +474,10 @@ What shall become of your changes?</source>
         <translation>Экран у плана %1 задания %2, но ни одна его программа не может идти.</translation>
     </message>
     <message>
+        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
+        <translation>Экран у плана %1 задания %2, но его список должен идти меньше одного раза.</translation>
+    </message>
+    <message>
         <source>Plan %1 of task %2 has played its list as often as it should.</source>
         <translation>План %1 задания %2 показал список нужное число раз.</translation>
     </message>
@@ -500,18 +504,6 @@ What shall become of your changes?</source>
 </context>
 <context>
     <name>Week</name>
-    <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>План %1 никогда не идёт: он кончается в момент начала, в %2.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>План %1 никогда не идёт: он начинается в %2, а кончается раньше, в %3.</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
-        <translation>План %1 никогда не идёт: «%2» – «%3» не время суток.</translation>
-    </message>
     <message>
         <source>On screen: %1, %2 into it</source>
         <translation>На экране: %1, прошло %2</translation>
@@ -543,6 +535,10 @@ What shall become of your changes?</source>
     <message>
         <source>It collides with a plan above it.</source>
         <translation>Он пересекается с планом выше.</translation>
+    </message>
+    <message>
+        <source>Its list is over at %1, before the plan ends.</source>
+        <translation>Его список заканчивается в %1, раньше плана.</translation>
     </message>
     <message>
         <source>Plan %1, %2 to %3</source>
@@ -636,6 +632,44 @@ What shall become of your changes?</source>
     <message>
         <source>Which schedule is shown</source>
         <translation>Какое расписание показано</translation>
+    </message>
+</context>
+<context>
+    <name>PlanFaultText</name>
+    <message>
+        <source>Plan %1 never plays: none of its days is a day of the week.</source>
+        <translation>План %1 никогда не идёт: ни один из его дней не является днём недели.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
+        <translation>План %1 никогда не идёт: его начало «%2» не является временем вида %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
+        <translation>План %1 никогда не идёт: его конец «%2» не является временем вида %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
+        <translation>План %1 никогда не идёт: его начало «%2» и конец «%3» не являются временем вида %4.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its list is to run less than once.</source>
+        <translation>План %1 никогда не идёт: его список должен идти меньше одного раза.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>План %1 никогда не идёт: он кончается в момент начала, в %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>План %1 никогда не идёт: он начинается в %2, а кончается раньше, в %3.</translation>
+    </message>
+</context>
+<context>
+    <name>ZoneError</name>
+    <message>
+        <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
+        <translation>Система не знает часового пояса с именем «%1», поэтому местное время неизвестно.</translation>
     </message>
 </context>
 </TS>

@@ -468,6 +468,10 @@ What shall become of your changes?</source>
         <translation>屏幕归任务 %2 的计划 %1，但其节目都无法播放。</translation>
     </message>
     <message>
+        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
+        <translation>屏幕归任务 %2 的计划 %1，但其列表的播放次数不足一次。</translation>
+    </message>
+    <message>
         <source>Plan %1 of task %2 has played its list as often as it should.</source>
         <translation>任务 %2 的计划 %1 已按次数播完列表。</translation>
     </message>
@@ -494,18 +498,6 @@ What shall become of your changes?</source>
 </context>
 <context>
     <name>Week</name>
-    <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>计划 %1 从不播放：开始与结束同为 %2。</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>计划 %1 从不播放：%2 开始，却在此前的 %3 结束。</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
-        <translation>计划 %1 从不播放：“%2”至“%3”不是时间。</translation>
-    </message>
     <message>
         <source>On screen: %1, %2 into it</source>
         <translation>屏幕：%1，已播 %2</translation>
@@ -535,6 +527,10 @@ What shall become of your changes?</source>
     <message>
         <source>It collides with a plan above it.</source>
         <translation>它与上面的计划冲突。</translation>
+    </message>
+    <message>
+        <source>Its list is over at %1, before the plan ends.</source>
+        <translation>其列表在计划结束之前的 %1 就已播完。</translation>
     </message>
     <message>
         <source>Plan %1, %2 to %3</source>
@@ -628,6 +624,44 @@ What shall become of your changes?</source>
     <message>
         <source>Which schedule is shown</source>
         <translation>显示哪个排期</translation>
+    </message>
+</context>
+<context>
+    <name>PlanFaultText</name>
+    <message>
+        <source>Plan %1 never plays: none of its days is a day of the week.</source>
+        <translation>计划 %1 从不播放：其日期都不是一周中的某一天。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
+        <translation>计划 %1 从不播放：开始“%2”不是 %3 格式的时间。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
+        <translation>计划 %1 从不播放：结束“%2”不是 %3 格式的时间。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
+        <translation>计划 %1 从不播放：开始“%2”与结束“%3”都不是 %4 格式的时间。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its list is to run less than once.</source>
+        <translation>计划 %1 从不播放：其列表的播放次数不足一次。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>计划 %1 从不播放：开始与结束同为 %2。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>计划 %1 从不播放：%2 开始，却在此前的 %3 结束。</translation>
+    </message>
+</context>
+<context>
+    <name>ZoneError</name>
+    <message>
+        <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
+        <translation>系统中没有名为“%1”的时区，因此无法得知当地时间。</translation>
     </message>
 </context>
 </TS>

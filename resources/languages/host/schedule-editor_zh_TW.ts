@@ -468,6 +468,10 @@ What shall become of your changes?</source>
         <translation>螢幕歸任務 %2 的計畫 %1，但其節目都無法播放。</translation>
     </message>
     <message>
+        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
+        <translation>螢幕歸任務 %2 的計畫 %1，但其清單的播放次數不足一次。</translation>
+    </message>
+    <message>
         <source>Plan %1 of task %2 has played its list as often as it should.</source>
         <translation>任務 %2 的計畫 %1 已按次數播完清單。</translation>
     </message>
@@ -494,18 +498,6 @@ What shall become of your changes?</source>
 </context>
 <context>
     <name>Week</name>
-    <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>計畫 %1 從不播放：開始與結束同為 %2。</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>計畫 %1 從不播放：%2 開始，卻在此前的 %3 結束。</translation>
-    </message>
-    <message>
-        <source>Plan %1 never plays: “%2” to “%3” are no times of day.</source>
-        <translation>計畫 %1 從不播放：「%2」至「%3」不是時間。</translation>
-    </message>
     <message>
         <source>On screen: %1, %2 into it</source>
         <translation>螢幕：%1，已播 %2</translation>
@@ -535,6 +527,10 @@ What shall become of your changes?</source>
     <message>
         <source>It collides with a plan above it.</source>
         <translation>它與上面的計畫衝突。</translation>
+    </message>
+    <message>
+        <source>Its list is over at %1, before the plan ends.</source>
+        <translation>其清單在計畫結束之前的 %1 就已播完。</translation>
     </message>
     <message>
         <source>Plan %1, %2 to %3</source>
@@ -628,6 +624,44 @@ What shall become of your changes?</source>
     <message>
         <source>Which schedule is shown</source>
         <translation>顯示哪個排程</translation>
+    </message>
+</context>
+<context>
+    <name>PlanFaultText</name>
+    <message>
+        <source>Plan %1 never plays: none of its days is a day of the week.</source>
+        <translation>計畫 %1 從不播放：其日期都不是一週中的某一天。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
+        <translation>計畫 %1 從不播放：開始「%2」不是 %3 格式的時間。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
+        <translation>計畫 %1 從不播放：結束「%2」不是 %3 格式的時間。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
+        <translation>計畫 %1 從不播放：開始「%2」與結束「%3」都不是 %4 格式的時間。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: its list is to run less than once.</source>
+        <translation>計畫 %1 從不播放：其清單的播放次數不足一次。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
+        <translation>計畫 %1 從不播放：開始與結束同為 %2。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <translation>計畫 %1 從不播放：%2 開始，卻在此前的 %3 結束。</translation>
+    </message>
+</context>
+<context>
+    <name>ZoneError</name>
+    <message>
+        <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
+        <translation>系統中沒有名為「%1」的時區，因此無法得知當地時間。</translation>
     </message>
 </context>
 </TS>

@@ -1,10 +1,12 @@
 #include "EditorApplication.h"
 
 #include "EditorWindow.h"
+#include "HostPrompts.h"
 #include "Languages.h"
 #include "SaveRescue.h"
 #include "ScheduleSummary.h"
 #include "common/DefaultDatabase.h"
+#include "common/ZoneError.h"
 #include "look/ThemeImages.h"
 #include "look/Themes.h"
 #include "scheduleControlUI.h"
@@ -120,6 +122,16 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     QObject::connect(&languages, &Languages::changed, &settings, [&settings, &languages] {
         settings.setValue(kLanguageSetting, languages.current());
     });
+
+    const QString zoneError = ZoneError::sentence();
+    if (!zoneError.isEmpty()) {
+        if (unattended) {
+            QTextStream(stderr) << zoneError << Qt::endl;
+        } else {
+            prompts::notice(zoneError);
+        }
+        return 1;
+    }
 
     EditorWindow window(editor, languages, themes);
     const SaveRescue rescue(ScheduleHost::instance(), &window);

@@ -49,7 +49,8 @@ with an earlier plan of its task is marked.)",
   - the tasks whose periods overlap: the editor refuses to save them,
   - the plans that collide with an earlier plan of their task,
   - remarks: dates and times that are not in their form, periods that end
-    before they begin.
+    before they begin, days, modes and end actions that are none, lists that
+    run less than once.
 
 The exit status is 0 when there are neither overlaps nor collisions, and 1
 otherwise. Remarks do not count.)",

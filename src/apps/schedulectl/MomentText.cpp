@@ -5,6 +5,7 @@
 #include <QTime>
 
 using trel::mediadispatch::Instant;
+using trel::mediadispatch::LocalClock;
 
 namespace {
 
@@ -132,7 +133,13 @@ private:
             !number(2, 0, mostMinutes, QStringLiteral("minutes of an offset"), minutes)) {
             return false;
         }
-        const int size = (hours * kMinutesPerHour + minutes) * kSecondsPerMinute;
+        int seconds = 0;
+        const int mostSeconds = mostMinutes == 0 ? 0 : kSecondsPerMinute - 1;
+        if (take(':') &&
+            !number(2, 0, mostSeconds, QStringLiteral("seconds of an offset"), seconds)) {
+            return false;
+        }
+        const int size = (hours * kMinutesPerHour + minutes) * kSecondsPerMinute + seconds;
         m_parts.offset = isAhead ? size : -size;
         return true;
     }

@@ -1,7 +1,11 @@
 #include "ScheduleCheck.h"
 
 #include "DisplayText.h"
+#include "ScheduleWords.h"
+#include "common/PlanFaultText.h"
+#include "service/DateText.h"
 #include "service/PlanConflicts.h"
+#include "service/TimeText.h"
 
 #include <QDate>
 #include <QTime>
@@ -23,16 +27,21 @@ int firstCollidingRow(const std::vector<PlanClaim>& claims, std::size_t row)
     return -1;
 }
 
-bool isDate(const std::string& text)
+/// Whether a `weeks` text is what a card writes: numbers from 0 to 7 with commas between.
+bool isListOfDays(const std::string& weeks)
 {
-    const QDate date = QDate::fromString(QString::fromStdString(text), kDateFormat);
-    return date.isValid() && date.toString(kDateFormat).toStdString() == text;
-}
-
-bool isTime(const std::string& text)
-{
-    const QTime time = QTime::fromString(QString::fromStdString(text), kTimeFormat);
-    return time.isValid() && time.toString(kTimeFormat).toStdString() == text;
+    if (weeks.empty()) {
+        return true;
+    }
+    bool isDayNext = true;
+    for (const char c : weeks) {
+        const bool isDay = c >= '0' && c < '0' + WeekDayCount;
+        if (isDayNext ? !isDay : c != ',') {
+            return false;
+        }
+        isDayNext = !isDayNext;
+    }
+    return !isDayNext;
 }
 
 /// Gathers the remarks of one task after the other.
@@ -57,6 +66,9 @@ public:
             ++m_row;
             expectTime(QStringLiteral("startTime"), plan.startTime);
             expectTime(QStringLiteral("endTime"), plan.endTime);
+            expectDays(plan);
+            expectMode(plan);
+            expectEndAction(plan);
         }
     }
 
@@ -65,18 +77,74 @@ private:
 
     bool expectDate(const QString& field, const std::string& text)
     {
-        return isDate(text) ||
+        const std::string taken = dateToText(dateFromText(text));
+        return (!text.empty() && taken == text) ||
                remark(
                    field,
-                   QStringLiteral("%1 is not a date in the form %2").arg(shown(text), kDateFormat));
+                   QStringLiteral("%1 is not a date in the form %2").arg(shown(text), kDateFormat) +
+                       takenText(taken));
     }
 
     bool expectTime(const QString& field, const std::string& text)
     {
-        return isTime(text) ||
+        const std::string taken = timeToText(timeFromText(text));
+        return (!text.empty() && taken == text) ||
                remark(
                    field,
-                   QStringLiteral("%1 is not a time in the form %2").arg(shown(text), kTimeFormat));
+                   QStringLiteral("%1 is not a time in the form %2").arg(shown(text), kTimeFormat) +
+                       takenText(taken));
+    }
+
+    /// Collisions and overlaps compare texts; what is on screen, and the cards, read them.
+    static QString takenText(const std::string& taken)
+    {
+        return taken.empty() ? QString()
+                             : QStringLiteral("; the screen takes it for %1, but what collides is "
+                                              "found by the text as it is")
+                                   .arg(QString::fromStdString(taken));
+    }
+
+    void expectDays(const PlayPlan& plan)
+    {
+        if (!namesAnyDay(plan.weeks)) {
+            remark(QStringLiteral("weeks"), faultText(PlanFault::NoDay, plan));
+        } else if (!isListOfDays(plan.weeks)) {
+            remark(QStringLiteral("weeks"),
+                   QStringLiteral("%1 is not a list of days from 0 to 7; it counts as %2")
+                       .arg(shown(plan.weeks), daysText(plan.weeks)));
+        }
+    }
+
+    void expectMode(const PlayPlan& plan)
+    {
+        if (plan.mode != TimeMode && plan.mode != FrequencyMode) {
+            remark(
+                QStringLiteral("mode"),
+                QStringLiteral("%1 is neither 0 nor 1; the list runs as often as with 1, and the "
+                               "end is the one that is set, as with 0")
+                    .arg(plan.mode));
+        }
+        if (runsLessThanOnce(plan)) {
+            remark(QStringLiteral("times"), faultText(PlanFault::RunsLessThanOnce, plan));
+        }
+    }
+
+    void expectEndAction(const PlayPlan& plan)
+    {
+        if (plan.endAction != BlackScreen && plan.endAction != FreezeCurrentFrame) {
+            remark(QStringLiteral("endAction"),
+                   QStringLiteral("%1 is neither 0 nor 1; the last frame stays, as with 1")
+                       .arg(plan.endAction));
+        }
+    }
+
+    static QString faultText(PlanFault fault, const PlayPlan& plan)
+    {
+        QString text = PlanFaultText::sentence(fault, plan.id, printable(plan.startTime),
+                                               printable(plan.endTime));
+        // Remarks are no sentences of their own.
+        text.chop(1);
+        return text;
     }
 
     bool remark(const QString& field, const QString& sentence)

@@ -1,6 +1,7 @@
 #include "ScheduleWords.h"
 
 #include "DisplayText.h"
+#include "service/PlanFaults.h"
 #include "service/ProgramText.h"
 #include "service/WeekDays.h"
 
@@ -46,20 +47,16 @@ QString daysText(const std::string& weeks)
 
 QString playsText(const PlayPlan& plan)
 {
-    return plan.mode == FrequencyMode ? counted(plan.times, QStringLiteral("time"))
-                                      : QStringLiteral("until the end");
+    if (!countsRuns(plan)) {
+        return QStringLiteral("until the end");
+    }
+    return runsLessThanOnce(plan) ? QStringLiteral("less than once")
+                                  : counted(plan.times, QStringLiteral("time"));
 }
 
 QString endActionText(int endAction)
 {
-    switch (endAction) {
-    case BlackScreen:
-        return QStringLiteral("black screen");
-    case FreezeCurrentFrame:
-        return QStringLiteral("last frame");
-    default:
-        return QString::number(endAction);
-    }
+    return endAction == BlackScreen ? QStringLiteral("black screen") : QStringLiteral("last frame");
 }
 
 QString kindText(ProgramKind kind)

@@ -15,9 +15,10 @@ QString daysText(const std::string& weeks);
 /// A day of the week by its number, such as "Mon".
 QString dayText(int day);
 
-/// How often a plan plays: "3 times" in FrequencyMode, "until the end" otherwise.
+/// How often a plan plays: "until the end" in TimeMode, "3 times" or "less than once" otherwise.
 QString playsText(const trel::mediadispatch::PlayPlan& plan);
 
+/// What stays of a plan; every number but that of the black screen leaves the last frame.
 QString endActionText(int endAction);
 
 QString kindText(trel::mediadispatch::ProgramKind kind);

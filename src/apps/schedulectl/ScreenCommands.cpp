@@ -8,6 +8,7 @@
 #include "StoredScreen.h"
 #include "TimelineReport.h"
 #include "VerdictReport.h"
+#include "common/ZoneError.h"
 #include "service/Clock.h"
 #include "trelprogramschedule/ShownAddress.h"
 
@@ -15,47 +16,62 @@ using namespace trel::mediadispatch;
 
 namespace {
 
-void writeTimelineText(const StoredScreen& screen, Instant from, Instant to, bool hasPlays,
-                       Console& console)
+/// Hands every line of a list to a report, until the user has gone.
+template <typename Report>
+void writeLines(const StoredScreen& screen, Instant from, Instant to, TimelineReport::Lines lines,
+                Report& report, const Console& console)
 {
-    using Lines = TimelineReport::Lines;
-    TimelineReport report(console, screen.words(), hasPlays ? Lines::Plays : Lines::Spans);
-    report.writeTitles();
-    const auto write = [&](const ScreenState& state) {
-        report.write(state);
-        return console.arrives();
-    };
-    if (hasPlays) {
-        screen.timeline().visitPlays(from, to, {}, write);
+    const ScreenTimeline& timeline = screen.timeline();
+    if (lines == TimelineReport::Lines::Plays) {
+        timeline.visitPlays(from, to, {}, [&](const ScreenState& state) {
+            report.write(state, {});
+            return console.arrives();
+        });
     } else {
-        screen.timeline().visitSpans(from, to, {}, write);
+        timeline.visitSpans(from, to, {}, [&](const ScreenState& state) {
+            report.write(state, timeline.afterList(state, {}));
+            return console.arrives();
+        });
     }
 }
 
-void writeTimelineJson(const StoredScreen& screen, Instant from, Instant to, bool hasPlays,
-                       QJsonObject head, Console& console)
+void writeTimelineText(const StoredScreen& screen, Instant from, Instant to,
+                       TimelineReport::Lines lines, Console& console)
 {
-    TimelineJson report(console, screen.words());
+    TimelineReport report(console, screen.words(), lines);
+    report.writeTitles();
+    writeLines(screen, from, to, lines, report, console);
+}
+
+void writeTimelineJson(const StoredScreen& screen, Instant from, Instant to,
+                       TimelineReport::Lines lines, QJsonObject head, Console& console)
+{
+    TimelineJson report(console, screen.words(), lines);
     head.insert(QStringLiteral("from"), screen.words().jsonMoment(from));
     head.insert(QStringLiteral("to"), screen.words().jsonMoment(to));
-    const auto write = [&](const ScreenState& state) {
-        report.write(state);
-        return console.arrives();
-    };
-    if (hasPlays) {
-        report.begin(head, QStringLiteral("plays"));
-        screen.timeline().visitPlays(from, to, {}, write);
-    } else {
-        report.begin(head, QStringLiteral("spans"));
-        screen.timeline().visitSpans(from, to, {}, write);
-    }
+    report.begin(head, lines == TimelineReport::Lines::Plays ? QStringLiteral("plays")
+                                                             : QStringLiteral("spans"));
+    writeLines(screen, from, to, lines, report, console);
     report.end();
+}
+
+/// False, and the user is told why, where the local time is not known.
+bool knowsLocalTime(Console& console)
+{
+    const QString error = ZoneError::sentence();
+    if (!error.isEmpty()) {
+        console.tell(error);
+    }
+    return error.isEmpty();
 }
 
 /// Does with the screen what a command does at the moment of its option "--at".
 template <typename Work>
 ExitStatus atMoment(const Invocation& invocation, Console& console, const Work& work)
 {
+    if (!knowsLocalTime(console)) {
+        return Refused;
+    }
     const LocalClock local(Clock::current().zone());
     const auto moment = momentOption(invocation, "--at", local, DateAlone::Refused, console);
     if (!moment) {
@@ -113,6 +129,9 @@ ExitStatus runNow(const Invocation& invocation, Console& console)
 
 ExitStatus runTimeline(const Invocation& invocation, Console& console)
 {
+    if (!knowsLocalTime(console)) {
+        return Refused;
+    }
     const LocalClock local(Clock::current().zone());
     const auto from = momentOption(invocation, "--from", local, DateAlone::StartOfDay, console);
     const auto to = momentOption(invocation, "--to", local, DateAlone::StartOfDay, console);
@@ -130,12 +149,13 @@ ExitStatus runTimeline(const Invocation& invocation, Console& console)
         return Refused;
     }
     const StoredScreen screen(*database, local);
-    const bool hasPlays = invocation.has("--plays");
+    const auto lines =
+        invocation.has("--plays") ? TimelineReport::Lines::Plays : TimelineReport::Lines::Spans;
     if (invocation.json) {
-        writeTimelineJson(screen, *from, *to, hasPlays,
+        writeTimelineJson(screen, *from, *to, lines,
                           {{QStringLiteral("database"), database->path()}}, console);
     } else {
-        writeTimelineText(screen, *from, *to, hasPlays, console);
+        writeTimelineText(screen, *from, *to, lines, console);
     }
     return Done;
 }
@@ -166,6 +186,9 @@ ExitStatus runWhy(const Invocation& invocation, Console& console)
 
 ExitStatus runSchedule(const Invocation& invocation, Console& console)
 {
+    if (!knowsLocalTime(console)) {
+        return Refused;
+    }
     const auto database = openDatabase(invocation, Database::Access::Read, console);
     if (!database) {
         return Refused;

@@ -1,6 +1,7 @@
 #include "ScreenWords.h"
 
 #include "DisplayText.h"
+#include "service/PlanFaults.h"
 
 using namespace trel::mediadispatch;
 
@@ -79,9 +80,8 @@ QString ScreenWords::reasonText(const ScreenState& state) const
     case ScreenReason::PlanPlays:
         return QStringLiteral("The first plan that claims this time is %1.").arg(row);
     case ScreenReason::PlanHasNothing:
-        return QStringLiteral("The first plan that claims this time is %1, but none of its "
-                              "entries can play.")
-            .arg(row);
+        return QStringLiteral("The first plan that claims this time is %1, but %2.")
+            .arg(row, nothingText(state));
     case ScreenReason::PlanRanOut:
         return QStringLiteral("The first plan that claims this time is %1; its list has run as "
                               "often as it should, and left %2.")
@@ -164,6 +164,14 @@ const ProgramIten* ScreenWords::program(int progIndex) const
 {
     const auto found = m_source.programs.find(progIndex);
     return found == m_source.programs.end() ? nullptr : &found->second;
+}
+
+QString ScreenWords::nothingText(const ScreenState& state) const
+{
+    const PlayPlan* const shown = plan(state);
+    return shown != nullptr && runsLessThanOnce(*shown)
+               ? QStringLiteral("its list is to run less than once")
+               : QStringLiteral("none of its entries can play");
 }
 
 QString ScreenWords::leftText(const ScreenState& state) const

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "LocalClock.h"
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule/dispatch/LocalClock.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
 
 #include <QJsonObject>
@@ -15,7 +15,7 @@ struct ScreenSource
 {
     const std::map<int, trel::mediadispatch::PlayTask>& tasks;
     const std::map<int, trel::mediadispatch::ProgramIten>& programs;
-    const LocalClock& local;
+    const trel::mediadispatch::LocalClock& local;
 };
 
 /// The words and the JSON form of what is on screen. Rows, entries, plays and runs count from 1
@@ -29,6 +29,8 @@ public:
     QString pictureText(const trel::mediadispatch::ScreenState& state) const;
     /// The rule behind it, as a sentence.
     QString reasonText(const trel::mediadispatch::ScreenState& state) const;
+    /// What keeps a plan that has the screen from playing anything.
+    QString nothingText(const trel::mediadispatch::ScreenState& state) const;
     /// "task 1, row 2, plan 4"
     static QString planText(int taskId, int row, int planId);
     /// Printable.

@@ -2,9 +2,9 @@
 
 #include "Command.h"
 #include "Database.h"
-#include "LocalClock.h"
 #include "MomentText.h"
 #include "ScreenWords.h"
+#include "trelprogramschedule/dispatch/LocalClock.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
 
 #include <map>
@@ -17,7 +17,7 @@ class StoredScreen
 {
 public:
     /// The clock has to live on.
-    StoredScreen(const Database& database, const LocalClock& local);
+    StoredScreen(const Database& database, const trel::mediadispatch::LocalClock& local);
     Q_DISABLE_COPY(StoredScreen)
 
     const trel::mediadispatch::ScreenTimeline& timeline() const { return m_timeline; }
@@ -34,7 +34,6 @@ private:
 
 /// The moment that an option names, or now where the option is not given. None, and the user is
 /// told why, where it names none.
-std::optional<trel::mediadispatch::Instant> momentOption(const Invocation& invocation,
-                                                         const char* option,
-                                                         const LocalClock& local,
-                                                         DateAlone dateAlone, Console& console);
+std::optional<trel::mediadispatch::Instant>
+momentOption(const Invocation& invocation, const char* option,
+             const trel::mediadispatch::LocalClock& local, DateAlone dateAlone, Console& console);

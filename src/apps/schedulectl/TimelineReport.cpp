@@ -46,7 +46,7 @@ void TimelineReport::writeTitles()
     m_console.writeLine(line + QStringLiteral("  Screen"));
 }
 
-void TimelineReport::write(const ScreenState& state)
+void TimelineReport::write(const ScreenState& state, const std::optional<ScreenState>& after)
 {
     const LocalClock& local = m_words.source().local;
     const int width = m_lines == Lines::Plays ? kExactMomentWidth : kMomentWidth;
@@ -64,19 +64,24 @@ void TimelineReport::write(const ScreenState& state)
                 number(countText(plays ? state.play : -1)) +
                 number(countText(plays ? state.run : -1));
     }
-    m_console.writeLine(line + QStringLiteral("  ") + contentText(state));
+    m_console.writeLine(line + QStringLiteral("  ") + contentText(state, after));
 }
 
-QString TimelineReport::contentText(const ScreenState& state)
+QString TimelineReport::contentText(const ScreenState& state,
+                                    const std::optional<ScreenState>& after)
 {
     if (m_lines == Lines::Spans && state.isPlaying()) {
-        return QStringLiteral("plays ") + listText(state);
+        const QString text = QStringLiteral("plays ") + listText(state);
+        return after ? QStringLiteral("%1 until %2, then %3")
+                           .arg(text, m_words.untilText(after->since, state.since),
+                                m_words.pictureText(*after))
+                     : text;
     }
     QString text = m_words.pictureText(state);
     if (state.reason == ScreenReason::PlanHasNothing) {
-        text += QStringLiteral(", since no entry can play");
+        text += QStringLiteral(", since ") + m_words.nothingText(state);
     } else if (state.reason == ScreenReason::PlanRanOut) {
-        text += QStringLiteral(", since the list has run out");
+        text += QStringLiteral(", since its list has run as often as it should");
     }
     return text;
 }
@@ -91,9 +96,10 @@ QString TimelineReport::listText(const ScreenState& state)
     return place->second;
 }
 
-TimelineJson::TimelineJson(Console& console, const ScreenWords& words)
+TimelineJson::TimelineJson(Console& console, const ScreenWords& words, TimelineReport::Lines lines)
     : m_console(console)
     , m_words(words)
+    , m_lines(lines)
 {}
 
 void TimelineJson::begin(const QJsonObject& head, const QString& listName)
@@ -103,10 +109,15 @@ void TimelineJson::begin(const QJsonObject& head, const QString& listName)
     m_console.write(text + ",\n    \"" + listName.toUtf8() + "\": [");
 }
 
-void TimelineJson::write(const ScreenState& state)
+void TimelineJson::write(const ScreenState& state, const std::optional<ScreenState>& after)
 {
+    QJsonObject object = m_words.json(state);
+    if (m_lines == TimelineReport::Lines::Spans) {
+        object.insert(QStringLiteral("listUntil"),
+                      m_words.jsonMoment(after ? after->since : kNever));
+    }
     m_console.write((m_isFirst ? QByteArray("\n        ") : QByteArray(",\n        ")) +
-                    QJsonDocument(m_words.json(state)).toJson(QJsonDocument::Compact));
+                    QJsonDocument(object).toJson(QJsonDocument::Compact));
     m_isFirst = false;
 }
 

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <map>
+#include <optional>
 #include <utility>
 
 class Console;
@@ -22,11 +23,14 @@ public:
     TimelineReport(Console& console, const ScreenWords& words, Lines lines);
 
     void writeTitles();
-    void write(const trel::mediadispatch::ScreenState& state);
+    /// `after` is what the screen shows once the list of a span is over, if that comes within it.
+    void write(const trel::mediadispatch::ScreenState& state,
+               const std::optional<trel::mediadispatch::ScreenState>& after);
 
 private:
     QString listText(const trel::mediadispatch::ScreenState& state);
-    QString contentText(const trel::mediadispatch::ScreenState& state);
+    QString contentText(const trel::mediadispatch::ScreenState& state,
+                        const std::optional<trel::mediadispatch::ScreenState>& after);
 
     Console& m_console;
     const ScreenWords& m_words;
@@ -38,15 +42,17 @@ private:
 class TimelineJson
 {
 public:
-    TimelineJson(Console& console, const ScreenWords& words);
+    TimelineJson(Console& console, const ScreenWords& words, TimelineReport::Lines lines);
 
     /// Begins with the members that stand before the list.
     void begin(const QJsonObject& head, const QString& listName);
-    void write(const trel::mediadispatch::ScreenState& state);
+    void write(const trel::mediadispatch::ScreenState& state,
+               const std::optional<trel::mediadispatch::ScreenState>& after);
     void end();
 
 private:
     Console& m_console;
     const ScreenWords& m_words;
+    TimelineReport::Lines m_lines;
     bool m_isFirst = true;
 };

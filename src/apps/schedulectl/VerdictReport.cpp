@@ -3,6 +3,8 @@
 #include "DisplayText.h"
 #include "ProgramReport.h"
 #include "ScheduleWords.h"
+#include "common/PlanFaultText.h"
+#include "service/DateText.h"
 
 #include <QJsonArray>
 
@@ -79,24 +81,19 @@ public:
             return QStringLiteral("It plays, as entry %1, until %2.")
                 .arg(QString::number(m_verdict.entry + 1), until(m_screen.until));
         case VerdictRule::TaskNotValid:
-            return QStringLiteral("The task is not valid on %1; its period is %2.")
-                .arg(day().toString(Qt::ISODate), periodText(m_task));
+            return periodSentence();
         case VerdictRule::OtherTask:
             return QStringLiteral("Task %1 has the day: it is valid too, and of a lower number.")
                 .arg(m_verdict.otherTaskId);
         case VerdictRule::OtherWeekday:
-            return QStringLiteral("The plan does not run on %1, only on %2.")
-                .arg(dayText(day().dayOfWeek()), daysText(m_plan.weeks));
+            return namesAnyDay(m_plan.weeks)
+                       ? QStringLiteral("The plan does not run on %1, only on %2.")
+                             .arg(dayText(day().dayOfWeek()), daysText(m_plan.weeks))
+                       : faultText(PlanFault::NoDay);
         case VerdictRule::SpanUnreadable:
-            return QStringLiteral("The plan has no span: its start %1 and its end %2 are not both "
-                                  "times in the form %3.")
-                .arg(quoted(start()), quoted(end()), kTimeFormat);
         case VerdictRule::SpanEmpty:
-            return QStringLiteral("The plan has an empty span: it ends as it starts, at %1.")
-                .arg(start());
         case VerdictRule::SpanInverted:
-            return QStringLiteral("The plan has an inverted span: it starts at %1 and ends at %2.")
-                .arg(start(), end());
+            return faultText(planFault(m_plan, m_verdict.end));
         case VerdictRule::NotYet:
             return QStringLiteral("The plan's span, %1, is still to come that day.").arg(span());
         case VerdictRule::Over:
@@ -128,7 +125,7 @@ private:
         case VerdictRule::NoPlays:
             return QStringLiteral("Entry %1 is to play less than once.").arg(entry);
         case VerdictRule::NoRuns:
-            return QStringLiteral("The list is to run less than once.");
+            return faultText(PlanFault::RunsLessThanOnce);
         case VerdictRule::RanOut:
             return QStringLiteral("The list has run as often as it should, %1, and does not play "
                                   "any more until %2.")
@@ -141,6 +138,33 @@ private:
         default:
             return turnSentence();
         }
+    }
+
+    QString faultText(PlanFault fault) const
+    {
+        return PlanFaultText::sentence(fault, m_verdict.planId, start(), end());
+    }
+
+    QString periodSentence() const
+    {
+        const QDate first = dateFromText(m_task.startDate);
+        const QDate last = dateFromText(m_task.endDate);
+        const auto unreadable = [](const QString& name, const std::string& date) {
+            return QStringLiteral("The task is never valid: its %1 date, %2, is not a date in the "
+                                  "form %3.")
+                .arg(name, quoted(QString::fromStdString(date)), kDateFormat);
+        };
+        if (!first.isValid()) {
+            return unreadable(QStringLiteral("start"), m_task.startDate);
+        }
+        if (!last.isValid()) {
+            return unreadable(QStringLiteral("end"), m_task.endDate);
+        }
+        return last < first ? QStringLiteral("The task is never valid: its end date, %1, lies "
+                                             "before the start date, %2.")
+                                  .arg(printable(m_task.endDate), printable(m_task.startDate))
+                            : QStringLiteral("The task is not valid on %1; its period is %2.")
+                                  .arg(day().toString(Qt::ISODate), periodText(m_task));
     }
 
     QString turnSentence() const

@@ -2,6 +2,7 @@
 #include "screen/PreviewScreen.h"
 #include "service/DateText.h"
 #include "support/ChooserAnswer.h"
+#include "support/PlanRecords.h"
 #include "support/TestClock.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
 
@@ -28,6 +29,8 @@ class tst_DispatchRun : public QObject
 private slots:
     void fromTheStartToTheOriginal();
     void timeIsToldOnlyWhileSomebodyLooks();
+    void theEveningThatComesTwice();
+    void aListThatRunsLessThanOnce();
     void thePreviewFillsAScreenAndComesBack();
 
 private:
@@ -49,6 +52,20 @@ private:
         const PlayTask task = run.manager.getgTaskMap().at(1);
         const QDate first = dateFromText(task.startDate);
         return first.addDays((Qt::Monday + 7 - first.dayOfWeek()) % 7);
+    }
+    /// One plan late in the evening, of a program of the demonstration; its list runs no times.
+    static void putIntoEffect(EditorRun& run, int mode)
+    {
+        PlayPlan plan = timePlan(1, "23:00:00", "23:40:00");
+        plan.mode = mode;
+        plan.times = 0;
+        plan.programs = {entry(run.manager.getPrograms().begin()->first)};
+        PlayTask task = taskWithPlans({plan});
+        task.startDate = "2010.11.01";
+        task.endDate = "2010.11.30";
+        QVERIFY(run.host.replaceSchedule({{1, task}}));
+        run.manager.slotOpen();
+        run.window.show();
     }
     /// Lets the play on screen end.
     static void playOn(TestClock& clock, const EditorRun& run)
@@ -133,6 +150,39 @@ void tst_DispatchRun::fromTheStartToTheOriginal()
     run.themes.select(QStringLiteral("light"));
     run.picture(run.window, QStringLiteral("6-original-light"));
     run.themes.select(QStringLiteral("dark"));
+}
+
+void tst_DispatchRun::theEveningThatComesTwice()
+{
+    const QTimeZone zone("America/St_Johns");
+    const QDateTime first(QDate(2010, 11, 6), QTime(23, 30), zone);
+    TestClock clock(QDateTime::fromMSecsSinceEpoch(1289095200000, zone));
+    QCOMPARE(clock.now().time(), first.time());
+    EditorRun run(QStringLiteral("dispatch"), QStringLiteral("en_US"));
+    putIntoEffect(run, TimeMode);
+    QVERIFY2(text(run, "nowPlan")
+                 .startsWith(QLatin1String("Task 1, plan 1, until 23:40:00 -02:30, 10:00 left")),
+             qPrintable(text(run, "nowPlan")));
+    clock.advance(3600 * 1000);
+    QVERIFY2(text(run, "nowPlan")
+                 .startsWith(QLatin1String("Task 1, plan 1, until 23:40:00 -03:30, 10:00 left")),
+             qPrintable(text(run, "nowPlan")));
+    clock.advance(10 * 60 * 1000);
+    QCOMPARE(text(run, "nextTime"), QStringLiteral("at 23:00:00 -03:30, in 23:20:00"));
+    clock.advance(24 * 3600 * 1000);
+    QVERIFY2(text(run, "nextTime").startsWith(QLatin1String("at 23:00:00, in ")),
+             qPrintable(text(run, "nextTime")));
+}
+
+void tst_DispatchRun::aListThatRunsLessThanOnce()
+{
+    TestClock clock(QDateTime(QDate(2010, 11, 8), QTime(23, 30)));
+    EditorRun run(QStringLiteral("dispatch"), QStringLiteral("en_US"));
+    constexpr int noMode = 7;
+    putIntoEffect(run, noMode);
+    QCOMPARE(text(run, "nowReason"),
+             QStringLiteral("Plan 1 of task 1 has the screen, but its list is to run less than "
+                            "once."));
 }
 
 void tst_DispatchRun::timeIsToldOnlyWhileSomebodyLooks()

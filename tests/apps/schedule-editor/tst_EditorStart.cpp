@@ -19,6 +19,7 @@ private slots:
     void theWindowIsPaintedWhenItsPartsAreInTheirPlaces();
     void aPanelTakenOutMeanwhileIsPaintedToo();
     void theProgramLoadsNoLibraryThatItDoesNotNeed();
+    void anUnknownZoneIsAnError();
 
 private:
     /// Counts how often a widget is painted.
@@ -133,6 +134,27 @@ void tst_EditorStart::theProgramLoadsNoLibraryThatItDoesNotNeed()
     for (const char* name : {"libav", "libsw", "trelmedia", "libqsvgicon"}) {
         QVERIFY2(!files.contains(name), name);
     }
+}
+
+void tst_EditorStart::anUnknownZoneIsAnError()
+{
+    const QTemporaryDir folder;
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TZ"), QStringLiteral("Nowhere/Land"));
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.path());
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(EDITOR),
+                  {QStringLiteral("--language"), QStringLiteral("en_US"),
+                   QStringLiteral("--database"), folder.filePath(QStringLiteral("new.db"))});
+    QVERIFY(process.waitForFinished(120000));
+    QCOMPARE(process.exitCode(), 1);
+    const QString said = QString::fromUtf8(process.readAllStandardError());
+    QVERIFY2(said.endsWith(
+                 QStringLiteral("The system knows no time zone of the name “Nowhere/Land”, so that "
+                                "the local time is not known.\n")),
+             qPrintable(said));
+    QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("new.db"))));
 }
 
 QTEST_MAIN(tst_EditorStart)

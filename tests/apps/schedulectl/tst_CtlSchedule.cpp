@@ -185,7 +185,11 @@ void tst_CtlSchedule::showTakesNumbersAsTheyAre()
     QCOMPARE(result.status, 0);
     QCOMPARE(result.lines().first(), QStringLiteral("Task -5: 2024.01.01 \u2013 2024.01.31"));
     QVERIFY(result.text().contains(QStringLiteral(" day 8,day -2,Wed ")));
-    QVERIFY(result.text().contains(QStringLiteral(" -7 ")));
+    // What they count as on screen; the numbers themselves are for programs.
+    QVERIFY(result.text().contains(QStringLiteral(" 1 time  last frame ")));
+    const QByteArray json = m_fixture->onDatabase({kShow, QStringLiteral("--json")}).out;
+    QVERIFY(json.contains("\"mode\": 7,"));
+    QVERIFY(json.contains("\"endAction\": -7,"));
 }
 
 void tst_CtlSchedule::checkFindsNothing()

@@ -2,7 +2,9 @@
 
 #include <QtTest>
 
+using trel::mediadispatch::isDated;
 using trel::mediadispatch::kNever;
+using trel::mediadispatch::LocalClock;
 
 namespace {
 
@@ -59,6 +61,7 @@ void tst_MomentText::read_data()
     row("2024-07-31T08:00+05:30", "2024-07-31 02:30:00.000");
     row("2024-07-31T08:00+0530", "2024-07-31 02:30:00.000");
     row("2024-07-31T08:00-03", "2024-07-31 11:00:00.000");
+    row("2024-07-31 08:00:00 -03:30:52", "2024-07-31 11:30:52.000");
     row("2024-07-31 08:00:00 -09:30", "2024-07-31 17:30:00.000");
     row("2024-07-31 08:00 +14:00", "2024-07-30 18:00:00.000");
     row("08:30", "2024-06-15 06:30:00.000");
@@ -131,6 +134,8 @@ void tst_MomentText::places_data()
     row("2024-02-29 08:00+1", 18, "hours of an offset from 00 to 14");
     row("2024-02-29 08:00+15", 18, "hours of an offset from 00 to 14");
     row("2024-02-29 08:00+14:30", 21, "minutes of an offset from 00 to 00");
+    row("2024-02-29 08:00+01:00:60", 24, "seconds of an offset from 00 to 59");
+    row("2024-02-29 08:00+14:00:01", 24, "seconds of an offset from 00 to 00");
     row("2024-02-29 08:00+01:", 21, "minutes of an offset from 00 to 59");
     row("2024-02-29 08:00+01:00Z", 23, "the end");
     row("08:3", 4, "minutes from 00 to 59");

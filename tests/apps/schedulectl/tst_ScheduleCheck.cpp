@@ -81,6 +81,8 @@ private slots:
     void endsAreWorkedOutFromTheCatalogue();
     void overlapsAreListed();
     void remarksNameTaskRowAndField();
+    void remarksNameWhatCannotPlay();
+    void remarksNameWhatIsTakenForSomethingElse();
     void remarksDoNotSpoilACheck();
     void emptyScheduleIsClean();
 };
@@ -156,6 +158,48 @@ void tst_ScheduleCheck::remarksNameTaskRowAndField()
             QStringLiteral("5/-1 startDate: \"\" is not a date in the form yyyy.MM.dd"),
             QStringLiteral("5/-1 endDate: \"\" is not a date in the form yyyy.MM.dd"),
         }));
+}
+
+void tst_ScheduleCheck::remarksNameWhatCannotPlay()
+{
+    PlayPlan ofAnotherMode = runs(5, "10:00:00", -1, "11:00:00");
+    ofAnotherMode.mode = 7;
+    ofAnotherMode.endAction = 9;
+    QCOMPARE(
+        remarks(checkSchedule(oneTask({plan(4, "08:00:00", "09:00:00", "8"),
+                                       runs(6, "09:00:00", 0, "09:00:00"), ofAnotherMode}),
+                              catalogue())),
+        (QStringList{
+            QStringLiteral("3/0 weeks: Plan 4 never plays: none of its days is a day of the week"),
+            QStringLiteral("3/1 times: Plan 6 never plays: its list is to run less than once"),
+            QStringLiteral("3/2 mode: 7 is neither 0 nor 1; the list runs as often as with 1, and "
+                           "the end is the one that is set, as with 0"),
+            QStringLiteral("3/2 times: Plan 5 never plays: its list is to run less than once"),
+            QStringLiteral("3/2 endAction: 9 is neither 0 nor 1; the last frame stays, as with 1"),
+        }));
+}
+
+void tst_ScheduleCheck::remarksNameWhatIsTakenForSomethingElse()
+{
+    std::map<int, PlayTask> tasks =
+        oneTask({plan(1, "+8:00:00", "09:00:00", "abc"), plan(2, "09:00:00", "10:00:00", "1;2"),
+                 plan(3, "10:00:00", "11:00:00", "1,8"), plan(4, "11:00:00", "12:00:00", "0,7,1")});
+    tasks[3].startDate = "2024.+1.02";
+    QCOMPARE(remarks(checkSchedule(tasks, catalogue())),
+             (QStringList{
+                 QStringLiteral("3/-1 startDate: \"2024.+1.02\" is not a date in the form "
+                                "yyyy.MM.dd; the screen takes it for 2024.01.02, but what collides "
+                                "is found by the text as it is"),
+                 QStringLiteral("3/0 startTime: \"+8:00:00\" is not a time in the form hh:mm:ss; "
+                                "the screen takes it for 08:00:00, but what collides is found by "
+                                "the text as it is"),
+                 QStringLiteral("3/0 weeks: \"abc\" is not a list of days from 0 to 7; it counts "
+                                "as every day"),
+                 QStringLiteral("3/1 weeks: \"1;2\" is not a list of days from 0 to 7; it counts "
+                                "as Mon"),
+                 QStringLiteral("3/2 weeks: \"1,8\" is not a list of days from 0 to 7; it counts "
+                                "as Mon,day 8"),
+             }));
 }
 
 void tst_ScheduleCheck::remarksDoNotSpoilACheck()

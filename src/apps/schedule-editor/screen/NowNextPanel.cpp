@@ -163,7 +163,7 @@ void NowNextPanel::showScreen()
     m_picture->setVisible(isRunning);
     m_inserted->setVisible(now.state.isInserted());
     m_program->setText(isRunning ? ScreenWords::program(now) : tr("Not started"));
-    m_reason->setText(ScreenWords::reason(now.state));
+    m_reason->setText(ScreenWords::reason(now.state, &now.plan));
     setOptional(m_entry, ScreenWords::entry(now));
     m_bar->setVisible(isPlaying);
     m_gone->setVisible(isPlaying);
@@ -186,12 +186,11 @@ void NowNextPanel::showTimes()
     const std::optional<qint64> planToCome = m_follower.planRemaining();
     const bool hasPlan = now.state.reason != ScreenReason::PlanEnded;
     const QString plan = ScreenWords::plan(now);
-    setOptional(m_plan,
-                plan.isEmpty() || !planToCome || !hasPlan
-                    ? plan
-                    : tr("%1, until %2, %3 left")
-                          .arg(plan, m_follower.local(now.state.spanUntil).toString(kTimeFormat),
-                               ScreenWords::toCome(*planToCome)));
+    setOptional(m_plan, plan.isEmpty() || !planToCome || !hasPlan
+                            ? plan
+                            : tr("%1, until %2, %3 left")
+                                  .arg(plan, m_follower.timeText(now.state.spanUntil),
+                                       ScreenWords::toCome(*planToCome)));
     showNextTime();
 }
 
@@ -219,7 +218,7 @@ void NowNextPanel::showNextTime()
         return;
     }
     const QDateTime moment = m_follower.local(until);
-    const QString time = moment.toString(kTimeFormat);
+    const QString time = m_follower.timeText(until);
     m_nextTime->setVisible(true);
     m_nextTime->setText(*toCome < kDay ? tr("at %1, in %2").arg(time, ScreenWords::toCome(*toCome))
                                        : tr("on %1 at %2").arg(moment.toString(kDateFormat), time));

@@ -4,6 +4,7 @@
 #include "service/ClockAlarm.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/dispatch/LocalClock.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
 
@@ -59,6 +60,10 @@ bool ScreenFollower::isRunning() const
 void ScreenFollower::update()
 {
     m_at = Clock::current().msecsSinceEpoch();
+    const QTimeZone zone = local(m_at).timeZone();
+    if (!m_clock || m_clock->zone() != zone) {
+        m_clock = std::make_unique<LocalClock>(zone);
+    }
     m_now = sceneOf(m_dispatch.state(), m_at);
     m_next.reset();
     const Instant until = m_now.state.until;
@@ -108,6 +113,11 @@ std::optional<qint64> ScreenFollower::timeTo(Instant moment) const
 QDateTime ScreenFollower::local(Instant moment) const
 {
     return m_dispatch.timeline().local(moment);
+}
+
+QString ScreenFollower::timeText(Instant moment) const
+{
+    return local(moment).toString(kTimeFormat) + m_clock->offsetMark(moment);
 }
 
 std::optional<ScreenInsertion> ScreenFollower::insertionAt(Instant moment) const

@@ -13,6 +13,7 @@
 
 namespace trel::mediadispatch {
 class ClockAlarm;
+class LocalClock;
 class ScreenDispatch;
 } // namespace trel::mediadispatch
 
@@ -56,6 +57,8 @@ public:
 
     /// What the local clock shows at a moment.
     QDateTime local(trel::mediadispatch::Instant moment) const;
+    /// Its time of day in kTimeFormat, with the offset on days that may have a time twice.
+    QString timeText(trel::mediadispatch::Instant moment) const;
     /// The insertion that has the screen at a moment; none where the rules have it.
     std::optional<trel::mediadispatch::ScreenInsertion>
     insertionAt(trel::mediadispatch::Instant moment) const;
@@ -78,6 +81,7 @@ private:
     void tick();
 
     trel::mediadispatch::ScreenDispatch& m_dispatch;
+    std::unique_ptr<trel::mediadispatch::LocalClock> m_clock; ///< That of the schedule in effect.
     ScreenScene m_now;
     std::optional<ScreenScene> m_next;
     trel::mediadispatch::Instant m_at = 0; ///< The moment that m_now is of.

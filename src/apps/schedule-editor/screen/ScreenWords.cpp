@@ -1,6 +1,7 @@
 #include "screen/ScreenWords.h"
 
 #include "screen/ScreenFollower.h"
+#include "service/PlanFaults.h"
 
 #include <QStringList>
 
@@ -76,7 +77,7 @@ QString ScreenWords::plan(const ScreenScene& scene)
                              : tr("Task %1, plan %2").arg(state.taskId).arg(state.planId);
 }
 
-QString ScreenWords::reason(const ScreenState& state)
+QString ScreenWords::reason(const ScreenState& state, const PlayPlan* plan)
 {
     const auto ofPlan = [&state](const QString& sentence) {
         return sentence.arg(state.planId).arg(state.taskId);
@@ -89,6 +90,10 @@ QString ScreenWords::reason(const ScreenState& state)
     case ScreenReason::PlanPlays:
         return ofPlan(tr("Of the plans for this time of day, plan %1 of task %2 comes first."));
     case ScreenReason::PlanHasNothing:
+        if (plan != nullptr && runsLessThanOnce(*plan)) {
+            return ofPlan(tr("Plan %1 of task %2 has the screen, but its list is to run less than "
+                             "once."));
+        }
         return ofPlan(tr("Plan %1 of task %2 has the screen, but none of its programs can play."));
     case ScreenReason::PlanRanOut:
         return ofPlan(tr("Plan %1 of task %2 has played its list as often as it should."));

@@ -30,8 +30,10 @@ public:
     static QString entry(const ScreenScene& scene);
     /// "Task 1, plan 2"; empty where no plan has or had the screen.
     static QString plan(const ScreenScene& scene);
-    /// The rule that makes the screen show what it does, as a sentence.
-    static QString reason(const trel::mediadispatch::ScreenState& state);
+    /// The rule that makes the screen show what it does, as a sentence. The plan is the one that
+    /// has the screen; null where none has.
+    static QString reason(const trel::mediadispatch::ScreenState& state,
+                          const trel::mediadispatch::PlayPlan* plan);
     /// The names of a list in their order, with the number of plays where it is not one.
     static QString list(const std::vector<trel::mediadispatch::struProgInfo>& programs);
     /// The list that was cut in and the one in whose place it stands, in rows.

@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+using trel::mediadispatch::PlanFault;
+
 namespace week {
 
 namespace {
@@ -187,7 +189,7 @@ void paintSelection(QPainter& painter, const WeekScene& scene, int day, const QR
         return;
     }
     const WeekBlock* block = column.blockOf(scene.selected->row);
-    if (block == nullptr || block->never != NeverPlays::No) {
+    if (block == nullptr || block->never != PlanFault::None) {
         return;
     }
     const QColor colour = scene.hasFocus ? scene.colours.text : scene.colours.faintText;
@@ -244,7 +246,7 @@ void paintMarks(QPainter& painter, const WeekScene& scene, int day, const QRect&
     const WeekColumn& column = scene.layout.days[static_cast<std::size_t>(day)];
     for (const WeekBlock& block : column.blocks) {
         const QRect rect = scene.geometry.mark(day, block.from);
-        if (block.never == NeverPlays::No || !rect.intersects(exposed)) {
+        if (block.never == PlanFault::None || !rect.intersects(exposed)) {
             continue;
         }
         const bool isSelected =

@@ -32,7 +32,7 @@ WeekHit hitAt(const WeekLayout& layout, const WeekGeometry& geometry, const QPoi
     hit.second = geometry.secondAt(place.y());
     const WeekColumn& column = layout.days[static_cast<std::size_t>(hit.day)];
     for (const WeekBlock& block : column.blocks) {
-        if (block.never != NeverPlays::No && geometry.mark(hit.day, block.from).contains(place)) {
+        if (block.never != PlanFault::None && geometry.mark(hit.day, block.from).contains(place)) {
             hit.marks.push_back(&block);
         }
     }
@@ -62,7 +62,7 @@ WeekHit hitOf(const WeekLayout& layout, int day, const WeekBlock& block)
     hit.day = day;
     hit.second = block.from;
     const WeekColumn& column = layout.days[static_cast<std::size_t>(day)];
-    if (block.never != NeverPlays::No) {
+    if (block.never != PlanFault::None) {
         hit.marks.push_back(&block);
     } else {
         hit.block = &block;
@@ -84,7 +84,7 @@ WeekHit hitOf(const WeekLayout& layout, int day, const WeekBlock& block)
 QRect placeOf(const WeekHit& hit, const WeekGeometry& geometry)
 {
     const WeekBlock& block = *hit.target();
-    if (block.never != NeverPlays::No) {
+    if (block.never != PlanFault::None) {
         return geometry.mark(hit.day, block.from);
     }
     return hit.piece != nullptr ? geometry.piece(hit.day, *hit.piece)

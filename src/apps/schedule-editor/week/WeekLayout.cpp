@@ -5,6 +5,7 @@
 #include "service/ProgramText.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
+#include "trelprogramschedule/dispatch/ScreenPlan.h"
 
 #include <QTime>
 
@@ -92,6 +93,9 @@ private:
         for (std::size_t i = 0; i < named; ++i) {
             block.programs.append(QString::fromStdString(nameOf(catalogue, plan.programs[i])));
         }
+        // One without a day of the week stands on no day.
+        block.never = planFault(plan, claim.end);
+        block.listOver = listOverAt(plan, claim.end, catalogue);
         setSpan(block, timeFromText(claim.start), timeFromText(claim.end));
         return block;
     }
@@ -102,11 +106,7 @@ private:
             block.from = secondOf(start);
             block.to = block.from;
         }
-        if (!start.isValid() || !end.isValid()) {
-            block.never = NeverPlays::UnreadableTime;
-        } else if (end <= start) {
-            block.never = end < start ? NeverPlays::InvertedSpan : NeverPlays::EmptySpan;
-        } else {
+        if (block.never == PlanFault::None) {
             block.to = secondOf(end);
         }
     }
@@ -149,7 +149,7 @@ DayLanes lanesOf(const WeekColumn& day)
     std::vector<int> blocks;
     for (std::size_t i = 0; i < day.blocks.size(); ++i) {
         const WeekBlock& block = day.blocks[i];
-        if (block.never == NeverPlays::No) {
+        if (block.never == PlanFault::None) {
             claims.push_back({block.row, block.from, block.to});
             blocks.push_back(static_cast<int>(i));
         }

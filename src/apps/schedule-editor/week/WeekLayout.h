@@ -1,5 +1,6 @@
 #pragma once
 
+#include "service/PlanFaults.h"
 #include "service/ScheduleRecords.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
 #include "week/DayPieces.h"
@@ -18,14 +19,6 @@ namespace week {
 
 inline constexpr int kDays = 7;
 
-/// Why a plan never has the screen, whatever stands above it.
-enum class NeverPlays {
-    No,
-    EmptySpan,     ///< It ends as it starts.
-    InvertedSpan,  ///< It ends before it starts.
-    UnreadableTime ///< Its start or end is no time of day.
-};
-
 /// What one plan claims of one day. One that never plays is marked where it starts.
 struct WeekBlock
 {
@@ -33,7 +26,9 @@ struct WeekBlock
     int row = -1;
     int from = 0; ///< Seconds since midnight.
     int to = 0;
-    NeverPlays never = NeverPlays::No;
+    trel::mediadispatch::PlanFault never = trel::mediadispatch::PlanFault::None;
+    /// The second of the day in which its list is over before the plan ends.
+    std::optional<int> listOver;
     bool collides = false;   ///< With a plan above it.
     bool hasNothing = false; ///< None of its programs can be shown.
     QString start;           ///< As the plan says.

@@ -1,6 +1,8 @@
 #include "week/WeekReasons.h"
 
+#include "common/PlanFaultText.h"
 #include "screen/ScreenWords.h"
+#include "trelprogramschedule/dispatch/LocalClock.h"
 #include "week/WeekHit.h"
 #include "week/WeekSchedule.h"
 #include "week/WeekWords.h"
@@ -32,24 +34,22 @@ QString whatText(const WeekSchedule& schedule, const ScreenState& state)
 
 QString neverText(const WeekBlock& block)
 {
-    const int number = block.planId;
-    switch (block.never) {
-    case NeverPlays::EmptySpan:
-        return Words::tr("Plan %1 never plays: it ends as it starts, at %2.")
-            .arg(number)
-            .arg(block.start);
-    case NeverPlays::InvertedSpan:
-        return Words::tr("Plan %1 never plays: it starts at %2 and ends before, at %3.")
-            .arg(number)
-            .arg(block.start, block.end);
-    case NeverPlays::UnreadableTime:
-        return Words::tr("Plan %1 never plays: “%2” to “%3” are no times of day.")
-            .arg(number)
-            .arg(shortened(block.start), shortened(block.end));
-    case NeverPlays::No:
-        break;
-    }
-    return QString();
+    return PlanFaultText::sentence(block.never, block.planId, shortened(block.start),
+                                   shortened(block.end));
+}
+
+/// "Wednesday, 6 March 2024, 08:00", with the offset on days that may have a time twice.
+QString momentText(const WeekSchedule& schedule, const WeekLayout& layout, const WeekHit& hit,
+                   const QLocale& locale)
+{
+    const QDate date = layout.days[static_cast<std::size_t>(hit.day)].date;
+    const bool isLeftOut = hit.change != nullptr && hit.change->isLeftOut();
+    const QString mark = isLeftOut
+                             ? QString()
+                             : LocalClock(schedule.zone())
+                                   .offsetMark(layout.clock.instant(hit.day, hit.second, hit.pass));
+    return QStringLiteral("%1, %2").arg(locale.toString(date, QLocale::LongFormat),
+                                        shortTime(hit.second) + mark);
 }
 
 QString changeText(const ClockChange& change)
@@ -71,6 +71,10 @@ void addBlock(QStringList& lines, const WeekColumn& column, const WeekHit& hit)
         return;
     }
     lines.append(blockText(*hit.block));
+    if (hit.block->listOver) {
+        lines.append(Words::tr("Its list is over at %1, before the plan ends.")
+                         .arg(shortTime(*hit.block->listOver)));
+    }
     const WeekBlock* holder = column.holderAt(hit.second);
     if (holder != nullptr && holder != hit.block) {
         lines.append(
@@ -85,7 +89,7 @@ void addBlock(QStringList& lines, const WeekColumn& column, const WeekHit& hit)
 
 QString blockText(const WeekBlock& block)
 {
-    if (block.never != NeverPlays::No) {
+    if (block.never != PlanFault::None) {
         return neverText(block);
     }
     QString text = Words::tr("Plan %1, %2 to %3")
@@ -101,15 +105,14 @@ QString reasonText(const WeekSchedule& schedule, const WeekLayout& layout, const
                    const QLocale& locale)
 {
     const WeekColumn& column = layout.days[static_cast<std::size_t>(hit.day)];
-    QStringList lines{QStringLiteral("%1, %2").arg(
-        locale.toString(column.date, QLocale::LongFormat), shortTime(hit.second))};
+    QStringList lines{momentText(schedule, layout, hit, locale)};
     if (hit.change != nullptr) {
         lines.append(changeText(*hit.change));
     }
     if (hit.change == nullptr || !hit.change->isLeftOut()) {
         const ScreenState state = schedule.at(layout.clock.instant(hit.day, hit.second, hit.pass));
         lines.append(whatText(schedule, state));
-        lines.append(ScreenWords::reason(state));
+        lines.append(ScreenWords::reason(state, schedule.plan(state)));
     }
     if (!column.task) {
         lines.append(Words::tr("No task is valid on this day."));

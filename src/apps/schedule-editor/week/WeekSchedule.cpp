@@ -1,5 +1,6 @@
 #include "week/WeekSchedule.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace trel::mediadispatch;
@@ -30,6 +31,15 @@ WeekLayout WeekSchedule::layout(const QDate& first) const
 ScreenState WeekSchedule::at(Instant moment) const
 {
     return m_timeline.at(moment, m_insertions);
+}
+
+const PlayPlan* WeekSchedule::plan(const ScreenState& state) const
+{
+    const auto task = m_tasks.find(state.taskId);
+    const auto row = static_cast<std::size_t>(std::max(state.planRow, 0));
+    const bool isThere =
+        task != m_tasks.end() && state.planRow >= 0 && row < task->second.plans.size();
+    return isThere ? &task->second.plans[row] : nullptr;
 }
 
 QString WeekSchedule::program(int progIndex) const

@@ -25,6 +25,8 @@ public:
     WeekLayout layout(const QDate& first) const;
     /// What is on screen at an instant.
     trel::mediadispatch::ScreenState at(trel::mediadispatch::Instant moment) const;
+    /// The plan that a state speaks of; null where it speaks of none of the tasks.
+    const trel::mediadispatch::PlayPlan* plan(const trel::mediadispatch::ScreenState& state) const;
     /// The name of a program; empty when it is not known.
     QString program(int progIndex) const;
 

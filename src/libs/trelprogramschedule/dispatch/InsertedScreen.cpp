@@ -46,4 +46,11 @@ Instant InsertedScreen::nextPlay(Instant moment, const SoughtPlay& sought) const
     return shown ? m_begins + millisecondsUp(*shown) : kNever;
 }
 
+Instant InsertedScreen::listOver() const
+{
+    const Microseconds length = m_list.length();
+    const Instant over = length == kEndless ? kNever : m_begins + millisecondsUp(length);
+    return over < m_ends ? over : kNever;
+}
+
 } // namespace trel::mediadispatch

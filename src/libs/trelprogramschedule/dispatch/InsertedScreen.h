@@ -27,6 +27,9 @@ public:
     /// it does not while it has the screen.
     Instant nextPlay(Instant moment, const SoughtPlay& sought) const;
 
+    /// When its list has run as often as it should, if it has the screen by then; kNever otherwise.
+    Instant listOver() const;
+
 private:
     ScreenState m_owner;
     PlayList m_list;

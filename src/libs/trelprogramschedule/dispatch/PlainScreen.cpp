@@ -126,6 +126,19 @@ Instant PlainScreen::nextTaken(Instant moment) const
     return nextHeld(heldAt(moment) ? at(moment).state.spanUntil : moment);
 }
 
+Instant PlainScreen::listOver(Instant moment) const
+{
+    for (auto part = heldAt(moment); part; part = partAfter(*part)) {
+        const Microseconds length = part->span.plan->list.length();
+        const Instant over =
+            length == kEndless ? kNever : std::max(part->begin, part->reaches(length));
+        if (over < part->end) {
+            return over;
+        }
+    }
+    return kNever;
+}
+
 ScreenShown PlainScreen::at(Instant moment) const
 {
     const std::optional<Held> part = heldAt(moment);

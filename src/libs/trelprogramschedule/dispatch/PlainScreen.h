@@ -29,6 +29,10 @@ public:
     /// PlaySearch looks at, it grows with the changes of the clock that leave out what it finds.
     Instant nextPlay(Instant moment, const SoughtPlay& sought) const;
 
+    /// When the list that a plan plays at a moment has run as often as it should, if it has the
+    /// screen by then; kNever where it plays for as long as it has.
+    Instant listOver(Instant moment) const;
+
 private:
     /// A span in which a plan has the screen, as far as it lies within one piece of the clock.
     struct Held

@@ -2,6 +2,7 @@
 
 #include "service/DateText.h"
 #include "service/PlanConflicts.h"
+#include "service/PlanFaults.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
@@ -81,7 +82,7 @@ public:
         } else if (m_screen.isPlaying() && m_screen.progIndex == m_progIndex) {
             verdict.rule = VerdictRule::Plays;
             verdict.entry = m_screen.entry;
-        } else if (plan.mode != TimeMode && plan.times < 1) {
+        } else if (runsLessThanOnce(plan)) {
             verdict.rule = VerdictRule::NoRuns;
         } else if (!m_screen.isPlaying()) {
             verdict.rule = VerdictRule::RanOut;

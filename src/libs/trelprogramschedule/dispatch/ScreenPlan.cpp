@@ -1,6 +1,7 @@
 #include "ScreenPlan.h"
 
 #include "service/PlanConflicts.h"
+#include "service/PlanFaults.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
 
@@ -42,10 +43,21 @@ ClaimedSpan claimedSpan(const PlanClaim& claim)
 
 } // namespace
 
-// A mode that nobody has heard of reads as FrequencyMode on a card, and runs as one.
 qint64 runsOf(const PlayPlan& plan)
 {
-    return plan.mode == TimeMode ? PlayList::kRepeated : plan.times;
+    return countsRuns(plan) ? plan.times : PlayList::kRepeated;
+}
+
+std::optional<int> listOverAt(const PlayPlan& plan, const std::string& end,
+                              const std::map<int, ProgramIten>& catalogue)
+{
+    constexpr Microseconds second = 1'000'000;
+    const ClaimedSpan claim = claimedSpan({plan.startTime, end, plan.weeks});
+    const PlayList list(plan.programs, catalogue, runsOf(plan));
+    const Microseconds length = list.length();
+    const bool isOver = !list.isEmpty() && length <= (claim.end - claim.begin) * second - second;
+    return isOver ? std::make_optional(claim.begin + static_cast<int>(length / second))
+                  : std::nullopt;
 }
 
 std::vector<ScreenPlan> screenPlans(const std::vector<PlayPlan>& plans,

@@ -6,6 +6,8 @@
 #include "trelprogramschedule/dispatch/TaskDays.h"
 
 #include <map>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -28,5 +30,10 @@ std::vector<ScreenPlan> screenPlans(const std::vector<PlayPlan>& plans,
 
 /// How often its list runs.
 qint64 runsOf(const PlayPlan& plan);
+
+/// The second of the day in which the list of a plan is over before the plan ends, in force at
+/// `end`; nothing where it lasts that long, repeats, or has nothing to play.
+Q_DECL_EXPORT std::optional<int> listOverAt(const PlayPlan& plan, const std::string& end,
+                                            const std::map<int, ProgramIten>& catalogue);
 
 } // namespace trel::mediadispatch

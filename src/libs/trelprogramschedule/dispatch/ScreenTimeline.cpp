@@ -105,6 +105,16 @@ public:
         return kNever;
     }
 
+    Instant listOver(Instant moment, const Inserted& inserted) const
+    {
+        for (const InsertedScreen& insertion : inserted) {
+            if (insertion.hasScreenAt(moment)) {
+                return insertion.listOver();
+            }
+        }
+        return plain.listOver(moment);
+    }
+
     Instant endOf(const ScreenInsertion& insertion) const
     {
         return insertion.plan.serviceFlagB ? endOfOneRun(insertion) : endOfSpan(insertion);
@@ -183,6 +193,17 @@ std::optional<ScreenState> ScreenTimeline::nextPlay(Instant from, Instant to,
     const Private::Inserted inserted = d->inserted(insertions);
     const Instant found = d->nextPlay(withinReach(from), to, inserted, sought);
     return found == kNever ? std::nullopt : std::make_optional(d->at(found, inserted).state);
+}
+
+std::optional<ScreenState> ScreenTimeline::afterList(const ScreenState& state,
+                                                     const ScreenInsertions& insertions) const
+{
+    if (!state.isPlaying()) {
+        return std::nullopt;
+    }
+    const Private::Inserted inserted = d->inserted(insertions);
+    const Instant over = d->listOver(state.since, inserted);
+    return over < state.spanUntil ? std::make_optional(d->at(over, inserted).state) : std::nullopt;
 }
 
 ScreenInsertions ScreenTimeline::withInsertion(ScreenInsertions current, ScreenInsertion request,

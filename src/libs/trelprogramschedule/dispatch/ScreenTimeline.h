@@ -69,6 +69,12 @@ public:
                                         const ScreenInsertions& insertions,
                                         const SoughtPlay& sought) const;
 
+    /// What the screen shows once the list is over that it plays in a state of this timeline, where
+    /// the plan, or the insertion, has the screen by then; nothing where it plays for as long as
+    /// that. Its `since` tells when the list is over.
+    std::optional<ScreenState> afterList(const ScreenState& state,
+                                         const ScreenInsertions& insertions) const;
+
     /// The insertions as they stand once a plan in effect is cut in at a moment: at once or, when
     /// delayed, as soon as the play then on screen has ended. Of those before, the one that has the
     /// screen ends when the new one begins, and the others are dropped: they are over, or give way.

@@ -69,7 +69,9 @@ WeekLayout layoutOf(const Tasks& tasks, const QDate& first = kMonday,
 
 QString lineOf(const WeekBlock& block)
 {
-    const char* const reasons[] = {"", " empty", " inverted", " unreadable"};
+    const char* const reasons[] = {
+        "",       " without a day", " unreadable", " unreadable", " unreadable", " without runs",
+        " empty", " inverted"};
     return QStringLiteral("%1 %2-%3%4%5")
         .arg(block.row)
         .arg(shortTime(block.from), shortTime(block.to),
@@ -263,7 +265,7 @@ void tst_WeekLayout::endsOfRunsAreWorkedOut()
                                          frequencyPlan(3, "10:00:00", 0, {entry(1)}, "1")})}};
     const WeekLayout week = layoutOf(tasks);
     QCOMPARE(linesOf(week), QStringLiteral("Mon: 0 08:00-08:06, 1 09:00-23:59:59, "
-                                           "2 10:00-10:00 empty collides"));
+                                           "2 10:00-10:00 without runs collides"));
     QCOMPARE(week.days[0].blocks[0].start, QStringLiteral("08:00:00"));
     QCOMPARE(week.days[0].blocks[0].end, QStringLiteral("08:06:00"));
 }

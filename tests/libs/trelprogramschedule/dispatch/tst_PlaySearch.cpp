@@ -24,6 +24,8 @@ private slots:
     void looksAtOneWeekOfEachStretch();
     void passesOverChangesOfTheClock();
     void anInsertionPlaysFirst();
+    void tellsWhenAListIsOver();
+    void tellsWhenAListIsOverInNightsOfChange();
     void asAWalkFindsIt_data();
     void asAWalkFindsIt();
 };
@@ -219,6 +221,51 @@ void tst_PlaySearch::anInsertionPlaysFirst()
              QStringLiteral("2024.03.04 08:10:10.000 0"));
     QVERIFY(found->isInserted());
     QVERIFY(!timeline.nextPlay(moment("2024.03.04 08:30:00"), kNever, insertions, notThis('A')));
+}
+
+void tst_PlaySearch::tellsWhenAListIsOver()
+{
+    const Schedule tasks = schedule("1 2024.03.04-2024.03.04 / 08:00:00-09:00:00 A mode=7 times=2 "
+                                    "freeze / 10:00:00 x2 A / 11:00:00-12:00:00 A");
+    const ScreenTimeline timeline(tasks, lettersCatalogue(), QTimeZone::utc());
+    const auto after = [&](const char* asked, const ScreenInsertions& insertions = {}) {
+        const Found found = timeline.afterList(timeline.at(moment(asked), insertions), insertions);
+        return found ? momentText(found->since, QTimeZone::utc()) +
+                           QLatin1String(found->picture == ScreenPicture::Frozen ? " frozen"
+                                                                                 : " black")
+                     : QStringLiteral("none");
+    };
+    QCOMPARE(after("2024.03.04 08:00:05"), QStringLiteral("2024.03.04 08:00:20.000 0 frozen"));
+    QCOMPARE(after("2024.03.04 08:00:25"), QStringLiteral("none"));
+    QCOMPARE(after("2024.03.04 10:00:05"), QStringLiteral("none"));
+    QCOMPARE(after("2024.03.04 11:00:05"), QStringLiteral("none"));
+    ScreenInsertion insertion;
+    insertion.taskId = 1;
+    insertion.planId = 3;
+    insertion.plan = planFromText(QStringLiteral("11:00:00-12:00:00 A B mode=7 times=1"));
+    const ScreenInsertions insertions =
+        timeline.withInsertion({}, insertion, moment("2024.03.04 11:10:00"), false);
+    QCOMPARE(after("2024.03.04 11:10:00", insertions),
+             QStringLiteral("2024.03.04 11:10:14.000 0 black"));
+    QCOMPARE(after("2024.03.04 11:09:00", insertions), QStringLiteral("none"));
+}
+
+// A list of ten minutes that the clock is put back at the end of is over in its second pass alone;
+// one of twenty that the clock leaps past is over where the gap ends.
+void tst_PlaySearch::tellsWhenAListIsOverInNightsOfChange()
+{
+    const QTimeZone berlin("Europe/Berlin");
+    const Schedule tasks = schedule("1 2024.03.31-2024.03.31 / 01:50:00-03:10:00 A*120 mode=7 "
+                                    "times=1 | 2 2024.10.27-2024.10.27 / 02:50:00-03:10:00 A*60 "
+                                    "mode=7 times=1");
+    const ScreenTimeline timeline(tasks, lettersCatalogue(), berlin);
+    const auto after = [&](const char* asked) {
+        const Found found = timeline.afterList(timeline.at(moment(asked, berlin)), {});
+        return found ? momentText(found->since, berlin) : QStringLiteral("none");
+    };
+    QCOMPARE(after("2024.03.31 01:55:00"), QStringLiteral("2024.03.31 03:00:00.000 2"));
+    QCOMPARE(after("2024.10.27 02:55:00 2"), QStringLiteral("none"));
+    QCOMPARE(after("2024.10.27 02:55:00 1"), QStringLiteral("2024.10.27 03:00:00.000 1"));
 }
 
 void tst_PlaySearch::asAWalkFindsIt_data()

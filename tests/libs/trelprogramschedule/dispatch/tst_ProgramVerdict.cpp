@@ -211,6 +211,11 @@ void tst_ProgramVerdict::namesTheRule_data()
         "1.1 span empty entry 0");
     row("span empty for want of runs", "1 2024.03.01-2024.03.31 / 08:00:00 x0 A", "08:00:00", 'A',
         "1.1 span empty entry 0");
+    row("span inverted for want of runs", "1 2024.03.01-2024.03.31 / 08:00:00 x-3 A", "08:00:00",
+        'A', "1.1 span inverted entry 0");
+    row("no runs in a mode that is none",
+        "1 2024.03.01-2024.03.31 / 08:00:00-09:00:00 A mode=7 times=0", "08:00:00", 'A',
+        "1.1 no runs entry 0");
     row("span inverted", "1 2024.03.01-2024.03.31 / 08:00:00-07:00:00 A", "08:00:00", 'A',
         "1.1 span inverted entry 0");
     row("not yet", week, "07:59:59.999", 'A', "1.1 not yet entry 0");

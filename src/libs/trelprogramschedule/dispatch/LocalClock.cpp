@@ -1,8 +1,8 @@
-#include "LocalClock.h"
+#include "trelprogramschedule/dispatch/LocalClock.h"
 
-using trel::mediadispatch::Instant;
-using trel::mediadispatch::kLargestOffset;
-using trel::mediadispatch::WallPiece;
+#include <algorithm>
+
+namespace trel::mediadispatch {
 
 namespace {
 
@@ -36,12 +36,31 @@ QDateTime LocalClock::shownAt(Instant moment) const
 bool LocalClock::changesOn(const QDate& day) const
 {
     if (day != m_day) {
-        const QTime midnight(0, 0);
         m_day = day;
-        m_dayChanges =
-            offsetAt(find(day, midnight).first) != offsetAt(find(day.addDays(1), midnight).first);
+        m_dayChanges = isTouched(day);
     }
     return m_dayChanges;
+}
+
+// Between what the clock shows before a change and what it shows after it lies the time that is
+// left out, or comes twice. It need not be of the day on which the change falls.
+bool LocalClock::isTouched(const QDate& day) const
+{
+    const LocalTime begin = timeOn(dayNumber(day), 0);
+    const LocalTime end = begin + kMillisecondsPerDay;
+    for (Instant at = begin - 2 * kLargestOffset; at < end + 2 * kLargestOffset;) {
+        const WallPiece& piece = m_wall.pieceAt(at);
+        if (piece.end == kNever) {
+            return false;
+        }
+        at = piece.end;
+        const LocalTime before = piece.local(at);
+        const LocalTime after = m_wall.pieceAt(at).local(at);
+        if (std::min(before, after) < end && std::max(before, after) > begin) {
+            return true;
+        }
+    }
+    return false;
 }
 
 LocalClock::Occurrence LocalClock::find(const QDate& date, const QTime& time) const
@@ -94,10 +113,13 @@ QString LocalClock::timeText(Instant moment) const
     const bool isWhole = shown.time().msec() == 0;
     QString text = shown.time().toString(isWhole ? QStringLiteral("hh:mm:ss")
                                                  : QStringLiteral("hh:mm:ss.zzz"));
-    if (changesOn(shown.date())) {
-        text += QLatin1Char(' ') + offsetText(offsetAt(moment));
-    }
-    return text;
+    return text + offsetMark(moment);
+}
+
+QString LocalClock::offsetMark(Instant moment) const
+{
+    return changesOn(shownAt(moment).date()) ? QLatin1Char(' ') + offsetText(offsetAt(moment))
+                                             : QString();
 }
 
 QString LocalClock::offsetText(int seconds)
@@ -105,13 +127,18 @@ QString LocalClock::offsetText(int seconds)
     constexpr int minute = 60;
     constexpr int hour = 60 * minute;
     const int size = qAbs(seconds);
-    return QStringLiteral("%1%2:%3")
-        .arg(seconds < 0 ? QLatin1Char('-') : QLatin1Char('+'))
-        .arg(size / hour, 2, 10, QLatin1Char('0'))
-        .arg(size % hour / minute, 2, 10, QLatin1Char('0'));
+    const auto twoDigits = [](int number) {
+        return QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
+    };
+    const QString text = (seconds < 0 ? QLatin1Char('-') : QLatin1Char('+')) +
+                         twoDigits(size / hour) + QLatin1Char(':') +
+                         twoDigits(size % hour / minute);
+    return size % minute == 0 ? text : text + QLatin1Char(':') + twoDigits(size % minute);
 }
 
 bool isDated(Instant moment)
 {
     return moment >= kFirstDated && moment <= kLastDated;
 }
+
+} // namespace trel::mediadispatch

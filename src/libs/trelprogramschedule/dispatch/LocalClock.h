@@ -8,13 +8,13 @@
 
 #include <optional>
 
+namespace trel::mediadispatch {
+
 /// The local time of a zone, in texts and found from texts. A long list of moments in order costs
-/// next to nothing.
-class LocalClock
+/// next to nothing. Not to be asked by two threads at a time.
+class Q_DECL_EXPORT LocalClock
 {
 public:
-    using Instant = trel::mediadispatch::Instant;
-
     explicit LocalClock(const QTimeZone& zone);
 
     const QTimeZone& zone() const { return m_wall.zone(); }
@@ -22,7 +22,8 @@ public:
     int offsetAt(Instant moment) const;
     /// Date and time that the local clock shows.
     QDateTime shownAt(Instant moment) const;
-    /// Whether the clock is put forward or back on a local day.
+    /// Whether a change of the clock leaves out a part of a local day or shows it twice. One that
+    /// falls right behind midnight may repeat the evening before.
     bool changesOn(const QDate& day) const;
 
     /// When the local clock shows a date and time.
@@ -41,16 +42,23 @@ public:
     QString text(Instant moment, Instant besides) const;
     /// ISO 8601 with milliseconds and offset.
     QString isoText(Instant moment) const;
-    /// "+01:00"
+    /// What tells the two times apart that such a day may have: " +01:00" on days on which the
+    /// clock changes, nothing on others.
+    QString offsetMark(Instant moment) const;
+    /// "+01:00", with the seconds where there are any.
     static QString offsetText(int seconds);
 
 private:
     QString timeText(Instant moment) const;
 
-    trel::mediadispatch::WallTime m_wall;
+    bool isTouched(const QDate& day) const;
+
+    WallTime m_wall;
     mutable QDate m_day; ///< The day that was last asked about.
     mutable bool m_dayChanges = false;
 };
 
 /// Whether a calendar has a date for a moment; kNever and its like have none.
-bool isDated(trel::mediadispatch::Instant moment);
+Q_DECL_EXPORT bool isDated(Instant moment);
+
+} // namespace trel::mediadispatch

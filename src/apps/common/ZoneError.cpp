@@ -1,0 +1,14 @@
+#include "common/ZoneError.h"
+
+#include "service/Clock.h"
+
+using namespace trel::mediadispatch;
+
+QString ZoneError::sentence()
+{
+    return Clock::current().zone().isValid()
+               ? QString()
+               : tr("The system knows no time zone of the name “%1”, so that the local time is not "
+                    "known.")
+                     .arg(QString::fromLocal8Bit(QTimeZone::systemTimeZoneId()));
+}

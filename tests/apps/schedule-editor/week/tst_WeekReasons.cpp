@@ -1,0 +1,113 @@
+#include "WeekFixture.h"
+
+#include "week/WeekHit.h"
+#include "week/WeekReasons.h"
+
+using namespace trel::mediadispatch;
+using namespace week;
+using namespace weekfixture;
+
+/// What the picture says about a moment and a plan, without the picture.
+class tst_WeekReasons : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void plansThatNeverPlay_data();
+    void plansThatNeverPlay();
+    void aListThatRunsLessThanOnce();
+    void aListThatIsOverBeforeThePlan();
+    void theEveningThatComesTwice();
+
+private:
+    static QStringList reasons(const WeekSchedule& schedule, const WeekLayout& layout,
+                               const WeekHit& hit)
+    {
+        return reasonText(schedule, layout, hit, QLocale::c()).split(QLatin1Char('\n'));
+    }
+    /// On the Wednesday of the fixture, at the first block.
+    static QStringList reasonsOfTheBlock(const PlayPlan& plan)
+    {
+        const auto schedule = scheduleOf({plan});
+        const WeekLayout layout = schedule->layout(QDate(2024, 3, 4));
+        return reasons(*schedule, layout, hitOf(layout, 2, layout.days[2].blocks.front()));
+    }
+};
+
+void tst_WeekReasons::plansThatNeverPlay_data()
+{
+    QTest::addColumn<PlayPlan>("plan");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char* name, const PlayPlan& plan, const char* sentence) {
+        QTest::newRow(name) << plan << QString::fromUtf8(sentence);
+    };
+    row("empty", timePlan(1, "08:00:00", "08:00:00"),
+        "Plan 1 never plays: it ends as it starts, at 08:00:00.");
+    row("inverted", timePlan(1, "08:00:00", "07:00:00"),
+        "Plan 1 never plays: it starts at 08:00:00 and ends before, at 07:00:00.");
+    row("start", timePlan(1, "noon", "07:00:00"),
+        "Plan 1 never plays: its start, “noon”, is not a time in the form hh:mm:ss.");
+    row("end", timePlan(1, "08:00:00", "nine"),
+        "Plan 1 never plays: its end, “nine”, is not a time in the form hh:mm:ss.");
+    row("both", timePlan(1, "noon", "nine"),
+        "Plan 1 never plays: its start, “noon”, and its end, “nine”, are not times in the form "
+        "hh:mm:ss.");
+    row("no runs", frequencyPlan(1, "08:00:00", 0, {entry(1)}),
+        "Plan 1 never plays: its list is to run less than once.");
+}
+
+void tst_WeekReasons::plansThatNeverPlay()
+{
+    QFETCH(PlayPlan, plan);
+    QTEST(reasonsOfTheBlock(plan).last(), "expected");
+}
+
+void tst_WeekReasons::aListThatRunsLessThanOnce()
+{
+    PlayPlan plan = timePlan(1, "08:00:00", "09:00:00");
+    plan.mode = 7;
+    plan.times = 0;
+    QCOMPARE(reasonsOfTheBlock(plan)[2],
+             QStringLiteral("Plan 1 of task 1 has the screen, but its list is to run less than "
+                            "once."));
+}
+
+// A minute and a half and half a minute, once each.
+void tst_WeekReasons::aListThatIsOverBeforeThePlan()
+{
+    PlayPlan plan = timePlan(1, "08:00:00", "09:00:00");
+    plan.mode = 7;
+    plan.times = 2;
+    const QString sentence = QStringLiteral("Its list is over at 08:04, before the plan ends.");
+    QCOMPARE(reasonsOfTheBlock(plan).last(), sentence);
+    plan.endTime = "08:04:00";
+    QVERIFY(!reasonsOfTheBlock(plan).contains(sentence));
+    plan.mode = TimeMode;
+    plan.endTime = "09:00:00";
+    QVERIFY(!reasonsOfTheBlock(plan).contains(sentence));
+}
+
+void tst_WeekReasons::theEveningThatComesTwice()
+{
+    PlayTask task = taskWithPlans({timePlan(1, "23:00:00", "23:40:00")});
+    task.startDate = "2010.11.01";
+    task.endDate = "2010.11.30";
+    task.plans[0].programs = {entry(1)};
+    const WeekSchedule schedule({{1, task}}, catalogue(), {}, QTimeZone("America/St_Johns"));
+    const WeekLayout layout = schedule.layout(QDate(2010, 11, 1));
+    WeekHit hit;
+    hit.day = 5;
+    hit.second = (23 * 60 + 30) * 60;
+    const WeekColumn& day = layout.days[5];
+    hit.change = &day.changes.front();
+    hit.pass = Pass::First;
+    QVERIFY(reasons(schedule, layout, hit).first().endsWith(QStringLiteral(", 23:30 -02:30")));
+    hit.pass = Pass::Second;
+    QVERIFY(reasons(schedule, layout, hit).first().endsWith(QStringLiteral(", 23:30 -03:30")));
+    hit = {};
+    hit.second = (23 * 60 + 30) * 60;
+    QVERIFY(reasons(schedule, layout, hit).first().endsWith(QStringLiteral(", 23:30")));
+}
+
+QTEST_MAIN(tst_WeekReasons)
+#include "tst_WeekReasons.moc"
