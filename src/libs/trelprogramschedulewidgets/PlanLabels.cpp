@@ -46,18 +46,6 @@ int weekdayNumber(const QString& text)
     return EveryDay;
 }
 
-QString weekLabels(const std::string& weeks)
-{
-    std::vector<int> numbers;
-    parseWeeks(weeks, numbers);
-    QStringList labels;
-    labels.reserve(static_cast<int>(numbers.size()));
-    for (const int number : numbers) {
-        labels.append(weekdayText(number));
-    }
-    return labels.join(kLabelSeparator);
-}
-
 std::string weeksFromLabels(const QStringList& labels)
 {
     QString text = labels.join(kLabelSeparator);
@@ -69,16 +57,6 @@ std::string weeksFromLabels(const QStringList& labels)
         numbers.push_back(weekdayNumber(label));
     }
     return joinWeeks(numbers);
-}
-
-QString planTitle(int planId)
-{
-    return QStringLiteral("  %1%2:").arg(scheduleText("zhPlanTimeStr"), QString::number(planId));
-}
-
-QString retranslatedPlanTitle(int planId)
-{
-    return QStringLiteral("   %1%2:").arg(scheduleText("zhPlanTimeStr"), QString::number(planId));
 }
 
 } // namespace trel::mediadispatch

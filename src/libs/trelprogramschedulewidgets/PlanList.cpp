@@ -148,8 +148,8 @@ void PlanList::addTask(const PlayTask& task)
 
 void PlanList::addCard(const PlayTask& task, bool folded)
 {
-    const QPointer<PlanTaskWidget> card = new PlanTaskWidget(task, this);
-    card->setFolded(folded);
+    const QPointer<PlanTaskWidget> card =
+        folded ? PlanTaskWidget::makeFolded(task, this) : new PlanTaskWidget(task, this);
     // A set that was written elsewhere may hold an id twice. The service tells tasks apart by their
     // ids only, so that two cards would overwrite each other's edits.
     destroyCard(task.id);

@@ -2,12 +2,9 @@
 
 #include "MultiComboBox.h"
 #include "PlanColumns.h"
-#include "PlanLabels.h"
-#include "ProgramNames.h"
-#include "ScheduleText.h"
+#include "PlanRowState.h"
+#include "PlanRowTexts.h"
 #include "kCustomLineEdit.h"
-#include "service/TimeText.h"
-#include "service/scheduleManage.h"
 
 #include "trelwidgets/ComboBox.h"
 
@@ -20,9 +17,7 @@
 #include <QTimeEdit>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <array>
-#include <string>
 
 namespace trel::mediadispatch {
 
@@ -35,34 +30,34 @@ constexpr int kModeBoxMargin = 9;
 constexpr int kLeastTimes = 1;
 constexpr int kMostTimes = 999;
 
-/// The key of a text that belongs to a column.
+/// A text that belongs to a column.
 struct ColumnText
 {
     PlanColumn column;
-    const char* key;
+    QString PlanRowTexts::*text;
 };
 
 constexpr std::array<ColumnText, 6> kCaptions = {{
-    {ModeCaptionColumn, "zhModeStr"},
-    {StartTimeCaptionColumn, "zhFromStr"},
-    {EndTimeCaptionColumn, "zhToStr"},
-    {TimesCaptionColumn, "zhfrequencyStr"},
-    {WeeksCaptionColumn, "szDateStr"},
-    {EndActionCaptionColumn, "zhEndActionStr"},
+    {ModeCaptionColumn, &PlanRowTexts::mode},
+    {StartTimeCaptionColumn, &PlanRowTexts::from},
+    {EndTimeCaptionColumn, &PlanRowTexts::to},
+    {TimesCaptionColumn, &PlanRowTexts::frequency},
+    {WeeksCaptionColumn, &PlanRowTexts::date},
+    {EndActionCaptionColumn, &PlanRowTexts::endAction},
 }};
 
 /// What a screen reader says of the editor in a column. Its caption stands in a cell of its own,
 /// where nothing leads from the editor to it.
 constexpr std::array<ColumnText, 9> kSpokenNames = {{
-    {ModeColumn, "zhModeStr"},
-    {StartTimeColumn, "zhFromStr"},
-    {EndTimeColumn, "zhToStr"},
-    {TimesColumn, "zhfrequencyStr"},
-    {WeeksColumn, "szDateStr"},
-    {EndActionColumn, "zhEndActionStr"},
-    {CopyColumn, "zhCreateCopy"},
-    {DeleteColumn, "szDeleteStr"},
-    {ProgramsColumn, "zhSelectProgramsStr"},
+    {ModeColumn, &PlanRowTexts::mode},
+    {StartTimeColumn, &PlanRowTexts::from},
+    {EndTimeColumn, &PlanRowTexts::to},
+    {TimesColumn, &PlanRowTexts::frequency},
+    {WeeksColumn, &PlanRowTexts::date},
+    {EndActionColumn, &PlanRowTexts::endAction},
+    {CopyColumn, &PlanRowTexts::copy},
+    {DeleteColumn, &PlanRowTexts::remove},
+    {ProgramsColumn, &PlanRowTexts::choosePrograms},
 }};
 
 /// What of a cell a screen reader stops at: the one widget in a holder, or the button with which a
@@ -82,14 +77,14 @@ QModelIndex cellOf(const QTableView& table, int row, int column)
     return table.model() ? table.model()->index(row, column) : QModelIndex();
 }
 
-void nameEditors(const QTableView& table, int row)
+void nameEditors(const QTableView& table, int row, const PlanRowTexts& texts)
 {
     const QString plan = cellOf(table, row, TitleColumn).data().toString().trimmed();
     for (const ColumnText& name : kSpokenNames) {
         QWidget* const holder = table.indexWidget(cellOf(table, row, name.column));
         QWidget* const editor = holder ? editorIn(holder) : nullptr;
         if (editor) {
-            editor->setAccessibleName(plan % QLatin1Char(' ') % scheduleText(name.key));
+            editor->setAccessibleName(plan % QLatin1Char(' ') % texts.*name.text);
         }
     }
 }
@@ -111,15 +106,15 @@ void markRow(QWidget& editor, int row)
 class RowBuilder
 {
 public:
-    RowBuilder(QTableView& table, int row)
+    RowBuilder(QTableView& table, int row, const PlanRowTexts& texts)
         : m_table(table)
         , m_row(row)
+        , m_texts(texts)
     {}
 
     /// A locked box shows TimeMode, whatever the mode.
     widgets::ComboBox* addModeBox(int mode, bool isLocked) const;
-    /// A text that does not parse leaves the editor at its default.
-    QTimeEdit* addTimeEdit(PlanColumn column, const std::string& time) const;
+    QTimeEdit* addTimeEdit(PlanColumn column, const QTime& time) const;
     QSpinBox* addTimesBox(int times) const;
     QLabel* addStateLabel() const;
     MultiComboBox* addWeekBox(const std::string& weeks) const;
@@ -135,6 +130,7 @@ private:
 
     QTableView& m_table;
     int m_row;
+    const PlanRowTexts& m_texts;
 };
 
 // The holder belongs to the viewport from the start, which is where the table wants it, so that no
@@ -159,7 +155,7 @@ widgets::ComboBox* RowBuilder::addModeBox(int mode, bool isLocked) const
     holder->layout()->setContentsMargins(0, kModeBoxMargin, 0, kModeBoxMargin);
     box->setFixedHeight(kEditorHeight);
     for (const int value : {TimeMode, FrequencyMode}) {
-        box->addItem(modeText(value), value);
+        box->addItem(m_texts.modes.at(static_cast<std::size_t>(value)), value);
     }
     box->setCurrentIndex(isLocked ? TimeMode : mode);
     box->setDisabled(isLocked);
@@ -168,7 +164,7 @@ widgets::ComboBox* RowBuilder::addModeBox(int mode, bool isLocked) const
     return box;
 }
 
-QTimeEdit* RowBuilder::addTimeEdit(PlanColumn column, const std::string& time) const
+QTimeEdit* RowBuilder::addTimeEdit(PlanColumn column, const QTime& time) const
 {
     QWidget* holder = nullptr;
     auto* const editor = makeEditor<QTimeEdit>(holder);
@@ -178,7 +174,7 @@ QTimeEdit* RowBuilder::addTimeEdit(PlanColumn column, const std::string& time) c
     // where everybody reads the hours.
     editor->setLayoutDirection(Qt::LeftToRight);
     editor->setDisplayFormat(kTimeFormat);
-    editor->setTime(timeFromText(time));
+    editor->setTime(time);
     markRow(*editor, m_row);
     place(column, holder);
     return editor;
@@ -217,11 +213,11 @@ MultiComboBox* RowBuilder::addWeekBox(const std::string& weeks) const
     auto* const box = makeEditor<MultiComboBox>(holder);
     box->setFixedHeight(kEditorHeight);
     box->setSeparator(QStringLiteral(","));
-    box->setEveryDayText(weekdayText(EveryDay));
+    box->setEveryDayText(m_texts.day(EveryDay));
     for (int number = EveryDay; number < WeekDayCount; ++number) {
-        box->addItem(weekdayText(number), number);
+        box->addItem(m_texts.day(number), number);
     }
-    box->setShownText(weekLabels(weeks));
+    box->setShownText(m_texts.days(weeks));
     box->restoreCheckMarks();
     place(WeeksColumn, holder);
     return box;
@@ -233,7 +229,7 @@ widgets::ComboBox* RowBuilder::addEndActionBox(int endAction) const
     auto* const box = makeEditor<widgets::ComboBox>(holder);
     box->setFixedHeight(kEditorHeight);
     for (const int value : {BlackScreen, FreezeCurrentFrame}) {
-        box->addItem(endActionText(value), value);
+        box->addItem(m_texts.endActions.at(static_cast<std::size_t>(value)), value);
     }
     if (endAction == BlackScreen || endAction == FreezeCurrentFrame) {
         box->setCurrentIndex(endAction);
@@ -275,64 +271,54 @@ void RowBuilder::place(PlanColumn column, QWidget* holder) const
 
 } // namespace
 
-int appendPlanCells(QStandardItemModel& model, const PlayPlan& plan)
+int appendPlanCells(QStandardItemModel& model, const PlanRowState& row, const PlanRowTexts& texts)
 {
     QList<QStandardItem*> items;
     items.reserve(PlanColumnCount);
     for (int column = 0; column < PlanColumnCount; ++column) {
         items.append(new QStandardItem);
     }
-    items[TitleColumn]->setText(planTitle(plan.id));
-    items[TitleColumn]->setData(plan.id, PlanIdRole);
-    items[ProgramsColumn]->setData(programNames(plan.programs), ProgramTextRole);
+    items[TitleColumn]->setText(texts.title(row.planId));
+    items[TitleColumn]->setData(row.planId, PlanIdRole);
+    items[ProgramsColumn]->setData(row.programs, ProgramTextRole);
     for (const ColumnText& caption : kCaptions) {
-        items[caption.column]->setText(scheduleText(caption.key));
+        items[caption.column]->setText(texts.*caption.text);
     }
     model.appendRow(items);
     return model.rowCount() - 1;
 }
 
-PlanRowEditors addPlanEditors(QTableView& table, int number, PlayPlan& plan)
+PlanRowEditors addPlanEditors(QTableView& table, int number, const PlanRowState& state,
+                              const PlanRowTexts& texts)
 {
-    const bool isLocked =
-        std::any_of(plan.programs.begin(), plan.programs.end(), [](const struProgInfo& entry) {
-            return scheduleManage::getInstance().isNoDurationType(entry.progIndex);
-        });
-    if (isLocked) {
-        plan.mode = TimeMode;
-    }
-    if (plan.weeks.empty()) {
-        plan.weeks = std::to_string(EveryDay);
-    }
-
     PlanRowEditors editors;
-    const RowBuilder row(table, number);
-    editors.mode = row.addModeBox(plan.mode, isLocked);
-    editors.startTime = row.addTimeEdit(StartTimeColumn, plan.startTime);
-    editors.endTime = row.addTimeEdit(EndTimeColumn, plan.endTime);
-    editors.endTime->setDisabled(plan.mode == FrequencyMode);
-    editors.times = row.addTimesBox(plan.times);
-    editors.times->setDisabled(plan.mode == TimeMode);
+    const RowBuilder row(table, number, texts);
+    editors.mode = row.addModeBox(state.mode, state.isModeLocked);
+    editors.startTime = row.addTimeEdit(StartTimeColumn, state.startTime);
+    editors.endTime = row.addTimeEdit(EndTimeColumn, state.endTime);
+    editors.endTime->setDisabled(state.mode == FrequencyMode);
+    editors.times = row.addTimesBox(state.times);
+    editors.times->setDisabled(state.mode == TimeMode);
     editors.state = row.addStateLabel();
-    editors.weeks = row.addWeekBox(plan.weeks);
-    editors.endAction = row.addEndActionBox(plan.endAction);
-    editors.copy = row.addButton(CopyColumn, QStringLiteral("projectSaveAs"),
-                                 scheduleText("zhCreateCopy"), plan.id);
+    editors.weeks = row.addWeekBox(state.weeks);
+    editors.endAction = row.addEndActionBox(state.endAction);
+    editors.copy =
+        row.addButton(CopyColumn, QStringLiteral("projectSaveAs"), texts.copy, state.planId);
     editors.remove =
-        row.addButton(DeleteColumn, QStringLiteral("delete"), scheduleText("szDeleteStr"), plan.id);
+        row.addButton(DeleteColumn, QStringLiteral("delete"), texts.remove, state.planId);
     return editors;
 }
 
-void openRowEditors(QTableView& table, int row)
+void openRowEditors(QTableView& table, int row, const PlanRowTexts& texts)
 {
     for (const int column : {ProgramsColumn, ModeColumn, StartTimeColumn, EndTimeColumn,
                              TimesColumn, WeeksColumn, EndActionColumn, StateColumn}) {
         table.openPersistentEditor(cellOf(table, row, column));
     }
-    nameEditors(table, row);
+    nameEditors(table, row, texts);
 }
 
-void translatePlanRow(QTableView& table, int row)
+void translatePlanRow(QTableView& table, int row, const PlanRowTexts& texts)
 {
     if (!table.model()) {
         return;
@@ -341,34 +327,34 @@ void translatePlanRow(QTableView& table, int row)
     const auto cell = [&model, row](int column) { return model.index(row, column); };
 
     const int planId = model.data(cell(TitleColumn), PlanIdRole).toInt();
-    model.setData(cell(TitleColumn), retranslatedPlanTitle(planId), Qt::EditRole);
+    model.setData(cell(TitleColumn), texts.title(planId), Qt::EditRole);
     for (const ColumnText& caption : kCaptions) {
-        model.setData(cell(caption.column), scheduleText(caption.key), Qt::EditRole);
+        model.setData(cell(caption.column), texts.*caption.text, Qt::EditRole);
     }
-    setCellToolTip(table, cell(CopyColumn), scheduleText("zhCreateCopy"));
-    setCellToolTip(table, cell(DeleteColumn), scheduleText("szDeleteStr"));
-    nameEditors(table, row);
+    setCellToolTip(table, cell(CopyColumn), texts.copy);
+    setCellToolTip(table, cell(DeleteColumn), texts.remove);
+    nameEditors(table, row, texts);
 }
 
-void translateModeBox(widgets::ComboBox& box)
+void translateModeBox(widgets::ComboBox& box, const PlanRowTexts& texts)
 {
     for (const int mode : {TimeMode, FrequencyMode}) {
-        box.setItemText(mode, modeText(mode));
+        box.setItemText(mode, texts.modes.at(static_cast<std::size_t>(mode)));
     }
 }
 
-void translateEndActionBox(widgets::ComboBox& box)
+void translateEndActionBox(widgets::ComboBox& box, const PlanRowTexts& texts)
 {
     for (const int endAction : {BlackScreen, FreezeCurrentFrame}) {
-        box.setItemText(endAction, endActionText(endAction));
+        box.setItemText(endAction, texts.endActions.at(static_cast<std::size_t>(endAction)));
     }
 }
 
-void translateWeekBox(MultiComboBox& box)
+void translateWeekBox(MultiComboBox& box, const PlanRowTexts& texts)
 {
-    box.setEveryDayText(weekdayText(EveryDay));
+    box.setEveryDayText(texts.day(EveryDay));
     for (int number = EveryDay; number < WeekDayCount; ++number) {
-        box.setItemText(number, weekdayText(number));
+        box.setItemText(number, texts.day(number));
     }
     box.update();
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "service/ScheduleRecords.h"
-
 class QLabel;
 class QPushButton;
 class QSpinBox;
@@ -16,6 +14,8 @@ class ComboBox;
 namespace trel::mediadispatch {
 
 class MultiComboBox;
+struct PlanRowState;
+struct PlanRowTexts;
 
 /// The editors of one plan row. The table owns them.
 struct PlanRowEditors
@@ -35,25 +35,23 @@ struct PlanRowEditors
 ///
 /// Where many rows are added the cells of all come first: for each row that is inserted the model
 /// goes through all cells that have an editor.
-int appendPlanCells(QStandardItemModel& model, const PlayPlan& plan);
+int appendPlanCells(QStandardItemModel& model, const PlanRowState& row, const PlanRowTexts& texts);
 
-/// Gives the cells of a row their editors. They show the plan's values and are not connected to
-/// anything.
-///
-/// Corrects in the plan what a row cannot show: a plan with a program that has no length of its own
-/// goes to TimeMode, where its mode box is locked, and days left empty become every day.
-PlanRowEditors addPlanEditors(QTableView& table, int row, PlayPlan& plan);
+/// Gives the cells of a row their editors. They show what the row shows and are not connected to
+/// anything. The state label is left empty.
+PlanRowEditors addPlanEditors(QTableView& table, int number, const PlanRowState& state,
+                              const PlanRowTexts& texts);
 
 /// Opens the field of the row's programs and shows its editors.
-void openRowEditors(QTableView& table, int row);
+void openRowEditors(QTableView& table, int row, const PlanRowTexts& texts);
 
-/// Fetches title, captions and tool tips of a row anew. The editors are left alone.
-void translatePlanRow(QTableView& table, int row);
+/// Gives title, captions and tool tips of a row other words. The editors are left alone.
+void translatePlanRow(QTableView& table, int row, const PlanRowTexts& texts);
 
-void translateModeBox(widgets::ComboBox& box);
-void translateEndActionBox(widgets::ComboBox& box);
+void translateModeBox(widgets::ComboBox& box, const PlanRowTexts& texts);
+void translateEndActionBox(widgets::ComboBox& box, const PlanRowTexts& texts);
 /// Gives the box new labels. The text that it shows stays, in its old language, until its selection
 /// changes.
-void translateWeekBox(MultiComboBox& box);
+void translateWeekBox(MultiComboBox& box, const PlanRowTexts& texts);
 
 } // namespace trel::mediadispatch

@@ -1,18 +1,21 @@
 #include "PlanTaskWidget.h"
 
 #include "ConflictPass.h"
+#include "FoldedRows.h"
 #include "LineEditDelegate.h"
 #include "MultiComboBox.h"
 #include "PlanColumns.h"
 #include "PlanLabels.h"
 #include "PlanRow.h"
+#include "PlanRowState.h"
+#include "PlanRowTexts.h"
+#include "PlanRows.h"
 #include "PlanStandardItemModel.h"
 #include "PlanTable.h"
 #include "PlanTaskForm.h"
 #include "ProgramChoose.h"
 #include "Prompts.h"
 #include "ScheduleText.h"
-#include "WaitingRequests.h"
 #include "service/DateText.h"
 #include "service/NewPlan.h"
 #include "service/PlanTiming.h"
@@ -51,6 +54,18 @@ bool hasNoDuration(int progIndex)
     return service().isNoDurationType(progIndex);
 }
 
+/// What the row of a plan of the task shows at first. A plan without an id gets one in its row.
+PlanRowState rowOf(const PlayPlan& plan, const PlayTask& task)
+{
+    if (plan.id != kNoPlanId) {
+        return PlanRowState(plan);
+    }
+    PlayPlan completed = plan;
+    // Without an id left it is shown as it is.
+    completeNewPlan(completed, task);
+    return PlanRowState(completed);
+}
+
 bool areTimesTaken(int times)
 {
     return times >= kLeastTimes && times <= kMostTimes;
@@ -59,6 +74,10 @@ bool areTimesTaken(int times)
 } // namespace
 
 PlanTaskWidget::PlanTaskWidget(const PlayTask& task, QWidget* parent)
+    : PlanTaskWidget(task, parent, Rows::Built)
+{}
+
+PlanTaskWidget::PlanTaskWidget(const PlayTask& task, QWidget* parent, Rows rows)
     : QWidget(parent)
     , m_ui(std::make_unique<PlanTaskForm>())
     , m_task(task)
@@ -69,15 +88,18 @@ PlanTaskWidget::PlanTaskWidget(const PlayTask& task, QWidget* parent)
     m_ui->showDates(m_task);
     makeConnections();
     loadPlans();
+    if (rows == Rows::Built) {
+        buildTable();
+    }
 }
 
-PlanTaskWidget::~PlanTaskWidget()
+PlanTaskWidget::~PlanTaskWidget() = default;
+
+PlanTaskWidget* PlanTaskWidget::makeFolded(const PlayTask& task, QWidget* parent)
 {
-    // A card may go before any event was handled, and each of its many widgets would look for its
-    // own among those of all.
-    if (m_model->rowCount() > 0) {
-        forgetPolishRequests();
-    }
+    auto* const card = new PlanTaskWidget(task, parent, Rows::Folded);
+    card->setFolded(true);
+    return card;
 }
 
 void PlanTaskWidget::setUpForm()
@@ -116,33 +138,37 @@ void PlanTaskWidget::makeConnections()
 }
 
 // Does for each plan what slotAddRowPlan does. While rows are all that is added the plans stay as
-// they are, and so do their collisions: they are worked out once. The cells of all rows come first,
-// and their editors are opened last, since each of them would have the table laid out again. No row
-// finds requests of the rows before it waiting, so that nothing is looked for among them.
+// they are, and so do their collisions: they are worked out once.
 void PlanTaskWidget::loadPlans()
 {
     if (m_task.plans.empty()) {
         return;
     }
-    m_ui->tableView->setUpdatesEnabled(false);
     const std::unordered_set<int> colliding = markConflicts(m_task);
-    std::vector<PlayPlan> plans = m_task.plans;
-    for (PlayPlan& plan : plans) {
-        if (plan.id == kNoPlanId) {
-            // Without an id left it is shown as it is.
-            completeNewPlan(plan, m_task);
-        }
-        appendRow(plan);
-    }
-    for (int row = 0; row < m_model->rowCount(); ++row) {
-        buildEditors(row, plans[static_cast<std::size_t>(row)]);
+    m_foldedRows = std::make_unique<FoldedRows>();
+    for (const PlayPlan& plan : m_task.plans) {
+        PlanRowState row = rowOf(plan, m_task);
+        const int planId = row.planId;
+        enterPlan(planId, m_foldedRows->add(std::move(row)));
         service().addTask(m_task);
-        forgetPolishRequests();
     }
     showStates(colliding);
-    for (int row = 0; row < m_model->rowCount(); ++row) {
-        openRowEditors(*m_ui->tableView, row);
-        forgetPolishRequests();
+}
+
+void PlanTaskWidget::buildTable()
+{
+    const std::unique_ptr<FoldedRows> rows = std::move(m_foldedRows);
+    if (!rows) {
+        return;
+    }
+    m_ui->tableView->setUpdatesEnabled(false);
+    int row = 0;
+    for (const PlanRowEditors& editors : buildPlanRows(*m_ui->tableView, *m_model, *rows)) {
+        enterEditors(row, editors);
+        ++row;
+    }
+    if (rows->laterTexts()) {
+        translateRows(*rows->laterTexts());
     }
     m_ui->tableView->setUpdatesEnabled(true);
 }
@@ -159,6 +185,9 @@ bool PlanTaskWidget::isFolded() const
 
 void PlanTaskWidget::slotFold(bool isFold)
 {
+    if (!isFold) {
+        buildTable();
+    }
     m_ui->showFolded(isFold);
     adjustSize();
 }
@@ -176,28 +205,38 @@ std::string PlanTaskWidget::addDuration(const std::string& start, int seconds)
 
 void PlanTaskWidget::slotTranslation()
 {
+    const PlanRowTexts texts(PlanRowTexts::RowsOnShow);
+    if (m_foldedRows) {
+        m_foldedRows->translate(texts);
+    } else {
+        translateRows(texts);
+    }
+    m_ui->translate(m_task);
+    m_ui->pbtCreatCopy->setToolTip(texts.copy);
+    m_ui->pushButtonDelete->setToolTip(texts.remove);
+    refreshConflicts();
+}
+
+void PlanTaskWidget::translateRows(const PlanRowTexts& texts)
+{
     for (const auto& box : m_modeCombos) {
         if (box.widget) {
-            translateModeBox(*box.widget);
+            translateModeBox(*box.widget, texts);
         }
     }
     for (const auto& box : m_weekCombos) {
         if (box.widget) {
-            translateWeekBox(*box.widget);
+            translateWeekBox(*box.widget, texts);
         }
     }
     for (const auto& box : m_endActionCombos) {
         if (box.widget) {
-            translateEndActionBox(*box.widget);
+            translateEndActionBox(*box.widget, texts);
         }
     }
     for (int row = 0; row < m_model->rowCount(); ++row) {
-        translatePlanRow(*m_ui->tableView, row);
+        translatePlanRow(*m_ui->tableView, row, texts);
     }
-    m_ui->translate(m_task);
-    m_ui->pbtCreatCopy->setToolTip(scheduleText("zhCreateCopy"));
-    m_ui->pushButtonDelete->setToolTip(scheduleText("szDeleteStr"));
-    refreshConflicts();
 }
 
 void PlanTaskWidget::onPushButtonAddClicked()
@@ -214,14 +253,19 @@ void PlanTaskWidget::slotAddRowPlan(PlayPlan plan, bool init)
         return;
     }
     plan.isConflict = false;
-    const int row = appendRow(plan);
-    buildEditors(row, plan);
+    buildTable();
+    const PlanRowState state(plan);
+    const PlanRowTexts texts(PlanRowTexts::NewRows);
+    state.correct(plan);
+    const int row = appendPlanCells(*m_model, state, texts);
+    enterPlan(plan.id, row);
+    enterEditors(row, addPlanEditors(*m_ui->tableView, row, state, texts));
     if (!init) {
         service().addPlan(m_task.id, plan);
         m_task.plans.push_back(std::move(plan));
     }
     refreshConflicts();
-    openRowEditors(*m_ui->tableView, row);
+    openRowEditors(*m_ui->tableView, row, texts);
 }
 
 bool PlanTaskWidget::choosePrograms(PlayPlan& plan)
@@ -236,13 +280,11 @@ bool PlanTaskWidget::choosePrograms(PlayPlan& plan)
     return true;
 }
 
-int PlanTaskWidget::appendRow(const PlayPlan& plan)
+void PlanTaskWidget::enterPlan(int planId, int row)
 {
-    const int row = appendPlanCells(*m_model, plan);
     // Neither takes the place of an entry that is there.
-    m_rowByPlanId.emplace(plan.id, row);
-    m_planIdByRow.emplace(row, plan.id);
-    return row;
+    m_rowByPlanId.emplace(planId, row);
+    m_planIdByRow.emplace(row, planId);
 }
 
 template <typename T>
@@ -253,23 +295,9 @@ void PlanTaskWidget::enterWidget(std::vector<RowWidget<T>>& widgets, int row, T*
             [&widgets](const QObject* gone) { loseWidget(widgets, gone); });
 }
 
-void PlanTaskWidget::buildEditors(int row, PlayPlan& plan)
+void PlanTaskWidget::enterEditors(int row, const PlanRowEditors& editors)
 {
-    const PlanRowEditors editors = addPlanEditors(*m_ui->tableView, row, plan);
-    connect(editors.mode, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            &PlanTaskWidget::slotModeIndexChanged);
-    connect(editors.startTime, &QTimeEdit::timeChanged, this,
-            &PlanTaskWidget::slotStartTimeChanged);
-    connect(editors.endTime, &QTimeEdit::timeChanged, this, &PlanTaskWidget::slotEndTimeChanged);
-    connect(editors.times, QOverload<int>::of(&QSpinBox::valueChanged), this,
-            &PlanTaskWidget::slotTimesChanged);
-    connect(editors.weeks, &MultiComboBox::signalSelectedText, this,
-            &PlanTaskWidget::slotSelectedText);
-    connect(editors.endAction, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
-            &PlanTaskWidget::slotEndActionIndexChanged);
-    connect(editors.copy, &QPushButton::clicked, this, &PlanTaskWidget::slotCopyPlan);
-    connect(editors.remove, &QPushButton::clicked, this, &PlanTaskWidget::slotDeletePlan);
-
+    connectPlanRow(editors, *this);
     enterWidget(m_modeCombos, row, editors.mode);
     enterWidget(m_startTimeEdits, row, editors.startTime);
     enterWidget(m_endTimeEdits, row, editors.endTime);
@@ -285,6 +313,7 @@ void PlanTaskWidget::slotAddProgram(int row)
     if (found == m_planIdByRow.end()) {
         return;
     }
+    buildTable();
     const int planId = found->second;
     const QPointer<PlanTaskWidget> self(this);
     ProgramChoose chooser(&m_task, m_task.id, planId, this, false);
@@ -345,23 +374,38 @@ void PlanTaskWidget::computeEndTime(int index, std::string& out)
 void PlanTaskWidget::recomputeEnd(int row, const std::map<int, ProgramIten>& catalogue)
 {
     PlayPlan* const plan = planOfRow(row);
-    QTimeEdit* const editor = widgetOfRow(m_endTimeEdits, row);
-    if (!plan || !editor) {
+    if (!plan || row >= rowCount()) {
         return;
     }
     // Written first: the editor comes back through slotEndTimeChanged, which has to find nothing
     // new.
     plan->endTime = plannedEnd(*plan, catalogue, hasNoDuration);
-    editor->setTime(timeFromText(plan->endTime));
+    showEnd(row, timeFromText(plan->endTime));
+}
+
+int PlanTaskWidget::rowCount() const
+{
+    return m_foldedRows ? static_cast<int>(m_foldedRows->rows().size()) : m_model->rowCount();
+}
+
+void PlanTaskWidget::showEnd(int row, const QTime& time)
+{
+    if (!m_foldedRows) {
+        if (QTimeEdit* const editor = widgetOfRow(m_endTimeEdits, row)) {
+            editor->setTime(time);
+        }
+    } else if (m_foldedRows->setEndTime(row, time)) {
+        slotUpdateTime(row, EndTimeColumn, time);
+    }
 }
 
 void PlanTaskWidget::slotUpdateEndTime()
 {
     const std::map<int, ProgramIten> catalogue = service().getPrograms();
-    for (const auto& end : m_endTimeEdits) {
-        const PlayPlan* const plan = planOfRow(end.row);
+    for (int row = 0; row < rowCount(); ++row) {
+        const PlayPlan* const plan = planOfRow(row);
         if (plan && plan->mode == FrequencyMode) {
-            recomputeEnd(end.row, catalogue);
+            recomputeEnd(row, catalogue);
         }
     }
     refreshConflicts();
@@ -376,6 +420,10 @@ void PlanTaskWidget::refreshConflicts()
 
 void PlanTaskWidget::showStates(const std::unordered_set<int>& colliding)
 {
+    if (m_foldedRows) {
+        m_foldedRows->showStates(colliding, m_planIdByRow);
+        return;
+    }
     const PlanStateLook look;
     auto planId = m_planIdByRow.cbegin();
     for (const auto& state : m_conflictLabels) {
@@ -434,6 +482,7 @@ void PlanTaskWidget::slotCurrentIndexChangeSignal(int row, ComBoxType type, int 
 // the end that it had in FrequencyMode.
 void PlanTaskWidget::changeMode(int row, int mode)
 {
+    buildTable();
     if (QSpinBox* const times = widgetOfRow(m_timesSpins, row)) {
         times->setDisabled(mode == TimeMode);
     }
@@ -515,6 +564,7 @@ void PlanTaskWidget::slotSelectedText(QStringList newWeeks)
 
 void PlanTaskWidget::refreshEditorrow(int row)
 {
+    buildTable();
     QAbstractItemDelegate* const delegate = m_ui->tableView->itemDelegateForColumn(ProgramsColumn);
     if (auto* const programs = qobject_cast<LineEditDelegate*>(delegate)) {
         programs->removeRow(row);
@@ -583,10 +633,13 @@ void PlanTaskWidget::takeTime(int row, PlayPlan& plan, std::string PlayPlan::*ti
         return;
     }
     const PlayPlan* const stored = planByIdOfRow(row);
-    const auto& editors = time == &PlayPlan::startTime ? m_startTimeEdits : m_endTimeEdits;
-    QTimeEdit* const editor = widgetOfRow(editors, row);
-    if (stored && editor) {
-        editor->setTime(timeFromText(stored->*time));
+    if (stored && time == &PlayPlan::endTime) {
+        showEnd(row, timeFromText(stored->endTime));
+    } else if (stored) {
+        buildTable();
+        if (QTimeEdit* const editor = widgetOfRow(m_startTimeEdits, row)) {
+            editor->setTime(timeFromText(stored->startTime));
+        }
     }
     refreshConflicts();
 }
@@ -650,6 +703,7 @@ void PlanTaskWidget::slotDeletePlan()
     const int id = button->property("id").toInt();
     const auto found = m_rowByPlanId.find(id);
     if (found != m_rowByPlanId.end()) {
+        buildTable();
         removeFirstPlanWithId(m_task, id);
         const int row = found->second;
         m_model->removeRow(row);

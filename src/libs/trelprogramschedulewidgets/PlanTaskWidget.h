@@ -26,9 +26,12 @@ class ComboBox;
 
 namespace trel::mediadispatch {
 
+class FoldedRows;
 class MultiComboBox;
 class PlanStandardItemModel;
 class PlanTaskForm;
+struct PlanRowEditors;
+struct PlanRowTexts;
 
 /// The card of one task: its period of validity and a table with a row for each of its plans.
 ///
@@ -40,6 +43,11 @@ class PlanTaskForm;
 /// A row number and an index into the task's plans are the same thing. Rows are found by searching
 /// the lists of row widgets for the sender of a signal, so the slots of the rows do nothing when
 /// something else calls them.
+///
+/// A card that is made folded has no rows in its table until it is unfolded, or until something is
+/// asked of it that needs them. What it hands to the service, answers to its signals and takes of
+/// another language is the same as with rows, and so is what the rows show when they come. Once
+/// they are there they stay, folded or not.
 class PlanTaskWidget : public QWidget
 {
     Q_OBJECT
@@ -58,6 +66,10 @@ public:
 
     /// The end of a new or copied plan in TimeMode; see the function of this name in PlanTiming.
     static std::string addDuration(const std::string& start, int seconds);
+
+    /// Builds the card, folded, and leaves its rows until they are needed. The service is handed
+    /// the task as by the constructor.
+    static PlanTaskWidget* makeFolded(const PlayTask& task, QWidget* parent);
 
 signals:
     /// The operator has confirmed that the task is to go.
@@ -124,19 +136,26 @@ public slots:
 private:
     friend class PlanTaskWidgetInspector;
 
+    enum class Rows {
+        Built,
+        Folded,
+    };
+    PlanTaskWidget(const PlayTask& task, QWidget* parent, Rows rows);
+
     void setUpForm();
     void setUpTable();
     void makeConnections();
     void loadPlans();
+    /// Builds the rows that have been left until now, if there are any. Calls nothing of the
+    /// service and handles no events.
+    void buildTable();
 
     /// Asks for the programs of a new plan. False also when the card has gone meanwhile.
     bool choosePrograms(PlayPlan& plan);
-    /// Appends the cells of a plan and enters it under their row, which is returned.
-    int appendRow(const PlayPlan& plan);
-    /// Gives a row its editors and enters them everywhere. Corrects in the plan what a row cannot
-    /// show.
-    void buildEditors(int row, PlayPlan& plan);
+    void enterPlan(int planId, int row);
+    void enterEditors(int row, const PlanRowEditors& editors);
     void lockModeOfRow(int row, int planId);
+    void translateRows(const PlanRowTexts& texts);
 
     /// The plan at the row's place in the task; null when the task has no such plan.
     PlayPlan* planOfRow(int row);
@@ -148,6 +167,10 @@ private:
     void computeEndTime(int index, std::string& out);
     /// The same for the plan of a row, written into the plan and shown in the row.
     void recomputeEnd(int row, const std::map<int, ProgramIten>& catalogue);
+    /// The rows, whether they have been built or not.
+    int rowCount() const;
+    /// Shows an end in a row. One that is new comes back as an edit of the row.
+    void showEnd(int row, const QTime& time);
 
     /// Marks the plans that collide with an earlier one, shows it in the rows and hands the task
     /// to the service.
@@ -185,6 +208,8 @@ private:
     std::vector<RowWidget<widgets::ComboBox>> m_endActionCombos;
     /// Receives the news that an editor is gone. Goes before the editors do.
     std::unique_ptr<QObject> m_editorWatch = std::make_unique<QObject>();
+    /// The rows until they are built, and null from then on.
+    std::unique_ptr<FoldedRows> m_foldedRows;
 };
 
 } // namespace trel::mediadispatch

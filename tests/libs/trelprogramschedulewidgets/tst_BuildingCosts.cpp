@@ -107,7 +107,6 @@ private slots:
     void rowsLeaveNoRequestsBehind();
     void cellsOfAllRowsComeBeforeTheirEditors();
     void noPolishRequestWaitsAfterARefresh();
-    void widgetsOfACardThatGoesWaitForNothing();
 };
 
 void tst_BuildingCosts::init()
@@ -206,7 +205,6 @@ void tst_BuildingCosts::rowsLeaveNoRequestsBehind_data()
 {
     QTest::addColumn<QEvent::Type>("type");
     QTest::newRow("to be laid out") << QEvent::LayoutRequest;
-    QTest::newRow("to be given a look") << QEvent::PolishRequest;
 }
 
 void tst_BuildingCosts::rowsLeaveNoRequestsBehind()
@@ -241,25 +239,6 @@ void tst_BuildingCosts::noPolishRequestWaitsAfterARefresh()
     for (const PlanTaskWidget* card : cards) {
         QVERIFY(card->testAttribute(Qt::WA_WState_Polished));
     }
-}
-
-void tst_BuildingCosts::widgetsOfACardThatGoesWaitForNothing()
-{
-    QWidget window;
-    auto card = std::make_unique<PlanTaskWidget>(taskOf(1, 3), &window);
-    card->slotAddRowPlan(taskOf(1, 4).plans.back(), true);
-    // The first of its children to go finds the queue free of them already.
-    QWidget bystander;
-    int waiting = -1;
-    QObject::connect(card->findChild<QTableView*>(), &QObject::destroyed, [&waiting] {
-        const EventCount requests(QEvent::PolishRequest);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::PolishRequest);
-        waiting = requests.count;
-    });
-    card.reset();
-    QCOMPARE(waiting, 0);
-    bystander.show();
-    QVERIFY(bystander.testAttribute(Qt::WA_WState_Polished));
 }
 
 QTEST_MAIN(tst_BuildingCosts)

@@ -1,4 +1,5 @@
 #include "PlanLabels.h"
+#include "PlanRowTexts.h"
 
 #include "service/ScheduleRecords.h"
 
@@ -84,7 +85,7 @@ void tst_PlanLabels::labelsOfWeeks_data()
 void tst_PlanLabels::labelsOfWeeks()
 {
     QFETCH(QString, weeks);
-    QTEST(weekLabels(weeks.toStdString()), "labels");
+    QTEST(PlanRowTexts(PlanRowTexts::NewRows).days(weeks.toStdString()), "labels");
 }
 
 void tst_PlanLabels::weeksOfLabels()
@@ -99,8 +100,9 @@ void tst_PlanLabels::weeksOfLabels()
 
 void tst_PlanLabels::titles()
 {
-    QCOMPARE(planTitle(12), QStringLiteral("  zhPlanTimeStr12:"));
-    QCOMPARE(retranslatedPlanTitle(12), QStringLiteral("   zhPlanTimeStr12:"));
+    QCOMPARE(PlanRowTexts(PlanRowTexts::NewRows).title(12), QStringLiteral("  zhPlanTimeStr12:"));
+    QCOMPARE(PlanRowTexts(PlanRowTexts::RowsOnShow).title(12),
+             QStringLiteral("   zhPlanTimeStr12:"));
 }
 
 QTEST_APPLESS_MAIN(tst_PlanLabels)
