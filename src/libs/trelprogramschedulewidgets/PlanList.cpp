@@ -1,7 +1,7 @@
 #include "PlanList.h"
 
+#include "NewWidgets.h"
 #include "PlanTaskWidget.h"
-#include "WaitingRequests.h"
 #include "initProcess.h"
 #include "service/Clock.h"
 #include "service/NextId.h"
@@ -19,11 +19,10 @@
 #include <vector>
 
 using trel::mediadispatch::Clock;
-using trel::mediadispatch::finishWaitingWork;
-using trel::mediadispatch::forgetPaintRequestsIn;
 using trel::mediadispatch::idAfter;
 using trel::mediadispatch::initProcess;
 using trel::mediadispatch::kDateFormat;
+using trel::mediadispatch::paintAsAWhole;
 using trel::mediadispatch::scheduleManage;
 
 namespace {
@@ -267,9 +266,6 @@ void PlanList::rebuild()
         if (!self) {
             return;
         }
-        if (PlanTaskWidget* const card = m_taskWidgets.value(task.id)) {
-            finishWaitingWork(*card);
-        }
     }
     // Before the list is shown: on show, every widget would ask for its own painting once more.
     setUpdatesEnabled(true);
@@ -293,7 +289,7 @@ void PlanList::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     if (!event->spontaneous()) {
-        forgetPaintRequestsIn(*this);
+        paintAsAWhole(*this);
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "FoldedRows.h"
 #include "MultiComboBox.h"
+#include "NewWidgets.h"
+#include "PlanColumns.h"
 #include "PlanTaskWidget.h"
 
 #include "trelwidgets/ComboBox.h"
@@ -13,6 +15,22 @@
 #include <QTimeEdit>
 
 namespace trel::mediadispatch {
+
+namespace {
+
+/// Leaves no request of a row behind, as each would be looked for among those of all rows.
+void polishRow(const QTableView& table, int row)
+{
+    for (const int column :
+         {ProgramsColumn, ModeColumn, StartTimeColumn, EndTimeColumn, TimesColumn, WeeksColumn,
+          EndActionColumn, StateColumn, CopyColumn, DeleteColumn}) {
+        if (QWidget* const widget = table.indexWidget(table.model()->index(row, column))) {
+            polishNewWidget(*widget);
+        }
+    }
+}
+
+} // namespace
 
 // The cells of all rows come first, and their editors are opened last, since each of them would
 // have the table laid out again.
@@ -28,9 +46,11 @@ std::vector<PlanRowEditors> buildPlanRows(QTableView& table, QStandardItemModel&
         const int number = static_cast<int>(editors.size());
         editors.push_back(addPlanEditors(table, number, row, rows.firstTexts()));
         rows.stateLook().show(*editors.back().state, row.collides);
+        polishRow(table, number);
     }
     for (int row = 0; row < model.rowCount(); ++row) {
         openRowEditors(table, row, rows.firstTexts());
+        polishNewWidget(*table.indexWidget(model.index(row, ProgramsColumn)));
     }
     return editors;
 }

@@ -123,4 +123,19 @@ LineEditDelegate* setUpPlanTable(QTableView& table, PlanStandardItemModel& model
     return programs;
 }
 
+void keepRowsUnasked(QTableView& table)
+{
+    table.verticalHeader()->setModel(nullptr);
+}
+
+void letRowsBeAsked(QTableView& table)
+{
+    if (table.verticalHeader()->model() == table.model()) {
+        return;
+    }
+    table.verticalHeader()->setModel(table.model());
+    table.verticalHeader()->setSelectionModel(table.selectionModel());
+    dropSpareSelections(table);
+}
+
 } // namespace trel::mediadispatch

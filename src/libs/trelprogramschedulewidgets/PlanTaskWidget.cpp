@@ -1,9 +1,12 @@
 #include "PlanTaskWidget.h"
 
+#include "BusyPointer.h"
 #include "ConflictPass.h"
 #include "FoldedRows.h"
+#include "LatePlanModel.h"
 #include "LineEditDelegate.h"
 #include "MultiComboBox.h"
+#include "NewWidgets.h"
 #include "PlanColumns.h"
 #include "PlanLabels.h"
 #include "PlanRow.h"
@@ -31,6 +34,7 @@
 #include <QSpinBox>
 #include <QTimeEdit>
 
+#include <optional>
 #include <utility>
 
 namespace trel::mediadispatch {
@@ -43,6 +47,8 @@ constexpr int kLeastTimes = 1;
 /// One more than the box of a row can show: what reaches the card in other ways may hold it.
 constexpr int kMostTimes = 1000;
 constexpr int kConfirmed = 0;
+/// To build so many rows takes long enough to be noticed: about a tenth of a second.
+constexpr std::size_t kNoticeableRows = 100;
 
 scheduleManage& service()
 {
@@ -83,6 +89,8 @@ PlanTaskWidget::PlanTaskWidget(const PlayTask& task, QWidget* parent, Rows rows)
     , m_task(task)
 {
     qRegisterMetaType<ComBoxType>("ComBoxType");
+    auto* const model = new LatePlanModel(this);
+    m_model = model;
     setUpForm();
     setUpTable();
     m_ui->showDates(m_task);
@@ -90,6 +98,13 @@ PlanTaskWidget::PlanTaskWidget(const PlayTask& task, QWidget* parent, Rows rows)
     loadPlans();
     if (rows == Rows::Built) {
         buildTable();
+    } else if (m_foldedRows) {
+        keepRowsUnasked(*m_ui->tableView);
+        model->fillWhenAsked([card = QPointer<PlanTaskWidget>(this)] {
+            if (card) {
+                card->buildTable();
+            }
+        });
     }
 }
 
@@ -99,6 +114,7 @@ PlanTaskWidget* PlanTaskWidget::makeFolded(const PlayTask& task, QWidget* parent
 {
     auto* const card = new PlanTaskWidget(task, parent, Rows::Folded);
     card->setFolded(true);
+    settleNewWidget(*card);
     return card;
 }
 
@@ -112,7 +128,6 @@ void PlanTaskWidget::setUpForm()
 
 void PlanTaskWidget::setUpTable()
 {
-    m_model = new PlanStandardItemModel(this);
     LineEditDelegate* const programs = setUpPlanTable(*m_ui->tableView, *m_model, this);
     connect(programs, &LineEditDelegate::signalClicked, this, &PlanTaskWidget::slotAddProgram);
     m_ui->tableView->viewport()->installEventFilter(this);
@@ -161,6 +176,7 @@ void PlanTaskWidget::buildTable()
     if (!rows) {
         return;
     }
+    letRowsBeAsked(*m_ui->tableView);
     m_ui->tableView->setUpdatesEnabled(false);
     int row = 0;
     for (const PlanRowEditors& editors : buildPlanRows(*m_ui->tableView, *m_model, *rows)) {
@@ -185,10 +201,17 @@ bool PlanTaskWidget::isFolded() const
 
 void PlanTaskWidget::slotFold(bool isFold)
 {
+    std::optional<BusyPointer> busy;
     if (!isFold) {
+        if (m_foldedRows && m_foldedRows->rows().size() >= kNoticeableRows) {
+            busy.emplace(*this);
+        }
         buildTable();
     }
     m_ui->showFolded(isFold);
+    if (!isFold && isVisible()) {
+        paintAsAWhole(*m_ui->widget);
+    }
     adjustSize();
 }
 
@@ -374,7 +397,7 @@ void PlanTaskWidget::computeEndTime(int index, std::string& out)
 void PlanTaskWidget::recomputeEnd(int row, const std::map<int, ProgramIten>& catalogue)
 {
     PlayPlan* const plan = planOfRow(row);
-    if (!plan || row >= rowCount()) {
+    if (!plan || !showsEnd(row)) {
         return;
     }
     // Written first: the editor comes back through slotEndTimeChanged, which has to find nothing
@@ -386,6 +409,11 @@ void PlanTaskWidget::recomputeEnd(int row, const std::map<int, ProgramIten>& cat
 int PlanTaskWidget::rowCount() const
 {
     return m_foldedRows ? static_cast<int>(m_foldedRows->rows().size()) : m_model->rowCount();
+}
+
+bool PlanTaskWidget::showsEnd(int row) const
+{
+    return m_foldedRows ? m_foldedRows->isRow(row) : widgetOfRow(m_endTimeEdits, row) != nullptr;
 }
 
 void PlanTaskWidget::showEnd(int row, const QTime& time)

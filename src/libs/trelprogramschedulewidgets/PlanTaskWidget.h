@@ -169,6 +169,7 @@ private:
     void recomputeEnd(int row, const std::map<int, ProgramIten>& catalogue);
     /// The rows, whether they have been built or not.
     int rowCount() const;
+    bool showsEnd(int row) const;
     /// Shows an end in a row. One that is new comes back as an edit of the row.
     void showEnd(int row, const QTime& time);
 

@@ -1,6 +1,6 @@
 #include "kCustomLineEdit.h"
 
-#include "WaitingRequests.h"
+#include "NewWidgets.h"
 #include "service/scheduleManage.h"
 #include "ui_kCustomLineEdit.h"
 
@@ -32,8 +32,8 @@ kCustomLineEdit::kCustomLineEdit(QWidget* parent)
     , m_ui(std::make_unique<Ui::kCustomLineEdit>())
 {
     m_ui->setupUi(this);
-    forgetLayoutRequest(*this);
-    forgetLayoutRequest(*m_ui->frame);
+    takeBackLayoutRequest(*this);
+    takeBackLayoutRequest(*m_ui->frame);
     setAttribute(Qt::WA_StyledBackground);
     setProperty("style", QStringLiteral("BG3"));
     m_ui->pushButton->setProperty("imageBtn", QStringLiteral("add"));

@@ -1,7 +1,7 @@
 #include "OpenCard.h"
 
 #include "MultiComboBox.h"
-#include "PlanLabels.h"
+#include "PlanRowTexts.h"
 #include "ProgramSheduleWidgetTranslateManager.h"
 #include "resources/LanguageNames.h"
 #include "support/TestClock.h"
@@ -137,8 +137,9 @@ void tst_PlanTaskWidgetLanguages::daysSurviveEveryChange()
     openAndClose(open);
     QCOMPARE(storedWeeks(), expectedWeeks());
     for (int row = 0; row < open.rows.rowCount(); ++row) {
-        QCOMPARE(open.rows.weeks(row).toolTip(),
-                 weekLabels(kWeeks.at(static_cast<std::size_t>(row))));
+        QCOMPARE(
+            open.rows.weeks(row).toolTip(),
+            PlanRowTexts(PlanRowTexts::NewRows).days(kWeeks.at(static_cast<std::size_t>(row))));
     }
 }
 
