@@ -6,7 +6,7 @@
 #include "PlanTaskWidget.h"
 #include "StepwiseCard.h"
 
-#include <malloc.h>
+#include <QCoreApplication>
 
 #include <memory>
 
@@ -23,6 +23,7 @@ constexpr double kAgainstPlain = 1.15;
 constexpr double kAgainstPlainMemory = 1.1;
 constexpr double kAgainstSteps = 1.0 / 50;
 constexpr double kUnderTheme = 2.0;
+constexpr double kAgainstOpen = 1.1;
 
 std::unique_ptr<QWidget> buildCard(const PlayTask& task)
 {
@@ -132,6 +133,87 @@ void addMemory()
          filling(buildCard, full, empty), filling(buildPlain, full, empty), 3});
 }
 
+/// A window on show with a card in it, and what follows in the event loop.
+class CardWindow
+{
+public:
+    CardWindow()
+    {
+        setLook(Look::Plain);
+        m_window.resize(1140, 600);
+        m_window.show();
+        QCoreApplication::processEvents();
+    }
+
+    template <typename Action>
+    double seconds(const Action& action)
+    {
+        return processorSeconds([&] {
+            action();
+            QCoreApplication::processEvents();
+        });
+    }
+
+    PlanTaskWidget& addFolded(const PlayTask& task)
+    {
+        PlanTaskWidget* const card = PlanTaskWidget::makeFolded(task, &m_window);
+        card->show();
+        QCoreApplication::processEvents();
+        return *card;
+    }
+
+    void addOpen(const PlayTask& task)
+    {
+        auto* const card = new PlanTaskWidget(task, &m_window);
+        card->adjustSize();
+        card->show();
+    }
+
+private:
+    QWidget m_window;
+};
+
+Lane unfolding(const PlayTask& task)
+{
+    return [=] {
+        CardWindow window;
+        PlanTaskWidget& card = window.addFolded(task);
+        return window.seconds([&] { card.setFolded(false); });
+    };
+}
+
+/// The second time, with all rows there already.
+Lane unfoldingAgain(const PlayTask& task)
+{
+    return [=] {
+        CardWindow window;
+        PlanTaskWidget& card = window.addFolded(task);
+        window.seconds([&] { card.setFolded(false); });
+        window.seconds([&] { card.setFolded(true); });
+        return window.seconds([&] { card.setFolded(false); });
+    };
+}
+
+Lane buildingOpen(const PlayTask& task)
+{
+    return [=] {
+        CardWindow window;
+        return window.seconds([&] { window.addOpen(task); });
+    };
+}
+
+void addUnfolding()
+{
+    for (const int plans : {1, 10, 100, 300}) {
+        const PlayTask task = sampleTask(1, plans, TimeMode);
+        add({"Unfold a card, against building it open", planCount(plans, TimeMode), kAgainstOpen,
+             unfolding(task), buildingOpen(task), roundsOf(plans)});
+    }
+    add({"Unfold a card again, against fewer plans", "300 against 30 plans, TimeMode", linear(10),
+         unfoldingAgain(sampleTask(1, 300, TimeMode)), unfoldingAgain(sampleTask(1, 30, TimeMode)),
+         9});
+}
+
 } // namespace
 
 void addCardCases()
@@ -146,6 +228,7 @@ void addCardCases()
         addDestroying(mode);
     }
     addMemory();
+    addUnfolding();
 }
 
 } // namespace bench

@@ -21,6 +21,8 @@ namespace bench {
 namespace {
 
 constexpr double kAgainstPlain = 1.15;
+constexpr double kAgainstNoPlans = 1.5;
+constexpr double kManyAgainstNoPlans = 2.5;
 constexpr int kPlansOfTask = 5;
 
 /// A list in a window on show, as it is in the editor. It is laid out and painted as part of what
@@ -29,10 +31,10 @@ template <typename List>
 class ListWindow
 {
 public:
-    ListWindow()
+    explicit ListWindow(Look look)
         : m_list(new List)
     {
-        setLook(Look::Plain);
+        setLook(look);
         m_area.setWidgetResizable(true);
         m_area.setWidget(m_list);
         m_area.resize(1140, 600);
@@ -110,13 +112,20 @@ private:
 class Schedule
 {
 public:
-    Schedule(int tasks, int plans)
+    Schedule(int tasks, int plans, Look look = Look::Plain)
         : m_tasks(tasks)
         , m_plans(plans)
+        , m_look(look)
     {}
 
     bool isLong() const { return m_tasks >= 1000; }
     int tasks() const { return m_tasks; }
+    /// What a copy of its records takes.
+    double recordBytes() const
+    {
+        TaskMap tasks;
+        return heapBytes([&] { tasks = sampleTasks(m_tasks, m_plans); });
+    }
     std::string size() const
     {
         return count(m_tasks, "tasks") +
@@ -138,7 +147,7 @@ public:
 private:
     Cost measureEditor() const
     {
-        ListWindow<PlanList> window;
+        ListWindow<PlanList> window(m_look);
         PlanList& list = window.list();
         QuietService::instance().tasks = sampleTasks(m_tasks, m_plans);
         Cost cost;
@@ -152,7 +161,7 @@ private:
 
     Cost measurePlain() const
     {
-        ListWindow<PlainList> window;
+        ListWindow<PlainList> window(m_look);
         const TaskMap tasks = sampleTasks(m_tasks, m_plans);
         Cost cost;
         cost.bytes =
@@ -163,6 +172,7 @@ private:
 
     int m_tasks;
     int m_plans;
+    Look m_look;
     Measurements m_editor;
     Measurements m_plain;
 };
@@ -204,6 +214,20 @@ void addGrowth(const SharedSchedule& few, const SharedSchedule& many)
     addGrowth("Delete a task from the list", &Cost::remove, few, many);
 }
 
+/// All cards of a refreshed list are folded: what the plans of a schedule cost there.
+void addPlans(int tasks, int plans, double target, bool withMemory)
+{
+    const auto bare = std::make_shared<Schedule>(tasks, 0);
+    const auto full = std::make_shared<Schedule>(tasks, plans);
+    add({"Refresh the list, against tasks without plans", full->size(), target,
+         [=] { return full->editor().refresh; }, [=] { return bare->editor().refresh; }, kRounds});
+    if (withMemory) {
+        add({"Memory of the list less its records, against tasks without plans", full->size(),
+             kAgainstNoPlans, [=] { return full->editor().bytes - full->recordBytes(); },
+             [=] { return bare->editor().bytes - bare->recordBytes(); }, 1});
+    }
+}
+
 } // namespace
 
 void addListCases()
@@ -220,6 +244,11 @@ void addListCases()
     const auto full = std::make_shared<Schedule>(9998, 0);
     addSize(full);
     addGrowth(bare, full);
+    addPlans(100, 20, kAgainstNoPlans, false);
+    addPlans(300, 60, kManyAgainstNoPlans, true);
+    const auto someUnderTheme = std::make_shared<Schedule>(1000, kPlansOfTask, Look::Theme);
+    const auto fullUnderTheme = std::make_shared<Schedule>(9998, kPlansOfTask, Look::Theme);
+    addGrowth("Refresh the list under the theme", &Cost::refresh, someUnderTheme, fullUnderTheme);
 }
 
 } // namespace bench

@@ -19,7 +19,9 @@ namespace {
 constexpr double kTenTimes = 11.67;
 constexpr double kFarLess = 0.1;
 constexpr double kNoMore = 1.3;
+constexpr double kAgainstNoPlans = 1.5;
 constexpr int kTasks = 100;
+constexpr int kManyTasks = 1000;
 constexpr int kPlansOfTask = 5;
 constexpr int kProgramsInUse = 1000;
 
@@ -77,10 +79,27 @@ double start(int plans)
     return wallSeconds([] { scheduleManage::getInstance().slotOpen(); });
 }
 
+/// Opens the editor until it has painted its first picture.
+template <typename Measure>
+double openEditor(int plans, const Measure& measure)
+{
+    HostWindows windows;
+    windows.fill(kProgramsInUse, false, sampleTasks(kManyTasks, plans));
+    return measure([&windows] { windows.showEditor(); });
+}
+
 } // namespace
 
 void addWaitCases()
 {
+    const std::string plans = "1,000 tasks of 5 plans";
+    add({"Open the editor, against tasks without plans", plans, kAgainstNoPlans,
+         [] { return openEditor(kPlansOfTask, processorSeconds); },
+         [] { return openEditor(0, processorSeconds); }, 3});
+    add({"Memory of the open editor, against tasks without plans", plans, kAgainstNoPlans,
+         [] { return openEditor(kPlansOfTask, heapBytes); },
+         [] { return openEditor(0, heapBytes); }, 1});
+
     add({"Remove programs, against one by one", "100 of 10,000 programs", kFarLess,
          [] { return remove(10000, 100, true); }, [] { return remove(10000, 100, false); }, 3});
     add({"Remove programs, against fewer", "1,000 of 10,000 against 100 of 1,000", kTenTimes,

@@ -7,7 +7,6 @@
 
 #include "EditorWindow.h"
 #include "FirstPaint.h"
-#include "FreedMemory.h"
 #include "Languages.h"
 #include "look/ThemeImages.h"
 #include "look/Themes.h"
@@ -19,7 +18,6 @@ using namespace trel::mediadispatch;
 
 int main(int argc, char** argv)
 {
-    joinFreedMemoryAtOnce();
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);

@@ -1,5 +1,4 @@
 #include "EditorApplication.h"
-#include "FreedMemory.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -20,7 +19,6 @@ EditorOptionsResult readOptions(int& argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    joinFreedMemoryAtOnce();
     const EditorOptionsResult read = readOptions(argc, argv);
     if (read.next != EditorOptionsResult::Next::Start) {
         const bool misuse = read.next == EditorOptionsResult::Next::Misuse;
