@@ -41,6 +41,11 @@ public:
     CatalogueChange remove(int progIndex);
 
     bool contains(int progIndex) const { return m_programs.count(progIndex) > 0; }
+    /// Also of a program that was taken out.
+    bool isKnown(int progIndex) const
+    {
+        return contains(progIndex) || m_removedNames.count(progIndex) > 0;
+    }
     /// A record with isNull set for a program that was taken out or never was.
     ProgramIten program(int progIndex) const;
     /// Also of a program that was taken out; empty when there never was one.

@@ -89,7 +89,8 @@ public:
 
     /// Puts sources into the catalogue in one transaction: a path that is known updates its
     /// program and keeps the index, any other gets the next index, which was never given out. All
-    /// of them or, on failure, none.
+    /// of them or, on failure, none. Where a length changes, the plans whose end follows from it
+    /// end at the new time in both sets, which alone makes no unsaved change.
     ImportResult addPrograms(const std::vector<MediaSource>& sources);
     /// Takes a program out of the catalogue. Its index is never given out again; plans that use it
     /// find their entries marked invalid when the stored set is next read. An index that is not in

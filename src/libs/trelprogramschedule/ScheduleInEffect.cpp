@@ -1,5 +1,6 @@
 #include "ScheduleInEffect.h"
 
+#include "PlanEnds.h"
 #include "service/Clock.h"
 
 #include <algorithm>
@@ -40,8 +41,9 @@ PlayPlan ScheduleInEffect::plan(int taskId, int planId, int& index) const
     PlayPlan found = findPlan(m_dispatch.tasks(), taskId, planId, index);
     const ScreenInsertion* inserted = insertionOnScreen(m_dispatch.insertions());
     if (inserted && inserted->taskId == taskId && inserted->planId == planId) {
-        return inserted->plan;
+        found = inserted->plan;
     }
+    updatePlanEnd(found, m_catalogue);
     return found;
 }
 

@@ -14,7 +14,8 @@ class ScheduleInEffect
 {
 public:
     explicit ScheduleInEffect(const ProgramCatalogue& catalogue)
-        : m_dispatch(catalogue.programs())
+        : m_catalogue(catalogue)
+        , m_dispatch(catalogue.programs())
     {}
 
     /// Puts a schedule in the place of the former one, whose insertions go with it.
@@ -25,7 +26,8 @@ public:
 
     /// Whether an insertion can be taken: a schedule is in effect, and no insertion waits.
     bool takesInsertion() const;
-    /// As findPlan; the inserted plan instead while it has the screen.
+    /// As findPlan; the inserted plan instead while it has the screen. Its end is the one that
+    /// follows from its programs now.
     PlayPlan plan(int taskId, int planId, int& index) const;
 
     /// Cuts a plan in for one in effect, at once or when the current play has ended. Ignored when
@@ -40,6 +42,7 @@ public:
     ScreenDispatch& dispatch() { return m_dispatch; }
 
 private:
+    const ProgramCatalogue& m_catalogue;
     ScreenDispatch m_dispatch;
 };
 

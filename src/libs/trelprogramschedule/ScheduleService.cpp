@@ -1,5 +1,7 @@
 #include "ScheduleService.h"
 
+#include "PlanEnds.h"
+
 #include <cstdlib>
 #include <utility>
 
@@ -53,6 +55,7 @@ StoreResult ScheduleService::open(const QString& path, StoreOpenMode mode, Store
         return result;
     }
     m_state.tasks.resetWorking();
+    m_areEndsUntold = false;
     renewWatch();
     return result;
 }
@@ -65,6 +68,7 @@ void ScheduleService::close()
     m_state.selectedProgram.clear();
     m_revision = StoreRevision();
     m_isMarkingDue = false;
+    m_areEndsUntold = false;
     m_state.inEffect.stop();
     renewWatch();
 }
@@ -87,6 +91,9 @@ StoreResult ScheduleService::read(StorePart part)
         m_revision.schedule = contents.revision.schedule;
         m_isMarkingDue = true;
         markLostEntries();
+    }
+    if (result) {
+        updateEnds();
     }
     return result;
 }
@@ -120,8 +127,20 @@ bool ScheduleService::leaveLookToWatch()
 void ScheduleService::announce(const CatalogueChange& change)
 {
     if (change.any) {
+        updateEnds();
         renewWatch();
         tellEverybody(change);
+    }
+}
+
+void ScheduleService::updateEnds()
+{
+    const ProgramCatalogue& catalogue = m_state.catalogue;
+    const bool isAnother = m_state.tasks.updateTasks(
+        [&catalogue](PlayTask& task) { return updatePlanEnds(task, catalogue); });
+    if (isAnother) {
+        m_areEndsUntold = true;
+        noteWorkingSet();
     }
 }
 
@@ -129,7 +148,8 @@ void ScheduleService::tellEverybody(const CatalogueChange& change)
 {
     m_state.inEffect.updatePrograms();
     emit programsChanged();
-    if (change.lengths) {
+    // A program that is new has no length that changed, but a plan may have waited for it.
+    if (std::exchange(m_areEndsUntold, false) || change.lengths) {
         // Whoever works out its ends anew works out its collisions with them: a second signal for
         // these would only have everything done twice.
         emit lengthsChanged();
@@ -179,8 +199,10 @@ void ScheduleService::saveOrTell()
 StoreResult ScheduleService::replace(const TaskMap& tasks)
 {
     TaskMap filed = filedByTheirIds(tasks);
-    StoreResult result =
-        m_database.writeTasks(editsBetween(m_state.tasks.stored(), filed), m_revision.schedule);
+    for (auto& [id, task] : filed) {
+        updatePlanEnds(task, m_state.catalogue);
+    }
+    StoreResult result = m_database.writeTasks(m_state.tasks.editsTo(filed), m_revision.schedule);
     if (!result) {
         return result;
     }

@@ -91,6 +91,8 @@ private:
     ScheduleService() = default;
     ~ScheduleService() override = default;
 
+    /// Works out afresh the ends that follow from lengths, in both sets.
+    void updateEnds();
     /// Reads the parts that are asked for into the state.
     StoreResult read(StorePart part);
     void takeCatalogue(StoreContents& contents);
@@ -119,6 +121,8 @@ private:
     StoreRevision m_revision; ///< What has been read of the store.
     /// Since entries were last marked, programs or stored tasks have changed.
     bool m_isMarkingDue = false;
+    /// Ends in the working set have changed, and nobody has been told.
+    bool m_areEndsUntold = false;
     std::unique_ptr<ProgramFileWatch> m_fileWatch; ///< Only while files are watched.
     /// The application whose event loop is still to tell of the working set.
     QPointer<QCoreApplication> m_noticeDue;

@@ -8,11 +8,14 @@ namespace trel::mediadispatch {
 namespace {
 
 /// Adds what turns one task of a set into the one of the same id in another set.
-void addEdit(TaskEdits& edits, const TaskMap& from, const TaskMap& to, int taskId)
+void addEdit(TaskEdits& edits, const TaskMap& from, const TaskMap& to, int taskId,
+             const std::set<int>& rewritten)
 {
     const auto before = from.find(taskId);
     const auto after = to.find(taskId);
-    if (before != from.end() && after != to.end() && before->second == after->second) {
+    const bool isSame = before != from.end() && after != to.end() &&
+                        before->second == after->second && rewritten.count(taskId) == 0;
+    if (isSame) {
         return;
     }
     if (before != from.end()) {
@@ -61,11 +64,11 @@ PlayTask withoutCollisions(PlayTask task)
 
 } // namespace
 
-TaskEdits editsBetween(const TaskMap& from, const TaskMap& to)
+TaskEdits editsBetween(const TaskMap& from, const TaskMap& to, const std::set<int>& rewritten)
 {
     TaskEdits edits;
     for (const int id : idsOfBoth(from, to)) {
-        addEdit(edits, from, to, id);
+        addEdit(edits, from, to, id, rewritten);
     }
     edits.removesAll = edits.removed.size() == from.size();
     return edits;
@@ -74,6 +77,7 @@ TaskEdits editsBetween(const TaskMap& from, const TaskMap& to)
 void TaskSets::setStored(TaskMap tasks)
 {
     m_stored = std::move(tasks);
+    m_unwritten.clear();
     m_touched = idsOfBoth(m_stored, m_working);
 }
 
@@ -91,6 +95,7 @@ void TaskSets::commitWorking()
         copyTask(m_working, m_stored, id);
     }
     m_touched.clear();
+    m_unwritten.clear();
 }
 
 void TaskSets::clear()
@@ -98,6 +103,7 @@ void TaskSets::clear()
     m_stored.clear();
     m_working.clear();
     m_touched.clear();
+    m_unwritten.clear();
 }
 
 bool TaskSets::putTask(const PlayTask& task)
@@ -149,11 +155,18 @@ bool TaskSets::isEdited() const
 TaskEdits TaskSets::edits() const
 {
     TaskEdits edits;
-    for (const int id : m_touched) {
-        addEdit(edits, m_stored, m_working, id);
+    std::set<int> ids = m_touched;
+    ids.insert(m_unwritten.begin(), m_unwritten.end());
+    for (const int id : ids) {
+        addEdit(edits, m_stored, m_working, id, m_unwritten);
     }
     edits.removesAll = edits.removed.size() == m_stored.size();
     return edits;
+}
+
+TaskEdits TaskSets::editsTo(const TaskMap& tasks) const
+{
+    return editsBetween(m_stored, tasks, m_unwritten);
 }
 
 PlayTask findTask(const TaskMap& tasks, int taskId)

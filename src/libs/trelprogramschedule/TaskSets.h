@@ -21,8 +21,9 @@ struct TaskEdits
     bool isEmpty() const { return removed.empty() && written.empty(); }
 };
 
-/// Everything that turns one set into another one.
-TaskEdits editsBetween(const TaskMap& from, const TaskMap& to);
+/// Everything that turns one set into another one. Tasks in rewritten are written also when they
+/// are the same in both.
+TaskEdits editsBetween(const TaskMap& from, const TaskMap& to, const std::set<int>& rewritten = {});
 
 /// The stored and the working set. Knows which tasks have been touched since the two were last the
 /// same, so that its questions cost what was edited and not what there is.
@@ -37,6 +38,12 @@ public:
     /// Marks the entries of the stored set whose program is not among the known ones as gone bad.
     template <typename IsKnown>
     void markLostEntries(const IsKnown& isKnown);
+    /// Lets update work out afresh, in every task of both sets, what follows from something that no
+    /// set holds; it is handed a task and tells whether that is another one now. No edit comes of
+    /// it, but the tasks that the store holds otherwise are written with the next edits. True when
+    /// a task of the working set is another one.
+    template <typename Update>
+    bool updateTasks(const Update& update);
     /// Makes the working set match the stored set.
     void resetWorking();
     /// Makes the stored set match the working set.
@@ -52,13 +59,16 @@ public:
     /// True when the operator has changed something. Collisions are worked out afresh wherever a
     /// task is shown, so that they alone are no change.
     bool isEdited() const;
-    /// What turns the stored set into the working set.
+    /// What turns the store into the working set.
     TaskEdits edits() const;
+    /// What turns the store into another set.
+    TaskEdits editsTo(const TaskMap& tasks) const;
 
 private:
     TaskMap m_stored;
     TaskMap m_working;
-    std::set<int> m_touched; ///< Every task in which the two may differ.
+    std::set<int> m_touched;   ///< Every task in which the two may differ.
+    std::set<int> m_unwritten; ///< Every task of the stored set that the store holds otherwise.
 };
 
 /// The task, or a record as nobody has filled it in.
@@ -92,6 +102,25 @@ void TaskSets::markLostEntries(const IsKnown& isKnown)
             m_touched.insert(id);
         }
     }
+}
+
+template <typename Update>
+bool TaskSets::updateTasks(const Update& update)
+{
+    for (auto& [id, task] : m_stored) {
+        if (update(task)) {
+            m_touched.insert(id);
+            m_unwritten.insert(id);
+        }
+    }
+    bool isAnother = false;
+    for (auto& [id, task] : m_working) {
+        if (update(task)) {
+            m_touched.insert(id);
+            isAnother = true;
+        }
+    }
+    return isAnother;
 }
 
 } // namespace trel::mediadispatch

@@ -17,6 +17,11 @@ namespace trel::mediadispatch {
 /// are kept under the task's id. Records go in and out by value, and nobody keeps a reference into
 /// the service. All calls are made on the GUI thread and block it until they return.
 ///
+/// The end of a plan in FrequencyMode follows from the lengths of its programs. The service works
+/// it out afresh in both sets whenever tasks are read from the store or a length changes, whether
+/// or not an editor is open, so that nobody is handed an end from before. That is no edit by
+/// itself; the store takes the new ends with the next save.
+///
 /// No operation reports an error: a lookup of an unknown key returns a usable record. The state
 /// stands behind one private pointer, so that another implementation of this class can be linked
 /// in its place.
@@ -90,7 +95,8 @@ signals:
     /// reason if it is -1. Never emitted from inside addTask.
     void signalReflushConflict(int progId);
     /// Lengths of programs may have changed, and with them ends of plans and their collisions; no
-    /// signalReflushConflict follows for these. Never emitted from inside addTask.
+    /// signalReflushConflict follows for these. Both sets hold the new ends by then; a receiver
+    /// with a task of its own works out its ends. Never emitted from inside addTask.
     void signalUpdatePlanEndTime();
     /// The catalogue has changed.
     void sigProgIndexChanged();

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+
+namespace trel::mediadispatch {
+
+class ProgramCatalogue;
+
+/// Works out afresh the ends of a task's plans that follow from the lengths of programs: of those
+/// in FrequencyMode that name a program which the catalogue has or had. True when one of them ends
+/// at another time than before.
+///
+/// Any other plan keeps its end. There is nothing to work it out from, as in a schedule that was
+/// written before its programs were imported.
+bool updatePlanEnds(PlayTask& task, const ProgramCatalogue& catalogue);
+
+/// The same for one plan.
+bool updatePlanEnd(PlayPlan& plan, const ProgramCatalogue& catalogue);
+
+} // namespace trel::mediadispatch
