@@ -90,7 +90,13 @@ ProgramChoose::ProgramChoose(PlayTask* task, int taskId, int planId, QWidget* pa
     setUpFrame();
 }
 
-ProgramChoose::~ProgramChoose() = default;
+ProgramChoose::~ProgramChoose()
+{
+    // It stays until the parent goes, and would keep a window and its picture until then.
+    if (m_dialog) {
+        m_dialog->dismantle();
+    }
+}
 
 void ProgramChoose::setUpFrame()
 {

@@ -32,7 +32,8 @@ struct ChoiceRow;
 ///
 /// Made for one use: build it on the stack, run execChoose(), read the results, let it go. The
 /// dialog is never a window of its own but stands in a frame, which belongs to the parent and stays
-/// until that goes. Texts are fetched once, when the dialog is built.
+/// until that goes, empty and without a window once this has gone. Texts are fetched once, when the
+/// dialog is built.
 class ProgramChoose : public QDialog
 {
     Q_OBJECT

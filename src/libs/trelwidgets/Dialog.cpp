@@ -4,6 +4,7 @@
 #include "WindowFrame.h"
 
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPointer>
 #include <QScreen>
 
@@ -117,7 +118,7 @@ Dialog::~Dialog() = default;
 
 QWidget* Dialog::dialogWidget() const
 {
-    return d->frame->client();
+    return d->frame ? d->frame->client() : nullptr;
 }
 
 void Dialog::setTitle(const QString& title)
@@ -127,6 +128,9 @@ void Dialog::setTitle(const QString& title)
 
 void Dialog::setScaleSwitch(const QSize& compact, const QSize& expanded)
 {
+    if (!d->frame) {
+        return;
+    }
     d->scale = ScaleSwitch{compact, expanded};
     d->frame->title()->setScaleVisible(true);
     d->setExpanded(false);
@@ -140,6 +144,18 @@ void Dialog::setAcceptsByKey(bool accepts)
 bool Dialog::acceptsByKey() const
 {
     return d->acceptsByKey;
+}
+
+void Dialog::dismantle()
+{
+    if (!d->frame) {
+        return;
+    }
+    hide();
+    destroy();
+    d->frame->deleteLater();
+    d->frame = nullptr;
+    layout()->deleteLater();
 }
 
 void Dialog::keyPressEvent(QKeyEvent* event)

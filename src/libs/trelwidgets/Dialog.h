@@ -32,7 +32,7 @@ public:
     explicit Dialog(QWidget* parent = nullptr);
     ~Dialog() override;
 
-    /// The client area, owned by the dialog.
+    /// The client area, owned by the dialog. Null after dismantle().
     QWidget* dialogWidget() const;
 
     /// Sets the text of the title bar, which is cut with dots where it has no room, and the title
@@ -49,6 +49,12 @@ public:
     /// has not asked for the key hears of it only when somebody else emits the signal.
     void setAcceptsByKey(bool accepts);
     bool acceptsByKey() const;
+
+    /// Ends a dialog that is not shown again but has to stay, as its parent's or others' object:
+    /// hides it, gives back its window with the picture of it, and lets go of title bar and client
+    /// area, with all that is still in there, as soon as control is back in the event loop.
+    /// dialogWidget() is null from then on, and setScaleSwitch() does nothing.
+    void dismantle();
 
 signals:
     /// The operator has accepted the dialog from the keyboard, with Control and Return.

@@ -82,6 +82,7 @@ private slots:
     void nothingAcceptsUnlessAskedFor();
     void acceptHandsInAnOpenEditor();
     void keysOfAnInnerDialogArrive();
+    void staysWithoutItsPartsWhenDismantled();
     void diesWhileItRuns();
 };
 
@@ -334,6 +335,28 @@ void TestDialog::keysOfAnInnerDialogArrive()
     QVERIFY(dialog.isVisible());
     QTest::keyClick(table, Qt::Key_Escape);
     QVERIFY(dialog.isHidden());
+}
+
+void TestDialog::staysWithoutItsPartsWhenDismantled()
+{
+    Dialog dialog;
+    dialog.setScaleSwitch(QSize(300, 200), QSize(300, 400));
+    const QPointer<QWidget> client = dialog.dialogWidget();
+    const QPointer<QWidget> content = new QWidget;
+    (new QVBoxLayout(client))->addWidget(content);
+    QVERIFY(showAt(dialog));
+    dialog.dismantle();
+    QVERIFY(dialog.isHidden());
+    QVERIFY(!dialog.windowHandle());
+    QVERIFY(!dialog.dialogWidget());
+    QVERIFY(client && content);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!client && !content);
+    QVERIFY(dialog.children().isEmpty());
+    dialog.dismantle();
+    dialog.setScaleSwitch(QSize(300, 200), QSize(300, 400));
+    dialog.setTitle(QStringLiteral("Gone"));
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("Gone"));
 }
 
 void TestDialog::diesWhileItRuns()
