@@ -40,6 +40,7 @@ install(FILES
   src/libs/trelprogramschedule/dispatch/ScreenInsertion.h
   src/libs/trelprogramschedule/dispatch/ScreenState.h
   src/libs/trelprogramschedule/dispatch/ScreenTimeline.h
+  src/libs/trelprogramschedule/dispatch/SoughtPlay.h
   DESTINATION ${include_dir}/trelprogramschedule/dispatch)
 install(FILES
   src/libs/trelprogramschedule/media/MediaPicture.h

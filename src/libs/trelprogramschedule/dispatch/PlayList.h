@@ -1,6 +1,7 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule/dispatch/SoughtPlay.h"
 
 #include <QtGlobal>
 
@@ -40,15 +41,6 @@ struct ListMoment
         const Microseconds played = elapsed - begin;
         return kind == Kind::RanOut || played > length ? length : played;
     }
-};
-
-/// The plays that somebody waits for: those of one program, or those of all others.
-struct SoughtPlay
-{
-    int progIndex = -1;
-    bool isOther = false;
-
-    bool isOf(int program) const { return (program == progIndex) != isOther; }
 };
 
 /// A plan's list as it runs: which play is on after a while.

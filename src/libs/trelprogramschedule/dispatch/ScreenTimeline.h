@@ -1,9 +1,9 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
-#include "trelprogramschedule/dispatch/PlayList.h"
 #include "trelprogramschedule/dispatch/ScreenInsertion.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
+#include "trelprogramschedule/dispatch/SoughtPlay.h"
 
 #include <QTimeZone>
 
