@@ -19,12 +19,12 @@ namespace trel::mediadispatch {
 namespace {
 
 /// Leaves no request of a row behind, as each would be looked for among those of all rows.
-void polishRow(const QTableView& table, int row)
+void polishRow(const QTableView& table, const QAbstractItemModel& model, int row)
 {
     for (const int column :
          {ProgramsColumn, ModeColumn, StartTimeColumn, EndTimeColumn, TimesColumn, WeeksColumn,
           EndActionColumn, StateColumn, CopyColumn, DeleteColumn}) {
-        if (QWidget* const widget = table.indexWidget(table.model()->index(row, column))) {
+        if (QWidget* const widget = table.indexWidget(model.index(row, column))) {
             polishNewWidget(*widget);
         }
     }
@@ -46,11 +46,14 @@ std::vector<PlanRowEditors> buildPlanRows(QTableView& table, QStandardItemModel&
         const int number = static_cast<int>(editors.size());
         editors.push_back(addPlanEditors(table, number, row, rows.firstTexts()));
         rows.stateLook().show(*editors.back().state, row.collides);
-        polishRow(table, number);
+        polishRow(table, model, number);
     }
     for (int row = 0; row < model.rowCount(); ++row) {
         openRowEditors(table, row, rows.firstTexts());
-        polishNewWidget(*table.indexWidget(model.index(row, ProgramsColumn)));
+        // Another delegate need not have made one.
+        if (QWidget* const programs = table.indexWidget(model.index(row, ProgramsColumn))) {
+            polishNewWidget(*programs);
+        }
     }
     return editors;
 }

@@ -3,6 +3,7 @@
 #include "MultiComboBox.h"
 #include "PlanStandardItemModel.h"
 #include "ProgramSheduleWidgetTranslateManager.h"
+#include "ReadOnlyDelegate.h"
 #include "ScheduleText.h"
 #include "kCustomLineEdit.h"
 #include "support/PromptAnswer.h"
@@ -111,6 +112,7 @@ private slots:
     void aTableWithAnotherModel();
     void aCardThatGoesWithLostEditors();
     void theRowGoesAllTheSame();
+    void unfoldingWithAnotherDelegate();
 };
 
 void tst_PlanTaskWidgetLostEditors::initTestCase()
@@ -200,6 +202,18 @@ void tst_PlanTaskWidgetLostEditors::theRowGoesAllTheSame()
     click(open.rows.deleteButton(1));
     QCOMPARE(open.rows.disagreement(), QString());
     QCOMPARE(open.rows.task().plans.size(), std::size_t(2));
+}
+
+void tst_PlanTaskWidgetLostEditors::unfoldingWithAnotherDelegate()
+{
+    QWidget window;
+    PlanTaskWidget* const card = PlanTaskWidget::makeFolded(threePlans(), &window);
+    const PlanTaskWidgetInspector rows(*card);
+    rows.table().setItemDelegateForColumn(ProgramsColumn, new ReadOnlyDelegate(card));
+    card->setFolded(false);
+    QVERIFY(!rows.cell(1, ProgramsColumn));
+    card->slotTranslation();
+    QCOMPARE(rows.startTime(2).text(), QStringLiteral("12:00:00"));
 }
 
 QTEST_MAIN(tst_PlanTaskWidgetLostEditors)
