@@ -12,24 +12,34 @@ namespace trel::mediadispatch {
 
 namespace {
 
-std::vector<bool> collisions(const std::vector<PlayPlan>& plans)
+std::vector<bool> collisions(const std::vector<PlayPlan>& plans, const CatalogueSource& catalogue)
 {
     auto& service = scheduleManage::getInstance();
     const bool needsCatalogue = std::any_of(plans.begin(), plans.end(), [](const PlayPlan& plan) {
         return plan.mode == FrequencyMode;
     });
-    const auto catalogue = needsCatalogue ? service.getPrograms() : std::map<int, ProgramIten>();
+    static const std::map<int, ProgramIten> nothing;
     const auto hasNoDuration = [&service](int progIndex) {
         return service.isNoDurationType(progIndex);
     };
-    return collidingClaims(planClaims(plans, catalogue, hasNoDuration));
+    return collidingClaims(
+        planClaims(plans, needsCatalogue ? catalogue() : nothing, hasNoDuration));
 }
 
 } // namespace
 
 std::unordered_set<int> markConflicts(PlayTask& task)
 {
-    const std::vector<bool> collides = collisions(task.plans);
+    std::map<int, ProgramIten> fetched;
+    return markConflicts(task, [&fetched]() -> const std::map<int, ProgramIten>& {
+        fetched = scheduleManage::getInstance().getPrograms();
+        return fetched;
+    });
+}
+
+std::unordered_set<int> markConflicts(PlayTask& task, const CatalogueSource& catalogue)
+{
+    const std::vector<bool> collides = collisions(task.plans, catalogue);
     std::unordered_set<int> colliding;
     for (std::size_t i = 0; i < task.plans.size(); ++i) {
         task.plans[i].isConflict = collides[i];

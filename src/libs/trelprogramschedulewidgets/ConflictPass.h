@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <functional>
+#include <map>
 #include <unordered_set>
 
 class QLabel;
@@ -14,6 +16,9 @@ namespace trel::mediadispatch {
 /// with an earlier one. Ends that follow from programs are worked out on the service's catalogue,
 /// which is fetched once; the endTime of the plans stays as it is.
 std::unordered_set<int> markConflicts(PlayTask& task);
+/// The same on a catalogue that is at hand, which is asked for only when an end follows from it.
+using CatalogueSource = std::function<const std::map<int, ProgramIten>&()>;
+std::unordered_set<int> markConflicts(PlayTask& task, const CatalogueSource& catalogue);
 
 /// What the state labels of the rows show, in the language of the moment. Made once for the labels
 /// of all rows: they share its texts, and to look up a text costs more than the label itself.

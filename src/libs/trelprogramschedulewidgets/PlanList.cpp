@@ -1,5 +1,6 @@
 #include "PlanList.h"
 
+#include "AnswerCatalogue.h"
 #include "NewWidgets.h"
 #include "PlanTaskWidget.h"
 #include "initProcess.h"
@@ -18,6 +19,7 @@
 #include <utility>
 #include <vector>
 
+using trel::mediadispatch::AnswerCatalogue;
 using trel::mediadispatch::Clock;
 using trel::mediadispatch::idAfter;
 using trel::mediadispatch::initProcess;
@@ -85,6 +87,8 @@ PlanList::PlanList(QWidget* parent)
                                       QSizePolicy::Expanding, QSizePolicy::Expanding));
     setLayout(m_layout);
     m_process = new initProcess(this);
+    // In front of the cards, which all answer it.
+    connect(this, &PlanList::sigTranslation, this, [this] { AnswerCatalogue::beginRound(*this); });
 }
 
 PlanList::~PlanList()

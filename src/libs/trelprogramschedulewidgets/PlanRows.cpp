@@ -1,18 +1,11 @@
 #include "PlanRows.h"
 
 #include "FoldedRows.h"
-#include "MultiComboBox.h"
 #include "NewWidgets.h"
 #include "PlanColumns.h"
-#include "PlanTaskWidget.h"
 
-#include "trelwidgets/ComboBox.h"
-
-#include <QPushButton>
-#include <QSpinBox>
 #include <QStandardItemModel>
 #include <QTableView>
-#include <QTimeEdit>
 
 namespace trel::mediadispatch {
 
@@ -56,24 +49,6 @@ std::vector<PlanRowEditors> buildPlanRows(QTableView& table, QStandardItemModel&
         }
     }
     return editors;
-}
-
-void connectPlanRow(const PlanRowEditors& editors, PlanTaskWidget& card)
-{
-    QObject::connect(editors.mode, QOverload<int>::of(&QComboBox::currentIndexChanged), &card,
-                     &PlanTaskWidget::slotModeIndexChanged);
-    QObject::connect(editors.startTime, &QTimeEdit::timeChanged, &card,
-                     &PlanTaskWidget::slotStartTimeChanged);
-    QObject::connect(editors.endTime, &QTimeEdit::timeChanged, &card,
-                     &PlanTaskWidget::slotEndTimeChanged);
-    QObject::connect(editors.times, QOverload<int>::of(&QSpinBox::valueChanged), &card,
-                     &PlanTaskWidget::slotTimesChanged);
-    QObject::connect(editors.weeks, &MultiComboBox::signalSelectedText, &card,
-                     &PlanTaskWidget::slotSelectedText);
-    QObject::connect(editors.endAction, QOverload<int>::of(&QComboBox::currentIndexChanged), &card,
-                     &PlanTaskWidget::slotEndActionIndexChanged);
-    QObject::connect(editors.copy, &QPushButton::clicked, &card, &PlanTaskWidget::slotCopyPlan);
-    QObject::connect(editors.remove, &QPushButton::clicked, &card, &PlanTaskWidget::slotDeletePlan);
 }
 
 } // namespace trel::mediadispatch

@@ -1,5 +1,6 @@
 #include "PlanTaskWidget.h"
 
+#include "AnswerCatalogue.h"
 #include "BusyPointer.h"
 #include "ConflictPass.h"
 #include "FoldedRows.h"
@@ -89,6 +90,7 @@ PlanTaskWidget::PlanTaskWidget(const PlayTask& task, QWidget* parent, Rows rows)
     , m_task(task)
 {
     qRegisterMetaType<ComBoxType>("ComBoxType");
+    AnswerCatalogue::followService();
     auto* const model = new LatePlanModel(this);
     m_model = model;
     setUpForm();
@@ -228,6 +230,7 @@ std::string PlanTaskWidget::addDuration(const std::string& start, int seconds)
 
 void PlanTaskWidget::slotTranslation()
 {
+    AnswerCatalogue catalogue(sender());
     const PlanRowTexts texts(PlanRowTexts::RowsOnShow);
     if (m_foldedRows) {
         m_foldedRows->translate(texts);
@@ -237,7 +240,7 @@ void PlanTaskWidget::slotTranslation()
     m_ui->translate(m_task);
     m_ui->pbtCreatCopy->setToolTip(texts.copy);
     m_ui->pushButtonDelete->setToolTip(texts.remove);
-    refreshConflicts();
+    refreshConflicts(catalogue);
 }
 
 void PlanTaskWidget::translateRows(const PlanRowTexts& texts)
@@ -320,7 +323,20 @@ void PlanTaskWidget::enterWidget(std::vector<RowWidget<T>>& widgets, int row, T*
 
 void PlanTaskWidget::enterEditors(int row, const PlanRowEditors& editors)
 {
-    connectPlanRow(editors, *this);
+    connect(editors.mode, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &PlanTaskWidget::slotModeIndexChanged);
+    connect(editors.startTime, &QTimeEdit::timeChanged, this,
+            &PlanTaskWidget::slotStartTimeChanged);
+    connect(editors.endTime, &QTimeEdit::timeChanged, this, &PlanTaskWidget::slotEndTimeChanged);
+    connect(editors.times, QOverload<int>::of(&QSpinBox::valueChanged), this,
+            &PlanTaskWidget::slotTimesChanged);
+    connect(editors.weeks, &MultiComboBox::signalSelectedText, this,
+            &PlanTaskWidget::slotSelectedText);
+    connect(editors.endAction, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+            &PlanTaskWidget::slotEndActionIndexChanged);
+    connect(editors.copy, &QPushButton::clicked, this, &PlanTaskWidget::slotCopyPlan);
+    connect(editors.remove, &QPushButton::clicked, this, &PlanTaskWidget::slotDeletePlan);
+
     enterWidget(m_modeCombos, row, editors.mode);
     enterWidget(m_startTimeEdits, row, editors.startTime);
     enterWidget(m_endTimeEdits, row, editors.endTime);
@@ -427,21 +443,32 @@ void PlanTaskWidget::showEnd(int row, const QTime& time)
     }
 }
 
+// Every card answers every signal of the service, and most of them have nothing that follows from
+// the catalogue.
 void PlanTaskWidget::slotUpdateEndTime()
 {
-    const std::map<int, ProgramIten> catalogue = service().getPrograms();
+    AnswerCatalogue catalogue(sender());
     for (int row = 0; row < rowCount(); ++row) {
         const PlayPlan* const plan = planOfRow(row);
         if (plan && plan->mode == FrequencyMode) {
-            recomputeEnd(row, catalogue);
+            recomputeEnd(row, catalogue.programs());
         }
     }
-    refreshConflicts();
+    // What has come while a refusal was on screen counts.
+    catalogue.renew();
+    refreshConflicts(catalogue);
 }
 
 void PlanTaskWidget::refreshConflicts()
 {
-    showStates(markConflicts(m_task));
+    AnswerCatalogue ofTheMoment(nullptr);
+    refreshConflicts(ofTheMoment);
+}
+
+void PlanTaskWidget::refreshConflicts(AnswerCatalogue& catalogue)
+{
+    showStates(markConflicts(
+        m_task, [&]() -> const std::map<int, ProgramIten>& { return catalogue.programs(); }));
     m_ui->tableView->QWidget::update();
     service().addTask(m_task);
 }
@@ -471,8 +498,9 @@ void PlanTaskWidget::showStates(const std::unordered_set<int>& colliding)
 
 void PlanTaskWidget::slotReflushConflict(int)
 {
+    AnswerCatalogue catalogue(sender());
     m_task = service().getTask(m_task.id);
-    refreshConflicts();
+    refreshConflicts(catalogue);
 }
 
 void PlanTaskWidget::slotModeIndexChanged(int index)

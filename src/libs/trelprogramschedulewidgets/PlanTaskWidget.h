@@ -26,6 +26,7 @@ class ComboBox;
 
 namespace trel::mediadispatch {
 
+class AnswerCatalogue;
 class FoldedRows;
 class MultiComboBox;
 class PlanStandardItemModel;
@@ -176,6 +177,7 @@ private:
     /// Marks the plans that collide with an earlier one, shows it in the rows and hands the task
     /// to the service.
     void refreshConflicts();
+    void refreshConflicts(AnswerCatalogue& catalogue);
     void showStates(const std::unordered_set<int>& colliding);
 
     void changeMode(int row, int mode);
