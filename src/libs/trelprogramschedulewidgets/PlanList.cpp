@@ -9,7 +9,7 @@
 #include "service/scheduleManage.h"
 
 #include <QCoreApplication>
-#include <QPointer>
+#include <QScrollArea>
 #include <QShowEvent>
 #include <QVBoxLayout>
 
@@ -26,6 +26,7 @@ using trel::mediadispatch::initProcess;
 using trel::mediadispatch::kDateFormat;
 using trel::mediadispatch::paintAsAWhole;
 using trel::mediadispatch::scheduleManage;
+using trel::mediadispatch::scrollIntoSight;
 
 namespace {
 
@@ -145,8 +146,14 @@ void PlanList::foldAll()
 
 void PlanList::addTask(const PlayTask& task)
 {
+    const QPointer<PlanList> self(this);
     service().addTask(task);
     addCard(task, false);
+    if (self) {
+        m_place.reset();
+        m_newCard = m_taskWidgets.value(task.id);
+        scrollToPlace();
+    }
 }
 
 void PlanList::addCard(const PlayTask& task, bool folded)
@@ -277,6 +284,7 @@ void PlanList::rebuild()
         takeRoom();
         show();
     }
+    scrollToPlace();
 }
 
 // Has the scroll area give the list the height of all its cards. When they come into sight they are
@@ -289,16 +297,63 @@ void PlanList::takeRoom()
     }
 }
 
+QScrollArea* PlanList::scrollArea() const
+{
+    const QWidget* const viewport = parentWidget();
+    auto* const area = viewport ? qobject_cast<QScrollArea*>(viewport->parentWidget()) : nullptr;
+    return area && area->widget() == this ? area : nullptr;
+}
+
+// Has the range of the scroll bar follow at once.
+void PlanList::layOutIn(QScrollArea& area)
+{
+    m_layout->activate();
+    QEvent request(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(&area, &request);
+}
+
+void PlanList::rememberPlace()
+{
+    const QScrollArea* const area = scrollArea();
+    // A place that was not scrolled to yet is what the operator saw last.
+    if (area && !m_place && !m_taskWidgets.isEmpty()) {
+        m_place.emplace(*area, m_taskWidgets);
+    }
+}
+
+// While the list is out of sight its cards have no places, and what is to be done waits.
+void PlanList::scrollToPlace()
+{
+    QScrollArea* const area = scrollArea();
+    if (!area || !isVisible() || (!m_newCard && !m_place)) {
+        return;
+    }
+    if (m_newCard) {
+        // The layout would show it later, and leaves it out until then.
+        m_newCard->show();
+    }
+    layOutIn(*area);
+    if (m_newCard) {
+        scrollIntoSight(*area, *m_newCard);
+    } else {
+        m_place->restore(*area, m_taskWidgets);
+    }
+    m_newCard.clear();
+    m_place.reset();
+}
+
 void PlanList::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
     if (!event->spontaneous()) {
+        scrollToPlace();
         paintAsAWhole(*this);
     }
 }
 
 void PlanList::slotclearPlanList()
 {
+    rememberPlace();
     std::vector<std::pair<int, QPointer<PlanTaskWidget>>> cards;
     cards.reserve(static_cast<std::size_t>(m_taskWidgets.size()));
     for (auto card = m_taskWidgets.cbegin(); card != m_taskWidgets.cend(); ++card) {

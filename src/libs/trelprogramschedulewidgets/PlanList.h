@@ -1,8 +1,14 @@
 #pragma once
 
+#include "ScrollPlace.h"
+
 #include <QMap>
+#include <QPointer>
 #include <QWidget>
 
+#include <optional>
+
+class QScrollArea;
 class QVBoxLayout;
 
 namespace trel::mediadispatch {
@@ -41,9 +47,9 @@ signals:
     void sigGetMapCount(int count);
 
 public slots:
-    /// Adds a task of one day, after the last day of all others, and its card, the only open one.
-    /// Does nothing, and folds nothing, in the first second after a rebuild, when the list is full,
-    /// or when there is no number behind the largest id.
+    /// Adds a task of one day, after the last day of all others, and its card, the only open one,
+    /// which scrolls into sight. Does nothing, and folds nothing, in the first second after a
+    /// rebuild, when the list is full, or when there is no number behind the largest id.
     void slotAddOutput();
     /// Removes the card, then the task; the task also when there is no such card. Asks nothing.
     void slotDeleteTask(int taskId);
@@ -55,8 +61,9 @@ public slots:
     /// Announces the end of a rebuild and starts the second in which nothing is added.
     void slotCloseProcess();
     /// Drops every card and the service's working set, and builds folded cards from the stored
-    /// set, in ascending id order. Handles pending events before it reads that set, so that a call
-    /// from one of those has nothing left to do.
+    /// set, in ascending id order. What was in sight stays there as far as it still exists. Handles
+    /// pending events before it reads that set, so that a call from one of those has nothing left
+    /// to do.
     void refreshPlanList();
     /// Takes every card out of the layout and destroys it, one after the other in ascending id
     /// order. The service is not touched. Cards that are added meanwhile stay.
@@ -71,6 +78,10 @@ private:
 
     void rebuild();
     void takeRoom();
+    QScrollArea* scrollArea() const;
+    void layOutIn(QScrollArea& area);
+    void rememberPlace();
+    void scrollToPlace();
     bool mayAdd() const;
     void foldAll();
     void addTask(const PlayTask& task);
@@ -85,4 +96,7 @@ private:
     trel::mediadispatch::initProcess* m_process;
     qint64 m_lastRefreshMSecs = 0;
     bool m_refreshing = false;
+    /// Where to scroll when the list is in sight again, and the card that has to come into sight.
+    std::optional<trel::mediadispatch::ScrollPlace> m_place;
+    QPointer<QWidget> m_newCard;
 };
