@@ -1,6 +1,7 @@
 #include "PlanList.h"
 
 #include "AnswerCatalogue.h"
+#include "EditorInUse.h"
 #include "NewWidgets.h"
 #include "PlanTaskWidget.h"
 #include "initProcess.h"
@@ -27,6 +28,7 @@ using trel::mediadispatch::kDateFormat;
 using trel::mediadispatch::paintAsAWhole;
 using trel::mediadispatch::scheduleManage;
 using trel::mediadispatch::scrollIntoSight;
+using trel::mediadispatch::takeOverTyping;
 
 namespace {
 
@@ -109,7 +111,7 @@ bool PlanList::mayAdd() const
 
 void PlanList::slotAddOutput()
 {
-    if (!mayAdd()) {
+    if (!mayAdd() || !takeOverTyping(*this)) {
         return;
     }
     PlayTask task;
@@ -121,7 +123,7 @@ void PlanList::slotAddOutput()
 
 void PlanList::slotCopyTask(int taskId)
 {
-    if (!mayAdd()) {
+    if (!mayAdd() || !takeOverTyping(*this)) {
         return;
     }
     PlayTask copy = service().getTask(taskId);

@@ -3,6 +3,7 @@
 #include "AnswerCatalogue.h"
 #include "BusyPointer.h"
 #include "ConflictPass.h"
+#include "EditorInUse.h"
 #include "FoldedRows.h"
 #include "LatePlanModel.h"
 #include "LineEditDelegate.h"
@@ -110,7 +111,12 @@ PlanTaskWidget::PlanTaskWidget(const PlayTask& task, QWidget* parent, Rows rows)
     }
 }
 
-PlanTaskWidget::~PlanTaskWidget() = default;
+PlanTaskWidget::~PlanTaskWidget()
+{
+    // No table that is kept asks for its rows any more.
+    m_foldedRows.reset();
+    keepWhatIsInUse(*this);
+}
 
 PlanTaskWidget* PlanTaskWidget::makeFolded(const PlayTask& task, QWidget* parent)
 {
@@ -203,6 +209,10 @@ bool PlanTaskWidget::isFolded() const
 
 void PlanTaskWidget::slotFold(bool isFold)
 {
+    const EditorInUse inUse;
+    if (isFold && !takeOverTyping(*this)) {
+        return;
+    }
     std::optional<BusyPointer> busy;
     if (!isFold) {
         if (m_foldedRows && m_foldedRows->rows().size() >= kNoticeableRows) {
@@ -364,31 +374,37 @@ void PlanTaskWidget::slotAddProgram(int row)
     if (result == kConfirmed) {
         text = chooser.getSelectedProgramText();
         m_model->setData(m_model->index(row, ProgramsColumn), text, ProgramTextRole);
-        lockModeOfRow(row, planId);
+        if (!lockModeOfRow(row, planId)) {
+            return;
+        }
     }
     service().setqstrSelectedProgram(text.toStdString());
     m_task = service().getTask(m_task.id);
 
     const PlayPlan* const plan = planOfRow(row);
-    if (plan && plan->mode == FrequencyMode) {
-        recomputeEnd(row, service().getPrograms());
+    if (plan && plan->mode == FrequencyMode && recomputeEnd(row, service().getPrograms())) {
         refreshConflicts();
     }
 }
 
 // Allows a choice of the mode only as long as every program of the stored plan has a length.
-void PlanTaskWidget::lockModeOfRow(int row, int planId)
+bool PlanTaskWidget::lockModeOfRow(int row, int planId)
 {
     ComboBox* const box = widgetOfRow(m_modeCombos, row);
     if (!box) {
-        return;
+        return true;
     }
     int index = -1;
     const bool isLocked = service().getPlan(m_task.id, planId, index).hasNoDuration;
+    const QPointer<PlanTaskWidget> self(this);
     if (isLocked) {
         box->setCurrentIndex(TimeMode);
     }
+    if (!self) {
+        return false;
+    }
     box->setDisabled(isLocked);
+    return true;
 }
 
 PlayPlan* PlanTaskWidget::planOfRow(int row)
@@ -410,16 +426,16 @@ void PlanTaskWidget::computeEndTime(int index, std::string& out)
     }
 }
 
-void PlanTaskWidget::recomputeEnd(int row, const std::map<int, ProgramIten>& catalogue)
+bool PlanTaskWidget::recomputeEnd(int row, const std::map<int, ProgramIten>& catalogue)
 {
     PlayPlan* const plan = planOfRow(row);
     if (!plan || !showsEnd(row)) {
-        return;
+        return true;
     }
     // Written first: the editor comes back through slotEndTimeChanged, which has to find nothing
     // new.
     plan->endTime = plannedEnd(*plan, catalogue, hasNoDuration);
-    showEnd(row, timeFromText(plan->endTime));
+    return showEnd(row, timeFromText(plan->endTime));
 }
 
 int PlanTaskWidget::rowCount() const
@@ -432,8 +448,9 @@ bool PlanTaskWidget::showsEnd(int row) const
     return m_foldedRows ? m_foldedRows->isRow(row) : widgetOfRow(m_endTimeEdits, row) != nullptr;
 }
 
-void PlanTaskWidget::showEnd(int row, const QTime& time)
+bool PlanTaskWidget::showEnd(int row, const QTime& time)
 {
+    const QPointer<PlanTaskWidget> self(this);
     if (!m_foldedRows) {
         if (QTimeEdit* const editor = widgetOfRow(m_endTimeEdits, row)) {
             editor->setTime(time);
@@ -441,6 +458,7 @@ void PlanTaskWidget::showEnd(int row, const QTime& time)
     } else if (m_foldedRows->setEndTime(row, time)) {
         slotUpdateTime(row, EndTimeColumn, time);
     }
+    return !self.isNull();
 }
 
 // Every card answers every signal of the service, and most of them have nothing that follows from
@@ -448,10 +466,11 @@ void PlanTaskWidget::showEnd(int row, const QTime& time)
 void PlanTaskWidget::slotUpdateEndTime()
 {
     AnswerCatalogue catalogue(sender());
+    // Rows may come and go while an end is refused.
     for (int row = 0; row < rowCount(); ++row) {
         const PlayPlan* const plan = planOfRow(row);
-        if (plan && plan->mode == FrequencyMode) {
-            recomputeEnd(row, catalogue.programs());
+        if (plan && plan->mode == FrequencyMode && !recomputeEnd(row, catalogue.programs())) {
+            return;
         }
     }
     // What has come while a refusal was on screen counts.
@@ -505,6 +524,7 @@ void PlanTaskWidget::slotReflushConflict(int)
 
 void PlanTaskWidget::slotModeIndexChanged(int index)
 {
+    const EditorInUse inUse;
     const int row = rowOfWidget(m_modeCombos, sender());
     if (row != -1) {
         slotCurrentIndexChangeSignal(row, ModeCombo, index);
@@ -523,7 +543,9 @@ void PlanTaskWidget::slotCurrentIndexChangeSignal(int row, ComBoxType type, int 
 {
     switch (type) {
     case ModeCombo:
-        changeMode(row, value);
+        if (!changeMode(row, value)) {
+            return;
+        }
         break;
     case EndActionCombo:
         if (PlayPlan* const plan = planOfRow(row)) {
@@ -536,24 +558,33 @@ void PlanTaskWidget::slotCurrentIndexChangeSignal(int row, ComBoxType type, int 
 
 // The end is worked out in both directions, so that a plan that goes back to TimeMode starts from
 // the end that it had in FrequencyMode.
-void PlanTaskWidget::changeMode(int row, int mode)
+bool PlanTaskWidget::changeMode(int row, int mode)
 {
     buildTable();
+    // An editor that is disabled takes over what is being typed in it.
+    const QPointer<PlanTaskWidget> self(this);
     if (QSpinBox* const times = widgetOfRow(m_timesSpins, row)) {
         times->setDisabled(mode == TimeMode);
     }
+    if (!self) {
+        return false;
+    }
     if (QTimeEdit* const end = widgetOfRow(m_endTimeEdits, row)) {
         end->setDisabled(mode != TimeMode);
-        recomputeEnd(row, service().getPrograms());
+        if (!self || !recomputeEnd(row, service().getPrograms())) {
+            return false;
+        }
     }
     qDebug() << "mode changed:" << 0 << mode;
     if (PlayPlan* const plan = planOfRow(row)) {
         plan->mode = mode;
     }
+    return true;
 }
 
 void PlanTaskWidget::slotStartTimeChanged(QTime newTime)
 {
+    const EditorInUse inUse;
     const int row = rowOfWidget(m_startTimeEdits, sender());
     PlayPlan* const plan = planOfRow(row);
     if (!plan) {
@@ -563,7 +594,9 @@ void PlanTaskWidget::slotStartTimeChanged(QTime newTime)
         // The end follows the new start, while the check that comes after it has to compare with
         // the start from before the edit.
         const std::string formerStart = std::exchange(plan->startTime, timeToText(newTime));
-        recomputeEnd(row, service().getPrograms());
+        if (!recomputeEnd(row, service().getPrograms())) {
+            return;
+        }
         if (PlayPlan* const samePlan = planOfRow(row)) {
             samePlan->startTime = formerStart;
         }
@@ -573,6 +606,7 @@ void PlanTaskWidget::slotStartTimeChanged(QTime newTime)
 
 void PlanTaskWidget::slotEndTimeChanged(QTime newTime)
 {
+    const EditorInUse inUse;
     const int row = rowOfWidget(m_endTimeEdits, sender());
     if (row != -1) {
         slotUpdateTime(row, EndTimeColumn, newTime);
@@ -581,6 +615,7 @@ void PlanTaskWidget::slotEndTimeChanged(QTime newTime)
 
 void PlanTaskWidget::slotTimesChanged(int value)
 {
+    const EditorInUse inUse;
     const int row = rowOfWidget(m_timesSpins, sender());
     if (!areTimesTaken(value) || m_planIdByRow.count(row) == 0) {
         return;
@@ -588,8 +623,9 @@ void PlanTaskWidget::slotTimesChanged(int value)
     if (PlayPlan* const plan = planByIdOfRow(row)) {
         plan->times = value;
     }
-    recomputeEnd(row, service().getPrograms());
-    refreshConflicts();
+    if (recomputeEnd(row, service().getPrograms())) {
+        refreshConflicts();
+    }
 }
 
 // A number of runs that is written into the cell itself. The end and its editor are left to the
@@ -633,6 +669,7 @@ void PlanTaskWidget::refreshEditorrow(int row)
 
 void PlanTaskWidget::slotUpdateStartTimeDate(QDate date)
 {
+    const EditorInUse inUse;
     const std::string text = dateToText(date);
     if (m_task.endDate < text) {
         if (isAliveAfterRefusal()) {
@@ -646,6 +683,7 @@ void PlanTaskWidget::slotUpdateStartTimeDate(QDate date)
 
 void PlanTaskWidget::slotUpdateEndTimeDate(QDate date)
 {
+    const EditorInUse inUse;
     const std::string text = dateToText(date);
     if (text < m_task.startDate) {
         if (isAliveAfterRefusal()) {
@@ -689,6 +727,7 @@ void PlanTaskWidget::takeTime(int row, PlayPlan& plan, std::string PlayPlan::*ti
         return;
     }
     const PlayPlan* const stored = planByIdOfRow(row);
+    const QPointer<PlanTaskWidget> self(this);
     if (stored && time == &PlayPlan::endTime) {
         showEnd(row, timeFromText(stored->endTime));
     } else if (stored) {
@@ -697,7 +736,9 @@ void PlanTaskWidget::takeTime(int row, PlayPlan& plan, std::string PlayPlan::*ti
             editor->setTime(timeFromText(stored->startTime));
         }
     }
-    refreshConflicts();
+    if (self) {
+        refreshConflicts();
+    }
 }
 
 bool PlanTaskWidget::isAliveAfterRefusal()
@@ -749,7 +790,7 @@ void PlanTaskWidget::slotCopyPlan()
 
 void PlanTaskWidget::slotDeletePlan()
 {
-    if (!isConfirmed("szDeletePlanConfirmStr")) {
+    if (!isConfirmed("szDeletePlanConfirmStr") || !takeOverTyping(*this)) {
         return;
     }
     const auto* const button = qobject_cast<QPushButton*>(sender());

@@ -49,6 +49,9 @@ struct PlanRowTexts;
 /// asked of it that needs them. What it hands to the service, answers to its signals and takes of
 /// another language is the same as with rows, and so is what the rows show when they come. Once
 /// they are there they stay, folded or not.
+///
+/// Refusals, questions and the chooser run event loops inside the slots. The card may be destroyed
+/// in each of them; what the slot has left to do is dropped then.
 class PlanTaskWidget : public QWidget
 {
     Q_OBJECT
@@ -155,7 +158,8 @@ private:
     bool choosePrograms(PlayPlan& plan);
     void enterPlan(int planId, int row);
     void enterEditors(int row, const PlanRowEditors& editors);
-    void lockModeOfRow(int row, int planId);
+    /// False when the card has gone meanwhile.
+    bool lockModeOfRow(int row, int planId);
     void translateRows(const PlanRowTexts& texts);
 
     /// The plan at the row's place in the task; null when the task has no such plan.
@@ -166,13 +170,15 @@ private:
     /// The end of the plan at the index, worked out from its programs. Leaves out alone when there
     /// is no such plan.
     void computeEndTime(int index, std::string& out);
-    /// The same for the plan of a row, written into the plan and shown in the row.
-    void recomputeEnd(int row, const std::map<int, ProgramIten>& catalogue);
+    /// The same for the plan of a row, written into the plan and shown in the row. Where two plans
+    /// have one id the end may be refused; false when the card has gone meanwhile.
+    bool recomputeEnd(int row, const std::map<int, ProgramIten>& catalogue);
     /// The rows, whether they have been built or not.
     int rowCount() const;
     bool showsEnd(int row) const;
-    /// Shows an end in a row. One that is new comes back as an edit of the row.
-    void showEnd(int row, const QTime& time);
+    /// Shows an end in a row. One that is new comes back as an edit of the row. False when the card
+    /// has gone meanwhile.
+    bool showEnd(int row, const QTime& time);
 
     /// Marks the plans that collide with an earlier one, shows it in the rows and hands the task
     /// to the service.
@@ -180,10 +186,11 @@ private:
     void refreshConflicts(AnswerCatalogue& catalogue);
     void showStates(const std::unordered_set<int>& colliding);
 
-    void changeMode(int row, int mode);
+    /// False when the card has gone meanwhile.
+    bool changeMode(int row, int mode);
 
     /// Writes a new start or end time into a row's plan and stores the task, or tells that it is
-    /// refused and puts the stored time back into the editor. The plan may be gone afterwards.
+    /// refused and puts the stored time back into the editor. Plan and card may be gone afterwards.
     void takeTime(int row, PlayPlan& plan, std::string PlayPlan::*time, const std::string& text,
                   bool isRefused);
     /// Tells that a day or a time is refused. False when the card has gone meanwhile.

@@ -445,6 +445,8 @@ void ProgramChoose::showInsertMenu(bool enabled, QPoint pos)
         }
     }
     menu.setEnabled(enabled);
+    // Without its window the menu would wait for an answer to nothing.
+    connect(m_dialog, &QObject::destroyed, &menu, &QWidget::close);
     menu.exec(ui->tableViewChoonse->viewport()->mapToGlobal(pos));
 }
 

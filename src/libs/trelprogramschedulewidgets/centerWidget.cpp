@@ -1,5 +1,6 @@
 #include "centerWidget.h"
 
+#include "EditorInUse.h"
 #include "PlanList.h"
 #include "Prompts.h"
 #include "ScheduleText.h"
@@ -9,6 +10,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QPointer>
 #include <QScrollBar>
 
 namespace trel::mediadispatch {
@@ -38,6 +40,7 @@ public:
     void setUp(QWidget& panel)
     {
         setupUi(&panel);
+        list = widget;
         verticalLayout_2 = new QVBoxLayout;
         verticalLayout_2->setObjectName(QStringLiteral("verticalLayout_2"));
         verticalLayout_2->setSpacing(kListSpacing);
@@ -50,6 +53,7 @@ public:
     }
 
     QVBoxLayout* verticalLayout_2 = nullptr;
+    QPointer<PlanList> list; ///< The widget, as long as it is there.
 };
 
 centerWidget::centerWidget(QWidget* parent)
@@ -68,12 +72,20 @@ centerWidget::centerWidget(QWidget* parent)
 centerWidget::~centerWidget()
 {
     // The list tells its last count when it goes, which is after the panel's own members.
-    m_ui->widget->disconnect(this);
+    if (m_ui->list) {
+        m_ui->list->disconnect(this);
+    }
+    if (isEditorInUse()) {
+        // The scroll area may just be getting the focus from the editor that asks. The cards in it
+        // go with the panel all the same.
+        const std::unique_ptr<PlanList> list(m_ui->list);
+    }
+    keepWhatIsInUse(*this);
 }
 
 PlanList* centerWidget::planList() const
 {
-    return m_ui->widget;
+    return m_ui->list;
 }
 
 void centerWidget::setUpScrollArea()
@@ -171,15 +183,18 @@ void centerWidget::slotGetMapCount(int count)
 
 void centerWidget::slotShowProcess()
 {
-    disconnect(m_ui->pushButtonAddTask, &QPushButton::clicked, planList(),
-               &PlanList::slotAddOutput);
+    if (const PlanList* const list = planList()) {
+        disconnect(m_ui->pushButtonAddTask, &QPushButton::clicked, list, &PlanList::slotAddOutput);
+    }
     m_ui->pushButtonAddTask->setText(scheduleText("zhScheduleLoading"));
     m_ui->pushButtonAddTask->setDisabled(true);
 }
 
 void centerWidget::slotCloseProcess()
 {
-    connect(m_ui->pushButtonAddTask, &QPushButton::clicked, planList(), &PlanList::slotAddOutput);
+    if (const PlanList* const list = planList()) {
+        connect(m_ui->pushButtonAddTask, &QPushButton::clicked, list, &PlanList::slotAddOutput);
+    }
     m_ui->pushButtonAddTask->setText(scheduleText("zhSchedulePlayStrAdd"));
     m_ui->pushButtonAddTask->setEnabled(true);
 }

@@ -22,7 +22,7 @@ public:
     explicit centerWidget(QWidget* parent = nullptr);
     ~centerWidget() override;
 
-    /// The list of cards, owned by the panel.
+    /// The list of cards, owned by the panel; null once somebody has destroyed it.
     PlanList* planList() const;
 
     /// True when no two tasks of the working set share a day of validity. Otherwise message names

@@ -69,9 +69,12 @@ void scheduleControlUI::connectAll()
 
 void scheduleControlUI::clearAndInitialize()
 {
+    const QPointer<scheduleControlUI> self(this);
     emit sigclearPlanList();
     scheduleManage::getInstance().resetUiTask();
-    emit signalUpdatePlanList();
+    if (self) {
+        emit signalUpdatePlanList();
+    }
 }
 
 void scheduleControlUI::loadLanguageFiles(const std::vector<QString>& files) const
@@ -90,7 +93,9 @@ void scheduleControlUI::switchLanguage(const QString& language) const
 void scheduleControlUI::translate()
 {
     setTitle(scheduleText("zhSchedulePlayStr"));
-    m_centerWidget->slotTranslation();
+    if (m_centerWidget) {
+        m_centerWidget->slotTranslation();
+    }
 }
 
 void scheduleControlUI::setCheckBoxImagePath(const QString& checkedPath,
@@ -108,8 +113,12 @@ void scheduleControlUI::slotCancel()
 
 void scheduleControlUI::slotSave()
 {
+    // A host may ask the operator what becomes of a save that fails.
+    const QPointer<scheduleControlUI> self(this);
     scheduleManage::getInstance().save();
-    slotCancel();
+    if (self) {
+        slotCancel();
+    }
 }
 
 void scheduleControlUI::slotStart() const
@@ -130,6 +139,8 @@ void scheduleControlUI::slotShow(bool bUpdatePlanList)
     if (isLocked()) {
         return;
     }
+    // Pending events are handled while the list is built.
+    const QPointer<scheduleControlUI> self(this);
     if (!isVisible()) {
         show();
         showNormal();
@@ -138,7 +149,9 @@ void scheduleControlUI::slotShow(bool bUpdatePlanList)
             emit signalUpdatePlanList();
         }
     }
-    m_showTimer.restart();
+    if (self) {
+        m_showTimer.restart();
+    }
 }
 
 void scheduleControlUI::slotShow()

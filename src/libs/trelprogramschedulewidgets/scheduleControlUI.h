@@ -4,6 +4,7 @@
 
 #include <QElapsedTimer>
 #include <QMenu>
+#include <QPointer>
 
 #include <vector>
 
@@ -86,7 +87,7 @@ private:
     QMenu m_menu;
     // The frame brings the title bar of the window; this place for another stays empty.
     TitleBar* m_titleBar = nullptr;
-    centerWidget* m_centerWidget = nullptr;
+    QPointer<centerWidget> m_centerWidget;
     QVBoxLayout* m_layout = nullptr;
     QElapsedTimer m_showTimer;
 };
