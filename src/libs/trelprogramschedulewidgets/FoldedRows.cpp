@@ -4,9 +4,11 @@
 
 namespace trel::mediadispatch {
 
-FoldedRows::FoldedRows()
+FoldedRows::FoldedRows(std::size_t rows)
     : m_first(PlanRowTexts::NewRows)
-{}
+{
+    m_rows.reserve(rows);
+}
 
 int FoldedRows::add(PlanRowState row)
 {

@@ -17,8 +17,8 @@ namespace trel::mediadispatch {
 class FoldedRows
 {
 public:
-    /// The words of the rows are those of the moment.
-    FoldedRows();
+    /// For about so many rows. Their words are those of the moment.
+    explicit FoldedRows(std::size_t rows);
 
     /// Adds a row below the others and returns its number.
     int add(PlanRowState row);

@@ -27,8 +27,12 @@ QTime shownTime(const std::string& text)
 } // namespace
 
 PlanRowState::PlanRowState(const PlayPlan& plan)
+    : PlanRowState(plan, programSuffixes())
+{}
+
+PlanRowState::PlanRowState(const PlayPlan& plan, const ProgramSuffixes& suffixes)
     : planId(plan.id)
-    , programs(programNames(plan.programs))
+    , programs(programNames(plan.programs, suffixes))
     , isModeLocked(hasProgramWithoutLength(plan))
     , mode(isModeLocked ? TimeMode : plan.mode)
     , startTime(shownTime(plan.startTime))

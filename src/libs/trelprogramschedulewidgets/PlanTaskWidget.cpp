@@ -19,6 +19,7 @@
 #include "PlanTable.h"
 #include "PlanTaskForm.h"
 #include "ProgramChoose.h"
+#include "ProgramNames.h"
 #include "Prompts.h"
 #include "ScheduleText.h"
 #include "service/DateText.h"
@@ -63,15 +64,15 @@ bool hasNoDuration(int progIndex)
 }
 
 /// What the row of a plan of the task shows at first. A plan without an id gets one in its row.
-PlanRowState rowOf(const PlayPlan& plan, const PlayTask& task)
+PlanRowState rowOf(const PlayPlan& plan, const PlayTask& task, const ProgramSuffixes& suffixes)
 {
     if (plan.id != kNoPlanId) {
-        return PlanRowState(plan);
+        return {plan, suffixes};
     }
     PlayPlan completed = plan;
     // Without an id left it is shown as it is.
     completeNewPlan(completed, task);
-    return PlanRowState(completed);
+    return {completed, suffixes};
 }
 
 bool areTimesTaken(int times)
@@ -168,9 +169,10 @@ void PlanTaskWidget::loadPlans()
         return;
     }
     const std::unordered_set<int> colliding = markConflicts(m_task);
-    m_foldedRows = std::make_unique<FoldedRows>();
+    const ProgramSuffixes suffixes = programSuffixes();
+    m_foldedRows = std::make_unique<FoldedRows>(m_task.plans.size());
     for (const PlayPlan& plan : m_task.plans) {
-        PlanRowState row = rowOf(plan, m_task);
+        PlanRowState row = rowOf(plan, m_task, suffixes);
         const int planId = row.planId;
         enterPlan(planId, m_foldedRows->add(std::move(row)));
         service().addTask(m_task);

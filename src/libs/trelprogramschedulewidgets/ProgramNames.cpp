@@ -1,12 +1,16 @@
 #include "ProgramNames.h"
 
 #include "ScheduleText.h"
-#include "service/ProgramText.h"
 #include "service/scheduleManage.h"
 
 namespace trel::mediadispatch {
 
-QString programNames(const std::vector<struProgInfo>& programs)
+ProgramSuffixes programSuffixes()
+{
+    return {scheduleText("szInvalidStr"), scheduleText("szProgNullStr")};
+}
+
+QString programNames(const std::vector<struProgInfo>& programs, const ProgramSuffixes& suffixes)
 {
     const auto lookup = [](int progIndex) {
         auto& service = scheduleManage::getInstance();
@@ -14,8 +18,12 @@ QString programNames(const std::vector<struProgInfo>& programs)
         program.progName = service.getProgramNameByProgIndex(progIndex);
         return program;
     };
-    return programListText(programs, lookup,
-                           {scheduleText("szInvalidStr"), scheduleText("szProgNullStr")});
+    return programListText(programs, lookup, suffixes);
+}
+
+QString programNames(const std::vector<struProgInfo>& programs)
+{
+    return programNames(programs, programSuffixes());
 }
 
 } // namespace trel::mediadispatch
