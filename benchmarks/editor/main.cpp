@@ -3,6 +3,7 @@
 #include "Comparison.h"
 #include "ConflictCases.h"
 #include "Fixture.h"
+#include "FreedMemory.h"
 #include "ListCases.h"
 #include "QuietService.h"
 
@@ -10,6 +11,8 @@
 
 int main(int argc, char** argv)
 {
+    // As the application does.
+    joinFreedMemoryAtOnce();
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("fusion"));
     bench::initialize(argc, argv);

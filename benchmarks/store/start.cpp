@@ -7,6 +7,7 @@
 
 #include "EditorWindow.h"
 #include "FirstPaint.h"
+#include "FreedMemory.h"
 #include "Languages.h"
 #include "look/ThemeImages.h"
 #include "look/Themes.h"
@@ -18,6 +19,7 @@ using namespace trel::mediadispatch;
 
 int main(int argc, char** argv)
 {
+    joinFreedMemoryAtOnce();
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);

@@ -1,4 +1,5 @@
 #include "EditorApplication.h"
+#include "FreedMemory.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -19,6 +20,7 @@ EditorOptionsResult readOptions(int& argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    joinFreedMemoryAtOnce();
     const EditorOptionsResult read = readOptions(argc, argv);
     if (read.next != EditorOptionsResult::Next::Start) {
         const bool misuse = read.next == EditorOptionsResult::Next::Misuse;
