@@ -1,5 +1,6 @@
 #include "PlanRow.h"
 
+#include "FocusedWheel.h"
 #include "MultiComboBox.h"
 #include "PlanColumns.h"
 #include "PlanRowState.h"
@@ -167,7 +168,7 @@ widgets::ComboBox* RowBuilder::addModeBox(int mode, bool isLocked) const
 QTimeEdit* RowBuilder::addTimeEdit(PlanColumn column, const QTime& time) const
 {
     QWidget* holder = nullptr;
-    auto* const editor = makeEditor<QTimeEdit>(holder);
+    auto* const editor = makeEditor<FocusedWheel<QTimeEdit>>(holder);
     editor->setFixedHeight(kEditorHeight);
     editor->setContextMenuPolicy(Qt::NoContextMenu);
     // Where one reads from the right, the toolkit turns the sections round: seconds would stand
@@ -183,7 +184,7 @@ QTimeEdit* RowBuilder::addTimeEdit(PlanColumn column, const QTime& time) const
 QSpinBox* RowBuilder::addTimesBox(int times) const
 {
     QWidget* holder = nullptr;
-    auto* const box = makeEditor<QSpinBox>(holder);
+    auto* const box = makeEditor<FocusedWheel<QSpinBox>>(holder);
     box->setFixedHeight(kEditorHeight);
     box->setContextMenuPolicy(Qt::NoContextMenu);
     if (times > 0) {
@@ -212,6 +213,8 @@ MultiComboBox* RowBuilder::addWeekBox(const std::string& weeks) const
     QWidget* holder = nullptr;
     auto* const box = makeEditor<MultiComboBox>(holder);
     box->setFixedHeight(kEditorHeight);
+    // A wheel that scrolls past takes the focus away from nothing.
+    box->setFocusPolicy(Qt::StrongFocus);
     box->setSeparator(QStringLiteral(","));
     box->setEveryDayText(m_texts.day(EveryDay));
     for (int number = EveryDay; number < WeekDayCount; ++number) {

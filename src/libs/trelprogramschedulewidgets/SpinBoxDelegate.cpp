@@ -1,5 +1,7 @@
 #include "SpinBoxDelegate.h"
 
+#include "FocusedWheel.h"
+
 #include <QSpinBox>
 
 namespace trel::mediadispatch {
@@ -19,7 +21,7 @@ SpinBoxDelegate::SpinBoxDelegate(QObject* parent)
 QWidget* SpinBoxDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                        const QModelIndex& index) const
 {
-    auto* const box = new QSpinBox(parent);
+    auto* const box = new FocusedWheel<QSpinBox>(parent);
     box->setFixedSize(kBoxSize);
     box->setRange(kLeastCount, kMostCount);
     box->setFrame(false);

@@ -1,6 +1,7 @@
 #include "TimeDelegate.h"
 
 #include "EditorGeometry.h"
+#include "FocusedWheel.h"
 #include "service/ScheduleRecords.h"
 
 #include <QTimeEdit>
@@ -20,7 +21,7 @@ TimeDelegate::TimeDelegate(QObject* parent)
 QWidget* TimeDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                     const QModelIndex&) const
 {
-    auto* const editor = new QTimeEdit(parent);
+    auto* const editor = new FocusedWheel<QTimeEdit>(parent);
     editor->setFixedHeight(kEditorHeight);
     editor->setDisplayFormat(kTimeFormat);
     editor->setCalendarPopup(true);

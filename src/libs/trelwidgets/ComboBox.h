@@ -4,7 +4,8 @@
 
 namespace trel::widgets {
 
-/// A combo box for rows of a scrolling list: the wheel scrolls the list and never changes the box.
+/// A combo box for rows of a scrolling list: the wheel scrolls the list and never changes the
+/// box, nor does it give it the focus.
 class Q_DECL_EXPORT ComboBox : public QComboBox
 {
     Q_OBJECT

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QDateEdit>
+#include <QWheelEvent>
+
+namespace trel::mediadispatch {
+
+/// A date, time or count field inside something that scrolls. The wheel steps its value only while
+/// it has the focus; otherwise the event goes on to what the field lies in, which scrolls.
+///
+/// The wheel does not give it the focus either: the toolkit would do so before the field sees the
+/// event. It has no meta-object of its own, so that style sheets and qobject_cast take it for a
+/// plain Field.
+template <typename Field>
+class FocusedWheel : public Field
+{
+public:
+    explicit FocusedWheel(QWidget* parent = nullptr)
+        : Field(parent)
+    {
+        this->setFocusPolicy(Qt::StrongFocus);
+    }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override
+    {
+        if (this->hasFocus()) {
+            Field::wheelEvent(event);
+        } else {
+            event->ignore();
+        }
+    }
+};
+
+/// By this name a form can ask for it.
+using CardDateEdit = FocusedWheel<QDateEdit>;
+
+} // namespace trel::mediadispatch
