@@ -26,6 +26,7 @@ using trel::mediadispatch::idAfter;
 using trel::mediadispatch::initProcess;
 using trel::mediadispatch::kDateFormat;
 using trel::mediadispatch::paintAsAWhole;
+using trel::mediadispatch::PlanTaskWidget;
 using trel::mediadispatch::scheduleManage;
 using trel::mediadispatch::scrollIntoSight;
 using trel::mediadispatch::takeOverTyping;
@@ -101,6 +102,17 @@ PlanList::~PlanList()
         delete m_taskWidgets.take(m_taskWidgets.firstKey());
     }
     emit sigGetMapCount(m_taskWidgets.size());
+}
+
+QList<PlanTaskWidget*> PlanList::cards() const
+{
+    QList<PlanTaskWidget*> cards;
+    for (int item = 0; item < m_layout->count(); ++item) {
+        if (auto* const card = qobject_cast<PlanTaskWidget*>(m_layout->itemAt(item)->widget())) {
+            cards.append(card);
+        }
+    }
+    return cards;
 }
 
 bool PlanList::mayAdd() const

@@ -2,6 +2,7 @@
 
 #include "ScrollPlace.h"
 
+#include <QList>
 #include <QMap>
 #include <QPointer>
 #include <QWidget>
@@ -35,6 +36,9 @@ public:
     /// Destroys the cards in ascending id order and tells the count of 0. The service is not
     /// touched.
     ~PlanList() override;
+
+    /// The cards as they stand, from the top. The list owns them.
+    QList<trel::mediadispatch::PlanTaskWidget*> cards() const;
 
 signals:
     /// A rebuild begins; no task can be added until sigCloseProcess.

@@ -60,6 +60,8 @@ void setUpBehaviour(QTableView& table)
     table.setShowGrid(false);
     table.setEditTriggers(QAbstractItemView::AllEditTriggers);
     table.setFocusPolicy(Qt::NoFocus);
+    // Otherwise Tab goes round in the cells of the table and never out of it.
+    table.setTabKeyNavigation(false);
 }
 
 // A header makes a selection of its own for its model and leaves it behind when the table hands it

@@ -4,6 +4,7 @@
 #include "BusyPointer.h"
 #include "ConflictPass.h"
 #include "EditorInUse.h"
+#include "FocusInSight.h"
 #include "FoldedRows.h"
 #include "LatePlanModel.h"
 #include "LineEditDelegate.h"
@@ -16,6 +17,7 @@
 #include "PlanRowTexts.h"
 #include "PlanRows.h"
 #include "PlanStandardItemModel.h"
+#include "PlanTabOrder.h"
 #include "PlanTable.h"
 #include "PlanTaskForm.h"
 #include "ProgramChoose.h"
@@ -37,6 +39,7 @@
 #include <QSpinBox>
 #include <QTimeEdit>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -333,6 +336,16 @@ void PlanTaskWidget::enterWidget(std::vector<RowWidget<T>>& widgets, int row, T*
             [&widgets](const QObject* gone) { loseWidget(widgets, gone); });
 }
 
+QWidget* PlanTaskWidget::lastField() const
+{
+    const auto last = std::find_if(m_endActionCombos.rbegin(), m_endActionCombos.rend(),
+                                   [](const auto& entry) { return entry.widget; });
+    if (last != m_endActionCombos.rend()) {
+        return last->widget;
+    }
+    return m_ui->dateEditVaildEndTime;
+}
+
 void PlanTaskWidget::enterEditors(int row, const PlanRowEditors& editors)
 {
     connect(editors.mode, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
@@ -348,6 +361,8 @@ void PlanTaskWidget::enterEditors(int row, const PlanRowEditors& editors)
             &PlanTaskWidget::slotEndActionIndexChanged);
     connect(editors.copy, &QPushButton::clicked, this, &PlanTaskWidget::slotCopyPlan);
     connect(editors.remove, &QPushButton::clicked, this, &PlanTaskWidget::slotDeletePlan);
+    placeInTabOrder(editors, *lastField());
+    keepFocusInSight(*m_ui->tableView, editors);
 
     enterWidget(m_modeCombos, row, editors.mode);
     enterWidget(m_startTimeEdits, row, editors.startTime);

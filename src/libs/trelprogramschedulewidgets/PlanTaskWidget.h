@@ -158,6 +158,8 @@ private:
     bool choosePrograms(PlayPlan& plan);
     void enterPlan(int planId, int row);
     void enterEditors(int row, const PlanRowEditors& editors);
+    /// The last field that Tab reaches, before the table when no row has one.
+    QWidget* lastField() const;
     /// False when the card has gone meanwhile.
     bool lockModeOfRow(int row, int planId);
     void translateRows(const PlanRowTexts& texts);
