@@ -1,5 +1,6 @@
 #include "PlanRow.h"
 
+#include "EditorKeys.h"
 #include "FocusedWheel.h"
 #include "MultiComboBox.h"
 #include "PlanColumns.h"
@@ -19,6 +20,7 @@
 #include <QVBoxLayout>
 
 #include <array>
+#include <utility>
 
 namespace trel::mediadispatch {
 
@@ -61,6 +63,13 @@ constexpr std::array<ColumnText, 9> kSpokenNames = {{
     {ProgramsColumn, &PlanRowTexts::choosePrograms},
 }};
 
+/// The keys of what Tab passes over. The tool tips of these cells hold one word each.
+constexpr std::array<std::pair<PlanColumn, EditorKey>, 3> kColumnKeys = {{
+    {ProgramsColumn, EditorKey::ChoosePrograms},
+    {CopyColumn, EditorKey::CopyPlan},
+    {DeleteColumn, EditorKey::DeletePlan},
+}};
+
 /// What of a cell a screen reader stops at: the one widget in a holder, or the button with which a
 /// program field opens the chooser; null when the field has none.
 QWidget* editorIn(QWidget* holder)
@@ -86,6 +95,13 @@ void nameEditors(const QTableView& table, int row, const PlanRowTexts& texts)
         QWidget* const editor = holder ? editorIn(holder) : nullptr;
         if (editor) {
             editor->setAccessibleName(plan % QLatin1Char(' ') % texts.*name.text);
+        }
+    }
+    for (const auto& [column, key] : kColumnKeys) {
+        QWidget* const holder = table.indexWidget(cellOf(table, row, column));
+        QWidget* const editor = holder ? editorIn(holder) : nullptr;
+        if (editor) {
+            editor->setAccessibleDescription(keyText(key));
         }
     }
 }

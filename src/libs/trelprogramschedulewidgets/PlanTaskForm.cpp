@@ -1,5 +1,6 @@
 #include "PlanTaskForm.h"
 
+#include "EditorKeys.h"
 #include "ScheduleText.h"
 #include "service/DateText.h"
 #include "service/ScheduleRecords.h"
@@ -87,6 +88,11 @@ void PlanTaskForm::nameControls()
     dateEditVaildStartTime->setAccessibleName(task % labelvalidTime->text());
     dateEditVaildEndTime->setAccessibleName(task % labelTo->text());
     tableView->setAccessibleName(title->text().trimmed());
+
+    title->setAccessibleDescription(keyText(EditorKey::Fold));
+    pbtCreatCopy->setAccessibleDescription(keyText(EditorKey::CopyTask));
+    pushButtonDelete->setAccessibleDescription(keyText(EditorKey::DeleteTask));
+    pushButtonAdd->setToolTip(withKey(scheduleText("zhSelectProgramsStr"), EditorKey::AddPlan));
 }
 
 void PlanTaskForm::showToolTipOnEnter(const QObject* watched, const QEvent& event)

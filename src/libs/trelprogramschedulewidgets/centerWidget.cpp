@@ -1,6 +1,8 @@
 #include "centerWidget.h"
 
+#include "CardKeyboard.h"
 #include "EditorInUse.h"
+#include "EditorKeys.h"
 #include "PlanList.h"
 #include "Prompts.h"
 #include "ScheduleText.h"
@@ -67,6 +69,7 @@ centerWidget::centerWidget(QWidget* parent)
     setUpHint();
     setUpButtons();
     connectAll();
+    m_keyboard = std::make_unique<CardKeyboard>(*this, *planList(), *m_ui->scrollArea);
 }
 
 centerWidget::~centerWidget()
@@ -134,6 +137,16 @@ void centerWidget::connectAll()
     connect(list, &PlanList::sigCloseProcess, this, &centerWidget::slotCloseProcess);
     connect(list, &PlanList::sigGetMapCount, this, &centerWidget::slotGetMapCount);
     connect(this, &centerWidget::signalTranslation, list, &PlanList::sigTranslation);
+}
+
+// The buttons take no focus, so that their keys are all that a keyboard has of them.
+void centerWidget::nameKeys()
+{
+    m_ui->pushButtonAddTask->setToolTip(
+        withKey(scheduleText("zhSchedulePlayStrAdd"), EditorKey::AddTask));
+    m_ui->pushButtonSave->setToolTip(withKey(m_ui->pushButtonSave->text(), EditorKey::Save));
+    m_ui->pushButtonStart->setToolTip(withKey(m_ui->pushButtonStart->text(), EditorKey::Start));
+    m_ui->pushButtonClose->setToolTip(withKey(m_ui->pushButtonClose->text(), EditorKey::Cancel));
 }
 
 bool centerWidget::checkTaskPeriods(QString& message) const
@@ -206,6 +219,7 @@ void centerWidget::slotTranslation()
     m_ui->pushButtonStart->setText(scheduleText("zhEnable"));
     m_ui->pushButtonAddTask->setText(scheduleText("zhSchedulePlayStrAdd"));
     m_hintLabel->setText(scheduleText("zhNoPlayTask"));
+    nameKeys();
     emit signalTranslation();
 }
 

@@ -9,6 +9,8 @@ class QLabel;
 
 namespace trel::mediadispatch {
 
+class CardKeyboard;
+
 /// The content of the schedule window: the add button, the list of task cards and the row of
 /// buttons that close, start and save.
 ///
@@ -62,10 +64,12 @@ private:
     void setUpHint();
     void setUpButtons();
     void connectAll();
+    void nameKeys();
     bool periodsAllowIt();
 
     std::unique_ptr<Form> m_ui;
     QLabel* m_hintLabel = nullptr;
+    std::unique_ptr<CardKeyboard> m_keyboard;
 };
 
 } // namespace trel::mediadispatch

@@ -258,8 +258,10 @@ void tst_TabOrder::rowsBelowTheEdgeComeIntoSight()
     area()->setFocus();
     for (QWidget* const field : wanted()) {
         QCOMPARE(pressTab(), field);
-        const QRect inTable(field->mapTo(&port, QPoint()), field->size());
-        QVERIFY(port.rect().contains(inTable) || !port.isAncestorOf(field));
+        if (port.isAncestorOf(field)) {
+            const QRect inTable(field->mapTo(&port, QPoint()), field->size());
+            QVERIFY(port.rect().contains(inTable));
+        }
         QVERIFY(!field->visibleRegion().isEmpty());
     }
     // And back to the top.

@@ -1,0 +1,296 @@
+#include "CardKeyboard.h"
+
+#include "PlanCells.h"
+#include "PlanColumns.h"
+#include "PlanList.h"
+#include "PlanTaskWidget.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QTableView>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+/// A click, which a disabled button refuses by itself.
+void press(const QWidget* where, const char* name)
+{
+    if (auto* const button = where->findChild<QPushButton*>(QLatin1String(name))) {
+        button->click();
+    }
+}
+
+/// The same for the button in a cell of the row that another cell is in.
+void pressInRow(const QTableView& table, const QModelIndex& cell, PlanColumn column)
+{
+    const QWidget* const holder = table.indexWidget(cell.siblingAtColumn(column));
+    auto* const button = holder ? holder->findChild<QPushButton*>() : nullptr;
+    if (button) {
+        button->click();
+    }
+}
+
+QPushButton* barOf(const PlanTaskWidget& card)
+{
+    return card.findChild<QPushButton*>(QStringLiteral("title"));
+}
+
+QTableView* tableOf(const PlanTaskWidget* card)
+{
+    return card ? card->findChild<QTableView*>(QStringLiteral("schedule")) : nullptr;
+}
+
+QWidget* fieldIn(const QTableView& table, int row, int column)
+{
+    const QWidget* const holder = table.indexWidget(table.model()->index(row, column));
+    if (!holder) {
+        return nullptr;
+    }
+    const auto widgets = holder->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* const widget : widgets) {
+        if (widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) != 0) {
+            return widget;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+CardKeyboard::CardKeyboard(QWidget& panel, PlanList& list, QScrollArea& area)
+    : m_panel(panel)
+    , m_list(list)
+    , m_area(area)
+{
+    addPanelKeys();
+    addCardKeys();
+    addPlanKeys();
+    connect(&m_list, &PlanList::sigGetMapCount, this, &CardKeyboard::keepFocusInPanel);
+}
+
+template <typename Run>
+void CardKeyboard::add(EditorKey key, Run run)
+{
+    const QList<QKeySequence> keys = keysOf(key);
+    for (const QKeySequence& sequence : keys) {
+        auto* const shortcut = new QShortcut(&m_panel);
+        shortcut->setKey(sequence);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        // A key that is held down would go on to delete.
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, run);
+    }
+}
+
+void CardKeyboard::addPanelKeys()
+{
+    add(EditorKey::AddTask, [this] { addTask(); });
+    add(EditorKey::Save, [this] { press(&m_panel, "pushButtonSave"); });
+    add(EditorKey::Start, [this] { press(&m_panel, "pushButtonStart"); });
+    add(EditorKey::Cancel, [this] { press(&m_panel, "pushButtonClose"); });
+}
+
+void CardKeyboard::addCardKeys()
+{
+    add(EditorKey::NextCard, [this] { goToNextCard(); });
+    add(EditorKey::PreviousCard, [this] { goToPreviousCard(); });
+    add(EditorKey::Fold, [this] { fold(); });
+    add(EditorKey::CopyTask, [this] { copyTask(); });
+    add(EditorKey::DeleteTask, [this] { deleteTask(); });
+}
+
+void CardKeyboard::addPlanKeys()
+{
+    add(EditorKey::AddPlan, [this] { addPlan(); });
+    add(EditorKey::CopyPlan, [this] { copyPlan(); });
+    add(EditorKey::DeletePlan, [this] { deletePlan(); });
+    add(EditorKey::ChoosePrograms, [this] { choosePrograms(); });
+}
+
+PlanTaskWidget* CardKeyboard::currentCard() const
+{
+    QWidget* above = QApplication::focusWidget();
+    while (above && above->parentWidget() != &m_list) {
+        above = above->parentWidget();
+    }
+    return qobject_cast<PlanTaskWidget*>(above);
+}
+
+QModelIndex CardKeyboard::currentCell() const
+{
+    const QTableView* const table = tableOf(currentCard());
+    return table ? cellOf(*table, QApplication::focusWidget()) : QModelIndex();
+}
+
+void CardKeyboard::goToNextCard()
+{
+    const QList<PlanTaskWidget*> cards = m_list.cards();
+    // Before the first one when the focus is in no card.
+    const int next = cards.indexOf(currentCard()) + 1;
+    if (next < cards.size()) {
+        focusBar(*cards.at(next));
+    }
+}
+
+void CardKeyboard::goToPreviousCard()
+{
+    const QList<PlanTaskWidget*> cards = m_list.cards();
+    PlanTaskWidget* const current = currentCard();
+    if (!current) {
+        return;
+    }
+    // From inside a card its own bar comes first.
+    const bool isOnBar = barOf(*current)->hasFocus();
+    const int previous = cards.indexOf(current) - (isOnBar ? 1 : 0);
+    if (previous >= 0) {
+        focusBar(*cards.at(previous));
+    }
+}
+
+void CardKeyboard::fold()
+{
+    if (const PlanTaskWidget* const card = currentCard()) {
+        // First, as what is hidden cannot keep it.
+        focusBar(*card);
+        barOf(*card)->click();
+    }
+}
+
+void CardKeyboard::copyTask()
+{
+    const PlanTaskWidget* const card = currentCard();
+    if (!card) {
+        return;
+    }
+    const int cards = m_list.cards().size();
+    press(card, "pbtCreatCopy");
+    goToAddedCard(cards);
+}
+
+void CardKeyboard::addTask()
+{
+    const int cards = m_list.cards().size();
+    press(&m_panel, "pushButtonAddTask");
+    goToAddedCard(cards);
+}
+
+void CardKeyboard::goToAddedCard(int formerCount)
+{
+    const QList<PlanTaskWidget*> cards = m_list.cards();
+    if (cards.size() > formerCount) {
+        focusBar(*cards.last());
+    }
+}
+
+void CardKeyboard::deleteTask()
+{
+    const QPointer<PlanTaskWidget> card = currentCard();
+    if (!card) {
+        return;
+    }
+    const QList<PlanTaskWidget*> cards = m_list.cards();
+    const int index = cards.indexOf(card);
+    press(card, "pushButtonDelete");
+    if (card) {
+        return;
+    }
+    // What was answered meanwhile may have taken other cards along.
+    const QList<PlanTaskWidget*> rest = m_list.cards();
+    if (!rest.isEmpty()) {
+        focusBar(*rest.at(qMin(index, rest.size() - 1)));
+    }
+}
+
+void CardKeyboard::addPlan()
+{
+    const QPointer<PlanTaskWidget> card = currentCard();
+    if (!card) {
+        return;
+    }
+    card->setFolded(false);
+    const QTableView* const table = tableOf(card);
+    const int rows = table->model()->rowCount();
+    press(card, "pushButtonAdd");
+    if (card && table->model()->rowCount() > rows) {
+        focusCell(*table, rows, ModeColumn);
+    }
+}
+
+void CardKeyboard::copyPlan()
+{
+    const QModelIndex cell = currentCell();
+    if (!cell.isValid()) {
+        return;
+    }
+    const QTableView* const table = tableOf(currentCard());
+    const int rows = table->model()->rowCount();
+    const int column = cell.column();
+    pressInRow(*table, cell, CopyColumn);
+    if (table->model()->rowCount() > rows) {
+        focusCell(*table, rows, column);
+    }
+}
+
+void CardKeyboard::deletePlan()
+{
+    const QModelIndex cell = currentCell();
+    if (!cell.isValid()) {
+        return;
+    }
+    const QPointer<PlanTaskWidget> card = currentCard();
+    const QTableView* const table = tableOf(card);
+    const int rows = table->model()->rowCount();
+    const int row = cell.row();
+    const int column = cell.column();
+    pressInRow(*table, cell, DeleteColumn);
+    if (!card || table->model()->rowCount() >= rows) {
+        return;
+    }
+    if (rows == 1) {
+        focusBar(*card);
+    } else {
+        focusCell(*table, qMin(row, table->model()->rowCount() - 1), column);
+    }
+}
+
+void CardKeyboard::choosePrograms()
+{
+    const QModelIndex cell = currentCell();
+    if (cell.isValid()) {
+        pressInRow(*tableOf(currentCard()), cell, ProgramsColumn);
+    }
+}
+
+void CardKeyboard::focusBar(const PlanTaskWidget& card)
+{
+    QPushButton* const bar = barOf(card);
+    bar->setFocus(Qt::ShortcutFocusReason);
+    m_area.ensureWidgetVisible(bar);
+}
+
+void CardKeyboard::focusCell(const QTableView& table, int row, int column)
+{
+    constexpr int kFirst = ModeColumn;
+    QWidget* field = fieldIn(table, row, column);
+    for (int other = kFirst; !field && other <= EndActionColumn; ++other) {
+        field = fieldIn(table, row, other);
+    }
+    if (field) {
+        field->setFocus(Qt::ShortcutFocusReason);
+        m_area.ensureWidgetVisible(field);
+    }
+}
+
+void CardKeyboard::keepFocusInPanel()
+{
+    const QWidget* const window = m_panel.window();
+    if (window->isActiveWindow() && !QApplication::focusWidget()) {
+        m_area.setFocus();
+    }
+}
+
+} // namespace trel::mediadispatch
