@@ -34,7 +34,6 @@ ClockChangePanel::ClockChangePanel(QWidget* parent)
     setResizeMode(QListView::Adjust);
     setSelectionMode(QAbstractItemView::NoSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFrameShape(QFrame::NoFrame);
     const ScheduleHost& host = ScheduleHost::instance();
     connect(&host, &ScheduleHost::workingSetChanged, this, &ClockChangePanel::follow);
     connect(&host, &ScheduleHost::catalogueChanged, this, &ClockChangePanel::follow);

@@ -31,4 +31,18 @@ void paintBox(QPainter& painter, const QRect& rect, const QColor& ground, const 
     painter.restore();
 }
 
+void paintFocusRing(QPainter& painter, const QRect& rect, const QColor& colour, qreal radius)
+{
+    constexpr qreal kWidth = 2.0;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, radius > 0);
+    QPen pen(colour, kWidth);
+    pen.setJoinStyle(Qt::MiterJoin);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    const qreal inset = kWidth / 2;
+    painter.drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), radius, radius);
+    painter.restore();
+}
+
 } // namespace look

@@ -12,4 +12,7 @@ namespace look {
 void paintBox(QPainter& painter, const QRect& rect, const QColor& ground, const QColor& line,
               qreal radius);
 
+/// The ring, two pixels wide, inside the edge of what has the focus.
+void paintFocusRing(QPainter& painter, const QRect& rect, const QColor& colour, qreal radius);
+
 } // namespace look

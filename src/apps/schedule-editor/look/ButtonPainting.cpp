@@ -54,23 +54,27 @@ void paintCaptionButton(QPainter& painter, const ThemeColours& colours, const QS
         paintBox(painter, option.rect, colours.disabledField, colours.disabledLine, kRadius);
         return;
     }
-    const bool hasFocus =
-        has(option, QStyle::State_HasFocus) && has(option, QStyle::State_KeyboardFocusChange);
+    const bool hasFocus = has(option, QStyle::State_HasFocus);
     QColor ground;
     QColor line;
     if (kind == ButtonKind::General) {
         ground = pick(option, colours.accent, colours.accentHover, colours.accentPressed);
-        line = hasFocus ? colours.text : ground;
+        line = ground;
     } else if (kind == ButtonKind::Wide) {
         ground = pick(option, colours.tint, colours.tintHover, colours.tintHover);
         line = colours.accentLine;
     } else {
         ground = pick(option, colours.button, colours.buttonHover, colours.buttonPressed);
-        line = hasFocus
-                   ? colours.accentLine
-                   : pick(option, colours.fieldLine, colours.fieldLineHover, colours.fieldLine);
+        line = pick(option, colours.fieldLine, colours.fieldLineHover, colours.fieldLine);
     }
     paintBox(painter, option.rect, ground, line, kRadius);
+    if (hasFocus && kind == ButtonKind::General) {
+        // Inside its edge, so that it stands out from the button and not from the window.
+        paintFocusRing(painter, option.rect.adjusted(1, 1, -1, -1), colours.accentText,
+                       kRadius - 1);
+    } else if (hasFocus) {
+        paintFocusRing(painter, option.rect, colours.focus, kRadius);
+    }
 }
 
 void paintImageButton(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
@@ -93,12 +97,18 @@ void paintImageButton(QPainter& painter, const ThemeColours& colours, const QSty
             isActive ? colours.iconHover : (isEnabled ? colours.icon : colours.disabledText);
         paintImage(painter, place, alongTheReading(option, image), colour);
     }
+    if (isEnabled && has(option, QStyle::State_HasFocus)) {
+        paintFocusRing(painter, place, colours.focus, kRadius);
+    }
 }
 
 void paintCardTitle(QPainter& painter, const ThemeColours& colours, const QStyleOption& option)
 {
     const QColor& ground = pick(option, colours.title, colours.titleHover, colours.titleHover);
     paintBox(painter, option.rect, ground, colours.cardLine, kRadius + 1);
+    if (has(option, QStyle::State_HasFocus)) {
+        paintFocusRing(painter, option.rect, colours.focus, kRadius + 1);
+    }
 }
 
 void paintText(QPainter& painter, const QStyleOption& option, const QRect& rect, int alignment,
@@ -195,7 +205,7 @@ void paintProgramField(QPainter& painter, const ThemeColours& colours, const QSt
 
 void paintFocus(QPainter& painter, const ThemeColours& colours, const QStyleOption& option)
 {
-    paintBox(painter, option.rect, Qt::transparent, colours.accentLine, kRadius);
+    paintFocusRing(painter, option.rect, colours.focus, kRadius - 1);
 }
 
 } // namespace look

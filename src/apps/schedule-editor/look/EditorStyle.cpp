@@ -421,8 +421,10 @@ void EditorStyle::paintFrame(const QStyleOption& option, QPainter& painter,
     if (isInsideProgramField(widget)) {
         return;
     }
+    const bool hasFocus = (option.state & State_HasFocus) != 0;
+    const QColor& line = isChooserList(widget) ? m_colours.listLine : m_colours.cardLine;
     paintBox(painter, option.rect, isWell(widget) ? m_colours.well : QColor(Qt::transparent),
-             isChooserList(widget) ? m_colours.listLine : m_colours.cardLine, 0);
+             hasFocus ? m_colours.focus : line, 0);
 }
 
 bool EditorStyle::paintLabelFrame(const QStyleOption& option, QPainter& painter,
@@ -461,6 +463,9 @@ void EditorStyle::paintItem(const QStyleOption* option, QPainter* painter,
         tinted.rect.adjust(0, kListTextDrop, 0, 0);
     }
     QProxyStyle::drawControl(CE_ItemViewItem, &tinted, painter, widget);
+    if ((item->state & State_HasFocus) != 0) {
+        paintFocus(*painter, m_colours, *item);
+    }
 }
 
 } // namespace look

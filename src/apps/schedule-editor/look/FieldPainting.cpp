@@ -24,6 +24,11 @@ bool isEnabled(const QStyleOption& option)
     return (option.state & QStyle::State_Enabled) != 0;
 }
 
+bool hasFocus(const QStyleOption& option)
+{
+    return (option.state & QStyle::State_HasFocus) != 0;
+}
+
 void paintStep(QPainter& painter, const ThemeColours& colours, const QStyleOptionSpinBox& option,
                const QRect& rect, QStyle::SubControl part, QAbstractSpinBox::StepEnabledFlag step)
 {
@@ -66,13 +71,12 @@ void paintField(QPainter& painter, const ThemeColours& colours, const QStyleOpti
         paintBox(painter, option.rect, colours.disabledField, colours.disabledLine, kRadius);
         return;
     }
-    QColor line = colours.fieldLine;
-    if ((option.state & QStyle::State_HasFocus) != 0) {
-        line = colours.accentLine;
-    } else if ((option.state & QStyle::State_MouseOver) != 0) {
-        line = colours.fieldLineHover;
+    const bool isHovered = (option.state & QStyle::State_MouseOver) != 0;
+    paintBox(painter, option.rect, colours.field,
+             isHovered ? colours.fieldLineHover : colours.fieldLine, kRadius);
+    if (hasFocus(option)) {
+        paintFocusRing(painter, option.rect, colours.focus, kRadius);
     }
-    paintBox(painter, option.rect, colours.field, line, kRadius);
 }
 
 void paintSpinBox(QPainter& painter, const ThemeColours& colours, const QStyleOptionSpinBox& option,
@@ -83,6 +87,9 @@ void paintSpinBox(QPainter& painter, const ThemeColours& colours, const QStyleOp
             paintField(painter, colours, option);
         } else {
             painter.fillRect(option.rect, colours.field);
+            if (hasFocus(option)) {
+                paintFocusRing(painter, option.rect, colours.focus, 0);
+            }
         }
     }
     if (option.buttonSymbols != QAbstractSpinBox::NoButtons) {

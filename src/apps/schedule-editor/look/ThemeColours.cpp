@@ -104,6 +104,7 @@ ThemeColours darkColours()
     colours.accentLine = QColor(0x5b, 0x9b, 0xf8);
     colours.tint = QColor(0x1d, 0x2a, 0x40);
     colours.tintHover = QColor(0x24, 0x36, 0x55);
+    colours.focus = QColor(0x8a, 0xb8, 0xff);
 
     colours.icon = QColor(0xc3, 0xc9, 0xd3);
     colours.iconHover = Qt::white;
@@ -155,6 +156,7 @@ ThemeColours lightColours()
     colours.accentLine = QColor(0x2f, 0x74, 0xe4);
     colours.tint = QColor(0xe9, 0xf0, 0xfd);
     colours.tintHover = QColor(0xd9, 0xe6, 0xfb);
+    colours.focus = QColor(0x1f, 0x5f, 0xd0);
 
     colours.icon = QColor(0x48, 0x50, 0x5e);
     colours.iconHover = QColor(0x10, 0x14, 0x1a);

@@ -33,9 +33,11 @@ struct ThemeColours
     QColor accentHover;
     QColor accentPressed;
     QColor accentText;
-    QColor accentLine; ///< Focus, and the edge of what the accent only tints.
+    QColor accentLine; ///< The edge of what the accent only tints.
     QColor tint;       ///< The ground of what the accent only tints.
     QColor tintHover;
+    /// Around what has the focus. Reaches a contrast of 3 to 1 on all that it takes the place of.
+    QColor focus;
 
     QColor icon;
     QColor iconHover;
