@@ -118,9 +118,9 @@ void PlainDialog::addOverlays(QWidget& area)
     movie->start();
 }
 
-void PlainDialog::build(const TaskMap& tasks)
+void PlainDialog::build(int tasks)
 {
-    m_list->build(tasks, DayLists::NotMade);
+    m_list->build(sampleTasks(tasks, 0), DayLists::NotMade);
 }
 
 } // namespace bench

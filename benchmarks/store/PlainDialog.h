@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Samples.h"
-
 #include <QDialog>
 #include <QMenu>
 
@@ -15,7 +13,8 @@ class PlainDialog : public QDialog
 public:
     PlainDialog();
 
-    void build(const TaskMap& tasks);
+    /// Adds the folded cards of some tasks. Like those of the editor they have no rows yet.
+    void build(int tasks);
 
 private:
     QWidget* title();

@@ -60,10 +60,8 @@ public:
         const QStringList families = languageFont(QFont(), QLatin1String(kLanguage)).families();
         m_widgets =
             QStringList{families.join(QLatin1Char(',')),
-                        QString::number(scheduleManage::getInstance().getPrograms().size())};
-        for (const auto& [id, task] : scheduleManage::getInstance().getgTaskMap()) {
-            m_widgets.append(QString::number(task.plans.size()));
-        }
+                        QString::number(scheduleManage::getInstance().getPrograms().size()),
+                        QString::number(scheduleManage::getInstance().getgTaskMap().size())};
         ScheduleHost::instance().close();
     }
 

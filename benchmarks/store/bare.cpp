@@ -1,9 +1,9 @@
 // Shows a window of the bare toolkit and tells what the start has cost.
 //
 // bench_bare                            an empty dialog
-// bench_bare FONTS PROGRAMS PLANS...    the windows of the editor out of plain widgets, in the
+// bench_bare FONTS PROGRAMS TASKS       the windows of the editor out of plain widgets, in the
 //                                       first of these fonts that there is, with so many programs
-//                                       and a card for each number of plans
+//                                       and folded cards
 
 #include "FirstPaint.h"
 #include "PlainDialog.h"
@@ -11,11 +11,9 @@
 
 #include <QApplication>
 
-using namespace trel::mediadispatch;
-
 namespace {
 
-constexpr int kFirstPlans = 3;
+constexpr int kArguments = 4;
 constexpr int kTextPixels = 12;
 
 void setFont(const QString& families)
@@ -39,12 +37,7 @@ void setFont(const QString& families)
     setFont(arguments.at(1));
     bench::PlainWindow window(arguments.at(2).toInt());
     bench::PlainDialog dialog;
-    bench::TaskMap tasks;
-    for (int i = kFirstPlans; i < arguments.size(); ++i) {
-        const int id = i - kFirstPlans + 1;
-        tasks[id] = bench::sampleTask(id, arguments.at(i).toInt(), TimeMode);
-    }
-    dialog.build(tasks);
+    dialog.build(arguments.at(3).toInt());
     window.show();
     dialog.show();
     bench::waitForPaint(dialog);
@@ -56,7 +49,7 @@ void setFont(const QString& families)
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
-    if (argc > kFirstPlans) {
+    if (argc == kArguments) {
         startWidgets(QCoreApplication::arguments());
     }
     startDialog();
