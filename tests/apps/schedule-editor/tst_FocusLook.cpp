@@ -51,11 +51,9 @@ namespace {
 /// The least that the look of a focus has to differ from the look without it, dot by dot.
 constexpr double kLeastDifference = 3.0;
 
-/// The tabs of panels are left out: all of their look is that of the base style.
 bool takesFocus(const QWidget* widget)
 {
-    return qobject_cast<const QTabBar*>(widget) == nullptr &&
-           widget->focusPolicy() != Qt::NoFocus && widget->focusProxy() == nullptr &&
+    return widget->focusPolicy() != Qt::NoFocus && widget->focusProxy() == nullptr &&
            widget->isEnabled() && widget->isVisible() && !widget->isWindow();
 }
 
@@ -84,6 +82,13 @@ int dotsApart(const QImage& first, const QImage& second)
     return dots;
 }
 
+/// What the focus is shown around: of tabs the one in front.
+QSize focusSize(const QWidget* widget)
+{
+    const auto* tabs = qobject_cast<const QTabBar*>(widget);
+    return tabs ? tabs->tabRect(tabs->currentIndex()).size() : widget->size();
+}
+
 /// Gives the control the focus and takes it away again. Without a selection of its text, which
 /// would be seen whatever is around it.
 QString focusFaultOf(QWidget* widget)
@@ -99,7 +104,7 @@ QString focusFaultOf(QWidget* widget)
     }
     const QImage with = pictureOf(widget);
     // Half of a line around it.
-    const int least = widget->width() + widget->height();
+    const int least = focusSize(widget).width() + focusSize(widget).height();
     const int dots = dotsApart(without, with);
     return dots >= least
                ? QString()

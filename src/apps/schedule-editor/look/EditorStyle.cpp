@@ -31,6 +31,7 @@ constexpr qreal kCardRadius = 5.0;
 constexpr qreal kStateRadius = 4.0;
 constexpr int kStateHeight = 24;
 constexpr int kStateGap = 2; ///< Between a state and the box before it.
+constexpr int kTabFocusInset = 4;
 constexpr int kTotalGap = 3; ///< Between the total of a chooser and its caption.
 
 /// Asks the table once more for the margins of its place; when it was made it had no name yet.
@@ -235,10 +236,29 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
     case CE_ItemViewItem:
         paintItem(option, painter, widget);
         return;
+    case CE_TabBarTabLabel:
+        if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option)) {
+            paintTabLabel(*tab, painter, widget);
+            return;
+        }
+        break;
     default:
         break;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+// The base style shows a tab's focus only to those who have just pressed Tab.
+void EditorStyle::paintTabLabel(const QStyleOptionTab& tab, QPainter* painter,
+                                const QWidget* widget) const
+{
+    QStyleOptionTab label = tab;
+    label.state &= ~State_HasFocus;
+    QProxyStyle::drawControl(CE_TabBarTabLabel, &label, painter, widget);
+    if ((tab.state & State_HasFocus) != 0) {
+        label.rect.adjust(kTabFocusInset, kTabFocusInset, -kTabFocusInset, -kTabFocusInset);
+        paintFocus(*painter, m_colours, label);
+    }
 }
 
 void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

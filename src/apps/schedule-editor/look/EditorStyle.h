@@ -5,6 +5,7 @@
 #include <QProxyStyle>
 
 class QAbstractScrollArea;
+class QStyleOptionTab;
 
 namespace look {
 
@@ -60,6 +61,7 @@ private:
     bool paintLabelFrame(const QStyleOption& option, QPainter& painter,
                          const QWidget* widget) const;
     void paintItem(const QStyleOption* option, QPainter* painter, const QWidget* widget) const;
+    void paintTabLabel(const QStyleOptionTab& tab, QPainter* painter, const QWidget* widget) const;
 
     ThemeColours m_colours;
 };
