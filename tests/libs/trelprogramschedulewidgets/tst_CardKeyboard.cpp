@@ -215,6 +215,13 @@ void tst_CardKeyboard::copyPlan()
     QCOMPARE(idsOf(rows(1).task()), QStringLiteral("1 2 3"));
     QCOMPARE(rows(1).task().plans[2].startTime, std::string("09:00:00"));
     QCOMPARE(QApplication::focusWidget(), &rows(1).weeks(2));
+    // In between two others, so that it is neither the first row nor the last.
+    focus(rows(1).times(1));
+    press("Ctrl+D");
+    QCOMPARE(idsOf(rows(1).task()), QStringLiteral("1 2 3 4"));
+    QCOMPARE(rows(1).task().plans[3].mode, static_cast<int>(FrequencyMode));
+    QCOMPARE(rows(1).task().plans[3].programs.size(), std::size_t(1));
+    QCOMPARE(QApplication::focusWidget(), &rows(1).times(3));
     QCOMPARE(idsOf(rows(0).task()), QStringLiteral("1 2"));
 }
 
@@ -252,12 +259,18 @@ void tst_CardKeyboard::deleteTheOnlyPlan()
 void tst_CardKeyboard::choosePrograms()
 {
     card(1).setFolded(false);
-    focus(rows(1).endAction(1));
-    const ChooserAnswer chooser([](ChooserWindow& window) { window.cancel(); });
-    press("F2");
-    QCOMPARE(chooser.count(), 1);
-    comeBack();
-    QCOMPARE(QApplication::focusWidget(), &rows(1).endAction(1));
+    // Of these two plans the second has a program.
+    for (const int row : {0, 1}) {
+        focus(rows(1).endAction(row));
+        const ChooserAnswer chooser([row](ChooserWindow& window) {
+            QCOMPARE(window.planRows().size(), row);
+            window.cancel();
+        });
+        press("F2");
+        QCOMPARE(chooser.count(), 1);
+        comeBack();
+        QCOMPARE(QApplication::focusWidget(), &rows(1).endAction(row));
+    }
 }
 
 void tst_CardKeyboard::keysOfARowNeedARow()
