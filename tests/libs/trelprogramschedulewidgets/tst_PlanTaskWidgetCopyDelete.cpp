@@ -2,6 +2,7 @@
 
 #include "PlanStandardItemModel.h"
 #include "kCustomLineEdit.h"
+#include "support/ChooserAnswer.h"
 #include "support/PromptAnswer.h"
 
 #include <QPointer>
@@ -353,8 +354,8 @@ void tst_PlanTaskWidgetCopyDelete::noPlanBehindTheLargestId()
                        timePlan(-1, "10:00:00", "11:00:00")});
     const OpenCard open(task);
     const PromptAnswer noPrompt;
+    const ChooserAnswer noChooser;
     click(open.rows.copyButton(0));
-    // No chooser appears.
     click(named<QPushButton>(open.card, "pushButtonAdd"));
     QCOMPARE(open.rows.task(), task);
     QCOMPARE(open.rows.rowCount(), 2);
