@@ -77,6 +77,7 @@ class tst_PlanEnds : public QObject
 
 private slots:
     void aLengthMovesTheEndsOfBothSets();
+    void aLengthMovesEveryPlanOfEveryTask();
     void newEndsStandWhenTheyAreTold();
     void aNewNameMovesNothing();
     void editsStayEdits();
@@ -105,6 +106,21 @@ void tst_PlanEnds::aLengthMovesTheEndsOfBothSets()
     QCOMPARE(store.workingEnds(), kNewEnds);
     QCOMPARE(store.storedEnds(), kNewEnds);
     QVERIFY(!store.host.hasUnsavedChanges());
+}
+
+void tst_PlanEnds::aLengthMovesEveryPlanOfEveryTask()
+{
+    FilmStore store;
+    const std::vector<PlayPlan> plans{frequencyPlan(1, "08:00:00", 2, {entry(1)}),
+                                      frequencyPlan(2, "10:00:00", 1, {entry(1)}),
+                                      frequencyPlan(3, "12:00:00", 4, {entry(1)})};
+    store.save({{1, taskWithPlans(plans, 1)}, {2, taskWithPlans(plans, 2)}});
+    store.import(90.0);
+    const QString moved = QStringLiteral("08:03:00 10:01:30 12:06:00");
+    for (const int id : {1, 2}) {
+        QCOMPARE(ends(store.manager.getTask(id)), moved);
+        QCOMPARE(ends(store.manager.getgTaskMap().at(id)), moved);
+    }
 }
 
 void tst_PlanEnds::newEndsStandWhenTheyAreTold()
