@@ -164,7 +164,6 @@ void PlanList::addTask(const PlayTask& task)
     service().addTask(task);
     addCard(task, false);
     if (self) {
-        m_place.reset();
         m_newCard = m_taskWidgets.value(task.id);
         scrollToPlace();
     }

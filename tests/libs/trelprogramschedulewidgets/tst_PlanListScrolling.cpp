@@ -94,6 +94,7 @@ private slots:
     void anOpenCardIsKeptInSightByItsTitle();
     void aRefreshOutOfSightKeepsThePlace();
     void anAddedCardCountsMoreThanAnOldPlace();
+    void anOldPlaceOutlastsAnAddedCardThatWent();
 };
 
 void tst_PlanListScrolling::init()
@@ -221,6 +222,18 @@ void tst_PlanListScrolling::anAddedCardCountsMoreThanAnOldPlace()
     QVERIFY(panel.isWholeInSight(1));
     panel.refresh();
     QCOMPARE(panel.bar().value(), 0);
+}
+
+void tst_PlanListScrolling::anOldPlaceOutlastsAnAddedCardThatWent()
+{
+    Panel panel;
+    panel.scroll(panel.card(20).y() + 10);
+    panel.widget().hide();
+    panel.refresh();
+    panel.list().slotAddOutput();
+    panel.refresh();
+    panel.widget().show();
+    QTRY_COMPARE(panel.offset(20), -10);
 }
 
 QTEST_MAIN(tst_PlanListScrolling)
