@@ -1,6 +1,6 @@
 #include "PlainCard.h"
 
-#include "PlanColumns.h"
+#include "card/PlanColumns.h"
 #include "ui_PlanTaskWidget.h"
 
 #include <QHeaderView>

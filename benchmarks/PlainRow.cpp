@@ -1,6 +1,6 @@
 #include "PlainRow.h"
 
-#include "PlanColumns.h"
+#include "card/PlanColumns.h"
 #include "ui_kCustomLineEdit.h"
 
 #include <QComboBox>

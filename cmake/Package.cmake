@@ -12,7 +12,8 @@ foreach(library IN LISTS libraries)
 endforeach()
 set_target_properties(schedule-editor schedulectl PROPERTIES
   INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
-set_target_properties(trelprogramschedulewidgets PROPERTIES INSTALL_RPATH "$ORIGIN")
+set_target_properties(trelprogramschedulewidgets trelprogramschedule PROPERTIES
+  INSTALL_RPATH "$ORIGIN")
 
 install(TARGETS ${libraries} schedule-editor schedulectl EXPORT trelTargets)
 # Beside the library that opens it. Nothing links it; hosts that carry their libraries with them
@@ -21,43 +22,61 @@ install(TARGETS trelmedia EXPORT trelTargets
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/${PROJECT_NAME})
 install(EXPORT trelTargets NAMESPACE trel:: DESTINATION ${package_dir})
 
-install(DIRECTORY src/libs/trelwidgets src/libs/tstranslate
-  DESTINATION ${include_dir}
-  FILES_MATCHING
-  PATTERN LanguageFile.h EXCLUDE
-  PATTERN *.h)
-install(FILES
-  src/libs/trelprogramschedule/ProgramImporter.h
-  src/libs/trelprogramschedule/ScheduleHost.h
-  src/libs/trelprogramschedule/ScheduleJson.h
-  src/libs/trelprogramschedule/ShownAddress.h
-  src/libs/trelprogramschedule/StoreResult.h
-  DESTINATION ${include_dir}/trelprogramschedule)
-install(FILES
-  src/libs/trelprogramschedule/dispatch/ClockChanges.h
-  src/libs/trelprogramschedule/dispatch/ProgramVerdict.h
-  src/libs/trelprogramschedule/dispatch/ScreenDispatch.h
-  src/libs/trelprogramschedule/dispatch/ScreenInsertion.h
-  src/libs/trelprogramschedule/dispatch/ScreenState.h
-  src/libs/trelprogramschedule/dispatch/ScreenTimeline.h
-  src/libs/trelprogramschedule/dispatch/SoughtPlay.h
-  DESTINATION ${include_dir}/trelprogramschedule/dispatch)
-install(FILES
-  src/libs/trelprogramschedule/media/MediaPicture.h
-  src/libs/trelprogramschedule/media/PictureRequest.h
-  DESTINATION ${include_dir}/trelprogramschedule/media)
-install(DIRECTORY src/libs/trelprogramschedulewidgets/service
-  DESTINATION ${include_dir}
-  FILES_MATCHING
-  PATTERN LookingAlarm.h EXCLUDE
-  PATTERN MachineAlarm.h EXCLUDE
-  PATTERN TimerDescriptor.h EXCLUDE
-  PATTERN ZoneWatch.h EXCLUDE
-  PATTERN *.h)
-install(FILES
-  src/libs/trelprogramschedulewidgets/ProgramSheduleWidgetTranslateManager.h
-  src/libs/trelprogramschedulewidgets/scheduleControlUI.h
-  DESTINATION ${include_dir})
+# install_headers(<library> <folder> <header>...)
+#
+# The public headers of a library, which are included as they stand below the folder. Each of them
+# compiles alone, and what it declares can be linked.
+function(install_headers library base)
+  foreach(header IN LISTS ARGN)
+    cmake_path(GET header PARENT_PATH folder)
+    install(FILES ${base}/${header} DESTINATION ${include_dir}/${folder})
+  endforeach()
+  install(FILES ${CMAKE_BINARY_DIR}/exports/${library}_export.h DESTINATION ${include_dir})
+endfunction()
+
+install_headers(tstranslate src/libs tstranslate/Translator.h)
+install_headers(trelwidgets src/libs
+  trelwidgets/ComboBox.h
+  trelwidgets/Dialog.h
+  trelwidgets/TipDialog.h)
+install_headers(schedulecontract src/libs/trelprogramschedulewidgets
+  clock/Clock.h
+  clock/ClockAlarm.h
+  service/DateText.h
+  service/FixedText.h
+  service/InvalidEntries.h
+  service/NewPlan.h
+  service/PlanConflicts.h
+  service/PlanFaults.h
+  service/PlanInsertion.h
+  service/PlanTiming.h
+  service/ProgramOffers.h
+  service/ProgramText.h
+  service/ProgramTotal.h
+  service/ScheduleRecords.h
+  service/TaskPeriods.h
+  service/TaskPlans.h
+  service/TimeText.h
+  service/WeekDays.h
+  service/scheduleManage.h)
+install_headers(trelprogramschedule src/libs
+  trelprogramschedule/catalogue/ProgramImporter.h
+  trelprogramschedule/ScheduleHost.h
+  trelprogramschedule/json/ScheduleJson.h
+  trelprogramschedule/catalogue/ShownAddress.h
+  trelprogramschedule/store/StoreResult.h
+  trelprogramschedule/dispatch/ClockChanges.h
+  trelprogramschedule/dispatch/ProgramVerdict.h
+  trelprogramschedule/dispatch/ScreenDispatch.h
+  trelprogramschedule/dispatch/ScreenInsertion.h
+  trelprogramschedule/dispatch/ScreenState.h
+  trelprogramschedule/dispatch/ScreenTimeline.h
+  trelprogramschedule/dispatch/SoughtPlay.h
+  trelprogramschedule/media/MediaPicture.h
+  trelprogramschedule/media/PictureRequest.h)
+install_headers(trelprogramschedulewidgets src/libs/trelprogramschedulewidgets
+  ProgramSheduleWidgetTranslateManager.h
+  scheduleControlUI.h)
 install(DIRECTORY resources/demonstration
   DESTINATION ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME}
   PATTERN make-media EXCLUDE)

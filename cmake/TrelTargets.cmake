@@ -1,5 +1,6 @@
 # What every target of the project has in common.
 include_guard(GLOBAL)
+include(GenerateExportHeader)
 
 # One interface target carries the strictness of compiler and toolkit.
 add_library(trel_strict INTERFACE)
@@ -23,7 +24,8 @@ target_compile_definitions(trel_strict INTERFACE
 # trel_library(<name> [OBJECTS] SOURCES ... PUBLIC ... PRIVATE ...)
 #
 # A shared library <name> with the alias trel::<name>. With OBJECTS its code stands in the object
-# library <name>_objects, so that a test can link the classes that the shared library hides.
+# library <name>_objects, so that a test can link the classes that the shared library hides. What the
+# library exports is marked with <NAME>_EXPORT of the generated header <name>_export.h.
 function(trel_library name)
   cmake_parse_arguments(ARG "OBJECTS" "" "SOURCES;PUBLIC;PRIVATE" ${ARGN})
   add_library(${name} SHARED)
@@ -38,9 +40,11 @@ function(trel_library name)
   target_link_libraries(${code} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE} trel_strict)
   foreach(target IN ITEMS ${name} ${code})
     target_include_directories(${target} PUBLIC
+      $<BUILD_INTERFACE:${CMAKE_BINARY_DIR}/exports>
       $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src/libs>
       $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>)
   endforeach()
+  generate_export_header(${name} EXPORT_FILE_NAME ${CMAKE_BINARY_DIR}/exports/${name}_export.h)
   set_target_properties(${name} PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
 endfunction()
@@ -64,7 +68,8 @@ function(trel_test name)
   endif()
   add_executable(tst_${name} ${ARG_SOURCES})
   target_link_libraries(tst_${name} PRIVATE ${ARG_LINK} Qt5::Test trel_strict)
-  target_include_directories(tst_${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_include_directories(tst_${name} PRIVATE
+    ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
   set_target_properties(tst_${name} PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   add_test(NAME ${name} COMMAND tst_${name})

@@ -5,7 +5,7 @@
 #include "PlainList.h"
 #include "PlanList.h"
 #include "QuietService.h"
-#include "service/Clock.h"
+#include "clock/Clock.h"
 
 #include <QCoreApplication>
 #include <QScrollArea>

@@ -2,8 +2,8 @@
 
 #include "LiteralRules.h"
 #include "PlainRow.h"
-#include "PlanColumns.h"
 #include "ScheduleText.h"
+#include "card/PlanColumns.h"
 #include "service/scheduleManage.h"
 
 #include <QLabel>

@@ -5,7 +5,7 @@
 #include "Samples.h"
 #include "look/Themes.h"
 #include "scheduleControlUI.h"
-#include "trelprogramschedule/ProgramImporter.h"
+#include "trelprogramschedule/catalogue/ProgramImporter.h"
 
 #include <QTemporaryDir>
 

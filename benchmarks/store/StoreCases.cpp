@@ -4,8 +4,8 @@
 #include "PlainStore.h"
 #include "Samples.h"
 #include "service/scheduleManage.h"
-#include "trelprogramschedule/ProgramImporter.h"
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/catalogue/ProgramImporter.h"
 
 #include <QLocale>
 #include <QTemporaryDir>

@@ -1,4 +1,5 @@
-# Fails unless the example host builds against the installed package and behaves when started.
+# Fails unless the example host builds against the installed package and behaves when started, each
+# installed header compiles alone, and all that they declare can be linked.
 function(run)
   cmake_parse_arguments(ARG "" "STATUS;OUTPUT;WITHOUT" "" ${ARGN})
   execute_process(COMMAND ${ARG_UNPARSED_ARGUMENTS}
@@ -23,6 +24,12 @@ run(${CMAKE_COMMAND} -S ${EXAMPLE} -B ${WORK}/build -G Ninja
   -DCMAKE_PREFIX_PATH=${WORK}/installed "-DCMAKE_CXX_FLAGS=${FLAGS}"
   -DCMAKE_CXX_COMPILER=${COMPILER})
 run(${CMAKE_COMMAND} --build ${WORK}/build)
+
+run(${CMAKE_COMMAND} -S ${SURFACE} -B ${WORK}/surface -G Ninja
+  -DCMAKE_PREFIX_PATH=${WORK}/installed "-DCMAKE_CXX_FLAGS=${FLAGS}"
+  -DCMAKE_CXX_COMPILER=${COMPILER})
+run(${CMAKE_COMMAND} --build ${WORK}/surface)
+run(${WORK}/surface/surface OUTPUT "All there")
 
 run(${WORK}/build/minimal-host STATUS 2 OUTPUT "Usage: minimal-host")
 run(${WORK}/build/minimal-host ${WORK}/no/such/folder/schedule.db STATUS 1 OUTPUT "no/such/folder")

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FileLook.h"
+#include "catalogue/FileLook.h"
 
 #include <QThread>
 

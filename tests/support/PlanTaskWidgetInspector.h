@@ -1,7 +1,7 @@
 #pragma once
 
-#include "PlanColumns.h"
 #include "PlanTaskWidget.h"
+#include "card/PlanColumns.h"
 #include "service/ScheduleRecords.h"
 
 #include <QString>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ProgramImporter.h"
+#include "catalogue/ProgramImporter.h"
 #include "service/ScheduleRecords.h"
 
 #include <map>

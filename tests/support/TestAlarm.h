@@ -1,6 +1,6 @@
 #pragma once
 
-#include "service/ClockAlarm.h"
+#include "clock/ClockAlarm.h"
 
 #include <QObject>
 

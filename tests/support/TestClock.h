@@ -1,6 +1,6 @@
 #pragma once
 
-#include "service/Clock.h"
+#include "clock/Clock.h"
 
 #include <memory>
 #include <vector>

@@ -1,9 +1,9 @@
 #include "Demonstration.h"
 
-#include "service/Clock.h"
-#include "trelprogramschedule/ProgramImporter.h"
+#include "clock/Clock.h"
 #include "trelprogramschedule/ScheduleHost.h"
-#include "trelprogramschedule/ScheduleJson.h"
+#include "trelprogramschedule/catalogue/ProgramImporter.h"
+#include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QCoreApplication>
 #include <QDir>

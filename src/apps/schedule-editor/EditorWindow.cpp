@@ -13,8 +13,8 @@
 #include "screen/ScreenFollower.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
-#include "trelprogramschedule/ScheduleJson.h"
-#include "trelprogramschedule/ShownAddress.h"
+#include "trelprogramschedule/catalogue/ShownAddress.h"
+#include "trelprogramschedule/json/ScheduleJson.h"
 #include "week/WeekDock.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "trelprogramschedule/ProgramImporter.h"
+#include "trelprogramschedule/catalogue/ProgramImporter.h"
 
 #include <QObject>
 

@@ -2,7 +2,7 @@
 
 #include "BidiText.h"
 #include "service/scheduleManage.h"
-#include "trelprogramschedule/ShownAddress.h"
+#include "trelprogramschedule/catalogue/ShownAddress.h"
 
 #include <QBrush>
 #include <QGuiApplication>

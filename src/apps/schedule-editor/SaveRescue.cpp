@@ -2,7 +2,7 @@
 
 #include "HostPrompts.h"
 #include "service/scheduleManage.h"
-#include "trelprogramschedule/ScheduleJson.h"
+#include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QWidget>
 

@@ -2,7 +2,7 @@
 
 #include "EditorWindow.h"
 #include "PictureSchedule.h"
-#include "PlanColumns.h"
+#include "card/PlanColumns.h"
 #include "scheduleControlUI.h"
 #include "week/WeekDock.h"
 #include "week/WeekView.h"

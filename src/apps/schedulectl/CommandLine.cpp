@@ -1,7 +1,7 @@
 #include "CommandLine.h"
 
-#include "DisplayText.h"
-#include "trelprogramschedule/ShownAddress.h"
+#include "text/DisplayText.h"
+#include "trelprogramschedule/catalogue/ShownAddress.h"
 
 #include <algorithm>
 

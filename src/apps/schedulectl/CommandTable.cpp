@@ -1,10 +1,10 @@
 #include "CommandTable.h"
 
-#include "CatalogueCommands.h"
-#include "ExchangeCommands.h"
-#include "LanguageCommands.h"
-#include "ScheduleCommands.h"
-#include "ScreenCommands.h"
+#include "catalogue/CatalogueCommands.h"
+#include "language/LanguageCommands.h"
+#include "schedule/ExchangeCommands.h"
+#include "schedule/ScheduleCommands.h"
+#include "screen/ScreenCommands.h"
 
 const std::vector<Command>& allCommands()
 {

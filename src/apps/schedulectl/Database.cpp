@@ -1,8 +1,8 @@
 #include "Database.h"
 
-#include "Console.h"
 #include "common/DefaultDatabase.h"
 #include "service/scheduleManage.h"
+#include "text/Console.h"
 
 using trel::mediadispatch::ScheduleHost;
 using trel::mediadispatch::scheduleManage;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Command.h"
-#include "ScheduleCheck.h"
+#include "schedule/ScheduleCheck.h"
 #include "service/ScheduleRecords.h"
 #include "trelprogramschedule/ScheduleHost.h"
 

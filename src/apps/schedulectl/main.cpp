@@ -1,7 +1,7 @@
 #include "CommandLine.h"
 #include "CommandTable.h"
-#include "Console.h"
-#include "HelpText.h"
+#include "text/Console.h"
+#include "text/HelpText.h"
 
 #include <QCoreApplication>
 #include <QTextCodec>

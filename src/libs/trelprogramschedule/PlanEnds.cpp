@@ -1,6 +1,6 @@
 #include "PlanEnds.h"
 
-#include "ProgramCatalogue.h"
+#include "catalogue/ProgramCatalogue.h"
 #include "service/PlanTiming.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "ScheduleHost.h"
 
-#include "ProgramImporter.h"
 #include "ScheduleService.h"
+#include "catalogue/ProgramImporter.h"
 
 namespace trel::mediadispatch {
 

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
-#include "trelprogramschedule/StoreResult.h"
+#include "trelprogramschedule/store/StoreResult.h"
+#include "trelprogramschedule_export.h"
 
 #include <QObject>
 #include <QString>
@@ -23,7 +24,7 @@ struct MediaSource;
 /// is refused a save that would undo what it has not seen (StoreProblem::MovedOn).
 // The destructor is private, for nobody but instance() makes or ends the one instance.
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
-class Q_DECL_EXPORT ScheduleHost : public QObject
+class TRELPROGRAMSCHEDULE_EXPORT ScheduleHost : public QObject
 {
     Q_OBJECT
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "ProgramCatalogue.h"
-#include "ProgramFileWatch.h"
-#include "ScheduleDatabase.h"
-#include "ScheduleInEffect.h"
 #include "TaskSets.h"
+#include "catalogue/ProgramCatalogue.h"
+#include "catalogue/ProgramFileWatch.h"
+#include "effect/ScheduleInEffect.h"
+#include "store/ScheduleDatabase.h"
 
 #include <QCoreApplication>
 #include <QObject>

@@ -1,7 +1,7 @@
 #include "service/scheduleManage.h"
 
 #include "ScheduleService.h"
-#include "service/Clock.h"
+#include "clock/Clock.h"
 
 #include <QDate>
 #include <QTime>

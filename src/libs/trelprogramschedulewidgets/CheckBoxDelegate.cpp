@@ -1,7 +1,7 @@
 #include "CheckBoxDelegate.h"
 
 #include "CheckBoxImages.h"
-#include "ChooserColumns.h"
+#include "chooser/ChooserColumns.h"
 
 #include <QApplication>
 #include <QMouseEvent>

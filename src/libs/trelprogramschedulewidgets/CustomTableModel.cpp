@@ -1,6 +1,6 @@
 #include "CustomTableModel.h"
 
-#include "ChooserColumns.h"
+#include "chooser/ChooserColumns.h"
 
 namespace trel::mediadispatch {
 

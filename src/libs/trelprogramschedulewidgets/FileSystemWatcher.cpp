@@ -1,6 +1,6 @@
 #include "FileSystemWatcher.h"
 
-#include "DirectoryChange.h"
+#include "toolkit/DirectoryChange.h"
 
 #include <QDebug>
 #include <QDir>

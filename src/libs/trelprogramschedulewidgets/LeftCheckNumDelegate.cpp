@@ -1,6 +1,6 @@
 #include "LeftCheckNumDelegate.h"
 
-#include "CheckNumPainting.h"
+#include "chooser/CheckNumPainting.h"
 
 namespace trel::mediadispatch {
 

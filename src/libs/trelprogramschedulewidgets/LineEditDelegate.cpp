@@ -1,6 +1,6 @@
 #include "LineEditDelegate.h"
 
-#include "EditorGeometry.h"
+#include "card/EditorGeometry.h"
 #include "kCustomLineEdit.h"
 
 namespace trel::mediadispatch {

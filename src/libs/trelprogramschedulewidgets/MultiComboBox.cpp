@@ -1,7 +1,7 @@
 #include "MultiComboBox.h"
 
-#include "BoolCheckDelegate.h"
-#include "service/Clock.h"
+#include "card/BoolCheckDelegate.h"
+#include "clock/Clock.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>

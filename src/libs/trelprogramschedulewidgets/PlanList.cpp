@@ -1,13 +1,13 @@
 #include "PlanList.h"
 
-#include "AnswerCatalogue.h"
-#include "EditorInUse.h"
-#include "NewWidgets.h"
 #include "PlanTaskWidget.h"
+#include "card/AnswerCatalogue.h"
+#include "card/EditorInUse.h"
+#include "clock/Clock.h"
 #include "initProcess.h"
-#include "service/Clock.h"
 #include "service/NextId.h"
 #include "service/scheduleManage.h"
+#include "toolkit/NewWidgets.h"
 
 #include <QCoreApplication>
 #include <QScrollArea>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ScrollPlace.h"
+#include "card/ScrollPlace.h"
 
 #include <QList>
 #include <QMap>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "trelprogramschedulewidgets_export.h"
+
 #include <QtGlobal>
 
 #include <memory>
@@ -15,7 +17,7 @@ namespace trel::mediadispatch {
 /// Language files are loaded into it and the language is selected on it; widgets that stand
 /// already keep their texts until they are told to fetch them again. GUI thread only, apart from
 /// the first call of instance().
-class Q_DECL_EXPORT ProgramSheduleWidgetTranslateManager
+class TRELPROGRAMSCHEDULEWIDGETS_EXPORT ProgramSheduleWidgetTranslateManager
 {
 public:
     /// The one manager of the process, made on first use and gone at process exit.

@@ -1,6 +1,6 @@
 #include "RightCheckNumDelegate.h"
 
-#include "CheckNumPainting.h"
+#include "chooser/CheckNumPainting.h"
 
 namespace trel::mediadispatch {
 

@@ -1,6 +1,6 @@
 #include "SpinBoxDelegate.h"
 
-#include "FocusedWheel.h"
+#include "toolkit/FocusedWheel.h"
 
 #include <QSpinBox>
 

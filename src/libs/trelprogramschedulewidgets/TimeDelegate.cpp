@@ -1,8 +1,8 @@
 #include "TimeDelegate.h"
 
-#include "EditorGeometry.h"
-#include "FocusedWheel.h"
+#include "card/EditorGeometry.h"
 #include "service/ScheduleRecords.h"
+#include "toolkit/FocusedWheel.h"
 
 #include <QTimeEdit>
 

@@ -1,7 +1,7 @@
 #include "kCustomLineEdit.h"
 
-#include "NewWidgets.h"
 #include "service/scheduleManage.h"
+#include "toolkit/NewWidgets.h"
 #include "ui_kCustomLineEdit.h"
 
 #include <QFontMetrics>

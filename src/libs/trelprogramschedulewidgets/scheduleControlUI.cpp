@@ -6,7 +6,7 @@
 #include "ScheduleText.h"
 #include "TitleBar.h"
 #include "centerWidget.h"
-#include "service/Clock.h"
+#include "clock/Clock.h"
 #include "service/scheduleManage.h"
 #include "tstranslate/Translator.h"
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "trelprogramschedulewidgets_export.h"
 #include "trelwidgets/Dialog.h"
 
 #include <QElapsedTimer>
@@ -29,7 +30,7 @@ class centerWidget;
 /// 5. calls translate(), now and after every switchLanguage() to come,
 /// 6. calls slotShow(), a second or more after the window was built,
 /// 7. calls clearAndInitialize() whenever the stored schedule was replaced from outside.
-class Q_DECL_EXPORT scheduleControlUI : public widgets::Dialog
+class TRELPROGRAMSCHEDULEWIDGETS_EXPORT scheduleControlUI : public widgets::Dialog
 {
     Q_OBJECT
 

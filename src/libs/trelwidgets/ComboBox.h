@@ -1,12 +1,14 @@
 #pragma once
 
+#include "trelwidgets_export.h"
+
 #include <QComboBox>
 
 namespace trel::widgets {
 
 /// A combo box for rows of a scrolling list: the wheel scrolls the list and never changes the
 /// box, nor does it give it the focus.
-class Q_DECL_EXPORT ComboBox : public QComboBox
+class TRELWIDGETS_EXPORT ComboBox : public QComboBox
 {
     Q_OBJECT
 

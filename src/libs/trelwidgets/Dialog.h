@@ -1,5 +1,7 @@
 #pragma once
 
+#include "trelwidgets_export.h"
+
 #include <QDialog>
 #include <QSize>
 
@@ -23,7 +25,7 @@ namespace trel::widgets {
 /// and "ButtonClose", and "dialogCenter" (the client area). The buttons carry the property
 /// "imageBtn": "minimise"; "maximise" or "restore", as the window is compact or expanded; "close".
 /// A style sheet replaces their signs with `qproperty-icon`.
-class Q_DECL_EXPORT Dialog : public QDialog
+class TRELWIDGETS_EXPORT Dialog : public QDialog
 {
     Q_OBJECT
     Q_PROPERTY(bool acceptsByKey READ acceptsByKey WRITE setAcceptsByKey)

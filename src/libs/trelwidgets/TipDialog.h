@@ -1,5 +1,7 @@
 #pragma once
 
+#include "trelwidgets_export.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -26,7 +28,7 @@ struct PromptBoxTriggerInfo
 /// "labelImage" = "notice" or "question", "dialogTipLabel", and the buttons "tipButton1",
 /// "tipButton2" and "tipButton3", of which the first has the property "style" = "general" and the
 /// others "assist".
-class Q_DECL_EXPORT TipDialog : public QDialog
+class TRELWIDGETS_EXPORT TipDialog : public QDialog
 {
     Q_OBJECT
 

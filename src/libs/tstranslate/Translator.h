@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tstranslate_export.h"
+
 #include <QString>
 
 #include <memory>
@@ -12,7 +14,7 @@ namespace tessark::trans {
 /// is known by its own name without the suffix. In it the group is the Linguist context, the
 /// context its disambiguation and the key its source text. An empty text counts as lacking. Not
 /// thread-safe.
-class Q_DECL_EXPORT Translator
+class TSTRANSLATE_EXPORT Translator
 {
 public:
     Translator();
@@ -34,8 +36,8 @@ public:
     QString language() const;
 
 private:
-    friend Q_DECL_EXPORT QString translate(const Translator& translator, const QString& group,
-                                           const QString& context, const QString& key);
+    friend TSTRANSLATE_EXPORT QString translate(const Translator& translator, const QString& group,
+                                                const QString& context, const QString& key);
 
     class Private;
     std::unique_ptr<Private> d;
@@ -43,7 +45,7 @@ private:
 
 /// The text for a key in the selected language. What that language lacks is looked up in "zh_CN",
 /// and failing that the key itself is returned.
-Q_DECL_EXPORT QString translate(const Translator& translator, const QString& group,
-                                const QString& context, const QString& key);
+TSTRANSLATE_EXPORT QString translate(const Translator& translator, const QString& group,
+                                     const QString& context, const QString& key);
 
 } // namespace tessark::trans

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "PlanColumns.h"
+#include "card/PlanColumns.h"
 
 #include <QComboBox>
 #include <QDateEdit>

@@ -1,6 +1,6 @@
 #include "HostFixture.h"
 
-#include "PlanColumns.h"
+#include "card/PlanColumns.h"
 
 #include <QAbstractSpinBox>
 #include <QAccessible>

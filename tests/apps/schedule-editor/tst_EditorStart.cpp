@@ -1,7 +1,7 @@
 #include "HostFixture.h"
 #include "support/MediaLibraries.h"
-#include "trelprogramschedule/ProgramImporter.h"
-#include "trelprogramschedule/ScheduleJson.h"
+#include "trelprogramschedule/catalogue/ProgramImporter.h"
+#include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QDir>
 #include <QDockWidget>

@@ -2,7 +2,7 @@
 #include "HostPrompts.h"
 #include "LookSupport.h"
 
-#include "PlanColumns.h"
+#include "card/PlanColumns.h"
 
 #include <QAbstractScrollArea>
 #include <QDockWidget>

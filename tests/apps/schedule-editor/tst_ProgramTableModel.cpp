@@ -1,7 +1,7 @@
 #include "ProgramTableModel.h"
 #include "service/scheduleManage.h"
-#include "trelprogramschedule/ProgramImporter.h"
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/catalogue/ProgramImporter.h"
 
 #include <QAbstractItemModelTester>
 #include <QTemporaryDir>

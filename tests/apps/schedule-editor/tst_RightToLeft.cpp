@@ -1,8 +1,8 @@
 #include "HostFixture.h"
 #include "LookSupport.h"
 
-#include "PlanColumns.h"
 #include "ProgramTableModel.h"
+#include "card/PlanColumns.h"
 #include "screen/ElidedText.h"
 
 #include <QDateEdit>

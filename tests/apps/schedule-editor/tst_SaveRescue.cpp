@@ -1,7 +1,7 @@
 #include "HostFixture.h"
 #include "SaveRescue.h"
 #include "support/PromptAnswer.h"
-#include "trelprogramschedule/ScheduleJson.h"
+#include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QFileDialog>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 #include "HostFixture.h"
 #include "LookSupport.h"
 
-#include "PlanColumns.h"
+#include "card/PlanColumns.h"
 
 #include <QHeaderView>
 #include <QLabel>

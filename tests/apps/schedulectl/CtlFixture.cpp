@@ -1,7 +1,7 @@
 #include "CtlFixture.h"
 
 #include "support/MediaFiles.h"
-#include "trelprogramschedule/ScheduleJson.h"
+#include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,6 +1,6 @@
 #include "CtlFixture.h"
-#include "trelprogramschedule/ProgramImporter.h"
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/catalogue/ProgramImporter.h"
 
 #include <QJsonArray>
 #include <QtTest>

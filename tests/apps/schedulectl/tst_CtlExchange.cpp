@@ -1,7 +1,7 @@
 #include "CtlFixture.h"
 
 #include "support/SampleSchedule.h"
-#include "trelprogramschedule/ScheduleJson.h"
+#include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QDir>
 #include <QtTest>

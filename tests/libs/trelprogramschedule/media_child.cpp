@@ -1,7 +1,7 @@
 // A program that holds the service itself, for tests that put it beside another module for media
 // files, or beside none. Tells line by line what it finds in the files that it is given.
 
-#include "ProgramImporter.h"
+#include "catalogue/ProgramImporter.h"
 #include "media/PictureRequest.h"
 
 #include <QCoreApplication>

@@ -3,8 +3,8 @@
 
 #include "DiskLimit.h"
 #include "ScheduleHost.h"
-#include "StoreConnection.h"
 #include "service/scheduleManage.h"
+#include "store/StoreConnection.h"
 #include "support/SampleSchedule.h"
 
 #include <QCoreApplication>

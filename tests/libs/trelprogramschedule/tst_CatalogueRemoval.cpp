@@ -1,7 +1,7 @@
-#include "ScheduleDatabase.h"
 #include "SignalCounts.h"
-#include "StoreConnection.h"
 #include "StoreFixture.h"
+#include "store/ScheduleDatabase.h"
+#include "store/StoreConnection.h"
 
 #include <QtTest>
 

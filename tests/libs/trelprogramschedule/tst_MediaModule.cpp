@@ -1,6 +1,6 @@
 #include "media/MediaModule.h"
 
-#include "ProgramImporter.h"
+#include "catalogue/ProgramImporter.h"
 #include "support/MediaLibraries.h"
 #include "support/MessageLog.h"
 

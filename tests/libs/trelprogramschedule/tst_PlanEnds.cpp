@@ -1,9 +1,9 @@
 #include "PlanEnds.h"
 
-#include "ProgramCatalogue.h"
-#include "ScheduleDatabase.h"
 #include "SignalCounts.h"
 #include "StoreFixture.h"
+#include "catalogue/ProgramCatalogue.h"
+#include "store/ScheduleDatabase.h"
 #include "support/PlanRecords.h"
 
 #include <QtTest>

@@ -1,4 +1,4 @@
-#include "ScheduleJson.h"
+#include "json/ScheduleJson.h"
 
 #include <QtTest>
 

@@ -1,6 +1,6 @@
 #include "StoreChild.h"
-#include "StoreConnection.h"
 #include "StoreFixture.h"
+#include "store/StoreConnection.h"
 #include "support/FolderSnapshot.h"
 
 #include <QtTest>

@@ -1,5 +1,5 @@
-#include "ScheduleDatabase.h"
 #include "StoreFixture.h"
+#include "store/ScheduleDatabase.h"
 
 #include <QSignalSpy>
 #include <QtTest>

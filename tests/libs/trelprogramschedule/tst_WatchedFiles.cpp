@@ -1,7 +1,7 @@
 #include "ScheduleHost.h"
 #include "SignalCounts.h"
 #include "StoreFixture.h"
-#include "trelprogramschedule/ProgramImporter.h"
+#include "trelprogramschedule/catalogue/ProgramImporter.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
 
 #include <QtTest>

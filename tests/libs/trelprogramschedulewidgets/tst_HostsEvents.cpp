@@ -1,7 +1,7 @@
 #include "CardLines.h"
 #include "KeptTasks.h"
-#include "NewWidgets.h"
 #include "support/PlanRecords.h"
+#include "toolkit/NewWidgets.h"
 
 #include <QLabel>
 #include <QPushButton>

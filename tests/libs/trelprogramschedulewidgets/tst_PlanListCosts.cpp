@@ -1,10 +1,10 @@
 #include "EventCount.h"
-#include "NewWidgets.h"
 #include "PlanList.h"
 #include "PlanTaskWidget.h"
 #include "WidgetPlaces.h"
 #include "support/RecordingService.h"
 #include "support/TaskRecords.h"
+#include "toolkit/NewWidgets.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>

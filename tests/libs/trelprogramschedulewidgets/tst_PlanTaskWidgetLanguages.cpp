@@ -1,8 +1,8 @@
 #include "OpenCard.h"
 
 #include "MultiComboBox.h"
-#include "PlanRowTexts.h"
 #include "ProgramSheduleWidgetTranslateManager.h"
+#include "card/PlanRowTexts.h"
 #include "resources/LanguageNames.h"
 #include "support/TestClock.h"
 

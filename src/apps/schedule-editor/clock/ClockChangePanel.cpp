@@ -1,6 +1,6 @@
 #include "clock/ClockChangePanel.h"
 
-#include "service/Clock.h"
+#include "clock/Clock.h"
 #include "service/DateText.h"
 #include "service/TimeText.h"
 #include "service/scheduleManage.h"

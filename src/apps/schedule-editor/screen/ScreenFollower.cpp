@@ -1,7 +1,7 @@
 #include "screen/ScreenFollower.h"
 
-#include "service/Clock.h"
-#include "service/ClockAlarm.h"
+#include "clock/Clock.h"
+#include "clock/ClockAlarm.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/dispatch/LocalClock.h"

@@ -1,6 +1,6 @@
 #include "week/MinuteTimer.h"
 
-#include "service/Clock.h"
+#include "clock/Clock.h"
 
 using namespace trel::mediadispatch;
 

@@ -1,6 +1,6 @@
 #include "week/WeekFeed.h"
 
-#include "service/Clock.h"
+#include "clock/Clock.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"

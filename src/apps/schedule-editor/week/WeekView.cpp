@@ -1,6 +1,6 @@
 #include "week/WeekView.h"
 
-#include "service/Clock.h"
+#include "clock/Clock.h"
 #include "week/DayPainting.h"
 #include "week/FramePainting.h"
 #include "week/WeekReasons.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule_export.h"
 
 #include <QDate>
 #include <QTimeZone>
@@ -30,8 +31,8 @@ struct ClockChange
 
 /// Every change on the local days from first to last, both included, in the order of time. Changes
 /// that leave the time of day as it is, such as of the zone's name, are none.
-Q_DECL_EXPORT std::vector<ClockChange> clockChanges(const QDate& first, const QDate& last,
-                                                    const QTimeZone& zone);
+TRELPROGRAMSCHEDULE_EXPORT std::vector<ClockChange>
+clockChanges(const QDate& first, const QDate& last, const QTimeZone& zone);
 
 /// What a change does to a plan whose span shares time with it.
 enum class ClockChangeEffect {
@@ -69,7 +70,7 @@ struct TaskClockChange
 /// none. Whether another plan has the screen at that time is not asked.
 ///
 /// Costs what it returns, and nothing for the years that tasks last or lie ahead.
-Q_DECL_EXPORT std::vector<TaskClockChange>
+TRELPROGRAMSCHEDULE_EXPORT std::vector<TaskClockChange>
 nextClockChanges(const std::map<int, PlayTask>& tasks, const std::map<int, ProgramIten>& catalogue,
                  const QTimeZone& zone, const QDate& from, int count);
 

@@ -2,6 +2,7 @@
 
 #include "trelprogramschedule/dispatch/ScreenState.h"
 #include "trelprogramschedule/dispatch/WallTime.h"
+#include "trelprogramschedule_export.h"
 
 #include <QDateTime>
 #include <QTimeZone>
@@ -12,7 +13,7 @@ namespace trel::mediadispatch {
 
 /// The local time of a zone, in texts and found from texts. A long list of moments in order costs
 /// next to nothing. Not to be asked by two threads at a time.
-class Q_DECL_EXPORT LocalClock
+class TRELPROGRAMSCHEDULE_EXPORT LocalClock
 {
 public:
     explicit LocalClock(const QTimeZone& zone);
@@ -59,6 +60,6 @@ private:
 };
 
 /// Whether a calendar has a date for a moment; kNever and its like have none.
-Q_DECL_EXPORT bool isDated(Instant moment);
+TRELPROGRAMSCHEDULE_EXPORT bool isDated(Instant moment);
 
 } // namespace trel::mediadispatch

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "trelprogramschedule_export.h"
+
 #include <QDate>
 
 namespace trel::mediadispatch {
@@ -13,9 +15,9 @@ using DayNumber = qint64;
 
 inline constexpr qint64 kMillisecondsPerDay = 86'400'000;
 
-Q_DECL_EXPORT DayNumber dayNumber(const QDate& date);
-Q_DECL_EXPORT DayNumber dayOf(LocalTime time);
-Q_DECL_EXPORT LocalTime timeOn(DayNumber day, int secondOfDay);
+TRELPROGRAMSCHEDULE_EXPORT DayNumber dayNumber(const QDate& date);
+TRELPROGRAMSCHEDULE_EXPORT DayNumber dayOf(LocalTime time);
+TRELPROGRAMSCHEDULE_EXPORT LocalTime timeOn(DayNumber day, int secondOfDay);
 QDate dateOf(DayNumber day);
 /// 1 for Monday to 7 for Sunday.
 int weekdayOf(DayNumber day);

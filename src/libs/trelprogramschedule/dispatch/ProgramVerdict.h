@@ -3,6 +3,7 @@
 #include "service/ScheduleRecords.h"
 #include "trelprogramschedule/dispatch/ScreenInsertion.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
+#include "trelprogramschedule_export.h"
 
 #include <map>
 #include <string>
@@ -64,7 +65,7 @@ struct PlanVerdict
 };
 
 /// Why a program is on screen at a moment, or which rule kept it away.
-struct Q_DECL_EXPORT ProgramVerdict
+struct TRELPROGRAMSCHEDULE_EXPORT ProgramVerdict
 {
     ScreenState screen; ///< What is on screen at the moment.
     /// One verdict for each plan that holds the program, in the order of tasks and rows, behind one
@@ -77,10 +78,9 @@ struct Q_DECL_EXPORT ProgramVerdict
 /// Judges a program at a moment. The timeline has to be one of these tasks and this catalogue. An
 /// entry holds the program by its index, also when it has gone bad. Costs as much as a walk over
 /// all entries.
-Q_DECL_EXPORT ProgramVerdict programVerdict(const ScreenTimeline& timeline,
-                                            const std::map<int, PlayTask>& tasks,
-                                            const std::map<int, ProgramIten>& catalogue,
-                                            const ScreenInsertions& insertions, int progIndex,
-                                            Instant moment);
+TRELPROGRAMSCHEDULE_EXPORT ProgramVerdict
+programVerdict(const ScreenTimeline& timeline, const std::map<int, PlayTask>& tasks,
+               const std::map<int, ProgramIten>& catalogue, const ScreenInsertions& insertions,
+               int progIndex, Instant moment);
 
 } // namespace trel::mediadispatch

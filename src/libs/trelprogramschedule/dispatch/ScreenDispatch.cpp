@@ -1,6 +1,6 @@
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
 
-#include "service/Clock.h"
+#include "clock/Clock.h"
 #include "service/ScheduleRecords.h"
 #include "trelprogramschedule/dispatch/ProgramFacts.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"

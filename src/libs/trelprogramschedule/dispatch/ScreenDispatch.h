@@ -2,6 +2,7 @@
 
 #include "trelprogramschedule/dispatch/ScreenInsertion.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
+#include "trelprogramschedule_export.h"
 
 #include <QObject>
 
@@ -22,7 +23,7 @@ struct ProgramIten;
 /// Reached through ScheduleHost::dispatch(); GUI thread only.
 // The destructor is private, for nobody but the service makes or ends the one instance.
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
-class Q_DECL_EXPORT ScreenDispatch : public QObject
+class TRELPROGRAMSCHEDULE_EXPORT ScreenDispatch : public QObject
 {
     Q_OBJECT
 

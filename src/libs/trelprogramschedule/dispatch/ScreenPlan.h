@@ -4,6 +4,7 @@
 #include "trelprogramschedule/dispatch/DaySpans.h"
 #include "trelprogramschedule/dispatch/PlayList.h"
 #include "trelprogramschedule/dispatch/TaskDays.h"
+#include "trelprogramschedule_export.h"
 
 #include <map>
 #include <optional>
@@ -33,7 +34,8 @@ qint64 runsOf(const PlayPlan& plan);
 
 /// The second of the day in which the list of a plan is over before the plan ends, in force at
 /// `end`; nothing where it lasts that long, repeats, or has nothing to play.
-Q_DECL_EXPORT std::optional<int> listOverAt(const PlayPlan& plan, const std::string& end,
-                                            const std::map<int, ProgramIten>& catalogue);
+TRELPROGRAMSCHEDULE_EXPORT std::optional<int>
+listOverAt(const PlayPlan& plan, const std::string& end,
+           const std::map<int, ProgramIten>& catalogue);
 
 } // namespace trel::mediadispatch

@@ -4,6 +4,7 @@
 #include "trelprogramschedule/dispatch/ScreenInsertion.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
 #include "trelprogramschedule/dispatch/SoughtPlay.h"
+#include "trelprogramschedule_export.h"
 
 #include <QTimeZone>
 
@@ -35,7 +36,7 @@ namespace trel::mediadispatch {
 /// Lengths count to the microsecond. Building costs n log n over plans, a question log n over tasks
 /// and plans, and with an insertion on screen also once the length of its list. What a question
 /// finds out about a zone and a weekday is kept for the next, so that two threads need two objects.
-class Q_DECL_EXPORT ScreenTimeline
+class TRELPROGRAMSCHEDULE_EXPORT ScreenTimeline
 {
 public:
     /// Copies what it needs; days and times of day are those of the zone.

@@ -2,6 +2,7 @@
 
 #include "trelprogramschedule/dispatch/LocalTime.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
+#include "trelprogramschedule_export.h"
 
 #include <QTimeZone>
 
@@ -23,7 +24,7 @@ struct WallPiece
 /// The local clock of a time zone, as pieces of even run. A piece is looked up in the zone once and
 /// kept, so that a question costs the logarithm of the pieces met so far. Not to be asked by two
 /// threads at a time.
-class Q_DECL_EXPORT WallTime
+class TRELPROGRAMSCHEDULE_EXPORT WallTime
 {
 public:
     /// A zone that is not valid counts as universal time.

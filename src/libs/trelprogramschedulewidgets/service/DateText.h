@@ -1,5 +1,7 @@
 #pragma once
 
+#include "schedulecontract_export.h"
+
 #include <QDate>
 
 #include <string>
@@ -7,9 +9,9 @@
 namespace trel::mediadispatch {
 
 /// The date that a text in kDateFormat names; an invalid date when it names none.
-QDate dateFromText(const std::string& text);
+SCHEDULECONTRACT_EXPORT QDate dateFromText(const std::string& text);
 
 /// A date in kDateFormat; empty for an invalid date.
-std::string dateToText(const QDate& date);
+SCHEDULECONTRACT_EXPORT std::string dateToText(const QDate& date);
 
 } // namespace trel::mediadispatch

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "schedulecontract_export.h"
 #include "service/PlanTiming.h"
 
 #include <map>
@@ -19,15 +20,15 @@ struct PlanClaim
 /// What each plan of a list claims, in the order of the list. The end of a plan in FrequencyMode is
 /// worked out with plannedEnd; every other plan ends at its endTime. Each program is asked about
 /// once, however many entries name it.
-std::vector<PlanClaim> planClaims(const std::vector<PlayPlan>& plans,
-                                  const std::map<int, ProgramIten>& catalogue,
-                                  const NoDurationTest& hasNoDuration);
+SCHEDULECONTRACT_EXPORT std::vector<PlanClaim>
+planClaims(const std::vector<PlayPlan>& plans, const std::map<int, ProgramIten>& catalogue,
+           const NoDurationTest& hasNoDuration);
 
 /// For each claim, in order, whether it collides with an earlier one.
 ///
 /// Two claims collide when they share a day and either of them ends before it starts, or each
 /// starts before the other ends. Claims that touch do not collide. Times compare as bytes.
 /// Costs n log n over the number of claims and the day numbers that they name.
-std::vector<bool> collidingClaims(const std::vector<PlanClaim>& claims);
+SCHEDULECONTRACT_EXPORT std::vector<bool> collidingClaims(const std::vector<PlanClaim>& claims);
 
 } // namespace trel::mediadispatch

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "schedulecontract_export.h"
 #include "service/ScheduleRecords.h"
 
 #include <string>
@@ -20,16 +21,16 @@ enum class PlanFault {
 
 /// Judges a plan by itself. The end is the one in force, which a plan in FrequencyMode does not
 /// store.
-PlanFault planFault(const PlayPlan& plan, const std::string& end);
+SCHEDULECONTRACT_EXPORT PlanFault planFault(const PlayPlan& plan, const std::string& end);
 
 /// Whether the list of a plan runs a number of times, and not until the plan ends. A mode that is
 /// none counts as FrequencyMode, except that the end stays as it is set.
-bool countsRuns(const PlayPlan& plan);
+SCHEDULECONTRACT_EXPORT bool countsRuns(const PlayPlan& plan);
 
 /// Whether its list is to run less than once, so that there is nothing to be seen of it.
-bool runsLessThanOnce(const PlayPlan& plan);
+SCHEDULECONTRACT_EXPORT bool runsLessThanOnce(const PlayPlan& plan);
 
 /// Whether a `weeks` text stands for any day of the week.
-bool namesAnyDay(const std::string& weeks);
+SCHEDULECONTRACT_EXPORT bool namesAnyDay(const std::string& weeks);
 
 } // namespace trel::mediadispatch

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "schedulecontract_export.h"
 #include "service/ScheduleRecords.h"
 
 #include <QString>
@@ -22,11 +23,12 @@ using ProgramLookup = std::function<ProgramIten(int progIndex)>;
 
 /// The text of one entry: its own name when it has gone bad, the catalogue's otherwise, with the
 /// suffix that applies. An entry from kInvalidProgIndex upward already holds its suffix.
-QString programText(const struProgInfo& entry, const ProgramLookup& lookup,
-                    const ProgramSuffixes& suffixes);
+SCHEDULECONTRACT_EXPORT QString programText(const struProgInfo& entry, const ProgramLookup& lookup,
+                                            const ProgramSuffixes& suffixes);
 
 /// The texts of all entries joined with a comma; empty for an empty list.
-QString programListText(const std::vector<struProgInfo>& entries, const ProgramLookup& lookup,
-                        const ProgramSuffixes& suffixes);
+SCHEDULECONTRACT_EXPORT QString programListText(const std::vector<struProgInfo>& entries,
+                                                const ProgramLookup& lookup,
+                                                const ProgramSuffixes& suffixes);
 
 } // namespace trel::mediadispatch

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "schedulecontract_export.h"
 #include "service/ScheduleRecords.h"
 
 #include <map>
@@ -14,9 +15,11 @@ using TaskOverlap = std::pair<int, int>;
 
 /// The overlap that a walk over all pairs in ascending id order meets first. Periods include both
 /// their days and compare as bytes, so empty dates overlap each other and nothing else.
-std::optional<TaskOverlap> firstTaskOverlap(const std::map<int, PlayTask>& tasks);
+SCHEDULECONTRACT_EXPORT std::optional<TaskOverlap>
+firstTaskOverlap(const std::map<int, PlayTask>& tasks);
 
 /// Every overlap, in the order of that walk.
-std::vector<TaskOverlap> allTaskOverlaps(const std::map<int, PlayTask>& tasks);
+SCHEDULECONTRACT_EXPORT std::vector<TaskOverlap>
+allTaskOverlaps(const std::map<int, PlayTask>& tasks);
 
 } // namespace trel::mediadispatch

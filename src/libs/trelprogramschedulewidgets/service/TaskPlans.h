@@ -1,5 +1,6 @@
 #pragma once
 
+#include "schedulecontract_export.h"
 #include "service/ScheduleRecords.h"
 
 namespace trel::mediadispatch {
@@ -8,15 +9,15 @@ namespace trel::mediadispatch {
 // written elsewhere may hold one twice, so each function says which plan it means.
 
 /// The plan at an index, counted from 0; null when the task has no such plan.
-PlayPlan* planAt(PlayTask& task, int index);
+SCHEDULECONTRACT_EXPORT PlayPlan* planAt(PlayTask& task, int index);
 
 /// The first plan with an id; null when there is none.
-PlayPlan* firstPlanWithId(PlayTask& task, int id);
+SCHEDULECONTRACT_EXPORT PlayPlan* firstPlanWithId(PlayTask& task, int id);
 
 /// The last plan with an id; null when there is none.
-const PlayPlan* lastPlanWithId(const PlayTask& task, int id);
+SCHEDULECONTRACT_EXPORT const PlayPlan* lastPlanWithId(const PlayTask& task, int id);
 
 /// Takes the first plan with an id out of the task; nothing happens when there is none.
-void removeFirstPlanWithId(PlayTask& task, int id);
+SCHEDULECONTRACT_EXPORT void removeFirstPlanWithId(PlayTask& task, int id);
 
 } // namespace trel::mediadispatch

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "schedulecontract_export.h"
+
 #include <QTime>
 
 #include <string>
@@ -8,9 +10,9 @@ namespace trel::mediadispatch {
 
 /// The time of day that a text in kTimeFormat names; an invalid time when it names none. Reads
 /// every text as QTime::fromString does, only faster where the text has the exact format.
-QTime timeFromText(const std::string& text);
+SCHEDULECONTRACT_EXPORT QTime timeFromText(const std::string& text);
 
 /// A time of day in kTimeFormat, without its milliseconds; empty for an invalid time.
-std::string timeToText(const QTime& time);
+SCHEDULECONTRACT_EXPORT std::string timeToText(const QTime& time);
 
 } // namespace trel::mediadispatch

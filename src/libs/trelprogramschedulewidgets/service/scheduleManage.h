@@ -25,7 +25,8 @@ namespace trel::mediadispatch {
 /// No operation reports an error: a lookup of an unknown key returns a usable record. The state
 /// stands behind one private pointer, so that another implementation of this class can be linked
 /// in its place.
-// The destructor is private, for nobody but getInstance() makes or ends the one instance.
+// The destructor is private: getInstance() alone makes the one instance. Exported by the library
+// that implements the class, and not by the one that declares it.
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class Q_DECL_EXPORT scheduleManage : public QObject
 {

@@ -1,0 +1,192 @@
+#include "ScheduleCheck.h"
+
+#include "ScheduleWords.h"
+#include "common/PlanFaultText.h"
+#include "service/DateText.h"
+#include "service/PlanConflicts.h"
+#include "service/TimeText.h"
+#include "text/DisplayText.h"
+
+#include <QDate>
+#include <QTime>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+constexpr int kTaskItself = -1;
+
+/// The first claim before the given one that collides with it.
+int firstCollidingRow(const std::vector<PlanClaim>& claims, std::size_t row)
+{
+    for (std::size_t earlier = 0; earlier < row; ++earlier) {
+        if (collidingClaims({claims[earlier], claims[row]})[1]) {
+            return static_cast<int>(earlier);
+        }
+    }
+    return -1;
+}
+
+/// Whether a `weeks` text is what a card writes: numbers from 0 to 7 with commas between.
+bool isListOfDays(const std::string& weeks)
+{
+    if (weeks.empty()) {
+        return true;
+    }
+    bool isDayNext = true;
+    for (const char c : weeks) {
+        const bool isDay = c >= '0' && c < '0' + WeekDayCount;
+        if (isDayNext ? !isDay : c != ',') {
+            return false;
+        }
+        isDayNext = !isDayNext;
+    }
+    return !isDayNext;
+}
+
+/// Gathers the remarks of one task after the other.
+class Remarks
+{
+public:
+    explicit Remarks(std::vector<ScheduleRemark>& remarks)
+        : m_remarks(remarks)
+    {}
+
+    void lookAt(const PlayTask& task)
+    {
+        m_taskId = task.id;
+        m_row = kTaskItself;
+        const bool hasStart = expectDate(QStringLiteral("startDate"), task.startDate);
+        const bool hasEnd = expectDate(QStringLiteral("endDate"), task.endDate);
+        if (hasStart && hasEnd && task.endDate < task.startDate) {
+            remark(QStringLiteral("endDate"),
+                   QStringLiteral("%1 lies before the start date").arg(shown(task.endDate)));
+        }
+        for (const PlayPlan& plan : task.plans) {
+            ++m_row;
+            expectTime(QStringLiteral("startTime"), plan.startTime);
+            expectTime(QStringLiteral("endTime"), plan.endTime);
+            expectDays(plan);
+            expectMode(plan);
+            expectEndAction(plan);
+        }
+    }
+
+private:
+    static QString shown(const std::string& text) { return quoted(QString::fromStdString(text)); }
+
+    bool expectDate(const QString& field, const std::string& text)
+    {
+        const std::string taken = dateToText(dateFromText(text));
+        return (!text.empty() && taken == text) ||
+               remark(
+                   field,
+                   QStringLiteral("%1 is not a date in the form %2").arg(shown(text), kDateFormat) +
+                       takenText(taken));
+    }
+
+    bool expectTime(const QString& field, const std::string& text)
+    {
+        const std::string taken = timeToText(timeFromText(text));
+        return (!text.empty() && taken == text) ||
+               remark(
+                   field,
+                   QStringLiteral("%1 is not a time in the form %2").arg(shown(text), kTimeFormat) +
+                       takenText(taken));
+    }
+
+    /// Collisions and overlaps compare texts; what is on screen, and the cards, read them.
+    static QString takenText(const std::string& taken)
+    {
+        return taken.empty() ? QString()
+                             : QStringLiteral("; the screen takes it for %1, but what collides is "
+                                              "found by the text as it is")
+                                   .arg(QString::fromStdString(taken));
+    }
+
+    void expectDays(const PlayPlan& plan)
+    {
+        if (!namesAnyDay(plan.weeks)) {
+            remark(QStringLiteral("weeks"), faultText(PlanFault::NoDay, plan));
+        } else if (!isListOfDays(plan.weeks)) {
+            remark(QStringLiteral("weeks"),
+                   QStringLiteral("%1 is not a list of days from 0 to 7; it counts as %2")
+                       .arg(shown(plan.weeks), daysText(plan.weeks)));
+        }
+    }
+
+    void expectMode(const PlayPlan& plan)
+    {
+        if (plan.mode != TimeMode && plan.mode != FrequencyMode) {
+            remark(
+                QStringLiteral("mode"),
+                QStringLiteral("%1 is neither 0 nor 1; the list runs as often as with 1, and the "
+                               "end is the one that is set, as with 0")
+                    .arg(plan.mode));
+        }
+        if (runsLessThanOnce(plan)) {
+            remark(QStringLiteral("times"), faultText(PlanFault::RunsLessThanOnce, plan));
+        }
+    }
+
+    void expectEndAction(const PlayPlan& plan)
+    {
+        if (plan.endAction != BlackScreen && plan.endAction != FreezeCurrentFrame) {
+            remark(QStringLiteral("endAction"),
+                   QStringLiteral("%1 is neither 0 nor 1; the last frame stays, as with 1")
+                       .arg(plan.endAction));
+        }
+    }
+
+    static QString faultText(PlanFault fault, const PlayPlan& plan)
+    {
+        QString text = PlanFaultText::sentence(fault, plan.id, printable(plan.startTime),
+                                               printable(plan.endTime));
+        // Remarks are no sentences of their own.
+        text.chop(1);
+        return text;
+    }
+
+    bool remark(const QString& field, const QString& sentence)
+    {
+        m_remarks.push_back({m_taskId, m_row, field, sentence});
+        return false;
+    }
+
+    std::vector<ScheduleRemark>& m_remarks;
+    int m_taskId = 0;
+    int m_row = kTaskItself;
+};
+
+} // namespace
+
+std::vector<PlanState> planStates(const std::vector<PlayPlan>& plans, const Catalogue& catalogue)
+{
+    const std::vector<PlanClaim> claims =
+        planClaims(plans, catalogue.programs, catalogue.hasNoDuration);
+    const std::vector<bool> colliding = collidingClaims(claims);
+    std::vector<PlanState> states;
+    states.reserve(claims.size());
+    for (std::size_t row = 0; row < claims.size(); ++row) {
+        states.push_back({claims[row].end, colliding[row] ? firstCollidingRow(claims, row) : -1});
+    }
+    return states;
+}
+
+ScheduleCheck checkSchedule(const std::map<int, PlayTask>& tasks, const Catalogue& catalogue)
+{
+    ScheduleCheck check;
+    check.overlaps = allTaskOverlaps(tasks);
+    Remarks remarks(check.remarks);
+    for (const auto& [id, task] : tasks) {
+        const std::vector<PlanState> states = planStates(task.plans, catalogue);
+        for (std::size_t row = 0; row < states.size(); ++row) {
+            if (states[row].collides()) {
+                check.collisions.push_back(
+                    {id, static_cast<int>(row), states[row].collidingRow, states[row].end});
+            }
+        }
+        remarks.lookAt(task);
+    }
+    return check;
+}

@@ -1,0 +1,151 @@
+#include "ScheduleRun.h"
+
+#include "clock/Clock.h"
+#include "schedule/ScheduleReport.h"
+#include "service/scheduleManage.h"
+#include "text/Console.h"
+#include "text/DisplayText.h"
+#include "trelprogramschedule/dispatch/ScreenDispatch.h"
+
+#include <QJsonDocument>
+
+#include <chrono>
+#include <tuple>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+/// How long another program is left alone that is about to commit.
+constexpr std::chrono::milliseconds kCommitPause{50};
+/// How long a file is left alone that cannot be read.
+constexpr std::chrono::seconds kLossPause{2};
+
+/// What a line tells; the position in the program goes on without an event.
+auto toldOf(const ScreenState& state)
+{
+    return std::tie(state.picture, state.reason, state.taskId, state.planId, state.planRow,
+                    state.entry, state.progIndex, state.play, state.run, state.since, state.until,
+                    state.spanUntil);
+}
+
+} // namespace
+
+ScheduleRun::ScheduleRun(const Database& database, bool json, Console& console)
+    : m_database(database)
+    , m_json(json)
+    , m_console(console)
+    , m_watch(database.path())
+{
+    connect(&m_signals, &StopSignals::stopped, &m_loop, &QEventLoop::quit);
+    connect(&m_watch, &StoreWatch::written, this, &ScheduleRun::takeOver);
+    m_nextLook.setSingleShot(true);
+    connect(&m_nextLook, &QTimer::timeout, this, &ScheduleRun::takeOver);
+    connect(&database.host().dispatch(), &ScreenDispatch::changed, this, &ScheduleRun::write);
+}
+
+ExitStatus ScheduleRun::run()
+{
+    if (!m_watch.isWatching()) {
+        m_console.tell(QStringLiteral("The system does not tell of changes of files; what other "
+                                      "programs save will not be taken over."));
+    }
+    m_database.host().watchFiles();
+    // What was saved before the watch began is not missed.
+    m_database.tasks();
+    putIntoEffect();
+    write(m_database.host().dispatch().state());
+    if (m_console.arrives()) {
+        m_loop.exec();
+    }
+    return m_console.arrives() ? Done : Refused;
+}
+
+void ScheduleRun::takeOver()
+{
+    ScheduleHost& host = m_database.host();
+    if (host.isBeingWritten()) {
+        m_nextLook.start(kCommitPause);
+        return;
+    }
+    m_programs.reset();
+    bool isAnother = false;
+    const auto connection =
+        connect(&host, &ScheduleHost::storedSetChanged, this, [&isAnother] { isAnother = true; });
+    StoreResult result = host.reload();
+    if (result && m_watch.renew()) {
+        result = host.reload();
+    }
+    disconnect(connection);
+    if (result) {
+        tellOfReturn();
+    } else {
+        tellOfLoss(result);
+        m_nextLook.start(kLossPause);
+    }
+    if (isAnother) {
+        m_console.tell(QStringLiteral("Another program has saved the schedule; %1 in effect.")
+                           .arg(sizeText(m_database.tasks())));
+        putIntoEffect();
+    }
+}
+
+void ScheduleRun::tellOfLoss(const StoreResult& result)
+{
+    if (result.message != m_loss) {
+        m_console.tell(result.message +
+                       QStringLiteral(" What was read before goes on; the file is tried again "
+                                      "every two seconds."));
+    }
+    m_loss = result.message;
+}
+
+void ScheduleRun::tellOfReturn()
+{
+    if (!m_loss.isEmpty()) {
+        m_console.tell(QStringLiteral("%1 is read again.").arg(printable(m_database.path())));
+    }
+    m_loss.clear();
+}
+
+void ScheduleRun::putIntoEffect()
+{
+    scheduleManage::getInstance().slotOpen();
+}
+
+void ScheduleRun::write(const ScreenState& state)
+{
+    if (m_last && toldOf(*m_last) == toldOf(state)) {
+        return;
+    }
+    if (!m_programs) {
+        m_programs = scheduleManage::getInstance().getPrograms();
+    }
+    const Instant moment = momentOf(state);
+    m_last = state;
+    const LocalClock local(Clock::current().zone());
+    const ScreenWords words({m_database.host().dispatch().tasks(), *m_programs, local});
+    if (m_json) {
+        QJsonObject object = words.json(state);
+        object.insert(QStringLiteral("moment"), words.jsonMoment(moment));
+        object.insert(QStringLiteral("why"), words.reasonText(state));
+        m_console.write(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
+    } else {
+        m_console.writeLine(QStringLiteral("%1  %2 until %3. %4")
+                                .arg(local.text(moment), words.pictureText(state),
+                                     words.untilText(state.until, moment),
+                                     words.reasonText(state)));
+    }
+    if (!m_console.flush()) {
+        m_loop.quit();
+    }
+}
+
+/// The moment of the event itself, where this is told on time, and not the moment of telling.
+Instant ScheduleRun::momentOf(const ScreenState& state) const
+{
+    constexpr Instant onTime = 1000; // milliseconds
+    const Instant now = Clock::current().msecsSinceEpoch();
+    const bool isEvent = m_last && state.since <= now && state.since > now - onTime;
+    return isEvent ? state.since : now;
+}

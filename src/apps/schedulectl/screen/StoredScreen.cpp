@@ -1,0 +1,28 @@
+#include "StoredScreen.h"
+
+#include "clock/Clock.h"
+#include "text/Console.h"
+
+using namespace trel::mediadispatch;
+
+StoredScreen::StoredScreen(const Database& database, const LocalClock& local)
+    : m_tasks(database.tasks())
+    , m_programs(database.programs())
+    , m_timeline(m_tasks, m_programs, local.zone())
+    , m_words({m_tasks, m_programs, local})
+{}
+
+std::optional<Instant> momentOption(const Invocation& invocation, const char* option,
+                                    const LocalClock& local, DateAlone dateAlone, Console& console)
+{
+    const Instant now = Clock::current().msecsSinceEpoch();
+    if (!invocation.has(option)) {
+        return now;
+    }
+    const MomentReading reading =
+        readMoment(invocation.value(option), local, local.shownAt(now).date(), dateAlone);
+    if (!reading.error.isEmpty() || !reading.remark.isEmpty()) {
+        console.tell(reading.instant ? reading.remark : reading.error);
+    }
+    return reading.instant;
+}

@@ -1,0 +1,291 @@
+#include "VerdictReport.h"
+
+#include "catalogue/ProgramReport.h"
+#include "common/PlanFaultText.h"
+#include "schedule/ScheduleWords.h"
+#include "service/DateText.h"
+#include "text/DisplayText.h"
+
+#include <QJsonArray>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+QString ruleName(VerdictRule rule)
+{
+    switch (rule) {
+    case VerdictRule::Plays:
+        return QStringLiteral("plays");
+    case VerdictRule::TaskNotValid:
+        return QStringLiteral("taskNotValid");
+    case VerdictRule::OtherTask:
+        return QStringLiteral("otherTask");
+    case VerdictRule::OtherWeekday:
+        return QStringLiteral("otherWeekday");
+    case VerdictRule::SpanUnreadable:
+        return QStringLiteral("spanUnreadable");
+    case VerdictRule::SpanEmpty:
+        return QStringLiteral("spanEmpty");
+    case VerdictRule::SpanInverted:
+        return QStringLiteral("spanInverted");
+    case VerdictRule::NotYet:
+        return QStringLiteral("notYet");
+    case VerdictRule::Over:
+        return QStringLiteral("over");
+    case VerdictRule::EarlierRow:
+        return QStringLiteral("earlierRow");
+    case VerdictRule::Insertion:
+        return QStringLiteral("insertion");
+    case VerdictRule::EntryInvalid:
+        return QStringLiteral("entryInvalid");
+    case VerdictRule::NotInCatalogue:
+        return QStringLiteral("notInCatalogue");
+    case VerdictRule::FileGone:
+        return QStringLiteral("fileGone");
+    case VerdictRule::NoLength:
+        return QStringLiteral("noLength");
+    case VerdictRule::NoPlays:
+        return QStringLiteral("noPlays");
+    case VerdictRule::NoRuns:
+        return QStringLiteral("noRuns");
+    case VerdictRule::RanOut:
+        return QStringLiteral("ranOut");
+    case VerdictRule::NeverReached:
+        return QStringLiteral("neverReached");
+    case VerdictRule::NotItsTurn:
+        break;
+    }
+    return QStringLiteral("notItsTurn");
+}
+
+/// The sentences about one plan.
+class PlanSentence
+{
+public:
+    PlanSentence(const PlanVerdict& verdict, const VerdictSubject& subject,
+                 const ScreenWords& words)
+        : m_verdict(verdict)
+        , m_screen(subject.verdict.screen)
+        , m_progIndex(subject.progIndex)
+        , m_moment(subject.moment)
+        , m_words(words)
+        , m_task(words.source().tasks.at(verdict.taskId))
+        , m_plan(m_task.plans[static_cast<std::size_t>(verdict.planRow)])
+    {}
+
+    QString text() const
+    {
+        switch (m_verdict.rule) {
+        case VerdictRule::Plays:
+            return QStringLiteral("It plays, as entry %1, until %2.")
+                .arg(QString::number(m_verdict.entry + 1), until(m_screen.until));
+        case VerdictRule::TaskNotValid:
+            return periodSentence();
+        case VerdictRule::OtherTask:
+            return QStringLiteral("Task %1 has the day: it is valid too, and of a lower number.")
+                .arg(m_verdict.otherTaskId);
+        case VerdictRule::OtherWeekday:
+            return namesAnyDay(m_plan.weeks)
+                       ? QStringLiteral("The plan does not run on %1, only on %2.")
+                             .arg(dayText(day().dayOfWeek()), daysText(m_plan.weeks))
+                       : faultText(PlanFault::NoDay);
+        case VerdictRule::SpanUnreadable:
+        case VerdictRule::SpanEmpty:
+        case VerdictRule::SpanInverted:
+            return faultText(planFault(m_plan, m_verdict.end));
+        case VerdictRule::NotYet:
+            return QStringLiteral("The plan's span, %1, is still to come that day.").arg(span());
+        case VerdictRule::Over:
+            return QStringLiteral("The plan's span, %1, is over for the day.").arg(span());
+        case VerdictRule::EarlierRow:
+            return QStringLiteral("An earlier row claims this time too and has the screen: %1.")
+                .arg(otherPlan());
+        case VerdictRule::Insertion:
+            return QStringLiteral("An insertion for %1 has the screen.").arg(otherPlan());
+        default:
+            return entrySentence();
+        }
+    }
+
+private:
+    QString entrySentence() const
+    {
+        const QString entry = QString::number(m_verdict.entry + 1);
+        switch (m_verdict.rule) {
+        case VerdictRule::EntryInvalid:
+            return QStringLiteral("Entry %1 has gone bad.").arg(entry);
+        case VerdictRule::NotInCatalogue:
+            return QStringLiteral("The catalogue does not have the program of entry %1.")
+                .arg(entry);
+        case VerdictRule::FileGone:
+            return QStringLiteral("The file of the program is gone.");
+        case VerdictRule::NoLength:
+            return QStringLiteral("The program takes no time: no length of it is known.");
+        case VerdictRule::NoPlays:
+            return QStringLiteral("Entry %1 is to play less than once.").arg(entry);
+        case VerdictRule::NoRuns:
+            return faultText(PlanFault::RunsLessThanOnce);
+        case VerdictRule::RanOut:
+            return QStringLiteral("The list has run as often as it should, %1, and does not play "
+                                  "any more until %2.")
+                .arg(playsText(m_plan), until(m_screen.spanUntil));
+        case VerdictRule::NeverReached:
+            return QStringLiteral("Entry %1 is never reached: entry %2, %3, has no length of its "
+                                  "own and holds the screen until %4.")
+                .arg(entry, QString::number(m_verdict.otherEntry + 1),
+                     m_words.programName(m_screen.progIndex), until(m_screen.spanUntil));
+        default:
+            return turnSentence();
+        }
+    }
+
+    QString faultText(PlanFault fault) const
+    {
+        return PlanFaultText::sentence(fault, m_verdict.planId, start(), end());
+    }
+
+    QString periodSentence() const
+    {
+        const QDate first = dateFromText(m_task.startDate);
+        const QDate last = dateFromText(m_task.endDate);
+        const auto unreadable = [](const QString& name, const std::string& date) {
+            return QStringLiteral("The task is never valid: its %1 date, %2, is not a date in the "
+                                  "form %3.")
+                .arg(name, quoted(QString::fromStdString(date)), kDateFormat);
+        };
+        if (!first.isValid()) {
+            return unreadable(QStringLiteral("start"), m_task.startDate);
+        }
+        if (!last.isValid()) {
+            return unreadable(QStringLiteral("end"), m_task.endDate);
+        }
+        return last < first ? QStringLiteral("The task is never valid: its end date, %1, lies "
+                                             "before the start date, %2.")
+                                  .arg(printable(m_task.endDate), printable(m_task.startDate))
+                            : QStringLiteral("The task is not valid on %1; its period is %2.")
+                                  .arg(day().toString(Qt::ISODate), periodText(m_task));
+    }
+
+    QString turnSentence() const
+    {
+        const QString playing = QStringLiteral("It is not its turn: entry %1, %2, plays")
+                                    .arg(QString::number(m_verdict.otherEntry + 1),
+                                         m_words.programName(m_screen.progIndex));
+        return m_verdict.nextTurn == kNever
+                   ? QStringLiteral("%1, and it does not come again before %2.")
+                         .arg(playing, until(m_screen.spanUntil))
+                   : QStringLiteral("%1. Its next turn is at %2.")
+                         .arg(playing, until(m_verdict.nextTurn));
+    }
+
+    QDate day() const { return m_words.source().local.shownAt(m_moment).date(); }
+    QString until(Instant moment) const { return m_words.untilText(moment, m_moment); }
+    QString start() const { return printable(m_verdict.start); }
+    QString end() const { return printable(m_verdict.end); }
+    QString span() const { return QStringLiteral("%1 \u2013 %2").arg(start(), end()); }
+    QString otherPlan() const
+    {
+        return ScreenWords::planText(m_verdict.otherTaskId, m_verdict.otherRow,
+                                     m_verdict.otherPlanId);
+    }
+
+    const PlanVerdict& m_verdict;
+    const ScreenState& m_screen;
+    int m_progIndex;
+    Instant m_moment;
+    const ScreenWords& m_words;
+    const PlayTask& m_task;
+    const PlayPlan& m_plan;
+};
+
+QString standingText(const VerdictSubject& subject, const ScreenWords& words)
+{
+    const auto found = words.source().programs.find(subject.progIndex);
+    if (found == words.source().programs.end()) {
+        return QStringLiteral("It is not in the catalogue any more.\n");
+    }
+    return found->second.isNull
+               ? QStringLiteral("Its file is gone: %1\n").arg(programPath(found->second))
+               : QString();
+}
+
+QJsonObject planJson(const PlanVerdict& plan, const VerdictSubject& subject,
+                     const ScreenWords& words)
+{
+    const auto orNull = [](int number) {
+        return number < 0 ? QJsonValue(QJsonValue::Null) : QJsonValue(number);
+    };
+    return {
+        {QStringLiteral("rule"), ruleName(plan.rule)},
+        {QStringLiteral("why"), PlanSentence(plan, subject, words).text()},
+        {QStringLiteral("isInsertion"), plan.isInsertion},
+        {QStringLiteral("task"), plan.taskId},
+        {QStringLiteral("row"), jsonCount(plan.planRow)},
+        {QStringLiteral("plan"), plan.planId},
+        {QStringLiteral("startTime"), QString::fromStdString(plan.start)},
+        {QStringLiteral("endTime"), QString::fromStdString(plan.end)},
+        {QStringLiteral("entry"), jsonCount(plan.entry)},
+        {QStringLiteral("otherTask"), orNull(plan.otherTaskId)},
+        {QStringLiteral("otherRow"), jsonCount(plan.otherRow)},
+        {QStringLiteral("otherPlan"), orNull(plan.otherPlanId)},
+        {QStringLiteral("otherEntry"), jsonCount(plan.otherEntry)},
+        {QStringLiteral("nextTurn"), words.jsonMoment(plan.nextTurn)},
+    };
+}
+
+QJsonObject programJson(const VerdictSubject& subject, const ScreenWords& words)
+{
+    const auto found = words.source().programs.find(subject.progIndex);
+    const bool isKnown = found != words.source().programs.end();
+    return {
+        {QStringLiteral("index"), subject.progIndex},
+        {QStringLiteral("name"), subject.name},
+        {QStringLiteral("isInCatalogue"), isKnown},
+        {QStringLiteral("isGone"), isKnown ? found->second.isNull : true},
+    };
+}
+
+} // namespace
+
+QString verdictText(const VerdictSubject& subject, const ScreenWords& words)
+{
+    const ScreenState& screen = subject.verdict.screen;
+    const bool plays = subject.verdict.plays();
+    QString text = QStringLiteral("Program %1, %2, %3 at %4.\n")
+                       .arg(QString::number(subject.progIndex), printable(subject.name),
+                            plays ? QStringLiteral("plays") : QStringLiteral("does not play"),
+                            words.source().local.text(subject.moment)) +
+                   standingText(subject, words);
+    if (subject.verdict.plans.empty()) {
+        text += QStringLiteral("It is not in any plan.\n");
+    }
+    for (const PlanVerdict& plan : subject.verdict.plans) {
+        text += QStringLiteral("  %1%2: %3\n")
+                    .arg(plan.isInsertion ? QStringLiteral("insertion for ") : QString(),
+                         ScreenWords::planText(plan.taskId, plan.planRow, plan.planId),
+                         PlanSentence(plan, subject, words).text());
+    }
+    return text +
+           QStringLiteral("%1: %2 until %3. %4\n")
+               .arg(plays ? QStringLiteral("On screen") : QStringLiteral("On screen instead"),
+                    words.pictureText(screen), words.untilText(screen.until, subject.moment),
+                    words.reasonText(screen));
+}
+
+QJsonObject verdictJson(const VerdictSubject& subject, const ScreenWords& words)
+{
+    QJsonArray plans;
+    for (const PlanVerdict& plan : subject.verdict.plans) {
+        plans.append(planJson(plan, subject, words));
+    }
+    QJsonObject screen = words.json(subject.verdict.screen);
+    screen.insert(QStringLiteral("why"), words.reasonText(subject.verdict.screen));
+    return {
+        {QStringLiteral("moment"), words.jsonMoment(subject.moment)},
+        {QStringLiteral("program"), programJson(subject, words)},
+        {QStringLiteral("plays"), subject.verdict.plays()},
+        {QStringLiteral("plans"), plans},
+        {QStringLiteral("now"), screen},
+    };
+}

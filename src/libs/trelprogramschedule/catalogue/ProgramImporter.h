@@ -1,0 +1,56 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+#include "trelprogramschedule_export.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <vector>
+
+namespace trel::mediadispatch {
+
+/// Something that can become a program.
+struct MediaSource
+{
+    QString
+        name; ///< As it will be shown: the file's base name, or the address without its password.
+    QString path;            ///< Absolute and clean, or the address of a live source.
+    double durationMs = 0.0; ///< 0 for images and live sources.
+    ProgramKind kind = ProgramKind::Other;
+};
+
+/// A path that could not become a program.
+struct ImportRefusal
+{
+    QString path;
+    QString reason; ///< A sentence for the operator.
+};
+
+/// What a scan found.
+struct ImportScan
+{
+    std::vector<MediaSource> sources; ///< In the order of the paths; folders by name.
+    std::vector<ImportRefusal> refusals;
+    bool cancelled = false; ///< The caller ended it; sources and refusals are incomplete.
+};
+
+/// Called before each file with its place, from 0, the number of files and the path; returning
+/// false ends the scan.
+using ImportProgress = std::function<bool(int done, int total, const QString& path)>;
+
+/// Called while files are still looked for, at every path that was named and at every entry of a
+/// folder, with the number of files found so far; returning false ends the scan.
+using ImportSearch = std::function<bool(int found)>;
+
+/// Looks at files, folders with everything below them, and addresses of live sources, and reads
+/// the lengths of media files. Files in folders that are no media are passed over; a file named
+/// itself that is none is a refusal. Touches no store and may run on any thread.
+///
+/// All files are found before the first is read. A scan that is ended meanwhile has found nothing.
+TRELPROGRAMSCHEDULE_EXPORT ImportScan scanMedia(const QStringList& paths,
+                                                const ImportProgress& progress = {},
+                                                const ImportSearch& search = {});
+
+} // namespace trel::mediadispatch

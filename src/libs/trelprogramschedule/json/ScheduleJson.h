@@ -1,0 +1,37 @@
+#pragma once
+
+#include "service/ScheduleRecords.h"
+#include "trelprogramschedule_export.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <map>
+
+namespace trel::mediadispatch {
+
+/// The JSON form of a schedule: every field of every record, in a documented form
+/// (docs/schedule-json.md), in UTF-8. Writing and reading back gives the same records, texts that
+/// are no UTF-8 included, and the same schedule always gives the same bytes. Each task stands in
+/// the map under its own id; a schedule that breaks this is written so that reading it back names
+/// the task.
+TRELPROGRAMSCHEDULE_EXPORT QByteArray scheduleToJson(const std::map<int, PlayTask>& tasks);
+
+/// A schedule read from JSON, or why it could not be read.
+struct ScheduleFromJson
+{
+    std::map<int, PlayTask> tasks;
+    QString error; ///< Empty on success; otherwise a sentence that names the place, such as
+                   ///< "tasks[2].plans[0].startTime" or a line and column.
+};
+
+/// Reads all of a schedule or nothing: whatever the form does not know is an error, so that nothing
+/// is dropped without a word.
+TRELPROGRAMSCHEDULE_EXPORT ScheduleFromJson scheduleFromJson(const QByteArray& json);
+
+/// Writes the schedule to a file in one step: the file is replaced whole or left as it was.
+/// Returns an empty text, or a sentence that says what went wrong.
+TRELPROGRAMSCHEDULE_EXPORT QString writeScheduleFile(const QString& path,
+                                                     const std::map<int, PlayTask>& tasks);
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,141 @@
+#include "StoreCatalogue.h"
+
+#include "StoreConnection.h"
+#include "StoreMessages.h"
+#include "StoreValues.h"
+#include "catalogue/ProgramImporter.h"
+
+#include <cmath>
+#include <utility>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+/// Indexes stay below this, well away from those that refer to nothing.
+constexpr int kIndexLimit = 65535;
+
+/// A length as it can be stored: what is no number is not known.
+double storedDuration(double durationMs)
+{
+    return std::isfinite(durationMs) ? durationMs : -1.0;
+}
+
+ProgramKind kindOf(const QVariant& number)
+{
+    const int kind = number.toInt();
+    return kind >= 0 && kind <= static_cast<int>(ProgramKind::Other)
+               ? static_cast<ProgramKind>(kind)
+               : ProgramKind::Other;
+}
+
+void takeRow(const QSqlQuery& row, StoreContents& contents)
+{
+    const int index = row.value(0).toInt();
+    if (row.value(5).toBool()) {
+        contents.removedNames.emplace_hint(contents.removedNames.end(), index, utf8(row, 1));
+        return;
+    }
+    ProgramIten program;
+    program.progIndex = index;
+    program.progName = utf8(row, 1);
+    program.mediaPath = utf8(row, 2);
+    program.durationMs = row.value(3).toDouble();
+    program.kind = kindOf(row.value(4));
+    contents.programs.emplace_hint(contents.programs.end(), index, std::move(program));
+}
+
+} // namespace
+
+StoreCatalogue::StoreCatalogue(const StoreConnection& connection, const QString& path)
+    : m_connection(connection)
+    , m_path(path)
+    , m_nextIndex(connection.value(QStringLiteral("SELECT next_prog_index FROM store")).toInt())
+    , m_find(connection.prepare(
+          QStringLiteral("SELECT prog_index FROM program WHERE media_path = ? AND removed = 0")))
+    , m_update(connection.prepare(QStringLiteral(
+          "UPDATE program SET name = ?, duration_ms = ?, kind = ? WHERE prog_index = ?")))
+    , m_insert(connection.prepare(
+          QStringLiteral("INSERT INTO program (prog_index, name, media_path, duration_ms, kind)"
+                         " VALUES (?, ?, ?, ?, ?)")))
+{}
+
+void StoreCatalogue::read(StoreContents& contents) const
+{
+    QSqlQuery row = m_connection.query(
+        QStringLiteral("SELECT prog_index, name, media_path, duration_ms, kind, removed"
+                       " FROM program ORDER BY prog_index"));
+    while (m_connection.next(row)) {
+        takeRow(row, contents);
+    }
+}
+
+void StoreCatalogue::read(const std::vector<int>& indexes, StoreContents& contents) const
+{
+    QSqlQuery row = m_connection.prepare(
+        QStringLiteral("SELECT prog_index, name, media_path, duration_ms, kind, removed"
+                       " FROM program WHERE prog_index = ?"));
+    for (const int index : indexes) {
+        bindFrom(0, row, index);
+        m_connection.exec(row);
+        while (m_connection.next(row)) {
+            takeRow(row, contents);
+        }
+    }
+}
+
+void StoreCatalogue::put(const MediaSource& source, ImportResult& result)
+{
+    const int kind = static_cast<int>(source.kind);
+    const double duration = storedDuration(source.durationMs);
+    bindFrom(0, m_find, present(source.path));
+    m_connection.exec(m_find);
+    if (m_connection.next(m_find)) {
+        const int index = m_find.value(0).toInt();
+        m_find.finish();
+        bindFrom(0, m_update, present(source.name), duration, kind, index);
+        m_connection.exec(m_update);
+        const bool isOfThisImport = !m_done.insert(index).second;
+        if (!isOfThisImport) {
+            result.updated.push_back(index);
+        }
+        return;
+    }
+    const int index = giveOutIndex();
+    bindFrom(0, m_insert, index, present(source.name), present(source.path), duration, kind);
+    m_connection.exec(m_insert);
+    m_done.insert(index);
+    result.added.push_back(index);
+}
+
+int StoreCatalogue::giveOutIndex()
+{
+    if (m_nextIndex >= kIndexLimit) {
+        throw StoreError{refusal(StoreProblem::Full, m_path,
+                                 QStringLiteral("all %1 numbers for programs have been given out")
+                                     .arg(kIndexLimit - 1))};
+    }
+    return m_nextIndex++;
+}
+
+void StoreCatalogue::finish() const
+{
+    m_connection.run(QStringLiteral("UPDATE store SET catalogue_revision = catalogue_revision + 1,"
+                                    " next_prog_index = %1")
+                         .arg(m_nextIndex));
+}
+
+bool StoreCatalogue::remove(const std::vector<int>& progIndexes)
+{
+    QSqlQuery removal = m_connection.prepare(
+        QStringLiteral("UPDATE program SET removed = 1 WHERE prog_index = ? AND removed = 0"));
+    bool isAnyRemoved = false;
+    for (const int index : progIndexes) {
+        bindFrom(0, removal, index);
+        m_connection.exec(removal);
+        isAnyRemoved = removal.numRowsAffected() > 0 || isAnyRemoved;
+    }
+    return isAnyRemoved;
+}
+
+} // namespace trel::mediadispatch

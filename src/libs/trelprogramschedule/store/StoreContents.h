@@ -1,0 +1,30 @@
+#pragma once
+
+#include "TaskSets.h"
+#include "catalogue/ProgramCatalogue.h"
+
+#include <QtGlobal>
+
+#include <map>
+#include <string>
+
+namespace trel::mediadispatch {
+
+/// Which state of the store somebody has read. Every change of the schedule counts the first
+/// number up by one, every change of the catalogue the second.
+struct StoreRevision
+{
+    qint64 schedule = 0;
+    qint64 catalogue = 0;
+};
+
+/// What a store holds.
+struct StoreContents
+{
+    StoreRevision revision;
+    TaskMap tasks;
+    ProgramMap programs;
+    std::map<int, std::string> removedNames; ///< Of programs that were taken out, by index.
+};
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,80 @@
+// Names everything that the installed headers declare for others, so that the linker has to find
+// it.
+
+#include <ProgramSheduleWidgetTranslateManager.h>
+#include <clock/Clock.h>
+#include <scheduleControlUI.h>
+#include <service/DateText.h>
+#include <service/FixedText.h>
+#include <service/InvalidEntries.h>
+#include <service/NewPlan.h>
+#include <service/PlanConflicts.h>
+#include <service/PlanFaults.h>
+#include <service/PlanInsertion.h>
+#include <service/PlanTiming.h>
+#include <service/ProgramOffers.h>
+#include <service/ProgramText.h>
+#include <service/ProgramTotal.h>
+#include <service/TaskPeriods.h>
+#include <service/TaskPlans.h>
+#include <service/TimeText.h>
+#include <service/WeekDays.h>
+#include <service/scheduleManage.h>
+#include <trelprogramschedule/ScheduleHost.h>
+#include <trelprogramschedule/catalogue/ProgramImporter.h>
+#include <trelprogramschedule/catalogue/ShownAddress.h>
+#include <trelprogramschedule/dispatch/ClockChanges.h>
+#include <trelprogramschedule/dispatch/ProgramVerdict.h>
+#include <trelprogramschedule/dispatch/ScreenDispatch.h>
+#include <trelprogramschedule/dispatch/ScreenTimeline.h>
+#include <trelprogramschedule/json/ScheduleJson.h>
+#include <trelprogramschedule/media/PictureRequest.h>
+#include <trelwidgets/ComboBox.h>
+#include <trelwidgets/Dialog.h>
+#include <trelwidgets/TipDialog.h>
+#include <tstranslate/Translator.h>
+
+#include <cstddef>
+#include <iostream>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+/// Of a class the meta-object, which is there only when its library exports the class.
+template <typename Class>
+bool hasMetaObject()
+{
+    return Class::staticMetaObject.className() != nullptr;
+}
+
+template <typename... Functions>
+bool areThere(Functions... functions)
+{
+    return (... && (functions != nullptr));
+}
+
+} // namespace
+
+int main()
+{
+    const bool areClassesThere =
+        hasMetaObject<scheduleControlUI>() && hasMetaObject<scheduleManage>() &&
+        hasMetaObject<ScheduleHost>() && hasMetaObject<ScreenDispatch>() &&
+        hasMetaObject<trel::widgets::ComboBox>() && hasMetaObject<trel::widgets::Dialog>() &&
+        hasMetaObject<trel::widgets::TipDialog>() &&
+        areThere(&ProgramSheduleWidgetTranslateManager::instance, &ProgramVerdict::plays,
+                 &Clock::current, &ClockAlarm::set, &ScreenTimeline::at,
+                 &tessark::trans::Translator::load);
+    const bool areFunctionsThere = areThere(
+        &addDuration, &allTaskOverlaps, &buryInvalidEntry, &clockChanges, &collidingClaims,
+        &completeNewPlan, &containsNoDuration, &countsRuns, &dateFromText, &dateToText, &digitsAt,
+        &exceedsDay, &firstPicture, &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm,
+        &holdsAsInvalid, &insertedPlan, &insertionScope, &isInvalidReadBack, &joinWeeks,
+        &lastPlanWithId, &listFromRow, &namesAnyDay, &nextClockChanges, &nextPlanId,
+        &offeredPrograms, &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate,
+        &programListText, &programText, &programVerdict, &removeFirstPlanWithId, &runsLessThanOnce,
+        &scanMedia, &scheduleFromJson, &scheduleToJson, &shownAddress, &timeFromText, &timeToText,
+        &totalText, &tessark::trans::translate, &weeksOverlap, &writeScheduleFile);
+    std::cout << (areClassesThere && areFunctionsThere ? "All there\n" : "Something is missing\n");
+}
