@@ -131,7 +131,7 @@ void PlainWindow::addPanels()
     QDockWidget* now = addPanel(QStringLiteral("Now and next"), nowNext(), Qt::RightDockWidgetArea);
     QDockWidget* preview = addPanel(QStringLiteral("Preview"), picture, Qt::RightDockWidgetArea);
     QDockWidget* clocks =
-        addPanel(QStringLiteral("Changes of the clocks"), clockChanges(), Qt::BottomDockWidgetArea);
+        addPanel(QStringLiteral("Clock changes"), clockChanges(), Qt::BottomDockWidgetArea);
     QDockWidget* days = hidden(addPanel(QStringLiteral("Week"), week(), Qt::BottomDockWidgetArea));
     tabifyDockWidget(clocks, days);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
@@ -160,7 +160,7 @@ QWidget* PlainWindow::nowNext()
     auto* nextPart = new QWidget(panel);
     auto* rule = new QFrame(nextPart);
     rule->setFrameStyle(static_cast<int>(QFrame::HLine) | static_cast<int>(QFrame::Plain));
-    auto* nextProgram = line("Nothing else comes.", nextPart);
+    auto* nextProgram = line("Nothing else is scheduled.", nextPart);
     QFont bold = font();
     bold.setBold(true);
     nextProgram->setFont(bold);
@@ -202,7 +202,7 @@ QWidget* PlainWindow::clockChanges()
     list->setSelectionMode(QAbstractItemView::NoSelection);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->setFrameShape(QFrame::NoFrame);
-    list->addItem(QStringLiteral("No change of the clocks falls on a day of any task."));
+    list->addItem(QStringLiteral("No clock change falls within the validity of any task."));
     return list;
 }
 

@@ -31,7 +31,7 @@
     <message>
         <source>zhSegConflictStr</source>
         <comment>Widget</comment>
-        <translation>überschneiden sich in ihrer Gültigkeit. Bitte ändern Sie die Daten und versuchen Sie es erneut.</translation>
+        <translation>überschneiden sich in ihrer Gültigkeit. Bitte ändern Sie die Zeiträume und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>zhPlayTaskStr</source>

@@ -31,7 +31,7 @@
     <message>
         <source>zhSegConflictStr</source>
         <comment>Widget</comment>
-        <translation>overlap in their validity. Please change the dates and try again.</translation>
+        <translation>have overlapping validity periods. Change the dates and try again.</translation>
     </message>
     <message>
         <source>zhPlayTaskStr</source>
@@ -211,7 +211,7 @@
     <message>
         <source>szPlanLstStr</source>
         <comment>Widget</comment>
-        <translation>Programs of the plan</translation>
+        <translation>Programs in the plan</translation>
     </message>
     <message>
         <source>zhCheckNumber</source>
@@ -231,12 +231,12 @@
     <message>
         <source>zhTotalDuration</source>
         <comment>Widget</comment>
-        <translation>Total length of the plan: </translation>
+        <translation>Total plan length: </translation>
     </message>
     <message>
         <source>zhOverTimeTips</source>
         <comment>Widget</comment>
-        <translation>The plan is longer than 24 hours. Please shorten it.</translation>
+        <translation>The plan is longer than 24 hours. Shorten it.</translation>
     </message>
     <message>
         <source>zhCutCurrentProg</source>
@@ -261,12 +261,12 @@
     <message>
         <source>zhCutProgWarnning</source>
         <comment>Widget</comment>
-        <translation>The plan's time has passed; nothing can be cut in.</translation>
+        <translation>The plan’s time has passed; nothing can be cut in.</translation>
     </message>
     <message>
         <source>zhMinAct</source>
         <comment>Widget</comment>
-        <translation>Minimise</translation>
+        <translation>Minimize</translation>
     </message>
     <message>
         <source>zhReductionAct</source>
@@ -276,7 +276,7 @@
     <message>
         <source>zhMaxAct</source>
         <comment>Widget</comment>
-        <translation>Maximise</translation>
+        <translation>Maximize</translation>
     </message>
     <message>
         <source>zhCloseAct</source>

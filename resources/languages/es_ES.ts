@@ -121,7 +121,7 @@
     <message>
         <source>zhFreezeCurrentFrame</source>
         <comment>Widget</comment>
-        <translation>Imagen fija</translation>
+        <translation>Congelar</translation>
     </message>
     <message>
         <source>szEveryDayStr</source>
@@ -251,12 +251,12 @@
     <message>
         <source>zhProgMoveUp</source>
         <comment>Widget</comment>
-        <translation>Subir</translation>
+        <translation>Mover hacia arriba</translation>
     </message>
     <message>
         <source>zhProgMoveDown</source>
         <comment>Widget</comment>
-        <translation>Bajar</translation>
+        <translation>Mover hacia abajo</translation>
     </message>
     <message>
         <source>zhCutProgWarnning</source>

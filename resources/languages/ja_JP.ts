@@ -186,7 +186,7 @@
     <message>
         <source>zhStartVaildTimeError</source>
         <comment>Widget</comment>
-        <translation>開始は終了より後にできません。設定し直してください。</translation>
+        <translation>開始を終了より後にすることはできません。設定し直してください。</translation>
     </message>
     <message>
         <source>szDeletePlanConfirmStr</source>

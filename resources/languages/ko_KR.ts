@@ -21,7 +21,7 @@
     <message>
         <source>zhEnable</source>
         <comment>Widget</comment>
-        <translation>적용</translation>
+        <translation>시작</translation>
     </message>
     <message>
         <source>zhNoPlayTask</source>
@@ -241,12 +241,12 @@
     <message>
         <source>zhCutCurrentProg</source>
         <comment>Widget</comment>
-        <translation>즉시 끼워 넣기</translation>
+        <translation>지금 삽입</translation>
     </message>
     <message>
         <source>zhDelayInsert</source>
         <comment>Widget</comment>
-        <translation>나중에 끼워 넣기</translation>
+        <translation>나중에 삽입</translation>
     </message>
     <message>
         <source>zhProgMoveUp</source>
@@ -261,7 +261,7 @@
     <message>
         <source>zhCutProgWarnning</source>
         <comment>Widget</comment>
-        <translation>재생 시간이 지나 프로그램을 끼워 넣을 수 없습니다.</translation>
+        <translation>재생 시간이 지나 프로그램을 삽입할 수 없습니다.</translation>
     </message>
     <message>
         <source>zhMinAct</source>

@@ -251,12 +251,12 @@
     <message>
         <source>zhProgMoveUp</source>
         <comment>Widget</comment>
-        <translation>Выше</translation>
+        <translation>Переместить вверх</translation>
     </message>
     <message>
         <source>zhProgMoveDown</source>
         <comment>Widget</comment>
-        <translation>Ниже</translation>
+        <translation>Переместить вниз</translation>
     </message>
     <message>
         <source>zhCutProgWarnning</source>

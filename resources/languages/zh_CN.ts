@@ -121,7 +121,7 @@
     <message>
         <source>zhFreezeCurrentFrame</source>
         <comment>Widget</comment>
-        <translation>冻结当前帧</translation>
+        <translation>定格画面</translation>
     </message>
     <message>
         <source>szEveryDayStr</source>
@@ -236,7 +236,7 @@
     <message>
         <source>zhOverTimeTips</source>
         <comment>Widget</comment>
-        <translation>当前计划节目总时长已超过24小时，请重新编排</translation>
+        <translation>当前计划节目总时长已超过 24 小时，请重新编排</translation>
     </message>
     <message>
         <source>zhCutCurrentProg</source>

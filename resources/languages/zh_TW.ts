@@ -121,7 +121,7 @@
     <message>
         <source>zhFreezeCurrentFrame</source>
         <comment>Widget</comment>
-        <translation>凍結目前畫面</translation>
+        <translation>定格畫面</translation>
     </message>
     <message>
         <source>szEveryDayStr</source>
@@ -236,7 +236,7 @@
     <message>
         <source>zhOverTimeTips</source>
         <comment>Widget</comment>
-        <translation>目前計畫的節目總長已超過24小時，請重新編排</translation>
+        <translation>目前計畫的節目總長已超過 24 小時，請重新編排</translation>
     </message>
     <message>
         <source>zhCutCurrentProg</source>

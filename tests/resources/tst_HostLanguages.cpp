@@ -1,101 +1,13 @@
+#include "LanguageMessages.h"
 #include "LanguageNames.h"
 
 #include <QDir>
-#include <QFileInfo>
-#include <QMap>
-#include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 #include <algorithm>
 
 namespace {
-
-struct Message
-{
-    QStringList forms; ///< One, or one for each form of the plural.
-    bool isPlural = false;
-    bool isFinished = false;
-};
-
-/// By context and source text.
-using Messages = QMap<QString, Message>;
-
-Message readTranslation(QXmlStreamReader& xml)
-{
-    Message message;
-    message.isFinished = !xml.attributes().hasAttribute(QStringLiteral("type"));
-    QString text;
-    while (!xml.atEnd() && !(xml.readNext() == QXmlStreamReader::EndElement &&
-                             xml.name() == QLatin1String("translation"))) {
-        if (xml.isStartElement() && xml.name() == QLatin1String("numerusform")) {
-            message.forms.append(xml.readElementText());
-        } else if (xml.isCharacters()) {
-            text += xml.text();
-        }
-    }
-    if (message.forms.isEmpty()) {
-        message.forms.append(text);
-    }
-    return message;
-}
-
-Messages readMessages(const QString& file)
-{
-    QFile source(file);
-    if (!source.open(QIODevice::ReadOnly)) {
-        qFatal("cannot read %s", qPrintable(file));
-    }
-    Messages messages;
-    QString context;
-    QString text;
-    bool isPlural = false;
-    QXmlStreamReader xml(&source);
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement) {
-            continue;
-        }
-        if (xml.name() == QLatin1String("name")) {
-            context = xml.readElementText();
-        } else if (xml.name() == QLatin1String("message")) {
-            isPlural = xml.attributes().hasAttribute(QStringLiteral("numerus"));
-        } else if (xml.name() == QLatin1String("source")) {
-            text = xml.readElementText();
-        } else if (xml.name() == QLatin1String("translation")) {
-            Message message = readTranslation(xml);
-            message.isPlural = isPlural;
-            messages.insert(context + QLatin1String(": ") + text, message);
-        }
-    }
-    return messages;
-}
-
-Messages readLanguage(const QString& language)
-{
-    return readMessages(
-        QStringLiteral(LANGUAGE_SOURCE_DIR "/host/schedule-editor_%1.ts").arg(language));
-}
-
-/// What stands in the host's code, and in the one that it shares with the console.
-const Messages& messagesOfTheCode()
-{
-    static const Messages messages = [] {
-        const QTemporaryDir folder;
-        const QString file = folder.filePath(QStringLiteral("host.ts"));
-        QProcess process;
-        process.start(QStringLiteral(LUPDATE),
-                      {QStringLiteral("-silent"), QStringLiteral("-locations"),
-                       QStringLiteral("none"), QStringLiteral(HOST_SOURCE_DIR),
-                       QStringLiteral(COMMON_SOURCE_DIR), QStringLiteral("-ts"), file});
-        if (!process.waitForFinished() || process.exitCode() != 0) {
-            qFatal("lupdate failed");
-        }
-        return readMessages(file);
-    }();
-    return messages;
-}
 
 int pluralForms(const QString& language)
 {
@@ -174,13 +86,14 @@ void tst_HostLanguages::everyLanguageOfTheEditorHasAFile()
 void tst_HostLanguages::everyTextOfTheCodeIsTranslated()
 {
     QFETCH(QString, language);
-    QCOMPARE(QStringList(readLanguage(language).keys()), QStringList(messagesOfTheCode().keys()));
+    QCOMPARE(QStringList(readHostLanguage(language).keys()),
+             QStringList(messagesOfTheCode().keys()));
 }
 
 void tst_HostLanguages::textsAreFinished()
 {
     QFETCH(QString, language);
-    const Messages messages = readLanguage(language);
+    const Messages messages = readHostLanguage(language);
     for (auto message = messages.begin(); message != messages.end(); ++message) {
         QVERIFY2(message->isFinished, qPrintable(message.key()));
         for (const QString& form : message->forms) {
@@ -192,7 +105,7 @@ void tst_HostLanguages::textsAreFinished()
 void tst_HostLanguages::pluralsHaveTheFormsOfTheLanguage()
 {
     QFETCH(QString, language);
-    const Messages messages = readLanguage(language);
+    const Messages messages = readHostLanguage(language);
     for (auto message = messages.begin(); message != messages.end(); ++message) {
         const bool isPlural = messagesOfTheCode().value(message.key()).isPlural;
         QCOMPARE(message->isPlural, isPlural);
@@ -203,7 +116,7 @@ void tst_HostLanguages::pluralsHaveTheFormsOfTheLanguage()
 void tst_HostLanguages::placeMarkersAreKept()
 {
     QFETCH(QString, language);
-    const Messages messages = readLanguage(language);
+    const Messages messages = readHostLanguage(language);
     for (auto message = messages.begin(); message != messages.end(); ++message) {
         const QStringList expected = placeMarkers(message.key());
         for (int i = 0; i < message->forms.size(); ++i) {
@@ -219,7 +132,7 @@ void tst_HostLanguages::placeMarkersAreKept()
 void tst_HostLanguages::menusKeepTheirLetters()
 {
     QFETCH(QString, language);
-    const Messages messages = readLanguage(language);
+    const Messages messages = readHostLanguage(language);
     for (auto message = messages.begin(); message != messages.end(); ++message) {
         QVERIFY2(mnemonic(message->forms.first()).isEmpty() == mnemonic(message.key()).isEmpty(),
                  qPrintable(message->forms.first()));
@@ -235,7 +148,7 @@ void tst_HostLanguages::englishHoldsThePlurals()
             plurals.append(message.key());
         }
     }
-    QCOMPARE(QStringList(readLanguage(QStringLiteral("en_US")).keys()), plurals);
+    QCOMPARE(QStringList(readHostLanguage(QStringLiteral("en_US")).keys()), plurals);
 }
 
 QTEST_GUILESS_MAIN(tst_HostLanguages)

@@ -260,10 +260,10 @@ void TestLanguages::composedTextsReadWell_data()
                                 << QString::fromUtf8(overlap);
     };
     row("de_DE", "Auftrag 3    ", "Gültig von", "  Plan 1:",
-        "Auftrag 1,Auftrag 9 überschneiden sich in ihrer Gültigkeit. Bitte ändern Sie die Daten "
-        "und versuchen Sie es erneut.");
+        "Auftrag 1,Auftrag 9 überschneiden sich in ihrer Gültigkeit. Bitte ändern Sie die "
+        "Zeiträume und versuchen Sie es erneut.");
     row("en_US", "Play task 3    ", "Valid from", "  Plan 1:",
-        "Play task 1,Play task 9 overlap in their validity. Please change the dates and try "
+        "Play task 1,Play task 9 have overlapping validity periods. Change the dates and try "
         "again.");
     row("es_ES", "Tarea 3    ", "Validez: de", "  Plan 1:",
         "Tarea 1,Tarea 9 tienen periodos de validez que se solapan. Cambie las fechas y vuelva a "

@@ -5,11 +5,11 @@
     <name>Demonstration</name>
     <message>
         <source>The demonstration could not be read: %1: %2</source>
-        <translation>Die Demonstration konnte nicht gelesen werden: %1: %2</translation>
+        <translation>Die Demo konnte nicht gelesen werden: %1: %2</translation>
     </message>
     <message>
-        <source>The demonstration&apos;s media could not be copied beside the database.</source>
-        <translation>Die Medien der Demonstration konnten nicht neben die Datenbank kopiert werden.</translation>
+        <source>The demonstration media could not be copied to the database folder.</source>
+        <translation>Die Medien der Demo konnten nicht in den Ordner der Datenbank kopiert werden.</translation>
     </message>
 </context>
 <context>
@@ -28,11 +28,11 @@
     </message>
     <message>
         <source>&amp;Read schedule from a file…</source>
-        <translation>Wiedergabeplan aus Datei &amp;lesen…</translation>
+        <translation>Wiedergabeplan aus Datei &amp;laden…</translation>
     </message>
     <message>
         <source>&amp;Write schedule to a file…</source>
-        <translation>Wiedergabeplan in Datei &amp;schreiben…</translation>
+        <translation>Wiedergabeplan in Datei &amp;speichern…</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -63,7 +63,7 @@
         <translation>&amp;Ordner importieren…</translation>
     </message>
     <message>
-        <source>&amp;Remove from catalogue</source>
+        <source>&amp;Remove from catalog</source>
         <translation>Aus dem &amp;Katalog entfernen</translation>
     </message>
     <message>
@@ -78,12 +78,20 @@
         <translation>Jetzt und danach</translation>
     </message>
     <message>
-        <source>Changes of the clocks</source>
+        <source>Clock changes</source>
         <translation>Zeitumstellungen</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose Import.</source>
-        <translation>Noch keine Programme. Ziehen Sie Mediendateien oder Ordner hierher oder wählen Sie „Importieren“.</translation>
+        <source>&amp;Now and next</source>
+        <translation>&amp;Jetzt und danach</translation>
+    </message>
+    <message>
+        <source>&amp;Clock changes</source>
+        <translation>&amp;Zeitumstellungen</translation>
+    </message>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>Noch keine Programme. Ziehen Sie Mediendateien oder Ordner hierher oder wählen Sie „Dateien importieren“.</translation>
     </message>
     <message>
         <source>Schedule editor</source>
@@ -111,7 +119,7 @@
     </message>
     <message>
         <source>Write the schedule to a file</source>
-        <translation>Wiedergabeplan in eine Datei schreiben</translation>
+        <translation>Wiedergabeplan in einer Datei speichern</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
@@ -119,18 +127,18 @@
     </message>
     <message>
         <source>Written to %1.</source>
-        <translation>In %1 geschrieben.</translation>
+        <translation>In %1 gespeichert.</translation>
     </message>
     <message>
         <source>Read a schedule from a file</source>
-        <translation>Wiedergabeplan aus einer Datei lesen</translation>
+        <translation>Wiedergabeplan aus einer Datei laden</translation>
     </message>
     <message>
         <source>%1 could not be read: %2</source>
         <translation>%1 konnte nicht gelesen werden: %2</translation>
     </message>
     <message numerus="yes">
-        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
             <numerusform>Diese Datei enthält %n Auftrag. Den gesamten Wiedergabeplan dadurch ersetzen?</numerusform>
             <numerusform>Diese Datei enthält %n Aufträge. Den gesamten Wiedergabeplan dadurch ersetzen?</numerusform>
@@ -145,7 +153,7 @@
         <translation>Abbrechen</translation>
     </message>
     <message numerus="yes">
-        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
             <numerusform>Dieses Programm aus dem Katalog entfernen? Pläne, die es verwenden, zeigen ihre Einträge dann als ungültig an. Die Datei bleibt erhalten.</numerusform>
             <numerusform>%n Programme aus dem Katalog entfernen? Pläne, die sie verwenden, zeigen ihre Einträge dann als ungültig an. Die Dateien bleiben erhalten.</numerusform>
@@ -164,12 +172,17 @@
         <translation>Dateien werden gesucht: %1 gefunden</translation>
     </message>
     <message>
-        <source>The import was cancelled; nothing was taken in.</source>
+        <source>The import was canceled; nothing was imported.</source>
         <translation>Der Import wurde abgebrochen; es wurde nichts übernommen.</translation>
     </message>
     <message>
         <source>Imported: %1 new, %2 updated.</source>
         <translation>Importiert: %1 neu, %2 aktualisiert.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file and reason</comment>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more.</source>
@@ -195,7 +208,7 @@
         <translation>Verwerfen</translation>
     </message>
     <message>
-        <source>Stay</source>
+        <source>Keep editing</source>
         <translation>Weiter bearbeiten</translation>
     </message>
 </context>
@@ -229,7 +242,7 @@
         <translation>Sonstiges</translation>
     </message>
     <message>
-        <source>The file has gone: %1</source>
+        <source>File not found: %1</source>
         <translation>Die Datei ist nicht mehr vorhanden: %1</translation>
     </message>
     <message>
@@ -246,7 +259,7 @@
     </message>
     <message>
         <source>Length</source>
-        <translation>Länge</translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>File</source>
@@ -258,7 +271,7 @@
     <message>
         <source>The schedule was not saved. %1
 
-What shall become of your changes?</source>
+What do you want to do with your changes?</source>
         <translation>Der Wiedergabeplan wurde nicht gespeichert. %1
 
 Was soll mit Ihren Änderungen geschehen?</translation>
@@ -269,15 +282,15 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     </message>
     <message>
         <source>Write to a file</source>
-        <translation>In Datei schreiben</translation>
+        <translation>In Datei speichern</translation>
     </message>
     <message>
-        <source>Give up</source>
+        <source>Discard changes</source>
         <translation>Verwerfen</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
-        <translation>Wiedergabeplan in eine Datei schreiben</translation>
+        <translation>Wiedergabeplan in einer Datei speichern</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
@@ -287,56 +300,52 @@ Was soll mit Ihren Änderungen geschehen?</translation>
 <context>
     <name>ClockChangePanel</name>
     <message>
-        <source>Changes of the clocks</source>
+        <source>Clock changes</source>
         <translation>Zeitumstellungen</translation>
     </message>
     <message>
-        <source>No change of the clocks falls on a day of any task.</source>
-        <translation>Auf keinen Tag eines Auftrags fällt eine Zeitumstellung.</translation>
+        <source>No clock change falls within the validity of any task.</source>
+        <translation>In den Gültigkeitszeitraum der Aufträge fällt keine Zeitumstellung.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 is left out;</source>
-        <translation>%1: %2–%3 entfällt;</translation>
+        <source>%1: %2–%3 is skipped; no plan of task %4 is affected.</source>
+        <translation>%1: %2–%3 entfällt; kein Plan von Auftrag %4 ist betroffen.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 comes twice;</source>
-        <translation>%1: %2–%3 kommt zweimal;</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
+        <translation>%1: %2–%3 entfällt; Plan %4 von Auftrag %5 läuft nicht.</translation>
     </message>
     <message>
-        <source>it touches no plan of task %1.</source>
-        <translation>kein Plan von Auftrag %1 ist betroffen.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 starts at %6 in the middle of its list.</source>
+        <translation>%1: %2–%3 entfällt; Plan %4 von Auftrag %5 beginnt um %6 mitten in seiner Liste.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 does not play.</source>
-        <translation>Plan %1 von Auftrag %2 läuft nicht.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 is cut off at %6.</source>
+        <translation>%1: %2–%3 entfällt; Plan %4 von Auftrag %5 bricht um %6 ab.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
-        <translation>Plan %1 von Auftrag %2 beginnt um %3 mitten in seiner Liste.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
+        <translation>%1: %2–%3 entfällt; Plan %4 von Auftrag %5 überspringt diesen Teil seiner Liste.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 is cut off at %3.</source>
-        <translation>Plan %1 von Auftrag %2 bricht um %3 ab.</translation>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1: %2–%3 gibt es zweimal; kein Plan von Auftrag %4 ist betroffen.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 skips this part of its list.</source>
-        <translation>Plan %1 von Auftrag %2 überspringt diesen Teil seiner Liste.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
+        <translation>%1: %2–%3 gibt es zweimal; Plan %4 von Auftrag %5 läuft zweimal.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 plays twice.</source>
-        <translation>Plan %1 von Auftrag %2 läuft zweimal.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 starts twice at %6.</source>
+        <translation>%1: %2–%3 gibt es zweimal; Plan %4 von Auftrag %5 beginnt zweimal um %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts twice at %3.</source>
-        <translation>Plan %1 von Auftrag %2 beginnt zweimal um %3.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 ends twice at %6.</source>
+        <translation>%1: %2–%3 gibt es zweimal; Plan %4 von Auftrag %5 endet zweimal um %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 ends twice at %3.</source>
-        <translation>Plan %1 von Auftrag %2 endet zweimal um %3.</translation>
-    </message>
-    <message>
-        <source>plan %1 of task %2 repeats this part of its list.</source>
-        <translation>Plan %1 von Auftrag %2 wiederholt diesen Teil seiner Liste.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 repeats this part of its list.</source>
+        <translation>%1: %2–%3 gibt es zweimal; Plan %4 von Auftrag %5 wiederholt diesen Teil seiner Liste.</translation>
     </message>
 </context>
 <context>
@@ -346,7 +355,11 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Vorschau</translation>
     </message>
     <message>
-        <source>&amp;Full screen preview</source>
+        <source>&amp;Preview</source>
+        <translation>Vo&amp;rschau</translation>
+    </message>
+    <message>
+        <source>&amp;Full-screen preview</source>
         <translation>&amp;Vollbildvorschau</translation>
     </message>
 </context>
@@ -369,7 +382,7 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     </message>
     <message>
         <source>Cut in</source>
-        <translation>Eingefügt</translation>
+        <translation>Eingespielt</translation>
     </message>
     <message>
         <source>Now and next</source>
@@ -377,7 +390,7 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     </message>
     <message>
         <source>What the screen shows</source>
-        <translation>Was der Bildschirm zeigt</translation>
+        <translation>Inhalt des Bildschirms</translation>
     </message>
     <message>
         <source>Program on screen</source>
@@ -385,15 +398,15 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     </message>
     <message>
         <source>Position in the program</source>
-        <translation>Stelle im Programm</translation>
+        <translation>Position im Programm</translation>
     </message>
     <message>
         <source>Why this is on screen</source>
-        <translation>Warum das zu sehen ist</translation>
+        <translation>Grund der Anzeige</translation>
     </message>
     <message>
-        <source>Program that comes next</source>
-        <translation>Programm, das danach kommt</translation>
+        <source>Next program</source>
+        <translation>Nächstes Programm</translation>
     </message>
     <message>
         <source>Not started</source>
@@ -412,8 +425,8 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>%1, bis %2, noch %3</translation>
     </message>
     <message>
-        <source>Nothing else comes.</source>
-        <translation>Es kommt nichts weiter.</translation>
+        <source>Nothing else is scheduled.</source>
+        <translation>Danach kommt nichts mehr.</translation>
     </message>
     <message>
         <source>at %1, in %2</source>
@@ -444,7 +457,7 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     </message>
     <message>
         <source>Black screen</source>
-        <translation>Schwarzer Bildschirm</translation>
+        <translation>Schwarzbild</translation>
     </message>
     <message>
         <source>Entry %1 of %2, play %3 of %4</source>
@@ -455,81 +468,91 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Auftrag %1, Plan %2</translation>
     </message>
     <message>
-        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
-        <translation>Der Startknopf im Wiedergabeplan-Editor setzt den gespeicherten Plan in Kraft.</translation>
+        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
+        <translation>Die Schaltfläche „Starten“ im Wiedergabeplan-Editor setzt den gespeicherten Wiedergabeplan in Kraft.</translation>
     </message>
     <message>
-        <source>No plan has had the screen up to now.</source>
-        <translation>Bisher hatte kein Plan den Bildschirm.</translation>
+        <source>No plan has started yet.</source>
+        <translation>Bisher hat noch kein Plan begonnen.</translation>
     </message>
     <message>
-        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <source>Plan %1 of task %2 is the first of the plans for this time.</source>
         <translation>Von den Plänen für diese Uhrzeit kommt Plan %1 von Auftrag %2 zuerst.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
-        <translation>Plan %1 von Auftrag %2 hat den Bildschirm, aber keines seiner Programme kann laufen.</translation>
+        <source>Plan %1 of task %2 is due, but none of its programs can play.</source>
+        <translation>Plan %1 von Auftrag %2 ist an der Reihe, aber keines seiner Programme lässt sich abspielen.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
-        <translation>Plan %1 von Auftrag %2 hat den Bildschirm, aber seine Liste soll weniger als einmal laufen.</translation>
+        <source>Plan %1 of task %2 is due, but its list is to run less than once.</source>
+        <translation>Plan %1 von Auftrag %2 ist an der Reihe, aber seine Liste soll weniger als einmal laufen.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has played its list as often as it should.</source>
-        <translation>Plan %1 von Auftrag %2 hat seine Liste so oft gespielt, wie er soll.</translation>
+        <source>Plan %1 of task %2 has played its list the set number of times.</source>
+        <translation>Plan %1 von Auftrag %2 hat seine Liste so oft wie vorgesehen abgespielt.</translation>
     </message>
     <message>
         <source>Plan %1 of task %2 is over, and no other has begun.</source>
         <translation>Plan %1 von Auftrag %2 ist zu Ende, und kein anderer hat begonnen.</translation>
     </message>
     <message>
-        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
-        <translation>Von Hand eingefügt, anstelle von Plan %1 von Auftrag %2.</translation>
+        <source>Cut in manually in place of plan %1 of task %2.</source>
+        <translation>Manuell eingespielt anstelle von Plan %1 von Auftrag %2.</translation>
     </message>
     <message>
-        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
-        <translation>Das anstelle von Plan %1 von Auftrag %2 Eingefügte hat nichts mehr zu spielen.</translation>
+        <source>What was cut in for plan %1 of task %2 has nothing left to play.</source>
+        <translation>Die Einspielung anstelle von Plan %1 von Auftrag %2 hat nichts mehr abzuspielen.</translation>
     </message>
     <message>
         <source>Cut in: %1</source>
-        <translation>Eingefügt: %1</translation>
+        <translation>Eingespielt: %1</translation>
     </message>
     <message>
-        <source>Before: %1</source>
+        <source>Original list: %1</source>
         <translation>Vorher: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between programs</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>Week</name>
     <message>
-        <source>On screen: %1, %2 into it</source>
-        <translation>Auf dem Bildschirm: %1, Stelle %2</translation>
+        <source>On screen: %1, at %2</source>
+        <translation>Auf dem Bildschirm: %1, bei %2</translation>
     </message>
     <message>
         <source>On screen: %1</source>
         <translation>Auf dem Bildschirm: %1</translation>
     </message>
     <message>
-        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <source>%1, %2</source>
+        <comment>day and time of day</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is skipped: the clocks go forward.</source>
         <translation>%1 bis %2 entfällt: Die Uhren werden vorgestellt.</translation>
     </message>
     <message>
-        <source>%1 to %2 comes twice: the clocks go back.</source>
-        <translation>%1 bis %2 kommt zweimal: Die Uhren werden zurückgestellt.</translation>
+        <source>%1 to %2 occurs twice: the clocks go back.</source>
+        <translation>%1 bis %2 gibt es zweimal: Die Uhren werden zurückgestellt.</translation>
     </message>
     <message numerus="yes">
-        <source>%n more plans are kept from the screen.</source>
+        <source>%n more plans do not reach the screen.</source>
         <translation>
             <numerusform>%n weiterer Plan kommt nicht auf den Bildschirm.</numerusform>
             <numerusform>%n weitere Pläne kommen nicht auf den Bildschirm.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Plan %1 stands above it and has the screen instead.</source>
-        <translation>Plan %1 steht darüber und hat stattdessen den Bildschirm.</translation>
+        <source>Plan %1, above it, takes precedence.</source>
+        <translation>Plan %1 steht darüber und hat Vorrang.</translation>
     </message>
     <message>
-        <source>It collides with a plan above it.</source>
+        <source>It conflicts with a plan above it.</source>
         <translation>Er überschneidet sich mit einem Plan darüber.</translation>
     </message>
     <message>
@@ -539,6 +562,11 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>Plan %1, %2 to %3</source>
         <translation>Plan %1, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>plan and its programs</comment>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>No task is valid on this day.</source>
@@ -562,15 +590,15 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     </message>
     <message>
         <source>Cut in: %1</source>
-        <translation>Eingefügt: %1</translation>
+        <translation>Eingespielt: %1</translation>
     </message>
     <message>
-        <source>Left out: clocks go forward</source>
-        <translation>Entfällt: Uhren werden vorgestellt</translation>
+        <source>Skipped</source>
+        <translation>Entfällt</translation>
     </message>
     <message>
-        <source>Comes twice: clocks go back</source>
-        <translation>Kommt zweimal: Uhren zurück</translation>
+        <source>Repeated</source>
+        <translation>Doppelt</translation>
     </message>
     <message>
         <source>nothing to show</source>
@@ -582,6 +610,10 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>Week</source>
         <translation>Woche</translation>
+    </message>
+    <message>
+        <source>&amp;Week</source>
+        <translation>&amp;Woche</translation>
     </message>
 </context>
 <context>
@@ -603,31 +635,31 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     </message>
     <message>
         <source>As edited</source>
-        <translation>Wie bearbeitet</translation>
+        <translation>Entwurf</translation>
     </message>
     <message>
         <source>In effect</source>
         <translation>In Kraft</translation>
     </message>
     <message>
-        <source>Week before</source>
-        <translation>Woche davor</translation>
+        <source>Previous week</source>
+        <translation>Vorherige Woche</translation>
     </message>
     <message>
-        <source>Week after</source>
-        <translation>Woche danach</translation>
+        <source>Next week</source>
+        <translation>Folgende Woche</translation>
     </message>
     <message>
-        <source>Hours less high</source>
-        <translation>Stunden niedriger</translation>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
     </message>
     <message>
-        <source>Hours higher</source>
-        <translation>Stunden höher</translation>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
     </message>
     <message>
-        <source>Which schedule is shown</source>
-        <translation>Welcher Plan gezeigt wird</translation>
+        <source>Schedule shown</source>
+        <translation>Angezeigter Wiedergabeplan</translation>
     </message>
 </context>
 <context>
@@ -653,12 +685,12 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Plan %1 läuft nie: Seine Liste soll weniger als einmal laufen.</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>Plan %1 läuft nie: Er endet, wie er beginnt, um %2.</translation>
+        <source>Plan %1 never plays: it starts and ends at %2.</source>
+        <translation>Plan %1 läuft nie: Beginn und Ende sind gleich (%2).</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>Plan %1 läuft nie: Er beginnt um %2 und endet davor, um %3.</translation>
+        <source>Plan %1 never plays: it ends at %3, before it starts at %2.</source>
+        <translation>Plan %1 läuft nie: Sein Ende (%3) liegt vor seinem Beginn (%2).</translation>
     </message>
 </context>
 <context>
@@ -666,6 +698,25 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
         <translation>Das System kennt keine Zeitzone mit dem Namen „%1“, daher ist die Ortszeit nicht bekannt.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::widgets::TitleButton</name>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximieren</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 </TS>

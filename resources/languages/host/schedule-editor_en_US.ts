@@ -4,17 +4,17 @@
 <context>
     <name>EditorWindow</name>
     <message numerus="yes">
-        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
-            <numerusform>Replace the whole schedule by the %n task of this file?</numerusform>
-            <numerusform>Replace the whole schedule by the %n tasks of this file?</numerusform>
+            <numerusform>Replace the whole schedule with the %n task in this file?</numerusform>
+            <numerusform>Replace the whole schedule with the %n tasks in this file?</numerusform>
         </translation>
     </message>
     <message numerus="yes">
-        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
-            <numerusform>Remove the program from the catalogue? Plans that use it will show its entries as invalid. The file stays.</numerusform>
-            <numerusform>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</numerusform>
+            <numerusform>Remove this program from the catalog? Plans that use it will show its entries as invalid. The file is not deleted.</numerusform>
+            <numerusform>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -28,10 +28,10 @@
 <context>
     <name>Week</name>
     <message numerus="yes">
-        <source>%n more plans are kept from the screen.</source>
+        <source>%n more plans do not reach the screen.</source>
         <translation>
-            <numerusform>%n more plan is kept from the screen.</numerusform>
-            <numerusform>%n more plans are kept from the screen.</numerusform>
+            <numerusform>%n more plan does not reach the screen.</numerusform>
+            <numerusform>%n more plans do not reach the screen.</numerusform>
         </translation>
     </message>
 </context>

@@ -8,8 +8,8 @@
         <translation>No se ha podido leer la demostración: %1: %2</translation>
     </message>
     <message>
-        <source>The demonstration&apos;s media could not be copied beside the database.</source>
-        <translation>No se han podido copiar los archivos multimedia de la demostración junto a la base de datos.</translation>
+        <source>The demonstration media could not be copied to the database folder.</source>
+        <translation>No se han podido copiar los archivos multimedia de la demostración en la carpeta de la base de datos.</translation>
     </message>
 </context>
 <context>
@@ -63,7 +63,7 @@
         <translation>Importar &amp;carpeta…</translation>
     </message>
     <message>
-        <source>&amp;Remove from catalogue</source>
+        <source>&amp;Remove from catalog</source>
         <translation>&amp;Quitar del catálogo</translation>
     </message>
     <message>
@@ -75,19 +75,27 @@
     <name>EditorWindow</name>
     <message>
         <source>Now and next</source>
-        <translation>Ahora y después</translation>
+        <translation>Ahora y a continuación</translation>
     </message>
     <message>
-        <source>Changes of the clocks</source>
+        <source>Clock changes</source>
         <translation>Cambios de hora</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose Import.</source>
-        <translation>Aún no hay programas. Arrastre aquí archivos multimedia o carpetas, o elija «Importar».</translation>
+        <source>&amp;Now and next</source>
+        <translation>&amp;Ahora y a continuación</translation>
+    </message>
+    <message>
+        <source>&amp;Clock changes</source>
+        <translation>Cambios de &amp;hora</translation>
+    </message>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>Aún no hay programas. Arrastre aquí archivos multimedia o carpetas, o elija «Importar archivos».</translation>
     </message>
     <message>
         <source>Schedule editor</source>
-        <translation>Editor de programación</translation>
+        <translation>Editor de la programación</translation>
     </message>
     <message>
         <source>%1 – Schedule editor</source>
@@ -130,7 +138,7 @@
         <translation>No se ha podido leer %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
             <numerusform>Este archivo contiene %n tarea. ¿Sustituir toda la programación?</numerusform>
             <numerusform>Este archivo contiene %n tareas. ¿Sustituir toda la programación?</numerusform>
@@ -145,7 +153,7 @@
         <translation>Cancelar</translation>
     </message>
     <message numerus="yes">
-        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
             <numerusform>¿Quitar este programa del catálogo? Los planes que lo usan mostrarán sus entradas como no válidas. El archivo se conserva.</numerusform>
             <numerusform>¿Quitar %n programas del catálogo? Los planes que los usan mostrarán sus entradas como no válidas. Los archivos se conservan.</numerusform>
@@ -164,12 +172,17 @@
         <translation>Buscando archivos: %1 encontrados</translation>
     </message>
     <message>
-        <source>The import was cancelled; nothing was taken in.</source>
+        <source>The import was canceled; nothing was imported.</source>
         <translation>Se ha cancelado la importación; no se ha añadido nada.</translation>
     </message>
     <message>
         <source>Imported: %1 new, %2 updated.</source>
         <translation>Importación terminada: %1 nuevos, %2 actualizados.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file and reason</comment>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more.</source>
@@ -195,7 +208,7 @@
         <translation>Descartar</translation>
     </message>
     <message>
-        <source>Stay</source>
+        <source>Keep editing</source>
         <translation>Seguir editando</translation>
     </message>
 </context>
@@ -229,7 +242,7 @@
         <translation>Otro</translation>
     </message>
     <message>
-        <source>The file has gone: %1</source>
+        <source>File not found: %1</source>
         <translation>El archivo ya no existe: %1</translation>
     </message>
     <message>
@@ -258,7 +271,7 @@
     <message>
         <source>The schedule was not saved. %1
 
-What shall become of your changes?</source>
+What do you want to do with your changes?</source>
         <translation>No se ha guardado la programación. %1
 
 ¿Qué desea hacer con los cambios?</translation>
@@ -272,7 +285,7 @@ What shall become of your changes?</source>
         <translation>Guardar en un archivo</translation>
     </message>
     <message>
-        <source>Give up</source>
+        <source>Discard changes</source>
         <translation>Descartar</translation>
     </message>
     <message>
@@ -287,56 +300,52 @@ What shall become of your changes?</source>
 <context>
     <name>ClockChangePanel</name>
     <message>
-        <source>Changes of the clocks</source>
+        <source>Clock changes</source>
         <translation>Cambios de hora</translation>
     </message>
     <message>
-        <source>No change of the clocks falls on a day of any task.</source>
-        <translation>Ningún cambio de hora cae en un día de una tarea.</translation>
+        <source>No clock change falls within the validity of any task.</source>
+        <translation>Ningún cambio de hora cae dentro de la validez de una tarea.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 is left out;</source>
-        <translation>%1: se omite %2–%3;</translation>
+        <source>%1: %2–%3 is skipped; no plan of task %4 is affected.</source>
+        <translation>%1: se omite %2–%3; no afecta a ningún plan de la tarea %4.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 comes twice;</source>
-        <translation>%1: %2–%3 ocurre dos veces;</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
+        <translation>%1: se omite %2–%3; el plan %4 de la tarea %5 no se reproduce.</translation>
     </message>
     <message>
-        <source>it touches no plan of task %1.</source>
-        <translation>no afecta a ningún plan de la tarea %1.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 starts at %6 in the middle of its list.</source>
+        <translation>%1: se omite %2–%3; el plan %4 de la tarea %5 empieza a las %6 a mitad de su lista.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 does not play.</source>
-        <translation>el plan %1 de la tarea %2 no se reproduce.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 is cut off at %6.</source>
+        <translation>%1: se omite %2–%3; el plan %4 de la tarea %5 se corta a las %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
-        <translation>el plan %1 de la tarea %2 empieza a las %3 en medio de su lista.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
+        <translation>%1: se omite %2–%3; el plan %4 de la tarea %5 se salta esta parte de su lista.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 is cut off at %3.</source>
-        <translation>el plan %1 de la tarea %2 se corta a las %3.</translation>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1: %2–%3 se repite; no afecta a ningún plan de la tarea %4.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 skips this part of its list.</source>
-        <translation>el plan %1 de la tarea %2 se salta esta parte de su lista.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
+        <translation>%1: %2–%3 se repite; el plan %4 de la tarea %5 se reproduce dos veces.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 plays twice.</source>
-        <translation>el plan %1 de la tarea %2 se reproduce dos veces.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 starts twice at %6.</source>
+        <translation>%1: %2–%3 se repite; el plan %4 de la tarea %5 empieza dos veces a las %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts twice at %3.</source>
-        <translation>el plan %1 de la tarea %2 empieza dos veces a las %3.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 ends twice at %6.</source>
+        <translation>%1: %2–%3 se repite; el plan %4 de la tarea %5 termina dos veces a las %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 ends twice at %3.</source>
-        <translation>el plan %1 de la tarea %2 termina dos veces a las %3.</translation>
-    </message>
-    <message>
-        <source>plan %1 of task %2 repeats this part of its list.</source>
-        <translation>el plan %1 de la tarea %2 repite esta parte de su lista.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 repeats this part of its list.</source>
+        <translation>%1: %2–%3 se repite; el plan %4 de la tarea %5 repite esta parte de su lista.</translation>
     </message>
 </context>
 <context>
@@ -346,7 +355,11 @@ What shall become of your changes?</source>
         <translation>Vista previa</translation>
     </message>
     <message>
-        <source>&amp;Full screen preview</source>
+        <source>&amp;Preview</source>
+        <translation>&amp;Vista previa</translation>
+    </message>
+    <message>
+        <source>&amp;Full-screen preview</source>
         <translation>Vista previa a &amp;pantalla completa</translation>
     </message>
 </context>
@@ -365,7 +378,7 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Next</source>
-        <translation>Después</translation>
+        <translation>A continuación</translation>
     </message>
     <message>
         <source>Cut in</source>
@@ -373,11 +386,11 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Now and next</source>
-        <translation>Ahora y después</translation>
+        <translation>Ahora y a continuación</translation>
     </message>
     <message>
         <source>What the screen shows</source>
-        <translation>Lo que muestra la pantalla</translation>
+        <translation>Contenido de la pantalla</translation>
     </message>
     <message>
         <source>Program on screen</source>
@@ -392,12 +405,12 @@ What shall become of your changes?</source>
         <translation>Por qué está en pantalla</translation>
     </message>
     <message>
-        <source>Program that comes next</source>
-        <translation>Programa que viene después</translation>
+        <source>Next program</source>
+        <translation>Programa siguiente</translation>
     </message>
     <message>
         <source>Not started</source>
-        <translation>No iniciado</translation>
+        <translation>Sin iniciar</translation>
     </message>
     <message>
         <source>%1 played</source>
@@ -405,15 +418,15 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>%1 left</source>
-        <translation>queda %1</translation>
+        <translation>quedan %1</translation>
     </message>
     <message>
         <source>%1, until %2, %3 left</source>
-        <translation>%1, hasta %2, queda %3</translation>
+        <translation>%1, hasta las %2, quedan %3</translation>
     </message>
     <message>
-        <source>Nothing else comes.</source>
-        <translation>No viene nada más.</translation>
+        <source>Nothing else is scheduled.</source>
+        <translation>No hay nada más programado.</translation>
     </message>
     <message>
         <source>at %1, in %2</source>
@@ -455,54 +468,59 @@ What shall become of your changes?</source>
         <translation>Tarea %1, plan %2</translation>
     </message>
     <message>
-        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
-        <translation>El botón de inicio del editor pone en vigor el plan guardado.</translation>
+        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
+        <translation>El botón «Iniciar» del editor pone en vigor la programación guardada.</translation>
     </message>
     <message>
-        <source>No plan has had the screen up to now.</source>
-        <translation>Hasta ahora ningún plan ha tenido la pantalla.</translation>
+        <source>No plan has started yet.</source>
+        <translation>Todavía no ha empezado ningún plan.</translation>
     </message>
     <message>
-        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <source>Plan %1 of task %2 is the first of the plans for this time.</source>
         <translation>De los planes para esta hora, el plan %1 de la tarea %2 es el primero.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
-        <translation>El plan %1 de la tarea %2 tiene la pantalla, pero ninguno de sus programas puede reproducirse.</translation>
+        <source>Plan %1 of task %2 is due, but none of its programs can play.</source>
+        <translation>Es el turno del plan %1 de la tarea %2, pero ninguno de sus programas puede reproducirse.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
-        <translation>El plan %1 de la tarea %2 tiene la pantalla, pero su lista debe reproducirse menos de una vez.</translation>
+        <source>Plan %1 of task %2 is due, but its list is to run less than once.</source>
+        <translation>Es el turno del plan %1 de la tarea %2, pero su lista debe reproducirse menos de una vez.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has played its list as often as it should.</source>
-        <translation>El plan %1 de la tarea %2 ya reprodujo su lista las veces previstas.</translation>
+        <source>Plan %1 of task %2 has played its list the set number of times.</source>
+        <translation>El plan %1 de la tarea %2 ya ha reproducido su lista las veces previstas.</translation>
     </message>
     <message>
         <source>Plan %1 of task %2 is over, and no other has begun.</source>
         <translation>El plan %1 de la tarea %2 ha terminado y no ha empezado otro.</translation>
     </message>
     <message>
-        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
-        <translation>Insertado a mano, en lugar del plan %1 de la tarea %2.</translation>
+        <source>Cut in manually in place of plan %1 of task %2.</source>
+        <translation>Insertado manualmente en lugar del plan %1 de la tarea %2.</translation>
     </message>
     <message>
-        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
-        <translation>Lo insertado en lugar del plan %1 de la tarea %2 no tiene nada más que reproducir.</translation>
+        <source>What was cut in for plan %1 of task %2 has nothing left to play.</source>
+        <translation>La inserción en lugar del plan %1 de la tarea %2 no tiene nada más que reproducir.</translation>
     </message>
     <message>
         <source>Cut in: %1</source>
         <translation>Insertado: %1</translation>
     </message>
     <message>
-        <source>Before: %1</source>
+        <source>Original list: %1</source>
         <translation>Antes: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between programs</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>Week</name>
     <message>
-        <source>On screen: %1, %2 into it</source>
+        <source>On screen: %1, at %2</source>
         <translation>En pantalla: %1, en %2</translation>
     </message>
     <message>
@@ -510,27 +528,32 @@ What shall become of your changes?</source>
         <translation>En pantalla: %1</translation>
     </message>
     <message>
-        <source>%1 to %2 is left out: the clocks go forward.</source>
-        <translation>De %1 a %2 no existe: los relojes se adelantan.</translation>
+        <source>%1, %2</source>
+        <comment>day and time of day</comment>
+        <translation>%1, %2</translation>
     </message>
     <message>
-        <source>%1 to %2 comes twice: the clocks go back.</source>
-        <translation>De %1 a %2 ocurre dos veces: los relojes se atrasan.</translation>
+        <source>%1 to %2 is skipped: the clocks go forward.</source>
+        <translation>El intervalo de %1 a %2 se omite: se adelantan los relojes.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 occurs twice: the clocks go back.</source>
+        <translation>El intervalo de %1 a %2 se repite: se atrasan los relojes.</translation>
     </message>
     <message numerus="yes">
-        <source>%n more plans are kept from the screen.</source>
+        <source>%n more plans do not reach the screen.</source>
         <translation>
-            <numerusform>%n plan más no obtiene la pantalla.</numerusform>
-            <numerusform>%n planes más no obtienen la pantalla.</numerusform>
+            <numerusform>%n plan más no se muestra en pantalla.</numerusform>
+            <numerusform>%n planes más no se muestran en pantalla.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Plan %1 stands above it and has the screen instead.</source>
-        <translation>El plan %1 está por encima y tiene la pantalla en su lugar.</translation>
+        <source>Plan %1, above it, takes precedence.</source>
+        <translation>El plan %1 está por encima y tiene prioridad.</translation>
     </message>
     <message>
-        <source>It collides with a plan above it.</source>
-        <translation>Choca con un plan que está por encima.</translation>
+        <source>It conflicts with a plan above it.</source>
+        <translation>Entra en conflicto con un plan que está por encima.</translation>
     </message>
     <message>
         <source>Its list is over at %1, before the plan ends.</source>
@@ -541,12 +564,17 @@ What shall become of your changes?</source>
         <translation>Plan %1, %2 a %3</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <comment>plan and its programs</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
         <source>No task is valid on this day.</source>
         <translation>Ninguna tarea es válida este día.</translation>
     </message>
     <message>
         <source>No task is valid</source>
-        <translation>Ninguna tarea válida</translation>
+        <translation>Sin tarea</translation>
     </message>
     <message>
         <source>No task</source>
@@ -565,12 +593,12 @@ What shall become of your changes?</source>
         <translation>Insertado: %1</translation>
     </message>
     <message>
-        <source>Left out: clocks go forward</source>
-        <translation>No existe: se adelanta la hora</translation>
+        <source>Skipped</source>
+        <translation>Se omite</translation>
     </message>
     <message>
-        <source>Comes twice: clocks go back</source>
-        <translation>Dos veces: se atrasa la hora</translation>
+        <source>Repeated</source>
+        <translation>Se repite</translation>
     </message>
     <message>
         <source>nothing to show</source>
@@ -582,6 +610,10 @@ What shall become of your changes?</source>
     <message>
         <source>Week</source>
         <translation>Semana</translation>
+    </message>
+    <message>
+        <source>&amp;Week</source>
+        <translation>&amp;Semana</translation>
     </message>
 </context>
 <context>
@@ -610,23 +642,23 @@ What shall become of your changes?</source>
         <translation>En vigor</translation>
     </message>
     <message>
-        <source>Week before</source>
+        <source>Previous week</source>
         <translation>Semana anterior</translation>
     </message>
     <message>
-        <source>Week after</source>
+        <source>Next week</source>
         <translation>Semana siguiente</translation>
     </message>
     <message>
-        <source>Hours less high</source>
-        <translation>Horas más bajas</translation>
+        <source>Zoom out</source>
+        <translation>Alejar</translation>
     </message>
     <message>
-        <source>Hours higher</source>
-        <translation>Horas más altas</translation>
+        <source>Zoom in</source>
+        <translation>Acercar</translation>
     </message>
     <message>
-        <source>Which schedule is shown</source>
+        <source>Schedule shown</source>
         <translation>Qué programación se muestra</translation>
     </message>
 </context>
@@ -653,11 +685,11 @@ What shall become of your changes?</source>
         <translation>El plan %1 nunca se reproduce: su lista debe reproducirse menos de una vez.</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>El plan %1 nunca se reproduce: termina al empezar, a las %2.</translation>
+        <source>Plan %1 never plays: it starts and ends at %2.</source>
+        <translation>El plan %1 nunca se reproduce: empieza y termina a las %2.</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
+        <source>Plan %1 never plays: it ends at %3, before it starts at %2.</source>
         <translation>El plan %1 nunca se reproduce: empieza a las %2 y termina antes, a las %3.</translation>
     </message>
 </context>
@@ -666,6 +698,25 @@ What shall become of your changes?</source>
     <message>
         <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
         <translation>El sistema no conoce ninguna zona horaria llamada «%1», por lo que no se conoce la hora local.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::widgets::TitleButton</name>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximizar</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
     </message>
 </context>
 </TS>

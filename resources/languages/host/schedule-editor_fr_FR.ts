@@ -8,8 +8,8 @@
         <translation>Impossible de lire la démonstration&#xa0;: %1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>The demonstration&apos;s media could not be copied beside the database.</source>
-        <translation>Impossible de copier les médias de la démonstration à côté de la base de données.</translation>
+        <source>The demonstration media could not be copied to the database folder.</source>
+        <translation>Impossible de copier les médias de la démonstration dans le dossier de la base de données.</translation>
     </message>
 </context>
 <context>
@@ -63,7 +63,7 @@
         <translation>Importer un &amp;dossier…</translation>
     </message>
     <message>
-        <source>&amp;Remove from catalogue</source>
+        <source>&amp;Remove from catalog</source>
         <translation>&amp;Retirer du catalogue</translation>
     </message>
     <message>
@@ -78,16 +78,24 @@
         <translation>Maintenant et ensuite</translation>
     </message>
     <message>
-        <source>Changes of the clocks</source>
-        <translation>Changements d&apos;heure</translation>
+        <source>Clock changes</source>
+        <translation>Changements d’heure</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose Import.</source>
-        <translation>Aucun programme pour l’instant. Déposez ici des fichiers multimédias ou des dossiers, ou choisissez «&#xa0;Importer&#xa0;».</translation>
+        <source>&amp;Now and next</source>
+        <translation>&amp;Maintenant et ensuite</translation>
+    </message>
+    <message>
+        <source>&amp;Clock changes</source>
+        <translation>Changements d’&amp;heure</translation>
+    </message>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>Aucun programme pour l’instant. Déposez ici des fichiers multimédias ou des dossiers, ou choisissez «&#xa0;Importer des fichiers&#xa0;».</translation>
     </message>
     <message>
         <source>Schedule editor</source>
-        <translation>Éditeur de programmation</translation>
+        <translation>Éditeur de la programmation</translation>
     </message>
     <message>
         <source>%1 – Schedule editor</source>
@@ -130,7 +138,7 @@
         <translation>Impossible de lire %1&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
-        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
             <numerusform>Ce fichier contient %n tâche. Remplacer toute la programmation&#xa0;?</numerusform>
             <numerusform>Ce fichier contient %n tâches. Remplacer toute la programmation&#xa0;?</numerusform>
@@ -145,7 +153,7 @@
         <translation>Annuler</translation>
     </message>
     <message numerus="yes">
-        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
             <numerusform>Retirer ce programme du catalogue&#xa0;? Les créneaux qui l’utilisent l’afficheront comme non valide. Le fichier est conservé.</numerusform>
             <numerusform>Retirer %n programmes du catalogue&#xa0;? Les créneaux qui les utilisent les afficheront comme non valides. Les fichiers sont conservés.</numerusform>
@@ -161,15 +169,20 @@
     </message>
     <message>
         <source>Looking for files: %1 found</source>
-        <translation>Recherche de fichiers&#xa0;: %1 trouvé(s)</translation>
+        <translation>Recherche de fichiers. Trouvés&#xa0;: %1</translation>
     </message>
     <message>
-        <source>The import was cancelled; nothing was taken in.</source>
+        <source>The import was canceled; nothing was imported.</source>
         <translation>L’importation a été annulée&#xa0;; rien n’a été ajouté.</translation>
     </message>
     <message>
         <source>Imported: %1 new, %2 updated.</source>
-        <translation>Importation terminée&#xa0;: %1 ajout(s), %2 mise(s) à jour.</translation>
+        <translation>Importation terminée. Ajouts&#xa0;: %1, mises à jour&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file and reason</comment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more.</source>
@@ -195,8 +208,8 @@
         <translation>Ne pas enregistrer</translation>
     </message>
     <message>
-        <source>Stay</source>
-        <translation>Continuer</translation>
+        <source>Keep editing</source>
+        <translation>Continuer l’édition</translation>
     </message>
 </context>
 <context>
@@ -222,14 +235,14 @@
     </message>
     <message>
         <source>Live</source>
-        <translation>Direct</translation>
+        <translation>En direct</translation>
     </message>
     <message>
         <source>Other</source>
         <translation>Autre</translation>
     </message>
     <message>
-        <source>The file has gone: %1</source>
+        <source>File not found: %1</source>
         <translation>Le fichier n’existe plus&#xa0;: %1</translation>
     </message>
     <message>
@@ -258,7 +271,7 @@
     <message>
         <source>The schedule was not saved. %1
 
-What shall become of your changes?</source>
+What do you want to do with your changes?</source>
         <translation>La programmation n’a pas été enregistrée. %1
 
 Que faire de vos modifications&#xa0;?</translation>
@@ -272,8 +285,8 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Enregistrer dans un fichier</translation>
     </message>
     <message>
-        <source>Give up</source>
-        <translation>Abandonner</translation>
+        <source>Discard changes</source>
+        <translation>Ne pas enregistrer</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
@@ -287,56 +300,52 @@ Que faire de vos modifications&#xa0;?</translation>
 <context>
     <name>ClockChangePanel</name>
     <message>
-        <source>Changes of the clocks</source>
-        <translation>Changements d&apos;heure</translation>
+        <source>Clock changes</source>
+        <translation>Changements d’heure</translation>
     </message>
     <message>
-        <source>No change of the clocks falls on a day of any task.</source>
-        <translation>Aucun changement d&apos;heure ne tombe un jour d&apos;une tâche.</translation>
+        <source>No clock change falls within the validity of any task.</source>
+        <translation>Aucun changement d’heure ne tombe pendant la validité d’une tâche.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 is left out;</source>
-        <translation>%1 : %2–%3 n&apos;existe pas ;</translation>
+        <source>%1: %2–%3 is skipped; no plan of task %4 is affected.</source>
+        <translation>%1&#xa0;: la plage %2–%3 est sautée&#xa0;; aucun créneau de la tâche %4 n’est concerné.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 comes twice;</source>
-        <translation>%1 : %2–%3 revient deux fois ;</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
+        <translation>%1&#xa0;: la plage %2–%3 est sautée&#xa0;; le créneau %4 de la tâche %5 n’est pas diffusé.</translation>
     </message>
     <message>
-        <source>it touches no plan of task %1.</source>
-        <translation>aucun plan de la tâche %1 n&apos;est touché.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 starts at %6 in the middle of its list.</source>
+        <translation>%1&#xa0;: la plage %2–%3 est sautée&#xa0;; le créneau %4 de la tâche %5 commence à %6 au milieu de sa liste.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 does not play.</source>
-        <translation>le plan %1 de la tâche %2 n&apos;est pas joué.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 is cut off at %6.</source>
+        <translation>%1&#xa0;: la plage %2–%3 est sautée&#xa0;; le créneau %4 de la tâche %5 est interrompu à %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
-        <translation>le plan %1 de la tâche %2 commence à %3 au milieu de sa liste.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
+        <translation>%1&#xa0;: la plage %2–%3 est sautée&#xa0;; le créneau %4 de la tâche %5 saute cette partie de sa liste.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 is cut off at %3.</source>
-        <translation>le plan %1 de la tâche %2 est coupé à %3.</translation>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1&#xa0;: la plage %2–%3 a lieu deux fois&#xa0;; aucun créneau de la tâche %4 n’est concerné.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 skips this part of its list.</source>
-        <translation>le plan %1 de la tâche %2 saute cette partie de sa liste.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
+        <translation>%1&#xa0;: la plage %2–%3 a lieu deux fois&#xa0;; le créneau %4 de la tâche %5 est diffusé deux fois.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 plays twice.</source>
-        <translation>le plan %1 de la tâche %2 est joué deux fois.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 starts twice at %6.</source>
+        <translation>%1&#xa0;: la plage %2–%3 a lieu deux fois&#xa0;; le créneau %4 de la tâche %5 commence deux fois à %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts twice at %3.</source>
-        <translation>le plan %1 de la tâche %2 commence deux fois à %3.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 ends twice at %6.</source>
+        <translation>%1&#xa0;: la plage %2–%3 a lieu deux fois&#xa0;; le créneau %4 de la tâche %5 se termine deux fois à %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 ends twice at %3.</source>
-        <translation>le plan %1 de la tâche %2 finit deux fois à %3.</translation>
-    </message>
-    <message>
-        <source>plan %1 of task %2 repeats this part of its list.</source>
-        <translation>le plan %1 de la tâche %2 répète cette partie de sa liste.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 repeats this part of its list.</source>
+        <translation>%1&#xa0;: la plage %2–%3 a lieu deux fois&#xa0;; le créneau %4 de la tâche %5 répète cette partie de sa liste.</translation>
     </message>
 </context>
 <context>
@@ -346,7 +355,11 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Aperçu</translation>
     </message>
     <message>
-        <source>&amp;Full screen preview</source>
+        <source>&amp;Preview</source>
+        <translation>&amp;Aperçu</translation>
+    </message>
+    <message>
+        <source>&amp;Full-screen preview</source>
         <translation>Aperçu en &amp;plein écran</translation>
     </message>
 </context>
@@ -354,7 +367,7 @@ Que faire de vos modifications&#xa0;?</translation>
     <name>PreviewScreen</name>
     <message>
         <source>Preview of the screen</source>
-        <translation>Aperçu de l&apos;écran</translation>
+        <translation>Aperçu de l’écran</translation>
     </message>
 </context>
 <context>
@@ -377,11 +390,11 @@ Que faire de vos modifications&#xa0;?</translation>
     </message>
     <message>
         <source>What the screen shows</source>
-        <translation>Ce que montre l&apos;écran</translation>
+        <translation>Contenu de l’écran</translation>
     </message>
     <message>
         <source>Program on screen</source>
-        <translation>Programme à l&apos;écran</translation>
+        <translation>Programme à l’écran</translation>
     </message>
     <message>
         <source>Position in the program</source>
@@ -389,19 +402,19 @@ Que faire de vos modifications&#xa0;?</translation>
     </message>
     <message>
         <source>Why this is on screen</source>
-        <translation>Pourquoi cela est à l&apos;écran</translation>
+        <translation>Raison de l’affichage</translation>
     </message>
     <message>
-        <source>Program that comes next</source>
-        <translation>Programme qui vient ensuite</translation>
+        <source>Next program</source>
+        <translation>Programme suivant</translation>
     </message>
     <message>
         <source>Not started</source>
-        <translation>Pas démarré</translation>
+        <translation>Programmation non démarrée</translation>
     </message>
     <message>
         <source>%1 played</source>
-        <translation>%1 joué</translation>
+        <translation>%1 diffusé</translation>
     </message>
     <message>
         <source>%1 left</source>
@@ -409,11 +422,11 @@ Que faire de vos modifications&#xa0;?</translation>
     </message>
     <message>
         <source>%1, until %2, %3 left</source>
-        <translation>%1, jusqu&apos;à %2, reste %3</translation>
+        <translation>%1, jusqu’à %2, reste %3</translation>
     </message>
     <message>
-        <source>Nothing else comes.</source>
-        <translation>Rien d&apos;autre ne vient.</translation>
+        <source>Nothing else is scheduled.</source>
+        <translation>Rien d’autre n’est prévu.</translation>
     </message>
     <message>
         <source>at %1, in %2</source>
@@ -428,7 +441,7 @@ Que faire de vos modifications&#xa0;?</translation>
     <name>ScreenWords</name>
     <message>
         <source>Playing</source>
-        <translation>En lecture</translation>
+        <translation>En diffusion</translation>
     </message>
     <message>
         <source>Black</source>
@@ -436,7 +449,7 @@ Que faire de vos modifications&#xa0;?</translation>
     </message>
     <message>
         <source>Frozen</source>
-        <translation>Figé</translation>
+        <translation>Image figée</translation>
     </message>
     <message>
         <source>Last frame of %1</source>
@@ -448,105 +461,120 @@ Que faire de vos modifications&#xa0;?</translation>
     </message>
     <message>
         <source>Entry %1 of %2, play %3 of %4</source>
-        <translation>Entrée %1 sur %2, lecture %3 sur %4</translation>
+        <translation>Entrée %1 sur %2, diffusion %3 sur %4</translation>
     </message>
     <message>
         <source>Task %1, plan %2</source>
-        <translation>Tâche %1, plan %2</translation>
+        <translation>Tâche %1, créneau %2</translation>
     </message>
     <message>
-        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
-        <translation>Le bouton de démarrage de l&apos;éditeur met en vigueur le planning enregistré.</translation>
+        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
+        <translation>Le bouton «&#xa0;Démarrer&#xa0;» de l’éditeur met en vigueur la programmation enregistrée.</translation>
     </message>
     <message>
-        <source>No plan has had the screen up to now.</source>
-        <translation>Aucun plan n&apos;a encore eu l&apos;écran.</translation>
+        <source>No plan has started yet.</source>
+        <translation>Aucun créneau n’a encore commencé.</translation>
     </message>
     <message>
-        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
-        <translation>Parmi les plans de cette heure, le plan %1 de la tâche %2 vient en premier.</translation>
+        <source>Plan %1 of task %2 is the first of the plans for this time.</source>
+        <translation>Parmi les créneaux prévus à cette heure, le créneau %1 de la tâche %2 vient en premier.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
-        <translation>Le plan %1 de la tâche %2 a l&apos;écran, mais aucun de ses programmes ne peut être joué.</translation>
+        <source>Plan %1 of task %2 is due, but none of its programs can play.</source>
+        <translation>C’est le tour du créneau %1 de la tâche %2, mais aucun de ses programmes ne peut être diffusé.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
-        <translation>Le plan %1 de la tâche %2 a l&apos;écran, mais sa liste doit être jouée moins d&apos;une fois.</translation>
+        <source>Plan %1 of task %2 is due, but its list is to run less than once.</source>
+        <translation>C’est le tour du créneau %1 de la tâche %2, mais sa liste doit être diffusée moins d’une fois.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has played its list as often as it should.</source>
-        <translation>Le plan %1 de la tâche %2 a joué sa liste autant de fois que prévu.</translation>
+        <source>Plan %1 of task %2 has played its list the set number of times.</source>
+        <translation>Le créneau %1 de la tâche %2 a diffusé sa liste autant de fois que prévu.</translation>
     </message>
     <message>
         <source>Plan %1 of task %2 is over, and no other has begun.</source>
-        <translation>Le plan %1 de la tâche %2 est terminé et aucun autre n&apos;a commencé.</translation>
+        <translation>Le créneau %1 de la tâche %2 est terminé et aucun autre n’a commencé.</translation>
     </message>
     <message>
-        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
-        <translation>Inséré à la main, à la place du plan %1 de la tâche %2.</translation>
+        <source>Cut in manually in place of plan %1 of task %2.</source>
+        <translation>Inséré manuellement à la place du créneau %1 de la tâche %2.</translation>
     </message>
     <message>
-        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
-        <translation>Ce qui fut inséré à la place du plan %1 de la tâche %2 n&apos;a plus rien à jouer.</translation>
+        <source>What was cut in for plan %1 of task %2 has nothing left to play.</source>
+        <translation>L’insertion à la place du créneau %1 de la tâche %2 n’a plus rien à diffuser.</translation>
     </message>
     <message>
         <source>Cut in: %1</source>
-        <translation>Inséré : %1</translation>
+        <translation>Inséré&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Before: %1</source>
-        <translation>Avant : %1</translation>
+        <source>Original list: %1</source>
+        <translation>Liste d’origine&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between programs</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>Week</name>
     <message>
-        <source>On screen: %1, %2 into it</source>
-        <translation>À l&apos;écran : %1, à %2</translation>
+        <source>On screen: %1, at %2</source>
+        <translation>À l’écran&#xa0;: %1, à %2</translation>
     </message>
     <message>
         <source>On screen: %1</source>
-        <translation>À l&apos;écran : %1</translation>
+        <translation>À l’écran&#xa0;: %1</translation>
     </message>
     <message>
-        <source>%1 to %2 is left out: the clocks go forward.</source>
-        <translation>De %1 à %2 n&apos;existe pas : on avance les horloges.</translation>
+        <source>%1, %2</source>
+        <comment>day and time of day</comment>
+        <translation>%1, %2</translation>
     </message>
     <message>
-        <source>%1 to %2 comes twice: the clocks go back.</source>
-        <translation>De %1 à %2 revient deux fois : on recule les horloges.</translation>
+        <source>%1 to %2 is skipped: the clocks go forward.</source>
+        <translation>La plage %1–%2 est sautée&#xa0;: on avance les horloges.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 occurs twice: the clocks go back.</source>
+        <translation>La plage %1–%2 a lieu deux fois&#xa0;: on recule les horloges.</translation>
     </message>
     <message numerus="yes">
-        <source>%n more plans are kept from the screen.</source>
+        <source>%n more plans do not reach the screen.</source>
         <translation>
-            <numerusform>%n autre plan n&apos;a pas l&apos;écran.</numerusform>
-            <numerusform>%n autres plans n&apos;ont pas l&apos;écran.</numerusform>
+            <numerusform>%n autre créneau n’est pas affiché à l’écran.</numerusform>
+            <numerusform>%n autres créneaux ne sont pas affichés à l’écran.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Plan %1 stands above it and has the screen instead.</source>
-        <translation>Le plan %1 est au-dessus et a l&apos;écran à sa place.</translation>
+        <source>Plan %1, above it, takes precedence.</source>
+        <translation>Le créneau %1, placé au-dessus, est prioritaire.</translation>
     </message>
     <message>
-        <source>It collides with a plan above it.</source>
-        <translation>Il chevauche un plan au-dessus.</translation>
+        <source>It conflicts with a plan above it.</source>
+        <translation>Il est en conflit avec un créneau placé au-dessus.</translation>
     </message>
     <message>
         <source>Its list is over at %1, before the plan ends.</source>
-        <translation>Sa liste est finie à %1, avant le plan.</translation>
+        <translation>Sa liste se termine à %1, avant le créneau.</translation>
     </message>
     <message>
         <source>Plan %1, %2 to %3</source>
-        <translation>Plan %1, %2 à %3</translation>
+        <translation>Créneau %1, de %2 à %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>plan and its programs</comment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>No task is valid on this day.</source>
-        <translation>Aucune tâche n&apos;est valable ce jour.</translation>
+        <translation>Aucune tâche n’est valide ce jour-là.</translation>
     </message>
     <message>
         <source>No task is valid</source>
-        <translation>Aucune tâche valable</translation>
+        <translation>Aucune tâche</translation>
     </message>
     <message>
         <source>No task</source>
@@ -558,19 +586,19 @@ Que faire de vos modifications&#xa0;?</translation>
     </message>
     <message>
         <source>Frozen: %1</source>
-        <translation>Figé : %1</translation>
+        <translation>Image figée&#xa0;: %1</translation>
     </message>
     <message>
         <source>Cut in: %1</source>
-        <translation>Inséré : %1</translation>
+        <translation>Inséré&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Left out: clocks go forward</source>
-        <translation>N&apos;existe pas : on avance l&apos;heure</translation>
+        <source>Skipped</source>
+        <translation>Plage sautée</translation>
     </message>
     <message>
-        <source>Comes twice: clocks go back</source>
-        <translation>Deux fois : on recule l&apos;heure</translation>
+        <source>Repeated</source>
+        <translation>Plage doublée</translation>
     </message>
     <message>
         <source>nothing to show</source>
@@ -582,6 +610,10 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>Week</source>
         <translation>Semaine</translation>
+    </message>
+    <message>
+        <source>&amp;Week</source>
+        <translation>S&amp;emaine</translation>
     </message>
 </context>
 <context>
@@ -595,7 +627,7 @@ Que faire de vos modifications&#xa0;?</translation>
     <name>week::WeekPanel</name>
     <message>
         <source>Today</source>
-        <translation>Aujourd&apos;hui</translation>
+        <translation>Aujourd’hui</translation>
     </message>
     <message>
         <source>Whole day</source>
@@ -610,62 +642,81 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>En vigueur</translation>
     </message>
     <message>
-        <source>Week before</source>
+        <source>Previous week</source>
         <translation>Semaine précédente</translation>
     </message>
     <message>
-        <source>Week after</source>
+        <source>Next week</source>
         <translation>Semaine suivante</translation>
     </message>
     <message>
-        <source>Hours less high</source>
-        <translation>Heures moins hautes</translation>
+        <source>Zoom out</source>
+        <translation>Zoom arrière</translation>
     </message>
     <message>
-        <source>Hours higher</source>
-        <translation>Heures plus hautes</translation>
+        <source>Zoom in</source>
+        <translation>Zoom avant</translation>
     </message>
     <message>
-        <source>Which schedule is shown</source>
-        <translation>Planning affiché</translation>
+        <source>Schedule shown</source>
+        <translation>Programmation affichée</translation>
     </message>
 </context>
 <context>
     <name>PlanFaultText</name>
     <message>
         <source>Plan %1 never plays: none of its days is a day of the week.</source>
-        <translation>Le plan %1 n&apos;est jamais joué : aucun de ses jours n&apos;est un jour de la semaine.</translation>
+        <translation>Le créneau %1 n’est jamais diffusé&#xa0;: aucun de ses jours n’est un jour de la semaine.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
-        <translation>Le plan %1 n&apos;est jamais joué : son début, « %2 », n&apos;est pas une heure de la forme %3.</translation>
+        <translation>Le créneau %1 n’est jamais diffusé&#xa0;: son début, «&#xa0;%2&#xa0;», n’est pas une heure au format %3.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
-        <translation>Le plan %1 n&apos;est jamais joué : sa fin, « %2 », n&apos;est pas une heure de la forme %3.</translation>
+        <translation>Le créneau %1 n’est jamais diffusé&#xa0;: sa fin, «&#xa0;%2&#xa0;», n’est pas une heure au format %3.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
-        <translation>Le plan %1 n&apos;est jamais joué : son début, « %2 », et sa fin, « %3 », ne sont pas des heures de la forme %4.</translation>
+        <translation>Le créneau %1 n’est jamais diffusé&#xa0;: son début, «&#xa0;%2&#xa0;», et sa fin, «&#xa0;%3&#xa0;», ne sont pas des heures au format %4.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its list is to run less than once.</source>
-        <translation>Le plan %1 n&apos;est jamais joué : sa liste doit être jouée moins d&apos;une fois.</translation>
+        <translation>Le créneau %1 n’est jamais diffusé&#xa0;: sa liste doit être diffusée moins d’une fois.</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>Le plan %1 n&apos;est jamais joué : il finit dès qu&apos;il commence, à %2.</translation>
+        <source>Plan %1 never plays: it starts and ends at %2.</source>
+        <translation>Le créneau %1 n’est jamais diffusé&#xa0;: il commence et se termine à %2.</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>Le plan %1 n&apos;est jamais joué : il commence à %2 et finit avant, à %3.</translation>
+        <source>Plan %1 never plays: it ends at %3, before it starts at %2.</source>
+        <translation>Le créneau %1 n’est jamais diffusé&#xa0;: il commence à %2 et se termine avant, à %3.</translation>
     </message>
 </context>
 <context>
     <name>ZoneError</name>
     <message>
         <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
-        <translation>Le système ne connaît aucun fuseau horaire du nom de « %1 » ; l&apos;heure locale n&apos;est donc pas connue.</translation>
+        <translation>Le système ne connaît aucun fuseau horaire du nom de «&#xa0;%1&#xa0;»&#xa0;; l’heure locale n’est donc pas connue.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::widgets::TitleButton</name>
+    <message>
+        <source>Minimize</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
     </message>
 </context>
 </TS>

@@ -8,7 +8,7 @@
         <translation>デモを読み込めませんでした：%1：%2</translation>
     </message>
     <message>
-        <source>The demonstration&apos;s media could not be copied beside the database.</source>
+        <source>The demonstration media could not be copied to the database folder.</source>
         <translation>デモのメディアをデータベースと同じ場所にコピーできませんでした。</translation>
     </message>
 </context>
@@ -63,7 +63,7 @@
         <translation>フォルダーを取り込む(&amp;F)…</translation>
     </message>
     <message>
-        <source>&amp;Remove from catalogue</source>
+        <source>&amp;Remove from catalog</source>
         <translation>番組一覧から外す(&amp;R)</translation>
     </message>
     <message>
@@ -78,12 +78,20 @@
         <translation>現在と次</translation>
     </message>
     <message>
-        <source>Changes of the clocks</source>
-        <translation>時刻の切り替え</translation>
+        <source>Clock changes</source>
+        <translation>夏時間の切り替え</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose Import.</source>
-        <translation>番組がまだありません。メディアファイルやフォルダーをここにドロップするか、メニューから取り込んでください。</translation>
+        <source>&amp;Now and next</source>
+        <translation>現在と次(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Clock changes</source>
+        <translation>夏時間の切り替え(&amp;C)</translation>
+    </message>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>番組がまだありません。メディアファイルやフォルダーをここにドロップするか、「ファイルを取り込む」を選択してください。</translation>
     </message>
     <message>
         <source>Schedule editor</source>
@@ -130,7 +138,7 @@
         <translation>%1 を読み込めませんでした：%2</translation>
     </message>
     <message numerus="yes">
-        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
             <numerusform>スケジュール全体を、このファイルの %n 件のタスクに置き換えますか？</numerusform>
         </translation>
@@ -144,7 +152,7 @@
         <translation>キャンセル</translation>
     </message>
     <message numerus="yes">
-        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
             <numerusform>%n 件の番組を番組一覧から外しますか？これらを使っている再生計画では無効と表示されます。ファイルは残ります。</numerusform>
         </translation>
@@ -159,15 +167,20 @@
     </message>
     <message>
         <source>Looking for files: %1 found</source>
-        <translation>ファイルを検索中：%1件</translation>
+        <translation>ファイルを検索中：%1 件</translation>
     </message>
     <message>
-        <source>The import was cancelled; nothing was taken in.</source>
+        <source>The import was canceled; nothing was imported.</source>
         <translation>取り込みをキャンセルしました。何も取り込まれていません。</translation>
     </message>
     <message>
         <source>Imported: %1 new, %2 updated.</source>
         <translation>取り込みました：新規 %1 件、更新 %2 件。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file and reason</comment>
+        <translation>%1：%2</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more.</source>
@@ -192,7 +205,7 @@
         <translation>保存しない</translation>
     </message>
     <message>
-        <source>Stay</source>
+        <source>Keep editing</source>
         <translation>編集を続ける</translation>
     </message>
 </context>
@@ -226,7 +239,7 @@
         <translation>その他</translation>
     </message>
     <message>
-        <source>The file has gone: %1</source>
+        <source>File not found: %1</source>
         <translation>ファイルが見つかりません：%1</translation>
     </message>
     <message>
@@ -255,7 +268,7 @@
     <message>
         <source>The schedule was not saved. %1
 
-What shall become of your changes?</source>
+What do you want to do with your changes?</source>
         <translation>スケジュールを保存できませんでした。%1
 
 変更をどうしますか？</translation>
@@ -269,7 +282,7 @@ What shall become of your changes?</source>
         <translation>ファイルに書き出す</translation>
     </message>
     <message>
-        <source>Give up</source>
+        <source>Discard changes</source>
         <translation>変更を破棄</translation>
     </message>
     <message>
@@ -284,56 +297,52 @@ What shall become of your changes?</source>
 <context>
     <name>ClockChangePanel</name>
     <message>
-        <source>Changes of the clocks</source>
-        <translation>時刻の切り替え</translation>
+        <source>Clock changes</source>
+        <translation>夏時間の切り替え</translation>
     </message>
     <message>
-        <source>No change of the clocks falls on a day of any task.</source>
-        <translation>どのタスクの日にも時刻の切り替えはありません。</translation>
+        <source>No clock change falls within the validity of any task.</source>
+        <translation>タスクの有効期間内に夏時間の切り替えはありません。</translation>
     </message>
     <message>
-        <source>%1: %2–%3 is left out;</source>
-        <translation>%1: %2–%3 は飛ばされます。</translation>
+        <source>%1: %2–%3 is skipped; no plan of task %4 is affected.</source>
+        <translation>%1：%2～%3 は飛ばされます。タスク %4 の計画には影響しません。</translation>
     </message>
     <message>
-        <source>%1: %2–%3 comes twice;</source>
-        <translation>%1: %2–%3 は二度来ます。</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
+        <translation>%1：%2～%3 は飛ばされます。タスク %5 の計画 %4 は再生されません。</translation>
     </message>
     <message>
-        <source>it touches no plan of task %1.</source>
-        <translation>タスク %1 のプランには影響しません。</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 starts at %6 in the middle of its list.</source>
+        <translation>%1：%2～%3 は飛ばされます。タスク %5 の計画 %4 は %6 にリストの途中から始まります。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 does not play.</source>
-        <translation>タスク %2 のプラン %1 は再生されません。</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 is cut off at %6.</source>
+        <translation>%1：%2～%3 は飛ばされます。タスク %5 の計画 %4 は %6 で打ち切られます。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
-        <translation>タスク %2 のプラン %1 は %3 にリストの途中から始まります。</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
+        <translation>%1：%2～%3 は飛ばされます。タスク %5 の計画 %4 はリストのこの部分を飛ばします。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 is cut off at %3.</source>
-        <translation>タスク %2 のプラン %1 は %3 で打ち切られます。</translation>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1：%2～%3 は 2 回あります。タスク %4 の計画には影響しません。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 skips this part of its list.</source>
-        <translation>タスク %2 のプラン %1 はリストのこの部分を飛ばします。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
+        <translation>%1：%2～%3 は 2 回あります。タスク %5 の計画 %4 は 2 回再生されます。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 plays twice.</source>
-        <translation>タスク %2 のプラン %1 は二度再生されます。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 starts twice at %6.</source>
+        <translation>%1：%2～%3 は 2 回あります。タスク %5 の計画 %4 は %6 に 2 回始まります。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts twice at %3.</source>
-        <translation>タスク %2 のプラン %1 は %3 に二度始まります。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 ends twice at %6.</source>
+        <translation>%1：%2～%3 は 2 回あります。タスク %5 の計画 %4 は %6 に 2 回終わります。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 ends twice at %3.</source>
-        <translation>タスク %2 のプラン %1 は %3 に二度終わります。</translation>
-    </message>
-    <message>
-        <source>plan %1 of task %2 repeats this part of its list.</source>
-        <translation>タスク %2 のプラン %1 はリストのこの部分を繰り返します。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 repeats this part of its list.</source>
+        <translation>%1：%2～%3 は 2 回あります。タスク %5 の計画 %4 はリストのこの部分を繰り返します。</translation>
     </message>
 </context>
 <context>
@@ -343,7 +352,11 @@ What shall become of your changes?</source>
         <translation>プレビュー</translation>
     </message>
     <message>
-        <source>&amp;Full screen preview</source>
+        <source>&amp;Preview</source>
+        <translation>プレビュー(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Full-screen preview</source>
         <translation>全画面プレビュー(&amp;F)</translation>
     </message>
 </context>
@@ -389,7 +402,7 @@ What shall become of your changes?</source>
         <translation>表示の理由</translation>
     </message>
     <message>
-        <source>Program that comes next</source>
+        <source>Next program</source>
         <translation>次の番組</translation>
     </message>
     <message>
@@ -409,8 +422,8 @@ What shall become of your changes?</source>
         <translation>%1、%2 まで、残り %3</translation>
     </message>
     <message>
-        <source>Nothing else comes.</source>
-        <translation>この後はありません。</translation>
+        <source>Nothing else is scheduled.</source>
+        <translation>この後の番組はありません。</translation>
     </message>
     <message>
         <source>at %1, in %2</source>
@@ -429,11 +442,11 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Black</source>
-        <translation>黒</translation>
+        <translation>黒画面</translation>
     </message>
     <message>
         <source>Frozen</source>
-        <translation>静止</translation>
+        <translation>最終画面</translation>
     </message>
     <message>
         <source>Last frame of %1</source>
@@ -441,7 +454,7 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Black screen</source>
-        <translation>黒い画面</translation>
+        <translation>黒画面</translation>
     </message>
     <message>
         <source>Entry %1 of %2, play %3 of %4</source>
@@ -449,92 +462,107 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Task %1, plan %2</source>
-        <translation>タスク %1、プラン %2</translation>
+        <translation>タスク %1、計画 %2</translation>
     </message>
     <message>
-        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
-        <translation>エディターの開始ボタンで、保存したスケジュールが有効になります。</translation>
+        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
+        <translation>エディターの「運用開始」を押すと、保存したスケジュールが有効になります。</translation>
     </message>
     <message>
-        <source>No plan has had the screen up to now.</source>
-        <translation>これまで画面を使ったプランはありません。</translation>
+        <source>No plan has started yet.</source>
+        <translation>まだどの計画も始まっていません。</translation>
     </message>
     <message>
-        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
-        <translation>この時刻のプランのうち、タスク %2 のプラン %1 が最初です。</translation>
+        <source>Plan %1 of task %2 is the first of the plans for this time.</source>
+        <translation>この時刻の計画のうち、タスク %2 の計画 %1 が最優先です。</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
-        <translation>タスク %2 のプラン %1 の番ですが、再生できる番組がありません。</translation>
+        <source>Plan %1 of task %2 is due, but none of its programs can play.</source>
+        <translation>タスク %2 の計画 %1 の番ですが、再生できる番組がありません。</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
-        <translation>タスク %2 のプラン %1 の番ですが、リストの再生回数が 1 回未満です。</translation>
+        <source>Plan %1 of task %2 is due, but its list is to run less than once.</source>
+        <translation>タスク %2 の計画 %1 の番ですが、リストの再生回数が 1 回未満です。</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has played its list as often as it should.</source>
-        <translation>タスク %2 のプラン %1 はリストを所定の回数再生しました。</translation>
+        <source>Plan %1 of task %2 has played its list the set number of times.</source>
+        <translation>タスク %2 の計画 %1 はリストを所定の回数再生しました。</translation>
     </message>
     <message>
         <source>Plan %1 of task %2 is over, and no other has begun.</source>
-        <translation>タスク %2 のプラン %1 は終わり、次のプランはまだ始まっていません。</translation>
+        <translation>タスク %2 の計画 %1 は終わり、次の計画はまだ始まっていません。</translation>
     </message>
     <message>
-        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
-        <translation>タスク %2 のプラン %1 の代わりに手動で割り込みました。</translation>
+        <source>Cut in manually in place of plan %1 of task %2.</source>
+        <translation>タスク %2 の計画 %1 の代わりに、手動で割り込ませました。</translation>
     </message>
     <message>
-        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
-        <translation>タスク %2 のプラン %1 の代わりの割り込みには、もう再生するものがありません。</translation>
+        <source>What was cut in for plan %1 of task %2 has nothing left to play.</source>
+        <translation>タスク %2 の計画 %1 に代わる割り込みには、もう再生するものがありません。</translation>
     </message>
     <message>
         <source>Cut in: %1</source>
-        <translation>割り込み: %1</translation>
+        <translation>割り込み：%1</translation>
     </message>
     <message>
-        <source>Before: %1</source>
-        <translation>元: %1</translation>
+        <source>Original list: %1</source>
+        <translation>元のリスト：%1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between programs</comment>
+        <translation>、</translation>
     </message>
 </context>
 <context>
     <name>Week</name>
     <message>
-        <source>On screen: %1, %2 into it</source>
-        <translation>画面: %1、%2 経過</translation>
+        <source>On screen: %1, at %2</source>
+        <translation>画面：%1、%2 経過</translation>
     </message>
     <message>
         <source>On screen: %1</source>
-        <translation>画面: %1</translation>
+        <translation>画面：%1</translation>
     </message>
     <message>
-        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <source>%1, %2</source>
+        <comment>day and time of day</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is skipped: the clocks go forward.</source>
         <translation>%1～%2 は飛ばされます。時計が進められます。</translation>
     </message>
     <message>
-        <source>%1 to %2 comes twice: the clocks go back.</source>
-        <translation>%1～%2 は二度来ます。時計が戻されます。</translation>
+        <source>%1 to %2 occurs twice: the clocks go back.</source>
+        <translation>%1～%2 は 2 回あります。時計が戻されます。</translation>
     </message>
     <message numerus="yes">
-        <source>%n more plans are kept from the screen.</source>
+        <source>%n more plans do not reach the screen.</source>
         <translation>
-            <numerusform>ほかに %n 件のプランが画面に出ません。</numerusform>
+            <numerusform>ほかに %n 件の計画が画面に表示されません。</numerusform>
         </translation>
     </message>
     <message>
-        <source>Plan %1 stands above it and has the screen instead.</source>
-        <translation>上にあるプラン %1 が代わりに画面を使います。</translation>
+        <source>Plan %1, above it, takes precedence.</source>
+        <translation>上にある計画 %1 が優先されます。</translation>
     </message>
     <message>
-        <source>It collides with a plan above it.</source>
-        <translation>上のプランと重なっています。</translation>
+        <source>It conflicts with a plan above it.</source>
+        <translation>上の計画と重複しています。</translation>
     </message>
     <message>
         <source>Its list is over at %1, before the plan ends.</source>
-        <translation>リストはプランの終了より前の %1 に終わります。</translation>
+        <translation>リストは計画の終了より前の %1 に終わります。</translation>
     </message>
     <message>
         <source>Plan %1, %2 to %3</source>
-        <translation>プラン %1、%2～%3</translation>
+        <translation>計画 %1、%2～%3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>plan and its programs</comment>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>No task is valid on this day.</source>
@@ -554,19 +582,19 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Frozen: %1</source>
-        <translation>静止: %1</translation>
+        <translation>最終画面：%1</translation>
     </message>
     <message>
         <source>Cut in: %1</source>
-        <translation>割り込み: %1</translation>
+        <translation>割り込み：%1</translation>
     </message>
     <message>
-        <source>Left out: clocks go forward</source>
-        <translation>なし: 時計が進む</translation>
+        <source>Skipped</source>
+        <translation>なし：時計が進む</translation>
     </message>
     <message>
-        <source>Comes twice: clocks go back</source>
-        <translation>二度: 時計が戻る</translation>
+        <source>Repeated</source>
+        <translation>2 回：時計が戻る</translation>
     </message>
     <message>
         <source>nothing to show</source>
@@ -578,6 +606,10 @@ What shall become of your changes?</source>
     <message>
         <source>Week</source>
         <translation>週</translation>
+    </message>
+    <message>
+        <source>&amp;Week</source>
+        <translation>週(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -606,23 +638,23 @@ What shall become of your changes?</source>
         <translation>有効</translation>
     </message>
     <message>
-        <source>Week before</source>
+        <source>Previous week</source>
         <translation>前の週</translation>
     </message>
     <message>
-        <source>Week after</source>
+        <source>Next week</source>
         <translation>次の週</translation>
     </message>
     <message>
-        <source>Hours less high</source>
-        <translation>時間を低く</translation>
+        <source>Zoom out</source>
+        <translation>縮小</translation>
     </message>
     <message>
-        <source>Hours higher</source>
-        <translation>時間を高く</translation>
+        <source>Zoom in</source>
+        <translation>拡大</translation>
     </message>
     <message>
-        <source>Which schedule is shown</source>
+        <source>Schedule shown</source>
         <translation>表示するスケジュール</translation>
     </message>
 </context>
@@ -630,31 +662,31 @@ What shall become of your changes?</source>
     <name>PlanFaultText</name>
     <message>
         <source>Plan %1 never plays: none of its days is a day of the week.</source>
-        <translation>プラン %1 は再生されません。指定された曜日がいずれも存在しません。</translation>
+        <translation>計画 %1 は再生されません。指定された曜日がいずれも存在しません。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
-        <translation>プラン %1 は再生されません。開始「%2」は %3 の形式の時刻ではありません。</translation>
+        <translation>計画 %1 は再生されません。開始「%2」は %3 の形式の時刻ではありません。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
-        <translation>プラン %1 は再生されません。終了「%2」は %3 の形式の時刻ではありません。</translation>
+        <translation>計画 %1 は再生されません。終了「%2」は %3 の形式の時刻ではありません。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
-        <translation>プラン %1 は再生されません。開始「%2」と終了「%3」は %4 の形式の時刻ではありません。</translation>
+        <translation>計画 %1 は再生されません。開始「%2」と終了「%3」は %4 の形式の時刻ではありません。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its list is to run less than once.</source>
-        <translation>プラン %1 は再生されません。リストの再生回数が 1 回未満です。</translation>
+        <translation>計画 %1 は再生されません。リストの再生回数が 1 回未満です。</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>プラン %1 は再生されません。開始と終了が同じ %2 です。</translation>
+        <source>Plan %1 never plays: it starts and ends at %2.</source>
+        <translation>計画 %1 は再生されません。開始と終了が同じ %2 です。</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>プラン %1 は再生されません。%2 に始まり、それより前の %3 に終わります。</translation>
+        <source>Plan %1 never plays: it ends at %3, before it starts at %2.</source>
+        <translation>計画 %1 は再生されません。%2 に始まり、それより前の %3 に終わります。</translation>
     </message>
 </context>
 <context>
@@ -662,6 +694,25 @@ What shall become of your changes?</source>
     <message>
         <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
         <translation>「%1」という名前のタイムゾーンがシステムにないため、現地時刻がわかりません。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::widgets::TitleButton</name>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>元のサイズに戻す</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
     </message>
 </context>
 </TS>

@@ -8,8 +8,8 @@
         <translation>데모를 읽을 수 없습니다: %1: %2</translation>
     </message>
     <message>
-        <source>The demonstration&apos;s media could not be copied beside the database.</source>
-        <translation>데모 미디어를 데이터베이스 옆에 복사할 수 없습니다.</translation>
+        <source>The demonstration media could not be copied to the database folder.</source>
+        <translation>데모 미디어를 데이터베이스가 있는 폴더에 복사할 수 없습니다.</translation>
     </message>
 </context>
 <context>
@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>&amp;Read schedule from a file…</source>
-        <translation>파일에서 일정 읽기(&amp;R)…</translation>
+        <translation>파일에서 일정 불러오기(&amp;R)…</translation>
     </message>
     <message>
         <source>&amp;Write schedule to a file…</source>
@@ -63,7 +63,7 @@
         <translation>폴더 가져오기(&amp;F)…</translation>
     </message>
     <message>
-        <source>&amp;Remove from catalogue</source>
+        <source>&amp;Remove from catalog</source>
         <translation>목록에서 제거(&amp;R)</translation>
     </message>
     <message>
@@ -78,12 +78,20 @@
         <translation>지금과 다음</translation>
     </message>
     <message>
-        <source>Changes of the clocks</source>
-        <translation>시각 변경</translation>
+        <source>Clock changes</source>
+        <translation>서머타임 전환</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose Import.</source>
-        <translation>아직 프로그램이 없습니다. 미디어 파일이나 폴더를 여기에 끌어다 놓거나 가져오기를 선택하세요.</translation>
+        <source>&amp;Now and next</source>
+        <translation>지금과 다음(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Clock changes</source>
+        <translation>서머타임 전환(&amp;C)</translation>
+    </message>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>아직 프로그램이 없습니다. 미디어 파일이나 폴더를 여기에 끌어다 놓거나 ‘파일 가져오기’를 선택하세요.</translation>
     </message>
     <message>
         <source>Schedule editor</source>
@@ -123,14 +131,14 @@
     </message>
     <message>
         <source>Read a schedule from a file</source>
-        <translation>파일에서 일정 읽기</translation>
+        <translation>파일에서 일정 불러오기</translation>
     </message>
     <message>
         <source>%1 could not be read: %2</source>
         <translation>%1을(를) 읽을 수 없습니다: %2</translation>
     </message>
     <message numerus="yes">
-        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
             <numerusform>전체 일정을 이 파일의 작업 %n개로 바꾸시겠습니까?</numerusform>
         </translation>
@@ -144,7 +152,7 @@
         <translation>취소</translation>
     </message>
     <message numerus="yes">
-        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
             <numerusform>프로그램 %n개를 목록에서 제거하시겠습니까? 이를 사용하는 계획에서는 해당 항목이 무효로 표시됩니다. 파일은 그대로 남습니다.</numerusform>
         </translation>
@@ -162,12 +170,17 @@
         <translation>파일을 찾는 중: %1개</translation>
     </message>
     <message>
-        <source>The import was cancelled; nothing was taken in.</source>
+        <source>The import was canceled; nothing was imported.</source>
         <translation>가져오기가 취소되어 아무것도 가져오지 않았습니다.</translation>
     </message>
     <message>
         <source>Imported: %1 new, %2 updated.</source>
         <translation>가져오기 완료: 신규 %1개, 업데이트 %2개.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file and reason</comment>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more.</source>
@@ -192,7 +205,7 @@
         <translation>저장 안 함</translation>
     </message>
     <message>
-        <source>Stay</source>
+        <source>Keep editing</source>
         <translation>계속 편집</translation>
     </message>
 </context>
@@ -226,7 +239,7 @@
         <translation>기타</translation>
     </message>
     <message>
-        <source>The file has gone: %1</source>
+        <source>File not found: %1</source>
         <translation>파일이 없습니다: %1</translation>
     </message>
     <message>
@@ -255,7 +268,7 @@
     <message>
         <source>The schedule was not saved. %1
 
-What shall become of your changes?</source>
+What do you want to do with your changes?</source>
         <translation>일정을 저장하지 못했습니다. %1
 
 변경 내용을 어떻게 하시겠습니까?</translation>
@@ -269,7 +282,7 @@ What shall become of your changes?</source>
         <translation>파일로 저장</translation>
     </message>
     <message>
-        <source>Give up</source>
+        <source>Discard changes</source>
         <translation>변경 내용 버리기</translation>
     </message>
     <message>
@@ -284,56 +297,52 @@ What shall become of your changes?</source>
 <context>
     <name>ClockChangePanel</name>
     <message>
-        <source>Changes of the clocks</source>
-        <translation>시각 변경</translation>
+        <source>Clock changes</source>
+        <translation>서머타임 전환</translation>
     </message>
     <message>
-        <source>No change of the clocks falls on a day of any task.</source>
-        <translation>어느 작업의 날에도 시각 변경이 없습니다.</translation>
+        <source>No clock change falls within the validity of any task.</source>
+        <translation>작업의 유효 기간에 서머타임 전환이 없습니다.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 is left out;</source>
-        <translation>%1: %2–%3 은(는) 건너뜁니다.</translation>
+        <source>%1: %2–%3 is skipped; no plan of task %4 is affected.</source>
+        <translation>%1: %2~%3은(는) 건너뜁니다. 작업 %4의 계획에는 영향이 없습니다.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 comes twice;</source>
-        <translation>%1: %2–%3 은(는) 두 번 옵니다.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
+        <translation>%1: %2~%3은(는) 건너뜁니다. 작업 %5의 계획 %4은(는) 재생되지 않습니다.</translation>
     </message>
     <message>
-        <source>it touches no plan of task %1.</source>
-        <translation>작업 %1의 계획에는 영향이 없습니다.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 starts at %6 in the middle of its list.</source>
+        <translation>%1: %2~%3은(는) 건너뜁니다. 작업 %5의 계획 %4은(는) %6에 목록 중간부터 시작합니다.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 does not play.</source>
-        <translation>작업 %2의 계획 %1은(는) 재생되지 않습니다.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 is cut off at %6.</source>
+        <translation>%1: %2~%3은(는) 건너뜁니다. 작업 %5의 계획 %4은(는) %6에 끊깁니다.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
-        <translation>작업 %2의 계획 %1은(는) %3에 목록 중간부터 시작합니다.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
+        <translation>%1: %2~%3은(는) 건너뜁니다. 작업 %5의 계획 %4은(는) 목록의 이 부분을 건너뜁니다.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 is cut off at %3.</source>
-        <translation>작업 %2의 계획 %1은(는) %3에 끊깁니다.</translation>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1: %2~%3은(는) 두 번 있습니다. 작업 %4의 계획에는 영향이 없습니다.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 skips this part of its list.</source>
-        <translation>작업 %2의 계획 %1은(는) 목록의 이 부분을 건너뜁니다.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
+        <translation>%1: %2~%3은(는) 두 번 있습니다. 작업 %5의 계획 %4은(는) 두 번 재생됩니다.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 plays twice.</source>
-        <translation>작업 %2의 계획 %1은(는) 두 번 재생됩니다.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 starts twice at %6.</source>
+        <translation>%1: %2~%3은(는) 두 번 있습니다. 작업 %5의 계획 %4은(는) %6에 두 번 시작합니다.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts twice at %3.</source>
-        <translation>작업 %2의 계획 %1은(는) %3에 두 번 시작합니다.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 ends twice at %6.</source>
+        <translation>%1: %2~%3은(는) 두 번 있습니다. 작업 %5의 계획 %4은(는) %6에 두 번 끝납니다.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 ends twice at %3.</source>
-        <translation>작업 %2의 계획 %1은(는) %3에 두 번 끝납니다.</translation>
-    </message>
-    <message>
-        <source>plan %1 of task %2 repeats this part of its list.</source>
-        <translation>작업 %2의 계획 %1은(는) 목록의 이 부분을 반복합니다.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 repeats this part of its list.</source>
+        <translation>%1: %2~%3은(는) 두 번 있습니다. 작업 %5의 계획 %4은(는) 목록의 이 부분을 반복합니다.</translation>
     </message>
 </context>
 <context>
@@ -343,7 +352,11 @@ What shall become of your changes?</source>
         <translation>미리 보기</translation>
     </message>
     <message>
-        <source>&amp;Full screen preview</source>
+        <source>&amp;Preview</source>
+        <translation>미리 보기(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Full-screen preview</source>
         <translation>전체 화면 미리 보기(&amp;F)</translation>
     </message>
 </context>
@@ -389,7 +402,7 @@ What shall become of your changes?</source>
         <translation>표시 이유</translation>
     </message>
     <message>
-        <source>Program that comes next</source>
+        <source>Next program</source>
         <translation>다음 프로그램</translation>
     </message>
     <message>
@@ -409,7 +422,7 @@ What shall become of your changes?</source>
         <translation>%1, %2까지, %3 남음</translation>
     </message>
     <message>
-        <source>Nothing else comes.</source>
+        <source>Nothing else is scheduled.</source>
         <translation>이후에는 없습니다.</translation>
     </message>
     <message>
@@ -433,7 +446,7 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Frozen</source>
-        <translation>정지</translation>
+        <translation>마지막 화면</translation>
     </message>
     <message>
         <source>Last frame of %1</source>
@@ -452,27 +465,27 @@ What shall become of your changes?</source>
         <translation>작업 %1, 계획 %2</translation>
     </message>
     <message>
-        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
-        <translation>편집기의 시작 버튼이 저장된 일정을 적용합니다.</translation>
+        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
+        <translation>편집기에서 ‘시작’을 누르면 저장된 일정이 적용됩니다.</translation>
     </message>
     <message>
-        <source>No plan has had the screen up to now.</source>
-        <translation>지금까지 화면을 사용한 계획이 없습니다.</translation>
+        <source>No plan has started yet.</source>
+        <translation>아직 시작된 계획이 없습니다.</translation>
     </message>
     <message>
-        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
-        <translation>이 시각의 계획 중 작업 %2의 계획 %1이(가) 처음입니다.</translation>
+        <source>Plan %1 of task %2 is the first of the plans for this time.</source>
+        <translation>이 시각의 계획 중 작업 %2의 계획 %1이(가) 우선합니다.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
+        <source>Plan %1 of task %2 is due, but none of its programs can play.</source>
         <translation>작업 %2의 계획 %1 차례이지만 재생할 수 있는 프로그램이 없습니다.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
+        <source>Plan %1 of task %2 is due, but its list is to run less than once.</source>
         <translation>작업 %2의 계획 %1 차례이지만 목록의 재생 횟수가 1회 미만입니다.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has played its list as often as it should.</source>
+        <source>Plan %1 of task %2 has played its list the set number of times.</source>
         <translation>작업 %2의 계획 %1은(는) 목록을 정해진 횟수만큼 재생했습니다.</translation>
     </message>
     <message>
@@ -480,11 +493,11 @@ What shall become of your changes?</source>
         <translation>작업 %2의 계획 %1이(가) 끝났고 다른 계획은 시작되지 않았습니다.</translation>
     </message>
     <message>
-        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <source>Cut in manually in place of plan %1 of task %2.</source>
         <translation>작업 %2의 계획 %1 대신 수동으로 삽입되었습니다.</translation>
     </message>
     <message>
-        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <source>What was cut in for plan %1 of task %2 has nothing left to play.</source>
         <translation>작업 %2의 계획 %1 대신 삽입된 내용은 더 재생할 것이 없습니다.</translation>
     </message>
     <message>
@@ -492,14 +505,19 @@ What shall become of your changes?</source>
         <translation>삽입: %1</translation>
     </message>
     <message>
-        <source>Before: %1</source>
+        <source>Original list: %1</source>
         <translation>이전: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between programs</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>Week</name>
     <message>
-        <source>On screen: %1, %2 into it</source>
+        <source>On screen: %1, at %2</source>
         <translation>화면: %1, %2 경과</translation>
     </message>
     <message>
@@ -507,26 +525,31 @@ What shall become of your changes?</source>
         <translation>화면: %1</translation>
     </message>
     <message>
-        <source>%1 to %2 is left out: the clocks go forward.</source>
-        <translation>%1~%2은(는) 건너뜁니다: 시계를 앞당깁니다.</translation>
+        <source>%1, %2</source>
+        <comment>day and time of day</comment>
+        <translation>%1 %2</translation>
     </message>
     <message>
-        <source>%1 to %2 comes twice: the clocks go back.</source>
-        <translation>%1~%2은(는) 두 번 옵니다: 시계를 늦춥니다.</translation>
+        <source>%1 to %2 is skipped: the clocks go forward.</source>
+        <translation>%1~%2은(는) 건너뜁니다. 시계를 앞당깁니다.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 occurs twice: the clocks go back.</source>
+        <translation>%1~%2은(는) 두 번 있습니다. 시계를 되돌립니다.</translation>
     </message>
     <message numerus="yes">
-        <source>%n more plans are kept from the screen.</source>
+        <source>%n more plans do not reach the screen.</source>
         <translation>
             <numerusform>다른 계획 %n개가 화면에 나오지 않습니다.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Plan %1 stands above it and has the screen instead.</source>
-        <translation>위에 있는 계획 %1이(가) 대신 화면을 씁니다.</translation>
+        <source>Plan %1, above it, takes precedence.</source>
+        <translation>위에 있는 계획 %1이(가) 우선합니다.</translation>
     </message>
     <message>
-        <source>It collides with a plan above it.</source>
-        <translation>위의 계획과 겹칩니다.</translation>
+        <source>It conflicts with a plan above it.</source>
+        <translation>위의 계획과 충돌합니다.</translation>
     </message>
     <message>
         <source>Its list is over at %1, before the plan ends.</source>
@@ -537,8 +560,13 @@ What shall become of your changes?</source>
         <translation>계획 %1, %2~%3</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <comment>plan and its programs</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
         <source>No task is valid on this day.</source>
-        <translation>이 날에 유효한 작업이 없습니다.</translation>
+        <translation>이날 유효한 작업이 없습니다.</translation>
     </message>
     <message>
         <source>No task is valid</source>
@@ -554,23 +582,23 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Frozen: %1</source>
-        <translation>정지: %1</translation>
+        <translation>마지막 화면: %1</translation>
     </message>
     <message>
         <source>Cut in: %1</source>
         <translation>삽입: %1</translation>
     </message>
     <message>
-        <source>Left out: clocks go forward</source>
-        <translation>없음: 시계 앞당김</translation>
+        <source>Skipped</source>
+        <translation>건너뜀: 시계 앞당김</translation>
     </message>
     <message>
-        <source>Comes twice: clocks go back</source>
+        <source>Repeated</source>
         <translation>두 번: 시계 늦춤</translation>
     </message>
     <message>
         <source>nothing to show</source>
-        <translation>보여 줄 것 없음</translation>
+        <translation>표시할 내용 없음</translation>
     </message>
 </context>
 <context>
@@ -578,6 +606,10 @@ What shall become of your changes?</source>
     <message>
         <source>Week</source>
         <translation>주</translation>
+    </message>
+    <message>
+        <source>&amp;Week</source>
+        <translation>주(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -606,23 +638,23 @@ What shall become of your changes?</source>
         <translation>적용 중</translation>
     </message>
     <message>
-        <source>Week before</source>
+        <source>Previous week</source>
         <translation>이전 주</translation>
     </message>
     <message>
-        <source>Week after</source>
+        <source>Next week</source>
         <translation>다음 주</translation>
     </message>
     <message>
-        <source>Hours less high</source>
-        <translation>시간 낮게</translation>
+        <source>Zoom out</source>
+        <translation>축소</translation>
     </message>
     <message>
-        <source>Hours higher</source>
-        <translation>시간 높게</translation>
+        <source>Zoom in</source>
+        <translation>확대</translation>
     </message>
     <message>
-        <source>Which schedule is shown</source>
+        <source>Schedule shown</source>
         <translation>표시할 일정</translation>
     </message>
 </context>
@@ -630,38 +662,57 @@ What shall become of your changes?</source>
     <name>PlanFaultText</name>
     <message>
         <source>Plan %1 never plays: none of its days is a day of the week.</source>
-        <translation>계획 %1은(는) 재생되지 않습니다: 지정된 날 중 요일인 것이 없습니다.</translation>
+        <translation>계획 %1은(는) 재생되지 않습니다. 지정된 날 중 요일인 것이 없습니다.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
-        <translation>계획 %1은(는) 재생되지 않습니다: 시작 “%2”은(는) %3 형식의 시각이 아닙니다.</translation>
+        <translation>계획 %1은(는) 재생되지 않습니다. 시작 ‘%2’은(는) %3 형식의 시각이 아닙니다.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
-        <translation>계획 %1은(는) 재생되지 않습니다: 끝 “%2”은(는) %3 형식의 시각이 아닙니다.</translation>
+        <translation>계획 %1은(는) 재생되지 않습니다. 끝 ‘%2’은(는) %3 형식의 시각이 아닙니다.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
-        <translation>계획 %1은(는) 재생되지 않습니다: 시작 “%2”과(와) 끝 “%3”은(는) %4 형식의 시각이 아닙니다.</translation>
+        <translation>계획 %1은(는) 재생되지 않습니다. 시작 ‘%2’와(과) 끝 ‘%3’은(는) %4 형식의 시각이 아닙니다.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its list is to run less than once.</source>
-        <translation>계획 %1은(는) 재생되지 않습니다: 목록의 재생 횟수가 1회 미만입니다.</translation>
+        <translation>계획 %1은(는) 재생되지 않습니다. 목록의 재생 횟수가 1회 미만입니다.</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>계획 %1은(는) 재생되지 않습니다: 시작과 끝이 %2로 같습니다.</translation>
+        <source>Plan %1 never plays: it starts and ends at %2.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다. 시작과 끝이 %2(으)로 같습니다.</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>계획 %1은(는) 재생되지 않습니다: %2에 시작하고 그보다 앞선 %3에 끝납니다.</translation>
+        <source>Plan %1 never plays: it ends at %3, before it starts at %2.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다. %2에 시작하고 그보다 앞선 %3에 끝납니다.</translation>
     </message>
 </context>
 <context>
     <name>ZoneError</name>
     <message>
         <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
-        <translation>시스템에 “%1”(이)라는 시간대가 없어 현지 시각을 알 수 없습니다.</translation>
+        <translation>시스템에 ‘%1’(이)라는 시간대가 없어 현지 시각을 알 수 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::widgets::TitleButton</name>
+    <message>
+        <source>Minimize</source>
+        <translation>최소화</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>최대화</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>이전 크기로 복원</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
     </message>
 </context>
 </TS>

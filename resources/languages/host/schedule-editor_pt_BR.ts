@@ -8,8 +8,8 @@
         <translation>Não foi possível ler a demonstração: %1: %2</translation>
     </message>
     <message>
-        <source>The demonstration&apos;s media could not be copied beside the database.</source>
-        <translation>Não foi possível copiar as mídias da demonstração para junto do banco de dados.</translation>
+        <source>The demonstration media could not be copied to the database folder.</source>
+        <translation>Não foi possível copiar as mídias da demonstração para a pasta do banco de dados.</translation>
     </message>
 </context>
 <context>
@@ -63,7 +63,7 @@
         <translation>Importar &amp;pasta…</translation>
     </message>
     <message>
-        <source>&amp;Remove from catalogue</source>
+        <source>&amp;Remove from catalog</source>
         <translation>&amp;Remover do catálogo</translation>
     </message>
     <message>
@@ -75,19 +75,27 @@
     <name>EditorWindow</name>
     <message>
         <source>Now and next</source>
-        <translation>Agora e depois</translation>
+        <translation>Agora e a seguir</translation>
     </message>
     <message>
-        <source>Changes of the clocks</source>
+        <source>Clock changes</source>
         <translation>Mudanças de horário</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose Import.</source>
-        <translation>Ainda não há programas. Arraste arquivos de mídia ou pastas para cá ou escolha “Importar”.</translation>
+        <source>&amp;Now and next</source>
+        <translation>&amp;Agora e a seguir</translation>
+    </message>
+    <message>
+        <source>&amp;Clock changes</source>
+        <translation>Mudanças de &amp;horário</translation>
+    </message>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>Ainda não há programas. Arraste arquivos de mídia ou pastas para cá ou escolha “Importar arquivos”.</translation>
     </message>
     <message>
         <source>Schedule editor</source>
-        <translation>Editor de programação</translation>
+        <translation>Editor da programação</translation>
     </message>
     <message>
         <source>%1 – Schedule editor</source>
@@ -130,7 +138,7 @@
         <translation>Não foi possível ler %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
             <numerusform>Este arquivo contém %n tarefa. Substituir toda a programação?</numerusform>
             <numerusform>Este arquivo contém %n tarefas. Substituir toda a programação?</numerusform>
@@ -145,7 +153,7 @@
         <translation>Cancelar</translation>
     </message>
     <message numerus="yes">
-        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
             <numerusform>Remover este programa do catálogo? Os planos que o utilizam mostrarão as entradas dele como inválidas. O arquivo é mantido.</numerusform>
             <numerusform>Remover %n programas do catálogo? Os planos que os utilizam mostrarão as entradas deles como inválidas. Os arquivos são mantidos.</numerusform>
@@ -164,12 +172,17 @@
         <translation>Procurando arquivos: %1 encontrados</translation>
     </message>
     <message>
-        <source>The import was cancelled; nothing was taken in.</source>
+        <source>The import was canceled; nothing was imported.</source>
         <translation>A importação foi cancelada; nada foi adicionado.</translation>
     </message>
     <message>
         <source>Imported: %1 new, %2 updated.</source>
         <translation>Importação concluída: %1 novos, %2 atualizados.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file and reason</comment>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more.</source>
@@ -195,7 +208,7 @@
         <translation>Descartar</translation>
     </message>
     <message>
-        <source>Stay</source>
+        <source>Keep editing</source>
         <translation>Continuar editando</translation>
     </message>
 </context>
@@ -229,7 +242,7 @@
         <translation>Outro</translation>
     </message>
     <message>
-        <source>The file has gone: %1</source>
+        <source>File not found: %1</source>
         <translation>O arquivo não existe mais: %1</translation>
     </message>
     <message>
@@ -258,7 +271,7 @@
     <message>
         <source>The schedule was not saved. %1
 
-What shall become of your changes?</source>
+What do you want to do with your changes?</source>
         <translation>A programação não foi salva. %1
 
 O que deseja fazer com as alterações?</translation>
@@ -272,7 +285,7 @@ O que deseja fazer com as alterações?</translation>
         <translation>Gravar em um arquivo</translation>
     </message>
     <message>
-        <source>Give up</source>
+        <source>Discard changes</source>
         <translation>Descartar</translation>
     </message>
     <message>
@@ -287,56 +300,52 @@ O que deseja fazer com as alterações?</translation>
 <context>
     <name>ClockChangePanel</name>
     <message>
-        <source>Changes of the clocks</source>
+        <source>Clock changes</source>
         <translation>Mudanças de horário</translation>
     </message>
     <message>
-        <source>No change of the clocks falls on a day of any task.</source>
-        <translation>Nenhuma mudança de horário cai em um dia de uma tarefa.</translation>
+        <source>No clock change falls within the validity of any task.</source>
+        <translation>Nenhuma mudança de horário ocorre dentro da validade de uma tarefa.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 is left out;</source>
-        <translation>%1: %2–%3 não existe;</translation>
+        <source>%1: %2–%3 is skipped; no plan of task %4 is affected.</source>
+        <translation>%1: %2–%3 não existe; nenhum plano da tarefa %4 é afetado.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 comes twice;</source>
-        <translation>%1: %2–%3 ocorre duas vezes;</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
+        <translation>%1: %2–%3 não existe; o plano %4 da tarefa %5 não é exibido.</translation>
     </message>
     <message>
-        <source>it touches no plan of task %1.</source>
-        <translation>nenhum plano da tarefa %1 é afetado.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 starts at %6 in the middle of its list.</source>
+        <translation>%1: %2–%3 não existe; o plano %4 da tarefa %5 começa às %6 no meio da lista.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 does not play.</source>
-        <translation>o plano %1 da tarefa %2 não é reproduzido.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 is cut off at %6.</source>
+        <translation>%1: %2–%3 não existe; o plano %4 da tarefa %5 é cortado às %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
-        <translation>o plano %1 da tarefa %2 começa às %3 no meio da lista.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
+        <translation>%1: %2–%3 não existe; o plano %4 da tarefa %5 pula esta parte da lista.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 is cut off at %3.</source>
-        <translation>o plano %1 da tarefa %2 é cortado às %3.</translation>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1: %2–%3 ocorre duas vezes; nenhum plano da tarefa %4 é afetado.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 skips this part of its list.</source>
-        <translation>o plano %1 da tarefa %2 pula esta parte da lista.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
+        <translation>%1: %2–%3 ocorre duas vezes; o plano %4 da tarefa %5 é exibido duas vezes.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 plays twice.</source>
-        <translation>o plano %1 da tarefa %2 é reproduzido duas vezes.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 starts twice at %6.</source>
+        <translation>%1: %2–%3 ocorre duas vezes; o plano %4 da tarefa %5 começa duas vezes às %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts twice at %3.</source>
-        <translation>o plano %1 da tarefa %2 começa duas vezes às %3.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 ends twice at %6.</source>
+        <translation>%1: %2–%3 ocorre duas vezes; o plano %4 da tarefa %5 termina duas vezes às %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 ends twice at %3.</source>
-        <translation>o plano %1 da tarefa %2 termina duas vezes às %3.</translation>
-    </message>
-    <message>
-        <source>plan %1 of task %2 repeats this part of its list.</source>
-        <translation>o plano %1 da tarefa %2 repete esta parte da lista.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 repeats this part of its list.</source>
+        <translation>%1: %2–%3 ocorre duas vezes; o plano %4 da tarefa %5 repete esta parte da lista.</translation>
     </message>
 </context>
 <context>
@@ -346,7 +355,11 @@ O que deseja fazer com as alterações?</translation>
         <translation>Pré-visualização</translation>
     </message>
     <message>
-        <source>&amp;Full screen preview</source>
+        <source>&amp;Preview</source>
+        <translation>&amp;Pré-visualização</translation>
+    </message>
+    <message>
+        <source>&amp;Full-screen preview</source>
         <translation>Pré-visualização em &amp;tela cheia</translation>
     </message>
 </context>
@@ -365,7 +378,7 @@ O que deseja fazer com as alterações?</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation>Depois</translation>
+        <translation>A seguir</translation>
     </message>
     <message>
         <source>Cut in</source>
@@ -373,11 +386,11 @@ O que deseja fazer com as alterações?</translation>
     </message>
     <message>
         <source>Now and next</source>
-        <translation>Agora e depois</translation>
+        <translation>Agora e a seguir</translation>
     </message>
     <message>
         <source>What the screen shows</source>
-        <translation>O que a tela mostra</translation>
+        <translation>Conteúdo da tela</translation>
     </message>
     <message>
         <source>Program on screen</source>
@@ -392,28 +405,28 @@ O que deseja fazer com as alterações?</translation>
         <translation>Por que isto está na tela</translation>
     </message>
     <message>
-        <source>Program that comes next</source>
-        <translation>Programa que vem depois</translation>
+        <source>Next program</source>
+        <translation>Próximo programa</translation>
     </message>
     <message>
         <source>Not started</source>
-        <translation>Não iniciado</translation>
+        <translation>Não iniciada</translation>
     </message>
     <message>
         <source>%1 played</source>
-        <translation>%1 reproduzido</translation>
+        <translation>%1 exibido</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation>resta %1</translation>
+        <translation>restam %1</translation>
     </message>
     <message>
         <source>%1, until %2, %3 left</source>
-        <translation>%1, até %2, resta %3</translation>
+        <translation>%1, até as %2, restam %3</translation>
     </message>
     <message>
-        <source>Nothing else comes.</source>
-        <translation>Nada mais vem.</translation>
+        <source>Nothing else is scheduled.</source>
+        <translation>Não há mais nada programado.</translation>
     </message>
     <message>
         <source>at %1, in %2</source>
@@ -428,7 +441,7 @@ O que deseja fazer com as alterações?</translation>
     <name>ScreenWords</name>
     <message>
         <source>Playing</source>
-        <translation>Reproduzindo</translation>
+        <translation>Em exibição</translation>
     </message>
     <message>
         <source>Black</source>
@@ -448,61 +461,66 @@ O que deseja fazer com as alterações?</translation>
     </message>
     <message>
         <source>Entry %1 of %2, play %3 of %4</source>
-        <translation>Entrada %1 de %2, reprodução %3 de %4</translation>
+        <translation>Entrada %1 de %2, exibição %3 de %4</translation>
     </message>
     <message>
         <source>Task %1, plan %2</source>
         <translation>Tarefa %1, plano %2</translation>
     </message>
     <message>
-        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
-        <translation>O botão de início do editor põe em vigor a programação salva.</translation>
+        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
+        <translation>O botão “Iniciar” do editor põe em vigor a programação salva.</translation>
     </message>
     <message>
-        <source>No plan has had the screen up to now.</source>
-        <translation>Até agora nenhum plano teve a tela.</translation>
+        <source>No plan has started yet.</source>
+        <translation>Nenhum plano começou até agora.</translation>
     </message>
     <message>
-        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
-        <translation>Dos planos para esta hora, o plano %1 da tarefa %2 vem primeiro.</translation>
+        <source>Plan %1 of task %2 is the first of the plans for this time.</source>
+        <translation>Entre os planos deste horário, o plano %1 da tarefa %2 vem primeiro.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
-        <translation>O plano %1 da tarefa %2 tem a tela, mas nenhum programa pode ser reproduzido.</translation>
+        <source>Plan %1 of task %2 is due, but none of its programs can play.</source>
+        <translation>É a vez do plano %1 da tarefa %2, mas nenhum de seus programas pode ser exibido.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
-        <translation>O plano %1 da tarefa %2 tem a tela, mas sua lista deve ser reproduzida menos de uma vez.</translation>
+        <source>Plan %1 of task %2 is due, but its list is to run less than once.</source>
+        <translation>É a vez do plano %1 da tarefa %2, mas sua lista deve ser exibida menos de uma vez.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has played its list as often as it should.</source>
-        <translation>O plano %1 da tarefa %2 já reproduziu sua lista as vezes previstas.</translation>
+        <source>Plan %1 of task %2 has played its list the set number of times.</source>
+        <translation>O plano %1 da tarefa %2 já exibiu sua lista o número de vezes previsto.</translation>
     </message>
     <message>
         <source>Plan %1 of task %2 is over, and no other has begun.</source>
         <translation>O plano %1 da tarefa %2 terminou, e nenhum outro começou.</translation>
     </message>
     <message>
-        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
-        <translation>Inserido à mão, no lugar do plano %1 da tarefa %2.</translation>
+        <source>Cut in manually in place of plan %1 of task %2.</source>
+        <translation>Inserido manualmente no lugar do plano %1 da tarefa %2.</translation>
     </message>
     <message>
-        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
-        <translation>O que foi inserido no lugar do plano %1 da tarefa %2 não tem mais nada a reproduzir.</translation>
+        <source>What was cut in for plan %1 of task %2 has nothing left to play.</source>
+        <translation>A inserção no lugar do plano %1 da tarefa %2 não tem mais nada a exibir.</translation>
     </message>
     <message>
         <source>Cut in: %1</source>
         <translation>Inserido: %1</translation>
     </message>
     <message>
-        <source>Before: %1</source>
+        <source>Original list: %1</source>
         <translation>Antes: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between programs</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>Week</name>
     <message>
-        <source>On screen: %1, %2 into it</source>
+        <source>On screen: %1, at %2</source>
         <translation>Na tela: %1, em %2</translation>
     </message>
     <message>
@@ -510,26 +528,31 @@ O que deseja fazer com as alterações?</translation>
         <translation>Na tela: %1</translation>
     </message>
     <message>
-        <source>%1 to %2 is left out: the clocks go forward.</source>
-        <translation>De %1 a %2 não existe: os relógios são adiantados.</translation>
+        <source>%1, %2</source>
+        <comment>day and time of day</comment>
+        <translation>%1, %2</translation>
     </message>
     <message>
-        <source>%1 to %2 comes twice: the clocks go back.</source>
-        <translation>De %1 a %2 ocorre duas vezes: os relógios são atrasados.</translation>
+        <source>%1 to %2 is skipped: the clocks go forward.</source>
+        <translation>O intervalo de %1 a %2 não existe: os relógios são adiantados.</translation>
+    </message>
+    <message>
+        <source>%1 to %2 occurs twice: the clocks go back.</source>
+        <translation>O intervalo de %1 a %2 ocorre duas vezes: os relógios são atrasados.</translation>
     </message>
     <message numerus="yes">
-        <source>%n more plans are kept from the screen.</source>
+        <source>%n more plans do not reach the screen.</source>
         <translation>
-            <numerusform>Mais %n plano não obtém a tela.</numerusform>
-            <numerusform>Mais %n planos não obtêm a tela.</numerusform>
+            <numerusform>Mais %n plano não aparece na tela.</numerusform>
+            <numerusform>Mais %n planos não aparecem na tela.</numerusform>
         </translation>
     </message>
     <message>
-        <source>Plan %1 stands above it and has the screen instead.</source>
-        <translation>O plano %1 está acima e tem a tela em seu lugar.</translation>
+        <source>Plan %1, above it, takes precedence.</source>
+        <translation>O plano %1 está acima e tem prioridade.</translation>
     </message>
     <message>
-        <source>It collides with a plan above it.</source>
+        <source>It conflicts with a plan above it.</source>
         <translation>Conflita com um plano acima.</translation>
     </message>
     <message>
@@ -541,12 +564,17 @@ O que deseja fazer com as alterações?</translation>
         <translation>Plano %1, %2 a %3</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <comment>plan and its programs</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
         <source>No task is valid on this day.</source>
         <translation>Nenhuma tarefa vale neste dia.</translation>
     </message>
     <message>
         <source>No task is valid</source>
-        <translation>Nenhuma tarefa válida</translation>
+        <translation>Sem tarefa</translation>
     </message>
     <message>
         <source>No task</source>
@@ -565,12 +593,12 @@ O que deseja fazer com as alterações?</translation>
         <translation>Inserido: %1</translation>
     </message>
     <message>
-        <source>Left out: clocks go forward</source>
-        <translation>Não existe: adianta-se a hora</translation>
+        <source>Skipped</source>
+        <translation>Não existe</translation>
     </message>
     <message>
-        <source>Comes twice: clocks go back</source>
-        <translation>Duas vezes: atrasa-se a hora</translation>
+        <source>Repeated</source>
+        <translation>Duas vezes</translation>
     </message>
     <message>
         <source>nothing to show</source>
@@ -582,6 +610,10 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>Week</source>
         <translation>Semana</translation>
+    </message>
+    <message>
+        <source>&amp;Week</source>
+        <translation>&amp;Semana</translation>
     </message>
 </context>
 <context>
@@ -610,23 +642,23 @@ O que deseja fazer com as alterações?</translation>
         <translation>Em vigor</translation>
     </message>
     <message>
-        <source>Week before</source>
+        <source>Previous week</source>
         <translation>Semana anterior</translation>
     </message>
     <message>
-        <source>Week after</source>
+        <source>Next week</source>
         <translation>Semana seguinte</translation>
     </message>
     <message>
-        <source>Hours less high</source>
-        <translation>Horas mais baixas</translation>
+        <source>Zoom out</source>
+        <translation>Reduzir</translation>
     </message>
     <message>
-        <source>Hours higher</source>
-        <translation>Horas mais altas</translation>
+        <source>Zoom in</source>
+        <translation>Ampliar</translation>
     </message>
     <message>
-        <source>Which schedule is shown</source>
+        <source>Schedule shown</source>
         <translation>Qual programação é mostrada</translation>
     </message>
 </context>
@@ -634,31 +666,31 @@ O que deseja fazer com as alterações?</translation>
     <name>PlanFaultText</name>
     <message>
         <source>Plan %1 never plays: none of its days is a day of the week.</source>
-        <translation>O plano %1 nunca é reproduzido: nenhum dos seus dias é um dia da semana.</translation>
+        <translation>O plano %1 nunca é exibido: nenhum dos seus dias é um dia da semana.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
-        <translation>O plano %1 nunca é reproduzido: seu início, “%2”, não é uma hora no formato %3.</translation>
+        <translation>O plano %1 nunca é exibido: seu início, “%2”, não é um horário no formato %3.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
-        <translation>O plano %1 nunca é reproduzido: seu fim, “%2”, não é uma hora no formato %3.</translation>
+        <translation>O plano %1 nunca é exibido: seu fim, “%2”, não é um horário no formato %3.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
-        <translation>O plano %1 nunca é reproduzido: seu início, “%2”, e seu fim, “%3”, não são horas no formato %4.</translation>
+        <translation>O plano %1 nunca é exibido: seu início, “%2”, e seu fim, “%3”, não são horários no formato %4.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its list is to run less than once.</source>
-        <translation>O plano %1 nunca é reproduzido: sua lista deve ser reproduzida menos de uma vez.</translation>
+        <translation>O plano %1 nunca é exibido: sua lista deve ser exibida menos de uma vez.</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>O plano %1 nunca é reproduzido: termina ao começar, às %2.</translation>
+        <source>Plan %1 never plays: it starts and ends at %2.</source>
+        <translation>O plano %1 nunca é exibido: começa e termina às %2.</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>O plano %1 nunca é reproduzido: começa às %2 e termina antes, às %3.</translation>
+        <source>Plan %1 never plays: it ends at %3, before it starts at %2.</source>
+        <translation>O plano %1 nunca é exibido: começa às %2 e termina antes, às %3.</translation>
     </message>
 </context>
 <context>
@@ -666,6 +698,25 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
         <translation>O sistema não conhece nenhum fuso horário chamado “%1”; por isso a hora local não é conhecida.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::widgets::TitleButton</name>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimizar</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximizar</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
     </message>
 </context>
 </TS>

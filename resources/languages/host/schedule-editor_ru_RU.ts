@@ -5,11 +5,11 @@
     <name>Demonstration</name>
     <message>
         <source>The demonstration could not be read: %1: %2</source>
-        <translation>Не удалось прочитать демонстрацию: %1: %2</translation>
+        <translation>Не удалось прочитать демонстрационное расписание: %1: %2</translation>
     </message>
     <message>
-        <source>The demonstration&apos;s media could not be copied beside the database.</source>
-        <translation>Не удалось скопировать медиафайлы демонстрации в папку базы данных.</translation>
+        <source>The demonstration media could not be copied to the database folder.</source>
+        <translation>Не удалось скопировать демонстрационные медиафайлы в папку базы данных.</translation>
     </message>
 </context>
 <context>
@@ -28,11 +28,11 @@
     </message>
     <message>
         <source>&amp;Read schedule from a file…</source>
-        <translation>&amp;Прочитать расписание из файла…</translation>
+        <translation>&amp;Загрузить расписание из файла…</translation>
     </message>
     <message>
         <source>&amp;Write schedule to a file…</source>
-        <translation>&amp;Записать расписание в файл…</translation>
+        <translation>&amp;Сохранить расписание в файл…</translation>
     </message>
     <message>
         <source>&amp;View</source>
@@ -63,7 +63,7 @@
         <translation>Импорт &amp;папки…</translation>
     </message>
     <message>
-        <source>&amp;Remove from catalogue</source>
+        <source>&amp;Remove from catalog</source>
         <translation>&amp;Удалить из каталога</translation>
     </message>
     <message>
@@ -78,12 +78,20 @@
         <translation>Сейчас и далее</translation>
     </message>
     <message>
-        <source>Changes of the clocks</source>
+        <source>Clock changes</source>
         <translation>Переводы часов</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose Import.</source>
-        <translation>Программ пока нет. Перетащите сюда медиафайлы или папки либо выберите «Импорт».</translation>
+        <source>&amp;Now and next</source>
+        <translation>Се&amp;йчас и далее</translation>
+    </message>
+    <message>
+        <source>&amp;Clock changes</source>
+        <translation>Переводы &amp;часов</translation>
+    </message>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>Программ пока нет. Перетащите сюда медиафайлы или папки либо выберите «Импорт файлов».</translation>
     </message>
     <message>
         <source>Schedule editor</source>
@@ -91,7 +99,7 @@
     </message>
     <message>
         <source>%1 – Schedule editor</source>
-        <translation>%1 – Редактор расписания</translation>
+        <translation>%1 — Редактор расписания</translation>
     </message>
     <message>
         <source>Open database</source>
@@ -111,7 +119,7 @@
     </message>
     <message>
         <source>Write the schedule to a file</source>
-        <translation>Запись расписания в файл</translation>
+        <translation>Сохранение расписания в файл</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
@@ -119,18 +127,18 @@
     </message>
     <message>
         <source>Written to %1.</source>
-        <translation>Записано в файл %1.</translation>
+        <translation>Сохранено в файл %1.</translation>
     </message>
     <message>
         <source>Read a schedule from a file</source>
-        <translation>Чтение расписания из файла</translation>
+        <translation>Загрузка расписания из файла</translation>
     </message>
     <message>
         <source>%1 could not be read: %2</source>
         <translation>Не удалось прочитать %1: %2</translation>
     </message>
     <message numerus="yes">
-        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
             <numerusform>В этом файле %n задание. Заменить всё расписание?</numerusform>
             <numerusform>В этом файле %n задания. Заменить всё расписание?</numerusform>
@@ -146,9 +154,9 @@
         <translation>Отмена</translation>
     </message>
     <message numerus="yes">
-        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
-            <numerusform>Удалить %n программу из каталога? В использующих её планах она будет отмечена как недействительная. Файлы останутся на месте.</numerusform>
+            <numerusform>Удалить %n программу из каталога? Соответствующие записи в планах будут отмечены как недействительные. Файлы не удаляются.</numerusform>
             <numerusform>Удалить %n программы из каталога? В использующих их планах они будут отмечены как недействительные. Файлы останутся на месте.</numerusform>
             <numerusform>Удалить %n программ из каталога? В использующих их планах они будут отмечены как недействительные. Файлы останутся на месте.</numerusform>
         </translation>
@@ -166,12 +174,17 @@
         <translation>Поиск файлов: найдено %1</translation>
     </message>
     <message>
-        <source>The import was cancelled; nothing was taken in.</source>
+        <source>The import was canceled; nothing was imported.</source>
         <translation>Импорт отменён, ничего не добавлено.</translation>
     </message>
     <message>
         <source>Imported: %1 new, %2 updated.</source>
         <translation>Импорт завершён: добавлено %1, обновлено %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file and reason</comment>
+        <translation>%1: %2</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more.</source>
@@ -198,8 +211,8 @@
         <translation>Не сохранять</translation>
     </message>
     <message>
-        <source>Stay</source>
-        <translation>Продолжить</translation>
+        <source>Keep editing</source>
+        <translation>Продолжить правку</translation>
     </message>
 </context>
 <context>
@@ -225,14 +238,14 @@
     </message>
     <message>
         <source>Live</source>
-        <translation>Эфир</translation>
+        <translation>Прямой эфир</translation>
     </message>
     <message>
         <source>Other</source>
         <translation>Другое</translation>
     </message>
     <message>
-        <source>The file has gone: %1</source>
+        <source>File not found: %1</source>
         <translation>Файл больше не существует: %1</translation>
     </message>
     <message>
@@ -261,7 +274,7 @@
     <message>
         <source>The schedule was not saved. %1
 
-What shall become of your changes?</source>
+What do you want to do with your changes?</source>
         <translation>Расписание не сохранено. %1
 
 Что сделать с вашими изменениями?</translation>
@@ -272,15 +285,15 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Write to a file</source>
-        <translation>Записать в файл</translation>
+        <translation>Сохранить в файл</translation>
     </message>
     <message>
-        <source>Give up</source>
-        <translation>Отказаться</translation>
+        <source>Discard changes</source>
+        <translation>Не сохранять</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
-        <translation>Запись расписания в файл</translation>
+        <translation>Сохранение расписания в файл</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
@@ -290,56 +303,52 @@ What shall become of your changes?</source>
 <context>
     <name>ClockChangePanel</name>
     <message>
-        <source>Changes of the clocks</source>
+        <source>Clock changes</source>
         <translation>Переводы часов</translation>
     </message>
     <message>
-        <source>No change of the clocks falls on a day of any task.</source>
-        <translation>Ни на один день задания не приходится перевод часов.</translation>
+        <source>No clock change falls within the validity of any task.</source>
+        <translation>На сроки действия заданий переводы часов не приходятся.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 is left out;</source>
-        <translation>%1: %2–%3 пропускается;</translation>
+        <source>%1: %2–%3 is skipped; no plan of task %4 is affected.</source>
+        <translation>%1: %2–%3 пропускается; планы задания %4 не затронуты.</translation>
     </message>
     <message>
-        <source>%1: %2–%3 comes twice;</source>
-        <translation>%1: %2–%3 наступает дважды;</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
+        <translation>%1: %2–%3 пропускается; план %4 задания %5 не показывается.</translation>
     </message>
     <message>
-        <source>it touches no plan of task %1.</source>
-        <translation>планы задания %1 не затронуты.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 starts at %6 in the middle of its list.</source>
+        <translation>%1: %2–%3 пропускается; план %4 задания %5 начинается в %6 с середины списка.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 does not play.</source>
-        <translation>план %1 задания %2 не воспроизводится.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 is cut off at %6.</source>
+        <translation>%1: %2–%3 пропускается; план %4 задания %5 обрывается в %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
-        <translation>план %1 задания %2 начинается в %3 с середины списка.</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
+        <translation>%1: %2–%3 пропускается; план %4 задания %5 пропускает эту часть списка.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 is cut off at %3.</source>
-        <translation>план %1 задания %2 обрывается в %3.</translation>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1: %2–%3 наступает дважды; планы задания %4 не затронуты.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 skips this part of its list.</source>
-        <translation>план %1 задания %2 пропускает эту часть списка.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
+        <translation>%1: %2–%3 наступает дважды; план %4 задания %5 показывается дважды.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 plays twice.</source>
-        <translation>план %1 задания %2 воспроизводится дважды.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 starts twice at %6.</source>
+        <translation>%1: %2–%3 наступает дважды; план %4 задания %5 начинается дважды в %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts twice at %3.</source>
-        <translation>план %1 задания %2 начинается дважды в %3.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 ends twice at %6.</source>
+        <translation>%1: %2–%3 наступает дважды; план %4 задания %5 заканчивается дважды в %6.</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 ends twice at %3.</source>
-        <translation>план %1 задания %2 заканчивается дважды в %3.</translation>
-    </message>
-    <message>
-        <source>plan %1 of task %2 repeats this part of its list.</source>
-        <translation>план %1 задания %2 повторяет эту часть списка.</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 repeats this part of its list.</source>
+        <translation>%1: %2–%3 наступает дважды; план %4 задания %5 повторяет эту часть списка.</translation>
     </message>
 </context>
 <context>
@@ -349,7 +358,11 @@ What shall become of your changes?</source>
         <translation>Предпросмотр</translation>
     </message>
     <message>
-        <source>&amp;Full screen preview</source>
+        <source>&amp;Preview</source>
+        <translation>&amp;Предпросмотр</translation>
+    </message>
+    <message>
+        <source>&amp;Full-screen preview</source>
         <translation>Предпросмотр на &amp;весь экран</translation>
     </message>
 </context>
@@ -372,7 +385,7 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Cut in</source>
-        <translation>Вставлено</translation>
+        <translation>Вставка</translation>
     </message>
     <message>
         <source>Now and next</source>
@@ -395,7 +408,7 @@ What shall become of your changes?</source>
         <translation>Почему это на экране</translation>
     </message>
     <message>
-        <source>Program that comes next</source>
+        <source>Next program</source>
         <translation>Следующая программа</translation>
     </message>
     <message>
@@ -415,8 +428,8 @@ What shall become of your changes?</source>
         <translation>%1, до %2, осталось %3</translation>
     </message>
     <message>
-        <source>Nothing else comes.</source>
-        <translation>Больше ничего не будет.</translation>
+        <source>Nothing else is scheduled.</source>
+        <translation>Дальше ничего не запланировано.</translation>
     </message>
     <message>
         <source>at %1, in %2</source>
@@ -431,15 +444,15 @@ What shall become of your changes?</source>
     <name>ScreenWords</name>
     <message>
         <source>Playing</source>
-        <translation>Идёт</translation>
+        <translation>Идёт показ</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation>Чёрный</translation>
+        <translation>Чёрный экран</translation>
     </message>
     <message>
         <source>Frozen</source>
-        <translation>Застыло</translation>
+        <translation>Стоп-кадр</translation>
     </message>
     <message>
         <source>Last frame of %1</source>
@@ -458,27 +471,27 @@ What shall become of your changes?</source>
         <translation>Задание %1, план %2</translation>
     </message>
     <message>
-        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
-        <translation>Кнопка запуска в редакторе вводит сохранённое расписание в действие.</translation>
+        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
+        <translation>Кнопка «Запустить» в редакторе вводит сохранённое расписание в действие.</translation>
     </message>
     <message>
-        <source>No plan has had the screen up to now.</source>
+        <source>No plan has started yet.</source>
         <translation>До сих пор ни один план не занимал экран.</translation>
     </message>
     <message>
-        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <source>Plan %1 of task %2 is the first of the plans for this time.</source>
         <translation>Из планов на это время план %1 задания %2 стоит первым.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
-        <translation>Экран у плана %1 задания %2, но ни одна его программа не может идти.</translation>
+        <source>Plan %1 of task %2 is due, but none of its programs can play.</source>
+        <translation>Экран занимает план %1 задания %2, но ни одну из его программ показать нельзя.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
-        <translation>Экран у плана %1 задания %2, но его список должен идти меньше одного раза.</translation>
+        <source>Plan %1 of task %2 is due, but its list is to run less than once.</source>
+        <translation>Экран занимает план %1 задания %2, но его список должен показываться меньше одного раза.</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has played its list as often as it should.</source>
+        <source>Plan %1 of task %2 has played its list the set number of times.</source>
         <translation>План %1 задания %2 показал список нужное число раз.</translation>
     </message>
     <message>
@@ -486,26 +499,31 @@ What shall become of your changes?</source>
         <translation>План %1 задания %2 закончился, а другой ещё не начался.</translation>
     </message>
     <message>
-        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <source>Cut in manually in place of plan %1 of task %2.</source>
         <translation>Вставлено вручную вместо плана %1 задания %2.</translation>
     </message>
     <message>
-        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <source>What was cut in for plan %1 of task %2 has nothing left to play.</source>
         <translation>Вставке вместо плана %1 задания %2 больше нечего показывать.</translation>
     </message>
     <message>
         <source>Cut in: %1</source>
-        <translation>Вставлено: %1</translation>
+        <translation>Вставка: %1</translation>
     </message>
     <message>
-        <source>Before: %1</source>
-        <translation>Прежде: %1</translation>
+        <source>Original list: %1</source>
+        <translation>До этого: %1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between programs</comment>
+        <translation>, </translation>
     </message>
 </context>
 <context>
     <name>Week</name>
     <message>
-        <source>On screen: %1, %2 into it</source>
+        <source>On screen: %1, at %2</source>
         <translation>На экране: %1, прошло %2</translation>
     </message>
     <message>
@@ -513,15 +531,20 @@ What shall become of your changes?</source>
         <translation>На экране: %1</translation>
     </message>
     <message>
-        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <source>%1, %2</source>
+        <comment>day and time of day</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is skipped: the clocks go forward.</source>
         <translation>%1–%2 пропускается: часы переводят вперёд.</translation>
     </message>
     <message>
-        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <source>%1 to %2 occurs twice: the clocks go back.</source>
         <translation>%1–%2 наступает дважды: часы переводят назад.</translation>
     </message>
     <message numerus="yes">
-        <source>%n more plans are kept from the screen.</source>
+        <source>%n more plans do not reach the screen.</source>
         <translation>
             <numerusform>Ещё %n план не попадает на экран.</numerusform>
             <numerusform>Ещё %n плана не попадают на экран.</numerusform>
@@ -529,11 +552,11 @@ What shall become of your changes?</source>
         </translation>
     </message>
     <message>
-        <source>Plan %1 stands above it and has the screen instead.</source>
+        <source>Plan %1, above it, takes precedence.</source>
         <translation>План %1 стоит выше и занимает экран вместо него.</translation>
     </message>
     <message>
-        <source>It collides with a plan above it.</source>
+        <source>It conflicts with a plan above it.</source>
         <translation>Он пересекается с планом выше.</translation>
     </message>
     <message>
@@ -545,12 +568,17 @@ What shall become of your changes?</source>
         <translation>План %1, %2–%3</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <comment>plan and its programs</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
         <source>No task is valid on this day.</source>
         <translation>В этот день не действует ни одно задание.</translation>
     </message>
     <message>
         <source>No task is valid</source>
-        <translation>Нет действующего задания</translation>
+        <translation>Нет задания</translation>
     </message>
     <message>
         <source>No task</source>
@@ -562,19 +590,19 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Frozen: %1</source>
-        <translation>Застыло: %1</translation>
+        <translation>Стоп-кадр: %1</translation>
     </message>
     <message>
         <source>Cut in: %1</source>
-        <translation>Вставлено: %1</translation>
+        <translation>Вставка: %1</translation>
     </message>
     <message>
-        <source>Left out: clocks go forward</source>
-        <translation>Пропускается: часы вперёд</translation>
+        <source>Skipped</source>
+        <translation>Пропускается</translation>
     </message>
     <message>
-        <source>Comes twice: clocks go back</source>
-        <translation>Дважды: часы назад</translation>
+        <source>Repeated</source>
+        <translation>Дважды</translation>
     </message>
     <message>
         <source>nothing to show</source>
@@ -586,6 +614,10 @@ What shall become of your changes?</source>
     <message>
         <source>Week</source>
         <translation>Неделя</translation>
+    </message>
+    <message>
+        <source>&amp;Week</source>
+        <translation>&amp;Неделя</translation>
     </message>
 </context>
 <context>
@@ -614,23 +646,23 @@ What shall become of your changes?</source>
         <translation>Действующее</translation>
     </message>
     <message>
-        <source>Week before</source>
+        <source>Previous week</source>
         <translation>Предыдущая неделя</translation>
     </message>
     <message>
-        <source>Week after</source>
+        <source>Next week</source>
         <translation>Следующая неделя</translation>
     </message>
     <message>
-        <source>Hours less high</source>
-        <translation>Часы ниже</translation>
+        <source>Zoom out</source>
+        <translation>Уменьшить масштаб</translation>
     </message>
     <message>
-        <source>Hours higher</source>
-        <translation>Часы выше</translation>
+        <source>Zoom in</source>
+        <translation>Увеличить масштаб</translation>
     </message>
     <message>
-        <source>Which schedule is shown</source>
+        <source>Schedule shown</source>
         <translation>Какое расписание показано</translation>
     </message>
 </context>
@@ -638,31 +670,31 @@ What shall become of your changes?</source>
     <name>PlanFaultText</name>
     <message>
         <source>Plan %1 never plays: none of its days is a day of the week.</source>
-        <translation>План %1 никогда не идёт: ни один из его дней не является днём недели.</translation>
+        <translation>План %1 никогда не показывается: ни один из его дней не является днём недели.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
-        <translation>План %1 никогда не идёт: его начало «%2» не является временем вида %3.</translation>
+        <translation>План %1 никогда не показывается: его начало «%2» не является временем вида %3.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
-        <translation>План %1 никогда не идёт: его конец «%2» не является временем вида %3.</translation>
+        <translation>План %1 никогда не показывается: его конец «%2» не является временем вида %3.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
-        <translation>План %1 никогда не идёт: его начало «%2» и конец «%3» не являются временем вида %4.</translation>
+        <translation>План %1 никогда не показывается: его начало «%2» и конец «%3» не являются временем вида %4.</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its list is to run less than once.</source>
-        <translation>План %1 никогда не идёт: его список должен идти меньше одного раза.</translation>
+        <translation>План %1 никогда не показывается: его список должен показываться меньше одного раза.</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>План %1 никогда не идёт: он кончается в момент начала, в %2.</translation>
+        <source>Plan %1 never plays: it starts and ends at %2.</source>
+        <translation>План %1 никогда не показывается: он начинается и заканчивается в %2.</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>План %1 никогда не идёт: он начинается в %2, а кончается раньше, в %3.</translation>
+        <source>Plan %1 never plays: it ends at %3, before it starts at %2.</source>
+        <translation>План %1 никогда не показывается: он начинается в %2, а заканчивается раньше, в %3.</translation>
     </message>
 </context>
 <context>
@@ -670,6 +702,25 @@ What shall become of your changes?</source>
     <message>
         <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
         <translation>Система не знает часового пояса с именем «%1», поэтому местное время неизвестно.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::widgets::TitleButton</name>
+    <message>
+        <source>Minimize</source>
+        <translation>Свернуть</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Развернуть</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Восстановить</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
     </message>
 </context>
 </TS>

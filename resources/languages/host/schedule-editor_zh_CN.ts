@@ -8,8 +8,8 @@
         <translation>无法读取演示内容：%1：%2</translation>
     </message>
     <message>
-        <source>The demonstration&apos;s media could not be copied beside the database.</source>
-        <translation>无法将演示媒体复制到数据库旁边。</translation>
+        <source>The demonstration media could not be copied to the database folder.</source>
+        <translation>无法将演示媒体复制到数据库所在的文件夹。</translation>
     </message>
 </context>
 <context>
@@ -63,7 +63,7 @@
         <translation>导入文件夹(&amp;F)…</translation>
     </message>
     <message>
-        <source>&amp;Remove from catalogue</source>
+        <source>&amp;Remove from catalog</source>
         <translation>从节目库移除(&amp;R)</translation>
     </message>
     <message>
@@ -75,15 +75,23 @@
     <name>EditorWindow</name>
     <message>
         <source>Now and next</source>
-        <translation>当前与下一个</translation>
+        <translation>当前与接下来</translation>
     </message>
     <message>
-        <source>Changes of the clocks</source>
-        <translation>时钟调整</translation>
+        <source>Clock changes</source>
+        <translation>夏令时切换</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose Import.</source>
-        <translation>还没有节目。请将媒体文件或文件夹拖放到此处，或选择“导入”。</translation>
+        <source>&amp;Now and next</source>
+        <translation>当前与接下来(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Clock changes</source>
+        <translation>夏令时切换(&amp;C)</translation>
+    </message>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>还没有节目。请将媒体文件或文件夹拖放到此处，或选择“导入文件”。</translation>
     </message>
     <message>
         <source>Schedule editor</source>
@@ -130,9 +138,9 @@
         <translation>无法读取 %1：%2</translation>
     </message>
     <message numerus="yes">
-        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
-            <numerusform>用此文件中的 %n 个任务替换整个排期吗？</numerusform>
+            <numerusform>要用此文件中的 %n 个任务替换整个排期吗？</numerusform>
         </translation>
     </message>
     <message>
@@ -144,7 +152,7 @@
         <translation>取消</translation>
     </message>
     <message numerus="yes">
-        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
             <numerusform>从节目库移除 %n 个节目吗？使用它们的计划将把相应条目显示为失效。文件会保留。</numerusform>
         </translation>
@@ -162,12 +170,17 @@
         <translation>正在查找文件：已找到 %1 个</translation>
     </message>
     <message>
-        <source>The import was cancelled; nothing was taken in.</source>
+        <source>The import was canceled; nothing was imported.</source>
         <translation>导入已取消，未导入任何内容。</translation>
     </message>
     <message>
         <source>Imported: %1 new, %2 updated.</source>
         <translation>已导入：新增 %1 个，更新 %2 个。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file and reason</comment>
+        <translation>%1：%2</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more.</source>
@@ -192,7 +205,7 @@
         <translation>放弃更改</translation>
     </message>
     <message>
-        <source>Stay</source>
+        <source>Keep editing</source>
         <translation>继续编辑</translation>
     </message>
 </context>
@@ -226,7 +239,7 @@
         <translation>其他</translation>
     </message>
     <message>
-        <source>The file has gone: %1</source>
+        <source>File not found: %1</source>
         <translation>文件已不存在：%1</translation>
     </message>
     <message>
@@ -255,7 +268,7 @@
     <message>
         <source>The schedule was not saved. %1
 
-What shall become of your changes?</source>
+What do you want to do with your changes?</source>
         <translation>排期未能保存。%1
 
 如何处理您的更改？</translation>
@@ -269,7 +282,7 @@ What shall become of your changes?</source>
         <translation>写入文件</translation>
     </message>
     <message>
-        <source>Give up</source>
+        <source>Discard changes</source>
         <translation>放弃更改</translation>
     </message>
     <message>
@@ -284,56 +297,52 @@ What shall become of your changes?</source>
 <context>
     <name>ClockChangePanel</name>
     <message>
-        <source>Changes of the clocks</source>
-        <translation>时钟调整</translation>
+        <source>Clock changes</source>
+        <translation>夏令时切换</translation>
     </message>
     <message>
-        <source>No change of the clocks falls on a day of any task.</source>
-        <translation>没有时钟调整落在任何任务的日期内。</translation>
+        <source>No clock change falls within the validity of any task.</source>
+        <translation>各任务的有效期内没有夏令时切换。</translation>
     </message>
     <message>
-        <source>%1: %2–%3 is left out;</source>
-        <translation>%1：%2–%3 被跳过；</translation>
+        <source>%1: %2–%3 is skipped; no plan of task %4 is affected.</source>
+        <translation>%1：%2–%3 被跳过；不影响任务 %4 的计划。</translation>
     </message>
     <message>
-        <source>%1: %2–%3 comes twice;</source>
-        <translation>%1：%2–%3 出现两次；</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
+        <translation>%1：%2–%3 被跳过；任务 %5 的计划 %4 不播放。</translation>
     </message>
     <message>
-        <source>it touches no plan of task %1.</source>
-        <translation>不影响任务 %1 的计划。</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 starts at %6 in the middle of its list.</source>
+        <translation>%1：%2–%3 被跳过；任务 %5 的计划 %4 在 %6 从列表中途开始播放。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 does not play.</source>
-        <translation>任务 %2 的计划 %1 不播放。</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 is cut off at %6.</source>
+        <translation>%1：%2–%3 被跳过；任务 %5 的计划 %4 在 %6 中断。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
-        <translation>任务 %2 的计划 %1 在 %3 从列表中间开始。</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
+        <translation>%1：%2–%3 被跳过；任务 %5 的计划 %4 跳过列表的这一部分。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 is cut off at %3.</source>
-        <translation>任务 %2 的计划 %1 在 %3 中断。</translation>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1：%2–%3 出现两次；不影响任务 %4 的计划。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 skips this part of its list.</source>
-        <translation>任务 %2 的计划 %1 跳过列表的这一部分。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
+        <translation>%1：%2–%3 出现两次；任务 %5 的计划 %4 播放两次。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 plays twice.</source>
-        <translation>任务 %2 的计划 %1 播放两次。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 starts twice at %6.</source>
+        <translation>%1：%2–%3 出现两次；任务 %5 的计划 %4 在 %6 开始两次。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts twice at %3.</source>
-        <translation>任务 %2 的计划 %1 在 %3 开始两次。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 ends twice at %6.</source>
+        <translation>%1：%2–%3 出现两次；任务 %5 的计划 %4 在 %6 结束两次。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 ends twice at %3.</source>
-        <translation>任务 %2 的计划 %1 在 %3 结束两次。</translation>
-    </message>
-    <message>
-        <source>plan %1 of task %2 repeats this part of its list.</source>
-        <translation>任务 %2 的计划 %1 重复列表的这一部分。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 repeats this part of its list.</source>
+        <translation>%1：%2–%3 出现两次；任务 %5 的计划 %4 重复列表的这一部分。</translation>
     </message>
 </context>
 <context>
@@ -343,7 +352,11 @@ What shall become of your changes?</source>
         <translation>预览</translation>
     </message>
     <message>
-        <source>&amp;Full screen preview</source>
+        <source>&amp;Preview</source>
+        <translation>预览(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Full-screen preview</source>
         <translation>全屏预览(&amp;F)</translation>
     </message>
 </context>
@@ -362,7 +375,7 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Next</source>
-        <translation>下一个</translation>
+        <translation>接下来</translation>
     </message>
     <message>
         <source>Cut in</source>
@@ -370,7 +383,7 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Now and next</source>
-        <translation>当前与下一个</translation>
+        <translation>当前与接下来</translation>
     </message>
     <message>
         <source>What the screen shows</source>
@@ -389,12 +402,12 @@ What shall become of your changes?</source>
         <translation>显示原因</translation>
     </message>
     <message>
-        <source>Program that comes next</source>
+        <source>Next program</source>
         <translation>下一个节目</translation>
     </message>
     <message>
         <source>Not started</source>
-        <translation>未启动</translation>
+        <translation>未启用</translation>
     </message>
     <message>
         <source>%1 played</source>
@@ -409,7 +422,7 @@ What shall become of your changes?</source>
         <translation>%1，到 %2，剩余 %3</translation>
     </message>
     <message>
-        <source>Nothing else comes.</source>
+        <source>Nothing else is scheduled.</source>
         <translation>之后没有内容。</translation>
     </message>
     <message>
@@ -452,39 +465,39 @@ What shall become of your changes?</source>
         <translation>任务 %1，计划 %2</translation>
     </message>
     <message>
-        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
-        <translation>编辑器的启动按钮使已保存的排期生效。</translation>
+        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
+        <translation>点击编辑器中的“启用”，已保存的排期即可生效。</translation>
     </message>
     <message>
-        <source>No plan has had the screen up to now.</source>
-        <translation>到目前为止还没有计划占用屏幕。</translation>
+        <source>No plan has started yet.</source>
+        <translation>尚未有计划开始。</translation>
     </message>
     <message>
-        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <source>Plan %1 of task %2 is the first of the plans for this time.</source>
         <translation>在此时段的计划中，任务 %2 的计划 %1 排在最前。</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
-        <translation>屏幕归任务 %2 的计划 %1，但其节目都无法播放。</translation>
+        <source>Plan %1 of task %2 is due, but none of its programs can play.</source>
+        <translation>轮到任务 %2 的计划 %1，但其中的节目均无法播放。</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
-        <translation>屏幕归任务 %2 的计划 %1，但其列表的播放次数不足一次。</translation>
+        <source>Plan %1 of task %2 is due, but its list is to run less than once.</source>
+        <translation>轮到任务 %2 的计划 %1，但其列表的播放次数不足一次。</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has played its list as often as it should.</source>
-        <translation>任务 %2 的计划 %1 已按次数播完列表。</translation>
+        <source>Plan %1 of task %2 has played its list the set number of times.</source>
+        <translation>任务 %2 的计划 %1 已按设定的次数播完列表。</translation>
     </message>
     <message>
         <source>Plan %1 of task %2 is over, and no other has begun.</source>
         <translation>任务 %2 的计划 %1 已结束，其他计划尚未开始。</translation>
     </message>
     <message>
-        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <source>Cut in manually in place of plan %1 of task %2.</source>
         <translation>手动插播，代替任务 %2 的计划 %1。</translation>
     </message>
     <message>
-        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <source>What was cut in for plan %1 of task %2 has nothing left to play.</source>
         <translation>代替任务 %2 的计划 %1 的插播已无内容可播。</translation>
     </message>
     <message>
@@ -492,14 +505,19 @@ What shall become of your changes?</source>
         <translation>插播：%1</translation>
     </message>
     <message>
-        <source>Before: %1</source>
+        <source>Original list: %1</source>
         <translation>原来：%1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between programs</comment>
+        <translation>、</translation>
     </message>
 </context>
 <context>
     <name>Week</name>
     <message>
-        <source>On screen: %1, %2 into it</source>
+        <source>On screen: %1, at %2</source>
         <translation>屏幕：%1，已播 %2</translation>
     </message>
     <message>
@@ -507,25 +525,30 @@ What shall become of your changes?</source>
         <translation>屏幕：%1</translation>
     </message>
     <message>
-        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <source>%1, %2</source>
+        <comment>day and time of day</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is skipped: the clocks go forward.</source>
         <translation>%1 至 %2 被跳过：时钟拨快。</translation>
     </message>
     <message>
-        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <source>%1 to %2 occurs twice: the clocks go back.</source>
         <translation>%1 至 %2 出现两次：时钟拨慢。</translation>
     </message>
     <message numerus="yes">
-        <source>%n more plans are kept from the screen.</source>
+        <source>%n more plans do not reach the screen.</source>
         <translation>
-            <numerusform>另有 %n 个计划没有占用屏幕。</numerusform>
+            <numerusform>另有 %n 个计划未能显示在屏幕上。</numerusform>
         </translation>
     </message>
     <message>
-        <source>Plan %1 stands above it and has the screen instead.</source>
-        <translation>排在上面的计划 %1 占用了屏幕。</translation>
+        <source>Plan %1, above it, takes precedence.</source>
+        <translation>排在上面的计划 %1 优先。</translation>
     </message>
     <message>
-        <source>It collides with a plan above it.</source>
+        <source>It conflicts with a plan above it.</source>
         <translation>它与上面的计划冲突。</translation>
     </message>
     <message>
@@ -535,6 +558,11 @@ What shall become of your changes?</source>
     <message>
         <source>Plan %1, %2 to %3</source>
         <translation>计划 %1，%2 至 %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>plan and its programs</comment>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>No task is valid on this day.</source>
@@ -561,16 +589,16 @@ What shall become of your changes?</source>
         <translation>插播：%1</translation>
     </message>
     <message>
-        <source>Left out: clocks go forward</source>
+        <source>Skipped</source>
         <translation>跳过：时钟拨快</translation>
     </message>
     <message>
-        <source>Comes twice: clocks go back</source>
-        <translation>两次：时钟拨慢</translation>
+        <source>Repeated</source>
+        <translation>重复：时钟拨慢</translation>
     </message>
     <message>
         <source>nothing to show</source>
-        <translation>无可播放</translation>
+        <translation>无内容可播</translation>
     </message>
 </context>
 <context>
@@ -578,6 +606,10 @@ What shall become of your changes?</source>
     <message>
         <source>Week</source>
         <translation>周</translation>
+    </message>
+    <message>
+        <source>&amp;Week</source>
+        <translation>周(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -606,23 +638,23 @@ What shall become of your changes?</source>
         <translation>生效中</translation>
     </message>
     <message>
-        <source>Week before</source>
+        <source>Previous week</source>
         <translation>上一周</translation>
     </message>
     <message>
-        <source>Week after</source>
+        <source>Next week</source>
         <translation>下一周</translation>
     </message>
     <message>
-        <source>Hours less high</source>
-        <translation>降低小时高度</translation>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
     </message>
     <message>
-        <source>Hours higher</source>
-        <translation>增加小时高度</translation>
+        <source>Zoom in</source>
+        <translation>放大</translation>
     </message>
     <message>
-        <source>Which schedule is shown</source>
+        <source>Schedule shown</source>
         <translation>显示哪个排期</translation>
     </message>
 </context>
@@ -630,31 +662,31 @@ What shall become of your changes?</source>
     <name>PlanFaultText</name>
     <message>
         <source>Plan %1 never plays: none of its days is a day of the week.</source>
-        <translation>计划 %1 从不播放：其日期都不是一周中的某一天。</translation>
+        <translation>计划 %1 不会播放：其日期都不是一周中的某一天。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
-        <translation>计划 %1 从不播放：开始“%2”不是 %3 格式的时间。</translation>
+        <translation>计划 %1 不会播放：开始“%2”不是 %3 格式的时间。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
-        <translation>计划 %1 从不播放：结束“%2”不是 %3 格式的时间。</translation>
+        <translation>计划 %1 不会播放：结束“%2”不是 %3 格式的时间。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
-        <translation>计划 %1 从不播放：开始“%2”与结束“%3”都不是 %4 格式的时间。</translation>
+        <translation>计划 %1 不会播放：开始“%2”与结束“%3”都不是 %4 格式的时间。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its list is to run less than once.</source>
-        <translation>计划 %1 从不播放：其列表的播放次数不足一次。</translation>
+        <translation>计划 %1 不会播放：其列表的播放次数不足一次。</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>计划 %1 从不播放：开始与结束同为 %2。</translation>
+        <source>Plan %1 never plays: it starts and ends at %2.</source>
+        <translation>计划 %1 不会播放：开始和结束都是 %2。</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>计划 %1 从不播放：%2 开始，却在此前的 %3 结束。</translation>
+        <source>Plan %1 never plays: it ends at %3, before it starts at %2.</source>
+        <translation>计划 %1 不会播放：%2 开始，却在更早的 %3 结束。</translation>
     </message>
 </context>
 <context>
@@ -662,6 +694,25 @@ What shall become of your changes?</source>
     <message>
         <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
         <translation>系统中没有名为“%1”的时区，因此无法得知当地时间。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::widgets::TitleButton</name>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>还原</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 </TS>

@@ -8,8 +8,8 @@
         <translation>無法讀取示範內容：%1：%2</translation>
     </message>
     <message>
-        <source>The demonstration&apos;s media could not be copied beside the database.</source>
-        <translation>無法將示範媒體複製到資料庫旁邊。</translation>
+        <source>The demonstration media could not be copied to the database folder.</source>
+        <translation>無法將示範媒體複製到資料庫所在的資料夾。</translation>
     </message>
 </context>
 <context>
@@ -63,7 +63,7 @@
         <translation>匯入資料夾(&amp;F)…</translation>
     </message>
     <message>
-        <source>&amp;Remove from catalogue</source>
+        <source>&amp;Remove from catalog</source>
         <translation>從節目庫移除(&amp;R)</translation>
     </message>
     <message>
@@ -75,15 +75,23 @@
     <name>EditorWindow</name>
     <message>
         <source>Now and next</source>
-        <translation>目前與下一個</translation>
+        <translation>目前與接下來</translation>
     </message>
     <message>
-        <source>Changes of the clocks</source>
-        <translation>時鐘調整</translation>
+        <source>Clock changes</source>
+        <translation>日光節約時間切換</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose Import.</source>
-        <translation>還沒有節目。請將媒體檔案或資料夾拖放到這裡，或選擇「匯入」。</translation>
+        <source>&amp;Now and next</source>
+        <translation>目前與接下來(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Clock changes</source>
+        <translation>日光節約時間切換(&amp;C)</translation>
+    </message>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>還沒有節目。請將媒體檔案或資料夾拖放到這裡，或選擇「匯入檔案」。</translation>
     </message>
     <message>
         <source>Schedule editor</source>
@@ -130,7 +138,7 @@
         <translation>無法讀取 %1：%2</translation>
     </message>
     <message numerus="yes">
-        <source>Replace the whole schedule by the %n tasks of this file?</source>
+        <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
             <numerusform>要以此檔案中的 %n 個任務取代整個排程嗎？</numerusform>
         </translation>
@@ -144,7 +152,7 @@
         <translation>取消</translation>
     </message>
     <message numerus="yes">
-        <source>Remove %n programs from the catalogue? Plans that use them will show their entries as invalid. The files stay.</source>
+        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
             <numerusform>要從節目庫移除 %n 個節目嗎？使用這些節目的計畫會將相關項目顯示為失效。檔案會保留。</numerusform>
         </translation>
@@ -162,12 +170,17 @@
         <translation>正在尋找檔案：已找到 %1 個</translation>
     </message>
     <message>
-        <source>The import was cancelled; nothing was taken in.</source>
+        <source>The import was canceled; nothing was imported.</source>
         <translation>匯入已取消，未匯入任何內容。</translation>
     </message>
     <message>
         <source>Imported: %1 new, %2 updated.</source>
         <translation>已匯入：新增 %1 個，更新 %2 個。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file and reason</comment>
+        <translation>%1：%2</translation>
     </message>
     <message numerus="yes">
         <source>… and %n more.</source>
@@ -192,7 +205,7 @@
         <translation>捨棄變更</translation>
     </message>
     <message>
-        <source>Stay</source>
+        <source>Keep editing</source>
         <translation>繼續編輯</translation>
     </message>
 </context>
@@ -226,7 +239,7 @@
         <translation>其他</translation>
     </message>
     <message>
-        <source>The file has gone: %1</source>
+        <source>File not found: %1</source>
         <translation>檔案已不存在：%1</translation>
     </message>
     <message>
@@ -255,7 +268,7 @@
     <message>
         <source>The schedule was not saved. %1
 
-What shall become of your changes?</source>
+What do you want to do with your changes?</source>
         <translation>排程未能儲存。%1
 
 要如何處理您的變更？</translation>
@@ -269,7 +282,7 @@ What shall become of your changes?</source>
         <translation>寫入檔案</translation>
     </message>
     <message>
-        <source>Give up</source>
+        <source>Discard changes</source>
         <translation>捨棄變更</translation>
     </message>
     <message>
@@ -284,56 +297,52 @@ What shall become of your changes?</source>
 <context>
     <name>ClockChangePanel</name>
     <message>
-        <source>Changes of the clocks</source>
-        <translation>時鐘調整</translation>
+        <source>Clock changes</source>
+        <translation>日光節約時間切換</translation>
     </message>
     <message>
-        <source>No change of the clocks falls on a day of any task.</source>
-        <translation>沒有時鐘調整落在任何任務的日期內。</translation>
+        <source>No clock change falls within the validity of any task.</source>
+        <translation>各任務的有效期內沒有日光節約時間切換。</translation>
     </message>
     <message>
-        <source>%1: %2–%3 is left out;</source>
-        <translation>%1：%2–%3 被跳過；</translation>
+        <source>%1: %2–%3 is skipped; no plan of task %4 is affected.</source>
+        <translation>%1：%2–%3 被跳過；不影響任務 %4 的計畫。</translation>
     </message>
     <message>
-        <source>%1: %2–%3 comes twice;</source>
-        <translation>%1：%2–%3 出現兩次；</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
+        <translation>%1：%2–%3 被跳過；任務 %5 的計畫 %4 不播放。</translation>
     </message>
     <message>
-        <source>it touches no plan of task %1.</source>
-        <translation>不影響任務 %1 的計畫。</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 starts at %6 in the middle of its list.</source>
+        <translation>%1：%2–%3 被跳過；任務 %5 的計畫 %4 在 %6 從清單中途開始播放。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 does not play.</source>
-        <translation>任務 %2 的計畫 %1 不播放。</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 is cut off at %6.</source>
+        <translation>%1：%2–%3 被跳過；任務 %5 的計畫 %4 在 %6 中斷。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts at %3 in the middle of its list.</source>
-        <translation>任務 %2 的計畫 %1 在 %3 從清單中間開始。</translation>
+        <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
+        <translation>%1：%2–%3 被跳過；任務 %5 的計畫 %4 跳過清單的這一部分。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 is cut off at %3.</source>
-        <translation>任務 %2 的計畫 %1 在 %3 中斷。</translation>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1：%2–%3 出現兩次；不影響任務 %4 的計畫。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 skips this part of its list.</source>
-        <translation>任務 %2 的計畫 %1 跳過清單的這一部分。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
+        <translation>%1：%2–%3 出現兩次；任務 %5 的計畫 %4 播放兩次。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 plays twice.</source>
-        <translation>任務 %2 的計畫 %1 播放兩次。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 starts twice at %6.</source>
+        <translation>%1：%2–%3 出現兩次；任務 %5 的計畫 %4 在 %6 開始兩次。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 starts twice at %3.</source>
-        <translation>任務 %2 的計畫 %1 在 %3 開始兩次。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 ends twice at %6.</source>
+        <translation>%1：%2–%3 出現兩次；任務 %5 的計畫 %4 在 %6 結束兩次。</translation>
     </message>
     <message>
-        <source>plan %1 of task %2 ends twice at %3.</source>
-        <translation>任務 %2 的計畫 %1 在 %3 結束兩次。</translation>
-    </message>
-    <message>
-        <source>plan %1 of task %2 repeats this part of its list.</source>
-        <translation>任務 %2 的計畫 %1 重複清單的這一部分。</translation>
+        <source>%1: %2–%3 occurs twice; plan %4 of task %5 repeats this part of its list.</source>
+        <translation>%1：%2–%3 出現兩次；任務 %5 的計畫 %4 重複清單的這一部分。</translation>
     </message>
 </context>
 <context>
@@ -343,7 +352,11 @@ What shall become of your changes?</source>
         <translation>預覽</translation>
     </message>
     <message>
-        <source>&amp;Full screen preview</source>
+        <source>&amp;Preview</source>
+        <translation>預覽(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Full-screen preview</source>
         <translation>全螢幕預覽(&amp;F)</translation>
     </message>
 </context>
@@ -362,7 +375,7 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Next</source>
-        <translation>下一個</translation>
+        <translation>接下來</translation>
     </message>
     <message>
         <source>Cut in</source>
@@ -370,7 +383,7 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Now and next</source>
-        <translation>目前與下一個</translation>
+        <translation>目前與接下來</translation>
     </message>
     <message>
         <source>What the screen shows</source>
@@ -389,12 +402,12 @@ What shall become of your changes?</source>
         <translation>顯示原因</translation>
     </message>
     <message>
-        <source>Program that comes next</source>
+        <source>Next program</source>
         <translation>下一個節目</translation>
     </message>
     <message>
         <source>Not started</source>
-        <translation>未啟動</translation>
+        <translation>未啟用</translation>
     </message>
     <message>
         <source>%1 played</source>
@@ -409,7 +422,7 @@ What shall become of your changes?</source>
         <translation>%1，到 %2，剩餘 %3</translation>
     </message>
     <message>
-        <source>Nothing else comes.</source>
+        <source>Nothing else is scheduled.</source>
         <translation>之後沒有內容。</translation>
     </message>
     <message>
@@ -429,7 +442,7 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Black</source>
-        <translation>黑屏</translation>
+        <translation>黑畫面</translation>
     </message>
     <message>
         <source>Frozen</source>
@@ -437,11 +450,11 @@ What shall become of your changes?</source>
     </message>
     <message>
         <source>Last frame of %1</source>
-        <translation>%1 的最後一幀</translation>
+        <translation>%1 的最後畫面</translation>
     </message>
     <message>
         <source>Black screen</source>
-        <translation>黑屏</translation>
+        <translation>黑畫面</translation>
     </message>
     <message>
         <source>Entry %1 of %2, play %3 of %4</source>
@@ -452,39 +465,39 @@ What shall become of your changes?</source>
         <translation>任務 %1，計畫 %2</translation>
     </message>
     <message>
-        <source>The start button of the schedule editor puts the saved schedule into effect.</source>
-        <translation>編輯器的啟動按鈕使已儲存的排程生效。</translation>
+        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
+        <translation>按一下編輯器中的「啟用」，已儲存的排程即會生效。</translation>
     </message>
     <message>
-        <source>No plan has had the screen up to now.</source>
-        <translation>到目前為止還沒有計畫佔用螢幕。</translation>
+        <source>No plan has started yet.</source>
+        <translation>尚未有計畫開始。</translation>
     </message>
     <message>
-        <source>Of the plans for this time of day, plan %1 of task %2 comes first.</source>
+        <source>Plan %1 of task %2 is the first of the plans for this time.</source>
         <translation>在此時段的計畫中，任務 %2 的計畫 %1 排在最前。</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but none of its programs can play.</source>
-        <translation>螢幕歸任務 %2 的計畫 %1，但其節目都無法播放。</translation>
+        <source>Plan %1 of task %2 is due, but none of its programs can play.</source>
+        <translation>輪到任務 %2 的計畫 %1，但其中的節目都無法播放。</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has the screen, but its list is to run less than once.</source>
-        <translation>螢幕歸任務 %2 的計畫 %1，但其清單的播放次數不足一次。</translation>
+        <source>Plan %1 of task %2 is due, but its list is to run less than once.</source>
+        <translation>輪到任務 %2 的計畫 %1，但其清單的播放次數不足一次。</translation>
     </message>
     <message>
-        <source>Plan %1 of task %2 has played its list as often as it should.</source>
-        <translation>任務 %2 的計畫 %1 已按次數播完清單。</translation>
+        <source>Plan %1 of task %2 has played its list the set number of times.</source>
+        <translation>任務 %2 的計畫 %1 已按設定的次數播完清單。</translation>
     </message>
     <message>
         <source>Plan %1 of task %2 is over, and no other has begun.</source>
         <translation>任務 %2 的計畫 %1 已結束，其他計畫尚未開始。</translation>
     </message>
     <message>
-        <source>It was cut in by hand, in the place of plan %1 of task %2.</source>
+        <source>Cut in manually in place of plan %1 of task %2.</source>
         <translation>手動插播，代替任務 %2 的計畫 %1。</translation>
     </message>
     <message>
-        <source>What was cut in, in the place of plan %1 of task %2, has nothing more to play.</source>
+        <source>What was cut in for plan %1 of task %2 has nothing left to play.</source>
         <translation>代替任務 %2 的計畫 %1 的插播已無內容可播。</translation>
     </message>
     <message>
@@ -492,14 +505,19 @@ What shall become of your changes?</source>
         <translation>插播：%1</translation>
     </message>
     <message>
-        <source>Before: %1</source>
+        <source>Original list: %1</source>
         <translation>原來：%1</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <comment>between programs</comment>
+        <translation>、</translation>
     </message>
 </context>
 <context>
     <name>Week</name>
     <message>
-        <source>On screen: %1, %2 into it</source>
+        <source>On screen: %1, at %2</source>
         <translation>螢幕：%1，已播 %2</translation>
     </message>
     <message>
@@ -507,25 +525,30 @@ What shall become of your changes?</source>
         <translation>螢幕：%1</translation>
     </message>
     <message>
-        <source>%1 to %2 is left out: the clocks go forward.</source>
+        <source>%1, %2</source>
+        <comment>day and time of day</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>%1 to %2 is skipped: the clocks go forward.</source>
         <translation>%1 至 %2 被跳過：時鐘撥快。</translation>
     </message>
     <message>
-        <source>%1 to %2 comes twice: the clocks go back.</source>
+        <source>%1 to %2 occurs twice: the clocks go back.</source>
         <translation>%1 至 %2 出現兩次：時鐘撥慢。</translation>
     </message>
     <message numerus="yes">
-        <source>%n more plans are kept from the screen.</source>
+        <source>%n more plans do not reach the screen.</source>
         <translation>
-            <numerusform>另有 %n 個計畫沒有佔用螢幕。</numerusform>
+            <numerusform>另有 %n 個計畫未能顯示在螢幕上。</numerusform>
         </translation>
     </message>
     <message>
-        <source>Plan %1 stands above it and has the screen instead.</source>
-        <translation>排在上面的計畫 %1 佔用了螢幕。</translation>
+        <source>Plan %1, above it, takes precedence.</source>
+        <translation>排在上面的計畫 %1 優先。</translation>
     </message>
     <message>
-        <source>It collides with a plan above it.</source>
+        <source>It conflicts with a plan above it.</source>
         <translation>它與上面的計畫衝突。</translation>
     </message>
     <message>
@@ -535,6 +558,11 @@ What shall become of your changes?</source>
     <message>
         <source>Plan %1, %2 to %3</source>
         <translation>計畫 %1，%2 至 %3</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>plan and its programs</comment>
+        <translation>%1：%2</translation>
     </message>
     <message>
         <source>No task is valid on this day.</source>
@@ -561,16 +589,16 @@ What shall become of your changes?</source>
         <translation>插播：%1</translation>
     </message>
     <message>
-        <source>Left out: clocks go forward</source>
+        <source>Skipped</source>
         <translation>跳過：時鐘撥快</translation>
     </message>
     <message>
-        <source>Comes twice: clocks go back</source>
-        <translation>兩次：時鐘撥慢</translation>
+        <source>Repeated</source>
+        <translation>重複：時鐘撥慢</translation>
     </message>
     <message>
         <source>nothing to show</source>
-        <translation>無可播放</translation>
+        <translation>無內容可播</translation>
     </message>
 </context>
 <context>
@@ -578,6 +606,10 @@ What shall become of your changes?</source>
     <message>
         <source>Week</source>
         <translation>週</translation>
+    </message>
+    <message>
+        <source>&amp;Week</source>
+        <translation>週(&amp;W)</translation>
     </message>
 </context>
 <context>
@@ -606,23 +638,23 @@ What shall become of your changes?</source>
         <translation>生效中</translation>
     </message>
     <message>
-        <source>Week before</source>
+        <source>Previous week</source>
         <translation>上一週</translation>
     </message>
     <message>
-        <source>Week after</source>
+        <source>Next week</source>
         <translation>下一週</translation>
     </message>
     <message>
-        <source>Hours less high</source>
-        <translation>降低小時高度</translation>
+        <source>Zoom out</source>
+        <translation>縮小</translation>
     </message>
     <message>
-        <source>Hours higher</source>
-        <translation>增加小時高度</translation>
+        <source>Zoom in</source>
+        <translation>放大</translation>
     </message>
     <message>
-        <source>Which schedule is shown</source>
+        <source>Schedule shown</source>
         <translation>顯示哪個排程</translation>
     </message>
 </context>
@@ -630,31 +662,31 @@ What shall become of your changes?</source>
     <name>PlanFaultText</name>
     <message>
         <source>Plan %1 never plays: none of its days is a day of the week.</source>
-        <translation>計畫 %1 從不播放：其日期都不是一週中的某一天。</translation>
+        <translation>計畫 %1 不會播放：其日期都不是一週中的某一天。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, is not a time in the form %3.</source>
-        <translation>計畫 %1 從不播放：開始「%2」不是 %3 格式的時間。</translation>
+        <translation>計畫 %1 不會播放：開始「%2」不是 %3 格式的時間。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its end, “%2”, is not a time in the form %3.</source>
-        <translation>計畫 %1 從不播放：結束「%2」不是 %3 格式的時間。</translation>
+        <translation>計畫 %1 不會播放：結束「%2」不是 %3 格式的時間。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its start, “%2”, and its end, “%3”, are not times in the form %4.</source>
-        <translation>計畫 %1 從不播放：開始「%2」與結束「%3」都不是 %4 格式的時間。</translation>
+        <translation>計畫 %1 不會播放：開始「%2」與結束「%3」都不是 %4 格式的時間。</translation>
     </message>
     <message>
         <source>Plan %1 never plays: its list is to run less than once.</source>
-        <translation>計畫 %1 從不播放：其清單的播放次數不足一次。</translation>
+        <translation>計畫 %1 不會播放：其清單的播放次數不足一次。</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it ends as it starts, at %2.</source>
-        <translation>計畫 %1 從不播放：開始與結束同為 %2。</translation>
+        <source>Plan %1 never plays: it starts and ends at %2.</source>
+        <translation>計畫 %1 不會播放：開始和結束都是 %2。</translation>
     </message>
     <message>
-        <source>Plan %1 never plays: it starts at %2 and ends before, at %3.</source>
-        <translation>計畫 %1 從不播放：%2 開始，卻在此前的 %3 結束。</translation>
+        <source>Plan %1 never plays: it ends at %3, before it starts at %2.</source>
+        <translation>計畫 %1 不會播放：%2 開始，卻在更早的 %3 結束。</translation>
     </message>
 </context>
 <context>
@@ -662,6 +694,25 @@ What shall become of your changes?</source>
     <message>
         <source>The system knows no time zone of the name “%1”, so that the local time is not known.</source>
         <translation>系統中沒有名為「%1」的時區，因此無法得知當地時間。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::widgets::TitleButton</name>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>還原</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
     </message>
 </context>
 </TS>

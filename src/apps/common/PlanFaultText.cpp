@@ -22,9 +22,9 @@ QString PlanFaultText::sentence(PlanFault fault, int planId, const QString& star
     case PlanFault::RunsLessThanOnce:
         return tr("Plan %1 never plays: its list is to run less than once.").arg(plan);
     case PlanFault::EmptySpan:
-        return tr("Plan %1 never plays: it ends as it starts, at %2.").arg(plan, start);
+        return tr("Plan %1 never plays: it starts and ends at %2.").arg(plan, start);
     case PlanFault::InvertedSpan:
-        return tr("Plan %1 never plays: it starts at %2 and ends before, at %3.")
+        return tr("Plan %1 never plays: it ends at %3, before it starts at %2.")
             .arg(plan, start, end);
     case PlanFault::None:
         break;

@@ -82,7 +82,7 @@ QString fillWithDemonstration(const QString& folder)
     const QString media = copyMedia(folder);
     if (media.isEmpty()) {
         return Demonstration::tr(
-            "The demonstration's media could not be copied beside the database.");
+            "The demonstration media could not be copied to the database folder.");
     }
     const ImportScan scan = scanMedia({media});
     if (!scan.refusals.empty()) {

@@ -4,6 +4,7 @@
 #include "look/Themes.h"
 
 #include <QActionGroup>
+#include <QHash>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -22,6 +23,26 @@ void addChoice(QMenu& menu, QActionGroup& group, const QString& text, const QStr
     action->setCheckable(true);
     action->setData(name);
     group.addAction(action);
+}
+
+/// The name of a language with the letter that chooses it, which is the same in all languages.
+QString lettered(const QString& language)
+{
+    static const QHash<QString, QChar> letters = {
+        {QStringLiteral("de_DE"), QLatin1Char('D')}, {QStringLiteral("en_US"), QLatin1Char('E')},
+        {QStringLiteral("es_ES"), QLatin1Char('s')}, {QStringLiteral("fr_FR"), QLatin1Char('F')},
+        {QStringLiteral("ja_JP"), QLatin1Char('J')}, {QStringLiteral("ko_KR"), QLatin1Char('K')},
+        {QStringLiteral("pt_BR"), QLatin1Char('P')}, {QStringLiteral("ru_RU"), QLatin1Char('R')},
+        {QStringLiteral("zh_CN"), QLatin1Char('C')}, {QStringLiteral("zh_TW"), QLatin1Char('T')},
+    };
+    QString name = Languages::nativeName(language);
+    const QChar letter = letters.value(language);
+    if (letter.isNull()) {
+        return name;
+    }
+    const int place = name.indexOf(letter);
+    return place < 0 ? QStringLiteral("%1 (&%2)").arg(name, letter)
+                     : name.insert(place, QLatin1Char('&'));
 }
 
 void mark(const QActionGroup& group, const QString& name)
@@ -79,7 +100,7 @@ void EditorMenus::buildLanguages(Languages& languages)
     auto* group = new QActionGroup(this);
     const QStringList names = languages.names();
     for (const QString& name : names) {
-        addChoice(*m_language, *group, Languages::nativeName(name), name);
+        addChoice(*m_language, *group, lettered(name), name);
     }
     const auto markCurrent = [group, &languages] { mark(*group, languages.current()); };
     markCurrent();
@@ -109,7 +130,7 @@ void EditorMenus::retranslate()
     m_programs->setTitle(tr("&Programs"));
     m_importFiles->setText(tr("&Import files…"));
     m_importFolder->setText(tr("Import &folder…"));
-    m_removePrograms->setText(tr("&Remove from catalogue"));
+    m_removePrograms->setText(tr("&Remove from catalog"));
     m_view->setTitle(tr("&View"));
     m_themes->actions().at(0)->setText(tr("&Dark theme"));
     m_themes->actions().at(1)->setText(tr("&Light theme"));

@@ -111,6 +111,10 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     connect(&ScheduleHost::instance(), &ScheduleHost::catalogueChanged, this,
             &EditorWindow::updateCatalogue);
     ScheduleHost::instance().watchFiles();
+    // The panels write dates as the language does; they take the locale over.
+    const auto takeLocale = [this, &languages] { setLocale(QLocale(languages.current())); };
+    connect(&languages, &Languages::changed, this, takeLocale);
+    takeLocale();
     connect(&languages, &Languages::changed, this, &EditorWindow::updateTitle);
     updateCatalogue();
 }
@@ -171,9 +175,13 @@ void EditorWindow::retranslate()
 {
     m_menus->retranslate();
     m_table->setAccessibleName(m_menus->programsTitle());
-    m_hint->setText(tr("No programs yet. Drop media files or folders here, or choose Import."));
+    m_hint->setText(
+        tr("No programs yet. Drop media files or folders here, or choose “Import files”."));
     m_nowNext->setWindowTitle(tr("Now and next"));
-    m_clockChanges->setWindowTitle(tr("Changes of the clocks"));
+    m_clockChanges->setWindowTitle(tr("Clock changes"));
+    // A new title becomes the text of the action, which has a letter besides.
+    m_nowNext->toggleViewAction()->setText(tr("&Now and next"));
+    m_clockChanges->toggleViewAction()->setText(tr("&Clock changes"));
     m_programs->retranslate();
     updateTitle();
 }
@@ -282,7 +290,7 @@ void EditorWindow::importSchedule()
         return;
     }
     const int answer =
-        prompts::confirm(tr("Replace the whole schedule by the %n tasks of this file?", nullptr,
+        prompts::confirm(tr("Replace the whole schedule with the %n tasks in this file?", nullptr,
                             static_cast<int>(schedule.tasks.size())),
                          tr("Replace"), tr("Cancel"));
     if (answer != 1) {
@@ -304,11 +312,11 @@ void EditorWindow::removeSelectedPrograms()
     if (rows.isEmpty()) {
         return;
     }
-    const int answer = prompts::confirm(
-        tr("Remove %n programs from the catalogue? Plans that use them will show their entries as "
-           "invalid. The files stay.",
-           nullptr, rows.size()),
-        tr("Remove"), tr("Cancel"));
+    const int answer =
+        prompts::confirm(tr("Remove %n programs from the catalog? Plans that use them will show "
+                            "their entries as invalid. The files are not deleted.",
+                            nullptr, rows.size()),
+                         tr("Remove"), tr("Cancel"));
     if (answer != 1) {
         return;
     }
@@ -364,7 +372,7 @@ void EditorWindow::finishImport()
     const bool isCancelled = m_job->isCancelled();
     const ImportScan scan = std::exchange(m_job, nullptr)->scan();
     if (isCancelled) {
-        statusBar()->showMessage(tr("The import was cancelled; nothing was taken in."));
+        statusBar()->showMessage(tr("The import was canceled; nothing was imported."));
     } else {
         const ImportResult result = ScheduleHost::instance().addPrograms(scan.sources);
         if (result.store) {
@@ -386,8 +394,8 @@ void EditorWindow::reportImport(const ImportScan& scan, int added, int updated)
     constexpr std::size_t kShown = 8;
     QStringList lines;
     for (std::size_t i = 0; i < std::min(kShown, scan.refusals.size()); ++i) {
-        lines.append(QStringLiteral("%1: %2").arg(shownName(scan.refusals[i].path),
-                                                  scan.refusals[i].reason));
+        lines.append(tr("%1: %2", "file and reason")
+                         .arg(shownName(scan.refusals[i].path), scan.refusals[i].reason));
     }
     if (scan.refusals.size() > kShown) {
         lines.append(
@@ -404,7 +412,7 @@ bool EditorWindow::maySettle()
         return true;
     }
     const int answer = prompts::confirm(tr("The schedule has changes that are not saved."),
-                                        tr("Save"), tr("Discard"), tr("Stay"));
+                                        tr("Save"), tr("Discard"), tr("Keep editing"));
     if (answer == 1) {
         // Through the service, so that a failure takes the same way as any other.
         scheduleManage::getInstance().save();

@@ -110,7 +110,7 @@ QVariant ProgramTableModel::data(const QModelIndex& index, int role) const
         return text(program, index.column());
     case Qt::ToolTipRole:
         if (program.isNull) {
-            return tr("The file has gone: %1")
+            return tr("File not found: %1")
                 .arg(shownAddress(QString::fromStdString(program.mediaPath)));
         }
         return shownAddress(QString::fromStdString(program.mediaPath));

@@ -19,8 +19,9 @@ SaveRescue::SaveRescue(ScheduleHost& host, QWidget* window)
 SaveRescue::Answer SaveRescue::ask(const QString& reason)
 {
     const int button = prompts::confirm(
-        tr("The schedule was not saved. %1\n\nWhat shall become of your changes?").arg(reason),
-        tr("Try again"), tr("Write to a file"), tr("Give up"));
+        tr("The schedule was not saved. %1\n\nWhat do you want to do with your changes?")
+            .arg(reason),
+        tr("Try again"), tr("Write to a file"), tr("Discard changes"));
     switch (button) {
     case 1:
         return Answer::TryAgain;

@@ -1,5 +1,6 @@
 #include "TitleButton.h"
 
+#include <QEvent>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
@@ -85,11 +86,11 @@ SignWords wordsOf(TitleButton::Sign sign)
 {
     switch (sign) {
     case TitleButton::Minimise:
-        return {QStringLiteral("minimise"), TitleButton::tr("Minimise")};
+        return {QStringLiteral("minimise"), TitleButton::tr("Minimize")};
     case TitleButton::Expand:
-        return {QStringLiteral("maximise"), TitleButton::tr("Enlarge")};
+        return {QStringLiteral("maximise"), TitleButton::tr("Maximize")};
     case TitleButton::Restore:
-        return {QStringLiteral("restore"), TitleButton::tr("Make smaller")};
+        return {QStringLiteral("restore"), TitleButton::tr("Restore")};
     case TitleButton::Close:
         break;
     }
@@ -121,6 +122,14 @@ void TitleButton::setSign(Sign sign)
     // A style sheet looks at a property only when the widget is polished.
     style()->unpolish(this);
     style()->polish(this);
+}
+
+void TitleButton::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        setAccessibleName(wordsOf(m_sign).spoken);
+    }
+    QPushButton::changeEvent(event);
 }
 
 QSize TitleButton::sizeHint() const

@@ -8,6 +8,9 @@ namespace trel::widgets {
 ///
 /// Its sign is drawn in the colour that the palette gives to button texts, so it stays legible
 /// under every theme; a style sheet may give another one with `qproperty-icon`.
+///
+/// Assistive software reads its name, "Minimize", "Maximize", "Restore" or "Close". A host that
+/// speaks another language translates it in the context "trel::widgets::TitleButton".
 class TitleButton : public QPushButton
 {
     Q_OBJECT
@@ -22,6 +25,9 @@ public:
     Sign sign() const { return m_sign; }
 
     QSize sizeHint() const override;
+
+protected:
+    void changeEvent(QEvent* event) override;
 
 private:
     Sign m_sign;

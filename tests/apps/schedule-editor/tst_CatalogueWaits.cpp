@@ -34,7 +34,7 @@ void tst_CatalogueWaits::manyProgramsGoInOneChange()
     QAction* remove = nullptr;
     const QList<QAction*> actions = table->actions();
     for (QAction* action : actions) {
-        if (action->text().remove(QLatin1Char('&')) == QLatin1String("Remove from catalogue")) {
+        if (action->text().remove(QLatin1Char('&')) == QLatin1String("Remove from catalog")) {
             remove = action;
         }
     }

@@ -62,13 +62,13 @@ void tst_ClockChangePanel::saysWhatBecomesOfAPlan()
 
     QTRY_COMPARE(
         lines(panel),
-        QStringList({QStringLiteral("2027.03.28: 02:00:00–03:00:00 is left out; plan 3 of task 1 "
+        QStringList({QStringLiteral("3/28/27: 02:00:00–03:00:00 is skipped; plan 3 of task 1 "
                                     "starts at 03:00:00 in the middle of its list."),
-                     QStringLiteral("2027.03.28: 02:00:00–03:00:00 is left out; plan 5 of task 1 "
+                     QStringLiteral("3/28/27: 02:00:00–03:00:00 is skipped; plan 5 of task 1 "
                                     "is cut off at 02:00:00."),
-                     QStringLiteral("2027.10.31: 02:00:00–03:00:00 comes twice; plan 3 of task 1 "
+                     QStringLiteral("10/31/27: 02:00:00–03:00:00 occurs twice; plan 3 of task 1 "
                                     "starts twice at 02:30:00."),
-                     QStringLiteral("2027.10.31: 02:00:00–03:00:00 comes twice; plan 5 of task 1 "
+                     QStringLiteral("10/31/27: 02:00:00–03:00:00 occurs twice; plan 5 of task 1 "
                                     "ends twice at 02:30:00.")}));
 }
 
@@ -86,8 +86,8 @@ void tst_ClockChangePanel::followsEditsOnceATurn()
     }
     QCOMPARE(reset.count(), 0);
     QTRY_COMPARE(lines(panel).value(0),
-                 QStringLiteral("2027.03.28: 02:00:00–03:00:00 is left out; it touches no plan of "
-                                "task 1."));
+                 QStringLiteral("3/28/27: 02:00:00–03:00:00 is skipped; no plan of task 1 is "
+                                "affected."));
     QCOMPARE(reset.count(), 1);
     QCOMPARE(panel.count(), 2);
 }
@@ -115,7 +115,7 @@ void tst_ClockChangePanel::saysThatThereIsNone()
     HostFixture fixture;
     const ClockChangePanel& panel = panelOf(fixture);
     QCOMPARE(lines(panel),
-             QStringList(QStringLiteral("No change of the clocks falls on a day of any task.")));
+             QStringList(QStringLiteral("No clock change falls within the validity of any task.")));
 }
 
 void tst_ClockChangePanel::speaksTheLanguageInUse()
@@ -123,9 +123,10 @@ void tst_ClockChangePanel::speaksTheLanguageInUse()
     HostFixture fixture;
     const ClockChangePanel& panel = panelOf(fixture);
     fixture.languages.select(QStringLiteral("de_DE"));
-    QTRY_COMPARE(lines(panel), QStringList(QStringLiteral(
-                                   "Auf keinen Tag eines Auftrags fällt eine Zeitumstellung.")));
-    QCOMPARE(
+    QTRY_COMPARE(lines(panel),
+                 QStringList(QStringLiteral(
+                     "In den Gültigkeitszeitraum der Aufträge fällt keine Zeitumstellung.")));
+    QTRY_COMPARE(
         fixture.window.findChild<QDockWidget*>(QStringLiteral("clockChangeDock"))->windowTitle(),
         QStringLiteral("Zeitumstellungen"));
 }

@@ -92,7 +92,7 @@ void tst_DispatchRun::fromTheStartToTheOriginal()
     clock.set(QDateTime(monday, QTime(8, 0)));
     run.window.show();
     QCOMPARE(text(run, "nowProgram"), QStringLiteral("Not started"));
-    QVERIFY(text(run, "nowReason").contains(QLatin1String("start button")));
+    QVERIFY(text(run, "nowReason").contains(QLatin1String("Choose Start")));
     run.picture(run.window, QStringLiteral("1-not-started"));
 
     run.card(0).toggleFold();
@@ -181,7 +181,7 @@ void tst_DispatchRun::aListThatRunsLessThanOnce()
     constexpr int noMode = 7;
     putIntoEffect(run, noMode);
     QCOMPARE(text(run, "nowReason"),
-             QStringLiteral("Plan 1 of task 1 has the screen, but its list is to run less than "
+             QStringLiteral("Plan 1 of task 1 is due, but its list is to run less than "
                             "once."));
 }
 

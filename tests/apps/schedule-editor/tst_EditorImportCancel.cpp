@@ -189,7 +189,7 @@ void tst_EditorImportCancel::cancellingTheSearchTakesNothingIn()
     QCOMPARE(read.load(), 0);
     QVERIFY(fixture.manager.getPrograms().empty());
     QCOMPARE(fixture.window.statusBar()->currentMessage(),
-             QStringLiteral("The import was cancelled; nothing was taken in."));
+             QStringLiteral("The import was canceled; nothing was imported."));
     QTRY_VERIFY(progress.isNull());
 }
 
@@ -213,7 +213,7 @@ void tst_EditorImportCancel::cancellingTooLateTakesNothingIn()
     QVERIFY(isLate);
     QVERIFY(fixture.manager.getPrograms().empty());
     QCOMPARE(fixture.window.statusBar()->currentMessage(),
-             QStringLiteral("The import was cancelled; nothing was taken in."));
+             QStringLiteral("The import was canceled; nothing was imported."));
 }
 
 void tst_EditorImportCancel::anImportAfterACancelIsWhole()

@@ -38,6 +38,16 @@ private:
         }
         return nullptr;
     }
+    static QAction* languageAction(const QWidget& window, const char* language)
+    {
+        const QList<QAction*> actions = window.findChildren<QAction*>();
+        for (QAction* action : actions) {
+            if (action->data().toString() == QLatin1String(language)) {
+                return action;
+            }
+        }
+        return nullptr;
+    }
 };
 
 void tst_EditorWindow::aNewDatabaseIsFilledOnce()
@@ -112,11 +122,11 @@ void tst_EditorWindow::theLanguageChangesEverywhereAtOnce()
     auto* save = fixture.editor->findChild<QPushButton*>(QStringLiteral("pushButtonSave"));
     QVERIFY(save != nullptr);
     const QString english = save->text();
-    const QAction* chinese = action(fixture.window, Languages::nativeName(QStringLiteral("zh_CN")));
+    QAction* chinese = languageAction(fixture.window, "zh_CN");
     QVERIFY(chinese != nullptr);
     QVERIFY(action(fixture.window, QStringLiteral("Import files…")) != nullptr);
 
-    const_cast<QAction*>(chinese)->trigger();
+    chinese->trigger();
 
     QVERIFY(save->text() != english);
     QTRY_VERIFY(action(fixture.window, QStringLiteral("Import files…")) == nullptr);
@@ -129,8 +139,8 @@ void tst_EditorWindow::theLanguageChangesEverywhereAtOnce()
 void tst_EditorWindow::theLanguageInUseIsMarked()
 {
     HostFixture fixture;
-    const QAction* english = action(fixture.window, Languages::nativeName(QStringLiteral("en_US")));
-    const QAction* chinese = action(fixture.window, Languages::nativeName(QStringLiteral("zh_CN")));
+    const QAction* english = languageAction(fixture.window, "en_US");
+    const QAction* chinese = languageAction(fixture.window, "zh_CN");
 
     QVERIFY(english->isChecked());
     QVERIFY(!chinese->isChecked());
@@ -157,7 +167,7 @@ void tst_EditorWindow::removingAProgramAsksFirst()
     fixture.window.openDatabase(fixture.database, QStringLiteral(DEMONSTRATION));
     fixture.window.show();
     auto* table = fixture.window.findChild<QTableView*>(QStringLiteral("programTable"));
-    QAction* remove = action(fixture.window, QStringLiteral("Remove from catalogue"));
+    QAction* remove = action(fixture.window, QStringLiteral("Remove from catalog"));
     QVERIFY(!remove->isEnabled());
     table->selectRow(1);
     QVERIFY(remove->isEnabled());

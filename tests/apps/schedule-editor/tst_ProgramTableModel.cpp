@@ -118,7 +118,8 @@ void tst_ProgramTableModel::aFileThatHasGoneIsMarked()
     QVERIFY(selection.isRowSelected(2, {}));
     QVERIFY(model.index(0, 0).data(ProgramTableModel::MissingRole).toBool());
     QVERIFY(!model.index(1, 0).data(ProgramTableModel::MissingRole).toBool());
-    QVERIFY(model.index(0, 1).data(Qt::ToolTipRole).toString().contains(QStringLiteral("gone")));
+    QVERIFY(
+        model.index(0, 1).data(Qt::ToolTipRole).toString().contains(QStringLiteral("not found")));
 }
 
 void tst_ProgramTableModel::aPasswordIsNotShown()
@@ -142,7 +143,7 @@ void tst_ProgramTableModel::aPasswordIsNotShown()
     QCOMPARE(told(4, Qt::ToolTipRole), shown);
     QCOMPARE(told(5, Qt::DisplayRole), shown + QLatin1Char('2'));
     QCOMPARE(told(5, Qt::ToolTipRole),
-             QStringLiteral("The file has gone: ") + shown + QLatin1Char('2'));
+             QStringLiteral("File not found: ") + shown + QLatin1Char('2'));
     for (int row = 0; row < model.rowCount(); ++row) {
         for (int column = 0; column < model.columnCount(); ++column) {
             const QMap<int, QVariant> cell = model.itemData(model.index(row, column));

@@ -126,7 +126,7 @@ void tst_SaveRescue::tryingAgainSavesWhenTheLockHasGone()
     QCOMPARE(refusals, 1);
     QCOMPARE(answer.count(), 1);
     QVERIFY(answer.texts().at(0).contains(fixture.database));
-    QCOMPARE(answer.buttons().at(0), QStringLiteral("Try again|Write to a file|Give up"));
+    QCOMPARE(answer.buttons().at(0), QStringLiteral("Try again|Write to a file|Discard changes"));
     QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(4));
 }
 

@@ -1,7 +1,6 @@
 #include "clock/ClockChangePanel.h"
 
 #include "clock/Clock.h"
-#include "service/DateText.h"
 #include "service/TimeText.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
@@ -57,7 +56,7 @@ void ClockChangePanel::follow()
 void ClockChangePanel::reload()
 {
     clear();
-    setAccessibleName(tr("Changes of the clocks"));
+    setAccessibleName(tr("Clock changes"));
     scheduleManage& manager = scheduleManage::getInstance();
     const std::vector<TaskClockChange> changes =
         nextClockChanges(manager.getAllTask(), manager.getPrograms(), Clock::current().zone(),
@@ -66,7 +65,7 @@ void ClockChangePanel::reload()
         addChange(change);
     }
     if (changes.empty()) {
-        addSentence(tr("No change of the clocks falls on a day of any task."), true);
+        addSentence(tr("No clock change falls within the validity of any task."), true);
     }
 }
 
@@ -81,46 +80,66 @@ void ClockChangePanel::addSentence(const QString& sentence, bool isFaint)
 
 void ClockChangePanel::addChange(const TaskClockChange& change)
 {
-    const QString date = QString::fromStdString(dateToText(change.change.date));
-    const bool isLeftOut = change.change.isLeftOut();
-    const QString head =
-        (isLeftOut ? tr("%1: %2–%3 is left out;") : tr("%1: %2–%3 comes twice;"))
-            .arg(date, timeOfDay(change.change.begin), timeOfDay(change.change.end)) +
-        QLatin1Char(' ');
+    const auto sentence = [&](const QString& text) {
+        return text.arg(locale().toString(change.change.date, QLocale::ShortFormat),
+                        timeOfDay(change.change.begin), timeOfDay(change.change.end));
+    };
     for (const TouchedPlan& plan : change.plans) {
-        addSentence(head + effect(change, plan), false);
+        addSentence(effect(sentence(wordsFor(plan.effect)), change, plan), false);
     }
     if (change.plans.empty()) {
-        addSentence(head + tr("it touches no plan of task %1.").arg(change.taskId), true);
+        addSentence(sentence(change.change.isLeftOut()
+                                 ? tr("%1: %2–%3 is skipped; no plan of task %4 is affected.")
+                                 : tr("%1: %2–%3 occurs twice; no plan of task %4 is affected."))
+                        .arg(change.taskId),
+                    true);
     }
 }
 
-QString ClockChangePanel::effect(const TaskClockChange& change, const TouchedPlan& plan)
+QString ClockChangePanel::wordsFor(ClockChangeEffect effect)
 {
-    const auto sentence = [&](const QString& text) {
-        return text.arg(plan.planId).arg(change.taskId);
-    };
-    switch (plan.effect) {
+    switch (effect) {
     case ClockChangeEffect::Lost:
-        return sentence(tr("plan %1 of task %2 does not play."));
+        return tr("%1: %2–%3 is skipped; plan %4 of task %5 does not play.");
     case ClockChangeEffect::BeginsLate:
-        return sentence(tr("plan %1 of task %2 starts at %3 in the middle of its list."))
-            .arg(timeOfDay(change.change.end));
+        return tr("%1: %2–%3 is skipped; plan %4 of task %5 starts at %6 in the middle of its "
+                  "list.");
     case ClockChangeEffect::EndsEarly:
-        return sentence(tr("plan %1 of task %2 is cut off at %3."))
-            .arg(timeOfDay(change.change.begin));
+        return tr("%1: %2–%3 is skipped; plan %4 of task %5 is cut off at %6.");
     case ClockChangeEffect::Skips:
-        return sentence(tr("plan %1 of task %2 skips this part of its list."));
+        return tr("%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.");
     case ClockChangeEffect::PlaysTwice:
-        return sentence(tr("plan %1 of task %2 plays twice."));
+        return tr("%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.");
     case ClockChangeEffect::BeginsTwice:
-        return sentence(tr("plan %1 of task %2 starts twice at %3.")).arg(timeOfDay(plan.begin));
+        return tr("%1: %2–%3 occurs twice; plan %4 of task %5 starts twice at %6.");
     case ClockChangeEffect::EndsTwice:
-        return sentence(tr("plan %1 of task %2 ends twice at %3.")).arg(timeOfDay(plan.end));
+        return tr("%1: %2–%3 occurs twice; plan %4 of task %5 ends twice at %6.");
     case ClockChangeEffect::RepeatsAPart:
         break;
     }
-    return sentence(tr("plan %1 of task %2 repeats this part of its list."));
+    return tr("%1: %2–%3 occurs twice; plan %4 of task %5 repeats this part of its list.");
+}
+
+QString ClockChangePanel::effect(const QString& words, const TaskClockChange& change,
+                                 const TouchedPlan& plan)
+{
+    const QString sentence = words.arg(plan.planId).arg(change.taskId);
+    switch (plan.effect) {
+    case ClockChangeEffect::BeginsLate:
+        return sentence.arg(timeOfDay(change.change.end));
+    case ClockChangeEffect::EndsEarly:
+        return sentence.arg(timeOfDay(change.change.begin));
+    case ClockChangeEffect::BeginsTwice:
+        return sentence.arg(timeOfDay(plan.begin));
+    case ClockChangeEffect::EndsTwice:
+        return sentence.arg(timeOfDay(plan.end));
+    case ClockChangeEffect::Lost:
+    case ClockChangeEffect::Skips:
+    case ClockChangeEffect::PlaysTwice:
+    case ClockChangeEffect::RepeatsAPart:
+        break;
+    }
+    return sentence;
 }
 
 void ClockChangePanel::showEvent(QShowEvent* event)
@@ -131,7 +150,8 @@ void ClockChangePanel::showEvent(QShowEvent* event)
 
 void ClockChangePanel::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::PaletteChange) {
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange ||
+        event->type() == QEvent::PaletteChange) {
         follow();
     }
     QListWidget::changeEvent(event);

@@ -3,6 +3,7 @@
 #include <QListWidget>
 
 namespace trel::mediadispatch {
+enum class ClockChangeEffect;
 struct TaskClockChange;
 struct TouchedPlan;
 } // namespace trel::mediadispatch
@@ -29,6 +30,9 @@ private:
     void reload();
     void addSentence(const QString& sentence, bool isFaint);
     void addChange(const trel::mediadispatch::TaskClockChange& change);
-    static QString effect(const trel::mediadispatch::TaskClockChange& change,
+    /// The sentence for an effect, with places for the change (%1 to %3), the plan and its task
+    /// (%4, %5), and where the effect has a time of day, for that (%6).
+    static QString wordsFor(trel::mediadispatch::ClockChangeEffect effect);
+    static QString effect(const QString& words, const trel::mediadispatch::TaskClockChange& change,
                           const trel::mediadispatch::TouchedPlan& plan);
 };

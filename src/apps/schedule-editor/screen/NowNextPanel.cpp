@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QLocale>
 #include <QVBoxLayout>
 
 using namespace trel::mediadispatch;
@@ -147,7 +148,7 @@ void NowNextPanel::retranslate()
     m_program->setAccessibleName(tr("Program on screen"));
     m_bar->setAccessibleName(tr("Position in the program"));
     m_reason->setAccessibleName(tr("Why this is on screen"));
-    m_nextProgram->setAccessibleName(tr("Program that comes next"));
+    m_nextProgram->setAccessibleName(tr("Next program"));
     showScreen();
     showNext();
 }
@@ -199,7 +200,7 @@ void NowNextPanel::showNext()
     m_nextPart->setVisible(m_follower.isRunning());
     const std::optional<ScreenScene>& next = m_follower.next();
     m_nextInserted->setVisible(next && next->state.isInserted());
-    m_nextProgram->setText(next ? ScreenWords::program(*next) : tr("Nothing else comes."));
+    m_nextProgram->setText(next ? ScreenWords::program(*next) : tr("Nothing else is scheduled."));
     QStringList parts;
     if (next) {
         parts = QStringList{ScreenWords::plan(*next), ScreenWords::entry(*next)};
@@ -217,11 +218,11 @@ void NowNextPanel::showNextTime()
         setOptional(m_nextTime, QString());
         return;
     }
-    const QDateTime moment = m_follower.local(until);
+    const QString date = locale().toString(m_follower.local(until).date(), QLocale::ShortFormat);
     const QString time = m_follower.timeText(until);
     m_nextTime->setVisible(true);
     m_nextTime->setText(*toCome < kDay ? tr("at %1, in %2").arg(time, ScreenWords::toCome(*toCome))
-                                       : tr("on %1 at %2").arg(moment.toString(kDateFormat), time));
+                                       : tr("on %1 at %2").arg(date, time));
 }
 
 QString NowNextPanel::insertionText(const QObject* badge) const
@@ -254,7 +255,7 @@ bool NowNextPanel::event(QEvent* event)
 
 void NowNextPanel::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange) {
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange) {
         retranslate();
     }
     QWidget::changeEvent(event);

@@ -46,7 +46,9 @@ void PreviewDock::setFullScreen(bool isFull)
 void PreviewDock::retranslate()
 {
     setWindowTitle(tr("Preview"));
-    m_fullScreen->setText(tr("&Full screen preview"));
+    // The title becomes the text of the action, which has a letter besides.
+    toggleViewAction()->setText(tr("&Preview"));
+    m_fullScreen->setText(tr("&Full-screen preview"));
 }
 
 void PreviewDock::changeEvent(QEvent* event)

@@ -84,29 +84,27 @@ QString ScreenWords::reason(const ScreenState& state, const PlayPlan* plan)
     };
     switch (state.reason) {
     case ScreenReason::NothingInEffect:
-        return tr("The start button of the schedule editor puts the saved schedule into effect.");
+        return tr("Choose Start in the schedule editor to put the saved schedule into effect.");
     case ScreenReason::NoPlanYet:
-        return tr("No plan has had the screen up to now.");
+        return tr("No plan has started yet.");
     case ScreenReason::PlanPlays:
-        return ofPlan(tr("Of the plans for this time of day, plan %1 of task %2 comes first."));
+        return ofPlan(tr("Plan %1 of task %2 is the first of the plans for this time."));
     case ScreenReason::PlanHasNothing:
         if (plan != nullptr && runsLessThanOnce(*plan)) {
-            return ofPlan(tr("Plan %1 of task %2 has the screen, but its list is to run less than "
-                             "once."));
+            return ofPlan(tr("Plan %1 of task %2 is due, but its list is to run less than once."));
         }
-        return ofPlan(tr("Plan %1 of task %2 has the screen, but none of its programs can play."));
+        return ofPlan(tr("Plan %1 of task %2 is due, but none of its programs can play."));
     case ScreenReason::PlanRanOut:
-        return ofPlan(tr("Plan %1 of task %2 has played its list as often as it should."));
+        return ofPlan(tr("Plan %1 of task %2 has played its list the set number of times."));
     case ScreenReason::PlanEnded:
         return ofPlan(tr("Plan %1 of task %2 is over, and no other has begun."));
     case ScreenReason::InsertionPlays:
-        return ofPlan(tr("It was cut in by hand, in the place of plan %1 of task %2."));
+        return ofPlan(tr("Cut in manually in place of plan %1 of task %2."));
     case ScreenReason::InsertionHasNothing:
     case ScreenReason::InsertionRanOut:
         break;
     }
-    return ofPlan(
-        tr("What was cut in, in the place of plan %1 of task %2, has nothing more to play."));
+    return ofPlan(tr("What was cut in for plan %1 of task %2 has nothing left to play."));
 }
 
 QString ScreenWords::list(const std::vector<struProgInfo>& programs)
@@ -117,15 +115,21 @@ QString ScreenWords::list(const std::vector<struProgInfo>& programs)
         names.append(
             entry.playCount == 1 ? name : QStringLiteral("%1 ×%2").arg(name).arg(entry.playCount));
     }
-    return names.join(QStringLiteral(", "));
+    return joined(names);
+}
+
+QString ScreenWords::joined(const QStringList& programs)
+{
+    return programs.join(tr(", ", "between programs"));
 }
 
 QString ScreenWords::insertion(const std::vector<struProgInfo>& inserted,
                                const std::vector<struProgInfo>& original)
 {
     const QString cutIn = tr("Cut in: %1").arg(list(inserted));
-    return original.empty() ? cutIn
-                            : cutIn + QLatin1Char('\n') + tr("Before: %1").arg(list(original));
+    return original.empty()
+               ? cutIn
+               : cutIn + QLatin1Char('\n') + tr("Original list: %1").arg(list(original));
 }
 
 QString ScreenWords::gone(qint64 msecs)

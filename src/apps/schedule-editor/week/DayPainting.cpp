@@ -124,9 +124,8 @@ void paintClockChange(QPainter& painter, const WeekScene& scene, int day, const 
     if (change.isLeftOut()) {
         painter.fillRect(rect, colours.weekClock);
         paintPattern(painter, rect, colours.weekClockPattern, Qt::BDiagPattern);
-        drawLabel(painter, labelPlace(scene, rect, 0),
-                  isolated(Words::tr("Left out: clocks go forward")), colours.weekClockText,
-                  colours.weekClock);
+        drawLabel(painter, labelPlace(scene, rect, 0), isolated(Words::tr("Skipped")),
+                  colours.weekClockText, colours.weekClock);
         return;
     }
     // What comes twice keeps its ground: two passes side by side, between two lines.
@@ -153,8 +152,8 @@ void paintDoubled(QPainter& painter, const WeekScene& scene, int day, const Cloc
     if (rect.height() >= height * 2) {
         const QRect line(rect.left() + kTextSpace, rect.bottom() - height - 1,
                          rect.width() - 2 * kTextSpace, height);
-        drawLabel(painter, line, isolated(Words::tr("Comes twice: clocks go back")),
-                  colours.weekClockText, colours.weekClock);
+        drawLabel(painter, line, isolated(Words::tr("Repeated")), colours.weekClockText,
+                  colours.weekClock);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "look/Themes.h"
 #include "week/WeekPanel.h"
 
+#include <QAction>
 #include <QEvent>
 
 WeekDock::WeekDock(const Languages& languages, const Themes& themes, QWidget* parent)
@@ -29,6 +30,8 @@ WeekDock::WeekDock(const Languages& languages, const Themes& themes, QWidget* pa
 void WeekDock::retranslate()
 {
     setWindowTitle(tr("Week"));
+    // The title becomes the text of the action, which has a letter besides.
+    toggleViewAction()->setText(tr("&Week"));
 }
 
 void WeekDock::changeEvent(QEvent* event)

@@ -120,11 +120,11 @@ void WeekPanel::retranslate()
     m_fit->setText(tr("Whole day"));
     m_source->setItemText(0, tr("As edited"));
     m_source->setItemText(1, tr("In effect"));
-    setWords(m_former, tr("Week before"));
-    setWords(m_next, tr("Week after"));
-    setWords(m_smaller, tr("Hours less high"));
-    setWords(m_larger, tr("Hours higher"));
-    setWords(m_source, tr("Which schedule is shown"));
+    setWords(m_former, tr("Previous week"));
+    setWords(m_next, tr("Next week"));
+    setWords(m_smaller, tr("Zoom out"));
+    setWords(m_larger, tr("Zoom in"));
+    setWords(m_source, tr("Schedule shown"));
     m_view->retranslate();
     updateTitle();
     updateButtons();

@@ -26,8 +26,7 @@ QString whatText(const WeekSchedule& schedule, const ScreenState& state)
 {
     const QString program = shortened(schedule.program(state.progIndex));
     if (state.isPlaying()) {
-        return Words::tr("On screen: %1, %2 into it")
-            .arg(program, ScreenWords::gone(state.position));
+        return Words::tr("On screen: %1, at %2").arg(program, ScreenWords::gone(state.position));
     }
     return Words::tr("On screen: %1").arg(ScreenWords::program(state, program));
 }
@@ -48,8 +47,8 @@ QString momentText(const WeekSchedule& schedule, const WeekLayout& layout, const
                              ? QString()
                              : LocalClock(schedule.zone())
                                    .offsetMark(layout.clock.instant(hit.day, hit.second, hit.pass));
-    return QStringLiteral("%1, %2").arg(locale.toString(date, QLocale::LongFormat),
-                                        shortTime(hit.second) + mark);
+    return Words::tr("%1, %2", "day and time of day")
+        .arg(locale.toString(date, QLocale::LongFormat), shortTime(hit.second) + mark);
 }
 
 QString changeText(const ClockChange& change)
@@ -57,15 +56,15 @@ QString changeText(const ClockChange& change)
     const QString from = shortTime(change.begin);
     const QString to = shortTime(change.end);
     return change.isLeftOut()
-               ? Words::tr("%1 to %2 is left out: the clocks go forward.").arg(from, to)
-               : Words::tr("%1 to %2 comes twice: the clocks go back.").arg(from, to);
+               ? Words::tr("%1 to %2 is skipped: the clocks go forward.").arg(from, to)
+               : Words::tr("%1 to %2 occurs twice: the clocks go back.").arg(from, to);
 }
 
 void addBlock(QStringList& lines, const WeekColumn& column, const WeekHit& hit)
 {
     if (hit.piece != nullptr && hit.piece->state == DayPiece::Several) {
         lines.append(
-            Words::tr("%n more plans are kept from the screen.", nullptr, hit.piece->count));
+            Words::tr("%n more plans do not reach the screen.", nullptr, hit.piece->count));
     }
     if (hit.block == nullptr) {
         return;
@@ -77,11 +76,10 @@ void addBlock(QStringList& lines, const WeekColumn& column, const WeekHit& hit)
     }
     const WeekBlock* holder = column.holderAt(hit.second);
     if (holder != nullptr && holder != hit.block) {
-        lines.append(
-            Words::tr("Plan %1 stands above it and has the screen instead.").arg(holder->planId));
+        lines.append(Words::tr("Plan %1, above it, takes precedence.").arg(holder->planId));
     }
     if (hit.block->collides) {
-        lines.append(Words::tr("It collides with a plan above it."));
+        lines.append(Words::tr("It conflicts with a plan above it."));
     }
 }
 
@@ -96,7 +94,8 @@ QString blockText(const WeekBlock& block)
                        .arg(block.planId)
                        .arg(shortTime(block.from), shortTime(block.to));
     if (!block.programs.isEmpty()) {
-        text += QStringLiteral(": ") + shortened(block.programs.join(QStringLiteral(", ")));
+        text = Words::tr("%1: %2", "plan and its programs")
+                   .arg(text, shortened(ScreenWords::joined(block.programs)));
     }
     return text;
 }

@@ -42,9 +42,9 @@ void tst_WeekReasons::plansThatNeverPlay_data()
         QTest::newRow(name) << plan << QString::fromUtf8(sentence);
     };
     row("empty", timePlan(1, "08:00:00", "08:00:00"),
-        "Plan 1 never plays: it ends as it starts, at 08:00:00.");
+        "Plan 1 never plays: it starts and ends at 08:00:00.");
     row("inverted", timePlan(1, "08:00:00", "07:00:00"),
-        "Plan 1 never plays: it starts at 08:00:00 and ends before, at 07:00:00.");
+        "Plan 1 never plays: it ends at 07:00:00, before it starts at 08:00:00.");
     row("start", timePlan(1, "noon", "07:00:00"),
         "Plan 1 never plays: its start, “noon”, is not a time in the form hh:mm:ss.");
     row("end", timePlan(1, "08:00:00", "nine"),
@@ -68,8 +68,7 @@ void tst_WeekReasons::aListThatRunsLessThanOnce()
     plan.mode = 7;
     plan.times = 0;
     QCOMPARE(reasonsOfTheBlock(plan)[2],
-             QStringLiteral("Plan 1 of task 1 has the screen, but its list is to run less than "
-                            "once."));
+             QStringLiteral("Plan 1 of task 1 is due, but its list is to run less than once."));
 }
 
 // A minute and a half and half a minute, once each.

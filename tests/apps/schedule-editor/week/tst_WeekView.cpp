@@ -175,15 +175,14 @@ void tst_WeekView::tipOfTheMouse_data()
     const auto row = [](const char* name, const QTime& time, bool beside, const char* expected) {
         QTest::newRow(name) << time << beside << QString::fromUtf8(expected);
     };
-    row("nothing yet", {4, 0}, false,
-        "On screen: Black screen|No plan has had the screen up to now.");
+    row("nothing yet", {4, 0}, false, "On screen: Black screen|No plan has started yet.");
     row("plays", {8, 0}, false,
-        "On screen: City news, *|Of the plans for this time of day, plan 11 of task 1 comes first.|"
+        "On screen: City news, *|Plan 11 of task 1 is the first of the plans for this time.|"
         "Plan 11, 08:00 to 10:00: City news, Weather");
     row("hidden", {9, 30}, true,
-        "On screen: *|Of the plans for this time of day, plan 11 of task 1 comes first.|"
+        "On screen: *|Plan 11 of task 1 is the first of the plans for this time.|"
         "Plan 12, 09:00 to 12:00: City news, Weather|"
-        "Plan 11 stands above it and has the screen instead.|It collides with a plan above it.");
+        "Plan 11, above it, takes precedence.|It conflicts with a plan above it.");
     row("frozen", {13, 0}, false,
         "On screen: Last frame of *|Plan 12 of task 1 is over, and no other has begun.");
     row("black", {17, 0}, false,
@@ -212,8 +211,8 @@ void tst_WeekView::tipOfTheKeyboard()
     QTest::mouseClick(m_week->view.viewport(), Qt::LeftButton, Qt::NoModifier, centreOf(3));
     m_week->key(Qt::Key_Space);
     QVERIFY2(QToolTip::text().endsWith(
-                 QStringLiteral("Plan 14 never plays: it starts at 20:00:00 and ends before, "
-                                "at 18:00:00.")),
+                 QStringLiteral("Plan 14 never plays: it ends at 18:00:00, before it "
+                                "starts at 20:00:00.")),
              qPrintable(QToolTip::text()));
 }
 
