@@ -1,7 +1,7 @@
 #include "LanguageMessages.h"
 #include "LanguageNames.h"
 
-#include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
 #include <QtTest>
@@ -112,10 +112,10 @@ QStringList sentencesOfTheConsole()
         QStringLiteral("R\"\\((.*?)\\)\"|\"((?:[^\"\\\\\n]|\\\\.)*)\""),
         QRegularExpression::DotMatchesEverythingOption);
     QStringList sentences;
-    const QDir folder(QStringLiteral(CONSOLE_SOURCE_DIR));
-    const QStringList files = folder.entryList({QStringLiteral("*.cpp")});
-    for (const QString& file : files) {
-        auto matches = literal.globalMatch(contentOf(folder.filePath(file)));
+    QDirIterator files(QStringLiteral(CONSOLE_SOURCE_DIR), {QStringLiteral("*.cpp")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        auto matches = literal.globalMatch(contentOf(files.next()));
         while (matches.hasNext()) {
             const QRegularExpressionMatch match = matches.next();
             const QString text = match.captured(1) + match.captured(2);

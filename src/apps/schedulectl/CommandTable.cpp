@@ -10,33 +10,33 @@ const std::vector<Command>& allCommands()
 {
     static const std::vector<Command> commands = {
         {"import", "PATH...", 1, Command::kAnyNumber, true,
-         "Put media files and folders into the catalogue",
-         R"(Puts media into the catalogue of programs. PATH is a media file, a folder, from
+         "Put media files and folders into the catalog",
+         R"(Puts media into the catalog of programs. PATH is a media file, a folder, from
 which every media file is taken with everything below it, or the address of a
-live source such as rtsp://host/stream. A file that is in the catalogue already
+live source such as rtsp://host/stream. A file that is in the catalog already
 is read again and keeps its index, so importing a folder twice is harmless.
 The database is made when it does not exist.
 
 What cannot become a program is refused: it is listed on the standard error with
-the reason, everything else is imported, and the exit status is 1. Files of a
-folder that are not even named as media are passed over without a word. Nothing
-is written until all paths have been looked at, so an import that is interrupted
-leaves the catalogue as it was.
+the reason, everything else is imported, and the exit status is 1. Files in a
+folder whose names do not look like media are skipped silently. Nothing is
+written until all paths have been looked at, so an import that is interrupted
+leaves the catalog as it was.
 
-Progress is shown while a person watches.)",
+Progress is shown only on a terminal.)",
          runImport},
-        {"programs", "", 0, 0, true, "List the programs of the catalogue",
+        {"programs", "", 0, 0, true, "List the programs of the catalog",
          R"(Lists the programs with index, name, kind, length and file. A program whose file
 is no longer there is marked as gone.)",
          runPrograms},
         {"remove-program", "INDEX...", 1, Command::kAnyNumber, false,
-         "Take programs out of the catalogue",
-         R"(Takes the programs of these indexes out of the catalogue; their files are left
+         "Take programs out of the catalog",
+         R"(Takes the programs of these indexes out of the catalog; their files are left
 alone. "schedulectl programs" shows the indexes. Plans that use the programs
 keep their entries, which are marked as invalid from then on. The indexes are
 never given out again.
 
-All of them are removed, or none: where the catalogue does not have one of them,
+All of them are removed, or none: where the catalog does not have one of them,
 it is named on the standard error, and the exit status is 1.)",
          runRemoveProgram},
         {"show", "", 0, 0, true, "Show the tasks and their plans",
@@ -68,11 +68,11 @@ makes it so; and the next program and the next plan with their moments.
 A moment is a date and a time of day, such as "2024-03-31 08:00:00" or
 2024-03-31T08:00; the seconds may be left out, and a time alone is one of today.
 Times are local unless an offset such as +01:00, or Z, follows. A time that the
-clock leaves out is taken as the first moment after the gap, one that comes
-twice as the first of the two; both are said on the standard error.)",
+clock skips is taken as the first moment after the gap, one that occurs twice as
+the first of the two; either is reported on standard error.)",
          runNow,
          true,
-         {{"--at", "MOMENT", "The moment; now when left out."}}},
+         {{"--at", "MOMENT", "The moment; defaults to now."}}},
         {"timeline",
          "",
          0,
@@ -80,9 +80,9 @@ twice as the first of the two; both are said on the standard error.)",
          true,
          "List what is on screen from one moment to another",
          R"(Lists what the saved schedule has on screen from one moment to another: a line
-for each time that a plan has the screen without a break, and one for each
-stretch between. The first line begins when that did, also before --from, and
-the last one ends when that does.
+for each time that a plan is on screen without a break, and one for each
+stretch between. The first line starts when its state began, even before --from,
+and the last line ends when its state ends.
 
 Moments are written as for "schedulectl now"; a date alone is the start of that
 day.)",
@@ -97,15 +97,15 @@ day.)",
          1,
          true,
          "Tell why a program plays, or what keeps it away",
-         R"(Tells of a program whether the saved schedule has it on screen at a moment. If
-not, it names for every plan that holds the program the rule that kept it away,
-and what is on screen instead.
+         R"(Tells whether the saved schedule shows a program at a moment. If not, it names
+for every plan that holds the program the rule that kept it away, and what is on
+screen instead.
 
 PROGRAM is an index, a name, or a part of a name that only one program has.
 Moments are written as for "schedulectl now".)",
          runWhy,
          true,
-         {{"--at", "MOMENT", "The moment; now when left out."}}},
+         {{"--at", "MOMENT", "The moment; defaults to now."}}},
         {"run", "", 0, 0, true, "Execute the schedule on the terminal",
          R"(Puts the saved schedule into effect and writes a line for each event: when it
 is, what is on screen, until when, and the rule that makes it so. What another
@@ -117,7 +117,7 @@ terminate (SIGINT, SIGTERM). With --json each line is an object by itself.)",
         {"export", "FILE", 1, 1, false, "Write the schedule to a JSON file",
          R"(Writes all tasks, with every field, to FILE as JSON; "-" is the standard output.
 A file that exists is replaced, in one step. The same schedule always gives the
-same bytes. The catalogue is not part of the file.)",
+same bytes. The catalog is not part of the file.)",
          runExport},
         {"import-schedule", "FILE", 1, 1, false, "Replace the schedule by one from a JSON file",
          R"(Reads the schedule in FILE, in the form that "schedulectl export" writes, and
@@ -127,7 +127,7 @@ database is made when it does not exist.
 The file is read as a whole or not at all: what is wrong in it is named with its
 place, and the database is left as it was. A schedule with overlapping tasks is
 taken, since it can be put right in the editor; "schedulectl check" finds them.
-Entries of programs that the catalogue does not have become invalid, so import
+Entries of programs that the catalog does not have become invalid, so import
 the programs first, in the order of their indexes.)",
          runImportSchedule},
         {"check-language", "FILE", 1, 1, true, "Find what is wrong in a translation of the editor",

@@ -126,7 +126,7 @@ MediaFacts probeMedia(const QString& path, bool isNamedAsMedia)
     }
     const Input input = openInput(path);
     if (!input || (!isNamedAsMedia && input->probe_score <= AVPROBE_SCORE_RETRY)) {
-        return refused("It is no media file, or a damaged one.");
+        return refused("It is not a media file, or it is damaged.");
     }
     if (avformat_find_stream_info(input.get(), nullptr) < 0) {
         return refused("Its content cannot be read.");

@@ -202,8 +202,8 @@ void tst_CtlCatalogue::emptyCatalogueIsSaid()
     fixture.store({});
     const CtlResult text = fixture.onDatabase({kPrograms});
     QCOMPARE(text.status, 0);
-    QCOMPARE(text.lines(), QStringList{QStringLiteral(
-                               "The catalogue is empty; \"schedulectl import\" fills it.")});
+    QCOMPARE(text.lines(),
+             QStringList{QStringLiteral("The catalog is empty; \"schedulectl import\" fills it.")});
     const CtlResult json = fixture.onDatabase({kPrograms, kJson});
     QCOMPARE(json.status, 0);
     QVERIFY(json.json()[kPrograms].isArray());
@@ -299,7 +299,7 @@ void tst_CtlCatalogue::removeRefusals()
     for (const char* text : {"one", "1x", "1.5", "99999999999"}) {
         const CtlResult misused = fixture.onDatabase({kRemove, QString::fromLatin1(text)});
         QCOMPARE(misused.status, 2);
-        QCOMPARE(misused.err, QStringLiteral("schedulectl: \"%1\" is no index; \"schedulectl "
+        QCOMPARE(misused.err, QStringLiteral("schedulectl: \"%1\" is not an index; \"schedulectl "
                                              "programs\" shows the indexes.\n")
                                   .arg(QString::fromLatin1(text)));
     }
@@ -342,7 +342,7 @@ void tst_CtlCatalogue::allOrNoneAreRemoved()
     const CtlResult misused =
         fixture.onDatabase({kRemove, QStringLiteral("1"), QStringLiteral("two")});
     QCOMPARE(misused.status, 2);
-    QVERIFY(misused.err.startsWith(QStringLiteral("schedulectl: \"two\" is no index;")));
+    QVERIFY(misused.err.startsWith(QStringLiteral("schedulectl: \"two\" is not an index;")));
     QCOMPARE(fixture.onDatabase({kPrograms}).lines().size(), 3);
 }
 

@@ -185,7 +185,7 @@ void tst_CtlExchange::importTellsWhatIsOdd()
         result.err,
         told(QStringLiteral("Periods of tasks overlap, so the editor would refuse to save this "
                             "schedule; see \"schedulectl check\".")) +
-            told(QStringLiteral("Plans refer to programs that the catalogue does not have, so "
+            told(QStringLiteral("Plans refer to programs that the catalog does not have, so "
                                 "their entries are invalid: 5, 12.")));
 }
 

@@ -328,9 +328,11 @@ void tst_CtlLanguage::otherFilesAreRefused_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("reason");
-    QTest::newRow("notes") << QByteArray("Monday: lundo\n") << QStringLiteral("no language file");
-    QTest::newRow("empty") << QByteArray() << QStringLiteral("no language file");
-    QTest::newRow("other XML") << QByteArray("<html></html>") << QStringLiteral("no language file");
+    QTest::newRow("notes") << QByteArray("Monday: lundo\n")
+                           << QStringLiteral("not a language file");
+    QTest::newRow("empty") << QByteArray() << QStringLiteral("not a language file");
+    QTest::newRow("other XML") << QByteArray("<html></html>")
+                               << QStringLiteral("not a language file");
     QTest::newRow("cut source") << Translation().source().left(900)
                                 << QStringLiteral("damaged in line ");
     QTest::newRow("cut compiled file")
@@ -356,7 +358,7 @@ void tst_CtlLanguage::otherFilesAreRefused()
     QCOMPARE(missing.err, QStringLiteral("schedulectl: eo_EO.qm does not exist.\n"));
     const CtlResult folder = check(fixture, QStringLiteral("."));
     QCOMPARE(folder.status, 1);
-    QCOMPARE(folder.err, QStringLiteral("schedulectl: . is no language file.\n"));
+    QCOMPARE(folder.err, QStringLiteral("schedulectl: . is not a language file.\n"));
 }
 
 QTEST_GUILESS_MAIN(tst_CtlLanguage)

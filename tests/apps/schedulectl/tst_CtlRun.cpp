@@ -115,8 +115,8 @@ void tst_CtlRun::endsCleanlyOnASignal()
     Run run;
     m_fixture->start(run.process, words("run"));
     const QString line = QString::fromUtf8(run.line());
-    QVERIFY2(line.endsWith(QStringLiteral("  black screen until for good. No plan has had the "
-                                          "screen up to now.\n")),
+    QVERIFY2(line.endsWith(QStringLiteral("  black screen until for good. No plan has started "
+                                          "yet.\n")),
              qPrintable(line));
     QCOMPARE(::kill(static_cast<pid_t>(run.process.processId()), number), 0);
     QVERIFY(run.process.waitForFinished(kPatience));

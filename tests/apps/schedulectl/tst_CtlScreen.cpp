@@ -146,7 +146,7 @@ void tst_CtlScreen::nowWithoutAPlan()
                  QStringLiteral("Moment        2023-12-31 12:00:00"),
                  QStringLiteral("Screen        black screen"),
                  QStringLiteral("Until         2024-01-01 08:00:00"),
-                 QStringLiteral("Why           No plan has had the screen up to now."),
+                 QStringLiteral("Why           No plan has started yet."),
                  QStringLiteral("Next program  2024-01-01 08:00:00, News"),
                  QStringLiteral("Next plan     2024-01-01 08:00:00, task 1, row 1, plan 1"),
              }));
@@ -325,7 +325,7 @@ void tst_CtlScreen::whyNamesTheRules()
             QStringLiteral("  task 1, row 1, plan 1: It is not its turn: entry 1, News, plays. "
                            "Its next turn is at 08:31:30."),
             QStringLiteral("  task 1, row 2, plan 4: An earlier row claims this time too and "
-                           "has the screen: task 1, row 1, plan 1."),
+                           "takes precedence: task 1, row 1, plan 1."),
             QStringLiteral("On screen instead: plays News until 08:31:30. The first plan that "
                            "claims this time is task 1, row 1, plan 1."),
         }));
@@ -427,7 +427,7 @@ void tst_CtlScreen::whySpeaksOfProgramsThatAreLost()
         const QStringList lines = ask({QStringLiteral("why"), QLatin1String(word), kAt,
                                        QStringLiteral("2024-01-03 09:31")})
                                       .lines();
-        QCOMPARE(lines[1], QStringLiteral("It is not in the catalogue any more."));
+        QCOMPARE(lines[1], QStringLiteral("It is no longer in the catalog."));
         QCOMPARE(lines[3], QStringLiteral("  task 1, row 2, plan 4: Entry 1 has gone bad."));
     }
     // A program that is in no plan is one all the same.

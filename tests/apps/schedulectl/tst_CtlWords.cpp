@@ -125,11 +125,11 @@ void tst_CtlWords::aListThatIsOverWithinItsSpan()
     }
     QCOMPARE(untils, (QStringList{QStringLiteral("2024-01-03T08:00:20.000+01:00"),
                                   QStringLiteral("-"), QStringLiteral("-"), QStringLiteral("-")}));
-    verifyContains(at("why News", "08:30"), "as often as it should, 2 times, and does not play");
+    verifyContains(at("why News", "08:30"), "The list has run as set, 2 times, and does not play");
     verifyContains(text({QStringLiteral("timeline"), QStringLiteral("--plays"),
                          QStringLiteral("--from"), QStringLiteral("2024-01-03 08:30"),
                          QStringLiteral("--to"), QStringLiteral("2024-01-03 08:31")}),
-                   "last frame of News, since its list has run as often as it should\n");
+                   "last frame of News, since its list has run the set number of times\n");
 }
 
 void tst_CtlWords::modesAndEndActionsThatAreNone()

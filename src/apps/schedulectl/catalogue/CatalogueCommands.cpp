@@ -71,7 +71,7 @@ std::optional<std::vector<int>> indexesOf(const QStringList& arguments, Console&
         const int index = text.toInt(&isNumber);
         if (!isNumber) {
             console.tell(
-                QStringLiteral("%1 is no index; \"schedulectl programs\" shows the indexes.")
+                QStringLiteral("%1 is not an index; \"schedulectl programs\" shows the indexes.")
                     .arg(quoted(shownAddress(text))));
             return std::nullopt;
         }
@@ -169,8 +169,7 @@ ExitStatus runPrograms(const Invocation& invocation, Console& console)
         return Done;
     }
     if (programs.empty()) {
-        console.writeLine(
-            QStringLiteral("The catalogue is empty; \"schedulectl import\" fills it."));
+        console.writeLine(QStringLiteral("The catalog is empty; \"schedulectl import\" fills it."));
         return Done;
     }
     TextTable table({{QStringLiteral("Index"), TextTable::Align::Right},

@@ -19,7 +19,7 @@ public:
     LanguageTexts read()
     {
         if (!m_xml.readNextStartElement() || m_xml.name() != QLatin1String("TS")) {
-            m_result.error = QStringLiteral("is no language file");
+            m_result.error = QStringLiteral("is not a language file");
             return m_result;
         }
         while (m_xml.readNextStartElement()) {
@@ -91,7 +91,7 @@ LanguageTexts readLanguageTexts(const QString& file)
     if (!QFileInfo::exists(file)) {
         result.error = QStringLiteral("does not exist");
     } else if (!QFileInfo(file).isFile()) {
-        result.error = QStringLiteral("is no language file");
+        result.error = QStringLiteral("is not a language file");
     } else if (!source.open(QIODevice::ReadOnly)) {
         result.error = QStringLiteral("cannot be read: %1").arg(source.errorString());
     } else if (isCompiledLanguage(source.peek(kCompiledMagicSize))) {

@@ -89,7 +89,7 @@ void tellOddities(Console& console, const std::map<int, PlayTask>& tasks,
     const std::set<int> missing = missingPrograms(tasks, programs);
     if (!missing.empty()) {
         console.tell(
-            QStringLiteral("Plans refer to programs that the catalogue does not have, so their "
+            QStringLiteral("Plans refer to programs that the catalog does not have, so their "
                            "entries are invalid: %1.")
                 .arg(numbersText(missing)));
     }

@@ -76,30 +76,29 @@ QString ScreenWords::reasonText(const ScreenState& state) const
     case ScreenReason::NothingInEffect:
         return QStringLiteral("No schedule is in effect.");
     case ScreenReason::NoPlanYet:
-        return QStringLiteral("No plan has had the screen up to now.");
+        return QStringLiteral("No plan has started yet.");
     case ScreenReason::PlanPlays:
         return QStringLiteral("The first plan that claims this time is %1.").arg(row);
     case ScreenReason::PlanHasNothing:
         return QStringLiteral("The first plan that claims this time is %1, but %2.")
             .arg(row, nothingText(state));
     case ScreenReason::PlanRanOut:
-        return QStringLiteral("The first plan that claims this time is %1; its list has run as "
-                              "often as it should, and left %2.")
+        return QStringLiteral("The first plan that claims this time is %1; its list has run the "
+                              "set number of times, and left %2.")
             .arg(row, leftText(state));
     case ScreenReason::PlanEnded:
         return QStringLiteral("No plan claims this time; the last one, %1, left %2.")
             .arg(row, leftText(state));
     case ScreenReason::InsertionPlays:
-        return QStringLiteral("An insertion for %1 has the screen.").arg(row);
+        return QStringLiteral("An insertion for %1 is on screen.").arg(row);
     case ScreenReason::InsertionHasNothing:
-        return QStringLiteral("An insertion for %1 has the screen, but none of its entries can "
-                              "play.")
+        return QStringLiteral("An insertion for %1 is due, but none of its entries can play.")
             .arg(row);
     case ScreenReason::InsertionRanOut:
         break;
     }
-    return QStringLiteral("An insertion for %1 has the screen; its list has run as often as it "
-                          "should, and left %2.")
+    return QStringLiteral("An insertion for %1 is due; its list has run the set number of "
+                          "times, and left %2.")
         .arg(row, leftText(state));
 }
 

@@ -81,7 +81,7 @@ QString TimelineReport::contentText(const ScreenState& state,
     if (state.reason == ScreenReason::PlanHasNothing) {
         text += QStringLiteral(", since ") + m_words.nothingText(state);
     } else if (state.reason == ScreenReason::PlanRanOut) {
-        text += QStringLiteral(", since its list has run as often as it should");
+        text += QStringLiteral(", since its list has run the set number of times");
     }
     return text;
 }

@@ -99,10 +99,10 @@ public:
         case VerdictRule::Over:
             return QStringLiteral("The plan's span, %1, is over for the day.").arg(span());
         case VerdictRule::EarlierRow:
-            return QStringLiteral("An earlier row claims this time too and has the screen: %1.")
+            return QStringLiteral("An earlier row claims this time too and takes precedence: %1.")
                 .arg(otherPlan());
         case VerdictRule::Insertion:
-            return QStringLiteral("An insertion for %1 has the screen.").arg(otherPlan());
+            return QStringLiteral("An insertion for %1 is on screen.").arg(otherPlan());
         default:
             return entrySentence();
         }
@@ -116,8 +116,7 @@ private:
         case VerdictRule::EntryInvalid:
             return QStringLiteral("Entry %1 has gone bad.").arg(entry);
         case VerdictRule::NotInCatalogue:
-            return QStringLiteral("The catalogue does not have the program of entry %1.")
-                .arg(entry);
+            return QStringLiteral("The catalog does not have the program of entry %1.").arg(entry);
         case VerdictRule::FileGone:
             return QStringLiteral("The file of the program is gone.");
         case VerdictRule::NoLength:
@@ -127,8 +126,7 @@ private:
         case VerdictRule::NoRuns:
             return faultText(PlanFault::RunsLessThanOnce);
         case VerdictRule::RanOut:
-            return QStringLiteral("The list has run as often as it should, %1, and does not play "
-                                  "any more until %2.")
+            return QStringLiteral("The list has run as set, %1, and does not play again until %2.")
                 .arg(playsText(m_plan), until(m_screen.spanUntil));
         case VerdictRule::NeverReached:
             return QStringLiteral("Entry %1 is never reached: entry %2, %3, has no length of its "
@@ -203,7 +201,7 @@ QString standingText(const VerdictSubject& subject, const ScreenWords& words)
 {
     const auto found = words.source().programs.find(subject.progIndex);
     if (found == words.source().programs.end()) {
-        return QStringLiteral("It is not in the catalogue any more.\n");
+        return QStringLiteral("It is no longer in the catalog.\n");
     }
     return found->second.isNull
                ? QStringLiteral("Its file is gone: %1\n").arg(programPath(found->second))

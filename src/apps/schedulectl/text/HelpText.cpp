@@ -39,8 +39,8 @@ QString usageOf(const CommandOption& own)
 QString databaseOption()
 {
     return option("--database FILE",
-                  hanging(QStringLiteral("The database to work on; the editor's own when left "
-                                         "out:\n") +
+                  hanging(QStringLiteral("The database to work on; defaults to the editor's "
+                                         "own:\n") +
                           defaultDatabasePath()));
 }
 
@@ -65,10 +65,9 @@ const char* const kExitStatus = R"(Exit status:
 QString generalHelp(const std::vector<Command>& commands)
 {
     constexpr int column = 17;
-    QString help =
-        QStringLiteral("Usage: schedulectl [OPTION...] COMMAND [ARGUMENT...]\n\n"
-                       "Looks after the play schedule of media screens and the catalogue "
-                       "of its programs.\n\nCommands:\n");
+    QString help = QStringLiteral("Usage: schedulectl [OPTION...] COMMAND [ARGUMENT...]\n\n"
+                                  "Manages the play schedule of media screens and its program "
+                                  "catalog.\n\nCommands:\n");
     for (const Command& command : commands) {
         help +=
             QStringLiteral("  %1%2\n").arg(text(command.name), -column).arg(text(command.summary));

@@ -167,10 +167,10 @@ QString obstacle(const QFileInfo& info)
         return QStringLiteral("There is no such file.");
     }
     if (!info.isFile()) {
-        return QStringLiteral("It is no file.");
+        return QStringLiteral("It is not a file.");
     }
     if (!info.isReadable()) {
-        return QStringLiteral("It may not be read.");
+        return QStringLiteral("You do not have permission to read it.");
     }
     return info.size() == 0 ? QStringLiteral("It is empty.") : QString();
 }

@@ -37,7 +37,7 @@ QString sentence(StoreProblem problem)
     case StoreProblem::None:
         return QString();
     case StoreProblem::NotOpen:
-        return QStringLiteral("No schedule file is open, so nothing can be kept.");
+        return QStringLiteral("No schedule file is open, so nothing can be saved.");
     case StoreProblem::FolderMissing:
         return QStringLiteral("%1 cannot be opened: its folder does not exist.");
     case StoreProblem::FileMissing:
@@ -49,7 +49,8 @@ QString sentence(StoreProblem problem)
     case StoreProblem::NewerSchema:
         return QStringLiteral("%1 was written by a newer version of this program.");
     case StoreProblem::Locked:
-        return QStringLiteral("%1 is in use by another program; try again when that has ended.");
+        return QStringLiteral(
+            "%1 is in use by another program; try again when that program has closed.");
     case StoreProblem::ReadOnly:
         return QStringLiteral("%1 cannot be written: the file or its folder is read-only.");
     case StoreProblem::Damaged:
@@ -57,8 +58,8 @@ QString sentence(StoreProblem problem)
     case StoreProblem::DiskFull:
         return QStringLiteral("%1 cannot be written: the disk is full.");
     case StoreProblem::MovedOn:
-        return QStringLiteral("%1 was saved by another editor since it was read here; saving now "
-                              "would undo that.");
+        return QStringLiteral("%1 has been saved by another program since it was read; saving now "
+                              "would overwrite those changes.");
     case StoreProblem::Full:
         return QStringLiteral("%1 has no room for so many programs: %2.");
     case StoreProblem::Other:

@@ -239,9 +239,9 @@ void tst_ProgramImporter::refusedFiles_data()
     QTest::newRow("text") << QStringLiteral("text.txt")
                           << QStringLiteral("It holds neither picture nor sound.");
     QTest::newRow("text as film") << QStringLiteral("text.mp4")
-                                  << QStringLiteral("It is no media file, or a damaged one.");
+                                  << QStringLiteral("It is not a media file, or it is damaged.");
     QTest::newRow("cut short") << QStringLiteral("cut.mov")
-                               << QStringLiteral("It is no media file, or a damaged one.");
+                               << QStringLiteral("It is not a media file, or it is damaged.");
     QTest::newRow("text as picture")
         << QStringLiteral("text.png") << QStringLiteral("The picture in it cannot be read.");
     QTest::newRow("text as sound") << QStringLiteral("text.mp3") << QString();
@@ -272,7 +272,7 @@ void tst_ProgramImporter::brokenMediaInAFolderIsNamed()
     const ImportScan scan = scanMedia({folder.path()});
     QCOMPARE(::names(scan), QStringList{QStringLiteral("one")});
     QCOMPARE(refusals(scan),
-             QStringList{QStringLiteral("broken.MP4: It is no media file, or a damaged one.")});
+             QStringList{QStringLiteral("broken.MP4: It is not a media file, or it is damaged.")});
 }
 
 void tst_ProgramImporter::pipesAreNotWaitedFor()
@@ -280,7 +280,8 @@ void tst_ProgramImporter::pipesAreNotWaitedFor()
     const QTemporaryDir folder;
     const QString pipe = folder.filePath(QStringLiteral("pipe.wav"));
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    QCOMPARE(refusals(scanMedia({pipe})), QStringList{QStringLiteral("pipe.wav: It is no file.")});
+    QCOMPARE(refusals(scanMedia({pipe})),
+             QStringList{QStringLiteral("pipe.wav: It is not a file.")});
 }
 
 void tst_ProgramImporter::liveAddresses_data()
