@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QHash>
+#include <QLibraryInfo>
 #include <QLocale>
 
 #include <algorithm>
@@ -18,6 +19,15 @@ using namespace trel::mediadispatch;
 namespace {
 
 const QLatin1String kHostPrefix("schedule-editor_");
+const QLatin1String kToolkitPrefix("qtbase_");
+
+void exchange(QTranslator& texts, const QString& name, const QString& folder)
+{
+    QCoreApplication::removeTranslator(&texts);
+    if (texts.load(name, folder)) {
+        QCoreApplication::installTranslator(&texts);
+    }
+}
 
 } // namespace
 
@@ -109,11 +119,11 @@ void Languages::select(const QString& name)
     }
     m_current = name;
     QApplication::setFont(languageFont(QApplication::font(), name));
-    QCoreApplication::removeTranslator(&m_hostTexts);
-    // English is the language that the host is written in; it has no file.
-    if (m_hostTexts.load(kHostPrefix + name, m_folder)) {
-        QCoreApplication::installTranslator(&m_hostTexts);
-    }
+    // What is installed last is asked first. A file for the language alone, as in "qtbase_de", does
+    // for every country.
+    exchange(m_toolkitTexts, kToolkitPrefix + name,
+             QLibraryInfo::location(QLibraryInfo::TranslationsPath));
+    exchange(m_hostTexts, kHostPrefix + name, m_folder);
     m_editor.switchLanguage(name);
     m_editor.translate();
     emit changed();

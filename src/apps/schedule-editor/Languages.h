@@ -11,7 +11,9 @@ class scheduleControlUI;
 /// The languages of the editor and of the host around it, and the one in use.
 ///
 /// The editor's texts come from one language file each, loaded at construction; the host's own
-/// from the files with the prefix "schedule-editor_" beside them.
+/// from the files with the prefix "schedule-editor_" beside them. What the toolkit itself says, in
+/// file dialogs, on standard buttons and in the menus of fields, comes from its own translations,
+/// as far as they are installed; otherwise it stays English.
 class Languages : public QObject
 {
     Q_OBJECT
@@ -29,8 +31,8 @@ public:
     static QString editorTitle();
 
     QString current() const { return m_current; }
-    /// Switches editor, host and the families of the application's font; a name that no file has
-    /// leaves the language as it is.
+    /// Switches editor, host, toolkit and the families of the application's font; a name that no
+    /// file has leaves the language as it is.
     void select(const QString& name);
 
     /// The language to start in: the wanted one, else one of the operator's system, else English,
@@ -49,5 +51,6 @@ private:
     trel::mediadispatch::scheduleControlUI& m_editor;
     QStringList m_names;
     QString m_current;
+    QTranslator m_toolkitTexts;
     QTranslator m_hostTexts;
 };

@@ -1,9 +1,20 @@
 #include "HostFixture.h"
 #include "LanguageFont.h"
+#include "ProgramSheduleWidgetTranslateManager.h"
+#include "trelwidgets/Dialog.h"
+#include "tstranslate/Translator.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDockWidget>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
 #include <QTableView>
 
 /// Which language the host starts in, what it calls the languages, and the fonts it gives them.
@@ -21,8 +32,27 @@ private slots:
     void fontKeepsItsSize();
     void selectingGivesTheApplicationTheFont();
     void anUnknownLanguageKeepsTheFont();
+    void theToolkitSpeaksTheLanguage_data();
+    void theToolkitSpeaksTheLanguage();
+    void everyEntryHasALetterOfItsOwn_data() { languageRows(); }
+    void everyEntryHasALetterOfItsOwn();
+    void aLetterChoosesItsEntry();
+    void titleButtonsOfPromptsAreNamed_data() { languageRows(); }
+    void titleButtonsOfPromptsAreNamed();
     void aSwitchLeavesNoTextOfTheOldOne_data();
     void aSwitchLeavesNoTextOfTheOldOne();
+
+private:
+    static void languageRows()
+    {
+        QTest::addColumn<bool>("unused");
+        const QStringList files =
+            QDir(QStringLiteral(LANGUAGES)).entryList({QStringLiteral("??_??.qm")});
+        QCOMPARE(files.size(), 10);
+        for (const QString& file : files) {
+            QTest::newRow(qPrintable(file.left(5))) << true;
+        }
+    }
 };
 
 namespace {
@@ -101,6 +131,29 @@ private:
         }
     }
 };
+
+/// The entries of the menu bar, of its menus and of those that come with a right click.
+std::vector<QList<QAction*>> menusOf(const EditorWindow& window)
+{
+    std::vector<QList<QAction*>> menus{window.menuBar()->actions()};
+    for (const QAction* entry : window.menuBar()->actions()) {
+        menus.push_back(entry->menu()->actions());
+    }
+    const QList<QWidget*> widgets = window.findChildren<QWidget*>();
+    for (const QWidget* widget : widgets) {
+        if (widget->contextMenuPolicy() == Qt::ActionsContextMenu) {
+            menus.push_back(widget->actions());
+        }
+    }
+    return menus;
+}
+
+QString editorText(const char* key)
+{
+    return tessark::trans::translate(
+        trel::mediadispatch::ProgramSheduleWidgetTranslateManager::instance().translator(),
+        QStringLiteral("SheduleWidgets"), QStringLiteral("Widget"), QString::fromLatin1(key));
+}
 
 } // namespace
 
@@ -205,6 +258,108 @@ void tst_HostLanguage::anUnknownLanguageKeepsTheFont()
     fixture.languages.select(QStringLiteral("xx_XX"));
     QCOMPARE(QApplication::font().families(),
              languageFont(QFont(), QStringLiteral("ja_JP")).families());
+}
+
+void tst_HostLanguage::theToolkitSpeaksTheLanguage_data()
+{
+    QTest::addColumn<QString>("lookIn");
+    QTest::addColumn<QString>("cancel");
+    QTest::addColumn<QString>("undo");
+    const auto row = [](const char* language, const char* lookIn, const char* cancel,
+                        const char* undo) {
+        QTest::newRow(language) << QString::fromUtf8(lookIn) << QString::fromUtf8(cancel)
+                                << QString::fromUtf8(undo);
+    };
+    row("de_DE", "Suchen in:", "Abbrechen", "Rückgängig");
+    row("en_US", "Look in:", "Cancel", "Undo");
+    row("es_ES", "Ver en:", "Cancelar", "Deshacer");
+    row("fr_FR", "Voir dans :", "Annuler", "Annuler");
+    row("ja_JP", "アドレス:", "キャンセル", "元に戻す(U)");
+    row("ko_KR", "다음에서 찾기:", "취소", "실행 취소(U)");
+    row("pt_BR", "Procurar em:", "Cancelar", "Desfazer");
+    row("ru_RU", "Перейти к:", "Отмена", "Отменить действие");
+    row("zh_CN", "查找范围：", "取消", "撤消(U)");
+    row("zh_TW", "尋找於：", "取消", "復原(U)");
+}
+
+void tst_HostLanguage::theToolkitSpeaksTheLanguage()
+{
+    QFETCH(QString, lookIn);
+    QFETCH(QString, cancel);
+    QFETCH(QString, undo);
+    HostFixture fixture;
+    // From another language, so that nothing of it may be left.
+    fixture.languages.select(QStringLiteral("ru_RU"));
+    fixture.languages.select(QString::fromLatin1(QTest::currentDataTag()));
+    const auto plain = [](QString text) {
+        return text.remove(QLatin1Char('&')).replace(QChar(QChar::Nbsp), QLatin1Char(' '));
+    };
+    QFileDialog dialog(&fixture.window);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    QLineEdit line;
+    const std::unique_ptr<QMenu> menu(line.createStandardContextMenu());
+    QCOMPARE(plain(dialog.findChild<QLabel*>(QStringLiteral("lookInLabel"))->text()), lookIn);
+    const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+    QCOMPARE(plain(buttons->button(QDialogButtonBox::Cancel)->text()), cancel);
+    QCOMPARE(plain(menu->actions().constFirst()->text().section(QLatin1Char('\t'), 0, 0)), undo);
+}
+
+void tst_HostLanguage::everyEntryHasALetterOfItsOwn()
+{
+    HostFixture fixture;
+    fixture.languages.select(QString::fromLatin1(QTest::currentDataTag()));
+    QCoreApplication::processEvents();
+    const std::vector<QList<QAction*>> menus = menusOf(fixture.window);
+    // The bar with its four menus, that of the table and that of the preview.
+    QCOMPARE(menus.size(), std::size_t(7));
+    for (const QList<QAction*>& menu : menus) {
+        QHash<QKeySequence, QString> taken;
+        for (const QAction* action : menu) {
+            const QKeySequence letter = QKeySequence::mnemonic(action->text());
+            if (action->isSeparator()) {
+                continue;
+            }
+            QVERIFY2(!letter.isEmpty(), qPrintable(action->text()));
+            QVERIFY2(!taken.contains(letter),
+                     qPrintable(action->text() + QStringLiteral(", ") + taken[letter]));
+            taken.insert(letter, action->text());
+        }
+        QVERIFY(!taken.isEmpty());
+    }
+}
+
+void tst_HostLanguage::aLetterChoosesItsEntry()
+{
+    HostFixture fixture;
+    fixture.window.show();
+    auto* week = fixture.window.findChild<QDockWidget*>(QStringLiteral("weekDock"));
+    QVERIFY(week->isHidden());
+    // A new title does not take the letter away.
+    week->setWindowTitle(QStringLiteral("Days"));
+    fixture.languages.select(QStringLiteral("de_DE"));
+    QCoreApplication::processEvents();
+    QMenu* view = fixture.window.menuBar()->actions().at(2)->menu();
+    view->popup(QPoint(0, 0));
+    QTest::keyClick(view, Qt::Key_W);
+    QVERIFY(!week->isHidden());
+}
+
+void tst_HostLanguage::titleButtonsOfPromptsAreNamed()
+{
+    HostFixture fixture;
+    fixture.languages.select(QStringLiteral("ru_RU"));
+    trel::widgets::Dialog dialog;
+    dialog.setScaleSwitch({300, 200}, {500, 300});
+    fixture.languages.select(QString::fromLatin1(QTest::currentDataTag()));
+    QCoreApplication::processEvents();
+    const auto spoken = [&dialog](const char* name) {
+        return dialog.findChild<QAbstractButton*>(QLatin1String(name))->accessibleName();
+    };
+    QCOMPARE(spoken("ButtonMin"), editorText("zhMinAct"));
+    QCOMPARE(spoken("ButtonScale"), editorText("zhMaxAct"));
+    QCOMPARE(spoken("ButtonClose"), editorText("zhCloseAct"));
+    dialog.findChild<QAbstractButton*>(QStringLiteral("ButtonScale"))->click();
+    QCOMPARE(spoken("ButtonScale"), editorText("zhReductionAct"));
 }
 
 void tst_HostLanguage::aSwitchLeavesNoTextOfTheOldOne_data()
