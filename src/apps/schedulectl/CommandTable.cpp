@@ -130,16 +130,22 @@ taken, since it can be put right in the editor; "schedulectl check" finds them.
 Entries of programs that the catalog does not have become invalid, so import
 the programs first, in the order of their indexes.)",
          runImportSchedule},
-        {"check-language", "FILE", 1, 1, true, "Find what is wrong in a translation of the editor",
-         R"(Looks at the texts that a translator has written for the editor. FILE is a
-source file of the Linguist (.ts) or the compiled file that the editor loads
-(.qm). Listed are
+        {"check-language", "FILE", 1, 1, true, "Find what is wrong in a translation",
+         R"(Looks at the texts that a translator has written for the editor or for the
+desktop host. FILE is a source file of the Linguist (.ts) or the compiled file
+that is loaded (.qm); its contexts tell whose it is. Listed are
   - texts that are missing, empty, unfinished or there more than once,
-  - texts that the editor does not know,
+  - texts that are not known,
+  - words that the table of terms has another one for;
+in a file of the editor
   - days, and entries of the chooser's menu, that are called the same, since the
     editor tells them apart by their texts,
   - characters that the editor takes for something else,
-  - captions that are too long for their cells.
+  - captions that are too long for their cells;
+in a file of the host
+  - places for numbers and names that are lost, or that the text does not have,
+  - plurals that do not have the forms of their language,
+  - entries of menus without a letter, or with that of another entry.
 
 No font is loaded. Lengths are worked out from the letter widths of the font
 that the editor is shipped with, on the safe side: what passes here is not cut.

@@ -13,6 +13,7 @@ namespace {
 const QByteArray kMagic = QByteArrayLiteral("\x3c\xb8\x64\x18\xca\xef\x9c\x95"
                                             "\xcd\x21\x1c\xbf\x60\xa1\xbd\xdd");
 constexpr quint8 kMessages = 0x69;
+constexpr quint8 kLanguage = 0xa7;
 
 enum Tag : quint8 {
     TagEnd = 1,
@@ -27,8 +28,8 @@ QString utf16(const QByteArray& bigEndian)
     return QTextCodec::codecForName("UTF-16BE")->toUnicode(bigEndian);
 }
 
-/// The section of the messages, of a file that is known to be whole.
-QByteArray messagesOf(const QByteArray& file)
+/// A section of a file that is known to be whole; empty where there is none.
+QByteArray sectionOf(const QByteArray& file, quint8 wanted)
 {
     QDataStream stream(file);
     stream.skipRawData(kMagic.size());
@@ -36,7 +37,7 @@ QByteArray messagesOf(const QByteArray& file)
         quint8 section = 0;
         QByteArray content;
         stream >> section >> content;
-        if (section == kMessages || stream.status() != QDataStream::Ok) {
+        if (section == wanted || stream.status() != QDataStream::Ok) {
             return content;
         }
     }
@@ -48,16 +49,13 @@ std::optional<LanguageText> readMessage(QDataStream& stream)
 {
     LanguageText text;
     bool isNamed = false;
-    bool hasText = false;
     quint8 tag = 0;
     for (stream >> tag; tag != TagEnd && stream.status() == QDataStream::Ok; stream >> tag) {
         QByteArray content;
         stream >> content;
         switch (tag) {
         case TagTranslation:
-            // Of the forms of a plural the first is shown where no number is given.
-            text.text = hasText ? text.text : utf16(content);
-            hasText = true;
+            text.forms.append(utf16(content));
             break;
         case TagSourceText:
             text.key = QString::fromUtf8(content);
@@ -73,6 +71,9 @@ std::optional<LanguageText> readMessage(QDataStream& stream)
             break;
         }
     }
+    // Of the forms of a plural the first is shown where no number is given.
+    text.text = text.forms.value(0);
+    text.isPlural = text.forms.size() > 1;
     return isNamed ? std::make_optional(text) : std::nullopt;
 }
 
@@ -92,7 +93,9 @@ LanguageTexts readCompiledTexts(const QString& file)
         result.error = QStringLiteral("is damaged, and the editor would not load it");
         return result;
     }
-    const QByteArray messages = messagesOf(source.readAll());
+    const QByteArray content = source.readAll();
+    const QByteArray messages = sectionOf(content, kMessages);
+    result.language = QString::fromUtf8(sectionOf(content, kLanguage));
     QDataStream stream(messages);
     while (!stream.atEnd() && stream.status() == QDataStream::Ok) {
         const std::optional<LanguageText> text = readMessage(stream);

@@ -1,6 +1,7 @@
 #include "LanguageCheck.h"
 
 #include "EditorTexts.h"
+#include "Terms.h"
 #include "text/DisplayText.h"
 #include "text/TextWidth.h"
 
@@ -31,6 +32,7 @@ class Checker
 public:
     explicit Checker(const LanguageTexts& file)
         : m_file(file)
+        , m_terms(file.language)
     {
         for (const EditorText& known : editorTexts()) {
             m_known.insert(QString::fromLatin1(known.key));
@@ -49,9 +51,7 @@ public:
         findUnknown();
         lookAtEach();
         findSame();
-        std::stable_sort(
-            m_findings.begin(), m_findings.end(),
-            [](const LanguageFinding& a, const LanguageFinding& b) { return a.kind < b.kind; });
+        sortByKind(m_findings);
         return m_findings;
     }
 
@@ -112,6 +112,10 @@ private:
         if (listedTexts().contains(key) && text.contains(QLatin1Char(','))) {
             add(Kind::Mark, key, QStringLiteral("a comma divides the list that it stands in"));
         }
+        const QString word = m_terms.bannedIn({text});
+        if (!word.isEmpty()) {
+            add(Kind::Term, key, word);
+        }
         const QString shown = QLatin1String(known.before) + text + QLatin1String(known.after);
         const int width = textWidth(shown);
         if (known.room > 0 && width > known.room) {
@@ -144,6 +148,7 @@ private:
     }
 
     const LanguageTexts& m_file;
+    Terms m_terms;
     QSet<QString> m_known;
     QHash<QString, QString> m_texts; ///< The last one of a key, which is the one that counts.
     QHash<QString, int> m_counts;
@@ -158,10 +163,18 @@ struct KindName
 };
 
 constexpr KindName kKindNames[] = {
-    {Kind::Missing, "missing", "missing"},          {Kind::Unknown, "unknown", "unknown"},
-    {Kind::Repeated, "repeated", "repeated"},       {Kind::Empty, "empty", "empty"},
-    {Kind::Unfinished, "unfinished", "unfinished"}, {Kind::Same, "same", "same"},
-    {Kind::Mark, "bad character", "badCharacter"},  {Kind::TooLong, "too long", "tooLong"},
+    {Kind::Missing, "missing", "missing"},
+    {Kind::Unknown, "unknown", "unknown"},
+    {Kind::Repeated, "repeated", "repeated"},
+    {Kind::Empty, "empty", "empty"},
+    {Kind::Unfinished, "unfinished", "unfinished"},
+    {Kind::Same, "same", "same"},
+    {Kind::Mark, "bad character", "badCharacter"},
+    {Kind::TooLong, "too long", "tooLong"},
+    {Kind::PlaceMark, "place mark", "placeMark"},
+    {Kind::Plural, "plural", "plural"},
+    {Kind::Letter, "letter", "letter"},
+    {Kind::Term, "term", "term"},
 };
 
 const KindName& nameOf(Kind kind)
@@ -180,6 +193,13 @@ QString findingText(Kind kind)
 QString findingName(Kind kind)
 {
     return QString::fromLatin1(nameOf(kind).name);
+}
+
+void sortByKind(std::vector<LanguageFinding>& findings)
+{
+    std::stable_sort(
+        findings.begin(), findings.end(),
+        [](const LanguageFinding& a, const LanguageFinding& b) { return a.kind < b.kind; });
 }
 
 std::vector<LanguageFinding> checkLanguage(const LanguageTexts& file)

@@ -18,6 +18,10 @@ struct LanguageFinding
         Same,       ///< The editor could not tell it from another one.
         Mark,       ///< It has a character that the editor would take for something else.
         TooLong,    ///< Its cell would cut it.
+        PlaceMark,  ///< It loses or invents a place for a number or a name.
+        Plural,     ///< It has not the forms of a plural that its language has.
+        Letter,     ///< Its letter in a menu is missing, or that of another entry.
+        Term,       ///< It calls a thing by another word than the other texts.
     };
 
     Kind kind;
@@ -29,6 +33,9 @@ struct LanguageFinding
 QString findingText(LanguageFinding::Kind kind);
 QString findingName(LanguageFinding::Kind kind);
 
-/// Everything to put right in the file of a translator, in the order of the kinds, and within each
-/// in the order of the texts.
+/// Puts findings into the order of the kinds, and leaves it alone within each.
+void sortByKind(std::vector<LanguageFinding>& findings);
+
+/// Everything to put right in a translator's file of the editor, in the order of the kinds, and
+/// within each in the order of the texts.
 std::vector<LanguageFinding> checkLanguage(const LanguageTexts& file);

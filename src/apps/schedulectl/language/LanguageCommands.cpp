@@ -1,6 +1,8 @@
 #include "LanguageCommands.h"
 
 #include "EditorTexts.h"
+#include "HostLanguageCheck.h"
+#include "HostTexts.h"
 #include "LanguageCheck.h"
 #include "LanguageTexts.h"
 #include "text/Console.h"
@@ -23,13 +25,13 @@ QJsonArray findingsJson(const std::vector<LanguageFinding>& findings)
     return array;
 }
 
-void writeFindings(Console& console, const QString& file,
+void writeFindings(Console& console, const QString& file, int textCount,
                    const std::vector<LanguageFinding>& findings)
 {
     if (findings.empty()) {
         console.writeLine(QStringLiteral("%1 has all %2 texts, and nothing to put right.")
                               .arg(printable(file))
-                              .arg(editorTexts().size()));
+                              .arg(textCount));
         return;
     }
     TextTable table({{QStringLiteral("Finding")}, {QStringLiteral("Key")}, {QString()}});
@@ -49,12 +51,17 @@ ExitStatus runCheckLanguage(const Invocation& invocation, Console& console)
         console.tell(QStringLiteral("%1 %2.").arg(printable(file), printable(texts.error)));
         return Refused;
     }
-    const std::vector<LanguageFinding> findings = checkLanguage(texts);
+    const bool isHost = isHostFile(texts);
+    const std::vector<LanguageFinding> findings =
+        isHost ? checkHostLanguage(texts) : checkLanguage(texts);
     if (invocation.json) {
         console.writeJson({{QStringLiteral("file"), QFileInfo(file).absoluteFilePath()},
                            {QStringLiteral("findings"), findingsJson(findings)}});
     } else {
-        writeFindings(console, file, findings);
+        writeFindings(console, file,
+                      isHost ? neededHostTexts(texts.language)
+                             : static_cast<int>(editorTexts().size()),
+                      findings);
     }
     return findings.empty() ? Done : Refused;
 }

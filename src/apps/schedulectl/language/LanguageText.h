@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -11,7 +11,9 @@ struct LanguageText
     QString group;
     QString context;
     QString key;
-    QString text;
+    QString text;           ///< The first of the forms.
+    QStringList forms;      ///< More than one for a plural.
+    bool isPlural = false;  ///< Only a source file marks it where there is one form.
     bool isFinished = true; ///< A source file marks what its translator is not sure of.
 };
 
@@ -19,5 +21,6 @@ struct LanguageText
 struct LanguageTexts
 {
     std::vector<LanguageText> texts; ///< In the order of the file, repeated ones included.
+    QString language;                ///< As the file names it, such as "de_DE"; may be empty.
     QString error; ///< Why the file cannot be used, as part of a sentence; else empty.
 };

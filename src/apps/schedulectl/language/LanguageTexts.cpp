@@ -22,6 +22,7 @@ public:
             m_result.error = QStringLiteral("is not a language file");
             return m_result;
         }
+        m_result.language = m_xml.attributes().value(QLatin1String("language")).toString();
         while (m_xml.readNextStartElement()) {
             if (m_xml.name() == QLatin1String("context")) {
                 readGroup();
@@ -56,6 +57,7 @@ private:
     {
         LanguageText text;
         text.group = group;
+        text.isPlural = m_xml.attributes().value(QLatin1String("numerus")) == QLatin1String("yes");
         bool isInUse = true;
         while (m_xml.readNextStartElement()) {
             if (m_xml.name() == QLatin1String("source")) {
@@ -66,7 +68,7 @@ private:
                 const QStringRef type = m_xml.attributes().value(QLatin1String("type"));
                 isInUse = type != QLatin1String("obsolete") && type != QLatin1String("vanished");
                 text.isFinished = type != QLatin1String("unfinished");
-                text.text = m_xml.readElementText(QXmlStreamReader::IncludeChildElements);
+                readForms(text);
             } else {
                 m_xml.skipCurrentElement();
             }
@@ -75,6 +77,23 @@ private:
         if (isInUse) {
             m_result.texts.push_back(text);
         }
+    }
+
+    /// The text of a translation, or the texts of its forms.
+    void readForms(LanguageText& text)
+    {
+        QString single;
+        while (m_xml.readNext() != QXmlStreamReader::EndElement && !m_xml.hasError()) {
+            if (m_xml.isCharacters()) {
+                single += m_xml.text();
+            } else if (m_xml.isStartElement()) {
+                text.forms.append(m_xml.readElementText(QXmlStreamReader::IncludeChildElements));
+            }
+        }
+        if (text.forms.isEmpty()) {
+            text.forms.append(single);
+        }
+        text.text = text.forms.first();
     }
 
     QXmlStreamReader m_xml;
