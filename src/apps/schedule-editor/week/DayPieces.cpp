@@ -1,9 +1,12 @@
 #include "week/DayPieces.h"
 
+#include "trelprogramschedule/dispatch/DaySpans.h"
+
 #include <algorithm>
 #include <array>
-#include <map>
 #include <numeric>
+
+using namespace trel::mediadispatch;
 
 namespace week {
 
@@ -27,46 +30,31 @@ std::vector<std::size_t> byStart(const std::vector<DayClaim>& claims)
     return order;
 }
 
+std::vector<std::size_t> byRow(const std::vector<DayClaim>& claims)
+{
+    std::vector<std::size_t> order(claims.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::sort(order.begin(), order.end(),
+              [&claims](std::size_t a, std::size_t b) { return claims[a].row < claims[b].row; });
+    return order;
+}
+
 /// Who has the screen, in order of time.
 Pieces onScreen(const std::vector<DayClaim>& claims)
 {
-    struct Border
-    {
-        int time = 0;
-        std::size_t claim = 0;
-        bool isStart = false;
-    };
-    std::vector<Border> borders;
-    borders.reserve(claims.size() * 2);
-    for (std::size_t i = 0; i < claims.size(); ++i) {
-        borders.push_back({claims[i].from, i, true});
-        borders.push_back({claims[i].to, i, false});
+    const std::vector<std::size_t> order = byRow(claims);
+    std::vector<ClaimedSpan> rows;
+    rows.reserve(claims.size());
+    for (const std::size_t claim : order) {
+        rows.push_back({claims[claim].from, claims[claim].to});
     }
-    std::sort(borders.begin(), borders.end(),
-              [](const Border& a, const Border& b) { return a.time < b.time; });
-
     Pieces pieces;
-    std::map<int, std::size_t> active; // By row.
-    DayPiece current;
-    for (std::size_t i = 0; i < borders.size();) {
-        const int time = borders[i].time;
-        for (; i < borders.size() && borders[i].time == time; ++i) {
-            const std::size_t claim = borders[i].claim;
-            if (borders[i].isStart) {
-                active.emplace(claims[claim].row, claim);
-            } else {
-                active.erase(claims[claim].row);
-            }
-        }
-        const int holder = active.empty() ? -1 : static_cast<int>(active.begin()->second);
-        if (holder != current.claim) {
-            if (current.claim >= 0) {
-                current.to = time;
-                pieces.push_back(current);
-            }
-            current.claim = holder;
-            current.from = time;
-        }
+    for (const DaySpan& span : daySpans(rows)) {
+        DayPiece piece;
+        piece.claim = static_cast<int>(order[static_cast<std::size_t>(span.row)]);
+        piece.from = span.begin;
+        piece.to = span.end;
+        pieces.push_back(piece);
     }
     return pieces;
 }

@@ -46,7 +46,8 @@ struct LeftOutTime
     int to = 0;
 };
 
-/// Cuts claims into pieces and gives them lanes. The first row that claims a moment has the screen.
+/// Cuts claims into pieces and gives them lanes. Who has the screen is told by
+/// mediadispatch::daySpans.
 /// Claims that overlap, also by way of others, make the same number of lanes; claims that touch do
 /// not. Costs n log n.
 DayLanes dayPieces(const std::vector<DayClaim>& claims,

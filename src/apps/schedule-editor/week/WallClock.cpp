@@ -21,43 +21,52 @@ WallClock::WallClock(const QDate& first, int days, const QTimeZone& zone)
     // Also a change by a whole day, which has been, is taken in.
     const Instant from = timeOn(m_firstDay, 0) - 2 * kLargestOffset;
     const Instant to = timeOn(m_firstDay + days, 0) + 2 * kLargestOffset;
-    qint64 former = wall.pieceAt(from).offset;
     for (Instant at = from; at < to;) {
         WallPiece piece = wall.pieceAt(at);
         piece.begin = at;
         piece.end = std::min(piece.end, to);
-        addRuns(piece, former, wall.pieceAt(piece.end).offset);
-        former = piece.offset;
+        addRuns(piece);
         at = piece.end;
     }
 }
 
-void WallClock::addRuns(const WallPiece& piece, qint64 formerOffset, qint64 nextOffset)
+void WallClock::addRuns(const WallPiece& piece)
 {
-    // Where the clock has gone back at the begin, the first of this time comes for the second time;
-    // where it goes back at the end, the last of it will come again.
-    const Instant repeatsUntil = piece.begin + std::max<qint64>(0, formerOffset - piece.offset);
-    const Instant repeatedFrom = piece.end - std::max<qint64>(0, piece.offset - nextOffset);
-    Instant at = piece.begin;
-    while (at < piece.end) {
-        const DayNumber day = dayOf(piece.local(at));
-        Instant next = std::min(piece.end, piece.instant(timeOn(day + 1, 0)));
-        Pass pass = Pass::Only;
-        if (at < repeatsUntil) {
-            pass = Pass::Second;
-            next = std::min(next, repeatsUntil);
-        } else if (at >= repeatedFrom) {
-            pass = Pass::First;
-        } else {
-            next = std::min(next, repeatedFrom);
-        }
+    for (LocalTime time = piece.local(piece.begin); time < piece.local(piece.end);) {
+        const DayNumber day = dayOf(time);
+        const LocalTime end = std::min(piece.local(piece.end), timeOn(day + 1, 0));
         const DayNumber index = day - m_firstDay;
         if (index >= 0 && index < m_days) {
-            m_runs.push_back(
-                {at, next, static_cast<int>(index), piece.local(at) - timeOn(day, 0), pass});
+            addRunsOfDay(piece, static_cast<int>(index), time - timeOn(day, 0),
+                         end - timeOn(day, 0));
         }
-        at = next;
+        time = end;
     }
+}
+
+void WallClock::addRunsOfDay(const WallPiece& piece, int day, qint64 from, qint64 to)
+{
+    const LocalTime midnight = timeOn(m_firstDay + day, 0);
+    const auto add = [&](qint64 until, Pass pass) {
+        if (from < until) {
+            m_runs.push_back(
+                {piece.instant(midnight + from), piece.instant(midnight + until), day, from, pass});
+            from = until;
+        }
+    };
+    // Times come for the second time where the piece begins with the change that doubles them, and
+    // for the first time where it ends with it.
+    for (const ClockChange& change : m_changes) {
+        const bool isHere = !change.isLeftOut() && dayNumber(change.date) == m_firstDay + day;
+        if (isHere && change.moment == piece.begin) {
+            add(std::min(to, change.end * kSecond), Pass::Second);
+        }
+        if (isHere && change.moment == piece.end) {
+            add(std::min(to, change.begin * kSecond), Pass::Only);
+            add(std::min(to, change.end * kSecond), Pass::First);
+        }
+    }
+    add(to, Pass::Only);
 }
 
 std::vector<WallSpan> WallClock::spans(Instant from, Instant to) const

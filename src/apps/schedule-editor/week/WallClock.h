@@ -60,13 +60,14 @@ private:
         Pass pass = Pass::Only;
     };
 
-    void addRuns(const trel::mediadispatch::WallPiece& piece, qint64 formerOffset,
-                 qint64 nextOffset);
+    void addRuns(const trel::mediadispatch::WallPiece& piece);
+    /// Of a part of one day, in milliseconds since midnight.
+    void addRunsOfDay(const trel::mediadispatch::WallPiece& piece, int day, qint64 from, qint64 to);
 
     trel::mediadispatch::DayNumber m_firstDay;
     int m_days;
-    std::vector<Run> m_runs;
     std::vector<trel::mediadispatch::ClockChange> m_changes;
+    std::vector<Run> m_runs;
 };
 
 } // namespace week

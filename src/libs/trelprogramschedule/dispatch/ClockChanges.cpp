@@ -4,11 +4,13 @@
 #include "service/PlanConflicts.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
+#include "trelprogramschedule/dispatch/TaskDays.h"
 #include "trelprogramschedule/dispatch/WallTime.h"
 
 #include <algorithm>
 #include <iterator>
 #include <optional>
+#include <utility>
 
 namespace trel::mediadispatch {
 
@@ -21,12 +23,12 @@ int secondOn(DayNumber day, LocalTime time)
 
 /// What the clock leaves out or shows twice, cut at midnight.
 void appendDays(std::vector<ClockChange>& changes, ClockChangeKind kind, LocalTime begin,
-                LocalTime end)
+                LocalTime end, Instant moment)
 {
     while (begin < end) {
         const DayNumber day = dayOf(begin);
         const LocalTime until = std::min(end, timeOn(day + 1, 0));
-        changes.push_back({dateOf(day), kind, secondOn(day, begin), secondOn(day, until)});
+        changes.push_back({dateOf(day), kind, secondOn(day, begin), secondOn(day, until), moment});
         begin = until;
     }
 }
@@ -35,8 +37,8 @@ void appendDays(std::vector<ClockChange>& changes, ClockChangeKind kind, LocalTi
 class ChangeWalk
 {
 public:
-    ChangeWalk(const QTimeZone& zone, const QDate& first)
-        : m_wall(zone)
+    ChangeWalk(const WallTime& wall, const QDate& first)
+        : m_wall(wall)
         , m_moment(earliest(first))
     {}
 
@@ -53,10 +55,10 @@ public:
         const WallPiece& after = m_wall.pieceAt(m_moment);
         if (after.offset > before.offset) {
             appendDays(changes, ClockChangeKind::LeftOut, before.local(m_moment),
-                       after.local(m_moment));
+                       after.local(m_moment), m_moment);
         } else {
             appendDays(changes, ClockChangeKind::Doubled, after.local(m_moment),
-                       before.local(m_moment));
+                       before.local(m_moment), m_moment);
         }
         return changes;
     }
@@ -71,51 +73,18 @@ private:
         return timeOn(dayNumber(day), 0) - 2 * kLargestOffset;
     }
 
-    WallTime m_wall;
+    const WallTime& m_wall;
     Instant m_moment;
 };
 
-/// The days of one task.
-struct Validity
+/// Valid on these days, whether it has a plan on them or not.
+TaskValidity validityOf(const PlayTask& task)
 {
-    QDate first;
-    QDate last;
-    const PlayTask* task = nullptr;
-};
-
-/// Those that are not over before a day, in ascending order of ids, so that the first one that
-/// holds a day is in effect on it.
-std::vector<Validity> validitiesFrom(const std::map<int, PlayTask>& tasks, const QDate& from)
-{
-    std::vector<Validity> result;
-    for (const auto& [id, task] : tasks) {
-        const Validity validity{dateFromText(task.startDate), dateFromText(task.endDate), &task};
-        if (validity.first.isValid() && validity.last.isValid() &&
-            validity.first <= validity.last && validity.last >= from) {
-            result.push_back(validity);
-        }
-    }
-    return result;
-}
-
-const PlayTask* taskInEffect(const std::vector<Validity>& validities, const QDate& day)
-{
-    const auto found =
-        std::find_if(validities.begin(), validities.end(),
-                     [&day](const Validity& v) { return v.first <= day && day <= v.last; });
-    return found == validities.end() ? nullptr : found->task;
-}
-
-/// The first day after the given one on which a task becomes valid.
-std::optional<QDate> nextValidDay(const std::vector<Validity>& validities, const QDate& day)
-{
-    std::optional<QDate> next;
-    for (const Validity& validity : validities) {
-        if (validity.first > day && (!next || validity.first < *next)) {
-            next = validity.first;
-        }
-    }
-    return next;
+    const QDate first = dateFromText(task.startDate);
+    const QDate last = dateFromText(task.endDate);
+    return first.isValid() && last.isValid()
+               ? TaskValidity{dayNumber(first), dayNumber(last), kAllWeekdays}
+               : TaskValidity();
 }
 
 bool playsOn(const std::string& weeks, const QDate& day)
@@ -203,7 +172,8 @@ std::vector<ClockChange> clockChanges(const QDate& first, const QDate& last, con
     }
     // A change on a day after the last may begin on the evening of the last.
     const QDate end = last.addDays(2);
-    ChangeWalk walk(zone, first);
+    const WallTime wall(zone);
+    ChangeWalk walk(wall, first);
     for (std::vector<ClockChange> changes = walk.next();
          !changes.empty() && changes.front().date <= end; changes = walk.next()) {
         std::copy_if(changes.begin(), changes.end(), std::back_inserter(result),
@@ -212,21 +182,112 @@ std::vector<ClockChange> clockChanges(const QDate& first, const QDate& last, con
     return result;
 }
 
-std::vector<TaskClockChange> nextClockChanges(const std::map<int, PlayTask>& tasks,
-                                              const std::map<int, ProgramIten>& catalogue,
-                                              const QTimeZone& zone, const QDate& from, int count)
+class ClockChangeSearch::Private
+{
+public:
+    explicit Private(const QTimeZone& zone)
+        : wall(zone)
+    {}
+
+    /// A task with what is known of it.
+    struct Task
+    {
+        std::shared_ptr<const PlayTask> record;
+        TaskValidity validity;
+        std::optional<SpansOfTask> spans; ///< Once a change falls on one of its days.
+    };
+
+    /// The task in effect on a day; null where there is none.
+    Task* inEffect(const QDate& date)
+    {
+        const std::optional<TaskDay> found = days().lastUpTo(dayNumber(date));
+        return found && found->day == dayNumber(date) ? order[static_cast<std::size_t>(found->task)]
+                                                      : nullptr;
+    }
+
+    std::optional<QDate> nextDayInEffect(const QDate& after)
+    {
+        const std::optional<TaskDay> found = days().firstFrom(dayNumber(after) + 1);
+        return found ? std::make_optional(dateOf(found->day)) : std::nullopt;
+    }
+
+    const SpansOfTask& spansOf(Task& task) const
+    {
+        if (!task.spans) {
+            task.spans.emplace(*task.record, *catalogue);
+        }
+        return *task.spans;
+    }
+
+    WallTime wall;
+    std::map<int, Task> tasks;
+    std::shared_ptr<const std::map<int, ProgramIten>> catalogue =
+        std::make_shared<const std::map<int, ProgramIten>>();
+    /// Which of the tasks is in effect when; none since the days of one have changed.
+    std::optional<TaskDays> knownDays;
+    std::vector<Task*> order; ///< The tasks as the days number them.
+
+private:
+    const TaskDays& days()
+    {
+        if (!knownDays) {
+            std::vector<TaskValidity> validities;
+            order.clear();
+            for (auto& [id, task] : tasks) {
+                validities.push_back(task.validity);
+                order.push_back(&task);
+            }
+            knownDays.emplace(validities);
+        }
+        return *knownDays;
+    }
+};
+
+ClockChangeSearch::ClockChangeSearch(const QTimeZone& zone)
+    : d(std::make_unique<Private>(zone))
+{}
+
+ClockChangeSearch::~ClockChangeSearch() = default;
+ClockChangeSearch::ClockChangeSearch(ClockChangeSearch&&) noexcept = default;
+ClockChangeSearch& ClockChangeSearch::operator=(ClockChangeSearch&&) noexcept = default;
+
+void ClockChangeSearch::setTask(int taskId, std::shared_ptr<const PlayTask> task)
+{
+    if (!task) {
+        d->tasks.erase(taskId);
+        d->knownDays.reset();
+        return;
+    }
+    const auto [place, isNew] = d->tasks.try_emplace(taskId);
+    Private::Task& known = place->second;
+    const TaskValidity validity = validityOf(*task);
+    if (isNew || !(known.validity == validity)) {
+        d->knownDays.reset();
+    }
+    known = {std::move(task), validity, std::nullopt};
+}
+
+void ClockChangeSearch::setCatalogue(std::shared_ptr<const std::map<int, ProgramIten>> catalogue)
+{
+    d->catalogue = std::move(catalogue);
+    for (auto& [id, task] : d->tasks) {
+        task.spans.reset();
+    }
+}
+
+std::vector<TaskClockChange> ClockChangeSearch::next(const QDate& from, int count,
+                                                     const std::function<bool()>& goesOn)
 {
     std::vector<TaskClockChange> result;
     if (!from.isValid()) {
         return result;
     }
-    const std::vector<Validity> valid = validitiesFrom(tasks, from);
-    std::map<const PlayTask*, SpansOfTask> spans;
-    ChangeWalk walk(zone, from);
-    for (std::vector<ClockChange> changes = walk.next(); !changes.empty(); changes = walk.next()) {
+    ChangeWalk walk(d->wall, from);
+    for (std::vector<ClockChange> changes = walk.next(); !changes.empty() && (!goesOn || goesOn());
+         changes = walk.next()) {
         bool isInEffect = false;
         for (const ClockChange& change : changes) {
-            const PlayTask* task = change.date < from ? nullptr : taskInEffect(valid, change.date);
+            Private::Task* task = change.date < from ? nullptr : d->inEffect(change.date);
             if (task == nullptr) {
                 continue;
             }
@@ -234,20 +295,33 @@ std::vector<TaskClockChange> nextClockChanges(const std::map<int, PlayTask>& tas
                 return result;
             }
             isInEffect = true;
-            const auto known = spans.try_emplace(task, *task, catalogue).first;
-            result.push_back({change, task->id, known->second.touchedBy(change)});
+            result.push_back({change, task->record->id, d->spansOf(*task).touchedBy(change)});
         }
         if (isInEffect || changes.back().date < from) {
             continue;
         }
         // Nothing is in effect here; the next change that counts is not before the next task.
-        const std::optional<QDate> next = nextValidDay(valid, changes.back().date);
+        const std::optional<QDate> next = d->nextDayInEffect(changes.back().date);
         if (!next) {
             break;
         }
         walk.skipTo(*next);
     }
     return result;
+}
+
+std::vector<TaskClockChange> nextClockChanges(const std::map<int, PlayTask>& tasks,
+                                              const std::map<int, ProgramIten>& catalogue,
+                                              const QTimeZone& zone, const QDate& from, int count)
+{
+    // The records outlive the search, which therefore need not own them.
+    const std::shared_ptr<void> unowned;
+    ClockChangeSearch search(zone);
+    search.setCatalogue(std::shared_ptr<const std::map<int, ProgramIten>>(unowned, &catalogue));
+    for (const auto& [id, task] : tasks) {
+        search.setTask(id, std::shared_ptr<const PlayTask>(unowned, &task));
+    }
+    return search.next(from, count);
 }
 
 } // namespace trel::mediadispatch

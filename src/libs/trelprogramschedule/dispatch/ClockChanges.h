@@ -1,12 +1,17 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule/dispatch/LocalTime.h"
+#include "trelprogramschedule/dispatch/ScreenState.h"
 #include "trelprogramschedule_export.h"
 
 #include <QDate>
 #include <QTimeZone>
 
+#include <functional>
 #include <map>
+#include <memory>
+#include <tuple>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -25,9 +30,17 @@ struct ClockChange
     ClockChangeKind kind = ClockChangeKind::LeftOut;
     int begin = 0; ///< Second of the local day.
     int end = 0;   ///< The same, not included any more; 86400 at the end of the day.
+    /// When the clock is put: the first instant that shows the new time.
+    Instant moment = 0;
 
     bool isLeftOut() const { return kind == ClockChangeKind::LeftOut; }
 };
+
+inline bool operator==(const ClockChange& a, const ClockChange& b)
+{
+    return std::tie(a.date, a.kind, a.begin, a.end, a.moment) ==
+           std::tie(b.date, b.kind, b.begin, b.end, b.moment);
+}
 
 /// Every change on the local days from first to last, both included, in the order of time. Changes
 /// that leave the time of day as it is, such as of the zone's name, are none.
@@ -56,6 +69,12 @@ struct TouchedPlan
     ClockChangeEffect effect = ClockChangeEffect::Lost;
 };
 
+inline bool operator==(const TouchedPlan& a, const TouchedPlan& b)
+{
+    return std::tie(a.planId, a.row, a.begin, a.end, a.effect) ==
+           std::tie(b.planId, b.row, b.begin, b.end, b.effect);
+}
+
 /// A change on a day on which a task is in effect, with the plans that it touches: none, or some.
 struct TaskClockChange
 {
@@ -63,6 +82,11 @@ struct TaskClockChange
     int taskId = 0;
     std::vector<TouchedPlan> plans; ///< In the order of their rows.
 };
+
+inline bool operator==(const TaskClockChange& a, const TaskClockChange& b)
+{
+    return std::tie(a.change, a.taskId, a.plans) == std::tie(b.change, b.taskId, b.plans);
+}
 
 /// The next changes, `count` at most, on days from `from` on on which a task is in effect: of
 /// several that are valid the one with the lowest id. A plan is touched when it plays on that
@@ -73,5 +97,31 @@ struct TaskClockChange
 TRELPROGRAMSCHEDULE_EXPORT std::vector<TaskClockChange>
 nextClockChanges(const std::map<int, PlayTask>& tasks, const std::map<int, ProgramIten>& catalogue,
                  const QTimeZone& zone, const QDate& from, int count);
+
+/// nextClockChanges of a schedule that is edited task by task. What an edit leaves as it was is not
+/// worked out again: the days of the other tasks, the spans of their plans, the changes of the
+/// clock. Not to be used by two threads at a time.
+class TRELPROGRAMSCHEDULE_EXPORT ClockChangeSearch
+{
+public:
+    explicit ClockChangeSearch(const QTimeZone& zone);
+    ~ClockChangeSearch();
+    ClockChangeSearch(ClockChangeSearch&&) noexcept;
+    ClockChangeSearch& operator=(ClockChangeSearch&&) noexcept;
+
+    /// Puts a task in, or in the place of the one with this id; null takes it out.
+    void setTask(int taskId, std::shared_ptr<const PlayTask> task);
+    /// Never null.
+    void setCatalogue(std::shared_ptr<const std::map<int, ProgramIten>> catalogue);
+
+    /// As nextClockChanges. Asks goesOn before each step, and returns what it has once that is
+    /// false.
+    std::vector<TaskClockChange> next(const QDate& from, int count,
+                                      const std::function<bool()>& goesOn = {});
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
 
 } // namespace trel::mediadispatch

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "trelprogramschedule_export.h"
+
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -22,6 +24,6 @@ struct DaySpan
 
 /// Who has the screen when: of several that claim a second, the first row. In the order of time,
 /// apart from each other or of different rows. Costs n log n over the claims.
-std::vector<DaySpan> daySpans(const std::vector<ClaimedSpan>& claims);
+TRELPROGRAMSCHEDULE_EXPORT std::vector<DaySpan> daySpans(const std::vector<ClaimedSpan>& claims);
 
 } // namespace trel::mediadispatch

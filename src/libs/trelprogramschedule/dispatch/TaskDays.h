@@ -25,6 +25,11 @@ struct TaskValidity
     WeekdaySet weekdays = 0;
 };
 
+inline bool operator==(const TaskValidity& a, const TaskValidity& b)
+{
+    return a.first == b.first && a.last == b.last && a.weekdays == b.weekdays;
+}
+
 /// Days in a row on which one task is in effect. On the first and on the last of them it has a
 /// plan.
 struct TaskRange
