@@ -1,7 +1,6 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
-#include "trelprogramschedule/dispatch/LocalTime.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
 #include "trelprogramschedule_export.h"
 

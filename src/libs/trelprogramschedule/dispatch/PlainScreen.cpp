@@ -3,6 +3,7 @@
 #include "trelprogramschedule/dispatch/PlaySearch.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace trel::mediadispatch {
 
@@ -11,6 +12,16 @@ PlainScreen::PlainScreen(const std::map<int, PlayTask>& tasks,
     : m_wall(zone)
     , m_calendar(tasks, catalogue)
 {}
+
+PlainScreen::PlainScreen(WallTime wall, PlanCalendar calendar)
+    : m_wall(std::move(wall))
+    , m_calendar(std::move(calendar))
+{}
+
+PlainScreen PlainScreen::withTasks(const ScreenTasks& tasks) const
+{
+    return {m_wall, m_calendar.withTasks(tasks)};
+}
 
 Microseconds PlainScreen::Held::elapsed(Instant moment) const
 {

@@ -14,6 +14,8 @@ class PlainScreen
 public:
     PlainScreen(const std::map<int, PlayTask>& tasks, const std::map<int, ProgramIten>& catalogue,
                 const QTimeZone& zone);
+    /// The screen of other tasks on the same clock. Shares what is the same in both.
+    PlainScreen withTasks(const ScreenTasks& tasks) const;
 
     const WallTime& wall() const { return m_wall; }
     const PlanCalendar& calendar() const { return m_calendar; }
@@ -34,6 +36,8 @@ public:
     Instant listOver(Instant moment) const;
 
 private:
+    PlainScreen(WallTime wall, PlanCalendar calendar);
+
     /// A span in which a plan has the screen, as far as it lies within one piece of the clock.
     struct Held
     {

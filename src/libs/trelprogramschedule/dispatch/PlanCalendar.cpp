@@ -1,57 +1,42 @@
 #include "PlanCalendar.h"
 
-#include "service/DateText.h"
-
 #include <algorithm>
+#include <numeric>
+#include <utility>
 
 namespace trel::mediadispatch {
 
-namespace {
-
-TaskValidity validityOf(const PlayTask& task, const std::vector<ScreenPlan>& plans)
-{
-    const QDate first = dateFromText(task.startDate);
-    const QDate last = dateFromText(task.endDate);
-    if (!first.isValid() || !last.isValid()) {
-        return {};
-    }
-    TaskValidity validity = {dayNumber(first), dayNumber(last), 0};
-    for (const ScreenPlan& plan : plans) {
-        if (plan.claimsAnything()) {
-            validity.weekdays |= plan.weekdays;
-        }
-    }
-    return validity;
-}
-
-std::vector<ClaimedSpan> claimsOn(int weekday, const std::vector<ScreenPlan>& plans)
-{
-    std::vector<ClaimedSpan> claims;
-    claims.reserve(plans.size());
-    for (const ScreenPlan& plan : plans) {
-        claims.push_back(holdsWeekday(plan.weekdays, weekday) ? plan.claim : ClaimedSpan{});
-    }
-    return claims;
-}
-
-} // namespace
-
 PlanCalendar::PlanCalendar(const std::map<int, PlayTask>& tasks,
                            const std::map<int, ProgramIten>& catalogue)
-    : m_tasks(readTasks(tasks, catalogue))
-    , m_days(validities(m_tasks))
+    : PlanCalendar(screenTasks(tasks, catalogue))
 {}
 
-std::vector<PlanCalendar::Task> PlanCalendar::readTasks(const std::map<int, PlayTask>& tasks,
-                                                        const std::map<int, ProgramIten>& catalogue)
+PlanCalendar::PlanCalendar(const ScreenTasks& tasks)
+    : m_tasks(listed(tasks))
+    , m_days(std::make_shared<const TaskDays>(validities(m_tasks)))
+{}
+
+PlanCalendar::PlanCalendar(std::vector<Task> tasks, std::shared_ptr<const TaskDays> days)
+    : m_tasks(std::move(tasks))
+    , m_days(std::move(days))
+{}
+
+PlanCalendar PlanCalendar::withTasks(const ScreenTasks& tasks) const
+{
+    const bool areDaysTheSame = std::equal(
+        m_tasks.begin(), m_tasks.end(), tasks.begin(), tasks.end(),
+        [](const Task& own, const auto& other) {
+            return own.id == other.first && own.screen->validity() == other.second->validity();
+        });
+    return areDaysTheSame ? PlanCalendar(listed(tasks), m_days) : PlanCalendar(tasks);
+}
+
+std::vector<PlanCalendar::Task> PlanCalendar::listed(const ScreenTasks& tasks)
 {
     std::vector<Task> result;
     result.reserve(tasks.size());
     for (const auto& [id, task] : tasks) {
-        Task& read = result.emplace_back();
-        read.id = id;
-        read.plans = screenPlans(task.plans, catalogue);
-        read.validity = validityOf(task, read.plans);
+        result.push_back({id, task});
     }
     return result;
 }
@@ -61,14 +46,14 @@ std::vector<TaskValidity> PlanCalendar::validities(const std::vector<Task>& task
     std::vector<TaskValidity> result;
     result.reserve(tasks.size());
     for (const Task& task : tasks) {
-        result.push_back(task.validity);
+        result.push_back(task.screen->validity());
     }
     return result;
 }
 
 std::optional<HeldSpan> PlanCalendar::lastBefore(LocalTime time) const
 {
-    std::optional<TaskDay> day = m_days.lastUpTo(dayOf(time - 1));
+    std::optional<TaskDay> day = m_days->lastUpTo(dayOf(time - 1));
     if (!day) {
         return std::nullopt;
     }
@@ -79,13 +64,13 @@ std::optional<HeldSpan> PlanCalendar::lastBefore(LocalTime time) const
     if (later != spans->begin()) {
         return heldSpan(*day, *std::prev(later));
     }
-    day = m_days.lastUpTo(day->day - 1);
+    day = m_days->lastUpTo(day->day - 1);
     return day ? std::make_optional(heldSpan(*day, spansOf(*day).back())) : std::nullopt;
 }
 
 std::optional<HeldSpan> PlanCalendar::firstAfter(LocalTime time) const
 {
-    std::optional<TaskDay> day = m_days.firstFrom(dayOf(time));
+    std::optional<TaskDay> day = m_days->firstFrom(dayOf(time));
     if (!day) {
         return std::nullopt;
     }
@@ -96,7 +81,7 @@ std::optional<HeldSpan> PlanCalendar::firstAfter(LocalTime time) const
     if (found != spans->end()) {
         return heldSpan(*day, *found);
     }
-    day = m_days.firstFrom(day->day + 1);
+    day = m_days->firstFrom(day->day + 1);
     return day ? std::make_optional(heldSpan(*day, spansOf(*day).front())) : std::nullopt;
 }
 
@@ -108,28 +93,24 @@ int PlanCalendar::rowOf(int taskId, int planId) const
     if (found == m_tasks.end() || found->id != taskId) {
         return -1;
     }
+    const std::vector<ScreenPlan>& plans = found->screen->plans();
     const auto plan =
-        std::find_if(found->plans.begin(), found->plans.end(),
+        std::find_if(plans.begin(), plans.end(),
                      [planId](const ScreenPlan& candidate) { return candidate.planId == planId; });
-    return plan == found->plans.end() ? -1 : static_cast<int>(plan - found->plans.begin());
+    return plan == plans.end() ? -1 : static_cast<int>(plan - plans.begin());
 }
 
-const std::vector<DaySpan>& PlanCalendar::spansOf(const TaskDay& day) const
+std::size_t PlanCalendar::knownDays() const
 {
-    const int weekday = weekdayOf(day.day);
-    std::optional<std::vector<DaySpan>>& spans =
-        task(day).spansByWeekday[static_cast<std::size_t>(weekday)];
-    if (!spans) {
-        spans = daySpans(claimsOn(weekday, task(day).plans));
-        ++m_knownDays;
-    }
-    return *spans;
+    return std::accumulate(
+        m_tasks.begin(), m_tasks.end(), std::size_t{0},
+        [](std::size_t days, const Task& task) { return days + task.screen->knownDays(); });
 }
 
 HeldSpan PlanCalendar::heldSpan(const TaskDay& day, const DaySpan& span) const
 {
     const Task& ofDay = task(day);
-    const ScreenPlan& plan = ofDay.plans[static_cast<std::size_t>(span.row)];
+    const ScreenPlan& plan = ofDay.screen->plans()[static_cast<std::size_t>(span.row)];
     return {timeOn(day.day, span.begin),
             timeOn(day.day, span.end),
             timeOn(day.day, plan.claim.begin),

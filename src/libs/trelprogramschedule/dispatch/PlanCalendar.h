@@ -1,10 +1,10 @@
 #pragma once
 
-#include "trelprogramschedule/dispatch/ScreenPlan.h"
+#include "trelprogramschedule/dispatch/ScreenTask.h"
 #include "trelprogramschedule/dispatch/WallTime.h"
 
-#include <array>
 #include <map>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -24,12 +24,14 @@ struct HeldSpan
     DayNumber lastDay = 0;
 };
 
-/// Which plan has the screen at a time of the local clock. Who has it on a day of the week is
-/// worked out once for each task, when it is asked for. Not to be asked by two threads at a time.
+/// Which plan has the screen at a time of the local clock. Does not change.
 class PlanCalendar
 {
 public:
     PlanCalendar(const std::map<int, PlayTask>& tasks, const std::map<int, ProgramIten>& catalogue);
+    explicit PlanCalendar(const ScreenTasks& tasks);
+    /// The calendar of other tasks. Shares what is the same in both.
+    PlanCalendar withTasks(const ScreenTasks& tasks) const;
 
     /// The last span that begins before a time, and the first that ends after it. Each costs the
     /// logarithm of the number of tasks and plans, however far away the span lies.
@@ -40,30 +42,31 @@ public:
     int rowOf(int taskId, int planId) const;
 
     /// How many days of the week have been worked out, over all tasks.
-    std::size_t knownDays() const { return m_knownDays; }
+    std::size_t knownDays() const;
 
 private:
     struct Task
     {
         int id = 0;
-        TaskValidity validity;
-        std::vector<ScreenPlan> plans;
-        mutable std::array<std::optional<std::vector<DaySpan>>, WeekDayCount> spansByWeekday;
+        std::shared_ptr<const ScreenTask> screen;
     };
 
-    static std::vector<Task> readTasks(const std::map<int, PlayTask>& tasks,
-                                       const std::map<int, ProgramIten>& catalogue);
+    static std::vector<Task> listed(const ScreenTasks& tasks);
     static std::vector<TaskValidity> validities(const std::vector<Task>& tasks);
+    PlanCalendar(std::vector<Task> tasks, std::shared_ptr<const TaskDays> days);
+
     const Task& task(const TaskDay& day) const
     {
         return m_tasks[static_cast<std::size_t>(day.task)];
     }
-    const std::vector<DaySpan>& spansOf(const TaskDay& day) const;
+    const std::vector<DaySpan>& spansOf(const TaskDay& day) const
+    {
+        return task(day).screen->spansOn(weekdayOf(day.day));
+    }
     HeldSpan heldSpan(const TaskDay& day, const DaySpan& span) const;
 
     std::vector<Task> m_tasks; // In ascending id order.
-    TaskDays m_days;
-    mutable std::size_t m_knownDays = 0;
+    std::shared_ptr<const TaskDays> m_days;
 };
 
 } // namespace trel::mediadispatch

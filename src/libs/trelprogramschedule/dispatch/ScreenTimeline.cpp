@@ -7,6 +7,7 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <utility>
 
 namespace trel::mediadispatch {
 
@@ -37,10 +38,17 @@ Instant withinReach(Instant moment)
 class ScreenTimeline::Private
 {
 public:
+    using Programs = std::map<int, ProgramIten>;
+
     Private(const std::map<int, PlayTask>& tasks, const std::map<int, ProgramIten>& catalogue,
             const QTimeZone& zone)
-        : programs(withoutTexts(catalogue))
+        : programs(std::make_shared<const Programs>(withoutTexts(catalogue)))
         , plain(tasks, catalogue, zone)
+    {}
+
+    Private(const Private& former, const ScreenTasks& tasks)
+        : programs(former.programs)
+        , plain(former.plain.withTasks(tasks))
     {}
 
     using Inserted = std::vector<InsertedScreen>;
@@ -53,7 +61,7 @@ public:
             const ScreenInsertion& insertion = insertions[i];
             const Instant next = i + 1 < insertions.size() ? insertions[i + 1].begins : kNever;
             if (insertion.begins < std::min(insertion.ends, next)) {
-                result.emplace_back(insertion, programs,
+                result.emplace_back(insertion, *programs,
                                     plain.calendar().rowOf(insertion.taskId, insertion.planId),
                                     next);
             }
@@ -120,13 +128,13 @@ public:
         return insertion.plan.serviceFlagB ? endOfOneRun(insertion) : endOfSpan(insertion);
     }
 
-    std::map<int, ProgramIten> programs;
+    std::shared_ptr<const Programs> programs;
     PlainScreen plain;
 
 private:
     Instant endOfOneRun(const ScreenInsertion& insertion) const
     {
-        const Microseconds length = insertedList(insertion.plan, programs).length();
+        const Microseconds length = insertedList(insertion.plan, *programs).length();
         return length == kEndless ? plain.nextTaken(insertion.begins)
                                   : insertion.begins + millisecondsUp(length);
     }
@@ -134,7 +142,7 @@ private:
     Instant endOfSpan(const ScreenInsertion& insertion) const
     {
         const LocalTime begins = plain.wall().pieceAt(insertion.begins).local(insertion.begins);
-        const ScreenPlan plan = screenPlans({insertion.plan}, programs).front();
+        const ScreenPlan plan = screenPlans({insertion.plan}, *programs).front();
         return plain.wall().firstShown(timeOn(dayOf(begins), plan.claim.end), insertion.begins);
     }
 };
@@ -144,9 +152,18 @@ ScreenTimeline::ScreenTimeline(const std::map<int, PlayTask>& tasks,
     : d(std::make_unique<Private>(tasks, catalogue, zone))
 {}
 
+ScreenTimeline::ScreenTimeline(std::unique_ptr<Private> own)
+    : d(std::move(own))
+{}
+
 ScreenTimeline::~ScreenTimeline() = default;
 ScreenTimeline::ScreenTimeline(ScreenTimeline&&) noexcept = default;
 ScreenTimeline& ScreenTimeline::operator=(ScreenTimeline&&) noexcept = default;
+
+ScreenTimeline ScreenTimeline::withTasks(const ScreenTasks& tasks) const
+{
+    return ScreenTimeline(std::make_unique<Private>(*d, tasks));
+}
 
 ScreenState ScreenTimeline::at(Instant moment, const ScreenInsertions& insertions) const
 {

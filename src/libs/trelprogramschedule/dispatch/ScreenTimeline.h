@@ -16,6 +16,8 @@
 
 namespace trel::mediadispatch {
 
+class ScreenTask;
+
 /// What a schedule shows at every moment of any date: a function of the tasks, the catalogue and
 /// the insertions alone, with no clock of its own.
 ///
@@ -35,7 +37,7 @@ namespace trel::mediadispatch {
 ///
 /// Lengths count to the microsecond. Building costs n log n over plans, a question log n over tasks
 /// and plans, and with an insertion on screen also once the length of its list. What a question
-/// finds out about a zone and a weekday is kept for the next, so that two threads need two objects.
+/// finds out about a zone and a weekday is kept for the next. Threads may ask at the same time.
 class TRELPROGRAMSCHEDULE_EXPORT ScreenTimeline
 {
 public:
@@ -43,6 +45,10 @@ public:
     ScreenTimeline(const std::map<int, PlayTask>& tasks,
                    const std::map<int, ProgramIten>& catalogue, const QTimeZone& zone);
     ~ScreenTimeline();
+    /// The timeline of other tasks, which have been read with the catalogue of this one, in the
+    /// same zone. Shares the tasks and, where all are valid on the same days, what it knows of
+    /// days; costs a step for each task besides.
+    ScreenTimeline withTasks(const std::map<int, std::shared_ptr<const ScreenTask>>& tasks) const;
     ScreenTimeline(ScreenTimeline&&) noexcept;
     ScreenTimeline& operator=(ScreenTimeline&&) noexcept;
 
@@ -95,6 +101,8 @@ public:
 
 private:
     class Private;
+    explicit ScreenTimeline(std::unique_ptr<Private> own);
+
     std::unique_ptr<Private> d;
 };
 

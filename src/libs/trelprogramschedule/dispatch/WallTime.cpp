@@ -55,15 +55,23 @@ WallTime::WallTime(const QTimeZone& zone)
 const WallPiece& WallTime::pieceAt(Instant moment) const
 {
     const Instant asked = std::clamp(moment, kFirstAsked, kLastAsked);
-    const auto next = m_pieces.upper_bound(asked);
-    if (next != m_pieces.begin()) {
+    const std::lock_guard<std::mutex> lock(m_pieces->mutex);
+    auto& pieces = m_pieces->byBegin;
+    const auto next = pieces.upper_bound(asked);
+    if (next != pieces.begin()) {
         const WallPiece& piece = std::prev(next)->second;
         if (asked < piece.end) {
             return piece;
         }
     }
     const WallPiece piece = findPiece(asked);
-    return m_pieces.emplace(piece.begin, piece).first->second;
+    return pieces.emplace(piece.begin, piece).first->second;
+}
+
+std::size_t WallTime::knownPieces() const
+{
+    const std::lock_guard<std::mutex> lock(m_pieces->mutex);
+    return m_pieces->byBegin.size();
 }
 
 // A zone also lists changes of its name alone, which are none of the clock.

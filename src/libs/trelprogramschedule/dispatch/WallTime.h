@@ -7,6 +7,8 @@
 #include <QTimeZone>
 
 #include <map>
+#include <memory>
+#include <mutex>
 
 namespace trel::mediadispatch {
 
@@ -22,8 +24,8 @@ struct WallPiece
 };
 
 /// The local clock of a time zone, as pieces of even run. A piece is looked up in the zone once and
-/// kept, so that a question costs the logarithm of the pieces met so far. Not to be asked by two
-/// threads at a time.
+/// kept, so that a question costs the logarithm of the pieces met so far. Copies share what they
+/// know; threads may ask at the same time.
 class TRELPROGRAMSCHEDULE_EXPORT WallTime
 {
 public:
@@ -42,13 +44,19 @@ public:
     Instant firstShown(LocalTime local) const;
 
     /// How many pieces have been looked up.
-    std::size_t knownPieces() const { return m_pieces.size(); }
+    std::size_t knownPieces() const;
 
 private:
+    struct Pieces
+    {
+        std::mutex mutex;
+        std::map<Instant, WallPiece> byBegin;
+    };
+
     WallPiece findPiece(Instant moment) const;
 
     QTimeZone m_zone;
-    mutable std::map<Instant, WallPiece> m_pieces; // By their begin.
+    std::shared_ptr<Pieces> m_pieces = std::make_shared<Pieces>();
 };
 
 /// No clock is further than this from universal time.
