@@ -21,6 +21,8 @@ ScheduleHost::ScheduleHost()
     const ScheduleService& shown = service();
     connect(&shown, &ScheduleService::saveFailed, this, &ScheduleHost::saveFailed);
     connect(&shown, &ScheduleService::storedSetChanged, this, &ScheduleHost::storedSetChanged);
+    connect(&shown, &ScheduleService::workingTasksChanged, this,
+            &ScheduleHost::workingTasksChanged);
     connect(&shown, &ScheduleService::workingSetChanged, this, &ScheduleHost::workingSetChanged);
     connect(&shown, &ScheduleService::catalogueChanged, this, &ScheduleHost::catalogueChanged);
 }
@@ -116,6 +118,16 @@ int ScheduleHost::plansWith(const std::vector<int>& progIndexes) const
 {
     int count = 0;
     return service().database().countPlansWith(progIndexes, count) ? count : 0;
+}
+
+const std::map<int, PlayTask>& ScheduleHost::workingSet() const
+{
+    return service().state().tasks.working();
+}
+
+std::shared_ptr<const std::map<int, ProgramIten>> ScheduleHost::catalogue() const
+{
+    return service().state().catalogue.shared();
 }
 
 } // namespace trel::mediadispatch

@@ -8,6 +8,8 @@
 #include <QString>
 
 #include <map>
+#include <memory>
+#include <set>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -104,6 +106,13 @@ public:
     /// read.
     int plansWith(const std::vector<int>& progIndexes) const;
 
+    /// The working set itself, for a look that costs no copy. Valid until the next call that edits
+    /// or the next turn of the event loop.
+    const std::map<int, PlayTask>& workingSet() const;
+    /// The programs as they are at this moment, as a record that does not change any more and that
+    /// threads may share. The same one on every call as long as no program changes. Never null.
+    std::shared_ptr<const std::map<int, ProgramIten>> catalogue() const;
+
 signals:
     /// scheduleManage::save could not commit. Emitted while save still runs, so that a receiver can
     /// still ask the operator, call trySave again or write the working set elsewhere.
@@ -116,6 +125,9 @@ signals:
     void workingSetChanged();
     /// Programs were added, changed or removed, or their files came or went.
     void catalogueChanged();
+    /// Comes right before workingSetChanged and names every task that was put in, taken out or
+    /// edited since it last came; a task that was edited back stands among them.
+    void workingTasksChanged(const std::set<int>& taskIds);
 
 private:
     ScheduleHost();

@@ -292,6 +292,7 @@ void ScheduleService::noteWorkingSet()
     m_noticeDue = QCoreApplication::instance();
     const auto tell = [this] {
         m_noticeDue.clear();
+        emit workingTasksChanged(m_state.tasks.takeChanged());
         emit workingSetChanged();
     };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);

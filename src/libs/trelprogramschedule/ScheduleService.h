@@ -12,6 +12,7 @@
 
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -83,6 +84,7 @@ signals:
     void storedSetChanged();
     /// Displays of tasks are to read them again.
     void tasksReplaced();
+    void workingTasksChanged(const std::set<int>& taskIds);
     void workingSetChanged();
     /// A save that nobody waits for the outcome of was refused.
     void saveFailed(const trel::mediadispatch::StoreResult& reason);

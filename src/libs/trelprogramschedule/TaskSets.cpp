@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace trel::mediadispatch {
 
@@ -86,6 +87,7 @@ void TaskSets::resetWorking()
     for (const int id : m_touched) {
         copyTask(m_stored, m_working, id);
     }
+    m_changed.merge(m_touched);
     m_touched.clear();
 }
 
@@ -98,8 +100,16 @@ void TaskSets::commitWorking()
     m_unwritten.clear();
 }
 
+std::set<int> TaskSets::takeChanged()
+{
+    return std::exchange(m_changed, {});
+}
+
 void TaskSets::clear()
 {
+    for (const auto& [id, task] : m_working) {
+        m_changed.insert(id);
+    }
     m_stored.clear();
     m_working.clear();
     m_touched.clear();
@@ -114,6 +124,7 @@ bool TaskSets::putTask(const PlayTask& task)
     }
     place->second = task;
     m_touched.insert(task.id);
+    m_changed.insert(task.id);
     return true;
 }
 
@@ -121,6 +132,7 @@ void TaskSets::removeTask(int taskId)
 {
     if (m_working.erase(taskId) > 0) {
         m_touched.insert(taskId);
+        m_changed.insert(taskId);
     }
 }
 
@@ -138,6 +150,7 @@ void TaskSets::putPlan(int taskId, const PlayPlan& plan)
         *place = plan;
     }
     m_touched.insert(taskId);
+    m_changed.insert(taskId);
 }
 
 bool TaskSets::isEdited() const

@@ -50,6 +50,10 @@ public:
     void commitWorking();
     void clear();
 
+    /// The tasks of the working set that were put in, taken out or changed since this was last
+    /// asked.
+    std::set<int> takeChanged();
+
     /// False, and nothing is copied or touched, when the working set has the task as it is.
     bool putTask(const PlayTask& task);
     void removeTask(int taskId);
@@ -68,6 +72,7 @@ private:
     TaskMap m_stored;
     TaskMap m_working;
     std::set<int> m_touched;   ///< Every task in which the two may differ.
+    std::set<int> m_changed;   ///< See takeChanged().
     std::set<int> m_unwritten; ///< Every task of the stored set that the store holds otherwise.
 };
 
@@ -117,6 +122,7 @@ bool TaskSets::updateTasks(const Update& update)
     for (auto& [id, task] : m_working) {
         if (update(task)) {
             m_touched.insert(id);
+            m_changed.insert(id);
             isAnother = true;
         }
     }

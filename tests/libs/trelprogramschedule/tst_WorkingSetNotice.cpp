@@ -25,6 +25,9 @@ private slots:
     void manyEditsAreToldOnce();
     void anEditWhileItIsToldIsToldAgain();
     void readingTellsNothing();
+    void changedTasksAreNamed();
+    void theWorkingSetIsSeenWithoutACopy();
+    void programsAreSharedUntilTheyChange();
 };
 
 void tst_WorkingSetNotice::everyWayInIsTold_data()
@@ -107,6 +110,74 @@ void tst_WorkingSetNotice::readingTellsNothing()
     store.manager.save();
     QCoreApplication::processEvents();
     QCOMPARE(told.count(), 0);
+}
+
+void tst_WorkingSetNotice::changedTasksAreNamed()
+{
+    StoreFixture store;
+    for (int id = 1; id <= 4; ++id) {
+        store.manager.addTask(makeTask(id, "2026.01.01", "2026.12.31"));
+    }
+    QVERIFY(store.host.trySave());
+    QCoreApplication::processEvents();
+    QStringList told;
+    QObject context;
+    const auto tell = [&told](const std::set<int>& ids) {
+        QStringList numbers;
+        for (const int id : ids) {
+            numbers.append(QString::number(id));
+        }
+        told.append(numbers.join(QLatin1Char(' ')));
+    };
+    QObject::connect(&store.host, &ScheduleHost::workingTasksChanged, &context, tell);
+    QObject::connect(&store.host, &ScheduleHost::workingSetChanged, &context,
+                     [&told] { told.append(QStringLiteral("set")); });
+    const auto takeTold = [&told] {
+        QCoreApplication::processEvents();
+        return std::exchange(told, {}).join(QStringLiteral(", "));
+    };
+
+    store.manager.addTask(makeTask(2, "2026.01.01", "2026.06.30"));
+    store.manager.addTask(makeTask(3, "2026.01.01", "2026.12.31"));
+    store.manager.addPlan(4, timePlan(1, "08:00:00", "09:00:00"));
+    QCOMPARE(takeTold(), QStringLiteral("2 4, set"));
+    store.manager.deleteTask(1);
+    store.manager.deleteTask(7);
+    QCOMPARE(takeTold(), QStringLiteral("1, set"));
+    store.manager.updateUItask();
+    QCOMPARE(takeTold(), QStringLiteral("1 2 4, set"));
+    store.manager.updateUItask();
+    QCOMPARE(takeTold(), QStringLiteral(", set"));
+    store.host.close();
+    QCOMPARE(takeTold(), QStringLiteral("1 2 3 4, set"));
+}
+
+void tst_WorkingSetNotice::theWorkingSetIsSeenWithoutACopy()
+{
+    const StoreFixture store;
+    const auto& tasks = store.host.workingSet();
+    QVERIFY(tasks.empty());
+    store.manager.addTask(makeTask(2, "2026.01.01", "2026.12.31"));
+    QVERIFY(&store.host.workingSet() == &tasks);
+    QVERIFY(tasks == store.manager.getAllTask());
+}
+
+void tst_WorkingSetNotice::programsAreSharedUntilTheyChange()
+{
+    const StoreFixture store;
+    const auto none = store.host.catalogue();
+    QVERIFY(none != nullptr && none->empty());
+    QVERIFY(store.host.addPrograms(samplePrograms(3)).store);
+    const auto three = store.host.catalogue();
+    QCOMPARE(three->size(), std::size_t{3});
+    store.manager.getgTaskMap();
+    QVERIFY(store.host.catalogue() == three);
+    QVERIFY(store.host.removeProgram(2));
+    QCOMPARE(store.host.catalogue()->size(), std::size_t{2});
+    QCOMPARE(three->size(), std::size_t{3});
+    QVERIFY(none->empty());
+    store.host.close();
+    QVERIFY(store.host.catalogue()->empty());
 }
 
 QTEST_GUILESS_MAIN(tst_WorkingSetNotice)

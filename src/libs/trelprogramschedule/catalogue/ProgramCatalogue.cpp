@@ -46,8 +46,17 @@ bool look(ProgramIten& program)
 
 } // namespace
 
+std::shared_ptr<const ProgramMap> ProgramCatalogue::shared() const
+{
+    if (!m_shared) {
+        m_shared = std::make_shared<const ProgramMap>(m_programs);
+    }
+    return m_shared;
+}
+
 void ProgramCatalogue::assign(ProgramMap programs, std::map<int, std::string> removedNames)
 {
+    m_shared.reset();
     for (auto& [index, program] : programs) {
         program.isNull = isKnownLost(program);
     }
@@ -57,12 +66,14 @@ void ProgramCatalogue::assign(ProgramMap programs, std::map<int, std::string> re
 
 void ProgramCatalogue::clear()
 {
+    m_shared.reset();
     m_programs.clear();
     m_removedNames.clear();
 }
 
 CatalogueChange ProgramCatalogue::put(ProgramIten program)
 {
+    m_shared.reset();
     program.isNull = isKnownLost(program);
     const auto [place, isNew] = m_programs.try_emplace(program.progIndex);
     const CatalogueChange change = isNew ? kProgramNew : difference(place->second, program);
@@ -76,6 +87,7 @@ CatalogueChange ProgramCatalogue::remove(int progIndex)
     if (found == m_programs.end()) {
         return {};
     }
+    m_shared.reset();
     m_removedNames[progIndex] = std::move(found->second.progName);
     m_programs.erase(found);
     return kProgramLost;
@@ -122,13 +134,20 @@ bool ProgramCatalogue::checkFiles()
     for (auto& [index, program] : m_programs) {
         changed = look(program) || changed;
     }
+    if (changed) {
+        m_shared.reset();
+    }
     return changed;
 }
 
 bool ProgramCatalogue::checkFile(int progIndex)
 {
     const auto found = m_programs.find(progIndex);
-    return found != m_programs.end() && look(found->second);
+    const bool changed = found != m_programs.end() && look(found->second);
+    if (changed) {
+        m_shared.reset();
+    }
+    return changed;
 }
 
 bool ProgramCatalogue::isKnownLost(const ProgramIten& program) const
@@ -159,6 +178,9 @@ bool ProgramCatalogue::takeFiles(const ProgramFiles& files)
             changed = changed || found->second.isNull == file.isThere;
             found->second.isNull = !file.isThere;
         }
+    }
+    if (changed) {
+        m_shared.reset();
     }
     return changed;
 }

@@ -4,6 +4,7 @@
 #include "service/ScheduleRecords.h"
 
 #include <map>
+#include <memory>
 #include <string>
 
 namespace trel::mediadispatch {
@@ -28,6 +29,8 @@ class ProgramCatalogue
 {
 public:
     const ProgramMap& programs() const { return m_programs; }
+    /// A copy that stays as it is; the same one until a program changes.
+    std::shared_ptr<const ProgramMap> shared() const;
 
     /// Replaces everything. Which files are there is not looked at: what was known of a program
     /// stays known as long as its path does, and every other file is taken to be there.
@@ -70,6 +73,7 @@ private:
 
     ProgramMap m_programs;
     std::map<int, std::string> m_removedNames;
+    mutable std::shared_ptr<const ProgramMap> m_shared; ///< Null since the last change.
 };
 
 CatalogueChange catalogueChange(const ProgramMap& before, const ProgramMap& after);
