@@ -113,6 +113,13 @@ double processorSeconds(const std::function<void()>& action)
     return seconds(CLOCK_PROCESS_CPUTIME_ID) - start;
 }
 
+double threadSeconds(const std::function<void()>& action)
+{
+    const double start = seconds(CLOCK_THREAD_CPUTIME_ID);
+    action();
+    return seconds(CLOCK_THREAD_CPUTIME_ID) - start;
+}
+
 double wallSeconds(const std::function<void()>& action)
 {
     const double start = seconds(CLOCK_MONOTONIC);

@@ -37,6 +37,8 @@ void run();
 /// The seconds of processor time that something takes. A machine that works for others as well
 /// does not show in them.
 double processorSeconds(const std::function<void()>& action);
+/// The same of the thread that calls alone.
+double threadSeconds(const std::function<void()>& action);
 /// The seconds that pass meanwhile, which is what waiting for a disk or another process costs.
 double wallSeconds(const std::function<void()>& action);
 /// The bytes on the heap that something leaves behind.

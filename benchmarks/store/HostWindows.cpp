@@ -3,6 +3,7 @@
 #include "trelprogramschedule/ScheduleHost.h"
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QFile>
 
 #include <stdexcept>
@@ -75,6 +76,17 @@ void HostWindows::showEditor()
 {
     m_editor.show();
     emit m_editor.signalUpdatePlanList();
+    QCoreApplication::processEvents();
+}
+
+void HostWindows::showPanels()
+{
+    for (const char* const name : {"clockChangeDock", "weekDock"}) {
+        auto* panel = m_window.findChild<QDockWidget*>(QLatin1String(name));
+        panel->setFloating(true);
+        panel->resize(1000, 700);
+        panel->show();
+    }
     QCoreApplication::processEvents();
 }
 

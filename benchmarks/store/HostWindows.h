@@ -28,6 +28,8 @@ public:
     void reopen();
     /// Shows the editor with all its cards, and handles what comes of that.
     void showEditor();
+    /// Shows the changes of the clocks and the week, each in a window of its own.
+    void showPanels();
     trel::mediadispatch::scheduleControlUI& editor() { return m_editor; }
 
 private:

@@ -1,4 +1,5 @@
 #include "Comparison.h"
+#include "KeystrokeCases.h"
 #include "StartCases.h"
 #include "StoreCases.h"
 #include "WaitCases.h"
@@ -15,6 +16,7 @@ int main(int argc, char** argv)
     bench::addStoreCases();
     bench::addStartCases();
     bench::addWaitCases();
+    bench::addKeystrokeCases();
     try {
         bench::run();
         return 0;
