@@ -21,14 +21,13 @@ namespace {
 constexpr double kTenTimes = 11.67;
 constexpr double kFrame = 0.016;
 constexpr int kProgramsInUse = 1000;
-constexpr int kPlansOfTask = 5;
 constexpr int kKeys = 10;
 constexpr int kRounds = 5;
 
 /// A day for each task, from the day before yesterday on, so that the week holds some of them.
-TaskMap tasksFromNowOn(int count)
+TaskMap tasksFromNowOn(int count, int plans)
 {
-    TaskMap tasks = sampleTasks(count, kPlansOfTask);
+    TaskMap tasks = sampleTasks(count, plans);
     for (auto& [id, task] : tasks) {
         task.startDate = dateToText(QDate::currentDate().addDays(id - 3));
         task.endDate = task.startDate;
@@ -61,7 +60,7 @@ void settle()
     QCoreApplication::processEvents();
 }
 
-/// What a key costs in a task of the week that is shown. The windows are kept from round to round.
+/// What a key costs in a task of the week that is shown.
 class Keys
 {
 public:
@@ -99,10 +98,10 @@ void addKeys(const std::string& size, const TaskMap& many, const TaskMap& few, b
     add({"A key, clocks and week shown, against fewer", size, kTenTimes,
          [ofMany] { return ofMany->measure(processorSeconds); },
          [ofFew] { return ofFew->measure(processorSeconds); }, kRounds, isLong});
-    add({"The same on the interface thread, against fewer", size, kTenTimes,
+    add({"A key on the interface thread, against fewer", size, kTenTimes,
          [ofMany] { return ofMany->measure(threadSeconds); },
          [ofFew] { return ofFew->measure(threadSeconds); }, kRounds, isLong});
-    add({"The same on the interface thread, against fewer and a frame", size, 1.0,
+    add({"A key on the interface thread, against fewer and a frame", size, 1.0,
          [ofMany] { return ofMany->measure(threadSeconds); },
          [ofFew] { return ofFew->measure(threadSeconds) + kFrame; }, kRounds, isLong});
 }
@@ -111,12 +110,14 @@ void addKeys(const std::string& size, const TaskMap& many, const TaskMap& few, b
 
 void addKeystrokeCases()
 {
-    addKeys("1,000 tasks of 5 plans against 100 tasks", tasksFromNowOn(1000), tasksFromNowOn(100),
-            false);
-    addKeys("9,998 tasks of 5 plans against 1,000 tasks", tasksFromNowOn(9998),
-            tasksFromNowOn(1000), true);
-    addKeys("300 plans in force for good against 30 plans", taskWithPlans(300), taskWithPlans(30),
-            false);
+    addKeys("1,000 tasks of 5 plans against 100 tasks", tasksFromNowOn(1000, 5),
+            tasksFromNowOn(100, 5), false);
+    addKeys("1,000 tasks of 60 plans against 100 tasks", tasksFromNowOn(1000, 60),
+            tasksFromNowOn(100, 60), true);
+    addKeys("9,998 tasks of 5 plans against 1,000 tasks", tasksFromNowOn(9998, 5),
+            tasksFromNowOn(1000, 5), true);
+    addKeys("1,000 plans in force for good against 100 plans", taskWithPlans(1000),
+            taskWithPlans(100), false);
 }
 
 } // namespace bench

@@ -7,6 +7,7 @@
 #include "Languages.h"
 #include "ProgramTableModel.h"
 #include "clock/ClockChangePanel.h"
+#include "follow/EditedSchedule.h"
 #include "scheduleControlUI.h"
 #include "screen/NowNextPanel.h"
 #include "screen/PreviewDock.h"
@@ -153,9 +154,10 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     addPanel(preview, Qt::RightDockWidgetArea);
     m_menus->addPanel(preview->fullScreen());
     m_clockChanges->setObjectName(QStringLiteral("clockChangeDock"));
-    m_clockChanges->setWidget(new ClockChangePanel(m_clockChanges));
+    auto* edited = new follow::EditedSchedule(this);
+    m_clockChanges->setWidget(new ClockChangePanel(*edited, m_clockChanges));
     addPanel(m_clockChanges, Qt::BottomDockWidgetArea);
-    auto* week = new WeekDock(languages, themes, this);
+    auto* week = new WeekDock(*edited, languages, themes, this);
     connect(week, &WeekDock::activated, this, &EditorWindow::showEditor);
     addPanel(week, Qt::BottomDockWidgetArea);
     tabifyDockWidget(m_clockChanges, week);

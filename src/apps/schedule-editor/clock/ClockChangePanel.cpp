@@ -1,12 +1,13 @@
 #include "clock/ClockChangePanel.h"
 
 #include "clock/Clock.h"
+#include "follow/EditedSchedule.h"
 #include "service/TimeText.h"
-#include "service/scheduleManage.h"
-#include "trelprogramschedule/ScheduleHost.h"
-#include "trelprogramschedule/dispatch/ClockChanges.h"
 
 #include <QEvent>
+
+#include <algorithm>
+#include <numeric>
 
 using namespace trel::mediadispatch;
 
@@ -23,20 +24,35 @@ QString timeOfDay(int second)
                : QString::fromStdString(timeToText(QTime::fromMSecsSinceStartOfDay(second * 1000)));
 }
 
+/// A sentence for each plan, or one that says that there is none.
+int rowsOf(const TaskClockChange& change)
+{
+    return std::max(1, static_cast<int>(change.plans.size()));
+}
+
+template <typename Iterator>
+int rowsOf(Iterator begin, Iterator end)
+{
+    return std::accumulate(begin, end, 0, [](int rows, const TaskClockChange& change) {
+        return rows + rowsOf(change);
+    });
+}
+
 } // namespace
 
-ClockChangePanel::ClockChangePanel(QWidget* parent)
+ClockChangePanel::ClockChangePanel(follow::EditedSchedule& edited, QWidget* parent)
     : QListWidget(parent)
+    , m_edited(edited)
+    , m_search(std::make_shared<ClockChangeWork>())
 {
     setObjectName(QStringLiteral("clockChanges"));
     setWordWrap(true);
     setResizeMode(QListView::Adjust);
     setSelectionMode(QAbstractItemView::NoSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    const ScheduleHost& host = ScheduleHost::instance();
-    connect(&host, &ScheduleHost::workingSetChanged, this, &ClockChangePanel::follow);
-    connect(&host, &ScheduleHost::catalogueChanged, this, &ClockChangePanel::follow);
 }
+
+ClockChangePanel::~ClockChangePanel() = default;
 
 QSize ClockChangePanel::sizeHint() const
 {
@@ -45,54 +61,96 @@ QSize ClockChangePanel::sizeHint() const
     return {kWidth, kLines * fontMetrics().lineSpacing()};
 }
 
-void ClockChangePanel::follow()
+void ClockChangePanel::takeEdits(const follow::ScheduleEdits& edits)
 {
-    // What is hidden is worked out when it is shown.
-    if (isVisible()) {
-        reload();
+    order(Clock::current().zone() == m_zone ? edits : m_edited.everything());
+}
+
+void ClockChangePanel::order(const follow::ScheduleEdits& edits)
+{
+    m_zone = Clock::current().zone();
+    m_search->order(edits, m_zone, Clock::current().today());
+    const auto work = [this, search = m_search](const follow::Cancellation& cancellation) {
+        const auto changes = search->find(kMostChanges, cancellation);
+        return follow::NewestWork::Outcome([this, changes] { take(*changes); });
+    };
+    if (edits.isShort() && !m_work.isBusy()) {
+        m_work.carryOut(work);
+    } else {
+        m_work.start(work);
     }
 }
 
-void ClockChangePanel::reload()
+void ClockChangePanel::take(const ClockChangeWork::Changes& changes)
+{
+    if (!m_changes || m_changes->empty() || changes.empty()) {
+        const bool isSame = m_changes == changes;
+        m_changes = changes;
+        if (!isSame) {
+            fill();
+        }
+        return;
+    }
+    const ClockChangeWork::Changes former = std::move(*m_changes);
+    m_changes = changes;
+    const auto head = std::mismatch(former.begin(), former.end(), changes.begin(), changes.end());
+    const auto tail = std::mismatch(former.rbegin(), std::make_reverse_iterator(head.first),
+                                    changes.rbegin(), std::make_reverse_iterator(head.second));
+    if (head.first == former.begin() && tail.first == former.rbegin()) {
+        fill();
+        return;
+    }
+    int row = rowsOf(former.begin(), head.first);
+    for (int left = rowsOf(head.first, tail.first.base()); left > 0; --left) {
+        delete takeItem(row);
+    }
+    for (auto change = head.second; change != tail.second.base(); ++change) {
+        insertChange(row, *change);
+        row += rowsOf(*change);
+    }
+}
+
+void ClockChangePanel::fill()
 {
     clear();
     setAccessibleName(tr("Clock changes"));
-    scheduleManage& manager = scheduleManage::getInstance();
-    const std::vector<TaskClockChange> changes =
-        nextClockChanges(manager.getAllTask(), manager.getPrograms(), Clock::current().zone(),
-                         Clock::current().today(), kMostChanges);
-    for (const TaskClockChange& change : changes) {
-        addChange(change);
+    if (!m_changes) {
+        return;
     }
-    if (changes.empty()) {
-        addSentence(tr("No clock change falls within the validity of any task."), true);
+    for (const TaskClockChange& change : *m_changes) {
+        insertChange(count(), change);
+    }
+    if (m_changes->empty()) {
+        insertSentence(0, tr("No clock change falls within the validity of any task."), true);
     }
 }
 
-void ClockChangePanel::addSentence(const QString& sentence, bool isFaint)
+void ClockChangePanel::insertSentence(int row, const QString& sentence, bool isFaint)
 {
-    auto* item = new QListWidgetItem(sentence, this);
+    auto item = std::make_unique<QListWidgetItem>(sentence);
     item->setToolTip(sentence);
     if (isFaint) {
         item->setForeground(palette().brush(QPalette::PlaceholderText));
     }
+    insertItem(row, item.release());
 }
 
-void ClockChangePanel::addChange(const TaskClockChange& change)
+void ClockChangePanel::insertChange(int row, const TaskClockChange& change)
 {
     const auto sentence = [&](const QString& text) {
         return text.arg(locale().toString(change.change.date, QLocale::ShortFormat),
                         timeOfDay(change.change.begin), timeOfDay(change.change.end));
     };
     for (const TouchedPlan& plan : change.plans) {
-        addSentence(effect(sentence(wordsFor(plan.effect)), change, plan), false);
+        insertSentence(row++, effect(sentence(wordsFor(plan.effect)), change, plan), false);
     }
     if (change.plans.empty()) {
-        addSentence(sentence(change.change.isLeftOut()
-                                 ? tr("%1: %2–%3 is skipped; no plan of task %4 is affected.")
-                                 : tr("%1: %2–%3 occurs twice; no plan of task %4 is affected."))
-                        .arg(change.taskId),
-                    true);
+        insertSentence(row,
+                       sentence(change.change.isLeftOut()
+                                    ? tr("%1: %2–%3 is skipped; no plan of task %4 is affected.")
+                                    : tr("%1: %2–%3 occurs twice; no plan of task %4 is affected."))
+                           .arg(change.taskId),
+                       true);
     }
 }
 
@@ -144,15 +202,25 @@ QString ClockChangePanel::effect(const QString& words, const TaskClockChange& ch
 
 void ClockChangePanel::showEvent(QShowEvent* event)
 {
-    reload();
+    disconnect(m_following);
+    m_following =
+        connect(&m_edited, &follow::EditedSchedule::edited, this, &ClockChangePanel::takeEdits);
+    order(m_edited.everything());
     QListWidget::showEvent(event);
+}
+
+void ClockChangePanel::hideEvent(QHideEvent* event)
+{
+    // What is hidden is worked out when it is shown.
+    disconnect(m_following);
+    QListWidget::hideEvent(event);
 }
 
 void ClockChangePanel::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange ||
         event->type() == QEvent::PaletteChange) {
-        follow();
+        fill();
     }
     QListWidget::changeEvent(event);
 }

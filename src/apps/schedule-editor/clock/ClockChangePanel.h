@@ -1,38 +1,54 @@
 #pragma once
 
+#include "clock/ClockChangeWork.h"
+
 #include <QListWidget>
 
-namespace trel::mediadispatch {
-enum class ClockChangeEffect;
-struct TaskClockChange;
-struct TouchedPlan;
-} // namespace trel::mediadispatch
+#include <memory>
+#include <optional>
+
+namespace follow {
+class EditedSchedule;
+}
 
 /// The next hours that a change of the clocks leaves out or doubles on days of a task, each with
 /// what becomes of the plans that it touches. Follows the working set, so that the operator learns
 /// of it before saving; works it out only while it can be seen, once for all edits of one turn of
-/// the event loop.
+/// the event loop. What takes long is worked out in another thread; what was known before stays
+/// until then, and rows that an edit does not concern stay as they are.
 class ClockChangePanel : public QListWidget
 {
     Q_OBJECT
 
 public:
-    explicit ClockChangePanel(QWidget* parent);
+    /// The schedule outlives the panel.
+    ClockChangePanel(follow::EditedSchedule& edited, QWidget* parent);
+    ~ClockChangePanel() override;
 
     QSize sizeHint() const override;
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    void follow();
-    void reload();
-    void addSentence(const QString& sentence, bool isFaint);
-    void addChange(const trel::mediadispatch::TaskClockChange& change);
+    void takeEdits(const follow::ScheduleEdits& edits);
+    void order(const follow::ScheduleEdits& edits);
+    void take(const ClockChangeWork::Changes& changes);
+    void fill();
+    void insertSentence(int row, const QString& sentence, bool isFaint);
+    void insertChange(int row, const trel::mediadispatch::TaskClockChange& change);
     /// The sentence for an effect, with places for the change (%1 to %3), the plan and its task
     /// (%4, %5), and where the effect has a time of day, for that (%6).
     static QString wordsFor(trel::mediadispatch::ClockChangeEffect effect);
     static QString effect(const QString& words, const trel::mediadispatch::TaskClockChange& change,
                           const trel::mediadispatch::TouchedPlan& plan);
+
+    follow::EditedSchedule& m_edited;
+    QMetaObject::Connection m_following;
+    QTimeZone m_zone; ///< That the changes are looked for in.
+    std::shared_ptr<ClockChangeWork> m_search;
+    follow::NewestWork m_work;
+    std::optional<ClockChangeWork::Changes> m_changes; ///< That the rows tell of.
 };

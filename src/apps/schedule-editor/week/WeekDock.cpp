@@ -7,9 +7,10 @@
 #include <QAction>
 #include <QEvent>
 
-WeekDock::WeekDock(const Languages& languages, const Themes& themes, QWidget* parent)
+WeekDock::WeekDock(follow::EditedSchedule& edited, const Languages& languages, const Themes& themes,
+                   QWidget* parent)
     : QDockWidget(parent)
-    , m_panel(new week::WeekPanel(this))
+    , m_panel(new week::WeekPanel(edited, this))
 {
     setObjectName(QStringLiteral("weekDock"));
     setWidget(m_panel);

@@ -5,6 +5,10 @@
 class Languages;
 class Themes;
 
+namespace follow {
+class EditedSchedule;
+}
+
 namespace week {
 class WeekPanel;
 }
@@ -16,8 +20,9 @@ class WeekDock : public QDockWidget
     Q_OBJECT
 
 public:
-    /// Both outlive the dock.
-    WeekDock(const Languages& languages, const Themes& themes, QWidget* parent);
+    /// All of these outlive the dock.
+    WeekDock(follow::EditedSchedule& edited, const Languages& languages, const Themes& themes,
+             QWidget* parent);
 
     week::WeekPanel* panel() const { return m_panel; }
 

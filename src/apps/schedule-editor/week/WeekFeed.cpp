@@ -1,11 +1,12 @@
 #include "week/WeekFeed.h"
 
 #include "clock/Clock.h"
-#include "service/scheduleManage.h"
+#include "follow/EditedSchedule.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
 
 #include <algorithm>
+#include <optional>
 
 using namespace trel::mediadispatch;
 
@@ -29,14 +30,22 @@ bool isSame(const ScreenInsertions& a, const ScreenInsertions& b)
 
 } // namespace
 
-WeekFeed::WeekFeed(QObject* parent)
+WeekFeed::WeekFeed(follow::EditedSchedule& edited, QObject* parent)
     : QObject(parent)
+    , m_edited(edited)
+    , m_pictures(std::make_shared<WeekWork>())
 {
     ScheduleHost& host = ScheduleHost::instance();
-    const auto stale = [this] { markStale(); };
-    connect(&host, &ScheduleHost::catalogueChanged, this, stale);
-    connect(&host, &ScheduleHost::workingSetChanged, this, [this] {
-        if (m_source == WeekSource::Edited) {
+    // While it is watched, the edited schedule tells what has changed in it.
+    const auto noteEdit = [this] {
+        if (m_source == WeekSource::Edited && !m_isWatched) {
+            markStale();
+        }
+    };
+    connect(&host, &ScheduleHost::workingSetChanged, this, noteEdit);
+    connect(&host, &ScheduleHost::catalogueChanged, this, noteEdit);
+    connect(&host, &ScheduleHost::catalogueChanged, this, [this] {
+        if (m_source == WeekSource::InEffect) {
             markStale();
         }
     });
@@ -53,15 +62,35 @@ void WeekFeed::setSource(WeekSource source)
 {
     if (m_source != source) {
         m_source = source;
+        watchEdits();
         markStale();
+    }
+}
+
+void WeekFeed::setWeek(const QDate& first)
+{
+    m_week = first;
+    if (m_isOnItsWay) {
+        follow::ScheduleEdits none;
+        none.size = m_size;
+        order(none);
     }
 }
 
 void WeekFeed::setWatched(bool isWatched)
 {
     m_isWatched = isWatched;
+    watchEdits();
     if (m_isWatched && m_isStale) {
-        fetch();
+        orderAll();
+    }
+}
+
+void WeekFeed::watchEdits()
+{
+    disconnect(m_following);
+    if (m_isWatched && m_source == WeekSource::Edited) {
+        m_following = connect(&m_edited, &follow::EditedSchedule::edited, this, &WeekFeed::order);
     }
 }
 
@@ -69,7 +98,7 @@ void WeekFeed::markStale()
 {
     m_isStale = true;
     if (m_isWatched) {
-        fetch();
+        orderAll();
     }
 }
 
@@ -81,27 +110,49 @@ void WeekFeed::checkInEffect()
     }
 }
 
-WeekSchedule::Tasks WeekFeed::tasks() const
-{
-    return m_source == WeekSource::Edited ? scheduleManage::getInstance().getAllTask()
-                                          : ScheduleHost::instance().dispatch().tasks();
-}
-
-ScreenInsertions WeekFeed::insertions() const
-{
-    return m_source == WeekSource::Edited ? ScreenInsertions()
-                                          : ScheduleHost::instance().dispatch().insertions();
-}
-
-void WeekFeed::fetch()
+void WeekFeed::orderAll()
 {
     m_isStale = false;
-    const auto schedule =
-        std::make_shared<const WeekSchedule>(tasks(), scheduleManage::getInstance().getPrograms(),
-                                             insertions(), Clock::current().zone());
-    m_insertions = insertions();
-    m_tasksInEffect = m_source == WeekSource::InEffect ? schedule->tasks() : WeekSchedule::Tasks();
-    emit changed(schedule);
+    order(everything());
+}
+
+follow::ScheduleEdits WeekFeed::everything()
+{
+    if (m_source == WeekSource::Edited) {
+        m_tasksInEffect.clear();
+        m_insertions.clear();
+        return m_edited.everything();
+    }
+    const ScreenDispatch& dispatch = ScheduleHost::instance().dispatch();
+    m_tasksInEffect = dispatch.tasks();
+    m_insertions = dispatch.insertions();
+    follow::ScheduleEdits all;
+    all.isWhole = true;
+    all.catalogue = ScheduleHost::instance().catalogue();
+    for (const auto& [id, task] : m_tasksInEffect) {
+        all.tasks.emplace_hint(all.tasks.end(), id, std::make_shared<const PlayTask>(task));
+        all.size += 1 + task.plans.size();
+    }
+    return all;
+}
+
+void WeekFeed::order(const follow::ScheduleEdits& edits)
+{
+    m_pictures->order(edits, {m_week, Clock::current().zone(), m_insertions});
+    m_isOnItsWay = true;
+    m_size = edits.size;
+    const auto work = [this, pictures = m_pictures](const follow::Cancellation& cancellation) {
+        const std::optional<WeekPicture> picture = pictures->make(cancellation);
+        return follow::NewestWork::Outcome([this, picture] {
+            m_isOnItsWay = false;
+            emit changed(*picture);
+        });
+    };
+    if (edits.isShort() && !m_work.isBusy()) {
+        m_work.carryOut(work);
+    } else {
+        m_work.start(work);
+    }
 }
 
 } // namespace week

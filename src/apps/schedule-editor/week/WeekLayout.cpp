@@ -1,16 +1,10 @@
 #include "week/WeekLayout.h"
 
-#include "service/DateText.h"
-#include "service/PlanConflicts.h"
-#include "service/ProgramText.h"
-#include "service/TimeText.h"
-#include "service/WeekDays.h"
-#include "trelprogramschedule/dispatch/ScreenPlan.h"
-
 #include <QTime>
 
 #include <algorithm>
-#include <array>
+#include <map>
+#include <memory>
 #include <set>
 #include <utility>
 
@@ -20,21 +14,7 @@ namespace week {
 
 namespace {
 
-/// No block is ever high enough for more names.
-constexpr std::size_t kMostPrograms = 12;
-
 using Plans = std::set<std::pair<int, int>>; // Task and row.
-
-std::string nameOf(const std::map<int, ProgramIten>& catalogue, const struProgInfo& entry)
-{
-    const auto found = catalogue.find(entry.progIndex);
-    return entry.isInvalid || found == catalogue.end() ? entry.progName : found->second.progName;
-}
-
-int secondOf(const QTime& time)
-{
-    return QTime(0, 0).secsTo(time);
-}
 
 /// The plans that have the screen somewhere in the spans and show nothing.
 Plans plansWithNothing(const std::vector<ScreenState>& spans)
@@ -48,96 +28,7 @@ Plans plansWithNothing(const std::vector<ScreenState>& spans)
     return plans;
 }
 
-/// The blocks that a task has on each day of the week, 1 to 7.
-class TaskBlocks
-{
-public:
-    TaskBlocks(const PlayTask& task, const std::map<int, ProgramIten>& catalogue,
-               const Plans& withNothing)
-    {
-        const std::vector<PlanClaim> claims =
-            planClaims(task.plans, catalogue, [&catalogue](int progIndex) {
-                const auto found = catalogue.find(progIndex);
-                return found != catalogue.end() && !hasOwnLength(found->second);
-            });
-        const std::vector<bool> colliding = collidingClaims(claims);
-        for (std::size_t row = 0; row < claims.size(); ++row) {
-            WeekBlock block = blockOf(task.plans[row], claims[row], catalogue);
-            block.row = static_cast<int>(row);
-            block.collides = colliding[row];
-            block.hasNothing = withNothing.count({task.id, block.row}) > 0;
-            addToDays(block, claims[row].weeks);
-        }
-        for (std::vector<WeekBlock>& blocks : m_days) {
-            std::sort(blocks.begin(), blocks.end(), [](const WeekBlock& a, const WeekBlock& b) {
-                return a.from != b.from ? a.from < b.from : a.row < b.row;
-            });
-        }
-    }
-
-    const std::vector<WeekBlock>& on(const QDate& day) const
-    {
-        return m_days[static_cast<std::size_t>(day.dayOfWeek())];
-    }
-
-private:
-    static WeekBlock blockOf(const PlayPlan& plan, const PlanClaim& claim,
-                             const std::map<int, ProgramIten>& catalogue)
-    {
-        WeekBlock block;
-        block.planId = plan.id;
-        block.start = QString::fromStdString(claim.start);
-        block.end = QString::fromStdString(claim.end);
-        const std::size_t named = std::min(plan.programs.size(), kMostPrograms);
-        block.hasMorePrograms = named < plan.programs.size();
-        for (std::size_t i = 0; i < named; ++i) {
-            block.programs.append(QString::fromStdString(nameOf(catalogue, plan.programs[i])));
-        }
-        // One without a day of the week stands on no day.
-        block.never = planFault(plan, claim.end);
-        block.listOver = listOverAt(plan, claim.end, catalogue);
-        setSpan(block, timeFromText(claim.start), timeFromText(claim.end));
-        return block;
-    }
-
-    static void setSpan(WeekBlock& block, const QTime& start, const QTime& end)
-    {
-        if (start.isValid()) {
-            block.from = secondOf(start);
-            block.to = block.from;
-        }
-        if (block.never == PlanFault::None) {
-            block.to = secondOf(end);
-        }
-    }
-
-    void addToDays(const WeekBlock& block, const std::string& weeks)
-    {
-        std::vector<int> numbers;
-        const bool isEveryDay = parseWeeks(weeks, numbers);
-        for (int day = Monday; day <= Sunday; ++day) {
-            if (isEveryDay || std::find(numbers.begin(), numbers.end(), day) != numbers.end()) {
-                m_days[static_cast<std::size_t>(day)].push_back(block);
-            }
-        }
-    }
-
-    std::array<std::vector<WeekBlock>, WeekDayCount> m_days;
-};
-
-std::optional<int> taskOn(const QDate& day, const std::map<int, PlayTask>& tasks)
-{
-    for (const auto& [id, task] : tasks) {
-        const QDate start = dateFromText(task.startDate);
-        const QDate end = dateFromText(task.endDate);
-        if (start.isValid() && end.isValid() && start <= day && day <= end) {
-            return id;
-        }
-    }
-    return std::nullopt;
-}
-
-DayLanes lanesOf(const WeekColumn& day)
+std::vector<LeftOutTime> leftOutOn(const WeekColumn& day)
 {
     std::vector<LeftOutTime> leftOut;
     for (const ClockChange& change : day.changes) {
@@ -145,24 +36,18 @@ DayLanes lanesOf(const WeekColumn& day)
             leftOut.push_back({change.begin, change.end});
         }
     }
-    std::vector<DayClaim> claims;
-    std::vector<int> blocks;
-    for (std::size_t i = 0; i < day.blocks.size(); ++i) {
-        const WeekBlock& block = day.blocks[i];
-        if (block.never == PlanFault::None) {
-            claims.push_back({block.row, block.from, block.to});
-            blocks.push_back(static_cast<int>(i));
-        }
+    return leftOut;
+}
+
+void addBlocks(WeekColumn& day, const TaskWeek& week, const Plans& withNothing)
+{
+    const int weekday = day.date.dayOfWeek();
+    day.blocks = week.blocksOn(weekday);
+    for (WeekBlock& block : day.blocks) {
+        block.hasNothing = withNothing.count({*day.task, block.row}) > 0;
     }
-    DayLanes lanes = dayPieces(claims, leftOut);
-    for (std::vector<DayPiece>& lane : lanes) {
-        for (DayPiece& piece : lane) {
-            if (piece.claim >= 0) {
-                piece.claim = blocks[static_cast<std::size_t>(piece.claim)];
-            }
-        }
-    }
-    return lanes;
+    const std::vector<LeftOutTime> leftOut = leftOutOn(day);
+    day.lanes = leftOut.empty() ? week.lanesOn(weekday) : lanesOf(day.blocks, leftOut);
 }
 
 std::optional<WeekStretch::Kind> kindOf(const ScreenState& state)
@@ -238,7 +123,7 @@ WeekLayout layoutWeek(const WeekQuestion& question)
     WeekLayout week{std::vector<WeekColumn>(kDays),
                     WallClock(question.first, kDays, question.zone)};
     const Plans withNothing = plansWithNothing(question.spans);
-    std::map<int, TaskBlocks> blocksOfTask;
+    std::map<int, std::shared_ptr<const TaskWeek>> weeks;
     for (const ClockChange& change : week.clock.changes()) {
         const qint64 day = question.first.daysTo(change.date);
         week.days[static_cast<std::size_t>(day)].changes.push_back(change);
@@ -246,15 +131,15 @@ WeekLayout layoutWeek(const WeekQuestion& question)
     for (std::size_t i = 0; i < week.days.size(); ++i) {
         WeekColumn& day = week.days[i];
         day.date = question.first.addDays(static_cast<int>(i));
-        day.task = taskOn(day.date, question.tasks);
+        day.lanes.resize(kLanes);
+        day.task = question.tasks.inEffectOn(day.date);
         if (day.task) {
-            const auto blocks = blocksOfTask
-                                    .try_emplace(*day.task, question.tasks.at(*day.task),
-                                                 question.catalogue, withNothing)
-                                    .first;
-            day.blocks = blocks->second.on(day.date);
+            std::shared_ptr<const TaskWeek>& ofTask = weeks[*day.task];
+            if (!ofTask) {
+                ofTask = question.tasks.weekOf(*day.task, question.catalogue);
+            }
+            addBlocks(day, *ofTask, withNothing);
         }
-        day.lanes = lanesOf(day);
     }
     addStretches(week, question);
     return week;

@@ -1,14 +1,13 @@
 #pragma once
 
-#include "service/PlanFaults.h"
 #include "service/ScheduleRecords.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
 #include "week/DayPieces.h"
 #include "week/WallClock.h"
+#include "week/WeekTasks.h"
 
 #include <QDate>
 #include <QString>
-#include <QStringList>
 #include <QTimeZone>
 
 #include <map>
@@ -18,24 +17,6 @@
 namespace week {
 
 inline constexpr int kDays = 7;
-
-/// What one plan claims of one day. One that never plays is marked where it starts.
-struct WeekBlock
-{
-    int planId = -1;
-    int row = -1;
-    int from = 0; ///< Seconds since midnight.
-    int to = 0;
-    trel::mediadispatch::PlanFault never = trel::mediadispatch::PlanFault::None;
-    /// The second of the day in which its list is over before the plan ends.
-    std::optional<int> listOver;
-    bool collides = false;   ///< With a plan above it.
-    bool hasNothing = false; ///< None of its programs can be shown.
-    QString start;           ///< As the plan says.
-    QString end;             ///< As it is in force.
-    QStringList programs;    ///< The first of them.
-    bool hasMorePrograms = false;
-};
 
 /// A time in which no plan has the screen by the rules.
 struct WeekStretch
@@ -76,7 +57,7 @@ struct WeekQuestion
 {
     QDate first;
     QTimeZone zone;
-    const std::map<int, trel::mediadispatch::PlayTask>& tasks;
+    const WeekTasks& tasks;
     const std::map<int, trel::mediadispatch::ProgramIten>& catalogue;
     /// What is on screen in the course of the days, one after the other, as
     /// ScreenTimeline::visitSpans tells it.
@@ -94,7 +75,8 @@ struct WeekLayout
     std::optional<int> dayOf(const QDate& date) const;
 };
 
-/// Costs n log n over the plans that are in effect in these days, and the spans.
+/// Costs the tasks, the plans that are in effect in these days and the spans; n log n over the
+/// plans of tasks that are not prepared.
 WeekLayout layoutWeek(const WeekQuestion& question);
 
 /// The first day of the week that holds a day.

@@ -25,9 +25,9 @@ void setWords(QWidget* widget, const QString& words)
 
 } // namespace
 
-WeekPanel::WeekPanel(QWidget* parent)
+WeekPanel::WeekPanel(follow::EditedSchedule& edited, QWidget* parent)
     : QWidget(parent)
-    , m_feed(this)
+    , m_feed(edited, this)
     , m_view(new WeekView(this))
     , m_former(addButton("weekFormer", QStringLiteral("‹")))
     , m_today(addButton("weekToday", QString()))
@@ -89,9 +89,13 @@ void WeekPanel::buildControls()
 
 void WeekPanel::connectControls()
 {
-    connect(&m_feed, &WeekFeed::changed, m_view, &WeekView::setSchedule);
+    connect(&m_feed, &WeekFeed::changed, m_view, &WeekView::setPicture);
     connect(m_view, &WeekView::activated, this, &WeekPanel::activated);
-    connect(m_view, &WeekView::weekChanged, this, &WeekPanel::updateTitle);
+    connect(m_view, &WeekView::weekChanged, this, [this] {
+        m_feed.setWeek(m_view->firstDay());
+        updateTitle();
+    });
+    m_feed.setWeek(m_view->firstDay());
     connect(m_view, &WeekView::zoomChanged, this, &WeekPanel::updateButtons);
     connect(m_former, &QPushButton::clicked, m_view, [this] { m_view->stepWeeks(-1); });
     connect(m_next, &QPushButton::clicked, m_view, [this] { m_view->stepWeeks(1); });

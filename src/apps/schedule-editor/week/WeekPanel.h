@@ -19,7 +19,8 @@ class WeekPanel : public QWidget
     Q_OBJECT
 
 public:
-    explicit WeekPanel(QWidget* parent = nullptr);
+    /// The schedule outlives the panel.
+    explicit WeekPanel(follow::EditedSchedule& edited, QWidget* parent = nullptr);
 
     WeekView* view() const { return m_view; }
     void setColours(const look::ThemeColours& colours);

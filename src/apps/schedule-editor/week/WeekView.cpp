@@ -40,7 +40,8 @@ WeekView::WeekView(QWidget* parent)
     : QAbstractScrollArea(parent)
     , m_schedule(emptySchedule())
     , m_colours(look::darkColours())
-    , m_layout(m_schedule->layout(startOfWeek(Clock::current().today(), locale())))
+    , m_layout(std::make_shared<const WeekLayout>(
+          m_schedule->layout(startOfWeek(Clock::current().today(), locale()))))
     , m_minutes(this)
     , m_area(new WeekArea(this))
     , m_dates(new WeekStrip(
@@ -76,6 +77,17 @@ void WeekView::setSchedule(std::shared_ptr<const WeekSchedule> schedule)
     updateNow();
 }
 
+void WeekView::setPicture(const WeekPicture& picture)
+{
+    if (picture.layout->first() != firstDay()) {
+        setSchedule(picture.schedule);
+        return;
+    }
+    m_schedule = picture.schedule;
+    m_layout = picture.layout;
+    updateNow();
+}
+
 void WeekView::setColours(const look::ThemeColours& colours)
 {
     m_colours = colours;
@@ -91,7 +103,7 @@ void WeekView::retranslate()
 void WeekView::layOut(const QDate& first)
 {
     const bool isOther = first != firstDay();
-    m_layout = m_schedule->layout(first);
+    m_layout = std::make_shared<const WeekLayout>(m_schedule->layout(first));
     repaintAll();
     if (isOther) {
         emit weekChanged();
@@ -134,28 +146,28 @@ void WeekView::showNow()
 {
     updateNow();
     showWeekOf(m_now.date);
-    m_area->centre(*m_layout.dayOf(m_now.date), m_now.second);
+    m_area->centre(*m_layout->dayOf(m_now.date), m_now.second);
 }
 
 WeekScene WeekView::scene(const QRect& visible) const
 {
-    return {m_layout, m_area->geometry(), m_colours, locale(), visible,
-            m_now,    m_selected,         hasFocus()};
+    return {*m_layout, m_area->geometry(), m_colours, locale(), visible,
+            m_now,     m_selected,         hasFocus()};
 }
 
 WeekHit WeekView::hit(const QPoint& place) const
 {
-    return hitAt(m_layout, m_area->geometry(), place + m_area->offset());
+    return hitAt(*m_layout, m_area->geometry(), place + m_area->offset());
 }
 
 std::optional<WeekHit> WeekView::hit(const BlockRef& block) const
 {
-    const std::optional<int> day = m_layout.dayOf(block.date);
+    const std::optional<int> day = m_layout->dayOf(block.date);
     if (!day) {
         return std::nullopt;
     }
-    const WeekBlock* found = m_layout.days[static_cast<std::size_t>(*day)].blockOf(block.row);
-    return found == nullptr ? std::nullopt : std::optional(hitOf(m_layout, *day, *found));
+    const WeekBlock* found = m_layout->days[static_cast<std::size_t>(*day)].blockOf(block.row);
+    return found == nullptr ? std::nullopt : std::optional(hitOf(*m_layout, *day, *found));
 }
 
 QRect WeekView::visualRect(const BlockRef& block) const
@@ -274,7 +286,7 @@ void WeekView::select(const std::optional<BlockRef>& block)
 
 void WeekView::step(BlockStep step)
 {
-    select(stepFrom(m_layout, m_selected, step, m_now));
+    select(stepFrom(*m_layout, m_selected, step, m_now));
     if (m_selected) {
         m_area->reveal(visualRect(*m_selected));
     }
@@ -284,7 +296,7 @@ bool WeekView::activateSelected()
 {
     const std::optional<WeekHit> place = m_selected ? hit(*m_selected) : std::nullopt;
     if (place) {
-        emit activated(*m_layout.days[static_cast<std::size_t>(place->day)].task, m_selected->row);
+        emit activated(*m_layout->days[static_cast<std::size_t>(place->day)].task, m_selected->row);
     }
     return place.has_value();
 }
@@ -301,7 +313,7 @@ bool WeekView::explainSelected()
 void WeekView::showTip(const QPoint& place, const WeekHit& hit)
 {
     QToolTip::showText(viewport()->mapToGlobal(place),
-                       reasonText(*m_schedule, m_layout, hit, locale()), viewport());
+                       reasonText(*m_schedule, *m_layout, hit, locale()), viewport());
 }
 
 void WeekView::mousePressEvent(QMouseEvent* event)
@@ -314,7 +326,7 @@ void WeekView::mousePressEvent(QMouseEvent* event)
         select(std::nullopt);
         return;
     }
-    select(BlockRef{m_layout.days[static_cast<std::size_t>(place.day)].date, place.target()->row});
+    select(BlockRef{m_layout->days[static_cast<std::size_t>(place.day)].date, place.target()->row});
 }
 
 void WeekView::mouseReleaseEvent(QMouseEvent* event)

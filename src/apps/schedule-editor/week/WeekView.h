@@ -34,11 +34,13 @@ public:
 
     /// Shows a schedule; the selected block stays where it has not gone. Never null.
     void setSchedule(std::shared_ptr<const WeekSchedule> schedule);
+    /// The same with a week that has been laid out; one that is not shown is laid out here.
+    void setPicture(const WeekPicture& picture);
     void setColours(const look::ThemeColours& colours);
     /// Takes the texts and the order of days from the language anew.
     void retranslate();
 
-    QDate firstDay() const { return m_layout.first(); }
+    QDate firstDay() const { return m_layout->first(); }
     void showWeekOf(const QDate& day);
     void stepWeeks(int weeks);
     /// Shows the present moment. As long as no other week is asked for, the picture then moves on
@@ -53,7 +55,7 @@ public:
     bool isFit() const { return m_area->isFit(); }
 
     std::optional<BlockRef> selected() const { return m_selected; }
-    const WeekLayout& layoutOfWeek() const { return m_layout; }
+    const WeekLayout& layoutOfWeek() const { return *m_layout; }
     /// Where a block stands in the viewport, from its first piece on; empty when it is not there.
     QRect visualRect(const BlockRef& block) const;
 
@@ -100,7 +102,7 @@ private:
 
     std::shared_ptr<const WeekSchedule> m_schedule;
     look::ThemeColours m_colours;
-    WeekLayout m_layout;
+    std::shared_ptr<const WeekLayout> m_layout;
     WallMoment m_now;
     MinuteTimer m_minutes;
     WeekArea* m_area;

@@ -97,9 +97,9 @@ TRELPROGRAMSCHEDULE_EXPORT std::vector<TaskClockChange>
 nextClockChanges(const std::map<int, PlayTask>& tasks, const std::map<int, ProgramIten>& catalogue,
                  const QTimeZone& zone, const QDate& from, int count);
 
-/// nextClockChanges of a schedule that is edited task by task. What an edit leaves as it was is not
-/// worked out again: the days of the other tasks, the spans of their plans, the changes of the
-/// clock. Not to be used by two threads at a time.
+/// nextClockChanges of a schedule that is edited task by task. An edit does not repeat the work for
+/// other tasks: their days, the spans of their plans and the changes of the clock stay known. Not
+/// to be used by two threads at a time.
 class TRELPROGRAMSCHEDULE_EXPORT ClockChangeSearch
 {
 public:

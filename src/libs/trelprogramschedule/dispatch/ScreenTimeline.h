@@ -45,12 +45,12 @@ public:
     ScreenTimeline(const std::map<int, PlayTask>& tasks,
                    const std::map<int, ProgramIten>& catalogue, const QTimeZone& zone);
     ~ScreenTimeline();
+    ScreenTimeline(ScreenTimeline&&) noexcept;
+    ScreenTimeline& operator=(ScreenTimeline&&) noexcept;
     /// The timeline of other tasks, which have been read with the catalogue of this one, in the
     /// same zone. Shares the tasks and, where all are valid on the same days, what it knows of
     /// days; costs a step for each task besides.
     ScreenTimeline withTasks(const std::map<int, std::shared_ptr<const ScreenTask>>& tasks) const;
-    ScreenTimeline(ScreenTimeline&&) noexcept;
-    ScreenTimeline& operator=(ScreenTimeline&&) noexcept;
 
     /// What is on screen at an instant.
     ScreenState at(Instant moment, const ScreenInsertions& insertions = {}) const;
