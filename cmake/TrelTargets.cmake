@@ -21,6 +21,16 @@ target_compile_definitions(trel_strict INTERFACE
   # The few debug lines name their file, line and function in release builds too.
   QT_MESSAGELOGCONTEXT)
 
+# trel_precompile(<target> <header>...)
+#
+# Parses the given headers of the toolkit once for all sources of a target. Sources go on to include
+# what they need; scripts/lint reads them without.
+function(trel_precompile target)
+  if(TREL_PRECOMPILED_HEADERS)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
 # trel_library(<name> [OBJECTS] SOURCES ... PUBLIC ... PRIVATE ...)
 #
 # A shared library <name> with the alias trel::<name>. With OBJECTS its code stands in the object
@@ -57,24 +67,57 @@ function(trel_application name)
   target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 endfunction()
 
-# trel_test(<Name> SOURCES ... LINK ... [LABELS ...] [ENVIRONMENT ...])
+# trel_test_environment(<Name>)
 #
-# A Qt Test program tst_<Name>, registered in CTest as <Name>, the class or rule that it tests.
-function(trel_test name)
-  cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;LABELS;ENVIRONMENT" ${ARGN})
-  if(NOT ARG_TIMEOUT)
-    # A minute here is many under the sanitizers on a busy machine.
-    set(ARG_TIMEOUT 900)
-  endif()
-  add_executable(tst_${name} ${ARG_SOURCES})
-  target_link_libraries(tst_${name} PRIVATE ${ARG_LINK} Qt5::Test trel_strict)
-  target_include_directories(tst_${name} PRIVATE
-    ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
-  set_target_properties(tst_${name} PROPERTIES
-    RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-  add_test(NAME ${name} COMMAND tst_${name})
+# Where and how long the registered test <Name> runs.
+function(trel_test_environment name)
   set_tests_properties(${name} PROPERTIES
-    TIMEOUT ${ARG_TIMEOUT}
-    LABELS "${ARG_LABELS}"
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=Europe/Berlin;${ARG_ENVIRONMENT}")
+    # A minute here is many under the sanitizers on a busy machine.
+    TIMEOUT 900
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=Europe/Berlin")
+endfunction()
+
+# trel_test_executable(<target> LINK ...)
+function(trel_test_executable target)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  add_executable(${target} ${ARG_SOURCES})
+  target_link_libraries(${target} PRIVATE ${ARG_LINK} Qt5::Test trel_strict)
+  target_include_directories(${target} PRIVATE
+    ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
+  set_target_properties(${target} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+endfunction()
+
+# trel_test(<Name> SOURCES ... LINK ...)
+#
+# A Qt Test program tst_<Name>, registered in CTest as <Name>, the class or rule that it tests. For a
+# class that cannot share a program with others; see trel_tests.
+function(trel_test name)
+  trel_test_executable(tst_${name} ${ARGN})
+  add_test(NAME ${name} COMMAND tst_${name})
+  trel_test_environment(${name})
+endfunction()
+
+# trel_test_program(<program> LINK ... PRECOMPILE ... [SOURCES ...])
+#
+# A program for many classes of tests that link the same. Each runs as a process of its own; see
+# tests/support/TestProgram.h.
+function(trel_test_program program)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRECOMPILE" ${ARGN})
+  trel_test_executable(${program} SOURCES ${ARG_SOURCES} LINK ${ARG_LINK} test_program)
+  trel_precompile(${program} ${ARG_PRECOMPILE} <QtTest>)
+endfunction()
+
+# trel_tests(<program> <name>...)
+#
+# Adds the classes of tests of the folder to a program. Each <name> stands for tst_<name>.cpp, in a
+# room of the folder where it is room/<name>, and is registered in CTest by its last part.
+function(trel_tests program)
+  foreach(path IN LISTS ARGN)
+    cmake_path(GET path PARENT_PATH room)
+    cmake_path(GET path FILENAME name)
+    target_sources(${program} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/${room}/tst_${name}.cpp)
+    add_test(NAME ${name} COMMAND ${program} ${name})
+    trel_test_environment(${name})
+  endforeach()
 endfunction()

@@ -1,9 +1,11 @@
 #include "HostFixture.h"
+#include "support/TestProgram.h"
 
 #include "card/PlanColumns.h"
 
 #include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
 #include <QLayout>
 #include <QPushButton>
@@ -168,5 +170,5 @@ void tst_Accessibility::tabGoesThroughARowAsItIsRead()
     QCOMPARE(reached.mid(0, wanted.size()), wanted);
 }
 
-QTEST_MAIN(tst_Accessibility)
+TREL_TEST(tst_Accessibility, QApplication)
 #include "tst_Accessibility.moc"

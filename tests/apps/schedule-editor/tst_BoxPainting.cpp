@@ -1,5 +1,7 @@
 #include "look/BoxPainting.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
@@ -125,5 +127,5 @@ void tst_BoxPainting::theDotsAreThoseOfAShape()
     QCOMPARE(box, shape);
 }
 
-QTEST_MAIN(tst_BoxPainting)
+TREL_TEST(tst_BoxPainting, QApplication)
 #include "tst_BoxPainting.moc"

@@ -7,6 +7,7 @@
 #include "support/ChooserAnswer.h"
 #include "support/PlatformNotes.h"
 #include "support/SampleSchedule.h"
+#include "support/TestProgram.h"
 #include "tstranslate/Translator.h"
 
 #include <QApplication>
@@ -463,5 +464,5 @@ void tst_Captions::roomsWithoutAWindowAreThoseOfTheWindow()
     }
 }
 
-QTEST_MAIN(tst_Captions)
+TREL_TEST(tst_Captions, QApplication)
 #include "tst_Captions.moc"

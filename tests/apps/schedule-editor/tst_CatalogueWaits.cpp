@@ -2,8 +2,10 @@
 #include "ProgramTableModel.h"
 #include "support/CountingLook.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QItemSelectionModel>
 #include <QSignalSpy>
 #include <QTableView>
@@ -96,5 +98,5 @@ void tst_CatalogueWaits::aLostFileIsFoundLater()
     QVERIFY(isLost(programs - 1));
 }
 
-QTEST_MAIN(tst_CatalogueWaits)
+TREL_TEST(tst_CatalogueWaits, QApplication)
 #include "tst_CatalogueWaits.moc"

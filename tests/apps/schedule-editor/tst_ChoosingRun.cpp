@@ -2,7 +2,9 @@
 #include "ScheduleLines.h"
 #include "support/ChooserAnswer.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QSpinBox>
 
 /// An operator chooses programs for a plan in the editor, from the first click to the file, which
@@ -131,5 +133,5 @@ void tst_ChoosingRun::aPlanFromTheChooserToTheFile()
     QCOMPARE(run.lines(), edited);
 }
 
-QTEST_MAIN(tst_ChoosingRun)
+TREL_TEST(tst_ChoosingRun, QApplication)
 #include "tst_ChoosingRun.moc"

@@ -2,7 +2,9 @@
 #include "clock/ClockChangePanel.h"
 #include "support/PlanRecords.h"
 #include "support/TestClock.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QDockWidget>
 #include <QSignalSpy>
 
@@ -131,5 +133,5 @@ void tst_ClockChangePanel::speaksTheLanguageInUse()
         QStringLiteral("Zeitumstellungen"));
 }
 
-QTEST_MAIN(tst_ClockChangePanel)
+TREL_TEST(tst_ClockChangePanel, QApplication)
 #include "tst_ClockChangePanel.moc"

@@ -1,8 +1,10 @@
 #include "HostFixture.h"
 #include "LookSupport.h"
+#include "support/TestProgram.h"
 
 #include "card/PlanColumns.h"
 
+#include <QApplication>
 #include <QDateEdit>
 #include <QHeaderView>
 #include <QLabel>
@@ -254,5 +256,5 @@ void tst_Contrast::textsOfMenus()
     QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
 
-QTEST_MAIN(tst_Contrast)
+TREL_TEST(tst_Contrast, QApplication)
 #include "tst_Contrast.moc"

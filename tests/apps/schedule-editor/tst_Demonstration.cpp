@@ -1,7 +1,9 @@
 #include "Demonstration.h"
 #include "service/scheduleManage.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/ScheduleHost.h"
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -127,5 +129,5 @@ void tst_Demonstration::aBrokenScheduleIsNamedAndNothingIsTakenIn()
     QVERIFY(scheduleManage::getInstance().getPrograms().empty());
 }
 
-QTEST_GUILESS_MAIN(tst_Demonstration)
+TREL_TEST(tst_Demonstration, QCoreApplication)
 #include "tst_Demonstration.moc"

@@ -4,8 +4,10 @@
 #include "support/ChooserAnswer.h"
 #include "support/PlanRecords.h"
 #include "support/TestClock.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
 
+#include <QApplication>
 #include <QLabel>
 
 using namespace trel::mediadispatch;
@@ -220,5 +222,5 @@ void tst_DispatchRun::thePreviewFillsAScreenAndComesBack()
     QTRY_VERIFY(large() == nullptr);
 }
 
-QTEST_MAIN(tst_DispatchRun)
+TREL_TEST(tst_DispatchRun, QApplication)
 #include "tst_DispatchRun.moc"

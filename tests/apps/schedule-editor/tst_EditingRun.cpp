@@ -2,8 +2,10 @@
 #include "ScheduleLines.h"
 #include "support/PlatformNotes.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 
 /// An operator edits a schedule in the editor, from the first click to the file, which another
 /// process and the editor itself read afterwards.
@@ -200,5 +202,5 @@ void tst_EditingRun::closingKeepsNothing()
     QCOMPARE(run.lines(), stored);
 }
 
-QTEST_MAIN(tst_EditingRun)
+TREL_TEST(tst_EditingRun, QApplication)
 #include "tst_EditingRun.moc"

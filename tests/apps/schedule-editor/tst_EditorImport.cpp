@@ -1,7 +1,9 @@
 #include "HostFixture.h"
 #include "ImportJob.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QProgressDialog>
@@ -194,7 +196,7 @@ void tst_EditorImport::cancellingTakesNothingIn()
     });
 
     QVERIFY(fixture.manager.getPrograms().empty());
-    QVERIFY(fixture.window.statusBar()->currentMessage().contains(QStringLiteral("cancelled")));
+    QVERIFY(fixture.window.statusBar()->currentMessage().contains(QStringLiteral("canceled")));
 }
 
 void tst_EditorImport::aSecondImportWaitsItsTurn()
@@ -247,5 +249,5 @@ void tst_EditorImport::aJobThatGoesWhileItRunsEnds()
     QVERIFY(looked < 160);
 }
 
-QTEST_MAIN(tst_EditorImport)
+TREL_TEST(tst_EditorImport, QApplication)
 #include "tst_EditorImport.moc"

@@ -1,7 +1,9 @@
 #include "HostFixture.h"
 #include "ImportJob.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QLabel>
 #include <QPointer>
@@ -236,5 +238,5 @@ void tst_EditorImportCancel::anImportAfterACancelIsWhole()
              QStringLiteral("Imported: 4 new, 0 updated."));
 }
 
-QTEST_MAIN(tst_EditorImportCancel)
+TREL_TEST(tst_EditorImportCancel, QApplication)
 #include "tst_EditorImportCancel.moc"

@@ -1,5 +1,7 @@
 #include "EditorOptions.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 using Next = EditorOptionsResult::Next;
@@ -95,5 +97,5 @@ void tst_EditorOptions::misuse()
     QVERIFY(result.text.contains(QStringLiteral("--help")));
 }
 
-QTEST_GUILESS_MAIN(tst_EditorOptions)
+TREL_TEST(tst_EditorOptions, QCoreApplication)
 #include "tst_EditorOptions.moc"

@@ -1,8 +1,10 @@
 #include "HostFixture.h"
 #include "support/MediaLibraries.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QDockWidget>
 #include <QProcess>
@@ -157,5 +159,5 @@ void tst_EditorStart::anUnknownZoneIsAnError()
     QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("new.db"))));
 }
 
-QTEST_MAIN(tst_EditorStart)
+TREL_TEST(tst_EditorStart, QApplication)
 #include "tst_EditorStart.moc"

@@ -1,7 +1,9 @@
 #include "HostFixture.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
@@ -232,5 +234,5 @@ void tst_EditorWindow::closingWithoutChangesAsksNothing()
     QVERIFY(fixture.window.isHidden());
 }
 
-QTEST_MAIN(tst_EditorWindow)
+TREL_TEST(tst_EditorWindow, QApplication)
 #include "tst_EditorWindow.moc"

@@ -1,10 +1,12 @@
 #include "HostFixture.h"
 #include "HostPrompts.h"
 #include "LookSupport.h"
+#include "support/TestProgram.h"
 
 #include "card/PlanColumns.h"
 
 #include <QAbstractScrollArea>
+#include <QApplication>
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QLayout>
@@ -290,5 +292,5 @@ void tst_FocusLook::controlsOfAFileDialog()
     QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
 
-QTEST_MAIN(tst_FocusLook)
+TREL_TEST(tst_FocusLook, QApplication)
 #include "tst_FocusLook.moc"

@@ -1,4 +1,5 @@
 #include "FreedMemory.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -47,5 +48,5 @@ void tst_FreedMemory::smallPiecesAreNotLeftLying()
     QCOMPARE(bytesApart(), before);
 }
 
-QTEST_APPLESS_MAIN(tst_FreedMemory)
+TREL_TEST(tst_FreedMemory, trel::tests::NoApplication)
 #include "tst_FreedMemory.moc"

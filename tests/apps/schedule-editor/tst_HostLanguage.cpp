@@ -1,6 +1,7 @@
 #include "HostFixture.h"
 #include "LanguageFont.h"
 #include "ProgramSheduleWidgetTranslateManager.h"
+#include "support/TestProgram.h"
 #include "trelwidgets/Dialog.h"
 #include "tstranslate/Translator.h"
 
@@ -394,5 +395,5 @@ void tst_HostLanguage::aSwitchLeavesNoTextOfTheOldOne()
     QCOMPARE(switched, wanted);
 }
 
-QTEST_MAIN(tst_HostLanguage)
+TREL_TEST(tst_HostLanguage, QApplication)
 #include "tst_HostLanguage.moc"

@@ -1,6 +1,8 @@
 #include "screen/ProgramPicture.h"
 #include "support/PngFile.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QImageWriter>
 #include <QTemporaryDir>
 #include <QtEndian>
@@ -213,5 +215,5 @@ void tst_ImagePicture::imagesInPassesAreRead()
     QCOMPARE(read(file, 300).size(), QSize(300, 100));
 }
 
-QTEST_GUILESS_MAIN(tst_ImagePicture)
+TREL_TEST(tst_ImagePicture, QCoreApplication)
 #include "tst_ImagePicture.moc"

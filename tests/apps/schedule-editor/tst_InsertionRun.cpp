@@ -1,11 +1,14 @@
 #include "CardOnScreen.h"
-#include "ScheduleText.h"
+#include "ProgramSheduleWidgetTranslateManager.h"
 #include "libs/trelprogramschedule/SignalCounts.h"
 #include "libs/trelprogramschedule/dispatch/DispatchFixture.h"
 #include "scheduleControlUI.h"
 #include "support/ChooserAnswer.h"
 #include "support/RefusedConnections.h"
+#include "support/TestProgram.h"
+#include "tstranslate/Translator.h"
 
+#include <QApplication>
 #include <QLayout>
 
 using namespace trel::mediadispatch;
@@ -87,7 +90,10 @@ bool isInReach(const QStringList& menu)
 
 QString refusal()
 {
-    return QStringLiteral("tip: ") + scheduleText("zhCutProgWarnning");
+    return QStringLiteral("tip: ") +
+           tessark::trans::translate(ProgramSheduleWidgetTranslateManager::instance().translator(),
+                                     QStringLiteral("SheduleWidgets"), QStringLiteral("Widget"),
+                                     QStringLiteral("zhCutProgWarnning"));
 }
 
 } // namespace
@@ -260,5 +266,5 @@ void tst_InsertionRun::nothingIsCutInBeforeTheStart()
     QVERIFY(run.dispatch.state().reason == ScreenReason::NothingInEffect);
 }
 
-QTEST_MAIN(tst_InsertionRun)
+TREL_TEST(tst_InsertionRun, QApplication)
 #include "tst_InsertionRun.moc"

@@ -1,12 +1,14 @@
 #include "HostFixture.h"
 #include "clock/ClockChangePanel.h"
 #include "follow/HeldPool.h"
+#include "support/TestProgram.h"
 #include "support/PlanRecords.h"
 #include "support/TestClock.h"
 #include "week/WeekDock.h"
 #include "week/WeekPanel.h"
 #include "week/WeekView.h"
 
+#include <QApplication>
 #include <QSignalSpy>
 
 using namespace trel::mediadispatch;
@@ -197,5 +199,5 @@ void tst_PanelsAtWork::aWindowGoesAtOnce()
     QCoreApplication::processEvents();
 }
 
-QTEST_MAIN(tst_PanelsAtWork)
+TREL_TEST(tst_PanelsAtWork, QApplication)
 #include "tst_PanelsAtWork.moc"

@@ -1,6 +1,8 @@
 #include "screen/PreviewPictures.h"
 #include "screen/ProgramPicture.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -115,5 +117,5 @@ void tst_ProgramPicture::theLastOneAskedForIsRead()
     QVERIFY(!pictures.picture(program("Opening.mp4", ProgramKind::Video), QSize(300, 200)).isKnown);
 }
 
-QTEST_MAIN(tst_ProgramPicture)
+TREL_TEST(tst_ProgramPicture, QApplication)
 #include "tst_ProgramPicture.moc"

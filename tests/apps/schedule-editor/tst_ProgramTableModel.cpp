@@ -1,9 +1,11 @@
 #include "ProgramTableModel.h"
 #include "service/scheduleManage.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -157,5 +159,5 @@ void tst_ProgramTableModel::aPasswordIsNotShown()
     QCOMPARE(scheduleManage::getInstance().getPrograms().at(5).mediaPath, address.toStdString());
 }
 
-QTEST_MAIN(tst_ProgramTableModel)
+TREL_TEST(tst_ProgramTableModel, QApplication)
 #include "tst_ProgramTableModel.moc"

@@ -1,10 +1,12 @@
 #include "HostFixture.h"
 #include "HostPrompts.h"
 #include "LookSupport.h"
+#include "support/TestProgram.h"
 
 #include "card/PlanColumns.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QEnterEvent>
@@ -199,5 +201,5 @@ void tst_PromptContrast::toolTips()
     QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
 
-QTEST_MAIN(tst_PromptContrast)
+TREL_TEST(tst_PromptContrast, QApplication)
 #include "tst_PromptContrast.moc"

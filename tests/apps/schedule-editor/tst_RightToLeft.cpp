@@ -1,10 +1,12 @@
 #include "HostFixture.h"
 #include "LookSupport.h"
+#include "support/TestProgram.h"
 
 #include "ProgramTableModel.h"
 #include "card/PlanColumns.h"
 #include "screen/ElidedText.h"
 
+#include <QApplication>
 #include <QDateEdit>
 #include <QHeaderView>
 #include <QLabel>
@@ -274,5 +276,5 @@ void tst_RightToLeft::theEllipsisStandsWhereTheTextIsCut()
     QCOMPARE(isEmpty(ink.left()), !isAtTheRight);
 }
 
-QTEST_MAIN(tst_RightToLeft)
+TREL_TEST(tst_RightToLeft, QApplication)
 #include "tst_RightToLeft.moc"

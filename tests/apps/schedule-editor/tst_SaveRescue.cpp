@@ -1,8 +1,10 @@
 #include "HostFixture.h"
 #include "SaveRescue.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
@@ -214,5 +216,5 @@ void tst_SaveRescue::theSecondEditorIsRefused()
     QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(3));
 }
 
-QTEST_MAIN(tst_SaveRescue)
+TREL_TEST(tst_SaveRescue, QApplication)
 #include "tst_SaveRescue.moc"

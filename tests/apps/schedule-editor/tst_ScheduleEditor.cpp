@@ -1,3 +1,6 @@
+#include "support/TestProgram.h"
+
+#include <QCoreApplication>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -126,5 +129,5 @@ void tst_ScheduleEditor::helpAndVersionEndWithNothing()
     QCOMPARE(run.err, QString());
 }
 
-QTEST_GUILESS_MAIN(tst_ScheduleEditor)
+TREL_TEST(tst_ScheduleEditor, QCoreApplication)
 #include "tst_ScheduleEditor.moc"

@@ -1,8 +1,10 @@
 #include "HostFixture.h"
 #include "LookSupport.h"
+#include "support/TestProgram.h"
 
 #include "card/PlanColumns.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
@@ -243,5 +245,5 @@ void tst_StyleHooks::aSheetReachesEveryHookOfTheChooser()
     QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
 
-QTEST_MAIN(tst_StyleHooks)
+TREL_TEST(tst_StyleHooks, QApplication)
 #include "tst_StyleHooks.moc"

@@ -1,8 +1,10 @@
 #include "HostFixture.h"
+#include "support/TestProgram.h"
 
 #include "card/PlanColumns.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -148,5 +150,5 @@ void tst_ThemeSwitch::anOpenProgressFollows()
     QCOMPARE(switched, light);
 }
 
-QTEST_MAIN(tst_ThemeSwitch)
+TREL_TEST(tst_ThemeSwitch, QApplication)
 #include "tst_ThemeSwitch.moc"

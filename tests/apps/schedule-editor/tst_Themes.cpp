@@ -4,8 +4,10 @@
 #include "card/PlanColumns.h"
 
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
@@ -395,5 +397,5 @@ void tst_Themes::aRefreshCostsAtMostTwice()
     QVERIFY(themed <= 2 * plain);
 }
 
-QTEST_MAIN(tst_Themes)
+TREL_TEST(tst_Themes, QApplication)
 #include "tst_Themes.moc"

@@ -1,10 +1,12 @@
 #include "HostFixture.h"
 #include "LookSupport.h"
+#include "support/TestProgram.h"
 #include "week/WeekDock.h"
 #include "week/WeekFixture.h"
 #include "week/WeekPanel.h"
 #include "week/WeekStrip.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QPushButton>
 
@@ -226,5 +228,5 @@ void tst_WeekDock::eachPictureHasItsGround()
     QVERIFY(colours.weekBlock != colours.weekFrozen && colours.weekFrozen != colours.weekBlack);
 }
 
-QTEST_MAIN(tst_WeekDock)
+TREL_TEST(tst_WeekDock, QApplication)
 #include "tst_WeekDock.moc"

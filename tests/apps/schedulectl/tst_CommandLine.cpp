@@ -1,4 +1,5 @@
 #include "CommandLine.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -170,5 +171,5 @@ void tst_CommandLine::read()
     QCOMPARE(line(CommandLine::read(arguments, commands())), understood);
 }
 
-QTEST_APPLESS_MAIN(tst_CommandLine)
+TREL_TEST(tst_CommandLine, trel::tests::NoApplication)
 #include "tst_CommandLine.moc"

@@ -1,7 +1,9 @@
 #include "CtlFixture.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QtTest>
 
@@ -164,5 +166,5 @@ void tst_CtlAddresses::jsonKeepsTheAddress()
     QCOMPARE(firstPath(programs.json(), "programs"), kCamera);
 }
 
-QTEST_GUILESS_MAIN(tst_CtlAddresses)
+TREL_TEST(tst_CtlAddresses, QCoreApplication)
 #include "tst_CtlAddresses.moc"

@@ -1,7 +1,9 @@
 #include "CtlFixture.h"
 
 #include "support/MediaFiles.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QJsonArray>
 #include <QSqlDatabase>
@@ -369,5 +371,5 @@ void tst_CtlCatalogue::theScheduleIsNotRead()
                           QStringLiteral("Its entries in 1 plan are invalid now.")}));
 }
 
-QTEST_GUILESS_MAIN(tst_CtlCatalogue)
+TREL_TEST(tst_CtlCatalogue, QCoreApplication)
 #include "tst_CtlCatalogue.moc"

@@ -1,8 +1,10 @@
 #include "CtlFixture.h"
 
 #include "support/SampleSchedule.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QtTest>
 
@@ -244,5 +246,5 @@ void tst_CtlExchange::badFilesChangeNothing()
     QVERIFY(result.err.startsWith(QStringLiteral("schedulectl: folder cannot be read: ")));
 }
 
-QTEST_GUILESS_MAIN(tst_CtlExchange)
+TREL_TEST(tst_CtlExchange, QCoreApplication)
 #include "tst_CtlExchange.moc"

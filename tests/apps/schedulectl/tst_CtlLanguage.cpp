@@ -1,6 +1,8 @@
 #include "CtlFixture.h"
+#include "support/TestProgram.h"
 #include "support/TextKeys.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
@@ -361,5 +363,5 @@ void tst_CtlLanguage::otherFilesAreRefused()
     QCOMPARE(folder.err, QStringLiteral("schedulectl: . is not a language file.\n"));
 }
 
-QTEST_GUILESS_MAIN(tst_CtlLanguage)
+TREL_TEST(tst_CtlLanguage, QCoreApplication)
 #include "tst_CtlLanguage.moc"

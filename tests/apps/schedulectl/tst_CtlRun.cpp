@@ -1,5 +1,7 @@
 #include "CtlFixture.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QProcess>
 #include <QtTest>
@@ -257,5 +259,5 @@ void tst_CtlRun::takesOverAnotherDatabase()
     QCOMPARE(run.process.exitCode(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_CtlRun)
+TREL_TEST(tst_CtlRun, QCoreApplication)
 #include "tst_CtlRun.moc"

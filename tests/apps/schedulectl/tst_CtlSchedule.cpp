@@ -1,5 +1,7 @@
 #include "CtlFixture.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QtTest>
 
@@ -295,5 +297,5 @@ void tst_CtlSchedule::remarksLeaveTheStatusAlone()
              }));
 }
 
-QTEST_GUILESS_MAIN(tst_CtlSchedule)
+TREL_TEST(tst_CtlSchedule, QCoreApplication)
 #include "tst_CtlSchedule.moc"

@@ -1,5 +1,7 @@
 #include "CtlFixture.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QtTest>
 
@@ -437,5 +439,5 @@ void tst_CtlScreen::whySpeaksOfProgramsThatAreLost()
         QStringLiteral("It is not in any plan."));
 }
 
-QTEST_GUILESS_MAIN(tst_CtlScreen)
+TREL_TEST(tst_CtlScreen, QCoreApplication)
 #include "tst_CtlScreen.moc"

@@ -1,5 +1,7 @@
 #include "CtlFixture.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QtTest>
@@ -282,5 +284,5 @@ void tst_CtlUse::needsNoDesktop()
     QVERIFY(!libraries.contains(QStringLiteral("libQt5Widgets")));
 }
 
-QTEST_GUILESS_MAIN(tst_CtlUse)
+TREL_TEST(tst_CtlUse, QCoreApplication)
 #include "tst_CtlUse.moc"

@@ -1,5 +1,7 @@
 #include "CtlFixture.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QtTest>
 
@@ -252,5 +254,5 @@ void tst_CtlWords::theEveningThatComesTwice()
     verifyContains(spans, "2010-11-06 23:20:00 -03:30  23:40:00 -03:30 ");
 }
 
-QTEST_GUILESS_MAIN(tst_CtlWords)
+TREL_TEST(tst_CtlWords, QCoreApplication)
 #include "tst_CtlWords.moc"

@@ -2,7 +2,9 @@
 #include "StoreFixture.h"
 #include "store/ScheduleDatabase.h"
 #include "store/StoreConnection.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
@@ -193,5 +195,5 @@ void tst_CatalogueRemoval::theScheduleIsReadWhenItIsAskedFor()
              StoreProblem::FileMissing);
 }
 
-QTEST_GUILESS_MAIN(tst_CatalogueRemoval)
+TREL_TEST(tst_CatalogueRemoval, QCoreApplication)
 #include "tst_CatalogueRemoval.moc"

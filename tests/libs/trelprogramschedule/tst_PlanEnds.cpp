@@ -5,7 +5,9 @@
 #include "catalogue/ProgramCatalogue.h"
 #include "store/ScheduleDatabase.h"
 #include "support/PlanRecords.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
@@ -302,5 +304,5 @@ void tst_PlanEnds::plansThatKeepTheirEnd()
     QCOMPARE(task.plans[0], plan);
 }
 
-QTEST_GUILESS_MAIN(tst_PlanEnds)
+TREL_TEST(tst_PlanEnds, QCoreApplication)
 #include "tst_PlanEnds.moc"

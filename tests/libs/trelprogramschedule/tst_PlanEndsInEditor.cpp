@@ -3,7 +3,9 @@
 #include "scheduleControlUI.h"
 #include "support/PlanRecords.h"
 #include "support/PlanTaskWidgetInspector.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QTimeEdit>
 #include <QtTest>
 
@@ -120,5 +122,5 @@ void tst_PlanEndsInEditor::anEditThatIsNotSaved()
     QVERIFY(editor.host.hasUnsavedChanges());
 }
 
-QTEST_MAIN(tst_PlanEndsInEditor)
+TREL_TEST(tst_PlanEndsInEditor, QApplication)
 #include "tst_PlanEndsInEditor.moc"

@@ -2,7 +2,9 @@
 #include "StoreFixture.h"
 #include "store/ScheduleDatabase.h"
 #include "store/StoreConnection.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 #include <memory>
@@ -205,7 +207,7 @@ void tst_SaveFailure::secondEditorIsRefused()
 
     const StoreResult reason = failedSave();
     QCOMPARE(reason.problem, StoreProblem::MovedOn);
-    QVERIFY2(reason.message.contains(QLatin1String("saved by another editor")),
+    QVERIFY2(reason.message.contains(QLatin1String("saved by another program")),
              qPrintable(reason.message));
     QVERIFY(tasksInFile(m_store->path) == theirs);
     QVERIFY(m_store->manager.getAllTask() == m_working);
@@ -290,5 +292,5 @@ void tst_SaveFailure::nothingToSaveLeavesTheOtherAlone()
     QVERIFY(other.save({}));
 }
 
-QTEST_GUILESS_MAIN(tst_SaveFailure)
+TREL_TEST(tst_SaveFailure, QCoreApplication)
 #include "tst_SaveFailure.moc"

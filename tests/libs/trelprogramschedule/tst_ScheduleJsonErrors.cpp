@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "json/ScheduleJson.h"
 
 #include <QtTest>
@@ -389,5 +390,5 @@ void tst_ScheduleJsonErrors::keyThatIsNotTheIdIsWrittenAndNamed()
                             "2"));
 }
 
-QTEST_APPLESS_MAIN(tst_ScheduleJsonErrors)
+TREL_TEST(tst_ScheduleJsonErrors, trel::tests::NoApplication)
 #include "tst_ScheduleJsonErrors.moc"

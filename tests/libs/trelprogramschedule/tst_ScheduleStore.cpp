@@ -1,5 +1,7 @@
 #include "StoreFixture.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
@@ -91,5 +93,5 @@ void tst_ScheduleStore::catalogueSurvives()
     QVERIFY(programs.at(2).isNull);
 }
 
-QTEST_GUILESS_MAIN(tst_ScheduleStore)
+TREL_TEST(tst_ScheduleStore, QCoreApplication)
 #include "tst_ScheduleStore.moc"

@@ -2,7 +2,9 @@
 #include "StoreFixture.h"
 #include "store/StoreConnection.h"
 #include "support/FolderSnapshot.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 #include <functional>
@@ -375,5 +377,5 @@ void tst_StoreOpening::aFailedOpenLeavesNoStore()
     QVERIFY(store.manager.getPrograms().empty());
 }
 
-QTEST_GUILESS_MAIN(tst_StoreOpening)
+TREL_TEST(tst_StoreOpening, QCoreApplication)
 #include "tst_StoreOpening.moc"

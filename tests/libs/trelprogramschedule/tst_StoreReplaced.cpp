@@ -2,7 +2,9 @@
 #include "StoreFixture.h"
 #include "store/ScheduleDatabase.h"
 #include "store/StoreConnection.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 #include <cstdio>
@@ -268,5 +270,5 @@ void tst_StoreReplaced::tellsOfACommitOnItsWay()
     QVERIFY(!m_store->host.isBeingWritten());
 }
 
-QTEST_GUILESS_MAIN(tst_StoreReplaced)
+TREL_TEST(tst_StoreReplaced, QCoreApplication)
 #include "tst_StoreReplaced.moc"

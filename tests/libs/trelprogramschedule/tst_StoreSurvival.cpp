@@ -1,6 +1,8 @@
 #include "StoreChild.h"
 #include "StoreFixture.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 #include <random>
@@ -119,5 +121,5 @@ void tst_StoreSurvival::leftOpen()
              QStringList{QStringLiteral("schedule.db")});
 }
 
-QTEST_GUILESS_MAIN(tst_StoreSurvival)
+TREL_TEST(tst_StoreSurvival, QCoreApplication)
 #include "tst_StoreSurvival.moc"

@@ -1,6 +1,8 @@
 #include "StoreFixture.h"
 #include "store/ScheduleDatabase.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -87,5 +89,5 @@ void tst_UnchangedTask::aTaskThatIsPutBackIsNoEdit()
     QVERIFY(store.manager.getTask(1) == task);
 }
 
-QTEST_GUILESS_MAIN(tst_UnchangedTask)
+TREL_TEST(tst_UnchangedTask, QCoreApplication)
 #include "tst_UnchangedTask.moc"

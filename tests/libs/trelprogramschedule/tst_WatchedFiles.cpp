@@ -1,9 +1,11 @@
 #include "ScheduleHost.h"
 #include "SignalCounts.h"
 #include "StoreFixture.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 #include <tuple>
@@ -136,5 +138,5 @@ void tst_WatchedFiles::goesBehindARefresh()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_WatchedFiles)
+TREL_TEST(tst_WatchedFiles, QCoreApplication)
 #include "tst_WatchedFiles.moc"

@@ -1,7 +1,9 @@
 #include "StoreFixture.h"
 #include "support/PlanRecords.h"
 #include "support/TaskRecords.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QSignalSpy>
 
 using namespace trel::mediadispatch;
@@ -180,5 +182,5 @@ void tst_WorkingSetNotice::programsAreSharedUntilTheyChange()
     QVERIFY(store.host.catalogue()->empty());
 }
 
-QTEST_GUILESS_MAIN(tst_WorkingSetNotice)
+TREL_TEST(tst_WorkingSetNotice, QCoreApplication)
 #include "tst_WorkingSetNotice.moc"

@@ -1,6 +1,8 @@
 #include "StoreFixture.h"
 #include "support/TestClock.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
@@ -251,5 +253,5 @@ void tst_scheduleManage::worksWithNoStore()
     host.close();
 }
 
-QTEST_GUILESS_MAIN(tst_scheduleManage)
+TREL_TEST(tst_scheduleManage, QCoreApplication)
 #include "tst_scheduleManage.moc"

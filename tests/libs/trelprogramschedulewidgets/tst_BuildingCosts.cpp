@@ -5,6 +5,7 @@
 #include "WidgetPlaces.h"
 #include "support/RecordingService.h"
 #include "support/TaskRecords.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -241,6 +242,6 @@ void tst_BuildingCosts::noPolishRequestWaitsAfterARefresh()
     }
 }
 
-QTEST_MAIN(tst_BuildingCosts)
+TREL_TEST(tst_BuildingCosts, QApplication)
 
 #include "tst_BuildingCosts.moc"

@@ -2,7 +2,9 @@
 #include "KeptTasks.h"
 #include "support/PlanRecords.h"
 #include "support/PlanTaskWidgetInspector.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QTimeEdit>
 #include <QtTest>
 
@@ -134,6 +136,6 @@ void tst_CatalogueRounds::aCallOfAnotherKindFetchesForItself()
     QCOMPARE(cards.end(4), QStringLiteral("12:01:00 12:01:00"));
 }
 
-QTEST_MAIN(tst_CatalogueRounds)
+TREL_TEST(tst_CatalogueRounds, QApplication)
 
 #include "tst_CatalogueRounds.moc"

@@ -1,7 +1,9 @@
 #include "CheckBoxDelegate.h"
+#include "support/TestProgram.h"
 
 #include "CheckBoxImages.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <QProxyStyle>
@@ -348,5 +350,5 @@ void tst_CheckBoxDelegate::withoutImagesThePressStillWorks()
     QCOMPARE(table.told(), QStringList{QStringLiteral("0 row 0 on")});
 }
 
-QTEST_MAIN(tst_CheckBoxDelegate)
+TREL_TEST(tst_CheckBoxDelegate, QApplication)
 #include "tst_CheckBoxDelegate.moc"

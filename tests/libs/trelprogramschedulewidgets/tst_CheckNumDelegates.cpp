@@ -1,6 +1,8 @@
 #include "LeftCheckNumDelegate.h"
 #include "RightCheckNumDelegate.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <QStandardItemModel>
@@ -163,5 +165,5 @@ void tst_CheckNumDelegates::makesNoEditor()
     QVERIFY(!delegate->createEditor(&view, QStyleOptionViewItem(), model.index(0, 0)));
 }
 
-QTEST_MAIN(tst_CheckNumDelegates)
+TREL_TEST(tst_CheckNumDelegates, QApplication)
 #include "tst_CheckNumDelegates.moc"

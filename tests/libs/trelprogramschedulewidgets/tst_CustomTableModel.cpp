@@ -1,6 +1,8 @@
 #include "CustomTableModel.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QtTest>
 
 using trel::mediadispatch::CustomTableModel;
@@ -85,6 +87,6 @@ void tst_CustomTableModel::belongsToItsParent()
     QCOMPARE(model->parent(), &parent);
 }
 
-QTEST_MAIN(tst_CustomTableModel)
+TREL_TEST(tst_CustomTableModel, QApplication)
 
 #include "tst_CustomTableModel.moc"

@@ -2,7 +2,9 @@
 #include "DialogWidget.h"
 #include "TitleBar.h"
 #include "support/MessageLog.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -407,6 +409,6 @@ void tst_DialogWidget::goesWithoutAStyleSheet()
     QCOMPARE(log.texts(), QStringList());
 }
 
-QTEST_MAIN(tst_DialogWidget)
+TREL_TEST(tst_DialogWidget, QApplication)
 
 #include "tst_DialogWidget.moc"

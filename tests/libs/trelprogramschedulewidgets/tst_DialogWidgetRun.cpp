@@ -2,7 +2,9 @@
 #include "Mouse.h"
 #include "TitleBar.h"
 #include "support/MessageLog.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
@@ -320,6 +322,6 @@ void tst_DialogWidgetRun::saysNoMoreThanTheEndOfARunBrings()
              QStringList({QLatin1String(kEndOfRun), QLatin1String(kEndOfRun)}));
 }
 
-QTEST_MAIN(tst_DialogWidgetRun)
+TREL_TEST(tst_DialogWidgetRun, QApplication)
 
 #include "tst_DialogWidgetRun.moc"

@@ -5,8 +5,10 @@
 #include "support/PlanRecords.h"
 #include "support/PromptAnswer.h"
 #include "support/RecordingService.h"
+#include "support/TestProgram.h"
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QDateEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -355,6 +357,6 @@ void tst_EndsInPrompts::endInAMenu()
     QVERIFY(!QApplication::activePopupWidget());
 }
 
-QTEST_MAIN(tst_EndsInPrompts)
+TREL_TEST(tst_EndsInPrompts, QApplication)
 
 #include "tst_EndsInPrompts.moc"

@@ -9,10 +9,12 @@
 #include "support/PlanTaskWidgetInspector.h"
 #include "support/PromptAnswer.h"
 #include "support/RecordingService.h"
+#include "support/TestProgram.h"
 
 #include "MultiComboBox.h"
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QDateEdit>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -230,5 +232,5 @@ void tst_FieldWheel::editorsOfDelegatesKeepToIt()
     QCOMPARE(edit->time(), QTime(1, 0));
 }
 
-QTEST_MAIN(tst_FieldWheel)
+TREL_TEST(tst_FieldWheel, QApplication)
 #include "tst_FieldWheel.moc"

@@ -1,6 +1,8 @@
 #include "FileSystemWatcher.h"
 #include "support/MessageLog.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileSystemWatcher>
@@ -333,6 +335,6 @@ void tst_FileSystemWatcher::leavesTheWatcherToItsParent()
     m_owner = std::make_unique<QObject>();
 }
 
-QTEST_GUILESS_MAIN(tst_FileSystemWatcher)
+TREL_TEST(tst_FileSystemWatcher, QCoreApplication)
 
 #include "tst_FileSystemWatcher.moc"

@@ -4,6 +4,7 @@
 #include "KeptTasks.h"
 
 #include "support/PlanRecords.h"
+#include "support/TestProgram.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -345,6 +346,6 @@ void tst_FoldedCardMoments::aPointerOfTheHostComesBack()
     QVERIFY(!window.card(1).testAttribute(Qt::WA_SetCursor));
 }
 
-QTEST_MAIN(tst_FoldedCardMoments)
+TREL_TEST(tst_FoldedCardMoments, QApplication)
 
 #include "tst_FoldedCardMoments.moc"

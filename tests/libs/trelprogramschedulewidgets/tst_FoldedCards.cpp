@@ -6,8 +6,10 @@
 #include "ProgramSheduleWidgetTranslateManager.h"
 #include "support/PlanRecords.h"
 #include "support/TestClock.h"
+#include "support/TestProgram.h"
 #include "tstranslate/Translator.h"
 
+#include <QApplication>
 #include <QStandardItem>
 #include <QtTest>
 
@@ -299,6 +301,6 @@ void tst_FoldedCards::lateRowsAreThoseOfOpenCards()
     }
 }
 
-QTEST_MAIN(tst_FoldedCards)
+TREL_TEST(tst_FoldedCards, QApplication)
 
 #include "tst_FoldedCards.moc"

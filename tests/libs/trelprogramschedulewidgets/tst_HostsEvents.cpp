@@ -1,8 +1,10 @@
 #include "CardLines.h"
 #include "KeptTasks.h"
 #include "support/PlanRecords.h"
+#include "support/TestProgram.h"
 #include "toolkit/NewWidgets.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
@@ -219,6 +221,6 @@ void tst_HostsEvents::cardsAreTheSameWithoutShortcuts()
     QVERIFY(pictures.at(0) != pictures.at(1));
 }
 
-QTEST_MAIN(tst_HostsEvents)
+TREL_TEST(tst_HostsEvents, QApplication)
 
 #include "tst_HostsEvents.moc"

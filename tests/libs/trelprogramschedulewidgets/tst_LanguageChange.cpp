@@ -7,8 +7,10 @@
 #include "support/RecordingService.h"
 #include "support/RefusedConnections.h"
 #include "support/TaskRecords.h"
+#include "support/TestProgram.h"
 #include "tstranslate/Translator.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -156,6 +158,6 @@ void tst_LanguageChange::aCardThatIsGoneIsNotAsked()
     QCOMPARE(editor.texts(), english);
 }
 
-QTEST_MAIN(tst_LanguageChange)
+TREL_TEST(tst_LanguageChange, QApplication)
 
 #include "tst_LanguageChange.moc"

@@ -2,7 +2,9 @@
 
 #include "kCustomLineEdit.h"
 #include "support/RecordingService.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -222,5 +224,5 @@ void tst_LineEditDelegate::anotherEditorIsLeftAlone()
     QVERIFY(!model.index(0, kColumn).data(Qt::EditRole).isValid());
 }
 
-QTEST_MAIN(tst_LineEditDelegate)
+TREL_TEST(tst_LineEditDelegate, QApplication)
 #include "tst_LineEditDelegate.moc"

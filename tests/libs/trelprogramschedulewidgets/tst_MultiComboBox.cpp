@@ -3,7 +3,9 @@
 #include "DayBox.h"
 #include "TellingText.h"
 #include "support/MessageLog.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QFontMetrics>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -290,5 +292,5 @@ void tst_MultiComboBox::goingOutOfSightIsNoSelection()
     QCOMPARE(day.told(), QStringList());
 }
 
-QTEST_MAIN(tst_MultiComboBox)
+TREL_TEST(tst_MultiComboBox, QApplication)
 #include "tst_MultiComboBox.moc"

@@ -1,7 +1,9 @@
 #include "MultiComboBox.h"
+#include "support/TestProgram.h"
 
 #include "DayBox.h"
 
+#include <QApplication>
 using namespace trel::mediadispatch;
 
 namespace {
@@ -125,5 +127,5 @@ void tst_MultiComboBoxLabels::aTextFromBeforeTheEntries()
     QCOMPARE(marked, list("false|true|true"));
 }
 
-QTEST_MAIN(tst_MultiComboBoxLabels)
+TREL_TEST(tst_MultiComboBoxLabels, QApplication)
 #include "tst_MultiComboBoxLabels.moc"

@@ -1,7 +1,9 @@
 #include "MultiComboBox.h"
+#include "support/TestProgram.h"
 
 #include "DayBox.h"
 
+#include <QApplication>
 using namespace trel::mediadispatch;
 
 namespace {
@@ -332,5 +334,5 @@ void tst_MultiComboBoxPopup::labelsFitIntoTheList()
     day.box.hidePopup();
 }
 
-QTEST_MAIN(tst_MultiComboBoxPopup)
+TREL_TEST(tst_MultiComboBoxPopup, QApplication)
 #include "tst_MultiComboBoxPopup.moc"

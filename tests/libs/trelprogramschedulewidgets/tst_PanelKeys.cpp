@@ -1,11 +1,13 @@
 #include "KeyboardWindow.h"
 
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
 #include "MultiComboBox.h"
 #include "trelwidgets/ComboBox.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QHash>
 #include <QShortcut>
 #include <QSpinBox>
@@ -169,5 +171,5 @@ void tst_PanelKeys::addTaskDoesNothingWhileTheListLoads()
     m_window->panel().slotCloseProcess();
 }
 
-QTEST_MAIN(tst_PanelKeys)
+TREL_TEST(tst_PanelKeys, QApplication)
 #include "tst_PanelKeys.moc"

@@ -5,7 +5,9 @@
 #include "support/PromptAnswer.h"
 #include "support/TaskRecords.h"
 #include "support/TestClock.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QPointer>
 #include <QPushButton>
@@ -320,6 +322,6 @@ void tst_PlanList::deleteWithoutACardReachesTheService()
     QCOMPARE(counts, QList<QList<QVariant>>({{0}, {0}}));
 }
 
-QTEST_MAIN(tst_PlanList)
+TREL_TEST(tst_PlanList, QApplication)
 
 #include "tst_PlanList.moc"

@@ -3,7 +3,9 @@
 
 #include "support/TaskRecords.h"
 #include "support/TestClock.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
@@ -116,6 +118,6 @@ void tst_PlanListCopy::copyGetsTheOnlyOpenCard()
     QCOMPARE(line(service().addedTasks.at(2)), QStringLiteral("3 2024.03.11-2024.03.11 []"));
 }
 
-QTEST_MAIN(tst_PlanListCopy)
+TREL_TEST(tst_PlanListCopy, QApplication)
 
 #include "tst_PlanListCopy.moc"

@@ -4,6 +4,7 @@
 #include "WidgetPlaces.h"
 #include "support/RecordingService.h"
 #include "support/TaskRecords.h"
+#include "support/TestProgram.h"
 #include "toolkit/NewWidgets.h"
 
 #include <QAbstractEventDispatcher>
@@ -374,6 +375,6 @@ void tst_PlanListCosts::anUnfoldedCardLiesAsOneThatWasNeverFolded()
     QVERIFY(unfolded->findChild<QTableView*>()->isVisible());
 }
 
-QTEST_MAIN(tst_PlanListCosts)
+TREL_TEST(tst_PlanListCosts, QApplication)
 
 #include "tst_PlanListCosts.moc"

@@ -3,7 +3,9 @@
 
 #include "support/TaskRecords.h"
 #include "support/TestClock.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QDateEdit>
 #include <QPointer>
@@ -325,6 +327,6 @@ void tst_PlanListEnds::theListMayEndInsideARefresh()
     QCOMPARE(steps, step);
 }
 
-QTEST_MAIN(tst_PlanListEnds)
+TREL_TEST(tst_PlanListEnds, QApplication)
 
 #include "tst_PlanListEnds.moc"

@@ -4,7 +4,9 @@
 #include "support/RecordingService.h"
 #include "support/TaskRecords.h"
 #include "support/TestClock.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QPushButton>
 #include <QtTest>
@@ -371,6 +373,6 @@ void tst_PlanListRefresh::theEndTellsTheCountAndLeavesTheServiceAlone()
                                          QStringLiteral("count 0"), QStringLiteral("list gone")}));
 }
 
-QTEST_MAIN(tst_PlanListRefresh)
+TREL_TEST(tst_PlanListRefresh, QApplication)
 
 #include "tst_PlanListRefresh.moc"

@@ -4,7 +4,9 @@
 #include "centerWidget.h"
 #include "support/TaskRecords.h"
 #include "support/TestClock.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -236,6 +238,6 @@ void tst_PlanListScrolling::anOldPlaceOutlastsAnAddedCardThatWent()
     QTRY_COMPARE(panel.offset(20), -10);
 }
 
-QTEST_MAIN(tst_PlanListScrolling)
+TREL_TEST(tst_PlanListScrolling, QApplication)
 
 #include "tst_PlanListScrolling.moc"

@@ -1,6 +1,8 @@
 #include "PlanStandardItemModel.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
+#include <QCoreApplication>
 #include <QMimeData>
 #include <QtTest>
 
@@ -165,5 +167,5 @@ void tst_PlanStandardItemModel::flagsOfAnInvalidIndex()
     QCOMPARE(m_model->flags(QModelIndex()), Qt::ItemFlags(Qt::ItemIsEnabled));
 }
 
-QTEST_GUILESS_MAIN(tst_PlanStandardItemModel)
+TREL_TEST(tst_PlanStandardItemModel, QCoreApplication)
 #include "tst_PlanStandardItemModel.moc"

@@ -3,9 +3,11 @@
 #include "kCustomLineEdit.h"
 #include "support/ChooserAnswer.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QTimeEdit>
 
@@ -260,5 +262,5 @@ void tst_PlanTaskWidgetAfterChoosing::theRowBelowADeletedOne()
     QCOMPARE(open.rows.programs(0).text(), QStringLiteral("Film"));
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetAfterChoosing)
+TREL_TEST(tst_PlanTaskWidgetAfterChoosing, QApplication)
 #include "tst_PlanTaskWidgetAfterChoosing.moc"

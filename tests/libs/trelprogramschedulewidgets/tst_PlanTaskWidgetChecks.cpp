@@ -1,7 +1,9 @@
 #include "OpenCard.h"
 
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QDateEdit>
 #include <QTimeEdit>
 #include <QTimer>
@@ -339,5 +341,5 @@ void tst_PlanTaskWidgetChecks::storedTextsAreNotValidated()
     QCOMPARE(storedSpan(), QStringLiteral("12:00:00-9:00"));
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetChecks)
+TREL_TEST(tst_PlanTaskWidgetChecks, QApplication)
 #include "tst_PlanTaskWidgetChecks.moc"

@@ -3,9 +3,11 @@
 #include "ScheduleText.h"
 #include "kCustomLineEdit.h"
 #include "support/ChooserAnswer.h"
+#include "support/TestProgram.h"
 
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTimeEdit>
@@ -329,6 +331,6 @@ void tst_PlanTaskWidgetChooser::theCardMayGoWhileTheChooserIsOpen()
     QCOMPARE(service().count(QStringLiteral("addTask")), 0);
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetChooser)
+TREL_TEST(tst_PlanTaskWidgetChooser, QApplication)
 
 #include "tst_PlanTaskWidgetChooser.moc"

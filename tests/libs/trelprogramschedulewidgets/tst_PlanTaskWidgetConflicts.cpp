@@ -1,9 +1,11 @@
 #include "OpenCard.h"
+#include "support/TestProgram.h"
 
 #include "service/LiteralRules.h"
 
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QTimeEdit>
 
@@ -338,5 +340,5 @@ void tst_PlanTaskWidgetConflicts::agreesWithTheWalkOverAllPairs()
     }
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetConflicts)
+TREL_TEST(tst_PlanTaskWidgetConflicts, QApplication)
 #include "tst_PlanTaskWidgetConflicts.moc"

@@ -4,7 +4,9 @@
 #include "kCustomLineEdit.h"
 #include "support/ChooserAnswer.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QPointer>
 #include <QPushButton>
 #include <QTableView>
@@ -395,5 +397,5 @@ void tst_PlanTaskWidgetCopyDelete::theOperatorCannotDragRows()
     QVERIFY(!open.rows.table().showDropIndicator());
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetCopyDelete)
+TREL_TEST(tst_PlanTaskWidgetCopyDelete, QApplication)
 #include "tst_PlanTaskWidgetCopyDelete.moc"

@@ -1,9 +1,11 @@
 #include "OpenCard.h"
+#include "support/TestProgram.h"
 
 #include "MultiComboBox.h"
 #include "PlanStandardItemModel.h"
 #include "kCustomLineEdit.h"
 
+#include <QApplication>
 #include <QDateEdit>
 #include <QLineEdit>
 #include <QListWidget>
@@ -232,5 +234,5 @@ void tst_PlanTaskWidgetDrops::theTableStaysSetUpForMoves()
     QVERIFY(!table.showDropIndicator());
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetDrops)
+TREL_TEST(tst_PlanTaskWidgetDrops, QApplication)
 #include "tst_PlanTaskWidgetDrops.moc"

@@ -4,9 +4,11 @@
 #include "PlanStandardItemModel.h"
 #include "support/MessageLog.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QTimeEdit>
@@ -328,5 +330,5 @@ void tst_PlanTaskWidgetEditing::removalReachesTheProgramFields()
     QCOMPARE(service().log, QStringList());
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetEditing)
+TREL_TEST(tst_PlanTaskWidgetEditing, QApplication)
 #include "tst_PlanTaskWidgetEditing.moc"

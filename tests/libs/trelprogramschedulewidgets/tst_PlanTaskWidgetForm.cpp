@@ -1,9 +1,11 @@
 #include "OpenCard.h"
+#include "support/TestProgram.h"
 
 #include "LineEditDelegate.h"
 #include "PlanStandardItemModel.h"
 #include "ReadOnlyDelegate.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QDateEdit>
 #include <QHeaderView>
@@ -239,5 +241,5 @@ void tst_PlanTaskWidgetForm::columns()
         open.card.findChildren<LineEditDelegate*>(QString(), Qt::FindDirectChildrenOnly).size(), 1);
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetForm)
+TREL_TEST(tst_PlanTaskWidgetForm, QApplication)
 #include "tst_PlanTaskWidgetForm.moc"

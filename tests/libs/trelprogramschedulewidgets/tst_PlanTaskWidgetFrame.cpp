@@ -3,7 +3,9 @@
 #include "support/MessageLog.h"
 #include "support/MetaMethods.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QDateEdit>
 #include <QLabel>
 #include <QPushButton>
@@ -245,5 +247,5 @@ void tst_PlanTaskWidgetFrame::theTitleButtonsDoNotFold()
     QVERIFY(!open.card.isFolded());
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetFrame)
+TREL_TEST(tst_PlanTaskWidgetFrame, QApplication)
 #include "tst_PlanTaskWidgetFrame.moc"

@@ -5,10 +5,12 @@
 #include "card/PlanRowTexts.h"
 #include "resources/LanguageNames.h"
 #include "support/TestClock.h"
+#include "support/TestProgram.h"
 
 #include "tstranslate/Translator.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QLineEdit>
 #include <QTableView>
 
@@ -178,5 +180,5 @@ void tst_PlanTaskWidgetLanguages::aClickAddsToTheDays()
     QCOMPARE(storedWeeks(), QStringLiteral("2,4,7"));
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetLanguages)
+TREL_TEST(tst_PlanTaskWidgetLanguages, QApplication)
 #include "tst_PlanTaskWidgetLanguages.moc"

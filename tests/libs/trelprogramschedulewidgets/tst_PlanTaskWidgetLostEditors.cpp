@@ -7,10 +7,12 @@
 #include "ScheduleText.h"
 #include "kCustomLineEdit.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
 #include "trelwidgets/ComboBox.h"
 #include "tstranslate/Translator.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
@@ -216,5 +218,5 @@ void tst_PlanTaskWidgetLostEditors::unfoldingWithAnotherDelegate()
     QCOMPARE(rows.startTime(2).text(), QStringLiteral("12:00:00"));
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetLostEditors)
+TREL_TEST(tst_PlanTaskWidgetLostEditors, QApplication)
 #include "tst_PlanTaskWidgetLostEditors.moc"

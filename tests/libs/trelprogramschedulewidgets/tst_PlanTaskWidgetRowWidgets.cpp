@@ -1,4 +1,5 @@
 #include "OpenCard.h"
+#include "support/TestProgram.h"
 
 #include "MultiComboBox.h"
 #include "PlanStandardItemModel.h"
@@ -6,6 +7,7 @@
 
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -177,5 +179,5 @@ void tst_PlanTaskWidgetRowWidgets::theButtonsAreInSight()
     QVERIFY(isInSight(open.rows.deleteButton(0)));
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetRowWidgets)
+TREL_TEST(tst_PlanTaskWidgetRowWidgets, QApplication)
 #include "tst_PlanTaskWidgetRowWidgets.moc"

@@ -1,4 +1,5 @@
 #include "OpenCard.h"
+#include "support/TestProgram.h"
 
 #include "MultiComboBox.h"
 #include "PlanStandardItemModel.h"
@@ -6,6 +7,7 @@
 
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QSpinBox>
 #include <QTimeEdit>
 
@@ -291,5 +293,5 @@ void tst_PlanTaskWidgetRows::aSecondRowOfAPlanKeepsTheFirstInTheBooks()
     QCOMPARE(open.rows.planIdByRow(), (std::map<int, int>{{0, 5}, {1, 5}}));
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetRows)
+TREL_TEST(tst_PlanTaskWidgetRows, QApplication)
 #include "tst_PlanTaskWidgetRows.moc"

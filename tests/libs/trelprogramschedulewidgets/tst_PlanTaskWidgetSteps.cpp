@@ -1,7 +1,9 @@
 #include "OpenCard.h"
 
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QTimeEdit>
 
@@ -92,5 +94,5 @@ void tst_PlanTaskWidgetSteps::copiesAndDeletes()
     }
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetSteps)
+TREL_TEST(tst_PlanTaskWidgetSteps, QApplication)
 #include "tst_PlanTaskWidgetSteps.moc"

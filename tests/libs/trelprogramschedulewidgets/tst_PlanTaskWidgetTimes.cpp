@@ -1,7 +1,9 @@
 #include "OpenCard.h"
+#include "support/TestProgram.h"
 
 #include "PlanStandardItemModel.h"
 
+#include <QApplication>
 #include <QSpinBox>
 #include <QTimeEdit>
 
@@ -181,5 +183,5 @@ void tst_PlanTaskWidgetTimes::otherCellsAreNotRead()
     QCOMPARE(service().log, QStringList());
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetTimes)
+TREL_TEST(tst_PlanTaskWidgetTimes, QApplication)
 #include "tst_PlanTaskWidgetTimes.moc"

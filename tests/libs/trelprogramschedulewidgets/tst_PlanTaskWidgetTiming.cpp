@@ -1,7 +1,9 @@
 #include "OpenCard.h"
+#include "support/TestProgram.h"
 
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QSpinBox>
 #include <QTimeEdit>
 
@@ -216,5 +218,5 @@ void tst_PlanTaskWidgetTiming::addedDuration()
     QCOMPARE(service().log, QStringList());
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetTiming)
+TREL_TEST(tst_PlanTaskWidgetTiming, QApplication)
 #include "tst_PlanTaskWidgetTiming.moc"

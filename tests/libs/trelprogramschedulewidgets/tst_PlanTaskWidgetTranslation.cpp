@@ -1,4 +1,5 @@
 #include "OpenCard.h"
+#include "support/TestProgram.h"
 
 #include "MultiComboBox.h"
 #include "PlanStandardItemModel.h"
@@ -8,6 +9,7 @@
 #include "trelwidgets/ComboBox.h"
 #include "tstranslate/Translator.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -241,5 +243,5 @@ void tst_PlanTaskWidgetTranslation::toolTipsOfTheButtons()
     QCOMPARE(open.rows.copyButton(0).toolTip(), QString());
 }
 
-QTEST_MAIN(tst_PlanTaskWidgetTranslation)
+TREL_TEST(tst_PlanTaskWidgetTranslation, QApplication)
 #include "tst_PlanTaskWidgetTranslation.moc"

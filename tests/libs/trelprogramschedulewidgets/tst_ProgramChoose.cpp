@@ -3,8 +3,10 @@
 #include "ScheduleText.h"
 #include "support/MessageLog.h"
 #include "support/MetaMethods.h"
+#include "support/TestProgram.h"
 #include "trelwidgets/Dialog.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
@@ -226,6 +228,6 @@ void tst_ProgramChoose::nothingIsSaidInTheLog()
     QCOMPARE(log.texts(), QStringList());
 }
 
-QTEST_MAIN(tst_ProgramChoose)
+TREL_TEST(tst_ProgramChoose, QApplication)
 
 #include "tst_ProgramChoose.moc"

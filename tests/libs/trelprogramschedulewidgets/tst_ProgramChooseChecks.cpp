@@ -1,5 +1,7 @@
 #include "ChooserFixture.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
@@ -151,6 +153,6 @@ void tst_ProgramChooseChecks::otherTablesAreIgnored()
     });
 }
 
-QTEST_MAIN(tst_ProgramChooseChecks)
+TREL_TEST(tst_ProgramChooseChecks, QApplication)
 
 #include "tst_ProgramChooseChecks.moc"

@@ -1,4 +1,5 @@
 #include "InUseFixture.h"
+#include "support/TestProgram.h"
 
 #include <QAction>
 #include <QApplication>
@@ -252,6 +253,6 @@ void tst_ProgramChooseCounts::cancellingTakesNothingOver()
     QCOMPARE(fixture.service.count(QStringLiteral("addPlan")), 0);
 }
 
-QTEST_MAIN(tst_ProgramChooseCounts)
+TREL_TEST(tst_ProgramChooseCounts, QApplication)
 
 #include "tst_ProgramChooseCounts.moc"

@@ -1,5 +1,7 @@
 #include "InUseFixture.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QMenu>
 
 using namespace trel::mediadispatch;
@@ -292,6 +294,6 @@ void tst_ProgramChooseInsert::withoutAnActionNothingHappens()
     });
 }
 
-QTEST_MAIN(tst_ProgramChooseInsert)
+TREL_TEST(tst_ProgramChooseInsert, QApplication)
 
 #include "tst_ProgramChooseInsert.moc"

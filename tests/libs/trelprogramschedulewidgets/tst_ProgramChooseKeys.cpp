@@ -1,7 +1,9 @@
 #include "ChooserFixture.h"
+#include "support/TestProgram.h"
 
 #include "trelwidgets/Dialog.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -154,6 +156,6 @@ void tst_ProgramChooseKeys::theFrameDoesNotAcceptByKey()
     });
 }
 
-QTEST_MAIN(tst_ProgramChooseKeys)
+TREL_TEST(tst_ProgramChooseKeys, QApplication)
 
 #include "tst_ProgramChooseKeys.moc"

@@ -2,7 +2,9 @@
 
 #include "support/AllocationCount.h"
 #include "support/StepwiseChecks.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QRandomGenerator>
 #include <QSpinBox>
@@ -326,6 +328,6 @@ void tst_ProgramChooseLarge::checkingEqualsTheStepwiseWay()
     }
 }
 
-QTEST_MAIN(tst_ProgramChooseLarge)
+TREL_TEST(tst_ProgramChooseLarge, QApplication)
 
 #include "tst_ProgramChooseLarge.moc"

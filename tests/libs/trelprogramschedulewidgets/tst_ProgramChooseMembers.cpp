@@ -1,7 +1,9 @@
 #include "ChooserFixture.h"
 
 #include "support/PrivateMember.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QTableView>
 #include <QtTest>
@@ -127,6 +129,6 @@ void tst_ProgramChooseMembers::theLeftTableIsFiltered()
     QCOMPARE(chooser.watched, QList<QObject*>{tables.first()});
 }
 
-QTEST_MAIN(tst_ProgramChooseMembers)
+TREL_TEST(tst_ProgramChooseMembers, QApplication)
 
 #include "tst_ProgramChooseMembers.moc"

@@ -1,5 +1,7 @@
 #include "InUseFixture.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QMenu>
 
 using namespace trel::mediadispatch;
@@ -218,6 +220,6 @@ void tst_ProgramChooseMenu::movingByTheMenu()
     });
 }
 
-QTEST_MAIN(tst_ProgramChooseMenu)
+TREL_TEST(tst_ProgramChooseMenu, QApplication)
 
 #include "tst_ProgramChooseMenu.moc"

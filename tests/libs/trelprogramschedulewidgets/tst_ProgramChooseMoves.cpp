@@ -1,7 +1,9 @@
 #include "ChooserFixture.h"
+#include "support/TestProgram.h"
 
 #include "ScheduleText.h"
 
+#include <QApplication>
 #include <QTableView>
 #include <QtTest>
 
@@ -316,6 +318,6 @@ void tst_ProgramChooseMoves::nothingReachesTheService()
     });
 }
 
-QTEST_MAIN(tst_ProgramChooseMoves)
+TREL_TEST(tst_ProgramChooseMoves, QApplication)
 
 #include "tst_ProgramChooseMoves.moc"

@@ -1,7 +1,9 @@
 #include "ChooserFixture.h"
+#include "support/TestProgram.h"
 
 #include "trelwidgets/Dialog.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QFile>
 #include <QGuiApplication>
@@ -95,6 +97,6 @@ void tst_ProgramChooseOpenings::theProcessDoesNotGrow()
     QVERIFY2(grown < 3000, qPrintable(QString::number(grown)));
 }
 
-QTEST_MAIN(tst_ProgramChooseOpenings)
+TREL_TEST(tst_ProgramChooseOpenings, QApplication)
 
 #include "tst_ProgramChooseOpenings.moc"

@@ -1,8 +1,10 @@
 #include "ChooserFixture.h"
+#include "support/TestProgram.h"
 
 #include "ScheduleText.h"
 #include "trelwidgets/Dialog.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QTableView>
 #include <QtTest>
@@ -379,6 +381,6 @@ void tst_ProgramChooseSaving::slotCancelClosesTheFrame()
     QCOMPARE(outcome.result, 2);
 }
 
-QTEST_MAIN(tst_ProgramChooseSaving)
+TREL_TEST(tst_ProgramChooseSaving, QApplication)
 
 #include "tst_ProgramChooseSaving.moc"

@@ -2,8 +2,10 @@
 
 #include "ScheduleText.h"
 #include "support/MetaMethods.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
@@ -382,6 +384,6 @@ void tst_ProgramChooseTables::looksOfTheTables()
     });
 }
 
-QTEST_MAIN(tst_ProgramChooseTables)
+TREL_TEST(tst_ProgramChooseTables, QApplication)
 
 #include "tst_ProgramChooseTables.moc"

@@ -1,7 +1,9 @@
 #include "ChooserFixture.h"
+#include "support/TestProgram.h"
 
 #include "ScheduleText.h"
 
+#include <QApplication>
 #include <QSpinBox>
 #include <QTableView>
 #include <QtTest>
@@ -229,6 +231,6 @@ void tst_ProgramChooseTotal::theWarningStopsNothing()
     QCOMPARE(fixture.service.count(QStringLiteral("addPlan")), 1);
 }
 
-QTEST_MAIN(tst_ProgramChooseTotal)
+TREL_TEST(tst_ProgramChooseTotal, QApplication)
 
 #include "tst_ProgramChooseTotal.moc"

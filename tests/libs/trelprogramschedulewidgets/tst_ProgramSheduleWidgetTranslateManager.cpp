@@ -1,7 +1,9 @@
 #include "ProgramSheduleWidgetTranslateManager.h"
 #include "ScheduleText.h"
+#include "support/TestProgram.h"
 #include "tstranslate/Translator.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 #include <type_traits>
@@ -42,6 +44,6 @@ void tst_ProgramSheduleWidgetTranslateManager::aKeyThatNoFileHoldsIsShownItself(
     QCOMPARE(scheduleText("zhNoSuchKey"), QStringLiteral("zhNoSuchKey"));
 }
 
-QTEST_GUILESS_MAIN(tst_ProgramSheduleWidgetTranslateManager)
+TREL_TEST(tst_ProgramSheduleWidgetTranslateManager, QCoreApplication)
 
 #include "tst_ProgramSheduleWidgetTranslateManager.moc"

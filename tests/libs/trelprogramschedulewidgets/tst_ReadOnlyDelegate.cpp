@@ -1,5 +1,7 @@
 #include "ReadOnlyDelegate.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QtTest>
@@ -38,5 +40,5 @@ void tst_ReadOnlyDelegate::nothingOpensAnEditor()
     QVERIFY(view.indexWidget(open));
 }
 
-QTEST_MAIN(tst_ReadOnlyDelegate)
+TREL_TEST(tst_ReadOnlyDelegate, QApplication)
 #include "tst_ReadOnlyDelegate.moc"

@@ -1,4 +1,5 @@
 #include "RowWidget.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -128,5 +129,5 @@ void tst_RowWidget::dropsAValue()
     QCOMPARE(withoutRowValue(rows, 9), rows);
 }
 
-QTEST_APPLESS_MAIN(tst_RowWidget)
+TREL_TEST(tst_RowWidget, trel::tests::NoApplication)
 #include "tst_RowWidget.moc"

@@ -1,8 +1,10 @@
 #include "SHeaderView.h"
+#include "support/TestProgram.h"
 
 #include "CheckBoxImages.h"
 #include "ScheduleText.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QProxyStyle>
 #include <QSignalSpy>
@@ -316,6 +318,6 @@ void tst_SHeaderView::separatorsStandBetweenSections()
     QCOMPARE(found, expected);
 }
 
-QTEST_MAIN(tst_SHeaderView)
+TREL_TEST(tst_SHeaderView, QApplication)
 
 #include "tst_SHeaderView.moc"

@@ -1,5 +1,7 @@
 #include "SpinBoxDelegate.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -233,5 +235,5 @@ void tst_SpinBoxDelegate::withoutAModel()
     QCOMPARE(m_model->index(0, kColumn).data(Qt::EditRole), QVariant(1));
 }
 
-QTEST_MAIN(tst_SpinBoxDelegate)
+TREL_TEST(tst_SpinBoxDelegate, QApplication)
 #include "tst_SpinBoxDelegate.moc"

@@ -7,10 +7,12 @@
 #include "support/PlanTaskWidgetInspector.h"
 #include "support/PromptAnswer.h"
 #include "support/RecordingService.h"
+#include "support/TestProgram.h"
 
 #include "MultiComboBox.h"
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QDateEdit>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -272,5 +274,5 @@ void tst_TabOrder::rowsBelowTheEdgeComeIntoSight()
     QCOMPARE(shown.rows.table().verticalScrollBar()->value(), 0);
 }
 
-QTEST_MAIN(tst_TabOrder)
+TREL_TEST(tst_TabOrder, QApplication)
 #include "tst_TabOrder.moc"

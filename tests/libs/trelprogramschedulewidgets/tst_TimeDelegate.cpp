@@ -1,5 +1,7 @@
 #include "TimeDelegate.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 #include <QTableView>
@@ -93,5 +95,5 @@ void tst_TimeDelegate::otherEditorsAreLeftAlone()
     QVERIFY(!model.index(0, 0).data().isValid());
 }
 
-QTEST_MAIN(tst_TimeDelegate)
+TREL_TEST(tst_TimeDelegate, QApplication)
 #include "tst_TimeDelegate.moc"

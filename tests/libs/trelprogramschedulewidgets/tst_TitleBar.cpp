@@ -2,7 +2,9 @@
 #include "Mouse.h"
 #include "TitleBar.h"
 #include "support/MessageLog.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -461,6 +463,6 @@ void tst_TitleBar::isQuiet()
     QCOMPARE(log.texts(), QStringList());
 }
 
-QTEST_MAIN(tst_TitleBar)
+TREL_TEST(tst_TitleBar, QApplication)
 
 #include "tst_TitleBar.moc"

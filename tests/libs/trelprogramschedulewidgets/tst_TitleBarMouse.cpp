@@ -1,7 +1,9 @@
 #include "Mouse.h"
 #include "TitleBar.h"
 #include "support/MessageLog.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -422,6 +424,6 @@ void tst_TitleBarMouse::aBarWithoutAParentStaysInItsPlace()
     QCOMPARE(messages.texts(), QStringList());
 }
 
-QTEST_MAIN(tst_TitleBarMouse)
+TREL_TEST(tst_TitleBarMouse, QApplication)
 
 #include "tst_TitleBarMouse.moc"

@@ -5,7 +5,9 @@
 #include "support/PromptAnswer.h"
 #include "support/TaskRecords.h"
 #include "support/TestClock.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -349,6 +351,6 @@ void tst_centerWidget::goesQuietlyWithItsCards()
     QCOMPARE(service().log, QStringList());
 }
 
-QTEST_MAIN(tst_centerWidget)
+TREL_TEST(tst_centerWidget, QApplication)
 
 #include "tst_centerWidget.moc"

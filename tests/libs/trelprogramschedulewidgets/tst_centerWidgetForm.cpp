@@ -2,7 +2,9 @@
 #include "centerWidget.h"
 #include "support/MetaMethods.h"
 #include "support/RecordingService.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
@@ -196,6 +198,6 @@ void tst_centerWidgetForm::buildingCallsNoService()
     QCOMPARE(RecordingService::instance().log, QStringList());
 }
 
-QTEST_MAIN(tst_centerWidgetForm)
+TREL_TEST(tst_centerWidgetForm, QApplication)
 
 #include "tst_centerWidgetForm.moc"

@@ -1,5 +1,7 @@
 #include "initProcess.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QtTest>
 
@@ -54,6 +56,6 @@ void tst_initProcess::hasNoSignalsOrSlotsOfItsOwn()
     QCOMPARE(initProcess::staticMetaObject.methodCount(), QDialog::staticMetaObject.methodCount());
 }
 
-QTEST_MAIN(tst_initProcess)
+TREL_TEST(tst_initProcess, QApplication)
 
 #include "tst_initProcess.moc"

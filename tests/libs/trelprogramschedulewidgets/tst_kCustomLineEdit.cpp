@@ -2,8 +2,10 @@
 
 #include "TellingText.h"
 #include "support/RecordingService.h"
+#include "support/TestProgram.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QFontMetrics>
 #include <QLayout>
 #include <QPointer>
@@ -317,5 +319,5 @@ void tst_kCustomLineEdit::mayDieInsideItsSignal()
     QVERIFY(!watched);
 }
 
-QTEST_MAIN(tst_kCustomLineEdit)
+TREL_TEST(tst_kCustomLineEdit, QApplication)
 #include "tst_kCustomLineEdit.moc"

@@ -8,8 +8,10 @@
 #include "support/MetaMethods.h"
 #include "support/RecordingService.h"
 #include "support/TaskRecords.h"
+#include "support/TestProgram.h"
 #include "tstranslate/Translator.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -228,6 +230,6 @@ void tst_scheduleControlUI::aMissingFileStillSelectsTheDefaultLanguage()
     QCOMPARE(translator().language(), QStringLiteral("zh_CN"));
 }
 
-QTEST_MAIN(tst_scheduleControlUI)
+TREL_TEST(tst_scheduleControlUI, QApplication)
 
 #include "tst_scheduleControlUI.moc"

@@ -3,7 +3,9 @@
 #include "PlanTaskWidget.h"
 #include "support/RecordingService.h"
 #include "support/TaskRecords.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QtTest>
 
 #include <limits>
@@ -182,6 +184,6 @@ void tst_scheduleControlUIShow::showAgainReadsTheStoredSet()
     QCOMPARE(editor.dialog.findChildren<PlanTaskWidget*>().size(), 1);
 }
 
-QTEST_MAIN(tst_scheduleControlUIShow)
+TREL_TEST(tst_scheduleControlUIShow, QApplication)
 
 #include "tst_scheduleControlUIShow.moc"

@@ -1,5 +1,7 @@
+#include "support/TestProgram.h"
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -37,5 +39,5 @@ void TestComboBox::takesKeys()
     QCOMPARE(box.currentIndex(), 1);
 }
 
-QTEST_MAIN(TestComboBox)
+TREL_TEST(TestComboBox, QApplication)
 #include "tst_ComboBox.moc"

@@ -1,5 +1,7 @@
 #include "DialogParts.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QPointer>
 #include <QScreen>
 #include <QSignalSpy>
@@ -368,5 +370,5 @@ void TestDialog::diesWhileItRuns()
     QVERIFY(dialog.isNull());
 }
 
-QTEST_MAIN(TestDialog)
+TREL_TEST(TestDialog, QApplication)
 #include "tst_Dialog.moc"

@@ -1,5 +1,7 @@
 #include "DialogParts.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -156,5 +158,5 @@ void TestDialogLooks::takesSignsFromAStyleSheet()
             QColor(Qt::green));
 }
 
-QTEST_MAIN(TestDialogLooks)
+TREL_TEST(TestDialogLooks, QApplication)
 #include "tst_DialogLooks.moc"

@@ -1,7 +1,9 @@
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 #include "trelwidgets/Dialog.h"
 #include "trelwidgets/TipDialog.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -338,5 +340,5 @@ void TestTipDialog::showsMarkupAsItStands()
     QCOMPARE(answer.texts(), QStringList{QStringLiteral("<b>1</b> & 2")});
 }
 
-QTEST_MAIN(TestTipDialog)
+TREL_TEST(TestTipDialog, QApplication)
 #include "tst_TipDialog.moc"

@@ -1,10 +1,12 @@
 #include "follow/EditedSchedule.h"
 
 #include "service/scheduleManage.h"
+#include "support/TestProgram.h"
 #include "support/PlanRecords.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 
+#include <QCoreApplication>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -189,5 +191,5 @@ void tst_EditedSchedule::shortIsWhatAFrameHolds()
     QVERIFY(!EditedSchedule().everything().isShort());
 }
 
-QTEST_GUILESS_MAIN(tst_EditedSchedule)
+TREL_TEST(tst_EditedSchedule, QCoreApplication)
 #include "tst_EditedSchedule.moc"

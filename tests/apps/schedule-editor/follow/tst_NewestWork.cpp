@@ -1,7 +1,9 @@
 #include "follow/NewestWork.h"
+#include "support/TestProgram.h"
 
 #include "HeldPool.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QThread>
 #include <QtTest>
@@ -173,5 +175,5 @@ void tst_NewestWork::shortWorkIsDoneAtOnce()
     QCOMPARE(told, QStringList(QStringLiteral("newer")));
 }
 
-QTEST_GUILESS_MAIN(tst_NewestWork)
+TREL_TEST(tst_NewestWork, QCoreApplication)
 #include "tst_NewestWork.moc"

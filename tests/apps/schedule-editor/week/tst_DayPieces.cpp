@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "week/DayPieces.h"
 
 #include <QElapsedTimer>
@@ -183,5 +184,5 @@ void tst_DayPieces::manyClaimsAreQuick()
     QVERIFY(lanes[kSeveralLane].front().count > kMany / 2);
 }
 
-QTEST_APPLESS_MAIN(tst_DayPieces)
+TREL_TEST(tst_DayPieces, trel::tests::NoApplication)
 #include "tst_DayPieces.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "week/WallClock.h"
 
 #include <QDateTime>
@@ -126,5 +127,5 @@ void tst_WallClock::instantsOfSeconds()
     QCOMPARE(clock.instant(0, 12 * 3600), instantOf("2026-10-24T12:00:00", zone));
 }
 
-QTEST_APPLESS_MAIN(tst_WallClock)
+TREL_TEST(tst_WallClock, trel::tests::NoApplication)
 #include "tst_WallClock.moc"

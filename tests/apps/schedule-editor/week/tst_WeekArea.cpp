@@ -1,5 +1,7 @@
 #include "WeekFixture.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -183,5 +185,5 @@ void tst_WeekArea::daysComeIntoSight()
     }
 }
 
-QTEST_MAIN(tst_WeekArea)
+TREL_TEST(tst_WeekArea, QApplication)
 #include "tst_WeekArea.moc"

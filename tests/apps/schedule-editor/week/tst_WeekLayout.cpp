@@ -1,6 +1,7 @@
 #include "week/WeekLayout.h"
 
 #include "support/PlanRecords.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -376,5 +377,5 @@ void tst_WeekLayout::holders()
     QVERIFY(sunday.blockOf(2) == nullptr);
 }
 
-QTEST_APPLESS_MAIN(tst_WeekLayout)
+TREL_TEST(tst_WeekLayout, trel::tests::NoApplication)
 #include "tst_WeekLayout.moc"

@@ -1,7 +1,9 @@
 #include "WeekFixture.h"
+#include "support/TestProgram.h"
 #include "week/BlockPainting.h"
 #include "week/WeekStrip.h"
 
+#include <QApplication>
 using namespace trel::mediadispatch;
 using namespace week;
 using namespace weekfixture;
@@ -122,5 +124,5 @@ void tst_WeekPainting::hoursStandWhereReadingBegins()
     }
 }
 
-QTEST_MAIN(tst_WeekPainting)
+TREL_TEST(tst_WeekPainting, QApplication)
 #include "tst_WeekPainting.moc"

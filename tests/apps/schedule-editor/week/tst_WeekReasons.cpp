@@ -1,8 +1,10 @@
 #include "WeekFixture.h"
+#include "support/TestProgram.h"
 
 #include "week/WeekHit.h"
 #include "week/WeekReasons.h"
 
+#include <QApplication>
 using namespace trel::mediadispatch;
 using namespace week;
 using namespace weekfixture;
@@ -108,5 +110,5 @@ void tst_WeekReasons::theEveningThatComesTwice()
     QVERIFY(reasons(schedule, layout, hit).first().endsWith(QStringLiteral(", 23:30")));
 }
 
-QTEST_MAIN(tst_WeekReasons)
+TREL_TEST(tst_WeekReasons, QApplication)
 #include "tst_WeekReasons.moc"

@@ -1,5 +1,7 @@
 #include "WeekFixture.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QSignalSpy>
 #include <QToolTip>
 
@@ -290,5 +292,5 @@ void tst_WeekView::describesTheSelectedBlock()
              QStringLiteral("Mittwoch, 6. März 2024. Plan 13, 14:00 to 16:00: City news, Weather"));
 }
 
-QTEST_MAIN(tst_WeekView)
+TREL_TEST(tst_WeekView, QApplication)
 #include "tst_WeekView.moc"

@@ -1,4 +1,5 @@
 #include "schedule/ScheduleCheck.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -216,5 +217,5 @@ void tst_ScheduleCheck::emptyScheduleIsClean()
     QVERIFY(check.remarks.empty());
 }
 
-QTEST_APPLESS_MAIN(tst_ScheduleCheck)
+TREL_TEST(tst_ScheduleCheck, trel::tests::NoApplication)
 #include "tst_ScheduleCheck.moc"

@@ -1,4 +1,5 @@
 #include "screen/MomentText.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -258,5 +259,5 @@ void tst_MomentText::zonesOfTheirOwnKind()
     QCOMPARE(line(reading).section(QLatin1Char('|'), 0, 0), moment);
 }
 
-QTEST_APPLESS_MAIN(tst_MomentText)
+TREL_TEST(tst_MomentText, trel::tests::NoApplication)
 #include "tst_MomentText.moc"

@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "text/DisplayText.h"
 #include "text/TextTable.h"
 
@@ -134,5 +135,5 @@ void tst_TextTable::emptyTableHasNoLines()
     QCOMPARE(table.text(), QString());
 }
 
-QTEST_APPLESS_MAIN(tst_TextTable)
+TREL_TEST(tst_TextTable, trel::tests::NoApplication)
 #include "tst_TextTable.moc"

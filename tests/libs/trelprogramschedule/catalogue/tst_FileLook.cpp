@@ -2,7 +2,9 @@
 #include "StoreFixture.h"
 #include "store/ScheduleDatabase.h"
 #include "support/CountingLook.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 #include <memory>
@@ -178,5 +180,5 @@ void tst_FileLook::anotherPathIsAnotherFile()
     QCOMPARE(m_look->takeHere(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_FileLook)
+TREL_TEST(tst_FileLook, QCoreApplication)
 #include "tst_FileLook.moc"

@@ -2,7 +2,9 @@
 #include "StoreFixture.h"
 #include "store/ScheduleDatabase.h"
 #include "store/StoreConnection.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 #include <limits>
@@ -377,5 +379,5 @@ void tst_ProgramCatalogue::twentyThousandPrograms()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_ProgramCatalogue)
+TREL_TEST(tst_ProgramCatalogue, QCoreApplication)
 #include "tst_ProgramCatalogue.moc"

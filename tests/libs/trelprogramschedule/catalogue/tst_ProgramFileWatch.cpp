@@ -1,5 +1,7 @@
 #include "catalogue/ProgramFileWatch.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -298,5 +300,5 @@ void tst_ProgramFileWatch::manyFiles()
     QTRY_COMPARE_WITH_TIMEOUT(count, kCount, 60000);
 }
 
-QTEST_GUILESS_MAIN(tst_ProgramFileWatch)
+TREL_TEST(tst_ProgramFileWatch, QCoreApplication)
 #include "tst_ProgramFileWatch.moc"

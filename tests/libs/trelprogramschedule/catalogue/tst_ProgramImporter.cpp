@@ -1,6 +1,8 @@
 #include "catalogue/ProgramImporter.h"
 #include "support/MediaFiles.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -432,5 +434,5 @@ void tst_ProgramImporter::runsOnOtherThreads()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_ProgramImporter)
+TREL_TEST(tst_ProgramImporter, QCoreApplication)
 #include "tst_ProgramImporter.moc"

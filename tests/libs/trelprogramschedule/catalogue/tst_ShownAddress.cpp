@@ -1,5 +1,7 @@
 #include "catalogue/ShownAddress.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
@@ -72,5 +74,5 @@ void tst_ShownAddress::everythingElseStays()
     QCOMPARE(shownAddress(text), text);
 }
 
-QTEST_GUILESS_MAIN(tst_ShownAddress)
+TREL_TEST(tst_ShownAddress, QCoreApplication)
 #include "tst_ShownAddress.moc"

@@ -4,7 +4,9 @@
 #include "service/TimeText.h"
 #include "support/PlanRecords.h"
 #include "support/TaskRecords.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QtTest>
 
@@ -403,5 +405,5 @@ void tst_ClockChanges::thousandsOfYearsCostNothing()
                           QStringLiteral("7900.10.28 02:00:00-03:00:00 twice, task 1000: ")}));
 }
 
-QTEST_GUILESS_MAIN(tst_ClockChanges)
+TREL_TEST(tst_ClockChanges, QCoreApplication)
 #include "tst_ClockChanges.moc"

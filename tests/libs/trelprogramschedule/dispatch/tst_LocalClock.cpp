@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "trelprogramschedule/dispatch/LocalClock.h"
 
 #include <QtTest>
@@ -89,5 +90,5 @@ void tst_LocalClock::offsetsWithSeconds()
     QCOMPARE(LocalClock::offsetText(-12652), QStringLiteral("-03:30:52"));
 }
 
-QTEST_APPLESS_MAIN(tst_LocalClock)
+TREL_TEST(tst_LocalClock, trel::tests::NoApplication)
 #include "tst_LocalClock.moc"

@@ -1,5 +1,6 @@
 #include "ScheduleWriting.h"
 #include "StateWriting.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/dispatch/PlainScreen.h"
 #include "trelprogramschedule/dispatch/PlaySearch.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
@@ -335,5 +336,5 @@ void tst_PlaySearch::asAWalkFindsIt()
     QVERIFY2(finds > 200, "hardly anything was found");
 }
 
-QTEST_APPLESS_MAIN(tst_PlaySearch)
+TREL_TEST(tst_PlaySearch, trel::tests::NoApplication)
 #include "tst_PlaySearch.moc"

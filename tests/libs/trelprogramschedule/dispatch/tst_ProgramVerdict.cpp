@@ -1,5 +1,6 @@
 #include "ScheduleWriting.h"
 #include "StateWriting.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/dispatch/ProgramVerdict.h"
 
 #include <QtTest>
@@ -352,5 +353,5 @@ void tst_ProgramVerdict::agreesWithTheTimeline()
     QVERIFY2(playing > 500, qPrintable(QString::number(playing)));
 }
 
-QTEST_APPLESS_MAIN(tst_ProgramVerdict)
+TREL_TEST(tst_ProgramVerdict, trel::tests::NoApplication)
 #include "tst_ProgramVerdict.moc"

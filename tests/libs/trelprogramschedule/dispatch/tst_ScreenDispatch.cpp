@@ -1,7 +1,9 @@
 #include "DispatchFixture.h"
+#include "support/TestProgram.h"
 
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
 
+#include <QCoreApplication>
 using namespace trel::mediadispatch;
 
 namespace {
@@ -428,5 +430,5 @@ void tst_ScreenDispatch::mayBeStoppedByTheMachinesClock()
     QTRY_VERIFY(!store.host.dispatch().isRunning());
 }
 
-QTEST_GUILESS_MAIN(tst_ScreenDispatch)
+TREL_TEST(tst_ScreenDispatch, QCoreApplication)
 #include "tst_ScreenDispatch.moc"

@@ -1,6 +1,5 @@
-#include "ScheduleWriting.h"
-#include "StateWriting.h"
-#include "TimelineComparison.h"
+#include "SecondBySecondCase.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -8,40 +7,7 @@ using namespace trel::mediadispatch;
 
 namespace {
 
-/// Hours in which the local time is worth a look, and how many schedules are held against them.
-struct Case
-{
-    const char* name;
-    const char* zone;
-    const char* begin; ///< Before midnight of the first day on which a task may be valid.
-    Drawing drawing;
-    int minutes;
-    int schedules;
-};
-
-#ifdef LONG_WINDOWS
-const Case kCases[] = {
-    {"leap day",
-     "Europe/Berlin",
-     "2028.02.28 23:50:00",
-     {{"2028.02.29", "2028.02.29", "2028.03.01", "2028.02.30", ""}, 0, 23},
-     24 * 60 + 40,
-     150},
-    {"no leap day",
-     "America/New_York",
-     "2100.02.28 00:00:00",
-     {{"2100.02.28", "2100.02.29", "2100.03.01", "2100.03.02"}, 0, 23},
-     24 * 60 + 60,
-     60},
-    {"day of the change",
-     "Europe/Berlin",
-     "2024.10.26 23:59:00",
-     {{"2024.10.27", "2024.10.28", "2024.10.29"}, 0, 23},
-     60 * 60,
-     40},
-};
-#else
-const Case kCases[] = {
+const secondbysecond::Case kCases[] = {
     {"Berlin, hour left out",
      "Europe/Berlin",
      "2024.03.30 23:58:00",
@@ -79,11 +45,10 @@ const Case kCases[] = {
      220,
      360},
 };
-#endif
 
 } // namespace
 
-/// The timeline of random schedules, held against a walk second by second.
+/// The timeline of random schedules in nights in which the clocks change, second by second.
 class tst_ScreenSecondBySecond : public QObject
 {
     Q_OBJECT
@@ -97,7 +62,7 @@ void tst_ScreenSecondBySecond::agreesWithTheWalk_data()
 {
     QTest::addColumn<int>("index");
     int index = 0;
-    for (const Case& window : kCases) {
+    for (const secondbysecond::Case& window : kCases) {
         QTest::newRow(window.name) << index++;
     }
 }
@@ -105,24 +70,9 @@ void tst_ScreenSecondBySecond::agreesWithTheWalk_data()
 void tst_ScreenSecondBySecond::agreesWithTheWalk()
 {
     QFETCH(int, index);
-    const Case& tested = kCases[index];
-    const QTimeZone zone(tested.zone);
-    QVERIFY(zone.isValid());
-    const secondbysecond::Window window = secondbysecond::windowOf(
-        tested.zone, momentFromText(QString::fromLatin1(tested.begin), zone), tested.minutes * 60);
-
-    for (int i = 0; i < tested.schedules; ++i) {
-        const auto seed = static_cast<std::uint32_t>(index * 100'000 + i);
-        const RandomSchedule schedule = randomSchedule(seed, tested.drawing, window);
-        const QString difference = firstDifference(schedule, window, zone);
-        if (!difference.isEmpty()) {
-            QFAIL(qPrintable(QStringLiteral("%1, seed %2: %3\n%4")
-                                 .arg(QLatin1String(tested.name))
-                                 .arg(seed)
-                                 .arg(difference, textOf(schedule, zone))));
-        }
-    }
+    const QString difference = secondbysecond::differenceIn(kCases[index], index);
+    QVERIFY2(difference.isEmpty(), qPrintable(difference));
 }
 
-QTEST_APPLESS_MAIN(tst_ScreenSecondBySecond)
+TREL_TEST(tst_ScreenSecondBySecond, trel::tests::NoApplication)
 #include "tst_ScreenSecondBySecond.moc"

@@ -2,6 +2,7 @@
 #include "StateWriting.h"
 #include "trelprogramschedule/dispatch/PlainScreen.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -133,5 +134,5 @@ void tst_ScreenTask::threadsAskAtTheSameTime()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_ScreenTask)
+TREL_TEST(tst_ScreenTask, trel::tests::NoApplication)
 #include "tst_ScreenTask.moc"

@@ -1,5 +1,6 @@
 #include "ScheduleWriting.h"
 #include "StateWriting.h"
+#include "support/TestProgram.h"
 
 #include "trelprogramschedule/dispatch/PlainScreen.h"
 
@@ -451,5 +452,5 @@ void tst_ScreenTimeline::doesNotWalkOverGaps()
     QVERIFY2(screen.calendar().knownDays() <= 2, "days of other tasks were worked out");
 }
 
-QTEST_APPLESS_MAIN(tst_ScreenTimeline)
+TREL_TEST(tst_ScreenTimeline, trel::tests::NoApplication)
 #include "tst_ScreenTimeline.moc"

@@ -1,6 +1,8 @@
 #include "SignalCounts.h"
 #include "dispatch/DispatchFixture.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 using namespace trel::mediadispatch;
 
 /// What the start button and an insertion do.
@@ -279,5 +281,5 @@ void tst_ScheduleInEffect::closingEndsIt()
     QVERIFY(store.manager.getScheduleState());
 }
 
-QTEST_GUILESS_MAIN(tst_ScheduleInEffect)
+TREL_TEST(tst_ScheduleInEffect, QCoreApplication)
 #include "tst_ScheduleInEffect.moc"

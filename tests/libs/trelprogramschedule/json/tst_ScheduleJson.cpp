@@ -1,3 +1,4 @@
+#include "support/TestProgram.h"
 #include "json/ScheduleJson.h"
 
 #include <QFile>
@@ -449,5 +450,5 @@ void tst_ScheduleJson::fileThatCannotBeWrittenIsNamed()
     QVERIFY(writeScheduleFile(folder.path(), fullSchedule()).contains(folder.path()));
 }
 
-QTEST_APPLESS_MAIN(tst_ScheduleJson)
+TREL_TEST(tst_ScheduleJson, trel::tests::NoApplication)
 #include "tst_ScheduleJson.moc"

@@ -1,5 +1,7 @@
 #include "card/BoolCheckDelegate.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QListView>
 #include <QSignalSpy>
 #include <QStandardItemModel>
@@ -86,5 +88,5 @@ void tst_BoolCheckDelegate::clicksChangeNothing()
     QVERIFY(!model.index(0, 0).data(Qt::CheckStateRole).isValid());
 }
 
-QTEST_MAIN(tst_BoolCheckDelegate)
+TREL_TEST(tst_BoolCheckDelegate, QApplication)
 #include "tst_BoolCheckDelegate.moc"

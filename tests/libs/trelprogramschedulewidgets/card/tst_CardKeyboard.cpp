@@ -2,10 +2,12 @@
 
 #include "support/ChooserAnswer.h"
 #include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
 
 #include "MultiComboBox.h"
 #include "trelwidgets/ComboBox.h"
 
+#include <QApplication>
 #include <QSpinBox>
 #include <QTableView>
 #include <QTimeEdit>
@@ -302,5 +304,5 @@ void tst_CardKeyboard::theMouseTakesACardAwayAndKeysGoOn()
     QCOMPARE(QApplication::focusWidget(), bar(0));
 }
 
-QTEST_MAIN(tst_CardKeyboard)
+TREL_TEST(tst_CardKeyboard, QApplication)
 #include "tst_CardKeyboard.moc"

@@ -1,5 +1,6 @@
 #include "card/PlanLabels.h"
 #include "card/PlanRowTexts.h"
+#include "support/TestProgram.h"
 
 #include "service/ScheduleRecords.h"
 
@@ -105,5 +106,5 @@ void tst_PlanLabels::titles()
              QStringLiteral("   zhPlanTimeStr12:"));
 }
 
-QTEST_APPLESS_MAIN(tst_PlanLabels)
+TREL_TEST(tst_PlanLabels, trel::tests::NoApplication)
 #include "tst_PlanLabels.moc"

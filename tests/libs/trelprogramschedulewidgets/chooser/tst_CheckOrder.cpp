@@ -1,6 +1,7 @@
 #include "chooser/CheckOrder.h"
 
 #include "support/StepwiseChecks.h"
+#include "support/TestProgram.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -219,6 +220,6 @@ void tst_CheckOrder::equalsTheStepwiseWay()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_CheckOrder)
+TREL_TEST(tst_CheckOrder, trel::tests::NoApplication)
 
 #include "tst_CheckOrder.moc"

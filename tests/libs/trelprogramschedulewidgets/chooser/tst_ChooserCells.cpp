@@ -3,8 +3,10 @@
 #include "chooser/ChooserColumns.h"
 #include "chooser/ChooserRows.h"
 #include "support/AllocationCount.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTableView>
@@ -356,6 +358,6 @@ void tst_ChooserCells::anOpenEditorStays()
     QCOMPARE(edited.row(), 0);
 }
 
-QTEST_MAIN(tst_ChooserCells)
+TREL_TEST(tst_ChooserCells, QApplication)
 
 #include "tst_ChooserCells.moc"

@@ -2,7 +2,9 @@
 #include "SHeaderView.h"
 #include "chooser/ChooserColumns.h"
 #include "chooser/ChooserTables.h"
+#include "support/TestProgram.h"
 
+#include <QApplication>
 #include <QTableView>
 #include <QtTest>
 
@@ -93,6 +95,6 @@ void tst_ChooserTables::aModelIsConnectedOnce()
     QCOMPARE(choices.connections, plainConnections(ChoiceVisibleColumnCount));
 }
 
-QTEST_MAIN(tst_ChooserTables)
+TREL_TEST(tst_ChooserTables, QApplication)
 
 #include "tst_ChooserTables.moc"

@@ -2,7 +2,9 @@
 #include "clock/LookingAlarm.h"
 #include "clock/MachineAlarm.h"
 #include "clock/TimerDescriptor.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 #include <limits>
@@ -309,5 +311,5 @@ void tst_MachineAlarm::looksAtTheClockWhereNobodyTells()
     QTRY_COMPARE(rings, 1);
 }
 
-QTEST_GUILESS_MAIN(tst_MachineAlarm)
+TREL_TEST(tst_MachineAlarm, QCoreApplication)
 #include "tst_MachineAlarm.moc"

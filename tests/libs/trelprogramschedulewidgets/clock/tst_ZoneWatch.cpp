@@ -1,5 +1,7 @@
 #include "clock/ZoneWatch.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -147,5 +149,5 @@ void tst_ZoneWatch::mayBeDoneAwayWithWhileItTells()
     QTRY_VERIFY(isTold);
 }
 
-QTEST_GUILESS_MAIN(tst_ZoneWatch)
+TREL_TEST(tst_ZoneWatch, QCoreApplication)
 #include "tst_ZoneWatch.moc"

@@ -1,6 +1,8 @@
 #include "service/DateText.h"
 #include "service/ScheduleRecords.h"
+#include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QTest>
 
 #include <random>
@@ -86,5 +88,5 @@ void tst_DateText::readsRandomTexts()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_DateText)
+TREL_TEST(tst_DateText, QCoreApplication)
 #include "tst_DateText.moc"

@@ -1,4 +1,5 @@
 #include "service/InvalidEntries.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -80,6 +81,6 @@ void tst_InvalidEntries::theLastEntryDecides()
     QVERIFY(!holdsAsInvalid(PlayPlan(), 1));
 }
 
-QTEST_APPLESS_MAIN(tst_InvalidEntries)
+TREL_TEST(tst_InvalidEntries, trel::tests::NoApplication)
 
 #include "tst_InvalidEntries.moc"

@@ -1,6 +1,7 @@
 #include "service/NewPlan.h"
 
 #include "support/PlanRecords.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -128,5 +129,5 @@ void tst_NewPlan::behindTheLargestIdThereIsNone()
     QVERIFY(!followingCopy(before, task));
 }
 
-QTEST_APPLESS_MAIN(tst_NewPlan)
+TREL_TEST(tst_NewPlan, trel::tests::NoApplication)
 #include "tst_NewPlan.moc"

@@ -1,5 +1,6 @@
 #include "LiteralRules.h"
 #include "Pick.h"
+#include "support/TestProgram.h"
 
 #include "service/PlanConflicts.h"
 #include "service/TimeText.h"
@@ -319,5 +320,5 @@ void tst_PlanConflicts::manyClaimsWithoutACollision()
     QVERIFY(collides.back());
 }
 
-QTEST_APPLESS_MAIN(tst_PlanConflicts)
+TREL_TEST(tst_PlanConflicts, trel::tests::NoApplication)
 #include "tst_PlanConflicts.moc"

@@ -1,4 +1,5 @@
 #include "service/PlanFaults.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -100,5 +101,5 @@ void tst_PlanFaults::days()
     QTEST(namesAnyDay(QTest::currentDataTag()), "expected");
 }
 
-QTEST_APPLESS_MAIN(tst_PlanFaults)
+TREL_TEST(tst_PlanFaults, trel::tests::NoApplication)
 #include "tst_PlanFaults.moc"

@@ -1,4 +1,5 @@
 #include "service/PlanInsertion.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -163,6 +164,6 @@ void tst_PlanInsertion::theTestStopsAtTheFirst()
     QVERIFY(!containsNoDuration({}, isSecond));
 }
 
-QTEST_APPLESS_MAIN(tst_PlanInsertion)
+TREL_TEST(tst_PlanInsertion, trel::tests::NoApplication)
 
 #include "tst_PlanInsertion.moc"

@@ -1,5 +1,6 @@
 #include "LiteralRules.h"
 #include "Pick.h"
+#include "support/TestProgram.h"
 
 #include "service/PlanTiming.h"
 
@@ -243,5 +244,5 @@ void tst_PlanTiming::plannedEndFollowsTheLiteralRule()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_PlanTiming)
+TREL_TEST(tst_PlanTiming, trel::tests::NoApplication)
 #include "tst_PlanTiming.moc"

@@ -1,4 +1,5 @@
 #include "service/ProgramOffers.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -48,5 +49,5 @@ void tst_ProgramOffers::aCatalogueThatIsKeptStaysWhole()
     QCOMPARE(catalogue.at(1).progName, std::string("A"));
 }
 
-QTEST_APPLESS_MAIN(tst_ProgramOffers)
+TREL_TEST(tst_ProgramOffers, trel::tests::NoApplication)
 #include "tst_ProgramOffers.moc"

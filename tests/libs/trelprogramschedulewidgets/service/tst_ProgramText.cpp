@@ -1,4 +1,5 @@
 #include "service/ProgramText.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -97,5 +98,5 @@ void tst_ProgramText::textOfAList()
              QStringLiteral(","));
 }
 
-QTEST_APPLESS_MAIN(tst_ProgramText)
+TREL_TEST(tst_ProgramText, trel::tests::NoApplication)
 #include "tst_ProgramText.moc"

@@ -1,4 +1,5 @@
 #include "service/ProgramTotal.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -43,6 +44,6 @@ void tst_ProgramTotal::totals()
     QTEST(exceedsDay(totalMs), "warned");
 }
 
-QTEST_APPLESS_MAIN(tst_ProgramTotal)
+TREL_TEST(tst_ProgramTotal, trel::tests::NoApplication)
 
 #include "tst_ProgramTotal.moc"

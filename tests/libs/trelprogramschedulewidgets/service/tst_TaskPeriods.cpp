@@ -1,4 +1,5 @@
 #include "LiteralRules.h"
+#include "support/TestProgram.h"
 
 #include "service/TaskPeriods.h"
 
@@ -206,5 +207,5 @@ void tst_TaskPeriods::manyPeriodsWithoutAnOverlap()
     QCOMPARE(line(allTaskOverlaps(tasks)), QStringLiteral("1-199999"));
 }
 
-QTEST_APPLESS_MAIN(tst_TaskPeriods)
+TREL_TEST(tst_TaskPeriods, trel::tests::NoApplication)
 #include "tst_TaskPeriods.moc"

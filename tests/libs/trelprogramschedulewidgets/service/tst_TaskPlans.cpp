@@ -1,6 +1,7 @@
 #include "service/TaskPlans.h"
 
 #include "support/PlanRecords.h"
+#include "support/TestProgram.h"
 
 #include <QtTest>
 
@@ -71,5 +72,5 @@ void tst_TaskPlans::removes()
     QCOMPARE(starts(plans), (std::vector<std::string>{"09:00:00", "10:00:00", "11:00:00"}));
 }
 
-QTEST_APPLESS_MAIN(tst_TaskPlans)
+TREL_TEST(tst_TaskPlans, trel::tests::NoApplication)
 #include "tst_TaskPlans.moc"

@@ -1,5 +1,6 @@
 #include "service/ScheduleRecords.h"
 #include "service/TimeText.h"
+#include "support/TestProgram.h"
 
 #include <QTest>
 
@@ -80,5 +81,5 @@ void tst_TimeText::readsRandomTexts()
     }
 }
 
-QTEST_APPLESS_MAIN(tst_TimeText)
+TREL_TEST(tst_TimeText, trel::tests::NoApplication)
 #include "tst_TimeText.moc"

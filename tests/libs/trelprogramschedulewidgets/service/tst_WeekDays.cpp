@@ -1,4 +1,5 @@
 #include "LiteralRules.h"
+#include "support/TestProgram.h"
 
 #include "service/WeekDays.h"
 
@@ -154,5 +155,5 @@ void tst_WeekDays::joins()
     QCOMPARE(joinWeeks({5, 1, 1, -1}), std::string("5,1,1,-1"));
 }
 
-QTEST_APPLESS_MAIN(tst_WeekDays)
+TREL_TEST(tst_WeekDays, trel::tests::NoApplication)
 #include "tst_WeekDays.moc"

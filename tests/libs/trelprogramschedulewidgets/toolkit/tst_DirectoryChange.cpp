@@ -1,5 +1,7 @@
+#include "support/TestProgram.h"
 #include "toolkit/DirectoryChange.h"
 
+#include <QCoreApplication>
 #include <QRandomGenerator>
 #include <QSet>
 #include <QtTest>
@@ -130,6 +132,6 @@ void tst_DirectoryChange::takesLargeDirectories()
     QCOMPARE(sorted(change.added), QStringLiteral("clip-500000.mp4 clip-500001.mp4"));
 }
 
-QTEST_GUILESS_MAIN(tst_DirectoryChange)
+TREL_TEST(tst_DirectoryChange, QCoreApplication)
 
 #include "tst_DirectoryChange.moc"
