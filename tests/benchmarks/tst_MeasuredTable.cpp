@@ -44,6 +44,7 @@ private slots:
     void writesARowACase();
     void meetsATargetThatItReaches();
     void replacesTheTableOfADocument();
+    void tellsOfEachCaseWhereItIsNearestToItsTarget();
     void refusesADocumentWithoutMarkers();
 };
 
@@ -115,23 +116,43 @@ void TestMeasuredTable::replacesTheTableOfADocument()
     const std::string document = "Before\n<!-- table: start -->\nold\n<!-- table: end -->\nAfter\n";
     const std::string once = withTable(document, toMarkdown(kTable, "a machine"));
 
-    const QStringList expected = {QStringLiteral("Before"),
-                                  QStringLiteral("<!-- table: start -->"),
-                                  QString(),
-                                  QStringLiteral("| Case | Size | Ratio | Target | Met |"),
-                                  QStringLiteral("|---|---|---:|---:|---|"),
-                                  QStringLiteral("| Build, against a floor | 10 plans | 1.25 | "
-                                                 "1.15 | no |"),
-                                  QStringLiteral("| Build, against steps | 10 plans | 0.00210 | "
-                                                 "0.02000 | yes |"),
-                                  QString(),
-                                  QStringLiteral("Measured on a machine."),
-                                  QString(),
-                                  QStringLiteral("<!-- table: end -->"),
-                                  QStringLiteral("After"),
-                                  QString()};
+    const QStringList expected = {
+        QStringLiteral("Before"),
+        QStringLiteral("<!-- table: start -->"),
+        QString(),
+        QStringLiteral("| Case | Size | Ratio | Target | Met |"),
+        QStringLiteral("|---|---|---:|---:|---|"),
+        QStringLiteral("| Build, against a floor | 10 plans | 1.25 | "
+                       "1.15 | no |"),
+        QStringLiteral("| Build, against steps | 10 plans | 0.00210 | "
+                       "0.02000 | yes |"),
+        QString(),
+        QStringLiteral("1 of 2 rows meet their target. Measured on a machine."),
+        QString(),
+        QStringLiteral("<!-- table: end -->"),
+        QStringLiteral("After"),
+        QString()};
     QCOMPARE(lines(once), expected);
     QCOMPARE(withTable(once, toMarkdown(kTable, "a machine")), once);
+}
+
+void TestMeasuredTable::tellsOfEachCaseWhereItIsNearestToItsTarget()
+{
+    const MeasuredTable table = {{"Build", "10 plans", 1.0, 2.0},
+                                 {"Destroy", "10 plans", 3.0, 2.0},
+                                 {"Build", "100 plans", 1.8, 2.0},
+                                 {"Destroy", "100 plans", 3.6, 3.0},
+                                 {"Build", "300 plans", 2.0, 4.0}};
+
+    const QStringList expected = {
+        QStringLiteral("| Case | Size | Ratio | Target | Met |"),
+        QStringLiteral("|---|---|---:|---:|---|"),
+        QStringLiteral("| Build | 100 plans | 1.80 | 2.00 | yes |"),
+        QStringLiteral("| Destroy | 10 plans | 3.00 | 2.00 | no |"),
+        QString(),
+        QStringLiteral("3 of 5 rows meet their target. Measured on a machine."),
+        QString()};
+    QCOMPARE(lines(toMarkdown(table, "a machine")), expected);
 }
 
 void TestMeasuredTable::refusesADocumentWithoutMarkers()

@@ -29,8 +29,9 @@ int TestProgram::run(int argc, char** argv)
     const auto found = argc > 1 ? classes().find(argv[1]) : classes().end();
     if (found == classes().end()) {
         std::cerr << "Usage: " << argv[0] << " NAME [OPTION...], with one of these names:\n";
-        for (const auto& known : classes())
+        for (const auto& known : classes()) {
             std::cerr << "  " << known.first << '\n';
+        }
         return 2;
     }
     // The class sees its own options alone.

@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <type_traits>
+
 namespace trel::tests {
 
 /// The classes of tests that stand in one program. One of them runs a process:
@@ -35,8 +37,9 @@ template <typename Application, typename Tests>
 int runTests(int argc, char** argv)
 {
     [[maybe_unused]] Application application(argc, argv);
-    if constexpr (std::is_base_of_v<QCoreApplication, Application>)
+    if constexpr (std::is_base_of_v<QCoreApplication, Application>) {
         QCoreApplication::setAttribute(Qt::AA_Use96Dpi, true);
+    }
     Tests tests;
     return QTest::qExec(&tests, argc, argv);
 }
