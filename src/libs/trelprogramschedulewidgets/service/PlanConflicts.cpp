@@ -9,18 +9,14 @@
 #include <unordered_map>
 
 // The rule is a walk over all pairs of claims, as the tests have it. Here each claim asks only
-// after the earlier ones of its days, and after all of them at once:
-// - All times are sorted, so that a time is a rank and a span two numbers.
-// - Spans are gathered by day. A claim for every day meets all spans, one that names days meets
-// those
-//   of its days and of the claims for every day; the texts of the days are read once each.
-// - Of the spans of a day a binary indexed tree in the order of their starts answers for the first
-// n of
-//   them how late they end. A claim collides with one that starts before its end if the latest of
-//   these ends after its start.
-// - A span that ends before it starts collides with every other of its day, which is one flag.
-// Comparing the pairs of each day is shorter, but grows with the square, and 1,000 plans of one
-// task may take no more than 15 times what 100 take.
+// after the earlier ones of its days, and after all of them at once. All times are sorted, so that
+// a time is a rank and a span two numbers. Spans are gathered by day: a claim for every day meets
+// all spans, one that names days meets those of its days and of the claims for every day. For the
+// spans of a day a binary indexed tree, in the order of their starts, tells how late the first n of
+// them end; a claim collides with one that starts before its end if the latest of these ends after
+// its start. A span that ends before it starts collides with every other of its day, which is one
+// flag. Comparing the pairs of each day is shorter, but grows with the square, and 1,000 plans of
+// one task may take no more than 15 times what 100 take.
 
 namespace trel::mediadispatch {
 
