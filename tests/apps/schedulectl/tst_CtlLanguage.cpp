@@ -145,6 +145,11 @@ void tst_CtlLanguage::aCleanFileEndsWithZero()
     QCOMPARE(result.text(),
              QStringLiteral("eo_EO.ts has all 56 texts, and nothing to put right.\n"));
     QCOMPARE(result.status, 0);
+    const CtlFixture fixture;
+    const QString odd = QStringLiteral("50%2.ts");
+    fixture.writeFile(odd, Translation().source());
+    QCOMPARE(check(fixture, odd).text(),
+             odd + QStringLiteral(" has all 56 texts, and nothing to put right.\n"));
 }
 
 void tst_CtlLanguage::findingsAreListed_data()

@@ -194,6 +194,10 @@ void tst_CtlScreen::misreadMomentsAreMisuse_data()
     QTest::newRow("from") << split("timeline --from soon --to 2024-01-02")
                           << QStringLiteral("\"soon\" is no moment: at character 1 there should be "
                                             "a year from 0001 to 9999.");
+    QTest::newRow("percent signs")
+        << split("now --at %2%3")
+        << QStringLiteral("\"%2%3\" is no moment: at character 1 there should be a year from 0001 "
+                          "to 9999.");
     QTest::newRow("to before from")
         << split("timeline --from 2024-01-02 --to 2024-01-02")
         << QStringLiteral("The moment of \"--to\", 2024-01-02 00:00:00, does not lie behind that "

@@ -94,6 +94,7 @@ private slots:
     void leavesNothingBesideAClosedStore();
     void namesWithAnythingInThem_data();
     void namesWithAnythingInThem();
+    void foldersWithPercentSigns();
     void followsLinks();
     void aFailedOpenLeavesNoStore();
 };
@@ -349,6 +350,15 @@ void tst_StoreOpening::namesWithAnythingInThem()
     ScheduleHost::instance().close();
     damage(path);
     QVERIFY(ScheduleHost::instance().open(path).message.startsWith(path));
+}
+
+void tst_StoreOpening::foldersWithPercentSigns()
+{
+    const QTemporaryDir root;
+    const QString folder = root.filePath(QStringLiteral("50%2 off, %1"));
+    QVERIFY(QDir().mkpath(folder));
+    makeStore(folder + QStringLiteral("/schedule.db"));
+    QCOMPARE(QDir(folder).entryList(QDir::Files), QStringList{QStringLiteral("schedule.db")});
 }
 
 void tst_StoreOpening::followsLinks()

@@ -112,8 +112,9 @@ QString ScreenWords::list(const std::vector<struProgInfo>& programs)
     QStringList names;
     for (const struProgInfo& entry : programs) {
         const QString name = QString::fromStdString(entry.progName);
-        names.append(
-            entry.playCount == 1 ? name : QStringLiteral("%1 ×%2").arg(name).arg(entry.playCount));
+        names.append(entry.playCount == 1
+                         ? name
+                         : QStringLiteral("%1 ×%2").arg(name, QString::number(entry.playCount)));
     }
     return joined(names);
 }

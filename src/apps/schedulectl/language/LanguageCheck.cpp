@@ -121,9 +121,7 @@ private:
         if (known.room > 0 && width > known.room) {
             add(Kind::TooLong, key,
                 QStringLiteral("%1 takes %2 px of %3")
-                    .arg(quoted(shown))
-                    .arg(width)
-                    .arg(known.room));
+                    .arg(quoted(shown), QString::number(width), QString::number(known.room)));
         }
     }
 

@@ -30,8 +30,7 @@ void writeFindings(Console& console, const QString& file, int textCount,
 {
     if (findings.empty()) {
         console.writeLine(QStringLiteral("%1 has all %2 texts, and nothing to put right.")
-                              .arg(printable(file))
-                              .arg(textCount));
+                              .arg(printable(file), QString::number(textCount)));
         return;
     }
     TextTable table({{QStringLiteral("Finding")}, {QStringLiteral("Key")}, {QString()}});

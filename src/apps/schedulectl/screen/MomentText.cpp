@@ -48,9 +48,7 @@ public:
     QString error() const
     {
         return QStringLiteral("%1 is no moment: at character %2 there should be %3.")
-            .arg(quoted(m_text))
-            .arg(m_place + 1)
-            .arg(m_expected);
+            .arg(quoted(m_text), QString::number(m_place + 1), m_expected);
     }
 
 private:

@@ -77,7 +77,7 @@ StoreResult ScheduleDatabase::create() const
 {
     // Made beside its place and moved there whole, so that nobody ever meets half a store.
     const QString draft =
-        QStringLiteral("%1.new-%2").arg(m_file.path()).arg(QCoreApplication::applicationPid());
+        m_file.path() + QStringLiteral(".new-%1").arg(QCoreApplication::applicationPid());
     QFile::remove(draft);
     StoreResult result = attempt([&draft] {
         const StoreConnection connection(draft, StoreConnection::Access::Create);
