@@ -16,9 +16,9 @@ set_target_properties(trelprogramschedulewidgets trelprogramschedule PROPERTIES
   INSTALL_RPATH "$ORIGIN")
 
 install(TARGETS ${libraries} schedule-editor schedulectl EXPORT trelTargets)
-# Beside the library that opens it. Nothing links it; hosts that carry their libraries with them
-# take it from $<TARGET_FILE:trel::trelmedia>.
-install(TARGETS trelmedia EXPORT trelTargets
+# Beside the library that starts it. Hosts that carry their libraries with them take it from
+# $<TARGET_FILE:trel::media-reader>.
+install(TARGETS media-reader EXPORT trelTargets
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/${PROJECT_NAME})
 install(EXPORT trelTargets NAMESPACE trel:: DESTINATION ${package_dir})
 
@@ -73,6 +73,7 @@ install_headers(trelprogramschedule src/libs
   trelprogramschedule/dispatch/ScreenTimeline.h
   trelprogramschedule/dispatch/SoughtPlay.h
   trelprogramschedule/media/MediaPicture.h
+  trelprogramschedule/media/MediaReading.h
   trelprogramschedule/media/PictureRequest.h)
 install_headers(trelprogramschedulewidgets src/libs/trelprogramschedulewidgets
   ProgramSheduleWidgetTranslateManager.h

@@ -1,7 +1,9 @@
 #include "HostFixture.h"
 #include "ImportJob.h"
+#include "support/ChildProcesses.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
+#include "trelprogramschedule/media/MediaReading.h"
 
 #include <QApplication>
 #include <QDir>
@@ -71,6 +73,26 @@ private:
 
 constexpr int kAlways = 1000;
 
+/// Has media read by a program that misbehaves in the manner that it is called by, as long as it
+/// lives.
+class StubbedReader
+{
+public:
+    StubbedReader(const QString& manner, std::chrono::milliseconds deadline)
+    {
+        MediaReading reading;
+        reading.program = m_folder.filePath(manner);
+        reading.deadline = deadline;
+        QFile::link(QStringLiteral(STUB_READER), reading.program);
+        setMediaReading(reading);
+    }
+    ~StubbedReader() { setMediaReading({}); }
+    Q_DISABLE_COPY(StubbedReader)
+
+private:
+    QTemporaryDir m_folder;
+};
+
 } // namespace
 
 /// The search for files that comes before the first of them is imported, and its end by a cancel.
@@ -83,6 +105,8 @@ private slots:
     void cancellingTheSearchTakesNothingIn();
     void cancellingTooLateTakesNothingIn();
     void anImportAfterACancelIsWhole();
+    void aFileWithoutAnEndIsCancelledAtOnce();
+    void aFileWithoutAnEndIsRefusedAndTheImportGoesOn();
 
 private:
     /// A tree with four files in three folders below the first.
@@ -236,6 +260,45 @@ void tst_EditorImportCancel::anImportAfterACancelIsWhole()
     QCOMPARE(fixture.manager.getPrograms().size(), std::size_t(4));
     QCOMPARE(fixture.window.statusBar()->currentMessage(),
              QStringLiteral("Imported: 4 new, 0 updated."));
+}
+
+void tst_EditorImportCancel::aFileWithoutAnEndIsCancelledAtOnce()
+{
+    const StubbedReader stub(QStringLiteral("stuck"), std::chrono::seconds(10));
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    QSignalSpy ended(&fixture.window, &EditorWindow::importEnded);
+    QVERIFY(ended.isValid());
+    fixture.window.importMedia({makeTree(fixture)});
+    QTRY_VERIFY(!childProcesses().isEmpty());
+    QTRY_VERIFY(progressOf(fixture.window)->isVisible());
+    QElapsedTimer time;
+    time.start();
+
+    cancel(fixture.window);
+    QVERIFY(ended.count() == 1 || ended.wait(5000));
+
+    QVERIFY2(time.elapsed() < 200, qPrintable(QString::number(time.elapsed())));
+    QVERIFY(fixture.manager.getPrograms().empty());
+    QTRY_VERIFY(childProcesses().isEmpty());
+}
+
+void tst_EditorImportCancel::aFileWithoutAnEndIsRefusedAndTheImportGoesOn()
+{
+    const StubbedReader stub(QStringLiteral("stuck"), std::chrono::milliseconds(200));
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    PromptAnswer answer(1);
+    QSignalSpy ended(&fixture.window, &EditorWindow::importEnded);
+    QVERIFY(ended.isValid());
+
+    fixture.window.importMedia({makeTree(fixture)});
+    QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 60000);
+
+    QCOMPARE(answer.count(), 1);
+    QCOMPARE(answer.texts().at(0).count(
+                 QStringLiteral(".png: It could not be read within 0.2 seconds.")),
+             4);
 }
 
 TREL_TEST(tst_EditorImportCancel, QApplication)

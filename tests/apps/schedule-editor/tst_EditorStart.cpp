@@ -1,4 +1,5 @@
 #include "HostFixture.h"
+#include "screen/ProgramPicture.h"
 #include "support/MediaLibraries.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
@@ -17,7 +18,7 @@ class tst_EditorStart : public QObject
     Q_OBJECT
 
 private slots:
-    void mediaLibrariesAwaitTheFirstFile();
+    void mediaLibrariesStayOutside();
     void theWindowIsPaintedWhenItsPartsAreInTheirPlaces();
     void aPanelTakenOutMeanwhileIsPaintedToo();
     void theProgramLoadsNoLibraryThatItDoesNotNeed();
@@ -61,7 +62,7 @@ void tst_EditorStart::store(HostFixture& fixture)
     fixture.host.close();
 }
 
-void tst_EditorStart::mediaLibrariesAwaitTheFirstFile()
+void tst_EditorStart::mediaLibrariesStayOutside()
 {
     HostFixture fixture;
     store(fixture);
@@ -77,8 +78,11 @@ void tst_EditorStart::mediaLibrariesAwaitTheFirstFile()
     QVERIFY(ended.isValid());
     fixture.window.importMedia({fixture.folder.filePath(QStringLiteral("media"))});
     QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 60000);
+    const std::atomic<bool> goOn{false};
+    const QString film = fixture.folder.filePath(QStringLiteral("media/Opening.mp4"));
+    QVERIFY(!programPicture(film, ProgramKind::Video, QSize(160, 160), goOn).isNull());
 
-    QVERIFY(hasMediaLibraries());
+    QVERIFY(!hasMediaLibraries());
 }
 
 void tst_EditorStart::theWindowIsPaintedWhenItsPartsAreInTheirPlaces()
@@ -133,7 +137,7 @@ void tst_EditorStart::theProgramLoadsNoLibraryThatItDoesNotNeed()
     QVERIFY(list.open(QIODevice::ReadOnly));
     const QByteArray files = list.readAll();
     QVERIFY(files.contains("libQt5Sql"));
-    for (const char* name : {"libav", "libsw", "trelmedia", "libqsvgicon"}) {
+    for (const char* name : {"libav", "libsw", "media-reader", "libqsvgicon"}) {
         QVERIFY2(!files.contains(name), name);
     }
 }

@@ -28,6 +28,7 @@
 #include <trelprogramschedule/dispatch/ScreenDispatch.h>
 #include <trelprogramschedule/dispatch/ScreenTimeline.h>
 #include <trelprogramschedule/json/ScheduleJson.h>
+#include <trelprogramschedule/media/MediaReading.h>
 #include <trelprogramschedule/media/PictureRequest.h>
 #include <trelwidgets/ComboBox.h>
 #include <trelwidgets/Dialog.h>
@@ -69,12 +70,13 @@ int main()
     const bool areFunctionsThere = areThere(
         &addDuration, &allTaskOverlaps, &buryInvalidEntry, &clockChanges, &collidingClaims,
         &completeNewPlan, &containsNoDuration, &countsRuns, &dateFromText, &dateToText, &digitsAt,
-        &exceedsDay, &firstPicture, &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm,
-        &holdsAsInvalid, &insertedPlan, &insertionScope, &isInvalidReadBack, &joinWeeks,
-        &lastPlanWithId, &listFromRow, &namesAnyDay, &nextClockChanges, &nextPlanId,
-        &offeredPrograms, &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate,
-        &programListText, &programText, &programVerdict, &removeFirstPlanWithId, &runsLessThanOnce,
-        &scanMedia, &scheduleFromJson, &scheduleToJson, &shownAddress, &timeFromText, &timeToText,
-        &totalText, &tessark::trans::translate, &weeksOverlap, &writeScheduleFile);
+        &exceedsDay, &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm, &holdsAsInvalid,
+        &insertedPlan, &insertionScope, &isInvalidReadBack, &joinWeeks, &lastPlanWithId,
+        &listFromRow, &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId, &offeredPrograms,
+        &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate, &programListText,
+        &programText, &programVerdict, &readPicture, &removeFirstPlanWithId, &runsLessThanOnce,
+        &setMediaReading, &scanMedia, &scheduleFromJson, &scheduleToJson, &shownAddress,
+        &timeFromText, &timeToText, &totalText, &tessark::trans::translate, &weeksOverlap,
+        &writeScheduleFile);
     std::cout << (areClassesThere && areFunctionsThere ? "All there\n" : "Something is missing\n");
 }

@@ -2,6 +2,8 @@
 
 #include "screen/ProgramPicture.h"
 
+#include <QMutex>
+#include <QMutexLocker>
 #include <QRunnable>
 
 #include <algorithm>
@@ -12,6 +14,8 @@ using namespace trel::mediadispatch;
 namespace {
 
 constexpr int kMostKilobytes = 64 * 1024;
+/// How long a read is waited for at the end, in milliseconds.
+constexpr int kPatience = 80;
 
 /// Sizes in which pictures are read; the last for every room that is larger.
 constexpr int kSides[] = {480, 960, 1920, 3840};
@@ -45,17 +49,34 @@ private:
 
 } // namespace
 
+/// Who is told of a picture, as long as it is there.
+struct PreviewPictures::Receiver
+{
+    QMutex mutex;
+    PreviewPictures* pictures = nullptr;
+};
+
 PreviewPictures::PreviewPictures(QObject* parent)
     : QObject(parent)
     , m_known(kMostKilobytes)
+    , m_pool(std::make_unique<QThreadPool>())
+    , m_receiver(std::make_shared<Receiver>())
 {
-    m_pool.setMaxThreadCount(1);
+    m_pool->setMaxThreadCount(1);
+    m_receiver->pictures = this;
 }
 
 PreviewPictures::~PreviewPictures()
 {
     cancelRunning();
-    m_pool.waitForDone();
+    {
+        const QMutexLocker lock(&m_receiver->mutex);
+        m_receiver->pictures = nullptr;
+    }
+    if (!m_pool->waitForDone(kPatience)) {
+        // It would wait in its own end as well.
+        static_cast<void>(m_pool.release());
+    }
 }
 
 PreviewPictures::Answer PreviewPictures::picture(const ProgramIten& program, const QSize& room)
@@ -99,14 +120,17 @@ void PreviewPictures::start(const Request& request)
 {
     m_running = request;
     m_isCancelled = std::make_shared<std::atomic<bool>>(false);
-    const auto read = [this, request, isCancelled = m_isCancelled] {
+    const auto read = [receiver = m_receiver, request, isCancelled = m_isCancelled] {
         const QImage image =
             programPicture(request.path, request.kind, request.bound, *isCancelled);
-        // The destructor waits for this thread, so that there is still somebody to be told.
-        QMetaObject::invokeMethod(
-            this, [=] { take(request, image, isCancelled); }, Qt::QueuedConnection);
+        const QMutexLocker lock(&receiver->mutex);
+        if (PreviewPictures* pictures = receiver->pictures) {
+            QMetaObject::invokeMethod(
+                pictures, [=] { pictures->take(request, image, isCancelled); },
+                Qt::QueuedConnection);
+        }
     };
-    m_pool.start(new Task<decltype(read)>(read));
+    m_pool->start(new Task<decltype(read)>(read));
 }
 
 void PreviewPictures::take(const Request& request, const QImage& image, const Flag& isCancelled)

@@ -19,7 +19,7 @@ class PreviewPictures : public QObject
 
 public:
     explicit PreviewPictures(QObject* parent = nullptr);
-    /// Waits for a read to end, which it is asked to at once.
+    /// Ends a read at once. One that is held up by a disk that does not answer is left to itself.
     ~PreviewPictures() override;
 
     /// What is known of a program's picture.
@@ -48,6 +48,7 @@ private:
         QSize bound;
     };
     using Flag = std::shared_ptr<std::atomic<bool>>;
+    struct Receiver;
 
     void start(const Request& request);
     void take(const Request& request, const QImage& image, const Flag& isCancelled);
@@ -57,5 +58,6 @@ private:
     std::optional<Request> m_running;
     std::optional<Request> m_next;
     Flag m_isCancelled;
-    QThreadPool m_pool;
+    std::unique_ptr<QThreadPool> m_pool;
+    std::shared_ptr<Receiver> m_receiver;
 };

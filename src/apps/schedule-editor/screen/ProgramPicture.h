@@ -12,7 +12,6 @@ bool hasPicture(trel::mediadispatch::ProgramKind kind);
 
 /// What a program looks like, scaled down to fit into the bound: an image upright, as the camera's
 /// mark in it says, or the first picture of a film. A null image when there is none that can be
-/// read. Images are read in the wanted size where their format allows it; one that would have to be
-/// read in full and is larger than anyone's memory is not. For any thread but that of the windows.
+/// read, or soon after `isCancelled` is set. For any thread but that of the windows.
 QImage programPicture(const QString& path, trel::mediadispatch::ProgramKind kind,
                       const QSize& bound, const std::atomic<bool>& isCancelled);

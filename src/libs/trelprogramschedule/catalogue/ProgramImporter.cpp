@@ -1,16 +1,19 @@
 #include "ProgramImporter.h"
 
 #include "ShownAddress.h"
-#include "media/MediaModule.h"
+#include "media/MediaReaderClient.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QSet>
+#include <QTextCodec>
 #include <QUrl>
 
 #include <algorithm>
-#include <optional>
+#include <memory>
+
+#include <dirent.h>
 
 namespace trel::mediadispatch {
 
@@ -61,6 +64,30 @@ QString schemeOf(const QString& path)
     return end < 0 ? QString() : path.left(end).toLower();
 }
 
+QString foreignNameReason()
+{
+    return QStringLiteral("Its name is not UTF-8; it can be imported under another one.");
+}
+
+bool isUtf8(const QByteArray& name)
+{
+    QTextCodec::ConverterState state;
+    QTextCodec::codecForName("UTF-8")->toUnicode(name.constData(), name.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+/// A name that is not UTF-8, with its foreign bytes written out, such as "caf\xe9.wav".
+QString withEscapes(const QByteArray& name)
+{
+    QString shown;
+    for (const char letter : name) {
+        const auto byte = static_cast<unsigned char>(letter);
+        shown += byte < 0x80 ? QString(QLatin1Char(letter))
+                             : QStringLiteral("\\x%1").arg(int(byte), 2, 16, QLatin1Char('0'));
+    }
+    return shown;
+}
+
 /// Collects the files of folders, in the order of their names, until it is told to end.
 class Walk
 {
@@ -73,6 +100,7 @@ public:
 
     bool isEnded() const { return m_isEnded; }
     std::vector<Candidate> takeFiles() { return std::move(m_files); }
+    std::vector<ImportRefusal> takeRefusals() { return std::move(m_refusals); }
 
 private:
     struct Entry
@@ -88,10 +116,12 @@ private:
     bool findFile(const QString& path);
     void addFolder(const QString& path);
     std::vector<Entry> entries(const QString& path);
+    void refuseForeignNames(const QString& path);
 
     const ImportSearch& m_search;
     bool m_isEnded = false;
     std::vector<Candidate> m_files;
+    std::vector<ImportRefusal> m_refusals;
     QSet<QString> m_found;   ///< Files, those included that do not stand in the list yet.
     QSet<QString> m_folders; ///< Folders that were gone through, behind any links.
 };
@@ -128,6 +158,7 @@ void Walk::addFolder(const QString& path)
         return; // A link may lead back up.
     }
     m_folders.insert(canonical);
+    refuseForeignNames(path);
     for (const Entry& entry : entries(path)) {
         if (m_isEnded) {
             return;
@@ -160,19 +191,19 @@ std::vector<Walk::Entry> Walk::entries(const QString& path)
     return list;
 }
 
-/// Why a file cannot be read, before its content is looked at; empty when it can.
-QString obstacle(const QFileInfo& info)
+/// The toolkit passes over names that are not UTF-8 without a word.
+void Walk::refuseForeignNames(const QString& path)
 {
-    if (!info.exists()) {
-        return QStringLiteral("There is no such file.");
+    const std::unique_ptr<DIR, int (*)(DIR*)> folder(::opendir(QFile::encodeName(path).constData()),
+                                                     &::closedir);
+    const dirent* entry = folder ? ::readdir(folder.get()) : nullptr;
+    for (; entry != nullptr; entry = ::readdir(folder.get())) {
+        const QByteArray name(entry->d_name);
+        if (!name.startsWith('.') && !isUtf8(name)) {
+            m_refusals.push_back(
+                {path + QLatin1Char('/') + withEscapes(name), foreignNameReason()});
+        }
     }
-    if (!info.isFile()) {
-        return QStringLiteral("It is not a file.");
-    }
-    if (!info.isReadable()) {
-        return QStringLiteral("You do not have permission to read it.");
-    }
-    return info.size() == 0 ? QStringLiteral("It is empty.") : QString();
 }
 
 void scanAddress(const QString& address, ImportScan& scan)
@@ -199,40 +230,28 @@ QString shownName(const QFileInfo& info)
     return name.isEmpty() ? info.fileName() : name;
 }
 
-/// The module for media files, opened with the first file of a scan and asked for once in it: where
-/// it cannot be opened, trying again for each of many files would only take its time.
-class Probe
-{
-public:
-    MediaFacts facts(const QString& path, bool isNamedAsMedia)
-    {
-        if (!m_opened) {
-            m_opened = MediaModule::instance().open();
-        }
-        return m_opened->reader == nullptr ? MediaFacts{ProgramKind::Other, 0.0, m_opened->problem}
-                                           : m_opened->reader->facts(path, isNamedAsMedia);
-    }
-
-private:
-    std::optional<MediaModule::Opened> m_opened;
-};
-
-void scanFile(const Candidate& candidate, Probe& probe, ImportScan& scan)
+/// Looks at one file. False when that was cancelled, and nothing came of it.
+bool scanFile(const Candidate& candidate, MediaReaderClient& reader,
+              const ImportCancelled& isCancelled, ImportScan& scan)
 {
     const QFileInfo info(candidate.path);
     const bool isMediaByName = isNamedAsMedia(candidate.path);
-    QString reason = obstacle(info);
-    if (reason.isEmpty()) {
-        const MediaFacts facts = probe.facts(candidate.path, isMediaByName);
-        if (facts.reason.isEmpty()) {
+    // A name that was handed over as text has lost its foreign bytes by now.
+    if (candidate.path.contains(QChar(QChar::ReplacementCharacter)) && !info.exists()) {
+        scan.refusals.push_back({candidate.path, foreignNameReason()});
+        return true;
+    }
+    const MediaFacts facts = reader.facts(candidate.path, isMediaByName, isCancelled);
+    if (facts.reason.isEmpty()) {
+        if (facts.kind != ProgramKind::Other) {
             scan.sources.push_back({shownName(info), candidate.path, facts.durationMs, facts.kind});
-            return;
         }
-        reason = facts.reason;
+        return facts.kind != ProgramKind::Other;
     }
     if (candidate.isNamed || isMediaByName) {
-        scan.refusals.push_back({candidate.path, reason});
+        scan.refusals.push_back({candidate.path, facts.reason});
     }
+    return true;
 }
 
 /// A path as given, without a scheme for files and absolute.
@@ -262,7 +281,7 @@ void addTo(Walk& walk, const QStringList& paths)
 } // namespace
 
 ImportScan scanMedia(const QStringList& paths, const ImportProgress& progress,
-                     const ImportSearch& search)
+                     const ImportSearch& search, const ImportCancelled& isCancelled)
 {
     ImportScan scan;
     Walk walk(search);
@@ -272,7 +291,8 @@ ImportScan scanMedia(const QStringList& paths, const ImportProgress& progress,
         return scan;
     }
     const std::vector<Candidate> found = walk.takeFiles();
-    Probe probe;
+    scan.refusals = walk.takeRefusals();
+    MediaReaderClient reader(MediaReaderClient::Purpose::Facts, mediaReading());
     int done = 0;
     for (const Candidate& candidate : found) {
         if (progress && !progress(done, static_cast<int>(found.size()), candidate.path)) {
@@ -281,8 +301,9 @@ ImportScan scanMedia(const QStringList& paths, const ImportProgress& progress,
         }
         if (isAddress(candidate.path)) {
             scanAddress(candidate.path, scan);
-        } else {
-            scanFile(candidate, probe, scan);
+        } else if (!scanFile(candidate, reader, isCancelled, scan)) {
+            scan.cancelled = true;
+            return scan;
         }
         ++done;
     }

@@ -44,13 +44,21 @@ using ImportProgress = std::function<bool(int done, int total, const QString& pa
 /// folder, with the number of files found so far; returning false ends the scan.
 using ImportSearch = std::function<bool(int found)>;
 
+/// Asked many times a second while a file is read; true ends the scan in the middle of it.
+using ImportCancelled = std::function<bool()>;
+
 /// Looks at files, folders with everything below them, and addresses of live sources, and reads
 /// the lengths of media files. Files in folders that are no media are passed over; a file named
 /// itself that is none is a refusal. Touches no store and may run on any thread.
 ///
 /// All files are found before the first is read. A scan that is ended meanwhile has found nothing.
+///
+/// Files are read by a program of its own, as mediaReading() says, so that whatever a file holds
+/// costs no more than that file, which is refused. A name that is not UTF-8, which no program could
+/// be found by later, is a refusal as well, wherever it is found.
 TRELPROGRAMSCHEDULE_EXPORT ImportScan scanMedia(const QStringList& paths,
                                                 const ImportProgress& progress = {},
-                                                const ImportSearch& search = {});
+                                                const ImportSearch& search = {},
+                                                const ImportCancelled& isCancelled = {});
 
 } // namespace trel::mediadispatch

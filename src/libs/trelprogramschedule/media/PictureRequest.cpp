@@ -1,15 +1,18 @@
 #include "media/PictureRequest.h"
 
-#include "media/MediaModule.h"
+#include "media/MediaReaderClient.h"
 
 namespace trel::mediadispatch {
 
-MediaPicture firstPicture(const QString& path, const QSize& bound,
-                          const std::atomic<bool>& isCancelled)
+MediaPicture readPicture(const QString& path, ProgramKind kind, const QSize& bound,
+                         const std::atomic<bool>& isCancelled)
 {
-    const MediaModule::Opened opened = MediaModule::instance().open();
-    return opened.reader == nullptr ? MediaPicture()
-                                    : opened.reader->firstPicture(path, bound, isCancelled);
+    if (isCancelled || (kind != ProgramKind::Image && kind != ProgramKind::Video)) {
+        return {};
+    }
+    // A program of its own for each, as pictures are wanted one by one and far between.
+    MediaReaderClient client(MediaReaderClient::Purpose::Pictures, mediaReading());
+    return client.picture(path, kind, bound, [&isCancelled] { return isCancelled.load(); });
 }
 
 } // namespace trel::mediadispatch

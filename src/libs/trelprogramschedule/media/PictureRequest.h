@@ -1,5 +1,6 @@
 #pragma once
 
+#include "service/ScheduleRecords.h"
 #include "trelprogramschedule/media/MediaPicture.h"
 #include "trelprogramschedule_export.h"
 
@@ -9,11 +10,14 @@ class QString;
 
 namespace trel::mediadispatch {
 
-/// The first picture of a film, in its own shape, scaled down so that it fits into the bound once
-/// it has been turned upright. None when the file holds none that can be read, when the module for
-/// media files cannot be opened, or as soon as `isCancelled` is set. Takes as long as the disk and
-/// the decoder do; for any thread but that of the windows.
-TRELPROGRAMSCHEDULE_EXPORT MediaPicture firstPicture(const QString& path, const QSize& bound,
-                                                     const std::atomic<bool>& isCancelled);
+/// What an image or a film looks like: the image upright, as the camera's mark in it says, or the
+/// first picture of the film, in its own shape, scaled down so that it fits into the bound. Nothing
+/// that a file names beside itself is read. None when there is nothing that can be read, when it
+/// takes longer than mediaReading() allows, when the program that reads media cannot be started,
+/// or, within a few hundredths of a second, once `isCancelled` is set. For any thread but that of
+/// the windows.
+TRELPROGRAMSCHEDULE_EXPORT MediaPicture readPicture(const QString& path, ProgramKind kind,
+                                                    const QSize& bound,
+                                                    const std::atomic<bool>& isCancelled);
 
 } // namespace trel::mediadispatch

@@ -239,13 +239,13 @@ void tst_ProgramImporter::refusedFiles_data()
                              << QStringLiteral("There is no such file.");
     QTest::newRow("empty") << QStringLiteral("empty.wav") << QStringLiteral("It is empty.");
     QTest::newRow("text") << QStringLiteral("text.txt")
-                          << QStringLiteral("It holds neither picture nor sound.");
+                          << QStringLiteral("It is not a media file, or it is damaged.");
     QTest::newRow("text as film") << QStringLiteral("text.mp4")
                                   << QStringLiteral("It is not a media file, or it is damaged.");
     QTest::newRow("cut short") << QStringLiteral("cut.mov")
                                << QStringLiteral("It is not a media file, or it is damaged.");
-    QTest::newRow("text as picture")
-        << QStringLiteral("text.png") << QStringLiteral("The picture in it cannot be read.");
+    QTest::newRow("text as picture") << QStringLiteral("text.png")
+                                     << QStringLiteral("It is not a media file, or it is damaged.");
     QTest::newRow("text as sound") << QStringLiteral("text.mp3") << QString();
     QTest::newRow("no length") << QStringLiteral("silent.wav")
                                << QStringLiteral("Its length cannot be read.");

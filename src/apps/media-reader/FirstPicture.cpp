@@ -1,16 +1,15 @@
 #include "FirstPicture.h"
 
-#include "MediaHandles.h"
+#include "MediaInput.h"
 
-#include <QFile>
+#include <QTransform>
 
+#include <algorithm>
 #include <cmath>
 
 extern "C" {
 #include <libavutil/display.h>
 }
-
-using namespace trel::mediadispatch;
 
 namespace {
 
@@ -18,33 +17,6 @@ namespace {
 constexpr int kMostPackets = 4096;
 /// Dots of a picture that is decoded; memory goes by it.
 constexpr std::int64_t kMostDots = 128 * 1024 * 1024;
-
-int interrupts(void* isCancelled)
-{
-    return static_cast<const std::atomic<bool>*>(isCancelled)->load() ? 1 : 0;
-}
-
-OwnedMedia<AVFormatContext> openInput(const QString& path, const std::atomic<bool>& isCancelled)
-{
-    AVFormatContext* context = avformat_alloc_context();
-    if (context == nullptr) {
-        return {};
-    }
-    context->interrupt_callback = {&interrupts, const_cast<std::atomic<bool>*>(&isCancelled)};
-    AVDictionary* options = nullptr;
-    av_dict_set(&options, "protocol_whitelist", "file", 0);
-    av_dict_set(&options, "pattern_type", "none", 0);
-    // Without the prefix a colon in the name would start a protocol.
-    const QByteArray address = "file:" + QFile::encodeName(path);
-    // On failure the context is freed, and the pointer to it cleared.
-    const int outcome = avformat_open_input(&context, address.constData(), nullptr, &options);
-    av_dict_free(&options);
-    OwnedMedia<AVFormatContext> input(outcome < 0 ? nullptr : context);
-    if (input && avformat_find_stream_info(input.get(), nullptr) < 0) {
-        input.reset();
-    }
-    return input;
-}
 
 OwnedMedia<AVCodecContext> openDecoder(const AVStream& stream, const AVCodec* codec)
 {
@@ -63,7 +35,7 @@ OwnedMedia<AVCodecContext> openDecoder(const AVStream& stream, const AVCodec* co
 
 /// Feeds the decoder until it gives a picture.
 OwnedMedia<AVFrame> decodeFirst(AVFormatContext& input, const AVStream& stream,
-                                AVCodecContext& decoder, const std::atomic<bool>& isCancelled)
+                                AVCodecContext& decoder)
 {
     OwnedMedia<AVFrame> frame(av_frame_alloc());
     const OwnedMedia<AVPacket> packet(av_packet_alloc());
@@ -71,7 +43,7 @@ OwnedMedia<AVFrame> decodeFirst(AVFormatContext& input, const AVStream& stream,
         return {};
     }
     bool isAtEnd = false;
-    for (int packets = 0; packets < kMostPackets && !isCancelled && !isAtEnd; ++packets) {
+    for (int packets = 0; packets < kMostPackets && !isAtEnd; ++packets) {
         isAtEnd = av_read_frame(&input, packet.get()) < 0;
         if (isAtEnd) {
             avcodec_send_packet(&decoder, nullptr);
@@ -126,53 +98,49 @@ void setColours(SwsContext& scaler, const AVFrame& frame)
                              kUnchanged, kUnchanged);
 }
 
-MediaPicture pictureOf(const AVFrame& frame, const QSize& size)
+QImage imageOf(const AVFrame& frame, const QSize& size)
 {
     const OwnedMedia<SwsContext> scaler(sws_getContext(
         frame.width, frame.height, static_cast<AVPixelFormat>(frame.format), size.width(),
         size.height(), AV_PIX_FMT_RGB32, SWS_AREA, nullptr, nullptr, nullptr));
-    if (!scaler) {
+    QImage image(size, QImage::Format_ARGB32);
+    if (!scaler || image.isNull()) {
         return {};
     }
     setColours(*scaler, frame);
-    MediaPicture picture;
-    picture.size = size;
-    picture.dots.resize(static_cast<std::size_t>(size.width()) *
-                        static_cast<std::size_t>(size.height()));
-    std::uint8_t* const lines[] = {reinterpret_cast<std::uint8_t*>(picture.dots.data())};
-    const int strides[] = {size.width() * static_cast<int>(sizeof(quint32))};
+    std::uint8_t* const lines[] = {image.bits()};
+    const int strides[] = {image.bytesPerLine()};
     const int height =
         sws_scale(scaler.get(), frame.data, frame.linesize, 0, frame.height, lines, strides);
-    return height == size.height() ? picture : MediaPicture();
+    return height == size.height() ? image : QImage();
 }
 
 } // namespace
 
-MediaPicture readFirstPicture(const QString& path, const QSize& bound,
-                              const std::atomic<bool>& isCancelled)
+QImage firstPicture(const InputFile& file, const NameHint& hint, const QSize& bound)
 {
-    const OwnedMedia<AVFormatContext> input = openInput(path, isCancelled);
-    if (!input) {
+    const MediaInput input(file, hint, MediaInput::Look::Usual);
+    if (input.verdict() != trel::mediadispatch::wire::Verdict::Taken) {
         return {};
     }
+    AVFormatContext& context = input.context();
     const AVCodec* codec = nullptr;
-    const int index = av_find_best_stream(input.get(), AVMEDIA_TYPE_VIDEO, -1, -1, &codec, 0);
+    const int index = av_find_best_stream(&context, AVMEDIA_TYPE_VIDEO, -1, -1, &codec, 0);
     if (index < 0) {
         return {};
     }
-    AVStream& stream = *input->streams[index];
+    AVStream& stream = *context.streams[index];
     const OwnedMedia<AVCodecContext> decoder = openDecoder(stream, codec);
     if (!decoder) {
         return {};
     }
-    const OwnedMedia<AVFrame> frame = decodeFirst(*input, stream, *decoder, isCancelled);
+    const OwnedMedia<AVFrame> frame = decodeFirst(context, stream, *decoder);
     if (!frame || frame->width <= 0 || frame->height <= 0) {
         return {};
     }
     const double turn = turnOf(stream);
     const bool isLying = std::lround(std::abs(turn) / 90.0) % 2 == 1;
     const QSize room = isLying ? bound.transposed() : bound;
-    MediaPicture picture = pictureOf(*frame, scaledInto(shownSize(*input, stream, *frame), room));
-    picture.turn = turn;
-    return picture;
+    const QImage image = imageOf(*frame, scaledInto(shownSize(context, stream, *frame), room));
+    return turn == 0.0 ? image : image.transformed(QTransform().rotate(turn));
 }

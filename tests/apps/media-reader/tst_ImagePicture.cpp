@@ -1,4 +1,6 @@
-#include "screen/ProgramPicture.h"
+#include "ImagePicture.h"
+#include "InputFile.h"
+#include "MediaInput.h"
 #include "support/PngFile.h"
 #include "support/TestProgram.h"
 
@@ -8,9 +10,8 @@
 #include <QtEndian>
 #include <QtTest>
 
+#include <fcntl.h>
 #include <sys/resource.h>
-
-using namespace trel::mediadispatch;
 
 /// Images as cameras and scanners make them: turned, mirrored, and larger than any screen.
 class tst_ImagePicture : public QObject
@@ -28,9 +29,10 @@ private slots:
 
 private:
     QString path(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
-    QImage read(const QString& file, int side) const
+    static QImage read(const QString& file, int side)
     {
-        return programPicture(file, ProgramKind::Image, QSize(side, side), m_goOn);
+        const InputFile input(::open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC));
+        return imagePicture(input, NameHint(), QSize(side, side));
     }
     /// The photograph of the corners, with what a camera says of its position.
     QString photograph(quint16 orientation) const;
@@ -38,7 +40,6 @@ private:
     QString hugeJpeg(bool isProgressive) const;
 
     QTemporaryDir m_folder;
-    std::atomic<bool> m_goOn{false};
 };
 
 namespace {

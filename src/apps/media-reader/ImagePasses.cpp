@@ -1,4 +1,4 @@
-#include "screen/ImagePasses.h"
+#include "ImagePasses.h"
 
 #include <QIODevice>
 #include <QtEndian>

@@ -1,0 +1,14 @@
+#pragma once
+
+/// Which formats are read. The libraries know hundreds, among them lists that name other files and
+/// addresses, devices, and relics of old games that nobody tries hard to break; what is not named
+/// here is not opened.
+namespace formats {
+
+/// Whether a format of the library for containers is one of them, by its name there.
+bool isAccepted(const char* name);
+/// Whether one of them is that of an image. Animated images run round and round, and so have no
+/// length of their own either.
+bool isImage(const char* name);
+
+} // namespace formats

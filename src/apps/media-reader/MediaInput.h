@@ -1,0 +1,49 @@
+#pragma once
+
+#include "MediaHandles.h"
+#include "trelprogramschedule/media/MediaProtocol.h"
+
+#include <cstdint>
+
+class InputFile;
+
+/// What the name of a file says for it.
+struct NameHint
+{
+    /// Content that is hard to tell from noise is taken for what the suffix says.
+    bool isNamedAsMedia = false;
+    const char* suffix = ""; ///< Small letters and digits.
+};
+
+/// A media file that the library for containers has opened, if its format is accepted. It reads
+/// that one file, whatever the file says.
+class MediaInput
+{
+public:
+    /// How far into a file streams are looked for.
+    enum class Look { Usual, Thorough };
+
+    /// The file outlives it.
+    MediaInput(const InputFile& file, const NameHint& hint, Look look);
+    ~MediaInput();
+    MediaInput(const MediaInput&) = delete;
+    MediaInput& operator=(const MediaInput&) = delete;
+
+    /// Taken, or why it is not open.
+    trel::mediadispatch::wire::Verdict verdict() const { return m_verdict; }
+    /// Of one that is open.
+    AVFormatContext& context() const { return *m_context; }
+    bool isImage() const;
+
+private:
+    trel::mediadispatch::wire::Verdict open(const NameHint& hint, Look look);
+    const AVInputFormat* format(const NameHint& hint) const;
+    static int read(void* self, std::uint8_t* room, int count);
+    static std::int64_t seek(void* self, std::int64_t offset, int whence);
+
+    const InputFile& m_file;
+    std::int64_t m_place = 0;
+    AVIOContext* m_io = nullptr;
+    OwnedMedia<AVFormatContext> m_context;
+    trel::mediadispatch::wire::Verdict m_verdict;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+namespace trel::mediadispatch {
+
+/// A media file, open for reading. Only what lies on a disk is opened, which a device, a pipe and a
+/// socket do not: those may keep who opens or reads them waiting for ever, and some do something
+/// when they are opened.
+class MediaFile
+{
+public:
+    explicit MediaFile(const QString& path);
+    ~MediaFile();
+    Q_DISABLE_COPY(MediaFile)
+
+    /// -1 when the file was refused.
+    int descriptor() const { return m_descriptor; }
+    /// Why, a sentence.
+    QString reason() const { return m_reason; }
+
+private:
+    int m_descriptor = -1;
+    QString m_reason;
+};
+
+} // namespace trel::mediadispatch
