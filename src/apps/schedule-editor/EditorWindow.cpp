@@ -7,6 +7,7 @@
 #include "Languages.h"
 #include "ProgramTableModel.h"
 #include "clock/ClockChangePanel.h"
+#include "common/PatientFile.h"
 #include "follow/EditedSchedule.h"
 #include "scheduleControlUI.h"
 #include "screen/NowNextPanel.h"
@@ -23,7 +24,6 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDropEvent>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -36,6 +36,8 @@
 #include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <chrono>
 
 using namespace trel::mediadispatch;
 
@@ -281,12 +283,14 @@ void EditorWindow::importSchedule()
     if (name.isEmpty()) {
         return;
     }
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly)) {
+    // A pipe that has nothing ready would keep the windows waiting.
+    PatientFile file(name, std::chrono::milliseconds(0));
+    const QByteArray json = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (file.hasFailed()) {
         tell(tr("%1 could not be read: %2").arg(name, file.errorString()));
         return;
     }
-    const ScheduleFromJson schedule = scheduleFromJson(file.readAll());
+    const ScheduleFromJson schedule = scheduleFromJson(json);
     if (!schedule.error.isEmpty()) {
         tell(tr("%1 could not be read: %2").arg(name, schedule.error));
         return;

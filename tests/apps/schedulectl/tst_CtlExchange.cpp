@@ -8,6 +8,10 @@
 #include <QDir>
 #include <QtTest>
 
+#include <thread>
+
+#include <sys/stat.h>
+
 using namespace trel::mediadispatch;
 
 /// The commands export and import-schedule.
@@ -26,6 +30,7 @@ private slots:
     void importTellsWhatIsOdd();
     void badFilesChangeNothing_data();
     void badFilesChangeNothing();
+    void aPipeIsReadToItsEnd();
 };
 
 namespace {
@@ -244,6 +249,28 @@ void tst_CtlExchange::badFilesChangeNothing()
     result = fixture.onDatabase({kImportSchedule, QStringLiteral("folder")});
     QCOMPARE(result.status, 1);
     QVERIFY(result.err.startsWith(QStringLiteral("schedulectl: folder cannot be read: ")));
+    result = fixture.onDatabase({kImportSchedule, QStringLiteral("/dev/zero")});
+    QCOMPARE(result.status, 1);
+    QCOMPARE(result.err, told(QStringLiteral("/dev/zero cannot be read: it is not a file.")));
+}
+
+void tst_CtlExchange::aPipeIsReadToItsEnd()
+{
+    const CtlFixture fixture;
+    const QByteArray pipe = QFile::encodeName(fixture.path(QStringLiteral("pipe")));
+    QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+    std::thread writer([&pipe] {
+        QFile end(QFile::decodeName(pipe));
+        end.open(QIODevice::WriteOnly);
+        end.write(scheduleToJson({{5, januaryTask(5)}}));
+    });
+
+    const CtlResult result = fixture.onDatabase({kImportSchedule, QStringLiteral("pipe")});
+    writer.join();
+
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.status, 0);
+    QCOMPARE(fixture.exported(), scheduleToJson({{5, januaryTask(5)}}));
 }
 
 TREL_TEST(tst_CtlExchange, QCoreApplication)

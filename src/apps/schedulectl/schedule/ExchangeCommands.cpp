@@ -2,6 +2,7 @@
 
 #include "Database.h"
 #include "ScheduleReport.h"
+#include "common/PatientFile.h"
 #include "service/TaskPeriods.h"
 #include "text/Console.h"
 #include "text/DisplayText.h"
@@ -10,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <chrono>
 #include <cstdio>
 #include <set>
 
@@ -18,6 +20,9 @@ using namespace trel::mediadispatch;
 namespace {
 
 const QLatin1String kStandardStream("-");
+
+/// How long a pipe that a schedule is read from may be silent.
+constexpr std::chrono::seconds kPipePatience{10};
 
 /// Everything that a file or the standard input holds, or why it could not be read.
 struct FileContent
@@ -28,16 +33,20 @@ struct FileContent
 
 FileContent readAll(const QString& path)
 {
-    QFile file(path);
-    const bool isOpen = path == kStandardStream ? file.open(stdin, QIODevice::ReadOnly)
-                                                : file.open(QIODevice::ReadOnly);
     FileContent content;
-    if (isOpen) {
+    if (path == kStandardStream) {
+        QFile stream;
+        if (stream.open(stdin, QIODevice::ReadOnly)) {
+            content.bytes = stream.readAll();
+        }
+        content.error = stream.error() == QFileDevice::NoError ? QString() : stream.errorString();
+        return content;
+    }
+    PatientFile file(path, kPipePatience);
+    if (file.open(QIODevice::ReadOnly)) {
         content.bytes = file.readAll();
     }
-    if (file.error() != QFileDevice::NoError) {
-        content.error = file.errorString();
-    }
+    content.error = file.hasFailed() ? file.errorString() : QString();
     return content;
 }
 

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QIODevice>
+
+#include <chrono>
+
+/// A file that is read once from front to end. A pipe, which may have nobody at its other end, is
+/// waited for as long as the patience lasts: for its first byte, and again after each that comes. A
+/// device, a folder and a socket are refused.
+class PatientFile : public QIODevice
+{
+    Q_OBJECT
+
+public:
+    PatientFile(const QString& path, std::chrono::milliseconds patience);
+    ~PatientFile() override;
+
+    /// For reading alone. On failure errorString() says why, as it does after a read that ended too
+    /// early.
+    bool open(OpenMode mode) override;
+    void close() override;
+    bool isSequential() const override { return true; }
+
+    /// Whether opening or reading has failed.
+    bool hasFailed() const { return m_hasFailed; }
+
+protected:
+    qint64 readData(char* data, qint64 maxSize) override;
+    qint64 writeData(const char* data, qint64 maxSize) override;
+
+private:
+    qint64 fail(const QString& reason);
+    bool waitForData();
+
+    const QString m_path;
+    const std::chrono::milliseconds m_patience;
+    int m_descriptor = -1;
+    bool m_isPipe = false;
+    bool m_hasFailed = false;
+};
