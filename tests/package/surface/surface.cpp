@@ -64,8 +64,8 @@ int main()
         hasMetaObject<ScheduleHost>() && hasMetaObject<ScreenDispatch>() &&
         hasMetaObject<trel::widgets::ComboBox>() && hasMetaObject<trel::widgets::Dialog>() &&
         hasMetaObject<trel::widgets::TipDialog>() &&
-        areThere(&ProgramSheduleWidgetTranslateManager::instance, &ProgramVerdict::plays,
-                 &Clock::current, &ClockAlarm::set, &ScreenTimeline::at,
+        areThere(&ClockChangeSearch::setTask, &ProgramSheduleWidgetTranslateManager::instance,
+                 &ProgramVerdict::plays, &Clock::current, &ClockAlarm::set, &ScreenTimeline::at,
                  &tessark::trans::Translator::load);
     const bool areFunctionsThere = areThere(
         &addDuration, &allTaskOverlaps, &buryInvalidEntry, &clockChanges, &collidingClaims,
