@@ -181,7 +181,7 @@ QString ClockChangePanel::wordsFor(ClockChangeEffect effect)
 QString ClockChangePanel::effect(const QString& words, const TaskClockChange& change,
                                  const TouchedPlan& plan)
 {
-    const QString sentence = words.arg(plan.planId).arg(change.taskId);
+    QString sentence = words.arg(plan.planId).arg(change.taskId);
     switch (plan.effect) {
     case ClockChangeEffect::BeginsLate:
         return sentence.arg(timeOfDay(change.change.end));
