@@ -20,10 +20,14 @@ struct MediaSource;
 /// The host's side of the schedule service: the same one service that scheduleManage shows to the
 /// editor, with what the editor has no business knowing. GUI thread only.
 ///
-/// Every call is one transaction, on the disk when it returns, or changes nothing at all. A file
-/// that another program holds is waited for, two seconds at most. Two hosts may have the same file
-/// open: each sees the other's saves and imports when its list is next refreshed or on reload, and
-/// is refused a save that would undo what it has not seen (StoreProblem::MovedOn).
+/// Every call is one transaction, on the disk when it returns, or changes nothing at all: what was
+/// refused does not come back with a later opening either. The one exception is
+/// StoreProblem::Unclear, when a disk fails in the middle of a change and does not confirm that it
+/// has gone: then the store is read without it, but after a power cut it may be there, and only
+/// another disk is safe. A file that another program holds is waited for, two seconds at most. Two
+/// hosts may have the same file open: each sees the other's saves and imports when its list is next
+/// refreshed or on reload, and is refused a save that would undo what it has not seen
+/// (StoreProblem::MovedOn).
 // The destructor is private, for nobody but instance() makes or ends the one instance.
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class TRELPROGRAMSCHEDULE_EXPORT ScheduleHost : public QObject
@@ -45,6 +49,8 @@ public:
     /// closed first. On failure the file is left untouched and no store is open. Emits nothing, but
     /// that a schedule in effect has stopped and, later, workingSetChanged: an editor on show is to
     /// be refreshed by the host.
+    ///
+    /// With ReadOnly every change is refused from then on, a save with StoreProblem::ReadOnly.
     ///
     /// A file or folder that is marked read-only is not written, by whatever right. A file of no
     /// bytes is as good as none: it becomes a store where one may be made. Needs a
@@ -76,8 +82,8 @@ public:
     /// stays, and reload can be tried again.
     StoreResult reload();
     /// True while another program is about to commit: only when it has, a reload reads what it
-    /// wrote. For hosts that watch the file, since the system tells of the writing and not of the
-    /// commit.
+    /// wrote. Not known, and false, of a store that was opened with ReadOnly. For hosts that watch
+    /// the file, since the system tells of the writing and not of the commit.
     bool isBeingWritten() const;
 
     /// Notices from now on when files of programs come or go, and never looks at a file within a

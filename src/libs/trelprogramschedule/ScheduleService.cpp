@@ -45,7 +45,7 @@ ScheduleService& ScheduleService::instance()
 StoreResult ScheduleService::open(const QString& path, StoreOpenMode mode, StorePart part)
 {
     close();
-    StoreResult result = m_database.open(path, mode);
+    StoreResult result = m_database.open(path, mode, part);
     if (result) {
         closeWithApplication();
         result = read(part);
@@ -179,7 +179,7 @@ void ScheduleService::markLostEntries()
 StoreResult ScheduleService::save()
 {
     const TaskEdits edits = m_state.tasks.edits();
-    StoreResult result = m_database.writeTasks(edits, m_revision.schedule);
+    StoreResult result = m_database.writeTasks(m_state.tasks.working(), edits, m_revision.schedule);
     if (result && !edits.isEmpty()) {
         m_state.tasks.commitWorking();
         m_isMarkingDue = true;
@@ -202,7 +202,8 @@ StoreResult ScheduleService::replace(const TaskMap& tasks)
     for (auto& [id, task] : filed) {
         updatePlanEnds(task, m_state.catalogue);
     }
-    StoreResult result = m_database.writeTasks(m_state.tasks.editsTo(filed), m_revision.schedule);
+    StoreResult result =
+        m_database.writeTasks(filed, m_state.tasks.editsTo(filed), m_revision.schedule);
     if (!result) {
         return result;
     }

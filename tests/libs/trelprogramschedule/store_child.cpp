@@ -5,6 +5,7 @@
 #include "ScheduleHost.h"
 #include "service/scheduleManage.h"
 #include "store/StoreConnection.h"
+#include "support/FaultyDisk.h"
 #include "support/SampleSchedule.h"
 
 #include <QCoreApplication>
@@ -12,6 +13,7 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -140,6 +142,19 @@ int runOutOfSpace(const QString& folder)
     return 0;
 }
 
+/// Is refused a save by a disk that does not synchronise the log, and ends as in a crash.
+int beRefused(const QString& path, bool isForGood)
+{
+    FaultyDisk disk;
+    ScheduleHost& host = ScheduleHost::instance();
+    say("open", host.open(path));
+    say("first", host.replaceSchedule(sampleSchedule(1, 1, 0, 2)));
+    disk.fail(FaultyDisk::Sync, 1,
+              isForGood ? FaultyDisk::Lasting::ForGood : FaultyDisk::Lasting::Once, EIO);
+    say("second", host.replaceSchedule(sampleSchedule(1, 1, 0, 3)));
+    ::_exit(0);
+}
+
 /// Leaves with an open store behind, in one of the ways in which programs end.
 int leave(const QString& path, bool byExit)
 {
@@ -166,6 +181,9 @@ int main(int argc, char* argv[])
     }
     if (task == QLatin1String("return") || task == QLatin1String("exit")) {
         return leave(arguments.value(2), task == QLatin1String("exit"));
+    }
+    if (task == QLatin1String("refused")) {
+        return beRefused(arguments.value(2), arguments.value(3) == QLatin1String("for-good"));
     }
     if (task == QLatin1String("fill")) {
         return runOutOfSpace(arguments.value(2));

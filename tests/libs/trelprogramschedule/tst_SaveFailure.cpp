@@ -30,7 +30,7 @@ public:
 
     StoreResult save(const Tasks& tasks)
     {
-        StoreResult result = m_database.writeTasks(editsBetween(m_contents.tasks, tasks),
+        StoreResult result = m_database.writeTasks(tasks, editsBetween(m_contents.tasks, tasks),
                                                    m_contents.revision.schedule);
         if (result) {
             m_contents.tasks = tasks;

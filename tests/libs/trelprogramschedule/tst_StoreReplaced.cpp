@@ -22,7 +22,7 @@ void makeStore(const QString& path, const TaskMap& tasks)
     ScheduleDatabase database;
     QVERIFY(database.open(path, ScheduleHost::OpenMode::CreateIfMissing));
     qint64 revision = 0;
-    QVERIFY(database.writeTasks(editsBetween({}, tasks), revision));
+    QVERIFY(database.writeTasks(tasks, editsBetween({}, tasks), revision));
 }
 
 TaskMap tasksInFile(const QString& path)
@@ -137,11 +137,11 @@ void tst_StoreReplaced::theLogOfTheNewFileStays()
     ScheduleDatabase other;
     QVERIFY(other.open(m_store->path, ScheduleHost::OpenMode::CreateIfMissing));
     qint64 revision = 0;
-    QVERIFY(other.writeTasks(editsBetween({}, m_other), revision));
+    QVERIFY(other.writeTasks(m_other, editsBetween({}, m_other), revision));
     QVERIFY(m_store->host.reload());
     QVERIFY(m_store->manager.getgTaskMap() == m_other);
     const TaskMap both = {{7, everyFieldTask(7)}, {9, everyFieldTask(9)}};
-    QVERIFY(other.writeTasks(editsBetween(m_other, both), revision));
+    QVERIFY(other.writeTasks(both, editsBetween(m_other, both), revision));
     QVERIFY(m_store->manager.getgTaskMap() == both);
 }
 

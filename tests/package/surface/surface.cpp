@@ -74,9 +74,9 @@ int main()
         &insertedPlan, &insertionScope, &isInvalidReadBack, &joinWeeks, &lastPlanWithId,
         &listFromRow, &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId, &offeredPrograms,
         &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate, &programListText,
-        &programText, &programVerdict, &readPicture, &removeFirstPlanWithId, &runsLessThanOnce,
-        &setMediaReading, &scanMedia, &scheduleFromJson, &scheduleToJson, &shownAddress,
-        &timeFromText, &timeToText, &totalText, &tessark::trans::translate, &weeksOverlap,
-        &writeScheduleFile);
+        &programText, &programVerdict, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
+        &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleFromJson, &scheduleToJson,
+        &shownAddress, &timeFromText, &timeToText, &totalText, &tessark::trans::translate,
+        &weeksOverlap, &writeScheduleFile);
     std::cout << (areClassesThere && areFunctionsThere ? "All there\n" : "Something is missing\n");
 }

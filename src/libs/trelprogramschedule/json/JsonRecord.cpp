@@ -35,7 +35,7 @@ void refuse(const JsonValue& value, const QString& reason)
 QString quoted(std::string_view utf8)
 {
     return QStringLiteral("\"%1\"").arg(
-        QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size())));
+        elided(QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()))));
 }
 
 void expect(const JsonValue& value, Kind kind, const QString& expected)

@@ -24,7 +24,7 @@ struct JsonRefusal
 void expect(const JsonValue& value, JsonValue::Kind kind, const QString& expected);
 void expect(const JsonValue& value, JsonValue::Kind kind);
 
-/// A text from the JSON for people to read, in quotes.
+/// A text from the JSON for people to read, elided, in quotes.
 QString quoted(std::string_view utf8);
 
 /// One member of a record in JSON: its name and both directions. A record is described by one table

@@ -1,11 +1,15 @@
 #include "JsonTree.h"
 
+#include "ScheduleLimits.h"
+
 #include <nlohmann/json.hpp>
 
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cstdio>
 #include <iterator>
+#include <utility>
 
 namespace trel::mediadispatch {
 
@@ -105,12 +109,15 @@ public:
     {
         return add(Kind::Number, written);
     }
-    bool string(string_t& value) override { return add(Kind::Text, std::move(value)); }
+    bool string(string_t& value) override
+    {
+        return expectLength(value, "text") && add(Kind::Text, std::move(value));
+    }
     bool binary(binary_t&) override { return false; } // no part of JSON as text
     bool key(string_t& name) override
     {
         m_name = std::move(name);
-        return true;
+        return expectLength(m_name, "name");
     }
     bool start_object(std::size_t) override { return open(Kind::Object); }
     bool end_object() override { return close(); }
@@ -128,6 +135,25 @@ public:
 private:
     bool isTooDeep() const { return m_depth > kDeepestJson; }
 
+    bool expectLength(const std::string& text, const char* what)
+    {
+        // In Base64, a text takes four bytes for three.
+        constexpr std::size_t most = kLongestText / 3 * 4 + 4;
+        if (text.size() > most) {
+            m_error = QStringLiteral("a %1 on line %2 has more than %3 bytes")
+                          .arg(QLatin1String(what), QString::number(m_line), QString::number(most));
+        }
+        return m_error.isEmpty();
+    }
+
+    bool expectRoom()
+    {
+        if (++m_count > kMostJsonValues) {
+            m_error = excessText(kMostJsonValues, QStringLiteral("values"));
+        }
+        return m_error.isEmpty();
+    }
+
     JsonValue value(Kind kind, std::string text = {})
     {
         return {kind, m_line, std::move(m_name), std::move(text), {}};
@@ -138,7 +164,7 @@ private:
         if (!isTooDeep()) {
             place(value(kind, std::move(text)));
         }
-        return true;
+        return expectRoom();
     }
 
     bool open(Kind kind)
@@ -147,7 +173,7 @@ private:
         if (!isTooDeep()) {
             m_open.push_back(value(kind));
         }
-        return true;
+        return expectRoom();
     }
 
     bool close()
@@ -174,16 +200,63 @@ private:
     JsonValue m_top;
     QString m_error;
     std::vector<JsonValue> m_open; ///< The arrays and objects around the value that comes next.
+    std::size_t m_count = 0;       ///< Of all values so far.
     std::size_t m_depth = 0;       ///< How many there are, those that are too deep included.
     std::string m_name;            ///< The name of the member whose value comes next.
     int m_line = 1;
 };
 
+/// The bytes with which the characters begin that a terminal would obey: DEL, the controls above
+/// it, separators of lines, and the marks that turn the direction of writing around.
+constexpr std::string_view kSuspects("\x7F\xC2\xD8\xE2");
+
+bool isObeyed(char32_t character)
+{
+    return (character >= 0x7F && character <= 0x9F) || character == 0x61C || character == 0x200E ||
+           character == 0x200F || (character >= 0x2028 && character <= 0x202E) ||
+           (character >= 0x2066 && character <= 0x2069);
+}
+
+/// The character that begins at a suspect byte, and its length in bytes.
+std::pair<char32_t, std::size_t> characterAt(const std::string& text, std::size_t at)
+{
+    const auto part = [&](std::size_t offset, unsigned mask) {
+        return static_cast<char32_t>(static_cast<unsigned char>(text[at + offset]) & mask);
+    };
+    if (text[at] == '\x7F') {
+        return {0x7F, 1};
+    }
+    if (text[at] == '\xE2') {
+        return {part(0, 0x0F) << 12 | part(1, 0x3F) << 6 | part(2, 0x3F), 3};
+    }
+    return {part(0, 0x1F) << 6 | part(1, 0x3F), 2};
+}
+
+/// A text in quotation marks. What a terminal would obey is written by its number.
+std::string quotedText(const std::string& text)
+{
+    const std::string whole = Json(text).dump();
+    std::string quoted;
+    std::size_t begin = 0;
+    for (std::size_t at = whole.find_first_of(kSuspects); at != std::string::npos;
+         at = whole.find_first_of(kSuspects, at)) {
+        const auto [character, size] = characterAt(whole, at);
+        if (isObeyed(character)) {
+            char number[8] = {};
+            std::snprintf(number, sizeof number, "\\u%04x", static_cast<unsigned>(character));
+            quoted.append(whole, begin, at - begin).append(number);
+            begin = at + size;
+        }
+        at += size;
+    }
+    return quoted.append(whole, begin, std::string::npos);
+}
+
 void print(std::string& out, const JsonValue& value, const std::string& lineStart)
 {
     const bool isObject = value.kind == Kind::Object;
     if (value.kind == Kind::Text) {
-        out += Json(value.text).dump();
+        out += quotedText(value.text);
         return;
     }
     if (!isObject && value.kind != Kind::Array) {
@@ -220,7 +293,7 @@ bool findPath(const JsonValue& from, const JsonValue& value, QString& path)
         if (findPath(child, value, path)) {
             path.prepend(from.kind == Kind::Array
                              ? QStringLiteral("[%1]").arg(at)
-                             : QLatin1Char('.') + QString::fromStdString(child.name));
+                             : QLatin1Char('.') + elided(QString::fromStdString(child.name)));
             return true;
         }
     }
@@ -237,8 +310,17 @@ const JsonValue* JsonValue::member(std::string_view memberName) const
     return kind == Kind::Object && found != children.end() ? &*found : nullptr;
 }
 
+QString elided(const QString& text)
+{
+    constexpr int longest = 60;
+    return text.size() <= longest ? text : text.left(longest - 1) + QChar(0x2026);
+}
+
 ParsedJson parseJson(const QByteArray& json)
 {
+    if (json.size() > kLargestJson) {
+        return {{}, QStringLiteral("it has more than %1 bytes").arg(kLargestJson)};
+    }
     TreeBuilder builder(json);
     builder.parse();
     return builder.take();
@@ -249,8 +331,7 @@ QByteArray printJson(const JsonValue& top)
     std::string out;
     print(out, top, "\n");
     out += '\n';
-    // No terminal shows DEL, which JSON would let stand as it is; it can only stand in a text.
-    return QByteArray::fromStdString(out).replace('\x7F', "\\u007f");
+    return QByteArray::fromStdString(out);
 }
 
 QString jsonPath(const JsonValue& top, const JsonValue& value)

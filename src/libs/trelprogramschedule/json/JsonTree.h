@@ -38,13 +38,19 @@ struct ParsedJson
 /// out of the tree: the tree stays shallow enough to be walked by recursion, whatever the text.
 constexpr std::size_t kDeepestJson = 32;
 
-/// Parses a text in UTF-8, which may begin with a byte order mark.
+/// Parses a text in UTF-8, which may begin with a byte order mark. More than kLargestJson bytes,
+/// more than kMostJsonValues values and a name or a text that no schedule has room for are errors,
+/// so that the tree takes a bounded amount of memory.
 ParsedJson parseJson(const QByteArray& json);
 
 /// The tree as text: indented by two blanks a level, every member and element on a line of its own,
 /// but an object that holds no array on one line. Texts must be in well-formed UTF-8, and names in
 /// plain ASCII.
 QByteArray printJson(const JsonValue& top);
+
+/// A text from the JSON as a message has room for it: what is longer than 60 characters ends in an
+/// ellipsis.
+QString elided(const QString& text);
 
 /// Where a value stands in a tree, such as tasks[2].plans[0].startTime; empty for the top. Walks
 /// the tree, which the few values that somebody complains about are worth.

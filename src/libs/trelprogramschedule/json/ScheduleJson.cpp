@@ -1,9 +1,11 @@
 #include "ScheduleJson.h"
 
+#include "FileReplacement.h"
 #include "JsonRecord.h"
+#include "ScheduleLimits.h"
 
 #include <QDir>
-#include <QSaveFile>
+#include <QIODevice>
 #include <QTextCodec>
 
 #include <charconv>
@@ -36,11 +38,11 @@ void readValue(const JsonValue& value, int& number)
     const std::string& digits = value.text;
     if (digits.find_first_of(".eE") != std::string::npos) {
         refuse(value, QStringLiteral("%1 is not written as a whole number")
-                          .arg(QString::fromStdString(digits)));
+                          .arg(elided(QString::fromStdString(digits))));
     }
     if (std::from_chars(digits.data(), digits.data() + digits.size(), number).ec != std::errc()) {
-        refuse(value,
-               QStringLiteral("%1 does not fit into 32 bits").arg(QString::fromStdString(digits)));
+        refuse(value, QStringLiteral("%1 does not fit into 32 bits")
+                          .arg(elided(QString::fromStdString(digits))));
     }
 }
 
@@ -144,10 +146,16 @@ JsonValue writeValue(const std::string& text)
 void readValue(const JsonValue& value, std::string& text)
 {
     if (value.kind == Kind::Object) {
-        return readRecord(value, text, kEncodedTextMembers);
+        readRecord(value, text, kEncodedTextMembers);
+    } else {
+        expect(value, Kind::Text);
+        text = value.text;
     }
-    expect(value, Kind::Text);
-    text = value.text;
+    if (text.size() > kLongestText) {
+        refuse(value, QStringLiteral("this text has %1 bytes, and %2 are the most")
+                          .arg(text.size())
+                          .arg(kLongestText));
+    }
 }
 
 // ---- 64-bit numbers: many readers of JSON keep 53 bits of a number, but all of a text ----
@@ -394,7 +402,12 @@ ScheduleFromJson scheduleFromJson(const QByteArray& json)
         return {{}, parsed.error};
     }
     try {
-        return {readSchedule(parsed.top), {}};
+        ScheduleFromJson schedule{readSchedule(parsed.top), {}};
+        schedule.error = excessOf(schedule.tasks);
+        if (!schedule.error.isEmpty()) {
+            schedule.tasks.clear();
+        }
+        return schedule;
     } catch (const JsonRefusal& refusal) {
         const QString path = jsonPath(parsed.top, *refusal.value);
         const QString place =
@@ -403,15 +416,28 @@ ScheduleFromJson scheduleFromJson(const QByteArray& json)
     }
 }
 
+QByteArray readScheduleJson(QIODevice& device)
+{
+    constexpr qint64 part = 1024 * 1024;
+    QByteArray json;
+    while (json.size() <= kLargestJson) {
+        const QByteArray read = device.read(part);
+        if (read.isEmpty()) {
+            break;
+        }
+        json += read;
+    }
+    return json;
+}
+
 QString writeScheduleFile(const QString& path, const std::map<int, PlayTask>& tasks)
 {
     const QByteArray json = scheduleToJson(tasks);
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(json) == json.size() && file.commit()) {
-        return {};
-    }
-    return QStringLiteral("%1 cannot be written: %2.")
-        .arg(QDir::toNativeSeparators(path), file.errorString());
+    const QString reason = replaceFile(path, json);
+    return reason.isEmpty()
+               ? QString()
+               : QStringLiteral("%1 cannot be written: ").arg(QDir::toNativeSeparators(path)) +
+                     reason + QLatin1Char('.');
 }
 
 } // namespace trel::mediadispatch

@@ -8,6 +8,8 @@
 
 #include <map>
 
+class QIODevice;
+
 namespace trel::mediadispatch {
 
 /// The JSON form of a schedule: every field of every record, in a documented form
@@ -26,11 +28,18 @@ struct ScheduleFromJson
 };
 
 /// Reads all of a schedule or nothing: whatever the form does not know is an error, so that nothing
-/// is dropped without a word.
+/// is dropped without a word. What is larger than any schedule is an error as well, in bytes (128
+/// MiB), in tasks (20,000), plans (100,000), entries (500,000) or in one text (64 KiB).
 TRELPROGRAMSCHEDULE_EXPORT ScheduleFromJson scheduleFromJson(const QByteArray& json);
 
-/// Writes the schedule to a file in one step: the file is replaced whole or left as it was.
-/// Returns an empty text, or a sentence that says what went wrong.
+/// Reads everything up to the end of the device, which must be open, or as much as shows that it is
+/// too large for scheduleFromJson, which says so.
+TRELPROGRAMSCHEDULE_EXPORT QByteArray readScheduleJson(QIODevice& device);
+
+/// Writes the schedule to a file in one step: the file is replaced whole, on the disk when the call
+/// returns, or left as it was. A new file may be read by its owner alone, one that is replaced
+/// keeps its mode. Links are followed. What is there and is no regular file, such as a folder, a
+/// device or a pipe, is refused. Returns an empty text, or a sentence that says what went wrong.
 TRELPROGRAMSCHEDULE_EXPORT QString writeScheduleFile(const QString& path,
                                                      const std::map<int, PlayTask>& tasks);
 

@@ -1,23 +1,34 @@
 #include "ScheduleDatabase.h"
 
+#include "ScheduleLimits.h"
 #include "StoreCatalogue.h"
 #include "StoreConnection.h"
+#include "StoreDeadline.h"
+#include "StoreLog.h"
 #include "StoreMessages.h"
 #include "StoreSchema.h"
 #include "StoreTaskReader.h"
 #include "StoreTaskWriter.h"
 #include "catalogue/ProgramImporter.h"
 
-#include <QCoreApplication>
-#include <QFile>
+#include <QDir>
 #include <QSqlQuery>
 #include <QVariant>
 
+#include <cerrno>
+#include <chrono>
 #include <utility>
 
 namespace trel::mediadispatch {
 
 namespace {
+
+/// How long reading may take, which is a hundred times what it takes for the largest schedule: a
+/// file that needs longer was made to.
+constexpr std::chrono::seconds kReadingTime{30};
+
+/// How often the file is looked at without its taking notice while others open and close it.
+constexpr int kMostLooks = 5;
 
 /// Turns the errors of the database within an action into its result.
 template <typename Action>
@@ -29,6 +40,18 @@ StoreResult attempt(const Action& action)
     } catch (const StoreError& error) {
         return error.result;
     }
+}
+
+/// What of the tasks that are to be stored goes beyond a limit. What is stored already is not
+/// looked at again.
+QString excessOf(const TaskMap& tasks, const TaskEdits& edits)
+{
+    QString excess = mediadispatch::excessOf(tasks);
+    for (auto task = edits.written.begin(); excess.isEmpty() && task != edits.written.end();
+         ++task) {
+        excess = mediadispatch::excessOf(**task);
+    }
+    return excess;
 }
 
 StoreRevision revisionOf(const StoreConnection& connection)
@@ -48,71 +71,138 @@ StoreRevision revisionOf(const StoreConnection& connection)
 ScheduleDatabase::ScheduleDatabase() = default;
 ScheduleDatabase::~ScheduleDatabase() = default;
 
-StoreResult ScheduleDatabase::open(const QString& path, StoreOpenMode mode)
+StoreResult ScheduleDatabase::open(const QString& path, StoreOpenMode mode, StorePart part)
 {
     close();
     m_file = StoreFile(path);
-    StoreResult result = judge(mode);
+    m_mode = mode;
+    StoreResult result = judge();
     if (result && m_file.isVacant()) {
         result = create();
     }
     if (result) {
-        result = probe();
+        result = judgeLog();
     }
     if (result) {
+        result = look(part);
+    }
+    if (result && mode != StoreOpenMode::ReadOnly) {
         result = connect();
     }
     if (!result) {
         close();
+    } else if (mode != StoreOpenMode::ReadOnly) {
+        m_file.removeLeftDrafts();
     }
     return result;
 }
 
-StoreResult ScheduleDatabase::judge(StoreOpenMode mode) const
+StoreResult ScheduleDatabase::judge() const
 {
-    return m_file.judge(mode, StoreSchema::kApplicationId, StoreSchema::newestVersion());
+    return m_file.judge(m_mode, StoreSchema::kApplicationId, StoreSchema::newestVersion());
 }
 
 StoreResult ScheduleDatabase::create() const
 {
     // Made beside its place and moved there whole, so that nobody ever meets half a store.
-    const QString draft =
-        m_file.path() + QStringLiteral(".new-%1").arg(QCoreApplication::applicationPid());
-    QFile::remove(draft);
-    StoreResult result = attempt([&draft] {
-        const StoreConnection connection(draft, StoreConnection::Access::Create);
+    if (!m_file.makeDraft()) {
+        return refusalOfSystem(errno, m_file.path());
+    }
+    StoreResult result = attempt([this] {
+        const StoreConnection connection(m_file.draftPath(), StoreConnection::Access::Create);
         StoreSchema::migrate(connection);
         connection.run(QStringLiteral("PRAGMA journal_mode = WAL"));
     });
-    if (result && !m_file.fillFrom(draft) && m_file.isVacant()) {
+    if (result && !m_file.fillFromDraft() && m_file.isVacant()) {
         result =
             refusal(StoreProblem::Other, m_file.path(), QStringLiteral("no file can be put there"));
     }
-    for (const char* suffix : {"", "-journal", "-wal", "-shm"}) {
-        QFile::remove(draft + QLatin1String(suffix));
-    }
+    m_file.removeDraft();
+    // Nobody has asked for the draft.
+    result.message.replace(QDir::toNativeSeparators(m_file.draftPath()),
+                           QDir::toNativeSeparators(m_file.path()));
     return result;
 }
 
-StoreResult ScheduleDatabase::probe() const
+/// Whether the log, if there is one that a program has left, is of this file and not of another
+/// copy of it. A file of which that cannot be told is left to the look at it.
+StoreResult ScheduleDatabase::judgeLog() const
 {
-    const bool isShared = m_file.hasSidecars();
-    const bool hadLogIndex = m_file.hasLogIndex();
-    StoreResult result = attempt([this, isShared] {
-        StoreSchema::check(StoreConnection(m_file.path(), isShared
-                                                              ? StoreConnection::Access::ReadOnly
-                                                              : StoreConnection::Access::Untouched),
-                           m_file.path());
+    const auto isForeign = [this] {
+        const StoreConnection file(m_file.path(), StoreConnection::Access::Untouched);
+        StoreSchema::checkElements(file, m_file.path());
+        const quint32 page = file.value(QStringLiteral("SELECT rootpage FROM sqlite_schema"
+                                                       " WHERE name = 'store'"))
+                                 .toUInt();
+        return !StoreLog(m_file.logPath()).follows(revisionOf(file), page);
+    };
+    bool isRefused = false;
+    if (m_file.stamp().logSize > 0 && !m_file.isLogInUse()) {
+        attempt([&] { isRefused = isForeign(); });
+    }
+    // Another program may have begun to work with it while it was read.
+    return isRefused && !m_file.isLogInUse()
+               ? refusal(
+                     StoreProblem::Damaged, m_file.path(),
+                     QStringLiteral("its log %1 belongs to another copy of it; put the file that "
+                                    "it belongs to back, or move the log away to go on without "
+                                    "it")
+                         .arg(m_file.logPath()))
+               : StoreResult();
+}
+
+/// Reads the store without leaving a trace. A store that is only read goes on to be read in that
+/// way.
+StoreResult ScheduleDatabase::look(StorePart part)
+{
+    m_seen.reset();
+    for (int looks = 1;; ++looks) {
+        m_stamp = m_file.stamp();
+        const bool isShared = m_stamp.logSize > 0 || looks > kMostLooks;
+        const bool hadLogIndex = m_file.hasLogIndex();
+        auto connection = std::make_unique<StoreConnection>(
+            m_file.path(),
+            isShared ? StoreConnection::Access::ReadOnly : StoreConnection::Access::Untouched);
+        StoreResult result = lookOnce(part, *connection);
+        if (!isShared && !(m_file.stamp() == m_stamp)) {
+            // Another program has opened the store meanwhile, and wrote while it was looked at.
+            continue;
+        }
+        if (result && m_mode == StoreOpenMode::ReadOnly) {
+            m_connection = std::move(connection);
+            m_isUnnoticed = !isShared;
+            m_identity = m_file.identity();
+        }
+        connection.reset();
+        if (!result) {
+            m_seen.reset();
+        }
+        if (!result && isShared && !hadLogIndex) {
+            // A log without an index has nobody who works with it.
+            m_file.removeLogIndex();
+            return m_file.canHaveLogIndex()
+                       ? result
+                       : refusal(StoreProblem::Other, m_file.path(),
+                                 QStringLiteral("its log has no index, and where nothing can be "
+                                                "written none can be made; copy both to another "
+                                                "folder"));
+        }
+        return result;
+    }
+}
+
+StoreResult ScheduleDatabase::lookOnce(StorePart part, StoreConnection& connection)
+{
+    return attempt([&] {
+        const StoreDeadline deadline(connection, kReadingTime);
+        StoreSchema::check(connection, m_file.path());
+        if (StoreSchema::isNewest(connection)) {
+            StoreTransaction transaction(connection, StoreTransaction::Purpose::Read);
+            m_seen = Seen{part, {}};
+            readParts(part, connection, m_seen->contents);
+            transaction.commit();
+        }
     });
-    if (!result && !isShared && m_file.hasSidecars()) {
-        // Another program has opened the store meanwhile, and wrote while it was looked at.
-        return probe();
-    }
-    if (!result && isShared && !hadLogIndex) {
-        // A log without an index has nobody who works with it.
-        m_file.removeLogIndex();
-    }
-    return result;
 }
 
 StoreResult ScheduleDatabase::connect()
@@ -123,8 +213,10 @@ StoreResult ScheduleDatabase::connect()
         connection->run(QStringLiteral("PRAGMA foreign_keys = ON"));
         connection->run(QStringLiteral("PRAGMA synchronous = FULL"));
         {
-            // An editor is of no use on a file that somebody else keeps to himself.
+            // An editor is of no use on a file that somebody else keeps to himself. Now that nobody
+            // else writes, it must still be what it was when it was looked at.
             const StoreTransaction trial(*connection, StoreTransaction::Purpose::Write);
+            StoreSchema::checkElements(*connection, m_file.path());
         }
         connection->run(QStringLiteral("PRAGMA journal_mode = WAL"));
         StoreSchema::migrate(*connection);
@@ -138,6 +230,8 @@ StoreResult ScheduleDatabase::connect()
 void ScheduleDatabase::close()
 {
     m_connection.reset();
+    m_seen.reset();
+    m_isUnnoticed = false;
     m_file = StoreFile();
 }
 
@@ -151,12 +245,18 @@ StoreResult ScheduleDatabase::reopen()
     if (!m_file.isThere()) {
         return refusal(StoreProblem::FileMissing, m_file.path());
     }
-    StoreResult result = judge(StoreOpenMode::MustExist);
+    StoreResult result = judge();
+    if (result && m_mode == StoreOpenMode::ReadOnly) {
+        return look(StorePart::Both);
+    }
     if (result && isOpen()) {
         result = leave();
     }
     if (result) {
-        result = probe();
+        result = judgeLog();
+    }
+    if (result) {
+        result = look(StorePart::Both);
     }
     return result ? connect() : result;
 }
@@ -180,7 +280,7 @@ StoreResult ScheduleDatabase::leave()
 
 bool ScheduleDatabase::isBeingWritten() const
 {
-    if (!isOpen()) {
+    if (!isOpen() || m_mode == StoreOpenMode::ReadOnly) {
         return false;
     }
     const StoreResult trial = attempt([this] {
@@ -195,6 +295,10 @@ StoreResult ScheduleDatabase::judgeInPlace() const
     if (path().isEmpty()) {
         return refusal(StoreProblem::NotOpen, QString());
     }
+    if (m_mode == StoreOpenMode::ReadOnly) {
+        return refusal(StoreProblem::ReadOnly, m_file.path(),
+                       QStringLiteral("it was opened for reading only"));
+    }
     if (!isInPlace()) {
         // The database would go on writing into a file that nobody will find again.
         return refusal(StoreProblem::Other, m_file.path(),
@@ -203,50 +307,88 @@ StoreResult ScheduleDatabase::judgeInPlace() const
     return m_file.judgeWritable();
 }
 
-StoreResult ScheduleDatabase::readRevision(StoreRevision& revision) const
+/// Reads within one state of the store. A file that is read without its taking notice is looked at
+/// once more where it has changed before, or meanwhile.
+template <typename Reading>
+StoreResult ScheduleDatabase::readWith(const Reading& reading)
 {
     if (!isOpen()) {
         return refusal(StoreProblem::NotOpen, QString());
     }
-    return attempt([&] { revision = revisionOf(*m_connection); });
+    for (;;) {
+        if (m_isUnnoticed && !(m_file.stamp() == m_stamp)) {
+            if (StoreResult result = look(StorePart::Both); !result) {
+                return result;
+            }
+        }
+        StoreResult result = attempt([&] {
+            const StoreDeadline deadline(*m_connection, kReadingTime);
+            StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Read);
+            reading();
+            transaction.commit();
+        });
+        if (!m_isUnnoticed || m_file.stamp() == m_stamp) {
+            return result;
+        }
+    }
 }
 
-StoreResult ScheduleDatabase::read(StorePart part, StoreContents& contents) const
+StoreResult ScheduleDatabase::readRevision(StoreRevision& revision)
 {
-    if (!isOpen()) {
-        return refusal(StoreProblem::NotOpen, QString());
-    }
-    return attempt([&] {
-        StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Read);
-        contents.revision = revisionOf(*m_connection);
-        if (part != StorePart::Catalogue) {
-            contents.tasks = StoreTaskReader(*m_connection, m_file.path()).read();
+    return readWith([&] { revision = revisionOf(*m_connection); });
+}
+
+StoreResult ScheduleDatabase::read(StorePart part, StoreContents& contents)
+{
+    return readWith([&] {
+        if (!takeSeen(part, contents)) {
+            contents = StoreContents();
+            readParts(part, *m_connection, contents);
         }
-        if (part != StorePart::Schedule) {
-            StoreCatalogue(*m_connection, m_file.path()).read(contents);
-        }
-        transaction.commit();
     });
 }
 
-StoreResult ScheduleDatabase::readPrograms(const std::vector<int>& indexes,
-                                           StoreContents& contents) const
+void ScheduleDatabase::readParts(StorePart part, const StoreConnection& connection,
+                                 StoreContents& contents) const
 {
-    if (!isOpen()) {
-        return refusal(StoreProblem::NotOpen, QString());
+    contents.revision = revisionOf(connection);
+    if (part != StorePart::Catalogue) {
+        contents.tasks = StoreTaskReader(connection, m_file.path()).read();
     }
-    return attempt([&] {
-        StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Read);
+    if (part != StorePart::Schedule) {
+        StoreCatalogue(connection, m_file.path()).read(contents);
+    }
+}
+
+/// Gives what the look has read, if the store is still as it was then.
+bool ScheduleDatabase::takeSeen(StorePart part, StoreContents& contents)
+{
+    std::optional<Seen> seen = std::exchange(m_seen, std::nullopt);
+    const StoreRevision now = revisionOf(*m_connection);
+    if (!seen || seen->part != part || seen->contents.revision.schedule != now.schedule ||
+        seen->contents.revision.catalogue != now.catalogue) {
+        return false;
+    }
+    contents = std::move(seen->contents);
+    return true;
+}
+
+StoreResult ScheduleDatabase::readPrograms(const std::vector<int>& indexes, StoreContents& contents)
+{
+    return readWith([&] {
         contents.revision = revisionOf(*m_connection);
         StoreCatalogue(*m_connection, m_file.path()).read(indexes, contents);
-        transaction.commit();
     });
 }
 
-StoreResult ScheduleDatabase::writeTasks(const TaskEdits& edits, qint64& revision)
+StoreResult ScheduleDatabase::writeTasks(const TaskMap& tasks, const TaskEdits& edits,
+                                         qint64& revision)
 {
     if (StoreResult place = judgeInPlace(); !place) {
         return place;
+    }
+    if (const QString excess = excessOf(tasks, edits); !excess.isEmpty()) {
+        return refusal(StoreProblem::TooLarge, m_file.path(), excess);
     }
     return attempt([&] {
         StoreTransaction transaction(*m_connection, edits.isEmpty()

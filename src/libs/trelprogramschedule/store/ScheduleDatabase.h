@@ -9,6 +9,7 @@
 #include <QtGlobal>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -35,9 +36,10 @@ public:
     ~ScheduleDatabase();
     Q_DISABLE_COPY(ScheduleDatabase)
 
-    /// See ScheduleHost::open. A file that is refused stays as it is, to the byte, and nothing is
-    /// left beside it. No file of the process may be open on the same path.
-    StoreResult open(const QString& path, StoreOpenMode mode);
+    /// See ScheduleHost::open. Reads what is asked for, for the first call of read to give. A file
+    /// that is refused, for its contents too, stays as it is, to the byte, and nothing is left
+    /// beside it. No file of the process may be open on the same path.
+    StoreResult open(const QString& path, StoreOpenMode mode, StorePart part = StorePart::Both);
     void close();
     bool isOpen() const { return m_connection != nullptr; }
     /// Where the file is, behind any links; empty when none is open.
@@ -49,18 +51,19 @@ public:
     /// can be tried again; all other calls may be refused until then.
     StoreResult reopen();
     /// Another program is about to commit. What it told the system of up to now can only be read
-    /// when it has.
+    /// when it has. False for a store that is only read.
     bool isBeingWritten() const;
 
-    StoreResult readRevision(StoreRevision& revision) const;
+    StoreResult readRevision(StoreRevision& revision);
     /// Reads the parts and the revision that they have, all from one state of the store.
-    StoreResult read(StorePart part, StoreContents& contents) const;
+    StoreResult read(StorePart part, StoreContents& contents);
     /// As read, of a few programs only.
-    StoreResult readPrograms(const std::vector<int>& indexes, StoreContents& contents) const;
+    StoreResult readPrograms(const std::vector<int>& indexes, StoreContents& contents);
 
-    /// Writes what is to be changed in the tasks, if the store still has the schedule revision
-    /// that is given; MovedOn otherwise. The revision is counted up, unless there is no change.
-    StoreResult writeTasks(const TaskEdits& edits, qint64& revision);
+    /// Writes what is to be changed so that the store holds these tasks, if it still has the
+    /// schedule revision that is given; MovedOn otherwise. The revision is counted up, unless there
+    /// is no change. TooLarge for tasks beyond the limits of a schedule.
+    StoreResult writeTasks(const TaskMap& tasks, const TaskEdits& edits, qint64& revision);
 
     /// Puts sources into the catalogue; see ScheduleHost::addPrograms.
     ImportResult addPrograms(const std::vector<MediaSource>& sources);
@@ -71,14 +74,32 @@ public:
     StoreResult countPlansWith(const std::vector<int>& progIndexes, int& count) const;
 
 private:
-    StoreResult judge(StoreOpenMode mode) const;
+    StoreResult judge() const;
     StoreResult create() const;
-    StoreResult probe() const;
+    StoreResult judgeLog() const;
+    StoreResult look(StorePart part);
+    StoreResult lookOnce(StorePart part, StoreConnection& connection);
     StoreResult connect();
+    template <typename Reading>
+    StoreResult readWith(const Reading& reading);
+    void readParts(StorePart part, const StoreConnection& connection,
+                   StoreContents& contents) const;
+    bool takeSeen(StorePart part, StoreContents& contents);
     StoreResult leave();
     StoreResult judgeInPlace() const;
 
+    /// What a look at the file has read of it, and nobody has asked for yet.
+    struct Seen
+    {
+        StorePart part;
+        StoreContents contents;
+    };
+
     StoreFile m_file;
+    StoreOpenMode m_mode = StoreOpenMode::MustExist;
+    bool m_isUnnoticed = false; ///< The file is read as if nobody else could write it.
+    StoreFile::Stamp m_stamp;   ///< What the file was when it was last looked at.
+    std::optional<Seen> m_seen;
     StoreFile::Identity m_identity;
     StoreFile::Identity m_logIdentity;
     std::unique_ptr<StoreConnection> m_connection;

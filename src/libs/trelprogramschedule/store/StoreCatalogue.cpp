@@ -1,5 +1,6 @@
 #include "StoreCatalogue.h"
 
+#include "ScheduleLimits.h"
 #include "StoreConnection.h"
 #include "StoreMessages.h"
 #include "StoreValues.h"
@@ -65,7 +66,11 @@ void StoreCatalogue::read(StoreContents& contents) const
     QSqlQuery row = m_connection.query(
         QStringLiteral("SELECT prog_index, name, media_path, duration_ms, kind, removed"
                        " FROM program ORDER BY prog_index"));
-    while (m_connection.next(row)) {
+    for (int count = 1; m_connection.next(row); ++count) {
+        if (count >= kIndexLimit) {
+            throw StoreError{refusal(StoreProblem::TooLarge, m_path,
+                                     excessText(kIndexLimit - 1, QStringLiteral("programs")))};
+        }
         takeRow(row, contents);
     }
 }
@@ -86,6 +91,7 @@ void StoreCatalogue::read(const std::vector<int>& indexes, StoreContents& conten
 
 void StoreCatalogue::put(const MediaSource& source, ImportResult& result)
 {
+    expectToFit(source);
     const int kind = static_cast<int>(source.kind);
     const double duration = storedDuration(source.durationMs);
     bindFrom(0, m_find, present(source.path));
@@ -106,6 +112,17 @@ void StoreCatalogue::put(const MediaSource& source, ImportResult& result)
     m_connection.exec(m_insert);
     m_done.insert(index);
     result.added.push_back(index);
+}
+
+void StoreCatalogue::expectToFit(const MediaSource& source) const
+{
+    const auto longest = static_cast<int>(kLongestText);
+    if (source.name.toUtf8().size() > longest || source.path.toUtf8().size() > longest) {
+        throw StoreError{
+            refusal(StoreProblem::TooLarge, m_path,
+                    QStringLiteral("the name or the path of a program has more than %1 bytes")
+                        .arg(longest))};
+    }
 }
 
 int StoreCatalogue::giveOutIndex()

@@ -30,6 +30,7 @@ public:
     void finish() const;
 
 private:
+    void expectToFit(const MediaSource& source) const;
     int giveOutIndex();
 
     const StoreConnection& m_connection;

@@ -1,10 +1,15 @@
 #include "StoreConnection.h"
 
+#include "StoreGuard.h"
 #include "StoreMessages.h"
 
 #include <QSqlError>
 #include <QUrl>
 #include <QVariant>
+
+#include <sqlite3.h>
+
+#include <cerrno>
 
 namespace trel::mediadispatch {
 
@@ -20,6 +25,13 @@ QString nextConnectionName()
     return QStringLiteral("trelprogramschedule-%1").arg(++number);
 }
 
+/// Whether a commit failed while it wrote the log. The part that makes it a commit is written last,
+/// so that it is not there.
+bool isLogCutShort(int code)
+{
+    return code == SQLITE_FULL || code == SQLITE_IOERR_WRITE;
+}
+
 QString fileAddress(const QString& path, StoreConnection::Access access)
 {
     QString address = QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
@@ -32,6 +44,8 @@ QString fileAddress(const QString& path, StoreConnection::Access access)
         return address + QLatin1String("?mode=ro");
     case StoreConnection::Access::Untouched:
         return address + QLatin1String("?mode=ro&immutable=1");
+    case StoreConnection::Access::Memory:
+        return QStringLiteral("file::memory:");
     }
     return address;
 }
@@ -49,7 +63,13 @@ StoreConnection::StoreConnection(const QString& path, Access access)
         options += QLatin1String(";QSQLITE_OPEN_READONLY");
     }
     m_database.setConnectOptions(options);
-    m_database.open(); // A failure shows in the first statement.
+    errno = 0;
+    // A failure shows in the first statement.
+    m_systemError = m_database.open() ? 0 : errno;
+    m_handle = sqliteHandle(m_database);
+    if (m_handle != nullptr) {
+        guardConnection(m_handle);
+    }
 }
 
 StoreConnection::~StoreConnection()
@@ -77,7 +97,12 @@ QVariant StoreConnection::value(const QString& statement) const
 QSqlQuery StoreConnection::prepare(const QString& statement) const
 {
     if (!m_database.isOpen()) {
-        throw StoreError{refusal(m_database.lastError(), m_path)};
+        throw StoreError{refusal(m_database.lastError(), m_path, m_systemError)};
+    }
+    if (m_handle == nullptr) {
+        throw StoreError{refusal(StoreProblem::Other, m_path,
+                                 QStringLiteral("the database driver is not the one that this "
+                                                "program was made for"))};
     }
     QSqlQuery query(m_database);
     query.setForwardOnly(true);
@@ -114,12 +139,48 @@ bool StoreConnection::next(QSqlQuery& query) const
 
 void StoreConnection::refuse(const QSqlQuery& query) const
 {
-    throw StoreError{refusal(query.lastError(), m_path)};
+    const int systemError = m_handle == nullptr ? 0 : sqlite3_system_errno(m_handle);
+    throw StoreError{refusal(query.lastError(), m_path, systemError),
+                     query.lastError().nativeErrorCode().toInt()};
 }
 
 void StoreConnection::setPatience(int milliseconds) const
 {
     QSqlQuery(m_database).exec(QStringLiteral("PRAGMA busy_timeout = %1").arg(milliseconds));
+}
+
+bool StoreConnection::clearFailedCommit() const
+{
+    try {
+        if (value(QStringLiteral("PRAGMA journal_mode")).toString() != QLatin1String("wal")) {
+            return true; // Undone from the journal, which is deleted last.
+        }
+        run(QStringLiteral("BEGIN IMMEDIATE"));
+    } catch (const StoreError&) {
+        return false;
+    }
+    const bool isSpoiled = spoilLogEnd();
+    QSqlQuery(m_database).exec(QStringLiteral("ROLLBACK"));
+    return isSpoiled;
+}
+
+bool StoreConnection::spoilLogEnd() const
+{
+    // When the log is written but cannot be synchronised, its last part is complete, and whoever
+    // reads the log from the disk the next time takes it for a change that was committed. A page
+    // that belongs to no commit is written over the first one of that part: all others hang
+    // together with it by their checksums. It has to differ from any page of a real change.
+    try {
+        run(QStringLiteral("UPDATE store SET schedule_revision = -1 - schedule_revision"));
+    } catch (const StoreError&) {
+        return false;
+    }
+    sqlite3_file* log = nullptr;
+    return sqlite3_db_cacheflush(m_handle) == SQLITE_OK &&
+           sqlite3_file_control(m_handle, "main", SQLITE_FCNTL_JOURNAL_POINTER, &log) ==
+               SQLITE_OK &&
+           log != nullptr && log->pMethods != nullptr &&
+           log->pMethods->xSync(log, SQLITE_SYNC_FULL) == SQLITE_OK;
 }
 
 StoreHaste::StoreHaste(const StoreConnection& connection)
@@ -142,16 +203,33 @@ StoreTransaction::StoreTransaction(const StoreConnection& connection, Purpose pu
 
 StoreTransaction::~StoreTransaction()
 {
-    if (!m_committed) {
-        // The database undoes a change by itself after some failures and then refuses this.
-        QSqlQuery(m_connection.m_database).exec(QStringLiteral("ROLLBACK"));
+    if (!m_hasEnded) {
+        rollBack();
     }
 }
 
 void StoreTransaction::commit()
 {
-    m_connection.run(QStringLiteral("COMMIT"));
-    m_committed = true;
+    try {
+        m_connection.run(QStringLiteral("COMMIT"));
+    } catch (const StoreError& error) {
+        const int systemError = sqlite3_system_errno(m_connection.m_handle);
+        rollBack();
+        if (!isLogCutShort(error.code) && !m_connection.clearFailedCommit()) {
+            throw StoreError{refusal(StoreProblem::Unclear, m_connection.m_path,
+                                     systemError == 0 ? QStringLiteral("disk I/O error")
+                                                      : qt_error_string(systemError))};
+        }
+        throw;
+    }
+    m_hasEnded = true;
+}
+
+void StoreTransaction::rollBack()
+{
+    // The database undoes a change by itself after some failures and then refuses this.
+    QSqlQuery(m_connection.m_database).exec(QStringLiteral("ROLLBACK"));
+    m_hasEnded = true;
 }
 
 } // namespace trel::mediadispatch

@@ -6,12 +6,16 @@
 #include <QSqlQuery>
 #include <QString>
 
+struct sqlite3;
+
 namespace trel::mediadispatch {
 
 /// What the members of StoreConnection throw; it never leaves the class that uses them.
 struct StoreError
 {
     StoreResult result;
+    int code =
+        0; ///< The database's own, with all that it tells; 0 where it is not an error of its.
 };
 
 /// One named connection to a database file, open from construction to destruction. All queries on
@@ -24,6 +28,7 @@ public:
         ReadWrite, ///< The file must exist.
         ReadOnly,  ///< Shares the file with other programs.
         Untouched, ///< Takes no lock and makes no file; nobody else may have the file open.
+        Memory,    ///< No file at all; the path is only for messages.
     };
 
     StoreConnection(const QString& path, Access access);
@@ -42,6 +47,9 @@ public:
     /// Goes to the next row; false behind the last.
     bool next(QSqlQuery& query) const;
 
+    /// The handle behind the connection; null where it could not be opened.
+    sqlite3* handle() const { return m_handle; }
+
 private:
     [[noreturn]] void refuse(const QSqlQuery& query) const;
 
@@ -49,10 +57,16 @@ private:
     friend class StoreTransaction;
 
     void setPatience(int milliseconds) const;
+    /// Takes away what a commit that failed has left behind the end of the log; false when it is
+    /// not certain that it has gone from the disk.
+    bool clearFailedCommit() const;
+    bool spoilLogEnd() const;
 
     QString m_path;
     QString m_name;
     QSqlDatabase m_database;
+    sqlite3* m_handle = nullptr;
+    int m_systemError = 0; ///< Why it could not be opened, as errno; 0 where that is not known.
 };
 
 /// While it lives, the connection waits for no other program and refuses with Locked at once.
@@ -80,11 +94,15 @@ public:
     ~StoreTransaction();
     Q_DISABLE_COPY(StoreTransaction)
 
+    /// Where this throws, nothing is changed, and nothing of it can come back when the log is read
+    /// again, after a power cut either; the one exception is Unclear.
     void commit();
 
 private:
+    void rollBack();
+
     const StoreConnection& m_connection;
-    bool m_committed = false;
+    bool m_hasEnded = false;
 };
 
 } // namespace trel::mediadispatch

@@ -2,14 +2,20 @@
 
 #include "StoreMessages.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QtEndian>
 
+#include <cerrno>
+#include <csignal>
 #include <cstdio>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace trel::mediadispatch {
 
@@ -48,6 +54,23 @@ StoreFile::Identity identityOf(const QString& path)
     return {status.st_dev, status.st_ino};
 }
 
+/// Stands between the name of a database and the number of the program that makes it.
+QLatin1String draftMark()
+{
+    return QLatin1String(".new-");
+}
+
+constexpr const char* kDatabaseSuffixes[] = {"", "-journal", "-wal", "-shm"};
+
+/// Whether what stands behind the mark of a draft is the number of a program that has ended.
+bool isOfStoppedProgram(const QStringRef& rest)
+{
+    static const QRegularExpression form(QStringLiteral("^([0-9]+)(-journal|-wal|-shm)?$"));
+    const QRegularExpressionMatch match = form.match(rest);
+    const int program = match.captured(1).toInt();
+    return program > 0 && ::kill(program, 0) != 0 && errno == ESRCH;
+}
+
 qint64 headerNumber(const QByteArray& header, int offset)
 {
     return qFromBigEndian<quint32>(header.constData() + offset);
@@ -81,7 +104,7 @@ StoreResult StoreFile::judge(StoreOpenMode mode, qint64 applicationId, int newes
     }
     const StoreResult content =
         isVacant() ? judgeVacant(mode) : judgeHeader(applicationId, newestSchema);
-    return content ? judgeWritable() : content;
+    return content && mode != StoreOpenMode::ReadOnly ? judgeWritable() : content;
 }
 
 StoreResult StoreFile::judgeVacant(StoreOpenMode mode) const
@@ -128,14 +151,33 @@ StoreResult StoreFile::judgeWritable() const
     return {};
 }
 
-bool StoreFile::hasSidecars() const
-{
-    return QFileInfo::exists(logPath()) || hasLogIndex();
-}
-
 bool StoreFile::hasLogIndex() const
 {
     return QFileInfo::exists(logIndexPath());
+}
+
+bool StoreFile::isLogInUse() const
+{
+    // Every program that works with a log keeps this byte of its index locked.
+    constexpr off_t inUse = 128;
+    const int index = ::open(QFile::encodeName(logIndexPath()).constData(), O_RDONLY | O_CLOEXEC);
+    if (index < 0) {
+        return false;
+    }
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    lock.l_start = inUse;
+    lock.l_len = 1;
+    const bool isInUse = ::fcntl(index, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
+    ::close(index);
+    return isInUse;
+}
+
+bool StoreFile::canHaveLogIndex() const
+{
+    const QString folder = QFileInfo(m_path).absolutePath();
+    return ::access(QFile::encodeName(folder).constData(), W_OK) == 0;
 }
 
 void StoreFile::removeLogIndex() const
@@ -150,14 +192,65 @@ void StoreFile::removeLog(const Identity& log) const
     }
 }
 
-bool StoreFile::fillFrom(const QString& finished) const
+QString StoreFile::draftPath() const
 {
-    if (!QFileInfo::exists(m_path)) {
+    return m_path + draftMark() + QString::number(QCoreApplication::applicationPid());
+}
+
+bool StoreFile::makeDraft() const
+{
+    removeDraft();
+    const int handle = ::open(QFile::encodeName(draftPath()).constData(),
+                              O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    return handle >= 0 && ::close(handle) == 0;
+}
+
+bool StoreFile::fillFromDraft() const
+{
+    const QString draft = draftPath();
+    const QFileInfo info(m_path);
+    if (!info.exists()) {
         // Unlike the call below this leaves a file alone that another program makes meanwhile.
-        return QFile::rename(finished, m_path);
+        return QFile::rename(draft, m_path);
     }
-    return std::rename(QFile::encodeName(finished).constData(),
+    return QFile::setPermissions(draft, info.permissions()) &&
+           std::rename(QFile::encodeName(draft).constData(),
                        QFile::encodeName(m_path).constData()) == 0;
+}
+
+void StoreFile::removeDraft() const
+{
+    for (const char* suffix : kDatabaseSuffixes) {
+        QFile::remove(draftPath() + QLatin1String(suffix));
+    }
+}
+
+void StoreFile::removeLeftDrafts() const
+{
+    const QFileInfo info(m_path);
+    const QString start = info.fileName() + draftMark();
+    const QFileInfoList files =
+        info.dir().entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo& file : files) {
+        if (file.fileName().startsWith(start) &&
+            isOfStoppedProgram(file.fileName().midRef(start.size()))) {
+            QFile::remove(file.filePath());
+        }
+    }
+}
+
+StoreFile::Stamp StoreFile::stamp() const
+{
+    Stamp stamp;
+    stamp.logSize = QFileInfo(logPath()).size();
+    struct stat status = {};
+    if (::stat(QFile::encodeName(m_path).constData(), &status) == 0) {
+        constexpr std::int64_t second = 1000000000;
+        stamp.identity = {status.st_dev, status.st_ino};
+        stamp.size = status.st_size;
+        stamp.changed = status.st_mtim.tv_sec * second + status.st_mtim.tv_nsec;
+    }
+    return stamp;
 }
 
 StoreFile::Identity StoreFile::identity() const

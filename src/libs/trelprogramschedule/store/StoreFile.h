@@ -28,25 +28,56 @@ public:
     /// There is no file yet, or one that holds nothing.
     bool isVacant() const;
     /// Whether a store can be made here, or what is here can be opened as one of this program's
-    /// with a schema up to the given one.
+    /// with a schema up to the given one; ReadOnly asks for no right to write.
     StoreResult judge(StoreOpenMode mode, qint64 applicationId, int newestSchema) const;
     /// ReadOnly when the file or its folder is marked so. Marks count also for a user whom the
     /// system would let write all the same.
     StoreResult judgeWritable() const;
 
-    /// The log beside the file or its index exist: another program has the store open, or the last
-    /// one that had it was stopped on the way.
-    bool hasSidecars() const;
+    /// What the file looks like from outside. While its log is empty or not there, another one
+    /// means that the database has been written in between.
+    struct Stamp
+    {
+        Identity identity;
+        std::int64_t size = 0;
+        std::int64_t changed = 0; ///< In nanoseconds.
+        std::int64_t logSize = 0; ///< As good as empty where there is none.
+
+        bool operator==(const Stamp& other) const
+        {
+            return identity == other.identity && size == other.size && changed == other.changed &&
+                   logSize == other.logSize;
+        }
+    };
+    Stamp stamp() const;
+
+    /// There is an index of a log: another program has the store open, or the last one that had it
+    /// was stopped on the way.
     bool hasLogIndex() const;
+    /// Whether the system would let an index be made.
+    bool canHaveLogIndex() const;
     /// Takes the index of the log away; only for one that this program made.
     void removeLogIndex() const;
+
+    QString logPath() const;
+    /// Another program works with the log. Not to be asked while this one does: the system would
+    /// take its locks away.
+    bool isLogInUse() const;
 
     /// Takes the log away, with its index, if it still is the one that is given; only for one whose
     /// database stands here no more.
     void removeLog(const Identity& log) const;
 
-    /// Puts a finished database in the place of a vacant file. False when that is not possible.
-    bool fillFrom(const QString& finished) const;
+    /// Makes the empty file in which a new database is built, beside the place that it is for. Only
+    /// its owner may read it. False, with the system's error in errno, when that is not possible.
+    bool makeDraft() const;
+    QString draftPath() const;
+    /// Puts the finished database in the place of a vacant file. A file that was there keeps its
+    /// mode. False when that is not possible.
+    bool fillFromDraft() const;
+    void removeDraft() const;
+    /// Removes the drafts of programs that were stopped while they made a database here.
+    void removeLeftDrafts() const;
 
     /// Device and number of the file that now stands at the path; zeros when there is none.
     Identity identity() const;
@@ -56,7 +87,6 @@ public:
 private:
     StoreResult judgeVacant(StoreOpenMode mode) const;
     StoreResult judgeHeader(qint64 applicationId, int newestSchema) const;
-    QString logPath() const;
     QString logIndexPath() const;
 
     QString m_path;

@@ -1,9 +1,14 @@
 #include "StoreMessages.h"
 
+#include "StoreGuard.h"
+
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSqlError>
 #include <QStorageInfo>
+
+#include <cerrno>
 
 namespace trel::mediadispatch {
 
@@ -15,15 +20,25 @@ enum SqliteCode {
     UnknownName = 1,
     Busy = 5,
     TableLocked = 6,
+    OutOfMemory = 7,
     WriteProtected = 8,
+    Interrupted = 9,
     InputOutput = 10,
     Corrupt = 11,
     Full = 13,
+    CannotOpen = 14,
+    TooBig = 18,
     NotADatabaseFile = 26,
 };
 
 /// Less than the log needs for a single change.
 constexpr qint64 kNoSpaceLeft = 128 * 1024;
+
+/// Neither the disk nor what a user or a program may take of it has room.
+bool isLackOfSpace(int systemError)
+{
+    return systemError == ENOSPC || systemError == EDQUOT || systemError == EFBIG;
+}
 
 bool diskIsFull(const QString& path)
 {
@@ -52,11 +67,11 @@ QString sentence(StoreProblem problem)
         return QStringLiteral(
             "%1 is in use by another program; try again when that program has closed.");
     case StoreProblem::ReadOnly:
-        return QStringLiteral("%1 cannot be written: the file or its folder is read-only.");
+        return QStringLiteral("%1 cannot be written: %2.");
     case StoreProblem::Damaged:
         return QStringLiteral("%1 is damaged: %2.");
     case StoreProblem::DiskFull:
-        return QStringLiteral("%1 cannot be written: the disk is full.");
+        return QStringLiteral("%1 cannot be written: %2.");
     case StoreProblem::MovedOn:
         return QStringLiteral("%1 has been saved by another program since it was read; saving now "
                               "would overwrite those changes.");
@@ -64,11 +79,21 @@ QString sentence(StoreProblem problem)
         return QStringLiteral("%1 has no room for so many programs: %2.");
     case StoreProblem::Other:
         return QStringLiteral("%1 could not be read or written: %2.");
+    case StoreProblem::Altered:
+        return QStringLiteral("%1 is not as this program makes a schedule database: %2.");
+    case StoreProblem::TooLarge:
+        return QStringLiteral("%1 would hold, or holds, more than a schedule may: %2.");
+    case StoreProblem::Unclear:
+        return QStringLiteral("%1 could not be written for certain: %2. The change is not to be "
+                              "seen in the file now, "
+                              "yet it may be there after the machine has stopped. Write what you "
+                              "have to another disk, "
+                              "and look at this one before you go on.");
     }
     return QString();
 }
 
-StoreProblem problemOf(int code, const QString& path)
+StoreProblem problemOf(int code, const QString& path, int systemError)
 {
     switch (code) {
     case Busy:
@@ -77,15 +102,66 @@ StoreProblem problemOf(int code, const QString& path)
     case WriteProtected:
         return StoreProblem::ReadOnly;
     case InputOutput:
-        return diskIsFull(path) ? StoreProblem::DiskFull : StoreProblem::Other;
+    case CannotOpen:
+        return isLackOfSpace(systemError) || (systemError == 0 && diskIsFull(path))
+                   ? StoreProblem::DiskFull
+                   : StoreProblem::Other;
     case UnknownName: // Every statement fits the schema: a table or a column must be missing.
     case Corrupt:
     case NotADatabaseFile:
         return StoreProblem::Damaged;
     case Full:
         return StoreProblem::DiskFull;
+    case TooBig:
+        return StoreProblem::TooLarge;
     default:
         return StoreProblem::Other;
+    }
+}
+
+/// What lack of space it is.
+QString fullText(int systemError)
+{
+    switch (systemError) {
+    case EFBIG:
+        return QStringLiteral("the system lets this program write no larger file");
+    case EDQUOT:
+        return QStringLiteral("the user's share of the disk is used up");
+    default:
+        return QStringLiteral("the disk is full");
+    }
+}
+
+/// What is said where nobody knows more.
+QString usualDetail(StoreProblem problem)
+{
+    switch (problem) {
+    case StoreProblem::DiskFull:
+        return fullText(0);
+    case StoreProblem::ReadOnly:
+        return QStringLiteral("the file or its folder is read-only");
+    default:
+        return QString();
+    }
+}
+
+/// In the database's words, and in the system's, which know more.
+QString detailOf(int code, const QSqlError& error, int systemError)
+{
+    switch (code) {
+    case Interrupted:
+        return QStringLiteral("reading it took too long");
+    case OutOfMemory:
+        return QStringLiteral("there is not enough memory");
+    case TooBig:
+        return QStringLiteral("a text in it has more than %1 bytes").arg(kLargestStoredValue);
+    case InputOutput:
+    case CannotOpen:
+        return systemError == 0 ? error.databaseText()
+                                : QStringLiteral("%1 (%2)").arg(error.databaseText(),
+                                                                qt_error_string(systemError));
+    default:
+        return error.databaseText();
     }
 }
 
@@ -96,17 +172,44 @@ StoreResult refusal(StoreProblem problem, const QString& path, const QString& de
     // The file stands first in every sentence that names it. Its name goes in last, since it may
     // hold what looks like a place mark.
     const QLatin1String file("%1");
-    QString text = sentence(problem).replace(QLatin1String("%2"), detail);
+    QString text = sentence(problem).replace(QLatin1String("%2"),
+                                             detail.isEmpty() ? usualDetail(problem) : detail);
     if (text.startsWith(file)) {
         text.replace(0, file.size(), QDir::toNativeSeparators(path));
     }
     return {problem, text};
 }
 
-StoreResult refusal(const QSqlError& error, const QString& path)
+StoreResult refusal(const QSqlError& error, const QString& path, int systemError)
 {
     const int code = error.nativeErrorCode().toInt() & 0xff;
-    return refusal(problemOf(code, path), path, error.databaseText());
+    const StoreProblem problem = problemOf(code, path, systemError);
+    return refusal(problem, path,
+                   problem == StoreProblem::DiskFull   ? fullText(systemError)
+                   : problem == StoreProblem::ReadOnly ? QString()
+                                                       : detailOf(code, error, systemError));
+}
+
+StoreResult refusalOfSystem(int systemError, const QString& path)
+{
+    return isLackOfSpace(systemError)
+               ? refusal(StoreProblem::DiskFull, path, fullText(systemError))
+               : refusal(StoreProblem::Other, path, qt_error_string(systemError));
+}
+
+StoreResult refusalOfFinding(const QString& finding, const QString& path)
+{
+    // A page that the disk does not give is no damage of the database.
+    static const QRegularExpression errorCode(QStringLiteral("error code=([0-9]+)"));
+    const int code = errorCode.match(finding).captured(1).toInt() & 0xff;
+    switch (code) {
+    case InputOutput:
+        return refusal(StoreProblem::Other, path, QStringLiteral("disk I/O error"));
+    case OutOfMemory:
+        return refusal(StoreProblem::Other, path, QStringLiteral("there is not enough memory"));
+    default:
+        return refusal(StoreProblem::Damaged, path, finding);
+    }
 }
 
 } // namespace trel::mediadispatch

@@ -11,6 +11,10 @@ namespace trel::mediadispatch {
 enum class StoreOpenMode {
     CreateIfMissing,
     MustExist,
+    /// There must be a store, which is only read: without a right to write, on read-only media and
+    /// beside a program that writes, which is not waited for. No lock is taken but the one that
+    /// keeps a log from being overwritten while it is read.
+    ReadOnly,
 };
 
 /// Why the store refused something.
@@ -28,7 +32,11 @@ enum class StoreProblem {
     DiskFull,
     MovedOn, ///< The stored set changed since it was read.
     Full,    ///< No index is left to give out.
-    Other
+    Other,
+    Altered,  ///< The database holds what no store of this program holds.
+    TooLarge, ///< The contents go beyond what a store takes.
+    Unclear,  ///< A change was refused by a disk that does not confirm either that it has gone. The
+              ///< store is read without it, yet after a power cut it may be there, whole.
 };
 
 /// How a call of the store ended.

@@ -3,9 +3,24 @@
 #include "StoreConnection.h"
 #include "StoreMessages.h"
 
+#include <QSqlQuery>
 #include <QVariant>
 
 namespace trel::mediadispatch {
+
+namespace {
+
+/// More than any schema has, so that one that has more shows.
+constexpr int kMostElements = 1000;
+/// What a message shows of a name that somebody else has chosen.
+constexpr int kLongestName = 60;
+
+QString nameText(const std::pair<QString, QString>& element)
+{
+    return QStringLiteral("%1 \"%2\"").arg(element.first, element.second.left(kLongestName));
+}
+
+} // namespace
 
 const std::vector<StoreSchema::Step>& StoreSchema::steps()
 {
@@ -83,6 +98,65 @@ int StoreSchema::newestVersion()
     return steps().back().version;
 }
 
+bool StoreSchema::isNewest(const StoreConnection& connection)
+{
+    return versionOf(connection) == newestVersion();
+}
+
+StoreSchema::Elements StoreSchema::elementsOf(const StoreConnection& connection)
+{
+    QSqlQuery row = connection.query(
+        QStringLiteral("SELECT type, name, tbl_name, sql FROM sqlite_schema LIMIT %1")
+            .arg(kMostElements));
+    Elements elements;
+    while (connection.next(row)) {
+        elements.insert({{row.value(0).toString(), row.value(1).toString()},
+                         {row.value(2).toString(), row.value(3).toString()}});
+    }
+    return elements;
+}
+
+const StoreSchema::Elements& StoreSchema::elementsOfVersion(int version)
+{
+    // The database writes definitions in its own way, so that a fresh one is asked.
+    static std::map<int, Elements> known;
+    const auto [place, isNew] = known.try_emplace(version);
+    if (isNew) {
+        const StoreConnection fresh(QString(), StoreConnection::Access::Memory);
+        for (const Step& step : steps()) {
+            for (const QString& statement :
+                 step.version <= version ? step.statements : QStringList()) {
+                fresh.run(statement);
+            }
+        }
+        place->second = elementsOf(fresh);
+    }
+    return place->second;
+}
+
+void StoreSchema::checkElements(const StoreConnection& connection, const QString& path)
+{
+    const Elements& expected = elementsOfVersion(versionOf(connection));
+    const Elements found = elementsOf(connection);
+    for (const auto& [name, definition] : expected) {
+        if (found.count(name) == 0) {
+            throw StoreError{refusal(StoreProblem::Damaged, path,
+                                     QStringLiteral("its %1 is missing").arg(nameText(name)))};
+        }
+    }
+    for (const auto& [name, definition] : found) {
+        const auto own = expected.find(name);
+        if (own == expected.end()) {
+            throw StoreError{refusal(StoreProblem::Altered, path,
+                                     QStringLiteral("it holds the %1").arg(nameText(name)))};
+        }
+        if (own->second != definition) {
+            throw StoreError{refusal(StoreProblem::Altered, path,
+                                     QStringLiteral("its %1 is another one").arg(nameText(name)))};
+        }
+    }
+}
+
 void StoreSchema::migrate(const StoreConnection& connection)
 {
     for (const Step& step : steps()) {
@@ -110,14 +184,11 @@ void StoreSchema::check(const StoreConnection& connection, const QString& path)
     if (versionOf(connection) > newestVersion()) {
         throw StoreError{refusal(StoreProblem::NewerSchema, path)};
     }
+    checkElements(connection, path);
     const QString finding =
         connection.value(QStringLiteral("PRAGMA quick_check(1)")).toString().simplified();
     if (finding != QLatin1String("ok")) {
-        throw StoreError{refusal(StoreProblem::Damaged, path, finding)};
-    }
-    for (const char* table : {"program", "task", "plan", "plan_value", "entry"}) {
-        connection.run(QLatin1String("SELECT 1 FROM ") + QLatin1String(table) +
-                       QLatin1String(" LIMIT 1"));
+        throw StoreError{refusalOfFinding(finding, path)};
     }
     if (connection.value(QStringLiteral("SELECT count(*) FROM store")).toInt() != 1) {
         throw StoreError{refusal(StoreProblem::Damaged, path,

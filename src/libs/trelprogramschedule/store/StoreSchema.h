@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
+#include <utility>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -17,12 +19,22 @@ public:
     static constexpr qint64 kApplicationId = 0x54726c53;
 
     static int newestVersion();
+    static bool isNewest(const StoreConnection& connection);
     /// Takes a database, an empty one too, to the newest version, each step in one transaction.
+    /// What is no empty one has to have passed checkElements.
     static void migrate(const StoreConnection& connection);
     /// Finds out, without writing, whether a database can be worked with; throws StoreError.
     static void check(const StoreConnection& connection, const QString& path);
+    /// The part of check that looks at tables and indices: they are exactly those of the version
+    /// that the database has, to the letter of their definitions, and there is nothing else.
+    static void checkElements(const StoreConnection& connection, const QString& path);
 
 private:
+    /// A table, an index or whatever else a database can hold, by kind and name.
+    using ElementName = std::pair<QString, QString>;
+    /// Elements with the table that they belong to and their definition.
+    using Elements = std::map<ElementName, std::pair<QString, QString>>;
+
     struct Step
     {
         int version; ///< What the schema is after the step.
@@ -30,6 +42,8 @@ private:
     };
 
     static const std::vector<Step>& steps();
+    static Elements elementsOf(const StoreConnection& connection);
+    static const Elements& elementsOfVersion(int version);
     static int versionOf(const StoreConnection& connection);
 };
 

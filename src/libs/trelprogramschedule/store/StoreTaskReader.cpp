@@ -1,5 +1,6 @@
 #include "StoreTaskReader.h"
 
+#include "ScheduleLimits.h"
 #include "StoreConnection.h"
 #include "StoreMessages.h"
 #include "StoreValues.h"
@@ -46,6 +47,7 @@ void StoreTaskReader::readTasks()
         QStringLiteral("SELECT id, CAST(start_date AS BLOB), CAST(end_date AS BLOB)"
                        " FROM task ORDER BY id"));
     while (m_connection.next(row)) {
+        expectRoom(m_tasks.size(), kMostTasks, QStringLiteral("tasks"));
         PlayTask read;
         read.id = row.value(0).toInt();
         read.startDate = utf8(row, 1);
@@ -63,7 +65,8 @@ void StoreTaskReader::readPlans()
                        " end_action, is_conflict, CAST(weeks AS BLOB), CAST(service_time AS BLOB), "
                        "has_no_duration,"
                        " service_flag_a, service_flag_b FROM plan ORDER BY task_id, position"));
-    while (m_connection.next(row)) {
+    for (std::size_t count = 0; m_connection.next(row); ++count) {
+        expectRoom(count, kMostPlans, QStringLiteral("plans"));
         std::vector<PlayPlan>& plans = task(row.value(0)).plans;
         expectPlace(row.value(1), plans.size());
         PlayPlan& read = plans.emplace_back();
@@ -88,7 +91,8 @@ void StoreTaskReader::readValues()
     QSqlQuery row = m_connection.query(
         QStringLiteral("SELECT task_id, plan_position, position, value FROM plan_value"
                        " ORDER BY task_id, plan_position, position"));
-    while (m_connection.next(row)) {
+    for (std::size_t count = 0; m_connection.next(row); ++count) {
+        expectRoom(count, kMostServiceValues, QStringLiteral("numbers in the lists of plans"));
         std::vector<std::int64_t>& values = plan(row).serviceList;
         expectPlace(row.value(2), values.size());
         values.push_back(row.value(3).toLongLong());
@@ -100,7 +104,8 @@ void StoreTaskReader::readEntries()
     QSqlQuery row = m_connection.query(QStringLiteral(
         "SELECT task_id, plan_position, position, prog_index, is_invalid, CAST(name AS BLOB),"
         " play_count FROM entry ORDER BY task_id, plan_position, position"));
-    while (m_connection.next(row)) {
+    for (std::size_t count = 0; m_connection.next(row); ++count) {
+        expectRoom(count, kMostEntries, QStringLiteral("entries of programs"));
         std::vector<struProgInfo>& entries = plan(row).programs;
         expectPlace(row.value(2), entries.size());
         struProgInfo& read = entries.emplace_back();
@@ -136,6 +141,13 @@ void StoreTaskReader::expectPlace(const QVariant& position, std::size_t expected
 {
     if (position.toULongLong() != expected) {
         refuse();
+    }
+}
+
+void StoreTaskReader::expectRoom(std::size_t count, std::size_t most, const QString& noun) const
+{
+    if (count >= most) {
+        throw StoreError{refusal(StoreProblem::TooLarge, m_path, excessText(most, noun))};
     }
 }
 

@@ -35,6 +35,8 @@ private:
     PlayPlan& plan(const QSqlQuery& row);
     /// Lists come without gaps: a row that is not the next of its list is damage.
     void expectPlace(const QVariant& position, std::size_t expected) const;
+    /// For one more than there are.
+    void expectRoom(std::size_t count, std::size_t most, const QString& noun) const;
     [[noreturn]] void refuse() const;
 
     const StoreConnection& m_connection;
