@@ -2,6 +2,7 @@
 
 #include "card/BoolCheckDelegate.h"
 #include "clock/Clock.h"
+#include "trelwidgets/PlainToolTip.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
@@ -92,8 +93,8 @@ void MultiComboBox::showText(const QString& text)
     if (lineEdit()) {
         lineEdit()->setCursorPosition(0);
     }
-    if (toolTip() != text) {
-        setToolTip(text);
+    if (const QString tip = widgets::plainToolTip(text); toolTip() != tip) {
+        setToolTip(tip);
     }
 }
 

@@ -32,6 +32,7 @@
 #include "toolkit/NewWidgets.h"
 
 #include "trelwidgets/ComboBox.h"
+#include "trelwidgets/PlainToolTip.h"
 
 #include <QDate>
 #include <QDebug>
@@ -253,8 +254,8 @@ void PlanTaskWidget::slotTranslation()
         translateRows(texts);
     }
     m_ui->translate(m_task);
-    m_ui->pbtCreatCopy->setToolTip(texts.copy);
-    m_ui->pushButtonDelete->setToolTip(texts.remove);
+    m_ui->pbtCreatCopy->setToolTip(widgets::plainToolTip(texts.copy));
+    m_ui->pushButtonDelete->setToolTip(widgets::plainToolTip(texts.remove));
     refreshConflicts(catalogue);
 }
 

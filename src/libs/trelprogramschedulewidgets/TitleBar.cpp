@@ -1,6 +1,7 @@
 #include "TitleBar.h"
 
 #include "ScheduleText.h"
+#include "trelwidgets/PlainToolTip.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -86,6 +87,7 @@ void TitleBar::buildForm()
     m_transCombo->setVisible(false);
 
     m_titleLabel = new QLabel;
+    m_titleLabel->setTextFormat(Qt::PlainText);
     m_titleLabel->setObjectName(QStringLiteral("TitleLabel"));
     m_titleLabel->setContextMenuPolicy(Qt::NoContextMenu);
     m_titleLabel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -214,7 +216,7 @@ void TitleBar::retranslate()
     }};
     for (const auto& [button, key] : toolTips) {
         if (button) {
-            button->setToolTip(scheduleText(key));
+            button->setToolTip(widgets::plainToolTip(scheduleText(key)));
             button->setAccessibleName(scheduleText(key));
         }
     }

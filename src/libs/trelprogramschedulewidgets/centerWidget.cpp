@@ -103,6 +103,7 @@ void centerWidget::setUpScrollArea()
 void centerWidget::setUpHint()
 {
     m_hintLabel = new QLabel(m_ui->scrollArea);
+    m_hintLabel->setTextFormat(Qt::PlainText);
     m_hintLabel->setProperty(kStyle, QStringLiteral("grayHint"));
 
     // A layout on the area itself, not on its viewport, so that the hint floats over the list.

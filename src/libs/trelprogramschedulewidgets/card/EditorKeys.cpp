@@ -1,5 +1,7 @@
 #include "EditorKeys.h"
 
+#include "trelwidgets/PlainToolTip.h"
+
 namespace trel::mediadispatch {
 
 namespace {
@@ -57,7 +59,7 @@ QString keyText(EditorKey key)
 
 QString withKey(const QString& text, EditorKey key)
 {
-    return QStringLiteral("%1 (%2)").arg(text, keyText(key));
+    return widgets::plainToolTip(QStringLiteral("%1 (%2)").arg(text, keyText(key)));
 }
 
 } // namespace trel::mediadispatch

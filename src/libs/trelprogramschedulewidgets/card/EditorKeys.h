@@ -30,7 +30,7 @@ QList<QKeySequence> keysOf(EditorKey key);
 /// The first of them as the platform writes it.
 QString keyText(EditorKey key);
 
-/// A text with that behind it, in brackets, as for a tool tip.
+/// A text with that behind it, in brackets, as a tool tip has to get it.
 QString withKey(const QString& text, EditorKey key);
 
 } // namespace trel::mediadispatch

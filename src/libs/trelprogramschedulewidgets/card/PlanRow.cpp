@@ -9,6 +9,7 @@
 #include "toolkit/FocusedWheel.h"
 
 #include "trelwidgets/ComboBox.h"
+#include "trelwidgets/PlainToolTip.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -109,7 +110,7 @@ void nameEditors(const QTableView& table, int row, const PlanRowTexts& texts)
 void setCellToolTip(const QTableView& table, const QModelIndex& cell, const QString& text)
 {
     if (QWidget* const holder = table.indexWidget(cell)) {
-        holder->setToolTip(text);
+        holder->setToolTip(widgets::plainToolTip(text));
     }
 }
 
@@ -219,6 +220,7 @@ QSpinBox* RowBuilder::addTimesBox(int times) const
 QLabel* RowBuilder::addStateLabel() const
 {
     auto* const label = new QLabel(m_table.viewport());
+    label->setTextFormat(Qt::PlainText);
     markRow(*label, m_row);
     place(StateColumn, label);
     return label;
@@ -268,7 +270,7 @@ QPushButton* RowBuilder::addButton(PlanColumn column, const QString& image, cons
     button->setProperty("imageBtn", image);
     button->setProperty("id", planId);
     // The whole cell tells what the button does.
-    holder->setToolTip(toolTip);
+    holder->setToolTip(widgets::plainToolTip(toolTip));
     place(column, holder);
     return button;
 }

@@ -4,6 +4,7 @@
 #include "ScheduleText.h"
 #include "service/DateText.h"
 #include "service/ScheduleRecords.h"
+#include "trelwidgets/PlainToolTip.h"
 
 #include <QApplication>
 #include <QEnterEvent>
@@ -19,7 +20,8 @@ constexpr int kCardWidth = 1100;
 
 void showToolTip(const QEvent& event, const QString& text, QPushButton* button)
 {
-    QToolTip::showText(static_cast<const QEnterEvent&>(event).globalPos(), text, button);
+    QToolTip::showText(static_cast<const QEnterEvent&>(event).globalPos(),
+                       widgets::plainToolTip(text), button);
 }
 
 /// Lets a widget reach over the side margins of its layout, to the edges of the card.

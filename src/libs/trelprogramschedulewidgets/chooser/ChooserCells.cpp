@@ -2,6 +2,7 @@
 
 #include "CheckOrder.h"
 #include "ChooserColumns.h"
+#include "trelwidgets/PlainToolTip.h"
 
 #include <QStandardItem>
 
@@ -100,7 +101,7 @@ private:
     static QStandardItem* makeName(const QString& name)
     {
         auto* cell = new QStandardItem(name);
-        cell->setToolTip(name);
+        cell->setToolTip(widgets::plainToolTip(name));
         return cell;
     }
 
@@ -154,7 +155,7 @@ private:
     {
         QStandardItem* const cell = makeLike(m_text, row.name);
         if (!row.toolTip.isEmpty()) {
-            cell->setToolTip(row.toolTip);
+            cell->setToolTip(widgets::plainToolTip(row.toolTip));
         }
         if (row.foreground.style() != Qt::NoBrush) {
             cell->setForeground(row.foreground);
