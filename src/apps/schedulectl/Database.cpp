@@ -21,8 +21,15 @@ QString fileOf(const Invocation& invocation, Database::Access access)
 
 ScheduleHost::OpenMode modeOf(Database::Access access)
 {
-    return access == Database::Access::Write ? ScheduleHost::OpenMode::CreateIfMissing
-                                             : ScheduleHost::OpenMode::MustExist;
+    switch (access) {
+    case Database::Access::Read:
+        return ScheduleHost::OpenMode::ReadOnly;
+    case Database::Access::Change:
+        return ScheduleHost::OpenMode::MustExist;
+    case Database::Access::Write:
+        break;
+    }
+    return ScheduleHost::OpenMode::CreateIfMissing;
 }
 
 StoreResult openPart(Database::Part part, const QString& file, ScheduleHost::OpenMode mode)
@@ -47,7 +54,7 @@ QString Database::error() const
 {
     const bool isMissing = m_result.problem == StoreProblem::FileMissing ||
                            m_result.problem == StoreProblem::FolderMissing;
-    return isMissing && m_access == Access::Read
+    return isMissing && m_access != Access::Write
                ? m_result.message + QStringLiteral(" \"schedulectl import\" makes a database.")
                : m_result.message;
 }

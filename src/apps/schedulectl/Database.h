@@ -16,8 +16,9 @@ class Database
 {
 public:
     enum class Access {
-        Read,  ///< The database has to exist.
-        Write, ///< It is made when it is missing.
+        Read,   ///< The database has to exist, and is neither changed nor waited for.
+        Change, ///< It has to exist.
+        Write,  ///< It is made when it is missing.
     };
 
     /// How much of it is read when it is opened.

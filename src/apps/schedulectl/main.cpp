@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QTextCodec>
 
+#include <csignal>
+
 namespace {
 
 ExitStatus obey(const CommandLine& line, Console& console)
@@ -32,6 +34,8 @@ ExitStatus obey(const CommandLine& line, Console& console)
 
 int main(int argc, char** argv)
 {
+    // A file that may not grow is refused like a full disk, with a message.
+    std::signal(SIGXFSZ, SIG_IGN);
     // Arguments, names of files and output are in UTF-8, so that a script gives the same names
     // under the poor locale of a cron job as in a terminal.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));

@@ -193,7 +193,7 @@ ExitStatus runRemoveProgram(const Invocation& invocation, Console& console)
         return Misused;
     }
     const auto database =
-        openDatabase(invocation, Database::Access::Read, console, Database::Part::Catalogue);
+        openDatabase(invocation, Database::Access::Change, console, Database::Part::Catalogue);
     if (!database) {
         return Refused;
     }

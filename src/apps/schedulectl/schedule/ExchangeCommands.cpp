@@ -37,14 +37,14 @@ FileContent readAll(const QString& path)
     if (path == kStandardStream) {
         QFile stream;
         if (stream.open(stdin, QIODevice::ReadOnly)) {
-            content.bytes = stream.readAll();
+            content.bytes = readScheduleJson(stream);
         }
         content.error = stream.error() == QFileDevice::NoError ? QString() : stream.errorString();
         return content;
     }
     PatientFile file(path, kPipePatience);
     if (file.open(QIODevice::ReadOnly)) {
-        content.bytes = file.readAll();
+        content.bytes = readScheduleJson(file);
     }
     content.error = file.hasFailed() ? file.errorString() : QString();
     return content;
@@ -115,7 +115,7 @@ ExitStatus runExport(const Invocation& invocation, Console& console)
     const QString& file = invocation.arguments.first();
     const auto tasks = database->tasks();
     if (file == kStandardStream) {
-        console.write(scheduleToJson(tasks));
+        console.writeExport(scheduleToJson(tasks));
         return Done;
     }
     if (isSameFile(file, database->path())) {

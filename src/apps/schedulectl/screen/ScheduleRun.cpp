@@ -129,7 +129,7 @@ void ScheduleRun::write(const ScreenState& state)
         QJsonObject object = words.json(state);
         object.insert(QStringLiteral("moment"), words.jsonMoment(moment));
         object.insert(QStringLiteral("why"), words.reasonText(state));
-        m_console.write(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
+        m_console.writeJson(QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n');
     } else {
         m_console.writeLine(QStringLiteral("%1  %2 until %3. %4")
                                 .arg(local.text(moment), words.pictureText(state),

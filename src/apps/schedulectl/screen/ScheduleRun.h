@@ -3,8 +3,8 @@
 #include "Command.h"
 #include "Database.h"
 #include "ScreenWords.h"
-#include "StopSignals.h"
 #include "StoreWatch.h"
+#include "common/StopSignals.h"
 
 #include <QEventLoop>
 #include <QObject>

@@ -189,7 +189,7 @@ ExitStatus runSchedule(const Invocation& invocation, Console& console)
     if (!knowsLocalTime(console)) {
         return Refused;
     }
-    const auto database = openDatabase(invocation, Database::Access::Read, console);
+    const auto database = openDatabase(invocation, Database::Access::Change, console);
     if (!database) {
         return Refused;
     }

@@ -106,7 +106,7 @@ void TimelineJson::begin(const QJsonObject& head, const QString& listName)
 {
     QByteArray text = QJsonDocument(head).toJson(QJsonDocument::Indented);
     text.truncate(text.lastIndexOf("\n}"));
-    m_console.write(text + ",\n    \"" + listName.toUtf8() + "\": [");
+    m_console.writeJson(text + ",\n    \"" + listName.toUtf8() + "\": [");
 }
 
 void TimelineJson::write(const ScreenState& state, const std::optional<ScreenState>& after)
@@ -116,12 +116,12 @@ void TimelineJson::write(const ScreenState& state, const std::optional<ScreenSta
         object.insert(QStringLiteral("listUntil"),
                       m_words.jsonMoment(after ? after->since : kNever));
     }
-    m_console.write((m_isFirst ? QByteArray("\n        ") : QByteArray(",\n        ")) +
-                    QJsonDocument(object).toJson(QJsonDocument::Compact));
+    m_console.writeJson((m_isFirst ? QByteArray("\n        ") : QByteArray(",\n        ")) +
+                        QJsonDocument(object).toJson(QJsonDocument::Compact));
     m_isFirst = false;
 }
 
 void TimelineJson::end()
 {
-    m_console.write(m_isFirst ? QByteArray("]\n}\n") : QByteArray("\n    ]\n}\n"));
+    m_console.writeJson(m_isFirst ? QByteArray("]\n}\n") : QByteArray("\n    ]\n}\n"));
 }

@@ -35,7 +35,22 @@ Console::~Console()
     clearProgress();
 }
 
-void Console::write(const QByteArray& utf8)
+void Console::write(const QString& lines)
+{
+    writeResult(escapedLines(lines).toUtf8());
+}
+
+void Console::writeLine(const QString& line)
+{
+    writeResult(escapedText(line).toUtf8() + '\n');
+}
+
+void Console::writeExport(const QByteArray& utf8)
+{
+    writeResult(utf8);
+}
+
+void Console::writeResult(const QByteArray& utf8)
 {
     clearProgress();
     m_hasFailed = !writeBytes(stdout, utf8) || m_hasFailed;
@@ -49,7 +64,12 @@ bool Console::flush()
 
 void Console::writeJson(const QJsonObject& object)
 {
-    write(QJsonDocument(object).toJson(QJsonDocument::Indented));
+    writeJson(QJsonDocument(object).toJson(QJsonDocument::Indented));
+}
+
+void Console::writeJson(const QByteArray& json)
+{
+    writeResult(printableJson(json));
 }
 
 void Console::tell(const QString& sentence)
@@ -60,7 +80,7 @@ void Console::tell(const QString& sentence)
 void Console::tellLine(const QString& line)
 {
     clearProgress();
-    writeBytes(stderr, line.toUtf8() + '\n');
+    writeBytes(stderr, escapedText(line).toUtf8() + '\n');
 }
 
 void Console::showProgress(int done, int total, const QString& what)

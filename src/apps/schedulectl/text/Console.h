@@ -13,12 +13,17 @@ public:
     ~Console();
     Q_DISABLE_COPY(Console)
 
-    /// Writes a result as it is.
-    void write(const QByteArray& utf8);
-    void write(const QString& text) { write(text.toUtf8()); }
-    /// Writes a result and ends the line.
-    void writeLine(const QString& line) { write(line + QLatin1Char('\n')); }
+    /// Writes lines of a result. What a terminal would obey, but the end of a line, is written as
+    /// an escape; a text that came from elsewhere has to be printable() all the same, or a line of
+    /// its could pass for one of the result.
+    void write(const QString& lines);
+    /// Writes a result and ends the line, which is one line whatever it holds.
+    void writeLine(const QString& line);
     void writeJson(const QJsonObject& object);
+    /// Writes JSON, or a part of it. What a terminal would obey is escaped as JSON does it.
+    void writeJson(const QByteArray& json);
+    /// Writes an export as it is; nothing in it may be what a terminal would obey.
+    void writeExport(const QByteArray& utf8);
     /// False once something that was written did not arrive.
     bool arrives() const { return !m_hasFailed; }
 
@@ -26,7 +31,8 @@ public:
     /// that, or anything written before, did not arrive.
     bool flush();
 
-    /// Tells the user what went wrong or should be known, under the program's name.
+    /// Tells the user what went wrong or should be known, under the program's name. What a terminal
+    /// would obey is written as an escape, in this and the next.
     void tell(const QString& sentence);
     /// Tells the user without the program's name in front.
     void tellLine(const QString& line);
@@ -39,6 +45,7 @@ public:
     QString finish();
 
 private:
+    void writeResult(const QByteArray& utf8);
     void clearProgress();
 
     bool m_showsProgress = false;

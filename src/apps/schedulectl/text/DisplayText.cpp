@@ -1,5 +1,6 @@
 #include "DisplayText.h"
 
+#include <QStringList>
 #include <QVector>
 
 #include <algorithm>
@@ -59,12 +60,16 @@ int widthOf(uint character)
     return isWide(character) ? 2 : 1;
 }
 
-/// The marks that turn the direction of writing around for what follows.
+/// The marks that turn the direction of writing around, for what follows or beside them.
 bool isDirectionMark(QChar character)
 {
+    constexpr ushort arabicLetterMark = 0x061C;
+    constexpr Range marks = {0x200E, 0x200F};
     constexpr Range overrides = {0x202A, 0x202E};
     constexpr Range isolates = {0x2066, 0x2069};
-    return holds(overrides, character.unicode()) || holds(isolates, character.unicode());
+    const ushort code = character.unicode();
+    return code == arabicLetterMark || holds(marks, code) || holds(overrides, code) ||
+           holds(isolates, code);
 }
 
 bool mustBeEscaped(QChar character)
@@ -109,6 +114,13 @@ int displayWidth(const QString& text)
 
 QString printable(const QString& text)
 {
+    // No path that the system takes, but for some that were made for it, is longer.
+    constexpr int longest = 512;
+    return shortened(text, longest);
+}
+
+QString escapedText(const QString& text)
+{
     QString shown;
     shown.reserve(text.size());
     for (const QChar character : text) {
@@ -119,6 +131,29 @@ QString printable(const QString& text)
         }
     }
     return shown;
+}
+
+QString escapedLines(const QString& lines)
+{
+    QStringList shown = lines.split(QLatin1Char('\n'));
+    std::transform(shown.begin(), shown.end(), shown.begin(),
+                   [](const QString& line) { return escapedText(line); });
+    return shown.join(QLatin1Char('\n'));
+}
+
+QByteArray printableJson(const QByteArray& json)
+{
+    constexpr ushort lastOfAscii = 0x7E; // What stands below is escaped already, or form.
+    QString shown;
+    shown.reserve(json.size());
+    for (const QChar character : QString::fromUtf8(json)) {
+        if (character.unicode() > lastOfAscii && mustBeEscaped(character)) {
+            shown += QStringLiteral("\\u%1").arg(character.unicode(), 4, 16, QLatin1Char('0'));
+        } else {
+            shown += character;
+        }
+    }
+    return shown.toUtf8();
 }
 
 QString printable(const std::string& utf8)
@@ -133,7 +168,7 @@ QString quoted(const QString& text)
 
 QString shortened(const QString& text, int columns)
 {
-    QString shown = printable(text);
+    QString shown = escapedText(text);
     if (displayWidth(shown) <= columns) {
         return shown;
     }

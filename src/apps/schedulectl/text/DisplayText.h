@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <string>
@@ -9,10 +10,20 @@
 int displayWidth(const QString& text);
 
 /// The text as it may go to a terminal: what would move the cursor, change colours or turn the
-/// direction of writing around is written as an escape, such as \n or \x1b.
+/// direction of writing around is written as an escape, such as \n or \x1b. A text that would fill
+/// the terminal loses its middle.
 QString printable(const QString& text);
 /// As above, of UTF-8; bytes that are none become U+FFFD.
 QString printable(const std::string& utf8);
+
+/// As printable, whole.
+QString escapedText(const QString& text);
+
+/// As escapedText, of lines, which stay lines.
+QString escapedLines(const QString& lines);
+
+/// JSON, in UTF-8, with what a terminal would obey escaped as JSON does it; it means the same.
+QByteArray printableJson(const QByteArray& json);
 
 /// A printable text in quotation marks.
 QString quoted(const QString& text);

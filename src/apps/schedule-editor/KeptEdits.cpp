@@ -1,0 +1,45 @@
+#include "KeptEdits.h"
+
+#include "clock/Clock.h"
+#include "common/DefaultDatabase.h"
+#include "trelprogramschedule/json/ScheduleJson.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+QString freshName(const QDir& folder, const QString& store)
+{
+    const QDateTime now = QDateTime::fromMSecsSinceEpoch(Clock::current().msecsSinceEpoch());
+    const QString start = QStringLiteral("%1.not-saved-%2")
+                              .arg(QFileInfo(store).completeBaseName(),
+                                   now.toString(QStringLiteral("yyyyMMdd-hhmmss")));
+    QString name = start;
+    for (int number = 2; folder.exists(name + QStringLiteral(".json")); ++number) {
+        name = QStringLiteral("%1-%2").arg(start, QString::number(number));
+    }
+    return folder.filePath(name + QStringLiteral(".json"));
+}
+
+} // namespace
+
+KeptEdits keepEdits(const std::map<int, PlayTask>& tasks, const QString& store)
+{
+    KeptEdits kept;
+    for (const QString& beside : {store, makeDefaultDatabaseFolder()}) {
+        if (beside.isEmpty()) {
+            continue;
+        }
+        const QString file = freshName(QFileInfo(beside).absoluteDir(), store);
+        kept.error = writeScheduleFile(file, tasks);
+        if (kept.error.isEmpty()) {
+            kept.file = file;
+            break;
+        }
+    }
+    return kept;
+}
