@@ -6,6 +6,7 @@
 #include "SaveRescue.h"
 #include "ScheduleSummary.h"
 #include "common/DefaultDatabase.h"
+#include "common/StopSignals.h"
 #include "common/ZoneError.h"
 #include "look/ThemeImages.h"
 #include "look/Themes.h"
@@ -16,10 +17,13 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QSettings>
+#include <QTemporaryFile>
 #include <QTextStream>
 #include <QTimer>
 
+#include <csignal>
 #include <cstdio>
 
 using namespace trel::mediadispatch;
@@ -62,6 +66,16 @@ QString languageFolder()
                            QStringLiteral("/../share/trelprogramschedulewidgets/languages"));
 }
 
+/// A file for the picture of a run that was given none: in the user's own data, under a name that
+/// nobody can guess, and for his eyes only. Empty where none can be made.
+QString freshPictureFile()
+{
+    const QDir folder(QFileInfo(makeDefaultDatabaseFolder()).absolutePath());
+    QTemporaryFile file(folder.filePath(QStringLiteral("schedule-editor-XXXXXX.png")));
+    file.setAutoRemove(false);
+    return file.open() ? file.fileName() : QString();
+}
+
 /// Opens the first card, so that the picture shows plans, and writes the picture.
 bool writePicture(scheduleControlUI& editor, const QString& file)
 {
@@ -92,6 +106,8 @@ int report(scheduleControlUI& editor, const QString& picture)
 
 int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
 {
+    // A file that may not grow is refused like a full disk, with a message.
+    std::signal(SIGXFSZ, SIG_IGN);
     allowOffScreen();
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -135,6 +151,8 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
 
     EditorWindow window(editor, languages, themes);
     const SaveRescue rescue(ScheduleHost::instance(), &window);
+    const StopSignals stop;
+    QObject::connect(&stop, &StopSignals::stopped, &application, &QCoreApplication::quit);
     const QString database =
         options.database.isEmpty() ? makeDefaultDatabaseFolder() : options.database;
     const QString error = window.openDatabase(database, options.demonstration);
@@ -145,9 +163,8 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
 
     int status = 0;
     const auto reportAndLeave = [&] {
-        status = report(editor, options.screenshot.isEmpty()
-                                    ? QDir::temp().filePath(QStringLiteral("schedule-editor.png"))
-                                    : options.screenshot);
+        status =
+            report(editor, options.screenshot.isEmpty() ? freshPictureFile() : options.screenshot);
         QCoreApplication::exit(status);
     };
     QTimer::singleShot(kShowGuardMSecs, &window, [&] {

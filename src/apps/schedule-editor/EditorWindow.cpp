@@ -96,6 +96,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
 
     m_hint->setObjectName(QStringLiteral("programHint"));
+    m_hint->setTextFormat(Qt::PlainText);
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setWordWrap(true);
 
@@ -285,7 +286,7 @@ void EditorWindow::importSchedule()
     }
     // A pipe that has nothing ready would keep the windows waiting.
     PatientFile file(name, std::chrono::milliseconds(0));
-    const QByteArray json = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const QByteArray json = file.open(QIODevice::ReadOnly) ? readScheduleJson(file) : QByteArray();
     if (file.hasFailed()) {
         tell(tr("%1 could not be read: %2").arg(name, file.errorString()));
         return;
@@ -318,6 +319,11 @@ void EditorWindow::removeSelectedPrograms()
     if (rows.isEmpty()) {
         return;
     }
+    // While the question stands, programs may come and go, and with them the rows.
+    std::vector<int> indexes;
+    for (const QModelIndex& row : rows) {
+        indexes.push_back(row.data(ProgramTableModel::ProgramIndexRole).toInt());
+    }
     const int answer =
         prompts::confirm(tr("Remove %n programs from the catalog? Plans that use them will show "
                             "their entries as invalid. The files are not deleted.",
@@ -325,10 +331,6 @@ void EditorWindow::removeSelectedPrograms()
                          tr("Remove"), tr("Cancel"));
     if (answer != 1) {
         return;
-    }
-    std::vector<int> indexes;
-    for (const QModelIndex& row : rows) {
-        indexes.push_back(row.data(ProgramTableModel::ProgramIndexRole).toInt());
     }
     if (const StoreResult result = ScheduleHost::instance().removePrograms(indexes); !result) {
         tell(result.message);
@@ -343,6 +345,9 @@ void EditorWindow::importMedia(const QStringList& paths)
     m_job = new ImportJob(paths, this);
     m_progress = new QProgressDialog(this);
     m_progress->setObjectName(QStringLiteral("importProgress"));
+    auto* shown = new QLabel(m_progress);
+    shown->setTextFormat(Qt::PlainText); // Names of files are no markup.
+    m_progress->setLabel(shown);
     m_progress->setWindowTitle(tr("Importing"));
     m_progress->setCancelButtonText(tr("Cancel"));
     m_progress->setWindowModality(Qt::WindowModal);

@@ -3,6 +3,7 @@
 #include "BidiText.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
+#include "trelwidgets/PlainToolTip.h"
 
 #include <QBrush>
 #include <QGuiApplication>
@@ -108,12 +109,11 @@ QVariant ProgramTableModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return text(program, index.column());
-    case Qt::ToolTipRole:
-        if (program.isNull) {
-            return tr("File not found: %1")
-                .arg(shownAddress(QString::fromStdString(program.mediaPath)));
-        }
-        return shownAddress(QString::fromStdString(program.mediaPath));
+    case Qt::ToolTipRole: {
+        const QString address = shownAddress(QString::fromStdString(program.mediaPath));
+        return trel::widgets::plainToolTip(program.isNull ? tr("File not found: %1").arg(address)
+                                                          : address);
+    }
     case Qt::TextAlignmentRole:
         return alignmentOf(index.column());
     case Qt::ForegroundRole:

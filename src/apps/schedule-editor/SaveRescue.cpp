@@ -1,10 +1,17 @@
 #include "SaveRescue.h"
 
 #include "HostPrompts.h"
+#include "KeptEdits.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
+#include <QApplication>
+#include <QEvent>
+#include <QEventLoop>
+#include <QMetaObject>
 #include <QWidget>
+
+#include <utility>
 
 using namespace trel::mediadispatch;
 
@@ -14,6 +21,9 @@ SaveRescue::SaveRescue(ScheduleHost& host, QWidget* window)
     , m_window(window)
 {
     connect(&m_host, &ScheduleHost::saveFailed, this, &SaveRescue::rescue, Qt::DirectConnection);
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &SaveRescue::leave,
+            Qt::DirectConnection);
+    m_window->installEventFilter(this);
 }
 
 SaveRescue::Answer SaveRescue::ask(const QString& reason)
@@ -52,9 +62,25 @@ bool SaveRescue::writeFile()
 
 void SaveRescue::rescue(const StoreResult& reason)
 {
+    m_isAsking = true;
+    askUntilDone(reason);
+    m_isAsking = false;
+    if (std::exchange(m_isLeft, false)) {
+        // The caller still closes what it has to close.
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    }
+}
+
+void SaveRescue::askUntilDone(const StoreResult& reason)
+{
     QString sentence = reason.message;
     for (;;) {
-        switch (ask(sentence)) {
+        const Answer answer = ask(sentence);
+        if (answer == Answer::None && isLeaving()) {
+            keep();
+            return;
+        }
+        switch (answer) {
         case Answer::TryAgain: {
             const StoreResult again = m_host.trySave();
             if (again) {
@@ -75,4 +101,48 @@ void SaveRescue::rescue(const StoreResult& reason)
             break;
         }
     }
+}
+
+bool SaveRescue::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_window && event->type() == QEvent::Close && m_isAsking) {
+        // It closes with the program, once the edits are safe.
+        event->ignore();
+        leave();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void SaveRescue::leave()
+{
+    if (!m_isAsking) {
+        return;
+    }
+    m_isLeft = true;
+    // The question itself, or a file dialog over it.
+    for (QWidget* top = QApplication::activeModalWidget(); top != nullptr && top->close();) {
+        top = QApplication::activeModalWidget();
+    }
+}
+
+bool SaveRescue::isLeaving() const
+{
+    // Once the program quits, no event loop runs any more: a question would come back unanswered at
+    // once, for ever.
+    QEventLoop trial;
+    QMetaObject::invokeMethod(&trial, &QEventLoop::quit, Qt::QueuedConnection);
+    return m_isLeft || trial.exec() != 0;
+}
+
+void SaveRescue::keep()
+{
+    const KeptEdits edits = keepEdits(scheduleManage::getInstance().getAllTask(), m_host.path());
+    if (edits.file.isEmpty()) {
+        qWarning("The changes that were not saved could not be kept: %s",
+                 qUtf8Printable(edits.error));
+    } else {
+        qWarning("The changes that were not saved stand in %s", qUtf8Printable(edits.file));
+    }
+    emit kept(edits.file);
 }

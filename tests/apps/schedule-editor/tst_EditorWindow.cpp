@@ -25,6 +25,7 @@ private slots:
     void theLanguageInUseIsMarked();
     void anUnknownLanguageChangesNothing();
     void removingAProgramAsksFirst();
+    void aRemovalTakesWhatTheQuestionNamed();
     void closingWithUnsavedChangesAsks_data();
     void closingWithUnsavedChangesAsks();
     void closingWithoutChangesAsksNothing();
@@ -184,6 +185,27 @@ void tst_EditorWindow::removingAProgramAsksFirst()
     QCOMPARE(fixture.manager.getPrograms().size(), std::size_t(7));
     QCOMPARE(fixture.manager.getPrograms().count(2), std::size_t(0));
     QCOMPARE(table->model()->rowCount(), 7);
+}
+
+/// Also when the rows are others by the time of the answer.
+void tst_EditorWindow::aRemovalTakesWhatTheQuestionNamed()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database, QStringLiteral(DEMONSTRATION));
+    fixture.window.show();
+    auto* table = fixture.window.findChild<QTableView*>(QStringLiteral("programTable"));
+    table->selectRow(1);
+    // The prompt's loop handles this before it comes to the answer.
+    QTimer::singleShot(0, &fixture.window, [&fixture] { QVERIFY(fixture.host.removeProgram(1)); });
+    {
+        const PromptAnswer answer(1);
+        action(fixture.window, QStringLiteral("Remove from catalog"))->trigger();
+        QCOMPARE(answer.count(), 1);
+    }
+    const auto programs = fixture.manager.getPrograms();
+    QCOMPARE(programs.size(), std::size_t(6));
+    QCOMPARE(programs.count(2), std::size_t(0));
+    QCOMPARE(programs.count(3), std::size_t(1));
 }
 
 void tst_EditorWindow::closingWithUnsavedChangesAsks_data()

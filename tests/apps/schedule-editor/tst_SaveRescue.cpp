@@ -1,5 +1,7 @@
 #include "HostFixture.h"
+#include "KeptEdits.h"
 #include "SaveRescue.h"
+#include "common/StopSignals.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
@@ -11,6 +13,8 @@
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTimer>
+
+#include <csignal>
 
 using namespace trel::mediadispatch;
 
@@ -44,6 +48,27 @@ public:
 
 private:
     static QString name() { return QStringLiteral("other program"); }
+};
+
+/// Ends a test that is asked again and again.
+class PromptCount : public QObject
+{
+public:
+    PromptCount() { qApp->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        constexpr int most = 5;
+        if (event->type() == QEvent::Show && watched->inherits("trel::widgets::TipDialog") &&
+            ++m_count > most) {
+            qFatal("asked for ever");
+        }
+        return false;
+    }
+
+private:
+    int m_count = 0;
 };
 
 /// Types a name into the next file dialog and accepts it, or turns it away for an empty name.
@@ -83,6 +108,9 @@ private slots:
     void givingUpKeepsTheStoredSet();
     void escapeIsNoAnswer();
     void theSecondEditorIsRefused();
+    void quittingKeepsTheEdits_data();
+    void quittingKeepsTheEdits();
+    void editsAreKeptWhereTheyCanBe();
 
 private:
     struct Edited : HostFixture
@@ -214,6 +242,89 @@ void tst_SaveRescue::theSecondEditorIsRefused()
 
     QCOMPARE(answer.count(), 2);
     QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(3));
+}
+
+void tst_SaveRescue::quittingKeepsTheEdits_data()
+{
+    QTest::addColumn<QString>("way");
+    for (const char* way : {"quit", "terminated", "window closed", "quit in the file dialog"}) {
+        QTest::newRow(way) << QString::fromLatin1(way);
+    }
+}
+
+/// Whatever ends the program while the question stands: it ends, once.
+void tst_SaveRescue::quittingKeepsTheEdits()
+{
+    QFETCH(QString, way);
+    Edited fixture;
+    fixture.window.show();
+    SaveRescue rescue(fixture.host, &fixture.window);
+    const StopSignals stop;
+    connect(&stop, &StopSignals::stopped, qApp, &QCoreApplication::quit);
+    const OtherProgram other(fixture.database);
+    const PromptCount prompts;
+    QSignalSpy kept(&rescue, &SaveRescue::kept);
+    QVERIFY(kept.isValid());
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(QStringLiteral("^The changes that were not saved stand "
+                                                           "in .*not-saved.*json$")));
+    QTimer::singleShot(0, &fixture.window, [&fixture] { fixture.manager.save(); });
+    const auto leave = [&fixture, way] {
+        if (way == QLatin1String("terminated")) {
+            std::raise(SIGTERM);
+        } else if (way == QLatin1String("window closed")) {
+            fixture.window.close();
+        } else {
+            QCoreApplication::quit();
+        }
+    };
+    QTimer waiting;
+    connect(&waiting, &QTimer::timeout, &fixture.window, [&] {
+        QWidget* const top = QApplication::activeModalWidget();
+        if (qobject_cast<QFileDialog*>(top) != nullptr) {
+            waiting.stop();
+            leave();
+        } else if (top != nullptr && way == QLatin1String("quit in the file dialog")) {
+            QTest::mouseClick(top->findChild<QPushButton*>(QStringLiteral("tipButton2")),
+                              Qt::LeftButton);
+        } else if (top != nullptr) {
+            waiting.stop();
+            leave();
+        }
+    });
+    waiting.start(10);
+
+    QApplication::exec();
+
+    QCOMPARE(kept.count(), 1);
+    const QString file = kept.first().first().toString();
+    QCOMPARE(QFileInfo(file).absolutePath(), QFileInfo(fixture.database).absolutePath());
+    QFile json(file);
+    QVERIFY(json.open(QIODevice::ReadOnly));
+    const ScheduleFromJson read = scheduleFromJson(json.readAll());
+    QCOMPARE(read.error, QString());
+    QVERIFY(read.tasks == fixture.manager.getAllTask());
+    QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(3));
+}
+
+void tst_SaveRescue::editsAreKeptWhereTheyCanBe()
+{
+    const QTemporaryDir folder;
+    const QByteArray former = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", QFile::encodeName(folder.path()));
+    PlayTask task;
+    task.id = 3;
+    const QString store = folder.filePath(QStringLiteral("gone/a.b.db"));
+    const KeptEdits first = keepEdits({{3, task}}, store);
+    const KeptEdits second = keepEdits({}, store);
+    qputenv("XDG_DATA_HOME", former);
+    QCOMPARE(first.error, QString());
+    QVERIFY2(first.file.startsWith(folder.filePath(QStringLiteral("trel/schedule/a.b.not-saved-"))),
+             qPrintable(first.file));
+    QVERIFY(second.file != first.file);
+    QFile json(first.file);
+    QVERIFY(json.open(QIODevice::ReadOnly));
+    QCOMPARE(scheduleFromJson(json.readAll()).tasks.size(), std::size_t(1));
 }
 
 TREL_TEST(tst_SaveRescue, QApplication)

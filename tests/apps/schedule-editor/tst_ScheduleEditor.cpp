@@ -1,6 +1,7 @@
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -13,6 +14,7 @@ class tst_ScheduleEditor : public QObject
 
 private slots:
     void offScreenItDrawsAndSummarises();
+    void thePictureOfNoNameIsTheUsersOwn();
     void theSecondStartFindsTheSameSchedule();
     void importsFromTheCommandLine();
     void aStoreThatCannotBeOpenedEndsWithOne();
@@ -67,6 +69,20 @@ void tst_ScheduleEditor::offScreenItDrawsAndSummarises()
     const QImage picture(file("shot.png"));
     QVERIFY(picture.width() >= 1140);
     QVERIFY(picture.height() >= 600);
+}
+
+/// Where no file is named: in the user's own folder, under another name each time.
+void tst_ScheduleEditor::thePictureOfNoNameIsTheUsersOwn()
+{
+    const QDir folder(m_folder.filePath(QStringLiteral("trel/schedule")));
+    const QStringList pictures{QStringLiteral("schedule-editor-??????.png")};
+    for (int run = 1; run <= 2; ++run) {
+        QCOMPARE(start({}).status, 0);
+        const QFileInfoList found = folder.entryInfoList(pictures, QDir::Files);
+        QCOMPARE(found.size(), run);
+        QVERIFY(found.first().size() > 0);
+        QVERIFY(!(found.first().permissions() & (QFile::ReadGroup | QFile::ReadOther)));
+    }
 }
 
 void tst_ScheduleEditor::theSecondStartFindsTheSameSchedule()

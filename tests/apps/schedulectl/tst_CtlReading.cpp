@@ -3,9 +3,11 @@
 #include "service/scheduleManage.h"
 #include "support/FolderSnapshot.h"
 #include "support/SampleSchedule.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QtTest>

@@ -6,6 +6,7 @@
 #include "json/ScheduleJson.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QtTest>
 
 #include <sqlite3.h>
@@ -228,4 +229,5 @@ void tst_ScheduleLimits::aStoreThatHoldsTooMuchIsRefused()
 }
 
 TREL_TEST(tst_ScheduleLimits, QCoreApplication)
+#include "support/TestProgram.h"
 #include "tst_ScheduleLimits.moc"

@@ -5,6 +5,7 @@
 #include "support/FolderSnapshot.h"
 #include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 #include <QtTest>
 
@@ -267,4 +268,5 @@ void tst_StoreDefence::aLogOfAnotherCopyIsNotWorkedIn()
 }
 
 TREL_TEST(tst_StoreDefence, QCoreApplication)
+#include "support/TestProgram.h"
 #include "tst_StoreDefence.moc"

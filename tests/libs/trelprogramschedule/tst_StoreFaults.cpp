@@ -3,6 +3,7 @@
 #include "support/FaultyDisk.h"
 #include "support/TestProgram.h"
 
+#include <QCoreApplication>
 #include <QtTest>
 
 #include <cerrno>
@@ -214,4 +215,5 @@ void tst_StoreFaults::errorsAreCalledByTheirNames()
 }
 
 TREL_TEST(tst_StoreFaults, QCoreApplication)
+#include "support/TestProgram.h"
 #include "tst_StoreFaults.moc"

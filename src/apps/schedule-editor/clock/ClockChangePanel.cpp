@@ -3,6 +3,7 @@
 #include "clock/Clock.h"
 #include "follow/EditedSchedule.h"
 #include "service/TimeText.h"
+#include "trelwidgets/PlainToolTip.h"
 
 #include <QEvent>
 
@@ -128,7 +129,7 @@ void ClockChangePanel::fill()
 void ClockChangePanel::insertSentence(int row, const QString& sentence, bool isFaint)
 {
     auto item = std::make_unique<QListWidgetItem>(sentence);
-    item->setToolTip(sentence);
+    item->setToolTip(trel::widgets::plainToolTip(sentence));
     if (isFaint) {
         item->setForeground(palette().brush(QPalette::PlaceholderText));
     }

@@ -1,6 +1,7 @@
 #include "screen/ElidedText.h"
 
 #include "BidiText.h"
+#include "trelwidgets/PlainToolTip.h"
 
 #include <QEvent>
 #include <QHelpEvent>
@@ -57,7 +58,8 @@ bool ElidedText::event(QEvent* event)
     }
     const auto* help = static_cast<QHelpEvent*>(event);
     const QString whole = shown().isWhole ? QString() : text();
-    QToolTip::showText(help->globalPos(), m_longText.isEmpty() ? whole : m_longText, this);
+    const QString& tip = m_longText.isEmpty() ? whole : m_longText;
+    QToolTip::showText(help->globalPos(), trel::widgets::plainToolTip(tip), this);
     return true;
 }
 

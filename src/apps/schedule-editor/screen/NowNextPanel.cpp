@@ -5,6 +5,7 @@
 #include "screen/PlayBar.h"
 #include "screen/ScreenFollower.h"
 #include "screen/ScreenWords.h"
+#include "trelwidgets/PlainToolTip.h"
 
 #include <QEvent>
 #include <QFrame>
@@ -32,6 +33,14 @@ template <typename Label>
 Label* named(Label* label, const char* name)
 {
     label->setObjectName(QLatin1String(name));
+    return label;
+}
+
+/// For texts of whatever kind: none of them is taken for markup.
+QLabel* plainLabel(QWidget* parent)
+{
+    auto* label = new QLabel(parent);
+    label->setTextFormat(Qt::PlainText);
     return label;
 }
 
@@ -71,18 +80,18 @@ QHBoxLayout* row(std::initializer_list<QWidget*> leading, std::initializer_list<
 NowNextPanel::NowNextPanel(ScreenFollower& follower, QWidget* parent)
     : QWidget(parent)
     , m_follower(follower)
-    , m_nowTitle(named(faint(new QLabel(this)), "nowTitle"))
+    , m_nowTitle(named(faint(plainLabel(this)), "nowTitle"))
     , m_picture(named(new Badge(this), "nowPicture"))
     , m_inserted(named(new Badge(this), "nowInserted"))
     , m_program(named(new ElidedText(this), "nowProgram"))
     , m_bar(named(new PlayBar(this), "nowBar"))
-    , m_gone(named(new QLabel(this), "nowGone"))
-    , m_toCome(named(new QLabel(this), "nowToCome"))
+    , m_gone(named(plainLabel(this), "nowGone"))
+    , m_toCome(named(plainLabel(this), "nowToCome"))
     , m_entry(named(new ElidedText(this), "nowEntry"))
     , m_plan(named(new ElidedText(this), "nowPlan"))
     , m_reason(named(faint(new ElidedText(this, kReasonLines)), "nowReason"))
     , m_nextPart(new QWidget(this))
-    , m_nextTitle(named(faint(new QLabel(m_nextPart)), "nextTitle"))
+    , m_nextTitle(named(faint(plainLabel(m_nextPart)), "nextTitle"))
     , m_nextInserted(named(new Badge(m_nextPart), "nextInserted"))
     , m_nextProgram(named(new ElidedText(m_nextPart), "nextProgram"))
     , m_nextPlan(named(new ElidedText(m_nextPart), "nextPlan"))
@@ -239,7 +248,8 @@ bool NowNextPanel::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::ToolTip) {
         // Asked for late: the list that stood there before is handed in after the insertion.
-        qobject_cast<QWidget*>(watched)->setToolTip(insertionText(watched));
+        qobject_cast<QWidget*>(watched)->setToolTip(
+            trel::widgets::plainToolTip(insertionText(watched)));
     }
     return QWidget::eventFilter(watched, event);
 }

@@ -1,5 +1,6 @@
 #include "week/WeekPanel.h"
 
+#include "trelwidgets/PlainToolTip.h"
 #include "week/WeekView.h"
 
 #include <QComboBox>
@@ -19,7 +20,7 @@ constexpr int kSignWidth = 28;
 /// A sign is no name: the words are for those who cannot see it, or do not know it.
 void setWords(QWidget* widget, const QString& words)
 {
-    widget->setToolTip(words);
+    widget->setToolTip(trel::widgets::plainToolTip(words));
     widget->setAccessibleName(words);
 }
 
@@ -40,6 +41,7 @@ WeekPanel::WeekPanel(follow::EditedSchedule& edited, QWidget* parent)
 {
     m_view->setObjectName(QStringLiteral("weekView"));
     m_title->setObjectName(QStringLiteral("weekTitle"));
+    m_title->setTextFormat(Qt::PlainText);
     m_source->setObjectName(QStringLiteral("weekSource"));
     m_source->addItem(QString(), static_cast<int>(WeekSource::Edited));
     m_source->addItem(QString(), static_cast<int>(WeekSource::InEffect));

@@ -1,6 +1,7 @@
 #include "week/WeekView.h"
 
 #include "clock/Clock.h"
+#include "trelwidgets/PlainToolTip.h"
 #include "week/DayPainting.h"
 #include "week/FramePainting.h"
 #include "week/WeekReasons.h"
@@ -312,8 +313,9 @@ bool WeekView::explainSelected()
 
 void WeekView::showTip(const QPoint& place, const WeekHit& hit)
 {
-    QToolTip::showText(viewport()->mapToGlobal(place),
-                       reasonText(*m_schedule, *m_layout, hit, locale()), viewport());
+    QToolTip::showText(
+        viewport()->mapToGlobal(place),
+        trel::widgets::plainToolTip(reasonText(*m_schedule, *m_layout, hit, locale())), viewport());
 }
 
 void WeekView::mousePressEvent(QMouseEvent* event)
