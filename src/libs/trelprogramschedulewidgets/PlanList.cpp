@@ -355,6 +355,15 @@ void PlanList::scrollToPlace()
     m_place.reset();
 }
 
+bool PlanList::event(QEvent* event)
+{
+    // That a prompt blocks the window is of no use to a card, and to hand it on through the tens of
+    // thousands of widgets in a long list takes longer than the prompt itself.
+    const QEvent::Type type = event->type();
+    return type == QEvent::WindowBlocked || type == QEvent::WindowUnblocked ||
+           QWidget::event(event);
+}
+
 void PlanList::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);

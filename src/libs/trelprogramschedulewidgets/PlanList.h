@@ -26,7 +26,8 @@ struct PlayTask;
 /// Where two tasks of the service have the same id, the card of the later one replaces that of the
 /// earlier one. A card that is destroyed by somebody else leaves the list, and the count is told.
 /// The list and what it stands in may be destroyed in answer to any of its signals. While a card is
-/// being destroyed, other cards may be added, destroyed and built again.
+/// being destroyed, other cards may be added, destroyed and built again; but not the list, as the
+/// toolkit would destroy the card once more with its parent.
 class PlanList : public QWidget
 {
     Q_OBJECT
@@ -74,6 +75,7 @@ public slots:
     void slotclearPlanList();
 
 protected:
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
