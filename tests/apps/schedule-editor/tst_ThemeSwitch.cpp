@@ -8,9 +8,11 @@
 #include <QComboBox>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTableView>
 #include <QTimer>
 
+#include <algorithm>
 #include <functional>
 
 using namespace trel::mediadispatch;
@@ -29,11 +31,18 @@ private slots:
     void anOpenPromptFollows();
     void anOpenListFollows();
     void anOpenProgressFollows();
+    void whatNobodySeesFollowsLater();
+    void whatComesIntoSightIsReady_data();
+    void whatComesIntoSightIsReady();
+    void aSecondSwitchBringsAllBack();
 
 private:
     using Open = std::function<void()>;
 
     QWidget* cell(int column) const;
+    QList<QWidget*> showManyCards() const;
+    static bool follows(const QWidget* widget);
+    static bool doAllFollow(const QWidget& part);
     QImage pictureOfModal(const Open& open, const QString& switchTo) const;
     void compareModal(const Open& open) const;
 
@@ -62,6 +71,37 @@ QWidget* tst_ThemeSwitch::cell(int column) const
 {
     auto* table = m_host->firstTable();
     return table->indexWidget(table->model()->index(1, column));
+}
+
+/// The cards of an editor whose list is longer than its window.
+QList<QWidget*> tst_ThemeSwitch::showManyCards() const
+{
+    std::map<int, PlayTask> tasks;
+    for (int id = 1; id <= 60; ++id) {
+        tasks[id].id = id;
+        tasks[id].startDate = "2024.01.01";
+        tasks[id].endDate = "2024.12.31";
+        tasks[id].plans.resize(1);
+        tasks[id].plans.front().id = 1;
+    }
+    m_host->host.replaceSchedule(tasks);
+    m_host->showEditor();
+    QCoreApplication::processEvents();
+    return m_host->editor->findChildren<QWidget*>(QStringLiteral("PlanTaskWidget"));
+}
+
+/// Whether a widget without colours of its own has taken those of the theme.
+bool tst_ThemeSwitch::follows(const QWidget* widget)
+{
+    return widget->testAttribute(Qt::WA_SetPalette) ||
+           widget->palette().color(QPalette::Active, QPalette::Text) ==
+               QApplication::palette(widget).color(QPalette::Active, QPalette::Text);
+}
+
+bool tst_ThemeSwitch::doAllFollow(const QWidget& part)
+{
+    const auto widgets = part.findChildren<QWidget*>();
+    return follows(&part) && std::all_of(widgets.begin(), widgets.end(), follows);
 }
 
 /// A picture of the dialog that opens, taken after a switch where one is wanted.
@@ -148,6 +188,63 @@ void tst_ThemeSwitch::anOpenProgressFollows()
     const QImage light = picture(QString());
     QVERIFY(light != dark);
     QCOMPARE(switched, light);
+}
+
+void tst_ThemeSwitch::whatNobodySeesFollowsLater()
+{
+    const QList<QWidget*> cards = showManyCards();
+    QCOMPARE(cards.size(), 60);
+    auto* const hidden = cards.first()->findChild<QTableView*>(QStringLiteral("schedule"));
+    m_host->themes.select(kLight);
+    QVERIFY(follows(cards.first()));
+    QVERIFY(!follows(hidden));
+    QVERIFY(!follows(cards.last()));
+    QTRY_VERIFY(doAllFollow(*m_host->editor));
+}
+
+void tst_ThemeSwitch::whatComesIntoSightIsReady_data()
+{
+    QTest::addColumn<bool>("scrolls");
+    QTest::newRow("scrolled") << true;
+    QTest::newRow("unfolded") << false;
+}
+
+void tst_ThemeSwitch::whatComesIntoSightIsReady()
+{
+    QFETCH(const bool, scrolls);
+    const QList<QWidget*> cards = showManyCards();
+    auto* const area = m_host->editor->findChild<QScrollArea*>(QStringLiteral("scrollArea"));
+    auto* const bar = cards.first()->findChild<QAbstractButton*>(QStringLiteral("title"));
+    const auto show = [&] {
+        if (scrolls) {
+            area->ensureWidgetVisible(cards.last());
+        } else {
+            bar->setChecked(false);
+        }
+    };
+    const QWidget* const part =
+        scrolls ? cards.last() : cards.first()->findChild<QWidget*>(QStringLiteral("schedule"));
+    const QColor before = part->palette().color(QPalette::Text);
+
+    m_host->themes.select(kLight);
+    QCOMPARE(part->palette().color(QPalette::Text), before);
+    show();
+    area->grab();
+    QVERIFY(doAllFollow(*part));
+    // Nothing else had its turn.
+    QVERIFY(!doAllFollow(*m_host->editor));
+}
+
+void tst_ThemeSwitch::aSecondSwitchBringsAllBack()
+{
+    const QList<QWidget*> cards = showManyCards();
+    const QColor dark = cards.last()->palette().color(QPalette::Text);
+    m_host->themes.select(kLight);
+    m_host->themes.select(kDark);
+    m_host->themes.select(kLight);
+    QTRY_VERIFY(cards.last()->palette().color(QPalette::Text) != dark);
+    m_host->themes.select(kDark);
+    QTRY_COMPARE(cards.last()->palette().color(QPalette::Text), dark);
 }
 
 TREL_TEST(tst_ThemeSwitch, QApplication)

@@ -48,6 +48,27 @@ bool isBarOfPlanTable(const QWidget* bar)
     return container != nullptr && isPlanTable(container->parentWidget());
 }
 
+void polishArea(QAbstractScrollArea& area)
+{
+    if (isPlanTable(&area)) {
+        updateTableMargins(&area);
+    } else if (isWell(&area)) {
+        // The frame paints the ground under the cards.
+        area.viewport()->setAutoFillBackground(false);
+    }
+}
+
+void polishLabel(QWidget& label)
+{
+    if (styleOf(&label) == QLatin1String("grayHint")) {
+        QFont font = label.font();
+        font.setPixelSize(kHintPixels);
+        label.setFont(font);
+    } else if (isNamed(&label, "showTime_label")) {
+        label.setContentsMargins(kTotalGap, 0, kTotalGap, 0);
+    }
+}
+
 void setTextColour(QWidget* label, const QColor& colour)
 {
     QPalette palette = label->palette();
@@ -101,19 +122,41 @@ void EditorStyle::setColours(const ThemeColours& colours)
     m_colours = colours;
 }
 
+void EditorStyle::recolour(QWidget* widget) const
+{
+    // Asked of every widget of every row, and so by class first.
+    if (const auto* area = qobject_cast<const QAbstractScrollArea*>(widget)) {
+        if (isChooserList(area)) {
+            widget->setPalette(listPalette(m_colours));
+        }
+    } else if (qobject_cast<const QLabel*>(widget) != nullptr) {
+        recolourLabel(widget);
+    } else if (isLineOfChoices(widget)) {
+        hideOwnText(*widget);
+    }
+}
+
+void EditorStyle::recolourLabel(QWidget* label) const
+{
+    const QString style = styleOf(label);
+    if (style == QLatin1String("errorHint")) {
+        setTextColour(label, m_colours.errorText);
+    } else if (style == QLatin1String("grayHint")) {
+        setTextColour(label, m_colours.faintText);
+    }
+}
+
 void EditorStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
-    // Asked of every widget of every row, and so by class first.
+    recolour(widget);
     if (auto* area = qobject_cast<QAbstractScrollArea*>(widget)) {
-        polishArea(area);
+        polishArea(*area);
     } else if (qobject_cast<QLabel*>(widget) != nullptr) {
-        polishLabel(widget);
+        polishLabel(*widget);
     } else if (auto* bar = qobject_cast<QScrollBar*>(widget)) {
         // Nothing but the thumb is painted, and what lies below shows.
         bar->setAttribute(Qt::WA_OpaquePaintEvent, false);
-    } else if (isLineOfChoices(widget)) {
-        hideOwnText(*widget);
     } else if (qobject_cast<QFrame*>(widget) != nullptr && isProgramField(widget)) {
         widget->setAttribute(Qt::WA_Hover);
     }
@@ -125,33 +168,6 @@ void EditorStyle::unpolish(QWidget* widget)
         widget->setPalette(QPalette());
     }
     QProxyStyle::unpolish(widget);
-}
-
-void EditorStyle::polishArea(QAbstractScrollArea* area) const
-{
-    if (isChooserList(area)) {
-        area->setPalette(listPalette(m_colours));
-    } else if (isPlanTable(area)) {
-        updateTableMargins(area);
-    } else if (isWell(area)) {
-        // The frame paints the ground under the cards.
-        area->viewport()->setAutoFillBackground(false);
-    }
-}
-
-void EditorStyle::polishLabel(QWidget* label) const
-{
-    const QString style = styleOf(label);
-    if (style == QLatin1String("errorHint")) {
-        setTextColour(label, m_colours.errorText);
-    } else if (style == QLatin1String("grayHint")) {
-        setTextColour(label, m_colours.faintText);
-        QFont font = label->font();
-        font.setPixelSize(kHintPixels);
-        label->setFont(font);
-    } else if (isNamed(label, "showTime_label")) {
-        label->setContentsMargins(kTotalGap, 0, kTotalGap, 0);
-    }
 }
 
 void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

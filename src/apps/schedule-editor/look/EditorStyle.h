@@ -22,8 +22,10 @@ public:
     explicit EditorStyle(const ThemeColours& colours);
 
     /// Takes other colours. Widgets that are polished already keep what they took from the old
-    /// ones until polish() is called for them again.
+    /// ones until recolour() is called for them.
     void setColours(const ThemeColours& colours);
+    /// Gives a polished widget the colours that it would take now.
+    void recolour(QWidget* widget) const;
 
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
@@ -54,8 +56,7 @@ public:
                        const QWidget* widget) const override;
 
 private:
-    void polishArea(QAbstractScrollArea* area) const;
-    void polishLabel(QWidget* label) const;
+    void recolourLabel(QWidget* label) const;
     bool paintPanel(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     void paintFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     bool paintLabelFrame(const QStyleOption& option, QPainter& painter,

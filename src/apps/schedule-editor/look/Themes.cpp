@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QFont>
 #include <QToolTip>
-#include <QWidget>
 
 namespace {
 
@@ -23,20 +22,6 @@ QStringList fontFamilies()
             QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")};
 }
 
-/// The toolkit passes a new palette over the widgets below a style sheet, such as the list of the
-/// cards has. What a widget has set for itself it keeps.
-void takePalette(QWidget* widget)
-{
-    widget->setPalette(widget->testAttribute(Qt::WA_SetPalette) ? widget->palette() : QPalette());
-    const QObjectList children = widget->children();
-    for (QObject* child : children) {
-        auto* inner = qobject_cast<QWidget*>(child);
-        if (inner != nullptr && !inner->isWindow()) {
-            takePalette(inner);
-        }
-    }
-}
-
 void setFont()
 {
     const QStringList families = fontFamilies();
@@ -53,10 +38,12 @@ void setFont()
 Themes::Themes(QApplication& application)
     : m_style(new look::EditorStyle(coloursOf(kDark)))
     , m_current(kDark)
+    , m_recolouring(*m_style)
 {
     application.setStyle(m_style);
     setFont();
-    apply();
+    takeColours();
+    m_recolouring.run();
 }
 
 QStringList Themes::names()
@@ -76,11 +63,12 @@ void Themes::select(const QString& name)
         return;
     }
     m_current = known;
-    apply();
+    takeColours();
+    m_recolouring.begin();
     emit changed();
 }
 
-void Themes::apply()
+void Themes::takeColours()
 {
     const look::ThemeColours colours = this->colours();
     if (m_style) {
@@ -89,15 +77,4 @@ void Themes::apply()
     const QPalette palette = look::windowPalette(colours);
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    for (QWidget* window : windows) {
-        takePalette(window);
-    }
-    const QWidgetList widgets = QApplication::allWidgets();
-    for (QWidget* widget : widgets) {
-        if (m_style && widget->testAttribute(Qt::WA_WState_Polished)) {
-            m_style->polish(widget);
-        }
-        widget->update();
-    }
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "EditorStyle.h"
+#include "Recolouring.h"
 
 #include <QObject>
 #include <QPointer>
@@ -24,16 +25,17 @@ public:
     /// The colours of the theme in force.
     look::ThemeColours colours() const;
 
-    /// Puts a theme in force, on the windows that are open and on those to come. A name that is not
-    /// known chooses the default.
+    /// Puts a theme in force, on the windows that are open and on those to come. What nobody sees
+    /// follows when the event loop runs. A name that is not known chooses the default.
     void select(const QString& name);
 
 signals:
     void changed();
 
 private:
-    void apply();
+    void takeColours();
 
     QPointer<look::EditorStyle> m_style; // The application's, which may take another one.
     QString m_current;
+    look::Recolouring m_recolouring;
 };

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "EditorStyle.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+#include <vector>
+
+namespace look {
+
+/// Gives the widgets that are there the palette of the application and the colours of its style,
+/// after both have changed.
+///
+/// A long list has tens of thousands of widgets, few of which anybody sees. What is in sight is
+/// done at once, the rest in short turns, between which the event loop is free; a part that comes
+/// into sight before its turn is done before it is painted.
+class Recolouring : public QObject
+{
+public:
+    explicit Recolouring(EditorStyle& style);
+
+    /// Does all of it, at once.
+    void run();
+    /// Does what is in sight, and begins with the rest. What was still to be done of a former call
+    /// is part of that.
+    void begin();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void recolour(QWidget& widget);
+    void recolourWhole(QWidget& widget);
+    void recolourInSight(QWidget& widget, const QRect& sight);
+    void putOff(QWidget& part);
+    void takeTurn();
+
+    QPointer<EditorStyle> m_style; // The application's, which may take another one.
+    std::vector<QPointer<QWidget>> m_waiting;
+    QTimer m_turn;
+};
+
+} // namespace look
