@@ -30,6 +30,7 @@
 #include "service/scheduleManage.h"
 #include "toolkit/BusyPointer.h"
 #include "toolkit/NewWidgets.h"
+#include "toolkit/StyleRecords.h"
 
 #include "trelwidgets/ComboBox.h"
 #include "trelwidgets/PlainToolTip.h"
@@ -134,6 +135,7 @@ PlanTaskWidget* PlanTaskWidget::makeFolded(const PlayTask& task, QWidget* parent
 void PlanTaskWidget::setUpForm()
 {
     m_ui->setUp(*this);
+    releaseStyleRecords(*this);
     m_ui->translate(m_task);
     m_ui->pbtCreatCopy->installEventFilter(this);
     m_ui->pushButtonDelete->installEventFilter(this);

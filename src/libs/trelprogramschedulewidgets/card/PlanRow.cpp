@@ -7,6 +7,7 @@
 #include "PlanRowTexts.h"
 #include "kCustomLineEdit.h"
 #include "toolkit/FocusedWheel.h"
+#include "toolkit/StyleRecords.h"
 
 #include "trelwidgets/ComboBox.h"
 #include "trelwidgets/PlainToolTip.h"
@@ -161,6 +162,7 @@ Editor* RowBuilder::makeEditor(QWidget*& holder) const
     auto* const layout = new QVBoxLayout;
     layout->setContentsMargins(0, 0, 0, 0);
     auto* const editor = new Editor(holder);
+    releaseStyleRecords(*editor);
     layout->addWidget(editor);
     holder->setLayout(layout);
     return editor;
