@@ -19,6 +19,7 @@
 #include "trelprogramschedule/json/ScheduleJson.h"
 #include "week/WeekDock.h"
 
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
@@ -416,8 +417,18 @@ void EditorWindow::reportImport(const ImportScan& scan, int added, int updated)
          lines.join(QLatin1Char('\n')));
 }
 
+void EditorWindow::takeOverTyping()
+{
+    auto* const field = qobject_cast<QAbstractSpinBox*>(QApplication::focusWidget());
+    if (field != nullptr && m_editor.isAncestorOf(field)) {
+        field->interpretText();
+    }
+}
+
 bool EditorWindow::maySettle()
 {
+    // What is being typed is a change that is not saved, too.
+    takeOverTyping();
     ScheduleHost& host = ScheduleHost::instance();
     if (!m_editor.isVisible() || !host.hasUnsavedChanges()) {
         return true;

@@ -76,6 +76,7 @@ private:
     void removeSelectedPrograms();
     void finishImport();
     void reportImport(const trel::mediadispatch::ImportScan& scan, int added, int updated);
+    void takeOverTyping();
     /// True when the window may go: nothing unsaved, or the operator has said what becomes of it.
     bool maySettle();
 

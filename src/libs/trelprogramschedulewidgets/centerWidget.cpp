@@ -162,8 +162,12 @@ bool centerWidget::checkTaskPeriods(QString& message) const
     return false;
 }
 
-bool centerWidget::periodsAllowIt()
+bool centerWidget::mayBeSaved()
 {
+    // The buttons take no focus, so that no editor has lost it.
+    if (!takeOverTypingAtLast(*this)) {
+        return false;
+    }
     QString message;
     if (checkTaskPeriods(message)) {
         return true;
@@ -174,14 +178,14 @@ bool centerWidget::periodsAllowIt()
 
 void centerWidget::slotSave()
 {
-    if (periodsAllowIt()) {
+    if (mayBeSaved()) {
         emit signalSave();
     }
 }
 
 void centerWidget::slotStart()
 {
-    if (periodsAllowIt()) {
+    if (mayBeSaved()) {
         emit signalStart();
     }
 }

@@ -48,9 +48,10 @@ public slots:
     void slotShowProcess();
     /// Makes the add button ready again.
     void slotCloseProcess();
-    /// Checks the periods, then emits signalSave or tells the operator what is in the way.
+    /// Takes over what is being typed, checks the periods, then emits signalSave or tells the
+    /// operator what is in the way. Ends there when what was typed is refused.
     void slotSave();
-    /// Checks the periods, then emits signalStart or tells the operator what is in the way.
+    /// The same with signalStart.
     void slotStart();
     /// Fetches all texts of the panel in the selected language, then emits signalTranslation.
     void slotTranslation();
@@ -65,7 +66,7 @@ private:
     void setUpButtons();
     void connectAll();
     void nameKeys();
-    bool periodsAllowIt();
+    bool mayBeSaved();
 
     std::unique_ptr<Form> m_ui;
     QLabel* m_hintLabel = nullptr;

@@ -5,6 +5,7 @@
 #include "ProgramSheduleWidgetTranslateManager.h"
 #include "ScheduleText.h"
 #include "TitleBar.h"
+#include "card/EditorInUse.h"
 #include "centerWidget.h"
 #include "clock/Clock.h"
 #include "service/scheduleManage.h"
@@ -40,6 +41,7 @@ scheduleControlUI::scheduleControlUI(QWidget* parent)
     m_layout->setSpacing(0);
 
     connectAll();
+    takeOverTypingAtClose(*this);
     m_showTimer.start();
 }
 

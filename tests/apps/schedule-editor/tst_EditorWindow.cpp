@@ -1,4 +1,5 @@
 #include "HostFixture.h"
+#include "card/PlanColumns.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
 
@@ -7,6 +8,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTableView>
+#include <QTimeEdit>
 
 using namespace trel::mediadispatch;
 
@@ -28,6 +30,7 @@ private slots:
     void aRemovalTakesWhatTheQuestionNamed();
     void closingWithUnsavedChangesAsks_data();
     void closingWithUnsavedChangesAsks();
+    void closingWhileATimeIsTypedAsks();
     void closingWithoutChangesAsksNothing();
 
 private:
@@ -240,6 +243,27 @@ void tst_EditorWindow::closingWithUnsavedChangesAsks()
     QCOMPARE(fixture.window.isHidden(), closed);
     QCOMPARE(fixture.editor->isHidden(), closed);
     QCOMPARE(static_cast<int>(fixture.manager.getgTaskMap().size()), storedTasks);
+}
+
+void tst_EditorWindow::closingWhileATimeIsTypedAsks()
+{
+    HostFixture fixture;
+    fixture.window.show();
+    fixture.showDemonstration();
+    QApplication::setActiveWindow(fixture.editor.get());
+    auto* const start = fixture.cell(0, StartTimeColumn)->findChild<QTimeEdit*>();
+    start->setFocus();
+    start->setSelectedSection(QDateTimeEdit::HourSection);
+    QTest::keyClick(start, Qt::Key_0);
+    QVERIFY(!fixture.host.hasUnsavedChanges());
+
+    const PromptAnswer stay(3);
+    fixture.window.close();
+
+    QCOMPARE(stay.count(), 1);
+    QVERIFY(!fixture.window.isHidden());
+    QVERIFY(fixture.host.hasUnsavedChanges());
+    QCOMPARE(start->time().hour(), 0);
 }
 
 void tst_EditorWindow::closingWithoutChangesAsksNothing()

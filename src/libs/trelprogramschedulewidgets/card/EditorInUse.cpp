@@ -2,6 +2,8 @@
 
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QDateTimeEdit>
+#include <QEvent>
 #include <QLayout>
 #include <QPointer>
 
@@ -34,6 +36,29 @@ void keep(QObject& child, QWidget& holder)
         widget.setParent(&holder);
     }
 }
+
+/// The editor in a part that has the focus; null without one.
+QAbstractSpinBox* editorWithFocus(const QWidget& part)
+{
+    auto* const editor = qobject_cast<QAbstractSpinBox*>(QApplication::focusWidget());
+    return editor && part.isAncestorOf(editor) ? editor : nullptr;
+}
+
+class TypingAtClose : public QObject
+{
+public:
+    explicit TypingAtClose(QWidget& window)
+        : QObject(&window)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        // What has gone is told of nothing any more.
+        return event->type() == QEvent::Close && !takeOverTyping(*static_cast<QWidget*>(watched));
+    }
+};
 
 } // namespace
 
@@ -78,11 +103,32 @@ void keepWhatIsInUse(QWidget& part)
 bool takeOverTyping(QWidget& part)
 {
     const QPointer<QWidget> self(&part);
-    auto* const editor = qobject_cast<QAbstractSpinBox*>(QApplication::focusWidget());
-    if (editor && part.isAncestorOf(editor)) {
+    if (QAbstractSpinBox* const editor = editorWithFocus(part)) {
         editor->interpretText();
     }
     return !self.isNull();
+}
+
+bool takeOverTypingAtLast(QWidget& part)
+{
+    const QPointer<QAbstractSpinBox> editor(editorWithFocus(part));
+    if (!editor) {
+        return true;
+    }
+    int changes = 0;
+    QMetaObject::Connection count;
+    if (const auto* const timed = qobject_cast<QDateTimeEdit*>(editor)) {
+        count = QObject::connect(timed, &QDateTimeEdit::dateTimeChanged, [&changes] { ++changes; });
+    }
+    const bool isAlive = takeOverTyping(part);
+    QObject::disconnect(count);
+    // What is refused is set back, which is a second change, if there still is anything to set.
+    return isAlive && editor && part.isAncestorOf(editor) && changes <= 1;
+}
+
+void takeOverTypingAtClose(QWidget& window)
+{
+    new TypingAtClose(window);
 }
 
 } // namespace trel::mediadispatch

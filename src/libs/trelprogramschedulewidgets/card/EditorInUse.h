@@ -36,4 +36,12 @@ void keepWhatIsInUse(QWidget& part);
 /// hides and removes after the prompt, whether it is still there or not.
 bool takeOverTyping(QWidget& part);
 
+/// The same before the work on the editors ends. False also when what was typed has been refused,
+/// so that the operator can type it again.
+bool takeOverTypingAtLast(QWidget& part);
+
+/// Has a window do so each time it is asked to close. It may be destroyed meanwhile: the toolkit
+/// can bear that when it asks, and no more when it hides the window.
+void takeOverTypingAtClose(QWidget& window);
+
 } // namespace trel::mediadispatch
