@@ -8,16 +8,46 @@ namespace trel::mediadispatch {
 
 namespace {
 
+bool haveSameLists(const PlayPlan& a, const PlayPlan& b)
+{
+    return a.programs == b.programs && a.serviceList == b.serviceList;
+}
+
+/// Whether nothing but fields tells two states of a task apart.
+bool haveSameLists(const PlayTask& a, const PlayTask& b)
+{
+    return std::equal(
+        a.plans.begin(), a.plans.end(), b.plans.begin(), b.plans.end(),
+        [](const PlayPlan& one, const PlayPlan& other) { return haveSameLists(one, other); });
+}
+
+void addFieldEdits(TaskEdits& edits, const PlayTask& before, const PlayTask& after)
+{
+    if (before.startDate != after.startDate || before.endDate != after.endDate) {
+        edits.dated.push_back(&after);
+    }
+    for (std::size_t i = 0; i < after.plans.size(); ++i) {
+        if (before.plans[i] != after.plans[i]) {
+            edits.plans.push_back({after.id, static_cast<int>(i), &after.plans[i]});
+        }
+    }
+}
+
 /// Adds what turns one task of a set into the one of the same id in another set.
 void addEdit(TaskEdits& edits, const TaskMap& from, const TaskMap& to, int taskId,
-             const std::set<int>& rewritten)
+             const HeldOtherwise& held)
 {
     const auto before = from.find(taskId);
     const auto after = to.find(taskId);
-    const bool isSame = before != from.end() && after != to.end() &&
-                        before->second == after->second && rewritten.count(taskId) == 0;
-    if (isSame) {
-        return;
+    const bool isUnwritten = held.unwritten.count(taskId) > 0;
+    if (before != from.end() && after != to.end() && !isUnwritten) {
+        if (before->second == after->second) {
+            return;
+        }
+        if (held.marked.count(taskId) == 0 && haveSameLists(before->second, after->second)) {
+            addFieldEdits(edits, before->second, after->second);
+            return;
+        }
     }
     if (before != from.end()) {
         edits.removed.push_back(taskId);
@@ -65,11 +95,11 @@ PlayTask withoutCollisions(PlayTask task)
 
 } // namespace
 
-TaskEdits editsBetween(const TaskMap& from, const TaskMap& to, const std::set<int>& rewritten)
+TaskEdits editsBetween(const TaskMap& from, const TaskMap& to, const HeldOtherwise& held)
 {
     TaskEdits edits;
     for (const int id : idsOfBoth(from, to)) {
-        addEdit(edits, from, to, id, rewritten);
+        addEdit(edits, from, to, id, held);
     }
     edits.removesAll = edits.removed.size() == from.size();
     return edits;
@@ -78,7 +108,7 @@ TaskEdits editsBetween(const TaskMap& from, const TaskMap& to, const std::set<in
 void TaskSets::setStored(TaskMap tasks)
 {
     m_stored = std::move(tasks);
-    m_unwritten.clear();
+    m_held = {};
     m_touched = idsOfBoth(m_stored, m_working);
 }
 
@@ -97,7 +127,7 @@ void TaskSets::commitWorking()
         copyTask(m_working, m_stored, id);
     }
     m_touched.clear();
-    m_unwritten.clear();
+    m_held.unwritten.clear();
 }
 
 std::set<int> TaskSets::takeChanged()
@@ -113,7 +143,7 @@ void TaskSets::clear()
     m_stored.clear();
     m_working.clear();
     m_touched.clear();
-    m_unwritten.clear();
+    m_held = {};
 }
 
 bool TaskSets::putTask(const PlayTask& task)
@@ -169,9 +199,9 @@ TaskEdits TaskSets::edits() const
 {
     TaskEdits edits;
     std::set<int> ids = m_touched;
-    ids.insert(m_unwritten.begin(), m_unwritten.end());
+    ids.insert(m_held.unwritten.begin(), m_held.unwritten.end());
     for (const int id : ids) {
-        addEdit(edits, m_stored, m_working, id, m_unwritten);
+        addEdit(edits, m_stored, m_working, id, m_held);
     }
     edits.removesAll = edits.removed.size() == m_stored.size();
     return edits;
@@ -179,7 +209,7 @@ TaskEdits TaskSets::edits() const
 
 TaskEdits TaskSets::editsTo(const TaskMap& tasks) const
 {
-    return editsBetween(m_stored, tasks, m_unwritten);
+    return editsBetween(m_stored, tasks, m_held);
 }
 
 PlayTask findTask(const TaskMap& tasks, int taskId)

@@ -10,20 +10,40 @@ namespace trel::mediadispatch {
 
 using TaskMap = std::map<int, PlayTask>;
 
+/// A plan whose own fields have changed, but none of its lists.
+struct PlanEdit
+{
+    int taskId = -1;
+    int position = 0; ///< Among the plans of the task.
+    const PlayPlan* plan = nullptr;
+};
+
 /// What turns a stored set into another: the tasks to take out first, and those to put in then. A
-/// task that has changed stands in both. The pointers lead into the set that was asked.
+/// task that has changed stands in both, but for one of which only some fields are others: what an
+/// operator mostly does to a task. The pointers lead into the set that was asked.
 struct TaskEdits
 {
     std::vector<int> removed;
     std::vector<const PlayTask*> written;
+    std::vector<const PlayTask*> dated; ///< Those that have other dates. Of plans, what follows.
+    std::vector<PlanEdit> plans;
     bool removesAll = false; ///< Not one task stays as it was.
 
-    bool isEmpty() const { return removed.empty() && written.empty(); }
+    bool isEmpty() const
+    {
+        return removed.empty() && written.empty() && dated.empty() && plans.empty();
+    }
 };
 
-/// Everything that turns one set into another one. Tasks in rewritten are written also when they
-/// are the same in both.
-TaskEdits editsBetween(const TaskMap& from, const TaskMap& to, const std::set<int>& rewritten = {});
+/// What the store holds otherwise than the set that was read from it, by ids of tasks.
+struct HeldOtherwise
+{
+    std::set<int> unwritten; ///< To be written whole with the next edits, edited or not.
+    std::set<int> marked;    ///< Without the marks of lost entries; written whole when edited.
+};
+
+/// Everything that turns one set into another one.
+TaskEdits editsBetween(const TaskMap& from, const TaskMap& to, const HeldOtherwise& held = {});
 
 /// The stored and the working set. Knows which tasks have been touched since the two were last the
 /// same, so that its questions cost what was edited and not what there is.
@@ -71,9 +91,9 @@ public:
 private:
     TaskMap m_stored;
     TaskMap m_working;
-    std::set<int> m_touched;   ///< Every task in which the two may differ.
-    std::set<int> m_changed;   ///< See takeChanged().
-    std::set<int> m_unwritten; ///< Every task of the stored set that the store holds otherwise.
+    std::set<int> m_touched; ///< Every task in which the two may differ.
+    std::set<int> m_changed; ///< See takeChanged().
+    HeldOtherwise m_held;    ///< Of the stored set.
 };
 
 /// The task, or a record as nobody has filled it in.
@@ -105,6 +125,7 @@ void TaskSets::markLostEntries(const IsKnown& isKnown)
     for (auto& [id, task] : m_stored) {
         if (mediadispatch::markLostEntries(task, isKnown)) {
             m_touched.insert(id);
+            m_held.marked.insert(id);
         }
     }
 }
@@ -115,7 +136,7 @@ bool TaskSets::updateTasks(const Update& update)
     for (auto& [id, task] : m_stored) {
         if (update(task)) {
             m_touched.insert(id);
-            m_unwritten.insert(id);
+            m_held.unwritten.insert(id);
         }
     }
     bool isAnother = false;

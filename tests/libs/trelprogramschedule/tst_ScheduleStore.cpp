@@ -4,11 +4,44 @@
 #include <QCoreApplication>
 #include <QtTest>
 
+#include <functional>
+#include <utility>
+#include <vector>
+
 using namespace trel::mediadispatch;
 
 namespace {
 
 using TaskMap = std::map<int, PlayTask>;
+using Edit = std::function<void(PlayTask&)>;
+
+/// One edit for each field that a task or a plan holds by itself.
+std::vector<std::pair<const char*, Edit>> fieldEdits()
+{
+    const auto plan = [](auto field, auto value) {
+        return [field, value](PlayTask& task) { task.plans.at(1).*field = value; };
+    };
+    return {{"first day", [](PlayTask& task) { task.startDate = "2025.01.01"; }},
+            {"last day", [](PlayTask& task) { task.endDate.clear(); }},
+            {"id", plan(&PlayPlan::id, 12)},
+            {"mode", plan(&PlayPlan::mode, 1)},
+            {"start", plan(&PlayPlan::startTime, "00:00:01")},
+            {"end", plan(&PlayPlan::endTime, "")},
+            {"times", plan(&PlayPlan::times, -4)},
+            {"service count", plan(&PlayPlan::serviceCount, 5)},
+            {"end action", plan(&PlayPlan::endAction, 6)},
+            {"conflict", plan(&PlayPlan::isConflict, true)},
+            {"weeks", plan(&PlayPlan::weeks, "1,2")},
+            {"service time", plan(&PlayPlan::serviceTime, "?")},
+            {"no duration", plan(&PlayPlan::hasNoDuration, false)},
+            {"first flag", plan(&PlayPlan::serviceFlagA, false)},
+            {"second flag", plan(&PlayPlan::serviceFlagB, true)},
+            {"several", [](PlayTask& task) {
+                 task.endDate = "2025.12.31";
+                 task.plans.at(0).times = 1;
+                 task.plans.at(2).weeks = "3";
+             }}};
+}
 
 } // namespace
 
@@ -21,6 +54,8 @@ private slots:
     void everyFieldSurvives();
     void aNewStoreIsEmpty();
     void everySaveReplacesTheSet();
+    void editsOfSingleFieldsAreSaved_data();
+    void editsOfSingleFieldsAreSaved();
     void catalogueSurvives();
 };
 
@@ -63,6 +98,29 @@ void tst_ScheduleStore::everySaveReplacesTheSet()
     std::swap(tasks[4].plans[0], tasks[4].plans[1]);
     std::swap(tasks[4].plans[0].programs[0], tasks[4].plans[0].programs[2]);
     store.save(tasks);
+    store.restart();
+    QVERIFY(store.manager.getgTaskMap() == tasks);
+}
+
+void tst_ScheduleStore::editsOfSingleFieldsAreSaved_data()
+{
+    QTest::addColumn<int>("edit");
+    int number = 0;
+    for (const auto& [name, edit] : fieldEdits()) {
+        QTest::newRow(name) << number++;
+    }
+}
+
+void tst_ScheduleStore::editsOfSingleFieldsAreSaved()
+{
+    QFETCH(const int, edit);
+    StoreFixture store;
+    TaskMap tasks = {{1, everyFieldTask(1)}, {2, everyFieldTask(2)}, {3, everyFieldTask(3)}};
+    store.save(tasks);
+    fieldEdits().at(static_cast<std::size_t>(edit)).second(tasks.at(2));
+    QVERIFY(store.manager.getgTaskMap() != tasks);
+    store.save(tasks);
+    QVERIFY(store.manager.getgTaskMap() == tasks);
     store.restart();
     QVERIFY(store.manager.getgTaskMap() == tasks);
 }

@@ -11,6 +11,15 @@ StoreTaskWriter::StoreTaskWriter(const StoreConnection& connection)
     , m_removeValues(connection.prepare(QStringLiteral("DELETE FROM plan_value WHERE task_id = ?")))
     , m_removePlans(connection.prepare(QStringLiteral("DELETE FROM plan WHERE task_id = ?")))
     , m_removeTask(connection.prepare(QStringLiteral("DELETE FROM task WHERE id = ?")))
+    , m_dates(connection.prepare(
+          QStringLiteral("UPDATE task SET start_date = CAST(? AS TEXT), end_date = CAST(? AS TEXT)"
+                         " WHERE id = ?")))
+    , m_planFields(connection.prepare(QStringLiteral(
+          "UPDATE plan SET id = ?, mode = ?, start_time = CAST(? AS TEXT),"
+          " end_time = CAST(? AS TEXT), times = ?, service_count = ?, end_action = ?,"
+          " is_conflict = ?, weeks = CAST(? AS TEXT), service_time = CAST(? AS TEXT),"
+          " has_no_duration = ?, service_flag_a = ?, service_flag_b = ?"
+          " WHERE task_id = ? AND position = ?")))
     , m_task(connection.prepare(QStringLiteral("INSERT INTO task (id, start_date, end_date)"
                                                " VALUES (?, CAST(? AS TEXT), CAST(? AS TEXT))")))
     , m_plan(connection.prepare(QStringLiteral(
@@ -38,6 +47,12 @@ void StoreTaskWriter::write(const TaskEdits& edits)
     }
     for (const PlayTask* task : edits.written) {
         insert(*task);
+    }
+    for (const PlayTask* task : edits.dated) {
+        updateDates(*task);
+    }
+    for (const PlanEdit& edit : edits.plans) {
+        updatePlan(edit);
     }
 }
 
@@ -68,6 +83,22 @@ void StoreTaskWriter::insert(const PlayTask& task)
         insertEntries(task.id, position, plan);
         ++position;
     }
+}
+
+void StoreTaskWriter::updateDates(const PlayTask& task)
+{
+    bindFrom(0, m_dates, bytes(task.startDate), bytes(task.endDate), task.id);
+    m_connection.exec(m_dates);
+}
+
+void StoreTaskWriter::updatePlan(const PlanEdit& edit)
+{
+    const PlayPlan& plan = *edit.plan;
+    bindFrom(0, m_planFields, plan.id, plan.mode, bytes(plan.startTime), bytes(plan.endTime),
+             plan.times, plan.serviceCount, plan.endAction, plan.isConflict, bytes(plan.weeks),
+             bytes(plan.serviceTime), plan.hasNoDuration, plan.serviceFlagA, plan.serviceFlagB,
+             edit.taskId, edit.position);
+    m_connection.exec(m_planFields);
 }
 
 void StoreTaskWriter::insertPlan(int taskId, int position, const PlayPlan& plan)

@@ -20,6 +20,8 @@ private:
     void removeAll() const;
     void remove(int taskId);
     void insert(const PlayTask& task);
+    void updateDates(const PlayTask& task);
+    void updatePlan(const PlanEdit& edit);
     void insertPlan(int taskId, int position, const PlayPlan& plan);
     void insertValues(int taskId, int position, const PlayPlan& plan);
     void insertEntries(int taskId, int position, const PlayPlan& plan);
@@ -29,6 +31,8 @@ private:
     QSqlQuery m_removeValues;
     QSqlQuery m_removePlans;
     QSqlQuery m_removeTask;
+    QSqlQuery m_dates;
+    QSqlQuery m_planFields;
     QSqlQuery m_task;
     QSqlQuery m_plan;
     QSqlQuery m_value;
