@@ -6,16 +6,25 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstring>
+#include <cstdlib>
 #include <ctime>
 #include <iostream>
+#include <regex>
 #include <vector>
 
 namespace bench {
 
 namespace {
 
-bool quick = false;
+struct Options
+{
+    bool isQuick = false;
+    bool listsGroups = false;
+    std::string group; ///< The only one to run; empty for all.
+};
+
+Options options;
+std::vector<std::string> groups; ///< As they were entered.
 
 double median(std::vector<double> values)
 {
@@ -26,7 +35,7 @@ double median(std::vector<double> values)
 
 int roundsOf(const Comparison& comparison)
 {
-    return quick ? std::max(1, comparison.rounds / 3) : comparison.rounds;
+    return options.isQuick ? std::max(1, comparison.rounds / 3) : comparison.rounds;
 }
 
 void measure(benchmark::State& state, const Comparison& comparison)
@@ -50,6 +59,35 @@ void measure(benchmark::State& state, const Comparison& comparison)
     state.counters["target"] = comparison.target;
 }
 
+/// Whether the filter of the benchmark library lets a comparison through.
+bool isAskedFor(const std::string& name)
+{
+    const std::string filter = benchmark::GetBenchmarkFilter();
+    if (filter.empty() || filter == "all") {
+        return true;
+    }
+    const bool isTurnedAround = filter.front() == '-';
+    const std::regex pattern(filter.substr(isTurnedAround ? 1 : 0), std::regex::extended);
+    return std::regex_search(name, pattern) != isTurnedAround;
+}
+
+/// What goes by while it runs is news for whoever waits; the table is made of the results.
+class Progress : public benchmark::BenchmarkReporter
+{
+public:
+    bool ReportContext(const Context& /*context*/) override { return true; }
+
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        for (const Run& run : runs) {
+            const benchmark::UserCounters& counters = run.counters;
+            std::cerr << run.run_name.function_name << ": " << counters.at("ratio").value << " ("
+                      << counters.at("subject").value << " / " << counters.at("floor").value
+                      << ")\n";
+        }
+    }
+};
+
 double seconds(clockid_t clock)
 {
     timespec time = {};
@@ -67,10 +105,17 @@ double bytesInUse()
 
 void initialize(int& argc, char** argv)
 {
+    const std::string group = "--group=";
     char** const end = argv + argc;
-    char** const rest = std::remove_if(
-        argv + 1, end, [](const char* text) { return !std::strcmp(text, "--quick"); });
-    quick = rest != end;
+    char** const rest = std::remove_if(argv + 1, end, [&group](const std::string& argument) {
+        const bool isGroup = argument.compare(0, group.size(), group) == 0;
+        if (isGroup) {
+            options.group = argument.substr(group.size());
+        }
+        options.isQuick = options.isQuick || argument == "--quick";
+        options.listsGroups = options.listsGroups || argument == "--groups";
+        return isGroup || argument == "--quick" || argument == "--groups";
+    });
     argc = static_cast<int>(rest - argv);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
@@ -80,15 +125,20 @@ void initialize(int& argc, char** argv)
 
 bool isQuick()
 {
-    return quick;
+    return options.isQuick;
 }
 
 void add(const Comparison& comparison)
 {
-    if (quick && comparison.isLong) {
+    const std::string name = comparison.name + '/' + comparison.size;
+    const std::string& group = comparison.group.empty() ? name : comparison.group;
+    const bool isLeftOut = options.isQuick && comparison.isLong;
+    if (isLeftOut || !isAskedFor(name) || (!options.group.empty() && options.group != group)) {
         return;
     }
-    const std::string name = comparison.name + '/' + comparison.size;
+    if (std::find(groups.begin(), groups.end(), group) == groups.end()) {
+        groups.push_back(group);
+    }
     benchmark::RegisterBenchmark(
         name.c_str(), [comparison](benchmark::State& state) { measure(state, comparison); })
         ->Iterations(roundsOf(comparison))
@@ -97,11 +147,14 @@ void add(const Comparison& comparison)
 
 void run()
 {
-    // What goes by while it runs is news for whoever waits; the table is made of the results.
-    benchmark::ConsoleReporter console(benchmark::ConsoleReporter::OO_None);
-    console.SetOutputStream(&std::cerr);
-    console.SetErrorStream(&std::cerr);
-    benchmark::RunSpecifiedBenchmarks(&console);
+    if (options.listsGroups) {
+        for (const std::string& group : groups) {
+            std::cout << group << '\n';
+        }
+    } else if (!groups.empty()) {
+        Progress progress;
+        benchmark::RunSpecifiedBenchmarks(&progress);
+    }
     // What lanes have kept goes while the application is still there.
     benchmark::ClearRegisteredBenchmarks();
 }

@@ -20,10 +20,16 @@ struct Comparison
     int rounds = 15; ///< Both lanes run once in each.
     /// Left out of the quick run, which takes a third of the rounds.
     bool isLong = false;
+    /// Comparisons of one group share a process, as they share what they measure. Without a group
+    /// each has a process of its own: what the memory has been used for before makes a difference.
+    std::string group = {};
 };
 
-/// Reads --quick, and the options of the benchmark library, out of the command line. To be called
-/// before the first add(). Unknown options end the program.
+/// Reads the options out of the command line: those of the benchmark library, and
+///   --quick        fewer rounds, and nothing that is long
+///   --groups       has run() print the names of the groups, a line each, and measure nothing
+///   --group=NAME   only what is in that group
+/// To be called before the first add(). Unknown options end the program.
 void initialize(int& argc, char** argv);
 bool isQuick();
 
@@ -31,7 +37,8 @@ bool isQuick();
 /// so that whatever else the machine is doing falls on both. The ratio is that of the medians.
 void add(const Comparison& comparison);
 
-/// Runs what has been entered and what the options ask for, which may be nothing.
+/// Runs what has been entered and what the options ask for, which may be nothing. What is measured
+/// goes by on the error stream.
 void run();
 
 /// The seconds of processor time that something takes. A machine that works for others as well

@@ -2,6 +2,7 @@
 
 #include "Comparison.h"
 #include "Fixture.h"
+#include "Measurements.h"
 #include "PlainList.h"
 #include "PlanList.h"
 #include "QuietService.h"
@@ -88,26 +89,6 @@ constexpr std::size_t kLongRounds = 3;
 /// Plain widgets take so long for a long schedule that they build it once.
 constexpr std::size_t kLongPlainRounds = 1;
 
-/// What has been measured. Of a long schedule so many measurements serve all rows of the table, in
-/// turn.
-class Measurements
-{
-public:
-    template <typename Measure>
-    const Cost& next(std::size_t kept, Measure measure)
-    {
-        if (m_costs.size() < kept) {
-            m_costs.push_back(measure());
-            return m_costs.back();
-        }
-        return m_costs[m_next++ % m_costs.size()];
-    }
-
-private:
-    std::vector<Cost> m_costs;
-    std::size_t m_next = 0;
-};
-
 /// A schedule that is shown as a list, by the editor and by plain widgets.
 class Schedule
 {
@@ -119,6 +100,12 @@ public:
     {}
 
     bool isLong() const { return m_tasks >= 1000; }
+    /// What long schedules measure serves all rows of a group. Those of another begin afresh, with
+    /// memory that no plain widgets have been in.
+    std::string group(const std::string& what) const
+    {
+        return isLong() ? what + " of a list of " + size() : std::string();
+    }
     int tasks() const { return m_tasks; }
     /// What a copy of its records takes.
     double recordBytes() const
@@ -173,8 +160,8 @@ private:
     int m_tasks;
     int m_plans;
     Look m_look;
-    Measurements m_editor;
-    Measurements m_plain;
+    Measurements<Cost> m_editor;
+    Measurements<Cost> m_plain;
 };
 
 using SharedSchedule = std::shared_ptr<Schedule>;
@@ -189,10 +176,10 @@ void addSize(const SharedSchedule& schedule)
     const bool isLong = schedule->isLong();
     add({"Refresh the list, against plain widgets", schedule->size(), kAgainstPlain,
          [=] { return schedule->editor().refresh; }, [=] { return schedule->plain().refresh; },
-         roundsOf(*schedule), isLong});
+         roundsOf(*schedule), isLong, schedule->group("floor")});
     add({"Memory of the list, against plain widgets", schedule->size(), kAgainstPlain,
          [=] { return schedule->editor().bytes; }, [=] { return schedule->plain().bytes; }, 1,
-         isLong});
+         isLong, schedule->group("floor")});
 }
 
 void addGrowth(const std::string& what, double Cost::*part, const SharedSchedule& few,
@@ -202,7 +189,7 @@ void addGrowth(const std::string& what, double Cost::*part, const SharedSchedule
     add({what + ", against fewer tasks", many->size() + " against " + count(few->tasks(), "tasks"),
          linear(static_cast<double>(many->tasks()) / few->tasks()),
          [=] { return many->editor().*part; }, [=] { return few->editor().*part; }, rounds,
-         many->isLong()});
+         many->isLong(), many->group("growth")});
 }
 
 void addGrowth(const SharedSchedule& few, const SharedSchedule& many)

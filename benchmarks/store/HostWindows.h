@@ -31,6 +31,8 @@ public:
     /// Shows the changes of the clocks and the week, each in a window of its own.
     void showPanels();
     trel::mediadispatch::scheduleControlUI& editor() { return m_editor; }
+    Languages& languages() { return m_languages; }
+    Themes& themes() { return m_themes; }
 
 private:
     QString path() const { return m_folder.filePath(QStringLiteral("schedule.db")); }

@@ -20,6 +20,7 @@ constexpr double kTenTimes = 11.67;
 constexpr double kFarLess = 0.1;
 constexpr double kNoMore = 1.3;
 constexpr double kAgainstNoPlans = 1.5;
+constexpr double kFrameSeconds = 0.016;
 constexpr int kTasks = 100;
 constexpr int kManyTasks = 1000;
 constexpr int kPlansOfTask = 5;
@@ -123,15 +124,20 @@ void addWaitCases()
          [] { return remove(10000, 1000, true); }, [] { return remove(1000, 100, true); }, 9});
     add({"Open a store of files, against live sources", "10,000 programs", kNoMore,
          [] { return open(10000, true); }, [] { return open(10000, false); }, 9});
-    const auto addSave = [](const char* name, Edit what) {
-        add({name, "1,000 tasks of 5 plans against 100 tasks", kTenTimes,
+    const auto addSave = [](const std::string& name, Edit what) {
+        add({name + ", against fewer tasks", "1,000 tasks of 5 plans against 100 tasks", kTenTimes,
              [what] { return save(1000, what); }, [what] { return save(100, what); }, 5});
+        add({name + ", against fewer tasks and a frame", "1,000 tasks of 5 plans against 10 tasks",
+             1.0, [what] { return save(1000, what); },
+             [what] { return save(10, what) + kFrameSeconds; }, 5});
     };
-    addSave("Save what was not edited, against fewer tasks", Edit::None);
-    addSave("Save one task of all, against fewer tasks", Edit::OneTask);
-    addSave("Save every task, against fewer tasks", Edit::EveryTask);
+    addSave("Save what was not edited", Edit::None);
+    addSave("Save one task of all", Edit::OneTask);
+    addSave("Save every task", Edit::EveryTask);
     add({"Put a schedule into effect, against fewer plans", "50,000 against 5,000 plans", kTenTimes,
          [] { return start(50000); }, [] { return start(5000); }, 9});
+    add({"Put a schedule into effect, against fewer plans and a frame", "50,000 against 500 plans",
+         1.0, [] { return start(50000); }, [] { return start(500) + kFrameSeconds; }, 9});
 }
 
 } // namespace bench

@@ -1,4 +1,5 @@
 #include "Comparison.h"
+#include "EditorWaits.h"
 #include "KeystrokeCases.h"
 #include "StartCases.h"
 #include "StoreCases.h"
@@ -16,6 +17,7 @@ int main(int argc, char** argv)
     bench::addStoreCases();
     bench::addStartCases();
     bench::addWaitCases();
+    bench::addEditorWaits();
     bench::addKeystrokeCases();
     try {
         bench::run();
