@@ -71,7 +71,7 @@ bool isAskedFor(const std::string& name)
     return std::regex_search(name, pattern) != isTurnedAround;
 }
 
-/// What goes by while it runs is news for whoever waits; the table is made of the results.
+/// What goes by while it runs is progress for the user; the table is made of the results.
 class Progress : public benchmark::BenchmarkReporter
 {
 public:

@@ -2,7 +2,7 @@
 
 namespace bench {
 
-/// The list of cards, built anew from the stored set.
+/// The list of cards, built again from the stored set.
 void addListCases();
 
 } // namespace bench

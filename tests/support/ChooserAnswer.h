@@ -11,7 +11,7 @@
 /// Operates the program choosers that open while it lives. Each takes the next list of steps, which
 /// ends with confirming, cancelling or closing it.
 ///
-/// A chooser never hangs a test: one that nobody expected, or that is still open after its steps,
+/// A chooser never hangs a test: one that was not expected, or that is still open after its steps,
 /// is closed and fails the test, and so does a chooser that was expected and did not open.
 ///
 ///     ChooserAnswer answer([](ChooserWindow& chooser) {

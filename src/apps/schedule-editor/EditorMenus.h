@@ -10,7 +10,7 @@ class QMenu;
 class QMenuBar;
 
 /// The menus of the host's window: what stands in them, with its keys, and the choice of theme and
-/// language. What the other entries do is up to whoever connects them.
+/// language. What the other entries do is up to the code that connects them.
 class EditorMenus : public QObject
 {
     Q_OBJECT

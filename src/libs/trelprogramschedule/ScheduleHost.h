@@ -28,7 +28,7 @@ struct MediaSource;
 /// hosts may have the same file open: each sees the other's saves and imports when its list is next
 /// refreshed or on reload, and is refused a save that would undo what it has not seen
 /// (StoreProblem::MovedOn).
-// The destructor is private, for nobody but instance() makes or ends the one instance.
+// The destructor is private: only instance() makes or ends the one instance.
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class TRELPROGRAMSCHEDULE_EXPORT ScheduleHost : public QObject
 {

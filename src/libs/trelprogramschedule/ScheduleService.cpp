@@ -150,8 +150,8 @@ void ScheduleService::tellEverybody(const CatalogueChange& change)
     emit programsChanged();
     // A program that is new has no length that changed, but a plan may have waited for it.
     if (std::exchange(m_areEndsUntold, false) || change.lengths) {
-        // Whoever works out its ends anew works out its collisions with them: a second signal for
-        // these would only have everything done twice.
+        // A card that works out its ends again works out its collisions with them: a second signal
+        // for these would only have everything done twice.
         emit lengthsChanged();
     }
     emit catalogueChanged();
@@ -286,7 +286,7 @@ void ScheduleService::renewWatch()
 
 void ScheduleService::noteWorkingSet()
 {
-    // Without an application there is nobody to be told, and none of the former one's notices come.
+    // Without an application there is no receiver, and none of the former one's notices come.
     if (m_noticeDue == QCoreApplication::instance()) {
         return;
     }

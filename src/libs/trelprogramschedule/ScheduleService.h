@@ -86,7 +86,7 @@ signals:
     void tasksReplaced();
     void workingTasksChanged(const std::set<int>& taskIds);
     void workingSetChanged();
-    /// A save that nobody waits for the outcome of was refused.
+    /// A save was refused that no caller waits for.
     void saveFailed(const trel::mediadispatch::StoreResult& reason);
 
 private:
@@ -111,7 +111,7 @@ private:
     void renewWatch();
     /// Reads the catalogue and tells how it has changed.
     StoreResult readCatalogue();
-    /// Reads the programs that have just been written; only these, where nobody else wrote.
+    /// Reads the programs that have just been written; only these, where no other program wrote.
     StoreResult takePrograms(const std::vector<int>& indexes);
     /// Nothing but one change of this program lies between what was read and this revision.
     bool isNextCatalogue(const StoreRevision& revision) const;
@@ -123,7 +123,7 @@ private:
     StoreRevision m_revision; ///< What has been read of the store.
     /// Since entries were last marked, programs or stored tasks have changed.
     bool m_isMarkingDue = false;
-    /// Ends in the working set have changed, and nobody has been told.
+    /// Ends in the working set have changed, and no signal has told of it yet.
     bool m_areEndsUntold = false;
     std::unique_ptr<ProgramFileWatch> m_fileWatch; ///< Only while files are watched.
     /// The application whose event loop is still to tell of the working set.

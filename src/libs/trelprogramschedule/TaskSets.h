@@ -96,7 +96,7 @@ private:
     HeldOtherwise m_held;    ///< Of the stored set.
 };
 
-/// The task, or a record as nobody has filled it in.
+/// The task, or an empty record.
 PlayTask findTask(const TaskMap& tasks, int taskId);
 /// The first plan with this id, with its position in index; index stays as it is without one.
 PlayPlan findPlan(const TaskMap& tasks, int taskId, int planId, int& index);

@@ -20,7 +20,7 @@ QStringList entriesOf(const QString& path)
 void report(const DirectoryChange& change)
 {
     if (!change.added.isEmpty() && !change.removed.isEmpty()) {
-        // With more names than one on a side nobody can tell which became which.
+        // With more names than one on a side it is unknown which became which.
         if (change.added.size() == 1 && change.removed.size() == 1) {
             qDebug().noquote() << QStringLiteral("File Renamed from %1 to %2")
                                       .arg(change.removed.first(), change.added.first());
@@ -45,8 +45,8 @@ FileSystemWatcher::~FileSystemWatcher() = default;
 void FileSystemWatcher::addWatchPath(QString path)
 {
     qDebug().noquote() << QStringLiteral("Add to watch: %1").arg(path);
-    // Connected anew on every call: whoever adds a path once more asks to hear of changes once
-    // more.
+    // Connected again on every call: a caller that adds a path once more asks to hear of changes
+    // once more.
     connect(m_watcher, &QFileSystemWatcher::directoryChanged, this,
             &FileSystemWatcher::directoryUpdated);
     connect(m_watcher, &QFileSystemWatcher::fileChanged, this, &FileSystemWatcher::fileUpdated);

@@ -20,7 +20,7 @@ class FileSystemWatcher : public QObject
 
 public:
     /// The parent also becomes the owner of the toolkit's watcher, which outlives this object until
-    /// the parent goes. So give one: without it nobody frees that watcher.
+    /// the parent goes. So give one: without it that watcher is never freed.
     explicit FileSystemWatcher(QObject* parent);
     ~FileSystemWatcher() override;
 

@@ -16,7 +16,7 @@ QWidget* LineEditDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
     field->setRow(index.row());
     m_fieldByRow[index.row()] = field;
     connect(field, &kCustomLineEdit::signalClicked, this, &LineEditDelegate::signalClicked);
-    // Nobody has pressed anything yet, and the field knows that: this opens no chooser.
+    // No key or button was pressed yet, and the field knows that: this opens no chooser.
     field->slotClicked();
     return field;
 }

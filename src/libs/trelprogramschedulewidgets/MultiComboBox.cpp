@@ -32,7 +32,7 @@ constexpr int kArrowInset = 10;
 /// the list as well, which is most of the box, and most boxes of a long schedule are never opened.
 ///
 /// To a line without a completer the toolkit gives one of its own, with a model over the entries. A
-/// line that nobody can type into never asks it, so one that is empty stands in for it meanwhile.
+/// line that takes no typing never asks it, so one that is empty stands in for it meanwhile.
 void setLine(QComboBox& box, QLineEdit* line)
 {
     static QPointer<QCompleter> standIn;
@@ -165,7 +165,7 @@ bool MultiComboBox::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     }
     toggle(view()->indexAt(static_cast<QMouseEvent*>(event)->pos()));
-    // Nobody else may see the release: it would choose the entry and close the list.
+    // The release may reach no other object: it would choose the entry and close the list.
     return true;
 }
 
@@ -316,7 +316,8 @@ void MultiComboBox::prepareList()
         m_delegate = new BoolCheckDelegate(this);
         connect(m_delegate, &BoolCheckDelegate::toggleRequested, this, &MultiComboBox::toggle);
     }
-    // Another style brings a delegate of its own, and whoever watches last is asked first.
+    // Another style brings a delegate of its own, and the event filter installed last is asked
+    // first.
     if (itemDelegate() != m_delegate) {
         setItemDelegate(m_delegate);
     }

@@ -277,7 +277,7 @@ void PlanList::rebuild()
 {
     setUpdatesEnabled(false);
     // A list that is shown with all its cards lays them out once; one that is visible already does
-    // so for every card anew.
+    // so for every card again.
     const bool wasVisible = isVisible();
     if (wasVisible) {
         hide();

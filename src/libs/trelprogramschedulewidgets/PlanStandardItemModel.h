@@ -7,7 +7,7 @@ namespace trel::mediadispatch {
 /// The model of a plan table: a standard item model whose rows can be moved onto one another.
 ///
 /// A move carries the number of its source row in the mime format "row". It reorders the rows of
-/// the model and nothing else; whoever turns dragging on has to make the plans follow.
+/// the model and nothing else; a host that turns dragging on has to make the plans follow.
 class PlanStandardItemModel : public QStandardItemModel
 {
     Q_OBJECT

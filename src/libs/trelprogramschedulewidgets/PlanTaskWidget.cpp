@@ -685,7 +685,7 @@ void PlanTaskWidget::refreshEditorrow(int row)
 
 // What is refused goes back through the editor's own signal with the stored value, which passes.
 // A service or a host may act while a refusal is on screen: the card may be gone afterwards, or
-// hold a task that was read anew.
+// hold a task that was read again.
 
 void PlanTaskWidget::slotUpdateStartTimeDate(QDate date)
 {

@@ -128,13 +128,13 @@ public slots:
 
     /// Works out afresh the end of every plan whose end follows from its programs.
     void slotUpdateEndTime();
-    /// Reads the task from the service again. The editors on show are not filled anew. progId tells
-    /// nothing: every card answers.
+    /// Reads the task from the service again. The editors on show are not filled again. progId
+    /// tells nothing: every card answers.
     void slotReflushConflict(int progId);
     /// Lets the program fields follow the removal of a row.
     void refreshEditorrow(int row);
 
-    /// Fetches every text of the card anew.
+    /// Fetches every text of the card again.
     void slotTranslation();
 
 private:

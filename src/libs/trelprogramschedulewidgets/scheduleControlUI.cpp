@@ -51,7 +51,7 @@ void scheduleControlUI::connectAll()
 {
     PlanList* list = m_centerWidget->planList();
     // The first and the last connection wait for a title bar. Without one the toolkit refuses both
-    // with a line on the debug stream, which tells whoever embeds the window that its language
+    // with a line on the debug stream, which tells the developer of the host that its language
     // index goes nowhere.
     connect(m_titleBar, &TitleBar::signalButtonCloseClicked, this, &scheduleControlUI::slotCancel,
             Qt::DirectConnection);

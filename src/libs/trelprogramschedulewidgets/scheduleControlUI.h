@@ -78,7 +78,7 @@ public slots:
     void slotShow();
 
 protected:
-    /// Escape is left to whoever stands behind the window: it never closes a schedule in work.
+    /// Escape is left to the parent of the window: it never closes a schedule in work.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

@@ -14,7 +14,7 @@ namespace {
 constexpr int kButtonSide = 26;
 constexpr int kSignSide = 16;
 
-/// Draws a sign anew for every size and palette, so that it is sharp on every screen.
+/// Draws a sign for every size and palette, so that it is sharp on every screen.
 class SignEngine : public QIconEngine
 {
 public:

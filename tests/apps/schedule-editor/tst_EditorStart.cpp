@@ -120,7 +120,7 @@ void tst_EditorStart::theProgramLoadsNoLibraryThatItDoesNotNeed()
     const QTemporaryDir folder;
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // The linker names each file that it opens, whoever asked for it.
+    // The linker names each file that it opens, for every library.
     environment.insert(QStringLiteral("LD_DEBUG"), QStringLiteral("files"));
     environment.insert(QStringLiteral("LD_DEBUG_OUTPUT"), folder.filePath(QStringLiteral("files")));
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.path());

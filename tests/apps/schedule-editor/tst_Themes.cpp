@@ -105,7 +105,7 @@ void tst_Themes::aSwitchLeavesNothingOfTheOldOne()
     const QImage switched = m_host->editor->grab().toImage();
     QVERIFY(switched != dark);
 
-    // Windows that are built anew have nothing left over to show.
+    // Windows that are built again have nothing left over to show.
     m_host->editor->clearAndInitialize();
     openCard();
     QCOMPARE(m_host->editor->grab().toImage(), switched);

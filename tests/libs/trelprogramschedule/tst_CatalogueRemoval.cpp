@@ -71,7 +71,7 @@ void tst_CatalogueRemoval::manyAreOneChange()
     }
 }
 
-/// Whoever works out ends works out collisions too, so that no second signal comes for these.
+/// A card that works out ends works out collisions too, so that no second signal comes for these.
 void tst_CatalogueRemoval::oneProgramIsASetOfOne()
 {
     StoreFixture store;
@@ -140,7 +140,7 @@ void tst_CatalogueRemoval::plansAreCountedInTheStore()
     QCOMPARE(store.host.plansWith({1}), 0);
 }
 
-/// A schedule that nobody could read is in nobody's way.
+/// A schedule that could not be read is in no one's way.
 void tst_CatalogueRemoval::theScheduleStaysUnread()
 {
     StoreFixture store;

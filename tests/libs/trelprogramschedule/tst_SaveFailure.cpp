@@ -280,7 +280,7 @@ void tst_SaveFailure::importsOfBothEditorsGetTheirOwnIndexes()
     QCOMPARE(result.updated, std::vector<int>{5});
     QCOMPARE(result.added, std::vector<int>{6});
     QCOMPARE(m_store->manager.getPrograms().size(), std::size_t(6));
-    // The catalogue is no part of the schedule: nobody's save is refused for it.
+    // The catalogue is no part of the schedule: no save is refused for it.
     QVERIFY(m_store->host.trySave());
 }
 

@@ -4,7 +4,7 @@
 #include <QEvent>
 #include <QObject>
 
-/// Counts the events of one type, and keeps them from whomever they are for.
+/// Counts the events of one type, and keeps them from their receivers.
 class EventCount : public QObject
 {
 public:

@@ -127,7 +127,7 @@ void tst_BuildingCosts::aBoxIsBuiltWithoutItsList()
     box->setEnabled(false);
     box->hide();
     QVERIFY(box->findChildren<QAbstractItemView*>().isEmpty());
-    // Nor is there anything that would complete what nobody can type.
+    // Nor is there anything that would complete what cannot be typed.
     QVERIFY(box->findChildren<QCompleter*>().isEmpty());
     QVERIFY(!box->completer());
     QVERIFY(box->isEditable());
@@ -141,7 +141,7 @@ void tst_BuildingCosts::theListOfABoxIsWatchedByWhomeverItIsMade()
     box.addItem(QStringLiteral("Monday"));
     box.setShownText(QStringLiteral("every day"));
     box.restoreCheckMarks();
-    // Nobody has opened the list.
+    // The list was not opened yet.
     QAbstractItemView* const list = box.view();
     const QPoint monday = list->visualRect(box.model()->index(1, 0)).center();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, monday);

@@ -288,7 +288,7 @@ void tst_PlanListCosts::theListIsPaintedAsAWhole()
     window.cards().at(0)->hide();
     window.cards().at(0)->show();
     QTRY_VERIFY(requests.count > 0);
-    // Whoever is in sight is painted all the same, to the last label.
+    // What is in sight is painted all the same, to the last label.
     const QList<PlanTaskWidget*> cards = window.cards();
     QCOMPARE(cards.size(), 20);
     for (PlanTaskWidget* card : cards) {

@@ -214,7 +214,7 @@ void tst_PlanTaskWidgetAfterChoosing::confirmedInTimeModeRunsNoPass()
     service().working[1].plans[1].startTime = "08:30:00";
     const ChooserAnswer answer(choose(kFilm));
     click(field(open, 1));
-    // The plan that was read anew collides, and the row shows it with the next pass.
+    // The plan that was read again collides, and the row shows it with the next pass.
     QCOMPARE(open.rows.task().plans[1].startTime, std::string("08:30:00"));
     QCOMPARE(open.rows.states(), QStringLiteral("green green"));
     QCOMPARE(open.stores(), 0);

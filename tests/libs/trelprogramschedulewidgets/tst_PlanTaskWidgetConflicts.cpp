@@ -23,7 +23,7 @@ RecordingService& service()
     return RecordingService::instance();
 }
 
-/// Counts how often the style sheet of a widget is set anew.
+/// Counts how often the style sheet of a widget is set again.
 class StyleCounter : public QObject
 {
 public:

@@ -176,7 +176,7 @@ void tst_ProgramChooseMenu::aGreyedMenuDoesNothing()
             QCOMPARE(fixture.service.log, QStringList(QStringLiteral("getScheduleState()")));
             QCOMPARE(chooser.planRows(), before);
         }
-        // Nor by the actions themselves: nobody listens.
+        // Nor by the actions themselves: nothing is connected.
         chooser.withContextMenu(1, [](QMenu& menu) {
             for (QAction* action : menu.actions()) {
                 action->trigger();

@@ -245,7 +245,7 @@ void tst_TitleBar::aHiddenRestoreStaysHiddenWhenMaximised()
     m_bar->setButtonType(TitleBar::MaximisedWindow);
     QCOMPARE(shown(), QStringLiteral("min restore close"));
 
-    // Nobody asks whether maximise was hidden.
+    // No call asks whether maximize was hidden.
     m_bar->setMaxVisible(false);
     m_bar->setButtonType(TitleBar::NormalWindow);
     QCOMPARE(shown(), QStringLiteral("min max close"));

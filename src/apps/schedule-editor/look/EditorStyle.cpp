@@ -85,7 +85,7 @@ QRect stateGround(const QWidget& label)
     return QStyle::visualRect(label.layoutDirection(), label.rect(), ground);
 }
 
-/// Nobody types in a line of choices. It would cut them off in the middle of a letter, so it shows
+/// A line of choices takes no typing. It would cut them off in the middle of a letter, so it shows
 /// nothing itself, and the style paints what has room.
 void hideOwnText(QWidget& line)
 {

@@ -12,7 +12,7 @@ namespace look {
 /// The look of the editor and of the host: flat, in the colours of one theme at a time.
 ///
 /// It knows the editor's hooks by themselves, without a style sheet. A sheet on the application, or
-/// on a window, would make every row of a plan several times as dear to build. Whoever sets one
+/// on a window, would make every row of a plan several times as dear to build. A host that sets one
 /// nevertheless gets the colours of the sheet where it has any.
 class EditorStyle : public QProxyStyle
 {

@@ -14,7 +14,7 @@ namespace look {
 /// room.
 void paintImage(QPainter& painter, const QRect& rect, const QString& name, const QColor& colour);
 
-/// An icon that paints the drawing anew for every size and every pixel ratio.
+/// An icon that paints the drawing for every size and every pixel ratio.
 QIcon imageIcon(const QString& name, const QColor& colour);
 
 } // namespace look

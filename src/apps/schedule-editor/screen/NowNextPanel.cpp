@@ -257,7 +257,7 @@ bool NowNextPanel::eventFilter(QObject* watched, QEvent* event)
 bool NowNextPanel::event(QEvent* event)
 {
     if (event->type() == QEvent::Show) {
-        // Nobody has told of time while the panel was hidden.
+        // No tick of the clock came while the panel was hidden.
         showTimes();
     }
     return QWidget::event(event);

@@ -29,7 +29,7 @@ public:
         QImage image;         ///< Null: the program has none that can be read.
     };
     /// The picture in a size for this room, in dots of the device. It may be larger, up to twice,
-    /// so that a room that grows a little does not have it read anew.
+    /// so that a room that grows a little does not have it read again.
     Answer picture(const trel::mediadispatch::ProgramIten& program, const QSize& room);
 
     /// Forgets every picture, as when files have changed.

@@ -16,7 +16,7 @@ struct ThemeColours;
 
 namespace week {
 
-/// A block, by what stays the same when the week is laid out anew.
+/// A block, by what stays the same when the week is laid out again.
 struct BlockRef
 {
     QDate date;

@@ -333,7 +333,7 @@ void WeekView::mousePressEvent(QMouseEvent* event)
 
 void WeekView::mouseReleaseEvent(QMouseEvent* event)
 {
-    // The press was taken here; the release is nobody else's.
+    // The press was taken here; the release belongs to the same widget.
     event->accept();
 }
 

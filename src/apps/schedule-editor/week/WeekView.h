@@ -37,7 +37,7 @@ public:
     /// The same with a week that has been laid out; one that is not shown is laid out here.
     void setPicture(const WeekPicture& picture);
     void setColours(const look::ThemeColours& colours);
-    /// Takes the texts and the order of days from the language anew.
+    /// Takes the texts and the order of days from the language again.
     void retranslate();
 
     QDate firstDay() const { return m_layout->first(); }

@@ -119,7 +119,7 @@ void writeRemoval(Console& console, const std::vector<int>& indexes, const Progr
 
 ExitStatus runImport(const Invocation& invocation, Console& console)
 {
-    // Opened first, so that nobody waits for a long scan that has nowhere to go.
+    // Opened first, so that no long scan runs that has nowhere to go.
     const auto database =
         openDatabase(invocation, Database::Access::Write, console, Database::Part::Catalogue);
     if (!database) {

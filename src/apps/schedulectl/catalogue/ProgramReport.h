@@ -12,7 +12,7 @@
 /// The length of a program for people; a dash when it has none of its own.
 QString programLength(const trel::mediadispatch::ProgramIten& program);
 
-/// The file or the address of a program as it may go to a terminal, where nobody is to read a
+/// The file or the address of a program as it may go to a terminal, where no one is to read a
 /// password.
 QString programPath(const trel::mediadispatch::ProgramIten& program);
 

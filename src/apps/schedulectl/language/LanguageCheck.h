@@ -11,7 +11,7 @@ struct LanguageFinding
 {
     enum class Kind {
         Missing,    ///< The editor looks the text up, and the file lacks it.
-        Unknown,    ///< Nobody looks the text up.
+        Unknown,    ///< No code looks the text up.
         Repeated,   ///< The text stands in the file more than once.
         Empty,      ///< Nothing would be shown.
         Unfinished, ///< Its translator has marked it as not done.

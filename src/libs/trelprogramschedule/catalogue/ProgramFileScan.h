@@ -60,7 +60,7 @@ public:
     void lookSoon();
 
 signals:
-    /// These files have come or gone. Whoever is told knows it from then on.
+    /// These files have come or gone. Receivers know it from then on.
     void found(int generation, const trel::mediadispatch::ProgramFiles& files);
 
 private:

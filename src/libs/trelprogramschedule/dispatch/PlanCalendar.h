@@ -15,7 +15,7 @@ struct HeldSpan
 {
     LocalTime begin = 0;
     LocalTime end = 0; ///< Not included.
-    /// When the plan's list began that day, whoever had the screen by then.
+    /// When the plan's list began that day, whatever had the screen by then.
     LocalTime listBegin = 0;
     int taskId = 0;
     int row = 0;

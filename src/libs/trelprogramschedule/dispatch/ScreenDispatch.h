@@ -21,7 +21,7 @@ struct ProgramIten;
 /// Sleeps until the next event, by the clock that was in force when the schedule was started, and
 /// is woken early when that clock is set, so that what it says is never more than a second old.
 /// Reached through ScheduleHost::dispatch(); GUI thread only.
-// The destructor is private, for nobody but the service makes or ends the one instance.
+// The destructor is private: only the service makes or ends the one instance.
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class TRELPROGRAMSCHEDULE_EXPORT ScreenDispatch : public QObject
 {
@@ -30,7 +30,7 @@ class TRELPROGRAMSCHEDULE_EXPORT ScreenDispatch : public QObject
 public:
     /// Whether a schedule has been started.
     bool isRunning() const;
-    /// What is on screen at this moment, worked out anew.
+    /// What is on screen at this moment, worked out at the call.
     ScreenState state() const;
     /// The schedule in effect with its insertions, for questions about other moments. Without one
     /// these are empty. Valid until the next changed(), which a slot of that very signal may cause:

@@ -8,7 +8,7 @@
 
 namespace trel::mediadispatch {
 
-/// Why a value is not taken. Thrown while a record is read; whoever holds the tree catches it.
+/// Why a value is not taken. Thrown while a record is read; the reader of the tree catches it.
 struct JsonRefusal
 {
     const JsonValue* value; ///< In the tree that is read.

@@ -11,7 +11,7 @@
 namespace trel::mediadispatch {
 
 /// A value in JSON with all that it holds. Members keep their order, and a name that is repeated
-/// stands there as often, so that whoever reads the tree can refuse it.
+/// stands there as often, so that a reader of the tree can refuse it.
 struct JsonValue
 {
     enum class Kind { Null, Boolean, Number, Text, Array, Object };

@@ -373,7 +373,7 @@ Schedule readSchedule(const JsonValue& top)
     }
     Schedule tasks;
     // Format and version come before everything else, wherever they stand: a file of another kind
-    // or a newer version is not to be blamed for members that nobody here knows.
+    // or a newer version is not to be blamed for members that this version does not know.
     const JsonValue* const format = top.member(kFormat);
     if (format == nullptr) {
         refuse(top, QStringLiteral("the member \"format\" is missing; this is no schedule"));

@@ -29,7 +29,7 @@ constexpr int kFilesPerProcess = 500;
 /// No program plays for longer than ten years.
 constexpr double kLongestMs = 10.0 * 366 * 24 * 3600 * 1000;
 
-/// The folder of the library, or of the program, that holds this code; empty when nobody knows.
+/// The folder of the library, or of the program, that holds this code; empty when it is unknown.
 QString ownFolder()
 {
     static const char here = 0;

@@ -104,7 +104,8 @@ StoreResult ScheduleDatabase::judge() const
 
 StoreResult ScheduleDatabase::create() const
 {
-    // Made beside its place and moved there whole, so that nobody ever meets half a store.
+    // Made beside its place and moved there whole, so that no other program ever meets half a
+    // store.
     if (!m_file.makeDraft()) {
         return refusalOfSystem(errno, m_file.path());
     }
@@ -178,7 +179,7 @@ StoreResult ScheduleDatabase::look(StorePart part)
             m_seen.reset();
         }
         if (!result && isShared && !hadLogIndex) {
-            // A log without an index has nobody who works with it.
+            // A log without an index is in use by no program.
             m_file.removeLogIndex();
             return m_file.canHaveLogIndex()
                        ? result
@@ -300,7 +301,7 @@ StoreResult ScheduleDatabase::judgeInPlace() const
                        QStringLiteral("it was opened for reading only"));
     }
     if (!isInPlace()) {
-        // The database would go on writing into a file that nobody will find again.
+        // The database would go on writing into a file that has no name any more.
         return refusal(StoreProblem::Other, m_file.path(),
                        QStringLiteral("it was removed or replaced since it was opened"));
     }

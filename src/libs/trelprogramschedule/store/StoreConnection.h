@@ -27,7 +27,7 @@ public:
         Create,
         ReadWrite, ///< The file must exist.
         ReadOnly,  ///< Shares the file with other programs.
-        Untouched, ///< Takes no lock and makes no file; nobody else may have the file open.
+        Untouched, ///< Takes no lock and makes no file; no other program may have the file open.
         Memory,    ///< No file at all; the path is only for messages.
     };
 
@@ -87,7 +87,7 @@ class StoreTransaction
 public:
     enum class Purpose {
         Read,  ///< One state of the store for all queries.
-        Write, ///< Nobody else writes until the end.
+        Write, ///< No other connection writes until the end.
     };
 
     StoreTransaction(const StoreConnection& connection, Purpose purpose);

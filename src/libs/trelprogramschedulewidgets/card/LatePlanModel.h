@@ -6,8 +6,8 @@
 
 namespace trel::mediadispatch {
 
-/// The plan model of a card whose rows are left until they are needed. Whoever asks for a row, or
-/// how many there are, gets all of them: they are put in before the answer.
+/// The plan model of a card whose rows are left until they are needed. A caller that asks for a
+/// row, or how many there are, gets all of them: they are put in before the answer.
 class LatePlanModel : public PlanStandardItemModel
 {
 public:

@@ -115,7 +115,7 @@ void setCellToolTip(const QTableView& table, const QModelIndex& cell, const QStr
     }
 }
 
-// Nobody asks for it in here; it is a hook for those who look at a row from outside.
+// The editor does not ask for it; it is a hook for callers that look at a row from outside.
 void markRow(QWidget& editor, int row)
 {
     editor.setProperty("row", row);
@@ -153,7 +153,7 @@ private:
 };
 
 // The holder belongs to the viewport from the start, which is where the table wants it, so that no
-// widget is polished twice. The layout comes to its holder when it is complete: until then nobody
+// widget is polished twice. The layout comes to its holder when it is complete: until then nothing
 // asks for it to be carried out, and no request has to be looked for among all that wait.
 template <typename Editor>
 Editor* RowBuilder::makeEditor(QWidget*& holder) const

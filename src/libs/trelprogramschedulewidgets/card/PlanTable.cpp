@@ -65,7 +65,7 @@ void setUpBehaviour(QTableView& table)
 }
 
 // A header makes a selection of its own for its model and leaves it behind when the table hands it
-// the one that they share. Each would follow all that happens to the rows for nobody.
+// the one that they share. Each would follow all that happens to the rows to no use.
 void dropSpareSelections(const QTableView& table)
 {
     for (const QHeaderView* const header : {table.horizontalHeader(), table.verticalHeader()}) {

@@ -66,7 +66,7 @@ void PlanTaskForm::showDates(const PlayTask& task)
 void PlanTaskForm::showFolded(bool isFolded)
 {
     arrow->setProperty("labelImage", isFolded ? QStringLiteral("right") : QStringLiteral("down"));
-    // A style sheet looks at a property again only when the style is set anew.
+    // A style sheet looks at a property again only when the style is set again.
     arrow->setStyle(QApplication::style());
     widget->setVisible(!isFolded);
 }

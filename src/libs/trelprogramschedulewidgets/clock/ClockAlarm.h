@@ -7,8 +7,8 @@
 namespace trel::mediadispatch {
 
 /// Rings when its clock comes to a moment, and early when that clock leaps: because it was set,
-/// forwards or backwards, because the machine slept, or because the time zone was changed. Whoever
-/// is rung up looks at the clock again and sets the alarm anew.
+/// forwards or backwards, because the machine slept, or because the time zone was changed. The
+/// receiver looks at the clock again and sets the alarm again.
 ///
 /// Rings once for each call of set(), from the event loop and never from inside set(). GUI thread
 /// only; may outlive its clock, and is silent from then on.

@@ -28,7 +28,7 @@ void MachineAlarm::ringOnce()
     if (!std::exchange(m_isSet, false)) {
         return;
     }
-    // Whoever is rung up may do away with this alarm.
+    // The receiver may delete this alarm.
     const std::function<void()> ring = m_ring;
     ring();
 }

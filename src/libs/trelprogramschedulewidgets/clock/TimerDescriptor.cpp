@@ -59,7 +59,7 @@ TimerDescriptor::~TimerDescriptor()
 
 void TimerDescriptor::set(qint64 moment)
 {
-    // Refused where the clock was set since it was last armed: whoever asks may have looked at it
+    // Refused where the clock was set since it was last armed: the caller may have looked at it
     // before.
     if (!arm(moment)) {
         arm(kLongAgo);

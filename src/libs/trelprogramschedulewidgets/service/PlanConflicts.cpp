@@ -36,7 +36,7 @@ struct Span
 class EarlierSpans
 {
 public:
-    /// To be called before everything else where collideWith() will be. Spans that nobody asks
+    /// To be called before everything else where collideWith() will be. Spans that no claim asks
     /// after, such as those of all days where no claim is for every day, are not kept.
     void expectQuestions() { m_isAsked = true; }
 

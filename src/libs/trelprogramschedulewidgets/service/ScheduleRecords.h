@@ -51,7 +51,7 @@ enum WeekDay {
     WeekDayCount
 };
 
-/// Which combo box of a plan row has changed. The value 1 belongs to nobody.
+/// Which combo box of a plan row has changed. The value 1 is not used.
 enum ComBoxType {
     ModeCombo = 0,
     EndActionCombo = 2,
@@ -64,7 +64,7 @@ enum DataCompareType {
     DateAfterToday = 2,
 };
 
-/// The table that a check mark belongs to. Whoever is told passes over any other value.
+/// The table that a check mark belongs to. Receivers ignore any other value.
 enum CheckType : int {
     ProgramListCheck = 0, ///< All programs on offer.
     PlanListCheck = 1,    ///< The programs of the plan.

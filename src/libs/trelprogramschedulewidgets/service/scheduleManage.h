@@ -14,12 +14,12 @@ namespace trel::mediadispatch {
 /// The schedule service as its users see it: one object a process, two sets of tasks.
 ///
 /// The stored set is what was last saved; the working set is what the operator is editing. Both
-/// are kept under the task's id. Records go in and out by value, and nobody keeps a reference into
-/// the service. All calls are made on the GUI thread and block it until they return.
+/// are kept under the task's id. Records go in and out by value, and no caller keeps a reference
+/// into the service. All calls are made on the GUI thread and block it until they return.
 ///
 /// The end of a plan in FrequencyMode follows from the lengths of its programs. The service works
 /// it out afresh in both sets whenever tasks are read from the store or a length changes, whether
-/// or not an editor is open, so that nobody is handed an end from before. That is no edit by
+/// or not an editor is open, so that no caller gets an end from before. That is no edit by
 /// itself; the store takes the new ends with the next save.
 ///
 /// No operation reports an error: a lookup of an unknown key returns a usable record. The state

@@ -53,7 +53,7 @@ void runDueTimers(const QList<QWidget*>& widgets)
 }
 
 // A view whose contents have changed looks after its scroll bars in a call that it queues; being
-// laid out does the same. Nobody else can have queued a call: the view is not known to anybody yet.
+// laid out does the same. No other code can have queued a call: the view is not known outside yet.
 void layOutViews(const QList<QWidget*>& widgets)
 {
     for (QWidget* widget : widgets) {

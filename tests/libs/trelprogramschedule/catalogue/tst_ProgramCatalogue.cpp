@@ -340,7 +340,7 @@ void tst_ProgramCatalogue::replacingTheScheduleUnderAnEditor()
     store.save({{1, everyFieldTask(1)}});
     SignalCounts counts;
     QVERIFY(counts.isValid());
-    // A card whose task has gone reads it anew and files what it gets.
+    // A card whose task has gone reads it again and files what it gets.
     QObject card;
     connect(&store.manager, &scheduleManage::signalReflushConflict, &card,
             [&] { store.manager.addTask(store.manager.getTask(1)); });

@@ -272,7 +272,7 @@ void tst_ScreenDispatch::whatPlaysLaterIsToldToo()
     fixture.insertDelayed(fixture.inserted("08:00:00-08:00:30 B"));
     QCOMPARE(fixture.takeTold(), lines({"08:00:03 plays A to 08:00:10"}));
     QCOMPARE(fixture.dispatch.state().since, before.since);
-    // An entry that nobody sees any more of today changes nothing that is to come.
+    // An entry of which nothing more is seen today changes nothing that is to come.
     fixture.insert(fixture.inserted("07:00:00-07:30:00 A"));
     fixture.takeTold();
     fixture.insert(fixture.inserted("07:00:00-07:30:00 A"));
