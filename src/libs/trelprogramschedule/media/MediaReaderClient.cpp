@@ -251,7 +251,7 @@ QString MediaReaderClient::greet(const QString& file, const Cancelled& isCancell
     wire::Greeting greeting;
     const Transfer transfer =
         m_process.receive(&greeting, sizeof greeting,
-                          std::chrono::steady_clock::now() + m_reading.deadline, isCancelled);
+                          std::chrono::steady_clock::now() + m_reading.startDeadline, isCancelled);
     const bool isOwn = greeting.magic == wire::kMagic && greeting.version == wire::kVersion;
     if (transfer == Transfer::Done && isOwn && greeting.isFiltered <= 1) {
         m_filesLeft = kFilesPerProcess;

@@ -16,6 +16,8 @@ struct MediaReading
     QString program;
     /// How long one file may take. A file that takes longer is refused.
     std::chrono::milliseconds deadline{10000};
+    /// How long the program may take to start, which it does with the first file.
+    std::chrono::milliseconds startDeadline{10000};
 };
 
 /// How media files are read from now on by those who do not say it themselves. Any thread may call
