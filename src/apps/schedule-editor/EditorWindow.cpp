@@ -19,6 +19,7 @@
 #include "trelprogramschedule/json/ScheduleJson.h"
 #include "week/WeekDock.h"
 
+#include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
@@ -64,6 +65,14 @@ QString shownName(const QString& path)
 void showSearch(QProgressDialog& progress, int found)
 {
     progress.setLabelText(EditorWindow::tr("Looking for files: %1 found").arg(found));
+}
+
+/// Names a button of the toolkit in the toolkit's own words.
+void nameButton(const QDockWidget& panel, const char* button, const char* name)
+{
+    if (auto* found = panel.findChild<QAbstractButton*>(QLatin1String(button))) {
+        found->setAccessibleName(QDockWidget::staticMetaObject.tr(name, nullptr));
+    }
 }
 
 } // namespace
@@ -189,6 +198,12 @@ void EditorWindow::retranslate()
     m_nowNext->toggleViewAction()->setText(tr("&Now and next"));
     m_clockChanges->toggleViewAction()->setText(tr("&Clock changes"));
     m_programs->retranslate();
+    // The toolkit names the buttons of a panel once, when it is made.
+    const QList<QDockWidget*> panels = findChildren<QDockWidget*>();
+    for (const QDockWidget* panel : panels) {
+        nameButton(*panel, "qt_dockwidget_floatbutton", "Float");
+        nameButton(*panel, "qt_dockwidget_closebutton", "Close");
+    }
     updateTitle();
 }
 
