@@ -26,8 +26,8 @@ MeasuredTable readResults(const std::string& json);
 std::string toText(const MeasuredTable& table);
 /// An array with an object a row: case, size, ratio, target, met.
 std::string toJson(const MeasuredTable& table);
-/// For a document: a row for each case, at the size that comes nearest to its target or misses it by
-/// most, and below it how many of all rows meet theirs, and on which machine.
+/// For a document: a row for each case, at the size that comes nearest to its target or misses it
+/// by most, and below it how many of all rows meet theirs, and on which machine.
 std::string toMarkdown(const MeasuredTable& table, const std::string& machine);
 
 /// The document with what stands between its two marker lines replaced. Throws std::runtime_error

@@ -4,7 +4,7 @@
 
 #include <chrono>
 
-/// A file that is read once from front to end. A pipe, which may have nobody at its other end, is
+/// A file that is read once from front to end. A pipe, whose other end may never write, is
 /// waited for as long as the patience lasts: for its first byte, and again after each that comes. A
 /// device, a folder and a socket are refused.
 class PatientFile : public QIODevice

@@ -1,8 +1,8 @@
 #pragma once
 
 /// Which formats are read. The libraries know hundreds, among them lists that name other files and
-/// addresses, devices, and relics of old games that nobody tries hard to break; what is not named
-/// here is not opened.
+/// addresses, devices, and relics of old games that are hardly tested against hostile files; what
+/// is not named here is not opened.
 namespace formats {
 
 /// Whether a format of the library for containers is one of them, by its name there.

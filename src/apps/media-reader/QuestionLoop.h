@@ -16,7 +16,7 @@ public:
         , m_hasFonts(hasFonts)
     {}
 
-    /// Says who this is. False when nobody is there.
+    /// Says who this is. False when the other end is closed.
     bool greet(bool isFiltered) const;
     /// Answers until the service goes, or asks what makes no sense.
     void run() const;

@@ -67,7 +67,7 @@ QString languageFolder()
 }
 
 /// A file for the picture of a run that was given none: in the user's own data, under a name that
-/// nobody can guess, and for his eyes only. Empty where none can be made.
+/// cannot be guessed, readable by its owner alone. Empty where none can be made.
 QString freshPictureFile()
 {
     const QDir folder(QFileInfo(makeDefaultDatabaseFolder()).absolutePath());

@@ -123,7 +123,7 @@ void tst_CtlReading::onReadOnlyMedia()
     fill(fixture);
     const QString folder = fixture.path(QString());
     if (!canMount(folder)) {
-        QSKIP("this system lets nobody mount anything in a process of his own");
+        QSKIP("this system allows no mounts in a namespace of the test's own");
     }
     const CtlResult expected = fixture.onDatabase(arguments);
     const FolderSnapshot before(folder);
@@ -145,7 +145,7 @@ void tst_CtlReading::withALogOnReadOnlyMedia()
     const QString taken = fixture.path(QStringLiteral("taken"));
     QVERIFY(QDir().mkpath(fixture.path(QStringLiteral("live"))) && QDir().mkpath(taken));
     if (!canMount(taken)) {
-        QSKIP("this system lets nobody mount anything in a process of his own");
+        QSKIP("this system allows no mounts in a namespace of the test's own");
     }
     QVERIFY(QFile::copy(fixture.database(), live));
     const Other editor(live);

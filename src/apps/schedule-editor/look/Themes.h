@@ -25,8 +25,8 @@ public:
     /// The colours of the theme in force.
     look::ThemeColours colours() const;
 
-    /// Puts a theme in force, on the windows that are open and on those to come. What nobody sees
-    /// follows when the event loop runs. A name that is not known chooses the default.
+    /// Puts a theme in force, on the windows that are open and on those to come. What is out of
+    /// sight follows when the event loop runs. A name that is not known chooses the default.
     void select(const QString& name);
 
 signals:

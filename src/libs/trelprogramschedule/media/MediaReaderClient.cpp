@@ -215,7 +215,7 @@ MediaPicture MediaReaderClient::picture(const QString& path, ProgramKind kind, c
 
 bool MediaReaderClient::start(const Cancelled& isCancelled)
 {
-    // Anything that nobody asked for, an end among it.
+    // Anything that was not asked for, an end among it.
     if (m_process.isRunning() && (m_filesLeft <= 0 || m_process.hasUnread())) {
         m_process.kill();
     }

@@ -39,7 +39,8 @@ public:
     /// Ends the program at once, in whatever it is.
     void kill();
 
-    /// Sends a record of few bytes with an open file beside it. False when nobody takes it.
+    /// Sends a record of few bytes with an open file beside it. False when the reader does not take
+    /// it.
     bool send(const void* record, std::size_t size, int descriptor) const;
     /// Reads as many bytes as there is room for.
     Transfer receive(void* room, std::size_t size, Moment until,

@@ -119,7 +119,7 @@ StoreResult ScheduleDatabase::create() const
             refusal(StoreProblem::Other, m_file.path(), QStringLiteral("no file can be put there"));
     }
     m_file.removeDraft();
-    // Nobody has asked for the draft.
+    // The draft was not asked for yet.
     result.message.replace(QDir::toNativeSeparators(m_file.draftPath()),
                            QDir::toNativeSeparators(m_file.path()));
     return result;
@@ -214,8 +214,8 @@ StoreResult ScheduleDatabase::connect()
         connection->run(QStringLiteral("PRAGMA foreign_keys = ON"));
         connection->run(QStringLiteral("PRAGMA synchronous = FULL"));
         {
-            // An editor is of no use on a file that somebody else keeps to himself. Now that nobody
-            // else writes, it must still be what it was when it was looked at.
+            // An editor is of no use on a file that another program keeps to itself. Now that no
+            // other program writes, it must still be what it was when it was looked at.
             const StoreTransaction trial(*connection, StoreTransaction::Purpose::Write);
             StoreSchema::checkElements(*connection, m_file.path());
         }

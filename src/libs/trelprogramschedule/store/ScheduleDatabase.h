@@ -88,7 +88,7 @@ private:
     StoreResult leave();
     StoreResult judgeInPlace() const;
 
-    /// What a look at the file has read of it, and nobody has asked for yet.
+    /// What a look at the file has read of it, and was not asked for yet.
     struct Seen
     {
         StorePart part;
@@ -97,7 +97,7 @@ private:
 
     StoreFile m_file;
     StoreOpenMode m_mode = StoreOpenMode::MustExist;
-    bool m_isUnnoticed = false; ///< The file is read as if nobody else could write it.
+    bool m_isUnnoticed = false; ///< The file is read as if no other program could write it.
     StoreFile::Stamp m_stamp;   ///< What the file was when it was last looked at.
     std::optional<Seen> m_seen;
     StoreFile::Identity m_identity;

@@ -166,9 +166,9 @@ bool StoreConnection::clearFailedCommit() const
 
 bool StoreConnection::spoilLogEnd() const
 {
-    // When the log is written but cannot be synchronised, its last part is complete, and whoever
-    // reads the log from the disk the next time takes it for a change that was committed. A page
-    // that belongs to no commit is written over the first one of that part: all others hang
+    // When the log is written but cannot be synchronised, its last part is complete, and a program
+    // that reads the log from the disk the next time takes it for a change that was committed. A
+    // page that belongs to no commit is written over the first one of that part: all others hang
     // together with it by their checksums. It has to differ from any page of a real change.
     try {
         run(QStringLiteral("UPDATE store SET schedule_revision = -1 - schedule_revision"));

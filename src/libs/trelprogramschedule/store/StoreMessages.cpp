@@ -132,7 +132,7 @@ QString fullText(int systemError)
     }
 }
 
-/// What is said where nobody knows more.
+/// What is said where no more is known.
 QString usualDetail(StoreProblem problem)
 {
     switch (problem) {

@@ -1,8 +1,8 @@
 #include "follow/EditedSchedule.h"
 
 #include "service/scheduleManage.h"
-#include "support/TestProgram.h"
 #include "support/PlanRecords.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 

@@ -1,8 +1,8 @@
 #include "ScheduleWriting.h"
 #include "StateWriting.h"
+#include "support/TestProgram.h"
 #include "trelprogramschedule/dispatch/PlainScreen.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
-#include "support/TestProgram.h"
 
 #include <QtTest>
 
