@@ -4,7 +4,7 @@
 #include "clock/ClockAlarm.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
-#include "trelprogramschedule/dispatch/LocalClock.h"
+#include "trelprogramschedule/dispatch/MomentFormat.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
 
@@ -62,7 +62,7 @@ void ScreenFollower::update()
     m_at = Clock::current().msecsSinceEpoch();
     const QTimeZone zone = local(m_at).timeZone();
     if (!m_clock || m_clock->zone() != zone) {
-        m_clock = std::make_unique<LocalClock>(zone);
+        m_clock = std::make_unique<MomentFormat>(zone);
     }
     m_now = sceneOf(m_dispatch.state(), m_at);
     m_next.reset();

@@ -13,7 +13,7 @@
 
 namespace trel::mediadispatch {
 class ClockAlarm;
-class LocalClock;
+class MomentFormat;
 class ScreenDispatch;
 } // namespace trel::mediadispatch
 
@@ -81,7 +81,7 @@ private:
     void tick();
 
     trel::mediadispatch::ScreenDispatch& m_dispatch;
-    std::unique_ptr<trel::mediadispatch::LocalClock> m_clock; ///< That of the schedule in effect.
+    std::unique_ptr<trel::mediadispatch::MomentFormat> m_clock; ///< That of the schedule in effect.
     ScreenScene m_now;
     std::optional<ScreenScene> m_next;
     trel::mediadispatch::Instant m_at = 0; ///< The moment that m_now is of.

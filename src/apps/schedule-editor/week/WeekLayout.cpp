@@ -77,7 +77,7 @@ void addStretches(WeekLayout& week, const WeekQuestion& question)
             stretch.program = QString::fromStdString(program->second.progName);
         }
         const Instant until = state.isInserted() ? state.spanUntil : state.until;
-        for (const WallSpan& span : week.clock.spans(state.since, until)) {
+        for (const LocalSpan& span : week.clock.spans(state.since, until)) {
             stretch.from = span.from;
             stretch.to = span.to;
             stretch.pass = span.pass;
@@ -95,7 +95,7 @@ const WeekBlock* WeekColumn::blockOf(int row) const
     return found == blocks.end() ? nullptr : &*found;
 }
 
-const DayPiece* WeekColumn::pieceAt(int lane, int second) const
+const DayPiece* WeekColumn::periodAt(int lane, int second) const
 {
     const std::vector<DayPiece>& pieces = lanes[static_cast<std::size_t>(lane)];
     const auto found =
@@ -106,7 +106,7 @@ const DayPiece* WeekColumn::pieceAt(int lane, int second) const
 
 const WeekBlock* WeekColumn::holderAt(int second) const
 {
-    const DayPiece* piece = pieceAt(0, second);
+    const DayPiece* piece = periodAt(0, second);
     return piece == nullptr || piece->state != DayPiece::OnScreen
                ? nullptr
                : &blocks[static_cast<std::size_t>(piece->claim)];
@@ -121,7 +121,7 @@ std::optional<int> WeekLayout::dayOf(const QDate& date) const
 WeekLayout layoutWeek(const WeekQuestion& question)
 {
     WeekLayout week{std::vector<WeekColumn>(kDays),
-                    WallClock(question.first, kDays, question.zone)};
+                    LocalDays(question.first, kDays, question.zone)};
     const Plans withNothing = plansWithNothing(question.spans);
     std::map<int, std::shared_ptr<const TaskWeek>> weeks;
     for (const ClockChange& change : week.clock.changes()) {

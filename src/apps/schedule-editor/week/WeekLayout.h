@@ -3,7 +3,7 @@
 #include "service/ScheduleRecords.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
 #include "week/DayPieces.h"
-#include "week/WallClock.h"
+#include "week/LocalDays.h"
 #include "week/WeekTasks.h"
 
 #include <QDate>
@@ -47,7 +47,7 @@ struct WeekColumn
     /// The block of a row; null when it has none on this day.
     const WeekBlock* blockOf(int row) const;
     /// The piece of a lane at a second; null when there is none.
-    const DayPiece* pieceAt(int lane, int second) const;
+    const DayPiece* periodAt(int lane, int second) const;
     /// The block that has the screen by the rules at a second; null when none has.
     const WeekBlock* holderAt(int second) const;
 };
@@ -68,7 +68,7 @@ struct WeekQuestion
 struct WeekLayout
 {
     std::vector<WeekColumn> days;
-    WallClock clock;
+    LocalDays clock;
 
     QDate first() const { return days.front().date; }
     /// The place of a date among the days; nothing for one of another week.

@@ -2,7 +2,7 @@
 
 #include "common/PlanFaultText.h"
 #include "screen/ScreenWords.h"
-#include "trelprogramschedule/dispatch/LocalClock.h"
+#include "trelprogramschedule/dispatch/MomentFormat.h"
 #include "week/WeekHit.h"
 #include "week/WeekSchedule.h"
 #include "week/WeekWords.h"
@@ -45,7 +45,7 @@ QString momentText(const WeekSchedule& schedule, const WeekLayout& layout, const
     const bool isLeftOut = hit.change != nullptr && hit.change->isLeftOut();
     const QString mark = isLeftOut
                              ? QString()
-                             : LocalClock(schedule.zone())
+                             : MomentFormat(schedule.zone())
                                    .offsetMark(layout.clock.instant(hit.day, hit.second, hit.pass));
     return Words::tr("%1, %2", "day and time of day")
         .arg(locale.toString(date, QLocale::LongFormat), shortTime(hit.second) + mark);

@@ -29,7 +29,7 @@ WeekSchedule::WeekSchedule(WeekTasks tasks, follow::SharedCatalogue catalogue,
 WeekLayout WeekSchedule::layout(const QDate& first, const follow::Cancellation& cancellation) const
 {
     WeekQuestion question{first, m_zone, m_tasks, *m_catalogue, {}};
-    const WallClock clock(first, kDays, m_zone);
+    const LocalDays clock(first, kDays, m_zone);
     m_timeline.visitSpans(clock.begin(), clock.end(), m_insertions, [&](const ScreenState& span) {
         question.spans.push_back(span);
         return !cancellation.isCancelled();

@@ -5,7 +5,7 @@
 #include <QTime>
 
 using trel::mediadispatch::Instant;
-using trel::mediadispatch::LocalClock;
+using trel::mediadispatch::MomentFormat;
 
 namespace {
 
@@ -200,13 +200,13 @@ private:
     QString m_expected;
 };
 
-QString leftOutRemark(const QString& text, const LocalClock& local, Instant taken)
+QString leftOutRemark(const QString& text, const MomentFormat& local, Instant taken)
 {
     return QStringLiteral("Local time leaves %1 out, since the clock is put forward; %2 was taken.")
         .arg(quoted(text), local.text(taken));
 }
 
-QString twiceRemark(const QString& text, const LocalClock& local, Instant taken, Instant second)
+QString twiceRemark(const QString& text, const MomentFormat& local, Instant taken, Instant second)
 {
     return QStringLiteral("Local time has %1 twice, since the clock is put back; %2 was taken, and "
                           "%3 is the other.")
@@ -215,7 +215,7 @@ QString twiceRemark(const QString& text, const LocalClock& local, Instant taken,
 
 } // namespace
 
-MomentReading readMoment(const QString& text, const LocalClock& local, const QDate& today,
+MomentReading readMoment(const QString& text, const MomentFormat& local, const QDate& today,
                          DateAlone dateAlone)
 {
     constexpr Instant millisecondsPerSecond = 1000;
@@ -232,7 +232,7 @@ MomentReading readMoment(const QString& text, const LocalClock& local, const QDa
                 {},
                 {}};
     }
-    const LocalClock::Occurrence found = local.find(date, time);
+    const MomentFormat::Occurrence found = local.find(date, time);
     MomentReading reading{found.first, {}, {}};
     // A day begins when it begins, whatever its clock shows first.
     if (parts->time && found.isLeftOut) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "trelprogramschedule/dispatch/LocalClock.h"
+#include "trelprogramschedule/dispatch/MomentFormat.h"
 
 #include <QDate>
 #include <QString>
@@ -28,5 +28,5 @@ enum class DateAlone {
 ///
 /// A local time that is left out is taken as the first moment after the gap, and one that comes
 /// twice as the first of the two. Anything else in the text is an error.
-MomentReading readMoment(const QString& text, const trel::mediadispatch::LocalClock& local,
+MomentReading readMoment(const QString& text, const trel::mediadispatch::MomentFormat& local,
                          const QDate& today, DateAlone dateAlone);

@@ -82,7 +82,7 @@ QJsonValue optionalJson(const std::optional<ScreenState>& state, const ScreenWor
 QString nowText(Instant moment, const ScreenState& state, const Upcoming& next,
                 const ScreenWords& words)
 {
-    const LocalClock& local = words.source().local;
+    const MomentFormat& local = words.source().local;
     NamedLines lines;
     lines.add(QStringLiteral("Moment"), local.text(moment));
     lines.add(QStringLiteral("Screen"), words.pictureText(state));

@@ -123,7 +123,7 @@ void ScheduleRun::write(const ScreenState& state)
     }
     const Instant moment = momentOf(state);
     m_last = state;
-    const LocalClock local(Clock::current().zone());
+    const MomentFormat local(Clock::current().zone());
     const ScreenWords words({m_database.host().dispatch().tasks(), *m_programs, local});
     if (m_json) {
         QJsonObject object = words.json(state);

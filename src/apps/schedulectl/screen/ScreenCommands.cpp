@@ -72,7 +72,7 @@ ExitStatus atMoment(const Invocation& invocation, Console& console, const Work& 
     if (!knowsLocalTime(console)) {
         return Refused;
     }
-    const LocalClock local(Clock::current().zone());
+    const MomentFormat local(Clock::current().zone());
     const auto moment = momentOption(invocation, "--at", local, DateAlone::Refused, console);
     if (!moment) {
         return Misused;
@@ -132,7 +132,7 @@ ExitStatus runTimeline(const Invocation& invocation, Console& console)
     if (!knowsLocalTime(console)) {
         return Refused;
     }
-    const LocalClock local(Clock::current().zone());
+    const MomentFormat local(Clock::current().zone());
     const auto from = momentOption(invocation, "--from", local, DateAlone::StartOfDay, console);
     const auto to = momentOption(invocation, "--to", local, DateAlone::StartOfDay, console);
     if (!from || !to) {

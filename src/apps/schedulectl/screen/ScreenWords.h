@@ -1,7 +1,7 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
-#include "trelprogramschedule/dispatch/LocalClock.h"
+#include "trelprogramschedule/dispatch/MomentFormat.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
 
 #include <QJsonObject>
@@ -15,7 +15,7 @@ struct ScreenSource
 {
     const std::map<int, trel::mediadispatch::PlayTask>& tasks;
     const std::map<int, trel::mediadispatch::ProgramIten>& programs;
-    const trel::mediadispatch::LocalClock& local;
+    const trel::mediadispatch::MomentFormat& local;
 };
 
 /// The words and the JSON form of what is on screen. Rows, entries, plays and runs count from 1

@@ -5,7 +5,7 @@
 
 using namespace trel::mediadispatch;
 
-StoredScreen::StoredScreen(const Database& database, const LocalClock& local)
+StoredScreen::StoredScreen(const Database& database, const MomentFormat& local)
     : m_tasks(database.tasks())
     , m_programs(database.programs())
     , m_timeline(m_tasks, m_programs, local.zone())
@@ -13,7 +13,8 @@ StoredScreen::StoredScreen(const Database& database, const LocalClock& local)
 {}
 
 std::optional<Instant> momentOption(const Invocation& invocation, const char* option,
-                                    const LocalClock& local, DateAlone dateAlone, Console& console)
+                                    const MomentFormat& local, DateAlone dateAlone,
+                                    Console& console)
 {
     const Instant now = Clock::current().msecsSinceEpoch();
     if (!invocation.has(option)) {

@@ -4,7 +4,7 @@
 #include "Database.h"
 #include "MomentText.h"
 #include "ScreenWords.h"
-#include "trelprogramschedule/dispatch/LocalClock.h"
+#include "trelprogramschedule/dispatch/MomentFormat.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
 
 #include <map>
@@ -17,7 +17,7 @@ class StoredScreen
 {
 public:
     /// The clock has to live on.
-    StoredScreen(const Database& database, const trel::mediadispatch::LocalClock& local);
+    StoredScreen(const Database& database, const trel::mediadispatch::MomentFormat& local);
     Q_DISABLE_COPY(StoredScreen)
 
     const trel::mediadispatch::ScreenTimeline& timeline() const { return m_timeline; }
@@ -36,4 +36,4 @@ private:
 /// told why, where it names none.
 std::optional<trel::mediadispatch::Instant>
 momentOption(const Invocation& invocation, const char* option,
-             const trel::mediadispatch::LocalClock& local, DateAlone dateAlone, Console& console);
+             const trel::mediadispatch::MomentFormat& local, DateAlone dateAlone, Console& console);

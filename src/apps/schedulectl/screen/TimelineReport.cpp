@@ -48,7 +48,7 @@ void TimelineReport::writeTitles()
 
 void TimelineReport::write(const ScreenState& state, const std::optional<ScreenState>& after)
 {
-    const LocalClock& local = m_words.source().local;
+    const MomentFormat& local = m_words.source().local;
     const int width = m_lines == Lines::Plays ? kExactMomentWidth : kMomentWidth;
     const auto number = [](const QString& text) {
         return QStringLiteral("  ") + text.rightJustified(kNumberWidth);

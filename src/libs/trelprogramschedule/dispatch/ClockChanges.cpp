@@ -5,7 +5,7 @@
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
 #include "trelprogramschedule/dispatch/TaskDays.h"
-#include "trelprogramschedule/dispatch/WallTime.h"
+#include "trelprogramschedule/dispatch/ZoneOffsets.h"
 
 #include <algorithm>
 #include <iterator>
@@ -37,8 +37,8 @@ void appendDays(std::vector<ClockChange>& changes, ClockChangeKind kind, LocalTi
 class ChangeWalk
 {
 public:
-    ChangeWalk(const WallTime& wall, const QDate& first)
-        : m_wall(wall)
+    ChangeWalk(const ZoneOffsets& offsets, const QDate& first)
+        : m_offsets(offsets)
         , m_moment(earliest(first))
     {}
 
@@ -47,12 +47,12 @@ public:
     std::vector<ClockChange> next()
     {
         std::vector<ClockChange> changes;
-        const WallPiece& before = m_wall.pieceAt(m_moment);
+        const OffsetPeriod& before = m_offsets.periodAt(m_moment);
         if (before.end == kNever) {
             return changes;
         }
         m_moment = before.end;
-        const WallPiece& after = m_wall.pieceAt(m_moment);
+        const OffsetPeriod& after = m_offsets.periodAt(m_moment);
         if (after.offset > before.offset) {
             appendDays(changes, ClockChangeKind::LeftOut, before.local(m_moment),
                        after.local(m_moment), m_moment);
@@ -73,7 +73,7 @@ private:
         return timeOn(dayNumber(day), 0) - 2 * kLargestOffset;
     }
 
-    const WallTime& m_wall;
+    const ZoneOffsets& m_offsets;
     Instant m_moment;
 };
 
@@ -172,8 +172,8 @@ std::vector<ClockChange> clockChanges(const QDate& first, const QDate& last, con
     }
     // A change on a day after the last may begin on the evening of the last.
     const QDate end = last.addDays(2);
-    const WallTime wall(zone);
-    ChangeWalk walk(wall, first);
+    const ZoneOffsets offsets(zone);
+    ChangeWalk walk(offsets, first);
     for (std::vector<ClockChange> changes = walk.next();
          !changes.empty() && changes.front().date <= end; changes = walk.next()) {
         std::copy_if(changes.begin(), changes.end(), std::back_inserter(result),
@@ -186,7 +186,7 @@ class ClockChangeSearch::Private
 {
 public:
     explicit Private(const QTimeZone& zone)
-        : wall(zone)
+        : offsets(zone)
     {}
 
     /// A task with what is known of it.
@@ -219,7 +219,7 @@ public:
         return *task.spans;
     }
 
-    WallTime wall;
+    ZoneOffsets offsets;
     std::map<int, Task> tasks;
     std::shared_ptr<const std::map<int, ProgramIten>> catalogue =
         std::make_shared<const std::map<int, ProgramIten>>();
@@ -282,7 +282,7 @@ std::vector<TaskClockChange> ClockChangeSearch::next(const QDate& from, int coun
     if (!from.isValid()) {
         return result;
     }
-    ChangeWalk walk(d->wall, from);
+    ChangeWalk walk(d->offsets, from);
     for (std::vector<ClockChange> changes = walk.next(); !changes.empty() && (!goesOn || goesOn());
          changes = walk.next()) {
         bool isInEffect = false;

@@ -9,49 +9,49 @@ namespace trel::mediadispatch {
 
 PlainScreen::PlainScreen(const std::map<int, PlayTask>& tasks,
                          const std::map<int, ProgramIten>& catalogue, const QTimeZone& zone)
-    : m_wall(zone)
+    : m_offsets(zone)
     , m_calendar(tasks, catalogue)
 {}
 
-PlainScreen::PlainScreen(WallTime wall, PlanCalendar calendar)
-    : m_wall(std::move(wall))
+PlainScreen::PlainScreen(ZoneOffsets offsets, PlanCalendar calendar)
+    : m_offsets(std::move(offsets))
     , m_calendar(std::move(calendar))
 {}
 
 PlainScreen PlainScreen::withTasks(const ScreenTasks& tasks) const
 {
-    return {m_wall, m_calendar.withTasks(tasks)};
+    return {m_offsets, m_calendar.withTasks(tasks)};
 }
 
 Microseconds PlainScreen::Held::elapsed(Instant moment) const
 {
-    return microseconds(piece.local(moment) - span.listBegin);
+    return microseconds(period.local(moment) - span.listBegin);
 }
 
 Instant PlainScreen::Held::reaches(Microseconds time) const
 {
-    return piece.instant(span.listBegin + millisecondsUp(time));
+    return period.instant(span.listBegin + millisecondsUp(time));
 }
 
-PlainScreen::Held PlainScreen::held(const HeldSpan& span, const WallPiece& piece)
+PlainScreen::Held PlainScreen::held(const HeldSpan& span, const OffsetPeriod& period)
 {
-    return {span, piece, std::max(piece.begin, piece.instant(span.begin)),
-            std::min(piece.end, piece.instant(span.end))};
+    return {span, period, std::max(period.begin, period.instant(span.begin)),
+            std::min(period.end, period.instant(span.end))};
 }
 
 std::optional<PlainScreen::Held> PlainScreen::heldAt(Instant moment) const
 {
-    const WallPiece& piece = m_wall.pieceAt(moment);
-    const std::optional<HeldSpan> span = m_calendar.firstAfter(piece.local(moment));
-    if (!span || span->begin > piece.local(moment)) {
+    const OffsetPeriod& period = m_offsets.periodAt(moment);
+    const std::optional<HeldSpan> span = m_calendar.firstAfter(period.local(moment));
+    if (!span || span->begin > period.local(moment)) {
         return std::nullopt;
     }
-    return held(*span, piece);
+    return held(*span, period);
 }
 
 std::optional<PlainScreen::Held> PlainScreen::partBefore(const Held& part) const
 {
-    if (part.begin > part.piece.begin) {
+    if (part.begin > part.period.begin) {
         return std::nullopt;
     }
     std::optional<Held> before = heldAt(part.begin - 1);
@@ -60,53 +60,53 @@ std::optional<PlainScreen::Held> PlainScreen::partBefore(const Held& part) const
 
 std::optional<PlainScreen::Held> PlainScreen::partAfter(const Held& part) const
 {
-    if (part.end < part.piece.end) {
+    if (part.end < part.period.end) {
         return std::nullopt;
     }
     std::optional<Held> after = heldAt(part.end);
     return after && after->span.plan == part.span.plan ? after : std::nullopt;
 }
 
-// These searches go from one piece of the clock to the next, and pass over those in which no plan
+// These searches go from one period of the clock to the next, and pass over those in which no plan
 // can have the screen because the nearest one is more than an offset away.
 
 std::optional<PlainScreen::Held> PlainScreen::lastHeld(Instant moment) const
 {
     for (Instant before = moment;;) {
-        const WallPiece& piece = m_wall.pieceAt(before - 1);
-        if (const auto span = m_calendar.lastBefore(piece.local(before))) {
-            const Held found = held(*span, piece);
+        const OffsetPeriod& period = m_offsets.periodAt(before - 1);
+        if (const auto span = m_calendar.lastBefore(period.local(before))) {
+            const Held found = held(*span, period);
             if (found.begin < found.end) {
                 return found;
             }
         }
-        // An earlier piece may have shown later times.
-        const auto span = m_calendar.lastBefore(piece.begin + kLargestOffset);
-        if (piece.begin == kEver || !span) {
+        // An earlier period may have shown later times.
+        const auto span = m_calendar.lastBefore(period.begin + kLargestOffset);
+        if (period.begin == kEver || !span) {
             return std::nullopt;
         }
-        before = std::min(piece.begin, span->end + kLargestOffset);
+        before = std::min(period.begin, span->end + kLargestOffset);
     }
 }
 
 Instant PlainScreen::nextHeld(Instant moment) const
 {
     for (Instant from = moment;;) {
-        const WallPiece& piece = m_wall.pieceAt(from);
-        if (const auto span = m_calendar.firstAfter(piece.local(from))) {
-            const Instant begin = std::max(from, piece.instant(span->begin));
-            if (begin < piece.end) {
+        const OffsetPeriod& period = m_offsets.periodAt(from);
+        if (const auto span = m_calendar.firstAfter(period.local(from))) {
+            const Instant begin = std::max(from, period.instant(span->begin));
+            if (begin < period.end) {
                 return begin;
             }
         }
-        if (piece.end == kNever) {
+        if (period.end == kNever) {
             return kNever;
         }
-        const auto span = m_calendar.firstAfter(piece.end - kLargestOffset);
+        const auto span = m_calendar.firstAfter(period.end - kLargestOffset);
         if (!span) {
             return kNever;
         }
-        from = std::max(piece.end, span->begin - kLargestOffset);
+        from = std::max(period.end, span->begin - kLargestOffset);
     }
 }
 
@@ -114,21 +114,21 @@ Instant PlainScreen::nextPlay(Instant moment, const SoughtPlay& sought) const
 {
     PlaySearch search(m_calendar, sought);
     for (Instant from = moment;;) {
-        const WallPiece& piece = m_wall.pieceAt(from);
-        if (const auto shown = search.firstFrom(piece.local(from))) {
-            if (piece.instant(*shown) < piece.end) {
-                return piece.instant(*shown);
+        const OffsetPeriod& period = m_offsets.periodAt(from);
+        if (const auto shown = search.firstFrom(period.local(from))) {
+            if (period.instant(*shown) < period.end) {
+                return period.instant(*shown);
             }
         }
-        if (piece.end == kNever) {
+        if (period.end == kNever) {
             return kNever;
         }
-        // A later piece may show earlier times.
-        const auto shown = search.firstFrom(piece.end - kLargestOffset);
+        // A later period may show earlier times.
+        const auto shown = search.firstFrom(period.end - kLargestOffset);
         if (!shown) {
             return kNever;
         }
-        from = std::max(piece.end, *shown - kLargestOffset);
+        from = std::max(period.end, *shown - kLargestOffset);
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include "trelprogramschedule/dispatch/PlanCalendar.h"
 #include "trelprogramschedule/dispatch/ScreenShown.h"
-#include "trelprogramschedule/dispatch/WallTime.h"
+#include "trelprogramschedule/dispatch/ZoneOffsets.h"
 
 #include <optional>
 
@@ -17,7 +17,7 @@ public:
     /// The screen of other tasks on the same clock. Shares what is the same in both.
     PlainScreen withTasks(const ScreenTasks& tasks) const;
 
-    const WallTime& wall() const { return m_wall; }
+    const ZoneOffsets& offsets() const { return m_offsets; }
     const PlanCalendar& calendar() const { return m_calendar; }
 
     ScreenShown at(Instant moment) const;
@@ -36,13 +36,13 @@ public:
     Instant listOver(Instant moment) const;
 
 private:
-    PlainScreen(WallTime wall, PlanCalendar calendar);
+    PlainScreen(ZoneOffsets offsets, PlanCalendar calendar);
 
-    /// A span in which a plan has the screen, as far as it lies within one piece of the clock.
+    /// A span in which a plan has the screen, as far as it lies within one period of the clock.
     struct Held
     {
         HeldSpan span;
-        WallPiece piece;
+        OffsetPeriod period;
         Instant begin = 0;
         Instant end = 0;
 
@@ -53,7 +53,7 @@ private:
         Instant reaches(Microseconds time) const;
     };
 
-    static Held held(const HeldSpan& span, const WallPiece& piece);
+    static Held held(const HeldSpan& span, const OffsetPeriod& period);
     std::optional<Held> heldAt(Instant moment) const;
     /// The part of the same plan's span that follows, or comes before, where the clock is changed.
     std::optional<Held> partBefore(const Held& part) const;
@@ -65,7 +65,7 @@ private:
     Instant ranOutSince(const Held& part) const;
     Instant ranOutUntil(const Held& part) const;
 
-    WallTime m_wall;
+    ZoneOffsets m_offsets;
     PlanCalendar m_calendar;
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "trelprogramschedule/dispatch/ScreenTask.h"
-#include "trelprogramschedule/dispatch/WallTime.h"
+#include "trelprogramschedule/dispatch/ZoneOffsets.h"
 
 #include <map>
 #include <memory>

@@ -141,9 +141,9 @@ private:
 
     Instant endOfSpan(const ScreenInsertion& insertion) const
     {
-        const LocalTime begins = plain.wall().pieceAt(insertion.begins).local(insertion.begins);
+        const LocalTime begins = plain.offsets().periodAt(insertion.begins).local(insertion.begins);
         const ScreenPlan plan = screenPlans({insertion.plan}, *programs).front();
-        return plain.wall().firstShown(timeOn(dayOf(begins), plan.claim.end), insertion.begins);
+        return plain.offsets().firstShown(timeOn(dayOf(begins), plan.claim.end), insertion.begins);
     }
 };
 
@@ -254,7 +254,7 @@ ScreenInsertions ScreenTimeline::withInsertion(ScreenInsertions current, ScreenI
 
 QDateTime ScreenTimeline::local(Instant moment) const
 {
-    return QDateTime::fromMSecsSinceEpoch(moment, d->plain.wall().zone());
+    return QDateTime::fromMSecsSinceEpoch(moment, d->plain.offsets().zone());
 }
 
 Instant ScreenTimeline::instant(const QDate& date, const QTime& time) const
@@ -262,7 +262,7 @@ Instant ScreenTimeline::instant(const QDate& date, const QTime& time) const
     if (!date.isValid() || !time.isValid()) {
         return kNever;
     }
-    return d->plain.wall().firstShown(timeOn(dayNumber(date), 0) + time.msecsSinceStartOfDay());
+    return d->plain.offsets().firstShown(timeOn(dayNumber(date), 0) + time.msecsSinceStartOfDay());
 }
 
 } // namespace trel::mediadispatch

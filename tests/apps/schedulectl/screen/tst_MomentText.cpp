@@ -5,13 +5,13 @@
 
 using trel::mediadispatch::isDated;
 using trel::mediadispatch::kNever;
-using trel::mediadispatch::LocalClock;
+using trel::mediadispatch::MomentFormat;
 
 namespace {
 
-LocalClock berlin()
+MomentFormat berlin()
 {
-    return LocalClock(QTimeZone("Europe/Berlin"));
+    return MomentFormat(QTimeZone("Europe/Berlin"));
 }
 
 /// What was read, as one line: the moment in UTC, and what is to be said about it.
@@ -163,8 +163,8 @@ void tst_MomentText::places()
 void tst_MomentText::dateAlone()
 {
     const auto start = [](const char* date, const char* zone) {
-        return line(readMoment(QLatin1String(date), LocalClock(QTimeZone(zone)), QDate(2024, 6, 15),
-                               DateAlone::StartOfDay));
+        return line(readMoment(QLatin1String(date), MomentFormat(QTimeZone(zone)),
+                               QDate(2024, 6, 15), DateAlone::StartOfDay));
     };
     QCOMPARE(start("2024-01-31", "Europe/Berlin"), QStringLiteral("2024-01-30 23:00:00.000"));
     QCOMPARE(start("2024-13-31", "Europe/Berlin"),
@@ -181,7 +181,7 @@ void tst_MomentText::dateAlone()
 
 void tst_MomentText::shownTexts()
 {
-    const LocalClock local = berlin();
+    const MomentFormat local = berlin();
     const auto moment = [&](const char* text) {
         return readMoment(QLatin1String(text), local, QDate(), DateAlone::StartOfDay)
             .instant.value();
@@ -200,8 +200,8 @@ void tst_MomentText::shownTexts()
     QCOMPARE(local.text(doubled), QStringLiteral("2024-10-27 02:30:00 +02:00"));
     QCOMPARE(local.text(doubled + 3600000), QStringLiteral("2024-10-27 02:30:00 +01:00"));
     QCOMPARE(local.text(doubled, doubled + 1), QStringLiteral("02:30:00 +02:00"));
-    QCOMPARE(LocalClock::offsetText(-34200), QStringLiteral("-09:30"));
-    QCOMPARE(LocalClock::offsetText(0), QStringLiteral("+00:00"));
+    QCOMPARE(MomentFormat::offsetText(-34200), QStringLiteral("-09:30"));
+    QCOMPARE(MomentFormat::offsetText(0), QStringLiteral("+00:00"));
 
     QVERIFY(isDated(moment("0001-01-01 12:00")));
     QVERIFY(isDated(moment("9999-12-31 12:00")));
@@ -211,19 +211,19 @@ void tst_MomentText::shownTexts()
 
 void tst_MomentText::daysOfChange()
 {
-    const LocalClock local = berlin();
+    const MomentFormat local = berlin();
     for (QDate day(2024, 1, 1); day.year() == 2024; day = day.addDays(1)) {
         const bool isChange = day == QDate(2024, 3, 31) || day == QDate(2024, 10, 27);
         QCOMPARE(local.changesOn(day), isChange);
     }
-    QVERIFY(!LocalClock(QTimeZone::utc()).changesOn(QDate(2024, 3, 31)));
+    QVERIFY(!MomentFormat(QTimeZone::utc()).changesOn(QDate(2024, 3, 31)));
 }
 
 /// What was looked up before does not colour what is looked up next.
 void tst_MomentText::stretchesInAnyOrder()
 {
     const QTimeZone zone("Europe/Berlin");
-    const LocalClock local(zone);
+    const MomentFormat local(zone);
     constexpr trel::mediadispatch::Instant step = 7 * 60 * 60 * 1000;
     constexpr int count = 20000; // About sixteen years.
     for (int i = 0; i < count; ++i) {
@@ -255,7 +255,7 @@ void tst_MomentText::zonesOfTheirOwnKind()
     QFETCH(QString, text);
     QFETCH(QString, moment);
     const MomentReading reading =
-        readMoment(text, LocalClock(QTimeZone(zone)), QDate(), DateAlone::Refused);
+        readMoment(text, MomentFormat(QTimeZone(zone)), QDate(), DateAlone::Refused);
     QCOMPARE(line(reading).section(QLatin1Char('|'), 0, 0), moment);
 }
 

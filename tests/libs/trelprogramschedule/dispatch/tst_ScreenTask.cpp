@@ -67,7 +67,7 @@ void tst_ScreenTask::timelinesShareWhatTheyKnow()
     QCOMPARE(tasks.at(1)->knownDays(), std::size_t{1});
     QCOMPARE(tasks.at(2)->knownDays(), std::size_t{1});
     const std::size_t known = screen.calendar().knownDays();
-    const std::size_t pieces = screen.wall().knownPieces();
+    const std::size_t pieces = screen.offsets().knownPeriods();
     QVERIFY(pieces > 0);
 
     const auto edited =
@@ -75,7 +75,7 @@ void tst_ScreenTask::timelinesShareWhatTheyKnow()
     tasks[1] = std::make_shared<const ScreenTask>(edited.at(1), lettersCatalogue());
     const PlainScreen next = screen.withTasks(tasks);
     QCOMPARE(next.calendar().knownDays(), known - 1);
-    QCOMPARE(next.wall().knownPieces(), pieces);
+    QCOMPARE(next.offsets().knownPeriods(), pieces);
     next.at(at("2024.03.13 12:30:00"));
     QCOMPARE(next.calendar().knownDays(), known - 1);
     // The former one stays what it was.

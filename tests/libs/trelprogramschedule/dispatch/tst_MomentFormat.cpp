@@ -1,12 +1,12 @@
 #include "support/TestProgram.h"
-#include "trelprogramschedule/dispatch/LocalClock.h"
+#include "trelprogramschedule/dispatch/MomentFormat.h"
 
 #include <QtTest>
 
 using namespace trel::mediadispatch;
 
 /// Which days may have a time twice, and how the two are told apart.
-class tst_LocalClock : public QObject
+class tst_MomentFormat : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ private slots:
     void offsetsWithSeconds();
 };
 
-void tst_LocalClock::daysOfChange_data()
+void tst_MomentFormat::daysOfChange_data()
 {
     QTest::addColumn<QByteArray>("zone");
     QTest::addColumn<QDate>("from");
@@ -35,12 +35,12 @@ void tst_LocalClock::daysOfChange_data()
     row("never", "UTC", QDate(2024, 10, 25), "-----");
 }
 
-void tst_LocalClock::daysOfChange()
+void tst_MomentFormat::daysOfChange()
 {
     QFETCH(QByteArray, zone);
     QFETCH(QDate, from);
     QFETCH(QString, days);
-    const LocalClock local{QTimeZone(zone)};
+    const MomentFormat local{QTimeZone(zone)};
     QString found;
     for (int day = 0; day < days.size(); ++day) {
         found += QLatin1Char(local.changesOn(from.addDays(day)) ? 'x' : '-');
@@ -48,7 +48,7 @@ void tst_LocalClock::daysOfChange()
     QCOMPARE(found, days);
 }
 
-void tst_LocalClock::aTimeThatComesTwiceIsToldApart_data()
+void tst_MomentFormat::aTimeThatComesTwiceIsToldApart_data()
 {
     QTest::addColumn<QByteArray>("zone");
     QTest::addColumn<QDate>("date");
@@ -72,23 +72,23 @@ void tst_LocalClock::aTimeThatComesTwiceIsToldApart_data()
         << QStringLiteral("1917-09-17 01:30:00 -03:30:52");
 }
 
-void tst_LocalClock::aTimeThatComesTwiceIsToldApart()
+void tst_MomentFormat::aTimeThatComesTwiceIsToldApart()
 {
     QFETCH(QByteArray, zone);
     QFETCH(QDate, date);
     QFETCH(QTime, time);
-    const LocalClock local{QTimeZone(zone)};
-    const LocalClock::Occurrence found = local.find(date, time);
+    const MomentFormat local{QTimeZone(zone)};
+    const MomentFormat::Occurrence found = local.find(date, time);
     QVERIFY(found.second);
     QTEST(local.text(found.first), "first");
     QTEST(local.text(*found.second), "second");
 }
 
-void tst_LocalClock::offsetsWithSeconds()
+void tst_MomentFormat::offsetsWithSeconds()
 {
-    QCOMPARE(LocalClock::offsetText(19800), QStringLiteral("+05:30"));
-    QCOMPARE(LocalClock::offsetText(-12652), QStringLiteral("-03:30:52"));
+    QCOMPARE(MomentFormat::offsetText(19800), QStringLiteral("+05:30"));
+    QCOMPARE(MomentFormat::offsetText(-12652), QStringLiteral("-03:30:52"));
 }
 
-TREL_TEST(tst_LocalClock, trel::tests::NoApplication)
-#include "tst_LocalClock.moc"
+TREL_TEST(tst_MomentFormat, trel::tests::NoApplication)
+#include "tst_MomentFormat.moc"

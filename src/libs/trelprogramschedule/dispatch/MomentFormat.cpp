@@ -1,4 +1,4 @@
-#include "trelprogramschedule/dispatch/LocalClock.h"
+#include "trelprogramschedule/dispatch/MomentFormat.h"
 
 #include <algorithm>
 
@@ -19,21 +19,21 @@ QDateTime inUtc(Instant moment)
 
 } // namespace
 
-LocalClock::LocalClock(const QTimeZone& zone)
-    : m_wall(zone)
+MomentFormat::MomentFormat(const QTimeZone& zone)
+    : m_offsets(zone)
 {}
 
-int LocalClock::offsetAt(Instant moment) const
+int MomentFormat::offsetAt(Instant moment) const
 {
-    return static_cast<int>(m_wall.pieceAt(moment).offset / kSecond);
+    return static_cast<int>(m_offsets.periodAt(moment).offset / kSecond);
 }
 
-QDateTime LocalClock::shownAt(Instant moment) const
+QDateTime MomentFormat::shownAt(Instant moment) const
 {
     return inUtc(moment + offsetAt(moment) * kSecond);
 }
 
-bool LocalClock::changesOn(const QDate& day) const
+bool MomentFormat::changesOn(const QDate& day) const
 {
     if (day != m_day) {
         m_day = day;
@@ -44,18 +44,18 @@ bool LocalClock::changesOn(const QDate& day) const
 
 // Between what the clock shows before a change and what it shows after it lies the time that is
 // left out, or comes twice. It need not be of the day on which the change falls.
-bool LocalClock::isTouched(const QDate& day) const
+bool MomentFormat::isTouched(const QDate& day) const
 {
     const LocalTime begin = timeOn(dayNumber(day), 0);
     const LocalTime end = begin + kMillisecondsPerDay;
     for (Instant at = begin - 2 * kLargestOffset; at < end + 2 * kLargestOffset;) {
-        const WallPiece& piece = m_wall.pieceAt(at);
-        if (piece.end == kNever) {
+        const OffsetPeriod& period = m_offsets.periodAt(at);
+        if (period.end == kNever) {
             return false;
         }
-        at = piece.end;
-        const LocalTime before = piece.local(at);
-        const LocalTime after = m_wall.pieceAt(at).local(at);
+        at = period.end;
+        const LocalTime before = period.local(at);
+        const LocalTime after = m_offsets.periodAt(at).local(at);
         if (std::min(before, after) < end && std::max(before, after) > begin) {
             return true;
         }
@@ -63,18 +63,18 @@ bool LocalClock::isTouched(const QDate& day) const
     return false;
 }
 
-LocalClock::Occurrence LocalClock::find(const QDate& date, const QTime& time) const
+MomentFormat::Occurrence MomentFormat::find(const QDate& date, const QTime& time) const
 {
     const Instant shown = QDateTime(date, time, Qt::UTC).toMSecsSinceEpoch();
     Occurrence found;
     bool isFound = false;
     for (Instant at = shown - kLargestOffset; at <= shown + kLargestOffset;) {
-        const WallPiece& piece = m_wall.pieceAt(at);
-        const Instant moment = piece.instant(shown);
-        if (moment < piece.begin && !isFound) {
-            return {piece.begin, {}, true};
+        const OffsetPeriod& period = m_offsets.periodAt(at);
+        const Instant moment = period.instant(shown);
+        if (moment < period.begin && !isFound) {
+            return {period.begin, {}, true};
         }
-        if (moment >= piece.begin && moment < piece.end) {
+        if (moment >= period.begin && moment < period.end) {
             if (isFound) {
                 found.second = moment;
                 break;
@@ -82,32 +82,32 @@ LocalClock::Occurrence LocalClock::find(const QDate& date, const QTime& time) co
             found.first = moment;
             isFound = true;
         }
-        at = piece.end;
+        at = period.end;
     }
     return found;
 }
 
-QString LocalClock::text(Instant moment) const
+QString MomentFormat::text(Instant moment) const
 {
     return isDated(moment)
                ? shownAt(moment).date().toString(Qt::ISODate) + QLatin1Char(' ') + timeText(moment)
                : QStringLiteral("\u2013");
 }
 
-QString LocalClock::text(Instant moment, Instant besides) const
+QString MomentFormat::text(Instant moment, Instant besides) const
 {
     const bool isSameDay =
         isDated(moment) && isDated(besides) && shownAt(moment).date() == shownAt(besides).date();
     return isSameDay ? timeText(moment) : text(moment);
 }
 
-QString LocalClock::isoText(Instant moment) const
+QString MomentFormat::isoText(Instant moment) const
 {
     return shownAt(moment).toString(QStringLiteral("yyyy-MM-ddThh:mm:ss.zzz")) +
            offsetText(offsetAt(moment));
 }
 
-QString LocalClock::timeText(Instant moment) const
+QString MomentFormat::timeText(Instant moment) const
 {
     const QDateTime shown = shownAt(moment);
     const bool isWhole = shown.time().msec() == 0;
@@ -116,13 +116,13 @@ QString LocalClock::timeText(Instant moment) const
     return text + offsetMark(moment);
 }
 
-QString LocalClock::offsetMark(Instant moment) const
+QString MomentFormat::offsetMark(Instant moment) const
 {
     return changesOn(shownAt(moment).date()) ? QLatin1Char(' ') + offsetText(offsetAt(moment))
                                              : QString();
 }
 
-QString LocalClock::offsetText(int seconds)
+QString MomentFormat::offsetText(int seconds)
 {
     constexpr int minute = 60;
     constexpr int hour = 60 * minute;

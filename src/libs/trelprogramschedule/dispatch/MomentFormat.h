@@ -1,7 +1,7 @@
 #pragma once
 
 #include "trelprogramschedule/dispatch/ScreenState.h"
-#include "trelprogramschedule/dispatch/WallTime.h"
+#include "trelprogramschedule/dispatch/ZoneOffsets.h"
 #include "trelprogramschedule_export.h"
 
 #include <QDateTime>
@@ -13,12 +13,12 @@ namespace trel::mediadispatch {
 
 /// The local time of a zone, in texts and found from texts. A long list of moments in order costs
 /// next to nothing. Not to be asked by two threads at a time.
-class TRELPROGRAMSCHEDULE_EXPORT LocalClock
+class TRELPROGRAMSCHEDULE_EXPORT MomentFormat
 {
 public:
-    explicit LocalClock(const QTimeZone& zone);
+    explicit MomentFormat(const QTimeZone& zone);
 
-    const QTimeZone& zone() const { return m_wall.zone(); }
+    const QTimeZone& zone() const { return m_offsets.zone(); }
     /// Seconds that the local clock is ahead of UTC.
     int offsetAt(Instant moment) const;
     /// Date and time that the local clock shows.
@@ -54,7 +54,7 @@ private:
 
     bool isTouched(const QDate& day) const;
 
-    WallTime m_wall;
+    ZoneOffsets m_offsets;
     mutable QDate m_day; ///< The day that was last asked about.
     mutable bool m_dayChanges = false;
 };

@@ -1,4 +1,4 @@
-#include "WallTime.h"
+#include "ZoneOffsets.h"
 
 #include <QDateTime>
 
@@ -48,62 +48,62 @@ Instant changeUpTo(const QTimeZone& zone, Instant moment)
 
 } // namespace
 
-WallTime::WallTime(const QTimeZone& zone)
+ZoneOffsets::ZoneOffsets(const QTimeZone& zone)
     : m_zone(zone.isValid() ? zone : QTimeZone::utc())
 {}
 
-const WallPiece& WallTime::pieceAt(Instant moment) const
+const OffsetPeriod& ZoneOffsets::periodAt(Instant moment) const
 {
     const Instant asked = std::clamp(moment, kFirstAsked, kLastAsked);
-    const std::lock_guard<std::mutex> lock(m_pieces->mutex);
-    auto& pieces = m_pieces->byBegin;
-    const auto next = pieces.upper_bound(asked);
-    if (next != pieces.begin()) {
-        const WallPiece& piece = std::prev(next)->second;
-        if (asked < piece.end) {
-            return piece;
+    const std::lock_guard<std::mutex> lock(m_periods->mutex);
+    auto& periods = m_periods->byBegin;
+    const auto next = periods.upper_bound(asked);
+    if (next != periods.begin()) {
+        const OffsetPeriod& period = std::prev(next)->second;
+        if (asked < period.end) {
+            return period;
         }
     }
-    const WallPiece piece = findPiece(asked);
-    return pieces.emplace(piece.begin, piece).first->second;
+    const OffsetPeriod period = findPeriod(asked);
+    return periods.emplace(period.begin, period).first->second;
 }
 
-std::size_t WallTime::knownPieces() const
+std::size_t ZoneOffsets::knownPeriods() const
 {
-    const std::lock_guard<std::mutex> lock(m_pieces->mutex);
-    return m_pieces->byBegin.size();
+    const std::lock_guard<std::mutex> lock(m_periods->mutex);
+    return m_periods->byBegin.size();
 }
 
 // A zone also lists changes of its name alone, which are none of the clock.
-WallPiece WallTime::findPiece(Instant moment) const
+OffsetPeriod ZoneOffsets::findPeriod(Instant moment) const
 {
-    WallPiece piece;
-    piece.offset = offsetAt(m_zone, moment);
-    piece.end = changeAfter(m_zone, moment);
-    while (piece.end != kNever && offsetAt(m_zone, piece.end) == piece.offset) {
-        piece.end = changeAfter(m_zone, piece.end);
+    OffsetPeriod period;
+    period.offset = offsetAt(m_zone, moment);
+    period.end = changeAfter(m_zone, moment);
+    while (period.end != kNever && offsetAt(m_zone, period.end) == period.offset) {
+        period.end = changeAfter(m_zone, period.end);
     }
-    piece.begin = changeUpTo(m_zone, moment);
-    while (piece.begin != kEver && offsetAt(m_zone, piece.begin - 1) == piece.offset) {
-        piece.begin = changeUpTo(m_zone, piece.begin - 1);
+    period.begin = changeUpTo(m_zone, moment);
+    while (period.begin != kEver && offsetAt(m_zone, period.begin - 1) == period.offset) {
+        period.begin = changeUpTo(m_zone, period.begin - 1);
     }
-    return piece;
+    return period;
 }
 
-Instant WallTime::firstShown(LocalTime local, Instant from) const
+Instant ZoneOffsets::firstShown(LocalTime local, Instant from) const
 {
     Instant moment = from;
     for (;;) {
-        const WallPiece& piece = pieceAt(moment);
-        const Instant shown = std::max(moment, piece.instant(local));
-        if (shown < piece.end) {
+        const OffsetPeriod& period = periodAt(moment);
+        const Instant shown = std::max(moment, period.instant(local));
+        if (shown < period.end) {
             return shown;
         }
-        moment = piece.end;
+        moment = period.end;
     }
 }
 
-Instant WallTime::firstShown(LocalTime local) const
+Instant ZoneOffsets::firstShown(LocalTime local) const
 {
     return firstShown(local, local - kLargestOffset);
 }

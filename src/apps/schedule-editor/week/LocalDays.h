@@ -1,7 +1,7 @@
 #pragma once
 
 #include "trelprogramschedule/dispatch/ClockChanges.h"
-#include "trelprogramschedule/dispatch/WallTime.h"
+#include "trelprogramschedule/dispatch/ZoneOffsets.h"
 
 #include <QDate>
 #include <QTimeZone>
@@ -20,7 +20,7 @@ enum class Pass {
 };
 
 /// A part of one local day by its wall clock, in seconds since midnight; end not included.
-struct WallSpan
+struct LocalSpan
 {
     int day = 0; ///< Counted from the first day asked about.
     int from = 0;
@@ -30,15 +30,15 @@ struct WallSpan
 
 /// How the wall clock of a zone runs through some days, cut at midnights and at its changes, which
 /// may fall on any time of day.
-class WallClock
+class LocalDays
 {
 public:
-    WallClock(const QDate& first, int days, const QTimeZone& zone);
+    LocalDays(const QDate& first, int days, const QTimeZone& zone);
 
     /// What the wall clock shows in the course of [from, to), in order, split at midnights and at
     /// changes. What lies outside the days is left out; parts of seconds are dropped.
-    std::vector<WallSpan> spans(trel::mediadispatch::Instant from,
-                                trel::mediadispatch::Instant to) const;
+    std::vector<LocalSpan> spans(trel::mediadispatch::Instant from,
+                                 trel::mediadispatch::Instant to) const;
     const std::vector<trel::mediadispatch::ClockChange>& changes() const { return m_changes; }
 
     /// From the first instant of the days to the one after their last.
@@ -60,9 +60,10 @@ private:
         Pass pass = Pass::Only;
     };
 
-    void addRuns(const trel::mediadispatch::WallPiece& piece);
+    void addRuns(const trel::mediadispatch::OffsetPeriod& period);
     /// Of a part of one day, in milliseconds since midnight.
-    void addRunsOfDay(const trel::mediadispatch::WallPiece& piece, int day, qint64 from, qint64 to);
+    void addRunsOfDay(const trel::mediadispatch::OffsetPeriod& period, int day, qint64 from,
+                      qint64 to);
 
     trel::mediadispatch::DayNumber m_firstDay;
     int m_days;

@@ -1,5 +1,5 @@
 #include "support/TestProgram.h"
-#include "week/WallClock.h"
+#include "week/LocalDays.h"
 
 #include <QDateTime>
 #include <QtTest>
@@ -8,7 +8,7 @@ using namespace trel::mediadispatch;
 using namespace week;
 
 /// How instants lie on the wall clocks of some days.
-class tst_WallClock : public QObject
+class tst_LocalDays : public QObject
 {
     Q_OBJECT
 
@@ -28,10 +28,10 @@ QString textOf(int second)
         .arg(second / 60 % 60, 2, 10, QLatin1Char('0'));
 }
 
-QString linesOf(const WallClock& clock, const QDate& first, Instant from, Instant to)
+QString linesOf(const LocalDays& clock, const QDate& first, Instant from, Instant to)
 {
     QStringList lines;
-    for (const WallSpan& span : clock.spans(from, to)) {
+    for (const LocalSpan& span : clock.spans(from, to)) {
         const char* const passes[] = {"", " first", " second"};
         lines.append(QStringLiteral("%1: %2-%3%4")
                          .arg(span.day)
@@ -57,7 +57,7 @@ Instant instantOf(const char* text, const QTimeZone& zone)
 
 } // namespace
 
-void tst_WallClock::days_data()
+void tst_LocalDays::days_data()
 {
     QTest::addColumn<QByteArray>("zone");
     QTest::addColumn<QDate>("first");
@@ -91,21 +91,21 @@ void tst_WallClock::days_data()
         "0: 00:00-24:00\n2: 00:00-24:00\n1: 00:00-24:00 left out");
 }
 
-void tst_WallClock::days()
+void tst_LocalDays::days()
 {
     QFETCH(QByteArray, zone);
     QFETCH(QDate, first);
     QFETCH(int, count);
-    const WallClock clock(first, count, QTimeZone(zone));
+    const LocalDays clock(first, count, QTimeZone(zone));
     QTEST(linesOf(clock, first, clock.begin(), clock.end()), "expected");
     QTEST(linesOf(clock, first, std::numeric_limits<Instant>::min(), kNever), "expected");
 }
 
-void tst_WallClock::spansAreCutAtTheirEnds()
+void tst_LocalDays::spansAreCutAtTheirEnds()
 {
     const QTimeZone zone("Europe/Berlin");
     const QDate first(2026, 3, 9);
-    const WallClock clock(first, 2, zone);
+    const LocalDays clock(first, 2, zone);
     const Instant evening = instantOf("2026-03-09T20:30:00", zone);
     const Instant morning = instantOf("2026-03-10T08:15:00", zone);
     QCOMPARE(linesOf(clock, first, evening, morning),
@@ -115,10 +115,10 @@ void tst_WallClock::spansAreCutAtTheirEnds()
     QCOMPARE(linesOf(clock, first, 0, clock.begin()), QString());
 }
 
-void tst_WallClock::instantsOfSeconds()
+void tst_LocalDays::instantsOfSeconds()
 {
     const QTimeZone zone("Europe/Berlin");
-    const WallClock clock(QDate(2026, 10, 24), 2, zone);
+    const LocalDays clock(QDate(2026, 10, 24), 2, zone);
     constexpr int kHalfPastTwo = 2 * 3600 + 1800;
     const Instant first = QDateTime({2026, 10, 25}, {0, 30}, Qt::UTC).toMSecsSinceEpoch();
     QCOMPARE(clock.instant(1, kHalfPastTwo), first);
@@ -127,5 +127,5 @@ void tst_WallClock::instantsOfSeconds()
     QCOMPARE(clock.instant(0, 12 * 3600), instantOf("2026-10-24T12:00:00", zone));
 }
 
-TREL_TEST(tst_WallClock, trel::tests::NoApplication)
-#include "tst_WallClock.moc"
+TREL_TEST(tst_LocalDays, trel::tests::NoApplication)
+#include "tst_LocalDays.moc"

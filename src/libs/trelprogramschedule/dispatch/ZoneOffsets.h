@@ -12,8 +12,8 @@
 
 namespace trel::mediadispatch {
 
-/// A stretch of time in which the local clock runs evenly.
-struct WallPiece
+/// A period in which a zone keeps one offset, so that its local clock runs evenly.
+struct OffsetPeriod
 {
     Instant begin = kEver;
     Instant end = kNever; ///< Not included.
@@ -23,40 +23,40 @@ struct WallPiece
     Instant instant(LocalTime local) const { return local - offset; }
 };
 
-/// The local clock of a time zone, as pieces of even run. A piece is looked up in the zone once and
-/// kept, so that a question costs the logarithm of the pieces met so far. Copies share what they
-/// know; threads may ask at the same time.
-class TRELPROGRAMSCHEDULE_EXPORT WallTime
+/// The offsets of a time zone from universal time, in periods. A period is looked up in the zone
+/// once and kept, so that a question costs the logarithm of the periods met so far. Copies share
+/// what they know; threads may ask at the same time.
+class TRELPROGRAMSCHEDULE_EXPORT ZoneOffsets
 {
 public:
     /// A zone that is not valid counts as universal time.
-    explicit WallTime(const QTimeZone& zone);
+    explicit ZoneOffsets(const QTimeZone& zone);
 
     const QTimeZone& zone() const { return m_zone; }
 
-    /// The piece that holds a moment. Its neighbours have other offsets. Before the year 1 and
+    /// The period that holds a moment. Its neighbours have other offsets. Before the year 1 and
     /// after the year 9999, which no date in a record leaves, the clock is not changed any more.
-    const WallPiece& pieceAt(Instant moment) const;
+    const OffsetPeriod& periodAt(Instant moment) const;
 
     /// The first instant, not before `from`, at which the clock shows this or more.
     Instant firstShown(LocalTime local, Instant from) const;
     /// As above, of all instants.
     Instant firstShown(LocalTime local) const;
 
-    /// How many pieces have been looked up.
-    std::size_t knownPieces() const;
+    /// How many periods have been looked up.
+    std::size_t knownPeriods() const;
 
 private:
-    struct Pieces
+    struct Periods
     {
         std::mutex mutex;
-        std::map<Instant, WallPiece> byBegin;
+        std::map<Instant, OffsetPeriod> byBegin;
     };
 
-    WallPiece findPiece(Instant moment) const;
+    OffsetPeriod findPeriod(Instant moment) const;
 
     QTimeZone m_zone;
-    std::shared_ptr<Pieces> m_pieces = std::make_shared<Pieces>();
+    std::shared_ptr<Periods> m_periods = std::make_shared<Periods>();
 };
 
 /// No clock is further than this from universal time.
