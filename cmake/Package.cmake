@@ -34,7 +34,9 @@ function(install_headers library base)
   install(FILES ${CMAKE_BINARY_DIR}/exports/${library}_export.h DESTINATION ${include_dir})
 endfunction()
 
-install_headers(tstranslate src/libs tstranslate/Translator.h)
+install_headers(tstranslate src/libs
+  tstranslate/LanguageFile.h
+  tstranslate/Translator.h)
 install_headers(trelwidgets src/libs
   trelwidgets/ComboBox.h
   trelwidgets/Dialog.h

@@ -10,6 +10,7 @@
 #include <QLocale>
 #include <QStyle>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace bench {

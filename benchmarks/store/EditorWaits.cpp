@@ -16,6 +16,7 @@
 #include <stdexcept>
 #include <string>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace bench {

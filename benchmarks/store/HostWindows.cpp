@@ -8,6 +8,7 @@
 
 #include <stdexcept>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace bench {

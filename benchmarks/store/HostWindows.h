@@ -31,17 +31,17 @@ public:
     /// Shows the changes of the clocks and the week, each in a window of its own.
     void showPanels();
     trel::mediadispatch::scheduleControlUI& editor() { return m_editor; }
-    Languages& languages() { return m_languages; }
-    Themes& themes() { return m_themes; }
+    trel::desktop::Languages& languages() { return m_languages; }
+    trel::desktop::Themes& themes() { return m_themes; }
 
 private:
     QString path() const { return m_folder.filePath(QStringLiteral("schedule.db")); }
 
     QTemporaryDir m_folder;
     trel::mediadispatch::scheduleControlUI m_editor;
-    Languages m_languages;
-    Themes m_themes;
-    EditorWindow m_window;
+    trel::desktop::Languages m_languages;
+    trel::desktop::Themes m_themes;
+    trel::desktop::EditorWindow m_window;
 };
 
 } // namespace bench

@@ -12,6 +12,7 @@
 #include <memory>
 #include <string>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace bench {

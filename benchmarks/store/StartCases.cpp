@@ -17,6 +17,7 @@
 #include <memory>
 #include <stdexcept>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace bench {

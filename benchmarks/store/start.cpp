@@ -15,6 +15,7 @@
 
 #include <QApplication>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 int main(int argc, char** argv)

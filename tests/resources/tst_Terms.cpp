@@ -232,10 +232,11 @@ void tst_Terms::textsNameWhatTheySpeakOf()
                                 QStringLiteral("Choose Start in the schedule editor to put the "
                                                "saved schedule into effect."));
     QVERIFY2(reason.contains(start), qPrintable(reason));
-    QString entry = text(QStringLiteral("EditorMenus"), QStringLiteral("&Import files…"));
+    QString entry =
+        text(QStringLiteral("trel::desktop::EditorMenus"), QStringLiteral("&Import files…"));
     entry.remove(QRegularExpression(QStringLiteral("\\(&.\\)|&|…")));
     const QString hint =
-        text(QStringLiteral("EditorWindow"),
+        text(QStringLiteral("trel::desktop::EditorWindow"),
              QStringLiteral("No programs yet. Drop media files or folders here, or choose “Import "
                             "files”."));
     QVERIFY2(!entry.isEmpty() && hint.contains(entry), qPrintable(hint));

@@ -2,7 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en_US">
 <context>
-    <name>EditorWindow</name>
+    <name>trel::desktop::EditorWindow</name>
     <message numerus="yes">
         <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>

@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorMenus</name>
+    <name>trel::desktop::EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>Pro&amp;gramación</translation>
@@ -72,7 +72,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>trel::desktop::EditorWindow</name>
     <message>
         <source>Now and next</source>
         <translation>Ahora y a continuación</translation>
@@ -220,7 +220,7 @@
     </message>
 </context>
 <context>
-    <name>ProgramTableModel</name>
+    <name>trel::desktop::ProgramTableModel</name>
     <message>
         <source>Video</source>
         <translation>Vídeo</translation>
@@ -267,7 +267,7 @@
     </message>
 </context>
 <context>
-    <name>SaveRescue</name>
+    <name>trel::desktop::SaveRescue</name>
     <message>
         <source>The schedule was not saved. %1
 
@@ -298,7 +298,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>ClockChangePanel</name>
+    <name>trel::desktop::ClockChangePanel</name>
     <message>
         <source>Clock changes</source>
         <translation>Cambios de hora</translation>
@@ -349,7 +349,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>PreviewDock</name>
+    <name>trel::desktop::PreviewDock</name>
     <message>
         <source>Preview</source>
         <translation>Vista previa</translation>
@@ -364,14 +364,14 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>PreviewScreen</name>
+    <name>trel::desktop::PreviewScreen</name>
     <message>
         <source>Preview of the screen</source>
         <translation>Vista previa de la pantalla</translation>
     </message>
 </context>
 <context>
-    <name>NowNextPanel</name>
+    <name>trel::desktop::NowNextPanel</name>
     <message>
         <source>Now</source>
         <translation>Ahora</translation>
@@ -606,7 +606,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>WeekDock</name>
+    <name>trel::desktop::WeekDock</name>
     <message>
         <source>Week</source>
         <translation>Semana</translation>
@@ -617,14 +617,14 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>week::WeekView</name>
+    <name>trel::desktop::week::WeekView</name>
     <message>
         <source>Week</source>
         <translation>Semana</translation>
     </message>
 </context>
 <context>
-    <name>week::WeekPanel</name>
+    <name>trel::desktop::week::WeekPanel</name>
     <message>
         <source>Today</source>
         <translation>Hoy</translation>

@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorMenus</name>
+    <name>trel::desktop::EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>スケジュール(&amp;S)</translation>
@@ -72,7 +72,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>trel::desktop::EditorWindow</name>
     <message>
         <source>Now and next</source>
         <translation>現在と次</translation>
@@ -217,7 +217,7 @@
     </message>
 </context>
 <context>
-    <name>ProgramTableModel</name>
+    <name>trel::desktop::ProgramTableModel</name>
     <message>
         <source>Video</source>
         <translation>動画</translation>
@@ -264,7 +264,7 @@
     </message>
 </context>
 <context>
-    <name>SaveRescue</name>
+    <name>trel::desktop::SaveRescue</name>
     <message>
         <source>The schedule was not saved. %1
 
@@ -295,7 +295,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>ClockChangePanel</name>
+    <name>trel::desktop::ClockChangePanel</name>
     <message>
         <source>Clock changes</source>
         <translation>夏時間の切り替え</translation>
@@ -346,7 +346,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>PreviewDock</name>
+    <name>trel::desktop::PreviewDock</name>
     <message>
         <source>Preview</source>
         <translation>プレビュー</translation>
@@ -361,14 +361,14 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>PreviewScreen</name>
+    <name>trel::desktop::PreviewScreen</name>
     <message>
         <source>Preview of the screen</source>
         <translation>画面のプレビュー</translation>
     </message>
 </context>
 <context>
-    <name>NowNextPanel</name>
+    <name>trel::desktop::NowNextPanel</name>
     <message>
         <source>Now</source>
         <translation>現在</translation>
@@ -602,7 +602,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>WeekDock</name>
+    <name>trel::desktop::WeekDock</name>
     <message>
         <source>Week</source>
         <translation>週</translation>
@@ -613,14 +613,14 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>week::WeekView</name>
+    <name>trel::desktop::week::WeekView</name>
     <message>
         <source>Week</source>
         <translation>週</translation>
     </message>
 </context>
 <context>
-    <name>week::WeekPanel</name>
+    <name>trel::desktop::week::WeekPanel</name>
     <message>
         <source>Today</source>
         <translation>今日</translation>

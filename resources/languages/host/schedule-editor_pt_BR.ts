@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorMenus</name>
+    <name>trel::desktop::EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>Pro&amp;gramação</translation>
@@ -72,7 +72,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>trel::desktop::EditorWindow</name>
     <message>
         <source>Now and next</source>
         <translation>Agora e a seguir</translation>
@@ -220,7 +220,7 @@
     </message>
 </context>
 <context>
-    <name>ProgramTableModel</name>
+    <name>trel::desktop::ProgramTableModel</name>
     <message>
         <source>Video</source>
         <translation>Vídeo</translation>
@@ -267,7 +267,7 @@
     </message>
 </context>
 <context>
-    <name>SaveRescue</name>
+    <name>trel::desktop::SaveRescue</name>
     <message>
         <source>The schedule was not saved. %1
 
@@ -298,7 +298,7 @@ O que deseja fazer com as alterações?</translation>
     </message>
 </context>
 <context>
-    <name>ClockChangePanel</name>
+    <name>trel::desktop::ClockChangePanel</name>
     <message>
         <source>Clock changes</source>
         <translation>Mudanças de horário</translation>
@@ -349,7 +349,7 @@ O que deseja fazer com as alterações?</translation>
     </message>
 </context>
 <context>
-    <name>PreviewDock</name>
+    <name>trel::desktop::PreviewDock</name>
     <message>
         <source>Preview</source>
         <translation>Pré-visualização</translation>
@@ -364,14 +364,14 @@ O que deseja fazer com as alterações?</translation>
     </message>
 </context>
 <context>
-    <name>PreviewScreen</name>
+    <name>trel::desktop::PreviewScreen</name>
     <message>
         <source>Preview of the screen</source>
         <translation>Pré-visualização da tela</translation>
     </message>
 </context>
 <context>
-    <name>NowNextPanel</name>
+    <name>trel::desktop::NowNextPanel</name>
     <message>
         <source>Now</source>
         <translation>Agora</translation>
@@ -606,7 +606,7 @@ O que deseja fazer com as alterações?</translation>
     </message>
 </context>
 <context>
-    <name>WeekDock</name>
+    <name>trel::desktop::WeekDock</name>
     <message>
         <source>Week</source>
         <translation>Semana</translation>
@@ -617,14 +617,14 @@ O que deseja fazer com as alterações?</translation>
     </message>
 </context>
 <context>
-    <name>week::WeekView</name>
+    <name>trel::desktop::week::WeekView</name>
     <message>
         <source>Week</source>
         <translation>Semana</translation>
     </message>
 </context>
 <context>
-    <name>week::WeekPanel</name>
+    <name>trel::desktop::week::WeekPanel</name>
     <message>
         <source>Today</source>
         <translation>Hoje</translation>

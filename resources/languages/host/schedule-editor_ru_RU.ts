@@ -13,7 +13,7 @@
     </message>
 </context>
 <context>
-    <name>EditorMenus</name>
+    <name>trel::desktop::EditorMenus</name>
     <message>
         <source>&amp;Schedule</source>
         <translation>&amp;Расписание</translation>
@@ -72,7 +72,7 @@
     </message>
 </context>
 <context>
-    <name>EditorWindow</name>
+    <name>trel::desktop::EditorWindow</name>
     <message>
         <source>Now and next</source>
         <translation>Сейчас и далее</translation>
@@ -223,7 +223,7 @@
     </message>
 </context>
 <context>
-    <name>ProgramTableModel</name>
+    <name>trel::desktop::ProgramTableModel</name>
     <message>
         <source>Video</source>
         <translation>Видео</translation>
@@ -270,7 +270,7 @@
     </message>
 </context>
 <context>
-    <name>SaveRescue</name>
+    <name>trel::desktop::SaveRescue</name>
     <message>
         <source>The schedule was not saved. %1
 
@@ -301,7 +301,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>ClockChangePanel</name>
+    <name>trel::desktop::ClockChangePanel</name>
     <message>
         <source>Clock changes</source>
         <translation>Переводы часов</translation>
@@ -352,7 +352,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>PreviewDock</name>
+    <name>trel::desktop::PreviewDock</name>
     <message>
         <source>Preview</source>
         <translation>Предпросмотр</translation>
@@ -367,14 +367,14 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>PreviewScreen</name>
+    <name>trel::desktop::PreviewScreen</name>
     <message>
         <source>Preview of the screen</source>
         <translation>Предпросмотр экрана</translation>
     </message>
 </context>
 <context>
-    <name>NowNextPanel</name>
+    <name>trel::desktop::NowNextPanel</name>
     <message>
         <source>Now</source>
         <translation>Сейчас</translation>
@@ -610,7 +610,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>WeekDock</name>
+    <name>trel::desktop::WeekDock</name>
     <message>
         <source>Week</source>
         <translation>Неделя</translation>
@@ -621,14 +621,14 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>week::WeekView</name>
+    <name>trel::desktop::week::WeekView</name>
     <message>
         <source>Week</source>
         <translation>Неделя</translation>
     </message>
 </context>
 <context>
-    <name>week::WeekPanel</name>
+    <name>trel::desktop::week::WeekPanel</name>
     <message>
         <source>Today</source>
         <translation>Сегодня</translation>

@@ -5,6 +5,8 @@
 #include <QStandardPaths>
 #include <QString>
 
+namespace trel::hosts {
+
 /// Where the hosts keep the user's own schedule when no file is named: one place in the user's
 /// data, whatever the host that asks is called, so that all of them work on the same schedule.
 inline QString defaultDatabasePath()
@@ -21,3 +23,5 @@ inline QString makeDefaultDatabaseFolder()
     QDir().mkpath(QFileInfo(path).absolutePath());
     return path;
 }
+
+} // namespace trel::hosts

@@ -10,6 +10,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace trel::hosts {
+
 PatientFile::PatientFile(const QString& path, std::chrono::milliseconds patience)
     : m_path(path)
     , m_patience(patience)
@@ -87,3 +89,5 @@ qint64 PatientFile::fail(const QString& reason)
     setErrorString(reason);
     return -1;
 }
+
+} // namespace trel::hosts

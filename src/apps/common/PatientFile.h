@@ -4,6 +4,8 @@
 
 #include <chrono>
 
+namespace trel::hosts {
+
 /// A file that is read once from front to end. A pipe, whose other end may never write, is
 /// waited for as long as the patience lasts: for its first byte, and again after each that comes. A
 /// device, a folder and a socket are refused.
@@ -38,3 +40,5 @@ private:
     bool m_isPipe = false;
     bool m_hasFailed = false;
 };
+
+} // namespace trel::hosts

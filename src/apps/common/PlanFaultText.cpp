@@ -2,6 +2,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::hosts {
+
 QString PlanFaultText::sentence(PlanFault fault, int planId, const QString& start,
                                 const QString& end)
 {
@@ -31,3 +33,5 @@ QString PlanFaultText::sentence(PlanFault fault, int planId, const QString& star
     }
     return QString();
 }
+
+} // namespace trel::hosts

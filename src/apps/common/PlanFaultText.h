@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QString>
 
+namespace trel::hosts {
+
 /// What the programs say of a plan that never plays, in the same words: English, or the language
 /// that a program has installed.
 class PlanFaultText
@@ -16,3 +18,5 @@ public:
     static QString sentence(trel::mediadispatch::PlanFault fault, int planId, const QString& start,
                             const QString& end);
 };
+
+} // namespace trel::hosts

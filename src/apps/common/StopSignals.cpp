@@ -8,6 +8,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+namespace trel::hosts {
+
 namespace {
 
 /// A handler may do next to nothing, so it writes a byte here, and the event loop reads it.
@@ -54,3 +56,5 @@ void StopSignals::read()
     }
     emit stopped();
 }
+
+} // namespace trel::hosts

@@ -4,6 +4,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::hosts {
+
 QString ZoneError::sentence()
 {
     return Clock::current().zone().isValid()
@@ -12,3 +14,5 @@ QString ZoneError::sentence()
                     "known.")
                      .arg(QString::fromLocal8Bit(QTimeZone::systemTimeZoneId()));
 }
+
+} // namespace trel::hosts

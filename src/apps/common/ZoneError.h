@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QString>
 
+namespace trel::hosts {
+
 /// A program whose local time is unknown would take universal time for it without a word, so it
 /// asks here first.
 class ZoneError
@@ -13,3 +15,5 @@ public:
     /// Why the local time of the clock in force is not known, as a sentence; empty where it is.
     static QString sentence();
 };
+
+} // namespace trel::hosts

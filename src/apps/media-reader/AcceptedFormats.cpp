@@ -4,7 +4,7 @@
 #include <cstring>
 #include <iterator>
 
-namespace formats {
+namespace trel::mediareader::formats {
 
 namespace {
 
@@ -42,4 +42,4 @@ bool isImage(const char* name)
     return holds(kImages, name);
 }
 
-} // namespace formats
+} // namespace trel::mediareader::formats

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace trel::mediareader {
+
 /// Which formats are read. The libraries know hundreds, among them lists that name other files and
 /// addresses, devices, and relics of old games that are hardly tested against hostile files; what
 /// is not named here is not opened.
@@ -12,3 +14,5 @@ bool isAccepted(const char* name);
 bool isImage(const char* name);
 
 } // namespace formats
+
+} // namespace trel::mediareader

@@ -17,7 +17,7 @@
 #define READER_IS_FILTERED
 #endif
 
-namespace confinement {
+namespace trel::mediareader::confinement {
 
 namespace {
 
@@ -151,4 +151,4 @@ void allowProcessorTime(unsigned seconds)
     setrlimit(RLIMIT_CPU, &bound);
 }
 
-} // namespace confinement
+} // namespace trel::mediareader::confinement

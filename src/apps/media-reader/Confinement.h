@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace trel::mediareader {
+
 /// What a process gives up before it reads files of strangers, so that a file which takes it over
 /// gains nothing: it opens no file and no connection, writes nothing but to the line, starts
 /// nothing, and its memory and time are bounded.
@@ -30,3 +32,5 @@ Filter refuseCalls(int line);
 void allowProcessorTime(unsigned seconds);
 
 } // namespace confinement
+
+} // namespace trel::mediareader

@@ -4,6 +4,8 @@
 #include <QImage>
 #include <QSize>
 
+namespace trel::mediareader {
+
 class InputFile;
 
 /// The toolkit's name of the format.
@@ -20,3 +22,9 @@ QByteArray readDrawing(const InputFile& file);
 /// The drawing as an image, scaled down so that it fits into the bound. Null when it cannot be
 /// read. Needs a QGuiApplication, for the fonts.
 QImage drawingImage(const InputFile& file, const QSize& bound);
+
+/// Has the usual fonts opened, for the writing in drawings. Needs a QGuiApplication. Writing that
+/// asks for another font is drawn in one of these.
+void prepareTextFonts();
+
+} // namespace trel::mediareader

@@ -11,6 +11,8 @@ extern "C" {
 #include <libavutil/display.h>
 }
 
+namespace trel::mediareader {
+
 namespace {
 
 /// A film whose first picture lies further in than this is not searched any longer.
@@ -144,3 +146,5 @@ QImage firstPicture(const InputFile& file, const NameHint& hint, const QSize& bo
     const QImage image = imageOf(*frame, scaledInto(shownSize(context, stream, *frame), room));
     return turn == 0.0 ? image : image.transformed(QTransform().rotate(turn));
 }
+
+} // namespace trel::mediareader

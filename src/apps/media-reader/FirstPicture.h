@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QSize>
 
+namespace trel::mediareader {
+
 class InputFile;
 struct NameHint;
 
@@ -10,3 +12,5 @@ struct NameHint;
 /// bound before it is turned; one that is turned by part of a right angle may be larger. Null when
 /// there is none that can be read.
 QImage firstPicture(const InputFile& file, const NameHint& hint, const QSize& bound);
+
+} // namespace trel::mediareader

@@ -3,6 +3,8 @@
 #include <QIODevice>
 #include <QtEndian>
 
+namespace trel::mediareader {
+
 namespace {
 
 /// Where the header of a PNG tells how its rows follow one another.
@@ -50,3 +52,5 @@ bool isStoredInPasses(QIODevice& device, const QByteArray& format)
     device.seek(place);
     return result;
 }
+
+} // namespace trel::mediareader

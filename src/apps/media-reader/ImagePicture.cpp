@@ -14,6 +14,8 @@
 
 #include <array>
 
+namespace trel::mediareader {
+
 namespace {
 
 /// Dots of an image that is read in full: half a gigabyte of memory.
@@ -143,3 +145,5 @@ void prepareImageFormats()
     pool.start([&isRunning] { isRunning.release(); });
     isRunning.acquire();
 }
+
+} // namespace trel::mediareader

@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QSize>
 
+namespace trel::mediareader {
+
 class InputFile;
 struct NameHint;
 
@@ -15,3 +17,5 @@ QImage imagePicture(const InputFile& file, const NameHint& hint, const QSize& bo
 /// and start the thread with which it shares the work on large images. The toolkit
 /// does so with the first image otherwise.
 void prepareImageFormats();
+
+} // namespace trel::mediareader

@@ -2,6 +2,8 @@
 
 #include "InputFile.h"
 
+namespace trel::mediareader {
+
 InputDevice::InputDevice(const InputFile& file)
     : m_file(file)
 {
@@ -23,3 +25,5 @@ qint64 InputDevice::writeData(const char* /*data*/, qint64 /*maxSize*/)
 {
     return -1;
 }
+
+} // namespace trel::mediareader

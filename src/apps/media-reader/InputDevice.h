@@ -2,6 +2,8 @@
 
 #include <QIODevice>
 
+namespace trel::mediareader {
+
 class InputFile;
 
 /// An InputFile for the toolkit, open for reading. The toolkit's own class for files asks the
@@ -24,3 +26,5 @@ protected:
 private:
     const InputFile& m_file;
 };
+
+} // namespace trel::mediareader

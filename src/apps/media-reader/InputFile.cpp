@@ -4,6 +4,8 @@
 
 #include <unistd.h>
 
+namespace trel::mediareader {
+
 InputFile::InputFile(int descriptor)
     : m_descriptor(descriptor)
     , m_size(::lseek(descriptor, 0, SEEK_END))
@@ -22,3 +24,5 @@ std::int64_t InputFile::readAt(std::int64_t place, void* room, std::int64_t coun
     } while (read < 0 && errno == EINTR);
     return read;
 }
+
+} // namespace trel::mediareader

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+namespace trel::mediareader {
+
 /// A file that was handed over open. It is read from any place, and closed with the object.
 class InputFile
 {
@@ -20,3 +22,5 @@ private:
     const int m_descriptor;
     const std::int64_t m_size;
 };
+
+} // namespace trel::mediareader

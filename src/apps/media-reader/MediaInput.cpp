@@ -12,6 +12,8 @@ extern "C" {
 #include <libavutil/mem.h>
 }
 
+namespace trel::mediareader {
+
 using trel::mediadispatch::wire::Verdict;
 
 namespace {
@@ -134,3 +136,5 @@ std::int64_t MediaInput::seek(void* self, std::int64_t offset, int whence)
     input.m_place = place;
     return place;
 }
+
+} // namespace trel::mediareader

@@ -12,6 +12,8 @@
 
 using namespace trel::mediadispatch::wire;
 
+namespace trel::mediareader {
+
 namespace {
 
 /// Images that are containers in which other files hold films.
@@ -111,3 +113,5 @@ ProbedMedia probeMedia(const InputFile& file, const NameHint& hint)
     }
     return {Verdict::Taken, hasVideo ? Kind::Video : Kind::Audio, length};
 }
+
+} // namespace trel::mediareader

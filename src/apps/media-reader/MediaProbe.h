@@ -2,6 +2,8 @@
 
 #include "trelprogramschedule/media/MediaProtocol.h"
 
+namespace trel::mediareader {
+
 class InputFile;
 struct NameHint;
 
@@ -16,3 +18,5 @@ struct ProbedMedia
 
 /// Reads what a file is and how long it plays, without decoding it.
 ProbedMedia probeMedia(const InputFile& file, const NameHint& hint);
+
+} // namespace trel::mediareader

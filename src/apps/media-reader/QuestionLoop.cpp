@@ -18,6 +18,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::mediareader {
+
 namespace {
 
 bool isSound(const wire::Question& question)
@@ -138,3 +140,5 @@ bool QuestionLoop::send(const void* bytes, std::size_t count) const
     }
     return true;
 }
+
+} // namespace trel::mediareader

@@ -4,6 +4,8 @@
 
 #include <QImage>
 
+namespace trel::mediareader {
+
 class InputFile;
 struct NameHint;
 
@@ -34,3 +36,5 @@ private:
     const int m_line;
     const bool m_hasFonts;
 };
+
+} // namespace trel::mediareader

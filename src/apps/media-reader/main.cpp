@@ -2,9 +2,9 @@
 // open. It is of no use to anybody else.
 
 #include "Confinement.h"
+#include "Drawing.h"
 #include "ImagePicture.h"
 #include "QuestionLoop.h"
-#include "TextFonts.h"
 
 #include <QGuiApplication>
 
@@ -20,6 +20,7 @@ extern "C" {
 }
 
 using namespace trel::mediadispatch;
+using namespace trel::mediareader;
 
 namespace {
 

@@ -2,6 +2,8 @@
 
 #include <QChar>
 
+namespace trel::desktop {
+
 namespace {
 
 constexpr QChar kLeftToRightIsolate(0x2066);
@@ -25,3 +27,5 @@ QString leftToRight(const QString& text)
 {
     return kLeftToRightIsolate + text + kPopIsolate;
 }
+
+} // namespace trel::desktop

@@ -14,6 +14,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 struct Demonstration
@@ -96,3 +98,5 @@ QString fillWithDemonstration(const QString& folder)
     moveTo(Clock::current().today(), schedule.tasks);
     return host.replaceSchedule(schedule.tasks).message;
 }
+
+} // namespace trel::desktop

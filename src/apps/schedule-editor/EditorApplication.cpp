@@ -28,6 +28,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 const QLatin1String kLanguageSetting("language");
@@ -70,7 +72,7 @@ QString languageFolder()
 /// cannot be guessed, readable by its owner alone. Empty where none can be made.
 QString freshPictureFile()
 {
-    const QDir folder(QFileInfo(makeDefaultDatabaseFolder()).absolutePath());
+    const QDir folder(QFileInfo(hosts::makeDefaultDatabaseFolder()).absolutePath());
     QTemporaryFile file(folder.filePath(QStringLiteral("schedule-editor-XXXXXX.png")));
     file.setAutoRemove(false);
     return file.open() ? file.fileName() : QString();
@@ -139,7 +141,7 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
         settings.setValue(kLanguageSetting, languages.current());
     });
 
-    const QString zoneError = ZoneError::sentence();
+    const QString zoneError = hosts::ZoneError::sentence();
     if (!zoneError.isEmpty()) {
         if (unattended) {
             QTextStream(stderr) << zoneError << Qt::endl;
@@ -151,10 +153,10 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
 
     EditorWindow window(editor, languages, themes);
     const SaveRescue rescue(ScheduleHost::instance(), &window);
-    const StopSignals stop;
-    QObject::connect(&stop, &StopSignals::stopped, &application, &QCoreApplication::quit);
+    const hosts::StopSignals stop;
+    QObject::connect(&stop, &hosts::StopSignals::stopped, &application, &QCoreApplication::quit);
     const QString database =
-        options.database.isEmpty() ? makeDefaultDatabaseFolder() : options.database;
+        options.database.isEmpty() ? hosts::makeDefaultDatabaseFolder() : options.database;
     const QString error = window.openDatabase(database, options.demonstration);
     if (unattended && !error.isEmpty()) {
         QTextStream(stderr) << error << Qt::endl;
@@ -188,3 +190,5 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     ScheduleHost::instance().close();
     return status != 0 ? status : result;
 }
+
+} // namespace trel::desktop

@@ -2,6 +2,8 @@
 
 #include "EditorOptions.h"
 
+namespace trel::desktop {
+
 /// The editor as a program: application, store, languages, theme and windows, in the order in
 /// which they need each other.
 namespace EditorApplication {
@@ -12,3 +14,5 @@ namespace EditorApplication {
 int run(int argc, char** argv, const EditorOptions& options);
 
 } // namespace EditorApplication
+
+} // namespace trel::desktop

@@ -8,6 +8,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
+namespace trel::desktop {
+
 namespace {
 
 QAction* add(QMenu& menu, const QKeySequence& keys)
@@ -136,3 +138,5 @@ void EditorMenus::retranslate()
     m_themes->actions().at(1)->setText(tr("&Light theme"));
     m_language->setTitle(tr("&Language"));
 }
+
+} // namespace trel::desktop

@@ -2,12 +2,15 @@
 
 #include <QObject>
 
-class Languages;
-class Themes;
 class QAction;
 class QActionGroup;
 class QMenu;
 class QMenuBar;
+
+namespace trel::desktop {
+
+class Languages;
+class Themes;
 
 /// The menus of the host's window: what stands in them, with its keys, and the choice of theme and
 /// language. What the other entries do is up to the code that connects them.
@@ -54,3 +57,5 @@ private:
     QAction* m_belowPanels; ///< Parts them from the themes.
     QActionGroup* m_themes;
 };
+
+} // namespace trel::desktop

@@ -2,6 +2,8 @@
 
 #include <QCommandLineParser>
 
+namespace trel::desktop {
+
 namespace {
 
 EditorOptionsResult ended(EditorOptionsResult::Next next, const QString& text)
@@ -67,3 +69,5 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
     result.options.imports = parser.positionalArguments();
     return result;
 }
+
+} // namespace trel::desktop

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+namespace trel::desktop {
+
 /// What the command line asks of the editor.
 struct EditorOptions
 {
@@ -30,3 +32,5 @@ struct EditorOptionsResult
 
 /// Reads a command line, the program's name included. Needs no application object.
 EditorOptionsResult readEditorOptions(const QStringList& arguments);
+
+} // namespace trel::desktop

@@ -43,6 +43,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 /// What of a drop can be imported: files, folders and addresses of streams.
@@ -301,7 +303,7 @@ void EditorWindow::importSchedule()
         return;
     }
     // A pipe that has nothing ready would keep the windows waiting.
-    PatientFile file(name, std::chrono::milliseconds(0));
+    hosts::PatientFile file(name, std::chrono::milliseconds(0));
     const QByteArray json = file.open(QIODevice::ReadOnly) ? readScheduleJson(file) : QByteArray();
     if (file.hasFailed()) {
         tell(tr("%1 could not be read: %2").arg(name, file.errorString()));
@@ -523,3 +525,5 @@ bool EditorWindow::eventFilter(QObject* watched, QEvent* event)
     }
     return QMainWindow::eventFilter(watched, event);
 }
+
+} // namespace trel::desktop

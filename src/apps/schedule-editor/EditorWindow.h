@@ -3,11 +3,6 @@
 #include <QMainWindow>
 #include <QStringList>
 
-class EditorMenus;
-class ImportJob;
-class Languages;
-class ProgramTableModel;
-class Themes;
 class QDockWidget;
 class QLabel;
 class QProgressDialog;
@@ -17,6 +12,14 @@ namespace trel::mediadispatch {
 class scheduleControlUI;
 struct ImportScan;
 } // namespace trel::mediadispatch
+
+namespace trel::desktop {
+
+class EditorMenus;
+class ImportJob;
+class Languages;
+class ProgramTableModel;
+class Themes;
 
 /// The host's window: the catalogue of programs, the menus, and the way into the schedule editor.
 ///
@@ -90,3 +93,5 @@ private:
     ImportJob* m_job = nullptr;
     QProgressDialog* m_progress = nullptr;
 };
+
+} // namespace trel::desktop

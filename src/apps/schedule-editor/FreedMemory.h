@@ -6,6 +6,8 @@
 #include <malloc.h>
 #endif
 
+namespace trel::desktop {
+
 /// Has the allocator join memory with its neighbours as soon as it is given back. By itself it lets
 /// small pieces lie until somebody wants a large one, and then fetches all of them from memory once
 /// more. Cards go in a great many pieces: a list of 1,000 folded cards takes two thirds longer to
@@ -20,3 +22,5 @@ inline void joinFreedMemoryAtOnce()
     mallopt(M_MXFAST, 0);
 #endif
 }
+
+} // namespace trel::desktop

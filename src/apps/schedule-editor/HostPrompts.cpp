@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QFileDialog>
 
+namespace trel::desktop {
+
 using trel::widgets::TipDialog;
 
 namespace prompts {
@@ -39,3 +41,5 @@ QString saveFileName(QWidget* parent, const QString& title, const QString& filte
 }
 
 } // namespace prompts
+
+} // namespace trel::desktop

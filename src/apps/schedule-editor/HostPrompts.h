@@ -4,6 +4,8 @@
 
 class QWidget;
 
+namespace trel::desktop {
+
 /// The few questions that the host asks, in the editor's own prompt. All block until answered.
 namespace prompts {
 
@@ -20,3 +22,5 @@ QString saveFileName(QWidget* parent, const QString& title, const QString& filte
                      const QString& suffix);
 
 } // namespace prompts
+
+} // namespace trel::desktop

@@ -10,6 +10,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 /// How long a cancelled scan is waited for, in milliseconds; most end in a tenth of it.
@@ -110,3 +112,5 @@ void ImportJob::finish()
     }
     emit finished();
 }
+
+} // namespace trel::desktop

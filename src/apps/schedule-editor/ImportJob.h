@@ -8,6 +8,8 @@
 
 class QThread;
 
+namespace trel::desktop {
+
 /// Looks at media on a thread of its own, so that the window stays alive meanwhile.
 ///
 /// start() once. Destroying a running job cancels it.
@@ -48,3 +50,5 @@ private:
     std::unique_ptr<QThread> m_thread;
     bool m_isFinished = false;
 };
+
+} // namespace trel::desktop

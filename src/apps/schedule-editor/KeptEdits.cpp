@@ -10,6 +10,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 QString freshName(const QDir& folder, const QString& store)
@@ -30,7 +32,7 @@ QString freshName(const QDir& folder, const QString& store)
 KeptEdits keepEdits(const std::map<int, PlayTask>& tasks, const QString& store)
 {
     KeptEdits kept;
-    for (const QString& beside : {store, makeDefaultDatabaseFolder()}) {
+    for (const QString& beside : {store, hosts::makeDefaultDatabaseFolder()}) {
         if (beside.isEmpty()) {
             continue;
         }
@@ -43,3 +45,5 @@ KeptEdits keepEdits(const std::map<int, PlayTask>& tasks, const QString& store)
     }
     return kept;
 }
+
+} // namespace trel::desktop

@@ -6,6 +6,8 @@
 
 #include <map>
 
+namespace trel::desktop {
+
 /// A file that edits were put into since they could not be stored.
 struct KeptEdits
 {
@@ -18,3 +20,5 @@ struct KeptEdits
 /// none that is there is written over.
 KeptEdits keepEdits(const std::map<int, trel::mediadispatch::PlayTask>& tasks,
                     const QString& store);
+
+} // namespace trel::desktop

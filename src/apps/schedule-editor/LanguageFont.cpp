@@ -3,6 +3,8 @@
 #include <QLocale>
 #include <QStringList>
 
+namespace trel::desktop {
+
 namespace {
 
 /// The faces that are made for a language.
@@ -36,3 +38,5 @@ QFont languageFont(QFont font, const QString& language)
     font.setFamilies(families);
     return font;
 }
+
+} // namespace trel::desktop

@@ -16,6 +16,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 const QLatin1String kHostPrefix("schedule-editor_");
@@ -128,3 +130,5 @@ void Languages::select(const QString& name)
     m_editor.translate();
     emit changed();
 }
+
+} // namespace trel::desktop

@@ -8,6 +8,8 @@ namespace trel::mediadispatch {
 class scheduleControlUI;
 }
 
+namespace trel::desktop {
+
 /// The languages of the editor and of the host around it, and the one in use.
 ///
 /// The editor's texts come from one language file each, loaded at construction; the host's own
@@ -54,3 +56,5 @@ private:
     QTranslator m_toolkitTexts;
     QTranslator m_hostTexts;
 };
+
+} // namespace trel::desktop

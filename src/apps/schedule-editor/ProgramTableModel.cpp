@@ -14,6 +14,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 /// A length as hours, minutes and seconds; hours may pass 24.
@@ -180,3 +182,5 @@ void ProgramTableModel::retranslate()
         emit dataChanged(index(0, KindColumn), index(rowCount() - 1, KindColumn));
     }
 }
+
+} // namespace trel::desktop

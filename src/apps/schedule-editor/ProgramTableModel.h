@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace trel::desktop {
+
 /// The programs of the catalogue, a row each, in the order of their indexes.
 class ProgramTableModel : public QAbstractTableModel
 {
@@ -38,3 +40,5 @@ private:
 
     std::vector<trel::mediadispatch::ProgramIten> m_programs;
 };
+
+} // namespace trel::desktop

@@ -15,6 +15,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 SaveRescue::SaveRescue(ScheduleHost& host, QWidget* window)
     : QObject(window)
     , m_host(host)
@@ -146,3 +148,5 @@ void SaveRescue::keep()
     }
     emit kept(edits.file);
 }
+
+} // namespace trel::desktop

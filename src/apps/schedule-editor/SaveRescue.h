@@ -6,6 +6,8 @@
 
 class QWidget;
 
+namespace trel::desktop {
+
 /// Stands by when a save fails.
 ///
 /// The editor closes after a save, and its next refresh drops what was not stored. So the operator
@@ -52,3 +54,5 @@ private:
     bool m_isAsking = false;
     bool m_isLeft = false;
 };
+
+} // namespace trel::desktop

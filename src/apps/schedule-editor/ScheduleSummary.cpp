@@ -6,6 +6,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 QString scheduleSummary(const QString& database, const std::map<int, PlayTask>& tasks,
                         const std::map<int, ProgramIten>& programs)
 {
@@ -25,3 +27,5 @@ QString scheduleSummary(const QString& database, const std::map<int, PlayTask>& 
     }
     return summary;
 }
+
+} // namespace trel::desktop

@@ -6,6 +6,8 @@
 
 #include <cstdio>
 
+using namespace trel::desktop;
+
 namespace {
 
 /// The toolkit words its help by the name of a running application, and the one with windows comes

@@ -19,7 +19,10 @@
 #include <QTimeEdit>
 #include <QTimer>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
+
+namespace trel::pictures {
 
 namespace {
 
@@ -215,3 +218,5 @@ QWidget* PictureBook::cellWidget(int row, int column) const
     auto* table = card()->findChild<QTableView*>(QStringLiteral("schedule"));
     return table->indexWidget(table->model()->index(row, column));
 }
+
+} // namespace trel::pictures

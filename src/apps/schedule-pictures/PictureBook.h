@@ -5,14 +5,19 @@
 
 #include <functional>
 
-class EditorWindow;
 class QDialog;
 class QWidget;
+
+namespace trel::desktop {
+class EditorWindow;
+} // namespace trel::desktop
 
 namespace trel::mediadispatch {
 class PlanTaskWidget;
 class scheduleControlUI;
 } // namespace trel::mediadispatch
+
+namespace trel::pictures {
 
 /// Draws the host's and the editor's windows as an operator gets to see them, by operating them.
 /// The editor is visible, and shows the schedule.
@@ -20,7 +25,7 @@ class PictureBook
 {
 public:
     /// Files are written to the folder, with the suffix before their extension.
-    PictureBook(EditorWindow& window, trel::mediadispatch::scheduleControlUI& editor,
+    PictureBook(trel::desktop::EditorWindow& window, trel::mediadispatch::scheduleControlUI& editor,
                 const QDir& folder, const QString& suffix);
 
     void drawAll();
@@ -44,9 +49,11 @@ private:
     /// The widget in a cell of the first card.
     QWidget* cellWidget(int row, int column) const;
 
-    EditorWindow& m_window;
+    trel::desktop::EditorWindow& m_window;
     trel::mediadispatch::scheduleControlUI& m_editor;
     QDir m_folder;
     QString m_suffix;
     bool m_complete = true;
 };
+
+} // namespace trel::pictures

@@ -4,6 +4,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::pictures {
+
 void addTroubledPlan()
 {
     scheduleManage& manager = scheduleManage::getInstance();
@@ -43,3 +45,5 @@ void overlapTasks()
     second.startDate = tasks.begin()->second.endDate;
     manager.addTask(second);
 }
+
+} // namespace trel::pictures

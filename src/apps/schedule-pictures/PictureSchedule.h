@@ -1,5 +1,7 @@
 #pragma once
 
+namespace trel::pictures {
+
 /// The plan of the first task that holds what a chooser can have to warn of.
 constexpr int kTroubledPlan = 2;
 
@@ -9,3 +11,5 @@ void addTroubledPlan();
 
 /// Lets the first two tasks share a day, so that the editor refuses to save.
 void overlapTasks();
+
+} // namespace trel::pictures

@@ -12,6 +12,8 @@
 #include <QTextStream>
 
 using namespace trel::mediadispatch;
+using namespace trel::desktop;
+using namespace trel::pictures;
 
 /// schedule-pictures FOLDER DEMONSTRATION: draws every window of the editor, in every language and
 /// theme, into the folder.

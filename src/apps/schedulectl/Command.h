@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QLatin1String>
 #include <QString>
 #include <QStringList>
 
 #include <map>
 #include <string_view>
 #include <vector>
+
+namespace trel::console {
 
 class Console;
 
@@ -34,6 +37,9 @@ struct Invocation
     }
 };
 
+/// What stands for the standard input or output in the place of a file.
+inline const QLatin1String kStandardStream("-");
+
 /// An option that only some commands have.
 struct CommandOption
 {
@@ -59,3 +65,5 @@ struct Command
     bool hasDatabase = true; ///< Works on a database.
     std::vector<CommandOption> options = {};
 };
+
+} // namespace trel::console

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace trel::console {
+
 using trel::mediadispatch::shownAddress;
 
 namespace {
@@ -77,7 +79,7 @@ private:
         } else if (word == QLatin1String("--version")) {
             m_wantsVersion = true;
         } else {
-            misuse(QStringLiteral("There is no option %1.").arg(quoted(name)));
+            misuse(QStringLiteral("There is no option %1.").arg(inQuotes(name)));
         }
     }
 
@@ -109,11 +111,11 @@ private:
             value = equals < 0 ? takeValue() : word.mid(equals + 1);
             if (value.isEmpty()) {
                 misuse(QStringLiteral("The option %1 needs %2.")
-                           .arg(quoted(name), named(option.value)));
+                           .arg(inQuotes(name), named(option.value)));
             }
         }
         if (!m_line.invocation.options.try_emplace(name, value).second) {
-            misuse(QStringLiteral("The option %1 can be given only once.").arg(quoted(name)));
+            misuse(QStringLiteral("The option %1 can be given only once.").arg(inQuotes(name)));
         }
     }
 
@@ -149,7 +151,7 @@ private:
         }
         m_isCommandUnknown = true;
         misuse(QStringLiteral("There is no command %1.%2")
-                   .arg(quoted(shownAddress(word)), suggestion(word)));
+                   .arg(inQuotes(shownAddress(word)), suggestion(word)));
     }
 
     QString suggestion(const QString& word) const
@@ -188,20 +190,20 @@ private:
             return;
         }
         const Command& command = *m_line.command;
-        const QString name = quoted(named(command.name));
+        const QString name = inQuotes(named(command.name));
         const QStringList& arguments = m_line.invocation.arguments;
         if (m_line.invocation.json && !command.hasJson) {
             misuse(QStringLiteral("The command %1 has no option \"--json\".").arg(name));
         } else if (!m_line.invocation.database.isEmpty() && !command.hasDatabase) {
             misuse(QStringLiteral("The command %1 has no option \"--database\".").arg(name));
         } else if (const QString foreign = foreignOption(command); !foreign.isEmpty()) {
-            misuse(QStringLiteral("The command %1 has no option %2.").arg(name, quoted(foreign)));
+            misuse(QStringLiteral("The command %1 has no option %2.").arg(name, inQuotes(foreign)));
         } else if (arguments.size() < command.leastArguments) {
             misuse(QStringLiteral("The command %1 needs %2.").arg(name, named(command.arguments)));
         } else if (command.mostArguments != Command::kAnyNumber &&
                    arguments.size() > command.mostArguments) {
             misuse(QStringLiteral("The command %1 does not know what to do with %2.")
-                       .arg(name, quoted(shownAddress(arguments[command.mostArguments]))));
+                       .arg(name, inQuotes(shownAddress(arguments[command.mostArguments]))));
         } else if (arguments.contains(QString())) {
             misuse(QStringLiteral("An argument of the command %1 is empty.").arg(name));
         } else {
@@ -226,7 +228,7 @@ private:
             const QString name = named(option.name);
             if (option.isRequired && m_line.invocation.options.count(name) == 0) {
                 misuse(QStringLiteral("The command %1 needs the option \"%2 %3\".")
-                           .arg(quoted(named(command.name)), name, named(option.value)));
+                           .arg(inQuotes(named(command.name)), name, named(option.value)));
             }
         }
     }
@@ -253,3 +255,5 @@ CommandLine CommandLine::read(const QStringList& arguments, const std::vector<Co
 {
     return Reader(arguments, commands).read();
 }
+
+} // namespace trel::console

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace trel::console {
+
 /// What a command line says. Reading it does nothing else.
 struct CommandLine
 {
@@ -21,3 +23,5 @@ struct CommandLine
     /// command; "--" ends them, and "-" is an argument.
     static CommandLine read(const QStringList& arguments, const std::vector<Command>& commands);
 };
+
+} // namespace trel::console

@@ -4,6 +4,8 @@
 #include "service/scheduleManage.h"
 #include "text/Console.h"
 
+namespace trel::console {
+
 using trel::mediadispatch::ScheduleHost;
 using trel::mediadispatch::scheduleManage;
 using trel::mediadispatch::StoreProblem;
@@ -16,7 +18,8 @@ QString fileOf(const Invocation& invocation, Database::Access access)
     if (!invocation.database.isEmpty()) {
         return invocation.database;
     }
-    return access == Database::Access::Write ? makeDefaultDatabaseFolder() : defaultDatabasePath();
+    return access == Database::Access::Write ? hosts::makeDefaultDatabaseFolder()
+                                             : hosts::defaultDatabasePath();
 }
 
 ScheduleHost::OpenMode modeOf(Database::Access access)
@@ -102,3 +105,5 @@ std::unique_ptr<Database> openDatabase(const Invocation& invocation, Database::A
     }
     return database;
 }
+
+} // namespace trel::console

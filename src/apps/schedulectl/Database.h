@@ -8,6 +8,8 @@
 #include <map>
 #include <memory>
 
+namespace trel::console {
+
 class Console;
 
 /// The store that a command works on: open from construction to the end of its life, unless it
@@ -52,3 +54,5 @@ private:
 /// Opens the database of a command. Null, and the user is told why, when that is not possible.
 std::unique_ptr<Database> openDatabase(const Invocation& invocation, Database::Access access,
                                        Console& console, Database::Part part = Database::Part::All);
+
+} // namespace trel::console

@@ -1,5 +1,5 @@
 #include "CommandLine.h"
-#include "CommandTable.h"
+#include "Commands.h"
 #include "text/Console.h"
 #include "text/HelpText.h"
 
@@ -7,6 +7,8 @@
 #include <QTextCodec>
 
 #include <csignal>
+
+using namespace trel::console;
 
 namespace {
 

@@ -125,7 +125,7 @@ void ProgramChoose::setUpTables()
     m_offerChecks = std::make_unique<OfferChecks>(*m_programModel, *m_programHeader, m_checkedCount,
                                                   m_checkOrder);
     m_planModel = new CustomTableModel(this);
-    m_planHeader = setUpPlanTable(ui->tableViewChoonse, m_planModel);
+    m_planHeader = setUpChoiceTable(ui->tableViewChoonse, m_planModel);
     ui->hideTip();
     ui->overTimeTip->hide();
     ui->pushButtonChonse->setProperty("imageBtn", QStringLiteral("turnNext"));

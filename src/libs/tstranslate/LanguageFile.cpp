@@ -1,10 +1,13 @@
-#include "LanguageFile.h"
+#include "tstranslate/LanguageFile.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QSet>
 #include <QtEndian>
+
+#include <map>
+#include <utility>
 
 namespace tessark::trans {
 
@@ -101,12 +104,20 @@ private:
     bool m_failed = false;
 };
 
-/// What is checked of a text against the table that leads to it.
+/// A text, and what is checked of it against the table that leads to it.
 struct Record
 {
+    LanguageMessage message;
     quint32 hash = 0;
     bool hasAllParts = false; ///< A compressed file drops the parts that its hash stands for.
 };
+
+QString utf16(const QByteArray& bigEndian)
+{
+    QString text(bigEndian.size() / int(sizeof(QChar)), Qt::Uninitialized);
+    qFromBigEndian<quint16>(bigEndian.constData(), text.size(), text.data());
+    return text;
+}
 
 /// The hash by which a text is found, of its source text followed by its disambiguation.
 class TextHash
@@ -133,43 +144,48 @@ private:
 
 std::optional<Record> readRecord(Reader& reader)
 {
+    Record record;
     QByteArray source;
     QByteArray comment;
-    bool hasComment = false;
-    bool hasTranslation = false;
     for (auto tag = reader.number<quint8>(); tag != TagEnd; tag = reader.number<quint8>()) {
         switch (tag) {
-        case TagTranslation:
-            hasTranslation = reader.translation().size() % int(sizeof(QChar)) == 0;
-            if (!hasTranslation) {
+        case TagTranslation: {
+            const QByteArray form = reader.translation();
+            if (form.size() % int(sizeof(QChar)) != 0) {
                 return std::nullopt;
             }
+            record.message.forms.append(utf16(form));
             break;
+        }
         case TagSourceText:
             source = reader.block();
+            record.message.key = QString::fromUtf8(source);
+            record.message.hasKey = true;
             break;
         case TagContext:
-            reader.block();
+            record.message.group = QString::fromUtf8(reader.block());
             break;
         case TagComment:
-            hasComment = true;
             comment = reader.block();
+            record.message.context = QString::fromUtf8(comment);
+            record.hasAllParts = true;
             break;
         default:
             return std::nullopt;
         }
     }
-    if (!hasTranslation) {
+    if (record.message.forms.isEmpty()) {
         return std::nullopt;
     }
     TextHash hash;
     hash.add(source);
     hash.add(comment);
-    return Record{hash.value(), hasComment};
+    record.hash = hash.value();
+    return record;
 }
 
 using Sections = QHash<char, QByteArray>;
-using Records = QHash<quint32, Record>; ///< By offset in the section of messages.
+using Records = std::map<quint32, Record>; ///< By offset in the section of messages.
 
 /// The sections fill the file to its last byte. One that names further files is refused with all
 /// unknown ones: what a language file has to say stands in it.
@@ -195,11 +211,11 @@ std::optional<Records> readRecords(const QByteArray& messages)
     Reader reader(messages);
     while (!reader.failed() && !reader.atEnd()) {
         const auto start = quint32(reader.position());
-        const std::optional<Record> record = readRecord(reader);
+        std::optional<Record> record = readRecord(reader);
         if (!record) {
             return std::nullopt;
         }
-        records.insert(start, *record);
+        records.emplace(start, *std::move(record));
     }
     return reader.failed() ? std::nullopt : std::make_optional(records);
 }
@@ -207,17 +223,17 @@ std::optional<Records> readRecords(const QByteArray& messages)
 /// The table is in the order of its hashes and leads to each text once.
 bool entriesMatch(const QByteArray& hashes, const Records& records)
 {
-    if (hashes.isEmpty() || hashes.size() != records.size() * kHashEntrySize) {
+    if (hashes.isEmpty() || hashes.size() != int(records.size()) * kHashEntrySize) {
         return false;
     }
     Reader reader(hashes);
     quint32 former = 0;
     while (!reader.atEnd()) {
         const auto hash = reader.number<quint32>();
-        const auto record = records.constFind(reader.number<quint32>());
-        const bool found =
-            record != records.constEnd() && (!record->hasAllParts || record->hash == hash);
-        if (hash < former || !found) {
+        const auto found = records.find(reader.number<quint32>());
+        const bool leads =
+            found != records.end() && (!found->second.hasAllParts || found->second.hash == hash);
+        if (hash < former || !leads) {
             return false;
         }
         former = hash;
@@ -255,32 +271,42 @@ bool contextsEndInside(const QByteArray& contexts)
     return chains > 0 && !table.failed();
 }
 
-bool isWhole(const QByteArray& bytes)
+/// The texts of a file that is whole.
+std::optional<LanguageFile> parsed(const QByteArray& bytes)
 {
     const std::optional<Sections> sections = splitSections(bytes);
     if (!sections ||
         (sections->contains(Contexts) && !contextsEndInside(sections->value(Contexts)))) {
-        return false;
+        return std::nullopt;
     }
-    const std::optional<Records> records = readRecords(sections->value(Messages));
-    return records && entriesMatch(sections->value(Hashes), *records);
+    std::optional<Records> records = readRecords(sections->value(Messages));
+    if (!records || !entriesMatch(sections->value(Hashes), *records)) {
+        return std::nullopt;
+    }
+    LanguageFile file{bytes, QString::fromUtf8(sections->value(LanguageName)), {}};
+    for (auto& [offset, record] : *records) {
+        file.messages.push_back(std::move(record.message));
+    }
+    return file;
 }
 
 } // namespace
 
-std::optional<QByteArray> readLanguageFile(const QString& file)
+bool isLanguageFile(const QByteArray& start)
+{
+    return start.startsWith(kMagic);
+}
+
+std::optional<LanguageFile> readLanguageFile(const QString& file)
 {
     // A pipe or a device would block, or never end.
     QFile source(file);
     if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly) ||
-        source.peek(kMagic.size()) != kMagic) {
+        !isLanguageFile(source.peek(kLanguageFileMagicSize))) {
         return std::nullopt;
     }
-    QByteArray bytes = source.readAll();
-    if (source.error() != QFileDevice::NoError || !isWhole(bytes)) {
-        return std::nullopt;
-    }
-    return bytes;
+    const QByteArray bytes = source.readAll();
+    return source.error() == QFileDevice::NoError ? parsed(bytes) : std::nullopt;
 }
 
 } // namespace tessark::trans

@@ -1,6 +1,6 @@
 #include "tstranslate/Translator.h"
 
-#include "LanguageFile.h"
+#include "tstranslate/LanguageFile.h"
 
 #include <QFileInfo>
 #include <QTranslator>
@@ -64,11 +64,11 @@ Translator::~Translator() = default;
 
 bool Translator::load(const QString& file)
 {
-    std::optional<QByteArray> read = readLanguageFile(file);
+    const std::optional<LanguageFile> read = readLanguageFile(file);
     if (!read) {
         return false;
     }
-    auto language = std::make_unique<Language>(*std::move(read));
+    auto language = std::make_unique<Language>(read->bytes);
     if (!language->isLoaded()) {
         return false;
     }

@@ -22,6 +22,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace trel::mediareader;
+
 Q_DECLARE_METATYPE(std::function<bool()>)
 
 /// What a confined process can and cannot do, tried out in children of the test.

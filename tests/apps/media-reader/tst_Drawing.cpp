@@ -9,6 +9,8 @@
 
 #include <fcntl.h>
 
+using namespace trel::mediareader;
+
 /// Drawings, and what is left out of them before anything is drawn.
 class tst_Drawing : public QObject
 {

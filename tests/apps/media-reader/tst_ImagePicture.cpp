@@ -13,6 +13,8 @@
 #include <fcntl.h>
 #include <sys/resource.h>
 
+using namespace trel::mediareader;
+
 /// Images as cameras and scanners make them: turned, mirrored, and larger than any screen.
 class tst_ImagePicture : public QObject
 {

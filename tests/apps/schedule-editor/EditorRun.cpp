@@ -2,6 +2,8 @@
 
 #include <QLayout>
 
+using namespace trel::desktop;
+
 EditorRun::EditorRun(const QString& name, const QString& language)
     : m_name(name + QLatin1Char('-') + language)
 {

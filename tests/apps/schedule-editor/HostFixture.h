@@ -81,9 +81,9 @@ struct HostFixture
     trel::mediadispatch::scheduleManage& manager;
     QString database;
     std::unique_ptr<trel::mediadispatch::scheduleControlUI> editor;
-    Languages languages;
-    Themes themes;
-    EditorWindow window;
+    trel::desktop::Languages languages;
+    trel::desktop::Themes themes;
+    trel::desktop::EditorWindow window;
 
 private:
     /// The editor has two connections without a receiver, and says so when it is made.

@@ -10,6 +10,8 @@
 
 #include <cmath>
 
+using namespace trel::desktop;
+
 namespace {
 
 double luminance(const QColor& colour)

@@ -121,7 +121,7 @@ void WindowTexts::expectWhole(const QWidget& widget)
                             qobject_cast<const QMenuBar*>(&widget) != nullptr;
     // A label that is drawn with an ellipsis gives all of its text when it is pointed at.
     const bool isElided =
-        widget.inherits("ElidedText") || widget.inherits("trel::widgets::ElidedLabel");
+        widget.inherits("trel::desktop::ElidedText") || widget.inherits("trel::widgets::ElidedLabel");
     // A sign or an image is placed by hand.
     const bool isWritten = text.contains(QChar(0x27e6)) || qobject_cast<const QMenuBar*>(&widget);
     if (!isMeasured || !isWritten || isElided || isInCell(widget)) {

@@ -12,6 +12,7 @@
 #include <QTableView>
 #include <QTimer>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// What a screen reader and a keyboard find in the windows.

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QtTest>
 
+using namespace trel::desktop;
+
 /// What boxes without round corners are painted of. They may be as large as a window's table.
 class tst_BoxPainting : public QObject
 {

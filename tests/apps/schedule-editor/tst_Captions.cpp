@@ -26,6 +26,8 @@
 #include <algorithm>
 #include <map>
 
+using namespace trel::console;
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// Every caption of the window, in every language, with the shipped font: none is cut.

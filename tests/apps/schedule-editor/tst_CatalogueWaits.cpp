@@ -10,6 +10,7 @@
 #include <QSignalSpy>
 #include <QTableView>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// What the window does itself, and what it leaves to others, when the catalogue changes.

@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QSpinBox>
 
+using namespace trel::desktop;
+
 /// An operator chooses programs for a plan in the editor, from the first click to the file, which
 /// another process and the editor itself read afterwards.
 class tst_ChoosingRun : public QObject

@@ -8,6 +8,7 @@
 #include <QDockWidget>
 #include <QSignalSpy>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace {

@@ -15,6 +15,7 @@
 #include <QTableView>
 #include <QTimer>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// Every text against its ground, on the pixels of the windows.

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <set>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 class tst_Demonstration : public QObject

@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QLabel>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace {

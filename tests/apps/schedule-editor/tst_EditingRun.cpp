@@ -7,6 +7,8 @@
 #include <QAbstractItemView>
 #include <QApplication>
 
+using namespace trel::desktop;
+
 /// An operator edits a schedule in the editor, from the first click to the file, which another
 /// process and the editor itself read afterwards.
 class tst_EditingRun : public QObject

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QStatusBar>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// Importing media in the desktop host: by call, by dropping, with refusals and with a cancel.

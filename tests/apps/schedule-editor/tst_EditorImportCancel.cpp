@@ -18,6 +18,7 @@
 #include <atomic>
 #include <functional>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace {

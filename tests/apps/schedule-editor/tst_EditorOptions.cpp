@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QtTest>
 
+using namespace trel::desktop;
+
 using Next = EditorOptionsResult::Next;
 
 class tst_EditorOptions : public QObject

@@ -10,6 +10,7 @@
 #include <QDockWidget>
 #include <QProcess>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// What a start leaves undone until somebody asks for it.

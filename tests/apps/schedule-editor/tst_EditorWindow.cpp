@@ -10,6 +10,7 @@
 #include <QTableView>
 #include <QTimeEdit>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// The host's window around the editor: databases, languages, the catalogue and the way out.

@@ -18,6 +18,7 @@
 
 #include <functional>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// What has the focus shows it, on the pixels, on every control of every window.

@@ -6,6 +6,8 @@
 #include <memory>
 #include <vector>
 
+using namespace trel::desktop;
+
 /// What becomes of small pieces of memory that are given back.
 class tst_FreedMemory : public QObject
 {

@@ -18,6 +18,8 @@
 #include <QPushButton>
 #include <QTableView>
 
+using namespace trel::desktop;
+
 /// Which language the host starts in, what it calls the languages, and the fonts it gives them.
 class tst_HostLanguage : public QObject
 {

@@ -15,6 +15,7 @@
 #include <dlfcn.h>
 #include <sys/stat.h>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace {

@@ -11,8 +11,9 @@
 #include <QApplication>
 #include <QSignalSpy>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
-using namespace week;
+using namespace trel::desktop::week;
 
 namespace {
 

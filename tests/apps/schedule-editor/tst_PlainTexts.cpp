@@ -14,6 +14,7 @@
 #include <QTextDocument>
 #include <QToolTip>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace {

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// What programs look like: images, films, and what has no picture.

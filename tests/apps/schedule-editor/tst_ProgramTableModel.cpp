@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 class tst_ProgramTableModel : public QObject

@@ -20,6 +20,7 @@
 
 #include <functional>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// Every text against its ground, on the pixels of what opens over the windows for a moment.

@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QTimer>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace {

@@ -10,6 +10,7 @@
 #include <malloc.h>
 #endif
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace {

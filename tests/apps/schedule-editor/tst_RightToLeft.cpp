@@ -19,6 +19,7 @@
 
 #include <functional>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// The windows where one reads from the right: mirrored, but for what everybody reads from the

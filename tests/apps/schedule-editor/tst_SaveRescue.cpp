@@ -16,6 +16,7 @@
 
 #include <csignal>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace {
@@ -259,8 +260,8 @@ void tst_SaveRescue::quittingKeepsTheEdits()
     Edited fixture;
     fixture.window.show();
     SaveRescue rescue(fixture.host, &fixture.window);
-    const StopSignals stop;
-    connect(&stop, &StopSignals::stopped, qApp, &QCoreApplication::quit);
+    const trel::hosts::StopSignals stop;
+    connect(&stop, &trel::hosts::StopSignals::stopped, qApp, &QCoreApplication::quit);
     const OtherProgram other(fixture.database);
     const PromptCount prompts;
     QSignalSpy kept(&rescue, &SaveRescue::kept);

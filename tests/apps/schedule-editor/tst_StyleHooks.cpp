@@ -11,6 +11,7 @@
 #include <QTableView>
 #include <QTimer>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// A host may give the application a style sheet of its own. Every hook of the editor then has the

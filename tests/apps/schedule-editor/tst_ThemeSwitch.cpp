@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <functional>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// What is open over the editor while the theme changes: it shows nothing of the old one, which is

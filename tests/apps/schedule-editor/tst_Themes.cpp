@@ -23,6 +23,7 @@
 #include <algorithm>
 #include <limits>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 /// The themes on the real windows: what changes with them, what can be reached, and what it costs.

@@ -10,8 +10,9 @@
 #include <QComboBox>
 #include <QPushButton>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
-using namespace week;
+using namespace trel::desktop::week;
 using namespace weekfixture;
 
 namespace {

@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+using namespace trel::console;
+
 namespace {
 
 ExitStatus doNothing(const Invocation& /*invocation*/, Console& /*console*/)

@@ -7,6 +7,8 @@
 #include <QProcess>
 #include <QtTest>
 
+using namespace trel::console;
+
 namespace {
 
 const QString kSource = QStringLiteral("host.ts");
@@ -111,7 +113,7 @@ void tst_CtlHostLanguage::findingsAreListed_data()
         changed(QStringLiteral("<message>\n        <source>Today</source>\n        "
                                "<translation>Heute</translation>\n    </message>"),
                 QString()),
-        "missing week::WeekPanel: Today");
+        "missing trel::desktop::week::WeekPanel: Today");
     row("unknown",
         changed(QStringLiteral("<name>HostPrompts</name>"),
                 QStringLiteral("<name>HostPrompts</name><message><source>Yes</source>"
@@ -122,15 +124,16 @@ void tst_CtlHostLanguage::findingsAreListed_data()
                 QStringLiteral("<name>HostPrompts</name><message><source>OK</source>"
                                "<translation>OK</translation></message>")),
         "repeated HostPrompts: OK");
-    row("empty", changed(translation("Heute"), translation("")), "empty week::WeekPanel: Today");
+    row("empty", changed(translation("Heute"), translation("")),
+        "empty trel::desktop::week::WeekPanel: Today");
     row("unfinished",
         changed(translation("Heute"),
                 QStringLiteral("<translation type=\"unfinished\">Heute</translation>")),
-        "unfinished week::WeekPanel: Today");
+        "unfinished trel::desktop::week::WeekPanel: Today");
     row("lost place", changed(translation("noch %1"), translation("gleich")),
-        "place mark NowNextPanel: %1 left \"gleich\" has no mark for %1");
+        "place mark trel::desktop::NowNextPanel: %1 left \"gleich\" has no mark for %1");
     row("invented place", changed(translation("Heute"), translation("Heute, %1")),
-        "place mark week::WeekPanel: Today \"Heute, %1\" has %1 for no mark");
+        "place mark trel::desktop::week::WeekPanel: Today \"Heute, %1\" has %1 for no mark");
     row("lost number",
         changed(QStringLiteral("%n weitere Pläne kommen nicht auf den Bildschirm."),
                 QStringLiteral("Mehrere Pläne kommen nicht auf den Bildschirm.")),
@@ -142,15 +145,17 @@ void tst_CtlHostLanguage::findingsAreListed_data()
                 QString()),
         "plural Week: %n more plans do not reach the screen. it has 1 of 2");
     row("no letter", changed(translation("&amp;Woche"), translation("Woche")),
-        "letter WeekDock: &Week no letter chooses it");
+        "letter trel::desktop::WeekDock: &Week no letter chooses it");
     row("stray letter", changed(translation("Heute"), translation("&amp;Heute")),
-        "letter week::WeekPanel: Today an \"&\" stands where no menu is");
+        "letter trel::desktop::week::WeekPanel: Today an \"&\" stands where no menu is");
     row("clash", changed(translation("&amp;Woche"), translation("Woc&amp;he")),
-        "letter EditorMenus: &Light theme \"H\", as WeekDock: &Week; in the menu \"View\" they "
+        "letter trel::desktop::EditorMenus: &Light theme \"H\", as trel::desktop::WeekDock: &Week; "
+        "in the menu \"View\" they "
         "have "
         "to differ");
     row("term", changed(translation("Schwarzbild"), translation("Schwarzer Bildschirm")),
-        "term ScreenWords: Black screen \"Schwarzer Bildschirm\" for \"black screen\"; the word is "
+        "term ScreenWords: Black screen \"Schwarzer Bildschirm\" for \"black screen\"; the word "
+        "is "
         "\"Schwarzbild\"");
 }
 

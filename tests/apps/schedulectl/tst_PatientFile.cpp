@@ -45,7 +45,7 @@ void tst_PatientFile::aFileIsReadToItsEnd()
     QVERIFY(stored.open(QIODevice::WriteOnly));
     QCOMPARE(stored.write(content), qint64(content.size()));
     stored.close();
-    PatientFile file(path, 0ms);
+    trel::hosts::PatientFile file(path, 0ms);
 
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), content);
@@ -67,7 +67,7 @@ void tst_PatientFile::whatIsNoFileIsRefused_data()
 void tst_PatientFile::whatIsNoFileIsRefused()
 {
     QFETCH(QString, path);
-    PatientFile file(path, 10s);
+    trel::hosts::PatientFile file(path, 10s);
 
     QVERIFY(!file.open(QIODevice::ReadOnly));
     QVERIFY(file.hasFailed());
@@ -83,7 +83,7 @@ void tst_PatientFile::aPipeIsReadToItsEnd()
         end.open(QIODevice::WriteOnly);
         end.write(content);
     });
-    PatientFile file(QFile::decodeName(path), 20s);
+    trel::hosts::PatientFile file(QFile::decodeName(path), 20s);
 
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QByteArray read = file.readAll();
@@ -95,7 +95,7 @@ void tst_PatientFile::aPipeIsReadToItsEnd()
 
 void tst_PatientFile::aPipeWithoutAWriterIsLeft()
 {
-    PatientFile file(QFile::decodeName(pipe("empty")), 100ms);
+    trel::hosts::PatientFile file(QFile::decodeName(pipe("empty")), 100ms);
     QVERIFY(file.open(QIODevice::ReadOnly));
 
     QCOMPARE(file.readAll(), QByteArray());
@@ -109,7 +109,7 @@ void tst_PatientFile::aPipeThatStopsIsLeft()
     // Open for both, so that it has a writer without anybody to wait for.
     const int end = ::open(path.constData(), O_RDWR | O_CLOEXEC);
     QVERIFY(end >= 0);
-    PatientFile file(QFile::decodeName(path), 100ms);
+    trel::hosts::PatientFile file(QFile::decodeName(path), 100ms);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(::write(end, "half", 4), ssize_t(4));
 

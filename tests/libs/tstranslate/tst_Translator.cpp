@@ -1,5 +1,6 @@
 #include "QmBytes.h"
 #include "support/TextKeys.h"
+#include "tstranslate/LanguageFile.h"
 #include "tstranslate/Translator.h"
 
 #include <QFile>
@@ -56,6 +57,9 @@ private slots:
     void namesALanguageAfterItsFile();
     void readsWhatTheCompilerWrites_data();
     void readsWhatTheCompilerWrites();
+    void namesAllTextsOfAFile();
+    void readsTheFormsOfAPlural();
+    void saysWhichTextsHaveNoKey();
     void readsTextsInAllScripts();
     void refuses_data();
     void refuses();
@@ -229,6 +233,47 @@ void TestTranslator::readsWhatTheCompilerWrites()
     QCOMPARE(look("SheduleWidgets", "Title", "zhCancelAct"), QStringLiteral("Sluiten"));
     QCOMPARE(look("Other", "Widget", "zhCancelAct"), QStringLiteral("Weg ermee"));
     QCOMPARE(look("SheduleWidgets", "Widget", "untranslated"), QStringLiteral("untranslated"));
+}
+
+void TestTranslator::namesAllTextsOfAFile()
+{
+    const QByteArray bytes = chinese().text(QByteArrayLiteral("new"), QString(), "H", "").bytes();
+    const auto file = tessark::trans::readLanguageFile(write(bytes));
+    QVERIFY(file);
+    QCOMPARE(file->bytes, bytes);
+    QVERIFY(tessark::trans::isLanguageFile(bytes.left(tessark::trans::kLanguageFileMagicSize)));
+    QVERIFY(!tessark::trans::isLanguageFile(bytes.mid(1)));
+    QCOMPARE(file->language, QStringLiteral("zh_CN"));
+    QStringList texts;
+    for (const tessark::trans::LanguageMessage& message : file->messages) {
+        QVERIFY(message.hasKey);
+        texts.append(QStringList{message.group, message.context, message.key,
+                                 message.forms.join(QLatin1Char('|'))}
+                         .join(QLatin1Char(' ')));
+    }
+    QCOMPARE(texts, QStringList({QStringLiteral("G C ok 确定"), QStringLiteral("G C cancel 取消"),
+                                 QStringLiteral("G C delete 删除"), QStringLiteral("H  new ")}));
+}
+
+void TestTranslator::readsTheFormsOfAPlural()
+{
+    const QByteArray forms = QmBytes::field(3, QByteArray::fromHex("0041")) +
+                             QmBytes::field(3, QByteArray::fromHex("00420043"));
+    const QmBytes plural = QmBytes().record("n", "", forms + QmBytes::field(6, "n") + '\x01');
+    const auto file = tessark::trans::readLanguageFile(write(plural.bytes()));
+    QVERIFY(file);
+    QCOMPARE(file->messages.front().forms,
+             QStringList({QStringLiteral("A"), QStringLiteral("BC")}));
+}
+
+void TestTranslator::saysWhichTextsHaveNoKey()
+{
+    const QByteArray form = QmBytes::field(3, QByteArray::fromHex("0041"));
+    const QmBytes nameless = QmBytes().record("n", "", form + '\x01');
+    const auto file = tessark::trans::readLanguageFile(write(nameless.bytes()));
+    QVERIFY(file);
+    QCOMPARE(file->messages.front().hasKey, false);
+    QCOMPARE(file->language, QString());
 }
 
 void TestTranslator::readsTextsInAllScripts()

@@ -33,6 +33,7 @@
 #include <trelwidgets/ComboBox.h>
 #include <trelwidgets/Dialog.h>
 #include <trelwidgets/TipDialog.h>
+#include <tstranslate/LanguageFile.h>
 #include <tstranslate/Translator.h>
 
 #include <cstddef>
@@ -71,10 +72,11 @@ int main()
         &addDuration, &allTaskOverlaps, &buryInvalidEntry, &clockChanges, &collidingClaims,
         &completeNewPlan, &containsNoDuration, &countsRuns, &dateFromText, &dateToText, &digitsAt,
         &exceedsDay, &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm, &holdsAsInvalid,
-        &insertedPlan, &insertionScope, &isInvalidReadBack, &joinWeeks, &lastPlanWithId,
-        &listFromRow, &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId, &offeredPrograms,
-        &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate, &programListText,
-        &programText, &programVerdict, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
+        &insertedPlan, &insertionScope, &isInvalidReadBack, &tessark::trans::isLanguageFile,
+        &joinWeeks, &lastPlanWithId, &listFromRow, &mediaReading, &namesAnyDay, &nextClockChanges,
+        &nextPlanId, &offeredPrograms, &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd,
+        &planTemplate, &programListText, &programText, &programVerdict,
+        &tessark::trans::readLanguageFile, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
         &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleFromJson, &scheduleToJson,
         &shownAddress, &timeFromText, &timeToText, &totalText, &tessark::trans::translate,
         &weeksOverlap, &writeScheduleFile);

@@ -12,6 +12,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 /// More than anybody plans for; tasks may last for thousands of years.
@@ -225,3 +227,5 @@ void ClockChangePanel::changeEvent(QEvent* event)
     }
     QListWidget::changeEvent(event);
 }
+
+} // namespace trel::desktop

@@ -7,6 +7,8 @@
 #include <memory>
 #include <optional>
 
+namespace trel::desktop {
+
 namespace follow {
 class EditedSchedule;
 }
@@ -52,3 +54,5 @@ private:
     follow::NewestWork m_work;
     std::optional<ClockChangeWork::Changes> m_changes; ///< That the rows tell of.
 };
+
+} // namespace trel::desktop

@@ -4,6 +4,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 void ClockChangeWork::order(const follow::ScheduleEdits& edits, const QTimeZone& zone,
                             const QDate& today)
 {
@@ -44,3 +46,5 @@ ClockChangeWork::find(int count, const follow::Cancellation& cancellation)
         m_search.next(today, count, [&cancellation] { return !cancellation.isCancelled(); });
     return cancellation.isCancelled() ? std::nullopt : std::make_optional(std::move(changes));
 }
+
+} // namespace trel::desktop

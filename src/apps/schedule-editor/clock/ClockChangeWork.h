@@ -11,6 +11,8 @@
 #include <optional>
 #include <vector>
 
+namespace trel::desktop {
+
 /// Finds the next changes of the clocks in a schedule that is edited task by task.
 class ClockChangeWork
 {
@@ -34,3 +36,5 @@ private:
     follow::SharedCatalogue m_catalogue;
     trel::mediadispatch::ClockChangeSearch m_search{QTimeZone::utc()};
 };
+
+} // namespace trel::desktop

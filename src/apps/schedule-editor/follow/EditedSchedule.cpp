@@ -6,7 +6,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace follow {
+namespace trel::desktop::follow {
 
 namespace {
 
@@ -104,4 +104,4 @@ bool EditedSchedule::addCatalogue(ScheduleEdits& edits)
     return true;
 }
 
-} // namespace follow
+} // namespace trel::desktop::follow

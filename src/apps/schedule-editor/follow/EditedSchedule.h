@@ -6,7 +6,7 @@
 
 #include <set>
 
-namespace follow {
+namespace trel::desktop::follow {
 
 /// The schedule that is being edited, saved or not, as records that can be handed to other threads.
 /// An edit costs the tasks that it touches.
@@ -40,4 +40,4 @@ private:
     std::size_t m_size = 0;
 };
 
-} // namespace follow
+} // namespace trel::desktop::follow

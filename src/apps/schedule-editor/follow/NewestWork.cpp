@@ -8,7 +8,7 @@
 #include <optional>
 #include <utility>
 
-namespace follow {
+namespace trel::desktop::follow {
 
 /// Stays until the last thread is through with it.
 class NewestWork::Queue : public std::enable_shared_from_this<NewestWork::Queue>
@@ -114,4 +114,4 @@ void NewestWork::carryOut(const Work& work)
     work(Cancellation())();
 }
 
-} // namespace follow
+} // namespace trel::desktop::follow

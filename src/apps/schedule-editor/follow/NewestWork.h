@@ -6,7 +6,7 @@
 #include <functional>
 #include <memory>
 
-namespace follow {
+namespace trel::desktop::follow {
 
 /// Whether a piece of work has become needless. To be asked often by the thread that carries it
 /// out.
@@ -58,4 +58,4 @@ private:
     std::shared_ptr<Queue> m_queue;
 };
 
-} // namespace follow
+} // namespace trel::desktop::follow

@@ -1,6 +1,6 @@
 #include "follow/ScheduleEdits.h"
 
-namespace follow {
+namespace trel::desktop::follow {
 
 namespace {
 
@@ -31,4 +31,4 @@ bool ScheduleEdits::isShort() const
     return size <= kShort && (!catalogue || catalogue->size() <= kFewPrograms);
 }
 
-} // namespace follow
+} // namespace trel::desktop::follow

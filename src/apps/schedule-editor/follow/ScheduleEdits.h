@@ -6,7 +6,7 @@
 #include <map>
 #include <memory>
 
-namespace follow {
+namespace trel::desktop::follow {
 
 /// Records that do not change any more, so that threads may share them.
 using SharedTask = std::shared_ptr<const trel::mediadispatch::PlayTask>;
@@ -28,4 +28,4 @@ struct ScheduleEdits
     bool isShort() const;
 };
 
-} // namespace follow
+} // namespace trel::desktop::follow

@@ -5,7 +5,7 @@
 #include <QPen>
 #include <QRect>
 
-namespace look {
+namespace trel::desktop::look {
 
 void paintBox(QPainter& painter, const QRect& rect, const QColor& ground, const QColor& line,
               qreal radius)
@@ -45,4 +45,4 @@ void paintFocusRing(QPainter& painter, const QRect& rect, const QColor& colour, 
     painter.restore();
 }
 
-} // namespace look
+} // namespace trel::desktop::look

@@ -6,7 +6,7 @@ class QColor;
 class QPainter;
 class QRect;
 
-namespace look {
+namespace trel::desktop::look {
 
 /// A filled box with a line of one pixel around it. A transparent colour leaves either out.
 void paintBox(QPainter& painter, const QRect& rect, const QColor& ground, const QColor& line,
@@ -15,4 +15,4 @@ void paintBox(QPainter& painter, const QRect& rect, const QColor& ground, const 
 /// The ring, two pixels wide, inside the edge of what has the focus.
 void paintFocusRing(QPainter& painter, const QRect& rect, const QColor& colour, qreal radius);
 
-} // namespace look
+} // namespace trel::desktop::look

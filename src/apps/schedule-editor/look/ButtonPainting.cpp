@@ -8,7 +8,7 @@
 #include <QPainter>
 #include <QStyleOption>
 
-namespace look {
+namespace trel::desktop::look {
 
 namespace {
 
@@ -208,4 +208,4 @@ void paintFocus(QPainter& painter, const ThemeColours& colours, const QStyleOpti
     paintFocusRing(painter, option.rect, colours.focus, kRadius - 1);
 }
 
-} // namespace look
+} // namespace trel::desktop::look

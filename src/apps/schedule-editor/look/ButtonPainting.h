@@ -6,7 +6,7 @@ class QPainter;
 class QStyleOption;
 class QWidget;
 
-namespace look {
+namespace trel::desktop::look {
 
 /// All of a button except its caption.
 void paintButton(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
@@ -21,4 +21,4 @@ void paintProgramField(QPainter& painter, const ThemeColours& colours, const QSt
 
 void paintFocus(QPainter& painter, const ThemeColours& colours, const QStyleOption& option);
 
-} // namespace look
+} // namespace trel::desktop::look

@@ -17,7 +17,7 @@
 #include <QStyleOption>
 #include <QTableView>
 
-namespace look {
+namespace trel::desktop::look {
 
 namespace {
 
@@ -504,4 +504,4 @@ void EditorStyle::paintItem(const QStyleOption* option, QPainter* painter,
     }
 }
 
-} // namespace look
+} // namespace trel::desktop::look

@@ -7,7 +7,7 @@
 class QAbstractScrollArea;
 class QStyleOptionTab;
 
-namespace look {
+namespace trel::desktop::look {
 
 /// The look of the editor and of the host: flat, in the colours of one theme at a time.
 ///
@@ -67,4 +67,4 @@ private:
     ThemeColours m_colours;
 };
 
-} // namespace look
+} // namespace trel::desktop::look

@@ -7,7 +7,7 @@
 #include <QComboBox>
 #include <QPainter>
 
-namespace look {
+namespace trel::desktop::look {
 
 namespace {
 
@@ -188,4 +188,4 @@ QRect comboBoxPart(const QStyleOptionComboBox& option, QStyle::SubControl part)
     }
 }
 
-} // namespace look
+} // namespace trel::desktop::look

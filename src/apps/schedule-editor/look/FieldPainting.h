@@ -7,7 +7,7 @@
 class QPainter;
 class QWidget;
 
-namespace look {
+namespace trel::desktop::look {
 
 /// True for the line that is part of a spin box or of a combo box.
 bool isInsideField(const QWidget* widget);
@@ -33,4 +33,4 @@ void paintChoices(QPainter& painter, const ThemeColours& colours, const QStyleOp
 QRect spinBoxPart(const QStyleOptionSpinBox& option, QStyle::SubControl part);
 QRect comboBoxPart(const QStyleOptionComboBox& option, QStyle::SubControl part);
 
-} // namespace look
+} // namespace trel::desktop::look

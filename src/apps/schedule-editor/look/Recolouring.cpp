@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace look {
+namespace trel::desktop::look {
 
 namespace {
 
@@ -125,4 +125,4 @@ bool Recolouring::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-} // namespace look
+} // namespace trel::desktop::look

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-namespace look {
+namespace trel::desktop::look {
 
 /// Gives the widgets that are there the palette of the application and the colours of its style,
 /// after both have changed.
@@ -42,4 +42,4 @@ private:
     QTimer m_turn;
 };
 
-} // namespace look
+} // namespace trel::desktop::look

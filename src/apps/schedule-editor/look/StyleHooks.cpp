@@ -8,7 +8,7 @@
 #include <QTableView>
 #include <QVariant>
 
-namespace look {
+namespace trel::desktop::look {
 
 namespace {
 
@@ -155,4 +155,4 @@ bool isCardList(const QWidget* widget)
     return widget != nullptr && widget->inherits("PlanList");
 }
 
-} // namespace look
+} // namespace trel::desktop::look

@@ -4,7 +4,7 @@
 
 class QWidget;
 
-namespace look {
+namespace trel::desktop::look {
 
 /// What the editor says about its widgets, by their object names and by the properties "style",
 /// "imageBtn" and "labelImage". A null widget has none of it.
@@ -47,4 +47,4 @@ bool isLineOfChoices(const QWidget* widget);
 QString styleOf(const QWidget* widget);
 bool isNamed(const QWidget* widget, const char* name);
 
-} // namespace look
+} // namespace trel::desktop::look

@@ -1,6 +1,6 @@
 #include "ThemeColours.h"
 
-namespace look {
+namespace trel::desktop::look {
 
 namespace {
 
@@ -220,4 +220,4 @@ QPalette listPalette(const ThemeColours& colours)
     return palette;
 }
 
-} // namespace look
+} // namespace trel::desktop::look

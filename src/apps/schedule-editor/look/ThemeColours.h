@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QPalette>
 
-namespace look {
+namespace trel::desktop::look {
 
 /// The colours of one theme. Every text reaches a contrast of 4.5 to 1 on each ground that it is
 /// painted on, in every state of its widget.
@@ -99,4 +99,4 @@ QPalette windowPalette(const ThemeColours& colours);
 /// The same for a list of the chooser and its header.
 QPalette listPalette(const ThemeColours& colours);
 
-} // namespace look
+} // namespace trel::desktop::look

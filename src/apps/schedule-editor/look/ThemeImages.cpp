@@ -6,7 +6,7 @@
 #include <QPixmapCache>
 #include <QSvgRenderer>
 
-namespace look {
+namespace trel::desktop::look {
 
 namespace {
 
@@ -104,4 +104,4 @@ QIcon imageIcon(const QString& name, const QColor& colour)
     return QIcon(new ImageEngine(name, colour));
 }
 
-} // namespace look
+} // namespace trel::desktop::look

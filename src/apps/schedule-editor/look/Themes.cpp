@@ -4,6 +4,8 @@
 #include <QFont>
 #include <QToolTip>
 
+namespace trel::desktop {
+
 namespace {
 
 const QLatin1String kDark("dark");
@@ -78,3 +80,5 @@ void Themes::takeColours()
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
 }
+
+} // namespace trel::desktop

@@ -9,6 +9,8 @@
 
 class QApplication;
 
+namespace trel::desktop {
+
 /// The themes of the application: one of them is in force, and can be changed at any time.
 class Themes : public QObject
 {
@@ -39,3 +41,5 @@ private:
     QString m_current;
     look::Recolouring m_recolouring;
 };
+
+} // namespace trel::desktop

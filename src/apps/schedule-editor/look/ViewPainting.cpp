@@ -6,7 +6,7 @@
 
 #include <QPainter>
 
-namespace look {
+namespace trel::desktop::look {
 
 namespace {
 
@@ -133,4 +133,4 @@ QRect scrollBarPart(const QStyleOptionSlider& option, QStyle::SubControl part)
     }
 }
 
-} // namespace look
+} // namespace trel::desktop::look

@@ -7,7 +7,7 @@
 class QPainter;
 class QWidget;
 
-namespace look {
+namespace trel::desktop::look {
 
 constexpr int kScrollBarExtent = 8;
 constexpr int kScrollBarLeastThumb = 28;
@@ -26,4 +26,4 @@ void paintScrollBar(QPainter& painter, const ThemeColours& colours, const QStyle
                     const QRect& thumb, bool isOverlay);
 QRect scrollBarPart(const QStyleOptionSlider& option, QStyle::SubControl part);
 
-} // namespace look
+} // namespace trel::desktop::look

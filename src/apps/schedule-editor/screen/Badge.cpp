@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+namespace trel::desktop {
+
 namespace {
 
 constexpr int kSide = 8;
@@ -41,3 +43,5 @@ void Badge::paintEvent(QPaintEvent* event)
     painter.setPen(palette().color(m_text));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
 }
+
+} // namespace trel::desktop

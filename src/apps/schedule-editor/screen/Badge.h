@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+namespace trel::desktop {
+
 /// A short word on a rounded ground.
 class Badge : public QLabel
 {
@@ -23,3 +25,5 @@ private:
     QPalette::ColorRole m_ground = QPalette::Highlight;
     QPalette::ColorRole m_text = QPalette::HighlightedText;
 };
+
+} // namespace trel::desktop

@@ -10,6 +10,8 @@
 #include <QTextLayout>
 #include <QToolTip>
 
+namespace trel::desktop {
+
 ElidedText::ElidedText(QWidget* parent, int lines)
     : QLabel(parent)
     , m_lines(lines)
@@ -79,3 +81,5 @@ void ElidedText::paintEvent(QPaintEvent* event)
         line.translate(0, line.height());
     }
 }
+
+} // namespace trel::desktop

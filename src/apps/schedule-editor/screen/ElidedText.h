@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+namespace trel::desktop {
+
 /// A text of one or a few lines that ends in dots where it has no room; then a tool tip shows all
 /// of it. It asks for no width, so that a long text never widens its window. text() is always the
 /// whole text.
@@ -33,3 +35,5 @@ private:
     int m_lines;
     QString m_longText;
 };
+
+} // namespace trel::desktop

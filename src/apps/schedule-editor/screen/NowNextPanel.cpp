@@ -15,6 +15,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 constexpr qint64 kDay = 86'400'000;
@@ -270,3 +272,5 @@ void NowNextPanel::changeEvent(QEvent* event)
     }
     QWidget::changeEvent(event);
 }
+
+} // namespace trel::desktop

@@ -2,10 +2,13 @@
 
 #include <QWidget>
 
+class QLabel;
+
+namespace trel::desktop {
+
 class Badge;
 class ElidedText;
 class PlayBar;
-class QLabel;
 class ScreenFollower;
 
 /// What is on screen, why, for how long, and what comes next. Remaining times count down.
@@ -50,3 +53,5 @@ private:
     ElidedText* m_nextPlan;
     ElidedText* m_nextTime;
 };
+
+} // namespace trel::desktop

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QStyle>
 
+namespace trel::desktop {
+
 namespace {
 
 constexpr int kHeight = 6;
@@ -45,3 +47,5 @@ void PlayBar::paintEvent(QPaintEvent* event)
     painter.setBrush(palette().color(QPalette::Highlight));
     painter.drawRoundedRect(QStyle::visualRect(layoutDirection(), rect(), done), radius, radius);
 }
+
+} // namespace trel::desktop

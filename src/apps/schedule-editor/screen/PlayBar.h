@@ -2,6 +2,8 @@
 
 #include <QProgressBar>
 
+namespace trel::desktop {
+
 /// How far a play has got: a thin line without a text, from the side on which reading begins.
 class PlayBar : public QProgressBar
 {
@@ -19,3 +21,5 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
 };
+
+} // namespace trel::desktop

@@ -5,6 +5,8 @@
 #include <QAction>
 #include <QEvent>
 
+namespace trel::desktop {
+
 PreviewDock::PreviewDock(ScreenFollower& follower, QWidget* parent)
     : QDockWidget(parent)
     , m_follower(follower)
@@ -58,3 +60,5 @@ void PreviewDock::changeEvent(QEvent* event)
     }
     QDockWidget::changeEvent(event);
 }
+
+} // namespace trel::desktop

@@ -2,8 +2,11 @@
 
 #include <QDockWidget>
 
-class PreviewScreen;
 class QAction;
+
+namespace trel::desktop {
+
+class PreviewScreen;
 class ScreenFollower;
 
 /// The preview of the screen in the host's window; a double click, or its action, lets it fill a
@@ -29,3 +32,5 @@ private:
     QAction* m_fullScreen;
     PreviewScreen* m_large = nullptr; ///< A window of its own, while there is one.
 };
+
+} // namespace trel::desktop

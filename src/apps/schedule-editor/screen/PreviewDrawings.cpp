@@ -7,6 +7,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 const QColor kGround(0x10, 0x13, 0x18);
@@ -128,3 +130,5 @@ void paintPause(QPainter& painter, const QRect& room)
     painter.drawRect(QRectF(55, 30, 11, 40));
     painter.restore();
 }
+
+} // namespace trel::desktop

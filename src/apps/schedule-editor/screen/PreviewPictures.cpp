@@ -11,6 +11,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 constexpr int kMostKilobytes = 64 * 1024;
@@ -146,3 +148,5 @@ void PreviewPictures::take(const Request& request, const QImage& image, const Fl
         emit ready();
     }
 }
+
+} // namespace trel::desktop

@@ -11,6 +11,8 @@
 #include <memory>
 #include <optional>
 
+namespace trel::desktop {
+
 /// The pictures of programs, read by a thread of its own and kept, the youngest first, up to a
 /// bound of memory. Of several that are asked for while one is being read only the last is read.
 class PreviewPictures : public QObject
@@ -61,3 +63,5 @@ private:
     std::unique_ptr<QThreadPool> m_pool;
     std::shared_ptr<Receiver> m_receiver;
 };
+
+} // namespace trel::desktop

@@ -17,6 +17,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 /// The shape of the screens that most programs are made for.
@@ -196,3 +198,5 @@ void PreviewScreen::changeEvent(QEvent* event)
     }
     QWidget::changeEvent(event);
 }
+
+} // namespace trel::desktop

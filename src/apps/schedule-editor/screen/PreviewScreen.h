@@ -5,6 +5,8 @@
 #include <QPixmap>
 #include <QWidget>
 
+namespace trel::desktop {
+
 class ScreenFollower;
 
 /// A small copy of the screen: the image on it or the first picture of the film, a drawing for what
@@ -49,3 +51,5 @@ private:
     qint64 m_fittedImage = 0; ///< The image that it is of.
     QSize m_fittedRoom;       ///< In dots of the device.
 };
+
+} // namespace trel::desktop

@@ -4,6 +4,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 bool hasPicture(ProgramKind kind)
 {
     return kind == ProgramKind::Video || kind == ProgramKind::Image;
@@ -21,3 +23,5 @@ QImage programPicture(const QString& path, ProgramKind kind, const QSize& bound,
                   picture.size.height(), QImage::Format_ARGB32)
         .copy();
 }
+
+} // namespace trel::desktop

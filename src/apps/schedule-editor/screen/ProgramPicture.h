@@ -7,6 +7,8 @@
 
 #include <atomic>
 
+namespace trel::desktop {
+
 /// Whether a program has a picture of its own: images have one, and films their first.
 bool hasPicture(trel::mediadispatch::ProgramKind kind);
 
@@ -15,3 +17,5 @@ bool hasPicture(trel::mediadispatch::ProgramKind kind);
 /// read, or soon after `isCancelled` is set. For any thread but that of the windows.
 QImage programPicture(const QString& path, trel::mediadispatch::ProgramKind kind,
                       const QSize& bound, const std::atomic<bool>& isCancelled);
+
+} // namespace trel::desktop

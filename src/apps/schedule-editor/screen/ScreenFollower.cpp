@@ -15,6 +15,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 constexpr qint64 kSecond = 1000;
@@ -160,3 +162,5 @@ void ScreenFollower::tick()
     setAlarm();
     emit ticked();
 }
+
+} // namespace trel::desktop

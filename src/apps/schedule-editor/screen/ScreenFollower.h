@@ -17,6 +17,8 @@ class MomentFormat;
 class ScreenDispatch;
 } // namespace trel::mediadispatch
 
+namespace trel::desktop {
+
 /// What a screen shows, with the records behind it.
 struct ScreenScene
 {
@@ -88,3 +90,5 @@ private:
     std::set<QObject*> m_visible;
     std::unique_ptr<trel::mediadispatch::ClockAlarm> m_alarm; ///< Only while somebody looks.
 };
+
+} // namespace trel::desktop

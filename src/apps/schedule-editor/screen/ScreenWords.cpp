@@ -7,6 +7,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::desktop {
+
 namespace {
 
 constexpr qint64 kSecond = 1000;
@@ -142,3 +144,5 @@ QString ScreenWords::toCome(qint64 msecs)
 {
     return clockText((msecs + kSecond - 1) / kSecond);
 }
+
+} // namespace trel::desktop

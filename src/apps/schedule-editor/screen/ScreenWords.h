@@ -12,6 +12,8 @@ struct struProgInfo;
 enum class ScreenPicture;
 } // namespace trel::mediadispatch
 
+namespace trel::desktop {
+
 class ScreenFollower;
 struct ScreenScene;
 
@@ -47,3 +49,5 @@ public:
     static QString gone(qint64 msecs);
     static QString toCome(qint64 msecs);
 };
+
+} // namespace trel::desktop

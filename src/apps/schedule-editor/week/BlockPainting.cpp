@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+namespace trel::desktop {
+
 using trel::mediadispatch::PlanFault;
 
 namespace week {
@@ -266,3 +268,5 @@ void paintMarks(QPainter& painter, const WeekScene& scene, int day, const QRect&
 }
 
 } // namespace week
+
+} // namespace trel::desktop

@@ -6,7 +6,7 @@
 class QPainter;
 class QRect;
 
-namespace week {
+namespace trel::desktop::week {
 
 struct WeekBlock;
 struct WeekScene;
@@ -22,4 +22,4 @@ void paintBlocks(QPainter& painter, const WeekScene& scene, int day, const QRect
 /// Draws the marks of the plans that never play, where they start.
 void paintMarks(QPainter& painter, const WeekScene& scene, int day, const QRect& exposed);
 
-} // namespace week
+} // namespace trel::desktop::week

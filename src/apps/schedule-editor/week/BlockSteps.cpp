@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -74,4 +74,4 @@ std::optional<BlockRef> stepFrom(const WeekLayout& layout, const std::optional<B
     return from;
 }
 
-} // namespace week
+} // namespace trel::desktop::week

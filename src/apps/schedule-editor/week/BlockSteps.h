@@ -2,7 +2,7 @@
 
 #include "week/WeekScene.h"
 
-namespace week {
+namespace trel::desktop::week {
 
 /// Where an arrow key leads, in reading direction.
 enum class BlockStep {
@@ -18,4 +18,4 @@ enum class BlockStep {
 std::optional<BlockRef> stepFrom(const WeekLayout& layout, const std::optional<BlockRef>& from,
                                  BlockStep step, const WallMoment& moment);
 
-} // namespace week
+} // namespace trel::desktop::week

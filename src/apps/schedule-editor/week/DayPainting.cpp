@@ -14,7 +14,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -246,4 +246,4 @@ void paintDays(QPainter& painter, const WeekScene& scene, const QRect& exposed)
     paintNow(painter, scene);
 }
 
-} // namespace week
+} // namespace trel::desktop::week

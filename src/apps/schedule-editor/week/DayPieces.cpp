@@ -8,7 +8,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -214,4 +214,4 @@ DayLanes dayPieces(const std::vector<DayClaim>& claims, const std::vector<LeftOu
     return lanes;
 }
 
-} // namespace week
+} // namespace trel::desktop::week

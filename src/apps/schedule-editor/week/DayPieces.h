@@ -2,7 +2,7 @@
 
 #include <vector>
 
-namespace week {
+namespace trel::desktop::week {
 
 /// What a plan claims of one day, in seconds since midnight; from < to, the end not included.
 struct DayClaim
@@ -53,4 +53,4 @@ struct LeftOutTime
 DayLanes dayPieces(const std::vector<DayClaim>& claims,
                    const std::vector<LeftOutTime>& leftOut = {});
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -102,4 +102,4 @@ void paintHours(QPainter& painter, const WeekScene& scene, const QRect& strip)
     }
 }
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -3,7 +3,7 @@
 class QPainter;
 class QRect;
 
-namespace week {
+namespace trel::desktop::week {
 
 struct WeekScene;
 
@@ -15,4 +15,4 @@ int datesHeight(int lineHeight);
 /// Draws the hours beside the days; the top of midnight lies at y = 0.
 void paintHours(QPainter& painter, const WeekScene& scene, const QRect& strip);
 
-} // namespace week
+} // namespace trel::desktop::week

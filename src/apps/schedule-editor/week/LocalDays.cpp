@@ -4,7 +4,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -109,4 +109,4 @@ Instant LocalDays::instant(int day, int second, Pass pass) const
     return begin();
 }
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-namespace week {
+namespace trel::desktop::week {
 
 inline constexpr int kDaySeconds = 24 * 60 * 60;
 
@@ -71,4 +71,4 @@ private:
     std::vector<Run> m_runs;
 };
 
-} // namespace week
+} // namespace trel::desktop::week

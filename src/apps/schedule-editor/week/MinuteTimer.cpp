@@ -4,7 +4,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 MinuteTimer::MinuteTimer(QObject* parent)
     : QObject(parent)
@@ -35,4 +35,4 @@ int MinuteTimer::untilNextMinute()
     return 60000 - time.second() * 1000 - time.msec();
 }
 
-} // namespace week
+} // namespace trel::desktop::week

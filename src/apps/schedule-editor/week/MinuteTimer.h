@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QTimer>
 
-namespace week {
+namespace trel::desktop::week {
 
 /// Tells when a minute of the clock in force begins, for as long as it runs.
 class MinuteTimer : public QObject
@@ -26,4 +26,4 @@ private:
     QTimer m_timer;
 };
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -11,7 +11,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -127,4 +127,4 @@ const DayLanes& TaskWeek::lanesOn(int weekday) const
     return day.lanes;
 }
 
-} // namespace week
+} // namespace trel::desktop::week

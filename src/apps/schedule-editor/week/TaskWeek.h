@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-namespace week {
+namespace trel::desktop::week {
 
 /// What one plan claims of one day. One that never plays is marked where it starts.
 struct WeekBlock
@@ -69,4 +69,4 @@ private:
     std::array<Day, trel::mediadispatch::WeekDayCount> m_days;
 };
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -113,4 +113,4 @@ void WeekArea::reveal(const QRect& rect)
     }
 }
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -6,7 +6,7 @@
 
 class QAbstractScrollArea;
 
-namespace week {
+namespace trel::desktop::week {
 
 /// The days on a scroll area: how high their hours are, and which of them are in sight. Keeps the
 /// ranges of the scroll bars.
@@ -53,4 +53,4 @@ private:
     bool m_isFit = true;
 };
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -7,6 +7,8 @@
 #include <QAction>
 #include <QEvent>
 
+namespace trel::desktop {
+
 WeekDock::WeekDock(follow::EditedSchedule& edited, const Languages& languages, const Themes& themes,
                    QWidget* parent)
     : QDockWidget(parent)
@@ -42,3 +44,5 @@ void WeekDock::changeEvent(QEvent* event)
         retranslate();
     }
 }
+
+} // namespace trel::desktop

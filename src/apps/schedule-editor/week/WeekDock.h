@@ -2,6 +2,8 @@
 
 #include <QDockWidget>
 
+namespace trel::desktop {
+
 class Languages;
 class Themes;
 
@@ -38,3 +40,5 @@ private:
 
     week::WeekPanel* m_panel;
 };
+
+} // namespace trel::desktop

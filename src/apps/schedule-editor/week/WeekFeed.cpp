@@ -10,7 +10,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -155,4 +155,4 @@ void WeekFeed::order(const follow::ScheduleEdits& edits)
     }
 }
 
-} // namespace week
+} // namespace trel::desktop::week

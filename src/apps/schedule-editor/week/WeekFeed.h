@@ -7,11 +7,11 @@
 
 #include <memory>
 
-namespace follow {
+namespace trel::desktop::follow {
 class EditedSchedule;
-}
+} // namespace trel::desktop::follow
 
-namespace week {
+namespace trel::desktop::week {
 
 /// Which schedule the picture shows.
 enum class WeekSource {
@@ -67,4 +67,4 @@ private:
     std::size_t m_size = 0; ///< See ScheduleEdits.
 };
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -137,4 +137,4 @@ int gridStep(double hourHeight)
     return stepOf(hourHeight, 20.0);
 }
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -4,7 +4,7 @@
 
 #include <QRect>
 
-namespace week {
+namespace trel::desktop::week {
 
 /// Where the seconds of seven days lie in a picture of a given size. Days stand in the reading
 /// direction, hours go down. Pixels are logical ones, from the top left of midnight.
@@ -66,4 +66,4 @@ int labelStep(double hourHeight, int lineHeight);
 /// The distance of the lines of the grid, in minutes.
 int gridStep(double hourHeight);
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -4,7 +4,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -91,4 +91,4 @@ QRect placeOf(const WeekHit& hit, const WeekGeometry& geometry)
                                 : geometry.span(hit.day, block.from, block.to);
 }
 
-} // namespace week
+} // namespace trel::desktop::week

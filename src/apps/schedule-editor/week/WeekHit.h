@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace week {
+namespace trel::desktop::week {
 
 /// What stands at a place of the picture. The pointers lead into the layout.
 struct WeekHit
@@ -29,4 +29,4 @@ WeekHit hitOf(const WeekLayout& layout, int day, const WeekBlock& block);
 /// Where that stands: the first piece of the block, or its mark.
 QRect placeOf(const WeekHit& hit, const WeekGeometry& geometry);
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -2,7 +2,7 @@
 
 #include <QKeyEvent>
 
-namespace week {
+namespace trel::desktop::week {
 
 WeekCommand commandOf(const QKeyEvent& event, Qt::LayoutDirection direction)
 {
@@ -40,4 +40,4 @@ WeekCommand commandOf(const QKeyEvent& event, Qt::LayoutDirection direction)
     }
 }
 
-} // namespace week
+} // namespace trel::desktop::week

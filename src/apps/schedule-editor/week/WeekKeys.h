@@ -4,7 +4,7 @@
 
 class QKeyEvent;
 
-namespace week {
+namespace trel::desktop::week {
 
 /// What a key means in the picture of the week.
 enum class WeekCommand {
@@ -26,4 +26,4 @@ enum class WeekCommand {
 /// The arrows lead in reading direction.
 WeekCommand commandOf(const QKeyEvent& event, Qt::LayoutDirection direction);
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -10,7 +10,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -159,4 +159,4 @@ QString shortTime(int second)
                                                                  : QStringLiteral("hh:mm:ss"));
 }
 
-} // namespace week
+} // namespace trel::desktop::week

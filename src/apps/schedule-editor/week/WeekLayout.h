@@ -14,7 +14,7 @@
 #include <optional>
 #include <vector>
 
-namespace week {
+namespace trel::desktop::week {
 
 inline constexpr int kDays = 7;
 
@@ -85,4 +85,4 @@ QDate weekOf(const QDate& day, Qt::DayOfWeek firstDayOfWeek);
 /// A time of day in words for people: "08:00", with seconds only where there are any.
 QString shortTime(int second);
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -10,7 +10,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -171,4 +171,4 @@ void WeekPanel::changeEvent(QEvent* event)
     }
 }
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -9,7 +9,7 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 
-namespace week {
+namespace trel::desktop::week {
 
 class WeekView;
 
@@ -56,4 +56,4 @@ private:
     QPushButton* m_fit;
 };
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -11,7 +11,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -33,8 +33,8 @@ QString whatText(const WeekSchedule& schedule, const ScreenState& state)
 
 QString neverText(const WeekBlock& block)
 {
-    return PlanFaultText::sentence(block.never, block.planId, shortened(block.start),
-                                   shortened(block.end));
+    return hosts::PlanFaultText::sentence(block.never, block.planId, shortened(block.start),
+                                          shortened(block.end));
 }
 
 /// "Wednesday, 6 March 2024, 08:00", with the offset on days that may have a time twice.
@@ -123,4 +123,4 @@ QString reasonText(const WeekSchedule& schedule, const WeekLayout& layout, const
     return lines.join(QLatin1Char('\n'));
 }
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -3,7 +3,7 @@
 #include <QLocale>
 #include <QString>
 
-namespace week {
+namespace trel::desktop::week {
 
 class WeekSchedule;
 struct WeekHit;
@@ -17,4 +17,4 @@ QString reasonText(const WeekSchedule& schedule, const WeekLayout& layout, const
 /// What stands in a block, in one line.
 QString blockText(const struct WeekBlock& block);
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace week {
+namespace trel::desktop::week {
 
 void drawLine(QPainter& painter, const QPoint& from, const QPoint& to, const QColor& colour,
               Qt::PenStyle style)
@@ -47,4 +47,4 @@ void drawLabel(QPainter& painter, const QRect& rect, const QString& text, const 
     painter.drawText(line, Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine, fitting);
 }
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -10,11 +10,11 @@
 
 class QPainter;
 
-namespace look {
+namespace trel::desktop::look {
 struct ThemeColours;
-}
+} // namespace trel::desktop::look
 
-namespace week {
+namespace trel::desktop::week {
 
 /// A block, by what stays the same when the week is laid out again.
 struct BlockRef
@@ -60,4 +60,4 @@ QRectF crisp(const QPainter& painter, const QRectF& rect);
 void drawLabel(QPainter& painter, const QRect& rect, const QString& text, const QColor& colour,
                const QColor& ground = QColor());
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -5,7 +5,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 WeekSchedule::WeekSchedule(const Tasks& tasks, Catalogue catalogue, ScreenInsertions insertions,
                            const QTimeZone& zone)
@@ -56,4 +56,4 @@ QString WeekSchedule::program(int progIndex) const
     return found == m_catalogue->end() ? QString() : QString::fromStdString(found->second.progName);
 }
 
-} // namespace week
+} // namespace trel::desktop::week

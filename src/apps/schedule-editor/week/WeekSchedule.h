@@ -6,7 +6,7 @@
 #include <map>
 #include <memory>
 
-namespace week {
+namespace trel::desktop::week {
 
 /// A schedule as the picture shows it, with all that its questions need. Does not change; threads
 /// may ask one at the same time.
@@ -50,4 +50,4 @@ struct WeekPicture
     std::shared_ptr<const WeekLayout> layout;
 };
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-namespace week {
+namespace trel::desktop::week {
 
 WeekStrip::WeekStrip(Paint paint, QWidget* parent)
     : QWidget(parent)
@@ -20,4 +20,4 @@ void WeekStrip::paintEvent(QPaintEvent* event)
     m_paint(painter, event->rect());
 }
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-namespace week {
+namespace trel::desktop::week {
 
 /// A strip beside the days that somebody else paints, and that is no control.
 class WeekStrip : public QWidget
@@ -23,4 +23,4 @@ private:
     Paint m_paint;
 };
 
-} // namespace week
+} // namespace trel::desktop::week

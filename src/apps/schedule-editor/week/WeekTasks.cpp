@@ -7,7 +7,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 WeekTasks::WeekTasks(const std::map<int, PlayTask>& tasks)
 {
@@ -115,4 +115,4 @@ std::shared_ptr<const TaskWeek> WeekTasks::weekOf(int taskId, const Catalogue& c
                                   : std::make_shared<const TaskWeek>(*find(taskId), catalogue);
 }
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -12,7 +12,7 @@
 #include <optional>
 #include <vector>
 
-namespace week {
+namespace trel::desktop::week {
 
 /// The tasks that weeks are laid out from, with what has been worked out of them. A copy shares
 /// the records.
@@ -59,4 +59,4 @@ private:
     std::map<int, std::shared_ptr<const TaskWeek>> m_weeks; ///< Of those that are prepared.
 };
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -17,7 +17,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 namespace {
 
@@ -449,4 +449,4 @@ bool WeekView::viewportEvent(QEvent* event)
     return QAbstractScrollArea::viewportEvent(event);
 }
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -14,7 +14,7 @@
 
 class QGestureEvent;
 
-namespace week {
+namespace trel::desktop::week {
 
 class WeekStrip;
 
@@ -112,4 +112,4 @@ private:
     bool m_followsNow = true;
 };
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-namespace week {
+namespace trel::desktop::week {
 
 /// The words of the picture that no widget of its own speaks.
 struct Words
@@ -10,4 +10,4 @@ struct Words
     Q_DECLARE_TR_FUNCTIONS(Week)
 };
 
-} // namespace week
+} // namespace trel::desktop::week

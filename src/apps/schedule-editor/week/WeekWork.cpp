@@ -4,7 +4,7 @@
 
 using namespace trel::mediadispatch;
 
-namespace week {
+namespace trel::desktop::week {
 
 void WeekWork::order(const follow::ScheduleEdits& edits, const WeekFrame& frame)
 {
@@ -79,4 +79,4 @@ std::optional<WeekPicture> WeekWork::make(const follow::Cancellation& cancellati
     return WeekPicture{schedule, std::move(layout)};
 }
 
-} // namespace week
+} // namespace trel::desktop::week

@@ -8,7 +8,7 @@
 #include <optional>
 #include <set>
 
-namespace week {
+namespace trel::desktop::week {
 
 /// What a picture is to be made of, next to the schedule.
 struct WeekFrame
@@ -49,4 +49,4 @@ private:
     std::shared_ptr<const WeekSchedule> m_shown;
 };
 
-} // namespace week
+} // namespace trel::desktop::week

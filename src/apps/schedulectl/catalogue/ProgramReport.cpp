@@ -7,6 +7,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::console {
+
 namespace {
 
 bool hasLength(const ProgramIten& program)
@@ -51,3 +53,5 @@ QJsonArray programsJson(const std::vector<int>& indexes, const std::map<int, Pro
     }
     return array;
 }
+
+} // namespace trel::console

@@ -9,6 +9,8 @@
 #include <map>
 #include <vector>
 
+namespace trel::console {
+
 /// The length of a program for people; a dash when it has none of its own.
 QString programLength(const trel::mediadispatch::ProgramIten& program);
 
@@ -22,3 +24,5 @@ QJsonObject programJson(const trel::mediadispatch::ProgramIten& program);
 /// The programs of these indexes, in their order.
 QJsonArray programsJson(const std::vector<int>& indexes,
                         const std::map<int, trel::mediadispatch::ProgramIten>& programs);
+
+} // namespace trel::console

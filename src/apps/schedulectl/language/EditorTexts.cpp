@@ -1,5 +1,7 @@
 #include "EditorTexts.h"
 
+namespace trel::console {
+
 namespace {
 
 const QStringList& dayKeys()
@@ -99,3 +101,5 @@ const QStringList& listedTexts()
         dayKeys() + QStringList{QStringLiteral("szInvalidStr"), QStringLiteral("szProgNullStr")};
     return keys;
 }
+
+} // namespace trel::console

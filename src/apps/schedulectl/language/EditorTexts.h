@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace trel::console {
+
 /// A text that the editor looks up in its language files.
 struct EditorText
 {
@@ -35,3 +37,5 @@ const std::vector<ComparedTexts>& comparedTexts();
 
 /// The texts that stand in lists joined by commas: the days, and the marks behind programs.
 const QStringList& listedTexts();
+
+} // namespace trel::console

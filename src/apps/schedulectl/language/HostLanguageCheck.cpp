@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <optional>
 
+namespace trel::console {
+
 namespace {
 
 using Kind = LanguageFinding::Kind;
@@ -163,7 +165,7 @@ private:
             if (marks != wanted && !(isSingular && marks.isEmpty())) {
                 add(Kind::PlaceMark, text,
                     QStringLiteral("%1 has %2 for %3")
-                        .arg(quoted(text.forms[i]), listed(marks), listed(wanted)));
+                        .arg(inQuotes(text.forms[i]), listed(marks), listed(wanted)));
             }
         }
     }
@@ -186,7 +188,7 @@ private:
                 if (taken.contains(letter)) {
                     add(Kind::Letter, *text,
                         QStringLiteral("%1, as %2; in %3 they have to differ")
-                            .arg(quoted(QString(letter.toUpper())), taken[letter], menu.name));
+                            .arg(inQuotes(QString(letter.toUpper())), taken[letter], menu.name));
                 }
                 taken.insert(letter, entry);
             }
@@ -215,3 +217,5 @@ std::vector<LanguageFinding> checkHostLanguage(const LanguageTexts& file)
 {
     return HostChecker(file).check();
 }
+
+} // namespace trel::console

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace trel::console {
+
 const std::vector<LanguageText>& hostTexts()
 {
     static const std::vector<LanguageText> texts =
@@ -35,25 +37,28 @@ bool isHostFile(const LanguageTexts& file)
 
 const std::vector<HostMenu>& hostMenus()
 {
+    const auto entry = [](const char* groupClass, const char* key) {
+        return QStringLiteral("trel::desktop::%1: %2")
+            .arg(QLatin1String(groupClass), QString::fromUtf8(key));
+    };
     static const std::vector<HostMenu> menus = {
         {QStringLiteral("the menu bar"),
-         {QStringLiteral("EditorMenus: &Schedule"), QStringLiteral("EditorMenus: &Programs"),
-          QStringLiteral("EditorMenus: &View"), QStringLiteral("EditorMenus: &Language")}},
+         {entry("EditorMenus", "&Schedule"), entry("EditorMenus", "&Programs"),
+          entry("EditorMenus", "&View"), entry("EditorMenus", "&Language")}},
         {QStringLiteral("the menu \"Schedule\""),
-         {QStringLiteral("EditorMenus: &Edit schedule"),
-          QStringLiteral("EditorMenus: &Open database…"),
-          QStringLiteral("EditorMenus: &Read schedule from a file…"),
-          QStringLiteral("EditorMenus: &Write schedule to a file…"),
-          QStringLiteral("EditorMenus: &Quit")}},
+         {entry("EditorMenus", "&Edit schedule"), entry("EditorMenus", "&Open database…"),
+          entry("EditorMenus", "&Read schedule from a file…"),
+          entry("EditorMenus", "&Write schedule to a file…"), entry("EditorMenus", "&Quit")}},
         {QStringLiteral("the menu \"Programs\""),
-         {QStringLiteral("EditorMenus: &Import files…"),
-          QStringLiteral("EditorMenus: Import &folder…"),
-          QStringLiteral("EditorMenus: &Remove from catalog")}},
+         {entry("EditorMenus", "&Import files…"), entry("EditorMenus", "Import &folder…"),
+          entry("EditorMenus", "&Remove from catalog")}},
         {QStringLiteral("the menu \"View\""),
-         {QStringLiteral("EditorWindow: &Now and next"), QStringLiteral("PreviewDock: &Preview"),
-          QStringLiteral("PreviewDock: &Full-screen preview"),
-          QStringLiteral("EditorWindow: &Clock changes"), QStringLiteral("WeekDock: &Week"),
-          QStringLiteral("EditorMenus: &Dark theme"), QStringLiteral("EditorMenus: &Light theme")}},
+         {entry("EditorWindow", "&Now and next"), entry("PreviewDock", "&Preview"),
+          entry("PreviewDock", "&Full-screen preview"), entry("EditorWindow", "&Clock changes"),
+          entry("WeekDock", "&Week"), entry("EditorMenus", "&Dark theme"),
+          entry("EditorMenus", "&Light theme")}},
     };
     return menus;
 }
+
+} // namespace trel::console

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace trel::console {
+
 /// Every text of the desktop host, as its code has them: in English, without a translation. The
 /// list is drawn from the host's code when this program is built.
 const std::vector<LanguageText>& hostTexts();
@@ -24,3 +26,5 @@ struct HostMenu
     QStringList entries;
 };
 const std::vector<HostMenu>& hostMenus();
+
+} // namespace trel::console

@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+namespace trel::console {
+
 namespace {
 
 using Kind = LanguageFinding::Kind;
@@ -23,7 +25,7 @@ bool belongsToEditor(const LanguageText& text)
 QString placeOf(const LanguageText& text)
 {
     return QStringLiteral("in context %1 with disambiguation %2")
-        .arg(quoted(text.group), quoted(text.context));
+        .arg(inQuotes(text.group), inQuotes(text.context));
 }
 
 /// Holds the texts of one file against what the editor does with them.
@@ -121,7 +123,7 @@ private:
         if (known.room > 0 && width > known.room) {
             add(Kind::TooLong, key,
                 QStringLiteral("%1 takes %2 px of %3")
-                    .arg(quoted(shown), QString::number(width), QString::number(known.room)));
+                    .arg(inQuotes(shown), QString::number(width), QString::number(known.room)));
         }
     }
 
@@ -137,7 +139,7 @@ private:
                 if (keyByText.contains(text)) {
                     add(Kind::Same, key,
                         QStringLiteral("%1, as %2; %3 have to differ")
-                            .arg(quoted(text), keyByText[text], set.name));
+                            .arg(inQuotes(text), keyByText[text], set.name));
                 } else {
                     keyByText.insert(text, key);
                 }
@@ -204,3 +206,5 @@ std::vector<LanguageFinding> checkLanguage(const LanguageTexts& file)
 {
     return Checker(file).check();
 }
+
+} // namespace trel::console

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace trel::console {
+
 /// Something in a language file that its translator should put right.
 struct LanguageFinding
 {
@@ -39,3 +41,5 @@ void sortByKind(std::vector<LanguageFinding>& findings);
 /// Everything to put right in a translator's file of the editor, in the order of the kinds, and
 /// within each in the order of the texts.
 std::vector<LanguageFinding> checkLanguage(const LanguageTexts& file);
+
+} // namespace trel::console

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace trel::console {
+
 /// One text of a language file. The Linguist's names for its parts are context, disambiguation and
 /// source text.
 struct LanguageText
@@ -24,3 +26,5 @@ struct LanguageTexts
     QString language;                ///< As the file names it, such as "de_DE"; may be empty.
     QString error; ///< Why the file cannot be used, as part of a sentence; else empty.
 };
+
+} // namespace trel::console

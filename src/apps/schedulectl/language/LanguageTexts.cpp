@@ -1,10 +1,15 @@
 #include "LanguageTexts.h"
 
-#include "CompiledTexts.h"
+#include "tstranslate/LanguageFile.h"
+#include "tstranslate/Translator.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QXmlStreamReader>
+
+using namespace tessark::trans;
+
+namespace trel::console {
 
 namespace {
 
@@ -100,6 +105,37 @@ private:
     LanguageTexts m_result;
 };
 
+/// Reads a compiled language. A file may leave the names of some texts away where others tell them
+/// apart, and is refused then.
+LanguageTexts readCompiledTexts(const QString& file)
+{
+    LanguageTexts result;
+    const std::optional<LanguageFile> compiled = readLanguageFile(file);
+    // What the editor would not load is not worth a look.
+    if (!compiled || !Translator().load(file)) {
+        result.error = QStringLiteral("is damaged, and the editor would not load it");
+        return result;
+    }
+    result.language = compiled->language;
+    for (const LanguageMessage& message : compiled->messages) {
+        if (!message.hasKey) {
+            result.error =
+                QStringLiteral("does not name all of its texts; its source file (.ts) does");
+            return result;
+        }
+        LanguageText text;
+        text.group = message.group;
+        text.context = message.context;
+        text.key = message.key;
+        // Of the forms of a plural the first is shown where no number is given.
+        text.text = message.forms.first();
+        text.forms = message.forms;
+        text.isPlural = message.forms.size() > 1;
+        result.texts.push_back(text);
+    }
+    return result;
+}
+
 } // namespace
 
 LanguageTexts readLanguageTexts(const QString& file)
@@ -113,10 +149,12 @@ LanguageTexts readLanguageTexts(const QString& file)
         result.error = QStringLiteral("is not a language file");
     } else if (!source.open(QIODevice::ReadOnly)) {
         result.error = QStringLiteral("cannot be read: %1").arg(source.errorString());
-    } else if (isCompiledLanguage(source.peek(kCompiledMagicSize))) {
+    } else if (isLanguageFile(source.peek(kLanguageFileMagicSize))) {
         return readCompiledTexts(file);
     } else {
         return SourceReader(source).read();
     }
     return result;
 }
+
+} // namespace trel::console

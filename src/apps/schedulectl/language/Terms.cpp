@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QLocale>
 
+namespace trel::console {
+
 namespace {
 
 /// Chinese, Japanese and Korean words are not divided, or have endings without a break.
@@ -71,9 +73,11 @@ QString Terms::bannedIn(const QStringList& forms) const
             const QRegularExpressionMatch match = ban.pattern.match(form.remove(QLatin1Char('&')));
             if (match.hasMatch()) {
                 return QStringLiteral("%1 for \"%2\"; the word is %3")
-                    .arg(quoted(match.captured()), ban.thing, quoted(ban.instead));
+                    .arg(inQuotes(match.captured()), ban.thing, inQuotes(ban.instead));
             }
         }
     }
     return QString();
 }
+
+} // namespace trel::console

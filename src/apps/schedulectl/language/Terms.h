@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace trel::console {
+
 /// The words that are not to be used in a language, since another one stands for the thing. They
 /// come from docs/terms.md, which is built in.
 class Terms
@@ -27,3 +29,5 @@ private:
     };
     std::vector<Ban> m_bans;
 };
+
+} // namespace trel::console

@@ -12,6 +12,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::console {
+
 namespace {
 
 constexpr int kTaskItself = -1;
@@ -73,7 +75,7 @@ public:
     }
 
 private:
-    static QString shown(const std::string& text) { return quoted(QString::fromStdString(text)); }
+    static QString shown(const std::string& text) { return inQuotes(QString::fromStdString(text)); }
 
     bool expectDate(const QString& field, const std::string& text)
     {
@@ -140,8 +142,8 @@ private:
 
     static QString faultText(PlanFault fault, const PlayPlan& plan)
     {
-        QString text = PlanFaultText::sentence(fault, plan.id, printable(plan.startTime),
-                                               printable(plan.endTime));
+        QString text = hosts::PlanFaultText::sentence(fault, plan.id, printable(plan.startTime),
+                                                      printable(plan.endTime));
         // Remarks are no sentences of their own.
         text.chop(1);
         return text;
@@ -190,3 +192,5 @@ ScheduleCheck checkSchedule(const std::map<int, PlayTask>& tasks, const Catalogu
     }
     return check;
 }
+
+} // namespace trel::console

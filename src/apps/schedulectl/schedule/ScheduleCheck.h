@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+namespace trel::console {
+
 /// A plan as it takes effect.
 struct PlanState
 {
@@ -61,3 +63,5 @@ std::vector<PlanState> planStates(const std::vector<trel::mediadispatch::PlayPla
 /// Looks at a whole schedule: what a save would refuse, which plans collide, and what else is odd.
 ScheduleCheck checkSchedule(const std::map<int, trel::mediadispatch::PlayTask>& tasks,
                             const Catalogue& catalogue);
+
+} // namespace trel::console

@@ -7,6 +7,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::console {
+
 namespace {
 
 using Tasks = std::map<int, PlayTask>;
@@ -259,3 +261,5 @@ QString sizeText(const Tasks& tasks)
         .arg(counted(static_cast<qint64>(tasks.size()), QStringLiteral("task")),
              counted(plans, QStringLiteral("plan")));
 }
+
+} // namespace trel::console

@@ -8,6 +8,8 @@
 
 #include <map>
 
+namespace trel::console {
+
 /// A schedule and what a check found in it, for people and for programs. Rows count from 1 here, as
 /// people count them.
 
@@ -23,3 +25,5 @@ QJsonObject checkJson(const ScheduleCheck& check,
 
 /// "3 tasks with 7 plans"
 QString sizeText(const std::map<int, trel::mediadispatch::PlayTask>& tasks);
+
+} // namespace trel::console

@@ -9,6 +9,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::console {
+
 QString dayText(int day)
 {
     switch (day) {
@@ -112,3 +114,5 @@ QString periodText(const PlayTask& task)
 {
     return QStringLiteral("%1 \u2013 %2").arg(printable(task.startDate), printable(task.endDate));
 }
+
+} // namespace trel::console

@@ -7,6 +7,8 @@
 #include <map>
 #include <vector>
 
+namespace trel::console {
+
 /// The words that stand for the numbers of a record, for people to read.
 
 /// The days of a `weeks` text, such as "Mon,Wed" or "every day", in their order.
@@ -33,3 +35,5 @@ QString entryText(const trel::mediadispatch::struProgInfo& entry,
 
 /// The two dates of a task's period.
 QString periodText(const trel::mediadispatch::PlayTask& task);
+
+} // namespace trel::console

@@ -4,6 +4,8 @@
 
 #include <QTime>
 
+namespace trel::console {
+
 using trel::mediadispatch::Instant;
 using trel::mediadispatch::MomentFormat;
 
@@ -48,7 +50,7 @@ public:
     QString error() const
     {
         return QStringLiteral("%1 is no moment: at character %2 there should be %3.")
-            .arg(quoted(m_text), QString::number(m_place + 1), m_expected);
+            .arg(inQuotes(m_text), QString::number(m_place + 1), m_expected);
     }
 
 private:
@@ -203,14 +205,14 @@ private:
 QString leftOutRemark(const QString& text, const MomentFormat& local, Instant taken)
 {
     return QStringLiteral("Local time leaves %1 out, since the clock is put forward; %2 was taken.")
-        .arg(quoted(text), local.text(taken));
+        .arg(inQuotes(text), local.text(taken));
 }
 
 QString twiceRemark(const QString& text, const MomentFormat& local, Instant taken, Instant second)
 {
     return QStringLiteral("Local time has %1 twice, since the clock is put back; %2 was taken, and "
                           "%3 is the other.")
-        .arg(quoted(text), local.text(taken), local.text(second));
+        .arg(inQuotes(text), local.text(taken), local.text(second));
 }
 
 } // namespace
@@ -242,3 +244,5 @@ MomentReading readMoment(const QString& text, const MomentFormat& local, const Q
     }
     return reading;
 }
+
+} // namespace trel::console

@@ -7,6 +7,8 @@
 
 #include <optional>
 
+namespace trel::console {
+
 /// What a text of the command line says about a point in time.
 struct MomentReading
 {
@@ -30,3 +32,5 @@ enum class DateAlone {
 /// twice as the first of the two. Anything else in the text is an error.
 MomentReading readMoment(const QString& text, const trel::mediadispatch::MomentFormat& local,
                          const QDate& today, DateAlone dateAlone);
+
+} // namespace trel::console

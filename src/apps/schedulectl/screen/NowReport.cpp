@@ -4,6 +4,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::console {
+
 namespace {
 
 /// Lines with a name in front, the values below each other.
@@ -22,13 +24,13 @@ private:
     QString m_text;
 };
 
-const ProgramIten* shownProgram(const ScreenState& state, const ScreenWords& words)
+const ProgramIten* shownProgram(const ScreenState& state, const ScreenReport& words)
 {
     const auto found = words.source().programs.find(state.progIndex);
     return found == words.source().programs.end() ? nullptr : &found->second;
 }
 
-QString positionText(const ScreenState& state, const ScreenWords& words)
+QString positionText(const ScreenState& state, const ScreenReport& words)
 {
     const QString position = durationText(static_cast<double>(state.position));
     const ProgramIten* const program = shownProgram(state, words);
@@ -44,7 +46,7 @@ QString countText(qint64 number, qint64 total)
                           : QString::number(number + 1);
 }
 
-QString entryText(const ScreenState& state, const ScreenWords& words)
+QString entryText(const ScreenState& state, const ScreenReport& words)
 {
     const PlayPlan* const plan = state.isInserted() ? nullptr : words.plan(state);
     const auto row = static_cast<std::size_t>(state.entry);
@@ -55,7 +57,7 @@ QString entryText(const ScreenState& state, const ScreenWords& words)
              countText(state.run, isKnown && plan->mode != TimeMode ? plan->times : 0));
 }
 
-QString nextProgramText(const Upcoming& next, Instant moment, const ScreenWords& words)
+QString nextProgramText(const Upcoming& next, Instant moment, const ScreenReport& words)
 {
     return next.program ? QStringLiteral("%1, %2").arg(
                               words.source().local.text(next.program->since, moment),
@@ -63,16 +65,16 @@ QString nextProgramText(const Upcoming& next, Instant moment, const ScreenWords&
                         : QStringLiteral("none");
 }
 
-QString nextPlanText(const Upcoming& next, Instant moment, const ScreenWords& words)
+QString nextPlanText(const Upcoming& next, Instant moment, const ScreenReport& words)
 {
     return next.plan ? QStringLiteral("%1, %2").arg(
                            words.source().local.text(next.plan->since, moment),
-                           ScreenWords::planText(next.plan->taskId, next.plan->planRow,
-                                                 next.plan->planId))
+                           ScreenReport::planText(next.plan->taskId, next.plan->planRow,
+                                                  next.plan->planId))
                      : QStringLiteral("none");
 }
 
-QJsonValue optionalJson(const std::optional<ScreenState>& state, const ScreenWords& words)
+QJsonValue optionalJson(const std::optional<ScreenState>& state, const ScreenReport& words)
 {
     return state ? QJsonValue(words.json(*state)) : QJsonValue(QJsonValue::Null);
 }
@@ -80,7 +82,7 @@ QJsonValue optionalJson(const std::optional<ScreenState>& state, const ScreenWor
 } // namespace
 
 QString nowText(Instant moment, const ScreenState& state, const Upcoming& next,
-                const ScreenWords& words)
+                const ScreenReport& words)
 {
     const MomentFormat& local = words.source().local;
     NamedLines lines;
@@ -92,7 +94,7 @@ QString nowText(Instant moment, const ScreenState& state, const Upcoming& next,
     }
     if (state.taskId >= 0) {
         lines.add(QStringLiteral("Plan"),
-                  ScreenWords::planText(state.taskId, state.planRow, state.planId));
+                  ScreenReport::planText(state.taskId, state.planRow, state.planId));
     }
     if (isDated(state.since)) {
         lines.add(QStringLiteral("Since"), local.text(state.since, moment));
@@ -108,7 +110,7 @@ QString nowText(Instant moment, const ScreenState& state, const Upcoming& next,
 }
 
 QJsonObject nowJson(Instant moment, const ScreenState& state, const Upcoming& next,
-                    const ScreenWords& words)
+                    const ScreenReport& words)
 {
     QJsonObject now = words.json(state);
     now.insert(QStringLiteral("why"), words.reasonText(state));
@@ -119,3 +121,5 @@ QJsonObject nowJson(Instant moment, const ScreenState& state, const Upcoming& ne
         {QStringLiteral("nextPlan"), optionalJson(next.plan, words)},
     };
 }
+
+} // namespace trel::console

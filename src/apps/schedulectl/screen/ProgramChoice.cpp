@@ -4,6 +4,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::console {
+
 ProgramChoice::ProgramChoice(const Database& database, const std::map<int, PlayTask>& tasks,
                              const std::map<int, ProgramIten>& programs)
     : m_database(database)
@@ -52,3 +54,5 @@ QString ProgramChoice::name(int progIndex) const
     const auto found = m_names.find(progIndex);
     return found == m_names.end() ? m_database.programName(progIndex) : found->second;
 }
+
+} // namespace trel::console

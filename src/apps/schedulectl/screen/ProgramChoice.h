@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+namespace trel::console {
+
 class Database;
 
 /// The programs that a word of the command line may mean: those of the catalogue, and those that
@@ -29,3 +31,5 @@ private:
     const Database& m_database;
     std::map<int, QString> m_names;
 };
+
+} // namespace trel::console

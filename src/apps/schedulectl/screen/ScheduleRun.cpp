@@ -14,6 +14,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::console {
+
 namespace {
 
 /// How long another program is left alone that is about to commit.
@@ -37,7 +39,7 @@ ScheduleRun::ScheduleRun(const Database& database, bool json, Console& console)
     , m_console(console)
     , m_watch(database.path())
 {
-    connect(&m_signals, &StopSignals::stopped, &m_loop, &QEventLoop::quit);
+    connect(&m_signals, &hosts::StopSignals::stopped, &m_loop, &QEventLoop::quit);
     connect(&m_watch, &StoreWatch::written, this, &ScheduleRun::takeOver);
     m_nextLook.setSingleShot(true);
     connect(&m_nextLook, &QTimer::timeout, this, &ScheduleRun::takeOver);
@@ -124,7 +126,7 @@ void ScheduleRun::write(const ScreenState& state)
     const Instant moment = momentOf(state);
     m_last = state;
     const MomentFormat local(Clock::current().zone());
-    const ScreenWords words({m_database.host().dispatch().tasks(), *m_programs, local});
+    const ScreenReport words({m_database.host().dispatch().tasks(), *m_programs, local});
     if (m_json) {
         QJsonObject object = words.json(state);
         object.insert(QStringLiteral("moment"), words.jsonMoment(moment));
@@ -149,3 +151,5 @@ Instant ScheduleRun::momentOf(const ScreenState& state) const
     const bool isEvent = m_last && state.since <= now && state.since > now - onTime;
     return isEvent ? state.since : now;
 }
+
+} // namespace trel::console

@@ -2,7 +2,7 @@
 
 #include "Command.h"
 #include "Database.h"
-#include "ScreenWords.h"
+#include "ScreenReport.h"
 #include "StoreWatch.h"
 #include "common/StopSignals.h"
 
@@ -13,6 +13,8 @@
 
 #include <map>
 #include <optional>
+
+namespace trel::console {
 
 class Console;
 
@@ -41,10 +43,12 @@ private:
     bool m_json;
     Console& m_console;
     QEventLoop m_loop;
-    StopSignals m_signals;
+    hosts::StopSignals m_signals;
     StoreWatch m_watch;
     QTimer m_nextLook; ///< At a store that cannot be read just now.
     QString m_loss;    ///< Why the store cannot be read; told once, and empty when it can.
     std::optional<std::map<int, trel::mediadispatch::ProgramIten>> m_programs;
     std::optional<trel::mediadispatch::ScreenState> m_last;
 };
+
+} // namespace trel::console

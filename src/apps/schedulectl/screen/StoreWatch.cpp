@@ -6,6 +6,8 @@
 
 #include <sys/stat.h>
 
+namespace trel::console {
+
 namespace {
 
 /// A save is several writes; this is how long they are gathered.
@@ -52,3 +54,5 @@ StoreWatch::Identities StoreWatch::identities() const
     }
     return identities;
 }
+
+} // namespace trel::console

@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+namespace trel::console {
+
 /// Notices that somebody writes into a store that is open here, or takes it away. Sleeps until the
 /// system tells of a change of the database or of its log, where every commit goes first.
 class StoreWatch : public QObject
@@ -41,3 +43,5 @@ private:
     QTimer m_pause;
     bool m_isWatching = false;
 };
+
+} // namespace trel::console

@@ -1,9 +1,12 @@
 #include "StoredScreen.h"
 
 #include "clock/Clock.h"
+#include "common/ZoneError.h"
 #include "text/Console.h"
 
 using namespace trel::mediadispatch;
+
+namespace trel::console {
 
 StoredScreen::StoredScreen(const Database& database, const MomentFormat& local)
     : m_tasks(database.tasks())
@@ -27,3 +30,31 @@ std::optional<Instant> momentOption(const Invocation& invocation, const char* op
     }
     return reading.instant;
 }
+
+bool knowsLocalTime(Console& console)
+{
+    const QString error = hosts::ZoneError::sentence();
+    if (!error.isEmpty()) {
+        console.tell(error);
+    }
+    return error.isEmpty();
+}
+
+ExitStatus atMoment(const Invocation& invocation, Console& console, const ScreenWork& work)
+{
+    if (!knowsLocalTime(console)) {
+        return Refused;
+    }
+    const MomentFormat local(Clock::current().zone());
+    const auto moment = momentOption(invocation, "--at", local, DateAlone::Refused, console);
+    if (!moment) {
+        return Misused;
+    }
+    const auto database = openDatabase(invocation, Database::Access::Read, console);
+    if (!database) {
+        return Refused;
+    }
+    return work(*database, StoredScreen(*database, local), *moment);
+}
+
+} // namespace trel::console

@@ -8,6 +8,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::console {
+
 namespace {
 
 /// Widths of the columns. Texts that are longer push the rest of their line to the right, for the
@@ -28,7 +30,7 @@ QString countText(qint64 number)
 
 } // namespace
 
-TimelineReport::TimelineReport(Console& console, const ScreenWords& words, Lines lines)
+TimelineReport::TimelineReport(Console& console, const ScreenReport& words, Lines lines)
     : m_console(console)
     , m_words(words)
     , m_lines(lines)
@@ -96,7 +98,7 @@ QString TimelineReport::listText(const ScreenState& state)
     return place->second;
 }
 
-TimelineJson::TimelineJson(Console& console, const ScreenWords& words, TimelineReport::Lines lines)
+TimelineJson::TimelineJson(Console& console, const ScreenReport& words, TimelineReport::Lines lines)
     : m_console(console)
     , m_words(words)
     , m_lines(lines)
@@ -125,3 +127,5 @@ void TimelineJson::end()
 {
     m_console.writeJson(m_isFirst ? QByteArray("]\n}\n") : QByteArray("\n    ]\n}\n"));
 }
+
+} // namespace trel::console

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ScreenWords.h"
+#include "ScreenReport.h"
 
 #include <QByteArray>
 #include <QString>
@@ -8,6 +8,8 @@
 #include <map>
 #include <optional>
 #include <utility>
+
+namespace trel::console {
 
 class Console;
 
@@ -20,7 +22,7 @@ public:
         Plays, ///< One for each play of a program, and for each picture between.
     };
 
-    TimelineReport(Console& console, const ScreenWords& words, Lines lines);
+    TimelineReport(Console& console, const ScreenReport& words, Lines lines);
 
     void writeTitles();
     /// `after` is what the screen shows once the list of a span is over, if that comes within it.
@@ -33,7 +35,7 @@ private:
                         const std::optional<trel::mediadispatch::ScreenState>& after);
 
     Console& m_console;
-    const ScreenWords& m_words;
+    const ScreenReport& m_words;
     Lines m_lines;
     std::map<std::pair<int, int>, QString> m_lists; ///< By task and row.
 };
@@ -42,7 +44,7 @@ private:
 class TimelineJson
 {
 public:
-    TimelineJson(Console& console, const ScreenWords& words, TimelineReport::Lines lines);
+    TimelineJson(Console& console, const ScreenReport& words, TimelineReport::Lines lines);
 
     /// Begins with the members that stand before the list.
     void begin(const QJsonObject& head, const QString& listName);
@@ -52,7 +54,9 @@ public:
 
 private:
     Console& m_console;
-    const ScreenWords& m_words;
+    const ScreenReport& m_words;
     TimelineReport::Lines m_lines;
     bool m_isFirst = true;
 };
+
+} // namespace trel::console

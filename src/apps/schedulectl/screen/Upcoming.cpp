@@ -2,6 +2,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::console {
+
 namespace {
 
 bool isOfPlan(const ScreenState& state)
@@ -38,3 +40,5 @@ Upcoming upcoming(const ScreenTimeline& timeline, const ScreenState& now)
     const SoughtPlay another = {now.isPlaying() ? now.progIndex : noProgram, true};
     return {timeline.nextPlay(now.until, kNever, {}, another), nextPlan(timeline, now.spanUntil)};
 }
+
+} // namespace trel::console

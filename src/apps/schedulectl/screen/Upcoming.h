@@ -4,6 +4,8 @@
 
 #include <optional>
 
+namespace trel::console {
+
 /// What comes behind what is on screen.
 struct Upcoming
 {
@@ -16,3 +18,5 @@ struct Upcoming
 /// Looks ahead from a state of the timeline, as far as its tasks reach.
 Upcoming upcoming(const trel::mediadispatch::ScreenTimeline& timeline,
                   const trel::mediadispatch::ScreenState& now);
+
+} // namespace trel::console

@@ -10,6 +10,8 @@
 
 using namespace trel::mediadispatch;
 
+namespace trel::console {
+
 namespace {
 
 QString ruleName(VerdictRule rule)
@@ -64,7 +66,7 @@ class PlanSentence
 {
 public:
     PlanSentence(const PlanVerdict& verdict, const VerdictSubject& subject,
-                 const ScreenWords& words)
+                 const ScreenReport& words)
         : m_verdict(verdict)
         , m_screen(subject.verdict.screen)
         , m_progIndex(subject.progIndex)
@@ -140,7 +142,7 @@ private:
 
     QString faultText(PlanFault fault) const
     {
-        return PlanFaultText::sentence(fault, m_verdict.planId, start(), end());
+        return hosts::PlanFaultText::sentence(fault, m_verdict.planId, start(), end());
     }
 
     QString periodSentence() const
@@ -150,7 +152,7 @@ private:
         const auto unreadable = [](const QString& name, const std::string& date) {
             return QStringLiteral("The task is never valid: its %1 date, %2, is not a date in the "
                                   "form %3.")
-                .arg(name, quoted(QString::fromStdString(date)), kDateFormat);
+                .arg(name, inQuotes(QString::fromStdString(date)), kDateFormat);
         };
         if (!first.isValid()) {
             return unreadable(QStringLiteral("start"), m_task.startDate);
@@ -184,20 +186,20 @@ private:
     QString span() const { return QStringLiteral("%1 \u2013 %2").arg(start(), end()); }
     QString otherPlan() const
     {
-        return ScreenWords::planText(m_verdict.otherTaskId, m_verdict.otherRow,
-                                     m_verdict.otherPlanId);
+        return ScreenReport::planText(m_verdict.otherTaskId, m_verdict.otherRow,
+                                      m_verdict.otherPlanId);
     }
 
     const PlanVerdict& m_verdict;
     const ScreenState& m_screen;
     int m_progIndex;
     Instant m_moment;
-    const ScreenWords& m_words;
+    const ScreenReport& m_words;
     const PlayTask& m_task;
     const PlayPlan& m_plan;
 };
 
-QString standingText(const VerdictSubject& subject, const ScreenWords& words)
+QString standingText(const VerdictSubject& subject, const ScreenReport& words)
 {
     const auto found = words.source().programs.find(subject.progIndex);
     if (found == words.source().programs.end()) {
@@ -209,7 +211,7 @@ QString standingText(const VerdictSubject& subject, const ScreenWords& words)
 }
 
 QJsonObject planJson(const PlanVerdict& plan, const VerdictSubject& subject,
-                     const ScreenWords& words)
+                     const ScreenReport& words)
 {
     const auto orNull = [](int number) {
         return number < 0 ? QJsonValue(QJsonValue::Null) : QJsonValue(number);
@@ -232,7 +234,7 @@ QJsonObject planJson(const PlanVerdict& plan, const VerdictSubject& subject,
     };
 }
 
-QJsonObject programJson(const VerdictSubject& subject, const ScreenWords& words)
+QJsonObject programJson(const VerdictSubject& subject, const ScreenReport& words)
 {
     const auto found = words.source().programs.find(subject.progIndex);
     const bool isKnown = found != words.source().programs.end();
@@ -246,7 +248,7 @@ QJsonObject programJson(const VerdictSubject& subject, const ScreenWords& words)
 
 } // namespace
 
-QString verdictText(const VerdictSubject& subject, const ScreenWords& words)
+QString verdictText(const VerdictSubject& subject, const ScreenReport& words)
 {
     const ScreenState& screen = subject.verdict.screen;
     const bool plays = subject.verdict.plays();
@@ -261,7 +263,7 @@ QString verdictText(const VerdictSubject& subject, const ScreenWords& words)
     for (const PlanVerdict& plan : subject.verdict.plans) {
         text += QStringLiteral("  %1%2: %3\n")
                     .arg(plan.isInsertion ? QStringLiteral("insertion for ") : QString(),
-                         ScreenWords::planText(plan.taskId, plan.planRow, plan.planId),
+                         ScreenReport::planText(plan.taskId, plan.planRow, plan.planId),
                          PlanSentence(plan, subject, words).text());
     }
     return text +
@@ -271,7 +273,7 @@ QString verdictText(const VerdictSubject& subject, const ScreenWords& words)
                     words.reasonText(screen));
 }
 
-QJsonObject verdictJson(const VerdictSubject& subject, const ScreenWords& words)
+QJsonObject verdictJson(const VerdictSubject& subject, const ScreenReport& words)
 {
     QJsonArray plans;
     for (const PlanVerdict& plan : subject.verdict.plans) {
@@ -287,3 +289,5 @@ QJsonObject verdictJson(const VerdictSubject& subject, const ScreenWords& words)
         {QStringLiteral("now"), screen},
     };
 }
+
+} // namespace trel::console

@@ -1,10 +1,12 @@
 #pragma once
 
-#include "ScreenWords.h"
+#include "ScreenReport.h"
 #include "trelprogramschedule/dispatch/ProgramVerdict.h"
 
 #include <QJsonObject>
 #include <QString>
+
+namespace trel::console {
 
 /// A program at a moment, and what was found out about it.
 struct VerdictSubject
@@ -17,5 +19,7 @@ struct VerdictSubject
 
 /// Why a program plays, or which rules keep it from the screen, for people and for programs.
 
-QString verdictText(const VerdictSubject& subject, const ScreenWords& words);
-QJsonObject verdictJson(const VerdictSubject& subject, const ScreenWords& words);
+QString verdictText(const VerdictSubject& subject, const ScreenReport& words);
+QJsonObject verdictJson(const VerdictSubject& subject, const ScreenReport& words);
+
+} // namespace trel::console

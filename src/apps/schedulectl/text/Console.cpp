@@ -11,6 +11,8 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+namespace trel::console {
+
 namespace {
 
 constexpr int kUsualColumns = 80;
@@ -113,3 +115,5 @@ void Console::clearProgress()
         m_showsProgress = false;
     }
 }
+
+} // namespace trel::console

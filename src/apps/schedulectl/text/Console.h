@@ -4,6 +4,8 @@
 #include <QJsonObject>
 #include <QString>
 
+namespace trel::console {
+
 /// The terminal or the pipes that the program talks to, in UTF-8 whatever the locale says. Results
 /// go to the standard output, everything else to the standard error.
 class Console
@@ -51,3 +53,5 @@ private:
     bool m_showsProgress = false;
     bool m_hasFailed = false;
 };
+
+} // namespace trel::console

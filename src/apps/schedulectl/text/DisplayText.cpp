@@ -7,6 +7,8 @@
 #include <cmath>
 #include <iterator>
 
+namespace trel::console {
+
 namespace {
 
 struct Range
@@ -161,7 +163,7 @@ QString printable(const std::string& utf8)
     return printable(QString::fromStdString(utf8));
 }
 
-QString quoted(const QString& text)
+QString inQuotes(const QString& text)
 {
     return QStringLiteral("\"%1\"").arg(printable(text));
 }
@@ -212,3 +214,5 @@ QString counted(qint64 number, const QString& noun)
     const QString ending = number == 1 ? QString() : QStringLiteral("s");
     return QStringLiteral("%1 %2%3").arg(QString::number(number), noun, ending);
 }
+
+} // namespace trel::console

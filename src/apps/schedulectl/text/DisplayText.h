@@ -5,6 +5,8 @@
 
 #include <string>
 
+namespace trel::console {
+
 /// How many columns of a terminal a text takes: two for each wide character, none for those that
 /// stand on the one before.
 int displayWidth(const QString& text);
@@ -26,7 +28,7 @@ QString escapedLines(const QString& lines);
 QByteArray printableJson(const QByteArray& json);
 
 /// A printable text in quotation marks.
-QString quoted(const QString& text);
+QString inQuotes(const QString& text);
 
 /// A printable text of at most so many columns, with an ellipsis in the place of its middle.
 QString shortened(const QString& text, int columns);
@@ -36,3 +38,5 @@ QString durationText(double milliseconds);
 
 /// A number with its noun: "1 task", "3 tasks".
 QString counted(qint64 number, const QString& noun);
+
+} // namespace trel::console

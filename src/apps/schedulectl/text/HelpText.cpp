@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace trel::console {
+
 namespace {
 
 QString text(std::string_view latin)
@@ -41,7 +43,7 @@ QString databaseOption()
     return option("--database FILE",
                   hanging(QStringLiteral("The database to work on; defaults to the editor's "
                                          "own:\n") +
-                          defaultDatabasePath()));
+                          hosts::defaultDatabasePath()));
 }
 
 QString jsonOption()
@@ -110,3 +112,5 @@ QString helpHint(const Command* command)
                ? QStringLiteral("Try \"schedulectl --help\".")
                : QStringLiteral("Try \"schedulectl %1 --help\".").arg(text(command->name));
 }
+
+} // namespace trel::console

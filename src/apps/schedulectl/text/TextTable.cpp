@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace trel::console {
+
 namespace {
 
 constexpr int kGap = 2;
@@ -82,3 +84,5 @@ QStringList TextTable::titles() const
     }
     return all;
 }
+
+} // namespace trel::console

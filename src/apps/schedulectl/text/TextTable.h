@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace trel::console {
+
 /// A table for a terminal: a line of titles and a line for each row, columns aligned by what the
 /// terminal shows. Cells are expected to be printable.
 class TextTable
@@ -37,3 +39,5 @@ private:
     std::vector<Column> m_columns;
     std::vector<QStringList> m_rows;
 };
+
+} // namespace trel::console

@@ -2,6 +2,8 @@
 
 #include <array>
 
+namespace trel::console {
+
 namespace {
 
 constexpr int kEm = 1000; ///< The unit of the tables is a part of the em.
@@ -88,3 +90,5 @@ int textWidth(const QString& text)
     }
     return (width * kPixelSize + kEm - 1) / kEm;
 }
+
+} // namespace trel::console

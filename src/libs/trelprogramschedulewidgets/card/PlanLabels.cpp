@@ -25,7 +25,7 @@ QString modeText(int mode)
     return scheduleText(mode == TimeMode ? "zhTimeStr" : "zhfrequencyStr");
 }
 
-QString endActionText(int endAction)
+QString endActionLabel(int endAction)
 {
     return scheduleText(endAction == BlackScreen ? "zhBlackScreen" : "zhFreezeCurrentFrame");
 }

@@ -12,7 +12,7 @@ namespace trel::mediadispatch {
 /// The label of a PlanMode; every value but TimeMode reads as FrequencyMode.
 QString modeText(int mode);
 /// The label of a PlanEndAction; every value but BlackScreen reads as FreezeCurrentFrame.
-QString endActionText(int endAction);
+QString endActionLabel(int endAction);
 
 /// The label of a day number; that of EveryDay for a number outside 0 to 7.
 QString weekdayText(int number);

@@ -18,7 +18,7 @@ PlanRowTexts::PlanRowTexts(Use use)
     , date(scheduleText("szDateStr"))
     , endAction(scheduleText("zhEndActionStr"))
     , modes{modeText(TimeMode), modeText(FrequencyMode)}
-    , endActions{endActionText(BlackScreen), endActionText(FreezeCurrentFrame)}
+    , endActions{endActionLabel(BlackScreen), endActionLabel(FreezeCurrentFrame)}
     , copy(scheduleText("zhCreateCopy"))
     , remove(scheduleText("szDeleteStr"))
     , choosePrograms(scheduleText("zhSelectProgramsStr"))

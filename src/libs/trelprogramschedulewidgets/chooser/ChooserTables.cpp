@@ -79,7 +79,7 @@ SHeaderView* setUpProgramTable(QTableView* table, CustomTableModel* model)
     return header;
 }
 
-SHeaderView* setUpPlanTable(QTableView* table, CustomTableModel* model)
+SHeaderView* setUpChoiceTable(QTableView* table, CustomTableModel* model)
 {
     // The hidden columns come into being with the first row.
     model->setColumnCount(ChoiceVisibleColumnCount);

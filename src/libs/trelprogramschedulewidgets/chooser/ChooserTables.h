@@ -11,6 +11,6 @@ class SHeaderView;
 /// model is empty. Returns the header, which belongs to the view as the delegates do.
 SHeaderView* setUpProgramTable(QTableView* table, CustomTableModel* model);
 /// As setUpProgramTable, for the right table.
-SHeaderView* setUpPlanTable(QTableView* table, CustomTableModel* model);
+SHeaderView* setUpChoiceTable(QTableView* table, CustomTableModel* model);
 
 } // namespace trel::mediadispatch

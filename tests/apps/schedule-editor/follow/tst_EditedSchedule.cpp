@@ -11,8 +11,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-using namespace follow;
+using namespace trel::desktop::follow;
 using namespace trel::mediadispatch;
+using namespace trel::desktop;
 
 namespace {
 

@@ -10,7 +10,8 @@
 
 #include <atomic>
 
-using namespace follow;
+using namespace trel::desktop::follow;
+using namespace trel::desktop;
 
 /// Work in another thread of which the newest alone counts.
 class tst_NewestWork : public QObject

@@ -7,8 +7,9 @@
 
 #include <random>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
-using namespace week;
+using namespace trel::desktop::week;
 
 namespace {
 

@@ -35,7 +35,7 @@ inline trel::mediadispatch::ProgramIten program(int index, const char* name, dou
     return item;
 }
 
-inline week::WeekSchedule::Catalogue catalogue()
+inline trel::desktop::week::WeekSchedule::Catalogue catalogue()
 {
     using trel::mediadispatch::ProgramKind;
     return {{1, program(1, "City news", 90000, ProgramKind::Video)},
@@ -43,7 +43,7 @@ inline week::WeekSchedule::Catalogue catalogue()
             {3, program(3, "Logo", -1, ProgramKind::Image)}};
 }
 
-inline std::shared_ptr<const week::WeekSchedule>
+inline std::shared_ptr<const trel::desktop::week::WeekSchedule>
 scheduleOf(std::vector<trel::mediadispatch::PlayPlan> plans)
 {
     for (trel::mediadispatch::PlayPlan& plan : plans) {
@@ -51,8 +51,8 @@ scheduleOf(std::vector<trel::mediadispatch::PlayPlan> plans)
             plan.programs = {entry(1), entry(2)};
         }
     }
-    return std::make_shared<week::WeekSchedule>(
-        week::WeekSchedule::Tasks{{1, taskWithPlans(std::move(plans))}}, catalogue(),
+    return std::make_shared<trel::desktop::week::WeekSchedule>(
+        trel::desktop::week::WeekSchedule::Tasks{{1, taskWithPlans(std::move(plans))}}, catalogue(),
         trel::mediadispatch::ScreenInsertions(), berlin());
 }
 
@@ -100,7 +100,7 @@ private:
 
 public:
     TestClock clock;
-    week::WeekView view;
+    trel::desktop::week::WeekView view;
 };
 
 } // namespace weekfixture

@@ -4,7 +4,8 @@
 #include <QElapsedTimer>
 #include <QtTest>
 
-using namespace week;
+using namespace trel::desktop::week;
+using namespace trel::desktop;
 
 /// Which plan has the screen when, and where the claims stand that have it not.
 class tst_DayPieces : public QObject

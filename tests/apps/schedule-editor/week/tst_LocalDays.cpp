@@ -4,8 +4,9 @@
 #include <QDateTime>
 #include <QtTest>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
-using namespace week;
+using namespace trel::desktop::week;
 
 /// How instants lie on the wall clocks of some days.
 class tst_LocalDays : public QObject

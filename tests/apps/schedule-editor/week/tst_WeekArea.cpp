@@ -5,8 +5,9 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
-using namespace week;
+using namespace trel::desktop::week;
 using namespace weekfixture;
 
 /// How high hours are, and which of them are in sight.

@@ -5,8 +5,9 @@
 
 #include <QtTest>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
-using namespace week;
+using namespace trel::desktop::week;
 
 /// What stands on which day of a week, and in what state.
 class tst_WeekLayout : public QObject

@@ -4,8 +4,9 @@
 #include "week/WeekStrip.h"
 
 #include <QApplication>
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
-using namespace week;
+using namespace trel::desktop::week;
 using namespace weekfixture;
 
 /// The picture to the dot, and what of a text is drawn where there is little room.

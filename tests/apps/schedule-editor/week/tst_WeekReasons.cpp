@@ -5,8 +5,9 @@
 #include "week/WeekReasons.h"
 
 #include <QApplication>
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
-using namespace week;
+using namespace trel::desktop::week;
 using namespace weekfixture;
 
 /// What the picture says about a moment and a plan, without the picture.

@@ -5,8 +5,9 @@
 #include <QSignalSpy>
 #include <QToolTip>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
-using namespace week;
+using namespace trel::desktop::week;
 using namespace weekfixture;
 
 /// The picture under an operator's hands: wheel, keys, mouse, tool tips.

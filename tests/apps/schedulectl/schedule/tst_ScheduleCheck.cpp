@@ -3,6 +3,7 @@
 
 #include <QtTest>
 
+using namespace trel::console;
 using namespace trel::mediadispatch;
 
 namespace {

@@ -3,6 +3,8 @@
 
 #include <QtTest>
 
+using namespace trel::console;
+
 using trel::mediadispatch::isDated;
 using trel::mediadispatch::kNever;
 using trel::mediadispatch::MomentFormat;

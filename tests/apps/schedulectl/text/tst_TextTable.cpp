@@ -4,6 +4,8 @@
 
 #include <QtTest>
 
+using namespace trel::console;
+
 class tst_TextTable : public QObject
 {
     Q_OBJECT

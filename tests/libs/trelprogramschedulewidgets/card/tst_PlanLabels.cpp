@@ -35,9 +35,9 @@ void tst_PlanLabels::modes()
 
 void tst_PlanLabels::endActions()
 {
-    QCOMPARE(endActionText(BlackScreen), QStringLiteral("zhBlackScreen"));
-    QCOMPARE(endActionText(FreezeCurrentFrame), QStringLiteral("zhFreezeCurrentFrame"));
-    QCOMPARE(endActionText(2), QStringLiteral("zhFreezeCurrentFrame"));
+    QCOMPARE(endActionLabel(BlackScreen), QStringLiteral("zhBlackScreen"));
+    QCOMPARE(endActionLabel(FreezeCurrentFrame), QStringLiteral("zhFreezeCurrentFrame"));
+    QCOMPARE(endActionLabel(2), QStringLiteral("zhFreezeCurrentFrame"));
 }
 
 void tst_PlanLabels::days_data()

@@ -67,7 +67,7 @@ void tst_ChooserTables::theHeadersHaveFixedSections()
     offerTable.resize(400, 300);
     choiceTable.resize(400, 300);
     const SHeaderView* const offerHeader = setUpProgramTable(&offerTable, &offers);
-    const SHeaderView* const choiceHeader = setUpPlanTable(&choiceTable, &choices);
+    const SHeaderView* const choiceHeader = setUpChoiceTable(&choiceTable, &choices);
     offerTable.show();
     choiceTable.show();
     QCOMPARE(offerTable.horizontalHeader(), offerHeader);
@@ -91,7 +91,7 @@ void tst_ChooserTables::aModelIsConnectedOnce()
 
     WatchedModel choices;
     QTableView choiceTable;
-    setUpPlanTable(&choiceTable, &choices);
+    setUpChoiceTable(&choiceTable, &choices);
     QCOMPARE(choices.connections, plainConnections(ChoiceVisibleColumnCount));
 }
 

@@ -9,6 +9,8 @@
 
 #include <map>
 
+namespace trel::console {
+
 /// The schedule and the clock that words about a screen are taken from. All of them have to live
 /// on.
 struct ScreenSource
@@ -20,10 +22,10 @@ struct ScreenSource
 
 /// The words and the JSON form of what is on screen. Rows, entries, plays and runs count from 1
 /// here, as people count them.
-class ScreenWords
+class ScreenReport
 {
 public:
-    explicit ScreenWords(const ScreenSource& source);
+    explicit ScreenReport(const ScreenSource& source);
 
     /// "plays News", "black screen" or "last frame of News".
     QString pictureText(const trel::mediadispatch::ScreenState& state) const;
@@ -58,3 +60,5 @@ private:
 
 /// A number that counts from 0, as people count; null for none.
 QJsonValue jsonCount(qint64 number);
+
+} // namespace trel::console

@@ -1,9 +1,11 @@
-#include "ScreenWords.h"
+#include "ScreenReport.h"
 
 #include "service/PlanFaults.h"
 #include "text/DisplayText.h"
 
 using namespace trel::mediadispatch;
+
+namespace trel::console {
 
 namespace {
 
@@ -52,11 +54,11 @@ QJsonValue jsonNumber(int number)
 
 } // namespace
 
-ScreenWords::ScreenWords(const ScreenSource& source)
+ScreenReport::ScreenReport(const ScreenSource& source)
     : m_source(source)
 {}
 
-QString ScreenWords::pictureText(const ScreenState& state) const
+QString ScreenReport::pictureText(const ScreenState& state) const
 {
     switch (state.picture) {
     case ScreenPicture::Black:
@@ -69,7 +71,7 @@ QString ScreenWords::pictureText(const ScreenState& state) const
     return QStringLiteral("last frame of %1").arg(programName(state.progIndex));
 }
 
-QString ScreenWords::reasonText(const ScreenState& state) const
+QString ScreenReport::reasonText(const ScreenState& state) const
 {
     const QString row = planText(state.taskId, state.planRow, state.planId);
     switch (state.reason) {
@@ -102,24 +104,24 @@ QString ScreenWords::reasonText(const ScreenState& state) const
         .arg(row, leftText(state));
 }
 
-QString ScreenWords::planText(int taskId, int row, int planId)
+QString ScreenReport::planText(int taskId, int row, int planId)
 {
     return QStringLiteral("task %1, row %2, plan %3").arg(taskId).arg(row + 1).arg(planId);
 }
 
-QString ScreenWords::programName(int progIndex) const
+QString ScreenReport::programName(int progIndex) const
 {
     const ProgramIten* const found = program(progIndex);
     return found == nullptr ? QStringLiteral("program %1").arg(progIndex)
                             : printable(found->progName);
 }
 
-QString ScreenWords::untilText(Instant until, Instant besides) const
+QString ScreenReport::untilText(Instant until, Instant besides) const
 {
     return isDated(until) ? m_source.local.text(until, besides) : QStringLiteral("for good");
 }
 
-QJsonObject ScreenWords::json(const ScreenState& state) const
+QJsonObject ScreenReport::json(const ScreenState& state) const
 {
     const ProgramIten* const shown = program(state.progIndex);
     const bool hasLength = shown != nullptr && hasOwnLength(*shown);
@@ -145,13 +147,13 @@ QJsonObject ScreenWords::json(const ScreenState& state) const
     };
 }
 
-QJsonValue ScreenWords::jsonMoment(Instant moment) const
+QJsonValue ScreenReport::jsonMoment(Instant moment) const
 {
     return isDated(moment) ? QJsonValue(m_source.local.isoText(moment))
                            : QJsonValue(QJsonValue::Null);
 }
 
-const PlayPlan* ScreenWords::plan(const ScreenState& state) const
+const PlayPlan* ScreenReport::plan(const ScreenState& state) const
 {
     const auto task = m_source.tasks.find(state.taskId);
     const bool isThere = task != m_source.tasks.end() && state.planRow >= 0 &&
@@ -159,13 +161,13 @@ const PlayPlan* ScreenWords::plan(const ScreenState& state) const
     return isThere ? &task->second.plans[static_cast<std::size_t>(state.planRow)] : nullptr;
 }
 
-const ProgramIten* ScreenWords::program(int progIndex) const
+const ProgramIten* ScreenReport::program(int progIndex) const
 {
     const auto found = m_source.programs.find(progIndex);
     return found == m_source.programs.end() ? nullptr : &found->second;
 }
 
-QString ScreenWords::nothingText(const ScreenState& state) const
+QString ScreenReport::nothingText(const ScreenState& state) const
 {
     const PlayPlan* const shown = plan(state);
     return shown != nullptr && runsLessThanOnce(*shown)
@@ -173,7 +175,7 @@ QString ScreenWords::nothingText(const ScreenState& state) const
                : QStringLiteral("none of its entries can play");
 }
 
-QString ScreenWords::leftText(const ScreenState& state) const
+QString ScreenReport::leftText(const ScreenState& state) const
 {
     return state.picture == ScreenPicture::Frozen
                ? QStringLiteral("the last frame of %1").arg(programName(state.progIndex))
@@ -184,3 +186,5 @@ QJsonValue jsonCount(qint64 number)
 {
     return number < 0 ? QJsonValue(QJsonValue::Null) : QJsonValue(number + 1);
 }
+
+} // namespace trel::console

@@ -1,4 +1,4 @@
-#include "LanguageCommands.h"
+#include "Commands.h"
 
 #include "EditorTexts.h"
 #include "HostLanguageCheck.h"
@@ -11,6 +11,8 @@
 
 #include <QFileInfo>
 #include <QJsonArray>
+
+namespace trel::console {
 
 namespace {
 
@@ -40,9 +42,7 @@ void writeFindings(Console& console, const QString& file, int textCount,
     console.write(table.text());
 }
 
-} // namespace
-
-ExitStatus runCheckLanguage(const Invocation& invocation, Console& console)
+ExitStatus run(const Invocation& invocation, Console& console)
 {
     const QString& file = invocation.arguments.first();
     const LanguageTexts texts = readLanguageTexts(file);
@@ -64,3 +64,41 @@ ExitStatus runCheckLanguage(const Invocation& invocation, Console& console)
     }
     return findings.empty() ? Done : Refused;
 }
+
+} // namespace
+
+Command checkLanguageCommand()
+{
+    return {"check-language",
+            "FILE",
+            1,
+            1,
+            true,
+            "Find what is wrong in a translation",
+            R"(Looks at the texts that a translator has written for the editor or for the
+desktop host. FILE is a source file of the Linguist (.ts) or the compiled file
+that is loaded (.qm); its contexts tell whose it is. Listed are
+  - texts that are missing, empty, unfinished or there more than once,
+  - texts that are not known,
+  - words that the table of terms has another one for;
+in a file of the editor
+  - days, and entries of the chooser's menu, that are called the same, since the
+    editor tells them apart by their texts,
+  - characters that the editor takes for something else,
+  - captions that are too long for their cells;
+in a file of the host
+  - places for numbers and names that are lost, or that the text does not have,
+  - plurals that do not have the forms of their language,
+  - entries of menus without a letter, or with that of another entry.
+
+No font is loaded. Lengths are worked out from the letter widths of the font
+that the editor is shipped with, on the safe side: what passes here is not cut.
+Only captions in cells of a fixed size are looked at; the window gives way to
+others.
+
+The exit status is 0 when nothing is listed, and 1 otherwise.)",
+            run,
+            false};
+}
+
+} // namespace trel::console

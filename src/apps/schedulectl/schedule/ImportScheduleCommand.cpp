@@ -1,4 +1,4 @@
-#include "ExchangeCommands.h"
+#include "Commands.h"
 
 #include "Database.h"
 #include "ScheduleReport.h"
@@ -9,7 +9,6 @@
 #include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 #include <chrono>
 #include <cstdio>
@@ -17,9 +16,9 @@
 
 using namespace trel::mediadispatch;
 
-namespace {
+namespace trel::console {
 
-const QLatin1String kStandardStream("-");
+namespace {
 
 /// How long a pipe that a schedule is read from may be silent.
 constexpr std::chrono::seconds kPipePatience{10};
@@ -42,7 +41,7 @@ FileContent readAll(const QString& path)
         content.error = stream.error() == QFileDevice::NoError ? QString() : stream.errorString();
         return content;
     }
-    PatientFile file(path, kPipePatience);
+    hosts::PatientFile file(path, kPipePatience);
     if (file.open(QIODevice::ReadOnly)) {
         content.bytes = readScheduleJson(file);
     }
@@ -53,12 +52,6 @@ FileContent readAll(const QString& path)
 QString shownName(const QString& path)
 {
     return path == kStandardStream ? QStringLiteral("the standard input") : printable(path);
-}
-
-bool isSameFile(const QString& a, const QString& b)
-{
-    const QString canonical = QFileInfo(a).canonicalFilePath();
-    return !canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath();
 }
 
 /// The programs that entries refer to and the catalogue lacks.
@@ -104,35 +97,7 @@ void tellOddities(Console& console, const std::map<int, PlayTask>& tasks,
     }
 }
 
-} // namespace
-
-ExitStatus runExport(const Invocation& invocation, Console& console)
-{
-    const auto database = openDatabase(invocation, Database::Access::Read, console);
-    if (!database) {
-        return Refused;
-    }
-    const QString& file = invocation.arguments.first();
-    const auto tasks = database->tasks();
-    if (file == kStandardStream) {
-        console.writeExport(scheduleToJson(tasks));
-        return Done;
-    }
-    if (isSameFile(file, database->path())) {
-        console.tell(QStringLiteral("%1 is the database itself and is not written over.")
-                         .arg(printable(file)));
-        return Refused;
-    }
-    const QString error = writeScheduleFile(file, tasks);
-    if (!error.isEmpty()) {
-        console.tell(error);
-        return Refused;
-    }
-    console.writeLine(QStringLiteral("%1 written to %2.").arg(sizeText(tasks), printable(file)));
-    return Done;
-}
-
-ExitStatus runImportSchedule(const Invocation& invocation, Console& console)
+ExitStatus run(const Invocation& invocation, Console& console)
 {
     const QString& file = invocation.arguments.first();
     const FileContent content = readAll(file);
@@ -160,3 +125,27 @@ ExitStatus runImportSchedule(const Invocation& invocation, Console& console)
                           .arg(sizeText(schedule.tasks), shownName(file), before));
     return Done;
 }
+
+} // namespace
+
+Command importScheduleCommand()
+{
+    return {"import-schedule",
+            "FILE",
+            1,
+            1,
+            false,
+            "Replace the schedule by one from a JSON file",
+            R"(Reads the schedule in FILE, in the form that "schedulectl export" writes, and
+puts it in the place of the one in the database; "-" is the standard input. The
+database is made when it does not exist.
+
+The file is read as a whole or not at all: what is wrong in it is named with its
+place, and the database is left as it was. A schedule with overlapping tasks is
+taken, since it can be put right in the editor; "schedulectl check" finds them.
+Entries of programs that the catalog does not have become invalid, so import
+the programs first, in the order of their indexes.)",
+            run};
+}
+
+} // namespace trel::console

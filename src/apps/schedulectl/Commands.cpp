@@ -1,0 +1,15 @@
+#include "Commands.h"
+
+namespace trel::console {
+
+const std::vector<Command>& allCommands()
+{
+    static const std::vector<Command> commands = {
+        importCommand(), programsCommand(), removeProgramCommand(),  showCommand(),
+        checkCommand(),  nowCommand(),      timelineCommand(),       whyCommand(),
+        runCommand(),    exportCommand(),   importScheduleCommand(), checkLanguageCommand(),
+    };
+    return commands;
+}
+
+} // namespace trel::console

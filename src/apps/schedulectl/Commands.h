@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Command.h"
+
+#include <vector>
+
+namespace trel::console {
+
+/// The commands, each in a file of its own, which has its name, its help and what it does.
+
+Command importCommand();
+Command programsCommand();
+Command removeProgramCommand();
+Command showCommand();
+Command checkCommand();
+Command nowCommand();
+Command timelineCommand();
+Command whyCommand();
+Command runCommand();
+Command exportCommand();
+Command importScheduleCommand();
+Command checkLanguageCommand();
+
+/// Every command, in the order of the general help.
+const std::vector<Command>& allCommands();
+
+} // namespace trel::console

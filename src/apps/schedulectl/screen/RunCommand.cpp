@@ -1,0 +1,45 @@
+#include "Commands.h"
+
+#include "Database.h"
+#include "ScheduleRun.h"
+#include "StoredScreen.h"
+#include "text/Console.h"
+
+using namespace trel::mediadispatch;
+
+namespace trel::console {
+
+namespace {
+
+ExitStatus run(const Invocation& invocation, Console& console)
+{
+    if (!knowsLocalTime(console)) {
+        return Refused;
+    }
+    const auto database = openDatabase(invocation, Database::Access::Change, console);
+    if (!database) {
+        return Refused;
+    }
+    return ScheduleRun(*database, invocation.json, console).run();
+}
+
+} // namespace
+
+Command runCommand()
+{
+    return {"run",
+            "",
+            0,
+            0,
+            true,
+            "Execute the schedule on the terminal",
+            R"(Puts the saved schedule into effect and writes a line for each event: when it
+is, what is on screen, until when, and the rule that makes it so. What another
+program saves meanwhile is taken over at once.
+
+Sleeps between the events. Ends with status 0 when it is interrupted or told to
+terminate (SIGINT, SIGTERM). With --json each line is an object by itself.)",
+            run};
+}
+
+} // namespace trel::console
