@@ -123,7 +123,12 @@ QString shownAddress(const QString& address)
     if (colon < 0 || colon > end) {
         return withHiddenParameters(address, start);
     }
-    return withHiddenParameters(address.left(colon) + address.mid(end), colon);
+    const QString shown = address.left(colon) + address.mid(end);
+    // A sign that looks like a part of the password may be the one that begins the parameters.
+    static const QRegularExpression begin(QStringLiteral("[?#;]"));
+    const bool isBeginGone = address.mid(colon, end - colon).contains(begin);
+    return isBeginGone ? shown.left(colon) + withoutSecrets(shown.mid(colon))
+                       : withHiddenParameters(shown, colon);
 }
 
 } // namespace trel::mediadispatch
