@@ -301,27 +301,20 @@ void ScheduleService::noteWorkingSet()
 
 ImportResult ScheduleService::addPrograms(const std::vector<MediaSource>& sources)
 {
-    ImportResult result = m_database.addPrograms(sources);
-    if (result.store) {
-        std::vector<int> indexes = result.added;
-        indexes.insert(indexes.end(), result.updated.begin(), result.updated.end());
-        result.store = takePrograms(indexes);
+    StoreContents contents;
+    ImportResult result = m_database.addPrograms(sources, contents);
+    if (result.store && !contents.programs.empty()) {
+        takePrograms(std::move(contents));
     }
     return result;
 }
 
-StoreResult ScheduleService::takePrograms(const std::vector<int>& indexes)
+void ScheduleService::takePrograms(StoreContents contents)
 {
-    if (indexes.empty()) {
-        return {};
-    }
-    StoreContents contents;
-    StoreResult result = m_database.readPrograms(indexes, contents);
-    if (!result) {
-        return result;
-    }
     if (!isNextCatalogue(contents.revision)) {
-        return readCatalogue();
+        // What failed here would be read with the next refresh; the import has been done.
+        readCatalogue();
+        return;
     }
     CatalogueChange change;
     for (auto& [index, program] : contents.programs) {
@@ -331,21 +324,18 @@ StoreResult ScheduleService::takePrograms(const std::vector<int>& indexes)
     m_revision.catalogue = contents.revision.catalogue;
     m_isMarkingDue = true;
     announce(change);
-    return result;
 }
 
 StoreResult ScheduleService::removePrograms(const std::vector<int>& progIndexes)
 {
     StoreRevision now;
-    StoreResult result = m_database.removePrograms(progIndexes);
-    if (result) {
-        result = m_database.readRevision(now);
-    }
+    StoreResult result = m_database.removePrograms(progIndexes, now);
     if (!result || now.catalogue == m_revision.catalogue) {
         return result;
     }
     if (!isNextCatalogue(now)) {
-        return readCatalogue();
+        readCatalogue();
+        return result;
     }
     CatalogueChange change;
     for (const int index : progIndexes) {

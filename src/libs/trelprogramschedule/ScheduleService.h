@@ -111,8 +111,9 @@ private:
     void renewWatch();
     /// Reads the catalogue and tells how it has changed.
     StoreResult readCatalogue();
-    /// Reads the programs that have just been written; only these, where no other program wrote.
-    StoreResult takePrograms(const std::vector<int>& indexes);
+    /// Takes over the programs that have just been written; all of them, where another program
+    /// wrote as well.
+    void takePrograms(StoreContents contents);
     /// Nothing but one change of this program lies between what was read and this revision.
     bool isNextCatalogue(const StoreRevision& revision) const;
     /// Marks stored entries whose programs have left the catalogue.

@@ -107,8 +107,9 @@ void tst_CatalogueRemoval::besideAnotherEditor()
     StoreFixture store;
     QVERIFY(store.host.addPrograms(samplePrograms(6)).store);
     ScheduleDatabase other;
+    StoreRevision revision;
     QVERIFY(other.open(store.path, ScheduleHost::OpenMode::MustExist));
-    QVERIFY(other.removePrograms({1, 2}));
+    QVERIFY(other.removePrograms({1, 2}, revision));
     SignalCounts counts;
     QVERIFY(counts.isValid());
 

@@ -201,8 +201,9 @@ void tst_PlanEnds::aRefreshSeesWhatAnotherProgramDid()
 {
     FilmStore store;
     ScheduleDatabase other;
+    StoreContents contents;
     QVERIFY(other.open(store.path, ScheduleHost::OpenMode::MustExist));
-    QVERIFY(other.addPrograms({film(90.0)}).store);
+    QVERIFY(other.addPrograms({film(90.0)}, contents).store);
     SignalCounts signalCounts;
     QCOMPARE(store.storedEnds(), kNewEnds);
     QCOMPARE(signalCounts.take(), QStringLiteral("programs, ends, catalogue"));
@@ -215,8 +216,9 @@ void tst_PlanEnds::aReloadTellsWhatAnotherProgramDid()
 {
     FilmStore store;
     ScheduleDatabase other;
+    StoreContents contents;
     QVERIFY(other.open(store.path, ScheduleHost::OpenMode::MustExist));
-    QVERIFY(other.addPrograms({film(90.0)}).store);
+    QVERIFY(other.addPrograms({film(90.0)}, contents).store);
     SignalCounts signalCounts;
     QVERIFY(store.host.reload());
     QVERIFY(signalCounts.take().contains(QLatin1String("ends, ")));

@@ -259,7 +259,8 @@ void tst_SaveFailure::refreshTakesOverWhatTheOtherSaved()
     OtherEditor other(m_store->path);
     const Tasks theirs = {{2, everyFieldTask(2)}};
     QVERIFY(other.save(theirs));
-    QVERIFY(other.database().addPrograms(samplePrograms(1, 77)).store);
+    StoreContents contents;
+    QVERIFY(other.database().addPrograms(samplePrograms(1, 77), contents).store);
     SignalCounts counts;
     QVERIFY(counts.isValid());
     QVERIFY(m_store->manager.getgTaskMap() == theirs);
@@ -274,7 +275,9 @@ void tst_SaveFailure::refreshTakesOverWhatTheOtherSaved()
 void tst_SaveFailure::importsOfBothEditorsGetTheirOwnIndexes()
 {
     OtherEditor other(m_store->path);
-    QCOMPARE(other.database().addPrograms(samplePrograms(2, 10)).added, (std::vector<int>{4, 5}));
+    StoreContents contents;
+    QCOMPARE(other.database().addPrograms(samplePrograms(2, 10), contents).added,
+             (std::vector<int>{4, 5}));
     // The second of these is known by now.
     const ImportResult result = m_store->host.addPrograms(samplePrograms(2, 11));
     QCOMPARE(result.updated, std::vector<int>{5});

@@ -49,6 +49,8 @@ private slots:
     void unclearOutcomesAreNamed();
     void everyCallFails_data();
     void everyCallFails();
+    void everyCallOfTheCatalogueFails_data();
+    void everyCallOfTheCatalogueFails();
     void errorsAreCalledByTheirNames_data();
     void errorsAreCalledByTheirNames();
 };
@@ -167,6 +169,51 @@ void tst_StoreFaults::everyCallFails()
             QVERIFY(isSaved);
             break;
         }
+    }
+}
+
+void tst_StoreFaults::everyCallOfTheCatalogueFails_data()
+{
+    everyCallFails_data();
+}
+
+/// An import and a removal are there when they were not refused, and only then.
+void tst_StoreFaults::everyCallOfTheCatalogueFails()
+{
+    QFETCH(int, call);
+    QFETCH(bool, isForGood);
+    const auto lasting = isForGood ? FaultyDisk::Lasting::ForGood : FaultyDisk::Lasting::Once;
+    StoreFixture store;
+    std::size_t programs = 0;
+    bool hasFailed = true;
+    for (int nth = 1; hasFailed; ++nth) {
+        store.host.close();
+        const bool isImport = programs == 0;
+        {
+            FaultyDisk disk;
+            disk.fail(FaultyDisk::Call(call), nth, lasting, EIO);
+            if (store.host.open(store.path)) {
+                std::vector<int> indexes;
+                for (const auto& [index, program] : store.manager.getPrograms()) {
+                    indexes.push_back(index);
+                }
+                const bool isDone = bool(isImport ? store.host.addPrograms(samplePrograms(2)).store
+                                                  : store.host.removePrograms(indexes));
+                programs = isDone == isImport ? 2 : 0;
+                QCOMPARE(store.manager.getPrograms().size(), programs);
+            }
+            store.host.close();
+            hasFailed = disk.hasFailed();
+        }
+        store.open();
+        QVERIFY2(store.manager.getPrograms().size() == programs,
+                 qPrintable(
+                     QStringLiteral("%1 %2 of %3: found %4 programs, and not %5")
+                         .arg(QLatin1String(nameOf(call)))
+                         .arg(nth)
+                         .arg(isImport ? QStringLiteral("an import") : QStringLiteral("a removal"))
+                         .arg(store.manager.getPrograms().size())
+                         .arg(programs)));
     }
 }
 

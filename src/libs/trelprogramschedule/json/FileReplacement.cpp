@@ -119,6 +119,10 @@ QString replaceFile(const QString& path, const QByteArray& content)
     const QByteArray name = QFile::encodeName(target);
     struct stat former = {};
     const bool isThere = ::stat(name.constData(), &former) == 0;
+    // Of a disk that does not answer it is not known what would be replaced.
+    if (!isThere && errno != ENOENT) {
+        return qt_error_string(errno);
+    }
     if (isThere && !S_ISREG(former.st_mode)) {
         return kindText(former.st_mode);
     }

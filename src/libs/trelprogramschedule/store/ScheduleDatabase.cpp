@@ -119,6 +119,10 @@ StoreResult ScheduleDatabase::create() const
             refusal(StoreProblem::Other, m_file.path(), QStringLiteral("no file can be put there"));
     }
     m_file.removeDraft();
+    if (result.problem == StoreProblem::Unclear) {
+        // What has become of the draft is certain: it has not taken its place.
+        result = refusal(StoreProblem::Other, m_file.path(), QStringLiteral("disk I/O error"));
+    }
     // The draft was not asked for yet.
     result.message.replace(QDir::toNativeSeparators(m_file.draftPath()),
                            QDir::toNativeSeparators(m_file.path()));
@@ -374,14 +378,6 @@ bool ScheduleDatabase::takeSeen(StorePart part, StoreContents& contents)
     return true;
 }
 
-StoreResult ScheduleDatabase::readPrograms(const std::vector<int>& indexes, StoreContents& contents)
-{
-    return readWith([&] {
-        contents.revision = revisionOf(*m_connection);
-        StoreCatalogue(*m_connection, m_file.path()).read(indexes, contents);
-    });
-}
-
 StoreResult ScheduleDatabase::writeTasks(const TaskMap& tasks, const TaskEdits& edits,
                                          qint64& revision)
 {
@@ -409,7 +405,8 @@ StoreResult ScheduleDatabase::writeTasks(const TaskMap& tasks, const TaskEdits& 
     });
 }
 
-ImportResult ScheduleDatabase::addPrograms(const std::vector<MediaSource>& sources)
+ImportResult ScheduleDatabase::addPrograms(const std::vector<MediaSource>& sources,
+                                           StoreContents& contents)
 {
     ImportResult result;
     if (StoreResult place = judgeInPlace(); !place) {
@@ -426,6 +423,11 @@ ImportResult ScheduleDatabase::addPrograms(const std::vector<MediaSource>& sourc
             catalogue.put(source, result);
         }
         catalogue.finish();
+        std::vector<int> indexes = result.added;
+        indexes.insert(indexes.end(), result.updated.begin(), result.updated.end());
+        // Before the commit: behind it, nothing may fail any more.
+        contents.revision = revisionOf(*m_connection);
+        catalogue.read(indexes, contents);
         transaction.commit();
     });
     if (!outcome) {
@@ -435,7 +437,8 @@ ImportResult ScheduleDatabase::addPrograms(const std::vector<MediaSource>& sourc
     return result;
 }
 
-StoreResult ScheduleDatabase::removePrograms(const std::vector<int>& progIndexes)
+StoreResult ScheduleDatabase::removePrograms(const std::vector<int>& progIndexes,
+                                             StoreRevision& revision)
 {
     if (StoreResult place = judgeInPlace(); !place) {
         return place;
@@ -443,8 +446,12 @@ StoreResult ScheduleDatabase::removePrograms(const std::vector<int>& progIndexes
     return attempt([&] {
         StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
         StoreCatalogue catalogue(*m_connection, m_file.path());
-        if (catalogue.remove(progIndexes)) {
+        const bool isAny = catalogue.remove(progIndexes);
+        if (isAny) {
             catalogue.finish();
+        }
+        revision = revisionOf(*m_connection);
+        if (isAny) {
             transaction.commit();
         }
     });

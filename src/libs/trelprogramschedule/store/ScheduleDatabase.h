@@ -57,19 +57,17 @@ public:
     StoreResult readRevision(StoreRevision& revision);
     /// Reads the parts and the revision that they have, all from one state of the store.
     StoreResult read(StorePart part, StoreContents& contents);
-    /// As read, of a few programs only.
-    StoreResult readPrograms(const std::vector<int>& indexes, StoreContents& contents);
-
     /// Writes what is to be changed so that the store holds these tasks, if it still has the
     /// schedule revision that is given; MovedOn otherwise. The revision is counted up, unless there
     /// is no change. TooLarge for tasks beyond the limits of a schedule.
     StoreResult writeTasks(const TaskMap& tasks, const TaskEdits& edits, qint64& revision);
 
-    /// Puts sources into the catalogue; see ScheduleHost::addPrograms.
-    ImportResult addPrograms(const std::vector<MediaSource>& sources);
+    /// Puts sources into the catalogue; see ScheduleHost::addPrograms. Gives their programs, and
+    /// the revisions with them, as they stand in the store then.
+    ImportResult addPrograms(const std::vector<MediaSource>& sources, StoreContents& contents);
     /// Takes programs out, all of them or none; an index that is not in the catalogue changes
-    /// nothing.
-    StoreResult removePrograms(const std::vector<int>& progIndexes);
+    /// nothing. Gives the revisions after that.
+    StoreResult removePrograms(const std::vector<int>& progIndexes, StoreRevision& revision);
     /// See ScheduleHost::plansWith.
     StoreResult countPlansWith(const std::vector<int>& progIndexes, int& count) const;
 

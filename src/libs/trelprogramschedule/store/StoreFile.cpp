@@ -27,6 +27,8 @@ constexpr int kSchemaOffset = 60;
 constexpr int kApplicationOffset = 68;
 constexpr char kMagic[] = "SQLite format 3"; // with the zero that ends it
 
+constexpr mode_t kModeBits = 07777;
+
 QString resolved(const QString& path)
 {
     const QFileInfo info(path);
@@ -34,6 +36,29 @@ QString resolved(const QString& path)
         return info.canonicalFilePath();
     }
     return info.isSymLink() ? info.symLinkTarget() : QDir::current().absoluteFilePath(path);
+}
+
+/// The system's error when it is asked for a file; 0 when it knows it. A disk that does not answer
+/// must not be taken for one on which the file is missing.
+int lookAt(const QString& path, struct stat& status)
+{
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? 0 : errno;
+}
+
+bool isMissing(int systemError)
+{
+    return systemError == ENOENT || systemError == ENOTDIR;
+}
+
+/// Whether a file system, or a system, does not have a call.
+bool isUnknownCall(int systemError)
+{
+    return systemError == EINVAL || systemError == ENOSYS;
+}
+
+bool isEmpty(const struct stat& status)
+{
+    return S_ISREG(status.st_mode) && status.st_size == 0;
 }
 
 bool isMarkedReadOnly(const QFileInfo& info)
@@ -89,27 +114,39 @@ bool StoreFile::isThere() const
 
 bool StoreFile::isVacant() const
 {
-    const QFileInfo info(m_path);
-    return !info.exists() || (info.isFile() && info.size() == 0);
+    struct stat status = {};
+    const int error = lookAt(m_path, status);
+    return error == 0 ? isEmpty(status) : isMissing(error);
 }
 
 StoreResult StoreFile::judge(StoreOpenMode mode, qint64 applicationId, int newestSchema) const
 {
-    const QFileInfo info(m_path);
-    if (!QFileInfo(info.absolutePath()).isDir()) {
+    struct stat status = {};
+    const int folderError = lookAt(QFileInfo(m_path).absolutePath(), status);
+    if (isMissing(folderError) || (folderError == 0 && !S_ISDIR(status.st_mode))) {
         return refusal(StoreProblem::FolderMissing, m_path);
     }
-    if (info.exists() && !info.isFile()) {
+    const int error = folderError == 0 ? lookAt(m_path, status) : folderError;
+    if (error != 0 && !isMissing(error)) {
+        return refusalOfSystem(error, m_path);
+    }
+    if (error == 0 && !S_ISREG(status.st_mode)) {
         return refusal(StoreProblem::NotADatabase, m_path);
     }
-    const StoreResult content =
-        isVacant() ? judgeVacant(mode) : judgeHeader(applicationId, newestSchema);
+    const StoreResult content = error != 0 || isEmpty(status)
+                                    ? judgeVacant(mode, error == 0)
+                                    : judgeHeader(applicationId, newestSchema);
     return content && mode != StoreOpenMode::ReadOnly ? judgeWritable() : content;
 }
 
-StoreResult StoreFile::judgeVacant(StoreOpenMode mode) const
+StoreResult StoreFile::judgeVacant(StoreOpenMode mode, bool isFileThere) const
 {
-    if (QFileInfo(logPath()).size() > 0) {
+    struct stat log = {};
+    const int error = lookAt(logPath(), log);
+    if (error != 0 && !isMissing(error)) {
+        return refusalOfSystem(error, m_path);
+    }
+    if (log.st_size > 0) {
         // The log would be replayed into whatever is put here next.
         return refusal(StoreProblem::Damaged, m_path,
                        QStringLiteral("it has gone or is empty, yet its log %1 is still there")
@@ -118,8 +155,7 @@ StoreResult StoreFile::judgeVacant(StoreOpenMode mode) const
     if (mode == StoreOpenMode::CreateIfMissing) {
         return {};
     }
-    return refusal(
-        QFileInfo::exists(m_path) ? StoreProblem::NotADatabase : StoreProblem::FileMissing, m_path);
+    return refusal(isFileThere ? StoreProblem::NotADatabase : StoreProblem::FileMissing, m_path);
 }
 
 StoreResult StoreFile::judgeHeader(qint64 applicationId, int newestSchema) const
@@ -129,6 +165,9 @@ StoreResult StoreFile::judgeHeader(qint64 applicationId, int newestSchema) const
         return refusal(StoreProblem::Other, m_path, file.errorString());
     }
     const QByteArray header = file.read(kHeaderSize);
+    if (file.error() != QFileDevice::NoError) {
+        return refusal(StoreProblem::Other, m_path, file.errorString());
+    }
     if (header.size() < kHeaderSize || !header.startsWith(QByteArray(kMagic, sizeof kMagic))) {
         return refusal(StoreProblem::NotADatabase, m_path);
     }
@@ -144,8 +183,9 @@ StoreResult StoreFile::judgeHeader(qint64 applicationId, int newestSchema) const
 StoreResult StoreFile::judgeWritable() const
 {
     const QFileInfo info(m_path);
+    const QFileInfo folder(info.absolutePath());
     if ((info.exists() && isMarkedReadOnly(info)) ||
-        isMarkedReadOnly(QFileInfo(info.absolutePath()))) {
+        (folder.exists() && isMarkedReadOnly(folder))) {
         return refusal(StoreProblem::ReadOnly, m_path);
     }
     return {};
@@ -207,15 +247,19 @@ bool StoreFile::makeDraft() const
 
 bool StoreFile::fillFromDraft() const
 {
-    const QString draft = draftPath();
-    const QFileInfo info(m_path);
-    if (!info.exists()) {
+    const QByteArray draft = QFile::encodeName(draftPath());
+    const QByteArray place = QFile::encodeName(m_path);
+    struct stat former = {};
+    const int error = lookAt(m_path, former);
+    if (error == ENOENT) {
         // Unlike the call below this leaves a file alone that another program makes meanwhile.
-        return QFile::rename(draft, m_path);
+        return ::renameat2(AT_FDCWD, draft.constData(), AT_FDCWD, place.constData(),
+                           RENAME_NOREPLACE) == 0 ||
+               (isUnknownCall(errno) && ::link(draft.constData(), place.constData()) == 0);
     }
-    return QFile::setPermissions(draft, info.permissions()) &&
-           std::rename(QFile::encodeName(draft).constData(),
-                       QFile::encodeName(m_path).constData()) == 0;
+    return error == 0 && isEmpty(former) &&
+           ::chmod(draft.constData(), former.st_mode & kModeBits) == 0 &&
+           std::rename(draft.constData(), place.constData()) == 0;
 }
 
 void StoreFile::removeDraft() const

@@ -25,7 +25,7 @@ public:
     QString path() const { return m_path; }
 
     bool isThere() const;
-    /// There is no file yet, or one that holds nothing.
+    /// There is certainly no file yet, or one that holds nothing.
     bool isVacant() const;
     /// Whether a store can be made here, or what is here can be opened as one of this program's
     /// with a schema up to the given one; ReadOnly asks for no right to write.
@@ -85,7 +85,7 @@ public:
     Identity logIdentity() const;
 
 private:
-    StoreResult judgeVacant(StoreOpenMode mode) const;
+    StoreResult judgeVacant(StoreOpenMode mode, bool isFileThere) const;
     StoreResult judgeHeader(qint64 applicationId, int newestSchema) const;
     QString logIndexPath() const;
 

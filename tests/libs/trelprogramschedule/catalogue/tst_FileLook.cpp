@@ -147,8 +147,9 @@ void tst_FileLook::whatIsKnownStaysKnown()
     QCOMPARE(counts.take(), QString());
     // What another editor takes in does not bring the file back, nor is it told to have come back.
     ScheduleDatabase other;
+    StoreContents contents;
     QVERIFY(other.open(m_store->path, ScheduleHost::OpenMode::MustExist));
-    QVERIFY(other.addPrograms(samplePrograms(1)).store);
+    QVERIFY(other.addPrograms(samplePrograms(1), contents).store);
     m_store->manager.getgTaskMap();
     QCOMPARE(m_store->manager.getPrograms().size(), std::size_t(4));
     QCOMPARE(lost(), QList<int>{2});

@@ -293,21 +293,23 @@ void tst_ProgramCatalogue::oneByOneBesideAnotherEditor()
     StoreFixture store;
     QVERIFY(store.host.addPrograms(samplePrograms(1)).store);
     ScheduleDatabase other;
+    StoreContents contents;
+    StoreRevision revision;
     QVERIFY(other.open(store.path, ScheduleHost::OpenMode::MustExist));
-    QCOMPARE(other.addPrograms(samplePrograms(1, 2)).added, std::vector<int>{2});
-    QVERIFY(other.removePrograms({1}));
+    QCOMPARE(other.addPrograms(samplePrograms(1, 2), contents).added, std::vector<int>{2});
+    QVERIFY(other.removePrograms({1}, revision));
 
     // One's own change brings those of the other along.
     QCOMPARE(store.host.addPrograms(samplePrograms(1, 3)).added, std::vector<int>{3});
     QCOMPARE(store.manager.getPrograms().size(), std::size_t(2));
     QVERIFY(store.manager.getProgramItemByIndex(1).isNull);
     QCOMPARE(store.manager.getProgramNameByProgIndex(1), std::string("program 1"));
-    QVERIFY(other.addPrograms(samplePrograms(1, 4)).store);
+    QVERIFY(other.addPrograms(samplePrograms(1, 4), contents).store);
     QVERIFY(store.host.removeProgram(3));
     QCOMPARE(store.manager.getPrograms().size(), std::size_t(2));
     QCOMPARE(store.manager.getProgramNameByProgIndex(4), std::string("program 4"));
     // What the other has taken out already cannot be taken out again.
-    QVERIFY(other.removePrograms({2}));
+    QVERIFY(other.removePrograms({2}, revision));
     QVERIFY(store.host.removeProgram(2));
     QCOMPARE(store.manager.getPrograms().size(), std::size_t(1));
 }
