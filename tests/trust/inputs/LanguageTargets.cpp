@@ -8,6 +8,8 @@
 #include "language/LanguageTexts.h"
 #include "tstranslate/Translator.h"
 
+using namespace trel::console;
+
 namespace trust {
 
 void tryLanguage(const QByteArray& input)

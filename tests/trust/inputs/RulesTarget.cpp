@@ -8,6 +8,7 @@
 
 #include <QTimeZone>
 
+using namespace trel::console;
 using namespace trel::mediadispatch;
 
 namespace trust {

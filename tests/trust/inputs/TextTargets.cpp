@@ -3,7 +3,7 @@
 #include "FuzzTarget.h"
 
 #include "CommandLine.h"
-#include "CommandTable.h"
+#include "Commands.h"
 #include "screen/MomentText.h"
 #include "service/DateText.h"
 #include "service/TimeText.h"
@@ -18,6 +18,7 @@
 
 #include <algorithm>
 
+using namespace trel::console;
 using namespace trel::mediadispatch;
 
 namespace trust {
@@ -106,7 +107,7 @@ void tryArguments(const QByteArray& input)
 
 void tryMoment(const QByteArray& input)
 {
-    static const LocalClock local(QTimeZone("Europe/Berlin"));
+    static const MomentFormat local(QTimeZone("Europe/Berlin"));
     const QDate today(2024, 3, 31); // A day on which the clock is put forward.
     const QString text = QString::fromUtf8(input);
     for (const DateAlone dateAlone : {DateAlone::Refused, DateAlone::StartOfDay}) {
