@@ -12,7 +12,7 @@
 int main(int argc, char** argv)
 {
     // As the application does.
-    joinFreedMemoryAtOnce();
+    trel::desktop::joinFreedMemoryAtOnce();
     QApplication application(argc, argv);
     QApplication::setStyle(QStringLiteral("fusion"));
     bench::initialize(argc, argv);

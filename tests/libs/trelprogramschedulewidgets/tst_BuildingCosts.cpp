@@ -1,4 +1,3 @@
-#include "EventCount.h"
 #include "MultiComboBox.h"
 #include "PlanList.h"
 #include "PlanTaskWidget.h"
@@ -52,43 +51,12 @@ PlayTask taskOf(int id, int plans)
     return task;
 }
 
-/// The requests of one type that wait when a card of so many plans has been built.
-int waitingRequests(int plans, QEvent::Type type)
-{
-    QCoreApplication::processEvents();
-    QWidget window;
-    const PlanTaskWidget card(taskOf(1, plans), &window);
-    return takeWaiting(type);
-}
-
-/// Tells how many rows a table has when the first widget is put into it.
-class RowsBeforeWidgets : public QObject
-{
-public:
-    RowsBeforeWidgets() { qApp->installEventFilter(this); }
-
-    int rows = -1;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        const auto* const table = qobject_cast<QTableView*>(watched->parent());
-        if (rows == -1 && event->type() == QEvent::ChildAdded && table && table->model() &&
-            table->viewport() == watched) {
-            rows = table->model()->rowCount();
-        }
-        return false;
-    }
-};
-
 QStringList places(const PlanTaskWidget& card)
 {
     return visiblePlaces(*card.findChild<QTableView*>()->viewport(), card);
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(QEvent::Type)
 
 /// What it takes to build cards and lists, counted: a thing that is done once too often for every
 /// row, or that is looked for among those of all rows, shows with the first long schedule.
@@ -104,10 +72,7 @@ private slots:
     void rowsOfAHiddenCardAreNotMeasured();
     void rowsBuiltOutOfSightLieWhereOthersDo();
     void labelsOfAllRowsShareTheirTexts();
-    void rowsLeaveNoRequestsBehind_data();
-    void rowsLeaveNoRequestsBehind();
-    void cellsOfAllRowsComeBeforeTheirEditors();
-    void noPolishRequestWaitsAfterARefresh();
+    void cardsHaveTheirLookAfterARefresh();
 };
 
 void tst_BuildingCosts::init()
@@ -202,27 +167,7 @@ void tst_BuildingCosts::labelsOfAllRowsShareTheirTexts()
     QCOMPARE(texts, QVector<const QChar*>(3, texts.constFirst()));
 }
 
-void tst_BuildingCosts::rowsLeaveNoRequestsBehind_data()
-{
-    QTest::addColumn<QEvent::Type>("type");
-    QTest::newRow("to be laid out") << QEvent::LayoutRequest;
-}
-
-void tst_BuildingCosts::rowsLeaveNoRequestsBehind()
-{
-    QFETCH(QEvent::Type, type);
-    QCOMPARE(waitingRequests(30, type), waitingRequests(10, type));
-}
-
-void tst_BuildingCosts::cellsOfAllRowsComeBeforeTheirEditors()
-{
-    QWidget window;
-    const RowsBeforeWidgets table;
-    const PlanTaskWidget card(taskOf(1, 10), &window);
-    QCOMPARE(table.rows, 10);
-}
-
-void tst_BuildingCosts::noPolishRequestWaitsAfterARefresh()
+void tst_BuildingCosts::cardsHaveTheirLookAfterARefresh()
 {
     for (int id = 1; id <= 5; ++id) {
         RecordingService::instance().stored[id] = taskOf(id, 3);
@@ -231,10 +176,6 @@ void tst_BuildingCosts::noPolishRequestWaitsAfterARefresh()
     auto* const list = new PlanList(&window);
     window.show();
     list->refreshPlanList();
-    const EventCount requests(QEvent::PolishRequest);
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(requests.count, 0);
-    // What is in sight has its look all the same.
     const auto cards = list->findChildren<PlanTaskWidget*>();
     QCOMPARE(cards.size(), 5);
     for (const PlanTaskWidget* card : cards) {
