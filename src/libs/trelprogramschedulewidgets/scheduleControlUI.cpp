@@ -45,7 +45,12 @@ scheduleControlUI::scheduleControlUI(QWidget* parent)
     m_showTimer.start();
 }
 
-scheduleControlUI::~scheduleControlUI() = default;
+scheduleControlUI::~scheduleControlUI()
+{
+    // Before the window hides: a field that loses the focus takes over what is typed in it, and a
+    // refusal would wait here for an answer, after the end of the program even.
+    delete m_centerWidget;
+}
 
 void scheduleControlUI::connectAll()
 {

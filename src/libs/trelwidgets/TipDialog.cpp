@@ -15,6 +15,7 @@
 #include <QVariant>
 #include <QWindow>
 
+#include <algorithm>
 #include <array>
 
 namespace trel::widgets {
@@ -25,14 +26,43 @@ constexpr std::size_t kButtonCount = 3;
 constexpr int kMinimumTextWidth = 220;
 constexpr int kMaximumTextWidth = 420;
 
+/// Whether a prompt may stand over it. Some systems take a menu for a window that may be active.
+bool canBeBelow(const QWidget* window)
+{
+    return window && window->isVisible() &&
+           (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);
+}
+
+/// The youngest window in sight; none when the application shows no window.
+QWidget* youngestWindow()
+{
+    QWidget* youngest = nullptr;
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (const QWindow* const window : windows) {
+        const auto found =
+            std::find_if(widgets.begin(), widgets.end(), [window](const QWidget* widget) {
+                return widget->windowHandle() == window && canBeBelow(widget);
+            });
+        if (found != widgets.end()) {
+            youngest = *found;
+        }
+    }
+    return youngest;
+}
+
 /// The window that an answer is wanted for; none when the application shows no window.
 QWidget* windowBelow(const QWidget& prompt)
 {
     if (prompt.parentWidget()) {
         return prompt.parentWidget()->window();
     }
-    QWidget* modal = QApplication::activeModalWidget();
-    return modal ? modal : QApplication::activeWindow();
+    if (QWidget* const modal = QApplication::activeModalWidget()) {
+        return modal;
+    }
+    // Right after another dialog has closed, the system has yet to name the next active window.
+    QWidget* const active = QApplication::activeWindow();
+    return canBeBelow(active) ? active : youngestWindow();
 }
 
 bool isHeldDown(QEvent* event)

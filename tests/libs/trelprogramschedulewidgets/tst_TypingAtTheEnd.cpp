@@ -53,6 +53,7 @@ private slots:
     void stopsTheSaveWhenRefused();
     void anUntouchedEditorFilesNothing();
     void isTakenOverBeforeTheWindowHides();
+    void isDroppedWithTheWindow();
 };
 
 void tst_TypingAtTheEnd::init()
@@ -136,6 +137,16 @@ void tst_TypingAtTheEnd::isTakenOverBeforeTheWindowHides()
     QVERIFY(wasVisible);
     QVERIFY(!stage.dialog().isVisible());
     QCOMPARE(service().count(QStringLiteral("save")), 0);
+}
+
+// The program may have ended already, and a question would wait for ever.
+void tst_TypingAtTheEnd::isDroppedWithTheWindow()
+{
+    const PromptAnswer noPrompt;
+    const Stage stage(QStringLiteral("dialog"));
+    typeZero(stage.rows().endTime(kPlainRow));
+    delete &stage.dialog();
+    QCOMPARE(noPrompt.count(), 0);
 }
 
 TREL_TEST(tst_TypingAtTheEnd, QApplication)

@@ -67,6 +67,7 @@ private slots:
     void runsInsideAModalDialog();
     void isModalToTheApplication();
     void standsOverTheActiveWindow();
+    void standsOverTheYoungestWindowWhenNoneIsActive();
     void staysOnTheScreen();
     void takesTheTitleOfTheWindowBelow();
     void growsWithItsText();
@@ -284,6 +285,24 @@ void TestTipDialog::standsOverTheActiveWindow()
         prompt->close();
     });
     QVERIFY((placed.center() - window.frameGeometry().center()).manhattanLength() <= 2);
+    QCOMPARE(below, window.windowHandle());
+}
+
+void TestTipDialog::standsOverTheYoungestWindowWhenNoneIsActive()
+{
+    QWidget first;
+    first.show();
+    QWidget window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    // As right after a dialog has closed.
+    QApplication::setActiveWindow(nullptr);
+    TipDialog* prompt = makePrompt();
+    QWindow* below = nullptr;
+    runAnd(prompt, [&] {
+        below = prompt->windowHandle()->transientParent();
+        prompt->close();
+    });
     QCOMPARE(below, window.windowHandle());
 }
 

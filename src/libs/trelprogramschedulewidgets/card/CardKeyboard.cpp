@@ -63,13 +63,13 @@ QWidget* fieldIn(const QTableView& table, int row, int column)
 
 CardKeyboard::CardKeyboard(QWidget& panel, PlanList& list, QScrollArea& area)
     : m_panel(panel)
-    , m_list(list)
+    , m_list(&list)
     , m_area(area)
 {
     addPanelKeys();
     addCardKeys();
     addPlanKeys();
-    connect(&m_list, &PlanList::sigGetMapCount, this, &CardKeyboard::keepFocusInPanel);
+    connect(&list, &PlanList::sigGetMapCount, this, &CardKeyboard::keepFocusInPanel);
 }
 
 template <typename Run>
@@ -111,10 +111,15 @@ void CardKeyboard::addPlanKeys()
     add(EditorKey::ChoosePrograms, [this] { choosePrograms(); });
 }
 
+QList<PlanTaskWidget*> CardKeyboard::cards() const
+{
+    return m_list ? m_list->cards() : QList<PlanTaskWidget*>();
+}
+
 PlanTaskWidget* CardKeyboard::currentCard() const
 {
     QWidget* above = QApplication::focusWidget();
-    while (above && above->parentWidget() != &m_list) {
+    while (above && above->parentWidget() != m_list) {
         above = above->parentWidget();
     }
     return qobject_cast<PlanTaskWidget*>(above);
@@ -128,34 +133,38 @@ QModelIndex CardKeyboard::currentCell() const
 
 void CardKeyboard::goToNextCard()
 {
-    const QList<PlanTaskWidget*> cards = m_list.cards();
+    const QList<PlanTaskWidget*> all = cards();
     // Before the first one when the focus is in no card.
-    const int next = cards.indexOf(currentCard()) + 1;
-    if (next < cards.size()) {
-        focusBar(*cards.at(next));
+    const int next = all.indexOf(currentCard()) + 1;
+    if (next < all.size()) {
+        focusBar(*all.at(next));
     }
 }
 
 void CardKeyboard::goToPreviousCard()
 {
-    const QList<PlanTaskWidget*> cards = m_list.cards();
+    const QList<PlanTaskWidget*> all = cards();
     PlanTaskWidget* const current = currentCard();
     if (!current) {
         return;
     }
     // From inside a card its own bar comes first.
     const bool isOnBar = barOf(*current)->hasFocus();
-    const int previous = cards.indexOf(current) - (isOnBar ? 1 : 0);
+    const int previous = all.indexOf(current) - (isOnBar ? 1 : 0);
     if (previous >= 0) {
-        focusBar(*cards.at(previous));
+        focusBar(*all.at(previous));
     }
 }
 
 void CardKeyboard::fold()
 {
-    if (const PlanTaskWidget* const card = currentCard()) {
-        // First, as what is hidden cannot keep it.
-        focusBar(*card);
+    const QPointer<PlanTaskWidget> card = currentCard();
+    if (!card) {
+        return;
+    }
+    // First, as what is hidden cannot keep it.
+    focusBar(*card);
+    if (card) {
         barOf(*card)->click();
     }
 }
@@ -166,23 +175,29 @@ void CardKeyboard::copyTask()
     if (!card) {
         return;
     }
-    const int cards = m_list.cards().size();
+    const QPointer<CardKeyboard> self(this);
+    const int count = cards().size();
     press(card, "pbtCreatCopy");
-    goToAddedCard(cards);
+    if (self) {
+        goToAddedCard(count);
+    }
 }
 
 void CardKeyboard::addTask()
 {
-    const int cards = m_list.cards().size();
+    const QPointer<CardKeyboard> self(this);
+    const int count = cards().size();
     press(&m_panel, "pushButtonAddTask");
-    goToAddedCard(cards);
+    if (self) {
+        goToAddedCard(count);
+    }
 }
 
 void CardKeyboard::goToAddedCard(int formerCount)
 {
-    const QList<PlanTaskWidget*> cards = m_list.cards();
-    if (cards.size() > formerCount) {
-        focusBar(*cards.last());
+    const QList<PlanTaskWidget*> all = cards();
+    if (all.size() > formerCount) {
+        focusBar(*all.last());
     }
 }
 
@@ -192,14 +207,14 @@ void CardKeyboard::deleteTask()
     if (!card) {
         return;
     }
-    const QList<PlanTaskWidget*> cards = m_list.cards();
-    const int index = cards.indexOf(card);
+    const QPointer<CardKeyboard> self(this);
+    const int index = cards().indexOf(card);
     press(card, "pushButtonDelete");
-    if (card) {
+    if (card || !self) {
         return;
     }
     // What was answered meanwhile may have taken other cards along.
-    const QList<PlanTaskWidget*> rest = m_list.cards();
+    const QList<PlanTaskWidget*> rest = cards();
     if (!rest.isEmpty()) {
         focusBar(*rest.at(qMin(index, rest.size() - 1)));
     }
@@ -267,9 +282,17 @@ void CardKeyboard::choosePrograms()
 
 void CardKeyboard::focusBar(const PlanTaskWidget& card)
 {
-    QPushButton* const bar = barOf(card);
-    bar->setFocus(Qt::ShortcutFocusReason);
-    m_area.ensureWidgetVisible(bar);
+    giveFocus(*barOf(card));
+}
+
+void CardKeyboard::giveFocus(QWidget& field)
+{
+    const QPointer<CardKeyboard> self(this);
+    const QPointer<QWidget> target(&field);
+    field.setFocus(Qt::ShortcutFocusReason);
+    if (self && target && m_area.isAncestorOf(target)) {
+        m_area.ensureWidgetVisible(target);
+    }
 }
 
 void CardKeyboard::focusCell(const QTableView& table, int row, int column)
@@ -280,8 +303,7 @@ void CardKeyboard::focusCell(const QTableView& table, int row, int column)
         field = fieldIn(table, row, other);
     }
     if (field) {
-        field->setFocus(Qt::ShortcutFocusReason);
-        m_area.ensureWidgetVisible(field);
+        giveFocus(*field);
     }
 }
 

@@ -2,7 +2,9 @@
 
 #include "EditorKeys.h"
 
+#include <QList>
 #include <QObject>
+#include <QPointer>
 
 class PlanList;
 class QModelIndex;
@@ -20,7 +22,10 @@ class PlanTaskWidget;
 /// The bar of a card takes no part in the order of Tab, but may have the focus all the same: that
 /// is how a card is reached that is folded. The bar under the focus folds on Space.
 ///
-/// Panel, list and scroll area have to live as long as this does.
+/// Buttons raise prompts, and so does the field that loses the focus: card, list and panel may go
+/// meanwhile, and this with the panel. What is left of the key's work is dropped then.
+///
+/// Panel and scroll area have to live as long as this does.
 class CardKeyboard : public QObject
 {
     Q_OBJECT
@@ -35,6 +40,8 @@ private:
     void addCardKeys();
     void addPlanKeys();
 
+    /// From top to bottom; none once the list has gone.
+    QList<PlanTaskWidget*> cards() const;
     PlanTaskWidget* currentCard() const;
     QModelIndex currentCell() const;
 
@@ -51,13 +58,14 @@ private:
     void choosePrograms();
 
     void focusBar(const PlanTaskWidget& card);
+    void giveFocus(QWidget& field);
     /// Gives the focus to the editor in a cell, or to the next one in its row that takes it.
     void focusCell(const QTableView& table, int row, int column);
     /// A deleted widget takes the focus with it, and without a focus no key works.
     void keepFocusInPanel();
 
     QWidget& m_panel;
-    PlanList& m_list;
+    QPointer<PlanList> m_list;
     QScrollArea& m_area;
 };
 
