@@ -1,0 +1,40 @@
+#pragma once
+
+#include "EditorWindow.h"
+#include "Languages.h"
+#include "SaveRescue.h"
+#include "look/Themes.h"
+#include "scheduleControlUI.h"
+
+#include <QObject>
+#include <QString>
+
+/// The windows of the editor as its program puts them up, on a database in a folder that is given.
+class Desk : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Desk(const QString& folder);
+    ~Desk() override;
+
+    /// Runs the event loop until the program would end.
+    void run();
+
+    trel::mediadispatch::scheduleControlUI& editor() { return m_editor; }
+    Languages& languages() { return m_languages; }
+    Themes& themes() { return m_themes; }
+    EditorWindow& window() { return m_window; }
+    QString database() const { return m_database; }
+    /// The list is being filled: what it shows is not complete.
+    bool isRefreshing() const { return m_isRefreshing; }
+
+private:
+    QString m_database;
+    bool m_isRefreshing = false;
+    trel::mediadispatch::scheduleControlUI m_editor;
+    Languages m_languages;
+    Themes m_themes;
+    EditorWindow m_window;
+    SaveRescue m_rescue;
+};

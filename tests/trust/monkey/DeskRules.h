@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+class Desk;
+
+/// What holds at every moment at which the windows wait for the operator. Each function returns an
+/// empty text, or says what does not hold.
+namespace rules {
+
+/// A prompt belongs to a window that is in sight, and one stands at a time: only a file dialog may
+/// stand over the question that it belongs to.
+QString brokenByPrompts();
+/// No window has its head off the screen.
+QString brokenByPlaces();
+/// An active window has a focus, and there is an active one where there are windows.
+QString brokenByFocus();
+/// The cards of the open editor show the working set, each in step with itself.
+QString brokenByCards(Desk& desk);
+/// What a window of the editor leaves behind when it has gone.
+QString brokenByRemains();
+
+} // namespace rules
