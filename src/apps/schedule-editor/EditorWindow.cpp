@@ -5,6 +5,7 @@
 #include "HostPrompts.h"
 #include "ImportJob.h"
 #include "Languages.h"
+#include "PendingNotices.h"
 #include "ProgramTableModel.h"
 #include "clock/ClockChangePanel.h"
 #include "common/PatientFile.h"
@@ -87,6 +88,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     , m_hint(new QLabel(this))
     , m_nowNext(new QDockWidget(this))
     , m_clockChanges(new QDockWidget(this))
+    , m_notices(new PendingNotices(*this))
 {
     setObjectName(QStringLiteral("editorWindow"));
     setAcceptDrops(true);
@@ -395,6 +397,7 @@ void EditorWindow::importMedia(const QStringList& paths)
 
 void EditorWindow::finishImport()
 {
+    m_progress->hide();
     m_progress->deleteLater();
     m_progress = nullptr;
     m_job->deleteLater();
@@ -408,7 +411,7 @@ void EditorWindow::finishImport()
             reportImport(scan, static_cast<int>(result.added.size()),
                          static_cast<int>(result.updated.size()));
         } else {
-            tell(result.store.message);
+            m_notices->tell(result.store.message);
         }
     }
     emit importEnded();
@@ -430,8 +433,8 @@ void EditorWindow::reportImport(const ImportScan& scan, int added, int updated)
         lines.append(
             tr("… and %n more.", nullptr, static_cast<int>(scan.refusals.size() - kShown)));
     }
-    tell(tr("Some files could not be imported:") + QLatin1Char('\n') +
-         lines.join(QLatin1Char('\n')));
+    m_notices->tell(tr("Some files could not be imported:") + QLatin1Char('\n') +
+                    lines.join(QLatin1Char('\n')));
 }
 
 void EditorWindow::takeOverTyping()

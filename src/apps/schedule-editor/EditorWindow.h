@@ -18,6 +18,7 @@ namespace trel::desktop {
 class EditorMenus;
 class ImportJob;
 class Languages;
+class PendingNotices;
 class ProgramTableModel;
 class Themes;
 
@@ -39,7 +40,8 @@ public:
     /// what went wrong.
     QString openDatabase(const QString& path, const QString& demonstration = QString());
 
-    /// Imports media; shows progress, with a way to cancel, and reports what could not be taken.
+    /// Imports media; shows progress, with a way to cancel, and reports what could not be taken,
+    /// once no other prompt stands.
     /// While an import runs, another one is not begun.
     void importMedia(const QStringList& paths);
 
@@ -92,6 +94,7 @@ private:
     QDockWidget* m_clockChanges;
     ImportJob* m_job = nullptr;
     QProgressDialog* m_progress = nullptr;
+    PendingNotices* m_notices;
 };
 
 } // namespace trel::desktop

@@ -5,10 +5,12 @@
 
 #include <QApplication>
 #include <QDragEnterEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTimer>
 
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
@@ -25,6 +27,7 @@ private slots:
     void dropping();
     void aDragWithoutFilesIsNotTaken();
     void whatCannotBeTakenIsToldInAPrompt();
+    void whatCannotBeTakenIsToldAfterAnotherPrompt();
     void passwordsOfAddressesAreNotShown_data();
     void passwordsOfAddressesAreNotShown();
     void cancellingTakesNothingIn();
@@ -133,6 +136,32 @@ void tst_EditorImport::whatCannotBeTakenIsToldInAPrompt()
     QCOMPARE(answer.count(), 1);
     QVERIFY2(answer.texts().at(0).contains(QStringLiteral("nothing.mp4")),
              qPrintable(answer.texts().at(0)));
+}
+
+void tst_EditorImport::whatCannotBeTakenIsToldAfterAnotherPrompt()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    fixture.window.show();
+    QSignalSpy ended(&fixture.window, &EditorWindow::importEnded);
+    QStringList told;
+    QTimer reader;
+    reader.callOnTimeout([&] {
+        auto* const prompt = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        // The first prompt stands until the import is through.
+        if (prompt && !ended.isEmpty()) {
+            told.append(prompt->findChild<QLabel*>(QStringLiteral("dialogTipLabel"))->text());
+            prompt->reject();
+        }
+    });
+    reader.start(1);
+    QTimer::singleShot(0, &fixture.window, [&] {
+        fixture.window.importMedia({fixture.folder.filePath(QStringLiteral("gone.mp4"))});
+    });
+    fixture.window.tell(QStringLiteral("First"));
+    QTRY_COMPARE(told.size(), 2);
+    QCOMPARE(told.first(), QStringLiteral("First"));
+    QVERIFY(told.last().contains(QStringLiteral("gone.mp4")));
 }
 
 void tst_EditorImport::passwordsOfAddressesAreNotShown_data()

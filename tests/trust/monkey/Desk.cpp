@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDir>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 Desk::Desk(const QString& folder)

@@ -22,9 +22,9 @@ public:
     void run();
 
     trel::mediadispatch::scheduleControlUI& editor() { return m_editor; }
-    Languages& languages() { return m_languages; }
-    Themes& themes() { return m_themes; }
-    EditorWindow& window() { return m_window; }
+    trel::desktop::Languages& languages() { return m_languages; }
+    trel::desktop::Themes& themes() { return m_themes; }
+    trel::desktop::EditorWindow& window() { return m_window; }
     QString database() const { return m_database; }
     /// The list is being filled: what it shows is not complete.
     bool isRefreshing() const { return m_isRefreshing; }
@@ -33,8 +33,8 @@ private:
     QString m_database;
     bool m_isRefreshing = false;
     trel::mediadispatch::scheduleControlUI m_editor;
-    Languages m_languages;
-    Themes m_themes;
-    EditorWindow m_window;
-    SaveRescue m_rescue;
+    trel::desktop::Languages m_languages;
+    trel::desktop::Themes m_themes;
+    trel::desktop::EditorWindow m_window;
+    trel::desktop::SaveRescue m_rescue;
 };

@@ -25,6 +25,7 @@
 
 #include <algorithm>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 using trel::widgets::TipDialog;
 

@@ -29,6 +29,7 @@
 #include <algorithm>
 #include <array>
 
+using namespace trel::desktop;
 using namespace trel::mediadispatch;
 using trel::widgets::TipDialog;
 
