@@ -11,6 +11,7 @@
 #include <QSpinBox>
 #include <QTableView>
 #include <QTimeEdit>
+#include <QTimer>
 
 using namespace trel::mediadispatch;
 
@@ -49,6 +50,7 @@ private slots:
     void copyTask();
     void deleteTask();
     void deleteTaskMayBeRefused();
+    void aKeyAheadOfThePromptDoesNothing();
     void theLastTaskLeavesTheFocusInThePanel();
     void addPlan();
     void addPlanOpensAFoldedCard();
@@ -167,6 +169,25 @@ void tst_CardKeyboard::deleteTaskMayBeRefused()
     QCOMPARE(cards(), 3);
     comeBack();
     QCOMPARE(QApplication::focusWidget(), bar(0));
+}
+
+void tst_CardKeyboard::aKeyAheadOfThePromptDoesNothing()
+{
+    constexpr int kRefuse = 2;
+    press("Ctrl+PgDown");
+    const PromptAnswer prompt(kRefuse);
+    // The window has the focus until the system gives it to the prompt.
+    QTimer::singleShot(0, &m_window->dialog, [this] {
+        m_window->dialog.activateWindow();
+        QApplication::setActiveWindow(&m_window->dialog);
+        bar(0)->setFocus();
+        press("Ctrl+Shift+Del");
+        press("Ctrl+W");
+    });
+    press("Ctrl+Shift+Del");
+    QCOMPARE(prompt.count(), 1);
+    QVERIFY(m_window->dialog.isVisible());
+    QCOMPARE(cards(), 3);
 }
 
 void tst_CardKeyboard::theLastTaskLeavesTheFocusInThePanel()
