@@ -79,6 +79,11 @@ QString differing(const char* what, const QString& shown, const QString& held)
 /// What the text of a box stands for, which keeps its words when the language changes.
 QString shownDays(MultiComboBox& box)
 {
+    if (box.toolTip().isEmpty()) {
+        // A choice of nothing stands for every day, and shows nothing until the card is built
+        // again.
+        return QStringLiteral("0");
+    }
     box.restoreCheckMarks();
     QStringList days;
     for (int day = 0; day < box.count(); ++day) {
@@ -104,7 +109,8 @@ QString brokenByRow(const PlanTaskWidgetInspector& card, int row, const PlayPlan
                                        card.times(row).maximum()))) +
            (card.weeks(row).view()->isVisible()
                 ? QString()
-                : differing("days", shownDays(card.weeks(row)),
+                : differing(qPrintable(QStringLiteral("days (%1)").arg(card.weeks(row).toolTip())),
+                            shownDays(card.weeks(row)),
                             plan.weeks.empty() ? QStringLiteral("0") : text(plan.weeks))) +
            differing("end action", number(card.endAction(row).currentIndex()),
                      number(plan.endAction));
@@ -146,21 +152,15 @@ QString brokenByPrompts()
     const QWidgetList shown = shownWindows();
     QList<const QWidget*> prompts;
     for (const QWidget* const window : shown) {
-        const bool isPrompt = qobject_cast<const TipDialog*>(window) != nullptr;
-        if (!isPrompt && qobject_cast<const QFileDialog*>(window) == nullptr) {
+        if (!qobject_cast<const TipDialog*>(window)) {
             continue;
         }
-        if (isPrompt) {
-            prompts.append(window);
-        }
-        const QWindow* const handle = window->windowHandle();
-        const QWindow* const below = handle ? handle->transientParent() : nullptr;
-        const bool hasOthers = std::any_of(shown.begin(), shown.end(), [&](const QWidget* other) {
-            return other != window && !qobject_cast<const TipDialog*>(other) &&
-                   other->windowType() != Qt::Popup;
+        prompts.append(window);
+        const bool hasOthers = std::any_of(shown.begin(), shown.end(), [](const QWidget* other) {
+            return !qobject_cast<const TipDialog*>(other) && other->windowType() == Qt::Window;
         });
-        if (hasOthers && !(below && below->isVisible())) {
-            return QStringLiteral("a prompt belongs to no window in sight: ") + textOf(*window);
+        if (hasOthers && !window->windowHandle()->transientParent()) {
+            return QStringLiteral("a prompt belongs to no window: ") + textOf(*window);
         }
     }
     if (prompts.size() > 1) {

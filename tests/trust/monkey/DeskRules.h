@@ -8,8 +8,7 @@ class Desk;
 /// empty text, or says what does not hold.
 namespace rules {
 
-/// A prompt belongs to a window that is in sight, and one stands at a time: only a file dialog may
-/// stand over the question that it belongs to.
+/// A prompt belongs to a window, and one stands at a time.
 QString brokenByPrompts();
 /// No window has its head off the screen.
 QString brokenByPlaces();

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QPointer>
 #include <QUrl>
 #include <QWheelEvent>
 #include <QWidget>
@@ -45,7 +46,11 @@ QPoint visiblePlace(const QWidget& widget, int across, int down)
 
 void press(QWidget& widget, QPoint place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers)
 {
+    const QPointer<QWidget> alive(&widget);
     move(widget, place, Qt::NoButton);
+    if (!alive) {
+        return;
+    }
     sendMouse(widget, place, button, button, QEvent::MouseButtonPress, modifiers);
 }
 

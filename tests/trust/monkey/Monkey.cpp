@@ -23,6 +23,7 @@
 #include <QMenuBar>
 #include <QProcess>
 #include <QProgressDialog>
+#include <QSizeGrip>
 #include <QTimer>
 #include <QWindow>
 
@@ -344,7 +345,9 @@ QWidget* Monkey::target(Dice& dice) const
         // Fields and buttons rather than what holds them.
         const bool isUseful = widget->focusPolicy() != Qt::NoFocus ||
                               qobject_cast<QAbstractButton*>(widget) || dice.oneIn(10);
-        if (widget->window() == window && isUseful && widget->isVisible() &&
+        // The size of a window is the operator's own business.
+        const bool isGrip = qobject_cast<QSizeGrip*>(widget) != nullptr;
+        if (widget->window() == window && isUseful && !isGrip && widget->isVisible() &&
             !widget->visibleRegion().isEmpty()) {
             seen.append(widget);
         }
@@ -364,23 +367,26 @@ void Monkey::click(Dice& dice, QWidget& widget)
                                   described(widget))
                              .arg(place.x())
                              .arg(place.y()));
+    const QPointer<QWidget> alive(&widget);
     letGo();
-    hand::press(widget, place, button, Qt::NoModifier);
-    m_held = &widget;
+    if (!alive) {
+        return;
+    }
+    // Turns within the press let it go.
+    m_held = alive;
     m_heldPlace = place;
-    if (button == Qt::RightButton) {
-        hand::release(widget, place, button, Qt::NoModifier);
-        m_held.clear();
-    } else if (!isHeld) {
+    m_heldButton = button;
+    hand::press(widget, place, button, Qt::NoModifier);
+    if (!isHeld) {
         letGo();
     }
 }
 
 void Monkey::letGo()
 {
-    if (m_held) {
-        hand::release(*m_held, m_heldPlace, Qt::LeftButton, Qt::NoModifier);
+    if (QWidget* const held = m_held) {
         m_held.clear();
+        hand::release(*held, m_heldPlace, m_heldButton, Qt::NoModifier);
     }
 }
 

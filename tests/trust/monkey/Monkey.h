@@ -71,4 +71,5 @@ private:
     int m_focusMisses = 0;
     QPointer<QWidget> m_held;
     QPoint m_heldPlace;
+    Qt::MouseButton m_heldButton = Qt::LeftButton;
 };
