@@ -168,9 +168,14 @@ double processorSeconds(const std::function<void()>& action)
 
 double threadSeconds(const std::function<void()>& action)
 {
-    const double start = seconds(CLOCK_THREAD_CPUTIME_ID);
+    const double start = threadTime();
     action();
-    return seconds(CLOCK_THREAD_CPUTIME_ID) - start;
+    return threadTime() - start;
+}
+
+double threadTime()
+{
+    return seconds(CLOCK_THREAD_CPUTIME_ID);
 }
 
 double wallSeconds(const std::function<void()>& action)

@@ -46,6 +46,8 @@ void run();
 double processorSeconds(const std::function<void()>& action);
 /// The same of the thread that calls alone.
 double threadSeconds(const std::function<void()>& action);
+/// The processor time that the thread that calls has taken so far, in seconds.
+double threadTime();
 /// The seconds that pass meanwhile, which is what waiting for a disk or another process costs.
 double wallSeconds(const std::function<void()>& action);
 /// The bytes on the heap that something leaves behind.

@@ -34,7 +34,8 @@ constexpr int kAddLockMSecs = 1000;
 /// What the waits take of the interface thread, in seconds.
 struct Waits
 {
-    double refusal = 0.0; ///< A prompt that comes, is painted and goes.
+    double refusal = 0.0; ///< Until the prompt is painted.
+    double answer = 0.0;  ///< Until the prompt is gone.
     double add = 0.0;
     double theme = 0.0;
     double language = 0.0;
@@ -47,22 +48,29 @@ class PaintedPrompt : public QObject
 public:
     PaintedPrompt() { qApp->installEventFilter(this); }
 
-    bool hasCome() const { return m_hasCome; }
+    bool hasCome() const { return m_painted > 0.0; }
+    /// The processor time of the thread when it had been painted.
+    double painted() const { return m_painted; }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         auto* const prompt = event->type() == QEvent::Paint
                                  ? qobject_cast<trel::widgets::TipDialog*>(watched)
                                  : nullptr;
-        if (prompt != nullptr && !m_hasCome) {
-            m_hasCome = true;
-            QMetaObject::invokeMethod(prompt, &QWidget::close, Qt::QueuedConnection);
+        if (prompt != nullptr && !hasCome()) {
+            QMetaObject::invokeMethod(
+                prompt,
+                [this, prompt] {
+                    m_painted = threadTime();
+                    prompt->close();
+                },
+                Qt::QueuedConnection);
         }
         return false;
     }
 
 private:
-    bool m_hasCome = false;
+    double m_painted = 0.0;
 };
 
 /// The editor with a schedule of so many tasks, in which the last two overlap.
@@ -98,14 +106,16 @@ private:
         windows.editor().findChild<QAbstractButton*>(QLatin1String(button))->click();
     }
 
-    static double refusal(HostWindows& windows)
+    static void refuse(HostWindows& windows, Waits& waits)
     {
         const PaintedPrompt prompt;
-        const double taken = seconds([&windows] { press(windows, "pushButtonSave"); });
+        const double start = threadTime();
+        const double whole = seconds([&windows] { press(windows, "pushButtonSave"); });
         if (!prompt.hasCome()) {
             throw std::runtime_error("No prompt has come.");
         }
-        return taken;
+        waits.refusal = prompt.painted() - start;
+        waits.answer = whole - waits.refusal;
     }
 
     Waits measure() const
@@ -116,7 +126,7 @@ private:
         windows.fill(kPrograms, false, tasks);
         seconds([&windows] { windows.showEditor(); });
         Waits waits;
-        waits.refusal = refusal(windows);
+        refuse(windows, waits);
         waits.theme = seconds([&windows] { windows.themes().select(QStringLiteral("light")); });
         windows.themes().select(QStringLiteral("dark"));
         waits.language =
@@ -153,6 +163,7 @@ void addEditorWaits()
              "waits in the editor"});
     };
     enter("Refuse a save", &Waits::refusal);
+    enter("Close the prompt of a refusal", &Waits::answer);
     enter("Add a task", &Waits::add);
     enter("Switch the theme", &Waits::theme);
     enter("Switch the language", &Waits::language);

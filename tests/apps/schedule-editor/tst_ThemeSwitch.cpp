@@ -11,6 +11,7 @@
 #include <QScrollArea>
 #include <QTableView>
 #include <QTimer>
+#include <QToolTip>
 
 #include <algorithm>
 #include <functional>
@@ -35,6 +36,8 @@ private slots:
     void whatNobodySeesFollowsLater();
     void whatComesIntoSightIsReady_data();
     void whatComesIntoSightIsReady();
+    void aWindowThatWasNeverShownFollowsLater();
+    void toolTipsFollowLater();
     void aSecondSwitchBringsAllBack();
 
 private:
@@ -234,6 +237,28 @@ void tst_ThemeSwitch::whatComesIntoSightIsReady()
     QVERIFY(doAllFollow(*part));
     // Nothing else had its turn.
     QVERIFY(!doAllFollow(*m_host->editor));
+}
+
+void tst_ThemeSwitch::aWindowThatWasNeverShownFollowsLater()
+{
+    // The toolkit passes a palette over what lies below a style sheet.
+    QWidget window;
+    window.setStyleSheet(QStringLiteral("QWidget { margin: 0px; }"));
+    const auto* const part = new QWidget(&window);
+    part->ensurePolished();
+    QVERIFY(follows(part));
+    m_host->themes.select(kLight);
+    QVERIFY(!follows(part));
+    QTRY_VERIFY(follows(part));
+}
+
+void tst_ThemeSwitch::toolTipsFollowLater()
+{
+    const QColor dark = QToolTip::palette().color(QPalette::ToolTipText);
+    m_host->themes.select(kLight);
+    const QColor light = QApplication::palette().color(QPalette::ToolTipText);
+    QVERIFY(light != dark);
+    QTRY_COMPARE(QToolTip::palette().color(QPalette::ToolTipText), light);
 }
 
 void tst_ThemeSwitch::aSecondSwitchBringsAllBack()

@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QToolTip>
 #include <QWidget>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -28,6 +30,21 @@ std::vector<QWidget*> partsOf(const QWidget& widget)
     return parts;
 }
 
+/// The windows that are shown or have been. To list the others as well, the toolkit walks through
+/// every widget there is.
+QWidgetList shownWindows()
+{
+    QWidgetList shown;
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    for (const QWindow* const window : windows) {
+        QWidget* const widget = window->handle() ? QWidget::find(window->winId()) : nullptr;
+        if (widget != nullptr) {
+            shown.append(widget);
+        }
+    }
+    return shown;
+}
+
 } // namespace
 
 Recolouring::Recolouring(EditorStyle& style)
@@ -41,6 +58,8 @@ Recolouring::Recolouring(EditorStyle& style)
 void Recolouring::run()
 {
     m_waiting.clear();
+    m_hasRest = false;
+    QToolTip::setPalette(QApplication::palette());
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget* const window : windows) {
         recolourWhole(*window);
@@ -50,10 +69,13 @@ void Recolouring::run()
 void Recolouring::begin()
 {
     m_waiting.clear();
-    const QWidgetList windows = QApplication::topLevelWidgets();
+    m_shown.clear();
+    const QWidgetList windows = shownWindows();
     for (QWidget* const window : windows) {
         recolourInSight(*window, window->rect());
+        m_shown.emplace_back(window);
     }
+    m_hasRest = true;
     m_turn.start();
 }
 
@@ -95,8 +117,24 @@ void Recolouring::putOff(QWidget& part)
     m_waiting.emplace_back(&part);
 }
 
+void Recolouring::beginWithTheRest()
+{
+    // For a palette of a class, too, the toolkit walks through every widget.
+    QToolTip::setPalette(QApplication::palette());
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* const window : windows) {
+        if (std::find(m_shown.begin(), m_shown.end(), window) == m_shown.end()) {
+            putOff(*window);
+        }
+    }
+    m_hasRest = false;
+}
+
 void Recolouring::takeTurn()
 {
+    if (m_hasRest) {
+        beginWithTheRest();
+    }
     QElapsedTimer timer;
     timer.start();
     while (!m_waiting.empty() && !timer.hasExpired(kTurnMSecs)) {

@@ -15,7 +15,8 @@ namespace trel::desktop::look {
 ///
 /// A long list has tens of thousands of widgets, few of which anybody sees. What is in sight is
 /// done at once, the rest in short turns, between which the event loop is free; a part that comes
-/// into sight before its turn is done before it is painted.
+/// into sight before its turn is done before it is painted. Windows that have never been shown and
+/// the palette of the tool tips are part of the rest.
 class Recolouring : public QObject
 {
 public:
@@ -35,10 +36,13 @@ private:
     void recolourWhole(QWidget& widget);
     void recolourInSight(QWidget& widget, const QRect& sight);
     void putOff(QWidget& part);
+    void beginWithTheRest();
     void takeTurn();
 
     QPointer<EditorStyle> m_style; // The application's, which may take another one.
     std::vector<QPointer<QWidget>> m_waiting;
+    std::vector<QPointer<QWidget>> m_shown; ///< The windows that begin() has done.
+    bool m_hasRest = false;                 ///< All other windows, until the next turn.
     QTimer m_turn;
 };
 

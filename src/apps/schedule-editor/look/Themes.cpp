@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QFont>
-#include <QToolTip>
 
 namespace trel::desktop {
 
@@ -76,9 +75,7 @@ void Themes::takeColours()
     if (m_style) {
         m_style->setColours(colours);
     }
-    const QPalette palette = look::windowPalette(colours);
-    QApplication::setPalette(palette);
-    QToolTip::setPalette(palette);
+    QApplication::setPalette(look::windowPalette(colours));
 }
 
 } // namespace trel::desktop
