@@ -12,6 +12,8 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -273,12 +275,16 @@ void StoreFile::removeLeftDrafts() const
 {
     const QFileInfo info(m_path);
     const QString start = info.fileName() + draftMark();
-    const QFileInfoList files =
-        info.dir().entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-    for (const QFileInfo& file : files) {
-        if (file.fileName().startsWith(start) &&
-            isOfStoppedProgram(file.fileName().midRef(start.size()))) {
-            QFile::remove(file.filePath());
+    // The folder may hold thousands of media files, so that none is looked at but by its name.
+    std::error_code failure;
+    std::filesystem::directory_iterator entry(QFile::encodeName(info.path()).constData(), failure);
+    for (; !failure && entry != std::filesystem::directory_iterator(); entry.increment(failure)) {
+        const QString name = QFile::decodeName(entry->path().filename().c_str());
+        if (name.startsWith(start) && isOfStoppedProgram(name.midRef(start.size()))) {
+            const QFileInfo draft(info.dir(), name);
+            if (draft.isFile() && !draft.isSymLink()) {
+                QFile::remove(draft.filePath());
+            }
         }
     }
 }
