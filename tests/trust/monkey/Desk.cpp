@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QTimer>
 
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
@@ -34,7 +35,8 @@ Desk::~Desk() = default;
 void Desk::run()
 {
     m_window.show();
-    m_window.showEditor();
+    // Within the event loop, as the program does: what closes before it runs cannot end it.
+    QTimer::singleShot(0, &m_window, [this] { m_window.showEditor(); });
     QApplication::exec();
     ScheduleHost::instance().close();
 }
