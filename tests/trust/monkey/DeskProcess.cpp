@@ -55,7 +55,6 @@ void DeskProcess::start()
     m_process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process->start(QCoreApplication::applicationFilePath(),
                      {QStringLiteral("--desk"), m_database});
-    isEdited = false;
 }
 
 void DeskProcess::send(const QString& request)

@@ -40,7 +40,9 @@ public:
     int seenWrites = 0;
     /// The working set as it was told last.
     Tasks tasks;
-    bool isEdited = false;
+    /// What it was when it was read or saved last.
+    Tasks base;
+    bool isEdited() const { return tasks != base; }
 
 private:
     void start();

@@ -94,9 +94,7 @@ void SharedStore::edit(Dice& dice, DeskProcess& desk)
 {
     const int number = dice.below(1000000);
     FlightRecorder::note(QStringLiteral("edit %1").arg(number));
-    const Tasks before = desk.tasks;
     desk.ask(QStringLiteral("edit %1").arg(number));
-    desk.isEdited = desk.isEdited || desk.tasks != before;
 }
 
 void SharedStore::refresh(DeskProcess& desk)
@@ -108,7 +106,7 @@ void SharedStore::refresh(DeskProcess& desk)
                                  .arg(readable(answer.tasks), readable(m_tasks)));
     }
     sees(desk);
-    desk.isEdited = false;
+    desk.base = answer.tasks;
 }
 
 void SharedStore::sees(DeskProcess& desk) const
@@ -132,7 +130,7 @@ void SharedStore::save(DeskProcess& desk)
 void SharedStore::takeSave(DeskProcess& desk, const DeskProcess::Answer& answer, bool wasCurrent)
 {
     const bool isSaved = answer.result == QLatin1String("saved");
-    if (isSaved && desk.isEdited && desk.seen != m_changes) {
+    if (isSaved && desk.isEdited() && desk.seen != m_changes) {
         FlightRecorder::fail(QStringLiteral("a save undid what its editor has not seen"));
     }
     if (!isSaved && wasCurrent) {
@@ -142,9 +140,9 @@ void SharedStore::takeSave(DeskProcess& desk, const DeskProcess::Answer& answer,
         return;
     }
     const bool sawAll = desk.seen == m_changes;
-    if (desk.isEdited) {
+    if (desk.isEdited()) {
         changed(answer.tasks);
-        desk.isEdited = false;
+        desk.base = answer.tasks;
     } else {
         ++m_writes;
     }
@@ -157,7 +155,7 @@ void SharedStore::saveAtOnce(DeskProcess& first, DeskProcess& second)
 {
     FlightRecorder::note(QStringLiteral("two saves at once"));
     const bool areBothCurrent = isCurrent(first) && isCurrent(second);
-    const bool areBothEdited = first.isEdited && second.isEdited;
+    const bool areBothEdited = first.isEdited() && second.isEdited();
     first.send(QStringLiteral("save"));
     second.send(QStringLiteral("save"));
     const DeskProcess::Answer answers[] = {first.answer(), second.answer()};
@@ -177,7 +175,7 @@ void SharedStore::saveAtOnce(DeskProcess& first, DeskProcess& second)
 void SharedStore::killInSave(Dice& dice, DeskProcess& desk)
 {
     FlightRecorder::note(QStringLiteral("kill in a save"));
-    const bool mayBeSaved = desk.isEdited && desk.seen == m_changes;
+    const bool mayBeSaved = desk.isEdited() && desk.seen == m_changes;
     const Tasks working = desk.tasks;
     ++m_writes;
     desk.send(QStringLiteral("save"));
