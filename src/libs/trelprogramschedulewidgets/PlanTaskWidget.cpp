@@ -832,7 +832,8 @@ void PlanTaskWidget::slotDeletePlan()
 bool PlanTaskWidget::isConfirmed(const char* key)
 {
     const QPointer<PlanTaskWidget> self(this);
-    return askConfirmation(scheduleText(key)) && self;
+    // First, or the question would take the focus from the field, and a refusal come over it.
+    return takeOverTyping(*this) && askConfirmation(scheduleText(key)) && self;
 }
 
 void PlanTaskWidget::forgetRow(int row)

@@ -54,6 +54,7 @@ private slots:
     void anUntouchedEditorFilesNothing();
     void isTakenOverBeforeTheWindowHides();
     void isDroppedWithTheWindow();
+    void isRefusedBeforeTheQuestion();
 };
 
 void tst_TypingAtTheEnd::init()
@@ -147,6 +148,19 @@ void tst_TypingAtTheEnd::isDroppedWithTheWindow()
     typeZero(stage.rows().endTime(kPlainRow));
     delete &stage.dialog();
     QCOMPARE(noPrompt.count(), 0);
+}
+
+// Both at once would lie over each other.
+void tst_TypingAtTheEnd::isRefusedBeforeTheQuestion()
+{
+    constexpr int kRefuse = 2;
+    const PromptAnswer prompts{kConfirm, kRefuse};
+    const Stage stage(QStringLiteral("nothing"));
+    typeZero(stage.rows().endTime(kPlainRow));
+    QTest::keyClick(stage.dialog().windowHandle(), Qt::Key_Delete,
+                    Qt::ControlModifier | Qt::ShiftModifier);
+    QCOMPARE(prompts.texts(), QStringList({QStringLiteral("zhStartVaildTimeError"),
+                                           QStringLiteral("szDeleteTaskConfirmStr")}));
 }
 
 TREL_TEST(tst_TypingAtTheEnd, QApplication)
