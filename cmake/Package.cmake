@@ -64,6 +64,8 @@ install_headers(schedulecontract src/libs/trelprogramschedulewidgets
 install_headers(trelprogramschedule src/libs
   trelprogramschedule/catalogue/ProgramImporter.h
   trelprogramschedule/ScheduleHost.h
+  trelprogramschedule/faults/Fault.h
+  trelprogramschedule/faults/FaultWords.h
   trelprogramschedule/json/ScheduleJson.h
   trelprogramschedule/catalogue/ShownAddress.h
   trelprogramschedule/store/StoreResult.h

@@ -1,6 +1,7 @@
 #include "HostWindows.h"
 
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 
 #include <QApplication>
 #include <QDockWidget>
@@ -18,7 +19,7 @@ namespace {
 void expect(const StoreResult& result)
 {
     if (!result) {
-        throw std::runtime_error(result.message.toStdString());
+        throw std::runtime_error(englishText(result).toStdString());
     }
 }
 

@@ -6,6 +6,7 @@
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 
 #include <QLocale>
 #include <QTemporaryDir>
@@ -26,7 +27,7 @@ constexpr int kPlansOfTask = 5;
 void expect(const StoreResult& result)
 {
     if (!result) {
-        throw std::runtime_error(result.message.toStdString());
+        throw std::runtime_error(englishText(result).toStdString());
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <scheduleControlUI.h>
 #include <trelprogramschedule/ScheduleHost.h>
+#include <trelprogramschedule/faults/FaultWords.h>
 
 #include <QApplication>
 #include <QTextStream>
@@ -20,7 +21,7 @@ int main(int argc, char** argv)
 
     const StoreResult opened = ScheduleHost::instance().open(arguments.at(1));
     if (!opened) {
-        QTextStream(stderr) << opened.message << '\n';
+        QTextStream(stderr) << englishText(opened) << '\n';
         return 1;
     }
 

@@ -133,10 +133,6 @@
         <source>Read a schedule from a file</source>
         <translation>Wiedergabeplan aus einer Datei laden</translation>
     </message>
-    <message>
-        <source>%1 could not be read: %2</source>
-        <translation>%1 konnte nicht gelesen werden: %2</translation>
-    </message>
     <message numerus="yes">
         <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
@@ -217,6 +213,499 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemWords</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Der Arbeitsspeicher reicht nicht aus.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>Der Datenträger ist voll.</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up.</source>
+        <translation>Ihr Speicherkontingent auf dem Datenträger ist aufgebraucht.</translation>
+    </message>
+    <message>
+        <source>The system does not let this application write a larger file.</source>
+        <translation>Das System lässt diese Anwendung keine größere Datei schreiben.</translation>
+    </message>
+    <message>
+        <source>The file or its folder is read-only.</source>
+        <translation>Die Datei oder ihr Ordner ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>It was opened for reading only.</source>
+        <translation>Sie wurde nur zum Lesen geöffnet.</translation>
+    </message>
+    <message>
+        <source>Reading it took too long.</source>
+        <translation>Das Lesen hat zu lange gedauert.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in it is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Ein Text darin ist länger als %n Byte.</numerusform>
+            <numerusform>Ein Text darin ist länger als %n Byte.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database reports error %1.</source>
+        <translation>Die Datenbank meldet den Fehler %1.</translation>
+    </message>
+    <message>
+        <source>The database reports error %1. %3</source>
+        <translation>Die Datenbank meldet den Fehler %1. %3</translation>
+    </message>
+    <message>
+        <source>The database has failed its own check.</source>
+        <translation>Die Selbstprüfung der Datenbank ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>The disk reports a read or write error.</source>
+        <translation>Der Datenträger meldet einen Lese- oder Schreibfehler.</translation>
+    </message>
+    <message>
+        <source>Data that must be there is missing.</source>
+        <translation>Notwendige Daten fehlen.</translation>
+    </message>
+    <message>
+        <source>The database driver is not the one that this application was made for.</source>
+        <translation>Der Datenbanktreiber passt nicht zu dieser Anwendung.</translation>
+    </message>
+    <message>
+        <source>The file is missing or empty, but its log %1 is still there.</source>
+        <translation>Die Datei fehlt oder ist leer, aber ihr Protokoll %1 ist noch vorhanden.</translation>
+    </message>
+    <message>
+        <source>No file can be created there.</source>
+        <translation>Dort kann keine Datei angelegt werden.</translation>
+    </message>
+    <message>
+        <source>Its log %1 belongs to another copy of the file. Put back the file that it belongs to, or move the log away to go on without it.</source>
+        <translation>Ihr Protokoll %1 gehört zu einer anderen Kopie der Datei. Legen Sie die zugehörige Datei zurück, oder verschieben Sie das Protokoll, um ohne es fortzufahren.</translation>
+    </message>
+    <message>
+        <source>Its log has no index, and none can be created in a read-only folder. Copy both files to another folder.</source>
+        <translation>Ihr Protokoll hat keinen Index, und in einem schreibgeschützten Ordner kann keiner angelegt werden. Kopieren Sie beide Dateien in einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>It was removed or replaced after it was opened.</source>
+        <translation>Sie wurde nach dem Öffnen entfernt oder ersetzt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the path of a program is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Name oder Pfad eines Programms ist länger als %n Byte.</numerusform>
+            <numerusform>Name oder Pfad eines Programms ist länger als %n Byte.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n numbers for programs are used up.</source>
+        <translation>
+            <numerusform>Die einzige Programmnummer ist vergeben.</numerusform>
+            <numerusform>Alle %n Programmnummern sind vergeben.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its plans do not fit together.</source>
+        <translation>Ihre Pläne passen nicht zusammen.</translation>
+    </message>
+    <message>
+        <source>“%1” is missing.</source>
+        <translation>„%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>It contains “%1”, which does not belong there.</source>
+        <translation>Sie enthält „%1“, das dort nicht hingehört.</translation>
+    </message>
+    <message>
+        <source>“%1” has been changed.</source>
+        <translation>„%1“ wurde verändert.</translation>
+    </message>
+    <message>
+        <source>It does not say which state it is in.</source>
+        <translation>Sie enthält keine Angabe zu ihrem Zustand.</translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n tasks.</source>
+        <translation>
+            <numerusform>Es gibt mehr als %n Auftrag.</numerusform>
+            <numerusform>Es gibt mehr als %n Aufträge.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n plans.</source>
+        <translation>
+            <numerusform>Es gibt mehr als %n Plan.</numerusform>
+            <numerusform>Es gibt mehr als %n Pläne.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n entries.</source>
+        <translation>
+            <numerusform>Es gibt mehr als %n Eintrag.</numerusform>
+            <numerusform>Es gibt mehr als %n Einträge.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n numbers in the lists of plans.</source>
+        <translation>
+            <numerusform>Die Listen der Pläne enthalten mehr als %n Zahl.</numerusform>
+            <numerusform>Die Listen der Pläne enthalten mehr als %n Zahlen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n programs.</source>
+        <translation>
+            <numerusform>Es gibt mehr als %n Programm.</numerusform>
+            <numerusform>Es gibt mehr als %n Programme.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text of task %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Ein Text von Auftrag %1 ist länger als %n Byte.</numerusform>
+            <numerusform>Ein Text von Auftrag %1 ist länger als %n Byte.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It is larger than %n bytes.</source>
+        <translation>
+            <numerusform>Sie ist größer als %n Byte.</numerusform>
+            <numerusform>Sie ist größer als %n Byte.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n values.</source>
+        <translation>
+            <numerusform>Es gibt mehr als %n Wert.</numerusform>
+            <numerusform>Es gibt mehr als %n Werte.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A name in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Ein Name in Zeile %1 ist länger als %n Byte.</numerusform>
+            <numerusform>Ein Name in Zeile %1 ist länger als %n Byte.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Ein Text in Zeile %1 ist länger als %n Byte.</numerusform>
+            <numerusform>Ein Text in Zeile %1 ist länger als %n Byte.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (line %1, column %2).</source>
+        <translation>Sie enthält kein gültiges JSON (Zeile %1, Spalte %2).</translation>
+    </message>
+    <message>
+        <source>“%1” is not a whole number.</source>
+        <translation>„%1“ ist keine ganze Zahl.</translation>
+    </message>
+    <message>
+        <source>“%1” is outside the permitted range.</source>
+        <translation>„%1“ liegt außerhalb des zulässigen Bereichs.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1, found %2.</source>
+        <translation>Falsche Art von Wert: erwartet %1, gefunden %2.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1 or a number, found %2.</source>
+        <translation>Falsche Art von Wert: erwartet %1 oder eine Zahl, gefunden %2.</translation>
+    </message>
+    <message>
+        <source>“%2” is not known here. Expected: %1 or a number.</source>
+        <translation>„%2“ ist hier nicht bekannt. Erwartet: %1 oder eine Zahl.</translation>
+    </message>
+    <message>
+        <source>The text is not valid Base64.</source>
+        <translation>Der Text ist kein gültiges Base64.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The text is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Der Text ist länger als %n Byte.</numerusform>
+            <numerusform>Der Text ist länger als %n Byte.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The key %1 is not the ID of the task, which is %2.</source>
+        <translation>Der Schlüssel %1 stimmt nicht mit der ID des Auftrags (%2) überein.</translation>
+    </message>
+    <message>
+        <source>Another task already has the ID %1.</source>
+        <translation>Ein anderer Auftrag hat bereits die ID %1.</translation>
+    </message>
+    <message>
+        <source>The format is “%1” instead of “%2”.</source>
+        <translation>Das Format ist „%1“ statt „%2“.</translation>
+    </message>
+    <message>
+        <source>Version %1 is newer than version %2, the newest that this application reads.</source>
+        <translation>Version %1 ist neuer als Version %2, die neueste, die diese Anwendung liest.</translation>
+    </message>
+    <message>
+        <source>There is no version %1.</source>
+        <translation>Eine Version %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>It is JSON of another kind, not a schedule.</source>
+        <translation>Sie enthält JSON anderer Art, keinen Wiedergabeplan.</translation>
+    </message>
+    <message>
+        <source>It is not a schedule: “format” is missing.</source>
+        <translation>Sie ist kein Wiedergabeplan: „format“ fehlt.</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here.</source>
+        <translation>„%1“ ist hier nicht bekannt.</translation>
+    </message>
+    <message>
+        <source>“%1” occurs twice here.</source>
+        <translation>„%1“ kommt hier zweimal vor.</translation>
+    </message>
+    <message>
+        <source>It is a folder.</source>
+        <translation>Es ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>It is a pipe, not a file.</source>
+        <translation>Es ist eine Pipe, keine Datei.</translation>
+    </message>
+    <message>
+        <source>It is a socket, not a file.</source>
+        <translation>Es ist ein Socket, keine Datei.</translation>
+    </message>
+    <message>
+        <source>It is a device, not a file.</source>
+        <translation>Es ist ein Gerät, keine Datei.</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Es ist keine Datei.</translation>
+    </message>
+    <message>
+        <source>Nothing comes through the pipe.</source>
+        <translation>Durch die Pipe kommen keine Daten.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Die Datei existiert nicht.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read it.</source>
+        <translation>Sie haben keine Leseberechtigung.</translation>
+    </message>
+    <message>
+        <source>It cannot be opened. %1</source>
+        <translation>Sie lässt sich nicht öffnen. %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>Its name is not in UTF-8. Rename the file to import it.</source>
+        <translation>Der Name ist nicht in UTF-8. Benennen Sie die Datei um, um sie zu importieren.</translation>
+    </message>
+    <message>
+        <source>Addresses of this kind cannot be played.</source>
+        <translation>Adressen dieser Art können nicht abgespielt werden.</translation>
+    </message>
+    <message>
+        <source>It is a file on another computer. Copy it to this computer first.</source>
+        <translation>Die Datei liegt auf einem anderen Computer. Kopieren Sie sie zuerst auf diesen.</translation>
+    </message>
+    <message>
+        <source>It is not a media file, or it is damaged.</source>
+        <translation>Es ist keine Mediendatei, oder sie ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>Files of this format cannot be imported.</source>
+        <translation>Dateien dieses Formats können nicht importiert werden.</translation>
+    </message>
+    <message>
+        <source>Its content cannot be read.</source>
+        <translation>Ihr Inhalt kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The image in it cannot be read.</source>
+        <translation>Das Bild darin kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>It contains neither picture nor sound.</source>
+        <translation>Sie enthält weder Bild noch Ton.</translation>
+    </message>
+    <message>
+        <source>Its length cannot be determined.</source>
+        <translation>Ihre Länge lässt sich nicht ermitteln.</translation>
+    </message>
+    <message>
+        <source>It could not be read in time.</source>
+        <translation>Sie konnte nicht rechtzeitig gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The media reader crashed while reading it.</source>
+        <translation>Das Medienleseprogramm ist beim Lesen abgestürzt.</translation>
+    </message>
+    <message>
+        <source>The media reader gave no valid answer about it.</source>
+        <translation>Das Medienleseprogramm hat keine gültige Antwort gegeben.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader is missing: %1</source>
+        <translation>Medien können nicht gelesen werden. Das Medienleseprogramm fehlt: %1</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 cannot be started. %2</source>
+        <translation>Medien können nicht gelesen werden. Das Medienleseprogramm %1 lässt sich nicht starten. %2</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 does not answer.</source>
+        <translation>Medien können nicht gelesen werden. Das Medienleseprogramm %1 antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 exits immediately.</source>
+        <translation>Medien können nicht gelesen werden. Das Medienleseprogramm %1 beendet sich sofort.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 is of another version.</source>
+        <translation>Medien können nicht gelesen werden. Das Medienleseprogramm %1 gehört zu einer anderen Version.</translation>
+    </message>
+    <message>
+        <source>No schedule file is open, so nothing can be saved.</source>
+        <translation>Es ist keine Wiedergabeplan-Datei geöffnet, daher kann nichts gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened. Its folder does not exist.</source>
+        <translation>%1 lässt sich nicht öffnen. Der Ordner existiert nicht.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 existiert nicht.</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database.</source>
+        <translation>%1 ist keine Wiedergabeplan-Datenbank.</translation>
+    </message>
+    <message>
+        <source>%1 is a database of another application.</source>
+        <translation>%1 ist eine Datenbank einer anderen Anwendung.</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of this application.</source>
+        <translation>%1 wurde von einer neueren Version dieser Anwendung geschrieben.</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another application. Try again when that application is closed.</source>
+        <translation>%1 wird von einer anderen Anwendung verwendet. Versuchen Sie es erneut, wenn diese geschlossen ist.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. %2</source>
+        <translation>%1 kann nicht geschrieben werden. %2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged. %2</source>
+        <translation>%1 ist beschädigt. %2</translation>
+    </message>
+    <message>
+        <source>%1 has been saved by another application in the meantime. Saving now would overwrite those changes.</source>
+        <translation>%1 wurde inzwischen von einer anderen Anwendung gespeichert. Speichern Sie jetzt, gehen diese Änderungen verloren.</translation>
+    </message>
+    <message>
+        <source>%1 has no room for more programs. %2</source>
+        <translation>%1 kann keine weiteren Programme aufnehmen. %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be read or written. %2</source>
+        <translation>%1 konnte nicht gelesen oder geschrieben werden. %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database as this application creates it. %2</source>
+        <translation>%1 ist keine Wiedergabeplan-Datenbank, wie diese Anwendung sie anlegt. %2</translation>
+    </message>
+    <message>
+        <source>%1 exceeds what a schedule can hold. %2</source>
+        <translation>%1 überschreitet den zulässigen Umfang eines Wiedergabeplans. %2</translation>
+    </message>
+    <message>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
+        <translation>%1 wurde möglicherweise nicht geschrieben. %2 Die Änderung ist derzeit nicht in der Datei zu sehen, kann aber nach einem Neustart des Computers vorhanden sein. Speichern Sie den Wiedergabeplan auf einem anderen Datenträger, und prüfen Sie diesen, bevor Sie fortfahren.</translation>
+    </message>
+    <message>
+        <source>You do not have permission.</source>
+        <translation>Sie haben keine Berechtigung.</translation>
+    </message>
+    <message>
+        <source>The file or a folder of its path does not exist.</source>
+        <translation>Die Datei oder ein Ordner ihres Pfads existiert nicht.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>Der Datenträger ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Der Name ist zu lang.</translation>
+    </message>
+    <message>
+        <source>Too many files are open.</source>
+        <translation>Es sind zu viele Dateien geöffnet.</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>Die Datei wird gerade verwendet.</translation>
+    </message>
+    <message>
+        <source>The system reports error %1.</source>
+        <translation>Das System meldet den Fehler %1.</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>Wahr oder Falsch</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>Liste</translation>
+    </message>
+    <message>
+        <source>object</source>
+        <translation>Objekt</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>ganze Zahl</translation>
+    </message>
+    <message>
+        <source>whole number as text</source>
+        <translation>ganze Zahl als Text</translation>
+    </message>
+    <message>
+        <source>%1 could not be read. %2</source>
+        <translation>%1 konnte nicht gelesen werden. %2</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>Zeile %1, %2: %3</translation>
     </message>
 </context>
 <context>

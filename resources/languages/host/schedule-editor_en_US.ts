@@ -35,4 +35,105 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>ProblemWords</name>
+    <message numerus="yes">
+        <source>A text in it is longer than %n bytes.</source>
+        <translation>
+            <numerusform>A text in it is longer than %n byte.</numerusform>
+            <numerusform>A text in it is longer than %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the path of a program is longer than %n bytes.</source>
+        <translation>
+            <numerusform>The name or the path of a program is longer than %n byte.</numerusform>
+            <numerusform>The name or the path of a program is longer than %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n numbers for programs are used up.</source>
+        <translation>
+            <numerusform>The only number for programs is used up.</numerusform>
+            <numerusform>All %n numbers for programs are used up.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n tasks.</source>
+        <translation>
+            <numerusform>There is more than %n task.</numerusform>
+            <numerusform>There are more than %n tasks.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n plans.</source>
+        <translation>
+            <numerusform>There is more than %n plan.</numerusform>
+            <numerusform>There are more than %n plans.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n entries.</source>
+        <translation>
+            <numerusform>There is more than %n entry.</numerusform>
+            <numerusform>There are more than %n entries.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n numbers in the lists of plans.</source>
+        <translation>
+            <numerusform>There is more than %n number in the lists of plans.</numerusform>
+            <numerusform>There are more than %n numbers in the lists of plans.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n programs.</source>
+        <translation>
+            <numerusform>There is more than %n program.</numerusform>
+            <numerusform>There are more than %n programs.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text of task %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>A text of task %1 is longer than %n byte.</numerusform>
+            <numerusform>A text of task %1 is longer than %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It is larger than %n bytes.</source>
+        <translation>
+            <numerusform>It is larger than %n byte.</numerusform>
+            <numerusform>It is larger than %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n values.</source>
+        <translation>
+            <numerusform>There is more than %n value.</numerusform>
+            <numerusform>There are more than %n values.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A name in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>A name in line %1 is longer than %n byte.</numerusform>
+            <numerusform>A name in line %1 is longer than %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>A text in line %1 is longer than %n byte.</numerusform>
+            <numerusform>A text in line %1 is longer than %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>The text is longer than %n bytes.</source>
+        <translation>
+            <numerusform>The text is longer than %n byte.</numerusform>
+            <numerusform>The text is longer than %n bytes.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -133,10 +133,6 @@
         <source>Read a schedule from a file</source>
         <translation>Leer una programación de un archivo</translation>
     </message>
-    <message>
-        <source>%1 could not be read: %2</source>
-        <translation>No se ha podido leer %1: %2</translation>
-    </message>
     <message numerus="yes">
         <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
@@ -217,6 +213,499 @@
     <message>
         <source>OK</source>
         <translation>Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemWords</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>No hay memoria suficiente.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>El disco está lleno.</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up.</source>
+        <translation>Su cuota de disco está agotada.</translation>
+    </message>
+    <message>
+        <source>The system does not let this application write a larger file.</source>
+        <translation>El sistema no permite que esta aplicación escriba un archivo más grande.</translation>
+    </message>
+    <message>
+        <source>The file or its folder is read-only.</source>
+        <translation>El archivo o su carpeta es de solo lectura.</translation>
+    </message>
+    <message>
+        <source>It was opened for reading only.</source>
+        <translation>Se abrió solo para lectura.</translation>
+    </message>
+    <message>
+        <source>Reading it took too long.</source>
+        <translation>La lectura tardó demasiado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in it is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Contiene un texto de más de %n byte.</numerusform>
+            <numerusform>Contiene un texto de más de %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database reports error %1.</source>
+        <translation>La base de datos informa del error %1.</translation>
+    </message>
+    <message>
+        <source>The database reports error %1. %3</source>
+        <translation>La base de datos informa del error %1. %3</translation>
+    </message>
+    <message>
+        <source>The database has failed its own check.</source>
+        <translation>La comprobación interna de la base de datos ha fallado.</translation>
+    </message>
+    <message>
+        <source>The disk reports a read or write error.</source>
+        <translation>El disco informa de un error de lectura o escritura.</translation>
+    </message>
+    <message>
+        <source>Data that must be there is missing.</source>
+        <translation>Faltan datos imprescindibles.</translation>
+    </message>
+    <message>
+        <source>The database driver is not the one that this application was made for.</source>
+        <translation>El controlador de la base de datos no es el previsto para esta aplicación.</translation>
+    </message>
+    <message>
+        <source>The file is missing or empty, but its log %1 is still there.</source>
+        <translation>El archivo falta o está vacío, pero su registro %1 sigue ahí.</translation>
+    </message>
+    <message>
+        <source>No file can be created there.</source>
+        <translation>Ahí no se puede crear ningún archivo.</translation>
+    </message>
+    <message>
+        <source>Its log %1 belongs to another copy of the file. Put back the file that it belongs to, or move the log away to go on without it.</source>
+        <translation>Su registro %1 pertenece a otra copia del archivo. Vuelva a colocar el archivo correspondiente o mueva el registro para continuar sin él.</translation>
+    </message>
+    <message>
+        <source>Its log has no index, and none can be created in a read-only folder. Copy both files to another folder.</source>
+        <translation>Su registro no tiene índice y no se puede crear uno en una carpeta de solo lectura. Copie ambos archivos en otra carpeta.</translation>
+    </message>
+    <message>
+        <source>It was removed or replaced after it was opened.</source>
+        <translation>Se eliminó o reemplazó después de abrirlo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the path of a program is longer than %n bytes.</source>
+        <translation>
+            <numerusform>El nombre o la ruta de un programa supera %n byte.</numerusform>
+            <numerusform>El nombre o la ruta de un programa supera los %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n numbers for programs are used up.</source>
+        <translation>
+            <numerusform>El único número de programa está asignado.</numerusform>
+            <numerusform>Los %n números de programa están asignados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its plans do not fit together.</source>
+        <translation>Sus planes no encajan entre sí.</translation>
+    </message>
+    <message>
+        <source>“%1” is missing.</source>
+        <translation>Falta «%1».</translation>
+    </message>
+    <message>
+        <source>It contains “%1”, which does not belong there.</source>
+        <translation>Contiene «%1», que no corresponde.</translation>
+    </message>
+    <message>
+        <source>“%1” has been changed.</source>
+        <translation>«%1» se ha modificado.</translation>
+    </message>
+    <message>
+        <source>It does not say which state it is in.</source>
+        <translation>No indica en qué estado se encuentra.</translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n tasks.</source>
+        <translation>
+            <numerusform>Hay más de %n tarea.</numerusform>
+            <numerusform>Hay más de %n tareas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n plans.</source>
+        <translation>
+            <numerusform>Hay más de %n plan.</numerusform>
+            <numerusform>Hay más de %n planes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n entries.</source>
+        <translation>
+            <numerusform>Hay más de %n entrada.</numerusform>
+            <numerusform>Hay más de %n entradas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n numbers in the lists of plans.</source>
+        <translation>
+            <numerusform>Las listas de los planes contienen más de %n número.</numerusform>
+            <numerusform>Las listas de los planes contienen más de %n números.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n programs.</source>
+        <translation>
+            <numerusform>Hay más de %n programa.</numerusform>
+            <numerusform>Hay más de %n programas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text of task %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Un texto de la tarea %1 supera %n byte.</numerusform>
+            <numerusform>Un texto de la tarea %1 supera los %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It is larger than %n bytes.</source>
+        <translation>
+            <numerusform>Ocupa más de %n byte.</numerusform>
+            <numerusform>Ocupa más de %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n values.</source>
+        <translation>
+            <numerusform>Hay más de %n valor.</numerusform>
+            <numerusform>Hay más de %n valores.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A name in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Un nombre de la línea %1 supera %n byte.</numerusform>
+            <numerusform>Un nombre de la línea %1 supera los %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Un texto de la línea %1 supera %n byte.</numerusform>
+            <numerusform>Un texto de la línea %1 supera los %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (line %1, column %2).</source>
+        <translation>No es JSON válido (línea %1, columna %2).</translation>
+    </message>
+    <message>
+        <source>“%1” is not a whole number.</source>
+        <translation>«%1» no es un número entero.</translation>
+    </message>
+    <message>
+        <source>“%1” is outside the permitted range.</source>
+        <translation>«%1» está fuera del intervalo permitido.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1, found %2.</source>
+        <translation>Tipo de valor incorrecto: se esperaba %1, se encontró %2.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1 or a number, found %2.</source>
+        <translation>Tipo de valor incorrecto: se esperaba %1 o un número, se encontró %2.</translation>
+    </message>
+    <message>
+        <source>“%2” is not known here. Expected: %1 or a number.</source>
+        <translation>«%2» no se reconoce aquí. Se esperaba %1 o un número.</translation>
+    </message>
+    <message>
+        <source>The text is not valid Base64.</source>
+        <translation>El texto no es Base64 válido.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The text is longer than %n bytes.</source>
+        <translation>
+            <numerusform>El texto supera %n byte.</numerusform>
+            <numerusform>El texto supera los %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The key %1 is not the ID of the task, which is %2.</source>
+        <translation>La clave %1 no coincide con el id. de la tarea (%2).</translation>
+    </message>
+    <message>
+        <source>Another task already has the ID %1.</source>
+        <translation>Otra tarea ya tiene el id. %1.</translation>
+    </message>
+    <message>
+        <source>The format is “%1” instead of “%2”.</source>
+        <translation>El formato es «%1» en lugar de «%2».</translation>
+    </message>
+    <message>
+        <source>Version %1 is newer than version %2, the newest that this application reads.</source>
+        <translation>La versión %1 es posterior a la %2, la más reciente que lee esta aplicación.</translation>
+    </message>
+    <message>
+        <source>There is no version %1.</source>
+        <translation>No existe la versión %1.</translation>
+    </message>
+    <message>
+        <source>It is JSON of another kind, not a schedule.</source>
+        <translation>Es otro tipo de JSON, no una programación.</translation>
+    </message>
+    <message>
+        <source>It is not a schedule: “format” is missing.</source>
+        <translation>No es una programación: falta «format».</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here.</source>
+        <translation>«%1» no se reconoce aquí.</translation>
+    </message>
+    <message>
+        <source>“%1” occurs twice here.</source>
+        <translation>«%1» aparece dos veces aquí.</translation>
+    </message>
+    <message>
+        <source>It is a folder.</source>
+        <translation>Es una carpeta.</translation>
+    </message>
+    <message>
+        <source>It is a pipe, not a file.</source>
+        <translation>Es una tubería, no un archivo.</translation>
+    </message>
+    <message>
+        <source>It is a socket, not a file.</source>
+        <translation>Es un socket, no un archivo.</translation>
+    </message>
+    <message>
+        <source>It is a device, not a file.</source>
+        <translation>Es un dispositivo, no un archivo.</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>No es un archivo.</translation>
+    </message>
+    <message>
+        <source>Nothing comes through the pipe.</source>
+        <translation>No llega nada por la tubería.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>El archivo no existe.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read it.</source>
+        <translation>No tiene permiso para leerlo.</translation>
+    </message>
+    <message>
+        <source>It cannot be opened. %1</source>
+        <translation>No se puede abrir. %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>El archivo está vacío.</translation>
+    </message>
+    <message>
+        <source>Its name is not in UTF-8. Rename the file to import it.</source>
+        <translation>Su nombre no está en UTF-8. Cambie el nombre del archivo para importarlo.</translation>
+    </message>
+    <message>
+        <source>Addresses of this kind cannot be played.</source>
+        <translation>Las direcciones de este tipo no se pueden reproducir.</translation>
+    </message>
+    <message>
+        <source>It is a file on another computer. Copy it to this computer first.</source>
+        <translation>El archivo está en otro equipo. Cópielo primero en este.</translation>
+    </message>
+    <message>
+        <source>It is not a media file, or it is damaged.</source>
+        <translation>No es un archivo multimedia o está dañado.</translation>
+    </message>
+    <message>
+        <source>Files of this format cannot be imported.</source>
+        <translation>Los archivos de este formato no se pueden importar.</translation>
+    </message>
+    <message>
+        <source>Its content cannot be read.</source>
+        <translation>No se puede leer su contenido.</translation>
+    </message>
+    <message>
+        <source>The image in it cannot be read.</source>
+        <translation>No se puede leer la imagen que contiene.</translation>
+    </message>
+    <message>
+        <source>It contains neither picture nor sound.</source>
+        <translation>No contiene ni imagen ni sonido.</translation>
+    </message>
+    <message>
+        <source>Its length cannot be determined.</source>
+        <translation>No se puede determinar su duración.</translation>
+    </message>
+    <message>
+        <source>It could not be read in time.</source>
+        <translation>No se pudo leer a tiempo.</translation>
+    </message>
+    <message>
+        <source>The media reader crashed while reading it.</source>
+        <translation>El lector de medios falló al leerlo.</translation>
+    </message>
+    <message>
+        <source>The media reader gave no valid answer about it.</source>
+        <translation>El lector de medios no dio una respuesta válida.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader is missing: %1</source>
+        <translation>No se pueden leer los medios. Falta el lector de medios: %1</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 cannot be started. %2</source>
+        <translation>No se pueden leer los medios. El lector de medios %1 no se puede iniciar. %2</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 does not answer.</source>
+        <translation>No se pueden leer los medios. El lector de medios %1 no responde.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 exits immediately.</source>
+        <translation>No se pueden leer los medios. El lector de medios %1 se cierra de inmediato.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 is of another version.</source>
+        <translation>No se pueden leer los medios. El lector de medios %1 es de otra versión.</translation>
+    </message>
+    <message>
+        <source>No schedule file is open, so nothing can be saved.</source>
+        <translation>No hay ningún archivo de programación abierto, por lo que no se puede guardar nada.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened. Its folder does not exist.</source>
+        <translation>No se puede abrir %1. Su carpeta no existe.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 no existe.</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database.</source>
+        <translation>%1 no es una base de datos de programación.</translation>
+    </message>
+    <message>
+        <source>%1 is a database of another application.</source>
+        <translation>%1 es una base de datos de otra aplicación.</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of this application.</source>
+        <translation>%1 se escribió con una versión más reciente de esta aplicación.</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another application. Try again when that application is closed.</source>
+        <translation>Otra aplicación está usando %1. Inténtelo de nuevo cuando se haya cerrado.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. %2</source>
+        <translation>No se puede escribir %1. %2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged. %2</source>
+        <translation>%1 está dañado. %2</translation>
+    </message>
+    <message>
+        <source>%1 has been saved by another application in the meantime. Saving now would overwrite those changes.</source>
+        <translation>Otra aplicación ha guardado %1 entretanto. Si guarda ahora, se sobrescribirán esos cambios.</translation>
+    </message>
+    <message>
+        <source>%1 has no room for more programs. %2</source>
+        <translation>%1 no admite más programas. %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be read or written. %2</source>
+        <translation>No se pudo leer o escribir %1. %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database as this application creates it. %2</source>
+        <translation>%1 no es una base de datos de programación como las que crea esta aplicación. %2</translation>
+    </message>
+    <message>
+        <source>%1 exceeds what a schedule can hold. %2</source>
+        <translation>%1 supera lo que admite una programación. %2</translation>
+    </message>
+    <message>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
+        <translation>Es posible que %1 no se haya escrito. %2 El cambio no se ve ahora en el archivo, pero puede aparecer tras reiniciar el equipo. Guarde la programación en otro disco y compruebe este antes de continuar.</translation>
+    </message>
+    <message>
+        <source>You do not have permission.</source>
+        <translation>No tiene permiso.</translation>
+    </message>
+    <message>
+        <source>The file or a folder of its path does not exist.</source>
+        <translation>El archivo o una carpeta de su ruta no existe.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>El disco es de solo lectura.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>El nombre es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>Too many files are open.</source>
+        <translation>Hay demasiados archivos abiertos.</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>El archivo está en uso.</translation>
+    </message>
+    <message>
+        <source>The system reports error %1.</source>
+        <translation>El sistema informa del error %1.</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>verdadero o falso</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>número</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texto</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>lista</translation>
+    </message>
+    <message>
+        <source>object</source>
+        <translation>objeto</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>ningún valor</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>número entero</translation>
+    </message>
+    <message>
+        <source>whole number as text</source>
+        <translation>número entero como texto</translation>
+    </message>
+    <message>
+        <source>%1 could not be read. %2</source>
+        <translation>No se pudo leer %1. %2</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>Línea %1, %2: %3</translation>
     </message>
 </context>
 <context>

@@ -133,10 +133,6 @@
         <source>Read a schedule from a file</source>
         <translation>Lire une programmation depuis un fichier</translation>
     </message>
-    <message>
-        <source>%1 could not be read: %2</source>
-        <translation>Impossible de lire %1&#xa0;: %2</translation>
-    </message>
     <message numerus="yes">
         <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
@@ -217,6 +213,499 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemWords</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>La mémoire est insuffisante.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>Le disque est plein.</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up.</source>
+        <translation>Votre quota de disque est épuisé.</translation>
+    </message>
+    <message>
+        <source>The system does not let this application write a larger file.</source>
+        <translation>Le système n’autorise pas ce logiciel à écrire un fichier plus volumineux.</translation>
+    </message>
+    <message>
+        <source>The file or its folder is read-only.</source>
+        <translation>Le fichier ou son dossier est protégé en écriture.</translation>
+    </message>
+    <message>
+        <source>It was opened for reading only.</source>
+        <translation>Il a été ouvert pour consultation uniquement.</translation>
+    </message>
+    <message>
+        <source>Reading it took too long.</source>
+        <translation>Lire ce fichier a pris trop de temps.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in it is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Un texte y dépasse %n octet.</numerusform>
+            <numerusform>Un texte y dépasse %n octets.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database reports error %1.</source>
+        <translation>La base de données signale l’erreur %1.</translation>
+    </message>
+    <message>
+        <source>The database reports error %1. %3</source>
+        <translation>La base de données signale l’erreur %1. %3</translation>
+    </message>
+    <message>
+        <source>The database has failed its own check.</source>
+        <translation>La base de données n’a pas passé sa propre vérification.</translation>
+    </message>
+    <message>
+        <source>The disk reports a read or write error.</source>
+        <translation>Le disque signale une erreur d’entrée-sortie.</translation>
+    </message>
+    <message>
+        <source>Data that must be there is missing.</source>
+        <translation>Des données indispensables sont absentes.</translation>
+    </message>
+    <message>
+        <source>The database driver is not the one that this application was made for.</source>
+        <translation>Le pilote de base de données n’est pas celui prévu pour ce logiciel.</translation>
+    </message>
+    <message>
+        <source>The file is missing or empty, but its log %1 is still there.</source>
+        <translation>Le fichier est absent ou vide, mais son journal %1 existe encore.</translation>
+    </message>
+    <message>
+        <source>No file can be created there.</source>
+        <translation>Aucun fichier ne peut y être créé.</translation>
+    </message>
+    <message>
+        <source>Its log %1 belongs to another copy of the file. Put back the file that it belongs to, or move the log away to go on without it.</source>
+        <translation>Son journal %1 appartient à une autre copie du fichier. Remettez en place le fichier correspondant, ou déplacez le journal pour continuer sans lui.</translation>
+    </message>
+    <message>
+        <source>Its log has no index, and none can be created in a read-only folder. Copy both files to another folder.</source>
+        <translation>Son journal n’a pas d’index, et il est impossible d’en créer un dans un dossier protégé en écriture. Copiez les deux fichiers dans un autre dossier.</translation>
+    </message>
+    <message>
+        <source>It was removed or replaced after it was opened.</source>
+        <translation>Il a été supprimé ou remplacé après son ouverture.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the path of a program is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Le nom ou le chemin d’un programme dépasse %n octet.</numerusform>
+            <numerusform>Le nom ou le chemin d’un programme dépasse %n octets.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n numbers for programs are used up.</source>
+        <translation>
+            <numerusform>Le seul numéro de programme est attribué.</numerusform>
+            <numerusform>Les %n numéros de programme sont tous attribués.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its plans do not fit together.</source>
+        <translation>Ses créneaux ne concordent pas.</translation>
+    </message>
+    <message>
+        <source>“%1” is missing.</source>
+        <translation>«&#xa0;%1&#xa0;» est absent.</translation>
+    </message>
+    <message>
+        <source>It contains “%1”, which does not belong there.</source>
+        <translation>Il contient «&#xa0;%1&#xa0;», qui n’a pas sa place ici.</translation>
+    </message>
+    <message>
+        <source>“%1” has been changed.</source>
+        <translation>«&#xa0;%1&#xa0;» a été modifié.</translation>
+    </message>
+    <message>
+        <source>It does not say which state it is in.</source>
+        <translation>Il n’indique pas son état.</translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n tasks.</source>
+        <translation>
+            <numerusform>Il y a plus de %n tâche.</numerusform>
+            <numerusform>Il y a plus de %n tâches.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n plans.</source>
+        <translation>
+            <numerusform>Il y a plus de %n créneau.</numerusform>
+            <numerusform>Il y a plus de %n créneaux.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n entries.</source>
+        <translation>
+            <numerusform>Il y a plus de %n entrée.</numerusform>
+            <numerusform>Il y a plus de %n entrées.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n numbers in the lists of plans.</source>
+        <translation>
+            <numerusform>Les listes des créneaux contiennent plus de %n nombre.</numerusform>
+            <numerusform>Les listes des créneaux contiennent plus de %n nombres.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n programs.</source>
+        <translation>
+            <numerusform>Il y a plus de %n programme.</numerusform>
+            <numerusform>Il y a plus de %n programmes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text of task %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Un texte de la tâche %1 dépasse %n octet.</numerusform>
+            <numerusform>Un texte de la tâche %1 dépasse %n octets.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It is larger than %n bytes.</source>
+        <translation>
+            <numerusform>Il dépasse %n octet.</numerusform>
+            <numerusform>Il dépasse %n octets.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n values.</source>
+        <translation>
+            <numerusform>Il y a plus de %n valeur.</numerusform>
+            <numerusform>Il y a plus de %n valeurs.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A name in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Un nom à la ligne %1 dépasse %n octet.</numerusform>
+            <numerusform>Un nom à la ligne %1 dépasse %n octets.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Un texte à la ligne %1 dépasse %n octet.</numerusform>
+            <numerusform>Un texte à la ligne %1 dépasse %n octets.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (line %1, column %2).</source>
+        <translation>Ce n’est pas du JSON valide (ligne %1, colonne %2).</translation>
+    </message>
+    <message>
+        <source>“%1” is not a whole number.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un nombre entier.</translation>
+    </message>
+    <message>
+        <source>“%1” is outside the permitted range.</source>
+        <translation>«&#xa0;%1&#xa0;» est hors de la plage autorisée.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1, found %2.</source>
+        <translation>Type de valeur incorrect&#xa0;: attendu %1, trouvé %2.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1 or a number, found %2.</source>
+        <translation>Type de valeur incorrect&#xa0;: attendu %1 ou un nombre, trouvé %2.</translation>
+    </message>
+    <message>
+        <source>“%2” is not known here. Expected: %1 or a number.</source>
+        <translation>«&#xa0;%2&#xa0;» est inconnu ici. Attendu&#xa0;: %1 ou un nombre.</translation>
+    </message>
+    <message>
+        <source>The text is not valid Base64.</source>
+        <translation>Le texte n’est pas du Base64 valide.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The text is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Le texte dépasse %n octet.</numerusform>
+            <numerusform>Le texte dépasse %n octets.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The key %1 is not the ID of the task, which is %2.</source>
+        <translation>La clé %1 ne correspond pas à l’identifiant de la tâche (%2).</translation>
+    </message>
+    <message>
+        <source>Another task already has the ID %1.</source>
+        <translation>Une autre tâche porte déjà l’identifiant %1.</translation>
+    </message>
+    <message>
+        <source>The format is “%1” instead of “%2”.</source>
+        <translation>Le format est «&#xa0;%1&#xa0;» au lieu de «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Version %1 is newer than version %2, the newest that this application reads.</source>
+        <translation>La version %1 est plus récente que la version %2, la dernière que ce logiciel sait lire.</translation>
+    </message>
+    <message>
+        <source>There is no version %1.</source>
+        <translation>Il n’existe pas de version %1.</translation>
+    </message>
+    <message>
+        <source>It is JSON of another kind, not a schedule.</source>
+        <translation>C’est un autre type de JSON, pas une programmation.</translation>
+    </message>
+    <message>
+        <source>It is not a schedule: “format” is missing.</source>
+        <translation>Ce n’est pas une programmation&#xa0;: «&#xa0;format&#xa0;» est absent.</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here.</source>
+        <translation>«&#xa0;%1&#xa0;» est inconnu ici.</translation>
+    </message>
+    <message>
+        <source>“%1” occurs twice here.</source>
+        <translation>«&#xa0;%1&#xa0;» figure deux fois ici.</translation>
+    </message>
+    <message>
+        <source>It is a folder.</source>
+        <translation>C’est un dossier.</translation>
+    </message>
+    <message>
+        <source>It is a pipe, not a file.</source>
+        <translation>C’est un tube, pas un fichier.</translation>
+    </message>
+    <message>
+        <source>It is a socket, not a file.</source>
+        <translation>C’est un socket, pas un fichier.</translation>
+    </message>
+    <message>
+        <source>It is a device, not a file.</source>
+        <translation>C’est un périphérique, pas un fichier.</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Ce n’est pas un fichier.</translation>
+    </message>
+    <message>
+        <source>Nothing comes through the pipe.</source>
+        <translation>Rien n’arrive par le tube.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Le fichier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read it.</source>
+        <translation>Vous n’avez pas l’autorisation de le lire.</translation>
+    </message>
+    <message>
+        <source>It cannot be opened. %1</source>
+        <translation>Impossible de l’ouvrir. %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Le fichier est vide.</translation>
+    </message>
+    <message>
+        <source>Its name is not in UTF-8. Rename the file to import it.</source>
+        <translation>Son nom n’est pas en UTF-8. Renommez le fichier pour l’importer.</translation>
+    </message>
+    <message>
+        <source>Addresses of this kind cannot be played.</source>
+        <translation>Les adresses de ce type ne peuvent pas être diffusées.</translation>
+    </message>
+    <message>
+        <source>It is a file on another computer. Copy it to this computer first.</source>
+        <translation>Ce fichier se trouve sur un autre ordinateur. Copiez-le d’abord sur celui-ci.</translation>
+    </message>
+    <message>
+        <source>It is not a media file, or it is damaged.</source>
+        <translation>Ce n’est pas un fichier multimédia, ou il est endommagé.</translation>
+    </message>
+    <message>
+        <source>Files of this format cannot be imported.</source>
+        <translation>Les fichiers de ce format ne peuvent pas être importés.</translation>
+    </message>
+    <message>
+        <source>Its content cannot be read.</source>
+        <translation>Son contenu est illisible.</translation>
+    </message>
+    <message>
+        <source>The image in it cannot be read.</source>
+        <translation>L’image qu’il contient est illisible.</translation>
+    </message>
+    <message>
+        <source>It contains neither picture nor sound.</source>
+        <translation>Il ne contient ni image ni son.</translation>
+    </message>
+    <message>
+        <source>Its length cannot be determined.</source>
+        <translation>Impossible de déterminer sa durée.</translation>
+    </message>
+    <message>
+        <source>It could not be read in time.</source>
+        <translation>Il n’a pas pu être lu à temps.</translation>
+    </message>
+    <message>
+        <source>The media reader crashed while reading it.</source>
+        <translation>Le lecteur de médias s’est arrêté brutalement en le lisant.</translation>
+    </message>
+    <message>
+        <source>The media reader gave no valid answer about it.</source>
+        <translation>Le lecteur de médias n’a pas donné de réponse valable.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader is missing: %1</source>
+        <translation>Impossible de lire les médias. Le lecteur de médias est absent&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 cannot be started. %2</source>
+        <translation>Impossible de lire les médias. Le lecteur de médias %1 ne peut pas être lancé. %2</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 does not answer.</source>
+        <translation>Impossible de lire les médias. Le lecteur de médias %1 ne répond pas.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 exits immediately.</source>
+        <translation>Impossible de lire les médias. Le lecteur de médias %1 se ferme aussitôt.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 is of another version.</source>
+        <translation>Impossible de lire les médias. Le lecteur de médias %1 est d’une autre version.</translation>
+    </message>
+    <message>
+        <source>No schedule file is open, so nothing can be saved.</source>
+        <translation>Aucun fichier de programmation n’est ouvert, rien ne peut donc être enregistré.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened. Its folder does not exist.</source>
+        <translation>Impossible d’ouvrir %1. Son dossier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 n’existe pas.</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database.</source>
+        <translation>%1 n’est pas une base de données de programmation.</translation>
+    </message>
+    <message>
+        <source>%1 is a database of another application.</source>
+        <translation>%1 est une base de données d’un autre logiciel.</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of this application.</source>
+        <translation>%1 a été écrit par une version plus récente de ce logiciel.</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another application. Try again when that application is closed.</source>
+        <translation>%1 est utilisé par un autre logiciel. Réessayez lorsque celui-ci sera fermé.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. %2</source>
+        <translation>Impossible d’écrire %1. %2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged. %2</source>
+        <translation>%1 est endommagé. %2</translation>
+    </message>
+    <message>
+        <source>%1 has been saved by another application in the meantime. Saving now would overwrite those changes.</source>
+        <translation>%1 a été enregistré entre-temps par un autre logiciel. Enregistrer maintenant écraserait ces modifications.</translation>
+    </message>
+    <message>
+        <source>%1 has no room for more programs. %2</source>
+        <translation>%1 ne peut pas contenir d’autres programmes. %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be read or written. %2</source>
+        <translation>Impossible de lire ou d’écrire %1. %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database as this application creates it. %2</source>
+        <translation>%1 n’est pas une base de données de programmation telle que ce logiciel les crée. %2</translation>
+    </message>
+    <message>
+        <source>%1 exceeds what a schedule can hold. %2</source>
+        <translation>%1 dépasse ce qu’une programmation peut contenir. %2</translation>
+    </message>
+    <message>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
+        <translation>%1 n’a peut-être pas été écrit. %2 La modification n’est pas visible dans le fichier pour l’instant, mais peut y figurer après un redémarrage de l’ordinateur. Enregistrez la programmation sur un autre disque et vérifiez celui-ci avant de continuer.</translation>
+    </message>
+    <message>
+        <source>You do not have permission.</source>
+        <translation>Vous n’avez pas l’autorisation.</translation>
+    </message>
+    <message>
+        <source>The file or a folder of its path does not exist.</source>
+        <translation>Le fichier ou un dossier de son chemin n’existe pas.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>Le disque est protégé en écriture.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Le nom est trop long.</translation>
+    </message>
+    <message>
+        <source>Too many files are open.</source>
+        <translation>Trop de fichiers sont ouverts.</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>Le fichier est en cours d’utilisation.</translation>
+    </message>
+    <message>
+        <source>The system reports error %1.</source>
+        <translation>Le système signale l’erreur %1.</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>vrai ou faux</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>nombre</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texte</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>liste</translation>
+    </message>
+    <message>
+        <source>object</source>
+        <translation>objet</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>aucune valeur</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>nombre entier</translation>
+    </message>
+    <message>
+        <source>whole number as text</source>
+        <translation>nombre entier sous forme de texte</translation>
+    </message>
+    <message>
+        <source>%1 could not be read. %2</source>
+        <translation>Impossible de lire %1. %2</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>Ligne %1, %2&#xa0;: %3</translation>
     </message>
 </context>
 <context>

@@ -133,10 +133,6 @@
         <source>Read a schedule from a file</source>
         <translation>スケジュールをファイルから読み込む</translation>
     </message>
-    <message>
-        <source>%1 could not be read: %2</source>
-        <translation>%1 を読み込めませんでした：%2</translation>
-    </message>
     <message numerus="yes">
         <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
@@ -214,6 +210,485 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemWords</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>メモリが不足しています。</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>ディスクがいっぱいです。</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up.</source>
+        <translation>ディスクの割り当て容量を使い切りました。</translation>
+    </message>
+    <message>
+        <source>The system does not let this application write a larger file.</source>
+        <translation>システムの制限により、これより大きいファイルを書き込めません。</translation>
+    </message>
+    <message>
+        <source>The file or its folder is read-only.</source>
+        <translation>ファイルまたはそのフォルダーが読み取り専用です。</translation>
+    </message>
+    <message>
+        <source>It was opened for reading only.</source>
+        <translation>読み取り専用で開かれています。</translation>
+    </message>
+    <message>
+        <source>Reading it took too long.</source>
+        <translation>読み取りに時間がかかりすぎました。</translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in it is longer than %n bytes.</source>
+        <translation>
+            <numerusform>%n バイトを超えるテキストが含まれています。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database reports error %1.</source>
+        <translation>データベースがエラー %1 を報告しました。</translation>
+    </message>
+    <message>
+        <source>The database reports error %1. %3</source>
+        <translation>データベースがエラー %1 を報告しました。%3</translation>
+    </message>
+    <message>
+        <source>The database has failed its own check.</source>
+        <translation>データベースの自己検査で問題が見つかりました。</translation>
+    </message>
+    <message>
+        <source>The disk reports a read or write error.</source>
+        <translation>ディスクの読み書きでエラーが発生しました。</translation>
+    </message>
+    <message>
+        <source>Data that must be there is missing.</source>
+        <translation>必要なデータがありません。</translation>
+    </message>
+    <message>
+        <source>The database driver is not the one that this application was made for.</source>
+        <translation>データベースドライバーがこのプログラムに対応していません。</translation>
+    </message>
+    <message>
+        <source>The file is missing or empty, but its log %1 is still there.</source>
+        <translation>ファイルがないか空ですが、ログ %1 が残っています。</translation>
+    </message>
+    <message>
+        <source>No file can be created there.</source>
+        <translation>その場所にはファイルを作成できません。</translation>
+    </message>
+    <message>
+        <source>Its log %1 belongs to another copy of the file. Put back the file that it belongs to, or move the log away to go on without it.</source>
+        <translation>ログ %1 はこのファイルの別のコピーのものです。対応するファイルを戻すか、ログを移動してから続行してください。</translation>
+    </message>
+    <message>
+        <source>Its log has no index, and none can be created in a read-only folder. Copy both files to another folder.</source>
+        <translation>ログに索引がなく、読み取り専用のフォルダーには作成できません。両方のファイルを別のフォルダーにコピーしてください。</translation>
+    </message>
+    <message>
+        <source>It was removed or replaced after it was opened.</source>
+        <translation>開いた後に削除または置き換えられました。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the path of a program is longer than %n bytes.</source>
+        <translation>
+            <numerusform>番組の名前またはパスが %n バイトを超えています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n numbers for programs are used up.</source>
+        <translation>
+            <numerusform>番組番号 %n 個をすべて使い切りました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its plans do not fit together.</source>
+        <translation>計画の内容に矛盾があります。</translation>
+    </message>
+    <message>
+        <source>“%1” is missing.</source>
+        <translation>「%1」がありません。</translation>
+    </message>
+    <message>
+        <source>It contains “%1”, which does not belong there.</source>
+        <translation>あるはずのない「%1」が含まれています。</translation>
+    </message>
+    <message>
+        <source>“%1” has been changed.</source>
+        <translation>「%1」が変更されています。</translation>
+    </message>
+    <message>
+        <source>It does not say which state it is in.</source>
+        <translation>状態の記録がありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n tasks.</source>
+        <translation>
+            <numerusform>タスクが %n 件を超えています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n plans.</source>
+        <translation>
+            <numerusform>計画が %n 件を超えています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n entries.</source>
+        <translation>
+            <numerusform>項目が %n 件を超えています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n numbers in the lists of plans.</source>
+        <translation>
+            <numerusform>計画のリスト内の数値が %n 個を超えています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n programs.</source>
+        <translation>
+            <numerusform>番組が %n 件を超えています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text of task %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>タスク %1 のテキストが %n バイトを超えています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It is larger than %n bytes.</source>
+        <translation>
+            <numerusform>%n バイトを超えています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n values.</source>
+        <translation>
+            <numerusform>値が %n 個を超えています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A name in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>%1 行目の名前が %n バイトを超えています。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>%1 行目のテキストが %n バイトを超えています。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (line %1, column %2).</source>
+        <translation>有効な JSON ではありません（%1 行 %2 列）。</translation>
+    </message>
+    <message>
+        <source>“%1” is not a whole number.</source>
+        <translation>「%1」は整数ではありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is outside the permitted range.</source>
+        <translation>「%1」は許容範囲外です。</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1, found %2.</source>
+        <translation>値の種類が正しくありません。%1が必要ですが、%2です。</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1 or a number, found %2.</source>
+        <translation>値の種類が正しくありません。%1 または数値が必要ですが、%2です。</translation>
+    </message>
+    <message>
+        <source>“%2” is not known here. Expected: %1 or a number.</source>
+        <translation>「%2」はここでは使えません。%1 または数値が必要です。</translation>
+    </message>
+    <message>
+        <source>The text is not valid Base64.</source>
+        <translation>テキストが有効な Base64 ではありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The text is longer than %n bytes.</source>
+        <translation>
+            <numerusform>テキストが %n バイトを超えています。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The key %1 is not the ID of the task, which is %2.</source>
+        <translation>キー %1 がタスクの ID（%2）と一致しません。</translation>
+    </message>
+    <message>
+        <source>Another task already has the ID %1.</source>
+        <translation>別のタスクがすでに ID %1 を使っています。</translation>
+    </message>
+    <message>
+        <source>The format is “%1” instead of “%2”.</source>
+        <translation>形式が「%2」ではなく「%1」です。</translation>
+    </message>
+    <message>
+        <source>Version %1 is newer than version %2, the newest that this application reads.</source>
+        <translation>バージョン %1 は、このプログラムで読める最新のバージョン %2 より新しいものです。</translation>
+    </message>
+    <message>
+        <source>There is no version %1.</source>
+        <translation>バージョン %1 はありません。</translation>
+    </message>
+    <message>
+        <source>It is JSON of another kind, not a schedule.</source>
+        <translation>別の種類の JSON で、スケジュールではありません。</translation>
+    </message>
+    <message>
+        <source>It is not a schedule: “format” is missing.</source>
+        <translation>スケジュールではありません。「format」がありません。</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here.</source>
+        <translation>「%1」はここでは使えません。</translation>
+    </message>
+    <message>
+        <source>“%1” occurs twice here.</source>
+        <translation>「%1」が重複しています。</translation>
+    </message>
+    <message>
+        <source>It is a folder.</source>
+        <translation>フォルダーです。</translation>
+    </message>
+    <message>
+        <source>It is a pipe, not a file.</source>
+        <translation>パイプであり、ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>It is a socket, not a file.</source>
+        <translation>ソケットであり、ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>It is a device, not a file.</source>
+        <translation>デバイスであり、ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>Nothing comes through the pipe.</source>
+        <translation>パイプからデータが届きません。</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>ファイルが存在しません。</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read it.</source>
+        <translation>読み取る権限がありません。</translation>
+    </message>
+    <message>
+        <source>It cannot be opened. %1</source>
+        <translation>開くことができません。%1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>ファイルが空です。</translation>
+    </message>
+    <message>
+        <source>Its name is not in UTF-8. Rename the file to import it.</source>
+        <translation>名前が UTF-8 ではありません。名前を変更してからインポートしてください。</translation>
+    </message>
+    <message>
+        <source>Addresses of this kind cannot be played.</source>
+        <translation>この種類のアドレスは再生できません。</translation>
+    </message>
+    <message>
+        <source>It is a file on another computer. Copy it to this computer first.</source>
+        <translation>別のコンピューター上のファイルです。先にこのコンピューターにコピーしてください。</translation>
+    </message>
+    <message>
+        <source>It is not a media file, or it is damaged.</source>
+        <translation>メディアファイルではないか、破損しています。</translation>
+    </message>
+    <message>
+        <source>Files of this format cannot be imported.</source>
+        <translation>この形式のファイルはインポートできません。</translation>
+    </message>
+    <message>
+        <source>Its content cannot be read.</source>
+        <translation>内容を読み取れません。</translation>
+    </message>
+    <message>
+        <source>The image in it cannot be read.</source>
+        <translation>画像を読み取れません。</translation>
+    </message>
+    <message>
+        <source>It contains neither picture nor sound.</source>
+        <translation>映像も音声も含まれていません。</translation>
+    </message>
+    <message>
+        <source>Its length cannot be determined.</source>
+        <translation>長さを特定できません。</translation>
+    </message>
+    <message>
+        <source>It could not be read in time.</source>
+        <translation>時間内に読み取れませんでした。</translation>
+    </message>
+    <message>
+        <source>The media reader crashed while reading it.</source>
+        <translation>読み取り中にメディアリーダーが異常終了しました。</translation>
+    </message>
+    <message>
+        <source>The media reader gave no valid answer about it.</source>
+        <translation>メディアリーダーから有効な応答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader is missing: %1</source>
+        <translation>メディアを読み取れません。メディアリーダーがありません: %1</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 cannot be started. %2</source>
+        <translation>メディアを読み取れません。メディアリーダー %1 を起動できません。%2</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 does not answer.</source>
+        <translation>メディアを読み取れません。メディアリーダー %1 が応答しません。</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 exits immediately.</source>
+        <translation>メディアを読み取れません。メディアリーダー %1 がすぐに終了します。</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 is of another version.</source>
+        <translation>メディアを読み取れません。メディアリーダー %1 のバージョンが異なります。</translation>
+    </message>
+    <message>
+        <source>No schedule file is open, so nothing can be saved.</source>
+        <translation>スケジュールファイルが開かれていないため、保存できません。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened. Its folder does not exist.</source>
+        <translation>%1 を開けません。フォルダーが存在しません。</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 は存在しません。</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database.</source>
+        <translation>%1 はスケジュールのデータベースではありません。</translation>
+    </message>
+    <message>
+        <source>%1 is a database of another application.</source>
+        <translation>%1 は別のプログラムのデータベースです。</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of this application.</source>
+        <translation>%1 はこのプログラムの新しいバージョンで書き込まれています。</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another application. Try again when that application is closed.</source>
+        <translation>%1 は別のプログラムで使用中です。そのプログラムを閉じてからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. %2</source>
+        <translation>%1 に書き込めません。%2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged. %2</source>
+        <translation>%1 は破損しています。%2</translation>
+    </message>
+    <message>
+        <source>%1 has been saved by another application in the meantime. Saving now would overwrite those changes.</source>
+        <translation>%1 はその間に別のプログラムで保存されました。今保存すると、その変更が上書きされます。</translation>
+    </message>
+    <message>
+        <source>%1 has no room for more programs. %2</source>
+        <translation>%1 にはこれ以上番組を追加できません。%2</translation>
+    </message>
+    <message>
+        <source>%1 could not be read or written. %2</source>
+        <translation>%1 の読み取りまたは書き込みができませんでした。%2</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database as this application creates it. %2</source>
+        <translation>%1 は、このプログラムが作成するスケジュールのデータベースと異なります。%2</translation>
+    </message>
+    <message>
+        <source>%1 exceeds what a schedule can hold. %2</source>
+        <translation>%1 はスケジュールの上限を超えています。%2</translation>
+    </message>
+    <message>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
+        <translation>%1 に書き込まれていない可能性があります。%2現在この変更はファイルにありませんが、コンピューターの再起動後に現れることがあります。スケジュールを別のディスクに書き出し、このディスクを確認してから続行してください。</translation>
+    </message>
+    <message>
+        <source>You do not have permission.</source>
+        <translation>権限がありません。</translation>
+    </message>
+    <message>
+        <source>The file or a folder of its path does not exist.</source>
+        <translation>ファイルまたはパス上のフォルダーが存在しません。</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>ディスクが読み取り専用です。</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>名前が長すぎます。</translation>
+    </message>
+    <message>
+        <source>Too many files are open.</source>
+        <translation>開いているファイルが多すぎます。</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>ファイルは使用中です。</translation>
+    </message>
+    <message>
+        <source>The system reports error %1.</source>
+        <translation>システムがエラー %1 を報告しました。</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>真偽値</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>リスト</translation>
+    </message>
+    <message>
+        <source>object</source>
+        <translation>オブジェクト</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>空の値</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>whole number as text</source>
+        <translation>テキスト形式の整数</translation>
+    </message>
+    <message>
+        <source>%1 could not be read. %2</source>
+        <translation>%1 を読み取れませんでした。%2</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>%1 行目、%2: %3</translation>
     </message>
 </context>
 <context>

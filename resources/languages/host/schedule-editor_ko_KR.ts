@@ -133,10 +133,6 @@
         <source>Read a schedule from a file</source>
         <translation>파일에서 일정 불러오기</translation>
     </message>
-    <message>
-        <source>%1 could not be read: %2</source>
-        <translation>%1을(를) 읽을 수 없습니다: %2</translation>
-    </message>
     <message numerus="yes">
         <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
@@ -214,6 +210,485 @@
     <message>
         <source>OK</source>
         <translation>확인</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemWords</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>메모리가 부족합니다.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>디스크가 가득 찼습니다.</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up.</source>
+        <translation>디스크 할당량을 모두 사용했습니다.</translation>
+    </message>
+    <message>
+        <source>The system does not let this application write a larger file.</source>
+        <translation>시스템에서 이 애플리케이션이 더 큰 파일을 쓰는 것을 허용하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The file or its folder is read-only.</source>
+        <translation>파일 또는 해당 폴더가 읽기 전용입니다.</translation>
+    </message>
+    <message>
+        <source>It was opened for reading only.</source>
+        <translation>읽기 전용으로 열려 있습니다.</translation>
+    </message>
+    <message>
+        <source>Reading it took too long.</source>
+        <translation>읽는 데 시간이 너무 오래 걸렸습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in it is longer than %n bytes.</source>
+        <translation>
+            <numerusform>%n바이트보다 긴 텍스트가 들어 있습니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database reports error %1.</source>
+        <translation>데이터베이스에서 오류 %1을(를) 보고했습니다.</translation>
+    </message>
+    <message>
+        <source>The database reports error %1. %3</source>
+        <translation>데이터베이스에서 오류 %1을(를) 보고했습니다. %3</translation>
+    </message>
+    <message>
+        <source>The database has failed its own check.</source>
+        <translation>데이터베이스 자체 검사에 실패했습니다.</translation>
+    </message>
+    <message>
+        <source>The disk reports a read or write error.</source>
+        <translation>디스크에서 읽기 또는 쓰기 오류를 보고했습니다.</translation>
+    </message>
+    <message>
+        <source>Data that must be there is missing.</source>
+        <translation>필요한 데이터가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The database driver is not the one that this application was made for.</source>
+        <translation>데이터베이스 드라이버가 이 애플리케이션과 맞지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The file is missing or empty, but its log %1 is still there.</source>
+        <translation>파일이 없거나 비어 있지만 로그 %1이(가) 아직 남아 있습니다.</translation>
+    </message>
+    <message>
+        <source>No file can be created there.</source>
+        <translation>해당 위치에 파일을 만들 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Its log %1 belongs to another copy of the file. Put back the file that it belongs to, or move the log away to go on without it.</source>
+        <translation>로그 %1은(는) 이 파일의 다른 사본에 속합니다. 해당 파일을 되돌려 놓거나, 로그를 다른 곳으로 옮긴 후 계속하십시오.</translation>
+    </message>
+    <message>
+        <source>Its log has no index, and none can be created in a read-only folder. Copy both files to another folder.</source>
+        <translation>로그에 인덱스가 없으며 읽기 전용 폴더에는 만들 수 없습니다. 두 파일을 다른 폴더로 복사하십시오.</translation>
+    </message>
+    <message>
+        <source>It was removed or replaced after it was opened.</source>
+        <translation>열린 후에 제거되었거나 바뀌었습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the path of a program is longer than %n bytes.</source>
+        <translation>
+            <numerusform>프로그램의 이름 또는 경로가 %n바이트보다 깁니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n numbers for programs are used up.</source>
+        <translation>
+            <numerusform>프로그램 번호 %n개를 모두 사용했습니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its plans do not fit together.</source>
+        <translation>계획의 내용이 서로 맞지 않습니다.</translation>
+    </message>
+    <message>
+        <source>“%1” is missing.</source>
+        <translation>‘%1’이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>It contains “%1”, which does not belong there.</source>
+        <translation>있어서는 안 되는 ‘%1’이(가) 들어 있습니다.</translation>
+    </message>
+    <message>
+        <source>“%1” has been changed.</source>
+        <translation>‘%1’이(가) 변경되었습니다.</translation>
+    </message>
+    <message>
+        <source>It does not say which state it is in.</source>
+        <translation>상태 정보가 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n tasks.</source>
+        <translation>
+            <numerusform>작업이 %n개를 초과합니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n plans.</source>
+        <translation>
+            <numerusform>계획이 %n개를 초과합니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n entries.</source>
+        <translation>
+            <numerusform>항목이 %n개를 초과합니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n numbers in the lists of plans.</source>
+        <translation>
+            <numerusform>계획 목록의 숫자가 %n개를 초과합니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n programs.</source>
+        <translation>
+            <numerusform>프로그램이 %n개를 초과합니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text of task %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>작업 %1의 텍스트가 %n바이트보다 깁니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It is larger than %n bytes.</source>
+        <translation>
+            <numerusform>%n바이트보다 큽니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n values.</source>
+        <translation>
+            <numerusform>값이 %n개를 초과합니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A name in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>%1행의 이름이 %n바이트보다 깁니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>%1행의 텍스트가 %n바이트보다 깁니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (line %1, column %2).</source>
+        <translation>올바른 JSON이 아닙니다(%1행 %2열).</translation>
+    </message>
+    <message>
+        <source>“%1” is not a whole number.</source>
+        <translation>‘%1’은(는) 정수가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>“%1” is outside the permitted range.</source>
+        <translation>‘%1’이(가) 허용 범위를 벗어났습니다.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1, found %2.</source>
+        <translation>값의 종류가 올바르지 않습니다. 필요: %1, 실제: %2.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1 or a number, found %2.</source>
+        <translation>값의 종류가 올바르지 않습니다. 필요: %1 또는 숫자, 실제: %2.</translation>
+    </message>
+    <message>
+        <source>“%2” is not known here. Expected: %1 or a number.</source>
+        <translation>여기서는 ‘%2’을(를) 인식할 수 없습니다. 필요: %1 또는 숫자.</translation>
+    </message>
+    <message>
+        <source>The text is not valid Base64.</source>
+        <translation>텍스트가 올바른 Base64가 아닙니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The text is longer than %n bytes.</source>
+        <translation>
+            <numerusform>텍스트가 %n바이트보다 깁니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The key %1 is not the ID of the task, which is %2.</source>
+        <translation>키 %1이(가) 작업의 ID(%2)와 일치하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Another task already has the ID %1.</source>
+        <translation>다른 작업에서 이미 ID %1을(를) 사용하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>The format is “%1” instead of “%2”.</source>
+        <translation>형식이 ‘%2’이(가) 아니라 ‘%1’입니다.</translation>
+    </message>
+    <message>
+        <source>Version %1 is newer than version %2, the newest that this application reads.</source>
+        <translation>버전 %1은(는) 이 애플리케이션이 읽을 수 있는 최신 버전 %2보다 새 버전입니다.</translation>
+    </message>
+    <message>
+        <source>There is no version %1.</source>
+        <translation>버전 %1은(는) 없습니다.</translation>
+    </message>
+    <message>
+        <source>It is JSON of another kind, not a schedule.</source>
+        <translation>다른 종류의 JSON이며 일정이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>It is not a schedule: “format” is missing.</source>
+        <translation>일정이 아닙니다. ‘format’이 없습니다.</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here.</source>
+        <translation>여기서는 ‘%1’을(를) 인식할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>“%1” occurs twice here.</source>
+        <translation>여기에 ‘%1’이(가) 두 번 나옵니다.</translation>
+    </message>
+    <message>
+        <source>It is a folder.</source>
+        <translation>폴더입니다.</translation>
+    </message>
+    <message>
+        <source>It is a pipe, not a file.</source>
+        <translation>파일이 아니라 파이프입니다.</translation>
+    </message>
+    <message>
+        <source>It is a socket, not a file.</source>
+        <translation>파일이 아니라 소켓입니다.</translation>
+    </message>
+    <message>
+        <source>It is a device, not a file.</source>
+        <translation>파일이 아니라 장치입니다.</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Nothing comes through the pipe.</source>
+        <translation>파이프로 들어오는 데이터가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>파일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read it.</source>
+        <translation>읽을 권한이 없습니다.</translation>
+    </message>
+    <message>
+        <source>It cannot be opened. %1</source>
+        <translation>열 수 없습니다. %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>파일이 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>Its name is not in UTF-8. Rename the file to import it.</source>
+        <translation>이름이 UTF-8이 아닙니다. 이름을 바꾼 후 가져오십시오.</translation>
+    </message>
+    <message>
+        <source>Addresses of this kind cannot be played.</source>
+        <translation>이 종류의 주소는 재생할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>It is a file on another computer. Copy it to this computer first.</source>
+        <translation>다른 컴퓨터에 있는 파일입니다. 먼저 이 컴퓨터로 복사하십시오.</translation>
+    </message>
+    <message>
+        <source>It is not a media file, or it is damaged.</source>
+        <translation>미디어 파일이 아니거나 손상되었습니다.</translation>
+    </message>
+    <message>
+        <source>Files of this format cannot be imported.</source>
+        <translation>이 형식의 파일은 가져올 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Its content cannot be read.</source>
+        <translation>내용을 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The image in it cannot be read.</source>
+        <translation>이미지를 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>It contains neither picture nor sound.</source>
+        <translation>영상도 소리도 없습니다.</translation>
+    </message>
+    <message>
+        <source>Its length cannot be determined.</source>
+        <translation>길이를 확인할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>It could not be read in time.</source>
+        <translation>제시간에 읽지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>The media reader crashed while reading it.</source>
+        <translation>읽는 중에 미디어 리더가 비정상 종료되었습니다.</translation>
+    </message>
+    <message>
+        <source>The media reader gave no valid answer about it.</source>
+        <translation>미디어 리더가 올바르게 응답하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader is missing: %1</source>
+        <translation>미디어를 읽을 수 없습니다. 미디어 리더가 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 cannot be started. %2</source>
+        <translation>미디어를 읽을 수 없습니다. 미디어 리더 %1을(를) 실행할 수 없습니다. %2</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 does not answer.</source>
+        <translation>미디어를 읽을 수 없습니다. 미디어 리더 %1이(가) 응답하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 exits immediately.</source>
+        <translation>미디어를 읽을 수 없습니다. 미디어 리더 %1이(가) 즉시 종료됩니다.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 is of another version.</source>
+        <translation>미디어를 읽을 수 없습니다. 미디어 리더 %1의 버전이 다릅니다.</translation>
+    </message>
+    <message>
+        <source>No schedule file is open, so nothing can be saved.</source>
+        <translation>열려 있는 일정 파일이 없어 저장할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened. Its folder does not exist.</source>
+        <translation>%1을(를) 열 수 없습니다. 해당 폴더가 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1이(가) 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database.</source>
+        <translation>%1은(는) 일정 데이터베이스가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>%1 is a database of another application.</source>
+        <translation>%1은(는) 다른 애플리케이션의 데이터베이스입니다.</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of this application.</source>
+        <translation>%1은(는) 이 애플리케이션의 최신 버전에서 작성되었습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another application. Try again when that application is closed.</source>
+        <translation>다른 애플리케이션에서 %1을(를) 사용하고 있습니다. 해당 애플리케이션을 닫은 후 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. %2</source>
+        <translation>%1에 쓸 수 없습니다. %2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged. %2</source>
+        <translation>%1이(가) 손상되었습니다. %2</translation>
+    </message>
+    <message>
+        <source>%1 has been saved by another application in the meantime. Saving now would overwrite those changes.</source>
+        <translation>그동안 다른 애플리케이션에서 %1을(를) 저장했습니다. 지금 저장하면 해당 변경 내용을 덮어씁니다.</translation>
+    </message>
+    <message>
+        <source>%1 has no room for more programs. %2</source>
+        <translation>%1에 프로그램을 더 추가할 수 없습니다. %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be read or written. %2</source>
+        <translation>%1을(를) 읽거나 쓸 수 없습니다. %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database as this application creates it. %2</source>
+        <translation>%1은(는) 이 애플리케이션이 만드는 일정 데이터베이스와 다릅니다. %2</translation>
+    </message>
+    <message>
+        <source>%1 exceeds what a schedule can hold. %2</source>
+        <translation>%1이(가) 일정에 담을 수 있는 범위를 초과합니다. %2</translation>
+    </message>
+    <message>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
+        <translation>%1에 쓰이지 않았을 수 있습니다. %2 지금은 파일에서 변경 내용이 보이지 않지만 컴퓨터를 다시 시작한 후 나타날 수 있습니다. 일정을 다른 디스크에 쓰고, 계속하기 전에 이 디스크를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>You do not have permission.</source>
+        <translation>권한이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The file or a folder of its path does not exist.</source>
+        <translation>파일 또는 경로의 폴더가 없습니다.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>디스크가 읽기 전용입니다.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>이름이 너무 깁니다.</translation>
+    </message>
+    <message>
+        <source>Too many files are open.</source>
+        <translation>열려 있는 파일이 너무 많습니다.</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>파일이 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>The system reports error %1.</source>
+        <translation>시스템에서 오류 %1을(를) 보고했습니다.</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>참 또는 거짓</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>숫자</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>텍스트</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>목록</translation>
+    </message>
+    <message>
+        <source>object</source>
+        <translation>개체</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>빈 값</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>정수</translation>
+    </message>
+    <message>
+        <source>whole number as text</source>
+        <translation>텍스트 형식의 정수</translation>
+    </message>
+    <message>
+        <source>%1 could not be read. %2</source>
+        <translation>%1을(를) 읽을 수 없습니다. %2</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>%1행, %2: %3</translation>
     </message>
 </context>
 <context>

@@ -133,10 +133,6 @@
         <source>Read a schedule from a file</source>
         <translation>Ler uma programação de um arquivo</translation>
     </message>
-    <message>
-        <source>%1 could not be read: %2</source>
-        <translation>Não foi possível ler %1: %2</translation>
-    </message>
     <message numerus="yes">
         <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
@@ -217,6 +213,499 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemWords</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Não há memória suficiente.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>O disco está cheio.</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up.</source>
+        <translation>Sua cota de disco está esgotada.</translation>
+    </message>
+    <message>
+        <source>The system does not let this application write a larger file.</source>
+        <translation>O sistema não permite que este aplicativo grave um arquivo maior.</translation>
+    </message>
+    <message>
+        <source>The file or its folder is read-only.</source>
+        <translation>O arquivo ou sua pasta é somente leitura.</translation>
+    </message>
+    <message>
+        <source>It was opened for reading only.</source>
+        <translation>Foi aberto somente para leitura.</translation>
+    </message>
+    <message>
+        <source>Reading it took too long.</source>
+        <translation>A leitura demorou demais.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in it is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Contém um texto com mais de %n byte.</numerusform>
+            <numerusform>Contém um texto com mais de %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database reports error %1.</source>
+        <translation>O banco de dados relata o erro %1.</translation>
+    </message>
+    <message>
+        <source>The database reports error %1. %3</source>
+        <translation>O banco de dados relata o erro %1. %3</translation>
+    </message>
+    <message>
+        <source>The database has failed its own check.</source>
+        <translation>A verificação interna do banco de dados falhou.</translation>
+    </message>
+    <message>
+        <source>The disk reports a read or write error.</source>
+        <translation>O disco relata um erro de leitura ou gravação.</translation>
+    </message>
+    <message>
+        <source>Data that must be there is missing.</source>
+        <translation>Faltam dados indispensáveis.</translation>
+    </message>
+    <message>
+        <source>The database driver is not the one that this application was made for.</source>
+        <translation>O driver do banco de dados não é o previsto para este aplicativo.</translation>
+    </message>
+    <message>
+        <source>The file is missing or empty, but its log %1 is still there.</source>
+        <translation>O arquivo não existe ou está vazio, mas seu log %1 ainda existe.</translation>
+    </message>
+    <message>
+        <source>No file can be created there.</source>
+        <translation>Não é possível criar um arquivo nesse local.</translation>
+    </message>
+    <message>
+        <source>Its log %1 belongs to another copy of the file. Put back the file that it belongs to, or move the log away to go on without it.</source>
+        <translation>O log %1 pertence a outra cópia do arquivo. Recoloque o arquivo correspondente ou mova o log para continuar sem ele.</translation>
+    </message>
+    <message>
+        <source>Its log has no index, and none can be created in a read-only folder. Copy both files to another folder.</source>
+        <translation>O log não tem índice, e não é possível criar um em uma pasta somente leitura. Copie os dois arquivos para outra pasta.</translation>
+    </message>
+    <message>
+        <source>It was removed or replaced after it was opened.</source>
+        <translation>Foi removido ou substituído depois de aberto.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the path of a program is longer than %n bytes.</source>
+        <translation>
+            <numerusform>O nome ou o caminho de um programa tem mais de %n byte.</numerusform>
+            <numerusform>O nome ou o caminho de um programa tem mais de %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n numbers for programs are used up.</source>
+        <translation>
+            <numerusform>O único número de programa já foi usado.</numerusform>
+            <numerusform>Todos os %n números de programa já foram usados.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its plans do not fit together.</source>
+        <translation>Seus planos não são coerentes entre si.</translation>
+    </message>
+    <message>
+        <source>“%1” is missing.</source>
+        <translation>Falta “%1”.</translation>
+    </message>
+    <message>
+        <source>It contains “%1”, which does not belong there.</source>
+        <translation>Contém “%1”, que não deveria estar ali.</translation>
+    </message>
+    <message>
+        <source>“%1” has been changed.</source>
+        <translation>“%1” foi alterado.</translation>
+    </message>
+    <message>
+        <source>It does not say which state it is in.</source>
+        <translation>Não indica em que estado se encontra.</translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n tasks.</source>
+        <translation>
+            <numerusform>Há mais de %n tarefa.</numerusform>
+            <numerusform>Há mais de %n tarefas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n plans.</source>
+        <translation>
+            <numerusform>Há mais de %n plano.</numerusform>
+            <numerusform>Há mais de %n planos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n entries.</source>
+        <translation>
+            <numerusform>Há mais de %n entrada.</numerusform>
+            <numerusform>Há mais de %n entradas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n numbers in the lists of plans.</source>
+        <translation>
+            <numerusform>As listas dos planos contêm mais de %n número.</numerusform>
+            <numerusform>As listas dos planos contêm mais de %n números.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n programs.</source>
+        <translation>
+            <numerusform>Há mais de %n programa.</numerusform>
+            <numerusform>Há mais de %n programas.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text of task %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Um texto da tarefa %1 tem mais de %n byte.</numerusform>
+            <numerusform>Um texto da tarefa %1 tem mais de %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It is larger than %n bytes.</source>
+        <translation>
+            <numerusform>Tem mais de %n byte.</numerusform>
+            <numerusform>Tem mais de %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n values.</source>
+        <translation>
+            <numerusform>Há mais de %n valor.</numerusform>
+            <numerusform>Há mais de %n valores.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A name in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Um nome na linha %1 tem mais de %n byte.</numerusform>
+            <numerusform>Um nome na linha %1 tem mais de %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Um texto na linha %1 tem mais de %n byte.</numerusform>
+            <numerusform>Um texto na linha %1 tem mais de %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (line %1, column %2).</source>
+        <translation>Não é um JSON válido (linha %1, coluna %2).</translation>
+    </message>
+    <message>
+        <source>“%1” is not a whole number.</source>
+        <translation>“%1” não é um número inteiro.</translation>
+    </message>
+    <message>
+        <source>“%1” is outside the permitted range.</source>
+        <translation>“%1” está fora do intervalo permitido.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1, found %2.</source>
+        <translation>Tipo de valor incorreto: esperado %1, encontrado %2.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1 or a number, found %2.</source>
+        <translation>Tipo de valor incorreto: esperado %1 ou um número, encontrado %2.</translation>
+    </message>
+    <message>
+        <source>“%2” is not known here. Expected: %1 or a number.</source>
+        <translation>“%2” não é reconhecido aqui. Esperado: %1 ou um número.</translation>
+    </message>
+    <message>
+        <source>The text is not valid Base64.</source>
+        <translation>O texto não é um Base64 válido.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The text is longer than %n bytes.</source>
+        <translation>
+            <numerusform>O texto tem mais de %n byte.</numerusform>
+            <numerusform>O texto tem mais de %n bytes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The key %1 is not the ID of the task, which is %2.</source>
+        <translation>A chave %1 não corresponde ao ID da tarefa (%2).</translation>
+    </message>
+    <message>
+        <source>Another task already has the ID %1.</source>
+        <translation>Outra tarefa já tem o ID %1.</translation>
+    </message>
+    <message>
+        <source>The format is “%1” instead of “%2”.</source>
+        <translation>O formato é “%1” em vez de “%2”.</translation>
+    </message>
+    <message>
+        <source>Version %1 is newer than version %2, the newest that this application reads.</source>
+        <translation>A versão %1 é mais recente que a %2, a última que este aplicativo lê.</translation>
+    </message>
+    <message>
+        <source>There is no version %1.</source>
+        <translation>A versão %1 não existe.</translation>
+    </message>
+    <message>
+        <source>It is JSON of another kind, not a schedule.</source>
+        <translation>É outro tipo de JSON, não uma programação.</translation>
+    </message>
+    <message>
+        <source>It is not a schedule: “format” is missing.</source>
+        <translation>Não é uma programação: falta “format”.</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here.</source>
+        <translation>“%1” não é reconhecido aqui.</translation>
+    </message>
+    <message>
+        <source>“%1” occurs twice here.</source>
+        <translation>“%1” aparece duas vezes aqui.</translation>
+    </message>
+    <message>
+        <source>It is a folder.</source>
+        <translation>É uma pasta.</translation>
+    </message>
+    <message>
+        <source>It is a pipe, not a file.</source>
+        <translation>É um pipe, não um arquivo.</translation>
+    </message>
+    <message>
+        <source>It is a socket, not a file.</source>
+        <translation>É um socket, não um arquivo.</translation>
+    </message>
+    <message>
+        <source>It is a device, not a file.</source>
+        <translation>É um dispositivo, não um arquivo.</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Não é um arquivo.</translation>
+    </message>
+    <message>
+        <source>Nothing comes through the pipe.</source>
+        <translation>Nada chega pelo pipe.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>O arquivo não existe.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read it.</source>
+        <translation>Você não tem permissão para lê-lo.</translation>
+    </message>
+    <message>
+        <source>It cannot be opened. %1</source>
+        <translation>Não é possível abrir. %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>O arquivo está vazio.</translation>
+    </message>
+    <message>
+        <source>Its name is not in UTF-8. Rename the file to import it.</source>
+        <translation>O nome não está em UTF-8. Renomeie o arquivo para importá-lo.</translation>
+    </message>
+    <message>
+        <source>Addresses of this kind cannot be played.</source>
+        <translation>Endereços deste tipo não podem ser exibidos.</translation>
+    </message>
+    <message>
+        <source>It is a file on another computer. Copy it to this computer first.</source>
+        <translation>O arquivo está em outro computador. Copie-o primeiro para este.</translation>
+    </message>
+    <message>
+        <source>It is not a media file, or it is damaged.</source>
+        <translation>Não é um arquivo de mídia ou está danificado.</translation>
+    </message>
+    <message>
+        <source>Files of this format cannot be imported.</source>
+        <translation>Arquivos deste formato não podem ser importados.</translation>
+    </message>
+    <message>
+        <source>Its content cannot be read.</source>
+        <translation>Não é possível ler o conteúdo.</translation>
+    </message>
+    <message>
+        <source>The image in it cannot be read.</source>
+        <translation>Não é possível ler a imagem contida nele.</translation>
+    </message>
+    <message>
+        <source>It contains neither picture nor sound.</source>
+        <translation>Não contém imagem nem som.</translation>
+    </message>
+    <message>
+        <source>Its length cannot be determined.</source>
+        <translation>Não é possível determinar a duração.</translation>
+    </message>
+    <message>
+        <source>It could not be read in time.</source>
+        <translation>Não foi possível lê-lo a tempo.</translation>
+    </message>
+    <message>
+        <source>The media reader crashed while reading it.</source>
+        <translation>O leitor de mídia falhou ao lê-lo.</translation>
+    </message>
+    <message>
+        <source>The media reader gave no valid answer about it.</source>
+        <translation>O leitor de mídia não deu uma resposta válida.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader is missing: %1</source>
+        <translation>Não é possível ler as mídias. O leitor de mídia não foi encontrado: %1</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 cannot be started. %2</source>
+        <translation>Não é possível ler as mídias. Não é possível executar o leitor de mídia %1. %2</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 does not answer.</source>
+        <translation>Não é possível ler as mídias. O leitor de mídia %1 não responde.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 exits immediately.</source>
+        <translation>Não é possível ler as mídias. O leitor de mídia %1 é encerrado imediatamente.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 is of another version.</source>
+        <translation>Não é possível ler as mídias. O leitor de mídia %1 é de outra versão.</translation>
+    </message>
+    <message>
+        <source>No schedule file is open, so nothing can be saved.</source>
+        <translation>Nenhum arquivo de programação está aberto; por isso, nada pode ser salvo.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened. Its folder does not exist.</source>
+        <translation>Não é possível abrir %1. A pasta não existe.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 não existe.</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database.</source>
+        <translation>%1 não é um banco de dados de programação.</translation>
+    </message>
+    <message>
+        <source>%1 is a database of another application.</source>
+        <translation>%1 é um banco de dados de outro aplicativo.</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of this application.</source>
+        <translation>%1 foi gravado por uma versão mais recente deste aplicativo.</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another application. Try again when that application is closed.</source>
+        <translation>%1 está em uso por outro aplicativo. Tente novamente quando ele for fechado.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. %2</source>
+        <translation>Não é possível gravar %1. %2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged. %2</source>
+        <translation>%1 está danificado. %2</translation>
+    </message>
+    <message>
+        <source>%1 has been saved by another application in the meantime. Saving now would overwrite those changes.</source>
+        <translation>%1 foi salvo por outro aplicativo nesse meio-tempo. Salvar agora substituiria essas alterações.</translation>
+    </message>
+    <message>
+        <source>%1 has no room for more programs. %2</source>
+        <translation>%1 não comporta mais programas. %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be read or written. %2</source>
+        <translation>Não foi possível ler ou gravar %1. %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database as this application creates it. %2</source>
+        <translation>%1 não é um banco de dados de programação como os que este aplicativo cria. %2</translation>
+    </message>
+    <message>
+        <source>%1 exceeds what a schedule can hold. %2</source>
+        <translation>%1 excede o que uma programação comporta. %2</translation>
+    </message>
+    <message>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
+        <translation>Talvez %1 não tenha sido gravado. %2 A alteração não está visível no arquivo agora, mas pode aparecer depois que o computador for reiniciado. Grave a programação em outro disco e verifique este antes de continuar.</translation>
+    </message>
+    <message>
+        <source>You do not have permission.</source>
+        <translation>Você não tem permissão.</translation>
+    </message>
+    <message>
+        <source>The file or a folder of its path does not exist.</source>
+        <translation>O arquivo ou uma pasta do caminho não existe.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>O disco é somente leitura.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>O nome é longo demais.</translation>
+    </message>
+    <message>
+        <source>Too many files are open.</source>
+        <translation>Há arquivos demais abertos.</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>O arquivo está em uso.</translation>
+    </message>
+    <message>
+        <source>The system reports error %1.</source>
+        <translation>O sistema relata o erro %1.</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>verdadeiro ou falso</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>número</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texto</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>lista</translation>
+    </message>
+    <message>
+        <source>object</source>
+        <translation>objeto</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nenhum valor</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>número inteiro</translation>
+    </message>
+    <message>
+        <source>whole number as text</source>
+        <translation>número inteiro como texto</translation>
+    </message>
+    <message>
+        <source>%1 could not be read. %2</source>
+        <translation>Não foi possível ler %1. %2</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>Linha %1, %2: %3</translation>
     </message>
 </context>
 <context>

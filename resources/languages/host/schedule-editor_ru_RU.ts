@@ -133,10 +133,6 @@
         <source>Read a schedule from a file</source>
         <translation>Загрузка расписания из файла</translation>
     </message>
-    <message>
-        <source>%1 could not be read: %2</source>
-        <translation>Не удалось прочитать %1: %2</translation>
-    </message>
     <message numerus="yes">
         <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
@@ -220,6 +216,513 @@
     <message>
         <source>OK</source>
         <translation>ОК</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemWords</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>Недостаточно памяти.</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>Диск заполнен.</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up.</source>
+        <translation>Ваша квота на диске исчерпана.</translation>
+    </message>
+    <message>
+        <source>The system does not let this application write a larger file.</source>
+        <translation>Система не разрешает этому приложению записать файл большего размера.</translation>
+    </message>
+    <message>
+        <source>The file or its folder is read-only.</source>
+        <translation>Файл или его папка доступны только для чтения.</translation>
+    </message>
+    <message>
+        <source>It was opened for reading only.</source>
+        <translation>Файл открыт только для чтения.</translation>
+    </message>
+    <message>
+        <source>Reading it took too long.</source>
+        <translation>Чтение заняло слишком много времени.</translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in it is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Один из текстов в нём длиннее %n байта.</numerusform>
+            <numerusform>Один из текстов в нём длиннее %n байт.</numerusform>
+            <numerusform>Один из текстов в нём длиннее %n байт.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database reports error %1.</source>
+        <translation>База данных сообщает об ошибке %1.</translation>
+    </message>
+    <message>
+        <source>The database reports error %1. %3</source>
+        <translation>База данных сообщает об ошибке %1. %3</translation>
+    </message>
+    <message>
+        <source>The database has failed its own check.</source>
+        <translation>База данных не прошла собственную проверку.</translation>
+    </message>
+    <message>
+        <source>The disk reports a read or write error.</source>
+        <translation>Диск сообщает об ошибке чтения или записи.</translation>
+    </message>
+    <message>
+        <source>Data that must be there is missing.</source>
+        <translation>Отсутствуют обязательные данные.</translation>
+    </message>
+    <message>
+        <source>The database driver is not the one that this application was made for.</source>
+        <translation>Драйвер базы данных не тот, для которого предназначено это приложение.</translation>
+    </message>
+    <message>
+        <source>The file is missing or empty, but its log %1 is still there.</source>
+        <translation>Файл отсутствует или пуст, но его журнал %1 остался.</translation>
+    </message>
+    <message>
+        <source>No file can be created there.</source>
+        <translation>Там нельзя создать файл.</translation>
+    </message>
+    <message>
+        <source>Its log %1 belongs to another copy of the file. Put back the file that it belongs to, or move the log away to go on without it.</source>
+        <translation>Журнал %1 относится к другой копии файла. Верните файл, к которому он относится, или переместите журнал, чтобы продолжить без него.</translation>
+    </message>
+    <message>
+        <source>Its log has no index, and none can be created in a read-only folder. Copy both files to another folder.</source>
+        <translation>У журнала нет индекса, и в папке, доступной только для чтения, его нельзя создать. Скопируйте оба файла в другую папку.</translation>
+    </message>
+    <message>
+        <source>It was removed or replaced after it was opened.</source>
+        <translation>Файл удалён или заменён после открытия.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the path of a program is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Имя или путь программы длиннее %n байта.</numerusform>
+            <numerusform>Имя или путь программы длиннее %n байт.</numerusform>
+            <numerusform>Имя или путь программы длиннее %n байт.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n numbers for programs are used up.</source>
+        <translation>
+            <numerusform>Израсходован %n номер программ из всех возможных.</numerusform>
+            <numerusform>Израсходованы все %n номера программ.</numerusform>
+            <numerusform>Израсходованы все %n номеров программ.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its plans do not fit together.</source>
+        <translation>Его планы не согласуются между собой.</translation>
+    </message>
+    <message>
+        <source>“%1” is missing.</source>
+        <translation>Отсутствует «%1».</translation>
+    </message>
+    <message>
+        <source>It contains “%1”, which does not belong there.</source>
+        <translation>В нём есть «%1», чего там быть не должно.</translation>
+    </message>
+    <message>
+        <source>“%1” has been changed.</source>
+        <translation>«%1» изменено.</translation>
+    </message>
+    <message>
+        <source>It does not say which state it is in.</source>
+        <translation>В нём не указано его состояние.</translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n tasks.</source>
+        <translation>
+            <numerusform>Более %n задания.</numerusform>
+            <numerusform>Более %n заданий.</numerusform>
+            <numerusform>Более %n заданий.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n plans.</source>
+        <translation>
+            <numerusform>Более %n плана.</numerusform>
+            <numerusform>Более %n планов.</numerusform>
+            <numerusform>Более %n планов.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n entries.</source>
+        <translation>
+            <numerusform>Более %n записи.</numerusform>
+            <numerusform>Более %n записей.</numerusform>
+            <numerusform>Более %n записей.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n numbers in the lists of plans.</source>
+        <translation>
+            <numerusform>В списках планов более %n числа.</numerusform>
+            <numerusform>В списках планов более %n чисел.</numerusform>
+            <numerusform>В списках планов более %n чисел.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n programs.</source>
+        <translation>
+            <numerusform>Более %n программы.</numerusform>
+            <numerusform>Более %n программ.</numerusform>
+            <numerusform>Более %n программ.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text of task %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Один из текстов задания %1 длиннее %n байта.</numerusform>
+            <numerusform>Один из текстов задания %1 длиннее %n байт.</numerusform>
+            <numerusform>Один из текстов задания %1 длиннее %n байт.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It is larger than %n bytes.</source>
+        <translation>
+            <numerusform>Его размер больше %n байта.</numerusform>
+            <numerusform>Его размер больше %n байт.</numerusform>
+            <numerusform>Его размер больше %n байт.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n values.</source>
+        <translation>
+            <numerusform>Более %n значения.</numerusform>
+            <numerusform>Более %n значений.</numerusform>
+            <numerusform>Более %n значений.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A name in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Имя в строке %1 длиннее %n байта.</numerusform>
+            <numerusform>Имя в строке %1 длиннее %n байт.</numerusform>
+            <numerusform>Имя в строке %1 длиннее %n байт.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Текст в строке %1 длиннее %n байта.</numerusform>
+            <numerusform>Текст в строке %1 длиннее %n байт.</numerusform>
+            <numerusform>Текст в строке %1 длиннее %n байт.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (line %1, column %2).</source>
+        <translation>Это не корректный JSON (строка %1, столбец %2).</translation>
+    </message>
+    <message>
+        <source>“%1” is not a whole number.</source>
+        <translation>«%1» не является целым числом.</translation>
+    </message>
+    <message>
+        <source>“%1” is outside the permitted range.</source>
+        <translation>«%1» вне допустимого диапазона.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1, found %2.</source>
+        <translation>Неверный тип значения: ожидается %1, указано %2.</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1 or a number, found %2.</source>
+        <translation>Неверный тип значения: ожидается %1 или число, указано %2.</translation>
+    </message>
+    <message>
+        <source>“%2” is not known here. Expected: %1 or a number.</source>
+        <translation>Значение «%2» здесь неизвестно. Ожидается: %1 или число.</translation>
+    </message>
+    <message>
+        <source>The text is not valid Base64.</source>
+        <translation>Текст не является корректным Base64.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The text is longer than %n bytes.</source>
+        <translation>
+            <numerusform>Текст длиннее %n байта.</numerusform>
+            <numerusform>Текст длиннее %n байт.</numerusform>
+            <numerusform>Текст длиннее %n байт.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The key %1 is not the ID of the task, which is %2.</source>
+        <translation>Ключ %1 не совпадает с идентификатором задания (%2).</translation>
+    </message>
+    <message>
+        <source>Another task already has the ID %1.</source>
+        <translation>Идентификатор %1 уже есть у другого задания.</translation>
+    </message>
+    <message>
+        <source>The format is “%1” instead of “%2”.</source>
+        <translation>Указан формат «%1» вместо «%2».</translation>
+    </message>
+    <message>
+        <source>Version %1 is newer than version %2, the newest that this application reads.</source>
+        <translation>Версия %1 новее версии %2 — самой новой, которую читает это приложение.</translation>
+    </message>
+    <message>
+        <source>There is no version %1.</source>
+        <translation>Версии %1 не существует.</translation>
+    </message>
+    <message>
+        <source>It is JSON of another kind, not a schedule.</source>
+        <translation>Это JSON другого вида, а не расписание.</translation>
+    </message>
+    <message>
+        <source>It is not a schedule: “format” is missing.</source>
+        <translation>Это не расписание: отсутствует «format».</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here.</source>
+        <translation>«%1» здесь неизвестно.</translation>
+    </message>
+    <message>
+        <source>“%1” occurs twice here.</source>
+        <translation>«%1» встречается здесь дважды.</translation>
+    </message>
+    <message>
+        <source>It is a folder.</source>
+        <translation>Это папка.</translation>
+    </message>
+    <message>
+        <source>It is a pipe, not a file.</source>
+        <translation>Это канал, а не файл.</translation>
+    </message>
+    <message>
+        <source>It is a socket, not a file.</source>
+        <translation>Это сокет, а не файл.</translation>
+    </message>
+    <message>
+        <source>It is a device, not a file.</source>
+        <translation>Это устройство, а не файл.</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>Это не файл.</translation>
+    </message>
+    <message>
+        <source>Nothing comes through the pipe.</source>
+        <translation>Через канал ничего не поступает.</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>Файл не существует.</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read it.</source>
+        <translation>У вас нет прав на чтение.</translation>
+    </message>
+    <message>
+        <source>It cannot be opened. %1</source>
+        <translation>Не удаётся открыть. %1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Файл пуст.</translation>
+    </message>
+    <message>
+        <source>Its name is not in UTF-8. Rename the file to import it.</source>
+        <translation>Имя не в кодировке UTF-8. Переименуйте файл, чтобы импортировать его.</translation>
+    </message>
+    <message>
+        <source>Addresses of this kind cannot be played.</source>
+        <translation>Адреса такого вида не поддерживаются.</translation>
+    </message>
+    <message>
+        <source>It is a file on another computer. Copy it to this computer first.</source>
+        <translation>Файл находится на другом компьютере. Сначала скопируйте его на этот.</translation>
+    </message>
+    <message>
+        <source>It is not a media file, or it is damaged.</source>
+        <translation>Это не медиафайл, или он повреждён.</translation>
+    </message>
+    <message>
+        <source>Files of this format cannot be imported.</source>
+        <translation>Файлы этого формата нельзя импортировать.</translation>
+    </message>
+    <message>
+        <source>Its content cannot be read.</source>
+        <translation>Не удаётся прочитать содержимое.</translation>
+    </message>
+    <message>
+        <source>The image in it cannot be read.</source>
+        <translation>Не удаётся прочитать изображение в нём.</translation>
+    </message>
+    <message>
+        <source>It contains neither picture nor sound.</source>
+        <translation>В нём нет ни изображения, ни звука.</translation>
+    </message>
+    <message>
+        <source>Its length cannot be determined.</source>
+        <translation>Не удаётся определить длительность.</translation>
+    </message>
+    <message>
+        <source>It could not be read in time.</source>
+        <translation>Не удалось прочитать вовремя.</translation>
+    </message>
+    <message>
+        <source>The media reader crashed while reading it.</source>
+        <translation>Модуль чтения медиафайлов аварийно завершился при чтении.</translation>
+    </message>
+    <message>
+        <source>The media reader gave no valid answer about it.</source>
+        <translation>Модуль чтения медиафайлов не дал корректного ответа.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader is missing: %1</source>
+        <translation>Не удаётся прочитать медиафайлы. Отсутствует модуль чтения медиафайлов: %1</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 cannot be started. %2</source>
+        <translation>Не удаётся прочитать медиафайлы. Не удаётся запустить модуль чтения медиафайлов %1. %2</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 does not answer.</source>
+        <translation>Не удаётся прочитать медиафайлы. Модуль чтения медиафайлов %1 не отвечает.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 exits immediately.</source>
+        <translation>Не удаётся прочитать медиафайлы. Модуль чтения медиафайлов %1 сразу завершается.</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 is of another version.</source>
+        <translation>Не удаётся прочитать медиафайлы. Модуль чтения медиафайлов %1 другой версии.</translation>
+    </message>
+    <message>
+        <source>No schedule file is open, so nothing can be saved.</source>
+        <translation>Файл расписания не открыт, поэтому сохранить ничего нельзя.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened. Its folder does not exist.</source>
+        <translation>Не удаётся открыть %1. Папка не существует.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 не существует.</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database.</source>
+        <translation>%1 не является базой данных расписания.</translation>
+    </message>
+    <message>
+        <source>%1 is a database of another application.</source>
+        <translation>%1 — база данных другого приложения.</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of this application.</source>
+        <translation>%1 создан более новой версией этого приложения.</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another application. Try again when that application is closed.</source>
+        <translation>%1 используется другим приложением. Повторите попытку, когда оно будет закрыто.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. %2</source>
+        <translation>Не удаётся записать %1. %2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged. %2</source>
+        <translation>Файл %1 повреждён. %2</translation>
+    </message>
+    <message>
+        <source>%1 has been saved by another application in the meantime. Saving now would overwrite those changes.</source>
+        <translation>Тем временем файл %1 сохранён другим приложением. При сохранении эти изменения будут перезаписаны.</translation>
+    </message>
+    <message>
+        <source>%1 has no room for more programs. %2</source>
+        <translation>В %1 нет места для новых программ. %2</translation>
+    </message>
+    <message>
+        <source>%1 could not be read or written. %2</source>
+        <translation>Не удалось прочитать или записать %1. %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database as this application creates it. %2</source>
+        <translation>%1 отличается от баз данных расписания, которые создаёт это приложение. %2</translation>
+    </message>
+    <message>
+        <source>%1 exceeds what a schedule can hold. %2</source>
+        <translation>%1 превышает допустимый объём расписания. %2</translation>
+    </message>
+    <message>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
+        <translation>Возможно, файл %1 не записан. %2 Сейчас изменения в файле не видно, но оно может появиться после перезагрузки компьютера. Запишите расписание на другой диск и проверьте этот, прежде чем продолжать.</translation>
+    </message>
+    <message>
+        <source>You do not have permission.</source>
+        <translation>У вас нет прав доступа.</translation>
+    </message>
+    <message>
+        <source>The file or a folder of its path does not exist.</source>
+        <translation>Файл или папка на пути к нему не существует.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>Диск доступен только для чтения.</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>Имя слишком длинное.</translation>
+    </message>
+    <message>
+        <source>Too many files are open.</source>
+        <translation>Открыто слишком много файлов.</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>Файл занят.</translation>
+    </message>
+    <message>
+        <source>The system reports error %1.</source>
+        <translation>Система сообщает об ошибке %1.</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>«да» или «нет»</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>число</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>текст</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>список</translation>
+    </message>
+    <message>
+        <source>object</source>
+        <translation>объект</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>пустое значение</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>целое число</translation>
+    </message>
+    <message>
+        <source>whole number as text</source>
+        <translation>целое число в виде текста</translation>
+    </message>
+    <message>
+        <source>%1 could not be read. %2</source>
+        <translation>Не удалось прочитать %1. %2</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>Строка %1, %2: %3</translation>
     </message>
 </context>
 <context>

@@ -133,10 +133,6 @@
         <source>Read a schedule from a file</source>
         <translation>从文件读取排期</translation>
     </message>
-    <message>
-        <source>%1 could not be read: %2</source>
-        <translation>无法读取 %1：%2</translation>
-    </message>
     <message numerus="yes">
         <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
@@ -214,6 +210,485 @@
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemWords</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>内存不足。</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>磁盘已满。</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up.</source>
+        <translation>您的磁盘配额已用完。</translation>
+    </message>
+    <message>
+        <source>The system does not let this application write a larger file.</source>
+        <translation>系统不允许本程序写入更大的文件。</translation>
+    </message>
+    <message>
+        <source>The file or its folder is read-only.</source>
+        <translation>文件或其所在文件夹为只读。</translation>
+    </message>
+    <message>
+        <source>It was opened for reading only.</source>
+        <translation>它是以只读方式打开的。</translation>
+    </message>
+    <message>
+        <source>Reading it took too long.</source>
+        <translation>读取时间过长。</translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in it is longer than %n bytes.</source>
+        <translation>
+            <numerusform>其中有文本超过 %n 字节。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database reports error %1.</source>
+        <translation>数据库报告错误 %1。</translation>
+    </message>
+    <message>
+        <source>The database reports error %1. %3</source>
+        <translation>数据库报告错误 %1。%3</translation>
+    </message>
+    <message>
+        <source>The database has failed its own check.</source>
+        <translation>数据库未通过自检。</translation>
+    </message>
+    <message>
+        <source>The disk reports a read or write error.</source>
+        <translation>磁盘报告读写错误。</translation>
+    </message>
+    <message>
+        <source>Data that must be there is missing.</source>
+        <translation>缺少必需的数据。</translation>
+    </message>
+    <message>
+        <source>The database driver is not the one that this application was made for.</source>
+        <translation>数据库驱动程序与本程序不匹配。</translation>
+    </message>
+    <message>
+        <source>The file is missing or empty, but its log %1 is still there.</source>
+        <translation>文件缺失或为空，但其日志 %1 仍然存在。</translation>
+    </message>
+    <message>
+        <source>No file can be created there.</source>
+        <translation>无法在该位置创建文件。</translation>
+    </message>
+    <message>
+        <source>Its log %1 belongs to another copy of the file. Put back the file that it belongs to, or move the log away to go on without it.</source>
+        <translation>其日志 %1 属于该文件的另一个副本。请放回对应的文件，或移走日志后再继续。</translation>
+    </message>
+    <message>
+        <source>Its log has no index, and none can be created in a read-only folder. Copy both files to another folder.</source>
+        <translation>其日志没有索引，且无法在只读文件夹中创建。请将两个文件复制到其他文件夹。</translation>
+    </message>
+    <message>
+        <source>It was removed or replaced after it was opened.</source>
+        <translation>它在打开后被移除或替换。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the path of a program is longer than %n bytes.</source>
+        <translation>
+            <numerusform>某个节目的名称或路径超过 %n 字节。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n numbers for programs are used up.</source>
+        <translation>
+            <numerusform>全部 %n 个节目编号已用完。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its plans do not fit together.</source>
+        <translation>其中的计划彼此不一致。</translation>
+    </message>
+    <message>
+        <source>“%1” is missing.</source>
+        <translation>缺少“%1”。</translation>
+    </message>
+    <message>
+        <source>It contains “%1”, which does not belong there.</source>
+        <translation>其中含有不应存在的“%1”。</translation>
+    </message>
+    <message>
+        <source>“%1” has been changed.</source>
+        <translation>“%1”已被更改。</translation>
+    </message>
+    <message>
+        <source>It does not say which state it is in.</source>
+        <translation>其中未记录自身的状态。</translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n tasks.</source>
+        <translation>
+            <numerusform>任务超过 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n plans.</source>
+        <translation>
+            <numerusform>计划超过 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n entries.</source>
+        <translation>
+            <numerusform>条目超过 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n numbers in the lists of plans.</source>
+        <translation>
+            <numerusform>计划列表中的数字超过 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n programs.</source>
+        <translation>
+            <numerusform>节目超过 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text of task %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>任务 %1 中有文本超过 %n 字节。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It is larger than %n bytes.</source>
+        <translation>
+            <numerusform>它超过 %n 字节。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n values.</source>
+        <translation>
+            <numerusform>值超过 %n 个。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A name in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>第 %1 行有名称超过 %n 字节。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>第 %1 行有文本超过 %n 字节。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (line %1, column %2).</source>
+        <translation>不是有效的 JSON（第 %1 行，第 %2 列）。</translation>
+    </message>
+    <message>
+        <source>“%1” is not a whole number.</source>
+        <translation>“%1”不是整数。</translation>
+    </message>
+    <message>
+        <source>“%1” is outside the permitted range.</source>
+        <translation>“%1”超出允许范围。</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1, found %2.</source>
+        <translation>值的类型不正确：应为%1，实际为%2。</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1 or a number, found %2.</source>
+        <translation>值的类型不正确：应为 %1 或数字，实际为%2。</translation>
+    </message>
+    <message>
+        <source>“%2” is not known here. Expected: %1 or a number.</source>
+        <translation>此处无法识别“%2”。应为 %1 或数字。</translation>
+    </message>
+    <message>
+        <source>The text is not valid Base64.</source>
+        <translation>文本不是有效的 Base64。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The text is longer than %n bytes.</source>
+        <translation>
+            <numerusform>文本超过 %n 字节。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The key %1 is not the ID of the task, which is %2.</source>
+        <translation>键 %1 与任务的 ID（%2）不一致。</translation>
+    </message>
+    <message>
+        <source>Another task already has the ID %1.</source>
+        <translation>另一个任务已使用 ID %1。</translation>
+    </message>
+    <message>
+        <source>The format is “%1” instead of “%2”.</source>
+        <translation>格式是“%1”，而不是“%2”。</translation>
+    </message>
+    <message>
+        <source>Version %1 is newer than version %2, the newest that this application reads.</source>
+        <translation>版本 %1 比本程序可读取的最新版本 %2 更新。</translation>
+    </message>
+    <message>
+        <source>There is no version %1.</source>
+        <translation>不存在版本 %1。</translation>
+    </message>
+    <message>
+        <source>It is JSON of another kind, not a schedule.</source>
+        <translation>它是其他类型的 JSON，不是排期。</translation>
+    </message>
+    <message>
+        <source>It is not a schedule: “format” is missing.</source>
+        <translation>它不是排期：缺少“format”。</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here.</source>
+        <translation>此处无法识别“%1”。</translation>
+    </message>
+    <message>
+        <source>“%1” occurs twice here.</source>
+        <translation>“%1”在此处出现两次。</translation>
+    </message>
+    <message>
+        <source>It is a folder.</source>
+        <translation>它是文件夹。</translation>
+    </message>
+    <message>
+        <source>It is a pipe, not a file.</source>
+        <translation>它是管道，不是文件。</translation>
+    </message>
+    <message>
+        <source>It is a socket, not a file.</source>
+        <translation>它是套接字，不是文件。</translation>
+    </message>
+    <message>
+        <source>It is a device, not a file.</source>
+        <translation>它是设备，不是文件。</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>它不是文件。</translation>
+    </message>
+    <message>
+        <source>Nothing comes through the pipe.</source>
+        <translation>管道中没有数据。</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>文件不存在。</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read it.</source>
+        <translation>您没有读取权限。</translation>
+    </message>
+    <message>
+        <source>It cannot be opened. %1</source>
+        <translation>无法打开。%1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>文件为空。</translation>
+    </message>
+    <message>
+        <source>Its name is not in UTF-8. Rename the file to import it.</source>
+        <translation>其名称不是 UTF-8。请重命名后再导入。</translation>
+    </message>
+    <message>
+        <source>Addresses of this kind cannot be played.</source>
+        <translation>无法播放此类地址。</translation>
+    </message>
+    <message>
+        <source>It is a file on another computer. Copy it to this computer first.</source>
+        <translation>该文件位于另一台计算机上。请先复制到本机。</translation>
+    </message>
+    <message>
+        <source>It is not a media file, or it is damaged.</source>
+        <translation>它不是媒体文件，或者已损坏。</translation>
+    </message>
+    <message>
+        <source>Files of this format cannot be imported.</source>
+        <translation>无法导入此格式的文件。</translation>
+    </message>
+    <message>
+        <source>Its content cannot be read.</source>
+        <translation>无法读取其内容。</translation>
+    </message>
+    <message>
+        <source>The image in it cannot be read.</source>
+        <translation>无法读取其中的图像。</translation>
+    </message>
+    <message>
+        <source>It contains neither picture nor sound.</source>
+        <translation>它既没有画面也没有声音。</translation>
+    </message>
+    <message>
+        <source>Its length cannot be determined.</source>
+        <translation>无法确定其时长。</translation>
+    </message>
+    <message>
+        <source>It could not be read in time.</source>
+        <translation>未能及时读取。</translation>
+    </message>
+    <message>
+        <source>The media reader crashed while reading it.</source>
+        <translation>媒体读取程序在读取时崩溃。</translation>
+    </message>
+    <message>
+        <source>The media reader gave no valid answer about it.</source>
+        <translation>媒体读取程序未返回有效结果。</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader is missing: %1</source>
+        <translation>无法读取媒体。缺少媒体读取程序：%1</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 cannot be started. %2</source>
+        <translation>无法读取媒体。无法运行媒体读取程序 %1。%2</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 does not answer.</source>
+        <translation>无法读取媒体。媒体读取程序 %1 没有响应。</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 exits immediately.</source>
+        <translation>无法读取媒体。媒体读取程序 %1 立即退出。</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 is of another version.</source>
+        <translation>无法读取媒体。媒体读取程序 %1 的版本不符。</translation>
+    </message>
+    <message>
+        <source>No schedule file is open, so nothing can be saved.</source>
+        <translation>未打开排期文件，因此无法保存。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened. Its folder does not exist.</source>
+        <translation>无法打开 %1。其所在文件夹不存在。</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 不存在。</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database.</source>
+        <translation>%1 不是排期数据库。</translation>
+    </message>
+    <message>
+        <source>%1 is a database of another application.</source>
+        <translation>%1 是其他程序的数据库。</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of this application.</source>
+        <translation>%1 由本程序的更新版本写入。</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another application. Try again when that application is closed.</source>
+        <translation>%1 正被其他程序使用。请在该程序关闭后重试。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. %2</source>
+        <translation>无法写入 %1。%2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged. %2</source>
+        <translation>%1 已损坏。%2</translation>
+    </message>
+    <message>
+        <source>%1 has been saved by another application in the meantime. Saving now would overwrite those changes.</source>
+        <translation>%1 在此期间已被其他程序保存。现在保存会覆盖那些更改。</translation>
+    </message>
+    <message>
+        <source>%1 has no room for more programs. %2</source>
+        <translation>%1 无法容纳更多节目。%2</translation>
+    </message>
+    <message>
+        <source>%1 could not be read or written. %2</source>
+        <translation>无法读取或写入 %1。%2</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database as this application creates it. %2</source>
+        <translation>%1 与本程序创建的排期数据库不一致。%2</translation>
+    </message>
+    <message>
+        <source>%1 exceeds what a schedule can hold. %2</source>
+        <translation>%1 超出排期可容纳的范围。%2</translation>
+    </message>
+    <message>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
+        <translation>%1 可能未写入。%2目前文件中看不到该更改，但重启计算机后可能出现。请将排期写入其他磁盘，并在继续之前检查此磁盘。</translation>
+    </message>
+    <message>
+        <source>You do not have permission.</source>
+        <translation>您没有权限。</translation>
+    </message>
+    <message>
+        <source>The file or a folder of its path does not exist.</source>
+        <translation>文件或其路径中的文件夹不存在。</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>磁盘为只读。</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>名称过长。</translation>
+    </message>
+    <message>
+        <source>Too many files are open.</source>
+        <translation>打开的文件过多。</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>文件正在使用中。</translation>
+    </message>
+    <message>
+        <source>The system reports error %1.</source>
+        <translation>系统报告错误 %1。</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>是或否</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>数字</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>列表</translation>
+    </message>
+    <message>
+        <source>object</source>
+        <translation>对象</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>空值</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>整数</translation>
+    </message>
+    <message>
+        <source>whole number as text</source>
+        <translation>文本形式的整数</translation>
+    </message>
+    <message>
+        <source>%1 could not be read. %2</source>
+        <translation>无法读取 %1。%2</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>第 %1 行，%2：%3</translation>
     </message>
 </context>
 <context>

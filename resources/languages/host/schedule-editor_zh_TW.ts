@@ -133,10 +133,6 @@
         <source>Read a schedule from a file</source>
         <translation>從檔案讀取排程</translation>
     </message>
-    <message>
-        <source>%1 could not be read: %2</source>
-        <translation>無法讀取 %1：%2</translation>
-    </message>
     <message numerus="yes">
         <source>Replace the whole schedule with the %n tasks in this file?</source>
         <translation>
@@ -214,6 +210,485 @@
     <message>
         <source>OK</source>
         <translation>確定</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemWords</name>
+    <message>
+        <source>There is not enough memory.</source>
+        <translation>記憶體不足。</translation>
+    </message>
+    <message>
+        <source>The disk is full.</source>
+        <translation>磁碟已滿。</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up.</source>
+        <translation>您的磁碟配額已用完。</translation>
+    </message>
+    <message>
+        <source>The system does not let this application write a larger file.</source>
+        <translation>系統不允許本程式寫入更大的檔案。</translation>
+    </message>
+    <message>
+        <source>The file or its folder is read-only.</source>
+        <translation>檔案或其所在資料夾為唯讀。</translation>
+    </message>
+    <message>
+        <source>It was opened for reading only.</source>
+        <translation>它是以唯讀方式開啟的。</translation>
+    </message>
+    <message>
+        <source>Reading it took too long.</source>
+        <translation>讀取時間過長。</translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in it is longer than %n bytes.</source>
+        <translation>
+            <numerusform>其中有文字超過 %n 位元組。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The database reports error %1.</source>
+        <translation>資料庫回報錯誤 %1。</translation>
+    </message>
+    <message>
+        <source>The database reports error %1. %3</source>
+        <translation>資料庫回報錯誤 %1。%3</translation>
+    </message>
+    <message>
+        <source>The database has failed its own check.</source>
+        <translation>資料庫未通過自我檢查。</translation>
+    </message>
+    <message>
+        <source>The disk reports a read or write error.</source>
+        <translation>磁碟回報讀寫錯誤。</translation>
+    </message>
+    <message>
+        <source>Data that must be there is missing.</source>
+        <translation>缺少必要的資料。</translation>
+    </message>
+    <message>
+        <source>The database driver is not the one that this application was made for.</source>
+        <translation>資料庫驅動程式與本程式不相符。</translation>
+    </message>
+    <message>
+        <source>The file is missing or empty, but its log %1 is still there.</source>
+        <translation>檔案遺失或為空，但其記錄檔 %1 仍然存在。</translation>
+    </message>
+    <message>
+        <source>No file can be created there.</source>
+        <translation>無法在該位置建立檔案。</translation>
+    </message>
+    <message>
+        <source>Its log %1 belongs to another copy of the file. Put back the file that it belongs to, or move the log away to go on without it.</source>
+        <translation>其記錄檔 %1 屬於該檔案的另一個副本。請放回對應的檔案，或移走記錄檔後再繼續。</translation>
+    </message>
+    <message>
+        <source>Its log has no index, and none can be created in a read-only folder. Copy both files to another folder.</source>
+        <translation>其記錄檔沒有索引，且無法在唯讀資料夾中建立。請將兩個檔案複製到其他資料夾。</translation>
+    </message>
+    <message>
+        <source>It was removed or replaced after it was opened.</source>
+        <translation>它在開啟後被移除或取代。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the path of a program is longer than %n bytes.</source>
+        <translation>
+            <numerusform>某個節目的名稱或路徑超過 %n 位元組。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>All %n numbers for programs are used up.</source>
+        <translation>
+            <numerusform>全部 %n 個節目編號已用完。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its plans do not fit together.</source>
+        <translation>其中的計畫彼此不一致。</translation>
+    </message>
+    <message>
+        <source>“%1” is missing.</source>
+        <translation>缺少「%1」。</translation>
+    </message>
+    <message>
+        <source>It contains “%1”, which does not belong there.</source>
+        <translation>其中含有不應存在的「%1」。</translation>
+    </message>
+    <message>
+        <source>“%1” has been changed.</source>
+        <translation>「%1」已被變更。</translation>
+    </message>
+    <message>
+        <source>It does not say which state it is in.</source>
+        <translation>其中未記錄自身的狀態。</translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n tasks.</source>
+        <translation>
+            <numerusform>任務超過 %n 個。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n plans.</source>
+        <translation>
+            <numerusform>計畫超過 %n 個。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n entries.</source>
+        <translation>
+            <numerusform>項目超過 %n 個。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n numbers in the lists of plans.</source>
+        <translation>
+            <numerusform>計畫清單中的數字超過 %n 個。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n programs.</source>
+        <translation>
+            <numerusform>節目超過 %n 個。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text of task %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>任務 %1 中有文字超過 %n 位元組。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>It is larger than %n bytes.</source>
+        <translation>
+            <numerusform>它超過 %n 位元組。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>There are more than %n values.</source>
+        <translation>
+            <numerusform>值超過 %n 個。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A name in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>第 %1 行有名稱超過 %n 位元組。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>A text in line %1 is longer than %n bytes.</source>
+        <translation>
+            <numerusform>第 %1 行有文字超過 %n 位元組。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is not valid JSON (line %1, column %2).</source>
+        <translation>不是有效的 JSON（第 %1 行，第 %2 欄）。</translation>
+    </message>
+    <message>
+        <source>“%1” is not a whole number.</source>
+        <translation>「%1」不是整數。</translation>
+    </message>
+    <message>
+        <source>“%1” is outside the permitted range.</source>
+        <translation>「%1」超出允許範圍。</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1, found %2.</source>
+        <translation>值的類型不正確：應為%1，實際為%2。</translation>
+    </message>
+    <message>
+        <source>Wrong kind of value: expected %1 or a number, found %2.</source>
+        <translation>值的類型不正確：應為 %1 或數字，實際為%2。</translation>
+    </message>
+    <message>
+        <source>“%2” is not known here. Expected: %1 or a number.</source>
+        <translation>此處無法辨識「%2」。應為 %1 或數字。</translation>
+    </message>
+    <message>
+        <source>The text is not valid Base64.</source>
+        <translation>文字不是有效的 Base64。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The text is longer than %n bytes.</source>
+        <translation>
+            <numerusform>文字超過 %n 位元組。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The key %1 is not the ID of the task, which is %2.</source>
+        <translation>鍵 %1 與任務的 ID（%2）不一致。</translation>
+    </message>
+    <message>
+        <source>Another task already has the ID %1.</source>
+        <translation>另一個任務已使用 ID %1。</translation>
+    </message>
+    <message>
+        <source>The format is “%1” instead of “%2”.</source>
+        <translation>格式是「%1」，而不是「%2」。</translation>
+    </message>
+    <message>
+        <source>Version %1 is newer than version %2, the newest that this application reads.</source>
+        <translation>版本 %1 比本程式可讀取的最新版本 %2 更新。</translation>
+    </message>
+    <message>
+        <source>There is no version %1.</source>
+        <translation>不存在版本 %1。</translation>
+    </message>
+    <message>
+        <source>It is JSON of another kind, not a schedule.</source>
+        <translation>它是其他類型的 JSON，不是排程。</translation>
+    </message>
+    <message>
+        <source>It is not a schedule: “format” is missing.</source>
+        <translation>它不是排程：缺少「format」。</translation>
+    </message>
+    <message>
+        <source>“%1” is not known here.</source>
+        <translation>此處無法辨識「%1」。</translation>
+    </message>
+    <message>
+        <source>“%1” occurs twice here.</source>
+        <translation>「%1」在此處出現兩次。</translation>
+    </message>
+    <message>
+        <source>It is a folder.</source>
+        <translation>它是資料夾。</translation>
+    </message>
+    <message>
+        <source>It is a pipe, not a file.</source>
+        <translation>它是管道，不是檔案。</translation>
+    </message>
+    <message>
+        <source>It is a socket, not a file.</source>
+        <translation>它是通訊端，不是檔案。</translation>
+    </message>
+    <message>
+        <source>It is a device, not a file.</source>
+        <translation>它是裝置，不是檔案。</translation>
+    </message>
+    <message>
+        <source>It is not a file.</source>
+        <translation>它不是檔案。</translation>
+    </message>
+    <message>
+        <source>Nothing comes through the pipe.</source>
+        <translation>管道中沒有資料。</translation>
+    </message>
+    <message>
+        <source>The file does not exist.</source>
+        <translation>檔案不存在。</translation>
+    </message>
+    <message>
+        <source>You do not have permission to read it.</source>
+        <translation>您沒有讀取權限。</translation>
+    </message>
+    <message>
+        <source>It cannot be opened. %1</source>
+        <translation>無法開啟。%1</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>檔案為空。</translation>
+    </message>
+    <message>
+        <source>Its name is not in UTF-8. Rename the file to import it.</source>
+        <translation>其名稱不是 UTF-8。請重新命名後再匯入。</translation>
+    </message>
+    <message>
+        <source>Addresses of this kind cannot be played.</source>
+        <translation>無法播放此類位址。</translation>
+    </message>
+    <message>
+        <source>It is a file on another computer. Copy it to this computer first.</source>
+        <translation>該檔案位於另一部電腦上。請先複製到本機。</translation>
+    </message>
+    <message>
+        <source>It is not a media file, or it is damaged.</source>
+        <translation>它不是媒體檔案，或者已損毀。</translation>
+    </message>
+    <message>
+        <source>Files of this format cannot be imported.</source>
+        <translation>無法匯入此格式的檔案。</translation>
+    </message>
+    <message>
+        <source>Its content cannot be read.</source>
+        <translation>無法讀取其內容。</translation>
+    </message>
+    <message>
+        <source>The image in it cannot be read.</source>
+        <translation>無法讀取其中的影像。</translation>
+    </message>
+    <message>
+        <source>It contains neither picture nor sound.</source>
+        <translation>它既沒有畫面也沒有聲音。</translation>
+    </message>
+    <message>
+        <source>Its length cannot be determined.</source>
+        <translation>無法判定其時長。</translation>
+    </message>
+    <message>
+        <source>It could not be read in time.</source>
+        <translation>未能及時讀取。</translation>
+    </message>
+    <message>
+        <source>The media reader crashed while reading it.</source>
+        <translation>媒體讀取程式在讀取時當機。</translation>
+    </message>
+    <message>
+        <source>The media reader gave no valid answer about it.</source>
+        <translation>媒體讀取程式未傳回有效結果。</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader is missing: %1</source>
+        <translation>無法讀取媒體。缺少媒體讀取程式：%1</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 cannot be started. %2</source>
+        <translation>無法讀取媒體。無法執行媒體讀取程式 %1。%2</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 does not answer.</source>
+        <translation>無法讀取媒體。媒體讀取程式 %1 沒有回應。</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 exits immediately.</source>
+        <translation>無法讀取媒體。媒體讀取程式 %1 立即結束。</translation>
+    </message>
+    <message>
+        <source>Media cannot be read. The media reader %1 is of another version.</source>
+        <translation>無法讀取媒體。媒體讀取程式 %1 的版本不符。</translation>
+    </message>
+    <message>
+        <source>No schedule file is open, so nothing can be saved.</source>
+        <translation>未開啟排程檔案，因此無法儲存。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be opened. Its folder does not exist.</source>
+        <translation>無法開啟 %1。其所在資料夾不存在。</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 不存在。</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database.</source>
+        <translation>%1 不是排程資料庫。</translation>
+    </message>
+    <message>
+        <source>%1 is a database of another application.</source>
+        <translation>%1 是其他程式的資料庫。</translation>
+    </message>
+    <message>
+        <source>%1 was written by a newer version of this application.</source>
+        <translation>%1 由本程式的較新版本寫入。</translation>
+    </message>
+    <message>
+        <source>%1 is in use by another application. Try again when that application is closed.</source>
+        <translation>%1 正由其他程式使用。請在該程式關閉後再試一次。</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written. %2</source>
+        <translation>無法寫入 %1。%2</translation>
+    </message>
+    <message>
+        <source>%1 is damaged. %2</source>
+        <translation>%1 已損毀。%2</translation>
+    </message>
+    <message>
+        <source>%1 has been saved by another application in the meantime. Saving now would overwrite those changes.</source>
+        <translation>%1 在此期間已由其他程式儲存。現在儲存會覆寫那些變更。</translation>
+    </message>
+    <message>
+        <source>%1 has no room for more programs. %2</source>
+        <translation>%1 無法容納更多節目。%2</translation>
+    </message>
+    <message>
+        <source>%1 could not be read or written. %2</source>
+        <translation>無法讀取或寫入 %1。%2</translation>
+    </message>
+    <message>
+        <source>%1 is not a schedule database as this application creates it. %2</source>
+        <translation>%1 與本程式建立的排程資料庫不一致。%2</translation>
+    </message>
+    <message>
+        <source>%1 exceeds what a schedule can hold. %2</source>
+        <translation>%1 超出排程可容納的範圍。%2</translation>
+    </message>
+    <message>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
+        <translation>%1 可能未寫入。%2目前檔案中看不到該變更，但電腦重新開機後可能出現。請將排程寫入其他磁碟，並在繼續之前檢查此磁碟。</translation>
+    </message>
+    <message>
+        <source>You do not have permission.</source>
+        <translation>您沒有權限。</translation>
+    </message>
+    <message>
+        <source>The file or a folder of its path does not exist.</source>
+        <translation>檔案或其路徑中的資料夾不存在。</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>磁碟為唯讀。</translation>
+    </message>
+    <message>
+        <source>The name is too long.</source>
+        <translation>名稱過長。</translation>
+    </message>
+    <message>
+        <source>Too many files are open.</source>
+        <translation>開啟的檔案過多。</translation>
+    </message>
+    <message>
+        <source>The file is in use.</source>
+        <translation>檔案正在使用中。</translation>
+    </message>
+    <message>
+        <source>The system reports error %1.</source>
+        <translation>系統回報錯誤 %1。</translation>
+    </message>
+    <message>
+        <source>true or false</source>
+        <translation>是或否</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>數字</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>list</source>
+        <translation>清單</translation>
+    </message>
+    <message>
+        <source>object</source>
+        <translation>物件</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>空值</translation>
+    </message>
+    <message>
+        <source>whole number</source>
+        <translation>整數</translation>
+    </message>
+    <message>
+        <source>whole number as text</source>
+        <translation>文字形式的整數</translation>
+    </message>
+    <message>
+        <source>%1 could not be read. %2</source>
+        <translation>無法讀取 %1。%2</translation>
+    </message>
+    <message>
+        <source>Line %1, %2: %3</source>
+        <translation>第 %1 行，%2：%3</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,7 @@
 #include "common/PatientFile.h"
 
+#include "trelprogramschedule/faults/FaultWords.h"
+
 #include <QFile>
 
 #include <cerrno>
@@ -9,6 +11,8 @@
 #include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+using namespace trel::mediadispatch;
 
 namespace trel::hosts {
 
@@ -29,15 +33,15 @@ bool PatientFile::open(OpenMode mode)
     struct stat seen = {};
     // Looked at first, since opening alone moves some devices.
     if (::stat(name.constData(), &seen) != 0) {
-        return fail(qt_error_string(errno)) == 0;
+        return fail(faultOf(FaultCode::System, errno)) == 0;
     }
     m_isPipe = S_ISFIFO(seen.st_mode);
     if (!m_isPipe && !S_ISREG(seen.st_mode)) {
-        return fail(QStringLiteral("it is not a file")) == 0;
+        return fail({FaultCode::NotAFile, {}}) == 0;
     }
     m_descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (m_descriptor < 0) {
-        return fail(qt_error_string(errno)) == 0;
+        return fail(faultOf(FaultCode::System, errno)) == 0;
     }
     return QIODevice::open(QIODevice::ReadOnly | QIODevice::Unbuffered);
 }
@@ -54,15 +58,15 @@ qint64 PatientFile::readData(char* data, qint64 maxSize)
 {
     for (;;) {
         if (m_isPipe && !waitForData()) {
-            return fail(QStringLiteral("nothing came through the pipe for %1 seconds")
-                            .arg(std::chrono::duration<double>(m_patience).count()));
+            return fail(
+                faultOf(FaultCode::PipeSilent, std::chrono::duration<double>(m_patience).count()));
         }
         const ssize_t count = ::read(m_descriptor, data, static_cast<std::size_t>(maxSize));
         if (count >= 0) {
             return count;
         }
         if (errno != EINTR && errno != EAGAIN) {
-            return fail(qt_error_string(errno));
+            return fail(faultOf(FaultCode::System, errno));
         }
     }
 }
@@ -83,10 +87,10 @@ bool PatientFile::waitForData()
     return ready > 0;
 }
 
-qint64 PatientFile::fail(const QString& reason)
+qint64 PatientFile::fail(const Fault& fault)
 {
-    m_hasFailed = true;
-    setErrorString(reason);
+    m_fault = fault;
+    setErrorString(englishClause(fault));
     return -1;
 }
 

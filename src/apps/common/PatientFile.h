@@ -1,5 +1,7 @@
 #pragma once
 
+#include "trelprogramschedule/faults/Fault.h"
+
 #include <QIODevice>
 
 #include <chrono>
@@ -17,28 +19,29 @@ public:
     PatientFile(const QString& path, std::chrono::milliseconds patience);
     ~PatientFile() override;
 
-    /// For reading alone. On failure errorString() says why, as it does after a read that ended too
-    /// early.
+    /// For reading alone. On failure fault() says why, as it does after a read that ended too
+    /// early; errorString() has the same in English.
     bool open(OpenMode mode) override;
     void close() override;
     bool isSequential() const override { return true; }
 
     /// Whether opening or reading has failed.
-    bool hasFailed() const { return m_hasFailed; }
+    bool hasFailed() const { return static_cast<bool>(m_fault); }
+    trel::mediadispatch::Fault fault() const { return m_fault; }
 
 protected:
     qint64 readData(char* data, qint64 maxSize) override;
     qint64 writeData(const char* data, qint64 maxSize) override;
 
 private:
-    qint64 fail(const QString& reason);
+    qint64 fail(const trel::mediadispatch::Fault& fault);
     bool waitForData();
 
     const QString m_path;
     const std::chrono::milliseconds m_patience;
     int m_descriptor = -1;
     bool m_isPipe = false;
-    bool m_hasFailed = false;
+    trel::mediadispatch::Fault m_fault;
 };
 
 } // namespace trel::hosts

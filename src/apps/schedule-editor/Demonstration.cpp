@@ -1,6 +1,8 @@
 #include "Demonstration.h"
 
+#include "ProblemWords.h"
 #include "clock/Clock.h"
+#include "common/PatientFile.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
@@ -11,6 +13,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <chrono>
 
 using namespace trel::mediadispatch;
 
@@ -21,6 +24,12 @@ namespace {
 struct Demonstration
 {
     Q_DECLARE_TR_FUNCTIONS(Demonstration)
+
+public:
+    static QString unreadable(const QString& file, const QString& reason)
+    {
+        return tr("The demonstration could not be read: %1: %2").arg(file, reason);
+    }
 };
 
 /// Copies the media beside the database; empty when one could not be copied.
@@ -71,15 +80,15 @@ void moveTo(const QDate& firstDay, std::map<int, PlayTask>& tasks)
 
 QString fillWithDemonstration(const QString& folder)
 {
-    QFile file(folder + QStringLiteral("/schedule.json"));
-    if (!file.open(QIODevice::ReadOnly)) {
-        return Demonstration::tr("The demonstration could not be read: %1: %2")
-            .arg(file.fileName(), file.errorString());
+    const QString name = folder + QStringLiteral("/schedule.json");
+    hosts::PatientFile file(name, std::chrono::milliseconds(0));
+    const QByteArray json = file.open(QIODevice::ReadOnly) ? readScheduleJson(file) : QByteArray();
+    if (file.hasFailed()) {
+        return Demonstration::unreadable(name, problems::sentence(file.fault()));
     }
-    ScheduleFromJson schedule = scheduleFromJson(file.readAll());
-    if (!schedule.error.isEmpty()) {
-        return Demonstration::tr("The demonstration could not be read: %1: %2")
-            .arg(file.fileName(), schedule.error);
+    ScheduleFromJson schedule = scheduleFromJson(json);
+    if (schedule.fault) {
+        return Demonstration::unreadable(name, problems::sentence(schedule));
     }
     const QString media = copyMedia(folder);
     if (media.isEmpty()) {
@@ -88,15 +97,15 @@ QString fillWithDemonstration(const QString& folder)
     }
     const ImportScan scan = scanMedia({media});
     if (!scan.refusals.empty()) {
-        return Demonstration::tr("The demonstration could not be read: %1: %2")
-            .arg(scan.refusals.front().path, scan.refusals.front().reason);
+        return Demonstration::unreadable(scan.refusals.front().path,
+                                         problems::sentence(scan.refusals.front().fault));
     }
     ScheduleHost& host = ScheduleHost::instance();
     if (const ImportResult result = host.addPrograms(scan.sources); !result.store) {
-        return result.store.message;
+        return problems::sentence(result.store);
     }
     moveTo(Clock::current().today(), schedule.tasks);
-    return host.replaceSchedule(schedule.tasks).message;
+    return problems::sentence(host.replaceSchedule(schedule.tasks));
 }
 
 } // namespace trel::desktop

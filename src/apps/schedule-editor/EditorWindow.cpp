@@ -6,6 +6,7 @@
 #include "ImportJob.h"
 #include "Languages.h"
 #include "PendingNotices.h"
+#include "ProblemWords.h"
 #include "ProgramTableModel.h"
 #include "clock/ClockChangePanel.h"
 #include "common/PatientFile.h"
@@ -233,7 +234,7 @@ void EditorWindow::updateCatalogue()
 QString EditorWindow::openDatabase(const QString& path, const QString& demonstration)
 {
     const bool isNew = !QFileInfo::exists(path);
-    QString error = ScheduleHost::instance().open(path).message;
+    QString error = problems::sentence(ScheduleHost::instance().open(path));
     if (error.isEmpty() && isNew && !demonstration.isEmpty()) {
         error = fillWithDemonstration(demonstration);
     }
@@ -289,9 +290,8 @@ void EditorWindow::exportSchedule()
     if (file.isEmpty()) {
         return;
     }
-    const QString error = writeScheduleFile(file, scheduleManage::getInstance().getgTaskMap());
-    if (!error.isEmpty()) {
-        tell(error);
+    if (const Fault fault = writeScheduleFile(file, scheduleManage::getInstance().getgTaskMap())) {
+        tell(problems::unwritable(file, fault));
         return;
     }
     statusBar()->showMessage(tr("Written to %1.").arg(file));
@@ -308,12 +308,12 @@ void EditorWindow::importSchedule()
     hosts::PatientFile file(name, std::chrono::milliseconds(0));
     const QByteArray json = file.open(QIODevice::ReadOnly) ? readScheduleJson(file) : QByteArray();
     if (file.hasFailed()) {
-        tell(tr("%1 could not be read: %2").arg(name, file.errorString()));
+        tell(problems::unreadable(name, file.fault()));
         return;
     }
     const ScheduleFromJson schedule = scheduleFromJson(json);
-    if (!schedule.error.isEmpty()) {
-        tell(tr("%1 could not be read: %2").arg(name, schedule.error));
+    if (schedule.fault) {
+        tell(problems::unreadable(name, schedule));
         return;
     }
     const int answer =
@@ -325,7 +325,7 @@ void EditorWindow::importSchedule()
     }
     if (const StoreResult result = ScheduleHost::instance().replaceSchedule(schedule.tasks);
         !result) {
-        tell(result.message);
+        tell(problems::sentence(result));
         return;
     }
     if (m_editor.isVisible()) {
@@ -353,7 +353,7 @@ void EditorWindow::removeSelectedPrograms()
         return;
     }
     if (const StoreResult result = ScheduleHost::instance().removePrograms(indexes); !result) {
-        tell(result.message);
+        tell(problems::sentence(result));
     }
 }
 
@@ -411,7 +411,7 @@ void EditorWindow::finishImport()
             reportImport(scan, static_cast<int>(result.added.size()),
                          static_cast<int>(result.updated.size()));
         } else {
-            m_notices->tell(result.store.message);
+            m_notices->tell(problems::sentence(result.store));
         }
     }
     emit importEnded();
@@ -426,8 +426,9 @@ void EditorWindow::reportImport(const ImportScan& scan, int added, int updated)
     constexpr std::size_t kShown = 8;
     QStringList lines;
     for (std::size_t i = 0; i < std::min(kShown, scan.refusals.size()); ++i) {
-        lines.append(tr("%1: %2", "file and reason")
-                         .arg(shownName(scan.refusals[i].path), scan.refusals[i].reason));
+        lines.append(
+            tr("%1: %2", "file and reason")
+                .arg(shownName(scan.refusals[i].path), problems::sentence(scan.refusals[i].fault)));
     }
     if (scan.refusals.size() > kShown) {
         lines.append(

@@ -37,8 +37,8 @@ KeptEdits keepEdits(const std::map<int, PlayTask>& tasks, const QString& store)
             continue;
         }
         const QString file = freshName(QFileInfo(beside).absoluteDir(), store);
-        kept.error = writeScheduleFile(file, tasks);
-        if (kept.error.isEmpty()) {
+        kept.fault = writeScheduleFile(file, tasks);
+        if (!kept.fault) {
             kept.file = file;
             break;
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule/faults/Fault.h"
 
 #include <QString>
 
@@ -11,8 +12,8 @@ namespace trel::desktop {
 /// A file that edits were put into since they could not be stored.
 struct KeptEdits
 {
-    QString file;  ///< Empty where they could be put nowhere.
-    QString error; ///< Why, in a sentence.
+    QString file;                     ///< Empty where they could be put nowhere.
+    trel::mediadispatch::Fault fault; ///< Why.
 };
 
 /// Writes a schedule, in its JSON form, into a file of its own: beside the store, or, where nothing

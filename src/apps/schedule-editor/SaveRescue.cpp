@@ -2,7 +2,9 @@
 
 #include "HostPrompts.h"
 #include "KeptEdits.h"
+#include "ProblemWords.h"
 #include "service/scheduleManage.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QApplication>
@@ -53,9 +55,8 @@ bool SaveRescue::writeFile()
     if (file.isEmpty()) {
         return false;
     }
-    const QString error = writeScheduleFile(file, scheduleManage::getInstance().getAllTask());
-    if (!error.isEmpty()) {
-        prompts::notice(error);
+    if (const Fault fault = writeScheduleFile(file, scheduleManage::getInstance().getAllTask())) {
+        prompts::notice(problems::unwritable(file, fault));
         return false;
     }
     emit written(file);
@@ -75,7 +76,7 @@ void SaveRescue::rescue(const StoreResult& reason)
 
 void SaveRescue::askUntilDone(const StoreResult& reason)
 {
-    QString sentence = reason.message;
+    QString sentence = problems::sentence(reason);
     for (;;) {
         const Answer answer = ask(sentence);
         if (answer == Answer::None && isLeaving()) {
@@ -88,7 +89,7 @@ void SaveRescue::askUntilDone(const StoreResult& reason)
             if (again) {
                 return;
             }
-            sentence = again.message;
+            sentence = problems::sentence(again);
             break;
         }
         case Answer::WriteFile:
@@ -142,7 +143,7 @@ void SaveRescue::keep()
     const KeptEdits edits = keepEdits(scheduleManage::getInstance().getAllTask(), m_host.path());
     if (edits.file.isEmpty()) {
         qWarning("The changes that were not saved could not be kept: %s",
-                 qUtf8Printable(edits.error));
+                 qUtf8Printable(englishSentence(edits.fault)));
     } else {
         qWarning("The changes that were not saved stand in %s", qUtf8Printable(edits.file));
     }

@@ -3,6 +3,8 @@
 #include "common/DefaultDatabase.h"
 #include "service/scheduleManage.h"
 #include "text/Console.h"
+#include "text/FaultReport.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 
 namespace trel::console {
 
@@ -58,8 +60,8 @@ QString Database::error() const
     const bool isMissing = m_result.problem == StoreProblem::FileMissing ||
                            m_result.problem == StoreProblem::FolderMissing;
     return isMissing && m_access != Access::Write
-               ? m_result.message + QStringLiteral(" \"schedulectl import\" makes a database.")
-               : m_result.message;
+               ? englishText(m_result) + QStringLiteral(" \"schedulectl import\" makes a database.")
+               : englishText(m_result);
 }
 
 QString Database::path() const
@@ -101,6 +103,9 @@ std::unique_ptr<Database> openDatabase(const Invocation& invocation, Database::A
     auto database = std::make_unique<Database>(invocation, access, part);
     if (!*database) {
         console.tell(database->error());
+        if (invocation.json) {
+            console.writeJson(refusalJson(database->result()));
+        }
         return nullptr;
     }
     return database;

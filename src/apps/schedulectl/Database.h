@@ -34,8 +34,10 @@ public:
     Q_DISABLE_COPY(Database)
 
     explicit operator bool() const { return static_cast<bool>(m_result); }
-    /// Why it could not be opened.
+    /// Why it could not be opened, as a sentence.
     QString error() const;
+    /// The same for machines.
+    const trel::mediadispatch::StoreResult& result() const { return m_result; }
 
     /// Absolute path.
     QString path() const;
@@ -51,7 +53,8 @@ private:
     trel::mediadispatch::StoreResult m_result;
 };
 
-/// Opens the database of a command. Null, and the user is told why, when that is not possible.
+/// Opens the database of a command. Null when that is not possible; the user is told why and, where
+/// the results are to be JSON, a machine as well.
 std::unique_ptr<Database> openDatabase(const Invocation& invocation, Database::Access access,
                                        Console& console, Database::Part part = Database::Part::All);
 

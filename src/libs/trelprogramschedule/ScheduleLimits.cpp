@@ -21,12 +21,7 @@ bool hasTooLongText(const PlayPlan& plan)
 
 } // namespace
 
-QString excessText(std::size_t most, const QString& noun)
-{
-    return QStringLiteral("there are more than %1 %2").arg(QString::number(most), noun);
-}
-
-QString excessOf(const std::map<int, PlayTask>& tasks)
+Fault excessOf(const std::map<int, PlayTask>& tasks)
 {
     std::size_t plans = 0;
     std::size_t entries = 0;
@@ -39,26 +34,23 @@ QString excessOf(const std::map<int, PlayTask>& tasks)
         }
     }
     if (tasks.size() > kMostTasks) {
-        return excessText(kMostTasks, QStringLiteral("tasks"));
+        return faultOf(FaultCode::TooManyTasks, kMostTasks);
     }
     if (plans > kMostPlans) {
-        return excessText(kMostPlans, QStringLiteral("plans"));
+        return faultOf(FaultCode::TooManyPlans, kMostPlans);
     }
     if (entries > kMostEntries) {
-        return excessText(kMostEntries, QStringLiteral("entries of programs"));
+        return faultOf(FaultCode::TooManyEntries, kMostEntries);
     }
-    return values > kMostServiceValues
-               ? excessText(kMostServiceValues, QStringLiteral("numbers in the lists of plans"))
-               : QString();
+    return values > kMostServiceValues ? faultOf(FaultCode::TooManyListNumbers, kMostServiceValues)
+                                       : Fault();
 }
 
-QString excessOf(const PlayTask& task)
+Fault excessOf(const PlayTask& task)
 {
     const bool isBeyond = isTooLong(task.startDate) || isTooLong(task.endDate) ||
                           std::any_of(task.plans.begin(), task.plans.end(), hasTooLongText);
-    return isBeyond ? QStringLiteral("a text of task %1 has more than %2 bytes")
-                          .arg(QString::number(task.id), QString::number(kLongestText))
-                    : QString();
+    return isBeyond ? faultOf(FaultCode::TaskTextTooLong, task.id, kLongestText) : Fault();
 }
 
 } // namespace trel::mediadispatch

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "faults/Fault.h"
 #include "service/ScheduleRecords.h"
 
-#include <QString>
 #include <QtGlobal>
 
 #include <cstddef>
@@ -26,12 +26,9 @@ constexpr qint64 kLargestJson = 128 * 1024 * 1024;
 /// Values of any kind: more than the largest schedule is written with.
 constexpr std::size_t kMostJsonValues = 5000000;
 
-/// Says that a number is beyond its limit: "there are more than 20000 tasks".
-QString excessText(std::size_t most, const QString& noun);
-
-/// What of a schedule goes beyond a limit by its number; empty for nothing. Does not look at texts.
-QString excessOf(const std::map<int, PlayTask>& tasks);
+/// What of a schedule goes beyond a limit by its number; none for nothing. Does not look at texts.
+Fault excessOf(const std::map<int, PlayTask>& tasks);
 /// The same of the texts of a task.
-QString excessOf(const PlayTask& task);
+Fault excessOf(const PlayTask& task);
 
 } // namespace trel::mediadispatch

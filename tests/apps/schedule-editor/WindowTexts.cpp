@@ -103,11 +103,16 @@ void WindowTexts::lookAtWidget(const QWidget& widget)
     expectWhole(widget);
 }
 
-void WindowTexts::expectTranslated(const QString& text)
+bool WindowTexts::hasUntranslated(const QString& text)
 {
     static const QRegularExpression letter(QStringLiteral("\\p{L}"));
+    return outsideOfBrackets(text).contains(letter);
+}
+
+void WindowTexts::expectTranslated(const QString& text)
+{
     m_count += text.isEmpty() ? 0 : 1;
-    if (outsideOfBrackets(text).contains(letter)) {
+    if (hasUntranslated(text)) {
         m_untranslated.append(QStringLiteral("%1, %2: %3").arg(m_name, m_widget, text));
     }
 }
@@ -120,8 +125,8 @@ void WindowTexts::expectWhole(const QWidget& widget)
                             qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
                             qobject_cast<const QMenuBar*>(&widget) != nullptr;
     // A label that is drawn with an ellipsis gives all of its text when it is pointed at.
-    const bool isElided =
-        widget.inherits("trel::desktop::ElidedText") || widget.inherits("trel::widgets::ElidedLabel");
+    const bool isElided = widget.inherits("trel::desktop::ElidedText") ||
+                          widget.inherits("trel::widgets::ElidedLabel");
     // A sign or an image is placed by hand.
     const bool isWritten = text.contains(QChar(0x27e6)) || qobject_cast<const QMenuBar*>(&widget);
     if (!isMeasured || !isWritten || isElided || isInCell(widget)) {

@@ -12,6 +12,9 @@ public:
     /// it, and what is read out. Names in the findings begin with that of the window.
     void lookAt(const QWidget& window, const QString& name);
 
+    /// Whether a part of a text that is no data stands outside the brackets.
+    static bool hasUntranslated(const QString& text);
+
     /// How many texts have been looked at.
     int count() const { return m_count; }
     /// Those that stand outside the brackets, and so were not translated.

@@ -178,7 +178,7 @@ void tst_EditorImport::passwordsOfAddressesAreNotShown_data()
                              << "user@host" << QString()
                              << QStringList{QStringLiteral(
                                     "Some files could not be imported:\n"
-                                    "user@host: Addresses of this kind are not played.")};
+                                    "user@host: Addresses of this kind cannot be played.")};
 }
 
 void tst_EditorImport::passwordsOfAddressesAreNotShown()

@@ -3,6 +3,7 @@
 #include "support/MediaLibraries.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QApplication>
@@ -58,7 +59,7 @@ void tst_EditorStart::store(HostFixture& fixture)
     QFile file(QStringLiteral(DEMONSTRATION "/schedule.json"));
     QVERIFY(file.open(QIODevice::ReadOnly));
     const ScheduleFromJson schedule = scheduleFromJson(file.readAll());
-    QCOMPARE(schedule.error, QString());
+    QCOMPARE(englishText(schedule), QString());
     QVERIFY(fixture.host.replaceSchedule(schedule.tasks));
     fixture.host.close();
 }

@@ -14,7 +14,9 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QProgressDialog>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTimer>
 
 using namespace trel::desktop;
@@ -106,6 +108,8 @@ private slots:
     void menus();
     void editor();
     void chooser();
+    void menuOfTheChooser();
+    void importProgress();
     void promptsOfTheEditor();
     void promptsOfTheHost();
     void fileDialogs();
@@ -183,6 +187,49 @@ void tst_PseudoLanguage::chooser()
     auto* field = fixture.part<QPushButton>(ProgramsColumn);
     fixture.lookAtDialog(QStringLiteral("chooser"), [field] { field->click(); });
     verifyTexts(30);
+}
+
+void tst_PseudoLanguage::menuOfTheChooser()
+{
+    PseudoFixture& fixture = *m_fixture;
+    // The menu is there for a plan in use.
+    fixture.manager.slotOpen();
+    fixture.showCards();
+    bool isSeen = false;
+    QTimer::singleShot(0, &fixture.window, [&] {
+        const QPointer<QWidget> chooser = QApplication::activeModalWidget();
+        auto* chosen = chooser->findChildren<QTableView*>(QStringLiteral("schedule")).last();
+        QTimer::singleShot(0, &fixture.window, [&] {
+            if (QWidget* menu = QApplication::activePopupWidget()) {
+                isSeen = true;
+                fixture.texts.lookAt(*menu, QStringLiteral("menu of the chooser"));
+                menu->close();
+            }
+        });
+        emit chosen->customContextMenuRequested(
+            chosen->visualRect(chosen->model()->index(0, 2)).center());
+        chooser->close();
+    });
+    fixture.part<QPushButton>(ProgramsColumn)->click();
+    QVERIFY(isSeen);
+    verifyTexts(3);
+}
+
+/// The window comes after a while; it is looked at while files are searched for, and while they are
+/// read.
+void tst_PseudoLanguage::importProgress()
+{
+    PseudoFixture& fixture = *m_fixture;
+    fixture.window.importMedia({fixture.copyMedia(QStringLiteral("media"))});
+    auto* progress = fixture.window.findChild<QProgressDialog*>(QStringLiteral("importProgress"));
+    QVERIFY(progress != nullptr);
+    progress->show();
+    fixture.texts.lookAt(*progress, QStringLiteral("progress of an import"));
+    QSignalSpy ended(&fixture.window, &EditorWindow::importEnded);
+    QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 60000);
+    const QString said = fixture.window.statusBar()->currentMessage();
+    QVERIFY2(!said.isEmpty() && !WindowTexts::hasUntranslated(said), qPrintable(said));
+    verifyTexts(3);
 }
 
 void tst_PseudoLanguage::promptsOfTheEditor()

@@ -21,6 +21,7 @@ private slots:
     void importTakesFilesFoldersAndAddresses();
     void everyKindOfMediaIsTaken();
     void importAsJson();
+    void aRefusedDatabaseIsACodeInJson();
     void importAgainKeepsTheIndex();
     void partlyRefusedImportKeepsTheRest();
     void emptyFolderIsNoRefusal();
@@ -123,11 +124,34 @@ void tst_CtlCatalogue::importAsJson()
          }}},
         {QStringLiteral("updated"), QJsonArray()},
         {QStringLiteral("refused"),
-         QJsonArray{
-             QJsonObject{{QStringLiteral("path"), missing},
-                         {QStringLiteral("reason"), QStringLiteral("There is no such file.")}}}},
+         QJsonArray{QJsonObject{{QStringLiteral("path"), missing},
+                                {QStringLiteral("code"), QStringLiteral("fileMissing")},
+                                {QStringLiteral("arguments"), QJsonArray()}}}},
     };
     QCOMPARE(result.json(), expected);
+}
+
+/// A script has no use for the sentence.
+void tst_CtlCatalogue::aRefusedDatabaseIsACodeInJson()
+{
+    const CtlFixture fixture;
+    const auto error = [&fixture](const QString& command, const QStringList& arguments = {}) {
+        const CtlResult result = fixture.onDatabase(QStringList{command, kJson} + arguments);
+        return result.status == 1 ? result.json()[QStringLiteral("error")].toObject()
+                                  : QJsonObject();
+    };
+    const QJsonObject missing = error(kPrograms);
+    QCOMPARE(missing[QStringLiteral("code")].toString(), QStringLiteral("fileMissing"));
+    QCOMPARE(missing[QStringLiteral("path")].toString(), fixture.database());
+    QVERIFY(missing[QStringLiteral("cause")].isNull());
+
+    importClips(fixture, {QStringLiteral("one.wav")});
+    QFile::setPermissions(fixture.database(), QFile::ReadOwner);
+    const QJsonObject readOnly = error(kImport, {QStringLiteral("one.wav")});
+    QCOMPARE(readOnly[QStringLiteral("code")].toString(), QStringLiteral("readOnly"));
+    QCOMPARE(readOnly[QStringLiteral("cause")].toObject(),
+             (QJsonObject{{QStringLiteral("code"), QStringLiteral("fileReadOnly")},
+                          {QStringLiteral("arguments"), QJsonArray()}}));
 }
 
 void tst_CtlCatalogue::importAgainKeepsTheIndex()

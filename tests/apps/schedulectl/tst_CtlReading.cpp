@@ -6,6 +6,7 @@
 #include "support/TestProgram.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -221,8 +222,8 @@ void tst_CtlReading::changesAreRefused()
     const FolderSnapshot before(fixture.path(QString()));
     StoreResult result = host.replaceSchedule({});
     QCOMPARE(int(result.problem), int(StoreProblem::ReadOnly));
-    QVERIFY2(result.message.contains(QStringLiteral("for reading only")),
-             qPrintable(result.message));
+    QVERIFY2(englishText(result).contains(QStringLiteral("for reading only")),
+             qPrintable(englishText(result)));
     QCOMPARE(int(host.addPrograms(
                          {{QStringLiteral("x"), QStringLiteral("udp://x"), 0.0, ProgramKind::Live}})
                      .store.problem),

@@ -259,12 +259,12 @@ void tst_CtlSchedule::checkAsJson()
                                     {QStringLiteral("collidesWithRow"), 1},
                                     {QStringLiteral("collidesWithPlan"), 3}}}},
             {QStringLiteral("remarks"),
-             QJsonArray{
-                 QJsonObject{{QStringLiteral("task"), 2},
-                             {QStringLiteral("row"), 2},
-                             {QStringLiteral("field"), QStringLiteral("startTime")},
-                             {QStringLiteral("text"),
-                              QStringLiteral("\"8:30\" is not a time in the form hh:mm:ss")}}}},
+             QJsonArray{QJsonObject{{QStringLiteral("task"), 2},
+                                    {QStringLiteral("row"), 2},
+                                    {QStringLiteral("field"), QStringLiteral("startTime")},
+                                    {QStringLiteral("code"), QStringLiteral("notATime")},
+                                    {QStringLiteral("value"), QStringLiteral("8:30")},
+                                    {QStringLiteral("taken"), QJsonValue(QJsonValue::Null)}}}},
         }));
 }
 

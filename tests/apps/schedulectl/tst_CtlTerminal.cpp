@@ -2,6 +2,7 @@
 #include "support/TestProgram.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QCoreApplication>
@@ -126,7 +127,7 @@ void tst_CtlTerminal::exportMeansTheSame()
     makeHostileDatabase(fixture.database());
     const QByteArray json = fixture.exported();
     const ScheduleFromJson read = scheduleFromJson(json);
-    QCOMPARE(read.error, QString());
+    QCOMPARE(englishText(read), QString());
     QCOMPARE(QString::fromStdString(read.tasks.at(2).startDate), hostile());
     QCOMPARE(scheduleToJson(read.tasks), json);
 }

@@ -3,6 +3,7 @@
 #include "ScheduleHost.h"
 #include "service/scheduleManage.h"
 #include "support/SampleSchedule.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -25,7 +26,7 @@ public:
     void open()
     {
         const trel::mediadispatch::StoreResult result = host.open(path);
-        QVERIFY2(result, qPrintable(result.message));
+        QVERIFY2(result, qPrintable(englishText(result)));
     }
 
     /// Closes the store and opens it again, as a host that is started a second time.
@@ -42,7 +43,7 @@ public:
             manager.addTask(task);
         }
         const trel::mediadispatch::StoreResult result = host.trySave();
-        QVERIFY2(result, qPrintable(result.message));
+        QVERIFY2(result, qPrintable(englishText(result)));
     }
 
     QTemporaryDir folder;

@@ -5,6 +5,7 @@
 #include "catalogue/ProgramImporter.h"
 #include "media/MediaReaderClient.h"
 #include "media/PictureRequest.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -51,7 +52,7 @@ int main(int argc, char** argv)
         out << "source " << source.path << ' ' << source.durationMs << '\n';
     }
     for (const ImportRefusal& refusal : scan.refusals) {
-        out << "refusal " << refusal.path << ": " << refusal.reason << '\n';
+        out << "refusal " << refusal.path << ": " << englishSentence(refusal.fault) << '\n';
     }
     for (const QString& path : paths) {
         const std::atomic<bool> isCancelled(false);

@@ -7,6 +7,7 @@
 #include "store/StoreConnection.h"
 #include "support/FaultyDisk.h"
 #include "support/SampleSchedule.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -88,7 +89,7 @@ int saveOn(const QString& path, int generation, qint64 thousandths)
             stopAfter(int(qMax<qint64>(1, timer.nsecsElapsed() / 1000 * thousandths / 1000)));
         }
     }
-    say(result.message);
+    say(englishText(result));
     return 1;
 }
 
@@ -117,7 +118,7 @@ int runOutOfSpace(const QString& folder)
     }
     QObject::connect(&host, &ScheduleHost::saveFailed, &host, [](const StoreResult& reason) {
         say("failed", reason);
-        say(reason.message);
+        say(englishText(reason));
     });
     manager.save();
     say(QStringLiteral("stored %1 working %2 file %3 unsaved %4")

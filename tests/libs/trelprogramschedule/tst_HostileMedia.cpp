@@ -1,4 +1,5 @@
 #include "catalogue/ProgramImporter.h"
+#include "faults/FaultWords.h"
 #include "media/PictureRequest.h"
 #include "support/MediaFiles.h"
 #include "support/PngFile.h"
@@ -64,7 +65,8 @@ QString tst_HostileMedia::scan(const QString& name) const
     const ImportScan found = scanMedia({path(name), path(QStringLiteral("next.wav"))});
     QStringList words;
     for (const ImportRefusal& refusal : found.refusals) {
-        words.append(QFileInfo(refusal.path).fileName() + QStringLiteral(": ") + refusal.reason);
+        words.append(QFileInfo(refusal.path).fileName() + QStringLiteral(": ") +
+                     englishSentence(refusal.fault));
     }
     for (const MediaSource& source : found.sources) {
         words.append(source.name);
@@ -143,7 +145,7 @@ void tst_HostileMedia::whatIsNoFileIsRefusedAtOnce()
     // A folder is gone through, and holds nothing.
     if (!QFileInfo(file).isDir()) {
         QCOMPARE(found.refusals.size(), std::size_t(1));
-        QCOMPARE(found.refusals[0].reason, QStringLiteral("It is not a file."));
+        QCOMPARE(englishSentence(found.refusals[0].fault), QStringLiteral("It is not a file."));
     }
 }
 
@@ -232,7 +234,7 @@ void tst_HostileMedia::namesThatAreNotUtf8AreToldOf()
     QCOMPARE(scan.sources.size(), std::size_t(1));
     QStringList refused;
     for (const ImportRefusal& refusal : scan.refusals) {
-        QCOMPARE(refusal.reason, reason);
+        QCOMPARE(englishSentence(refusal.fault), reason);
         refused.append(QDir(folder.path()).relativeFilePath(refusal.path));
     }
     refused.sort();
@@ -241,7 +243,7 @@ void tst_HostileMedia::namesThatAreNotUtf8AreToldOf()
     const QString named = QString::fromUtf8(root + "/caf\xe9.wav");
     const ImportScan single = scanMedia({named});
     QCOMPARE(single.refusals.size(), std::size_t(1));
-    QCOMPARE(single.refusals[0].reason, reason);
+    QCOMPARE(englishSentence(single.refusals[0].fault), reason);
 }
 
 void tst_HostileMedia::percentSignsStayInNames()

@@ -1,4 +1,5 @@
 #include "catalogue/ProgramImporter.h"
+#include "faults/FaultWords.h"
 #include "media/MediaReaderClient.h"
 #include "media/PictureRequest.h"
 #include "support/ChildProcesses.h"
@@ -93,7 +94,7 @@ QStringList lines(const ImportScan& scan)
         list.append(source.name);
     }
     for (const ImportRefusal& refusal : scan.refusals) {
-        list.append(refusal.reason);
+        list.append(englishSentence(refusal.fault));
     }
     return list;
 }
@@ -155,7 +156,7 @@ void tst_MediaReaderClient::oneProgramServesAllFiles()
     QCOMPARE(first.size(), 1);
 
     QCOMPARE(client.facts(film(), false, {}).durationMs, 12000.0);
-    QVERIFY(!client.facts(write("letter.txt", "Dear friend"), false, {}).reason.isEmpty());
+    QVERIFY(client.facts(write("letter.txt", "Dear friend"), false, {}).fault);
     QVERIFY(client.facts(film(), true, {}).kind == ProgramKind::Video);
 
     QCOMPARE(childProcesses(), first);
@@ -169,10 +170,10 @@ void tst_MediaReaderClient::aMissingProgramIsNamedWithItsPlaces()
 
     const MediaFacts facts = client.facts(film(), true, {});
 
-    QCOMPARE(facts.reason,
+    QCOMPARE(englishSentence(facts.fault),
              QStringLiteral("Media cannot be read, for a file of this program is missing: ") +
-                 file("nowhere"));
-    QCOMPARE(client.problem(), facts.reason);
+                 file("nowhere") + QLatin1Char('.'));
+    QCOMPARE(englishSentence(client.problem()), englishSentence(facts.fault));
 }
 
 void tst_MediaReaderClient::oneThatCannotStartIsNamed_data()
@@ -201,9 +202,9 @@ void tst_MediaReaderClient::oneThatCannotStartIsNamed()
     MediaReaderClient client(Purpose::Facts, given);
 
     QCOMPARE(
-        client.facts(film(), true, {}).reason,
+        englishSentence(client.facts(film(), true, {}).fault),
         QStringLiteral("Media cannot be read, for a file of this program cannot be started: ") +
-            program + QStringLiteral(": ") + problem);
+            program + QStringLiteral(": ") + problem + QLatin1Char('.'));
     QVERIFY(childProcesses().isEmpty());
 }
 
@@ -212,10 +213,10 @@ void tst_MediaReaderClient::aFailureIsLoggedOnceAndNotTriedAgain()
     const MessageLog log;
     const QString late = file("late");
     MediaReaderClient client(Purpose::Facts, reading(late));
-    const QString problem = client.facts(film(), true, {}).reason;
+    const QString problem = englishSentence(client.facts(film(), true, {}).fault);
     QVERIFY(QFile::link(QStringLiteral(MEDIA_READER), late));
 
-    QCOMPARE(client.facts(film(), true, {}).reason, problem);
+    QCOMPARE(englishSentence(client.facts(film(), true, {}).fault), problem);
     QCOMPARE(log.texts(), QStringList{problem});
     // The next import tries once more.
     QCOMPARE(MediaReaderClient(Purpose::Facts, reading(late)).facts(film(), true, {}).durationMs,
@@ -248,10 +249,10 @@ void tst_MediaReaderClient::misbehaviourCostsTheFileInHand()
         time.start();
         const MediaFacts facts = client.facts(film(), true, {});
         QVERIFY(facts.kind == ProgramKind::Other);
-        QCOMPARE(facts.reason, reason);
+        QCOMPARE(englishSentence(facts.fault), reason);
         QVERIFY2(time.elapsed() < 3000, qPrintable(QString::number(time.elapsed())));
     }
-    QCOMPARE(client.problem(), QString());
+    QCOMPARE(englishSentence(client.problem()), QString());
 }
 
 /// It may come at once, or only while the next file is at hand.
@@ -260,10 +261,10 @@ void tst_MediaReaderClient::whatIsSaidUnaskedIsNoAnswer()
     MediaReaderClient client(Purpose::Facts, reading(stub("talking"), 5s));
     for (int i = 0; i < 5; ++i) {
         const MediaFacts facts = client.facts(film(), true, {});
-        if (facts.reason.isEmpty()) {
+        if (!facts.fault) {
             QCOMPARE(facts.durationMs, 1000.0);
         } else {
-            QCOMPARE(facts.reason,
+            QCOMPARE(englishSentence(facts.fault),
                      QStringLiteral("The media reader gave no valid answer about it."));
         }
     }
@@ -341,9 +342,9 @@ void tst_MediaReaderClient::cancelEndsTheWait()
         client.facts(film(), true, [&time] { return time.elapsed() >= kCancelledAfter; });
 
     QVERIFY(facts.kind == ProgramKind::Other);
-    QCOMPARE(facts.reason, QString());
+    QCOMPARE(englishSentence(facts.fault), QString());
     QVERIFY2(time.elapsed() < kCancelledAfter + 200, qPrintable(QString::number(time.elapsed())));
-    QCOMPARE(client.problem(), QString());
+    QCOMPARE(englishSentence(client.problem()), QString());
     QVERIFY(childProcesses().isEmpty());
 }
 
@@ -413,7 +414,7 @@ void tst_MediaReaderClient::withoutItOtherWorkGoesOn()
     const QString problem =
         QStringLiteral("Media cannot be read, for a file of this program is missing: "
                        "%1/missing/bin/trelprogramschedulewidgets/media-reader, "
-                       "%1/missing/lib/trelprogramschedulewidgets/media-reader")
+                       "%1/missing/lib/trelprogramschedulewidgets/media-reader.")
             .arg(root);
 
     QCOMPARE(tree.run({address(), film()}),

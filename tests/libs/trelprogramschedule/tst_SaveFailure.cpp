@@ -1,5 +1,6 @@
 #include "SignalCounts.h"
 #include "StoreFixture.h"
+#include "faults/FaultWords.h"
 #include "store/ScheduleDatabase.h"
 #include "store/StoreConnection.h"
 #include "support/TestProgram.h"
@@ -122,7 +123,7 @@ void tst_SaveFailure::locked()
         const StoreTransaction writing(other, StoreTransaction::Purpose::Write);
         const StoreResult reason = failedSave();
         QCOMPARE(reason.problem, StoreProblem::Locked);
-        QVERIFY2(reason.message.contains(m_store->path), qPrintable(reason.message));
+        QVERIFY2(englishText(reason).contains(m_store->path), qPrintable(englishText(reason)));
     }
     QVERIFY(m_store->manager.getgTaskMap() == m_stored);
     QVERIFY(m_store->manager.getAllTask() == m_working);
@@ -156,8 +157,8 @@ void tst_SaveFailure::fileGone()
     QVERIFY(QFile::remove(m_store->path));
     const StoreResult reason = failedSave();
     QCOMPARE(reason.problem, StoreProblem::Other);
-    QVERIFY2(reason.message.contains(QLatin1String("removed or replaced")),
-             qPrintable(reason.message));
+    QVERIFY2(englishText(reason).contains(QLatin1String("removed or replaced")),
+             qPrintable(englishText(reason)));
     QVERIFY(!m_store->host.addPrograms(samplePrograms(1, 50)).store);
     QVERIFY(!m_store->host.removeProgram(1));
     QCOMPARE(m_store->manager.getPrograms().size(), std::size_t(3));
@@ -191,7 +192,8 @@ void tst_SaveFailure::tableGone()
     }
     const StoreResult reason = failedSave();
     QCOMPARE(reason.problem, StoreProblem::Damaged);
-    QVERIFY2(reason.message.contains(QLatin1String("plan_value")), qPrintable(reason.message));
+    QVERIFY2(englishText(reason).contains(QLatin1String("plan_value")),
+             qPrintable(englishText(reason)));
     QVERIFY(m_store->manager.getAllTask() == m_working);
     // Also what was written before the failure is undone.
     const StoreConnection other(m_store->path, StoreConnection::Access::ReadWrite);
@@ -207,8 +209,8 @@ void tst_SaveFailure::secondEditorIsRefused()
 
     const StoreResult reason = failedSave();
     QCOMPARE(reason.problem, StoreProblem::MovedOn);
-    QVERIFY2(reason.message.contains(QLatin1String("saved by another program")),
-             qPrintable(reason.message));
+    QVERIFY2(englishText(reason).contains(QLatin1String("saved by another program")),
+             qPrintable(englishText(reason)));
     QVERIFY(tasksInFile(m_store->path) == theirs);
     QVERIFY(m_store->manager.getAllTask() == m_working);
 }

@@ -1,5 +1,6 @@
 #include "ScheduleLimits.h"
 #include "StoreFixture.h"
+#include "faults/FaultWords.h"
 #include "support/FolderSnapshot.h"
 #include "support/TestProgram.h"
 #include "json/JsonTree.h"
@@ -92,8 +93,8 @@ void tst_ScheduleLimits::tooMuchIsRefused()
 
     StoreResult result = store.host.replaceSchedule(tasks);
     QCOMPARE(int(result.problem), int(StoreProblem::TooLarge));
-    QVERIFY2(result.message.contains(number) && isShort(result.message),
-             qPrintable(result.message));
+    QVERIFY2(englishText(result).contains(number) && isShort(englishText(result)),
+             qPrintable(englishText(result)));
     for (const auto& [id, task] : tasks) {
         store.manager.addTask(task);
     }
@@ -102,7 +103,8 @@ void tst_ScheduleLimits::tooMuchIsRefused()
     QVERIFY(store.manager.getgTaskMap() == before);
 
     const ScheduleFromJson read = scheduleFromJson(scheduleToJson(tasks));
-    QVERIFY2(read.error.contains(number) && isShort(read.error), qPrintable(read.error));
+    QVERIFY2(englishText(read).contains(number) && isShort(englishText(read)),
+             qPrintable(englishText(read)));
     QVERIFY(read.tasks.empty());
 }
 
@@ -118,7 +120,7 @@ void tst_ScheduleLimits::whatJustFitsIsTaken()
     store.restart();
     QVERIFY(store.manager.getgTaskMap() == tasks);
     const ScheduleFromJson read = scheduleFromJson(scheduleToJson(tasks));
-    QCOMPARE(read.error, QString());
+    QCOMPARE(englishText(read), QString());
     QVERIFY(read.tasks == tasks);
 }
 
@@ -139,7 +141,8 @@ void tst_ScheduleLimits::jsonHasBounds()
     QFETCH(QByteArray, json);
     QFETCH(QString, number);
     const ParsedJson parsed = parseJson(json);
-    QVERIFY2(parsed.error.contains(number) && isShort(parsed.error), qPrintable(parsed.error));
+    QVERIFY2(englishClause(parsed.fault).contains(number) && isShort(englishClause(parsed.fault)),
+             qPrintable(englishClause(parsed.fault)));
 }
 
 void tst_ScheduleLimits::longTextsDoNotFillMessages_data()
@@ -162,7 +165,7 @@ void tst_ScheduleLimits::longTextsDoNotFillMessages()
     QVERIFY(json.contains(from));
     json.replace(from, to);
     const ScheduleFromJson read = scheduleFromJson(json);
-    QVERIFY2(isShort(read.error), qPrintable(read.error.left(2000)));
+    QVERIFY2(isShort(englishText(read)), qPrintable(englishText(read).left(2000)));
 }
 
 void tst_ScheduleLimits::readingStops()
@@ -187,7 +190,7 @@ void tst_ScheduleLimits::readingStops()
     const QByteArray json = readScheduleJson(device);
     QVERIFY(json.size() > kLargestJson);
     QVERIFY(device.given < kLargestJson + 4 * 1024 * 1024);
-    QVERIFY(scheduleFromJson(json).error.contains(QString::number(kLargestJson)));
+    QVERIFY(englishText(scheduleFromJson(json)).contains(QString::number(kLargestJson)));
     QByteArray short_ = "{}";
     QBuffer buffer(&short_);
     QVERIFY(buffer.open(QIODevice::ReadOnly));
@@ -204,7 +207,8 @@ void tst_ScheduleLimits::programsHaveBounds()
                       ProgramKind::Live}}) {
         const ImportResult result = store.host.addPrograms({source});
         QCOMPARE(int(result.store.problem), int(StoreProblem::TooLarge));
-        QVERIFY2(isShort(result.store.message), qPrintable(result.store.message.left(2000)));
+        QVERIFY2(isShort(englishText(result.store)),
+                 qPrintable(englishText(result.store).left(2000)));
         QVERIFY(store.manager.getPrograms().empty());
     }
 }
@@ -224,7 +228,8 @@ void tst_ScheduleLimits::aStoreThatHoldsTooMuchIsRefused()
     const FolderSnapshot before(store.folder.path());
     const StoreResult result = store.host.open(store.path);
     QCOMPARE(int(result.problem), int(StoreProblem::TooLarge));
-    QVERIFY2(result.message.contains(QString::number(kMostTasks)), qPrintable(result.message));
+    QVERIFY2(englishText(result).contains(QString::number(kMostTasks)),
+             qPrintable(englishText(result)));
     QCOMPARE(before.differences(FolderSnapshot(store.folder.path())), QStringList());
 }
 

@@ -1,4 +1,5 @@
 #include "StoreFixture.h"
+#include "faults/FaultWords.h"
 #include "store/StoreConnection.h"
 #include "store/StoreDeadline.h"
 #include "store/StoreGuard.h"
@@ -51,7 +52,7 @@ QString refusalOf(const StoreConnection& connection, const QString& statement)
         connection.run(statement);
         return {};
     } catch (const StoreError& error) {
-        return error.result.message;
+        return englishText(error.result);
     }
 }
 
@@ -127,8 +128,8 @@ void tst_StoreDefence::anotherSchemaIsRefused()
                                           ? StoreProblem::Damaged
                                           : StoreProblem::Altered;
         QCOMPARE(int(result.problem), int(expected));
-        QVERIFY2(result.message.startsWith(path), qPrintable(result.message));
-        QVERIFY2(result.message.contains(detail), qPrintable(result.message));
+        QVERIFY2(englishText(result).startsWith(path), qPrintable(englishText(result)));
+        QVERIFY2(englishText(result).contains(detail), qPrintable(englishText(result)));
         QVERIFY(!ScheduleHost::instance().isOpen());
         QCOMPARE(before.differences(FolderSnapshot(folder.path())), QStringList());
     }
@@ -170,8 +171,8 @@ void tst_StoreDefence::oversizedValuesAreRefused()
     const FolderSnapshot before(store.folder.path());
     const StoreResult result = store.host.open(store.path);
     QCOMPARE(int(result.problem), int(StoreProblem::TooLarge));
-    QVERIFY2(result.message.contains(QString::number(kLargestStoredValue)),
-             qPrintable(result.message));
+    QVERIFY2(englishText(result).contains(QString::number(kLargestStoredValue)),
+             qPrintable(englishText(result)));
     QCOMPARE(before.differences(FolderSnapshot(store.folder.path())), QStringList());
 }
 
@@ -186,7 +187,8 @@ void tst_StoreDefence::contentsThatDoNotFitAreRefusedAsTheyAre()
     const FolderSnapshot before(store.folder.path());
     const StoreResult result = store.host.open(store.path);
     QCOMPARE(int(result.problem), int(StoreProblem::Damaged));
-    QVERIFY2(result.message.contains(QLatin1String("do not fit")), qPrintable(result.message));
+    QVERIFY2(englishText(result).contains(QLatin1String("do not fit")),
+             qPrintable(englishText(result)));
     QCOMPARE(before.differences(FolderSnapshot(store.folder.path())), QStringList());
 }
 
@@ -258,8 +260,8 @@ void tst_StoreDefence::aLogOfAnotherCopyIsNotWorkedIn()
         QCOMPARE(store.manager.getgTaskMap().size(), std::size_t(loggedTo));
     } else {
         QCOMPARE(int(result.problem), int(StoreProblem::Damaged));
-        QVERIFY2(result.message.contains(QLatin1String("another copy")),
-                 qPrintable(result.message));
+        QVERIFY2(englishText(result).contains(QLatin1String("another copy")),
+                 qPrintable(englishText(result)));
         QCOMPARE(before.differences(FolderSnapshot(store.folder.path())), QStringList());
         QVERIFY(QFile::remove(store.path + QStringLiteral("-wal")));
         store.open();

@@ -1,5 +1,6 @@
 #include "StoreChild.h"
 #include "StoreFixture.h"
+#include "faults/FaultWords.h"
 #include "support/FaultyDisk.h"
 #include "support/TestProgram.h"
 
@@ -96,9 +97,10 @@ void tst_StoreFaults::unclearOutcomesAreNamed()
     }
     StoreResult result = store.host.trySave();
     QCOMPARE(int(result.problem), int(StoreProblem::Unclear));
-    QVERIFY2(result.message.startsWith(store.path), qPrintable(result.message));
-    QVERIFY2(result.message.contains(qt_error_string(EIO)), qPrintable(result.message));
-    QVERIFY2(result.message.contains(QLatin1String("may be there")), qPrintable(result.message));
+    QVERIFY2(englishText(result).startsWith(store.path), qPrintable(englishText(result)));
+    QVERIFY2(englishText(result).contains(qt_error_string(EIO)), qPrintable(englishText(result)));
+    QVERIFY2(englishText(result).contains(QLatin1String("may be there")),
+             qPrintable(englishText(result)));
     QVERIFY(store.host.hasUnsavedChanges());
     QVERIFY(store.host.reload());
     QCOMPARE(generationOf(store.manager.getgTaskMap()), 1);
@@ -112,7 +114,7 @@ void tst_StoreFaults::unclearOutcomesAreNamed()
         store.manager.addTask(task);
     }
     result = store.host.trySave();
-    QVERIFY2(result, qPrintable(result.message));
+    QVERIFY2(result, qPrintable(englishText(result)));
     store.restart();
     QCOMPARE(generationOf(store.manager.getgTaskMap()), 3);
     store.host.close();
@@ -243,7 +245,7 @@ void tst_StoreFaults::errorsAreCalledByTheirNames()
     disk.fail(FaultyDisk::Write, 1, FaultyDisk::Lasting::Once, systemError);
     const StoreResult result = store.host.replaceSchedule(generation(1));
     QCOMPARE(int(result.problem), problem);
-    QVERIFY2(result.message.contains(words), qPrintable(result.message));
+    QVERIFY2(englishText(result).contains(words), qPrintable(englishText(result)));
     store.host.close();
 
     // A page that cannot be read is no damage.
@@ -255,8 +257,9 @@ void tst_StoreFaults::errorsAreCalledByTheirNames()
     for (int nth = 1; nth <= reads; ++nth) {
         disk.fail(FaultyDisk::Read, nth, FaultyDisk::Lasting::ForGood, EIO);
         const StoreResult opened = store.host.open(store.path);
-        QVERIFY2(opened.problem == StoreProblem::Other, qPrintable(opened.message));
-        QVERIFY2(opened.message.contains(QLatin1String("I/O error")), qPrintable(opened.message));
+        QVERIFY2(opened.problem == StoreProblem::Other, qPrintable(englishText(opened)));
+        QVERIFY2(englishText(opened).contains(QLatin1String("I/O error")),
+                 qPrintable(englishText(opened)));
         disk.heal();
     }
 }

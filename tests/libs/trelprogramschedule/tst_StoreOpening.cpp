@@ -1,5 +1,6 @@
 #include "StoreChild.h"
 #include "StoreFixture.h"
+#include "faults/FaultWords.h"
 #include "store/StoreConnection.h"
 #include "support/FolderSnapshot.h"
 #include "support/TestProgram.h"
@@ -194,8 +195,8 @@ void tst_StoreOpening::refusals()
          {ScheduleHost::OpenMode::CreateIfMissing, ScheduleHost::OpenMode::MustExist}) {
         const StoreResult result = host.open(path, mode);
         QTEST(int(result.problem), "problem");
-        QVERIFY2(result.message.contains(path), qPrintable(result.message));
-        QVERIFY2(result.message.endsWith(QLatin1Char('.')), qPrintable(result.message));
+        QVERIFY2(englishText(result).contains(path), qPrintable(englishText(result)));
+        QVERIFY2(englishText(result).endsWith(QLatin1Char('.')), qPrintable(englishText(result)));
         QVERIFY(!host.isOpen());
         // The index of a log is scratch memory, which everybody who looks at the log works in.
         QStringList differences = before.differences(FolderSnapshot(folder.path()));
@@ -210,7 +211,7 @@ void tst_StoreOpening::missingFolder()
     const QString path = folder.filePath(QStringLiteral("no/such/schedule.db"));
     const StoreResult result = ScheduleHost::instance().open(path);
     QCOMPARE(result.problem, StoreProblem::FolderMissing);
-    QVERIFY(result.message.contains(path));
+    QVERIFY(englishText(result).contains(path));
     QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("no"))));
     QCOMPARE(ScheduleHost::instance().open(QString()).problem, StoreProblem::NotADatabase);
 
@@ -231,7 +232,7 @@ void tst_StoreOpening::lockedByAnotherProgram()
         QVERIFY2(other.isReady(), "the other program does not hold the file");
         const StoreResult result = ScheduleHost::instance().open(path);
         QCOMPARE(result.problem, StoreProblem::Locked);
-        QVERIFY2(result.message.contains(path), qPrintable(result.message));
+        QVERIFY2(englishText(result).contains(path), qPrintable(englishText(result)));
         QCOMPARE(contentOf(path), before);
     }
     QVERIFY(ScheduleHost::instance().open(path));
@@ -349,7 +350,7 @@ void tst_StoreOpening::namesWithAnythingInThem()
     QCOMPARE(scheduleManage::getInstance().getgTaskMap().size(), std::size_t(100));
     ScheduleHost::instance().close();
     damage(path);
-    QVERIFY(ScheduleHost::instance().open(path).message.startsWith(path));
+    QVERIFY(englishText(ScheduleHost::instance().open(path)).startsWith(path));
 }
 
 void tst_StoreOpening::foldersWithPercentSigns()

@@ -1,5 +1,6 @@
 #include "SignalCounts.h"
 #include "StoreFixture.h"
+#include "faults/FaultWords.h"
 #include "store/ScheduleDatabase.h"
 #include "store/StoreConnection.h"
 #include "support/TestProgram.h"
@@ -153,7 +154,7 @@ void tst_StoreReplaced::goneAndBack()
     for (int round = 0; round < 2; ++round) {
         const StoreResult result = m_store->host.reload();
         QCOMPARE(result.problem, StoreProblem::FileMissing);
-        QCOMPARE(result.message, m_store->path + QLatin1String(" does not exist."));
+        QCOMPARE(englishText(result), m_store->path + QLatin1String(" does not exist."));
     }
     QVERIFY(m_store->manager.getgTaskMap() == m_former);
     QVERIFY(m_store->host.isOpen());

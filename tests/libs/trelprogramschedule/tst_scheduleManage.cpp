@@ -1,4 +1,5 @@
 #include "StoreFixture.h"
+#include "faults/FaultWords.h"
 #include "support/TestClock.h"
 #include "support/TestProgram.h"
 
@@ -247,7 +248,7 @@ void tst_scheduleManage::worksWithNoStore()
     manager.save();
     QCOMPARE(failures.count(), 1);
     QCOMPARE(failures[0][0].value<StoreResult>().problem, StoreProblem::NotOpen);
-    QVERIFY(!failures[0][0].value<StoreResult>().message.isEmpty());
+    QVERIFY(!englishText(failures[0][0].value<StoreResult>()).isEmpty());
     QVERIFY(manager.getgTaskMap().empty());
     QVERIFY(manager.getTask(1) == everyFieldTask(1));
     host.close();

@@ -27,6 +27,7 @@
 #include <trelprogramschedule/dispatch/ProgramVerdict.h>
 #include <trelprogramschedule/dispatch/ScreenDispatch.h>
 #include <trelprogramschedule/dispatch/ScreenTimeline.h>
+#include <trelprogramschedule/faults/FaultWords.h>
 #include <trelprogramschedule/json/ScheduleJson.h>
 #include <trelprogramschedule/media/MediaReading.h>
 #include <trelprogramschedule/media/PictureRequest.h>
@@ -71,14 +72,15 @@ int main()
     const bool areFunctionsThere = areThere(
         &addDuration, &allTaskOverlaps, &buryInvalidEntry, &clockChanges, &collidingClaims,
         &completeNewPlan, &containsNoDuration, &countsRuns, &dateFromText, &dateToText, &digitsAt,
-        &exceedsDay, &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm, &holdsAsInvalid,
-        &insertedPlan, &insertionScope, &isInvalidReadBack, &tessark::trans::isLanguageFile,
-        &joinWeeks, &lastPlanWithId, &listFromRow, &mediaReading, &namesAnyDay, &nextClockChanges,
-        &nextPlanId, &offeredPrograms, &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd,
-        &planTemplate, &programListText, &programText, &programVerdict,
-        &tessark::trans::readLanguageFile, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
-        &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleFromJson, &scheduleToJson,
-        &shownAddress, &timeFromText, &timeToText, &totalText, &tessark::trans::translate,
+        &englishClause, &englishSentence, &exceedsDay, &faultName, &firstPlanWithId,
+        &firstTaskOverlap, &followingCopy, &hasForm, &holdsAsInvalid, &insertedPlan,
+        &insertionScope, &isInvalidReadBack, &tessark::trans::isLanguageFile, &joinWeeks,
+        &lastPlanWithId, &listFromRow, &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId,
+        &offeredPrograms, &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate,
+        &programListText, &programText, &programVerdict, &tessark::trans::readLanguageFile,
+        &readPicture, &readScheduleJson, &removeFirstPlanWithId, &runsLessThanOnce,
+        &setMediaReading, &scanMedia, &scheduleFromJson, &scheduleToJson, &shownAddress,
+        &storeProblemName, &timeFromText, &timeToText, &totalText, &tessark::trans::translate,
         &weeksOverlap, &writeScheduleFile);
     std::cout << (areClassesThere && areFunctionsThere ? "All there\n" : "Something is missing\n");
 }

@@ -3,6 +3,7 @@
 #include "service/scheduleManage.h"
 #include "support/SampleSchedule.h"
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QDir>
@@ -200,7 +201,7 @@ QByteArray TrialFolder::storeContents() const
     const StoreResult opened = host.open(store, ScheduleHost::OpenMode::MustExist);
     if (!opened) {
         const bool isNone = !QFile::exists(store) || QFileInfo(store).size() == 0;
-        return isNone ? none : "!" + opened.message.toUtf8();
+        return isNone ? none : "!" + englishText(opened).toUtf8();
     }
     scheduleManage& manager = scheduleManage::getInstance();
     QByteArray text = "programs:\n";

@@ -58,7 +58,7 @@ void tryRules(const QByteArray& input)
 {
     static const std::map<int, ProgramIten> catalogue = programs();
     const ScheduleFromJson schedule = scheduleFromJson(input);
-    if (!schedule.error.isEmpty()) {
+    if (schedule.fault) {
         return;
     }
     const auto hasNoDuration = [](int index) {

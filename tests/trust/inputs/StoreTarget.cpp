@@ -5,6 +5,7 @@
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 
 #include <QDir>
 #include <QFile>
@@ -101,7 +102,7 @@ void change(const QString& path)
     if (added.store && replaced) {
         const StoreResult opened = host.open(path, ScheduleHost::OpenMode::MustExist);
         if (!opened) {
-            fault(QStringLiteral("what was written cannot be read: %1").arg(opened.message));
+            fault(QStringLiteral("what was written cannot be read: %1").arg(englishText(opened)));
         }
         const auto tasks = manager.getgTaskMap();
         expect(tasks.size() == 1 && tasks.begin()->second == task, "a change is there, whole");
@@ -126,7 +127,7 @@ void tryStore(const QByteArray& input)
     if (opened) {
         look(scheduleManage::getInstance().getgTaskMap());
     } else {
-        expect(!opened.message.isEmpty(), "a refusal has a sentence");
+        expect(!englishText(opened).isEmpty(), "a refusal has a sentence");
     }
     host.close();
     expect(read(path) == input.left(mark), "a store that is only read stays as it is");

@@ -10,6 +10,7 @@
 #include "service/WeekDays.h"
 #include "text/DisplayText.h"
 #include "text/HelpText.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QJsonDocument>
@@ -53,14 +54,14 @@ void expectSentence(const QString& sentence)
 void tryJson(const QByteArray& input)
 {
     const ScheduleFromJson schedule = scheduleFromJson(input);
-    if (!schedule.error.isEmpty()) {
-        expectSentence(schedule.error);
+    if (schedule.fault) {
+        expectSentence(englishText(schedule));
         expect(schedule.tasks.empty(), "a schedule is read whole or not at all");
         return;
     }
     const QByteArray written = scheduleToJson(schedule.tasks);
     const ScheduleFromJson again = scheduleFromJson(written);
-    expect(again.error.isEmpty(), "what was written can be read");
+    expect(!again.fault, "what was written can be read");
     expect(again.tasks == schedule.tasks, "a schedule that is read back is the same");
     expect(scheduleToJson(again.tasks) == written, "the same schedule gives the same bytes");
     expect(printableJson(written) == written, "an export holds nothing that a terminal obeys");

@@ -18,7 +18,7 @@ constexpr int kPatienceMSecs = 60000;
 Tasks tasksOfJson(const QByteArray& json)
 {
     ScheduleFromJson schedule = scheduleFromJson(json);
-    if (!schedule.error.isEmpty()) {
+    if (schedule.fault) {
         FlightRecorder::fail(QStringLiteral("no schedule: ") + schedule.error);
     }
     for (auto& [id, task] : schedule.tasks) {

@@ -8,6 +8,7 @@
 #include "support/PlanTaskWidgetInspector.h"
 #include "support/TestClock.h"
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 #include "trelwidgets/ComboBox.h"
 
@@ -48,7 +49,7 @@ public:
             edit(request.section(QLatin1Char(' '), 1).toULongLong());
         } else if (word == QLatin1String("save")) {
             const StoreResult result = ScheduleHost::instance().trySave();
-            return result ? QStringLiteral("saved") : result.message;
+            return result ? QStringLiteral("saved") : englishText(result);
         } else {
             return QStringLiteral("not understood");
         }
@@ -109,7 +110,7 @@ int runDeskWorker(const QString& database)
 {
     ScheduleHost& host = ScheduleHost::instance();
     if (const StoreResult opened = host.open(database); !opened) {
-        std::fprintf(stderr, "%s\n", qUtf8Printable(opened.message));
+        std::fprintf(stderr, "%s\n", qUtf8Printable(englishText(opened)));
         return 1;
     }
     {

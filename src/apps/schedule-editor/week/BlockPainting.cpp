@@ -2,6 +2,7 @@
 
 #include "BidiText.h"
 #include "look/ThemeColours.h"
+#include "screen/ScreenWords.h"
 #include "week/WeekScene.h"
 #include "week/WeekWords.h"
 
@@ -73,7 +74,7 @@ QStringList linesOf(const DayPiece& piece, const WeekBlock* block, int lines,
     }
     const QStringList programs = namesOf(*block);
     const QString names =
-        block->hasNothing ? Words::tr("nothing to show") : programs.join(QStringLiteral(", "));
+        block->hasNothing ? Words::tr("nothing to show") : ScreenWords::joined(programs);
     if (lines < 2) {
         return {QString::number(block->planId) + kGap + names};
     }

@@ -5,9 +5,11 @@
 #include "schedule/ScheduleWords.h"
 #include "text/Console.h"
 #include "text/DisplayText.h"
+#include "text/FaultReport.h"
 #include "text/TextTable.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 
 using namespace trel::mediadispatch;
 
@@ -53,8 +55,9 @@ QJsonArray refusalsJson(const std::vector<ImportRefusal>& refusals)
 {
     QJsonArray array;
     for (const ImportRefusal& refusal : refusals) {
-        array.append(QJsonObject{{QStringLiteral("path"), refusal.path},
-                                 {QStringLiteral("reason"), refusal.reason}});
+        QJsonObject refused = faultJson(refusal.fault);
+        refused.insert(QStringLiteral("path"), refusal.path);
+        array.append(refused);
     }
     return array;
 }
@@ -73,12 +76,15 @@ ExitStatus run(const Invocation& invocation, Console& console)
             return true;
         });
     for (const ImportRefusal& refusal : scan.refusals) {
-        console.tell(
-            QStringLiteral("%1: %2").arg(printable(shownAddress(refusal.path)), refusal.reason));
+        console.tell(QStringLiteral("%1: %2").arg(printable(shownAddress(refusal.path)),
+                                                  englishSentence(refusal.fault)));
     }
     const ImportResult result = database->host().addPrograms(scan.sources);
     if (!result.store) {
-        console.tell(result.store.message);
+        console.tell(englishText(result.store));
+        if (invocation.json) {
+            console.writeJson(refusalJson(result.store));
+        }
         return Refused;
     }
     const Programs programs = database->programs();

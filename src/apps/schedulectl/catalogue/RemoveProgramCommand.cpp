@@ -5,6 +5,7 @@
 #include "text/Console.h"
 #include "text/DisplayText.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 
 #include <optional>
 #include <set>
@@ -90,7 +91,7 @@ ExitStatus run(const Invocation& invocation, Console& console)
     const int plans = database->host().plansWith(*indexes);
     const StoreResult result = database->host().removePrograms(*indexes);
     if (!result) {
-        console.tell(result.message);
+        console.tell(englishText(result));
         return Refused;
     }
     writeRemoval(console, *indexes, programs, plans);

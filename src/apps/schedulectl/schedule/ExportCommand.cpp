@@ -4,6 +4,7 @@
 #include "ScheduleReport.h"
 #include "text/Console.h"
 #include "text/DisplayText.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QFileInfo>
@@ -37,9 +38,9 @@ ExitStatus run(const Invocation& invocation, Console& console)
                          .arg(printable(file)));
         return Refused;
     }
-    const QString error = writeScheduleFile(file, tasks);
-    if (!error.isEmpty()) {
-        console.tell(error);
+    if (const Fault fault = writeScheduleFile(file, tasks)) {
+        console.tell(
+            QStringLiteral("%1 cannot be written: %2.").arg(printable(file), englishClause(fault)));
         return Refused;
     }
     console.writeLine(QStringLiteral("%1 written to %2.").arg(sizeText(tasks), printable(file)));

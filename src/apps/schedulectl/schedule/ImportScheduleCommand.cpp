@@ -6,6 +6,7 @@
 #include "service/TaskPeriods.h"
 #include "text/Console.h"
 #include "text/DisplayText.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QFile>
@@ -106,8 +107,9 @@ ExitStatus run(const Invocation& invocation, Console& console)
         return Refused;
     }
     const ScheduleFromJson schedule = scheduleFromJson(content.bytes);
-    if (!schedule.error.isEmpty()) {
-        console.tell(QStringLiteral("%1: %2.").arg(shownName(file), printable(schedule.error)));
+    if (schedule.fault) {
+        console.tell(
+            QStringLiteral("%1: %2.").arg(shownName(file), printable(englishText(schedule))));
         return Refused;
     }
     const auto database = openDatabase(invocation, Database::Access::Write, console);
@@ -117,7 +119,7 @@ ExitStatus run(const Invocation& invocation, Console& console)
     const QString before = sizeText(database->tasks());
     const StoreResult result = database->host().replaceSchedule(schedule.tasks);
     if (!result) {
-        console.tell(result.message);
+        console.tell(englishText(result));
         return Refused;
     }
     tellOddities(console, schedule.tasks, database->programs());

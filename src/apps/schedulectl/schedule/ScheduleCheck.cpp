@@ -5,6 +5,7 @@
 #include "service/DateText.h"
 #include "service/PlanConflicts.h"
 #include "service/TimeText.h"
+#include "service/WeekDays.h"
 #include "text/DisplayText.h"
 
 #include <QDate>
@@ -62,7 +63,8 @@ public:
         const bool hasEnd = expectDate(QStringLiteral("endDate"), task.endDate);
         if (hasStart && hasEnd && task.endDate < task.startDate) {
             remark(QStringLiteral("endDate"),
-                   QStringLiteral("%1 lies before the start date").arg(shown(task.endDate)));
+                   QStringLiteral("%1 lies before the start date").arg(shown(task.endDate)),
+                   "endBeforeStart", text(task.endDate));
         }
         for (const PlayPlan& plan : task.plans) {
             ++m_row;
@@ -75,26 +77,29 @@ public:
     }
 
 private:
+    static QString text(const std::string& utf8) { return QString::fromStdString(utf8); }
     static QString shown(const std::string& text) { return inQuotes(QString::fromStdString(text)); }
 
-    bool expectDate(const QString& field, const std::string& text)
+    bool expectDate(const QString& field, const std::string& date)
     {
-        const std::string taken = dateToText(dateFromText(text));
-        return (!text.empty() && taken == text) ||
+        const std::string taken = dateToText(dateFromText(date));
+        return (!date.empty() && taken == date) ||
                remark(
                    field,
-                   QStringLiteral("%1 is not a date in the form %2").arg(shown(text), kDateFormat) +
-                       takenText(taken));
+                   QStringLiteral("%1 is not a date in the form %2").arg(shown(date), kDateFormat) +
+                       takenText(taken),
+                   "notADate", text(date), text(taken));
     }
 
-    bool expectTime(const QString& field, const std::string& text)
+    bool expectTime(const QString& field, const std::string& time)
     {
-        const std::string taken = timeToText(timeFromText(text));
-        return (!text.empty() && taken == text) ||
+        const std::string taken = timeToText(timeFromText(time));
+        return (!time.empty() && taken == time) ||
                remark(
                    field,
-                   QStringLiteral("%1 is not a time in the form %2").arg(shown(text), kTimeFormat) +
-                       takenText(taken));
+                   QStringLiteral("%1 is not a time in the form %2").arg(shown(time), kTimeFormat) +
+                       takenText(taken),
+                   "notATime", text(time), text(taken));
     }
 
     /// Collisions and overlaps compare texts; what is on screen, and the cards, read them.
@@ -109,12 +114,22 @@ private:
     void expectDays(const PlayPlan& plan)
     {
         if (!namesAnyDay(plan.weeks)) {
-            remark(QStringLiteral("weeks"), faultText(PlanFault::NoDay, plan));
+            remark(QStringLiteral("weeks"), faultText(PlanFault::NoDay, plan), "noDay",
+                   text(plan.weeks));
         } else if (!isListOfDays(plan.weeks)) {
             remark(QStringLiteral("weeks"),
                    QStringLiteral("%1 is not a list of days from 0 to 7; it counts as %2")
-                       .arg(shown(plan.weeks), daysText(plan.weeks)));
+                       .arg(shown(plan.weeks), daysText(plan.weeks)),
+                   "notAListOfDays", text(plan.weeks), takenDays(plan.weeks));
         }
+    }
+
+    /// The numbers of the days as a card would write them.
+    static QString takenDays(const std::string& weeks)
+    {
+        std::vector<int> numbers;
+        const bool isEveryDay = parseWeeks(weeks, numbers);
+        return text(joinWeeks(isEveryDay ? std::vector<int>{EveryDay} : numbers));
     }
 
     void expectMode(const PlayPlan& plan)
@@ -124,10 +139,12 @@ private:
                 QStringLiteral("mode"),
                 QStringLiteral("%1 is neither 0 nor 1; the list runs as often as with 1, and the "
                                "end is the one that is set, as with 0")
-                    .arg(plan.mode));
+                    .arg(plan.mode),
+                "unknownMode", QString::number(plan.mode));
         }
         if (runsLessThanOnce(plan)) {
-            remark(QStringLiteral("times"), faultText(PlanFault::RunsLessThanOnce, plan));
+            remark(QStringLiteral("times"), faultText(PlanFault::RunsLessThanOnce, plan),
+                   "runsLessThanOnce", QString::number(plan.times));
         }
     }
 
@@ -136,7 +153,8 @@ private:
         if (plan.endAction != BlackScreen && plan.endAction != FreezeCurrentFrame) {
             remark(QStringLiteral("endAction"),
                    QStringLiteral("%1 is neither 0 nor 1; the last frame stays, as with 1")
-                       .arg(plan.endAction));
+                       .arg(plan.endAction),
+                   "unknownEndAction", QString::number(plan.endAction));
         }
     }
 
@@ -149,9 +167,11 @@ private:
         return text;
     }
 
-    bool remark(const QString& field, const QString& sentence)
+    bool remark(const QString& field, const QString& sentence, const char* code,
+                const QString& value, const QString& taken = {})
     {
-        m_remarks.push_back({m_taskId, m_row, field, sentence});
+        m_remarks.push_back(
+            {m_taskId, m_row, field, sentence, QString::fromLatin1(code), value, taken});
         return false;
     }
 

@@ -37,7 +37,10 @@ struct ScheduleRemark
     int taskId;
     int row; ///< -1 for the task itself.
     QString field;
-    QString sentence;
+    QString sentence; ///< For people, without a full stop.
+    QString code;     ///< For machines, such as "notADate".
+    QString value;    ///< What the field holds.
+    QString taken;    ///< What it is taken for all the same; empty when it is not.
 };
 
 struct ScheduleCheck

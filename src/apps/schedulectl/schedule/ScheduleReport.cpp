@@ -240,7 +240,10 @@ QJsonObject checkJson(const ScheduleCheck& check, const Tasks& tasks)
             {QStringLiteral("task"), remark.taskId},
             {QStringLiteral("row"), rowJson(remark.row)},
             {QStringLiteral("field"), remark.field},
-            {QStringLiteral("text"), remark.sentence},
+            {QStringLiteral("code"), remark.code},
+            {QStringLiteral("value"), remark.value},
+            {QStringLiteral("taken"),
+             remark.taken.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(remark.taken)},
         });
     }
     return {

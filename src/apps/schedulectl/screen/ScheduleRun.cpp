@@ -6,6 +6,7 @@
 #include "text/Console.h"
 #include "text/DisplayText.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 
 #include <QJsonDocument>
 
@@ -94,12 +95,13 @@ void ScheduleRun::takeOver()
 
 void ScheduleRun::tellOfLoss(const StoreResult& result)
 {
-    if (result.message != m_loss) {
-        m_console.tell(result.message +
+    const QString loss = englishText(result);
+    if (loss != m_loss) {
+        m_console.tell(loss +
                        QStringLiteral(" What was read before goes on; the file is tried again "
                                       "every two seconds."));
     }
-    m_loss = result.message;
+    m_loss = loss;
 }
 
 void ScheduleRun::tellOfReturn()

@@ -64,11 +64,6 @@ QString schemeOf(const QString& path)
     return end < 0 ? QString() : path.left(end).toLower();
 }
 
-QString foreignNameReason()
-{
-    return QStringLiteral("Its name is not UTF-8; it can be imported under another one.");
-}
-
 bool isUtf8(const QByteArray& name)
 {
     QTextCodec::ConverterState state;
@@ -201,7 +196,7 @@ void Walk::refuseForeignNames(const QString& path)
         const QByteArray name(entry->d_name);
         if (!name.startsWith('.') && !isUtf8(name)) {
             m_refusals.push_back(
-                {path + QLatin1Char('/') + withEscapes(name), foreignNameReason()});
+                {path + QLatin1Char('/') + withEscapes(name), {FaultCode::ForeignName, {}}});
         }
     }
 }
@@ -211,13 +206,11 @@ void scanAddress(const QString& address, ImportScan& scan)
     const QString scheme = schemeOf(address);
     const QUrl url(address);
     if (!isLiveScheme(scheme) || address.size() == scheme.size() + 3) {
-        scan.refusals.push_back(
-            {address, QStringLiteral("Addresses of this kind are not played.")});
+        scan.refusals.push_back({address, {FaultCode::AddressNotPlayed, {}}});
         return;
     }
     if (scheme.startsWith(QLatin1String("http")) && isNamedAsMedia(url.path())) {
-        scan.refusals.push_back(
-            {address, QStringLiteral("It is a file on another machine; copy it here first.")});
+        scan.refusals.push_back({address, {FaultCode::RemoteFile, {}}});
         return;
     }
     scan.sources.push_back({shownAddress(address), address, 0.0, ProgramKind::Live});
@@ -238,18 +231,18 @@ bool scanFile(const Candidate& candidate, MediaReaderClient& reader,
     const bool isMediaByName = isNamedAsMedia(candidate.path);
     // A name that was handed over as text has lost its foreign bytes by now.
     if (candidate.path.contains(QChar(QChar::ReplacementCharacter)) && !info.exists()) {
-        scan.refusals.push_back({candidate.path, foreignNameReason()});
+        scan.refusals.push_back({candidate.path, {FaultCode::ForeignName, {}}});
         return true;
     }
     const MediaFacts facts = reader.facts(candidate.path, isMediaByName, isCancelled);
-    if (facts.reason.isEmpty()) {
+    if (!facts.fault) {
         if (facts.kind != ProgramKind::Other) {
             scan.sources.push_back({shownName(info), candidate.path, facts.durationMs, facts.kind});
         }
         return facts.kind != ProgramKind::Other;
     }
     if (candidate.isNamed || isMediaByName) {
-        scan.refusals.push_back({candidate.path, facts.reason});
+        scan.refusals.push_back({candidate.path, facts.fault});
     }
     return true;
 }

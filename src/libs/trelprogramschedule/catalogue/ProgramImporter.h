@@ -1,6 +1,7 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule/faults/Fault.h"
 #include "trelprogramschedule_export.h"
 
 #include <QString>
@@ -25,7 +26,7 @@ struct MediaSource
 struct ImportRefusal
 {
     QString path;
-    QString reason; ///< A sentence for the operator.
+    Fault fault; ///< Why.
 };
 
 /// What a scan found.

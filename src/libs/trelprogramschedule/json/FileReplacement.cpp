@@ -27,18 +27,18 @@ QString targetOf(const QString& path)
     return info.isSymLink() ? info.symLinkTarget() : info.absoluteFilePath();
 }
 
-QString kindText(mode_t mode)
+FaultCode kindOf(mode_t mode)
 {
     if (S_ISDIR(mode)) {
-        return QStringLiteral("it is a folder");
+        return FaultCode::IsFolder;
     }
     if (S_ISFIFO(mode)) {
-        return QStringLiteral("it is a pipe, not a regular file");
+        return FaultCode::IsPipe;
     }
     if (S_ISSOCK(mode)) {
-        return QStringLiteral("it is a socket, not a regular file");
+        return FaultCode::IsSocket;
     }
-    return QStringLiteral("it is a device, not a regular file");
+    return FaultCode::IsDevice;
 }
 
 /// A new file beside the one that it is to replace. It goes with the object, unless it has taken
@@ -113,7 +113,7 @@ void syncFolder(const QString& target)
 
 } // namespace
 
-QString replaceFile(const QString& path, const QByteArray& content)
+Fault replaceFile(const QString& path, const QByteArray& content)
 {
     const QString target = targetOf(path);
     const QByteArray name = QFile::encodeName(target);
@@ -124,15 +124,15 @@ QString replaceFile(const QString& path, const QByteArray& content)
         return qt_error_string(errno);
     }
     if (isThere && !S_ISREG(former.st_mode)) {
-        return kindText(former.st_mode);
+        return {kindOf(former.st_mode), {}};
     }
     if (isThere && ::access(name.constData(), W_OK) != 0) {
-        return qt_error_string(errno);
+        return faultOf(FaultCode::System, errno);
     }
     Draft draft(name);
     if (!draft.isOpen() || (isThere && !draft.setMode(former.st_mode)) || !draft.write(content) ||
         !draft.sync() || !draft.takePlace()) {
-        return qt_error_string(errno);
+        return faultOf(FaultCode::System, errno);
     }
     syncFolder(target);
     return {};

@@ -6,54 +6,52 @@ namespace {
 
 using Kind = JsonValue::Kind;
 
-QString nameOf(Kind kind)
+} // namespace
+
+QString jsonKindName(Kind kind)
 {
     switch (kind) {
     case Kind::Null:
         break;
     case Kind::Boolean:
-        return QStringLiteral("true or false");
+        return QStringLiteral("boolean");
     case Kind::Number:
-        return QStringLiteral("a number");
+        return QStringLiteral("number");
     case Kind::Text:
-        return QStringLiteral("a text");
+        return QStringLiteral("text");
     case Kind::Array:
-        return QStringLiteral("an array");
+        return QStringLiteral("array");
     case Kind::Object:
-        return QStringLiteral("an object");
+        return QStringLiteral("object");
     }
     return QStringLiteral("null");
 }
 
-} // namespace
-
-void refuse(const JsonValue& value, const QString& reason)
+void refuse(const JsonValue& value, const Fault& fault)
 {
-    throw JsonRefusal{&value, reason};
+    throw JsonRefusal{&value, fault};
 }
 
-QString quoted(std::string_view utf8)
+QString shown(std::string_view utf8)
 {
-    return QStringLiteral("\"%1\"").arg(
-        elided(QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size()))));
+    return elided(QString::fromUtf8(utf8.data(), static_cast<int>(utf8.size())));
 }
 
 void expect(const JsonValue& value, Kind kind, const QString& expected)
 {
     if (value.kind != kind) {
-        refuse(value,
-               QStringLiteral("%1 is expected here, not %2").arg(expected, nameOf(value.kind)));
+        refuse(value, faultOf(FaultCode::OtherKind, expected, jsonKindName(value.kind)));
     }
 }
 
 void expect(const JsonValue& value, Kind kind)
 {
-    expect(value, kind, nameOf(kind));
+    expect(value, kind, jsonKindName(kind));
 }
 
 void refuseMissing(const JsonValue& object, std::string_view name)
 {
-    refuse(object, QStringLiteral("the member %1 is missing").arg(quoted(name)));
+    refuse(object, faultOf(FaultCode::MemberMissing, shown(name)));
 }
 
 JsonValue jsonValue(JsonValue::Kind kind, std::string text)

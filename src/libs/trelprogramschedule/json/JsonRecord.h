@@ -12,20 +12,24 @@ namespace trel::mediadispatch {
 struct JsonRefusal
 {
     const JsonValue* value; ///< In the tree that is read.
-    QString reason;
+    Fault fault;
 };
 
-[[noreturn]] void refuse(const JsonValue& value, const QString& reason);
+[[noreturn]] void refuse(const JsonValue& value, const Fault& fault);
 
 /// Refuses an object that lacks a member.
 [[noreturn]] void refuseMissing(const JsonValue& object, std::string_view name);
+
+/// The name of a kind, as OtherKind has it: "null", "boolean", "number", "text", "array" or
+/// "object"; besides, "wholeNumber" and "wholeNumberText" are more than a kind.
+QString jsonKindName(JsonValue::Kind kind);
 
 /// Refuses a value of another kind, with a name for what belongs there.
 void expect(const JsonValue& value, JsonValue::Kind kind, const QString& expected);
 void expect(const JsonValue& value, JsonValue::Kind kind);
 
-/// A text from the JSON for people to read, elided, in quotes.
-QString quoted(std::string_view utf8);
+/// A text from the JSON for people to read, elided.
+QString shown(std::string_view utf8);
 
 /// One member of a record in JSON: its name and both directions. A record is described by one table
 /// of these, so that what is written and what is read cannot come apart.
@@ -69,11 +73,10 @@ void readRecord(const JsonValue& object, Record& record, const JsonMember<Record
         const auto at = static_cast<std::size_t>(std::distance(
             std::begin(members), std::find_if(std::begin(members), std::end(members), named)));
         if (at == Count && (optional.empty() || child.name != optional)) {
-            refuse(child, QStringLiteral("there is no member %1 here").arg(quoted(child.name)));
+            refuse(child, faultOf(FaultCode::MemberUnknown, shown(child.name)));
         }
         if (seen.test(at)) {
-            refuse(child, QStringLiteral("the member %1 stands here for the second time")
-                              .arg(quoted(child.name)));
+            refuse(child, faultOf(FaultCode::MemberTwice, shown(child.name)));
         }
         seen.set(at);
         if (at < Count) {

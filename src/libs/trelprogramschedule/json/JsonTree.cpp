@@ -68,14 +68,13 @@ QString reasonOf(const Json::exception& error, const std::string& lastRead)
     return QString::fromStdString(reason).remove(preamble);
 }
 
-/// Line and column, in characters, of the byte that was read last when count bytes had been.
-QString positionOf(const QByteArray& json, std::size_t count)
+/// A fault at the byte that was read last when count bytes had been, with its column in characters.
+Fault notJson(const QByteArray& json, std::size_t count, const QString& reason)
 {
     const QByteArray before = json.left(static_cast<int>(count) - 1);
     const QByteArray onLine = before.mid(before.lastIndexOf('\n') + 1);
-    return QStringLiteral("line %1, column %2")
-        .arg(before.count('\n') + 1)
-        .arg(QString::fromUtf8(onLine).toUcs4().size() + 1);
+    return faultOf(FaultCode::NotJson, before.count('\n') + 1,
+                   QString::fromUtf8(onLine).toUcs4().size() + 1, reason);
 }
 
 /// Builds the tree from what the parser meets.
@@ -93,7 +92,7 @@ public:
                                LineCounter(begin + m_json.size(), m_line), this);
     }
 
-    ParsedJson take() { return {std::move(m_top), std::move(m_error)}; }
+    ParsedJson take() { return {std::move(m_top), std::move(m_fault)}; }
 
     bool null() override { return add(Kind::Null, "null"); }
     bool boolean(bool value) override { return add(Kind::Boolean, value ? "true" : "false"); }
@@ -111,13 +110,14 @@ public:
     }
     bool string(string_t& value) override
     {
-        return expectLength(value, "text") && add(Kind::Text, std::move(value));
+        return expectLength(value, FaultCode::JsonStringTooLong) &&
+               add(Kind::Text, std::move(value));
     }
     bool binary(binary_t&) override { return false; } // no part of JSON as text
     bool key(string_t& name) override
     {
         m_name = std::move(name);
-        return expectLength(m_name, "name");
+        return expectLength(m_name, FaultCode::JsonNameTooLong);
     }
     bool start_object(std::size_t) override { return open(Kind::Object); }
     bool end_object() override { return close(); }
@@ -127,31 +127,29 @@ public:
     bool parse_error(std::size_t position, const std::string& lastRead,
                      const Json::exception& error) override
     {
-        m_error = QStringLiteral("not JSON at %1: %2")
-                      .arg(positionOf(m_json, position), reasonOf(error, lastRead));
+        m_fault = notJson(m_json, position, reasonOf(error, lastRead));
         return false;
     }
 
 private:
     bool isTooDeep() const { return m_depth > kDeepestJson; }
 
-    bool expectLength(const std::string& text, const char* what)
+    bool expectLength(const std::string& text, FaultCode excess)
     {
         // In Base64, a text takes four bytes for three.
         constexpr std::size_t most = kLongestText / 3 * 4 + 4;
         if (text.size() > most) {
-            m_error = QStringLiteral("a %1 on line %2 has more than %3 bytes")
-                          .arg(QLatin1String(what), QString::number(m_line), QString::number(most));
+            m_fault = faultOf(excess, m_line, most);
         }
-        return m_error.isEmpty();
+        return !m_fault;
     }
 
     bool expectRoom()
     {
         if (++m_count > kMostJsonValues) {
-            m_error = excessText(kMostJsonValues, QStringLiteral("values"));
+            m_fault = faultOf(FaultCode::JsonTooManyValues, kMostJsonValues);
         }
-        return m_error.isEmpty();
+        return !m_fault;
     }
 
     JsonValue value(Kind kind, std::string text = {})
@@ -198,7 +196,7 @@ private:
 
     const QByteArray& m_json;
     JsonValue m_top;
-    QString m_error;
+    Fault m_fault;
     std::vector<JsonValue> m_open; ///< The arrays and objects around the value that comes next.
     std::size_t m_count = 0;       ///< Of all values so far.
     std::size_t m_depth = 0;       ///< How many there are, those that are too deep included.
@@ -319,7 +317,7 @@ QString elided(const QString& text)
 ParsedJson parseJson(const QByteArray& json)
 {
     if (json.size() > kLargestJson) {
-        return {{}, QStringLiteral("it has more than %1 bytes").arg(kLargestJson)};
+        return {{}, faultOf(FaultCode::JsonTooLarge, kLargestJson)};
     }
     TreeBuilder builder(json);
     builder.parse();

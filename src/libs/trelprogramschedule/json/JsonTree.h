@@ -1,5 +1,7 @@
 #pragma once
 
+#include "faults/Fault.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -31,7 +33,7 @@ struct JsonValue
 struct ParsedJson
 {
     JsonValue top;
-    QString error; ///< Empty on success; otherwise a sentence with line and column.
+    Fault fault; ///< None on success.
 };
 
 /// What is nested deeper than this, counted in arrays and objects, is checked for its form and left

@@ -4,7 +4,6 @@
 #include "JsonRecord.h"
 #include "ScheduleLimits.h"
 
-#include <QDir>
 #include <QIODevice>
 #include <QTextCodec>
 
@@ -34,15 +33,13 @@ JsonValue writeValue(int number)
 
 void readValue(const JsonValue& value, int& number)
 {
-    expect(value, Kind::Number, QStringLiteral("a whole number"));
+    expect(value, Kind::Number, QStringLiteral("wholeNumber"));
     const std::string& digits = value.text;
     if (digits.find_first_of(".eE") != std::string::npos) {
-        refuse(value, QStringLiteral("%1 is not written as a whole number")
-                          .arg(elided(QString::fromStdString(digits))));
+        refuse(value, faultOf(FaultCode::NotWholeNumber, shown(digits)));
     }
     if (std::from_chars(digits.data(), digits.data() + digits.size(), number).ec != std::errc()) {
-        refuse(value, QStringLiteral("%1 does not fit into 32 bits")
-                          .arg(elided(QString::fromStdString(digits))));
+        refuse(value, faultOf(FaultCode::Beyond32Bits, shown(digits)));
     }
 }
 
@@ -79,15 +76,15 @@ JsonValue writeWord(int number, const Word (&words)[Count])
     return writeValue(number);
 }
 
-/// What may stand for the number, for people to read.
+/// The words that may stand for the number, for people to read.
 template <std::size_t Count>
 QString knownWords(const Word (&words)[Count])
 {
     QStringList known;
     for (const Word& word : words) {
-        known.append(quoted(word.text));
+        known.append(QStringLiteral("\"%1\"").arg(shown(word.text)));
     }
-    return known.join(QStringLiteral(", ")) + QStringLiteral(" or a number");
+    return known.join(QStringLiteral(", "));
 }
 
 template <std::size_t Count>
@@ -102,10 +99,11 @@ void readWord(const JsonValue& value, int& number, const Word (&words)[Count])
             return;
         }
     }
-    expect(value, Kind::Text, knownWords(words));
-    refuse(
-        value,
-        QStringLiteral("%1 is expected here, not %2").arg(knownWords(words), quoted(value.text)));
+    if (value.kind != Kind::Text) {
+        refuse(value,
+               faultOf(FaultCode::OtherKindThanWord, knownWords(words), jsonKindName(value.kind)));
+    }
+    refuse(value, faultOf(FaultCode::UnknownWord, knownWords(words), shown(value.text)));
 }
 
 // ---- texts ----
@@ -130,7 +128,7 @@ void readBase64(const JsonValue& value, std::string& text)
     const auto bytes = QByteArray::fromBase64Encoding(QByteArray::fromStdString(value.text),
                                                       QByteArray::AbortOnBase64DecodingErrors);
     if (!bytes) {
-        refuse(value, QStringLiteral("this text is not in Base64"));
+        refuse(value, {FaultCode::NotBase64, {}});
     }
     text = bytes.decoded.toStdString();
 }
@@ -152,9 +150,7 @@ void readValue(const JsonValue& value, std::string& text)
         text = value.text;
     }
     if (text.size() > kLongestText) {
-        refuse(value, QStringLiteral("this text has %1 bytes, and %2 are the most")
-                          .arg(text.size())
-                          .arg(kLongestText));
+        refuse(value, faultOf(FaultCode::JsonTextTooLong, text.size(), kLongestText));
     }
 }
 
@@ -167,14 +163,14 @@ JsonValue writeValue(std::int64_t number)
 
 void readValue(const JsonValue& value, std::int64_t& number)
 {
-    expect(value, Kind::Text, QStringLiteral("a whole number written as a text"));
+    expect(value, Kind::Text, QStringLiteral("wholeNumberText"));
     const char* const end = value.text.data() + value.text.size();
     const auto [last, error] = std::from_chars(value.text.data(), end, number);
     if (error == std::errc::result_out_of_range) {
-        refuse(value, QStringLiteral("%1 does not fit into 64 bits").arg(quoted(value.text)));
+        refuse(value, faultOf(FaultCode::Beyond64Bits, shown(value.text)));
     }
     if (error != std::errc() || last != end) {
-        refuse(value, QStringLiteral("%1 is no whole number").arg(quoted(value.text)));
+        refuse(value, faultOf(FaultCode::NumberTextUnreadable, shown(value.text)));
     }
 }
 
@@ -307,9 +303,7 @@ PlayTask readTask(const JsonValue& value)
         int key = 0;
         readValue(*member, key);
         if (key != task.id) {
-            refuse(value, QStringLiteral("the key %1 is not the task's id, which is %2")
-                              .arg(key)
-                              .arg(task.id));
+            refuse(value, faultOf(FaultCode::KeyIsNotId, key, task.id));
         }
     }
     return task;
@@ -324,10 +318,7 @@ void readTasks(const JsonValue& array, Schedule& tasks)
         const int id = task.id;
         const auto [known, isNew] = places.emplace(id, place);
         if (!isNew) {
-            refuse(array.children[place],
-                   QStringLiteral("the id %1 is the one of tasks[%2] already")
-                       .arg(id)
-                       .arg(known->second));
+            refuse(array.children[place], faultOf(FaultCode::IdTaken, id, known->second));
         }
         tasks.emplace_hint(tasks.end(), id, std::move(task));
     }
@@ -339,8 +330,7 @@ void readFormat(const JsonValue& value, Schedule&)
 {
     expect(value, Kind::Text);
     if (value.text != kFormatName) {
-        refuse(value,
-               QStringLiteral("this is %1, not %2").arg(quoted(value.text), quoted(kFormatName)));
+        refuse(value, faultOf(FaultCode::OtherFormat, shown(value.text), shown(kFormatName)));
     }
 }
 
@@ -349,12 +339,10 @@ void readVersion(const JsonValue& value, Schedule&)
     int version = 0;
     readValue(value, version);
     if (version > kVersion) {
-        refuse(value, QStringLiteral("%1 is newer than %2, the newest that this program reads")
-                          .arg(version)
-                          .arg(kVersion));
+        refuse(value, faultOf(FaultCode::NewerVersion, version, kVersion));
     }
     if (version < 1) {
-        refuse(value, QStringLiteral("there is no version %1").arg(version));
+        refuse(value, faultOf(FaultCode::NoSuchVersion, version));
     }
 }
 
@@ -368,15 +356,14 @@ constexpr JsonMember<Schedule> kTopMembers[] = {
 Schedule readSchedule(const JsonValue& top)
 {
     if (top.kind != Kind::Object) {
-        refuse(top, QStringLiteral("the top of a schedule is an object; this is JSON of another "
-                                   "kind"));
+        refuse(top, {FaultCode::NoObject, {}});
     }
     Schedule tasks;
     // Format and version come before everything else, wherever they stand: a file of another kind
     // or a newer version is not to be blamed for members that this version does not know.
     const JsonValue* const format = top.member(kFormat);
     if (format == nullptr) {
-        refuse(top, QStringLiteral("the member \"format\" is missing; this is no schedule"));
+        refuse(top, {FaultCode::NoFormat, {}});
     }
     readFormat(*format, tasks);
     const JsonValue* const version = top.member(kFormatVersion);
@@ -398,21 +385,19 @@ QByteArray scheduleToJson(const std::map<int, PlayTask>& tasks)
 ScheduleFromJson scheduleFromJson(const QByteArray& json)
 {
     const ParsedJson parsed = parseJson(json);
-    if (!parsed.error.isEmpty()) {
-        return {{}, parsed.error};
+    if (parsed.fault) {
+        return {{}, parsed.fault, {}, 0};
     }
     try {
-        ScheduleFromJson schedule{readSchedule(parsed.top), {}};
-        schedule.error = excessOf(schedule.tasks);
-        if (!schedule.error.isEmpty()) {
+        ScheduleFromJson schedule;
+        schedule.tasks = readSchedule(parsed.top);
+        schedule.fault = excessOf(schedule.tasks);
+        if (schedule.fault) {
             schedule.tasks.clear();
         }
         return schedule;
     } catch (const JsonRefusal& refusal) {
-        const QString path = jsonPath(parsed.top, *refusal.value);
-        const QString place =
-            QStringLiteral("%1 (line %2): ").arg(path, QString::number(refusal.value->line));
-        return {{}, path.isEmpty() ? refusal.reason : place + refusal.reason};
+        return {{}, refusal.fault, jsonPath(parsed.top, *refusal.value), refusal.value->line};
     }
 }
 
@@ -430,14 +415,9 @@ QByteArray readScheduleJson(QIODevice& device)
     return json;
 }
 
-QString writeScheduleFile(const QString& path, const std::map<int, PlayTask>& tasks)
+Fault writeScheduleFile(const QString& path, const std::map<int, PlayTask>& tasks)
 {
-    const QByteArray json = scheduleToJson(tasks);
-    const QString reason = replaceFile(path, json);
-    return reason.isEmpty()
-               ? QString()
-               : QStringLiteral("%1 cannot be written: ").arg(QDir::toNativeSeparators(path)) +
-                     reason + QLatin1Char('.');
+    return replaceFile(path, scheduleToJson(tasks));
 }
 
 } // namespace trel::mediadispatch

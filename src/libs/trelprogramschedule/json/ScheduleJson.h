@@ -1,6 +1,7 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule/faults/Fault.h"
 #include "trelprogramschedule_export.h"
 
 #include <QByteArray>
@@ -23,8 +24,9 @@ TRELPROGRAMSCHEDULE_EXPORT QByteArray scheduleToJson(const std::map<int, PlayTas
 struct ScheduleFromJson
 {
     std::map<int, PlayTask> tasks;
-    QString error; ///< Empty on success; otherwise a sentence that names the place, such as
-                   ///< "tasks[2].plans[0].startTime" or a line and column.
+    Fault fault;   ///< None on success.
+    QString place; ///< Where it is, such as "tasks[2].plans[0].startTime"; may be empty.
+    int line = 0;  ///< The line of the place, from 1.
 };
 
 /// Reads all of a schedule or nothing: whatever the form does not know is an error, so that nothing
@@ -39,8 +41,8 @@ TRELPROGRAMSCHEDULE_EXPORT QByteArray readScheduleJson(QIODevice& device);
 /// Writes the schedule to a file in one step: the file is replaced whole, on the disk when the call
 /// returns, or left as it was. A new file may be read by its owner alone, one that is replaced
 /// keeps its mode. Links are followed. What is there and is no regular file, such as a folder, a
-/// device or a pipe, is refused. Returns an empty text, or a sentence that says what went wrong.
-TRELPROGRAMSCHEDULE_EXPORT QString writeScheduleFile(const QString& path,
-                                                     const std::map<int, PlayTask>& tasks);
+/// device or a pipe, is refused. Returns what went wrong, if anything did.
+TRELPROGRAMSCHEDULE_EXPORT Fault writeScheduleFile(const QString& path,
+                                                   const std::map<int, PlayTask>& tasks);
 
 } // namespace trel::mediadispatch

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
-
-#include <QString>
+#include "trelprogramschedule/faults/Fault.h"
 
 namespace trel::mediadispatch {
 
@@ -11,8 +10,7 @@ struct MediaFacts
 {
     ProgramKind kind = ProgramKind::Other;
     double durationMs = 0.0; ///< 0 for an image.
-    /// Why the file cannot become a program, a sentence; empty when it can.
-    QString reason;
+    Fault fault;             ///< Why the file cannot become a program; none when it can.
 };
 
 } // namespace trel::mediadispatch

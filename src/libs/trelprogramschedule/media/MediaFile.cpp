@@ -12,17 +12,17 @@ namespace trel::mediadispatch {
 
 namespace {
 
-QString reasonOf(int error)
+Fault faultOfError(int error)
 {
     switch (error) {
     case ENOENT:
     case ENOTDIR:
-        return QStringLiteral("There is no such file.");
+        return {FaultCode::FileMissing, {}};
     case EACCES:
     case EPERM:
-        return QStringLiteral("You do not have permission to read it.");
+        return {FaultCode::NoPermission, {}};
     default:
-        return QStringLiteral("It cannot be opened: %1.").arg(qt_error_string(error));
+        return faultOf(FaultCode::CannotOpen, error);
     }
 }
 
@@ -34,22 +34,22 @@ MediaFile::MediaFile(const QString& path)
     struct stat seen = {};
     // Looked at before it is opened, and once more afterwards, in case another took its place.
     if (::stat(name.constData(), &seen) != 0) {
-        m_reason = reasonOf(errno);
+        m_fault = faultOfError(errno);
         return;
     }
     if (S_ISREG(seen.st_mode)) {
         m_descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
         if (m_descriptor < 0 || ::fstat(m_descriptor, &seen) != 0) {
-            m_reason = reasonOf(errno);
+            m_fault = faultOfError(errno);
             return;
         }
     }
     if (!S_ISREG(seen.st_mode)) {
-        m_reason = QStringLiteral("It is not a file.");
+        m_fault.code = FaultCode::NotAFile;
     } else if (seen.st_size == 0) {
-        m_reason = QStringLiteral("It is empty.");
+        m_fault.code = FaultCode::EmptyFile;
     }
-    if (!m_reason.isEmpty() && m_descriptor >= 0) {
+    if (m_fault && m_descriptor >= 0) {
         ::close(m_descriptor);
         m_descriptor = -1;
     }

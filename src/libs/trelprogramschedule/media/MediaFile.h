@@ -1,5 +1,7 @@
 #pragma once
 
+#include "faults/Fault.h"
+
 #include <QString>
 
 namespace trel::mediadispatch {
@@ -16,12 +18,12 @@ public:
 
     /// -1 when the file was refused.
     int descriptor() const { return m_descriptor; }
-    /// Why, a sentence.
-    QString reason() const { return m_reason; }
+    /// Why.
+    Fault fault() const { return m_fault; }
 
 private:
     int m_descriptor = -1;
-    QString m_reason;
+    Fault m_fault;
 };
 
 } // namespace trel::mediadispatch

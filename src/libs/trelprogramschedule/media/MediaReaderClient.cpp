@@ -1,5 +1,6 @@
 #include "media/MediaReaderClient.h"
 
+#include "faults/FaultWords.h"
 #include "media/MediaFile.h"
 
 #include <QCoreApplication>
@@ -70,26 +71,26 @@ void tellOnce(const QString& sentence)
     }
 }
 
-QString reasonOf(wire::Verdict verdict)
+FaultCode faultOfVerdict(wire::Verdict verdict)
 {
     switch (verdict) {
     case wire::Verdict::Taken:
-        return {};
+        return FaultCode::None;
     case wire::Verdict::NoMedia:
-        return QStringLiteral("It is not a media file, or it is damaged.");
+        return FaultCode::NoMedia;
     case wire::Verdict::OtherFormat:
-        return QStringLiteral("Files of this format are not imported.");
+        return FaultCode::FormatNotImported;
     case wire::Verdict::Unreadable:
-        return QStringLiteral("Its content cannot be read.");
+        return FaultCode::ContentUnreadable;
     case wire::Verdict::UnreadablePicture:
-        return QStringLiteral("The picture in it cannot be read.");
+        return FaultCode::PictureUnreadable;
     case wire::Verdict::NoContent:
-        return QStringLiteral("It holds neither picture nor sound.");
+        return FaultCode::NoPictureNorSound;
     case wire::Verdict::NoLength:
     case wire::Verdict::Drawing:
         break;
     }
-    return QStringLiteral("Its length cannot be read.");
+    return FaultCode::LengthUnreadable;
 }
 
 ProgramKind kindOf(wire::Kind kind)
@@ -176,16 +177,18 @@ MediaFacts MediaReaderClient::facts(const QString& path, bool isNamedAsMedia,
 {
     const MediaFile file(path);
     if (file.descriptor() < 0) {
-        return {ProgramKind::Other, 0.0, file.reason()};
+        return {ProgramKind::Other, 0.0, file.fault()};
     }
     wire::Question question;
     question.isNamedAsMedia = isNamedAsMedia ? 1 : 0;
     setSuffix(question, path);
     const Reply reply = ask(question, file, isCancelled);
-    if (reply.isCancelled || !reply.problem.isEmpty()) {
+    if (reply.isCancelled || reply.problem) {
         return {ProgramKind::Other, 0.0, reply.problem};
     }
-    return {kindOf(reply.answer.kind), reply.answer.durationMs, reasonOf(reply.answer.verdict)};
+    return {kindOf(reply.answer.kind),
+            reply.answer.durationMs,
+            {faultOfVerdict(reply.answer.verdict), {}}};
 }
 
 MediaPicture MediaReaderClient::picture(const QString& path, ProgramKind kind, const QSize& bound,
@@ -222,31 +225,26 @@ bool MediaReaderClient::start(const Cancelled& isCancelled)
     if (m_process.isRunning()) {
         return true;
     }
-    if (!m_problem.isEmpty()) {
+    if (m_problem) {
         return false;
     }
     const auto found = std::find_if(m_places.begin(), m_places.end(),
                                     [](const QString& place) { return QFileInfo::exists(place); });
     if (found == m_places.end()) {
-        m_problem =
-            QStringLiteral("Media cannot be read, for a file of this program is missing: %1")
-                .arg(m_places.join(QLatin1String(", ")));
-    } else if (const QString problem = greet(*found, isCancelled); !problem.isEmpty()) {
-        m_problem =
-            QStringLiteral(
-                "Media cannot be read, for a file of this program cannot be started: %1: %2")
-                .arg(*found, problem);
+        m_problem = faultOf(FaultCode::ReaderMissing, m_places.join(QLatin1String(", ")));
+    } else {
+        m_problem = greet(*found, isCancelled);
     }
-    if (!m_problem.isEmpty()) {
-        tellOnce(m_problem);
+    if (m_problem) {
+        tellOnce(englishSentence(m_problem));
     }
     return m_process.isRunning();
 }
 
-QString MediaReaderClient::greet(const QString& file, const Cancelled& isCancelled)
+Fault MediaReaderClient::greet(const QString& file, const Cancelled& isCancelled)
 {
-    if (QString error = m_process.start(file, m_argument); !error.isEmpty()) {
-        return error;
+    if (const int error = m_process.start(file, m_argument); error != 0) {
+        return faultOf(FaultCode::ReaderDoesNotStart, file, error);
     }
     wire::Greeting greeting;
     const Transfer transfer =
@@ -266,13 +264,13 @@ QString MediaReaderClient::greet(const QString& file, const Cancelled& isCancell
     case Transfer::Cancelled:
         return {};
     case Transfer::Late:
-        return QStringLiteral("it does not answer");
+        return faultOf(FaultCode::ReaderDoesNotAnswer, file);
     case Transfer::Ended:
-        return QStringLiteral("it ends at once");
+        return faultOf(FaultCode::ReaderEndsAtOnce, file);
     case Transfer::Done:
         break;
     }
-    return QStringLiteral("it is of another version");
+    return faultOf(FaultCode::ReaderOfOtherVersion, file);
 }
 
 MediaReaderClient::Reply MediaReaderClient::ask(wire::Question question, const MediaFile& file,
@@ -282,7 +280,7 @@ MediaReaderClient::Reply MediaReaderClient::ask(wire::Question question, const M
     Reply reply;
     if (!start(isCancelled)) {
         reply.problem = m_problem;
-        reply.isCancelled = m_problem.isEmpty();
+        reply.isCancelled = !m_problem;
         return reply;
     }
     --m_filesLeft;
@@ -327,14 +325,14 @@ MediaReaderClient::Reply MediaReaderClient::failure(Transfer transfer)
         reply.isCancelled = true;
         break;
     case Transfer::Late:
-        reply.problem = QStringLiteral("It could not be read within %1 seconds.")
-                            .arg(std::chrono::duration<double>(m_reading.deadline).count());
+        reply.problem = faultOf(FaultCode::MediaTooSlow,
+                                std::chrono::duration<double>(m_reading.deadline).count());
         break;
     case Transfer::Ended:
-        reply.problem = QStringLiteral("Reading it made the media reader crash.");
+        reply.problem.code = FaultCode::ReaderCrashed;
         break;
     case Transfer::Done:
-        reply.problem = QStringLiteral("The media reader gave no valid answer about it.");
+        reply.problem.code = FaultCode::ReaderAnswersBadly;
         break;
     }
     return reply;

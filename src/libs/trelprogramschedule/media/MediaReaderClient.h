@@ -37,7 +37,7 @@ public:
     /// With isNamedAsMedia the name speaks for the file as well, so that content which is hard to
     /// tell from noise, such as a few frames of sound, is taken for what the name says.
     ///
-    /// Returns within a few hundredths of a second, with an empty reason and no kind, once
+    /// Returns within a few hundredths of a second, with no fault and no kind, once
     /// isCancelled says so.
     MediaFacts facts(const QString& path, bool isNamedAsMedia, const Cancelled& isCancelled);
 
@@ -45,21 +45,21 @@ public:
     MediaPicture picture(const QString& path, ProgramKind kind, const QSize& bound,
                          const Cancelled& isCancelled);
 
-    /// Why no program runs, a sentence; empty when one does or was not needed yet. It is not tried
-    /// again by this client.
-    QString problem() const { return m_problem; }
+    /// Why no program runs; none when one does or was not needed yet. It is not tried again by this
+    /// client.
+    Fault problem() const { return m_problem; }
 
 private:
     struct Reply
     {
         wire::Answer answer;
         std::vector<quint32> dots;
-        QString problem; ///< A sentence for the operator, when there is no answer.
+        Fault problem; ///< Why there is no answer.
         bool isCancelled = false;
     };
 
     bool start(const Cancelled& isCancelled);
-    QString greet(const QString& file, const Cancelled& isCancelled);
+    Fault greet(const QString& file, const Cancelled& isCancelled);
     Reply ask(wire::Question question, const MediaFile& file, const Cancelled& isCancelled);
     Reply read(const wire::Question& question, const Cancelled& isCancelled);
     Reply failure(ReaderProcess::Transfer transfer);
@@ -68,7 +68,7 @@ private:
     const MediaReading m_reading;
     const QStringList m_places;
     ReaderProcess m_process;
-    QString m_problem;
+    Fault m_problem;
     quint32 m_number = 0;
     int m_filesLeft = 0;
 };

@@ -101,13 +101,13 @@ ReaderProcess::~ReaderProcess()
     kill();
 }
 
-QString ReaderProcess::start(const QString& program, const char* argument)
+int ReaderProcess::start(const QString& program, const char* argument)
 {
     kill();
     leftovers().collect();
     int ends[2] = {-1, -1};
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) {
-        return qt_error_string(errno);
+        return errno;
     }
     // An end that has the very number already would keep its mark to be closed.
     const int theirs = ::fcntl(ends[1], F_DUPFD_CLOEXEC, wire::kDescriptor + 1);
@@ -123,11 +123,11 @@ QString ReaderProcess::start(const QString& program, const char* argument)
     ::close(theirs);
     if (error != 0) {
         ::close(ends[0]);
-        return qt_error_string(error);
+        return error;
     }
     m_pid = pid;
     m_line = ends[0];
-    return {};
+    return 0;
 }
 
 void ReaderProcess::kill()

@@ -32,9 +32,9 @@ public:
     ~ReaderProcess();
     Q_DISABLE_COPY(ReaderProcess)
 
-    /// Starts the program, which stands in this file, with one argument. An empty text, or why it
-    /// does not run, a part of a sentence.
-    QString start(const QString& program, const char* argument);
+    /// Starts the program, which stands in this file, with one argument. 0, or why it does
+    /// not run, as errno.
+    int start(const QString& program, const char* argument);
     bool isRunning() const { return m_pid > 0; }
     /// Ends the program at once, in whatever it is.
     void kill();

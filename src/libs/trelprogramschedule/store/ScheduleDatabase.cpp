@@ -5,13 +5,12 @@
 #include "StoreConnection.h"
 #include "StoreDeadline.h"
 #include "StoreLog.h"
-#include "StoreMessages.h"
+#include "StoreRefusals.h"
 #include "StoreSchema.h"
 #include "StoreTaskReader.h"
 #include "StoreTaskWriter.h"
 #include "catalogue/ProgramImporter.h"
 
-#include <QDir>
 #include <QSqlQuery>
 #include <QVariant>
 
@@ -44,11 +43,10 @@ StoreResult attempt(const Action& action)
 
 /// What of the tasks that are to be stored goes beyond a limit. What is stored already is not
 /// looked at again.
-QString excessOf(const TaskMap& tasks, const TaskEdits& edits)
+Fault excessOf(const TaskMap& tasks, const TaskEdits& edits)
 {
-    QString excess = mediadispatch::excessOf(tasks);
-    for (auto task = edits.written.begin(); excess.isEmpty() && task != edits.written.end();
-         ++task) {
+    Fault excess = mediadispatch::excessOf(tasks);
+    for (auto task = edits.written.begin(); !excess && task != edits.written.end(); ++task) {
         excess = mediadispatch::excessOf(**task);
     }
     return excess;
@@ -115,17 +113,17 @@ StoreResult ScheduleDatabase::create() const
         connection.run(QStringLiteral("PRAGMA journal_mode = WAL"));
     });
     if (result && !m_file.fillFromDraft() && m_file.isVacant()) {
-        result =
-            refusal(StoreProblem::Other, m_file.path(), QStringLiteral("no file can be put there"));
+        result = refusal(StoreProblem::Other, m_file.path(), {FaultCode::NoPlaceForFile, {}});
     }
     m_file.removeDraft();
     if (result.problem == StoreProblem::Unclear) {
         // What has become of the draft is certain: it has not taken its place.
-        result = refusal(StoreProblem::Other, m_file.path(), QStringLiteral("disk I/O error"));
+        result = refusal(StoreProblem::Other, m_file.path(), {FaultCode::DiskError, {}});
     }
-    // The draft was not asked for yet.
-    result.message.replace(QDir::toNativeSeparators(m_file.draftPath()),
-                           QDir::toNativeSeparators(m_file.path()));
+    // The draft was not asked for.
+    if (!result) {
+        result.path = m_file.path();
+    }
     return result;
 }
 
@@ -147,12 +145,8 @@ StoreResult ScheduleDatabase::judgeLog() const
     }
     // Another program may have begun to work with it while it was read.
     return isRefused && !m_file.isLogInUse()
-               ? refusal(
-                     StoreProblem::Damaged, m_file.path(),
-                     QStringLiteral("its log %1 belongs to another copy of it; put the file that "
-                                    "it belongs to back, or move the log away to go on without "
-                                    "it")
-                         .arg(m_file.logPath()))
+               ? refusal(StoreProblem::Damaged, m_file.path(),
+                         faultOf(FaultCode::ForeignLog, m_file.logPath()))
                : StoreResult();
 }
 
@@ -185,12 +179,9 @@ StoreResult ScheduleDatabase::look(StorePart part)
         if (!result && isShared && !hadLogIndex) {
             // A log without an index is in use by no program.
             m_file.removeLogIndex();
-            return m_file.canHaveLogIndex()
-                       ? result
-                       : refusal(StoreProblem::Other, m_file.path(),
-                                 QStringLiteral("its log has no index, and where nothing can be "
-                                                "written none can be made; copy both to another "
-                                                "folder"));
+            return m_file.canHaveLogIndex() ? result
+                                            : refusal(StoreProblem::Other, m_file.path(),
+                                                      {FaultCode::LogWithoutIndex, {}});
         }
         return result;
     }
@@ -301,13 +292,11 @@ StoreResult ScheduleDatabase::judgeInPlace() const
         return refusal(StoreProblem::NotOpen, QString());
     }
     if (m_mode == StoreOpenMode::ReadOnly) {
-        return refusal(StoreProblem::ReadOnly, m_file.path(),
-                       QStringLiteral("it was opened for reading only"));
+        return refusal(StoreProblem::ReadOnly, m_file.path(), {FaultCode::OpenedForReading, {}});
     }
     if (!isInPlace()) {
         // The database would go on writing into a file that has no name any more.
-        return refusal(StoreProblem::Other, m_file.path(),
-                       QStringLiteral("it was removed or replaced since it was opened"));
+        return refusal(StoreProblem::Other, m_file.path(), {FaultCode::FileReplaced, {}});
     }
     return m_file.judgeWritable();
 }
@@ -384,7 +373,7 @@ StoreResult ScheduleDatabase::writeTasks(const TaskMap& tasks, const TaskEdits& 
     if (StoreResult place = judgeInPlace(); !place) {
         return place;
     }
-    if (const QString excess = excessOf(tasks, edits); !excess.isEmpty()) {
+    if (const Fault excess = excessOf(tasks, edits)) {
         return refusal(StoreProblem::TooLarge, m_file.path(), excess);
     }
     return attempt([&] {

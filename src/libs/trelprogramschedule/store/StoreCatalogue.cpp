@@ -2,7 +2,7 @@
 
 #include "ScheduleLimits.h"
 #include "StoreConnection.h"
-#include "StoreMessages.h"
+#include "StoreRefusals.h"
 #include "StoreValues.h"
 #include "catalogue/ProgramImporter.h"
 
@@ -69,7 +69,7 @@ void StoreCatalogue::read(StoreContents& contents) const
     for (int count = 1; m_connection.next(row); ++count) {
         if (count >= kIndexLimit) {
             throw StoreError{refusal(StoreProblem::TooLarge, m_path,
-                                     excessText(kIndexLimit - 1, QStringLiteral("programs")))};
+                                     faultOf(FaultCode::TooManyPrograms, kIndexLimit - 1))};
         }
         takeRow(row, contents);
     }
@@ -118,10 +118,8 @@ void StoreCatalogue::expectToFit(const MediaSource& source) const
 {
     const auto longest = static_cast<int>(kLongestText);
     if (source.name.toUtf8().size() > longest || source.path.toUtf8().size() > longest) {
-        throw StoreError{
-            refusal(StoreProblem::TooLarge, m_path,
-                    QStringLiteral("the name or the path of a program has more than %1 bytes")
-                        .arg(longest))};
+        throw StoreError{refusal(StoreProblem::TooLarge, m_path,
+                                 faultOf(FaultCode::ProgramTextTooLong, longest))};
     }
 }
 
@@ -129,8 +127,7 @@ int StoreCatalogue::giveOutIndex()
 {
     if (m_nextIndex >= kIndexLimit) {
         throw StoreError{refusal(StoreProblem::Full, m_path,
-                                 QStringLiteral("all %1 numbers for programs have been given out")
-                                     .arg(kIndexLimit - 1))};
+                                 faultOf(FaultCode::NumbersUsedUp, kIndexLimit - 1))};
     }
     return m_nextIndex++;
 }

@@ -1,7 +1,7 @@
 #include "StoreConnection.h"
 
 #include "StoreGuard.h"
-#include "StoreMessages.h"
+#include "StoreRefusals.h"
 
 #include <QSqlError>
 #include <QUrl>
@@ -88,8 +88,7 @@ QVariant StoreConnection::value(const QString& statement) const
 {
     QSqlQuery row = query(statement);
     if (!next(row)) {
-        throw StoreError{refusal(StoreProblem::Damaged, m_path,
-                                 QStringLiteral("a row that must be there is missing"))};
+        throw StoreError{refusal(StoreProblem::Damaged, m_path, {FaultCode::RowMissing, {}})};
     }
     return row.value(0);
 }
@@ -100,9 +99,7 @@ QSqlQuery StoreConnection::prepare(const QString& statement) const
         throw StoreError{refusal(m_database.lastError(), m_path, m_systemError)};
     }
     if (m_handle == nullptr) {
-        throw StoreError{refusal(StoreProblem::Other, m_path,
-                                 QStringLiteral("the database driver is not the one that this "
-                                                "program was made for"))};
+        throw StoreError{refusal(StoreProblem::Other, m_path, {FaultCode::OtherDriver, {}})};
     }
     QSqlQuery query(m_database);
     query.setForwardOnly(true);
@@ -217,8 +214,8 @@ void StoreTransaction::commit()
         rollBack();
         if (!isLogCutShort(error.code) && !m_connection.clearFailedCommit()) {
             throw StoreError{refusal(StoreProblem::Unclear, m_connection.m_path,
-                                     systemError == 0 ? QStringLiteral("disk I/O error")
-                                                      : qt_error_string(systemError))};
+                                     systemError == 0 ? Fault{FaultCode::DiskError, {}}
+                                                      : faultOf(FaultCode::System, systemError))};
         }
         throw;
     }

@@ -1,6 +1,6 @@
 #include "StoreFile.h"
 
-#include "StoreMessages.h"
+#include "StoreRefusals.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -151,8 +151,7 @@ StoreResult StoreFile::judgeVacant(StoreOpenMode mode, bool isFileThere) const
     if (log.st_size > 0) {
         // The log would be replayed into whatever is put here next.
         return refusal(StoreProblem::Damaged, m_path,
-                       QStringLiteral("it has gone or is empty, yet its log %1 is still there")
-                           .arg(QFileInfo(logPath()).fileName()));
+                       faultOf(FaultCode::LogAlone, QFileInfo(logPath()).fileName()));
     }
     if (mode == StoreOpenMode::CreateIfMissing) {
         return {};
@@ -164,7 +163,7 @@ StoreResult StoreFile::judgeHeader(qint64 applicationId, int newestSchema) const
 {
     QFile file(m_path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return refusal(StoreProblem::Other, m_path, file.errorString());
+        return refusal(StoreProblem::Other, m_path, faultOf(FaultCode::System, errno));
     }
     const QByteArray header = file.read(kHeaderSize);
     if (file.error() != QFileDevice::NoError) {

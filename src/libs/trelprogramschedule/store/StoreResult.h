@@ -1,5 +1,7 @@
 #pragma once
 
+#include "trelprogramschedule/faults/Fault.h"
+
 #include <QMetaType>
 #include <QString>
 
@@ -39,11 +41,16 @@ enum class StoreProblem {
               ///< store is read without it, yet after a power cut it may be there, whole.
 };
 
+/// How many problems there are; they count from 0.
+constexpr int kStoreProblems = static_cast<int>(StoreProblem::Unclear) + 1;
+
 /// How a call of the store ended.
 struct StoreResult
 {
     StoreProblem problem = StoreProblem::None;
-    QString message; ///< A sentence for the operator, naming the file; empty when all went well.
+    QString path; ///< The file; empty for NotOpen and when all went well.
+    Fault cause; ///< What is known besides: with ReadOnly, Damaged, DiskFull, Full, Other, Altered,
+                 ///< TooLarge and Unclear.
 
     explicit operator bool() const { return problem == StoreProblem::None; }
 };

@@ -1,7 +1,7 @@
 #include "StoreSchema.h"
 
 #include "StoreConnection.h"
-#include "StoreMessages.h"
+#include "StoreRefusals.h"
 
 #include <QSqlQuery>
 #include <QVariant>
@@ -15,9 +15,9 @@ constexpr int kMostElements = 1000;
 /// What a message shows of a name that somebody else has chosen.
 constexpr int kLongestName = 60;
 
-QString nameText(const std::pair<QString, QString>& element)
+Fault partFault(FaultCode code, const std::pair<QString, QString>& element)
 {
-    return QStringLiteral("%1 \"%2\"").arg(element.first, element.second.left(kLongestName));
+    return faultOf(code, element.second.left(kLongestName), element.first);
 }
 
 } // namespace
@@ -140,19 +140,19 @@ void StoreSchema::checkElements(const StoreConnection& connection, const QString
     const Elements found = elementsOf(connection);
     for (const auto& [name, definition] : expected) {
         if (found.count(name) == 0) {
-            throw StoreError{refusal(StoreProblem::Damaged, path,
-                                     QStringLiteral("its %1 is missing").arg(nameText(name)))};
+            throw StoreError{
+                refusal(StoreProblem::Damaged, path, partFault(FaultCode::PartMissing, name))};
         }
     }
     for (const auto& [name, definition] : found) {
         const auto own = expected.find(name);
         if (own == expected.end()) {
-            throw StoreError{refusal(StoreProblem::Altered, path,
-                                     QStringLiteral("it holds the %1").arg(nameText(name)))};
+            throw StoreError{
+                refusal(StoreProblem::Altered, path, partFault(FaultCode::PartUnknown, name))};
         }
         if (own->second != definition) {
-            throw StoreError{refusal(StoreProblem::Altered, path,
-                                     QStringLiteral("its %1 is another one").arg(nameText(name)))};
+            throw StoreError{
+                refusal(StoreProblem::Altered, path, partFault(FaultCode::PartAltered, name))};
         }
     }
 }
@@ -191,8 +191,7 @@ void StoreSchema::check(const StoreConnection& connection, const QString& path)
         throw StoreError{refusalOfFinding(finding, path)};
     }
     if (connection.value(QStringLiteral("SELECT count(*) FROM store")).toInt() != 1) {
-        throw StoreError{refusal(StoreProblem::Damaged, path,
-                                 QStringLiteral("it does not say which state it is in"))};
+        throw StoreError{refusal(StoreProblem::Damaged, path, {FaultCode::StateMissing, {}})};
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include "ScheduleLimits.h"
 #include "StoreConnection.h"
-#include "StoreMessages.h"
+#include "StoreRefusals.h"
 #include "StoreValues.h"
 
 #include <QStringList>
@@ -47,7 +47,7 @@ void StoreTaskReader::readTasks()
         QStringLiteral("SELECT id, CAST(start_date AS BLOB), CAST(end_date AS BLOB)"
                        " FROM task ORDER BY id"));
     while (m_connection.next(row)) {
-        expectRoom(m_tasks.size(), kMostTasks, QStringLiteral("tasks"));
+        expectRoom(m_tasks.size(), kMostTasks, FaultCode::TooManyTasks);
         PlayTask read;
         read.id = row.value(0).toInt();
         read.startDate = utf8(row, 1);
@@ -66,7 +66,7 @@ void StoreTaskReader::readPlans()
                        "has_no_duration,"
                        " service_flag_a, service_flag_b FROM plan ORDER BY task_id, position"));
     for (std::size_t count = 0; m_connection.next(row); ++count) {
-        expectRoom(count, kMostPlans, QStringLiteral("plans"));
+        expectRoom(count, kMostPlans, FaultCode::TooManyPlans);
         std::vector<PlayPlan>& plans = task(row.value(0)).plans;
         expectPlace(row.value(1), plans.size());
         PlayPlan& read = plans.emplace_back();
@@ -92,7 +92,7 @@ void StoreTaskReader::readValues()
         QStringLiteral("SELECT task_id, plan_position, position, value FROM plan_value"
                        " ORDER BY task_id, plan_position, position"));
     for (std::size_t count = 0; m_connection.next(row); ++count) {
-        expectRoom(count, kMostServiceValues, QStringLiteral("numbers in the lists of plans"));
+        expectRoom(count, kMostServiceValues, FaultCode::TooManyListNumbers);
         std::vector<std::int64_t>& values = plan(row).serviceList;
         expectPlace(row.value(2), values.size());
         values.push_back(row.value(3).toLongLong());
@@ -105,7 +105,7 @@ void StoreTaskReader::readEntries()
         "SELECT task_id, plan_position, position, prog_index, is_invalid, CAST(name AS BLOB),"
         " play_count FROM entry ORDER BY task_id, plan_position, position"));
     for (std::size_t count = 0; m_connection.next(row); ++count) {
-        expectRoom(count, kMostEntries, QStringLiteral("entries of programs"));
+        expectRoom(count, kMostEntries, FaultCode::TooManyEntries);
         std::vector<struProgInfo>& entries = plan(row).programs;
         expectPlace(row.value(2), entries.size());
         struProgInfo& read = entries.emplace_back();
@@ -144,17 +144,16 @@ void StoreTaskReader::expectPlace(const QVariant& position, std::size_t expected
     }
 }
 
-void StoreTaskReader::expectRoom(std::size_t count, std::size_t most, const QString& noun) const
+void StoreTaskReader::expectRoom(std::size_t count, std::size_t most, FaultCode excess) const
 {
     if (count >= most) {
-        throw StoreError{refusal(StoreProblem::TooLarge, m_path, excessText(most, noun))};
+        throw StoreError{refusal(StoreProblem::TooLarge, m_path, faultOf(excess, most))};
     }
 }
 
 void StoreTaskReader::refuse() const
 {
-    throw StoreError{
-        refusal(StoreProblem::Damaged, m_path, QStringLiteral("its plans do not fit together"))};
+    throw StoreError{refusal(StoreProblem::Damaged, m_path, {FaultCode::PlansUnfitting, {}})};
 }
 
 } // namespace trel::mediadispatch

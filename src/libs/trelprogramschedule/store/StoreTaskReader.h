@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TaskSets.h"
+#include "faults/Fault.h"
 
 #include <QSqlQuery>
 #include <QVariant>
@@ -36,7 +37,7 @@ private:
     /// Lists come without gaps: a row that is not the next of its list is damage.
     void expectPlace(const QVariant& position, std::size_t expected) const;
     /// For one more than there are.
-    void expectRoom(std::size_t count, std::size_t most, const QString& noun) const;
+    void expectRoom(std::size_t count, std::size_t most, FaultCode excess) const;
     [[noreturn]] void refuse() const;
 
     const StoreConnection& m_connection;

@@ -85,6 +85,7 @@ private slots:
     void remarksNameTaskRowAndField();
     void remarksNameWhatCannotPlay();
     void remarksNameWhatIsTakenForSomethingElse();
+    void remarksHaveCodesForMachines();
     void remarksDoNotSpoilACheck();
     void emptyScheduleIsClean();
 };
@@ -202,6 +203,34 @@ void tst_ScheduleCheck::remarksNameWhatIsTakenForSomethingElse()
                  QStringLiteral("3/2 weeks: \"1,8\" is not a list of days from 0 to 7; it counts "
                                 "as Mon,day 8"),
              }));
+}
+
+void tst_ScheduleCheck::remarksHaveCodesForMachines()
+{
+    PlayPlan odd = runs(5, "+8:00:00", 0, "25:00:00");
+    odd.mode = 7;
+    odd.endAction = 9;
+    odd.weeks = "1;2";
+    std::map<int, PlayTask> tasks = oneTask({odd, plan(6, "08:00:00", "09:00:00", "8")});
+    tasks[3].startDate = "2024.02.02";
+    tasks[3].endDate = "2024.02.01";
+    tasks[4].id = 4;
+    QStringList codes;
+    for (const ScheduleRemark& remark : checkSchedule(tasks, catalogue()).remarks) {
+        codes.append(QStringLiteral("%1 %2>%3").arg(remark.code, remark.value, remark.taken));
+    }
+    QCOMPARE(codes, (QStringList{
+                        QStringLiteral("endBeforeStart 2024.02.01>"),
+                        QStringLiteral("notATime +8:00:00>08:00:00"),
+                        QStringLiteral("notATime 25:00:00>"),
+                        QStringLiteral("notAListOfDays 1;2>1"),
+                        QStringLiteral("unknownMode 7>"),
+                        QStringLiteral("runsLessThanOnce 0>"),
+                        QStringLiteral("unknownEndAction 9>"),
+                        QStringLiteral("noDay 8>"),
+                        QStringLiteral("notADate >"),
+                        QStringLiteral("notADate >"),
+                    }));
 }
 
 void tst_ScheduleCheck::remarksDoNotSpoilACheck()

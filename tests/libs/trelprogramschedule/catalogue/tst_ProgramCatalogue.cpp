@@ -1,5 +1,6 @@
 #include "SignalCounts.h"
 #include "StoreFixture.h"
+#include "faults/FaultWords.h"
 #include "store/ScheduleDatabase.h"
 #include "store/StoreConnection.h"
 #include "support/TestProgram.h"
@@ -130,7 +131,8 @@ void tst_ProgramCatalogue::indexesRunOut()
     store.open();
     const ImportResult tooMany = store.host.addPrograms(samplePrograms(3));
     QCOMPARE(tooMany.store.problem, StoreProblem::Full);
-    QVERIFY2(tooMany.store.message.contains(store.path), qPrintable(tooMany.store.message));
+    QVERIFY2(englishText(tooMany.store).contains(store.path),
+             qPrintable(englishText(tooMany.store)));
     QVERIFY(tooMany.added.empty());
     QVERIFY(store.manager.getPrograms().empty());
 
@@ -243,7 +245,7 @@ void tst_ProgramCatalogue::oddSources()
         store.host.addPrograms({{QString(), QStringLiteral("/a"), nan, ProgramKind::Video},
                                 {QString(), QString(), infinite, ProgramKind::Video},
                                 {QStringLiteral("x"), QStringLiteral("/b"), -5.0, {}}});
-    QVERIFY2(result.store, qPrintable(result.store.message));
+    QVERIFY2(result.store, qPrintable(englishText(result.store)));
     QCOMPARE(store.manager.getDurationByIndex(1), -1.0);
     QCOMPARE(store.manager.getDurationByIndex(2), -1.0);
     QCOMPARE(store.manager.getDurationByIndex(3), -5.0);

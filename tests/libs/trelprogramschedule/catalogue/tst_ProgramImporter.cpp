@@ -1,4 +1,5 @@
 #include "catalogue/ProgramImporter.h"
+#include "faults/FaultWords.h"
 #include "support/MediaFiles.h"
 #include "support/TestProgram.h"
 
@@ -47,7 +48,8 @@ QStringList refusals(const ImportScan& scan)
 {
     QStringList list;
     for (const ImportRefusal& refusal : scan.refusals) {
-        list.append(QFileInfo(refusal.path).fileName() + QStringLiteral(": ") + refusal.reason);
+        list.append(QFileInfo(refusal.path).fileName() + QStringLiteral(": ") +
+                    englishSentence(refusal.fault));
     }
     return list;
 }
@@ -260,9 +262,9 @@ void tst_ProgramImporter::refusedFiles()
     QCOMPARE(scan.refusals.size(), std::size_t(1));
     QCOMPARE(scan.refusals[0].path, path(name));
     if (!reason.isEmpty()) {
-        QCOMPARE(scan.refusals[0].reason, reason);
+        QCOMPARE(englishSentence(scan.refusals[0].fault), reason);
     }
-    QVERIFY(scan.refusals[0].reason.endsWith(QLatin1Char('.')));
+    QVERIFY(englishSentence(scan.refusals[0].fault).endsWith(QLatin1Char('.')));
 }
 
 void tst_ProgramImporter::brokenMediaInAFolderIsNamed()
@@ -330,7 +332,7 @@ void tst_ProgramImporter::refusedAddresses()
     QVERIFY(scan.sources.empty());
     QCOMPARE(scan.refusals.size(), std::size_t(1));
     QCOMPARE(scan.refusals[0].path, address);
-    QVERIFY(!scan.refusals[0].reason.isEmpty());
+    QVERIFY(scan.refusals[0].fault);
 }
 
 void tst_ProgramImporter::relativePathsAndFileAddresses()

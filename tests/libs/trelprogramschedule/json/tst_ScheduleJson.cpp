@@ -1,3 +1,4 @@
+#include "faults/FaultWords.h"
 #include "support/TestProgram.h"
 #include "json/ScheduleJson.h"
 
@@ -8,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cerrno>
 #include <limits>
 #include <random>
 
@@ -200,7 +202,7 @@ private slots:
     void escapesAreUnderstood();
     void largeScheduleSurvives();
     void fileIsReplacedWhole();
-    void fileThatCannotBeWrittenIsNamed();
+    void fileThatCannotBeWrittenIsRefused();
 };
 
 void tst_ScheduleJson::emptyScheduleHasAHeading()
@@ -212,7 +214,7 @@ void tst_ScheduleJson::emptyScheduleHasAHeading()
                               "  \"tasks\": []\n"
                               "}\n"));
     const ScheduleFromJson read = scheduleFromJson(json);
-    QCOMPARE(read.error, QString());
+    QCOMPARE(englishText(read), QString());
     QVERIFY(read.tasks.empty());
 }
 
@@ -271,7 +273,7 @@ void tst_ScheduleJson::everyFieldSurvives()
 {
     const Schedule schedule = fullSchedule();
     const ScheduleFromJson read = scheduleFromJson(scheduleToJson(schedule));
-    QCOMPARE(read.error, QString());
+    QCOMPARE(englishText(read), QString());
     QVERIFY(read.tasks == schedule);
     QVERIFY(firstPlan(read.tasks) == fullPlan());
 }
@@ -300,7 +302,7 @@ void tst_ScheduleJson::numbersSurvive()
     plan.programs = {{number, false, "x", number}};
 
     const ScheduleFromJson read = scheduleFromJson(scheduleToJson(withPlan(plan)));
-    QCOMPARE(read.error, QString());
+    QCOMPARE(englishText(read), QString());
     QVERIFY(firstPlan(read.tasks) == plan);
 }
 
@@ -357,7 +359,7 @@ void tst_ScheduleJson::textsSurvive()
     const QByteArray json = scheduleToJson(withPlan(plan));
     QVERIFY2(json.contains("\"progName\": " + written + ","), json.constData());
     const ScheduleFromJson read = scheduleFromJson(json);
-    QCOMPARE(read.error, QString());
+    QCOMPARE(englishText(read), QString());
     QVERIFY(firstPlan(read.tasks) == plan);
 }
 
@@ -368,7 +370,7 @@ void tst_ScheduleJson::randomSchedulesSurvive()
         const Schedule schedule = schedules.next();
         const QByteArray json = scheduleToJson(schedule);
         const ScheduleFromJson read = scheduleFromJson(json);
-        QVERIFY2(read.error.isEmpty(), qPrintable(read.error));
+        QVERIFY2(englishText(read).isEmpty(), qPrintable(englishText(read)));
         QVERIFY2(read.tasks == schedule, json.constData());
         QCOMPARE(scheduleToJson(read.tasks), json);
         QVERIFY(!QJsonDocument::fromJson(json).isNull());
@@ -401,7 +403,7 @@ void tst_ScheduleJson::orderAndBlanksDoNotMatter()
     for (const auto layout : {QJsonDocument::Compact, QJsonDocument::Indented}) {
         QByteArray shuffled = QJsonDocument::fromJson(json).toJson(layout);
         const ScheduleFromJson read = scheduleFromJson(shuffled.replace("\n", "\r\n"));
-        QCOMPARE(read.error, QString());
+        QCOMPARE(englishText(read), QString());
         QVERIFY(read.tasks == fullSchedule());
     }
 }
@@ -409,7 +411,7 @@ void tst_ScheduleJson::orderAndBlanksDoNotMatter()
 void tst_ScheduleJson::byteOrderMarkIsPassedOver()
 {
     const ScheduleFromJson read = scheduleFromJson("\xEF\xBB\xBF" + scheduleToJson(fullSchedule()));
-    QCOMPARE(read.error, QString());
+    QCOMPARE(englishText(read), QString());
     QVERIFY(read.tasks == fullSchedule());
 }
 
@@ -425,7 +427,7 @@ void tst_ScheduleJson::largeScheduleSurvives()
 {
     const Schedule schedule = largeSchedule(2000, 5, 5);
     const ScheduleFromJson read = scheduleFromJson(scheduleToJson(schedule));
-    QCOMPARE(read.error, QString());
+    QCOMPARE(englishText(read), QString());
     QVERIFY(read.tasks == schedule);
 }
 
@@ -433,21 +435,22 @@ void tst_ScheduleJson::fileIsReplacedWhole()
 {
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("\u65b0 schedule.json"));
-    QCOMPARE(writeScheduleFile(path, largeSchedule(10, 2, 2)), QString());
-    QCOMPARE(writeScheduleFile(path, fullSchedule()), QString());
+    QVERIFY(!writeScheduleFile(path, largeSchedule(10, 2, 2)));
+    QVERIFY(!writeScheduleFile(path, fullSchedule()));
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), scheduleToJson(fullSchedule()));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files).size(), 1);
 }
 
-void tst_ScheduleJson::fileThatCannotBeWrittenIsNamed()
+void tst_ScheduleJson::fileThatCannotBeWrittenIsRefused()
 {
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("nowhere/schedule.json"));
-    const QString error = writeScheduleFile(path, fullSchedule());
-    QVERIFY2(error.startsWith(path + QStringLiteral(" cannot be written: ")), qPrintable(error));
-    QVERIFY(writeScheduleFile(folder.path(), fullSchedule()).contains(folder.path()));
+    const Fault missing = writeScheduleFile(path, fullSchedule());
+    QVERIFY(missing.code == FaultCode::System);
+    QCOMPARE(missing.number(0), ENOENT);
+    QVERIFY(writeScheduleFile(folder.path(), fullSchedule()).code == FaultCode::IsFolder);
 }
 
 TREL_TEST(tst_ScheduleJson, trel::tests::NoApplication)

@@ -6,8 +6,8 @@ class QSqlError;
 
 namespace trel::mediadispatch {
 
-/// A refusal with its sentence. The detail goes into the sentence of Damaged and Other.
-StoreResult refusal(StoreProblem problem, const QString& path, const QString& detail = {});
+/// A refusal, with the cause that is most usual where none is given.
+StoreResult refusal(StoreProblem problem, const QString& path, const Fault& cause = {});
 
 /// The refusal that an error of the database amounts to. The number is what the system said of the
 /// last call of the database that failed, as errno; 0 for nothing.
