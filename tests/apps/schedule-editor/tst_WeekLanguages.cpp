@@ -164,12 +164,10 @@ void tst_WeekLanguages::everyWordIsTranslated()
     const QString all = texts.join(QLatin1Char('\n'));
     for (const char* word :
          {"No task", "No task is valid", "Task 1", "nothing to show", "Skipped", "Repeated",
-          "Cut in: 3·3", "Frozen: 2·2", "Black screen", "more plans do not reach the screen",
-          "takes precedence", "conflicts with a plan above it", "clocks go forward",
-          "clocks go back", "starts and ends at", "is not a time in the form"}) {
-        QVERIFY2(all.contains(QLatin1String("⟦") + QString::fromUtf8(word)) ||
-                     all.contains(QString::fromUtf8(word)),
-                 word);
+          "Cut in: ", "Frozen: ", "Black", "more plans do not reach the screen", "takes precedence",
+          "conflicts with a plan above it", "clocks go forward", "clocks go back",
+          "starts and ends at", "is not a time in the form"}) {
+        QVERIFY2(all.contains(QString::fromUtf8(word)), word);
     }
 }
 
