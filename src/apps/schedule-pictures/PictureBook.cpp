@@ -1,25 +1,20 @@
 #include "PictureBook.h"
 
-#include "EditorWindow.h"
+#include "PictureFiles.h"
 #include "PictureSchedule.h"
 #include "card/PlanColumns.h"
 #include "scheduleControlUI.h"
-#include "week/WeekDock.h"
-#include "week/WeekView.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDateEdit>
-#include <QDialog>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QPointer>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTimeEdit>
 #include <QTimer>
 
-using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
 namespace trel::pictures {
@@ -31,35 +26,16 @@ QAbstractButton* button(const QWidget* parent, const char* name)
     return parent->findChild<QAbstractButton*>(QLatin1String(name));
 }
 
-void settle()
-{
-    // Deferred deletions and layouts that follow one another.
-    for (int i = 0; i < 3; ++i) {
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-}
-
-QWidget* openWindow()
-{
-    QWidget* popup = QApplication::activePopupWidget();
-    return popup != nullptr ? popup : QApplication::activeModalWidget();
-}
-
 } // namespace
 
-PictureBook::PictureBook(EditorWindow& window, scheduleControlUI& editor, const QDir& folder,
-                         const QString& suffix)
-    : m_window(window)
-    , m_editor(editor)
-    , m_folder(folder)
-    , m_suffix(suffix)
+PictureBook::PictureBook(scheduleControlUI& editor, PictureFiles& files)
+    : m_editor(editor)
+    , m_files(files)
 {}
 
 void PictureBook::drawAll()
 {
     refresh();
-    drawWindow();
     drawEditor();
     drawChoosers();
     drawMenu();
@@ -77,30 +53,9 @@ void PictureBook::refresh()
     settle();
 }
 
-void PictureBook::drawWindow()
-{
-    m_window.show();
-    settle();
-    save(&m_window, QStringLiteral("window"));
-    auto* dock = m_window.findChild<WeekDock*>();
-    dock->show();
-    dock->setFloating(true);
-    dock->resize(1180, 720);
-    // The first whole week of the demonstration.
-    auto* view = dock->findChild<week::WeekView*>();
-    view->stepWeeks(1);
-    settle();
-    save(dock, QStringLiteral("week"));
-    view->stepWeeks(-1);
-    dock->setFloating(false);
-    dock->hide();
-    m_window.hide();
-    QApplication::setActiveWindow(&m_editor);
-}
-
 void PictureBook::drawEditor()
 {
-    save(&m_editor, QStringLiteral("editor"));
+    m_files.save(&m_editor, QStringLiteral("editor"));
 }
 
 void PictureBook::drawChoosers()
@@ -169,43 +124,13 @@ void PictureBook::drawEmpty()
 {
     QMetaObject::invokeMethod(&m_editor, "sigclearPlanList");
     settle();
-    save(&m_editor, QStringLiteral("editor-empty"));
-}
-
-void PictureBook::save(QWidget* widget, const QString& name)
-{
-    const QString file = m_folder.filePath(name + m_suffix + QStringLiteral(".png"));
-    m_complete = widget->grab().save(file) && m_complete;
+    m_files.save(&m_editor, QStringLiteral("editor-empty"));
 }
 
 void PictureBook::saveDialog(const QString& name, const std::function<void()>& open,
                              const std::function<void(QWidget*)>& prepare)
 {
-    bool isDrawn = false;
-    // A prompt names the window that it lies over.
-    QApplication::setActiveWindow(&m_editor);
-    QTimer::singleShot(200, &m_editor, [&] {
-        QPointer<QWidget> dialog = openWindow();
-        if (!dialog) {
-            return;
-        }
-        if (prepare) {
-            prepare(dialog);
-            settle();
-        }
-        save(dialog, name);
-        isDrawn = true;
-        dialog->close();
-    });
-    open();
-    while (!isDrawn) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 300);
-        if (!isDrawn && openWindow() == nullptr) {
-            break;
-        }
-    }
-    m_complete = isDrawn && m_complete;
-    settle();
+    m_files.saveDialog(m_editor, name, open, prepare);
 }
 
 QWidget* PictureBook::card() const

@@ -1,6 +1,8 @@
 #include "EditorWindow.h"
+#include "HostPictures.h"
 #include "Languages.h"
 #include "PictureBook.h"
+#include "PictureFiles.h"
 #include "look/Themes.h"
 #include "scheduleControlUI.h"
 #include "trelprogramschedule/ScheduleHost.h"
@@ -15,11 +17,12 @@ using namespace trel::mediadispatch;
 using namespace trel::desktop;
 using namespace trel::pictures;
 
-/// schedule-pictures FOLDER DEMONSTRATION: draws every window of the editor, in every language and
-/// theme, into the folder.
+/// schedule-pictures FOLDER DEMONSTRATION: draws every window of host and editor, in every language
+/// and theme, into the folder.
 int main(int argc, char** argv)
 {
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 3 || !QDir().mkpath(arguments[1])) {
@@ -47,10 +50,10 @@ int main(int argc, char** argv)
         languages.select(language);
         for (const QString& theme : Themes::names()) {
             themes.select(theme);
-            PictureBook book(window, editor, QDir(arguments[1]),
-                             QStringLiteral("-%1-%2").arg(language, theme));
-            book.drawAll();
-            isComplete = book.isComplete() && isComplete;
+            PictureFiles files(QDir(arguments[1]), QStringLiteral("-%1-%2").arg(language, theme));
+            HostPictures(window, editor, files).drawAll();
+            PictureBook(editor, files).drawAll();
+            isComplete = files.isComplete() && isComplete;
         }
     }
     editor.close();

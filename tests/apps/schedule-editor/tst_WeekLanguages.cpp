@@ -54,7 +54,9 @@ struct WeekTexts : HostFixture
     {
         std::vector<PlayPlan> plans = mixedPlans();
         plans.push_back(timePlan(15, "08:00:00", "10:00:00", "3"));
-        plans.push_back(timePlan(16, "08:00:00", "10:00:00", "3"));
+        for (const int id : {16, 20, 21, 22}) {
+            plans.push_back(timePlan(id, "08:00:00", "10:00:00", "3"));
+        }
         plans.push_back(timePlan(17, "16:15:00", "17:45:00", "3"));
         plans.push_back(timePlan(18, "18:00:00", "18:00:00", "3"));
         plans.push_back(timePlan(19, "noon", "18:00:00", "3"));
@@ -89,8 +91,8 @@ struct WeekTexts : HostFixture
     QStringList tips() const
     {
         QStringList texts;
-        for (int y = 2; y < view.viewport()->height(); y += 9) {
-            for (int x = 6; x < view.viewport()->width(); x += 30) {
+        for (int y = 2; y < view.viewport()->height(); y += 4) {
+            for (int x = 6; x < view.viewport()->width(); x += 12) {
                 const QPoint place(x, y);
                 QHelpEvent event(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
                 QCoreApplication::sendEvent(view.viewport(), &event);

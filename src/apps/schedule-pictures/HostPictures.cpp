@@ -1,0 +1,214 @@
+#include "HostPictures.h"
+
+#include "EditorMenus.h"
+#include "EditorWindow.h"
+#include "HostPrompts.h"
+#include "PictureFiles.h"
+#include "ProblemWords.h"
+#include "SaveRescue.h"
+#include "scheduleControlUI.h"
+#include "screen/PreviewDock.h"
+#include "service/scheduleManage.h"
+#include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/json/ScheduleJson.h"
+#include "week/WeekDock.h"
+#include "week/WeekView.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDockWidget>
+#include <QFile>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTableView>
+#include <QTimer>
+
+using namespace trel::desktop;
+using namespace trel::mediadispatch;
+
+namespace trel::pictures {
+
+namespace {
+
+/// Longer than any import, in milliseconds.
+constexpr int kNever = 3600000;
+
+} // namespace
+
+HostPictures::HostPictures(EditorWindow& window, scheduleControlUI& editor, PictureFiles& files)
+    : m_window(window)
+    , m_editor(editor)
+    , m_files(files)
+{}
+
+void HostPictures::drawAll()
+{
+    m_window.show();
+    settle();
+    drawWindow();
+    drawMenus();
+    drawPanels();
+    drawWeeks();
+    drawImport();
+    drawFileDialogs();
+    drawPrompts();
+    drawProblems();
+    drawEmpty();
+    m_window.hide();
+    QApplication::setActiveWindow(&m_editor);
+}
+
+void HostPictures::drawWindow()
+{
+    m_files.save(&m_window, QStringLiteral("window"));
+}
+
+void HostPictures::drawMenus()
+{
+    int number = 0;
+    const QList<QAction*> entries = m_window.menuBar()->actions();
+    for (const QAction* entry : entries) {
+        entry->menu()->ensurePolished();
+        entry->menu()->adjustSize();
+        m_files.save(entry->menu(), QStringLiteral("window-menu-%1").arg(++number));
+    }
+}
+
+void HostPictures::drawPanels()
+{
+    const QList<QDockWidget*> panels = m_window.findChildren<QDockWidget*>();
+    for (QDockWidget* panel : panels) {
+        const bool wasVisible = panel->isVisible();
+        panel->show();
+        panel->raise();
+        settle();
+        m_files.save(panel, QStringLiteral("panel-") + panel->objectName());
+        panel->setVisible(wasVisible);
+    }
+}
+
+void HostPictures::drawWeeks()
+{
+    auto* dock = m_window.findChild<WeekDock*>();
+    auto* view = dock->findChild<week::WeekView*>();
+    dock->show();
+    dock->raise();
+    settle();
+    m_files.save(&m_window, QStringLiteral("window-week"));
+    dock->setFloating(true);
+    dock->resize(1180, 720);
+    // The first whole week of the demonstration.
+    view->stepWeeks(1);
+    settle();
+    m_files.save(dock, QStringLiteral("week"));
+    view->showNow();
+    dock->setFloating(false);
+    dock->hide();
+}
+
+void HostPictures::drawImport()
+{
+    const QString gone = QStringLiteral("/media/disk/");
+    m_files.saveDialog(m_window, QStringLiteral("import-refusals"), [this, gone] {
+        m_window.importMedia({gone + QStringLiteral("Morning news.mp4"),
+                              QStringLiteral("/dev/null"), QStringLiteral("tape://studio/4"),
+                              QStringLiteral("http://example.com/Evening news.mp4")});
+        auto* progress = m_window.findChild<QProgressDialog*>(QStringLiteral("importProgress"));
+        // Once events go on, the import may be through.
+        progress->show();
+        m_files.save(progress, QStringLiteral("import-progress"));
+        progress->setMinimumDuration(kNever);
+        progress->hide();
+    });
+    m_files.save(&m_window, QStringLiteral("window-imported"));
+}
+
+void HostPictures::drawFileDialogs()
+{
+    const EditorMenus& menus = *m_window.findChild<EditorMenus*>();
+    const struct
+    {
+        const char* name;
+        QAction* entry;
+    } dialogs[] = {{"file-open", menus.openDatabase()},
+                   {"file-read", menus.importSchedule()},
+                   {"file-write", menus.exportSchedule()},
+                   {"file-import", menus.importFiles()},
+                   {"file-folder", menus.importFolder()}};
+    for (const auto& dialog : dialogs) {
+        m_files.saveDialog(m_window, QString::fromLatin1(dialog.name),
+                           [&dialog] { dialog.entry->trigger(); });
+    }
+}
+
+void HostPictures::drawPrompts()
+{
+    const EditorMenus& menus = *m_window.findChild<EditorMenus*>();
+    m_window.findChild<QTableView*>(QStringLiteral("programTable"))->selectAll();
+    m_files.saveDialog(m_window, QStringLiteral("prompt-remove-programs"),
+                       [&menus] { menus.removePrograms()->trigger(); });
+    m_window.findChild<QTableView*>(QStringLiteral("programTable"))->clearSelection();
+
+    scheduleManage& manager = scheduleManage::getInstance();
+    manager.updateUItask();
+    PlayTask task = manager.getAllTask().begin()->second;
+    task.endDate = task.startDate;
+    manager.addTask(task);
+    m_files.saveDialog(m_window, QStringLiteral("prompt-unsaved"), [this] { m_window.close(); });
+
+    const QString store = ScheduleHost::instance().path();
+    const SaveRescue rescue(ScheduleHost::instance(), &m_window);
+    QObject::connect(&rescue, &SaveRescue::givenUp, &manager, &scheduleManage::updateUItask);
+    const QFile::Permissions former = QFile::permissions(store);
+    QFile::setPermissions(store, QFile::ReadOwner);
+    // A question that is closed comes back, and is answered then.
+    m_files.saveDialog(
+        m_window, QStringLiteral("prompt-not-saved"), [&manager] { manager.save(); },
+        [this](QWidget* /*prompt*/) {
+            QTimer::singleShot(50, &m_window, [] {
+                QApplication::activeModalWidget()
+                    ->findChild<QPushButton*>(QStringLiteral("tipButton3"))
+                    ->click();
+            });
+        });
+    QFile::setPermissions(store, former);
+    manager.updateUItask();
+}
+
+/// The longest ones.
+void HostPictures::drawProblems()
+{
+    const QString file = QStringLiteral("/home/operator/schedules/station.db");
+    savePrompt("prompt-unclear", problems::sentence(StoreResult{
+                                     StoreProblem::Unclear, file, {FaultCode::DiskError, {}}}));
+    savePrompt("prompt-foreign-log",
+               problems::sentence(StoreResult{
+                   StoreProblem::Damaged, file,
+                   faultOf(FaultCode::ForeignLog, QString(file + QStringLiteral("-wal")))}));
+    ScheduleFromJson schedule;
+    schedule.fault = faultOf(FaultCode::TaskTextTooLong, 3, 65536);
+    schedule.place = QStringLiteral("tasks[2].plans[0].startTime");
+    schedule.line = 48;
+    savePrompt("prompt-json",
+               problems::unreadable(QStringLiteral("/home/operator/station.json"), schedule));
+}
+
+void HostPictures::savePrompt(const char* name, const QString& text)
+{
+    m_files.saveDialog(m_window, QString::fromLatin1(name), [&text] { prompts::notice(text); });
+}
+
+void HostPictures::drawEmpty()
+{
+    const QString store = ScheduleHost::instance().path();
+    m_window.openDatabase(QFileInfo(store).absolutePath() + QStringLiteral("/empty.db"));
+    settle();
+    m_files.save(&m_window, QStringLiteral("window-empty"));
+    m_window.openDatabase(store);
+    settle();
+}
+
+} // namespace trel::pictures
