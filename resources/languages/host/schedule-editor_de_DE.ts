@@ -636,8 +636,8 @@
         <translation>%1 überschreitet den zulässigen Umfang eines Wiedergabeplans. %2</translation>
     </message>
     <message>
-        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
-        <translation>%1 wurde möglicherweise nicht geschrieben. %2 Die Änderung ist derzeit nicht in der Datei zu sehen, kann aber nach einem Neustart des Computers vorhanden sein. Speichern Sie den Wiedergabeplan auf einem anderen Datenträger, und prüfen Sie diesen, bevor Sie fortfahren.</translation>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
+        <translation>%1 wurde möglicherweise nicht geschrieben. %2 Die Änderung ist derzeit nicht in der Datei zu sehen, kann aber nach einem Neustart des Computers vorhanden sein. Speichern Sie den Wiedergabeplan auf einem anderen Datenträger, und prüfen Sie den bisherigen, bevor Sie fortfahren.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

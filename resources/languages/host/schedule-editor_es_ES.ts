@@ -636,8 +636,8 @@
         <translation>%1 supera lo que admite una programación. %2</translation>
     </message>
     <message>
-        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
-        <translation>Es posible que %1 no se haya escrito. %2 El cambio no se ve ahora en el archivo, pero puede aparecer tras reiniciar el equipo. Guarde la programación en otro disco y compruebe este antes de continuar.</translation>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
+        <translation>Es posible que %1 no se haya escrito. %2 El cambio no se ve ahora en el archivo, pero puede aparecer tras reiniciar el equipo. Guarde la programación en otro disco y compruebe el disco actual antes de continuar.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

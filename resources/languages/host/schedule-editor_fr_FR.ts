@@ -636,8 +636,8 @@
         <translation>%1 dépasse ce qu’une programmation peut contenir. %2</translation>
     </message>
     <message>
-        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
-        <translation>%1 n’a peut-être pas été écrit. %2 La modification n’est pas visible dans le fichier pour l’instant, mais peut y figurer après un redémarrage de l’ordinateur. Enregistrez la programmation sur un autre disque et vérifiez celui-ci avant de continuer.</translation>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
+        <translation>%1 n’a peut-être pas été écrit. %2 La modification n’est pas visible dans le fichier pour l’instant, mais peut y figurer après un redémarrage de l’ordinateur. Enregistrez la programmation sur un autre disque et vérifiez le disque actuel avant de continuer.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

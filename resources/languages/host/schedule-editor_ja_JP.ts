@@ -619,8 +619,8 @@
         <translation>%1 はスケジュールの上限を超えています。%2</translation>
     </message>
     <message>
-        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
-        <translation>%1 に書き込まれていない可能性があります。%2現在この変更はファイルにありませんが、コンピューターの再起動後に現れることがあります。スケジュールを別のディスクに書き出し、このディスクを確認してから続行してください。</translation>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
+        <translation>%1 に書き込まれていない可能性があります。%2現在この変更はファイルにありませんが、コンピューターの再起動後に現れることがあります。スケジュールを別のディスクに書き出し、現在のディスクを確認してから続行してください。</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

@@ -619,8 +619,8 @@
         <translation>%1이(가) 일정에 담을 수 있는 범위를 초과합니다. %2</translation>
     </message>
     <message>
-        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
-        <translation>%1에 쓰이지 않았을 수 있습니다. %2 지금은 파일에서 변경 내용이 보이지 않지만 컴퓨터를 다시 시작한 후 나타날 수 있습니다. 일정을 다른 디스크에 쓰고, 계속하기 전에 이 디스크를 확인하십시오.</translation>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
+        <translation>%1에 쓰이지 않았을 수 있습니다. %2 지금은 파일에서 변경 내용이 보이지 않지만 컴퓨터를 다시 시작한 후 나타날 수 있습니다. 일정을 다른 디스크에 쓰고, 계속하기 전에 현재 디스크를 확인하십시오.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

@@ -636,8 +636,8 @@
         <translation>%1 excede o que uma programação comporta. %2</translation>
     </message>
     <message>
-        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
-        <translation>Talvez %1 não tenha sido gravado. %2 A alteração não está visível no arquivo agora, mas pode aparecer depois que o computador for reiniciado. Grave a programação em outro disco e verifique este antes de continuar.</translation>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
+        <translation>Talvez %1 não tenha sido gravado. %2 A alteração não está visível no arquivo agora, mas pode aparecer depois que o computador for reiniciado. Grave a programação em outro disco e verifique o disco atual antes de continuar.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

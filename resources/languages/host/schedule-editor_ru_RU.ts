@@ -653,8 +653,8 @@
         <translation>%1 превышает допустимый объём расписания. %2</translation>
     </message>
     <message>
-        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
-        <translation>Возможно, файл %1 не записан. %2 Сейчас изменения в файле не видно, но оно может появиться после перезагрузки компьютера. Запишите расписание на другой диск и проверьте этот, прежде чем продолжать.</translation>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
+        <translation>Возможно, файл %1 не записан. %2 Сейчас изменения в файле не видно, но оно может появиться после перезагрузки компьютера. Запишите расписание на другой диск и проверьте текущий, прежде чем продолжать.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

@@ -619,8 +619,8 @@
         <translation>%1 超出排期可容纳的范围。%2</translation>
     </message>
     <message>
-        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
-        <translation>%1 可能未写入。%2目前文件中看不到该更改，但重启计算机后可能出现。请将排期写入其他磁盘，并在继续之前检查此磁盘。</translation>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
+        <translation>%1 可能未写入。%2目前文件中看不到该更改，但重启计算机后可能出现。请将排期写入其他磁盘，并在继续之前检查当前磁盘。</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

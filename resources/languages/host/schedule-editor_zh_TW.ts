@@ -619,8 +619,8 @@
         <translation>%1 超出排程可容納的範圍。%2</translation>
     </message>
     <message>
-        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check this one before you go on.</source>
-        <translation>%1 可能未寫入。%2目前檔案中看不到該變更，但電腦重新開機後可能出現。請將排程寫入其他磁碟，並在繼續之前檢查此磁碟。</translation>
+        <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
+        <translation>%1 可能未寫入。%2目前檔案中看不到該變更，但電腦重新開機後可能出現。請將排程寫入其他磁碟，並在繼續之前檢查目前的磁碟。</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

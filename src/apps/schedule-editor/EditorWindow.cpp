@@ -203,6 +203,10 @@ void EditorWindow::retranslate()
     m_nowNext->toggleViewAction()->setText(tr("&Now and next"));
     m_clockChanges->toggleViewAction()->setText(tr("&Clock changes"));
     m_programs->retranslate();
+    // What was said in another language is not said again.
+    if (auto* bar = findChild<QStatusBar*>(QString(), Qt::FindDirectChildrenOnly)) {
+        bar->clearMessage();
+    }
     // The toolkit names the buttons of a panel once, when it is made.
     const QList<QDockWidget*> panels = findChildren<QDockWidget*>();
     for (const QDockWidget* panel : panels) {
@@ -397,6 +401,7 @@ void EditorWindow::importMedia(const QStringList& paths)
 
 void EditorWindow::finishImport()
 {
+    // A prompt would take it for the window that it stands over.
     m_progress->hide();
     m_progress->deleteLater();
     m_progress = nullptr;

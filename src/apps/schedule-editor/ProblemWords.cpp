@@ -138,32 +138,33 @@ constexpr Pattern kFaults[] = {
 static_assert(std::size(kFaults) == kFaultCodes);
 
 /// In the order of the problems. %1 is the file, %2 the cause.
-constexpr const char* kStoreProblemTexts[] = {
-    "",
-    QT_TRANSLATE_NOOP("ProblemWords", "No schedule file is open, so nothing can be saved."),
-    QT_TRANSLATE_NOOP("ProblemWords", "%1 cannot be opened. Its folder does not exist."),
-    QT_TRANSLATE_NOOP("ProblemWords", "%1 does not exist."),
-    QT_TRANSLATE_NOOP("ProblemWords", "%1 is not a schedule database."),
-    QT_TRANSLATE_NOOP("ProblemWords", "%1 is a database of another application."),
-    QT_TRANSLATE_NOOP("ProblemWords", "%1 was written by a newer version of this application."),
-    QT_TRANSLATE_NOOP(
+constexpr Pattern kStoreProblemTexts[] = {
+    {""},
+    {QT_TRANSLATE_NOOP("ProblemWords", "No schedule file is open, so nothing can be saved.")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "%1 cannot be opened. Its folder does not exist.")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "%1 does not exist.")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "%1 is not a schedule database.")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "%1 is a database of another application.")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "%1 was written by a newer version of this application.")},
+    {QT_TRANSLATE_NOOP(
         "ProblemWords",
-        "%1 is in use by another application. Try again when that application is closed."),
-    QT_TRANSLATE_NOOP("ProblemWords", "%1 cannot be written. %2"),
-    QT_TRANSLATE_NOOP("ProblemWords", "%1 is damaged. %2"),
-    QT_TRANSLATE_NOOP("ProblemWords", "%1 cannot be written. %2"),
-    QT_TRANSLATE_NOOP("ProblemWords",
-                      "%1 has been saved by another application in the meantime. Saving now would "
-                      "overwrite those changes."),
-    QT_TRANSLATE_NOOP("ProblemWords", "%1 has no room for more programs. %2"),
-    QT_TRANSLATE_NOOP("ProblemWords", "%1 could not be read or written. %2"),
-    QT_TRANSLATE_NOOP("ProblemWords",
-                      "%1 is not a schedule database as this application creates it. %2"),
-    QT_TRANSLATE_NOOP("ProblemWords", "%1 exceeds what a schedule can hold. %2"),
-    QT_TRANSLATE_NOOP("ProblemWords",
-                      "%1 may not have been written. %2 The change is not visible in the file now, "
-                      "but may be there after a restart of the computer. Write the schedule to "
-                      "another disk, and check this one before you go on."),
+        "%1 is in use by another application. Try again when that application is closed.")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "%1 cannot be written. %2")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "%1 is damaged. %2")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "%1 cannot be written. %2")},
+    {QT_TRANSLATE_NOOP("ProblemWords",
+                       "%1 has been saved by another application in the meantime. Saving now would "
+                       "overwrite those changes.")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "%1 has no room for more programs. %2")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "%1 could not be read or written. %2")},
+    {QT_TRANSLATE_NOOP("ProblemWords",
+                       "%1 is not a schedule database as this application creates it. %2")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "%1 exceeds what a schedule can hold. %2")},
+    {QT_TRANSLATE_NOOP(
+        "ProblemWords",
+        "%1 may not have been written. %2 The change is not visible in the file now, "
+        "but may be there after a restart of the computer. Write the schedule to "
+        "another disk, and check the current one before you go on.")},
 };
 static_assert(std::size(kStoreProblemTexts) == kStoreProblems);
 
@@ -293,7 +294,7 @@ QString sentence(const Fault& fault)
 
 QString sentence(const StoreResult& result)
 {
-    return filled(translated(kStoreProblemTexts[static_cast<int>(result.problem)]),
+    return filled(translated(kStoreProblemTexts[static_cast<int>(result.problem)].text),
                   {QDir::toNativeSeparators(result.path), sentence(result.cause)});
 }
 

@@ -79,6 +79,8 @@ void HostPictures::drawMenus()
 
 void HostPictures::drawPanels()
 {
+    scheduleManage::getInstance().slotOpen();
+    settle();
     const QList<QDockWidget*> panels = m_window.findChildren<QDockWidget*>();
     for (QDockWidget* panel : panels) {
         const bool wasVisible = panel->isVisible();

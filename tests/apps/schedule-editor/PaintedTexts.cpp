@@ -28,12 +28,14 @@ public:
             texts.last() += item.text();
         } else {
             texts.append(item.text());
+            families.append(item.font().families().join(QLatin1Char(',')));
         }
         m_end = place + QPointF(item.width(), 0.0);
     }
     Type type() const override { return User; }
 
     QStringList texts;
+    QStringList families;
 
 private:
     QPointF m_end; ///< Of the last part.
@@ -49,6 +51,11 @@ PaintedTexts::~PaintedTexts() = default;
 QStringList PaintedTexts::texts() const
 {
     return m_engine->texts;
+}
+
+QStringList PaintedTexts::families() const
+{
+    return m_engine->families;
 }
 
 QPaintEngine* PaintedTexts::paintEngine() const

@@ -15,6 +15,8 @@ public:
 
     /// Everything that was written, in order.
     QStringList texts() const;
+    /// The families of the font of each of them, with commas between.
+    QStringList families() const;
 
     QPaintEngine* paintEngine() const override;
 

@@ -7,6 +7,7 @@
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QPointer>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QStatusBar>
@@ -28,6 +29,7 @@ private slots:
     void aDragWithoutFilesIsNotTaken();
     void whatCannotBeTakenIsToldInAPrompt();
     void whatCannotBeTakenIsToldAfterAnotherPrompt();
+    void theProgressIsGoneWhenThePromptComes();
     void passwordsOfAddressesAreNotShown_data();
     void passwordsOfAddressesAreNotShown();
     void cancellingTakesNothingIn();
@@ -162,6 +164,31 @@ void tst_EditorImport::whatCannotBeTakenIsToldAfterAnotherPrompt()
     QTRY_COMPARE(told.size(), 2);
     QCOMPARE(told.first(), QStringLiteral("First"));
     QVERIFY(told.last().contains(QStringLiteral("gone.mp4")));
+}
+
+void tst_EditorImport::theProgressIsGoneWhenThePromptComes()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    bool isSeen = false;
+    waitForImport(fixture.window, [&] {
+        fixture.window.importMedia({fixture.folder.filePath(QStringLiteral("nothing.mp4"))});
+        const QPointer<QWidget> progress =
+            fixture.window.findChild<QWidget*>(QStringLiteral("importProgress"));
+        progress->show();
+        auto* look = new QTimer(&fixture.window);
+        connect(look, &QTimer::timeout, look, [&isSeen, look, progress] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (modal != nullptr && modal != progress) {
+                isSeen = true;
+                QVERIFY(progress.isNull() || !progress->isVisible());
+                look->stop();
+                modal->close();
+            }
+        });
+        look->start(1);
+    });
+    QVERIFY(isSeen);
 }
 
 void tst_EditorImport::passwordsOfAddressesAreNotShown_data()

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTimeEdit>
 
@@ -25,6 +26,7 @@ private slots:
     void aFileThatIsNoDatabaseIsRefusedInWords();
     void anotherDatabaseTakesThePlaceInAnOpenEditor();
     void theLanguageChangesEverywhereAtOnce();
+    void anotherLanguageClearsTheStatus();
     void theLanguageInUseIsMarked();
     void anUnknownLanguageChangesNothing();
     void removingAProgramAsksFirst();
@@ -141,6 +143,15 @@ void tst_EditorWindow::theLanguageChangesEverywhereAtOnce()
     fixture.languages.select(QStringLiteral("en_US"));
     QCOMPARE(save->text(), english);
     QTRY_VERIFY(action(fixture.window, QStringLiteral("Import files…")) != nullptr);
+}
+
+void tst_EditorWindow::anotherLanguageClearsTheStatus()
+{
+    HostFixture fixture;
+    fixture.window.statusBar()->showMessage(EditorWindow::tr("Written to %1."));
+    fixture.languages.select(QStringLiteral("de_DE"));
+    QCoreApplication::processEvents();
+    QCOMPARE(fixture.window.statusBar()->currentMessage(), QString());
 }
 
 void tst_EditorWindow::theLanguageInUseIsMarked()

@@ -1,5 +1,6 @@
 #include "HostFixture.h"
 #include "LanguageFont.h"
+#include "PaintedTexts.h"
 #include "ProgramSheduleWidgetTranslateManager.h"
 #include "support/TestProgram.h"
 #include "trelwidgets/Dialog.h"
@@ -34,6 +35,7 @@ private slots:
     void fontBeginsWithTheOwnFace();
     void fontKeepsItsSize();
     void selectingGivesTheApplicationTheFont();
+    void titlesOfPanelsHaveTheFont();
     void anUnknownLanguageKeepsTheFont();
     void theToolkitSpeaksTheLanguage_data();
     void theToolkitSpeaksTheLanguage();
@@ -252,6 +254,18 @@ void tst_HostLanguage::selectingGivesTheApplicationTheFont()
     fixture.languages.select(QStringLiteral("zh_CN"));
     QCOMPARE(QApplication::font().families(),
              languageFont(QFont(), QStringLiteral("zh_CN")).families());
+}
+
+void tst_HostLanguage::titlesOfPanelsHaveTheFont()
+{
+    LanguageFixture fixture(QStringLiteral("zh_CN"));
+    fixture.languages.select(QStringLiteral("fr_FR"));
+    QCoreApplication::processEvents();
+    auto* panel = fixture.window.findChild<QDockWidget*>(QStringLiteral("clockChangeDock"));
+    PaintedTexts painted(panel->size());
+    panel->render(&painted, QPoint(), QRegion(), QWidget::RenderFlags());
+    QCOMPARE(painted.texts(), QStringList{QStringLiteral("Changements d’heure")});
+    QCOMPARE(painted.families(), QStringList{panel->font().families().join(QLatin1Char(','))});
 }
 
 void tst_HostLanguage::anUnknownLanguageKeepsTheFont()

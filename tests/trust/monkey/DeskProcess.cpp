@@ -1,6 +1,7 @@
 #include "DeskProcess.h"
 
 #include "FlightRecorder.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QCoreApplication>
@@ -19,7 +20,7 @@ Tasks tasksOfJson(const QByteArray& json)
 {
     ScheduleFromJson schedule = scheduleFromJson(json);
     if (schedule.fault) {
-        FlightRecorder::fail(QStringLiteral("no schedule: ") + schedule.error);
+        FlightRecorder::fail(QStringLiteral("no schedule: ") + englishText(schedule));
     }
     for (auto& [id, task] : schedule.tasks) {
         for (PlayPlan& plan : task.plans) {

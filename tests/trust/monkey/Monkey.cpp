@@ -6,6 +6,7 @@
 #include "Hand.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 #include "trelwidgets/TipDialog.h"
 
@@ -497,9 +498,8 @@ void Monkey::writeSchedule(Dice& dice, const QString& file) const
         }
         tasks[task.id] = task;
     }
-    const QString error = writeScheduleFile(file, tasks);
-    if (!error.isEmpty()) {
-        FlightRecorder::fail(error);
+    if (const Fault fault = writeScheduleFile(file, tasks)) {
+        FlightRecorder::fail(englishSentence(fault));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "SharedStore.h"
 
 #include "FlightRecorder.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QDate>
@@ -212,9 +213,8 @@ void SharedStore::importSchedule(Dice& dice, bool isKilled)
                                   : QStringLiteral("import-schedule"));
     const Tasks tasks = randomTasks(dice);
     const QString file = m_folder.filePath(QStringLiteral("in.json"));
-    const QString error = writeScheduleFile(file, tasks);
-    if (!error.isEmpty()) {
-        FlightRecorder::fail(error);
+    if (const Fault fault = writeScheduleFile(file, tasks)) {
+        FlightRecorder::fail(englishSentence(fault));
     }
     const Tasks expected = tasksOfJson(scheduleToJson(tasks));
     const bool isSame = expected == m_tasks;

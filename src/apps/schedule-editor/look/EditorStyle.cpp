@@ -41,6 +41,17 @@ void updateTableMargins(QWidget* table)
     QCoreApplication::sendEvent(table, &change);
 }
 
+/// Checked with Qt 5.15.8: a panel sets the font of its title up by a comparison that overlooks the
+/// families, so that after a change of language it writes with the former ones.
+QFont titleFont(const QPainter& painter, const QWidget* panel)
+{
+    QFont font = painter.font();
+    if (panel != nullptr) {
+        font.setFamilies(panel->font().families());
+    }
+    return font;
+}
+
 /// The bar lies in a container of its own.
 bool isBarOfPlanTable(const QWidget* bar)
 {
@@ -251,6 +262,12 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
         return;
     case CE_ItemViewItem:
         paintItem(option, painter, widget);
+        return;
+    case CE_DockWidgetTitle:
+        painter->save();
+        painter->setFont(titleFont(*painter, widget));
+        QProxyStyle::drawControl(element, option, painter, widget);
+        painter->restore();
         return;
     case CE_TabBarTabLabel:
         if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option)) {
