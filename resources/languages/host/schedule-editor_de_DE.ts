@@ -164,16 +164,8 @@
         <translation>Import läuft</translation>
     </message>
     <message>
-        <source>Looking for files: %1 found</source>
-        <translation>Dateien werden gesucht: %1 gefunden</translation>
-    </message>
-    <message>
         <source>The import was canceled; nothing was imported.</source>
         <translation>Der Import wurde abgebrochen; es wurde nichts übernommen.</translation>
-    </message>
-    <message>
-        <source>Imported: %1 new, %2 updated.</source>
-        <translation>Importiert: %1 neu, %2 aktualisiert.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -206,6 +198,31 @@
     <message>
         <source>Keep editing</source>
         <translation>Weiter bearbeiten</translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking for files: %n found</source>
+        <translation>
+            <numerusform>Dateien werden gesucht: %n gefunden</numerusform>
+            <numerusform>Dateien werden gesucht: %n gefunden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported: %1, %2.</source>
+        <translation>Importiert: %1, %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n neu</numerusform>
+            <numerusform>%n neu</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>%n aktualisiert</numerusform>
+            <numerusform>%n aktualisiert</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -24,6 +24,27 @@
             <numerusform>… and %n more.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>Looking for files: %n found</source>
+        <translation>
+            <numerusform>Looking for files: %n found</numerusform>
+            <numerusform>Looking for files: %n found</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n new</numerusform>
+            <numerusform>%n new</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>%n updated</numerusform>
+            <numerusform>%n updated</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>Week</name>

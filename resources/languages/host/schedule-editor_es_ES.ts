@@ -164,16 +164,8 @@
         <translation>Importando</translation>
     </message>
     <message>
-        <source>Looking for files: %1 found</source>
-        <translation>Buscando archivos: %1 encontrados</translation>
-    </message>
-    <message>
         <source>The import was canceled; nothing was imported.</source>
         <translation>Se ha cancelado la importación; no se ha añadido nada.</translation>
-    </message>
-    <message>
-        <source>Imported: %1 new, %2 updated.</source>
-        <translation>Importación terminada: %1 nuevos, %2 actualizados.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -206,6 +198,31 @@
     <message>
         <source>Keep editing</source>
         <translation>Seguir editando</translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking for files: %n found</source>
+        <translation>
+            <numerusform>Buscando archivos: %n encontrado</numerusform>
+            <numerusform>Buscando archivos: %n encontrados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported: %1, %2.</source>
+        <translation>Importación terminada: %1, %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n nuevo</numerusform>
+            <numerusform>%n nuevos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>%n actualizado</numerusform>
+            <numerusform>%n actualizados</numerusform>
+        </translation>
     </message>
 </context>
 <context>

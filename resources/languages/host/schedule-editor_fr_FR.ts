@@ -164,16 +164,8 @@
         <translation>Importation</translation>
     </message>
     <message>
-        <source>Looking for files: %1 found</source>
-        <translation>Recherche de fichiers. Trouvés&#xa0;: %1</translation>
-    </message>
-    <message>
         <source>The import was canceled; nothing was imported.</source>
         <translation>L’importation a été annulée&#xa0;; rien n’a été ajouté.</translation>
-    </message>
-    <message>
-        <source>Imported: %1 new, %2 updated.</source>
-        <translation>Importation terminée. Ajouts&#xa0;: %1, mises à jour&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -206,6 +198,31 @@
     <message>
         <source>Keep editing</source>
         <translation>Continuer l’édition</translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking for files: %n found</source>
+        <translation>
+            <numerusform>Recherche de fichiers&#xa0;: %n trouvé</numerusform>
+            <numerusform>Recherche de fichiers&#xa0;: %n trouvés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported: %1, %2.</source>
+        <translation>Importation terminée&#xa0;: %1, %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n ajout</numerusform>
+            <numerusform>%n ajouts</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>%n mise à jour</numerusform>
+            <numerusform>%n mises à jour</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -162,16 +162,8 @@
         <translation>取り込み中</translation>
     </message>
     <message>
-        <source>Looking for files: %1 found</source>
-        <translation>ファイルを検索中：%1 件</translation>
-    </message>
-    <message>
         <source>The import was canceled; nothing was imported.</source>
         <translation>取り込みをキャンセルしました。何も取り込まれていません。</translation>
-    </message>
-    <message>
-        <source>Imported: %1 new, %2 updated.</source>
-        <translation>取り込みました：新規 %1 件、更新 %2 件。</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -203,6 +195,28 @@
     <message>
         <source>Keep editing</source>
         <translation>編集を続ける</translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking for files: %n found</source>
+        <translation>
+            <numerusform>ファイルを検索中：%n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported: %1, %2.</source>
+        <translation>取り込みました：%1、%2。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>新規 %n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>更新 %n 件</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -544,7 +558,7 @@
     </message>
     <message>
         <source>Media cannot be read. The media reader is missing: %1</source>
-        <translation>メディアを読み取れません。メディアリーダーがありません: %1</translation>
+        <translation>メディアを読み取れません。メディアリーダーがありません：%1</translation>
     </message>
     <message>
         <source>Media cannot be read. The media reader %1 cannot be started. %2</source>
@@ -688,7 +702,7 @@
     </message>
     <message>
         <source>Line %1, %2: %3</source>
-        <translation>%1 行目、%2: %3</translation>
+        <translation>%1 行目、%2：%3</translation>
     </message>
 </context>
 <context>

@@ -162,16 +162,8 @@
         <translation>가져오는 중</translation>
     </message>
     <message>
-        <source>Looking for files: %1 found</source>
-        <translation>파일을 찾는 중: %1개</translation>
-    </message>
-    <message>
         <source>The import was canceled; nothing was imported.</source>
         <translation>가져오기가 취소되어 아무것도 가져오지 않았습니다.</translation>
-    </message>
-    <message>
-        <source>Imported: %1 new, %2 updated.</source>
-        <translation>가져오기 완료: 신규 %1개, 업데이트 %2개.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -203,6 +195,28 @@
     <message>
         <source>Keep editing</source>
         <translation>계속 편집</translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking for files: %n found</source>
+        <translation>
+            <numerusform>파일을 찾는 중: %n개</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported: %1, %2.</source>
+        <translation>가져오기 완료: %1, %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>신규 %n개</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>업데이트 %n개</numerusform>
+        </translation>
     </message>
 </context>
 <context>

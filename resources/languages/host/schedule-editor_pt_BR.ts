@@ -164,16 +164,8 @@
         <translation>Importando</translation>
     </message>
     <message>
-        <source>Looking for files: %1 found</source>
-        <translation>Procurando arquivos: %1 encontrados</translation>
-    </message>
-    <message>
         <source>The import was canceled; nothing was imported.</source>
         <translation>A importação foi cancelada; nada foi adicionado.</translation>
-    </message>
-    <message>
-        <source>Imported: %1 new, %2 updated.</source>
-        <translation>Importação concluída: %1 novos, %2 atualizados.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -206,6 +198,31 @@
     <message>
         <source>Keep editing</source>
         <translation>Continuar editando</translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking for files: %n found</source>
+        <translation>
+            <numerusform>Procurando arquivos: %n encontrado</numerusform>
+            <numerusform>Procurando arquivos: %n encontrados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported: %1, %2.</source>
+        <translation>Importação concluída: %1, %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>%n novo</numerusform>
+            <numerusform>%n novos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>%n atualizado</numerusform>
+            <numerusform>%n atualizados</numerusform>
+        </translation>
     </message>
 </context>
 <context>

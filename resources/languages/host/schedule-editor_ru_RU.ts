@@ -166,16 +166,8 @@
         <translation>Импорт</translation>
     </message>
     <message>
-        <source>Looking for files: %1 found</source>
-        <translation>Поиск файлов: найдено %1</translation>
-    </message>
-    <message>
         <source>The import was canceled; nothing was imported.</source>
         <translation>Импорт отменён, ничего не добавлено.</translation>
-    </message>
-    <message>
-        <source>Imported: %1 new, %2 updated.</source>
-        <translation>Импорт завершён: добавлено %1, обновлено %2.</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -209,6 +201,34 @@
     <message>
         <source>Keep editing</source>
         <translation>Продолжить правку</translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking for files: %n found</source>
+        <translation>
+            <numerusform>Поиск файлов: найден %n</numerusform>
+            <numerusform>Поиск файлов: найдено %n</numerusform>
+            <numerusform>Поиск файлов: найдено %n</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported: %1, %2.</source>
+        <translation>Импорт завершён: %1, %2.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>добавлено %n</numerusform>
+            <numerusform>добавлено %n</numerusform>
+            <numerusform>добавлено %n</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>обновлено %n</numerusform>
+            <numerusform>обновлено %n</numerusform>
+            <numerusform>обновлено %n</numerusform>
+        </translation>
     </message>
 </context>
 <context>

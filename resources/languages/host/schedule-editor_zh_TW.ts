@@ -162,16 +162,8 @@
         <translation>正在匯入</translation>
     </message>
     <message>
-        <source>Looking for files: %1 found</source>
-        <translation>正在尋找檔案：已找到 %1 個</translation>
-    </message>
-    <message>
         <source>The import was canceled; nothing was imported.</source>
         <translation>匯入已取消，未匯入任何內容。</translation>
-    </message>
-    <message>
-        <source>Imported: %1 new, %2 updated.</source>
-        <translation>已匯入：新增 %1 個，更新 %2 個。</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -203,6 +195,28 @@
     <message>
         <source>Keep editing</source>
         <translation>繼續編輯</translation>
+    </message>
+    <message numerus="yes">
+        <source>Looking for files: %n found</source>
+        <translation>
+            <numerusform>正在尋找檔案：已找到 %n 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Imported: %1, %2.</source>
+        <translation>已匯入：%1，%2。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n new</source>
+        <translation>
+            <numerusform>新增 %n 個</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n updated</source>
+        <translation>
+            <numerusform>更新 %n 個</numerusform>
+        </translation>
     </message>
 </context>
 <context>

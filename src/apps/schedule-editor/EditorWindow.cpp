@@ -68,7 +68,7 @@ QString shownName(const QString& path)
 
 void showSearch(QProgressDialog& progress, int found)
 {
-    progress.setLabelText(EditorWindow::tr("Looking for files: %1 found").arg(found));
+    progress.setLabelText(EditorWindow::tr("Looking for files: %n found", nullptr, found));
 }
 
 /// Names a button of the toolkit in the toolkit's own words.
@@ -424,7 +424,9 @@ void EditorWindow::finishImport()
 
 void EditorWindow::reportImport(const ImportScan& scan, int added, int updated)
 {
-    statusBar()->showMessage(tr("Imported: %1 new, %2 updated.").arg(added).arg(updated));
+    statusBar()->showMessage(
+        tr("Imported: %1, %2.")
+            .arg(tr("%n new", nullptr, added), tr("%n updated", nullptr, updated)));
     if (scan.refusals.empty()) {
         return;
     }

@@ -121,7 +121,7 @@ Fault replaceFile(const QString& path, const QByteArray& content)
     const bool isThere = ::stat(name.constData(), &former) == 0;
     // Of a disk that does not answer it is not known what would be replaced.
     if (!isThere && errno != ENOENT) {
-        return qt_error_string(errno);
+        return faultOf(FaultCode::System, errno);
     }
     if (isThere && !S_ISREG(former.st_mode)) {
         return {kindOf(former.st_mode), {}};

@@ -167,7 +167,7 @@ StoreResult StoreFile::judgeHeader(qint64 applicationId, int newestSchema) const
     }
     const QByteArray header = file.read(kHeaderSize);
     if (file.error() != QFileDevice::NoError) {
-        return refusal(StoreProblem::Other, m_path, file.errorString());
+        return refusal(StoreProblem::Other, m_path, faultOf(FaultCode::System, errno));
     }
     if (header.size() < kHeaderSize || !header.startsWith(QByteArray(kMagic, sizeof kMagic))) {
         return refusal(StoreProblem::NotADatabase, m_path);
