@@ -59,7 +59,7 @@ run(ldd ${readers} OUTPUT "libavformat.*libswscale|libswscale.*libavformat" WITH
 # goes on.
 file(REMOVE ${readers})
 run(${import} ${MEDIA}/Weather.mp4 udp://@239.0.0.1:1234 STATUS 1
-  OUTPUT "Weather.mp4: Media cannot be read, .* missing: ${readers}\n.*live")
+  OUTPUT "Weather.mp4: Media cannot be read, .* missing: ${readers}\\.\n.*live")
 file(WRITE ${readers} "no program")
 run(${import} ${MEDIA}/Weather.mp4 udp://@239.0.0.1:1235 STATUS 1
   OUTPUT "Weather.mp4: Media cannot be read, .* cannot be started: ${readers}: .*live")

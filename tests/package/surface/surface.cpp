@@ -72,15 +72,17 @@ int main()
     const bool areFunctionsThere = areThere(
         &addDuration, &allTaskOverlaps, &buryInvalidEntry, &clockChanges, &collidingClaims,
         &completeNewPlan, &containsNoDuration, &countsRuns, &dateFromText, &dateToText, &digitsAt,
-        &englishClause, &englishSentence, &exceedsDay, &faultName, &firstPlanWithId,
-        &firstTaskOverlap, &followingCopy, &hasForm, &holdsAsInvalid, &insertedPlan,
-        &insertionScope, &isInvalidReadBack, &tessark::trans::isLanguageFile, &joinWeeks,
-        &lastPlanWithId, &listFromRow, &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId,
-        &offeredPrograms, &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate,
-        &programListText, &programText, &programVerdict, &tessark::trans::readLanguageFile,
-        &readPicture, &readScheduleJson, &removeFirstPlanWithId, &runsLessThanOnce,
-        &setMediaReading, &scanMedia, &scheduleFromJson, &scheduleToJson, &shownAddress,
-        &storeProblemName, &timeFromText, &timeToText, &totalText, &tessark::trans::translate,
-        &weeksOverlap, &writeScheduleFile);
+        &englishClause, &englishSentence,
+        static_cast<QString (*)(const StoreResult&)>(&englishText),
+        static_cast<QString (*)(const ScheduleFromJson&)>(&englishText), &exceedsDay, &faultName,
+        &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm, &holdsAsInvalid,
+        &insertedPlan, &insertionScope, &isInvalidReadBack, &tessark::trans::isLanguageFile,
+        &joinWeeks, &lastPlanWithId, &listFromRow, &mediaReading, &namesAnyDay, &nextClockChanges,
+        &nextPlanId, &offeredPrograms, &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd,
+        &planTemplate, &programListText, &programText, &programVerdict,
+        &tessark::trans::readLanguageFile, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
+        &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleFromJson, &scheduleToJson,
+        &shownAddress, &storeProblemName, &timeFromText, &timeToText, &totalText,
+        &tessark::trans::translate, &weeksOverlap, &writeScheduleFile);
     std::cout << (areClassesThere && areFunctionsThere ? "All there\n" : "Something is missing\n");
 }
