@@ -189,7 +189,7 @@ void tst_EditorImport::theProgressIsGoneWhenThePromptComes()
         });
         look->start(1);
     });
-    QVERIFY(isSeen);
+    QTRY_VERIFY(isSeen);
     QVERIFY(isAlone);
 }
 

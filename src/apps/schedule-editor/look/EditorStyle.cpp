@@ -45,10 +45,11 @@ void updateTableMargins(QWidget* table)
 /// families, so that after a change of language it writes with the former ones.
 QFont titleFont(const QPainter& painter, const QWidget* panel)
 {
-    QFont font = painter.font();
-    if (panel != nullptr) {
-        font.setFamilies(panel->font().families());
+    if (panel == nullptr) {
+        return painter.font();
     }
+    QFont font = painter.font();
+    font.setFamilies(panel->font().families());
     return font;
 }
 
