@@ -14,6 +14,8 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include <memory>
+
 namespace trel::mediadispatch {
 
 namespace {
@@ -49,7 +51,7 @@ scheduleControlUI::~scheduleControlUI()
 {
     // Before the window hides: a field that loses the focus takes over what is typed in it, and a
     // refusal would wait here for an answer, after the end of the program even.
-    delete m_centerWidget;
+    const std::unique_ptr<centerWidget> panel(m_centerWidget);
 }
 
 void scheduleControlUI::connectAll()
