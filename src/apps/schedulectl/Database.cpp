@@ -30,6 +30,7 @@ ScheduleHost::OpenMode modeOf(Database::Access access)
     case Database::Access::Read:
         return ScheduleHost::OpenMode::ReadOnly;
     case Database::Access::Change:
+    case Database::Access::Follow:
         return ScheduleHost::OpenMode::MustExist;
     case Database::Access::Write:
         break;
@@ -47,8 +48,14 @@ StoreResult openPart(Database::Part part, const QString& file, ScheduleHost::Ope
 
 Database::Database(const Invocation& invocation, Access access, Part part)
     : m_access(access)
+    , m_isWritable(access != Access::Read)
     , m_result(openPart(part, fileOf(invocation, access), modeOf(access)))
-{}
+{
+    if (access == Access::Follow && m_result.problem == StoreProblem::ReadOnly) {
+        m_isWritable = false;
+        m_result = openPart(part, fileOf(invocation, access), modeOf(Access::Read));
+    }
+}
 
 Database::~Database()
 {

@@ -20,6 +20,7 @@ public:
     enum class Access {
         Read,   ///< The database has to exist, and is neither changed nor waited for.
         Change, ///< It has to exist.
+        Follow, ///< As Change; one that cannot be written is only read.
         Write,  ///< It is made when it is missing.
     };
 
@@ -41,6 +42,8 @@ public:
 
     /// Absolute path.
     QString path() const;
+    /// False for one that is only read.
+    bool isWritable() const { return m_isWritable; }
     std::map<int, trel::mediadispatch::PlayTask> tasks() const;
     std::map<int, trel::mediadispatch::ProgramIten> programs() const;
     /// The name last known for an index, also of a program that was removed; empty for none.
@@ -50,6 +53,7 @@ public:
 
 private:
     Access m_access;
+    bool m_isWritable;
     trel::mediadispatch::StoreResult m_result;
 };
 

@@ -109,6 +109,7 @@ private slots:
     void findingsStandInOrder();
     void whatTheLinguistKeepsOfFormerVersionsIsPassedOver();
     void otherContextsAreUnknown();
+    void elementsMayBeNestedToAnyDepth();
     void compiledFilesAreRead();
     void compressedFilesAreRead();
     void filesThatDoNotNameTheirTextsAreRefused();
@@ -251,6 +252,22 @@ void tst_CtlLanguage::otherContextsAreUnknown()
     QCOMPARE(findings(check(translation)),
              QStringList{QStringLiteral("unknown zhEnable in context \"SheduleWidgets\" with "
                                         "disambiguation \"Dialog\"")});
+}
+
+void tst_CtlLanguage::elementsMayBeNestedToAnyDepth()
+{
+    constexpr int depth = 200000;
+    QString form = QStringLiteral("<message><source>deep</source><comment>Widget</comment>"
+                                  "<translation><numerusform>a");
+    form += QStringLiteral("<b>").repeated(depth) + QLatin1Char('c') +
+            QStringLiteral("</b>").repeated(depth);
+    form += QStringLiteral("d</numerusform></translation></message>\n");
+    Translation translation;
+    translation.addRaw(form);
+    const CtlResult result = check(translation);
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.text().contains(QStringLiteral("deep")),
+             qPrintable(result.text() + result.err));
 }
 
 void tst_CtlLanguage::compiledFilesAreRead()

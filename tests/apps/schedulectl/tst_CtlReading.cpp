@@ -108,6 +108,8 @@ private slots:
     void inAFolderThatIsMarkedReadOnly();
     void besideAWriter_data() { readingCommands(); }
     void besideAWriter();
+    void refusedRemovalsNeedNoRightToWrite();
+    void aScheduleRunsFromReadOnlyMedia();
     void theLatestCommitIsRead();
     void changesAreRefused();
     void whatOthersSaveIsReadAgain();
@@ -200,6 +202,62 @@ void tst_CtlReading::besideAWriter()
     QVERIFY2(timer.elapsed() < kAtOnce, "it has waited for the writer");
     QCOMPARE(result.out, expected.out);
     QVERIFY(writer.run("COMMIT"));
+}
+
+void tst_CtlReading::refusedRemovalsNeedNoRightToWrite()
+{
+    const CtlFixture fixture;
+    fill(fixture);
+    const auto remove = [&fixture](const char* index) {
+        return fixture.onDatabase({QStringLiteral("remove-program"), QString::fromLatin1(index)});
+    };
+    {
+        const Other writer(fixture.database());
+        QVERIFY(writer.run("BEGIN EXCLUSIVE; UPDATE store SET schedule_revision = 77"));
+        QElapsedTimer timer;
+        timer.start();
+        const CtlResult result = remove("99");
+        QVERIFY2(timer.elapsed() < kAtOnce, "it has waited for the writer");
+        QCOMPARE(result.status, 1);
+        QVERIFY2(result.err.contains(QLatin1String("no program 99")), qPrintable(result.err));
+        QVERIFY(writer.run("ROLLBACK"));
+    }
+    const QByteArray folder = QFile::encodeName(fixture.path(QString()));
+    QVERIFY(::chmod(folder.constData(), 0555) == 0);
+    const CtlResult unknown = remove("99");
+    const CtlResult known = remove("1");
+    ::chmod(folder.constData(), 0755);
+    QCOMPARE(unknown.status, 1);
+    QVERIFY2(unknown.err.contains(QLatin1String("no program 99")), qPrintable(unknown.err));
+    QCOMPARE(known.status, 1);
+    QVERIFY2(known.err.contains(QLatin1String("read-only")), qPrintable(known.err));
+    QCOMPARE(remove("1").status, 0);
+}
+
+/// And takes over what comes about there all the same.
+void tst_CtlReading::aScheduleRunsFromReadOnlyMedia()
+{
+    const CtlFixture fixture;
+    fill(fixture);
+    const QByteArray folder = QFile::encodeName(fixture.path(QString()));
+    const QByteArray file = QFile::encodeName(fixture.database());
+    QVERIFY(::chmod(file.constData(), 0444) == 0 && ::chmod(folder.constData(), 0555) == 0);
+    QProcess process;
+    fixture.start(process, {QStringLiteral("run")});
+    QByteArray lines;
+    QTRY_VERIFY_WITH_TIMEOUT(!(lines += process.readAllStandardOutput()).isEmpty(), 30000);
+    ::chmod(folder.constData(), 0755);
+    ::chmod(file.constData(), 0644);
+    {
+        const Other editor(fixture.database());
+        QVERIFY(editor.run("UPDATE task SET end_date = '2025.01.01';"
+                           "UPDATE store SET schedule_revision = schedule_revision + 1"));
+    }
+    QByteArray told;
+    QTRY_VERIFY_WITH_TIMEOUT((told += process.readAllStandardError()).contains("has saved"), 30000);
+    process.terminate();
+    QVERIFY(process.waitForFinished(30000));
+    QCOMPARE(process.exitCode(), 0);
 }
 
 void tst_CtlReading::theLatestCommitIsRead()

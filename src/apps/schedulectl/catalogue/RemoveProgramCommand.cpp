@@ -58,6 +58,15 @@ bool areKnown(const std::vector<int>& indexes, const Programs& programs, const Q
     return known;
 }
 
+/// Asks without a right to write, and without waiting for a program that writes: a refusal needs
+/// neither.
+bool canBeRemoved(const std::vector<int>& indexes, const Invocation& invocation, Console& console)
+{
+    const auto database =
+        openDatabase(invocation, Database::Access::Read, console, Database::Part::Catalogue);
+    return database && areKnown(indexes, database->programs(), database->path(), console);
+}
+
 void writeRemoval(Console& console, const std::vector<int>& indexes, const Programs& programs,
                   int plans)
 {
@@ -79,11 +88,15 @@ ExitStatus run(const Invocation& invocation, Console& console)
     if (!indexes) {
         return Misused;
     }
+    if (!canBeRemoved(*indexes, invocation, console)) {
+        return Refused;
+    }
     const auto database =
         openDatabase(invocation, Database::Access::Change, console, Database::Part::Catalogue);
     if (!database) {
         return Refused;
     }
+    // Another program may have removed one of them meanwhile.
     const Programs programs = database->programs();
     if (!areKnown(*indexes, programs, database->path(), console)) {
         return Refused;

@@ -92,13 +92,37 @@ private:
             if (m_xml.isCharacters()) {
                 single += m_xml.text();
             } else if (m_xml.isStartElement()) {
-                text.forms.append(m_xml.readElementText(QXmlStreamReader::IncludeChildElements));
+                text.forms.append(textWithin());
             }
         }
         if (text.forms.isEmpty()) {
             text.forms.append(single);
         }
         text.text = text.forms.first();
+    }
+
+    /// The text of an element and of all within it. Elements may be nested to any depth, so that
+    /// the reader's own way, which calls itself for each, would run out of stack.
+    QString textWithin()
+    {
+        QString text;
+        for (int depth = 1; depth > 0 && !m_xml.hasError();) {
+            switch (m_xml.readNext()) {
+            case QXmlStreamReader::StartElement:
+                ++depth;
+                break;
+            case QXmlStreamReader::EndElement:
+                --depth;
+                break;
+            case QXmlStreamReader::Characters:
+            case QXmlStreamReader::EntityReference:
+                text += m_xml.text();
+                break;
+            default:
+                break;
+            }
+        }
+        return text;
     }
 
     QXmlStreamReader m_xml;

@@ -16,7 +16,8 @@ ExitStatus run(const Invocation& invocation, Console& console)
     if (!knowsLocalTime(console)) {
         return Refused;
     }
-    const auto database = openDatabase(invocation, Database::Access::Change, console);
+    // Only who could write is told when another program is about to commit.
+    const auto database = openDatabase(invocation, Database::Access::Follow, console);
     if (!database) {
         return Refused;
     }

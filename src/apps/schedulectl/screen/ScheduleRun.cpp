@@ -23,6 +23,9 @@ namespace {
 constexpr std::chrono::milliseconds kCommitPause{50};
 /// How long a file is left alone that cannot be read.
 constexpr std::chrono::seconds kLossPause{2};
+/// How often a file is read that cannot be written: it may tell too early of what is written into
+/// it, and not at all of what a server holds.
+constexpr std::chrono::seconds kReadingPause{2};
 
 /// What a line tells; the position in the program goes on without an event.
 auto toldOf(const ScreenState& state)
@@ -49,7 +52,9 @@ ScheduleRun::ScheduleRun(const Database& database, bool json, Console& console)
 
 ExitStatus ScheduleRun::run()
 {
-    if (!m_watch.isWatching()) {
+    if (!m_database.isWritable()) {
+        m_nextLook.start(kReadingPause);
+    } else if (!m_watch.isWatching()) {
         m_console.tell(QStringLiteral("The system does not tell of changes of files; what other "
                                       "programs save will not be taken over."));
     }
@@ -85,6 +90,9 @@ void ScheduleRun::takeOver()
     } else {
         tellOfLoss(result);
         m_nextLook.start(kLossPause);
+    }
+    if (result && !m_database.isWritable()) {
+        m_nextLook.start(kReadingPause);
     }
     if (isAnother) {
         m_console.tell(QStringLiteral("Another program has saved the schedule; %1 in effect.")
