@@ -55,13 +55,21 @@ void Console::writeExport(const QByteArray& utf8)
 void Console::writeResult(const QByteArray& utf8)
 {
     clearProgress();
-    m_hasFailed = !writeBytes(stdout, utf8) || m_hasFailed;
+    note(writeBytes(stdout, utf8));
 }
 
 bool Console::flush()
 {
-    m_hasFailed = std::fflush(stdout) != 0 || m_hasFailed;
-    return !m_hasFailed;
+    note(std::fflush(stdout) == 0);
+    return arrives();
+}
+
+/// The system's error is that of the first failure: what comes later has errors of its own.
+void Console::note(bool hasArrived)
+{
+    if (!hasArrived && m_error == 0) {
+        m_error = errno != 0 ? errno : EIO;
+    }
 }
 
 void Console::writeJson(const QJsonObject& object)
@@ -100,11 +108,11 @@ void Console::showProgress(int done, int total, const QString& what)
 
 QString Console::finish()
 {
-    if (std::fflush(stdout) == 0 && !m_hasFailed) {
+    if (flush()) {
         return {};
     }
     return QStringLiteral("The results could not all be written: %1.")
-        .arg(QString::fromLocal8Bit(std::strerror(errno)));
+        .arg(QString::fromLocal8Bit(std::strerror(m_error)));
 }
 
 void Console::clearProgress()

@@ -27,7 +27,7 @@ public:
     /// Writes an export as it is; nothing in it may be what a terminal would obey.
     void writeExport(const QByteArray& utf8);
     /// False once something that was written did not arrive.
-    bool arrives() const { return !m_hasFailed; }
+    bool arrives() const { return m_error == 0; }
 
     /// Hands over what was written so far, so that a reader at the other end has it; false when
     /// that, or anything written before, did not arrive.
@@ -48,10 +48,11 @@ public:
 
 private:
     void writeResult(const QByteArray& utf8);
+    void note(bool hasArrived);
     void clearProgress();
 
     bool m_showsProgress = false;
-    bool m_hasFailed = false;
+    int m_error = 0; ///< Why a result did not arrive, as errno.
 };
 
 } // namespace trel::console
