@@ -56,7 +56,7 @@ void allowOffScreen()
     qputenv("QT_QPA_PLATFORM", platforms.join(';'));
 }
 
-bool nobodyWatches()
+bool isOffScreen()
 {
     return QGuiApplication::platformName() == QLatin1String("offscreen") ||
            QGuiApplication::platformName() == QLatin1String("minimal");
@@ -120,8 +120,8 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     QGuiApplication::setWindowIcon(look::imageIcon(QStringLiteral("schedule-editor"), QColor()));
     Themes themes(application);
 
-    const bool unattended = nobodyWatches() || !options.screenshot.isEmpty();
-    if (nobodyWatches()) {
+    const bool unattended = isOffScreen() || !options.screenshot.isEmpty();
+    if (isOffScreen()) {
         QTextStream(stdout) << "There is no display; running off screen." << Qt::endl;
     }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "trelprogramschedule/media/MediaFacts.h"
+#include "service/ScheduleRecords.h"
+#include "trelprogramschedule/faults/Fault.h"
 #include "trelprogramschedule/media/MediaPicture.h"
 #include "trelprogramschedule/media/MediaProtocol.h"
 #include "trelprogramschedule/media/MediaReading.h"
@@ -11,6 +12,14 @@
 namespace trel::mediadispatch {
 
 class MediaFile;
+
+/// What a file turned out to be.
+struct MediaFacts
+{
+    ProgramKind kind = ProgramKind::Other;
+    double durationMs = 0.0; ///< 0 for an image.
+    Fault fault;             ///< Why the file cannot become a program; none when it can.
+};
 
 /// Has media files read by a program of its own, since they come from anywhere, and the libraries
 /// that read them are large. The program is started with the first file and serves all of them. One
