@@ -48,9 +48,9 @@ void takeRow(const QSqlQuery& row, StoreContents& contents)
 
 } // namespace
 
-StoreCatalogue::StoreCatalogue(const StoreConnection& connection, const QString& path)
+StoreCatalogue::StoreCatalogue(const StoreConnection& connection, QString path)
     : m_connection(connection)
-    , m_path(path)
+    , m_path(std::move(path))
     , m_nextIndex(connection.value(QStringLiteral("SELECT next_prog_index FROM store")).toInt())
     , m_find(connection.prepare(
           QStringLiteral("SELECT prog_index FROM program WHERE media_path = ? AND removed = 0")))

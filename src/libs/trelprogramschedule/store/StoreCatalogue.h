@@ -17,7 +17,7 @@ struct MediaSource;
 class StoreCatalogue
 {
 public:
-    StoreCatalogue(const StoreConnection& connection, const QString& path);
+    StoreCatalogue(const StoreConnection& connection, QString path);
 
     void read(StoreContents& contents) const;
     /// Reads some programs; an index that is not in the catalogue is passed over.
@@ -34,7 +34,7 @@ private:
     int giveOutIndex();
 
     const StoreConnection& m_connection;
-    const QString& m_path;
+    QString m_path;
     int m_nextIndex;
     std::set<int> m_done; ///< What was put so far; a path may come twice.
     QSqlQuery m_find;

@@ -11,9 +11,9 @@
 
 namespace trel::mediadispatch {
 
-StoreTaskReader::StoreTaskReader(const StoreConnection& connection, const QString& path)
+StoreTaskReader::StoreTaskReader(const StoreConnection& connection, QString path)
     : m_connection(connection)
-    , m_path(path)
+    , m_path(std::move(path))
     , m_current(m_tasks.end())
 {}
 

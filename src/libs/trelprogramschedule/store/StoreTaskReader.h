@@ -17,7 +17,7 @@ class StoreConnection;
 class StoreTaskReader
 {
 public:
-    StoreTaskReader(const StoreConnection& connection, const QString& path);
+    StoreTaskReader(const StoreConnection& connection, QString path);
 
     TaskMap read();
 
@@ -41,7 +41,7 @@ private:
     [[noreturn]] void refuse() const;
 
     const StoreConnection& m_connection;
-    const QString& m_path;
+    QString m_path;
     TaskMap m_tasks;
     TaskMap::iterator m_current;
 };
