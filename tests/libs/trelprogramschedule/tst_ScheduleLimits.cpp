@@ -18,6 +18,20 @@ namespace {
 
 using Schedule = std::map<int, PlayTask>;
 
+std::string& textOf(const QString& kind, PlayTask& task, PlayPlan& plan)
+{
+    const std::map<QString, std::string*> texts = {
+        {QStringLiteral("start date"), &task.startDate},
+        {QStringLiteral("end date"), &task.endDate},
+        {QStringLiteral("weeks"), &plan.weeks},
+        {QStringLiteral("start"), &plan.startTime},
+        {QStringLiteral("end"), &plan.endTime},
+        {QStringLiteral("service time"), &plan.serviceTime},
+        {QStringLiteral("text"), &plan.programs.front().progName},
+    };
+    return *texts.at(kind);
+}
+
 /// More of one kind than a schedule may hold.
 Schedule beyond(const QString& kind)
 {
@@ -41,7 +55,7 @@ Schedule beyond(const QString& kind)
         task.plans = {plan};
     } else {
         plan.programs.resize(1);
-        plan.programs.front().progName = std::string(kLongestText + 1, 'x');
+        textOf(kind, task, plan) = std::string(kLongestText + 1, 'x');
         task.plans = {plan};
     }
     return {{1, task}};
@@ -80,7 +94,10 @@ void tst_ScheduleLimits::tooMuchIsRefused_data()
     QTest::newRow("plans") << QString::number(kMostPlans);
     QTest::newRow("entries") << QString::number(kMostEntries);
     QTest::newRow("numbers") << QString::number(kMostServiceValues);
-    QTest::newRow("text") << QString::number(kLongestText);
+    for (const char* text :
+         {"text", "start date", "end date", "weeks", "start", "end", "service time"}) {
+        QTest::newRow(text) << QString::number(kLongestText);
+    }
 }
 
 void tst_ScheduleLimits::tooMuchIsRefused()

@@ -151,6 +151,10 @@ void tst_ScheduleCheck::remarksNameTaskRowAndField()
     tasks[4].startDate = "2024.02.02";
     tasks[4].endDate = "2024.02.01";
     tasks[5].id = 5;
+    // A date that is none lies before no other.
+    tasks[6].id = 6;
+    tasks[6].startDate = "2024.02.02";
+    tasks[6].endDate = "2024.02.00";
     QCOMPARE(
         remarks(checkSchedule(tasks, catalogue())),
         (QStringList{
@@ -160,6 +164,7 @@ void tst_ScheduleCheck::remarksNameTaskRowAndField()
             QStringLiteral("4/-1 endDate: \"2024.02.01\" lies before the start date"),
             QStringLiteral("5/-1 startDate: \"\" is not a date in the form yyyy.MM.dd"),
             QStringLiteral("5/-1 endDate: \"\" is not a date in the form yyyy.MM.dd"),
+            QStringLiteral("6/-1 endDate: \"2024.02.00\" is not a date in the form yyyy.MM.dd"),
         }));
 }
 

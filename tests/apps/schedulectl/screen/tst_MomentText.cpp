@@ -72,6 +72,9 @@ void tst_MomentText::read_data()
     row("23:30Z", "2024-06-15 23:30:00.000");
     row("2024-02-29 00:00", "2024-02-28 23:00:00.000");
     row("0001-01-01 00:00Z", "0001-01-01 00:00:00.000");
+    row("9999-12-31 23:59:59.999Z", "9999-12-31 23:59:59.999");
+    row("2024-07-31 08:00+00:59:59", "2024-07-31 07:00:01.000");
+    row("2024-07-31 08:00 +14:00:00", "2024-07-30 18:00:00.000");
 
     row("2024-03-31 01:59:59", "2024-03-31 00:59:59.000");
     row("2024-03-31 02:00",
@@ -119,6 +122,10 @@ void tst_MomentText::places_data()
     row("2024-01-00 08:00", 9, "a day from 01 to 31");
     row("2024-02-30 08:00", 9, "a day from 01 to 29");
     row("2023-02-29 08:00", 9, "a day from 01 to 28");
+    row("2024-01x31 08:00", 8, "\"-\"");
+    // The characters right before and behind the digits.
+    row("2024-01-3: 08:00", 9, "a day from 01 to 31");
+    row("2024-01-/1 08:00", 9, "a day from 01 to 31");
     row("2024-02-29", 11, "a blank or \"T\" and a time of day");
     row("2024-02-29  08:00", 12, "an hour from 00 to 23");
     row("2024-02-29t08:00", 11, "a blank or \"T\" and a time of day");
@@ -137,6 +144,7 @@ void tst_MomentText::places_data()
     row("2024-02-29 08:00+1", 18, "hours of an offset from 00 to 14");
     row("2024-02-29 08:00+15", 18, "hours of an offset from 00 to 14");
     row("2024-02-29 08:00+14:30", 21, "minutes of an offset from 00 to 00");
+    row("2024-02-29 08:00+01:60", 21, "minutes of an offset from 00 to 59");
     row("2024-02-29 08:00+01:00:60", 24, "seconds of an offset from 00 to 59");
     row("2024-02-29 08:00+14:00:01", 24, "seconds of an offset from 00 to 00");
     row("2024-02-29 08:00+01:", 21, "minutes of an offset from 00 to 59");
