@@ -21,6 +21,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTableView>
@@ -35,6 +36,8 @@ namespace {
 
 /// Longer than any import, in milliseconds.
 constexpr int kNever = 3600000;
+/// How often it is looked for what follows a dialog, in milliseconds.
+constexpr int kSecondLook = 50;
 
 } // namespace
 
@@ -166,15 +169,21 @@ void HostPictures::drawPrompts()
     QObject::connect(&rescue, &SaveRescue::givenUp, &manager, &scheduleManage::updateUItask);
     const QFile::Permissions former = QFile::permissions(store);
     QFile::setPermissions(store, QFile::ReadOwner);
-    // A question that is closed comes back, and is answered then.
+    // A question that is closed comes back, and is answered then, however long that takes.
+    QPointer<QWidget> drawn;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, &m_window, [&drawn, &answer] {
+        QWidget* const again = QApplication::activeModalWidget();
+        if (again != nullptr && again != drawn) {
+            answer.stop();
+            again->findChild<QPushButton*>(QStringLiteral("tipButton3"))->click();
+        }
+    });
     m_files.saveDialog(
         m_window, QStringLiteral("prompt-not-saved"), [&manager] { manager.save(); },
-        [this](QWidget* /*prompt*/) {
-            QTimer::singleShot(50, &m_window, [] {
-                QApplication::activeModalWidget()
-                    ->findChild<QPushButton*>(QStringLiteral("tipButton3"))
-                    ->click();
-            });
+        [&drawn, &answer](QWidget* prompt) {
+            drawn = prompt;
+            answer.start(kSecondLook);
         });
     QFile::setPermissions(store, former);
     manager.updateUItask();
