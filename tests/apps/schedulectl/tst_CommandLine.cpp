@@ -118,6 +118,15 @@ void tst_CommandLine::read_data()
     row("list x", "misuse: The command \"list\" does not know what to do with \"x\".");
     row("lsit", "misuse: There is no command \"lsit\". Did you mean \"list\"?");
     row("gahter a", "misuse: There is no command \"gahter\". Did you mean \"gather\"?");
+    // A letter more, less or other counts as one; three are too many.
+    row("lists", "misuse: There is no command \"lists\". Did you mean \"list\"?");
+    row("lisst", "misuse: There is no command \"lisst\". Did you mean \"list\"?");
+    row("li", "misuse: There is no command \"li\". Did you mean \"list\"?");
+    row("lxxt", "misuse: There is no command \"lxxt\". Did you mean \"list\"?");
+    row("l", "misuse: There is no command \"l\".");
+    row("listing", "misuse: There is no command \"listing\".");
+    row("outlist", "misuse: There is no command \"outlist\".");
+    row("lxxx", "misuse: There is no command \"lxxx\".");
     row("something else", "misuse: There is no command \"something\".");
     row("List", "misuse: There is no command \"List\". Did you mean \"list\"?");
     row("--help", "help");

@@ -4,8 +4,10 @@ Started by scripts/mutate, which says how it is used.
 """
 
 import argparse
+import hashlib
 import json
 import os
+import pickle
 import random
 import shlex
 import subprocess
@@ -142,6 +144,21 @@ def shares(counts, wanted):
 
 def choose(seed, wanted, sources):
     """The changes of a seed: pairs of file and site, in the order of the files."""
+    # Reading all sources takes minutes, and gives the same as long as nothing of this changes.
+    asked = hashlib.sha256(f"{seed} {wanted}".encode())
+    for part in [*(ROOT / name for name in sources), *Path(__file__).parent.glob("s*.py")]:
+        asked.update(part.read_bytes())
+    kept = SCRATCH / "choice"
+    if kept.exists():
+        key, chosen = pickle.loads(kept.read_bytes())
+        if key == asked.digest():
+            return chosen
+    chosen = draw(seed, wanted, sources)
+    kept.write_bytes(pickle.dumps((asked.digest(), chosen)))
+    return chosen
+
+
+def draw(seed, wanted, sources):
     arguments = compile_arguments()
     drawn = {}
     for name in sources:

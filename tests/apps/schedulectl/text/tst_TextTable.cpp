@@ -41,6 +41,7 @@ void tst_TextTable::displayWidthCountsColumns_data()
     QTest::newRow("emoji") << QString::fromUtf8("\xF0\x9F\x8E\xAC") << 2;
     QTest::newRow("rare Chinese") << QString::fromUtf8("\xF0\xA0\x80\x80") << 2;
     QTest::newRow("Arabic") << QStringLiteral("\u062e\u0628\u0631") << 3;
+    QTest::newRow("ring around") << QStringLiteral("1\u20dd") << 1;
     QTest::newRow("joiner") << QStringLiteral("a\u200db") << 2;
 }
 
@@ -62,6 +63,12 @@ void tst_TextTable::printableHidesNothing_data()
     QTest::newRow("NUL") << QString(QChar(0)) << QStringLiteral("\\x00");
     QTest::newRow("upper controls") << QStringLiteral("\u009b") << QStringLiteral("\\x9b");
     QTest::newRow("line separator") << QStringLiteral("\u2028") << QStringLiteral("\\u2028");
+    QTest::newRow("paragraph separator") << QStringLiteral("\u2029") << QStringLiteral("\\u2029");
+    QTest::newRow("as long as may be")
+        << QString(512, QLatin1Char('x')) << QString(512, QLatin1Char('x'));
+    QTest::newRow("too long") << QString(513, QLatin1Char('x'))
+                              << QString(255, QLatin1Char('x')) + QChar(0x2026) +
+                                     QString(256, QLatin1Char('x'));
     QTest::newRow("direction") << QStringLiteral("a\u202egpm") << QStringLiteral("a\\u202egpm");
     QTest::newRow("emoji stays") << QString::fromUtf8("\xF0\x9F\x8E\xAC")
                                  << QString::fromUtf8("\xF0\x9F\x8E\xAC");

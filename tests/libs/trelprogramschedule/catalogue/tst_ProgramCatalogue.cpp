@@ -1,5 +1,6 @@
 #include "SignalCounts.h"
 #include "StoreFixture.h"
+#include "catalogue/ProgramCatalogue.h"
 #include "faults/FaultWords.h"
 #include "store/ScheduleDatabase.h"
 #include "store/StoreConnection.h"
@@ -62,6 +63,7 @@ private slots:
     void removedProgramKeepsItsName();
     void removedProgramMarksEntries();
     void fileThatHasGone();
+    void filesAsTheyWereChangeNothing();
     void liveSourcesAreAlwaysThere();
     void oddSources();
     void emissions();
@@ -226,6 +228,36 @@ void tst_ProgramCatalogue::fileThatHasGone()
     QVERIFY(store.host.reload());
     QVERIFY(!store.manager.getProgramItemByIndex(1).isNull);
     QCOMPARE(counts.take(), QStringLiteral("programs, catalogue"));
+}
+
+void tst_ProgramCatalogue::filesAsTheyWereChangeNothing()
+{
+    ProgramCatalogue catalogue;
+    for (const int index : {1, 2}) {
+        ProgramIten program;
+        program.progIndex = index;
+        program.mediaPath = "/nowhere/" + std::to_string(index);
+        catalogue.put(program);
+    }
+    const auto file = [](int index, bool isThere) {
+        return ProgramFile{index, QStringLiteral("/nowhere/%1").arg(index), isThere};
+    };
+    const auto before = catalogue.shared();
+    QVERIFY(!catalogue.takeFiles({}));
+    QVERIFY(!catalogue.takeFiles({file(1, true), file(2, true)}));
+    // Taken out while its file was looked for.
+    QVERIFY(!catalogue.takeFiles({file(3, false)}));
+    QVERIFY(!catalogue.checkFile(3));
+    QCOMPARE(catalogue.shared(), before);
+
+    QVERIFY(catalogue.takeFiles({file(1, false), file(2, true)}));
+    QVERIFY(catalogue.shared() != before);
+    QVERIFY(catalogue.programs().at(1).isNull);
+    QVERIFY(!catalogue.programs().at(2).isNull);
+    QVERIFY(!catalogue.takeFiles({file(1, false)}));
+    QVERIFY(catalogue.takeFiles({file(1, true), file(2, false)}));
+    QVERIFY(!catalogue.programs().at(1).isNull);
+    QVERIFY(catalogue.programs().at(2).isNull);
 }
 
 void tst_ProgramCatalogue::liveSourcesAreAlwaysThere()

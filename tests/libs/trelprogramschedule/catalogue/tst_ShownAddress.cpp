@@ -106,6 +106,7 @@ void tst_ShownAddress::everythingElseStays_data()
                              "rtsp://user@camera:554/a:b",
                              "rtsp://camera:554/live@1",
                              "rtsp://camera:554",
+                             "rtsp://camera:port/1",
                              "rtsp://camera/a:b@c",
                              "rtsp://[fe80::1]/a@b",
                              "udp://@239.0.0.1:1234",
