@@ -62,6 +62,8 @@ private slots:
     void plansOfATaskThatStays();
     void aNewCatalogueMovesTheEndsOfRuns();
     void stopsWhenItIsTold();
+    void theDayItselfCounts_data();
+    void theDayItselfCounts();
 };
 
 void tst_ClockChangeSearch::tasksComeAndGo()
@@ -120,6 +122,30 @@ void tst_ClockChangeSearch::stopsWhenItIsTold()
     QCOMPARE(search.found(9, [&steps] { return steps-- > 0; }).size(), 2);
     QCOMPARE(search.found(9, [] { return true; }).size(), 6);
     QCOMPARE(search.found(3).size(), 3);
+}
+
+// East of Greenwich a local day, and a change on it, begins on the day before in universal time.
+void tst_ClockChangeSearch::theDayItselfCounts_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<QDate>("day");
+    QTest::newRow("a Sunday") << QByteArray("Europe/Berlin") << QDate(2027, 3, 28);
+    QTest::newRow("a Monday") << QByteArray("Asia/Tehran") << QDate(2021, 3, 22);
+    QTest::newRow("from midnight on") << QByteArray("Asia/Beirut") << QDate(2026, 3, 29);
+    QTest::newRow("far in the east") << QByteArray("Australia/Lord_Howe") << QDate(2026, 10, 4);
+    QTest::newRow("a day that is left out") << QByteArray("Pacific/Apia") << QDate(2011, 12, 30);
+    QTest::newRow("in the west") << QByteArray("America/Havana") << QDate(2026, 11, 1);
+}
+
+void tst_ClockChangeSearch::theDayItselfCounts()
+{
+    QFETCH(QByteArray, zone);
+    QFETCH(QDate, day);
+    ClockChangeSearch search{QTimeZone(zone)};
+    search.setTask(1, task("1 2000.01.01-2030.12.31"));
+    const std::vector<TaskClockChange> found = search.next(day, 1);
+    QCOMPARE(found.size(), std::size_t(1));
+    QCOMPARE(found.front().change.date, day);
 }
 
 TREL_TEST(tst_ClockChangeSearch, QCoreApplication)

@@ -249,6 +249,14 @@ void tst_PlaySearch::tellsWhenAListIsOver()
     QCOMPARE(after("2024.03.04 11:10:00", insertions),
              QStringLiteral("2024.03.04 11:10:14.000 0 black"));
     QCOMPARE(after("2024.03.04 11:09:00", insertions), QStringLiteral("none"));
+    QVERIFY(!timeline.nextPlay(moment("2024.03.04 11:10:00"), moment("2024.03.04 11:30:00"),
+                               insertions, only('C')));
+    // Nothing comes behind the last plan of all, and so nothing ends this.
+    insertion.plan = planFromText(QStringLiteral("11:00:00-12:00:00 I"));
+    insertion.plan.serviceFlagB = true;
+    QCOMPARE(after("2024.03.04 13:00:00",
+                   timeline.withInsertion({}, insertion, moment("2024.03.04 13:00:00"), false)),
+             QStringLiteral("none"));
 }
 
 // A list of ten minutes that the clock is put back at the end of is over in its second pass alone;
@@ -258,7 +266,8 @@ void tst_PlaySearch::tellsWhenAListIsOverInNightsOfChange()
     const QTimeZone berlin("Europe/Berlin");
     const Schedule tasks = schedule("1 2024.03.31-2024.03.31 / 01:50:00-03:10:00 A*120 mode=7 "
                                     "times=1 | 2 2024.10.27-2024.10.27 / 02:50:00-03:10:00 A*60 "
-                                    "mode=7 times=1");
+                                    "mode=7 times=1 | 3 2025.10.26-2025.10.26 / 01:50:00-03:10:00 "
+                                    "A*420 mode=7 times=1");
     const ScreenTimeline timeline(tasks, lettersCatalogue(), berlin);
     const auto after = [&](const char* asked) {
         const Found found = timeline.afterList(timeline.at(moment(asked, berlin)), {});
@@ -267,6 +276,8 @@ void tst_PlaySearch::tellsWhenAListIsOverInNightsOfChange()
     QCOMPARE(after("2024.03.31 01:55:00"), QStringLiteral("2024.03.31 03:00:00.000 2"));
     QCOMPARE(after("2024.10.27 02:55:00 2"), QStringLiteral("none"));
     QCOMPARE(after("2024.10.27 02:55:00 1"), QStringLiteral("2024.10.27 03:00:00.000 1"));
+    // As the clock is put back the list is over, and so it is played on from where it was at two.
+    QCOMPARE(after("2025.10.26 01:55:00 2"), QStringLiteral("2025.10.26 03:00:00.000 1"));
 }
 
 void tst_PlaySearch::asAWalkFindsIt_data()
