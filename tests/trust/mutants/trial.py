@@ -6,6 +6,7 @@ import resource
 import shutil
 import signal
 import subprocess
+import tempfile
 import time
 from pathlib import Path
 
@@ -32,9 +33,7 @@ class Trial:
     def run(self, name, limit, mutant=None):
         """Runs a test of the given name. Returns its seconds, and whether it passed in time."""
         command, settings = self.tests[name]
-        temporary = self.scratch / "tmp"
-        shutil.rmtree(temporary, ignore_errors=True)
-        temporary.mkdir()
+        temporary = Path(tempfile.mkdtemp(dir=self.scratch))
         environment = dict(os.environ, **settings, TMPDIR=str(temporary))
         if mutant is None:
             self.reached_file.write_bytes(bytes(REACHED_BYTES))
@@ -57,6 +56,7 @@ class Trial:
         except ProcessLookupError:
             pass
         process.wait()
+        shutil.rmtree(temporary, ignore_errors=True)
         return seconds, passed
 
     def reached(self):
