@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 #include "Commands.h"
+#include "LackOfMemory.h"
 #include "text/Console.h"
 #include "text/HelpText.h"
 
@@ -32,9 +33,8 @@ ExitStatus obey(const CommandLine& line, Console& console)
     return Misused;
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+/// Lets no exception out: where memory has run out, nothing is unwound.
+ExitStatus run(int& argc, char** argv) noexcept
 {
     // A file that may not grow is refused like a full disk, with a message.
     std::signal(SIGXFSZ, SIG_IGN);
@@ -52,4 +52,15 @@ int main(int argc, char** argv)
         return status == Done ? Refused : status;
     }
     return status;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    endWhereMemoryRunsOut();
+    // Which ends a program by itself where memory runs out, and is of no use to one without
+    // windows.
+    qputenv("QT_NO_GLIB", "1");
+    return run(argc, argv);
 }

@@ -6,6 +6,7 @@
 #include <QTranslator>
 
 #include <map>
+#include <new>
 #include <utility>
 
 namespace tessark::trans {
@@ -63,7 +64,7 @@ Translator::Translator()
 Translator::~Translator() = default;
 
 bool Translator::load(const QString& file)
-{
+try {
     const std::optional<LanguageFile> read = readLanguageFile(file);
     if (!read) {
         return false;
@@ -76,6 +77,8 @@ bool Translator::load(const QString& file)
     d->languages[named.isEmpty() ? QFileInfo(file).completeBaseName() : named] =
         std::move(language);
     return true;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 void Translator::switchLanguage(const QString& language)

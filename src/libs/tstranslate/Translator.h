@@ -24,8 +24,8 @@ public:
 
     /// Loads a language file whole into memory; the file may change or go afterwards. A second file
     /// of a language takes the place of the first. Returns false, and leaves every language as it
-    /// was, for a file that is missing, without texts, damaged or no language file, and for one
-    /// that refers to other files.
+    /// was, for a file that is missing, without texts, damaged or no language file, for one that
+    /// refers to other files, and for lack of memory.
     bool load(const QString& file);
 
     /// Selects the language of later lookups, by name, such as "zh_CN". A name that was not loaded

@@ -32,13 +32,6 @@ QByteArray modeOf(const QString& path)
     return QByteArray::number(int(QFile::permissions(path)), 16) + '\n';
 }
 
-/// Without a disk behind it, where there is such a folder.
-QString quickFolder()
-{
-    const QString memory = QStringLiteral("/dev/shm");
-    return QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
-}
-
 bool write(const QString& path, const QByteArray& content)
 {
     QFile file(path);
@@ -81,7 +74,6 @@ const std::vector<WritingCommand>& writingCommands()
 
 TrialFolder::TrialFolder(QString console)
     : m_console(std::move(console))
-    , m_folder(quickFolder() + QStringLiteral("/trust-XXXXXX"))
 {
     QDir(m_folder.path()).mkpath(QStringLiteral("work"));
     const QString store = filePath(kStore);

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "QuickFolder.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include <map>
 #include <vector>
@@ -49,6 +50,6 @@ private:
     QByteArray storeContents() const;
 
     QString m_console;
-    QTemporaryDir m_folder;
+    QuickFolder m_folder;
     std::map<QString, std::map<QString, QByteArray>> m_states;
 };

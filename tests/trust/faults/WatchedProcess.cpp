@@ -29,7 +29,6 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::seconds kLongest{30};
 constexpr int kPathRoom = 4096;
 
 /// Where a call says which file it is about.
@@ -293,9 +292,10 @@ const char* nameOf(FileCall call)
     return names[int(call)];
 }
 
-WatchedProcess::WatchedProcess(QString program, QString folder)
+WatchedProcess::WatchedProcess(QString program, QString folder, std::chrono::seconds patience)
     : m_program(std::move(program))
     , m_folder(std::move(folder))
+    , m_patience(patience)
 {}
 
 bool WatchedProcess::isPossible()
@@ -333,9 +333,14 @@ ProcessEnd WatchedProcess::run(const QStringList& arguments, const Decide& decid
     if (notes >= 0) {
         Listener listener(notes, process, QFile::encodeName(m_folder), decide);
         const bool isToBeKilled = killAfter > 0us;
-        const auto until = Clock::now() + (isToBeKilled ? killAfter : kLongest);
+        const auto until = Clock::now() + (isToBeKilled ? killAfter : m_patience);
         if (!listener.listen(until)) {
             end.isLate = !isToBeKilled;
+            if (end.isLate) {
+                // It may say where it waits.
+                ::kill(process, SIGABRT);
+                listener.listen(Clock::now() + 1s);
+            }
             ::kill(process, SIGKILL);
         }
     }

@@ -52,17 +52,19 @@ public:
     using Decide = std::function<CallFate(FileCall)>;
 
     /// The folder is an absolute path without links, and the program names its files by it.
-    WatchedProcess(QString program, QString folder);
+    /// A program that has not ended when the patience is over is killed.
+    WatchedProcess(QString program, QString folder,
+                   std::chrono::seconds patience = std::chrono::seconds(30));
 
     /// Whether this system can do it.
     static bool isPossible();
 
-    /// Runs it to its end. Where it has not ended after some time, it is killed; so it is after a
-    /// delay, where one is given.
+    /// Runs it to its end, or kills it after a delay, where one is given.
     ProcessEnd run(const QStringList& arguments, const Decide& decide,
                    std::chrono::microseconds killAfter = {}) const;
 
 private:
     QString m_program;
     QString m_folder;
+    std::chrono::seconds m_patience;
 };

@@ -2,6 +2,7 @@
 
 #include "FuzzTarget.h"
 
+#include "QuickFolder.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
@@ -9,7 +10,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstring>
@@ -29,12 +29,9 @@ constexpr std::size_t kPageSizePlace = 16;
 /// Stands between the pages of a database and those of its log, which an input may hold as well.
 const QByteArray kLogMark = QByteArrayLiteral("--the log of the database--");
 
-/// A folder without a disk behind it, where there is one.
-QTemporaryDir& folder()
+const QuickFolder& folder()
 {
-    static QTemporaryDir instance(QDir(QStringLiteral("/dev/shm")).exists()
-                                      ? QStringLiteral("/dev/shm/trust-XXXXXX")
-                                      : QDir::tempPath() + QStringLiteral("/trust-XXXXXX"));
+    static const QuickFolder instance;
     return instance;
 }
 

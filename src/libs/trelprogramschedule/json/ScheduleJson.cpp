@@ -8,6 +8,7 @@
 #include <QTextCodec>
 
 #include <charconv>
+#include <new>
 
 namespace trel::mediadispatch {
 
@@ -383,7 +384,7 @@ QByteArray scheduleToJson(const std::map<int, PlayTask>& tasks)
 }
 
 ScheduleFromJson scheduleFromJson(const QByteArray& json)
-{
+try {
     const ParsedJson parsed = parseJson(json);
     if (parsed.fault) {
         return {{}, parsed.fault, {}, 0};
@@ -399,6 +400,8 @@ ScheduleFromJson scheduleFromJson(const QByteArray& json)
     } catch (const JsonRefusal& refusal) {
         return {{}, refusal.fault, jsonPath(parsed.top, *refusal.value), refusal.value->line};
     }
+} catch (const std::bad_alloc&) {
+    return {{}, {FaultCode::NoMemory, {}}, {}, 0};
 }
 
 QByteArray readScheduleJson(QIODevice& device)

@@ -16,6 +16,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <new>
 #include <utility>
 
 namespace trel::mediadispatch {
@@ -29,15 +30,23 @@ constexpr std::chrono::seconds kReadingTime{30};
 /// How often the file is looked at without its taking notice while others open and close it.
 constexpr int kMostLooks = 5;
 
-/// Turns the errors of the database within an action into its result.
+/// Takes no memory itself.
+StoreResult lackOfMemory(const QString& path)
+{
+    return {StoreProblem::Other, path, {FaultCode::NoMemory, {}}};
+}
+
+/// Turns the errors of the database within an action on a file into its result.
 template <typename Action>
-StoreResult attempt(const Action& action)
+StoreResult attempt(const QString& path, const Action& action)
 {
     try {
         action();
         return {};
     } catch (const StoreError& error) {
         return error.result;
+    } catch (const std::bad_alloc&) {
+        return lackOfMemory(path);
     }
 }
 
@@ -70,7 +79,7 @@ ScheduleDatabase::ScheduleDatabase() = default;
 ScheduleDatabase::~ScheduleDatabase() = default;
 
 StoreResult ScheduleDatabase::open(const QString& path, StoreOpenMode mode, StorePart part)
-{
+try {
     close();
     m_file = StoreFile(path);
     m_mode = mode;
@@ -93,6 +102,9 @@ StoreResult ScheduleDatabase::open(const QString& path, StoreOpenMode mode, Stor
         m_file.removeLeftDrafts();
     }
     return result;
+} catch (const std::bad_alloc&) {
+    close();
+    return lackOfMemory(path);
 }
 
 StoreResult ScheduleDatabase::judge() const
@@ -107,7 +119,7 @@ StoreResult ScheduleDatabase::create() const
     if (!m_file.makeDraft()) {
         return refusalOfSystem(errno, m_file.path());
     }
-    StoreResult result = attempt([this] {
+    StoreResult result = attempt(m_file.path(), [this] {
         const StoreConnection connection(m_file.draftPath(), StoreConnection::Access::Create);
         StoreSchema::migrate(connection);
         connection.run(QStringLiteral("PRAGMA journal_mode = WAL"));
@@ -141,7 +153,10 @@ StoreResult ScheduleDatabase::judgeLog() const
     };
     bool isRefused = false;
     if (m_file.stamp().logSize > 0 && !m_file.isLogInUse()) {
-        attempt([&] { isRefused = isForeign(); });
+        StoreResult result = attempt(m_file.path(), [&] { isRefused = isForeign(); });
+        if (result.cause.code == FaultCode::NoMemory) {
+            return result;
+        }
     }
     // Another program may have begun to work with it while it was read.
     return isRefused && !m_file.isLogInUse()
@@ -189,7 +204,7 @@ StoreResult ScheduleDatabase::look(StorePart part)
 
 StoreResult ScheduleDatabase::lookOnce(StorePart part, StoreConnection& connection)
 {
-    return attempt([&] {
+    return attempt(m_file.path(), [&] {
         const StoreDeadline deadline(connection, kReadingTime);
         StoreSchema::check(connection, m_file.path());
         if (StoreSchema::isNewest(connection)) {
@@ -203,7 +218,7 @@ StoreResult ScheduleDatabase::lookOnce(StorePart part, StoreConnection& connecti
 
 StoreResult ScheduleDatabase::connect()
 {
-    StoreResult result = attempt([this] {
+    StoreResult result = attempt(m_file.path(), [this] {
         auto connection =
             std::make_unique<StoreConnection>(m_file.path(), StoreConnection::Access::ReadWrite);
         connection->run(QStringLiteral("PRAGMA foreign_keys = ON"));
@@ -237,7 +252,7 @@ bool ScheduleDatabase::isInPlace() const
 }
 
 StoreResult ScheduleDatabase::reopen()
-{
+try {
     if (!m_file.isThere()) {
         return refusal(StoreProblem::FileMissing, m_file.path());
     }
@@ -255,13 +270,15 @@ StoreResult ScheduleDatabase::reopen()
         result = look(StorePart::Both);
     }
     return result ? connect() : result;
+} catch (const std::bad_alloc&) {
+    return lackOfMemory(m_file.path());
 }
 
 StoreResult ScheduleDatabase::leave()
 {
     // The former file may have been moved elsewhere: what its log holds goes along. Left here, the
     // log would be replayed into the file that has taken its place.
-    StoreResult result = attempt([this] {
+    StoreResult result = attempt(m_file.path(), [this] {
         const StoreHaste haste(*m_connection);
         if (m_connection->value(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)")).toInt() != 0) {
             throw StoreError{refusal(StoreProblem::Locked, m_file.path())};
@@ -279,11 +296,18 @@ bool ScheduleDatabase::isBeingWritten() const
     if (!isOpen() || m_mode == StoreOpenMode::ReadOnly) {
         return false;
     }
-    const StoreResult trial = attempt([this] {
+    const StoreResult trial = attempt(m_file.path(), [this] {
         const StoreHaste haste(*m_connection);
         const StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
     });
     return trial.problem == StoreProblem::Locked;
+}
+
+void ScheduleDatabase::expectInPlace() const
+{
+    if (StoreResult place = judgeInPlace(); !place) {
+        throw StoreError{std::move(place)};
+    }
 }
 
 StoreResult ScheduleDatabase::judgeInPlace() const
@@ -305,7 +329,7 @@ StoreResult ScheduleDatabase::judgeInPlace() const
 /// once more where it has changed before, or meanwhile.
 template <typename Reading>
 StoreResult ScheduleDatabase::readWith(const Reading& reading)
-{
+try {
     if (!isOpen()) {
         return refusal(StoreProblem::NotOpen, QString());
     }
@@ -315,7 +339,7 @@ StoreResult ScheduleDatabase::readWith(const Reading& reading)
                 return result;
             }
         }
-        StoreResult result = attempt([&] {
+        StoreResult result = attempt(m_file.path(), [&] {
             const StoreDeadline deadline(*m_connection, kReadingTime);
             StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Read);
             reading();
@@ -325,6 +349,8 @@ StoreResult ScheduleDatabase::readWith(const Reading& reading)
             return result;
         }
     }
+} catch (const std::bad_alloc&) {
+    return lackOfMemory(m_file.path());
 }
 
 StoreResult ScheduleDatabase::readRevision(StoreRevision& revision)
@@ -370,13 +396,11 @@ bool ScheduleDatabase::takeSeen(StorePart part, StoreContents& contents)
 StoreResult ScheduleDatabase::writeTasks(const TaskMap& tasks, const TaskEdits& edits,
                                          qint64& revision)
 {
-    if (StoreResult place = judgeInPlace(); !place) {
-        return place;
-    }
-    if (const Fault excess = excessOf(tasks, edits)) {
-        return refusal(StoreProblem::TooLarge, m_file.path(), excess);
-    }
-    return attempt([&] {
+    return attempt(m_file.path(), [&] {
+        expectInPlace();
+        if (const Fault excess = excessOf(tasks, edits)) {
+            throw StoreError{refusal(StoreProblem::TooLarge, m_file.path(), excess)};
+        }
         StoreTransaction transaction(*m_connection, edits.isEmpty()
                                                         ? StoreTransaction::Purpose::Read
                                                         : StoreTransaction::Purpose::Write);
@@ -398,14 +422,11 @@ ImportResult ScheduleDatabase::addPrograms(const std::vector<MediaSource>& sourc
                                            StoreContents& contents)
 {
     ImportResult result;
-    if (StoreResult place = judgeInPlace(); !place) {
-        result.store = std::move(place);
-        return result;
-    }
-    if (sources.empty()) {
-        return result;
-    }
-    StoreResult outcome = attempt([&] {
+    StoreResult outcome = attempt(m_file.path(), [&] {
+        expectInPlace();
+        if (sources.empty()) {
+            return;
+        }
         StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
         StoreCatalogue catalogue(*m_connection, m_file.path());
         for (const MediaSource& source : sources) {
@@ -429,10 +450,8 @@ ImportResult ScheduleDatabase::addPrograms(const std::vector<MediaSource>& sourc
 StoreResult ScheduleDatabase::removePrograms(const std::vector<int>& progIndexes,
                                              StoreRevision& revision)
 {
-    if (StoreResult place = judgeInPlace(); !place) {
-        return place;
-    }
-    return attempt([&] {
+    return attempt(m_file.path(), [&] {
+        expectInPlace();
         StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
         StoreCatalogue catalogue(*m_connection, m_file.path());
         const bool isAny = catalogue.remove(progIndexes);
@@ -451,7 +470,8 @@ StoreResult ScheduleDatabase::countPlansWith(const std::vector<int>& progIndexes
     if (!isOpen()) {
         return refusal(StoreProblem::NotOpen, QString());
     }
-    return attempt([&] { count = StoreTaskReader::countPlansWith(*m_connection, progIndexes); });
+    return attempt(m_file.path(),
+                   [&] { count = StoreTaskReader::countPlansWith(*m_connection, progIndexes); });
 }
 
 } // namespace trel::mediadispatch

@@ -85,6 +85,8 @@ private:
     bool takeSeen(StorePart part, StoreContents& contents);
     StoreResult leave();
     StoreResult judgeInPlace() const;
+    /// Throws where that is refused.
+    void expectInPlace() const;
 
     /// What a look at the file has read of it, and was not asked for yet.
     struct Seen

@@ -10,6 +10,7 @@
 #include <sqlite3.h>
 
 #include <cerrno>
+#include <new>
 
 namespace trel::mediadispatch {
 
@@ -18,12 +19,6 @@ namespace {
 /// How long a call waits for another program that holds the file, in milliseconds: longer than a
 /// save of a large schedule takes, shorter than an operator's patience.
 constexpr int kBusyTimeout = 2000;
-
-QString nextConnectionName()
-{
-    static int number = 0;
-    return QStringLiteral("trelprogramschedule-%1").arg(++number);
-}
 
 /// Whether a commit failed while it wrote the log. The part that makes it a commit is written last,
 /// so that it is not there.
@@ -52,10 +47,20 @@ QString fileAddress(const QString& path, StoreConnection::Access access)
 
 } // namespace
 
+StoreConnection::Listing::Listing()
+{
+    static int number = 0;
+    name = QStringLiteral("trelprogramschedule-%1").arg(++number);
+}
+
+StoreConnection::Listing::~Listing()
+{
+    QSqlDatabase::removeDatabase(name);
+}
+
 StoreConnection::StoreConnection(const QString& path, Access access)
     : m_path(path)
-    , m_name(nextConnectionName())
-    , m_database(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_name))
+    , m_database(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_listing.name))
 {
     m_database.setDatabaseName(fileAddress(path, access));
     QString options = QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1").arg(kBusyTimeout);
@@ -75,8 +80,6 @@ StoreConnection::StoreConnection(const QString& path, Access access)
 StoreConnection::~StoreConnection()
 {
     m_database.close();
-    m_database = QSqlDatabase();
-    QSqlDatabase::removeDatabase(m_name);
 }
 
 void StoreConnection::run(const QString& statement) const
@@ -143,7 +146,8 @@ void StoreConnection::refuse(const QSqlQuery& query) const
 
 void StoreConnection::setPatience(int milliseconds) const
 {
-    QSqlQuery(m_database).exec(QStringLiteral("PRAGMA busy_timeout = %1").arg(milliseconds));
+    // Not by a statement, which may lack memory on the way back.
+    sqlite3_busy_timeout(m_handle, milliseconds);
 }
 
 bool StoreConnection::clearFailedCommit() const
@@ -194,6 +198,10 @@ StoreHaste::~StoreHaste()
 StoreTransaction::StoreTransaction(const StoreConnection& connection, Purpose purpose)
     : m_connection(connection)
 {
+    if (m_connection.m_handle != nullptr && sqlite3_get_autocommit(m_connection.m_handle) == 0) {
+        rollBack(); // There was no memory to undo the former one.
+        m_hasEnded = false;
+    }
     m_connection.run(purpose == Purpose::Write ? QStringLiteral("BEGIN IMMEDIATE")
                                                : QStringLiteral("BEGIN"));
 }
@@ -218,14 +226,27 @@ void StoreTransaction::commit()
                                                       : faultOf(FaultCode::System, systemError))};
         }
         throw;
+    } catch (const std::bad_alloc&) {
+        // The driver may lack memory for its answer when all has been done.
+        if (!hasCommitted()) {
+            throw;
+        }
     }
     m_hasEnded = true;
 }
 
+bool StoreTransaction::hasCommitted() const
+{
+    const int code = sqlite3_errcode(m_connection.m_handle);
+    return sqlite3_get_autocommit(m_connection.m_handle) != 0 &&
+           (code == SQLITE_OK || code == SQLITE_DONE);
+}
+
 void StoreTransaction::rollBack()
 {
-    // The database undoes a change by itself after some failures and then refuses this.
-    QSqlQuery(m_connection.m_database).exec(QStringLiteral("ROLLBACK"));
+    // The database undoes a change by itself after some failures and then refuses this. Throws
+    // nothing, as it is called on the way out.
+    sqlite3_exec(m_connection.m_handle, "ROLLBACK", nullptr, nullptr, nullptr);
     m_hasEnded = true;
 }
 

@@ -62,8 +62,17 @@ private:
     bool clearFailedCommit() const;
     bool spoilLogEnd() const;
 
+    /// Takes the connection from the toolkit's list when it goes.
+    struct Listing
+    {
+        Listing();
+        ~Listing();
+        Q_DISABLE_COPY(Listing)
+        QString name;
+    };
+
     QString m_path;
-    QString m_name;
+    Listing m_listing;
     QSqlDatabase m_database;
     sqlite3* m_handle = nullptr;
     int m_systemError = 0; ///< Why it could not be opened, as errno; 0 where that is not known.
@@ -99,6 +108,7 @@ public:
     void commit();
 
 private:
+    bool hasCommitted() const;
     void rollBack();
 
     const StoreConnection& m_connection;

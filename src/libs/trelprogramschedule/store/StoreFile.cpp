@@ -12,9 +12,9 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <filesystem>
-#include <system_error>
+#include <memory>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -85,6 +85,17 @@ StoreFile::Identity identityOf(const QString& path)
 QLatin1String draftMark()
 {
     return QLatin1String(".new-");
+}
+
+struct CloseFolder
+{
+    void operator()(DIR* folder) const { ::closedir(folder); }
+};
+
+/// Null behind the last name, and where there is no folder.
+const dirent* next(DIR* folder)
+{
+    return folder == nullptr ? nullptr : ::readdir(folder);
 }
 
 constexpr const char* kDatabaseSuffixes[] = {"", "-journal", "-wal", "-shm"};
@@ -275,10 +286,10 @@ void StoreFile::removeLeftDrafts() const
     const QFileInfo info(m_path);
     const QString start = info.fileName() + draftMark();
     // The folder may hold thousands of media files, so that none is looked at but by its name.
-    std::error_code failure;
-    std::filesystem::directory_iterator entry(QFile::encodeName(info.path()).constData(), failure);
-    for (; !failure && entry != std::filesystem::directory_iterator(); entry.increment(failure)) {
-        const QString name = QFile::decodeName(entry->path().filename().c_str());
+    const std::unique_ptr<DIR, CloseFolder> folder(
+        ::opendir(QFile::encodeName(info.path()).constData()));
+    for (const dirent* entry = next(folder.get()); entry != nullptr; entry = next(folder.get())) {
+        const QString name = QFile::decodeName(entry->d_name);
         if (name.startsWith(start) && isOfStoppedProgram(name.midRef(start.size()))) {
             const QFileInfo draft(info.dir(), name);
             if (draft.isFile() && !draft.isSymLink()) {
