@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include <sys/socket.h>
 #include <unistd.h>
@@ -32,16 +33,16 @@ bool isSound(const wire::Question& question)
            (isForFacts || (isForPicture && isSide(question.width) && isSide(question.height)));
 }
 
-/// The descriptor that came with a message, -1 when there is not just one.
-int descriptorIn(msghdr& message)
+/// The descriptors that came with a message.
+std::vector<int> descriptorsIn(msghdr& message)
 {
     const cmsghdr* const header = CMSG_FIRSTHDR(&message);
-    int descriptor = -1;
-    if (header != nullptr && header->cmsg_level == SOL_SOCKET && header->cmsg_type == SCM_RIGHTS &&
-        header->cmsg_len == CMSG_LEN(sizeof descriptor)) {
-        std::memcpy(&descriptor, CMSG_DATA(header), sizeof descriptor);
+    if (header == nullptr || header->cmsg_level != SOL_SOCKET || header->cmsg_type != SCM_RIGHTS) {
+        return {};
     }
-    return descriptor;
+    std::vector<int> descriptors((header->cmsg_len - CMSG_LEN(0)) / sizeof(int));
+    std::memcpy(descriptors.data(), CMSG_DATA(header), descriptors.size() * sizeof(int));
+    return descriptors;
 }
 
 /// In the bound, and with its dots as they travel.
@@ -85,9 +86,16 @@ int QuestionLoop::receive(wire::Question& question) const
     do {
         count = ::recvmsg(m_line, &message, MSG_CMSG_CLOEXEC | MSG_WAITALL);
     } while (count < 0 && errno == EINTR);
-    return count == static_cast<ssize_t>(sizeof question) && isSound(question)
-               ? descriptorIn(message)
-               : -1;
+    if (count < 0) {
+        return -1;
+    }
+    const std::vector<int> descriptors = descriptorsIn(message);
+    if (count == static_cast<ssize_t>(sizeof question) && isSound(question) &&
+        descriptors.size() == 1) {
+        return descriptors.front();
+    }
+    std::for_each(descriptors.begin(), descriptors.end(), ::close);
+    return -1;
 }
 
 bool QuestionLoop::answer(const wire::Question& question, const InputFile& file) const
