@@ -68,7 +68,6 @@ install_headers(trelprogramschedule src/libs
   trelprogramschedule/faults/FaultWords.h
   trelprogramschedule/json/ScheduleJson.h
   trelprogramschedule/catalogue/ShownAddress.h
-  trelprogramschedule/store/StoreMemory.h
   trelprogramschedule/store/StoreResult.h
   trelprogramschedule/dispatch/ClockChanges.h
   trelprogramschedule/dispatch/ProgramVerdict.h

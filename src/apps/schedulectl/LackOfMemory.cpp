@@ -1,7 +1,6 @@
 #include "LackOfMemory.h"
 
 #include "Command.h"
-#include "trelprogramschedule/store/StoreMemory.h"
 
 #include <cstdlib>
 #include <exception>
@@ -43,7 +42,6 @@ namespace {
 void endWhereMemoryRunsOut()
 {
     std::set_terminate(endOfException);
-    mediadispatch::endWithoutDatabaseMemory(tellAndEnd);
 }
 
 } // namespace trel::console
