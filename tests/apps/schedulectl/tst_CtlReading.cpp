@@ -358,12 +358,21 @@ void tst_CtlReading::leftDraftsAreCleared()
     // Numbers of programs do not go that far up.
     const QStringList left = {QStringLiteral("test.db.new-2147483000"),
                               QStringLiteral("test.db.new-2147483000-journal")};
-    const QStringList kept = {QStringLiteral("test.db.new-1"), QStringLiteral("test.db.new-x"),
+    const QStringList kept = {QStringLiteral("test.db.new-1"),
+                              QStringLiteral("test.db.new-x"),
+                              QStringLiteral("test.db.new-"),
+                              QStringLiteral("test.db.new-0"),
+                              QStringLiteral("test.db.new-99999999999"),
                               QStringLiteral("test.db.new-2147483000.json"),
                               QStringLiteral("other.db.new-2147483000")};
     for (const QString& name : left + kept) {
         fixture.writeFile(name, "x");
     }
+    // No program makes folders or links of such a name.
+    const QString folder = fixture.path(QStringLiteral("test.db.new-2147483001"));
+    QVERIFY(QDir().mkdir(folder));
+    const QString link = fixture.path(QStringLiteral("test.db.new-2147483002"));
+    QVERIFY(QFile::link(QStringLiteral("test.db.new-x"), link));
     fill(fixture);
     for (const QString& name : left) {
         QVERIFY2(!QFileInfo::exists(fixture.path(name)), qPrintable(name));
@@ -371,6 +380,8 @@ void tst_CtlReading::leftDraftsAreCleared()
     for (const QString& name : kept) {
         QVERIFY2(QFileInfo::exists(fixture.path(name)), qPrintable(name));
     }
+    QVERIFY(QFileInfo(folder).isDir());
+    QVERIFY(QFileInfo(link).isSymLink());
 }
 
 void tst_CtlReading::aFileSizeLimitIsLikeAFullDisk_data()

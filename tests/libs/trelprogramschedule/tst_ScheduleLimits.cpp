@@ -139,6 +139,12 @@ void tst_ScheduleLimits::whatJustFitsIsTaken()
     const ScheduleFromJson read = scheduleFromJson(scheduleToJson(tasks));
     QCOMPARE(englishText(read), QString());
     QVERIFY(read.tasks == tasks);
+
+    // One byte more is told where it stands.
+    tasks[1].plans[0].weeks += 'x';
+    const ScheduleFromJson refused = scheduleFromJson(scheduleToJson(tasks));
+    QCOMPARE(int(refused.fault.code), int(FaultCode::JsonTextTooLong));
+    QCOMPARE(refused.place, QStringLiteral("tasks[0].plans[0].weeks"));
 }
 
 void tst_ScheduleLimits::jsonHasBounds_data()

@@ -69,7 +69,10 @@ private slots:
     void nothingForeignRunsInAnOpenStore();
     void connectionsAreGuarded();
     void oversizedValuesAreRefused();
+    void contentsThatDoNotFitAreRefusedAsTheyAre_data();
     void contentsThatDoNotFitAreRefusedAsTheyAre();
+    void kindsThatAreNoneCountAsOther();
+    void aCatalogueThatHoldsTooMuchIsRefused();
     void readingHasADeadline();
     void aLogOfAnotherCopyIsNotWorkedIn_data();
     void aLogOfAnotherCopyIsNotWorkedIn();
@@ -176,20 +179,74 @@ void tst_StoreDefence::oversizedValuesAreRefused()
     QCOMPARE(before.differences(FolderSnapshot(store.folder.path())), QStringList());
 }
 
+void tst_StoreDefence::contentsThatDoNotFitAreRefusedAsTheyAre_data()
+{
+    QTest::addColumn<QByteArray>("statement");
+    const auto row = [](const char* name, const char* statement) {
+        QTest::newRow(name) << QByteArray(statement);
+    };
+    row("plan behind a gap", "UPDATE plan SET position = 7 WHERE position = 1");
+    row("plan of no task", "INSERT INTO plan SELECT 77, 0, id, mode, start_time, end_time, times,"
+                           " service_count, end_action, is_conflict, weeks, service_time,"
+                           " has_no_duration, service_flag_a, service_flag_b FROM plan LIMIT 1");
+    row("entry behind a gap", "UPDATE entry SET position = 7 WHERE position = 1");
+    row("entry of no plan", "INSERT INTO entry VALUES (1, 2, 0, 1, 0, '', 1)");
+    row("entry of no task", "INSERT INTO entry VALUES (77, 0, 0, 1, 0, '', 1)");
+    row("number behind a gap", "INSERT INTO plan_value VALUES (1, 0, 99, 1)");
+    row("number of no plan", "INSERT INTO plan_value VALUES (1, 2, 0, 1)");
+    row("number of no task", "INSERT INTO plan_value VALUES (77, 0, 0, 1)");
+    row("number before the first", "INSERT INTO plan_value VALUES (1, 0, -1, 1)");
+}
+
 /// Also in a file that would have to be changed before it can be worked with.
 void tst_StoreDefence::contentsThatDoNotFitAreRefusedAsTheyAre()
 {
+    QFETCH(QByteArray, statement);
     StoreFixture store;
     store.save(sampleSchedule(3, 2, 2));
     store.host.close();
-    runAsAnother(store.path, "PRAGMA journal_mode = DELETE; UPDATE plan SET position = 7"
-                             " WHERE position = 1");
+    runAsAnother(store.path, "PRAGMA journal_mode = DELETE; " + statement);
     const FolderSnapshot before(store.folder.path());
     const StoreResult result = store.host.open(store.path);
     QCOMPARE(int(result.problem), int(StoreProblem::Damaged));
     QVERIFY2(englishText(result).contains(QLatin1String("do not fit")),
              qPrintable(englishText(result)));
     QCOMPARE(before.differences(FolderSnapshot(store.folder.path())), QStringList());
+}
+
+void tst_StoreDefence::kindsThatAreNoneCountAsOther()
+{
+    StoreFixture store;
+    QVERIFY(store.host.addPrograms(samplePrograms(3)).store);
+    store.host.close();
+    runAsAnother(store.path, "UPDATE program SET kind = prog_index * 5 - 6");
+    QVERIFY(store.host.open(store.path));
+    const std::map<int, ProgramIten> programs = store.manager.getPrograms();
+    QCOMPARE(programs.size(), std::size_t(3));
+    for (const auto& [index, program] : programs) {
+        const int kind = index * 5 - 6; // -1, 4 and 9
+        const bool isOne = kind >= 0 && kind <= int(ProgramKind::Other);
+        QCOMPARE(int(program.kind), isOne ? kind : int(ProgramKind::Other));
+    }
+}
+
+void tst_StoreDefence::aCatalogueThatHoldsTooMuchIsRefused()
+{
+    constexpr int most = 65534;
+    StoreFixture store;
+    QVERIFY(store.host.addPrograms(samplePrograms(1)).store);
+    store.host.close();
+    runAsAnother(store.path, "WITH RECURSIVE n(i) AS (SELECT 2 UNION ALL SELECT i + 1 FROM n"
+                             " WHERE i < 65534) INSERT INTO program"
+                             " SELECT i, 'p', 'tape://' || i, 0, 3, 0 FROM n");
+    QVERIFY(store.host.open(store.path));
+    QCOMPARE(store.manager.getPrograms().size(), std::size_t(most));
+    store.host.close();
+    runAsAnother(store.path, "INSERT INTO program VALUES (70000, 'p', 'tape://x', 0, 3, 0)");
+    const StoreResult result = store.host.open(store.path);
+    QCOMPARE(int(result.problem), int(StoreProblem::TooLarge));
+    QCOMPARE(int(result.cause.code), int(FaultCode::TooManyPrograms));
+    QCOMPARE(result.cause.number(0), most);
 }
 
 void tst_StoreDefence::readingHasADeadline()

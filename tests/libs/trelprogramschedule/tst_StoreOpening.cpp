@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QtTest>
 
+#include <cerrno>
 #include <functional>
 
 using namespace trel::mediadispatch;
@@ -90,7 +91,9 @@ private slots:
     void readOnlyFolder();
     void emptyFileBecomesAStore();
     void createsInOneStep();
+    void aPlaceWhereNothingCanBeMade();
     void opensAfterAStop();
+    void keepsTheIndexThatItReadsWith();
     void takesUpTheLogAgain();
     void leavesNothingBesideAClosedStore();
     void namesWithAnythingInThem_data();
@@ -215,6 +218,14 @@ void tst_StoreOpening::missingFolder()
     QVERIFY(!QFileInfo::exists(folder.filePath(QStringLiteral("no"))));
     QCOMPARE(ScheduleHost::instance().open(QString()).problem, StoreProblem::NotADatabase);
 
+    // A file has the place of the folder, or of one above it.
+    const QTemporaryDir other;
+    write(other.filePath(QStringLiteral("file")), "content");
+    for (const char* below : {"file/schedule.db", "file/such/schedule.db"}) {
+        QCOMPARE(ScheduleHost::instance().open(other.filePath(QLatin1String(below))).problem,
+                 StoreProblem::FolderMissing);
+    }
+
     const QString file = folder.filePath(QStringLiteral("schedule.db"));
     QCOMPARE(ScheduleHost::instance().open(file, ScheduleHost::OpenMode::MustExist).problem,
              StoreProblem::FileMissing);
@@ -293,6 +304,20 @@ void tst_StoreOpening::createsInOneStep()
     QCOMPARE(connection.value(strict).toInt(), 0);
 }
 
+void tst_StoreOpening::aPlaceWhereNothingCanBeMade()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("schedule.db"));
+    // Where the store is to be made before it is moved to its place.
+    QVERIFY(QDir().mkdir(path + QStringLiteral(".new-%1").arg(QCoreApplication::applicationPid())));
+    const StoreResult result = ScheduleHost::instance().open(path);
+    QCOMPARE(result.problem, StoreProblem::Other);
+    QCOMPARE(result.cause.code, FaultCode::System);
+    QCOMPARE(result.cause.number(0), EEXIST);
+    QCOMPARE(result.path, path);
+    QVERIFY(!QFileInfo::exists(path));
+}
+
 void tst_StoreOpening::opensAfterAStop()
 {
     const QTemporaryDir folder;
@@ -305,6 +330,22 @@ void tst_StoreOpening::opensAfterAStop()
     const std::map<int, PlayTask> tasks = scheduleManage::getInstance().getgTaskMap();
     QCOMPARE(tasks.at(2).plans[0].programs.size(), std::size_t(5));
     QVERIFY(tasks.at(3).plans[0].programs.empty());
+    host.close();
+}
+
+/// The database makes the index of a log that was left without one.
+void tst_StoreOpening::keepsTheIndexThatItReadsWith()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("schedule.db"));
+    makeStore(path);
+    runAndStop(path, QStringLiteral("DELETE FROM entry WHERE task_id > 2"));
+    forgetLive(path);
+    QVERIFY(QFile::remove(path + QStringLiteral("-shm")));
+    ScheduleHost& host = ScheduleHost::instance();
+    QVERIFY(host.open(path, ScheduleHost::OpenMode::ReadOnly));
+    QVERIFY(QFileInfo::exists(path + QStringLiteral("-shm")));
+    QVERIFY(scheduleManage::getInstance().getgTaskMap().at(3).plans[0].programs.empty());
     host.close();
 }
 

@@ -21,12 +21,14 @@ private slots:
     void playsThatMeetNoMillisecond();
     void runsPastThirtyTwoBits();
     void aChangeOfTheClockHidesNoPlay();
+    void plansAreFoundByTheirIds();
     void looksAtOneWeekOfATask();
     void looksAtOneWeekOfEachStretch();
     void passesOverChangesOfTheClock();
     void anInsertionPlaysFirst();
     void tellsWhenAListIsOver();
     void tellsWhenAListIsOverInNightsOfChange();
+    void aListThatIsOverInNightsOfChange();
     void asAWalkFindsIt_data();
     void asAWalkFindsIt();
 };
@@ -164,6 +166,20 @@ void tst_PlaySearch::aChangeOfTheClockHidesNoPlay()
              QStringLiteral("2024.10.27 03:00:00.000 1"));
 }
 
+void tst_PlaySearch::plansAreFoundByTheirIds()
+{
+    const PlanCalendar calendar = calendarOf(
+        schedule("2 2024.03.04-2024.03.04 / 08:00:00-09:00:00 A id=7 / 09:00:00-10:00:00 A id=5 | "
+                 "4 2024.03.04-2024.03.04 / 08:00:00-09:00:00 A id=5"));
+    QCOMPARE(calendar.rowOf(2, 7), 0);
+    QCOMPARE(calendar.rowOf(2, 5), 1);
+    QCOMPARE(calendar.rowOf(4, 5), 0);
+    QCOMPARE(calendar.rowOf(4, 7), -1);
+    for (const int task : {1, 3, 5}) {
+        QCOMPARE(calendar.rowOf(task, 5), -1);
+    }
+}
+
 void tst_PlaySearch::looksAtOneWeekOfATask()
 {
     const auto lookedAt = [](const char* dates) {
@@ -278,6 +294,30 @@ void tst_PlaySearch::tellsWhenAListIsOverInNightsOfChange()
     QCOMPARE(after("2024.10.27 02:55:00 1"), QStringLiteral("2024.10.27 03:00:00.000 1"));
     // As the clock is put back the list is over, and so it is played on from where it was at two.
     QCOMPARE(after("2025.10.26 01:55:00 2"), QStringLiteral("2025.10.26 03:00:00.000 1"));
+}
+
+// What was over before the clock leapt stays so; what is put back into the list plays once more.
+void tst_PlaySearch::aListThatIsOverInNightsOfChange()
+{
+    const QTimeZone berlin("Europe/Berlin");
+    const Schedule tasks = schedule("1 2024.03.31-2024.03.31 / 01:59:57-04:00:00 C D*498 mode=7 "
+                                    "times=1 freeze | 2 2026.10.25-2026.10.25 / 01:50:00-03:10:00 "
+                                    "A*390 mode=7 times=1 freeze");
+    const ScreenTimeline timeline(tasks, lettersCatalogue(), berlin);
+    const auto at = [&](const char* asked) {
+        const ScreenState state = timeline.at(moment(asked, berlin));
+        return QLatin1String(state.picture == ScreenPicture::Frozen ? "frozen from " : "from ") +
+               momentText(state.since, berlin) + QStringLiteral(" to ") +
+               momentText(state.until, berlin);
+    };
+    QCOMPARE(at("2024.03.31 03:10:00"),
+             QStringLiteral("frozen from 2024.03.31 01:59:59.999 1 to 2024.03.31 04:00:00.000 2"));
+    QCOMPARE(at("2026.10.25 02:57:00 2"),
+             QStringLiteral("frozen from 2026.10.25 02:55:00.000 2 to 2026.10.25 02:00:00.000 1"));
+    QCOMPARE(at("2026.10.25 02:00:00 1"),
+             QStringLiteral("from 2026.10.25 02:00:00.000 1 to 2026.10.25 02:00:10.000 1"));
+    QCOMPARE(at("2026.10.25 02:57:00 1"),
+             QStringLiteral("frozen from 2026.10.25 02:55:00.000 1 to 2026.10.25 03:10:00.000 1"));
 }
 
 void tst_PlaySearch::asAWalkFindsIt_data()

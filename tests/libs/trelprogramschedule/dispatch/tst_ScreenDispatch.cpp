@@ -49,6 +49,8 @@ private slots:
 
 void tst_ScreenDispatch::nothingRunsAtFirst()
 {
+    // Before anything is opened, which stops it.
+    QVERIFY(!ScheduleHost::instance().dispatch().isRunning());
     DispatchFixture fixture("08:00:10");
     fixture.saveTask(kTwoPlans);
     QVERIFY(!fixture.dispatch.isRunning());

@@ -11,6 +11,7 @@
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -20,6 +21,7 @@ namespace {
 
 bool doesSyncFail = false;
 int syncs = 0;
+int folderSyncs = 0;
 
 } // namespace
 
@@ -31,7 +33,14 @@ extern "C" int fdatasync(int handle)
         errno = EIO;
         return -1;
     }
-    return ::fsync(handle);
+    return static_cast<int>(::syscall(SYS_fdatasync, handle));
+}
+
+extern "C" int fsync(int handle)
+{
+    struct stat status = {};
+    folderSyncs += ::fstat(handle, &status) == 0 && S_ISDIR(status.st_mode) ? 1 : 0;
+    return static_cast<int>(::syscall(SYS_fsync, handle));
 }
 
 namespace {
@@ -81,10 +90,12 @@ void tst_FileReplacement::replacesAFile()
     QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
     const mode_t mode = modeOf(path);
     syncs = 0;
+    folderSyncs = 0;
     QVERIFY(!replaceFile(path, "new"));
     QCOMPARE(contentOf(path), QByteArray("new"));
     QCOMPARE(modeOf(path), mode);
     QCOMPARE(syncs, 1);
+    QCOMPARE(folderSyncs, 1);
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("a %1.json")});
     QCOMPARE(englishClause(replaceFile(folder.filePath(QStringLiteral("no/such")), "new")),
              qt_error_string(ENOENT));

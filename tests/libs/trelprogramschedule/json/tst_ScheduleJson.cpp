@@ -198,6 +198,7 @@ private slots:
     void theSameScheduleGivesTheSameBytes();
     void otherReadersUnderstandIt();
     void orderAndBlanksDoNotMatter();
+    void aKeyThatIsTheIdIsTaken();
     void byteOrderMarkIsPassedOver();
     void escapesAreUnderstood();
     void largeScheduleSurvives();
@@ -331,6 +332,17 @@ void tst_ScheduleJson::textsSurvive_data()
     QTest::newRow("NUL inside") << QByteArray("a\0b", 3) << QByteArray(R"("a\u0000b")");
     QTest::newRow("control characters")
         << QByteArray("\x1B[31m\x7F") << QByteArray(R"("\u001b[31m\u007f")");
+    // On both sides of every border of what a terminal would obey.
+    for (const int obeyed : {0x80, 0x9F, 0x61C, 0x200E, 0x200F, 0x2028, 0x202E, 0x2066, 0x2069}) {
+        QTest::addRow("U+%04X", obeyed)
+            << QString(QChar(obeyed)).toUtf8()
+            << QByteArray("\"\\u") + QByteArray::number(obeyed, 16).rightJustified(4, '0') + '"';
+    }
+    for (const int harmless :
+         {0x7E, 0xA0, 0x61B, 0x61D, 0x200D, 0x2010, 0x2027, 0x202F, 0x2065, 0x206A}) {
+        const QByteArray bytes = QString(QChar(harmless)).toUtf8();
+        QTest::addRow("U+%04X", harmless) << bytes << '"' + bytes + '"';
+    }
     QTest::newRow("no UTF-8") << QByteArray("caf\xE9") << QByteArray(R"({ "base64": "Y2Fm6Q==" })");
     QTest::newRow("half a surrogate pair")
         << QByteArray("\xED\xA0\x80") << QByteArray(R"({ "base64": "7aCA" })");
@@ -406,6 +418,17 @@ void tst_ScheduleJson::orderAndBlanksDoNotMatter()
         QCOMPARE(englishText(read), QString());
         QVERIFY(read.tasks == fullSchedule());
     }
+}
+
+void tst_ScheduleJson::aKeyThatIsTheIdIsTaken()
+{
+    const std::map<int, PlayTask> tasks = {{5, PlayTask{5, "2024.01.01", "2024.01.31", {}}}};
+    QByteArray json = scheduleToJson(tasks);
+    json.replace("\"id\": 5", "\"key\": 5, \"id\": 5");
+    QVERIFY(json.contains("\"key\""));
+    const ScheduleFromJson read = scheduleFromJson(json);
+    QCOMPARE(englishText(read), QString());
+    QVERIFY(read.tasks == tasks);
 }
 
 void tst_ScheduleJson::byteOrderMarkIsPassedOver()
