@@ -114,6 +114,10 @@ void tst_StoreOpening::refusals_data()
         [](const QString& path) { write(path, QByteArray("task,plan\n").repeated(100)); });
     row("short", StoreProblem::NotADatabase,
         [](const QString& path) { write(path, QByteArray("SQLite format 3\0", 16)); });
+    row("short of a header by a byte", StoreProblem::NotADatabase, [](const QString& path) {
+        makeStore(path);
+        QVERIFY(QFile::resize(path, 99));
+    });
     row("folder", StoreProblem::NotADatabase, [](const QString& path) { QDir().mkpath(path); });
     row("foreign", StoreProblem::Foreign, [](const QString& path) {
         const StoreConnection connection(path, StoreConnection::Access::Create);
@@ -183,6 +187,8 @@ void tst_StoreOpening::refusals_data()
         forgetLive(path);
         QVERIFY(QFile::remove(path));
     });
+    row("a byte of a log alone", StoreProblem::Damaged,
+        [](const QString& path) { write(path + QStringLiteral("-wal"), "x"); });
 }
 
 void tst_StoreOpening::refusals()
@@ -272,11 +278,16 @@ void tst_StoreOpening::emptyFileBecomesAStore()
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("schedule.db"));
     write(path, QByteArray());
+    const QFile::Permissions odd = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOther;
+    QVERIFY(QFile::setPermissions(path, odd));
     ScheduleHost& host = ScheduleHost::instance();
     QCOMPARE(host.open(path, ScheduleHost::OpenMode::MustExist).problem,
              StoreProblem::NotADatabase);
     QCOMPARE(QFileInfo(path).size(), qint64(0));
     QVERIFY(host.open(path));
+    // It is for those for whom the empty one was.
+    QCOMPARE(QFile::permissions(path) & ~(QFile::ReadUser | QFile::WriteUser | QFile::ExeUser),
+             odd);
     QVERIFY(host.replaceSchedule(sampleSchedule(1, 1, 0)));
     host.close();
     QVERIFY(host.open(path, ScheduleHost::OpenMode::MustExist));
