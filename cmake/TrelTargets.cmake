@@ -23,12 +23,26 @@ target_compile_definitions(trel_strict INTERFACE
 
 # trel_precompile(<target> <header>...)
 #
-# Parses the given headers of the toolkit once for all sources of a target. Sources go on to include
-# what they need; scripts/lint reads them without.
+# Has the given headers of the toolkit, <QtWidgets> for instance, parsed once for all targets that ask for
+# the same ones, and found there by every source of the target. The target has to link just these modules
+# of QtCore, QtGui, QtWidgets and QtTest, since the headers of each depend on which of them there are.
+# Sources go on to include what they need; scripts/lint reads them without.
 function(trel_precompile target)
-  if(TREL_PRECOMPILED_HEADERS)
-    target_precompile_headers(${target} PRIVATE ${ARGN})
+  if(NOT TREL_PRECOMPILED_HEADERS)
+    return()
   endif()
+  string(REGEX REPLACE "[<>;]" "" modules "${ARGN}")
+  set(owner headers_${modules})
+  if(NOT TARGET ${owner})
+    set(source ${CMAKE_BINARY_DIR}/headers/${owner}.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "")
+    add_library(${owner} OBJECT ${source})
+    set_target_properties(${owner} PROPERTIES AUTOMOC OFF AUTOUIC OFF AUTORCC OFF)
+    string(REGEX REPLACE "<Qt([A-Za-z]+)>" "Qt5::\\1" libraries "${ARGN}")
+    target_link_libraries(${owner} PRIVATE ${libraries} trel_strict)
+    target_precompile_headers(${owner} PRIVATE ${ARGN})
+  endif()
+  target_precompile_headers(${target} REUSE_FROM ${owner})
 endfunction()
 
 # trel_library(<name> [OBJECTS] SOURCES ... PUBLIC ... PRIVATE ...)
@@ -77,18 +91,19 @@ function(trel_test_environment name)
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=Europe/Berlin")
 endfunction()
 
-# trel_test_executable(<target> LINK ...)
+# trel_test_executable(<target> SOURCES ... LINK ... PRECOMPILE ...)
 function(trel_test_executable target)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRECOMPILE" ${ARGN})
   add_executable(${target} ${ARG_SOURCES})
   target_link_libraries(${target} PRIVATE ${ARG_LINK} Qt5::Test trel_strict)
   target_include_directories(${target} PRIVATE
     ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
   set_target_properties(${target} PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+  trel_precompile(${target} ${ARG_PRECOMPILE} <QtTest>)
 endfunction()
 
-# trel_test(<Name> SOURCES ... LINK ...)
+# trel_test(<Name> SOURCES ... LINK ... PRECOMPILE ...)
 #
 # A Qt Test program tst_<Name>, registered in CTest as <Name>, the class or rule that it tests. For a
 # class that cannot share a program with others; see trel_tests.
@@ -104,8 +119,8 @@ endfunction()
 # tests/support/TestProgram.h.
 function(trel_test_program program)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRECOMPILE" ${ARGN})
-  trel_test_executable(${program} SOURCES ${ARG_SOURCES} LINK ${ARG_LINK} test_program)
-  trel_precompile(${program} ${ARG_PRECOMPILE} <QtTest>)
+  trel_test_executable(${program}
+    SOURCES ${ARG_SOURCES} LINK ${ARG_LINK} test_program PRECOMPILE ${ARG_PRECOMPILE})
 endfunction()
 
 # trel_tests(<program> <name>...)
