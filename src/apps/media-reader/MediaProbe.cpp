@@ -76,7 +76,8 @@ double lengthOf(AVFormatContext& context)
 {
     const bool isStated = context.duration != AV_NOPTS_VALUE && context.duration > 0 &&
                           context.duration_estimation_method != AVFMT_DURATION_FROM_BITRATE;
-    return isStated ? milliseconds(context.duration, AV_TIME_BASE_Q) : measuredLength(context);
+    return isStated ? milliseconds(context.duration, av_get_time_base_q())
+                    : measuredLength(context);
 }
 
 ProbedMedia image()

@@ -35,7 +35,8 @@ WindowFrame::WindowFrame(QDialog* dialog)
     , m_client(new QWidget(this))
 {
     setObjectName(QStringLiteral("dialogFrame"));
-    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setFrameShape(QFrame::Box);
+    setFrameShadow(QFrame::Plain);
     m_client->setObjectName(QStringLiteral("dialogCenter"));
 
     auto* inner = new QVBoxLayout(this);

@@ -19,8 +19,6 @@ using namespace trel::mediadispatch;
 
 namespace {
 
-constexpr int kConfirm = 1;
-
 using Rebuilding = std::function<void(Stage&)>;
 
 void storeAnotherSet()

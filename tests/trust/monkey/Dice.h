@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
 #include <random>
 
 /// What one action is drawn from. Each action has dice of its own, made of the seed and its number:
@@ -27,7 +28,7 @@ public:
     template <typename List>
     const auto& of(const List& list)
     {
-        return list[below(static_cast<int>(list.size()))];
+        return *std::next(list.begin(), below(static_cast<int>(list.size())));
     }
 
 private:

@@ -69,7 +69,6 @@ public:
                  const ScreenReport& words)
         : m_verdict(verdict)
         , m_screen(subject.verdict.screen)
-        , m_progIndex(subject.progIndex)
         , m_moment(subject.moment)
         , m_words(words)
         , m_task(words.source().tasks.at(verdict.taskId))
@@ -192,7 +191,6 @@ private:
 
     const PlanVerdict& m_verdict;
     const ScreenState& m_screen;
-    int m_progIndex;
     Instant m_moment;
     const ScreenReport& m_words;
     const PlayTask& m_task;
