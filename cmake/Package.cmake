@@ -64,6 +64,7 @@ install_headers(schedulecontract src/libs/trelprogramschedulewidgets
 install_headers(trelprogramschedule src/libs
   trelprogramschedule/catalogue/ProgramImporter.h
   trelprogramschedule/ScheduleHost.h
+  trelprogramschedule/effect/EffectStart.h
   trelprogramschedule/faults/Fault.h
   trelprogramschedule/faults/FaultWords.h
   trelprogramschedule/json/ScheduleJson.h

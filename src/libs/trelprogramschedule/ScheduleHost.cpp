@@ -3,6 +3,8 @@
 #include "ScheduleService.h"
 #include "catalogue/ProgramImporter.h"
 
+#include <functional>
+
 namespace trel::mediadispatch {
 
 namespace {
@@ -25,6 +27,8 @@ ScheduleHost::ScheduleHost()
             &ScheduleHost::workingTasksChanged);
     connect(&shown, &ScheduleService::workingSetChanged, this, &ScheduleHost::workingSetChanged);
     connect(&shown, &ScheduleService::catalogueChanged, this, &ScheduleHost::catalogueChanged);
+    connect(&shown, &ScheduleService::effectChanged, this, &ScheduleHost::effectChanged);
+    connect(&shown, &ScheduleService::effectRefused, this, &ScheduleHost::effectRefused);
 }
 
 ScheduleHost::~ScheduleHost() = default;
@@ -118,6 +122,48 @@ int ScheduleHost::plansWith(const std::vector<int>& progIndexes) const
 {
     int count = 0;
     return service().database().countPlansWith(progIndexes, count) ? count : 0;
+}
+
+std::optional<EffectStart> ScheduleHost::started() const
+{
+    return service().state().inEffect.started();
+}
+
+StoreResult ScheduleHost::startSchedule()
+{
+    return service().start();
+}
+
+StoreResult ScheduleHost::stopSchedule()
+{
+    return service().changeEffect(std::mem_fn(&ScheduleInEffect::stop));
+}
+
+StoreResult ScheduleHost::insertPlan(int taskId, int planId, const PlayPlan& plan, bool isDelayed)
+{
+    return service().changeEffect([&](ScheduleInEffect& inEffect) {
+        return inEffect.insert(taskId, planId, plan, isDelayed);
+    });
+}
+
+StoreResult ScheduleHost::cancelInsertion()
+{
+    return service().changeEffect(std::mem_fn(&ScheduleInEffect::cancelInsertion));
+}
+
+StoreResult ScheduleHost::tasksNotInEffect(std::set<int>& taskIds) const
+{
+    return service().tasksNotInEffect(taskIds);
+}
+
+void ScheduleHost::followStore(bool isOn)
+{
+    service().followStore(isOn);
+}
+
+void ScheduleHost::rehearse()
+{
+    service().rehearse();
 }
 
 const std::map<int, PlayTask>& ScheduleHost::workingSet() const

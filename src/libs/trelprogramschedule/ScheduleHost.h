@@ -1,6 +1,7 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule/effect/EffectStart.h"
 #include "trelprogramschedule/store/StoreResult.h"
 #include "trelprogramschedule_export.h"
 
@@ -9,6 +10,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <vector>
 
@@ -40,15 +42,16 @@ public:
     /// The one instance, beside scheduleManage::getInstance().
     static ScheduleHost& instance();
 
-    /// The schedule in effect at work: started by scheduleManage::slotOpen with the stored set, and
-    /// stopped by close. What is saved after that shows from the next start on; what becomes of the
-    /// programs shows at once. The same object on every call.
+    /// The schedule in effect at work: started by scheduleManage::slotOpen with the saved schedule,
+    /// taken up again when a store is opened that has one, and left by close. What is saved after
+    /// the start shows from the next start on; what becomes of the programs shows at once. The same
+    /// object on every call.
     ScreenDispatch& dispatch();
 
     /// Opens the store in a file and reads catalogue and stored set; a store that was open is
     /// closed first. On failure the file is left untouched and no store is open. Emits nothing, but
-    /// that a schedule in effect has stopped and, later, workingSetChanged: an editor on show is to
-    /// be refreshed by the host.
+    /// that a schedule in effect has stopped or goes on and, later, workingSetChanged: an editor on
+    /// show is to be refreshed by the host.
     ///
     /// With ReadOnly every change is refused from then on, a save with StoreProblem::ReadOnly.
     ///
@@ -60,8 +63,8 @@ public:
     /// the list is refreshed (scheduleManage::getgTaskMap) or the store reloaded. Until then both
     /// sets are empty, and a save is refused like one after MovedOn.
     StoreResult openCatalogue(const QString& path, OpenMode mode = OpenMode::CreateIfMissing);
-    /// Forgets the store and everything read from it. What was not saved is lost, and a schedule in
-    /// effect stops.
+    /// Forgets the store and everything read from it. What was not saved is lost. A schedule in
+    /// effect stops here; in the store it stays in effect.
     void close();
     bool isOpen() const;
     /// Absolute path of the open store; empty when none is.
@@ -119,6 +122,38 @@ public:
     /// threads may share. The same one on every call as long as no program changes. Never null.
     std::shared_ptr<const std::map<int, ProgramIten>> catalogue() const;
 
+    // What is in effect lives in the store: it outlasts this process, and everything that has the
+    // store open agrees on it. Each call below is one transaction, as those above. Two programs
+    // that cut in at the same moment come one after the other, and the later one reckons with the
+    // earlier. With no store open all of it is this process's own.
+
+    /// When, from which save and by which program the schedule in effect was started; none while
+    /// nothing is in effect.
+    std::optional<EffectStart> started() const;
+    /// As scheduleManage::slotOpen, with the outcome as the result instead of a signal.
+    StoreResult startSchedule();
+    /// Ends what is in effect, for everybody. Where nothing is, nothing happens.
+    StoreResult stopSchedule();
+    /// As scheduleManage::setInsertPlanTask, with the outcome as the result instead of a signal.
+    /// Nothing happens when the plan is not in effect.
+    StoreResult insertPlan(int taskId, int planId, const PlayPlan& plan, bool isDelayed);
+    /// Takes back the insertion that waits, or else ends the one that has the screen. Where there
+    /// is none, nothing happens.
+    StoreResult cancelInsertion();
+    /// The saved tasks, read from the store, that differ from what is in effect: other, missing in
+    /// one of the two, or new. Marks of collision and ends that follow from lengths are no
+    /// difference. Empty while nothing is in effect.
+    StoreResult tasksNotInEffect(std::set<int>& taskIds) const;
+
+    /// Takes over from now on what other programs put into effect, end or cut in, within a second.
+    /// Looks when the system tells that the store was written, and once a second besides. Off at
+    /// first and, since it needs a QCoreApplication, when that has gone. Without this, open,
+    /// reload and a refresh of the list take it over.
+    void followStore(bool isOn = true);
+    /// Plays the stored set in this process alone, until the store has something in effect. For
+    /// hosts that show a schedule which nobody has started. Nothing happens while one is in effect.
+    void rehearse();
+
 signals:
     /// scheduleManage::save could not commit. Emitted while save still runs, so that a receiver can
     /// still ask the operator, call trySave again or write the working set elsewhere.
@@ -134,6 +169,12 @@ signals:
     /// Comes right before workingSetChanged and names every task that was put in, taken out or
     /// edited since it last came; a task that was edited back stands among them.
     void workingTasksChanged(const std::set<int>& taskIds);
+
+    /// A schedule was started, here or elsewhere, was stopped, or has other insertions. What is on
+    /// screen for it is told by dispatch(), before this.
+    void effectChanged();
+    /// A start or an insertion by scheduleManage could not be written; what was in effect goes on.
+    void effectRefused(const trel::mediadispatch::StoreResult& reason);
 
 private:
     ScheduleHost();

@@ -12,6 +12,7 @@ namespace {
 void closeAtEnd()
 {
     ScheduleService::instance().watchFiles(false);
+    ScheduleService::instance().followStore(false);
     ScheduleService::instance().close();
 }
 
@@ -50,6 +51,9 @@ StoreResult ScheduleService::open(const QString& path, StoreOpenMode mode, Store
         closeWithApplication();
         result = read(part);
     }
+    if (result && part != StorePart::Catalogue) {
+        result = followEffect();
+    }
     if (!result) {
         close();
         return result;
@@ -57,6 +61,7 @@ StoreResult ScheduleService::open(const QString& path, StoreOpenMode mode, Store
     m_state.tasks.resetWorking();
     m_areEndsUntold = false;
     renewWatch();
+    renewFollower();
     return result;
 }
 
@@ -69,14 +74,106 @@ void ScheduleService::close()
     m_revision = StoreRevision();
     m_isMarkingDue = false;
     m_areEndsUntold = false;
-    m_state.inEffect.stop();
+    m_state.inEffect.leave();
     renewWatch();
+    renewFollower();
 }
 
-void ScheduleService::start()
+StoreResult ScheduleService::start()
 {
     closeWithApplication();
-    m_state.inEffect.start(m_state.tasks.stored());
+    return changeEffect(
+        [this](ScheduleInEffect& inEffect) { return inEffect.start(m_state.tasks.stored()); });
+}
+
+void ScheduleService::startOrTell()
+{
+    const StoreResult result = start();
+    if (!result) {
+        emit effectRefused(result);
+    }
+}
+
+StoreResult ScheduleService::changeEffect(const EffectChange& change)
+{
+    const int before = m_state.inEffect.changes();
+    StoreResult result = change(m_state.inEffect);
+    if (m_state.inEffect.changes() != before) {
+        emit effectChanged();
+    }
+    return result;
+}
+
+void ScheduleService::changeEffectOrTell(const EffectChange& change)
+{
+    const StoreResult result = changeEffect(change);
+    if (!result) {
+        emit effectRefused(result);
+    }
+}
+
+void ScheduleService::rehearse()
+{
+    closeWithApplication();
+    m_state.inEffect.rehearse(m_state.tasks.stored());
+}
+
+StoreResult ScheduleService::tasksNotInEffect(std::set<int>& taskIds)
+{
+    taskIds.clear();
+    const auto& started = m_state.inEffect.started();
+    if (!started) {
+        return {};
+    }
+    TaskMap inEffect = m_state.inEffect.dispatch().tasks();
+    TaskMap saved = m_state.tasks.stored();
+    if (m_database.isOpen()) {
+        StoreRevision now;
+        StoreResult result = m_database.readRevision(now);
+        if (!result || now.schedule == started->saved) {
+            return result;
+        }
+        StoreContents contents;
+        StoredEffect effect;
+        result = m_database.read(StorePart::Schedule, contents);
+        if (result) {
+            result = m_database.readEffect(effect);
+        }
+        if (!result) {
+            return result;
+        }
+        saved = std::move(contents.tasks);
+        inEffect = std::move(effect.tasks);
+    }
+    for (TaskMap* tasks : {&saved, &inEffect}) {
+        for (auto& [id, task] : *tasks) {
+            updatePlanEnds(task, m_state.catalogue);
+        }
+    }
+    taskIds = otherTasks(saved, inEffect);
+    return {};
+}
+
+StoreResult ScheduleService::followEffect()
+{
+    return changeEffect([](ScheduleInEffect& inEffect) { return inEffect.follow(); });
+}
+
+void ScheduleService::followStore(bool isOn)
+{
+    m_isFollowing = isOn;
+    renewFollower();
+}
+
+void ScheduleService::renewFollower()
+{
+    m_follower.reset();
+    if (m_isFollowing && m_database.isOpen()) {
+        closeWithApplication();
+        m_follower = std::make_unique<StoreFollower>(m_database.path());
+        // What cannot be read now is read a second later.
+        connect(m_follower.get(), &StoreFollower::due, this, [this] { followEffect(); });
+    }
 }
 
 StoreResult ScheduleService::read(StorePart part)
@@ -228,6 +325,9 @@ StoreResult ScheduleService::reload()
     if (result) {
         result = read(StorePart::Both);
     }
+    if (result) {
+        result = followEffect();
+    }
     if (!result) {
         return result;
     }
@@ -255,6 +355,7 @@ void ScheduleService::refresh()
     } else {
         markLostEntries();
     }
+    followEffect();
 }
 
 void ScheduleService::watchFiles(bool isOn)

@@ -4,12 +4,14 @@
 #include "catalogue/ProgramCatalogue.h"
 #include "catalogue/ProgramFileWatch.h"
 #include "effect/ScheduleInEffect.h"
+#include "effect/StoreFollower.h"
 #include "store/ScheduleDatabase.h"
 
 #include <QCoreApplication>
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
@@ -23,9 +25,13 @@ struct MediaSource;
 /// What the service holds in memory.
 struct ScheduleState
 {
+    explicit ScheduleState(ScheduleDatabase& database)
+        : inEffect(catalogue, database)
+    {}
+
     TaskSets tasks;
     ProgramCatalogue catalogue;
-    ScheduleInEffect inEffect{catalogue};
+    ScheduleInEffect inEffect;
     std::string selectedProgram; ///< UTF-8; see scheduleManage::setqstrSelectedProgram.
 };
 
@@ -49,8 +55,24 @@ public:
     void close();
     const ScheduleDatabase& database() const { return m_database; }
 
-    /// Puts the stored set into effect.
-    void start();
+    /// A change of what is in effect.
+    using EffectChange = std::function<StoreResult(ScheduleInEffect& inEffect)>;
+
+    /// Puts the saved schedule into effect.
+    StoreResult start();
+    /// The same, with effectRefused in the place of a refusal.
+    void startOrTell();
+    /// Carries out a change of what is in effect, and tells of it.
+    StoreResult changeEffect(const EffectChange& change);
+    /// The same, with effectRefused in the place of a refusal.
+    void changeEffectOrTell(const EffectChange& change);
+    /// Plays the stored set in this process alone while the store has nothing in effect.
+    void rehearse();
+    /// See ScheduleHost::tasksNotInEffect.
+    StoreResult tasksNotInEffect(std::set<int>& taskIds);
+    /// See ScheduleHost::followStore.
+    void followStore(bool isOn);
+
     /// Commits the working set.
     StoreResult save();
     /// The same, with saveFailed in the place of a refusal.
@@ -88,6 +110,9 @@ signals:
     void workingSetChanged();
     /// A save was refused that no caller waits for.
     void saveFailed(const trel::mediadispatch::StoreResult& reason);
+    void effectChanged();
+    /// A change of what is in effect was refused that no caller waits for.
+    void effectRefused(const trel::mediadispatch::StoreResult& reason);
 
 private:
     ScheduleService() = default;
@@ -107,6 +132,10 @@ private:
     /// Tells everybody how the catalogue has changed, and has other files watched.
     void announce(const CatalogueChange& change);
     void tellEverybody(const CatalogueChange& change);
+    /// Takes over what other programs have put into effect, ended, or cut in.
+    StoreResult followEffect();
+    /// Follows the store that is open now, where one is to be followed.
+    void renewFollower();
     /// Lets the watch know that the files, or what is known of them, are others.
     void renewWatch();
     /// Reads the catalogue and tells how it has changed.
@@ -119,14 +148,16 @@ private:
     /// Marks stored entries whose programs have left the catalogue.
     void markLostEntries();
 
-    ScheduleState m_state;
     ScheduleDatabase m_database;
+    ScheduleState m_state{m_database};
     StoreRevision m_revision; ///< What has been read of the store.
     /// Since entries were last marked, programs or stored tasks have changed.
     bool m_isMarkingDue = false;
     /// Ends in the working set have changed, and no signal has told of it yet.
     bool m_areEndsUntold = false;
     std::unique_ptr<ProgramFileWatch> m_fileWatch; ///< Only while files are watched.
+    std::unique_ptr<StoreFollower> m_follower;     ///< Only while an open store is followed.
+    bool m_isFollowing = false;
     /// The application whose event loop is still to tell of the working set.
     QPointer<QCoreApplication> m_noticeDue;
 };

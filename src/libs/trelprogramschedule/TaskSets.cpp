@@ -93,7 +93,29 @@ PlayTask withoutCollisions(PlayTask task)
     return task;
 }
 
+/// Whether two sets differ in a task by more than its marks of collision.
+bool isOther(const TaskMap& a, const TaskMap& b, int taskId)
+{
+    const auto one = a.find(taskId);
+    const auto other = b.find(taskId);
+    if (one == a.end() || other == b.end()) {
+        return (one == a.end()) != (other == b.end());
+    }
+    return withoutCollisions(one->second) != withoutCollisions(other->second);
+}
+
 } // namespace
+
+std::set<int> otherTasks(const TaskMap& a, const TaskMap& b)
+{
+    std::set<int> others;
+    for (const int id : idsOfBoth(a, b)) {
+        if (isOther(a, b, id)) {
+            others.insert(others.end(), id);
+        }
+    }
+    return others;
+}
 
 TaskEdits editsBetween(const TaskMap& from, const TaskMap& to, const HeldOtherwise& held)
 {
@@ -185,14 +207,8 @@ void TaskSets::putPlan(int taskId, const PlayPlan& plan)
 
 bool TaskSets::isEdited() const
 {
-    return std::any_of(m_touched.begin(), m_touched.end(), [this](int id) {
-        const auto stored = m_stored.find(id);
-        const auto working = m_working.find(id);
-        if (stored == m_stored.end() || working == m_working.end()) {
-            return (stored == m_stored.end()) != (working == m_working.end());
-        }
-        return withoutCollisions(stored->second) != withoutCollisions(working->second);
-    });
+    return std::any_of(m_touched.begin(), m_touched.end(),
+                       [this](int id) { return isOther(m_stored, m_working, id); });
 }
 
 TaskEdits TaskSets::edits() const

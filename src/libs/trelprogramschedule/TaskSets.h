@@ -45,6 +45,10 @@ struct HeldOtherwise
 /// Everything that turns one set into another one.
 TaskEdits editsBetween(const TaskMap& from, const TaskMap& to, const HeldOtherwise& held = {});
 
+/// The tasks in which two sets differ by more than their marks of collision, which are worked out
+/// afresh wherever a task is shown.
+std::set<int> otherTasks(const TaskMap& a, const TaskMap& b);
+
 /// The stored and the working set. Knows which tasks have been touched since the two were last the
 /// same, so that its questions cost what was edited and not what there is.
 class TaskSets

@@ -93,7 +93,7 @@ void scheduleManage::save()
 
 void scheduleManage::slotOpen()
 {
-    d->service.start();
+    d->service.startOrTell();
 }
 
 PlayPlan scheduleManage::getPlan(int taskId, int planId, int& index)
@@ -114,17 +114,20 @@ void scheduleManage::addPlan(int taskId, const PlayPlan& plan)
 
 void scheduleManage::setInsertPlanTask(int taskId, int planId, const PlayPlan& plan, bool immediate)
 {
-    d->state.inEffect.insert(taskId, planId, plan, !immediate);
+    d->service.changeEffectOrTell([&](ScheduleInEffect& inEffect) {
+        return inEffect.insert(taskId, planId, plan, !immediate);
+    });
 }
 
 void scheduleManage::setInsertPlanTaskDelayExcute(int taskId, int planId, const PlayPlan& plan)
 {
-    d->state.inEffect.insert(taskId, planId, plan, true);
+    setInsertPlanTask(taskId, planId, plan, false);
 }
 
 void scheduleManage::passOriginalPlanProgInfo(const std::vector<struProgInfo>& programs)
 {
-    d->state.inEffect.setOriginal(programs);
+    d->service.changeEffectOrTell(
+        [&](ScheduleInEffect& inEffect) { return inEffect.setOriginal(programs); });
 }
 
 bool scheduleManage::getScheduleState() const

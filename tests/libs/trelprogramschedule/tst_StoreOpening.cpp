@@ -2,6 +2,7 @@
 #include "StoreFixture.h"
 #include "faults/FaultWords.h"
 #include "store/StoreConnection.h"
+#include "store/StoreSchema.h"
 #include "support/FolderSnapshot.h"
 #include "support/TestProgram.h"
 
@@ -131,16 +132,16 @@ void tst_StoreOpening::refusals_data()
     });
     row("newer schema", StoreProblem::NewerSchema, [](const QString& path) {
         makeStore(path);
-        runIn(path, QStringLiteral("PRAGMA user_version = 2"));
+        runIn(path, QStringLiteral("PRAGMA user_version = 999"));
     });
     row("newer schema in the log", StoreProblem::NewerSchema, [](const QString& path) {
         makeStore(path);
-        runAndStop(path, QStringLiteral("PRAGMA user_version = 2"));
+        runAndStop(path, QStringLiteral("PRAGMA user_version = 999"));
         forgetLive(path);
     });
     row("newer schema in a log without index", StoreProblem::NewerSchema, [](const QString& path) {
         makeStore(path);
-        runAndStop(path, QStringLiteral("PRAGMA user_version = 2"));
+        runAndStop(path, QStringLiteral("PRAGMA user_version = 999"));
         forgetLive(path);
         QVERIFY(QFile::remove(path + QStringLiteral("-shm")));
     });
@@ -307,7 +308,8 @@ void tst_StoreOpening::createsInOneStep()
     const StoreConnection connection(path, StoreConnection::Access::ReadWrite);
     QCOMPARE(connection.value(QStringLiteral("PRAGMA journal_mode")).toString(),
              QStringLiteral("wal"));
-    QCOMPARE(connection.value(QStringLiteral("PRAGMA user_version")).toInt(), 1);
+    QCOMPARE(connection.value(QStringLiteral("PRAGMA user_version")).toInt(),
+             StoreSchema::newestVersion());
     QVERIFY(connection.value(QStringLiteral("PRAGMA application_id")).toInt() != 0);
     const QString strict = QStringLiteral("SELECT count(*) FROM pragma_table_list"
                                           " WHERE schema = 'main' AND type = 'table'"

@@ -5,7 +5,6 @@
 #include "trelprogramschedule/dispatch/ProgramFacts.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
 
-#include <algorithm>
 #include <tuple>
 #include <utility>
 
@@ -74,18 +73,7 @@ public:
         auto built = std::make_unique<ScreenTimeline>(tasks, programs, zone);
         timeline = std::move(built);
         isCatalogueNew = false;
-        Instant next = kNever;
-        for (auto insertion = insertions.rbegin(); insertion != insertions.rend(); ++insertion) {
-            insertion->ends = std::min(endOf(*insertion), next);
-            next = insertion->begins;
-        }
         facts = ProgramFacts(tasks, insertions, programs);
-    }
-
-    /// Where an insertion ends by itself, by the timeline as it stands.
-    Instant endOf(const ScreenInsertion& insertion) const
-    {
-        return timeline->withInsertion({}, insertion, insertion.begins, false).back().ends;
     }
 
     const std::map<int, ProgramIten>& programs;
@@ -133,11 +121,11 @@ const ScreenInsertions& ScreenDispatch::insertions() const
     return d->insertions;
 }
 
-void ScreenDispatch::start(const std::map<int, PlayTask>& tasks)
+void ScreenDispatch::start(const std::map<int, PlayTask>& tasks, ScreenInsertions insertions)
 {
     d->isRunning = true;
     d->tasks = tasks;
-    d->insertions.clear();
+    d->insertions = std::move(insertions);
     // Made before the clock is looked at, so that no leap in between is missed.
     d->alarm = Clock::current().makeAlarm([this] { wake(); });
     d->build();
@@ -166,23 +154,24 @@ void ScreenDispatch::updatePrograms()
     }
 }
 
-void ScreenDispatch::insert(ScreenInsertion request, bool isDelayed)
+ScreenInsertions ScreenDispatch::insertionsWith(ScreenInsertion request, bool isDelayed)
+{
+    if (d->isCatalogueNew) {
+        d->build();
+    }
+    return d->timeline->withInsertion(d->insertions, std::move(request),
+                                      Clock::current().msecsSinceEpoch(), isDelayed);
+}
+
+void ScreenDispatch::setInsertions(ScreenInsertions insertions)
 {
     const bool isAnew = d->isCatalogueNew;
     if (isAnew) {
         d->build();
     }
-    d->insertions = d->timeline->withInsertion(std::move(d->insertions), std::move(request),
-                                               Clock::current().msecsSinceEpoch(), isDelayed);
+    d->insertions = std::move(insertions);
     d->facts = ProgramFacts(d->tasks, d->insertions, d->programs);
     follow(isAnew);
-}
-
-void ScreenDispatch::setOriginal(const std::vector<struProgInfo>& programs)
-{
-    if (!d->insertions.empty()) {
-        d->insertions.back().original = programs;
-    }
 }
 
 void ScreenDispatch::wake()

@@ -37,8 +37,9 @@ public:
     /// copy what is to outlive a call.
     const ScreenTimeline& timeline() const;
     const std::map<int, PlayTask>& tasks() const;
-    /// Those that are over stay until the next one comes. The original of the last one is filled in
-    /// right after changed() has told of it.
+    /// Those that are over stay until the next one comes. Their instants never change: whatever
+    /// becomes of programs and clocks, an insertion ends where it was to end when it was taken. The
+    /// original of the last one is filled in right after changed() has told of it.
     const ScreenInsertions& insertions() const;
 
 signals:
@@ -54,15 +55,16 @@ private:
     explicit ScreenDispatch(const std::map<int, ProgramIten>& programs);
     ~ScreenDispatch() override;
 
-    /// Puts a schedule in the place of the former one, whose insertions go with it.
-    void start(const std::map<int, PlayTask>& tasks);
+    /// Puts a schedule in the place of the former one, with the insertions that it has.
+    void start(const std::map<int, PlayTask>& tasks, ScreenInsertions insertions = {});
     void stop();
     /// Takes note that the programs have changed.
     void updatePrograms();
-    /// Cuts a plan in, at once or as soon as the play on screen has ended.
-    void insert(ScreenInsertion request, bool isDelayed);
-    /// Kept with the insertion that came last.
-    void setOriginal(const std::vector<struProgInfo>& programs);
+    /// The insertions as they stand once a plan is cut in, at once or as soon as the play on screen
+    /// has ended.
+    ScreenInsertions insertionsWith(ScreenInsertion request, bool isDelayed);
+    /// Puts insertions in the place of those that the schedule had.
+    void setInsertions(ScreenInsertions insertions);
 
     void wake();
     /// Tells what is on screen, if that is anything new, and sleeps until it is over.

@@ -3,6 +3,8 @@
 #include "service/ScheduleRecords.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
 
+#include <QString>
+
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -19,6 +21,9 @@ struct ScreenInsertion
     Instant requested = 0; ///< When it was asked for.
     Instant begins = 0;    ///< When it takes the screen; later than requested when delayed.
     Instant ends = kNever; ///< When the screen goes back to the rules.
+
+    qint64 number = 0; ///< Which one of its store it is; 0 while it is in none.
+    QString askedBy;   ///< The program and the machine that asked for it; empty when not known.
 
     bool isWaitingAt(Instant moment) const { return requested <= moment && moment < begins; }
     bool hasScreenAt(Instant moment) const { return begins <= moment && moment < ends; }

@@ -252,6 +252,29 @@ ScreenInsertions ScreenTimeline::withInsertion(ScreenInsertions current, ScreenI
     return current;
 }
 
+ScreenInsertions ScreenTimeline::withoutInsertion(ScreenInsertions current, Instant moment) const
+{
+    moment = withinReach(moment);
+    const auto waiting =
+        std::find_if(current.begin(), current.end(), [moment](const ScreenInsertion& insertion) {
+            return insertion.isWaitingAt(moment);
+        });
+    if (waiting != current.end()) {
+        const Instant gaveWay = waiting->begins;
+        current.erase(waiting, current.end());
+        if (!current.empty() && current.back().ends == gaveWay) {
+            current.back().ends = d->endOf(current.back());
+        }
+        return current;
+    }
+    for (ScreenInsertion& insertion : current) {
+        if (insertion.hasScreenAt(moment)) {
+            insertion.ends = moment;
+        }
+    }
+    return current;
+}
+
 QDateTime ScreenTimeline::local(Instant moment) const
 {
     return QDateTime::fromMSecsSinceEpoch(moment, d->plain.offsets().zone());

@@ -94,6 +94,11 @@ public:
     ScreenInsertions withInsertion(ScreenInsertions current, ScreenInsertion request,
                                    Instant moment, bool isDelayed) const;
 
+    /// The insertions as they stand once the one that waits at a moment is taken back, or else the
+    /// one that has the screen ends at it. The one before that gave way to the one that waited has
+    /// the end again that it had before.
+    ScreenInsertions withoutInsertion(ScreenInsertions current, Instant moment) const;
+
     /// The local date and time of day of an instant, and the other way round: the earliest instant
     /// at which the local clock shows this or more; kNever for a date or time that is not valid.
     QDateTime local(Instant moment) const;

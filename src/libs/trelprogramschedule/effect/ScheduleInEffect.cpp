@@ -2,8 +2,14 @@
 
 #include "PlanEnds.h"
 #include "clock/Clock.h"
+#include "store/ScheduleDatabase.h"
+#include "trelprogramschedule/dispatch/ScreenTimeline.h"
+
+#include <QCoreApplication>
+#include <QSysInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace trel::mediadispatch {
 
@@ -12,6 +18,12 @@ namespace {
 Instant now()
 {
     return Clock::current().msecsSinceEpoch();
+}
+
+/// Who changes what is in effect, for those who see it elsewhere: "schedulectl@studio".
+QString thisProgram()
+{
+    return QCoreApplication::applicationName() + QLatin1Char('@') + QSysInfo::machineHostName();
 }
 
 /// The insertion that has the screen now; null without one.
@@ -47,17 +59,176 @@ PlayPlan ScheduleInEffect::plan(int taskId, int planId, int& index) const
     return found;
 }
 
-void ScheduleInEffect::insert(int taskId, int planId, const PlayPlan& plan, bool isDelayed)
+StoreResult ScheduleInEffect::start(const TaskMap& tasks)
 {
-    int index = -1;
-    findPlan(m_dispatch.tasks(), taskId, planId, index);
-    if (index >= 0) {
-        ScreenInsertion request;
-        request.taskId = taskId;
-        request.planId = planId;
-        request.plan = plan;
-        m_dispatch.insert(std::move(request), isDelayed);
+    EffectStart start;
+    start.since = now();
+    start.by = thisProgram();
+    StoredEffect effect;
+    if (isShared()) {
+        if (StoreResult result = m_database.startEffect(start, effect); !result) {
+            return result;
+        }
+    } else {
+        effect.start = start;
+        effect.tasks = tasks;
     }
+    m_start.reset();
+    take(std::move(effect));
+    return {};
+}
+
+StoreResult ScheduleInEffect::stop()
+{
+    StoredEffect effect;
+    if (isShared()) {
+        if (StoreResult result = m_database.stopEffect(effect); !result) {
+            return result;
+        }
+    }
+    m_isRehearsing = false;
+    take(std::move(effect));
+    return {};
+}
+
+void ScheduleInEffect::rehearse(const TaskMap& tasks)
+{
+    if (!m_start) {
+        m_isRehearsing = true;
+        m_dispatch.start(tasks);
+    }
+}
+
+void ScheduleInEffect::leave()
+{
+    m_start.reset();
+    m_revision = 0;
+    m_lastInsertion = 0;
+    m_isRehearsing = false;
+    m_dispatch.stop();
+}
+
+StoreResult ScheduleInEffect::follow()
+{
+    StoreRevision known;
+    StoreResult result = m_database.readRevision(known);
+    if (!result || known.effect == m_revision) {
+        return result;
+    }
+    StoredEffect effect;
+    result = m_database.readEffect(effect);
+    if (result) {
+        take(std::move(effect));
+    }
+    return result;
+}
+
+/// What a process without a store has in effect is its own.
+bool ScheduleInEffect::isShared() const
+{
+    return m_database.isOpen();
+}
+
+void ScheduleInEffect::take(StoredEffect effect)
+{
+    m_revision = effect.revision;
+    ++m_changes;
+    if (!effect.start) {
+        m_start.reset();
+        if (!m_isRehearsing) {
+            m_dispatch.stop();
+        }
+        return;
+    }
+    m_isRehearsing = false;
+    if (m_start == effect.start) {
+        m_dispatch.setInsertions(std::move(effect.insertions));
+        return;
+    }
+    m_start = effect.start;
+    for (auto& [id, task] : effect.tasks) {
+        markLostEntries(task, [this](int index) { return m_catalogue.contains(index); });
+    }
+    m_dispatch.start(effect.tasks, std::move(effect.insertions));
+}
+
+StoreResult ScheduleInEffect::changeInsertions(const InsertionChange& change)
+{
+    for (;;) {
+        std::optional<ScreenInsertions> insertions = change();
+        if (!insertions) {
+            return {};
+        }
+        StoreResult result;
+        // A rehearsal is no business of the store's.
+        if (isShared() && !m_isRehearsing) {
+            result = m_database.writeInsertions(*insertions, m_revision);
+        }
+        if (result) {
+            ++m_changes;
+            m_dispatch.setInsertions(*std::move(insertions));
+        }
+        if (result.problem != StoreProblem::MovedOn) {
+            return result;
+        }
+        if (result = follow(); !result) {
+            return result;
+        }
+    }
+}
+
+StoreResult ScheduleInEffect::insert(int taskId, int planId, const PlayPlan& plan, bool isDelayed)
+{
+    ScreenInsertion request;
+    request.taskId = taskId;
+    request.planId = planId;
+    request.plan = plan;
+    request.askedBy = thisProgram();
+    bool isTaken = false;
+    const auto cutIn = [&]() -> std::optional<ScreenInsertions> {
+        int index = -1;
+        findPlan(m_dispatch.tasks(), taskId, planId, index);
+        isTaken = index >= 0;
+        return isTaken ? std::make_optional(m_dispatch.insertionsWith(request, isDelayed))
+                       : std::nullopt;
+    };
+    StoreResult result = changeInsertions(cutIn);
+    // Who heard of the insertion may have ended the schedule since.
+    if (result && isTaken && !m_dispatch.insertions().empty()) {
+        m_lastInsertion = m_dispatch.insertions().back().number;
+    }
+    return result;
+}
+
+StoreResult ScheduleInEffect::cancelInsertion()
+{
+    return changeInsertions([this]() -> std::optional<ScreenInsertions> {
+        const ScreenInsertions& insertions = m_dispatch.insertions();
+        const Instant moment = now();
+        const bool isAny =
+            std::any_of(insertions.begin(), insertions.end(), [moment](const ScreenInsertion& one) {
+                return one.isWaitingAt(moment) || one.hasScreenAt(moment);
+            });
+        return isAny
+                   ? std::make_optional(m_dispatch.timeline().withoutInsertion(insertions, moment))
+                   : std::nullopt;
+    });
+}
+
+StoreResult ScheduleInEffect::setOriginal(const std::vector<struProgInfo>& programs)
+{
+    return changeInsertions([&]() -> std::optional<ScreenInsertions> {
+        ScreenInsertions insertions = m_dispatch.insertions();
+        const auto last =
+            std::find_if(insertions.begin(), insertions.end(), [this](const ScreenInsertion& one) {
+                return one.number == m_lastInsertion;
+            });
+        if (last == insertions.end()) {
+            return std::nullopt;
+        }
+        last->original = programs;
+        return insertions;
+    });
 }
 
 } // namespace trel::mediadispatch

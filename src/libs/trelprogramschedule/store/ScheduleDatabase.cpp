@@ -4,6 +4,7 @@
 #include "StoreCatalogue.h"
 #include "StoreConnection.h"
 #include "StoreDeadline.h"
+#include "StoreEffect.h"
 #include "StoreLog.h"
 #include "StoreRefusals.h"
 #include "StoreSchema.h"
@@ -69,6 +70,9 @@ StoreRevision revisionOf(const StoreConnection& connection)
     if (connection.next(row)) {
         revision.schedule = row.value(0).toLongLong();
         revision.catalogue = row.value(1).toLongLong();
+    }
+    if (StoreSchema::hasEffect(connection)) {
+        revision.effect = StoreEffect::revision(connection);
     }
     return revision;
 }
@@ -463,6 +467,66 @@ StoreResult ScheduleDatabase::removePrograms(const std::vector<int>& progIndexes
             transaction.commit();
         }
     });
+}
+
+StoreResult ScheduleDatabase::readEffect(StoredEffect& effect)
+{
+    return readWith([&] { effect = StoreEffect(*m_connection, m_file.path()).read(); });
+}
+
+/// Carries out a change of what is in effect in one transaction.
+template <typename Change>
+StoreResult ScheduleDatabase::changeEffect(const Change& change)
+{
+    if (StoreResult place = judgeInPlace(); !place) {
+        return place;
+    }
+    return attempt([&] {
+        StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
+        change(StoreEffect(*m_connection, m_file.path()));
+        transaction.commit();
+    });
+}
+
+StoreResult ScheduleDatabase::startEffect(EffectStart start, StoredEffect& effect)
+{
+    StoredEffect started;
+    StoreResult result = changeEffect([&](const StoreEffect& stored) {
+        start.saved = revisionOf(*m_connection).schedule;
+        stored.start(start);
+        started = stored.read();
+    });
+    if (result) {
+        effect = std::move(started);
+    }
+    return result;
+}
+
+StoreResult ScheduleDatabase::stopEffect(StoredEffect& effect)
+{
+    StoredEffect stopped;
+    StoreResult result = changeEffect([&](const StoreEffect& stored) {
+        stored.stop();
+        stopped = stored.read();
+    });
+    if (result) {
+        effect = std::move(stopped);
+    }
+    return result;
+}
+
+StoreResult ScheduleDatabase::writeInsertions(ScreenInsertions& insertions, qint64& revision)
+{
+    StoreResult result = changeEffect([&](const StoreEffect& stored) {
+        if (StoreEffect::revision(*m_connection) != revision) {
+            throw StoreError{refusal(StoreProblem::MovedOn, m_file.path())};
+        }
+        stored.putInsertions(insertions);
+    });
+    if (result) {
+        ++revision;
+    }
+    return result;
 }
 
 StoreResult ScheduleDatabase::countPlansWith(const std::vector<int>& progIndexes, int& count) const

@@ -3,6 +3,7 @@
 #include "StoreContents.h"
 #include "StoreFile.h"
 #include "StoreResult.h"
+#include "StoredEffect.h"
 #include "TaskSets.h"
 
 #include <QString>
@@ -68,6 +69,17 @@ public:
     /// Takes programs out, all of them or none; an index that is not in the catalogue changes
     /// nothing. Gives the revisions after that.
     StoreResult removePrograms(const std::vector<int>& progIndexes, StoreRevision& revision);
+    /// Reads what is in effect.
+    StoreResult readEffect(StoredEffect& effect);
+    /// Puts the saved tasks into effect, as they are in the store now, and gives what is in effect
+    /// then. The revision that was started is written into the start.
+    StoreResult startEffect(EffectStart start, StoredEffect& effect);
+    /// Ends what is in effect, whatever it is, and gives that nothing is.
+    StoreResult stopEffect(StoredEffect& effect);
+    /// Writes the insertions, if what is in effect still has the revision that is given; MovedOn
+    /// otherwise. Gives the new revision, and a number to the insertion that is new.
+    StoreResult writeInsertions(ScreenInsertions& insertions, qint64& revision);
+
     /// See ScheduleHost::plansWith.
     StoreResult countPlansWith(const std::vector<int>& progIndexes, int& count) const;
 
@@ -80,6 +92,8 @@ private:
     StoreResult connect();
     template <typename Reading>
     StoreResult readWith(const Reading& reading);
+    template <typename Change>
+    StoreResult changeEffect(const Change& change);
     void readParts(StorePart part, const StoreConnection& connection,
                    StoreContents& contents) const;
     bool takeSeen(StorePart part, StoreContents& contents);

@@ -104,23 +104,29 @@ std::optional<StoreRevision> revisionIn(const QByteArray& page)
     row.varint(); // The first column is the number of the row.
     const qint64 scheduleKind = row.varint();
     const qint64 catalogueKind = row.varint();
+    const qint64 nextProgIndexKind = row.varint();
+    // A row that was written before there was this column ends here.
+    const qint64 effectKind = row.place() < begin + headSize ? row.varint() : 0;
     row.moveTo(begin + static_cast<int>(std::min<qint64>(headSize, page.size())));
     StoreRevision revision;
     revision.schedule = row.number(scheduleKind);
     revision.catalogue = row.number(catalogueKind);
+    row.number(nextProgIndexKind);
+    revision.effect = row.number(effectKind);
     return revision;
 }
 
 bool isSame(const StoreRevision& a, const StoreRevision& b)
 {
-    return a.schedule == b.schedule && a.catalogue == b.catalogue;
+    return a.schedule == b.schedule && a.catalogue == b.catalogue && a.effect == b.effect;
 }
 
 bool isNext(const StoreRevision& former, const StoreRevision& later)
 {
     const qint64 schedule = later.schedule - former.schedule;
     const qint64 catalogue = later.catalogue - former.catalogue;
-    return schedule >= 0 && catalogue >= 0 && schedule + catalogue == 1;
+    const qint64 effect = later.effect - former.effect;
+    return schedule >= 0 && catalogue >= 0 && effect >= 0 && schedule + catalogue + effect == 1;
 }
 
 } // namespace

@@ -12,12 +12,95 @@ namespace {
 
 /// More than any schema has, so that one that has more shows.
 constexpr int kMostElements = 1000;
+/// The first version that has tables for what is in effect.
+constexpr int kEffectVersion = 2;
 /// What a message shows of a name that somebody else has chosen.
 constexpr int kLongestName = 60;
 
 Fault partFault(FaultCode code, const std::pair<QString, QString>& element)
 {
     return faultOf(code, element.second.left(kLongestName), element.first);
+}
+
+/// Tables for the plans of what another table holds under the name of its key.
+QStringList planStatements(const QString& prefix, const QString& owner)
+{
+    // Rows are found by their place, as those of the saved tasks are.
+    const QStringList statements = {
+        QStringLiteral("CREATE TABLE %1_plan ("
+                       " task_id INTEGER NOT NULL REFERENCES %2 ON DELETE CASCADE,"
+                       " position INTEGER NOT NULL,"
+                       " id INTEGER NOT NULL,"
+                       " mode INTEGER NOT NULL,"
+                       " start_time TEXT NOT NULL,"
+                       " end_time TEXT NOT NULL,"
+                       " times INTEGER NOT NULL,"
+                       " service_count INTEGER NOT NULL,"
+                       " end_action INTEGER NOT NULL,"
+                       " is_conflict INTEGER NOT NULL,"
+                       " weeks TEXT NOT NULL,"
+                       " service_time TEXT NOT NULL,"
+                       " has_no_duration INTEGER NOT NULL,"
+                       " service_flag_a INTEGER NOT NULL,"
+                       " service_flag_b INTEGER NOT NULL,"
+                       " PRIMARY KEY (task_id, position)) STRICT, WITHOUT ROWID"),
+        QStringLiteral("CREATE TABLE %1_plan_value ("
+                       " task_id INTEGER NOT NULL,"
+                       " plan_position INTEGER NOT NULL,"
+                       " position INTEGER NOT NULL,"
+                       " value INTEGER NOT NULL,"
+                       " PRIMARY KEY (task_id, plan_position, position),"
+                       " FOREIGN KEY (task_id, plan_position) REFERENCES %1_plan"
+                       " ON DELETE CASCADE) STRICT, WITHOUT ROWID"),
+        QStringLiteral("CREATE TABLE %1_entry ("
+                       " task_id INTEGER NOT NULL,"
+                       " plan_position INTEGER NOT NULL,"
+                       " position INTEGER NOT NULL,"
+                       " prog_index INTEGER NOT NULL,"
+                       " is_invalid INTEGER NOT NULL,"
+                       " name TEXT NOT NULL,"
+                       " play_count INTEGER NOT NULL,"
+                       " PRIMARY KEY (task_id, plan_position, position),"
+                       " FOREIGN KEY (task_id, plan_position) REFERENCES %1_plan"
+                       " ON DELETE CASCADE) STRICT, WITHOUT ROWID")};
+    QStringList filled;
+    for (const QString& statement : statements) {
+        filled.append(statement.contains(QLatin1String("%2")) ? statement.arg(prefix, owner)
+                                                              : statement.arg(prefix));
+    }
+    return filled;
+}
+
+/// What is in effect, beside what is saved.
+QStringList effectStatements()
+{
+    QStringList statements = {
+        QStringLiteral("ALTER TABLE store"
+                       " ADD COLUMN effect_revision INTEGER NOT NULL DEFAULT 0"),
+        // Writes the row in its new form, which a log is compared with.
+        QStringLiteral("UPDATE store SET effect_revision = 0"),
+        // No row while nothing is in effect.
+        QStringLiteral("CREATE TABLE effect ("
+                       " one INTEGER PRIMARY KEY CHECK (one = 1),"
+                       " since_ms INTEGER NOT NULL,"
+                       " schedule_revision INTEGER NOT NULL,"
+                       " started_by TEXT NOT NULL) STRICT"),
+        QStringLiteral("CREATE TABLE effect_task ("
+                       " id INTEGER PRIMARY KEY,"
+                       " start_date TEXT NOT NULL,"
+                       " end_date TEXT NOT NULL) STRICT")};
+    statements += planStatements(QStringLiteral("effect"), QStringLiteral("effect_task"));
+    // Its plans: at 0 what it plays, at 1 the list as the operator saw it before.
+    statements += QStringLiteral("CREATE TABLE insertion ("
+                                 " number INTEGER PRIMARY KEY,"
+                                 " requested_ms INTEGER NOT NULL,"
+                                 " begins_ms INTEGER NOT NULL,"
+                                 " ends_ms INTEGER NOT NULL,"
+                                 " task_id INTEGER NOT NULL,"
+                                 " plan_id INTEGER NOT NULL,"
+                                 " asked_by TEXT NOT NULL) STRICT");
+    statements += planStatements(QStringLiteral("insertion"), QStringLiteral("insertion"));
+    return statements;
 }
 
 } // namespace
@@ -84,6 +167,7 @@ const std::vector<StoreSchema::Step>& StoreSchema::steps()
                          " PRIMARY KEY (task_id, plan_position, position),"
                          " FOREIGN KEY (task_id, plan_position) REFERENCES plan"
                          " ON DELETE CASCADE) STRICT, WITHOUT ROWID")}},
+        {kEffectVersion, effectStatements()},
     };
     return steps;
 }
@@ -101,6 +185,11 @@ int StoreSchema::newestVersion()
 bool StoreSchema::isNewest(const StoreConnection& connection)
 {
     return versionOf(connection) == newestVersion();
+}
+
+bool StoreSchema::hasEffect(const StoreConnection& connection)
+{
+    return versionOf(connection) >= kEffectVersion;
 }
 
 StoreSchema::Elements StoreSchema::elementsOf(const StoreConnection& connection)

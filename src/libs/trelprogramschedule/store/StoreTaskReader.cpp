@@ -11,15 +11,23 @@
 
 namespace trel::mediadispatch {
 
-StoreTaskReader::StoreTaskReader(const StoreConnection& connection, QString path)
+StoreTaskReader::StoreTaskReader(const StoreConnection& connection, QString path, QString prefix)
     : m_connection(connection)
     , m_path(std::move(path))
+    , m_prefix(std::move(prefix))
     , m_current(m_tasks.end())
 {}
 
 TaskMap StoreTaskReader::read()
 {
     readTasks();
+    return readPlansOf(std::move(m_tasks));
+}
+
+TaskMap StoreTaskReader::readPlansOf(TaskMap owners)
+{
+    m_tasks = std::move(owners);
+    m_current = m_tasks.end();
     readPlans();
     readValues();
     readEntries();
@@ -45,7 +53,8 @@ void StoreTaskReader::readTasks()
 {
     QSqlQuery row = m_connection.query(
         QStringLiteral("SELECT id, CAST(start_date AS BLOB), CAST(end_date AS BLOB)"
-                       " FROM task ORDER BY id"));
+                       " FROM %1 ORDER BY id")
+            .arg(table("task")));
     while (m_connection.next(row)) {
         expectRoom(m_tasks.size(), kMostTasks, FaultCode::TooManyTasks);
         PlayTask read;
@@ -64,7 +73,8 @@ void StoreTaskReader::readPlans()
                        " service_count,"
                        " end_action, is_conflict, CAST(weeks AS BLOB), CAST(service_time AS BLOB), "
                        "has_no_duration,"
-                       " service_flag_a, service_flag_b FROM plan ORDER BY task_id, position"));
+                       " service_flag_a, service_flag_b FROM %1 ORDER BY task_id, position")
+            .arg(table("plan")));
     for (std::size_t count = 0; m_connection.next(row); ++count) {
         expectRoom(count, kMostPlans, FaultCode::TooManyPlans);
         std::vector<PlayPlan>& plans = task(row.value(0)).plans;
@@ -88,9 +98,10 @@ void StoreTaskReader::readPlans()
 
 void StoreTaskReader::readValues()
 {
-    QSqlQuery row = m_connection.query(
-        QStringLiteral("SELECT task_id, plan_position, position, value FROM plan_value"
-                       " ORDER BY task_id, plan_position, position"));
+    QSqlQuery row =
+        m_connection.query(QStringLiteral("SELECT task_id, plan_position, position, value FROM %1"
+                                          " ORDER BY task_id, plan_position, position")
+                               .arg(table("plan_value")));
     for (std::size_t count = 0; m_connection.next(row); ++count) {
         expectRoom(count, kMostServiceValues, FaultCode::TooManyListNumbers);
         std::vector<std::int64_t>& values = plan(row).serviceList;
@@ -101,9 +112,11 @@ void StoreTaskReader::readValues()
 
 void StoreTaskReader::readEntries()
 {
-    QSqlQuery row = m_connection.query(QStringLiteral(
-        "SELECT task_id, plan_position, position, prog_index, is_invalid, CAST(name AS BLOB),"
-        " play_count FROM entry ORDER BY task_id, plan_position, position"));
+    QSqlQuery row = m_connection.query(
+        QStringLiteral("SELECT task_id, plan_position, position, prog_index, is_invalid,"
+                       " CAST(name AS BLOB), play_count"
+                       " FROM %1 ORDER BY task_id, plan_position, position")
+            .arg(table("entry")));
     for (std::size_t count = 0; m_connection.next(row); ++count) {
         expectRoom(count, kMostEntries, FaultCode::TooManyEntries);
         std::vector<struProgInfo>& entries = plan(row).programs;
@@ -114,6 +127,11 @@ void StoreTaskReader::readEntries()
         read.progName = utf8(row, 5);
         read.playCount = row.value(6).toInt();
     }
+}
+
+QString StoreTaskReader::table(const char* name) const
+{
+    return m_prefix + QLatin1String(name);
 }
 
 PlayTask& StoreTaskReader::task(const QVariant& id)

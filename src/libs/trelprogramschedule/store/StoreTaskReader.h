@@ -17,9 +17,14 @@ class StoreConnection;
 class StoreTaskReader
 {
 public:
-    StoreTaskReader(const StoreConnection& connection, QString path);
+    /// Of the tables that tasks are saved in, or of others of the same form, whose names begin with
+    /// a prefix.
+    StoreTaskReader(const StoreConnection& connection, QString path, QString prefix = {});
 
     TaskMap read();
+    /// Reads the plans of owners that were read already, filed by the numbers that their plans
+    /// have as those of their task.
+    TaskMap readPlansOf(TaskMap owners);
 
     /// How many plans have an entry of one of these programs that has not gone bad.
     static int countPlansWith(const StoreConnection& connection,
@@ -40,8 +45,11 @@ private:
     void expectRoom(std::size_t count, std::size_t most, FaultCode excess) const;
     [[noreturn]] void refuse() const;
 
+    QString table(const char* name) const;
+
     const StoreConnection& m_connection;
     QString m_path;
+    QString m_prefix;
     TaskMap m_tasks;
     TaskMap::iterator m_current;
 };

@@ -22,18 +22,7 @@ StoreTaskWriter::StoreTaskWriter(const StoreConnection& connection)
           " WHERE task_id = ? AND position = ?")))
     , m_task(connection.prepare(QStringLiteral("INSERT INTO task (id, start_date, end_date)"
                                                " VALUES (?, CAST(? AS TEXT), CAST(? AS TEXT))")))
-    , m_plan(connection.prepare(QStringLiteral(
-          "INSERT INTO plan (task_id, position, id, mode, start_time, end_time, times,"
-          " service_count, end_action, is_conflict, weeks, service_time, has_no_duration,"
-          " service_flag_a, service_flag_b)"
-          " VALUES (?, ?, ?, ?, CAST(? AS TEXT), CAST(? AS TEXT), ?, ?, ?, ?, CAST(? AS TEXT),"
-          " CAST(? AS TEXT), ?, ?, ?)")))
-    , m_value(connection.prepare(
-          QStringLiteral("INSERT INTO plan_value (task_id, plan_position, position, value)"
-                         " VALUES (?, ?, ?, ?)")))
-    , m_entry(connection.prepare(QStringLiteral(
-          "INSERT INTO entry (task_id, plan_position, position, prog_index, is_invalid, name,"
-          " play_count) VALUES (?, ?, ?, ?, ?, CAST(? AS TEXT), ?)")))
+    , m_plans(connection)
 {}
 
 void StoreTaskWriter::write(const TaskEdits& edits)
@@ -76,13 +65,7 @@ void StoreTaskWriter::insert(const PlayTask& task)
 {
     bindFrom(0, m_task, task.id, bytes(task.startDate), bytes(task.endDate));
     m_connection.exec(m_task);
-    int position = 0;
-    for (const PlayPlan& plan : task.plans) {
-        insertPlan(task.id, position, plan);
-        insertValues(task.id, position, plan);
-        insertEntries(task.id, position, plan);
-        ++position;
-    }
+    m_plans.insert(task.id, task.plans);
 }
 
 void StoreTaskWriter::updateDates(const PlayTask& task)
@@ -99,36 +82,6 @@ void StoreTaskWriter::updatePlan(const PlanEdit& edit)
              bytes(plan.serviceTime), plan.hasNoDuration, plan.serviceFlagA, plan.serviceFlagB,
              edit.taskId, edit.position);
     m_connection.exec(m_planFields);
-}
-
-void StoreTaskWriter::insertPlan(int taskId, int position, const PlayPlan& plan)
-{
-    bindFrom(0, m_plan, taskId, position, plan.id, plan.mode, bytes(plan.startTime),
-             bytes(plan.endTime), plan.times, plan.serviceCount, plan.endAction, plan.isConflict,
-             bytes(plan.weeks), bytes(plan.serviceTime), plan.hasNoDuration, plan.serviceFlagA,
-             plan.serviceFlagB);
-    m_connection.exec(m_plan);
-}
-
-void StoreTaskWriter::insertValues(int taskId, int position, const PlayPlan& plan)
-{
-    bindFrom(0, m_value, taskId, position);
-    int place = 0;
-    for (const std::int64_t value : plan.serviceList) {
-        bindFrom(2, m_value, place++, static_cast<qlonglong>(value));
-        m_connection.exec(m_value);
-    }
-}
-
-void StoreTaskWriter::insertEntries(int taskId, int position, const PlayPlan& plan)
-{
-    bindFrom(0, m_entry, taskId, position);
-    int place = 0;
-    for (const struProgInfo& entry : plan.programs) {
-        bindFrom(2, m_entry, place++, entry.progIndex, entry.isInvalid, bytes(entry.progName),
-                 entry.playCount);
-        m_connection.exec(m_entry);
-    }
 }
 
 } // namespace trel::mediadispatch

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "StorePlanWriter.h"
 #include "TaskSets.h"
 
 #include <QSqlQuery>
@@ -22,9 +23,6 @@ private:
     void insert(const PlayTask& task);
     void updateDates(const PlayTask& task);
     void updatePlan(const PlanEdit& edit);
-    void insertPlan(int taskId, int position, const PlayPlan& plan);
-    void insertValues(int taskId, int position, const PlayPlan& plan);
-    void insertEntries(int taskId, int position, const PlayPlan& plan);
 
     const StoreConnection& m_connection;
     QSqlQuery m_removeEntries;
@@ -34,9 +32,7 @@ private:
     QSqlQuery m_dates;
     QSqlQuery m_planFields;
     QSqlQuery m_task;
-    QSqlQuery m_plan;
-    QSqlQuery m_value;
-    QSqlQuery m_entry;
+    StorePlanWriter m_plans;
 };
 
 } // namespace trel::mediadispatch

@@ -26,7 +26,7 @@ private slots:
     void insertionOfAPlanThatIsNotInEffect();
     void theServiceAnnouncesNothing();
     void startDropsAnInsertion();
-    void closingEndsIt();
+    void closingLeavesIt();
 };
 
 void tst_ScheduleInEffect::nothingIsInEffectAtFirst()
@@ -272,13 +272,17 @@ void tst_ScheduleInEffect::startDropsAnInsertion()
     QVERIFY(store.host.dispatch().insertions().empty());
 }
 
-void tst_ScheduleInEffect::closingEndsIt()
+void tst_ScheduleInEffect::closingLeavesIt()
 {
     StoreFixture store;
     store.save(sampleSchedule(1, 1, 0));
     store.manager.slotOpen();
-    store.restart();
+    store.host.close();
     QVERIFY(store.manager.getScheduleState());
+    QVERIFY(!store.host.started());
+    store.open();
+    QVERIFY(!store.manager.getScheduleState());
+    QVERIFY(store.host.started());
 }
 
 TREL_TEST(tst_ScheduleInEffect, QCoreApplication)
