@@ -5,9 +5,23 @@ namespace trel::console {
 const std::vector<Command>& allCommands()
 {
     static const std::vector<Command> commands = {
-        importCommand(), programsCommand(), removeProgramCommand(),  showCommand(),
-        checkCommand(),  nowCommand(),      timelineCommand(),       whyCommand(),
-        runCommand(),    exportCommand(),   importScheduleCommand(), checkLanguageCommand(),
+        importCommand(),
+        programsCommand(),
+        removeProgramCommand(),
+        showCommand(),
+        checkCommand(),
+        nowCommand(),
+        timelineCommand(),
+        whyCommand(),
+        effectCommand(),
+        startCommand(),
+        stopCommand(),
+        insertCommand(),
+        cancelInsertionCommand(),
+        runCommand(),
+        exportCommand(),
+        importScheduleCommand(),
+        checkLanguageCommand(),
     };
     return commands;
 }

@@ -250,7 +250,7 @@ void tst_CtlRun::takesOverAnotherDatabase()
     QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(1));
     QCOMPARE(std::rename(qPrintable(other), qPrintable(database)), 0);
     QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(2));
-    QVERIFY(run.hasTold(QStringLiteral("1 task with 1 plan in effect.")));
+    QVERIFY(run.hasTold(QStringLiteral("1 task with 1 plan play now.")));
     // The new file is watched like the former one.
     m_fixture->store(allDay({{1, false, "first", 1}}));
     QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(1));

@@ -88,6 +88,7 @@ void tst_CtlScreen::nowTellsWhatPlaysAndWhatComes()
     QCOMPARE(result.lines(),
              (QStringList{
                  QStringLiteral("Moment        2024-01-03 08:32:20"),
+                 QStringLiteral("In effect     nothing; this is what is saved"),
                  QStringLiteral("Screen        plays Weather"),
                  QStringLiteral("Position      0:00:05.000 of 0:00:45.000"),
                  QStringLiteral("Entry         2 of 2, play 2 of 2, run 11"),
@@ -112,7 +113,7 @@ void tst_CtlScreen::nowAsJson()
         ask({QStringLiteral("now"), kJson, kAt, QStringLiteral("2024-01-03 08:32:20")});
     QCOMPARE(result.status, 0);
     const QJsonObject json = result.json();
-    QCOMPARE(json.keys(), split("database moment nextPlan nextProgram now"));
+    QCOMPARE(json.keys(), split("database effect moment nextPlan nextProgram now"));
     QCOMPARE(json[QStringLiteral("moment")].toString(),
              QStringLiteral("2024-01-03T08:32:20.000+01:00"));
     const QJsonObject now = json[QStringLiteral("now")].toObject();
@@ -146,6 +147,7 @@ void tst_CtlScreen::nowWithoutAPlan()
     QCOMPARE(ask({QStringLiteral("now"), kAt, QStringLiteral("2023-12-31 12:00")}).lines(),
              (QStringList{
                  QStringLiteral("Moment        2023-12-31 12:00:00"),
+                 QStringLiteral("In effect     nothing; this is what is saved"),
                  QStringLiteral("Screen        black screen"),
                  QStringLiteral("Until         2024-01-01 08:00:00"),
                  QStringLiteral("Why           No plan has started yet."),
@@ -155,6 +157,7 @@ void tst_CtlScreen::nowWithoutAPlan()
     QCOMPARE(ask({QStringLiteral("now"), kAt, QStringLiteral("2024-01-31 14:00")}).lines(),
              (QStringList{
                  QStringLiteral("Moment        2024-01-31 14:00:00"),
+                 QStringLiteral("In effect     nothing; this is what is saved"),
                  QStringLiteral("Screen        last frame of rtsp://host/live"),
                  QStringLiteral("Plan          task 1, row 3, plan 7"),
                  QStringLiteral("Since         13:00:00"),
@@ -257,7 +260,7 @@ void tst_CtlScreen::timelineOfPlays()
 void tst_CtlScreen::timelineAsJson()
 {
     const QJsonObject json = ask(split("timeline --json --from 2024-01-03 --to 2024-01-04")).json();
-    QCOMPARE(json.keys(), split("database from spans to"));
+    QCOMPARE(json.keys(), split("database effect from spans to"));
     QCOMPARE(json[QStringLiteral("to")].toString(),
              QStringLiteral("2024-01-04T00:00:00.000+01:00"));
     QCOMPARE(json[QStringLiteral("spans")].toArray().size(), 6);
@@ -362,7 +365,7 @@ void tst_CtlScreen::whyAsJson()
     const QJsonObject json = ask({QStringLiteral("why"), QStringLiteral("News"), kJson, kAt,
                                   QStringLiteral("2024-01-03 08:31:00")})
                                  .json();
-    QCOMPARE(json.keys(), split("database moment now plans plays program"));
+    QCOMPARE(json.keys(), split("database effect moment now plans plays program"));
     QCOMPARE(json[QStringLiteral("plays")], QJsonValue(true));
     const QJsonArray plans = json[QStringLiteral("plans")].toArray();
     QCOMPARE(plans.size(), 2);

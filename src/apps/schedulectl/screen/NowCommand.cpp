@@ -3,6 +3,7 @@
 #include "Database.h"
 #include "NowReport.h"
 #include "StoredScreen.h"
+#include "effect/EffectReport.h"
 #include "text/Console.h"
 
 using namespace trel::mediadispatch;
@@ -14,14 +15,15 @@ namespace {
 ExitStatus run(const Invocation& invocation, Console& console)
 {
     const auto work = [&](const Database& database, const StoredScreen& screen, Instant moment) {
-        const ScreenState state = screen.timeline().at(moment);
-        const Upcoming next = upcoming(screen.timeline(), state);
+        const ScreenState state = screen.timeline().at(moment, screen.insertions());
+        const Upcoming next = upcoming(screen.timeline(), screen.insertions(), state);
         if (invocation.json) {
             QJsonObject object = nowJson(moment, state, next, screen.words());
             object.insert(QStringLiteral("database"), database.path());
+            object.insert(QStringLiteral("effect"), startJson(screen.started(), screen.words()));
             console.writeJson(object);
         } else {
-            console.write(nowText(moment, state, next, screen.words()));
+            console.write(nowText(moment, state, next, screen.started(), screen.words()));
         }
         return Done;
     };
@@ -38,9 +40,10 @@ Command nowCommand()
             0,
             true,
             "Show what is on screen, and what comes next",
-            R"(Shows what the saved schedule has on screen at a moment: the program, with the
-position in it, its entry, play and run, the plan, until when, and the rule that
-makes it so; and the next program and the next plan with their moments.
+            R"(Shows what the schedule in effect has on screen at a moment: the program, with
+the position in it, its entry, play and run, the plan, until when, and the rule
+that makes it so; and the next program and the next plan with their moments.
+Where nothing is in effect, what the saved schedule would show.
 
 A moment is a date and a time of day, such as "2024-03-31 08:00:00" or
 2024-03-31T08:00; the seconds may be left out, and a time alone is one of today.
@@ -49,7 +52,7 @@ clock skips is taken as the first moment after the gap, one that occurs twice as
 the first of the two; either is reported on standard error.)",
             run,
             true,
-            {{"--at", "MOMENT", "The moment; defaults to now."}}};
+            {{"--at", "MOMENT", "The moment; defaults to now."}, savedOption()}};
 }
 
 } // namespace trel::console

@@ -1,5 +1,6 @@
 #include "NowReport.h"
 
+#include "effect/EffectReport.h"
 #include "text/DisplayText.h"
 
 using namespace trel::mediadispatch;
@@ -82,11 +83,13 @@ QJsonValue optionalJson(const std::optional<ScreenState>& state, const ScreenRep
 } // namespace
 
 QString nowText(Instant moment, const ScreenState& state, const Upcoming& next,
-                const ScreenReport& words)
+                const std::optional<EffectStart>& started, const ScreenReport& words)
 {
     const MomentFormat& local = words.source().local;
     NamedLines lines;
     lines.add(QStringLiteral("Moment"), local.text(moment));
+    lines.add(QStringLiteral("In effect"), started ? sinceText(*started, local)
+                                                   : QStringLiteral("nothing; this is what is saved"));
     lines.add(QStringLiteral("Screen"), words.pictureText(state));
     if (state.isPlaying()) {
         lines.add(QStringLiteral("Position"), positionText(state, words));

@@ -1,6 +1,9 @@
 #include "ProgramChoice.h"
 
 #include "Database.h"
+#include "text/Console.h"
+#include "text/DisplayText.h"
+#include "trelprogramschedule/catalogue/ShownAddress.h"
 
 using namespace trel::mediadispatch;
 
@@ -53,6 +56,28 @@ QString ProgramChoice::name(int progIndex) const
 {
     const auto found = m_names.find(progIndex);
     return found == m_names.end() ? m_database.programName(progIndex) : found->second;
+}
+
+std::optional<int> chosenProgram(const ProgramChoice& choice, const QString& word,
+                                 const Database& database, Console& console)
+{
+    const std::vector<int> found = choice.find(word);
+    if (found.size() == 1) {
+        return found.front();
+    }
+    if (found.empty()) {
+        console.tell(QStringLiteral("There is no program %1 in %2; \"schedulectl programs\" lists "
+                                    "the programs.")
+                         .arg(inQuotes(shownAddress(word)), printable(database.path())));
+        return {};
+    }
+    console.tell(QStringLiteral("Several programs are called %1; an index tells them apart:")
+                     .arg(inQuotes(shownAddress(word))));
+    for (const int progIndex : found) {
+        console.tellLine(
+            QStringLiteral("  %1  %2").arg(progIndex, 5).arg(printable(choice.name(progIndex))));
+    }
+    return {};
 }
 
 } // namespace trel::console

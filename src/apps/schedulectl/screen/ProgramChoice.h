@@ -10,6 +10,7 @@
 
 namespace trel::console {
 
+class Console;
 class Database;
 
 /// The programs that a word of the command line may mean: those of the catalogue, and those that
@@ -31,5 +32,10 @@ private:
     const Database& m_database;
     std::map<int, QString> m_names;
 };
+
+/// The one program that a word means; none, and the user is told why, where it means another number
+/// of them.
+std::optional<int> chosenProgram(const ProgramChoice& choice, const QString& word,
+                                 const Database& database, Console& console);
 
 } // namespace trel::console

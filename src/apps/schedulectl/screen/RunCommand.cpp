@@ -34,9 +34,10 @@ Command runCommand()
             0,
             true,
             "Execute the schedule on the terminal",
-            R"(Puts the saved schedule into effect and writes a line for each event: when it
-is, what is on screen, until when, and the rule that makes it so. What another
-program saves meanwhile is taken over at once.
+            R"(Writes a line for each event of the schedule in effect: when it is, what is on
+screen, until when, and the rule that makes it so. Where nothing is in effect at
+first, the saved schedule plays, here alone, until something is. What another
+program saves, starts, ends or inserts meanwhile is taken over at once.
 
 Sleeps between the events. Ends with status 0 when it is interrupted or told to
 terminate (SIGINT, SIGTERM). With --json each line is an object by itself.)",

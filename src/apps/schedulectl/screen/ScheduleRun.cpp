@@ -48,6 +48,7 @@ ScheduleRun::ScheduleRun(const Database& database, bool json, Console& console)
     m_nextLook.setSingleShot(true);
     connect(&m_nextLook, &QTimer::timeout, this, &ScheduleRun::takeOver);
     connect(&database.host().dispatch(), &ScreenDispatch::changed, this, &ScheduleRun::write);
+    connect(&database.host(), &ScheduleHost::effectChanged, this, &ScheduleRun::tellOfEffect);
 }
 
 ExitStatus ScheduleRun::run()
@@ -59,9 +60,10 @@ ExitStatus ScheduleRun::run()
                                       "programs save will not be taken over."));
     }
     m_database.host().watchFiles();
-    // What was saved before the watch began is not missed.
+    // What was saved or started before the watch began is not missed.
     m_database.tasks();
-    putIntoEffect();
+    m_started = m_database.host().started();
+    playSaved();
     write(m_database.host().dispatch().state());
     if (m_console.arrives()) {
         m_loop.exec();
@@ -95,9 +97,11 @@ void ScheduleRun::takeOver()
         m_nextLook.start(kReadingPause);
     }
     if (isAnother) {
-        m_console.tell(QStringLiteral("Another program has saved the schedule; %1 in effect.")
-                           .arg(sizeText(m_database.tasks())));
-        putIntoEffect();
+        m_console.tell(QStringLiteral("Another program has saved the schedule; %1.")
+                           .arg(host.started()
+                                    ? QStringLiteral("what is in effect goes on")
+                                    : sizeText(m_database.tasks()) + QStringLiteral(" play now")));
+        playSaved();
     }
 }
 
@@ -112,6 +116,18 @@ void ScheduleRun::tellOfLoss(const StoreResult& result)
     m_loss = loss;
 }
 
+void ScheduleRun::tellOfEffect()
+{
+    const auto started = m_database.host().started();
+    if (started == m_started) {
+        return;
+    }
+    m_started = started;
+    m_console.tell(started ? QStringLiteral("Another program has put a schedule into effect; %1.")
+                                 .arg(sizeText(m_database.host().dispatch().tasks()))
+                           : QStringLiteral("Another program has ended what was in effect."));
+}
+
 void ScheduleRun::tellOfReturn()
 {
     if (!m_loss.isEmpty()) {
@@ -120,9 +136,10 @@ void ScheduleRun::tellOfReturn()
     m_loss.clear();
 }
 
-void ScheduleRun::putIntoEffect()
+/// Where nothing is in effect.
+void ScheduleRun::playSaved()
 {
-    scheduleManage::getInstance().slotOpen();
+    m_database.host().rehearse();
 }
 
 void ScheduleRun::write(const ScreenState& state)

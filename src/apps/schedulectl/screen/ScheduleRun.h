@@ -18,8 +18,9 @@ namespace trel::console {
 
 class Console;
 
-/// The stored schedule in effect on a terminal: a line for each event on the screen, until a signal
-/// ends it. Saves of other programs are taken over as they come.
+/// The schedule in effect on a terminal: a line for each event on the screen, until a signal ends
+/// it. Where nothing is in effect at first, the saved schedule plays until something is. What other
+/// programs save, start and end is taken over as it comes.
 class ScheduleRun : public QObject
 {
     Q_OBJECT
@@ -35,7 +36,8 @@ private:
     void takeOver();
     void tellOfLoss(const trel::mediadispatch::StoreResult& result);
     void tellOfReturn();
-    void putIntoEffect();
+    void tellOfEffect();
+    void playSaved();
     void write(const trel::mediadispatch::ScreenState& state);
     trel::mediadispatch::Instant momentOf(const trel::mediadispatch::ScreenState& state) const;
 
@@ -49,6 +51,7 @@ private:
     QString m_loss;    ///< Why the store cannot be read; told once, and empty when it can.
     std::optional<std::map<int, trel::mediadispatch::ProgramIten>> m_programs;
     std::optional<trel::mediadispatch::ScreenState> m_last;
+    std::optional<trel::mediadispatch::EffectStart> m_started; ///< As the user knows it.
 };
 
 } // namespace trel::console

@@ -3,13 +3,27 @@
 #include "clock/Clock.h"
 #include "common/ZoneError.h"
 #include "text/Console.h"
+#include "trelprogramschedule/dispatch/ScreenDispatch.h"
 
 using namespace trel::mediadispatch;
 
 namespace trel::console {
 
-StoredScreen::StoredScreen(const Database& database, const MomentFormat& local)
-    : m_tasks(database.tasks())
+namespace {
+
+constexpr char kSaved[] = "--saved";
+
+std::optional<EffectStart> startedIn(const Database& database, bool isSavedWanted)
+{
+    return isSavedWanted ? std::nullopt : database.host().started();
+}
+
+} // namespace
+
+StoredScreen::StoredScreen(const Database& database, const MomentFormat& local, bool isSavedWanted)
+    : m_started(startedIn(database, isSavedWanted))
+    , m_insertions(m_started ? database.host().dispatch().insertions() : ScreenInsertions())
+    , m_tasks(m_started ? database.host().dispatch().tasks() : database.tasks())
     , m_programs(database.programs())
     , m_timeline(m_tasks, m_programs, local.zone())
     , m_words({m_tasks, m_programs, local})
@@ -54,7 +68,12 @@ ExitStatus atMoment(const Invocation& invocation, Console& console, const Screen
     if (!database) {
         return Refused;
     }
-    return work(*database, StoredScreen(*database, local), *moment);
+    return work(*database, StoredScreen(*database, local, invocation.has(kSaved)), *moment);
+}
+
+CommandOption savedOption()
+{
+    return {kSaved, "", "Show the saved schedule, whatever is in effect."};
 }
 
 } // namespace trel::console

@@ -4,6 +4,7 @@
 #include "StoredScreen.h"
 #include "TimelineReport.h"
 #include "clock/Clock.h"
+#include "effect/EffectReport.h"
 #include "text/Console.h"
 
 using namespace trel::mediadispatch;
@@ -19,13 +20,13 @@ void writeLines(const StoredScreen& screen, Instant from, Instant to, TimelineRe
 {
     const ScreenTimeline& timeline = screen.timeline();
     if (lines == TimelineReport::Lines::Plays) {
-        timeline.visitPlays(from, to, {}, [&](const ScreenState& state) {
+        timeline.visitPlays(from, to, screen.insertions(), [&](const ScreenState& state) {
             report.write(state, {});
             return console.arrives();
         });
     } else {
-        timeline.visitSpans(from, to, {}, [&](const ScreenState& state) {
-            report.write(state, timeline.afterList(state, {}));
+        timeline.visitSpans(from, to, screen.insertions(), [&](const ScreenState& state) {
+            report.write(state, timeline.afterList(state, screen.insertions()));
             return console.arrives();
         });
     }
@@ -72,12 +73,14 @@ ExitStatus run(const Invocation& invocation, Console& console)
     if (!database) {
         return Refused;
     }
-    const StoredScreen screen(*database, local);
+    const StoredScreen screen(*database, local, invocation.has("--saved"));
     const auto lines =
         invocation.has("--plays") ? TimelineReport::Lines::Plays : TimelineReport::Lines::Spans;
     if (invocation.json) {
         writeTimelineJson(screen, *from, *to, lines,
-                          {{QStringLiteral("database"), database->path()}}, console);
+                          {{QStringLiteral("database"), database->path()},
+                           {QStringLiteral("effect"), startJson(screen.started(), screen.words())}},
+                          console);
     } else {
         writeTimelineText(screen, *from, *to, lines, console);
     }
@@ -94,10 +97,11 @@ Command timelineCommand()
             0,
             true,
             "List what is on screen from one moment to another",
-            R"(Lists what the saved schedule has on screen from one moment to another: a line
-for each time that a plan is on screen without a break, and one for each
-stretch between. The first line starts when its state began, even before --from,
-and the last line ends when its state ends.
+            R"(Lists what the schedule in effect has on screen from one moment to another: a
+line for each time that a plan or an insertion is on screen without a break, and
+one for each stretch between. The first line starts when its state began, even
+before --from, and the last line ends when its state ends. Where nothing is in
+effect, it lists the saved schedule.
 
 Moments are written as for "schedulectl now"; a date alone is the start of that
 day.)",
@@ -105,7 +109,8 @@ day.)",
             true,
             {{"--from", "MOMENT", "The first moment.", true},
              {"--to", "MOMENT", "The moment before which the list ends.", true},
-             {"--plays", "", "A line for each play of a program."}}};
+             {"--plays", "", "A line for each play of a program."},
+             savedOption()}};
 }
 
 } // namespace trel::console

@@ -18,11 +18,12 @@ bool isOfPlan(const ScreenState& state)
     }
 }
 
-std::optional<ScreenState> nextPlan(const ScreenTimeline& timeline, Instant moment)
+std::optional<ScreenState> nextPlan(const ScreenTimeline& timeline,
+                                    const ScreenInsertions& insertions, Instant moment)
 {
     std::optional<ScreenState> found;
     if (moment != kNever) {
-        timeline.visitSpans(moment, kNever, {}, [&found](const ScreenState& state) {
+        timeline.visitSpans(moment, kNever, insertions, [&found](const ScreenState& state) {
             if (isOfPlan(state)) {
                 found = state;
             }
@@ -34,11 +35,13 @@ std::optional<ScreenState> nextPlan(const ScreenTimeline& timeline, Instant mome
 
 } // namespace
 
-Upcoming upcoming(const ScreenTimeline& timeline, const ScreenState& now)
+Upcoming upcoming(const ScreenTimeline& timeline, const ScreenInsertions& insertions,
+                  const ScreenState& now)
 {
     constexpr int noProgram = -1;
     const SoughtPlay another = {now.isPlaying() ? now.progIndex : noProgram, true};
-    return {timeline.nextPlay(now.until, kNever, {}, another), nextPlan(timeline, now.spanUntil)};
+    return {timeline.nextPlay(now.until, kNever, insertions, another),
+            nextPlan(timeline, insertions, now.spanUntil)};
 }
 
 } // namespace trel::console

@@ -17,6 +17,7 @@ struct Upcoming
 
 /// Looks ahead from a state of the timeline, as far as its tasks reach.
 Upcoming upcoming(const trel::mediadispatch::ScreenTimeline& timeline,
+                  const trel::mediadispatch::ScreenInsertions& insertions,
                   const trel::mediadispatch::ScreenState& now);
 
 } // namespace trel::console
