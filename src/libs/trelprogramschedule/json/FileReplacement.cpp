@@ -1,5 +1,7 @@
 #include "FileReplacement.h"
 
+#include "DraftFile.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -46,11 +48,15 @@ FaultCode kindOf(mode_t mode)
 class Draft
 {
 public:
-    explicit Draft(const QByteArray& target)
-        : m_target(target)
-        , m_name(target + ".XXXXXX")
-        , m_handle(::mkostemp(m_name.data(), O_CLOEXEC)) // with a mode for the owner alone
-    {}
+    explicit Draft(const QString& target)
+        : m_target(QFile::encodeName(target))
+        , m_name(QFile::encodeName(draftPath(target)))
+    {
+        // Only one of a former program with the same number could stand there.
+        ::unlink(m_name.constData());
+        m_handle =
+            ::open(m_name.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    }
     ~Draft()
     {
         if (m_handle >= 0) {
@@ -70,7 +76,7 @@ public:
 private:
     QByteArray m_target;
     QByteArray m_name;
-    int m_handle;
+    int m_handle = -1;
 };
 
 bool Draft::write(const QByteArray& content) const
@@ -129,11 +135,12 @@ Fault replaceFile(const QString& path, const QByteArray& content)
     if (isThere && ::access(name.constData(), W_OK) != 0) {
         return faultOf(FaultCode::System, errno);
     }
-    Draft draft(name);
+    Draft draft(target);
     if (!draft.isOpen() || (isThere && !draft.setMode(former.st_mode)) || !draft.write(content) ||
         !draft.sync() || !draft.takePlace()) {
         return faultOf(FaultCode::System, errno);
     }
+    removeLeftDrafts(target);
     syncFolder(target);
     return {};
 }

@@ -1,20 +1,16 @@
 #include "StoreFile.h"
 
+#include "DraftFile.h"
 #include "StoreRefusals.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QtEndian>
 
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
-#include <memory>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -81,33 +77,7 @@ StoreFile::Identity identityOf(const QString& path)
     return {status.st_dev, status.st_ino};
 }
 
-/// Stands between the name of a database and the number of the program that makes it.
-QLatin1String draftMark()
-{
-    return QLatin1String(".new-");
-}
-
-struct CloseFolder
-{
-    void operator()(DIR* folder) const { ::closedir(folder); }
-};
-
-/// Null behind the last name, and where there is no folder.
-const dirent* next(DIR* folder)
-{
-    return folder == nullptr ? nullptr : ::readdir(folder);
-}
-
 constexpr const char* kDatabaseSuffixes[] = {"", "-journal", "-wal", "-shm"};
-
-/// Whether what stands behind the mark of a draft is the number of a program that has ended.
-bool isOfStoppedProgram(const QStringRef& rest)
-{
-    static const QRegularExpression form(QStringLiteral("^([0-9]+)(-journal|-wal|-shm)?$"));
-    const QRegularExpressionMatch match = form.match(rest);
-    const int program = match.captured(1).toInt();
-    return program > 0 && ::kill(program, 0) != 0 && errno == ESRCH;
-}
 
 qint64 headerNumber(const QByteArray& header, int offset)
 {
@@ -246,7 +216,7 @@ void StoreFile::removeLog(const Identity& log) const
 
 QString StoreFile::draftPath() const
 {
-    return m_path + draftMark() + QString::number(QCoreApplication::applicationPid());
+    return mediadispatch::draftPath(m_path);
 }
 
 bool StoreFile::makeDraft() const
@@ -283,20 +253,7 @@ void StoreFile::removeDraft() const
 
 void StoreFile::removeLeftDrafts() const
 {
-    const QFileInfo info(m_path);
-    const QString start = info.fileName() + draftMark();
-    // The folder may hold thousands of media files, so that none is looked at but by its name.
-    const std::unique_ptr<DIR, CloseFolder> folder(
-        ::opendir(QFile::encodeName(info.path()).constData()));
-    for (const dirent* entry = next(folder.get()); entry != nullptr; entry = next(folder.get())) {
-        const QString name = QFile::decodeName(entry->d_name);
-        if (name.startsWith(start) && isOfStoppedProgram(name.midRef(start.size()))) {
-            const QFileInfo draft(info.dir(), name);
-            if (draft.isFile() && !draft.isSymLink()) {
-                QFile::remove(draft.filePath());
-            }
-        }
-    }
+    mediadispatch::removeLeftDrafts(m_path);
 }
 
 StoreFile::Stamp StoreFile::stamp() const

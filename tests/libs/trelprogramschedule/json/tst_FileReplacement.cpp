@@ -2,6 +2,7 @@
 #include "support/FolderSnapshot.h"
 #include "json/FileReplacement.h"
 
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -80,6 +81,7 @@ private slots:
     void whatIsNoFileIsRefused();
     void aFailedSyncLeavesTheOldFile();
     void aFileThatMayNotGrowLeavesTheOldFile();
+    void whatStoppedProgramsLeftGoes();
 };
 
 void tst_FileReplacement::replacesAFile()
@@ -203,6 +205,33 @@ void tst_FileReplacement::aFileThatMayNotGrowLeavesTheOldFile()
     std::signal(SIGXFSZ, former);
     QCOMPARE(reason, qt_error_string(EFBIG));
     QCOMPARE(before.differences(FolderSnapshot(folder.path())), QStringList());
+}
+
+/// What a program that was killed in an export has left goes with the next export to the same
+/// place; what looks alike, and what a program at work makes, stays.
+void tst_FileReplacement::whatStoppedProgramsLeftGoes()
+{
+    QProcess ended;
+    ended.start(QStringLiteral("true"), QStringList());
+    QVERIFY(ended.waitForStarted());
+    const qint64 stopped = ended.processId();
+    QVERIFY(ended.waitForFinished());
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("out.json"));
+    const QString left = path + QStringLiteral(".new-%1").arg(stopped);
+    const QStringList others = {path + QStringLiteral(".new-%1").arg(::getppid()),
+                                path + QStringLiteral(".new-x"), path + QStringLiteral(".old"),
+                                folder.filePath(QStringLiteral("other.json.new-%1").arg(stopped))};
+    write(left, "half");
+    for (const QString& other : others) {
+        write(other, "other");
+    }
+    QVERIFY(!replaceFile(path, "new"));
+    QVERIFY(!QFile::exists(left));
+    for (const QString& other : others) {
+        QCOMPARE(contentOf(other), QByteArray("other"));
+    }
+    QCOMPARE(contentOf(path), QByteArray("new"));
 }
 
 QTEST_GUILESS_MAIN(tst_FileReplacement)
