@@ -32,7 +32,7 @@ namespace {
 
 constexpr unsigned kSeed = 20261122;
 /// EFFECT_STEPS and EFFECT_SEED give others for a long trial.
-constexpr int kSteps = 60;
+constexpr int kSteps = 120;
 constexpr int kKills = 40;
 constexpr int kPatience = 30000; // milliseconds
 /// How long a follower may take, with what a busy machine adds.
