@@ -3,9 +3,11 @@
 #include "service/scheduleManage.h"
 #include "support/SampleSchedule.h"
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/dispatch/ScreenDispatch.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -44,6 +46,24 @@ bool write(const QString& path, const QByteArray& content)
     std::exit(2);
 }
 
+/// What is in effect in the store that is open, but for the moments.
+QByteArray effectText()
+{
+    const ScheduleHost& host = ScheduleHost::instance();
+    if (!host.started()) {
+        return "in effect: nothing\n";
+    }
+    ScreenDispatch& dispatch = ScheduleHost::instance().dispatch();
+    QByteArray text = "in effect, of save " + QByteArray::number(host.started()->saved) + ":\n" +
+                      scheduleToJson(dispatch.tasks());
+    for (const ScreenInsertion& insertion : dispatch.insertions()) {
+        const bool isOver = insertion.ends <= QDateTime::currentMSecsSinceEpoch();
+        text += QByteArray(isOver ? "ended: " : "inserted: ") +
+                QByteArray::number(insertion.plan.programs.front().progIndex) + '\n';
+    }
+    return text;
+}
+
 } // namespace
 
 const std::vector<WritingCommand>& writingCommands()
@@ -66,6 +86,11 @@ const std::vector<WritingCommand>& writingCommands()
         {"import-schedule, after a crash", replace, "crashed"},
         {"remove-program", onStore({QStringLiteral("remove-program"), QStringLiteral("1")}),
          "store"},
+        {"start", onStore({QStringLiteral("start")}), "store"},
+        {"start, of another", onStore({QStringLiteral("start")}), "inserted"},
+        {"stop", onStore({QStringLiteral("stop")}), "inserted"},
+        {"insert", onStore({QStringLiteral("insert"), QStringLiteral("1")}), "started"},
+        {"cancel-insertion", onStore({QStringLiteral("cancel-insertion")}), "inserted"},
         {"export, new", take, "store", true},
         {"export", take, "exported", true},
     };
@@ -95,6 +120,15 @@ TrialFolder::TrialFolder(QString console)
     write(filePath(kExport), "[]");
     keepState("exported");
     QFile::remove(filePath(kExport));
+
+    if (!runConsole(QStringList{QStringLiteral("start")} + database)) {
+        giveUp("the console does not start a schedule");
+    }
+    keepState("started");
+    if (!runConsole(QStringList{QStringLiteral("insert"), QStringLiteral("1")} + database)) {
+        giveUp("the console does not insert a program");
+    }
+    keepState("inserted");
 
     // A store whose last save stands in its log alone, as a crash leaves it.
     ScheduleHost& host = ScheduleHost::instance();
@@ -188,7 +222,7 @@ bool TrialFolder::runConsole(const QStringList& words) const
 QByteArray TrialFolder::storeContents() const
 {
     const QString store = filePath(kStore);
-    const QByteArray none = "programs:\ntasks:\n" + scheduleToJson({});
+    const QByteArray none = "programs:\ntasks:\n" + scheduleToJson({}) + effectText();
     ScheduleHost& host = ScheduleHost::instance();
     const StoreResult opened = host.open(store, ScheduleHost::OpenMode::MustExist);
     if (!opened) {
@@ -201,7 +235,7 @@ QByteArray TrialFolder::storeContents() const
         text +=
             QByteArray::number(index) + ' ' + QByteArray::fromStdString(program.mediaPath) + '\n';
     }
-    text += "tasks:\n" + scheduleToJson(manager.getgTaskMap());
+    text += "tasks:\n" + scheduleToJson(manager.getgTaskMap()) + effectText();
     host.close();
     return text;
 }

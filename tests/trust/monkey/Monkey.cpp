@@ -39,6 +39,8 @@ namespace {
 
 /// Turns inside each other, above which prompts are only answered.
 constexpr int kDeepest = 8;
+/// A program that ends is gone long before.
+constexpr int kTurnsAtEnd = 1000;
 constexpr int kMostPromptsAtEnd = 40;
 /// The system hands the focus on after a window has gone; so many turns it may take.
 constexpr int kMostFocusMisses = 200;
@@ -607,10 +609,28 @@ void Monkey::end(Dice& dice)
     }
 }
 
+/// Once, so that a program that does not end says which windows keep it.
+void Monkey::tellWhatKeepsIt()
+{
+    if (++m_turnsAtEnd != kTurnsAtEnd) {
+        return;
+    }
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (const QWidget* window : windows) {
+        if (window->isVisible()) {
+            FlightRecorder::note(
+                QStringLiteral("still there: %1 '%2'%3")
+                    .arg(QLatin1String(window->metaObject()->className()), window->objectName(),
+                         window->parentWidget() ? QStringLiteral(" of another") : QString()));
+        }
+    }
+}
+
 void Monkey::waitForEnd()
 {
     QWidget* const modal = QApplication::activeModalWidget();
     if (!modal) {
+        tellWhatKeepsIt();
         return;
     }
     if (++m_promptsAtEnd > kMostPromptsAtEnd) {

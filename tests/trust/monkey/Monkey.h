@@ -51,6 +51,7 @@ private:
 
     void end(Dice& dice);
     void waitForEnd();
+    void tellWhatKeepsIt();
 
     /// The window that the operator has before them.
     QWidget* front(Dice& dice) const;
@@ -67,6 +68,7 @@ private:
     int m_actionsLeft;
     int m_depth = 0;
     bool m_isEnding = false;
+    int m_turnsAtEnd = 0; ///< Since no prompt stands any more.
     int m_promptsAtEnd = 0;
     int m_focusMisses = 0;
     QPointer<QWidget> m_held;
