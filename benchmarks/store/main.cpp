@@ -1,5 +1,6 @@
 #include "Comparison.h"
 #include "EditorWaits.h"
+#include "FollowCases.h"
 #include "KeystrokeCases.h"
 #include "StartCases.h"
 #include "StoreCases.h"
@@ -19,6 +20,7 @@ int main(int argc, char** argv)
     bench::addWaitCases();
     bench::addEditorWaits();
     bench::addKeystrokeCases();
+    bench::addFollowCases();
     try {
         bench::run();
         return 0;
