@@ -481,7 +481,7 @@ StoreResult ScheduleDatabase::changeEffect(const Change& change)
     if (StoreResult place = judgeInPlace(); !place) {
         return place;
     }
-    return attempt([&] {
+    return attempt(m_file.path(), [&] {
         StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
         change(StoreEffect(*m_connection, m_file.path()));
         transaction.commit();
