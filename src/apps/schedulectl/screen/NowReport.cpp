@@ -88,8 +88,9 @@ QString nowText(Instant moment, const ScreenState& state, const Upcoming& next,
     const MomentFormat& local = words.source().local;
     NamedLines lines;
     lines.add(QStringLiteral("Moment"), local.text(moment));
-    lines.add(QStringLiteral("In effect"), started ? sinceText(*started, local)
-                                                   : QStringLiteral("nothing; this is what is saved"));
+    lines.add(QStringLiteral("In effect"), started
+                                               ? sinceText(*started, local)
+                                               : QStringLiteral("nothing; this is what is saved"));
     lines.add(QStringLiteral("Screen"), words.pictureText(state));
     if (state.isPlaying()) {
         lines.add(QStringLiteral("Position"), positionText(state, words));
