@@ -29,6 +29,7 @@ ScheduleHost::ScheduleHost()
     connect(&shown, &ScheduleService::catalogueChanged, this, &ScheduleHost::catalogueChanged);
     connect(&shown, &ScheduleService::effectChanged, this, &ScheduleHost::effectChanged);
     connect(&shown, &ScheduleService::effectRefused, this, &ScheduleHost::effectRefused);
+    connect(&shown, &ScheduleService::savedElsewhere, this, &ScheduleHost::savedElsewhere);
 }
 
 ScheduleHost::~ScheduleHost() = default;
@@ -149,6 +150,11 @@ StoreResult ScheduleHost::insertPlan(int taskId, int planId, const PlayPlan& pla
 StoreResult ScheduleHost::cancelInsertion()
 {
     return service().changeEffect(std::mem_fn(&ScheduleInEffect::cancelInsertion));
+}
+
+StoreResult ScheduleHost::skipPlay()
+{
+    return service().changeEffect(std::mem_fn(&ScheduleInEffect::skipPlay));
 }
 
 StoreResult ScheduleHost::tasksNotInEffect(std::set<int>& taskIds) const

@@ -140,9 +140,15 @@ public:
     /// Takes back the insertion that waits, or else ends the one that has the screen. Where there
     /// is none, nothing happens.
     StoreResult cancelInsertion();
+    /// Ends the play on screen at once, and goes on with the one that would come next: that of the
+    /// insertion that waits, or else of the list that plays, which from then on is cut in for its
+    /// plan. An insertion that plays its program once, or has nothing to play, ends instead. Where
+    /// nothing plays, nothing happens.
+    StoreResult skipPlay();
     /// The saved tasks, read from the store, that differ from what is in effect: other, missing in
     /// one of the two, or new. Marks of collision and ends that follow from lengths are no
-    /// difference. Empty while nothing is in effect.
+    /// difference. Empty while nothing is in effect. Reads both schedules when one of them is
+    /// another than the last time, and costs next to nothing otherwise.
     StoreResult tasksNotInEffect(std::set<int>& taskIds) const;
 
     /// Takes over from now on what other programs put into effect, end or cut in, within a second.
@@ -175,6 +181,9 @@ signals:
     void effectChanged();
     /// A start or an insertion by scheduleManage could not be written; what was in effect goes on.
     void effectRefused(const trel::mediadispatch::StoreResult& reason);
+    /// Another program has saved: the store holds another schedule than was last read or saved here
+    /// with a signal. Comes while the store is followed.
+    void savedElsewhere();
 
 private:
     ScheduleHost();

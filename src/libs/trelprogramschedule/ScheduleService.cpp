@@ -60,6 +60,7 @@ StoreResult ScheduleService::open(const QString& path, StoreOpenMode mode, Store
     }
     m_state.tasks.resetWorking();
     m_areEndsUntold = false;
+    m_toldSave = m_revision.schedule;
     renewWatch();
     renewFollower();
     return result;
@@ -74,6 +75,7 @@ void ScheduleService::close()
     m_revision = StoreRevision();
     m_isMarkingDue = false;
     m_areEndsUntold = false;
+    m_compared.reset();
     m_state.inEffect.leave();
     renewWatch();
     renewFollower();
@@ -127,10 +129,16 @@ StoreResult ScheduleService::tasksNotInEffect(std::set<int>& taskIds)
     }
     TaskMap inEffect = m_state.inEffect.dispatch().tasks();
     TaskMap saved = m_state.tasks.stored();
+    std::optional<EffectComparison> comparison;
     if (m_database.isOpen()) {
         StoreRevision now;
         StoreResult result = m_database.readRevision(now);
         if (!result || now.schedule == started->saved) {
+            return result;
+        }
+        if (m_compared && m_compared->saved == now.schedule &&
+            m_compared->inEffect == started->saved) {
+            taskIds = m_compared->taskIds;
             return result;
         }
         StoreContents contents;
@@ -142,6 +150,9 @@ StoreResult ScheduleService::tasksNotInEffect(std::set<int>& taskIds)
         if (!result) {
             return result;
         }
+        comparison.emplace();
+        comparison->saved = contents.revision.schedule;
+        comparison->inEffect = effect.start ? effect.start->saved : 0;
         saved = std::move(contents.tasks);
         inEffect = std::move(effect.tasks);
     }
@@ -151,12 +162,29 @@ StoreResult ScheduleService::tasksNotInEffect(std::set<int>& taskIds)
         }
     }
     taskIds = otherTasks(saved, inEffect);
+    if (comparison) {
+        comparison->taskIds = taskIds;
+        m_compared = std::move(comparison);
+    }
     return {};
 }
 
 StoreResult ScheduleService::followEffect()
 {
     return changeEffect([](ScheduleInEffect& inEffect) { return inEffect.follow(); });
+}
+
+void ScheduleService::lookAtStore()
+{
+    StoreRevision now;
+    if (!m_database.readRevision(now)) {
+        // What cannot be read now is read a second later.
+        return;
+    }
+    changeEffect([&now](ScheduleInEffect& inEffect) { return inEffect.followTo(now); });
+    if (std::exchange(m_toldSave, now.schedule) != now.schedule) {
+        emit savedElsewhere();
+    }
 }
 
 void ScheduleService::followStore(bool isOn)
@@ -171,8 +199,7 @@ void ScheduleService::renewFollower()
     if (m_isFollowing && m_database.isOpen()) {
         closeWithApplication();
         m_follower = std::make_unique<StoreFollower>(m_database.path());
-        // What cannot be read now is read a second later.
-        connect(m_follower.get(), &StoreFollower::due, this, [this] { followEffect(); });
+        connect(m_follower.get(), &StoreFollower::due, this, &ScheduleService::lookAtStore);
     }
 }
 
@@ -280,6 +307,7 @@ StoreResult ScheduleService::save()
     if (result && !edits.isEmpty()) {
         m_state.tasks.commitWorking();
         m_isMarkingDue = true;
+        m_toldSave = m_revision.schedule;
         emit storedSetChanged();
     }
     return result;
@@ -306,6 +334,7 @@ StoreResult ScheduleService::replace(const TaskMap& tasks)
     }
     m_state.tasks.setStored(std::move(filed));
     m_isMarkingDue = true;
+    m_toldSave = m_revision.schedule;
     m_state.tasks.resetWorking();
     emit storedSetChanged();
     emit tasksReplaced();

@@ -14,6 +14,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -33,6 +34,14 @@ struct ScheduleState
     ProgramCatalogue catalogue;
     ScheduleInEffect inEffect;
     std::string selectedProgram; ///< UTF-8; see scheduleManage::setqstrSelectedProgram.
+};
+
+/// Which tasks of a save differ from those of another one that is in effect.
+struct EffectComparison
+{
+    qint64 saved = 0;
+    qint64 inEffect = 0;
+    std::set<int> taskIds;
 };
 
 /// The one service behind scheduleManage and ScheduleHost: its state and the store it is kept in.
@@ -113,6 +122,8 @@ signals:
     void effectChanged();
     /// A change of what is in effect was refused that no caller waits for.
     void effectRefused(const trel::mediadispatch::StoreResult& reason);
+    /// Another program has saved.
+    void savedElsewhere();
 
 private:
     ScheduleService() = default;
@@ -134,6 +145,8 @@ private:
     void tellEverybody(const CatalogueChange& change);
     /// Takes over what other programs have put into effect, ended, or cut in.
     StoreResult followEffect();
+    /// The same, and tells when another program has saved.
+    void lookAtStore();
     /// Follows the store that is open now, where one is to be followed.
     void renewFollower();
     /// Lets the watch know that the files, or what is known of them, are others.
@@ -158,6 +171,8 @@ private:
     std::unique_ptr<ProgramFileWatch> m_fileWatch; ///< Only while files are watched.
     std::unique_ptr<StoreFollower> m_follower;     ///< Only while an open store is followed.
     bool m_isFollowing = false;
+    qint64 m_toldSave = 0; ///< The save that a signal has told of, or that was opened.
+    std::optional<EffectComparison> m_compared; ///< The last one in the store that is open.
     /// The application whose event loop is still to tell of the working set.
     QPointer<QCoreApplication> m_noticeDue;
 };

@@ -4,6 +4,7 @@
 #include "clock/Clock.h"
 #include "store/ScheduleDatabase.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
+#include "trelprogramschedule/dispatch/SkippedPlay.h"
 
 #include <QCoreApplication>
 #include <QSysInfo>
@@ -112,11 +113,16 @@ StoreResult ScheduleInEffect::follow()
 {
     StoreRevision known;
     StoreResult result = m_database.readRevision(known);
-    if (!result || known.effect == m_revision) {
-        return result;
+    return result ? followTo(known) : result;
+}
+
+StoreResult ScheduleInEffect::followTo(const StoreRevision& known)
+{
+    if (known.effect == m_revision) {
+        return {};
     }
     StoredEffect effect;
-    result = m_database.readEffect(effect);
+    StoreResult result = m_database.readEffect(effect);
     if (result) {
         take(std::move(effect));
     }
@@ -213,6 +219,47 @@ StoreResult ScheduleInEffect::cancelInsertion()
                    ? std::make_optional(m_dispatch.timeline().withoutInsertion(insertions, moment))
                    : std::nullopt;
     });
+}
+
+StoreResult ScheduleInEffect::skipPlay()
+{
+    return changeInsertions([this] { return insertionsWithoutPlay(); });
+}
+
+std::optional<ScreenInsertions> ScheduleInEffect::insertionsWithoutPlay()
+{
+    const ScreenInsertions& insertions = m_dispatch.insertions();
+    const Instant moment = now();
+    const auto waiting =
+        std::find_if(insertions.begin(), insertions.end(),
+                     [moment](const ScreenInsertion& one) { return one.isWaitingAt(moment); });
+    if (waiting != insertions.end()) {
+        return m_dispatch.insertionsWith(*waiting, false);
+    }
+    const ScreenState state = m_dispatch.state();
+    if (!isSkippable(state)) {
+        return std::nullopt;
+    }
+    if (std::optional<ScreenInsertion> next = skippedPlay(state, whatPlays(state))) {
+        next->askedBy = thisProgram();
+        return m_dispatch.insertionsWith(*std::move(next), false);
+    }
+    return m_dispatch.timeline().withoutInsertion(insertions, moment);
+}
+
+ScreenInsertion ScheduleInEffect::whatPlays(const ScreenState& state) const
+{
+    const ScreenInsertion* inserted = insertionOnScreen(m_dispatch.insertions());
+    if (state.isInserted() && inserted) {
+        return *inserted;
+    }
+    ScreenInsertion plan;
+    plan.taskId = state.taskId;
+    plan.planId = state.planId;
+    int index = -1;
+    plan.plan = findPlan(m_dispatch.tasks(), state.taskId, state.planId, index);
+    plan.original = plan.plan.programs;
+    return plan;
 }
 
 StoreResult ScheduleInEffect::setOriginal(const std::vector<struProgInfo>& programs)

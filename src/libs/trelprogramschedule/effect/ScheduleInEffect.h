@@ -13,6 +13,7 @@
 namespace trel::mediadispatch {
 
 class ScheduleDatabase;
+struct StoreRevision;
 
 /// The schedule that was started, apart from what is saved and what is being edited, and what the
 /// editor asks of it: which plans are in use, and whether and how others are cut in.
@@ -40,6 +41,8 @@ public:
     void leave();
     /// Takes over what is in effect in the store, if that is anything else than is known here.
     StoreResult follow();
+    /// The same, where the revision of the store is known.
+    StoreResult followTo(const StoreRevision& known);
 
     /// To be called when programs have changed.
     void updatePrograms() { m_dispatch.updatePrograms(); }
@@ -62,6 +65,8 @@ public:
     /// Takes back the insertion that waits, or else ends the one that has the screen. Ignored when
     /// there is none.
     StoreResult cancelInsertion();
+    /// Ends the play on screen, and goes on with the next one; see ScheduleHost::skipPlay.
+    StoreResult skipPlay();
     /// Kept with the insertion that was taken last here; ignored when that has gone.
     StoreResult setOriginal(const std::vector<struProgInfo>& programs);
 
@@ -74,6 +79,10 @@ private:
 
     bool isShared() const;
     void take(StoredEffect effect);
+    /// The insertions as they stand once the play on screen is skipped; none where nothing is.
+    std::optional<ScreenInsertions> insertionsWithoutPlay();
+    /// The insertion that has the screen, or the plan that has it, as one.
+    ScreenInsertion whatPlays(const ScreenState& state) const;
     /// Writes what becomes of the insertions; works it out again where another program was first.
     StoreResult changeInsertions(const InsertionChange& change);
 

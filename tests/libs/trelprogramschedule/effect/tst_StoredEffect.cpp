@@ -1,6 +1,6 @@
+#include "OtherProgram.h"
 #include "SignalCounts.h"
 #include "dispatch/DispatchFixture.h"
-#include "store/ScheduleDatabase.h"
 #include "store/StoreConnection.h"
 #include "store/StoreSchema.h"
 #include "support/FolderSnapshot.h"
@@ -47,44 +47,6 @@ private slots:
 namespace {
 
 const char* const kPlan = "08:00:00-08:00:30 A B freeze";
-
-/// Another program on the same store.
-class OtherProgram
-{
-public:
-    explicit OtherProgram(const QString& path)
-    {
-        QVERIFY(m_database.open(path, StoreOpenMode::MustExist));
-    }
-
-    StoredEffect effect()
-    {
-        StoredEffect read;
-        [&] { QVERIFY(m_database.readEffect(read)); }();
-        return read;
-    }
-    void start(Instant since = 1)
-    {
-        EffectStart start;
-        start.since = since;
-        start.by = QStringLiteral("other@elsewhere");
-        StoredEffect effect;
-        QVERIFY(m_database.startEffect(start, effect));
-    }
-    void stop()
-    {
-        StoredEffect effect;
-        QVERIFY(m_database.stopEffect(effect));
-    }
-    StoreResult write(ScreenInsertions insertions, qint64 revision)
-    {
-        return m_database.writeInsertions(insertions, revision);
-    }
-    ScheduleDatabase& database() { return m_database; }
-
-private:
-    ScheduleDatabase m_database;
-};
 
 auto instantsOf(const ScreenInsertion& insertion)
 {
