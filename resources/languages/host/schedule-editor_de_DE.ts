@@ -70,6 +70,18 @@
         <source>&amp;Language</source>
         <translation>&amp;Sprache</translation>
     </message>
+    <message>
+        <source>S&amp;kip to the next play</source>
+        <translation>Zur &amp;nächsten Wiedergabe springen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel what is cut in</source>
+        <translation>Einspielung &amp;abbrechen</translation>
+    </message>
+    <message>
+        <source>S&amp;top the schedule…</source>
+        <translation>Wiedergabeplan s&amp;toppen…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -1223,6 +1235,85 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::EffectActions</name>
+    <message>
+        <source>Stop the schedule that is in effect? The screen stays black until a schedule is started again.</source>
+        <translation>Den Wiedergabeplan, der in Kraft ist, stoppen? Der Bildschirm bleibt schwarz, bis wieder ein Wiedergabeplan gestartet wird.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>EffectWords</name>
+    <message>
+        <source>In effect since %1 at %2 (save %3)</source>
+        <translation>In Kraft seit dem %1 um %2 (Speicherung %3)</translation>
+    </message>
+    <message>
+        <source>Started by %1.</source>
+        <translation>Gestartet von %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>What is saved differs in %n tasks: %1</source>
+        <translation>
+            <numerusform>Der gespeicherte Stand weicht in %n Auftrag ab: %1</numerusform>
+            <numerusform>Der gespeicherte Stand weicht in %n Aufträgen ab: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>a program</comment>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>the last frame of “%1”</source>
+        <translation>das letzte Bild von „%1“</translation>
+    </message>
+    <message>
+        <source>a black screen</source>
+        <translation>Schwarzbild</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3; %4 comes back at %5.</source>
+        <translation>%1 kommt nach %2, um %3; um %5 kommt wieder %4.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2; %3 comes at %4.</source>
+        <translation>%1 wurde um %2 abgebrochen; um %4 kommt %3.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2; %3 comes back at %4.</source>
+        <translation>%1 wurde um %2 eingespielt; um %4 kommt wieder %3.</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3.</source>
+        <translation>%1 kommt nach %2, um %3.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2.</source>
+        <translation>%1 wurde um %2 abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2.</source>
+        <translation>%1 wurde um %2 eingespielt.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <comment>time and date</comment>
+        <translation>%1 am %2</translation>
+    </message>
+    <message>
+        <source>What is in effect could not be changed. %1</source>
+        <translation>Was in Kraft ist, konnte nicht geändert werden. %1</translation>
     </message>
 </context>
 </TS>

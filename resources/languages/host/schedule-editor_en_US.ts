@@ -157,4 +157,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>EffectWords</name>
+    <message numerus="yes">
+        <source>What is saved differs in %n tasks: %1</source>
+        <translation>
+            <numerusform>What is saved differs in %n task: %1</numerusform>
+            <numerusform>What is saved differs in %n tasks: %1</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -70,6 +70,18 @@
         <source>&amp;Language</source>
         <translation>&amp;Idioma</translation>
     </message>
+    <message>
+        <source>S&amp;kip to the next play</source>
+        <translation>&amp;Pasar a la reproducción siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel what is cut in</source>
+        <translation>&amp;Cancelar la inserción</translation>
+    </message>
+    <message>
+        <source>S&amp;top the schedule…</source>
+        <translation>&amp;Detener la programación…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -1223,6 +1235,85 @@ What do you want to do with your changes?</source>
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::EffectActions</name>
+    <message>
+        <source>Stop the schedule that is in effect? The screen stays black until a schedule is started again.</source>
+        <translation>¿Detener la programación en vigor? La pantalla quedará en negro hasta que se vuelva a iniciar una programación.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>EffectWords</name>
+    <message>
+        <source>In effect since %1 at %2 (save %3)</source>
+        <translation>En vigor desde el %1 a las %2 (guardado %3)</translation>
+    </message>
+    <message>
+        <source>Started by %1.</source>
+        <translation>Iniciada por %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>What is saved differs in %n tasks: %1</source>
+        <translation>
+            <numerusform>Lo guardado difiere en %n tarea: %1</numerusform>
+            <numerusform>Lo guardado difiere en %n tareas: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>a program</comment>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>the last frame of “%1”</source>
+        <translation>el último fotograma de «%1»</translation>
+    </message>
+    <message>
+        <source>a black screen</source>
+        <translation>la pantalla negra</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3; %4 comes back at %5.</source>
+        <translation>%1 viene después de %2, a las %3; %4 vuelve a las %5.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2; %3 comes at %4.</source>
+        <translation>%1 se cortó a las %2; %3 viene a las %4.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2; %3 comes back at %4.</source>
+        <translation>%1 se insertó a las %2; %3 vuelve a las %4.</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3.</source>
+        <translation>%1 viene después de %2, a las %3.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2.</source>
+        <translation>%1 se cortó a las %2.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2.</source>
+        <translation>%1 se insertó a las %2.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <comment>time and date</comment>
+        <translation>%1 del %2</translation>
+    </message>
+    <message>
+        <source>What is in effect could not be changed. %1</source>
+        <translation>No se pudo cambiar lo que está en vigor. %1</translation>
     </message>
 </context>
 </TS>

@@ -70,6 +70,18 @@
         <source>&amp;Language</source>
         <translation>&amp;Langue</translation>
     </message>
+    <message>
+        <source>S&amp;kip to the next play</source>
+        <translation>Passer à la &amp;diffusion suivante</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel what is cut in</source>
+        <translation>A&amp;nnuler l’insertion</translation>
+    </message>
+    <message>
+        <source>S&amp;top the schedule…</source>
+        <translation>&amp;Arrêter la programmation…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -1223,6 +1235,85 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::EffectActions</name>
+    <message>
+        <source>Stop the schedule that is in effect? The screen stays black until a schedule is started again.</source>
+        <translation>Arrêter la programmation en vigueur&#xa0;? L’écran restera noir jusqu’au prochain démarrage d’une programmation.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>EffectWords</name>
+    <message>
+        <source>In effect since %1 at %2 (save %3)</source>
+        <translation>En vigueur depuis le %1 à %2 (version %3)</translation>
+    </message>
+    <message>
+        <source>Started by %1.</source>
+        <translation>Démarrée par %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>What is saved differs in %n tasks: %1</source>
+        <translation>
+            <numerusform>La version enregistrée diffère pour %n tâche&#xa0;: %1</numerusform>
+            <numerusform>La version enregistrée diffère pour %n tâches&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>a program</comment>
+        <translation>«&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the last frame of “%1”</source>
+        <translation>la dernière image de «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>a black screen</source>
+        <translation>l’écran noir</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3; %4 comes back at %5.</source>
+        <translation>%1 passe après %2, à %3&#xa0;; %4 revient à %5.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2; %3 comes at %4.</source>
+        <translation>%1 a été coupé à %2&#xa0;; %3 vient à %4.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2; %3 comes back at %4.</source>
+        <translation>%1 a été inséré à %2&#xa0;; %3 revient à %4.</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3.</source>
+        <translation>%1 passe après %2, à %3.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2.</source>
+        <translation>%1 a été coupé à %2.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2.</source>
+        <translation>%1 a été inséré à %2.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <comment>time and date</comment>
+        <translation>%1 le %2</translation>
+    </message>
+    <message>
+        <source>What is in effect could not be changed. %1</source>
+        <translation>Ce qui est en vigueur n’a pas pu être modifié. %1</translation>
     </message>
 </context>
 </TS>

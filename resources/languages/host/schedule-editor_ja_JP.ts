@@ -70,6 +70,18 @@
         <source>&amp;Language</source>
         <translation>言語(&amp;L)</translation>
     </message>
+    <message>
+        <source>S&amp;kip to the next play</source>
+        <translation>次の再生へ進む(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel what is cut in</source>
+        <translation>割り込みを取り消す(&amp;C)</translation>
+    </message>
+    <message>
+        <source>S&amp;top the schedule…</source>
+        <translation>スケジュールの運用を停止(&amp;T)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -1202,6 +1214,84 @@ What do you want to do with your changes?</source>
     <message>
         <source>Close</source>
         <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::EffectActions</name>
+    <message>
+        <source>Stop the schedule that is in effect? The screen stays black until a schedule is started again.</source>
+        <translation>有効なスケジュールの運用を停止しますか？再び運用を開始するまで黒画面のままになります。</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>EffectWords</name>
+    <message>
+        <source>In effect since %1 at %2 (save %3)</source>
+        <translation>%1 %2 から有効（保存 %3 回目）</translation>
+    </message>
+    <message>
+        <source>Started by %1.</source>
+        <translation>%1 が開始しました。</translation>
+    </message>
+    <message numerus="yes">
+        <source>What is saved differs in %n tasks: %1</source>
+        <translation>
+            <numerusform>保存内容は %n 件のタスクで異なります：%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>a program</comment>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>the last frame of “%1”</source>
+        <translation>「%1」の最後のフレーム</translation>
+    </message>
+    <message>
+        <source>a black screen</source>
+        <translation>黒画面</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3; %4 comes back at %5.</source>
+        <translation>%1は%2の後、%3 に割り込みます。%5 から%4に戻ります。</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2; %3 comes at %4.</source>
+        <translation>%1を %2 に打ち切りました。%4 から%3に移ります。</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2; %3 comes back at %4.</source>
+        <translation>%1が %2 に割り込みました。%4 から%3に戻ります。</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3.</source>
+        <translation>%1は%2の後、%3 に割り込みます。</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2.</source>
+        <translation>%1を %2 に打ち切りました。</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2.</source>
+        <translation>%1が %2 に割り込みました。</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <comment>time and date</comment>
+        <translation>%2 %1</translation>
+    </message>
+    <message>
+        <source>What is in effect could not be changed. %1</source>
+        <translation>有効な内容を変更できませんでした。%1</translation>
     </message>
 </context>
 </TS>

@@ -70,6 +70,18 @@
         <source>&amp;Language</source>
         <translation>언어(&amp;L)</translation>
     </message>
+    <message>
+        <source>S&amp;kip to the next play</source>
+        <translation>다음 재생으로 건너뛰기(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel what is cut in</source>
+        <translation>삽입 취소(&amp;C)</translation>
+    </message>
+    <message>
+        <source>S&amp;top the schedule…</source>
+        <translation>일정 적용 중지(&amp;T)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -1202,6 +1214,84 @@ What do you want to do with your changes?</source>
     <message>
         <source>Close</source>
         <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::EffectActions</name>
+    <message>
+        <source>Stop the schedule that is in effect? The screen stays black until a schedule is started again.</source>
+        <translation>적용 중인 일정을 중지할까요? 일정을 다시 시작할 때까지 검은 화면이 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>중지</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>EffectWords</name>
+    <message>
+        <source>In effect since %1 at %2 (save %3)</source>
+        <translation>%1 %2부터 적용 중(저장 %3)</translation>
+    </message>
+    <message>
+        <source>Started by %1.</source>
+        <translation>%1에서 시작했습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>What is saved differs in %n tasks: %1</source>
+        <translation>
+            <numerusform>저장된 내용과 다른 작업 %n개: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>a program</comment>
+        <translation>‘%1’</translation>
+    </message>
+    <message>
+        <source>the last frame of “%1”</source>
+        <translation>‘%1’의 마지막 프레임</translation>
+    </message>
+    <message>
+        <source>a black screen</source>
+        <translation>검은 화면</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3; %4 comes back at %5.</source>
+        <translation>%2 다음에 %1이(가) %3에 나오고 %5에 %4이(가) 다시 나옵니다.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2; %3 comes at %4.</source>
+        <translation>%1 재생이 %2에 끊겼고 %4에 %3이(가) 나옵니다.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2; %3 comes back at %4.</source>
+        <translation>%1이(가) %2에 삽입되었고 %4에 %3이(가) 다시 나옵니다.</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3.</source>
+        <translation>%2 다음에 %1이(가) %3에 나옵니다.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2.</source>
+        <translation>%1 재생이 %2에 끊겼습니다.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2.</source>
+        <translation>%1이(가) %2에 삽입되었습니다.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <comment>time and date</comment>
+        <translation>%2 %1</translation>
+    </message>
+    <message>
+        <source>What is in effect could not be changed. %1</source>
+        <translation>적용 중인 내용을 변경하지 못했습니다. %1</translation>
     </message>
 </context>
 </TS>

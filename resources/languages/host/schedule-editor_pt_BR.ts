@@ -70,6 +70,18 @@
         <source>&amp;Language</source>
         <translation>&amp;Idioma</translation>
     </message>
+    <message>
+        <source>S&amp;kip to the next play</source>
+        <translation>&amp;Pular para a próxima exibição</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel what is cut in</source>
+        <translation>&amp;Cancelar a inserção</translation>
+    </message>
+    <message>
+        <source>S&amp;top the schedule…</source>
+        <translation>Pa&amp;rar a programação…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -1223,6 +1235,85 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>Close</source>
         <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::EffectActions</name>
+    <message>
+        <source>Stop the schedule that is in effect? The screen stays black until a schedule is started again.</source>
+        <translation>Parar a programação em vigor? A tela ficará preta até que uma programação seja iniciada novamente.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>EffectWords</name>
+    <message>
+        <source>In effect since %1 at %2 (save %3)</source>
+        <translation>Em vigor desde %1 às %2 (salvamento %3)</translation>
+    </message>
+    <message>
+        <source>Started by %1.</source>
+        <translation>Iniciada por %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>What is saved differs in %n tasks: %1</source>
+        <translation>
+            <numerusform>O que está salvo difere em %n tarefa: %1</numerusform>
+            <numerusform>O que está salvo difere em %n tarefas: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>a program</comment>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>the last frame of “%1”</source>
+        <translation>o último quadro de “%1”</translation>
+    </message>
+    <message>
+        <source>a black screen</source>
+        <translation>a tela preta</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3; %4 comes back at %5.</source>
+        <translation>%1 entra depois de %2, às %3; %4 volta às %5.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2; %3 comes at %4.</source>
+        <translation>%1 foi cortado às %2; %3 entra às %4.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2; %3 comes back at %4.</source>
+        <translation>%1 entrou às %2; %3 volta às %4.</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3.</source>
+        <translation>%1 entra depois de %2, às %3.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2.</source>
+        <translation>%1 foi cortado às %2.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2.</source>
+        <translation>%1 entrou às %2.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <comment>time and date</comment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>What is in effect could not be changed. %1</source>
+        <translation>Não foi possível alterar o que está em vigor. %1</translation>
     </message>
 </context>
 </TS>

@@ -70,6 +70,18 @@
         <source>&amp;Language</source>
         <translation>&amp;Язык</translation>
     </message>
+    <message>
+        <source>S&amp;kip to the next play</source>
+        <translation>&amp;Перейти к следующему показу</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel what is cut in</source>
+        <translation>Отм&amp;енить вставку</translation>
+    </message>
+    <message>
+        <source>S&amp;top the schedule…</source>
+        <translation>Ос&amp;тановить расписание…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -1244,6 +1256,86 @@ What do you want to do with your changes?</source>
     <message>
         <source>Close</source>
         <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::EffectActions</name>
+    <message>
+        <source>Stop the schedule that is in effect? The screen stays black until a schedule is started again.</source>
+        <translation>Остановить действующее расписание? Экран останется чёрным, пока расписание не запустят снова.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>EffectWords</name>
+    <message>
+        <source>In effect since %1 at %2 (save %3)</source>
+        <translation>Действует с %1, %2 (сохранение %3)</translation>
+    </message>
+    <message>
+        <source>Started by %1.</source>
+        <translation>Запущено: %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>What is saved differs in %n tasks: %1</source>
+        <translation>
+            <numerusform>Сохранённое отличается в %n задании: %1</numerusform>
+            <numerusform>Сохранённое отличается в %n заданиях: %1</numerusform>
+            <numerusform>Сохранённое отличается в %n заданиях: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>a program</comment>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>the last frame of “%1”</source>
+        <translation>последний кадр «%1»</translation>
+    </message>
+    <message>
+        <source>a black screen</source>
+        <translation>чёрный экран</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3; %4 comes back at %5.</source>
+        <translation>%1 — после %2, в %3; в %5 снова %4.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2; %3 comes at %4.</source>
+        <translation>Показ %1 прерван в %2; в %4 — %3.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2; %3 comes back at %4.</source>
+        <translation>%1: вставка началась в %2; в %4 снова %3.</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3.</source>
+        <translation>%1 — после %2, в %3.</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2.</source>
+        <translation>Показ %1 прерван в %2.</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2.</source>
+        <translation>%1: вставка началась в %2.</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <comment>time and date</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>What is in effect could not be changed. %1</source>
+        <translation>Действующее расписание не удалось изменить. %1</translation>
     </message>
 </context>
 </TS>

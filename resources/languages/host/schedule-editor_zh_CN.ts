@@ -70,6 +70,18 @@
         <source>&amp;Language</source>
         <translation>语言(&amp;L)</translation>
     </message>
+    <message>
+        <source>S&amp;kip to the next play</source>
+        <translation>跳到下一次播放(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel what is cut in</source>
+        <translation>取消插播(&amp;C)</translation>
+    </message>
+    <message>
+        <source>S&amp;top the schedule…</source>
+        <translation>停用排期(&amp;T)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -1202,6 +1214,84 @@ What do you want to do with your changes?</source>
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::EffectActions</name>
+    <message>
+        <source>Stop the schedule that is in effect? The screen stays black until a schedule is started again.</source>
+        <translation>要停用生效中的排期吗？屏幕将保持黑屏，直到再次启用排期。</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停用</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>EffectWords</name>
+    <message>
+        <source>In effect since %1 at %2 (save %3)</source>
+        <translation>自 %1 %2 起生效（第 %3 次保存）</translation>
+    </message>
+    <message>
+        <source>Started by %1.</source>
+        <translation>由 %1 启用。</translation>
+    </message>
+    <message numerus="yes">
+        <source>What is saved differs in %n tasks: %1</source>
+        <translation>
+            <numerusform>已保存的内容有 %n 个任务不同：%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>a program</comment>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>the last frame of “%1”</source>
+        <translation>“%1”的最后一帧</translation>
+    </message>
+    <message>
+        <source>a black screen</source>
+        <translation>黑屏</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3; %4 comes back at %5.</source>
+        <translation>%1将在%2之后于 %3 插播；%5 起恢复为%4。</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2; %3 comes at %4.</source>
+        <translation>%1于 %2 被中断；%4 起为%3。</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2; %3 comes back at %4.</source>
+        <translation>%1于 %2 插播；%4 起恢复为%3。</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3.</source>
+        <translation>%1将在%2之后于 %3 插播。</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2.</source>
+        <translation>%1于 %2 被中断。</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2.</source>
+        <translation>%1于 %2 插播。</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <comment>time and date</comment>
+        <translation>%2 %1</translation>
+    </message>
+    <message>
+        <source>What is in effect could not be changed. %1</source>
+        <translation>无法更改生效中的内容。%1</translation>
     </message>
 </context>
 </TS>

@@ -70,6 +70,18 @@
         <source>&amp;Language</source>
         <translation>語言(&amp;L)</translation>
     </message>
+    <message>
+        <source>S&amp;kip to the next play</source>
+        <translation>跳到下一次播放(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel what is cut in</source>
+        <translation>取消插播(&amp;C)</translation>
+    </message>
+    <message>
+        <source>S&amp;top the schedule…</source>
+        <translation>停用排程(&amp;T)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -1202,6 +1214,84 @@ What do you want to do with your changes?</source>
     <message>
         <source>Close</source>
         <translation>關閉</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::EffectActions</name>
+    <message>
+        <source>Stop the schedule that is in effect? The screen stays black until a schedule is started again.</source>
+        <translation>要停用生效中的排程嗎？螢幕將保持黑畫面，直到再次啟用排程。</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停用</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>EffectWords</name>
+    <message>
+        <source>In effect since %1 at %2 (save %3)</source>
+        <translation>自 %1 %2 起生效（第 %3 次儲存）</translation>
+    </message>
+    <message>
+        <source>Started by %1.</source>
+        <translation>由 %1 啟用。</translation>
+    </message>
+    <message numerus="yes">
+        <source>What is saved differs in %n tasks: %1</source>
+        <translation>
+            <numerusform>已儲存的內容有 %n 個任務不同：%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <comment>a program</comment>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>the last frame of “%1”</source>
+        <translation>「%1」的最後畫面</translation>
+    </message>
+    <message>
+        <source>a black screen</source>
+        <translation>黑畫面</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3; %4 comes back at %5.</source>
+        <translation>%1將在%2之後於 %3 插播；%5 起恢復為%4。</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2; %3 comes at %4.</source>
+        <translation>%1於 %2 被中斷；%4 起為%3。</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2; %3 comes back at %4.</source>
+        <translation>%1於 %2 插播；%4 起恢復為%3。</translation>
+    </message>
+    <message>
+        <source>%1 comes after %2, at %3.</source>
+        <translation>%1將在%2之後於 %3 插播。</translation>
+    </message>
+    <message>
+        <source>%1 was cut off at %2.</source>
+        <translation>%1於 %2 被中斷。</translation>
+    </message>
+    <message>
+        <source>%1 was cut in at %2.</source>
+        <translation>%1於 %2 插播。</translation>
+    </message>
+    <message>
+        <source>%1 on %2</source>
+        <comment>time and date</comment>
+        <translation>%2 %1</translation>
+    </message>
+    <message>
+        <source>What is in effect could not be changed. %1</source>
+        <translation>無法變更生效中的內容。%1</translation>
     </message>
 </context>
 </TS>

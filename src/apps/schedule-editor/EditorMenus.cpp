@@ -71,6 +71,11 @@ EditorMenus::EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes)
     m_importSchedule = add(*m_schedule, {});
     m_exportSchedule = add(*m_schedule, {});
     m_schedule->addSeparator();
+    // Without keys: a slip of the hand would be on screen at once.
+    m_skipPlay = add(*m_schedule, {});
+    m_cancelInsertion = add(*m_schedule, {});
+    m_stopSchedule = add(*m_schedule, {});
+    m_schedule->addSeparator();
     m_quit = add(*m_schedule, QKeySequence::Quit);
 
     m_importFiles = add(*m_programs, QKeySequence(QStringLiteral("Ctrl+I")));
@@ -128,6 +133,9 @@ void EditorMenus::retranslate()
     m_openDatabase->setText(tr("&Open database…"));
     m_importSchedule->setText(tr("&Read schedule from a file…"));
     m_exportSchedule->setText(tr("&Write schedule to a file…"));
+    m_skipPlay->setText(tr("S&kip to the next play"));
+    m_cancelInsertion->setText(tr("&Cancel what is cut in"));
+    m_stopSchedule->setText(tr("S&top the schedule…"));
     m_quit->setText(tr("&Quit"));
     m_programs->setTitle(tr("&Programs"));
     m_importFiles->setText(tr("&Import files…"));

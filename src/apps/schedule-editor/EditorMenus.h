@@ -30,6 +30,9 @@ public:
     QAction* importFiles() const { return m_importFiles; }
     QAction* importFolder() const { return m_importFolder; }
     QAction* removePrograms() const { return m_removePrograms; }
+    QAction* skipPlay() const { return m_skipPlay; }
+    QAction* cancelInsertion() const { return m_cancelInsertion; }
+    QAction* stopSchedule() const { return m_stopSchedule; }
 
     /// The name of the menu of programs, without the mark of its letter.
     QString programsTitle() const;
@@ -54,6 +57,9 @@ private:
     QAction* m_importFiles;
     QAction* m_importFolder;
     QAction* m_removePrograms;
+    QAction* m_skipPlay;
+    QAction* m_cancelInsertion;
+    QAction* m_stopSchedule;
     QAction* m_belowPanels; ///< Parts them from the themes.
     QActionGroup* m_themes;
 };

@@ -10,6 +10,7 @@
 #include "ProgramTableModel.h"
 #include "clock/ClockChangePanel.h"
 #include "common/PatientFile.h"
+#include "effect/EffectActions.h"
 #include "follow/EditedSchedule.h"
 #include "scheduleControlUI.h"
 #include "screen/NowNextPanel.h"
@@ -123,6 +124,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     setCentralWidget(centre);
 
     connectMenus();
+    new EffectActions(*m_menus, *m_notices, this);
     buildPanels(languages, themes);
     retranslate();
     resize(1180, 720);
@@ -130,6 +132,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     connect(&ScheduleHost::instance(), &ScheduleHost::catalogueChanged, this,
             &EditorWindow::updateCatalogue);
     ScheduleHost::instance().watchFiles();
+    ScheduleHost::instance().followStore();
     // The panels write dates as the language does; they take the locale over.
     const auto takeLocale = [this, &languages] { setLocale(QLocale(languages.current())); };
     connect(&languages, &Languages::changed, this, takeLocale);

@@ -27,6 +27,8 @@
 #include <QTableView>
 #include <QTimer>
 
+#include <map>
+
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
@@ -54,6 +56,7 @@ void HostPictures::drawAll()
     drawWindow();
     drawMenus();
     drawPanels();
+    drawEffect();
     drawWeeks();
     drawImport();
     drawFileDialogs();
@@ -93,6 +96,27 @@ void HostPictures::drawPanels()
         m_files.save(panel, QStringLiteral("panel-") + panel->objectName());
         panel->setVisible(wasVisible);
     }
+}
+
+/// A skipped play, where one is on screen at this hour, in a schedule that has been edited since it
+/// was started, and the question of a stop.
+void HostPictures::drawEffect()
+{
+    const EditorMenus& menus = *m_window.findChild<EditorMenus*>();
+    ScheduleHost& host = ScheduleHost::instance();
+    const std::map<int, PlayTask> former = scheduleManage::getInstance().getgTaskMap();
+    std::map<int, PlayTask> edited = former;
+    for (auto& [id, task] : edited) {
+        task.plans.clear();
+    }
+    host.replaceSchedule(edited);
+    menus.skipPlay()->trigger();
+    settle();
+    m_files.save(&m_window, QStringLiteral("window-cut-in"));
+    m_files.saveDialog(m_window, QStringLiteral("prompt-stop"),
+                       [&menus] { menus.stopSchedule()->trigger(); });
+    menus.cancelInsertion()->trigger();
+    host.replaceSchedule(former);
 }
 
 void HostPictures::drawWeeks()

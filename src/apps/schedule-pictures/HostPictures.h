@@ -28,6 +28,7 @@ private:
     void drawWindow();
     void drawMenus();
     void drawPanels();
+    void drawEffect();
     void drawWeeks();
     void drawImport();
     void drawFileDialogs();

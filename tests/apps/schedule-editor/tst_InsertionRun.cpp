@@ -254,8 +254,7 @@ void tst_InsertionRun::anUnsavedOrderPlaysForTheInsertionOnly()
 void tst_InsertionRun::nothingIsCutInBeforeTheStart()
 {
     StartedEditor run(QStringLiteral("10"), QStringLiteral("08:00:00-09:00:00 A B D"));
-    run.host.close();
-    run.open();
+    QVERIFY(run.host.stopSchedule());
     run.editor.clearAndInitialize();
     run.card().toggleFold();
     run.takeTold();

@@ -204,6 +204,13 @@ const Case kCases[] = {
      },
      "screen.db konnte nicht gelesen oder geschrieben werden. Sie wurde nach dem Öffnen entfernt "
      "oder ersetzt."},
+    {"a start that is not stored",
+     [](PromptFixture& fixture) {
+         QFile::remove(fixture.database);
+         fixture.manager.slotOpen();
+     },
+     "Was in Kraft ist, konnte nicht geändert werden. screen.db konnte nicht gelesen oder "
+     "geschrieben werden. Sie wurde nach dem Öffnen entfernt oder ersetzt."},
     {"a save that another program keeps away",
      [](PromptFixture& fixture) {
          const SaveRescue rescue(fixture.host, &fixture.window);

@@ -87,6 +87,14 @@ struct PseudoFixture : HostFixture
         return nullptr;
     }
 
+    /// A plan as it is cut in outside its own time.
+    static PlayPlan onePlay(PlayPlan plan)
+    {
+        plan.serviceFlagA = true;
+        plan.serviceFlagB = true;
+        return plan;
+    }
+
     const NoPlatformNotes quiet;
     PseudoLanguage language;
     WindowTexts texts;
@@ -145,6 +153,17 @@ void tst_PseudoLanguage::window()
     PseudoFixture& fixture = *m_fixture;
     fixture.texts.lookAt(fixture.window, QStringLiteral("window"));
     fixture.manager.slotOpen();
+    // What is saved differs from what is in effect, and something is cut in.
+    PlayTask task = fixture.manager.getTask(1);
+    task.plans[0].weeks = "2";
+    fixture.manager.addTask(task);
+    QVERIFY(fixture.host.trySave());
+    QVERIFY(
+        fixture.host.insertPlan(1, task.plans[0].id, PseudoFixture::onePlay(task.plans[0]), false));
+    const auto isShown = [&fixture](const char* name) {
+        return !fixture.window.findChild<QLabel*>(QLatin1String(name))->isHidden();
+    };
+    QTRY_VERIFY(isShown("effectSince") && isShown("effectDiffering") && isShown("nowCutIn"));
     const QList<QDockWidget*> panels = fixture.window.findChildren<QDockWidget*>();
     QCOMPARE(panels.size(), 4);
     for (QDockWidget* panel : panels) {
@@ -259,6 +278,9 @@ void tst_PseudoLanguage::promptsOfTheHost()
     fixture.showCards();
     fixture.part<QAbstractButton>(CopyColumn)->click();
     fixture.lookAtDialog(QStringLiteral("unsaved changes"), [&fixture] { fixture.window.close(); });
+    QVERIFY(fixture.host.startSchedule());
+    fixture.lookAtDialog(QStringLiteral("stop the schedule"),
+                         [&fixture] { fixture.action("S&top the schedule…")->trigger(); });
     fixture.lookAtDialog(QStringLiteral("notice"), [] {
         prompts::notice(EditorWindow::tr("Some files could not be imported:"));
     });

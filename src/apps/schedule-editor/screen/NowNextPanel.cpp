@@ -1,5 +1,7 @@
 #include "screen/NowNextPanel.h"
 
+#include "effect/CutInLine.h"
+#include "effect/EffectLines.h"
 #include "screen/Badge.h"
 #include "screen/ElidedText.h"
 #include "screen/PlayBar.h"
@@ -98,6 +100,8 @@ NowNextPanel::NowNextPanel(ScreenFollower& follower, QWidget* parent)
     , m_nextProgram(named(new ElidedText(m_nextPart), "nextProgram"))
     , m_nextPlan(named(new ElidedText(m_nextPart), "nextPlan"))
     , m_nextTime(named(new ElidedText(m_nextPart), "nextTime"))
+    , m_cutIn(named(new CutInLine(follower, this), "nowCutIn"))
+    , m_effect(named(new EffectLines(follower, this), "effectLines"))
 {
     setObjectName(QStringLiteral("nowNextPanel"));
     build();
@@ -144,8 +148,10 @@ void NowNextPanel::build()
     layout->addWidget(m_entry);
     layout->addWidget(m_plan);
     layout->addWidget(m_reason);
+    layout->addWidget(m_cutIn);
     layout->addWidget(m_nextPart);
     layout->addStretch(1);
+    layout->addWidget(m_effect);
 }
 
 void NowNextPanel::retranslate()

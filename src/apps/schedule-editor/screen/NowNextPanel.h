@@ -7,11 +7,14 @@ class QLabel;
 namespace trel::desktop {
 
 class Badge;
+class CutInLine;
+class EffectLines;
 class ElidedText;
 class PlayBar;
 class ScreenFollower;
 
-/// What is on screen, why, for how long, and what comes next. Remaining times count down.
+/// What is on screen, why, for how long, what comes next, and since when the schedule has been in
+/// effect. Remaining times count down.
 class NowNextPanel : public QWidget
 {
     Q_OBJECT
@@ -52,6 +55,8 @@ private:
     ElidedText* m_nextProgram;
     ElidedText* m_nextPlan;
     ElidedText* m_nextTime;
+    CutInLine* m_cutIn;
+    EffectLines* m_effect;
 };
 
 } // namespace trel::desktop
