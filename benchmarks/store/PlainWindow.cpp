@@ -189,8 +189,16 @@ QWidget* PlainWindow::nowNext()
     layout->addWidget(hidden(line("", panel)));
     layout->addWidget(hidden(line("", panel)));
     layout->addWidget(reason);
+    layout->addWidget(hidden(line("", panel)));
     layout->addWidget(hidden(nextPart));
     layout->addStretch(1);
+    auto* effect = new QWidget(panel);
+    auto* effectLayout = new QVBoxLayout(effect);
+    effectLayout->setContentsMargins(0, 0, 0, 0);
+    effectLayout->setSpacing(4);
+    effectLayout->addWidget(line("", effect));
+    effectLayout->addWidget(hidden(line("", effect)));
+    layout->addWidget(hidden(effect));
     return panel;
 }
 

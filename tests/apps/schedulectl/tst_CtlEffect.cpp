@@ -62,17 +62,17 @@ QJsonObject effectOf(const CtlResult& result)
 
 } // namespace
 
-/// News of an hour is on screen all day; Spot of half an hour, Lost without its file, and two
-/// programs of one name are in no plan.
+/// News of a minute is on screen all day; Spot of 45 s, Lost without its file, and two programs of
+/// one name are in no plan.
 void tst_CtlEffect::init()
 {
     m_fixture = QSharedPointer<CtlFixture>::create();
-    m_fixture->writeClip(QStringLiteral("News.wav"), 3600000);
-    m_fixture->writeClip(QStringLiteral("Spot.wav"), 1800000);
+    m_fixture->writeClip(QStringLiteral("News.wav"), 60000);
+    m_fixture->writeClip(QStringLiteral("Spot.wav"), 45000);
     m_fixture->writeClip(QStringLiteral("Lost.wav"), 1000);
     m_fixture->writeClip(QStringLiteral("a/Twin.wav"), 1000);
     m_fixture->writeClip(QStringLiteral("b/Twin.wav"), 1000);
-    QCOMPARE(ask("import News.wav Spot.wav Lost.wav a/Twin.wav b/Twin.wav").status, 0);
+    QCOMPARE(ask("import News.wav Spot.wav Lost.wav a/Twin.wav b/Twin.wav").err, QString());
     QVERIFY(QFile::remove(m_fixture->path(QStringLiteral("Lost.wav"))));
     m_fixture->store(alwaysOn({{1, false, "News", 1}}));
 }
@@ -191,7 +191,7 @@ void tst_CtlEffect::aProgramIsInserted()
     QCOMPARE(insertion[QStringLiteral("taskId")].toInt(), 1);
     QCOMPARE(insertion[QStringLiteral("planId")].toInt(), 4);
     QCOMPARE(momentOf("begins") > momentOf("requested"), isDelayed);
-    QCOMPARE(momentOf("begins").msecsTo(momentOf("ends")), qint64(1800000));
+    QCOMPARE(momentOf("begins").msecsTo(momentOf("ends")), qint64(45000));
     QCOMPARE(result.json()[QStringLiteral("before")].toObject()[QStringLiteral("name")].toString(),
              QStringLiteral("News"));
     QCOMPARE(ask("effect --json").json()[QStringLiteral("insertions")].toArray(),
@@ -257,16 +257,16 @@ void tst_CtlEffect::insertionsAreTakenBack()
     QCOMPARE(ask("insert News --delayed").status, 0);
     const CtlResult first = ask("cancel-insertion");
     QCOMPARE(first.status, 0);
-    QVERIFY2(first.text().startsWith(QStringLiteral("Cancelled: News from ")),
+    QVERIFY2(first.text().startsWith(QStringLiteral("Canceled: News from ")),
              qPrintable(first.text()));
     QVERIFY(first.text().contains(QStringLiteral("The screen plays Spot until ")));
     const CtlResult second = ask("cancel-insertion --json");
-    QCOMPARE(second.json()[QStringLiteral("cancelled")].toObject()[QStringLiteral("programs")],
+    QCOMPARE(second.json()[QStringLiteral("canceled")].toObject()[QStringLiteral("programs")],
              QJsonValue(QJsonArray{2}));
     QCOMPARE(second.json()[QStringLiteral("now")].toObject()[QStringLiteral("name")].toString(),
              QStringLiteral("News"));
     QCOMPARE(ask("cancel-insertion").lines(), QStringList{QStringLiteral("Nothing is inserted.")});
-    QVERIFY(ask("cancel-insertion --json").json()[QStringLiteral("cancelled")].isNull());
+    QVERIFY(ask("cancel-insertion --json").json()[QStringLiteral("canceled")].isNull());
 }
 
 void tst_CtlEffect::aMissingDatabaseIsRefused_data()

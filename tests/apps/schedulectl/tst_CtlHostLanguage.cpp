@@ -12,6 +12,8 @@ using namespace trel::console;
 namespace {
 
 const QString kSource = QStringLiteral("host.ts");
+/// Stands before its translation, which another text has too.
+const QString kBlackScreen = QStringLiteral("<source>Black screen</source>\n        ");
 const QString kCompiled = QStringLiteral("host.qm");
 
 /// The project's own German file, which has nothing wrong in it.
@@ -153,7 +155,9 @@ void tst_CtlHostLanguage::findingsAreListed_data()
         "in the menu \"View\" they "
         "have "
         "to differ");
-    row("term", changed(translation("Schwarzbild"), translation("Schwarzer Bildschirm")),
+    row("term",
+        changed(kBlackScreen + translation("Schwarzbild"),
+                kBlackScreen + translation("Schwarzer Bildschirm")),
         "term ScreenWords: Black screen \"Schwarzer Bildschirm\" for \"black screen\"; the word "
         "is "
         "\"Schwarzbild\"");
@@ -219,7 +223,8 @@ void tst_CtlHostLanguage::jsonNamesTheKinds()
                                   "Bildschirm.</numerusform>"),
                    QString());
     source.replace(translation("&amp;Woche"), translation("Woche"));
-    source.replace(translation("Schwarzbild"), translation("schwarzer Bildschirm"));
+    source.replace(kBlackScreen + translation("Schwarzbild"),
+                   kBlackScreen + translation("schwarzer Bildschirm"));
     fixture.writeFile(kSource, source.toUtf8());
     const QJsonArray list =
         fixture.run({QStringLiteral("check-language"), kSource, QStringLiteral("--json")})

@@ -48,11 +48,11 @@ ExitStatus run(const Invocation& invocation, Console& console)
         if (invocation.json) {
             console.writeJson(
                 {{QStringLiteral("database"), database.path()},
-                 {QStringLiteral("cancelled"),
+                 {QStringLiteral("canceled"),
                   going ? QJsonValue(insertionJson(*going, after.words())) : QJsonValue()},
                  {QStringLiteral("now"), after.words().json(state)}});
         } else if (going) {
-            console.writeLine(QStringLiteral("Cancelled: %1. The screen %2 until %3.")
+            console.writeLine(QStringLiteral("Canceled: %1. The screen %2 until %3.")
                                   .arg(insertionText(*going, moment, after.words()),
                                        after.words().pictureText(state),
                                        after.words().untilText(state.until, moment)));

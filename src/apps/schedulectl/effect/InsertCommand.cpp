@@ -203,7 +203,7 @@ Command insertCommand()
             R"(Cuts something into the schedule in effect: a program, which plays once, or a
 plan that is in effect, by the ids of its task and its own, such as 3/1, which
 plays until its end of that day, or once where that has passed. Then the schedule
-has the screen again.
+is on screen again.
 
 PROGRAM is an index, a name, or a part of a name that only one program has.
 Refused while an insertion waits for its turn.)",
