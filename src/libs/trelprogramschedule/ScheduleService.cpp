@@ -127,8 +127,8 @@ StoreResult ScheduleService::tasksNotInEffect(std::set<int>& taskIds)
     if (!started) {
         return {};
     }
-    TaskMap inEffect = m_state.inEffect.dispatch().tasks();
-    TaskMap saved = m_state.tasks.stored();
+    TaskMap inEffect;
+    TaskMap saved;
     std::optional<EffectComparison> comparison;
     if (m_database.isOpen()) {
         StoreRevision now;
@@ -155,6 +155,9 @@ StoreResult ScheduleService::tasksNotInEffect(std::set<int>& taskIds)
         comparison->inEffect = effect.start ? effect.start->saved : 0;
         saved = std::move(contents.tasks);
         inEffect = std::move(effect.tasks);
+    } else {
+        saved = m_state.tasks.stored();
+        inEffect = m_state.inEffect.dispatch().tasks();
     }
     for (TaskMap* tasks : {&saved, &inEffect}) {
         for (auto& [id, task] : *tasks) {
