@@ -161,10 +161,16 @@ int receiveHandle(int line)
 /// Has this process tell of the calls from now on; the descriptor on which it does, -1 on failure.
 int beginTelling()
 {
+    // What is mapped without a file is memory. Under the sanitizers the process may need some
+    // before anybody listens, and would wait for an answer for ever.
+    constexpr unsigned flags = 3;
+    const scmp_arg_cmp isOfFile = {flags, SCMP_CMP_MASKED_EQ, MAP_ANONYMOUS, 0};
     scmp_filter_ctx filter = seccomp_init(SCMP_ACT_ALLOW);
     bool isMade = filter != nullptr;
     for (const auto& [number, watched] : watchedCalls()) {
-        isMade = isMade && seccomp_rule_add(filter, SCMP_ACT_NOTIFY, number, 0) == 0;
+        const unsigned conditions = watched.call == FileCall::Map ? 1 : 0;
+        isMade = isMade && seccomp_rule_add_array(filter, SCMP_ACT_NOTIFY, number, conditions,
+                                                  &isOfFile) == 0;
     }
     const bool isLoaded = isMade && seccomp_load(filter) == 0;
     return isLoaded ? seccomp_notify_fd(filter) : -1;
