@@ -174,6 +174,7 @@ StoreResult ScheduleDatabase::judgeLog() const
 StoreResult ScheduleDatabase::look(StorePart part)
 {
     m_seen.reset();
+    m_seenEffect.reset();
     for (int looks = 1;; ++looks) {
         m_stamp = m_file.stamp();
         const bool isShared = m_stamp.logSize > 0 || looks > kMostLooks;
@@ -194,6 +195,7 @@ StoreResult ScheduleDatabase::look(StorePart part)
         connection.reset();
         if (!result) {
             m_seen.reset();
+            m_seenEffect.reset();
         }
         if (!result && isShared && !hadLogIndex) {
             // A log without an index is in use by no program.
@@ -211,12 +213,15 @@ StoreResult ScheduleDatabase::lookOnce(StorePart part, StoreConnection& connecti
     return attempt(m_file.path(), [&] {
         const StoreDeadline deadline(connection, kReadingTime);
         StoreSchema::check(connection, m_file.path());
-        if (StoreSchema::isNewest(connection)) {
-            StoreTransaction transaction(connection, StoreTransaction::Purpose::Read);
-            m_seen = Seen{part, {}};
-            readParts(part, connection, m_seen->contents);
-            transaction.commit();
+        // All that is asked for later, also of a former version: once that is taken over, a
+        // refusal would come too late to leave the file as it was.
+        StoreTransaction transaction(connection, StoreTransaction::Purpose::Read);
+        m_seen = Seen{part, {}};
+        readParts(part, connection, m_seen->contents);
+        if (part != StorePart::Catalogue) {
+            m_seenEffect = StoreEffect(connection, m_file.path()).read();
         }
+        transaction.commit();
     });
 }
 
@@ -246,6 +251,7 @@ void ScheduleDatabase::close()
 {
     m_connection.reset();
     m_seen.reset();
+    m_seenEffect.reset();
     m_isUnnoticed = false;
     m_file = StoreFile();
 }
@@ -471,7 +477,12 @@ StoreResult ScheduleDatabase::removePrograms(const std::vector<int>& progIndexes
 
 StoreResult ScheduleDatabase::readEffect(StoredEffect& effect)
 {
-    return readWith([&] { effect = StoreEffect(*m_connection, m_file.path()).read(); });
+    return readWith([&] {
+        std::optional<StoredEffect> seen = std::exchange(m_seenEffect, std::nullopt);
+        const StoreEffect stored(*m_connection, m_file.path());
+        const bool isSame = seen && seen->revision == revisionOf(*m_connection).effect;
+        effect = isSame ? *std::move(seen) : stored.read();
+    });
 }
 
 /// Carries out a change of what is in effect in one transaction.

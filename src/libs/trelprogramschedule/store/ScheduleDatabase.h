@@ -114,6 +114,7 @@ private:
     bool m_isUnnoticed = false; ///< The file is read as if no other program could write it.
     StoreFile::Stamp m_stamp;   ///< What the file was when it was last looked at.
     std::optional<Seen> m_seen;
+    std::optional<StoredEffect> m_seenEffect; ///< The same of what is in effect.
     StoreFile::Identity m_identity;
     StoreFile::Identity m_logIdentity;
     std::unique_ptr<StoreConnection> m_connection;
