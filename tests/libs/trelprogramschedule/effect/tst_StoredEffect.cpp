@@ -40,6 +40,7 @@ private slots:
     void aRehearsalEndsWithAStart();
     void versionOneIsTakenOver();
     void versionOneIsReadUnchanged();
+    void aDamagedVersionOneStaysAsItIs();
     void whatDoesNotFitIsDamage_data();
     void whatDoesNotFitIsDamage();
 };
@@ -483,6 +484,21 @@ void tst_StoredEffect::versionOneIsReadUnchanged()
     QCOMPARE(before.differences(FolderSnapshot(folder.path())), QStringList());
 }
 
+/// It is refused before it is taken over.
+void tst_StoredEffect::aDamagedVersionOneStaysAsItIs()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("store.db"));
+    QVERIFY(QFile::copy(versionOne(), path));
+    {
+        const StoreConnection connection(path, StoreConnection::Access::ReadWrite);
+        connection.run(QStringLiteral("UPDATE plan SET position = position + 1"));
+    }
+    const FolderSnapshot before(folder.path());
+    QVERIFY(ScheduleHost::instance().open(path).problem == StoreProblem::Damaged);
+    QCOMPARE(before.differences(FolderSnapshot(folder.path())), QStringList());
+}
+
 void tst_StoredEffect::whatDoesNotFitIsDamage_data()
 {
     QTest::addColumn<QString>("statement");
@@ -511,8 +527,10 @@ void tst_StoredEffect::whatDoesNotFitIsDamage()
         const StoreConnection connection(fixture.path, StoreConnection::Access::ReadWrite);
         connection.run(statement);
     }
+    const FolderSnapshot before(fixture.folder.path());
     QVERIFY(fixture.host.open(fixture.path).problem == StoreProblem::Damaged);
     QVERIFY(!fixture.host.isOpen());
+    QCOMPARE(before.differences(FolderSnapshot(fixture.folder.path())), QStringList());
     QVERIFY(!fixture.dispatch.isRunning());
 }
 
