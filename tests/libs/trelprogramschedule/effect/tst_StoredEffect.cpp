@@ -492,7 +492,7 @@ void tst_StoredEffect::aDamagedVersionOneStaysAsItIs()
     QVERIFY(QFile::copy(versionOne(), path));
     {
         const StoreConnection connection(path, StoreConnection::Access::ReadWrite);
-        connection.run(QStringLiteral("UPDATE plan SET position = position + 1"));
+        connection.run(QStringLiteral("UPDATE plan SET position = position + 100"));
     }
     const FolderSnapshot before(folder.path());
     QVERIFY(ScheduleHost::instance().open(path).problem == StoreProblem::Damaged);
