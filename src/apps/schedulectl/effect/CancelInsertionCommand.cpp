@@ -44,7 +44,9 @@ ExitStatus run(const Invocation& invocation, Console& console)
             }
         }
         const StoredScreen after(database, local);
-        const ScreenState state = after.timeline().at(moment, after.insertions());
+        // The insertion has ended since the moment above.
+        const ScreenState state =
+            after.timeline().at(Clock::current().msecsSinceEpoch(), after.insertions());
         if (invocation.json) {
             console.writeJson(
                 {{QStringLiteral("database"), database.path()},
