@@ -92,8 +92,9 @@ public:
         };
         const bool isSudden = end.isLate || end.signal != 0;
         QByteArray place = isSudden ? told(end, "ended within ") : QByteArray();
-        if (end.isLate && !isOfToolkit(place)) {
-            // Whoever waits, it is for a lock that was left behind where memory was lacking.
+        if (isSudden && !isOfToolkit(place)) {
+            // What the toolkit leaves behind when it gets no memory may end or hold up its users
+            // too.
             place = told(end, "no memory for ");
         }
         if (found != m_before && found != m_after) {
