@@ -57,7 +57,9 @@ public:
     /// Whether it has a picture to show: not where it is not ready or only sounds.
     virtual bool hasPicture() const = 0;
     /// Where the picture shown, or the sound heard, lies in the program, in milliseconds; none
-    /// where that is not known, as for an image or a stream, and while it seeks.
+    /// where that is not known, as for an image, and while it seeks. Goes on between two pictures
+    /// that are more than half a second apart: one that stands still for a second is taken for a
+    /// stall. That of a stream counts from anywhere, and only whether it moves is looked at.
     virtual std::optional<qint64> position() const = 0;
 
 signals:
