@@ -19,6 +19,7 @@ const std::vector<Command>& allCommands()
         insertCommand(),
         cancelInsertionCommand(),
         runCommand(),
+        screensCommand(),
         exportCommand(),
         importScheduleCommand(),
         checkLanguageCommand(),

@@ -22,6 +22,7 @@ Command stopCommand();
 Command insertCommand();
 Command cancelInsertionCommand();
 Command runCommand();
+Command screensCommand();
 Command exportCommand();
 Command importScheduleCommand();
 Command checkLanguageCommand();

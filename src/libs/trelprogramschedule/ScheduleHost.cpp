@@ -30,6 +30,7 @@ ScheduleHost::ScheduleHost()
     connect(&shown, &ScheduleService::effectChanged, this, &ScheduleHost::effectChanged);
     connect(&shown, &ScheduleService::effectRefused, this, &ScheduleHost::effectRefused);
     connect(&shown, &ScheduleService::savedElsewhere, this, &ScheduleHost::savedElsewhere);
+    connect(&shown, &ScheduleService::changedElsewhere, this, &ScheduleHost::changedElsewhere);
 }
 
 ScheduleHost::~ScheduleHost() = default;

@@ -184,6 +184,10 @@ signals:
     /// Another program has saved: the store holds another schedule than was last read or saved here
     /// with a signal. Comes while the store is followed.
     void savedElsewhere();
+    /// Another program has changed the catalogue, or the file that was opened no longer stands in
+    /// its place. Comes while the store is followed, with every look until reload has taken it over;
+    /// what was read stays until then.
+    void changedElsewhere();
 
 private:
     ScheduleHost();

@@ -179,6 +179,11 @@ StoreResult ScheduleService::followEffect()
 
 void ScheduleService::lookAtStore()
 {
+    if (!m_database.isInPlace()) {
+        // The numbers of another file count other changes.
+        emit changedElsewhere();
+        return;
+    }
     StoreRevision now;
     if (!m_database.readRevision(now)) {
         // What cannot be read now is read a second later.
@@ -187,6 +192,9 @@ void ScheduleService::lookAtStore()
     changeEffect([&now](ScheduleInEffect& inEffect) { return inEffect.followTo(now); });
     if (std::exchange(m_toldSave, now.schedule) != now.schedule) {
         emit savedElsewhere();
+    }
+    if (now.catalogue != m_revision.catalogue) {
+        emit changedElsewhere();
     }
 }
 
@@ -353,6 +361,7 @@ StoreResult ScheduleService::reload()
     StoreResult result;
     if (!m_database.path().isEmpty() && !m_database.isInPlace()) {
         result = m_database.reopen();
+        m_state.inEffect.expectAnotherStore();
     }
     if (result) {
         result = read(StorePart::Both);

@@ -124,6 +124,7 @@ signals:
     void effectRefused(const trel::mediadispatch::StoreResult& reason);
     /// Another program has saved.
     void savedElsewhere();
+    void changedElsewhere();
 
 private:
     ScheduleService() = default;

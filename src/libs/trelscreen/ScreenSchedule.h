@@ -5,6 +5,8 @@
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
 #include "trelprogramschedule/effect/EffectStart.h"
 
+#include <QMetaType>
+
 #include <map>
 #include <memory>
 #include <optional>
@@ -26,3 +28,5 @@ struct ScreenSchedule
 };
 
 } // namespace trel::screen
+
+Q_DECLARE_METATYPE(trel::screen::ScreenSchedule)

@@ -39,6 +39,9 @@ public:
     void rehearse(const TaskMap& tasks);
     /// Forgets what is in effect, which the store keeps.
     void leave();
+    /// To be called when another file has taken the place of the store: its revisions count other
+    /// changes, so that the next follow reads it whatever they are.
+    void expectAnotherStore() { m_revision = -1; }
     /// Takes over what is in effect in the store, if that is anything else than is known here.
     StoreResult follow();
     /// The same, where the revision of the store is known.

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "trelprogramschedule/dispatch/ScreenState.h"
+
+#include <QString>
+
+namespace trel::mediadispatch {
+
+/// What the player of a screen tells of itself.
+struct ScreenStatus
+{
+    QString screen; ///< Its name, one that ScreenStatusFolder::takesName.
+    QString player; ///< The program, its process and the machine, as "schedule-player 17@lobby".
+    Instant started = 0; ///< Since when the player runs.
+    Instant heard = 0;   ///< When it told this.
+
+    ScreenState shown; ///< What the timeline has on the screen.
+    QString program;   ///< The name of the program in it; empty for none.
+    /// Something else stands there, because what the timeline has cannot be shown.
+    bool isStandIn = false;
+
+    qint64 switches = 0; ///< Changes of picture since it runs.
+    /// How late they came, in milliseconds.
+    double medianLateness = 0.0;
+    double worstLateness = 0.0;
+
+    qint64 faults = 0; ///< Since it runs.
+    QString lastFault; ///< In words; empty for none.
+    Instant lastFaultAt = 0;
+};
+
+} // namespace trel::mediadispatch
