@@ -7,7 +7,7 @@
 #include "text/Console.h"
 #include "text/DisplayText.h"
 #include "text/TextTable.h"
-#include "trelprogramschedule/screens/ScreenStatusFolder.h"
+#include "trelprogramschedule/screens/PlayerStatusFolder.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -22,12 +22,12 @@ namespace {
 /// still.
 constexpr Instant kSilence = 30000; // milliseconds
 
-bool isSilent(const ScreenStatus& status, Instant now)
+bool isSilent(const PlayerStatus& status, Instant now)
 {
     return now - status.heard > kSilence;
 }
 
-QString shownText(const ScreenStatus& status)
+QString shownText(const PlayerStatus& status)
 {
     const QString name = printable(status.program);
     QString shown;
@@ -46,13 +46,13 @@ QString shownText(const ScreenStatus& status)
                             : shown;
 }
 
-QString heardText(const ScreenStatus& status, Instant now, const MomentFormat& local)
+QString heardText(const PlayerStatus& status, Instant now, const MomentFormat& local)
 {
     const QString moment = local.text(status.heard, now);
     return isSilent(status, now) ? QStringLiteral("not since %1").arg(moment) : moment;
 }
 
-QString latenessText(const ScreenStatus& status)
+QString latenessText(const PlayerStatus& status)
 {
     return status.switches == 0 ? QStringLiteral("-")
                                 : QStringLiteral("%1 / %2 ms")
@@ -60,7 +60,7 @@ QString latenessText(const ScreenStatus& status)
                                       .arg(status.worstLateness, 0, 'f', 1);
 }
 
-QString faultsText(const ScreenStatus& status, Instant now, const MomentFormat& local)
+QString faultsText(const PlayerStatus& status, Instant now, const MomentFormat& local)
 {
     return status.faults == 0
                ? QStringLiteral("none")
@@ -69,7 +69,7 @@ QString faultsText(const ScreenStatus& status, Instant now, const MomentFormat& 
                           printable(status.lastFault));
 }
 
-void write(const std::vector<ScreenStatus>& screens, Instant now, const MomentFormat& local,
+void write(const std::vector<PlayerStatus>& screens, Instant now, const MomentFormat& local,
            Console& console)
 {
     TextTable table({{QStringLiteral("Screen")},
@@ -78,7 +78,7 @@ void write(const std::vector<ScreenStatus>& screens, Instant now, const MomentFo
                      {QStringLiteral("Switches"), TextTable::Align::Right},
                      {QStringLiteral("Late")},
                      {QStringLiteral("Faults")}});
-    for (const ScreenStatus& status : screens) {
+    for (const PlayerStatus& status : screens) {
         table.addRow({printable(status.screen), shownText(status), heardText(status, now, local),
                       QString::number(status.switches), latenessText(status),
                       faultsText(status, now, local)});
@@ -90,7 +90,7 @@ void write(const std::vector<ScreenStatus>& screens, Instant now, const MomentFo
     }
 }
 
-QJsonObject screenJson(const ScreenStatus& status, Instant now, const ScreenReport& words)
+QJsonObject screenJson(const PlayerStatus& status, Instant now, const ScreenReport& words)
 {
     QJsonObject shown = words.json(status.shown);
     shown.insert(QStringLiteral("name"), status.program.isEmpty() ? QJsonValue(QJsonValue::Null)
@@ -123,14 +123,14 @@ ExitStatus run(const Invocation& invocation, Console& console)
     }
     const Instant now = Clock::current().msecsSinceEpoch();
     const MomentFormat local(Clock::current().zone());
-    const std::vector<ScreenStatus> screens = ScreenStatusFolder(database->path()).read();
+    const std::vector<PlayerStatus> screens = PlayerStatusFolder(database->path()).read();
     if (invocation.json) {
         // The states speak of the schedule that each player has, which need not be the one here.
         const std::map<int, PlayTask> noTasks;
         const std::map<int, ProgramIten> noPrograms;
         const ScreenReport words({noTasks, noPrograms, local});
         QJsonArray list;
-        for (const ScreenStatus& status : screens) {
+        for (const PlayerStatus& status : screens) {
             list.append(screenJson(status, now, words));
         }
         console.writeJson(QJsonObject{{QStringLiteral("database"), database->path()},

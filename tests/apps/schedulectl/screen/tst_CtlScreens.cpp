@@ -1,6 +1,6 @@
 #include "CtlFixture.h"
 #include "support/TestProgram.h"
-#include "trelprogramschedule/screens/ScreenStatusFolder.h"
+#include "trelprogramschedule/screens/PlayerStatusFolder.h"
 
 #include <QDateTime>
 #include <QJsonArray>
@@ -23,9 +23,9 @@ private slots:
 
 namespace {
 
-ScreenStatus statusOf(const char* screen, int secondsAgo)
+PlayerStatus statusOf(const char* screen, int secondsAgo)
 {
-    ScreenStatus status;
+    PlayerStatus status;
     status.screen = QLatin1String(screen);
     status.player = QStringLiteral("schedule-player 17@lobby");
     status.heard = QDateTime::currentMSecsSinceEpoch() - secondsAgo * 1000;
@@ -52,9 +52,9 @@ class Fixture : public CtlFixture
 public:
     Fixture() { store({}); }
 
-    void tell(const ScreenStatus& status) const
+    void tell(const PlayerStatus& status) const
     {
-        QVERIFY(!ScreenStatusFolder(database()).write(status));
+        QVERIFY(!PlayerStatusFolder(database()).write(status));
     }
     CtlResult screens(const QStringList& options = {}) const
     {
@@ -76,7 +76,7 @@ void tst_CtlScreens::onAirAndSilent()
 {
     const Fixture fixture;
     fixture.tell(statusOf("lobby", 5));
-    ScreenStatus frozen = statusOf("bar", 3600);
+    PlayerStatus frozen = statusOf("bar", 3600);
     frozen.shown.picture = ScreenPicture::Frozen;
     frozen.switches = 0;
     fixture.tell(frozen);
@@ -93,7 +93,7 @@ void tst_CtlScreens::onAirAndSilent()
 void tst_CtlScreens::faultsAreToldInPlainText()
 {
     const Fixture fixture;
-    ScreenStatus status = statusOf("lobby", 5);
+    PlayerStatus status = statusOf("lobby", 5);
     status.isStandIn = true;
     status.faults = 3;
     status.lastFault = QStringLiteral("It \x1b[31mstalled.");
@@ -111,7 +111,7 @@ void tst_CtlScreens::faultsAreToldInPlainText()
 void tst_CtlScreens::forMachines()
 {
     const Fixture fixture;
-    ScreenStatus status = statusOf("lobby", 40);
+    PlayerStatus status = statusOf("lobby", 40);
     status.faults = 1;
     status.lastFault = QStringLiteral("It stalled.");
     status.lastFaultAt = status.heard;

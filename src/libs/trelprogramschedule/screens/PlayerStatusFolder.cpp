@@ -1,4 +1,4 @@
-#include "ScreenStatusFolder.h"
+#include "PlayerStatusFolder.h"
 
 #include "media/MediaFile.h"
 
@@ -119,7 +119,7 @@ std::optional<ScreenState> stateOf(const QJsonObject& object)
     return state;
 }
 
-QByteArray bytesOf(const ScreenStatus& status)
+QByteArray bytesOf(const PlayerStatus& status)
 {
     const QJsonObject object{
         {QStringLiteral("format"), kFormat},
@@ -142,16 +142,16 @@ QByteArray bytesOf(const ScreenStatus& status)
 }
 
 /// None for what is no status of the screen whose file it stands in.
-std::optional<ScreenStatus> statusOf(const QByteArray& bytes, const QString& file)
+std::optional<PlayerStatus> statusOf(const QByteArray& bytes, const QString& file)
 {
     const QJsonObject object = QJsonDocument::fromJson(bytes).object();
     const std::optional<ScreenState> shown =
         stateOf(object.value(QLatin1String("shown")).toObject());
-    ScreenStatus status;
+    PlayerStatus status;
     status.screen = textOf(object, "screen");
     if (object.value(QLatin1String("format")).toString() != kFormat ||
         object.value(QLatin1String("version")).toInt() != kVersion || !shown ||
-        !ScreenStatusFolder::takesName(status.screen) ||
+        !PlayerStatusFolder::takesName(status.screen) ||
         fileName(status.screen) + kSuffix != file) {
         return std::nullopt;
     }
@@ -183,29 +183,29 @@ QByteArray contentOf(const QString& path)
 
 } // namespace
 
-ScreenStatusFolder::ScreenStatusFolder(const QString& store)
+PlayerStatusFolder::PlayerStatusFolder(const QString& store)
     : m_folder(store + QStringLiteral("-screens"))
 {}
 
-bool ScreenStatusFolder::takesName(const QString& screen)
+bool PlayerStatusFolder::takesName(const QString& screen)
 {
     const auto isControl = [](QChar letter) { return !letter.isPrint() && !letter.isSurrogate(); };
     return !screen.isEmpty() && std::none_of(screen.begin(), screen.end(), isControl) &&
            fileName(screen).size() <= kLongestName;
 }
 
-QString ScreenStatusFolder::statusPath(const QString& screen) const
+QString PlayerStatusFolder::statusPath(const QString& screen) const
 {
     return m_folder + QLatin1Char('/') + fileName(screen) + kSuffix;
 }
 
-QString ScreenStatusFolder::lockPath(const QString& screen) const
+QString PlayerStatusFolder::lockPath(const QString& screen) const
 {
     QDir().mkpath(m_folder);
     return m_folder + QLatin1Char('/') + fileName(screen) + QStringLiteral(".lock");
 }
 
-Fault ScreenStatusFolder::write(const ScreenStatus& status) const
+Fault PlayerStatusFolder::write(const PlayerStatus& status) const
 {
     QDir().mkpath(m_folder);
     errno = 0;
@@ -219,22 +219,22 @@ Fault ScreenStatusFolder::write(const ScreenStatus& status) const
     return faultOf(FaultCode::System, errno);
 }
 
-void ScreenStatusFolder::remove(const QString& screen) const
+void PlayerStatusFolder::remove(const QString& screen) const
 {
     QFile::remove(statusPath(screen));
 }
 
-std::vector<ScreenStatus> ScreenStatusFolder::read() const
+std::vector<PlayerStatus> PlayerStatusFolder::read() const
 {
     const QStringList files =
         QDir(m_folder).entryList({QLatin1Char('*') + kSuffix}, QDir::Files, QDir::Name);
-    std::vector<ScreenStatus> found;
+    std::vector<PlayerStatus> found;
     for (const QString& file : files.mid(0, kMostScreens)) {
         if (auto status = statusOf(contentOf(m_folder + QLatin1Char('/') + file), file)) {
             found.push_back(*std::move(status));
         }
     }
-    std::sort(found.begin(), found.end(), [](const ScreenStatus& one, const ScreenStatus& other) {
+    std::sort(found.begin(), found.end(), [](const PlayerStatus& one, const PlayerStatus& other) {
         return one.screen.localeAwareCompare(other.screen) < 0;
     });
     return found;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "trelprogramschedule/faults/Fault.h"
-#include "trelprogramschedule/screens/ScreenStatus.h"
+#include "trelprogramschedule/screens/PlayerStatus.h"
 #include "trelprogramschedule_export.h"
 
 #include <QString>
@@ -15,10 +15,10 @@ namespace trel::mediadispatch {
 /// or not at all; nothing is waited for.
 ///
 /// What stands in the folder is not trusted: what is no status of a screen is left out.
-class TRELPROGRAMSCHEDULE_EXPORT ScreenStatusFolder
+class TRELPROGRAMSCHEDULE_EXPORT PlayerStatusFolder
 {
 public:
-    explicit ScreenStatusFolder(const QString& store);
+    explicit PlayerStatusFolder(const QString& store);
 
     /// Whether a text can be the name of a screen: it is not empty, holds no control character, and
     /// is short enough for the name of a file: 240 Latin letters, 26 of other scripts.
@@ -30,11 +30,11 @@ public:
 
     /// Puts a status in the place of the former one of its screen; why it could not be, for what
     /// went wrong. Long words are cut.
-    Fault write(const ScreenStatus& status) const;
+    Fault write(const PlayerStatus& status) const;
     /// Takes the status of a screen away whose player ends.
     void remove(const QString& screen) const;
     /// All there are, in the order of their names.
-    std::vector<ScreenStatus> read() const;
+    std::vector<PlayerStatus> read() const;
 
 private:
     QString statusPath(const QString& screen) const;

@@ -1,5 +1,5 @@
 #include "support/TestProgram.h"
-#include "trelprogramschedule/screens/ScreenStatusFolder.h"
+#include "trelprogramschedule/screens/PlayerStatusFolder.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,7 +13,7 @@
 using namespace trel::mediadispatch;
 
 /// What players tell of themselves, from one program to another.
-class tst_ScreenStatusFolder : public QObject
+class tst_PlayerStatusFolder : public QObject
 {
     Q_OBJECT
 
@@ -33,9 +33,9 @@ private slots:
 
 namespace {
 
-ScreenStatus fullStatus(const QString& screen)
+PlayerStatus fullStatus(const QString& screen)
 {
-    ScreenStatus status;
+    PlayerStatus status;
     status.screen = screen;
     status.player = QStringLiteral("schedule-player 17@lobby");
     status.started = 1000;
@@ -65,7 +65,7 @@ ScreenStatus fullStatus(const QString& screen)
 }
 
 /// All that a status says, as a line.
-QString lineOf(const ScreenStatus& status)
+QString lineOf(const PlayerStatus& status)
 {
     QString line;
     QDebug out(&line);
@@ -100,31 +100,31 @@ private:
     QTemporaryDir m_folder;
 
 public:
-    ScreenStatusFolder folder{path(QStringLiteral("a.db"))};
+    PlayerStatusFolder folder{path(QStringLiteral("a.db"))};
 };
 
 } // namespace
 
-void tst_ScreenStatusFolder::everyFieldComesBack()
+void tst_PlayerStatusFolder::everyFieldComesBack()
 {
     const Fixture fixture;
     QVERIFY(fixture.folder.read().empty());
-    const ScreenStatus status = fullStatus(QStringLiteral("lobby"));
+    const PlayerStatus status = fullStatus(QStringLiteral("lobby"));
     QVERIFY(!fixture.folder.write(status));
-    const std::vector<ScreenStatus> read = fixture.folder.read();
+    const std::vector<PlayerStatus> read = fixture.folder.read();
     QCOMPARE(read.size(), 1U);
     QCOMPARE(lineOf(read.front()), lineOf(status));
 }
 
-void tst_ScreenStatusFolder::eachScreenHasItsOwn()
+void tst_PlayerStatusFolder::eachScreenHasItsOwn()
 {
     const Fixture fixture;
     QVERIFY(!fixture.folder.write(fullStatus(QStringLiteral("lobby"))));
     QVERIFY(!fixture.folder.write(fullStatus(QStringLiteral("Bar"))));
-    ScreenStatus later = fullStatus(QStringLiteral("lobby"));
+    PlayerStatus later = fullStatus(QStringLiteral("lobby"));
     later.heard = 3000;
     QVERIFY(!fixture.folder.write(later));
-    const std::vector<ScreenStatus> read = fixture.folder.read();
+    const std::vector<PlayerStatus> read = fixture.folder.read();
     QCOMPARE(read.size(), 2U);
     QCOMPARE(read[0].screen, QStringLiteral("Bar"));
     QCOMPARE(read[1].heard, Instant(3000));
@@ -132,7 +132,7 @@ void tst_ScreenStatusFolder::eachScreenHasItsOwn()
              QStringList({QStringLiteral("Bar.json"), QStringLiteral("lobby.json")}));
 }
 
-void tst_ScreenStatusFolder::namesLeadNowhereElse_data()
+void tst_PlayerStatusFolder::namesLeadNowhereElse_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("folder above") << QStringLiteral("../../a");
@@ -143,11 +143,11 @@ void tst_ScreenStatusFolder::namesLeadNowhereElse_data()
     QTest::newRow("the sign itself") << QStringLiteral("+2e");
 }
 
-void tst_ScreenStatusFolder::namesLeadNowhereElse()
+void tst_PlayerStatusFolder::namesLeadNowhereElse()
 {
     QFETCH(QString, name);
     const Fixture fixture;
-    QVERIFY(ScreenStatusFolder::takesName(name));
+    QVERIFY(PlayerStatusFolder::takesName(name));
     QVERIFY(!fixture.folder.write(fullStatus(name)));
     QCOMPARE(fixture.folder.read().size(), 1U);
     QCOMPARE(fixture.folder.read().front().screen, name);
@@ -159,18 +159,18 @@ void tst_ScreenStatusFolder::namesLeadNowhereElse()
     QCOMPARE(QFileInfo(fixture.folder.lockPath(name)).absolutePath(), fixture.screens());
 }
 
-void tst_ScreenStatusFolder::namesThatNoFileTakes()
+void tst_PlayerStatusFolder::namesThatNoFileTakes()
 {
-    QVERIFY(!ScreenStatusFolder::takesName(QString()));
-    QVERIFY(!ScreenStatusFolder::takesName(QStringLiteral("a\nb")));
-    QVERIFY(!ScreenStatusFolder::takesName(QStringLiteral("a\u202eb")));
-    QVERIFY(ScreenStatusFolder::takesName(QString(240, QLatin1Char('a'))));
-    QVERIFY(!ScreenStatusFolder::takesName(QString(241, QLatin1Char('a'))));
-    QVERIFY(ScreenStatusFolder::takesName(QString(26, QChar(0x5927))));
-    QVERIFY(!ScreenStatusFolder::takesName(QString(27, QChar(0x5927))));
+    QVERIFY(!PlayerStatusFolder::takesName(QString()));
+    QVERIFY(!PlayerStatusFolder::takesName(QStringLiteral("a\nb")));
+    QVERIFY(!PlayerStatusFolder::takesName(QStringLiteral("a\u202eb")));
+    QVERIFY(PlayerStatusFolder::takesName(QString(240, QLatin1Char('a'))));
+    QVERIFY(!PlayerStatusFolder::takesName(QString(241, QLatin1Char('a'))));
+    QVERIFY(PlayerStatusFolder::takesName(QString(26, QChar(0x5927))));
+    QVERIFY(!PlayerStatusFolder::takesName(QString(27, QChar(0x5927))));
 }
 
-void tst_ScreenStatusFolder::whatIsNoStatusIsLeftOut_data()
+void tst_PlayerStatusFolder::whatIsNoStatusIsLeftOut_data()
 {
     QTest::addColumn<QByteArray>("from");
     QTest::addColumn<QByteArray>("to");
@@ -183,7 +183,7 @@ void tst_ScreenStatusFolder::whatIsNoStatusIsLeftOut_data()
     QTest::newRow("reason") << QByteArray("\"reason\": 8") << QByteArray("\"reason\": 9");
 }
 
-void tst_ScreenStatusFolder::whatIsNoStatusIsLeftOut()
+void tst_PlayerStatusFolder::whatIsNoStatusIsLeftOut()
 {
     QFETCH(QByteArray, from);
     QFETCH(QByteArray, to);
@@ -195,7 +195,7 @@ void tst_ScreenStatusFolder::whatIsNoStatusIsLeftOut()
     QVERIFY(fixture.folder.read().empty());
 }
 
-void tst_ScreenStatusFolder::whatIsNoFileIsLeftOut()
+void tst_PlayerStatusFolder::whatIsNoFileIsLeftOut()
 {
     const Fixture fixture;
     QVERIFY(!fixture.folder.write(fullStatus(QStringLiteral("lobby"))));
@@ -208,20 +208,20 @@ void tst_ScreenStatusFolder::whatIsNoFileIsLeftOut()
     QCOMPARE(fixture.folder.read().size(), 1U);
 }
 
-void tst_ScreenStatusFolder::longWordsAreCut()
+void tst_PlayerStatusFolder::longWordsAreCut()
 {
     const Fixture fixture;
-    ScreenStatus status = fullStatus(QStringLiteral("lobby"));
+    PlayerStatus status = fullStatus(QStringLiteral("lobby"));
     status.program = QString(100000, QLatin1Char('x'));
     status.lastFault = status.program;
     QVERIFY(!fixture.folder.write(status));
-    const std::vector<ScreenStatus> read = fixture.folder.read();
+    const std::vector<PlayerStatus> read = fixture.folder.read();
     QCOMPARE(read.size(), 1U);
     QCOMPARE(read.front().program.size(), 1000);
     QCOMPARE(read.front().lastFault.size(), 1000);
 }
 
-void tst_ScreenStatusFolder::aFolderThatCannotBeMade()
+void tst_PlayerStatusFolder::aFolderThatCannotBeMade()
 {
     const Fixture fixture;
     QFile inTheWay(fixture.screens());
@@ -232,7 +232,7 @@ void tst_ScreenStatusFolder::aFolderThatCannotBeMade()
     QVERIFY(fixture.folder.read().empty());
 }
 
-void tst_ScreenStatusFolder::aScreenThatEnds()
+void tst_PlayerStatusFolder::aScreenThatEnds()
 {
     const Fixture fixture;
     QVERIFY(!fixture.folder.write(fullStatus(QStringLiteral("lobby"))));
@@ -242,5 +242,5 @@ void tst_ScreenStatusFolder::aScreenThatEnds()
     QCOMPARE(fixture.folder.read().front().screen, QStringLiteral("bar"));
 }
 
-TREL_TEST(tst_ScreenStatusFolder, QCoreApplication)
-#include "tst_ScreenStatusFolder.moc"
+TREL_TEST(tst_PlayerStatusFolder, QCoreApplication)
+#include "tst_PlayerStatusFolder.moc"

@@ -7,9 +7,9 @@
 namespace trel::mediadispatch {
 
 /// What the player of a screen tells of itself.
-struct ScreenStatus
+struct PlayerStatus
 {
-    QString screen; ///< Its name, one that ScreenStatusFolder::takesName.
+    QString screen; ///< Its name, one that PlayerStatusFolder::takesName.
     QString player; ///< The program, its process and the machine, as "schedule-player 17@lobby".
     Instant started = 0; ///< Since when the player runs.
     Instant heard = 0;   ///< When it told this.
