@@ -1,9 +1,11 @@
 #include "CommandLine.h"
 
-#include "text/DisplayText.h"
+#include "common/DisplayText.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
 
 #include <algorithm>
+
+using namespace trel::hosts;
 
 namespace trel::console {
 

@@ -4,11 +4,11 @@
 
 #include "CommandLine.h"
 #include "Commands.h"
+#include "common/DisplayText.h"
 #include "screen/MomentText.h"
 #include "service/DateText.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
-#include "text/DisplayText.h"
 #include "text/HelpText.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
@@ -20,6 +20,7 @@
 #include <algorithm>
 
 using namespace trel::console;
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trust {

@@ -42,7 +42,7 @@ RULES = [
     "src/apps/schedulectl/CommandLine.cpp",
     "src/apps/schedulectl/language/LanguageTexts.cpp",
     "src/apps/schedulectl/screen/MomentText.cpp",
-    "src/apps/schedulectl/text/DisplayText.cpp",
+    "src/apps/common/DisplayText.cpp",
 ]
 
 # The programs with the tests of these rules. Those that drive windows are left out: a rule is tested

@@ -2,15 +2,16 @@
 
 #include "Database.h"
 #include "ProgramReport.h"
+#include "common/DisplayText.h"
 #include "schedule/ScheduleWords.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 #include "text/FaultReport.h"
 #include "text/TextTable.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

@@ -1,10 +1,11 @@
 #include "ProgramReport.h"
 
+#include "common/DisplayText.h"
 #include "schedule/ScheduleWords.h"
 #include "service/scheduleManage.h"
-#include "text/DisplayText.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

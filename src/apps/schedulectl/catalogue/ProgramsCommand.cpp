@@ -2,11 +2,12 @@
 
 #include "Database.h"
 #include "ProgramReport.h"
+#include "common/DisplayText.h"
 #include "schedule/ScheduleWords.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 #include "text/TextTable.h"
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

@@ -1,15 +1,16 @@
 #include "Commands.h"
 
 #include "Database.h"
+#include "common/DisplayText.h"
 #include "schedule/ScheduleWords.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 
 #include <optional>
 #include <set>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

@@ -3,12 +3,13 @@
 #include "EffectReport.h"
 #include "StoredEffectWork.h"
 #include "clock/Clock.h"
+#include "common/DisplayText.h"
 #include "schedule/ScheduleReport.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 
 #include <set>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

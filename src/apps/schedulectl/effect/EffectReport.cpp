@@ -1,10 +1,11 @@
 #include "EffectReport.h"
 
+#include "common/DisplayText.h"
 #include "schedule/ScheduleWords.h"
-#include "text/DisplayText.h"
 
 #include <QStringList>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

@@ -3,17 +3,18 @@
 #include "EffectReport.h"
 #include "StoredEffectWork.h"
 #include "clock/Clock.h"
+#include "common/DisplayText.h"
 #include "screen/ProgramChoice.h"
 #include "service/PlanInsertion.h"
 #include "service/scheduleManage.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <optional>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

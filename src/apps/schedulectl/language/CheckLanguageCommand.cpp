@@ -5,12 +5,14 @@
 #include "HostTexts.h"
 #include "LanguageCheck.h"
 #include "LanguageTexts.h"
+#include "common/DisplayText.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 #include "text/TextTable.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
+
+using namespace trel::hosts;
 
 namespace trel::console {
 

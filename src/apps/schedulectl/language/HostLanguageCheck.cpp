@@ -2,7 +2,7 @@
 
 #include "HostTexts.h"
 #include "Terms.h"
-#include "text/DisplayText.h"
+#include "common/DisplayText.h"
 
 #include <QHash>
 #include <QLocale>
@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <optional>
+
+using namespace trel::hosts;
 
 namespace trel::console {
 

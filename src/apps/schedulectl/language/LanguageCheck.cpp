@@ -2,13 +2,15 @@
 
 #include "EditorTexts.h"
 #include "Terms.h"
-#include "text/DisplayText.h"
+#include "common/DisplayText.h"
 #include "text/TextWidth.h"
 
 #include <QHash>
 #include <QSet>
 
 #include <algorithm>
+
+using namespace trel::hosts;
 
 namespace trel::console {
 

@@ -1,9 +1,11 @@
 #include "Terms.h"
 
-#include "text/DisplayText.h"
+#include "common/DisplayText.h"
 
 #include <QFile>
 #include <QLocale>
+
+using namespace trel::hosts;
 
 namespace trel::console {
 

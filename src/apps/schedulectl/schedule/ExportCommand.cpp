@@ -2,13 +2,14 @@
 
 #include "Database.h"
 #include "ScheduleReport.h"
+#include "common/DisplayText.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
 #include <QFileInfo>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

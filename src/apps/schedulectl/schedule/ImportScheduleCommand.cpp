@@ -2,10 +2,10 @@
 
 #include "Database.h"
 #include "ScheduleReport.h"
+#include "common/DisplayText.h"
 #include "common/PatientFile.h"
 #include "service/TaskPeriods.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
@@ -15,6 +15,7 @@
 #include <cstdio>
 #include <set>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

@@ -1,16 +1,17 @@
 #include "ScheduleCheck.h"
 
 #include "ScheduleWords.h"
+#include "common/DisplayText.h"
 #include "common/PlanFaultText.h"
 #include "service/DateText.h"
 #include "service/PlanConflicts.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
-#include "text/DisplayText.h"
 
 #include <QDate>
 #include <QTime>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

@@ -1,10 +1,11 @@
 #include "ScheduleReport.h"
 
 #include "ScheduleWords.h"
+#include "common/DisplayText.h"
 #include "service/WeekDays.h"
-#include "text/DisplayText.h"
 #include "text/TextTable.h"
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

@@ -1,12 +1,13 @@
 #include "ScheduleWords.h"
 
+#include "common/DisplayText.h"
 #include "service/PlanFaults.h"
 #include "service/ProgramText.h"
 #include "service/WeekDays.h"
-#include "text/DisplayText.h"
 
 #include <QStringList>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

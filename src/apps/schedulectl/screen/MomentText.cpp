@@ -1,8 +1,10 @@
 #include "MomentText.h"
 
-#include "text/DisplayText.h"
+#include "common/DisplayText.h"
 
 #include <QTime>
+
+using namespace trel::hosts;
 
 namespace trel::console {
 

@@ -1,8 +1,9 @@
 #include "NowReport.h"
 
+#include "common/DisplayText.h"
 #include "effect/EffectReport.h"
-#include "text/DisplayText.h"
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

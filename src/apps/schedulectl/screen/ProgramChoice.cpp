@@ -1,10 +1,11 @@
 #include "ProgramChoice.h"
 
 #include "Database.h"
+#include "common/DisplayText.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

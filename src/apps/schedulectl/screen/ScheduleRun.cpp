@@ -1,10 +1,10 @@
 #include "ScheduleRun.h"
 
 #include "clock/Clock.h"
+#include "common/DisplayText.h"
 #include "schedule/ScheduleReport.h"
 #include "service/scheduleManage.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 
@@ -13,6 +13,7 @@
 #include <chrono>
 #include <tuple>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

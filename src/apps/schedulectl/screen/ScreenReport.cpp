@@ -1,8 +1,9 @@
 #include "ScreenReport.h"
 
+#include "common/DisplayText.h"
 #include "service/PlanFaults.h"
-#include "text/DisplayText.h"
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

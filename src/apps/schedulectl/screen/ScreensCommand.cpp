@@ -2,16 +2,17 @@
 
 #include "Database.h"
 #include "clock/Clock.h"
+#include "common/DisplayText.h"
 #include "schedule/ScheduleReport.h"
 #include "screen/StoredScreen.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 #include "text/TextTable.h"
 #include "trelprogramschedule/screens/PlayerStatusFolder.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

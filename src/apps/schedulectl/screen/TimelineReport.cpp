@@ -1,11 +1,12 @@
 #include "TimelineReport.h"
 
+#include "common/DisplayText.h"
 #include "schedule/ScheduleWords.h"
 #include "text/Console.h"
-#include "text/DisplayText.h"
 
 #include <QJsonDocument>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

@@ -1,13 +1,14 @@
 #include "VerdictReport.h"
 
 #include "catalogue/ProgramReport.h"
+#include "common/DisplayText.h"
 #include "common/PlanFaultText.h"
 #include "schedule/ScheduleWords.h"
 #include "service/DateText.h"
-#include "text/DisplayText.h"
 
 #include <QJsonArray>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::console {

@@ -1,6 +1,6 @@
 #include "Console.h"
 
-#include "DisplayText.h"
+#include "common/DisplayText.h"
 
 #include <QJsonDocument>
 
@@ -10,6 +10,8 @@
 
 #include <sys/ioctl.h>
 #include <unistd.h>
+
+using namespace trel::hosts;
 
 namespace trel::console {
 

@@ -1,8 +1,10 @@
 #include "TextTable.h"
 
-#include "DisplayText.h"
+#include "common/DisplayText.h"
 
 #include <algorithm>
+
+using namespace trel::hosts;
 
 namespace trel::console {
 

@@ -1,10 +1,11 @@
+#include "common/DisplayText.h"
 #include "support/TestProgram.h"
-#include "text/DisplayText.h"
 #include "text/TextTable.h"
 
 #include <QtTest>
 
 using namespace trel::console;
+using namespace trel::hosts;
 
 class tst_TextTable : public QObject
 {

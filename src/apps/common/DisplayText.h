@@ -5,7 +5,7 @@
 
 #include <string>
 
-namespace trel::console {
+namespace trel::hosts {
 
 /// How many columns of a terminal a text takes: two for each wide character, none for those that
 /// stand on the one before.
@@ -39,4 +39,4 @@ QString durationText(double milliseconds);
 /// A number with its noun: "1 task", "3 tasks".
 QString counted(qint64 number, const QString& noun);
 
-} // namespace trel::console
+} // namespace trel::hosts

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <iterator>
 
-namespace trel::console {
+namespace trel::hosts {
 
 namespace {
 
@@ -215,4 +215,4 @@ QString counted(qint64 number, const QString& noun)
     return QStringLiteral("%1 %2%3").arg(QString::number(number), noun, ending);
 }
 
-} // namespace trel::console
+} // namespace trel::hosts
