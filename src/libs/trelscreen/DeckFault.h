@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMetaType>
 #include <QString>
 
 namespace trel::screen {
@@ -27,3 +28,5 @@ struct DeckFault
 };
 
 } // namespace trel::screen
+
+Q_DECLARE_METATYPE(trel::screen::DeckFault)

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "deck/MpvHandle.h"
+
+#include <QByteArray>
+
+#include <vector>
+
+namespace trel::player {
+
+/// What differs from one playback to the next.
+struct MpvWishes
+{
+    bool isStream = false;
+    bool onlySounds = false; ///< Shows no picture, also where the file has one for its cover.
+    bool isMute = false;
+    bool copiesDecoded = true; ///< Pictures decoded by hardware are fetched into memory.
+};
+
+struct MpvOption
+{
+    QByteArray name;
+    QByteArray value;
+};
+
+/// All that is set on a handle before it starts.
+std::vector<MpvOption> mpvOptions(const MpvWishes& wishes);
+
+/// A handle that runs, idle; null where the library does not start. LC_NUMERIC has to be that of
+/// "C" by then.
+MpvHandle startMpv(const MpvWishes& wishes);
+
+} // namespace trel::player

@@ -1,0 +1,603 @@
+#include "deck/MpvWork.h"
+
+#include "deck/PlayedAddress.h"
+#include "deck/PlayedFile.h"
+#include "stage/ScreenShape.h"
+#include "trelprogramschedule/catalogue/ShownAddress.h"
+
+#include <QFileInfo>
+
+#include <cmath>
+#include <cstring>
+#include <utility>
+
+namespace trel::player {
+
+using mediadispatch::ProgramKind;
+using screen::DeckFault;
+using screen::DeckTrouble;
+
+namespace {
+
+constexpr char kProtocol[] = "schedule-player";
+constexpr int kMostLettersOfSuffix = 8;
+constexpr int kMostLettersOfWords = 200;
+/// A film has more than half a picture a second, and fewer than these.
+constexpr double kFewestFrames = 0.5;
+constexpr double kMostFrames = 1000.0;
+/// A file tells its times in whole thousandths, so that those of its pictures are rounded.
+constexpr double kRounding = 0.001;
+constexpr std::chrono::milliseconds kLook{250};
+constexpr std::chrono::seconds kLongestConnecting{10};
+constexpr std::chrono::seconds kLongestSilence{2};
+/// From the library's word that it plays to the first picture, which is on its way by then.
+constexpr std::chrono::milliseconds kLongestDrawing{500};
+
+enum Observed : std::uint64_t {
+    Place = 1,
+    IsAtEnd,
+    DroppedOnScreen,
+    DroppedDecoding,
+};
+
+/// What the name of a file says about its content: letters and digits alone, which cannot be taken
+/// for anything but a suffix.
+QByteArray suffixOf(const QString& path)
+{
+    QByteArray suffix;
+    for (const char letter : QFileInfo(path).suffix().toLower().toLatin1()) {
+        const bool isPlain = (letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9');
+        if (!isPlain || suffix.size() == kMostLettersOfSuffix) {
+            return {};
+        }
+        suffix += letter;
+    }
+    return suffix;
+}
+
+QString oneLine(const QString& text)
+{
+    QString line = text.simplified();
+    line.truncate(kMostLettersOfWords);
+    return line;
+}
+
+std::int64_t readFile(void* file, char* room, std::uint64_t count)
+{
+    return static_cast<PlayedFile*>(file)->read(room, count);
+}
+
+std::int64_t seekFile(void* file, std::int64_t place)
+{
+    return static_cast<PlayedFile*>(file)->seek(place) ? place : MPV_ERROR_GENERIC;
+}
+
+std::int64_t sizeOfFile(void* file)
+{
+    const std::int64_t size = static_cast<PlayedFile*>(file)->size();
+    return size < 0 ? MPV_ERROR_UNSUPPORTED : size;
+}
+
+/// The file belongs to the playback.
+void closeFile(void* /*file*/) {}
+
+QByteArray trackProperty(std::int64_t track, const char* name)
+{
+    return "track-list/" + QByteArray::number(qint64(track)) + '/' + name;
+}
+
+std::int64_t number(mpv_handle* handle, const QByteArray& property)
+{
+    std::int64_t value = 0;
+    return mpv_get_property(handle, property.constData(), MPV_FORMAT_INT64, &value) < 0 ? 0 : value;
+}
+
+bool flag(mpv_handle* handle, const QByteArray& property)
+{
+    int value = 0;
+    return mpv_get_property(handle, property.constData(), MPV_FORMAT_FLAG, &value) >= 0 &&
+           value != 0;
+}
+
+std::optional<double> decimal(mpv_handle* handle, const QByteArray& property)
+{
+    double value = 0.0;
+    return mpv_get_property(handle, property.constData(), MPV_FORMAT_DOUBLE, &value) < 0
+               ? std::nullopt
+               : std::optional(value);
+}
+
+bool isTrackOf(mpv_handle* handle, std::int64_t track, const char* type)
+{
+    char* found = mpv_get_property_string(handle, trackProperty(track, "type").constData());
+    const bool isOf = found != nullptr && std::strcmp(found, type) == 0;
+    mpv_free(found);
+    return isOf;
+}
+
+} // namespace
+
+MpvWork::MpvWork(const screen::DeckLoad& load, bool isMute, const ScreenShape& shape,
+                 QObject& receiver, PlaybackNews news)
+    : m_load(load)
+    , m_isMute(isMute)
+    , m_isStream(load.kind == ProgramKind::Live)
+    , m_news(std::move(news))
+    , m_mail(receiver)
+    , m_shape(shape)
+{}
+
+MpvWork::~MpvWork() = default;
+
+void MpvWork::run()
+{
+    m_begun = std::chrono::steady_clock::now();
+    if (open()) {
+        startLoading();
+        loop();
+    }
+    {
+        const std::lock_guard lock(m_commandMutex);
+        m_commanded = nullptr;
+    }
+    m_renderer.reset();
+    m_handle.reset();
+}
+
+bool MpvWork::open()
+{
+    if (m_isStream && !isStreamAddress(m_load.media)) {
+        fail(DeckTrouble::Refused, QStringLiteral("Not the address of a stream"));
+        return false;
+    }
+    if (!m_isStream && !openFile()) {
+        return false;
+    }
+    MpvWishes wishes;
+    wishes.isStream = m_isStream;
+    wishes.onlySounds = m_load.kind == ProgramKind::Audio;
+    wishes.isMute = m_isMute;
+    m_handle = startMpv(wishes);
+    if (m_handle == nullptr) {
+        fail(DeckTrouble::Unreadable, QStringLiteral("libmpv does not start"));
+        return false;
+    }
+    mpv_render_context* renderer = nullptr;
+    char api[] = MPV_RENDER_API_TYPE_SW;
+    mpv_render_param params[] = {{MPV_RENDER_PARAM_API_TYPE, api},
+                                 {MPV_RENDER_PARAM_INVALID, nullptr}};
+    if (mpv_render_context_create(&renderer, m_handle.get(), params) < 0) {
+        fail(DeckTrouble::Unreadable, QStringLiteral("libmpv does not draw"));
+        return false;
+    }
+    m_renderer.reset(renderer);
+    return true;
+}
+
+bool MpvWork::openFile()
+{
+    m_file = std::make_unique<PlayedFile>(m_load.media);
+    const DeckFault fault = m_file->fault();
+    if (fault) {
+        fail(fault.trouble, fault.words);
+    }
+    return !fault;
+}
+
+void MpvWork::startLoading()
+{
+    mpv_handle* handle = m_handle.get();
+    mpv_set_wakeup_callback(handle, &MpvWork::eventsCame, this);
+    mpv_render_context_set_update_callback(m_renderer.get(), &MpvWork::drawingIsDue, this);
+    mpv_request_log_messages(handle, "error");
+    mpv_observe_property(handle, Place, "time-pos", MPV_FORMAT_DOUBLE);
+    mpv_observe_property(handle, IsAtEnd, "eof-reached", MPV_FORMAT_FLAG);
+    mpv_observe_property(handle, DroppedOnScreen, "frame-drop-count", MPV_FORMAT_INT64);
+    mpv_observe_property(handle, DroppedDecoding, "decoder-frame-drop-count", MPV_FORMAT_INT64);
+    QByteArray address = m_load.media.toUtf8();
+    if (!m_isStream) {
+        mpv_hook_add(handle, 0, "on_preloaded", 0);
+        mpv_stream_cb_add_ro(handle, kProtocol, this, &MpvWork::openStream);
+        address = QByteArray(kProtocol) + "://media." + suffixOf(m_load.media);
+    }
+    const char* command[] = {"loadfile", address.constData(), nullptr};
+    mpv_command_async(handle, 0, command);
+    const std::lock_guard lock(m_commandMutex);
+    m_commanded = handle;
+}
+
+void MpvWork::loop()
+{
+    while (waitForWork()) {
+        handleEvents();
+        bool isDue = false;
+        bool hasNewShape = false;
+        ScreenShape shape;
+        {
+            const std::lock_guard lock(m_mutex);
+            isDue = std::exchange(m_hasDrawing, false);
+            hasNewShape = std::exchange(m_hasNewShape, false);
+            shape = m_shape;
+        }
+        const bool hasFrame =
+            isDue && (mpv_render_context_update(m_renderer.get()) & MPV_RENDER_UPDATE_FRAME) != 0;
+        if (hasFrame || hasNewShape) {
+            draw(shape);
+        }
+        lookForStall();
+    }
+}
+
+bool MpvWork::waitForWork()
+{
+    std::unique_lock lock(m_mutex);
+    const auto hasWork = [this] {
+        return m_isStopped || m_hasEvents || m_hasDrawing || m_hasNewShape;
+    };
+    if (m_isStream || (m_hasRestarted && !m_isReady)) {
+        m_work.wait_for(lock, kLook, hasWork);
+    } else {
+        m_work.wait(lock, hasWork);
+    }
+    m_hasEvents = false;
+    return !m_isStopped;
+}
+
+void MpvWork::handleEvents()
+{
+    for (;;) {
+        const mpv_event* event = mpv_wait_event(m_handle.get(), 0.0);
+        if (event->event_id == MPV_EVENT_NONE) {
+            return;
+        }
+        handle(*event);
+    }
+}
+
+void MpvWork::handle(const mpv_event& event)
+{
+    switch (event.event_id) {
+    case MPV_EVENT_HOOK:
+        chooseStart(static_cast<const mpv_event_hook*>(event.data)->id);
+        return;
+    case MPV_EVENT_FILE_LOADED:
+        fileLoaded();
+        return;
+    case MPV_EVENT_PLAYBACK_RESTART:
+        restarted();
+        return;
+    case MPV_EVENT_PROPERTY_CHANGE:
+        handleProperty(*static_cast<const mpv_event_property*>(event.data));
+        return;
+    case MPV_EVENT_END_FILE:
+        fileEnded(*static_cast<const mpv_event_end_file*>(event.data));
+        return;
+    case MPV_EVENT_LOG_MESSAGE:
+        handleLog(*static_cast<const mpv_event_log_message*>(event.data));
+        return;
+    default:
+        return;
+    }
+}
+
+void MpvWork::handleProperty(const mpv_event_property& property)
+{
+    if (property.format == MPV_FORMAT_DOUBLE) {
+        reached(*static_cast<const double*>(property.data));
+    } else if (property.format == MPV_FORMAT_FLAG) {
+        if (*static_cast<const int*>(property.data) != 0) {
+            reachedEnd();
+        }
+    } else if (property.format == MPV_FORMAT_INT64) {
+        m_droppedFrames = number(m_handle.get(), "frame-drop-count") +
+                          number(m_handle.get(), "decoder-frame-drop-count");
+    }
+}
+
+void MpvWork::handleLog(const mpv_event_log_message& message)
+{
+    m_lastLog = QByteArray(message.prefix) + ": " + message.text;
+}
+
+void MpvWork::chooseStart(std::uint64_t hook)
+{
+    // The library would show the first picture that begins after the place; on screen at that time
+    // is the one before it. Only by now the file has told how long a picture stands.
+    readTracks();
+    const QByteArray start = QByteArray::number(toFrame(m_load.position), 'f', 6);
+    mpv_set_property_string(m_handle.get(), "start", start.constData());
+    mpv_hook_continue(m_handle.get(), hook);
+}
+
+void MpvWork::readTracks()
+{
+    mpv_handle* handle = m_handle.get();
+    const std::int64_t tracks = number(handle, "track-list/count");
+    for (std::int64_t track = 0; track < tracks; ++track) {
+        if (!isTrackOf(handle, track, "video") || flag(handle, trackProperty(track, "albumart"))) {
+            continue;
+        }
+        m_fileTurned = static_cast<int>(number(handle, trackProperty(track, "demux-rotation")));
+        m_framesPerSecond = decimal(handle, trackProperty(track, "demux-fps")).value_or(0.0);
+        return;
+    }
+}
+
+void MpvWork::fileLoaded()
+{
+    readTracks();
+    m_hasVideo = !m_isOver && number(m_handle.get(), "current-tracks/video/id") > 0;
+}
+
+void MpvWork::restarted()
+{
+    if (!std::exchange(m_hasRestarted, true)) {
+        m_restartedAt = std::chrono::steady_clock::now();
+    }
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isSeeking = false;
+    }
+    if (const std::optional<double> place = decimal(m_handle.get(), "time-pos")) {
+        reached(*place);
+    }
+    tellReadyOnce();
+}
+
+void MpvWork::reached(double seconds)
+{
+    const Moment now = std::chrono::steady_clock::now();
+    const std::lock_guard lock(m_mutex);
+    m_lastProgress = now;
+    if (!m_isSeeking) {
+        m_position.reached(seconds * 1000.0, now);
+    }
+}
+
+void MpvWork::reachedEnd()
+{
+    bool plays = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_position.stand(std::chrono::steady_clock::now());
+        plays = std::exchange(m_plays, false);
+    }
+    if (m_isStream) {
+        fail(DeckTrouble::BrokeOff, QStringLiteral("The stream has ended"));
+    } else if (plays && !std::exchange(m_isOver, true)) {
+        m_mail.post(m_news.ended);
+    }
+}
+
+void MpvWork::fileEnded(const mpv_event_end_file& end)
+{
+    const bool isBroken = end.reason == MPV_END_FILE_REASON_ERROR;
+    if (m_isReady) {
+        fail(DeckTrouble::BrokeOff, lastWords(isBroken ? end.error : 0));
+    } else if (m_isStream && (!isBroken || end.error == MPV_ERROR_LOADING_FAILED)) {
+        fail(DeckTrouble::Unreachable, lastWords(end.error));
+    } else {
+        fail(DeckTrouble::Unreadable, lastWords(end.error));
+    }
+}
+
+void MpvWork::draw(const ScreenShape& shape)
+{
+    mpv_render_frame_info info = {};
+    const mpv_render_param asked{MPV_RENDER_PARAM_NEXT_FRAME_INFO, &info};
+    const bool hasPicture = mpv_render_context_get_info(m_renderer.get(), asked) >= 0 &&
+                            (info.flags & MPV_RENDER_FRAME_INFO_PRESENT) != 0;
+    const int turned = (shape.turned + m_fileTurned) % 360;
+    QImage& picture = m_pictures.blank(roomBeforeTurning(shape.size, turned));
+    if (picture.isNull()) {
+        return;
+    }
+    int size[] = {picture.width(), picture.height()};
+    auto stride = static_cast<std::size_t>(picture.bytesPerLine());
+    char format[] = "bgr0";
+    int waits = 0;
+    mpv_render_param params[] = {{MPV_RENDER_PARAM_SW_SIZE, size},
+                                 {MPV_RENDER_PARAM_SW_FORMAT, format},
+                                 {MPV_RENDER_PARAM_SW_STRIDE, &stride},
+                                 {MPV_RENDER_PARAM_SW_POINTER, picture.bits()},
+                                 {MPV_RENDER_PARAM_BLOCK_FOR_TARGET_TIME, &waits},
+                                 {MPV_RENDER_PARAM_INVALID, nullptr}};
+    const bool isDrawn = mpv_render_context_render(m_renderer.get(), params) >= 0;
+    mpv_render_context_report_swap(m_renderer.get());
+    if (!isDrawn || !hasPicture) {
+        return;
+    }
+    m_hasDrawn = true;
+    if (m_pictures.put(turnedClockwise(picture, turned))) {
+        m_mail.post(m_news.pictureChanged);
+    }
+    tellReadyOnce();
+}
+
+void MpvWork::tellReadyOnce()
+{
+    if (m_isReady || m_isOver || !m_hasRestarted || (m_hasVideo && !m_hasDrawn)) {
+        return;
+    }
+    m_isReady = true;
+    m_mail.post(m_news.ready);
+}
+
+void MpvWork::lookForStall()
+{
+    if (m_isOver) {
+        return;
+    }
+    const Moment now = std::chrono::steady_clock::now();
+    if (m_hasRestarted && !m_isReady && now - m_restartedAt > kLongestDrawing) {
+        // None of its pictures can be decoded.
+        m_hasVideo = false;
+        if (number(m_handle.get(), "current-tracks/audio/id") > 0) {
+            tellReadyOnce();
+        } else {
+            fail(DeckTrouble::Unreadable, lastWords(0));
+        }
+    } else if (m_isStream && !m_isReady && now - m_begun > kLongestConnecting) {
+        fail(DeckTrouble::Unreachable, QStringLiteral("No answer"));
+    } else if (m_isStream && m_isReady && silence(now) > kLongestSilence) {
+        fail(DeckTrouble::Stalled, QStringLiteral("Nothing has come for two seconds"));
+    }
+}
+
+MpvWork::Moment::duration MpvWork::silence(Moment now) const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_plays ? now - m_lastProgress : Moment::duration::zero();
+}
+
+void MpvWork::fail(DeckTrouble trouble, const QString& words)
+{
+    if (std::exchange(m_isOver, true)) {
+        return;
+    }
+    QString told = words;
+    if (m_isStream) {
+        // The library quotes the address with the password in it.
+        told.replace(m_load.media, mediadispatch::shownAddress(m_load.media));
+    }
+    const DeckFault fault{trouble, oneLine(told)};
+    m_mail.post([failed = m_news.failed, fault] { failed(fault); });
+}
+
+QString MpvWork::lastWords(int error) const
+{
+    if (!m_lastLog.isEmpty()) {
+        return QString::fromUtf8(m_lastLog);
+    }
+    return error < 0 ? QString::fromUtf8(mpv_error_string(error))
+                     : QStringLiteral("No picture and no sound in it can be decoded");
+}
+
+double MpvWork::toFrame(qint64 position) const
+{
+    const double seconds = static_cast<double>(position) / 1000.0;
+    const double frames = m_framesPerSecond;
+    if (frames < kFewestFrames || frames > kMostFrames) {
+        return seconds;
+    }
+    return std::floor((seconds + kRounding) * frames) / frames;
+}
+
+void MpvWork::stop()
+{
+    m_mail.close();
+    const char* command[] = {"stop", nullptr};
+    // Gets it out of a connection that is still being made.
+    commandAsync(command);
+    const std::lock_guard lock(m_mutex);
+    m_isStopped = true;
+    m_work.notify_one();
+}
+
+void MpvWork::play()
+{
+    setPlays(true);
+    setAsync("pause", "no");
+}
+
+void MpvWork::pause()
+{
+    setPlays(false);
+    setAsync("pause", "yes");
+}
+
+void MpvWork::setPlays(bool plays)
+{
+    const Moment now = std::chrono::steady_clock::now();
+    const std::lock_guard lock(m_mutex);
+    m_plays = plays;
+    if (plays) {
+        m_position.run(now);
+        m_lastProgress = now;
+    } else {
+        m_position.stand(now);
+    }
+}
+
+void MpvWork::seek(qint64 position)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_isSeeking = true;
+        m_position.forget();
+    }
+    const QByteArray place = QByteArray::number(toFrame(position), 'f', 6);
+    const char* command[] = {"seek", place.constData(), "absolute+exact", nullptr};
+    commandAsync(command);
+}
+
+void MpvWork::setSpeed(double speed)
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_position.setSpeed(speed, std::chrono::steady_clock::now());
+    }
+    setAsync("speed", QByteArray::number(speed, 'f', 6).constData());
+}
+
+void MpvWork::setAsync(const char* property, const char* value)
+{
+    const char* command[] = {"set", property, value, nullptr};
+    commandAsync(command);
+}
+
+void MpvWork::commandAsync(const char** command)
+{
+    const std::lock_guard lock(m_commandMutex);
+    if (m_commanded != nullptr) {
+        mpv_command_async(m_commanded, 0, command);
+    }
+}
+
+void MpvWork::setShape(const ScreenShape& shape)
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_shape != shape) {
+        m_shape = shape;
+        m_hasNewShape = true;
+        m_work.notify_one();
+    }
+}
+
+std::optional<qint64> MpvWork::position() const
+{
+    if (m_isStream) {
+        return {};
+    }
+    const std::lock_guard lock(m_mutex);
+    const std::optional<double> place = m_position.at(std::chrono::steady_clock::now());
+    return place ? std::optional(qRound64(*place)) : std::nullopt;
+}
+
+void MpvWork::eventsCame(void* self)
+{
+    auto& work = *static_cast<MpvWork*>(self);
+    const std::lock_guard lock(work.m_mutex);
+    work.m_hasEvents = true;
+    work.m_work.notify_one();
+}
+
+void MpvWork::drawingIsDue(void* self)
+{
+    auto& work = *static_cast<MpvWork*>(self);
+    const std::lock_guard lock(work.m_mutex);
+    work.m_hasDrawing = true;
+    work.m_work.notify_one();
+}
+
+int MpvWork::openStream(void* self, char* /*address*/, mpv_stream_cb_info* info)
+{
+    info->cookie = static_cast<MpvWork*>(self)->m_file.get();
+    info->read_fn = &readFile;
+    info->seek_fn = &seekFile;
+    info->size_fn = &sizeOfFile;
+    info->close_fn = &closeFile;
+    return 0;
+}
+
+} // namespace trel::player

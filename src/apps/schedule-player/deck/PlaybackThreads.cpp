@@ -1,0 +1,55 @@
+#include "deck/PlaybackThreads.h"
+
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+namespace trel::player {
+
+namespace {
+
+/// A player that is told to end has a second for all.
+constexpr std::chrono::milliseconds kPatience{350};
+
+} // namespace
+
+struct PlaybackThreads::Count
+{
+    std::mutex mutex;
+    std::condition_variable changed;
+    int running = 0;
+};
+
+PlaybackThreads::PlaybackThreads()
+    : m_count(std::make_shared<Count>())
+{}
+
+PlaybackThreads::~PlaybackThreads()
+{
+    wait(kPatience);
+}
+
+void PlaybackThreads::start(std::function<void()> function)
+{
+    {
+        const std::lock_guard lock(m_count->mutex);
+        ++m_count->running;
+    }
+    std::thread([function = std::move(function), count = m_count]() mutable {
+        function();
+        // What the function holds goes first, as it is what is waited for.
+        function = nullptr;
+        const std::lock_guard lock(count->mutex);
+        --count->running;
+        count->changed.notify_all();
+    }).detach();
+}
+
+bool PlaybackThreads::wait(std::chrono::milliseconds patience) const
+{
+    std::unique_lock lock(m_count->mutex);
+    return m_count->changed.wait_for(lock, patience, [this] { return m_count->running == 0; });
+}
+
+} // namespace trel::player

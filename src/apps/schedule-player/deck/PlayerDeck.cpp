@@ -1,0 +1,116 @@
+#include "deck/PlayerDeck.h"
+
+#include "deck/MpvPlayback.h"
+#include "deck/StillPlayback.h"
+
+#include <clocale>
+
+namespace trel::player {
+
+using mediadispatch::ProgramKind;
+using screen::DeckFault;
+
+PlayerDeck::PlayerDeck(bool isMute, QObject* parent)
+    : Deck(parent)
+    , m_isMute(isMute)
+{
+    // The toolkit's application has taken the user's by now. Before any thread runs that asks.
+    std::setlocale(LC_NUMERIC, "C");
+}
+
+PlayerDeck::~PlayerDeck() = default;
+
+quint64 PlayerDeck::load(const screen::DeckLoad& load)
+{
+    forget();
+    const quint64 number = ++m_number;
+    m_stands = load.stands;
+    PlaybackNews news;
+    news.ready = [this] { becomeReady(); };
+    news.failed = [this, number](const DeckFault& fault) { emit failed(number, fault); };
+    news.ended = [this, number] { emit ended(number); };
+    news.pictureChanged = [this] { emit pictureChanged(); };
+    if (load.kind == ProgramKind::Image) {
+        m_playback = std::make_unique<StillPlayback>(load.media, m_shape, news, m_threads);
+    } else {
+        m_playback = std::make_unique<MpvPlayback>(load, m_isMute, m_shape, news, m_threads);
+    }
+    return number;
+}
+
+void PlayerDeck::clear()
+{
+    forget();
+    ++m_number;
+}
+
+void PlayerDeck::forget()
+{
+    m_droppedBefore = droppedFrames();
+    m_playback.reset();
+    m_isReady = false;
+}
+
+void PlayerDeck::becomeReady()
+{
+    m_isReady = true;
+    emit ready(m_number);
+}
+
+void PlayerDeck::play()
+{
+    if (m_isReady && !m_stands) {
+        m_playback->play();
+    }
+}
+
+void PlayerDeck::pause()
+{
+    if (m_isReady) {
+        m_playback->pause();
+    }
+}
+
+void PlayerDeck::seek(qint64 position)
+{
+    if (m_isReady) {
+        m_playback->seek(position);
+    }
+}
+
+void PlayerDeck::setSpeed(double speed)
+{
+    if (m_isReady) {
+        m_playback->setSpeed(speed);
+    }
+}
+
+bool PlayerDeck::hasPicture() const
+{
+    return m_isReady && !picture().isNull();
+}
+
+std::optional<qint64> PlayerDeck::position() const
+{
+    return m_isReady ? m_playback->position() : std::nullopt;
+}
+
+void PlayerDeck::setShape(const ScreenShape& shape)
+{
+    m_shape = shape;
+    if (m_playback != nullptr) {
+        m_playback->setShape(shape);
+    }
+}
+
+QImage PlayerDeck::picture() const
+{
+    return m_playback != nullptr ? m_playback->picture() : QImage();
+}
+
+qint64 PlayerDeck::droppedFrames() const
+{
+    return m_droppedBefore + (m_playback != nullptr ? m_playback->droppedFrames() : 0);
+}
+
+} // namespace trel::player

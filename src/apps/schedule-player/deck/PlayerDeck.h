@@ -1,0 +1,65 @@
+#pragma once
+
+#include "deck/PlaybackThreads.h"
+#include "stage/ScreenShape.h"
+#include "trelscreen/Deck.h"
+
+#include <QImage>
+
+#include <memory>
+
+namespace trel::player {
+
+class Playback;
+
+/// A deck that really plays: films, sound and streams by libmpv, images by the program that reads
+/// media. Each load has a player of its own, made and taken down in threads of its own.
+///
+/// The application has to be there by then, and LC_NUMERIC is set to that of "C" for the whole
+/// process, as libmpv asks for. Takes up to a third of a second to go.
+class PlayerDeck : public screen::Deck
+{
+    Q_OBJECT
+
+public:
+    explicit PlayerDeck(bool isMute, QObject* parent = nullptr);
+    ~PlayerDeck() override;
+
+    quint64 load(const screen::DeckLoad& load) override;
+    void clear() override;
+
+    void play() override;
+    void pause() override;
+    void seek(qint64 position) override;
+    void setSpeed(double speed) override;
+
+    bool isReady() const override { return m_isReady; }
+    bool hasPicture() const override;
+    std::optional<qint64> position() const override;
+
+    /// What its pictures are made for, from now on. Has to be said before the first load.
+    void setShape(const ScreenShape& shape);
+    /// The newest picture, as large as the screen and turned as it hangs; null where it has none.
+    QImage picture() const;
+    /// How many pictures came too late to be shown, of all that it has played.
+    qint64 droppedFrames() const;
+
+signals:
+    /// There is a newer picture. Several may have come.
+    void pictureChanged();
+
+private:
+    void becomeReady();
+    void forget();
+
+    const bool m_isMute;
+    ScreenShape m_shape;
+    quint64 m_number = 0;
+    bool m_isReady = false;
+    bool m_stands = false;
+    qint64 m_droppedBefore = 0;
+    PlaybackThreads m_threads;
+    std::unique_ptr<Playback> m_playback;
+};
+
+} // namespace trel::player
