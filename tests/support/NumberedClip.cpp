@@ -15,6 +15,7 @@ extern "C" {
 #include <libavutil/channel_layout.h>
 #include <libavutil/display.h>
 #include <libavutil/frame.h>
+#include <libavutil/log.h>
 #include <libavutil/opt.h>
 #include <libavutil/samplefmt.h>
 }
@@ -95,6 +96,8 @@ struct Track
 
 Output openOutput(const QString& path)
 {
+    // Some coders tell the console about each clip.
+    av_log_set_level(AV_LOG_ERROR);
     AVFormatContext* context = nullptr;
     const QByteArray name = QFile::encodeName(path);
     if (avformat_alloc_output_context2(&context, nullptr, nullptr, name.constData()) < 0) {
@@ -351,8 +354,10 @@ std::optional<media::ClipMark> media::readClipMark(const QImage& image, const QR
     const QRectF whole = part.isEmpty() ? QRectF(image.rect()) : part;
     std::uint32_t word = 0;
     for (int block = 0; block < kBlocks; ++block) {
-        const double x = whole.x() + whole.width() * (block % kColumns + 0.5) / kColumns;
-        const double y = whole.y() + whole.height() * (block / kColumns + 0.5) / kRows;
+        const int column = block % kColumns;
+        const int row = block / kColumns;
+        const double x = whole.x() + whole.width() * (column + 0.5) / kColumns;
+        const double y = whole.y() + whole.height() * (row + 0.5) / kRows;
         const QPoint point{int(x), int(y)};
         if (!image.rect().contains(point)) {
             return {};

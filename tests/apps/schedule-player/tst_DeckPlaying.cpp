@@ -3,7 +3,6 @@
 
 #include <QGuiApplication>
 
-using trel::mediadispatch::ProgramKind;
 using trel::player::PlayerDeck;
 using trel::screen::DeckLoad;
 
@@ -316,7 +315,7 @@ void tst_DeckPlaying::tellsNothingOfAReplacedLoad()
     screen.show(screen.first);
     quint64 number = 0;
     for (int turn = 0; turn < 5; ++turn) {
-        number = screen.first.load(filmOf(file("missing.mp4")));
+        screen.first.load(filmOf(file("missing.mp4")));
         number = screen.first.load(filmOf(file(turn % 2 == 0 ? "one.mp4" : "two.mp4")));
     }
     QCOMPARE(number, quint64(10));

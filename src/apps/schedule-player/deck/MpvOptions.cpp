@@ -116,6 +116,15 @@ std::vector<MpvOption> mpvOptions(const MpvWishes& wishes)
     return options;
 }
 
+MpvHandle quietMpv()
+{
+    MpvHandle handle(mpv_create());
+    if (handle != nullptr) {
+        mpv_set_option_string(handle.get(), "terminal", "no");
+    }
+    return handle;
+}
+
 MpvHandle startMpv(const MpvWishes& wishes)
 {
     MpvHandle handle(mpv_create());

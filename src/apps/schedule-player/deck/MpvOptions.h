@@ -26,6 +26,11 @@ struct MpvOption
 /// All that is set on a handle before it starts.
 std::vector<MpvOption> mpvOptions(const MpvWishes& wishes);
 
+/// While one of these lives, the libraries beneath libmpv write nothing to the console, which they
+/// otherwise do whenever the last handle goes in the middle of their work. It plays nothing. Null
+/// where the library does not start.
+MpvHandle quietMpv();
+
 /// A handle that runs, idle; null where the library does not start. LC_NUMERIC has to be that of
 /// "C" by then.
 MpvHandle startMpv(const MpvWishes& wishes);

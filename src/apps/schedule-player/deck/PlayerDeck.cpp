@@ -1,5 +1,6 @@
 #include "deck/PlayerDeck.h"
 
+#include "deck/MpvOptions.h"
 #include "deck/MpvPlayback.h"
 #include "deck/StillPlayback.h"
 
@@ -16,6 +17,7 @@ PlayerDeck::PlayerDeck(bool isMute, QObject* parent)
 {
     // The toolkit's application has taken the user's by now. Before any thread runs that asks.
     std::setlocale(LC_NUMERIC, "C");
+    m_quiet = quietMpv();
 }
 
 PlayerDeck::~PlayerDeck() = default;

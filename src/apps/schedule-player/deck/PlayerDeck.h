@@ -1,5 +1,6 @@
 #pragma once
 
+#include "deck/MpvHandle.h"
 #include "deck/PlaybackThreads.h"
 #include "stage/ScreenShape.h"
 #include "trelscreen/Deck.h"
@@ -58,6 +59,7 @@ private:
     bool m_isReady = false;
     bool m_stands = false;
     qint64 m_droppedBefore = 0;
+    MpvHandle m_quiet; ///< Goes after all threads.
     PlaybackThreads m_threads;
     std::unique_ptr<Playback> m_playback;
 };
