@@ -35,7 +35,7 @@ QByteArray told(const ProcessEnd& end, const QByteArray& words)
     return name.left(name.indexOf('\n'));
 }
 
-/// Whether a file is of the toolkit; "no memory for" in what was said tells who lacked it.
+/// Whether a file is of the toolkit.
 bool isOfToolkit(const QByteArray& file)
 {
     return file.startsWith("libQt5") || file == "libqsqlite.so";
@@ -92,16 +92,10 @@ public:
         };
         const bool isSudden = end.isLate || end.signal != 0;
         const QByteArray place = isSudden ? told(end, "ended within ") : QByteArray();
-        // Not explained: after the toolkit got no memory, the console ends now and then in code of
-        // its own. It is counted by itself, so that the figure shows it.
-        const QByteArray lacking = isSudden ? told(end, "no memory for ") : QByteArray();
         if (found != m_before && found != m_after) {
             complain("the contents are neither the old nor the new ones");
         } else if (isSudden && isOfToolkit(place)) {
             ++m_ends[place + (end.isLate ? " held up" : " ended")];
-        } else if (isSudden && isOfToolkit(lacking)) {
-            ++m_ends[place + ", for which " + lacking + " got no memory, " +
-                     (end.isLate ? "held up" : "ended")];
         } else if (isSudden) {
             complain("it did not end by itself");
         } else if (end.status > 1) {

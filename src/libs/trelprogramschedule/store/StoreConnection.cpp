@@ -27,6 +27,41 @@ bool isLogCutShort(int code)
     return code == SQLITE_FULL || code == SQLITE_IOERR_WRITE;
 }
 
+/// A connection that is in no list. The toolkit's own list is locked while it is changed, and stays
+/// so where memory runs out meanwhile: its module knows no exceptions.
+class UnlistedConnection : public QSqlDatabase
+{
+public:
+    UnlistedConnection()
+        : QSqlDatabase(QStringLiteral("QSQLITE"))
+    {}
+};
+
+/// Has the toolkit make what stands for no connection and for no query, which it needs for each one
+/// that is made or goes. Where memory runs out there they stay half made, and the next need of them
+/// waits for ever or throws, in a destructor too. So they are made before all others, and tried
+/// once.
+bool arePlaceholdersMade()
+{
+    static const bool areMade = [] {
+        try {
+            const QSqlDatabase none;
+            return !none.isValid() && !QSqlQuery(none).isActive();
+        } catch (const std::bad_alloc&) {
+            return false;
+        }
+    }();
+    return areMade;
+}
+
+QSqlDatabase newConnection()
+{
+    if (!arePlaceholdersMade()) {
+        throw std::bad_alloc();
+    }
+    return UnlistedConnection();
+}
+
 QString fileAddress(const QString& path, StoreConnection::Access access)
 {
     QString address = QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
@@ -47,20 +82,9 @@ QString fileAddress(const QString& path, StoreConnection::Access access)
 
 } // namespace
 
-StoreConnection::Listing::Listing()
-{
-    static int number = 0;
-    name = QStringLiteral("trelprogramschedule-%1").arg(++number);
-}
-
-StoreConnection::Listing::~Listing()
-{
-    QSqlDatabase::removeDatabase(name);
-}
-
 StoreConnection::StoreConnection(const QString& path, Access access)
     : m_path(path)
-    , m_database(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_listing.name))
+    , m_database(newConnection())
 {
     m_database.setDatabaseName(fileAddress(path, access));
     QString options = QStringLiteral("QSQLITE_OPEN_URI;QSQLITE_BUSY_TIMEOUT=%1").arg(kBusyTimeout);

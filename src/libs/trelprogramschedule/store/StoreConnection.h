@@ -18,7 +18,7 @@ struct StoreError
         0; ///< The database's own, with all that it tells; 0 where it is not an error of its.
 };
 
-/// One named connection to a database file, open from construction to destruction. All queries on
+/// One connection to a database file, open from construction to destruction. All queries on
 /// it must have gone before it goes. Members throw StoreError where the database refuses.
 class StoreConnection
 {
@@ -62,17 +62,7 @@ private:
     bool clearFailedCommit() const;
     bool spoilLogEnd() const;
 
-    /// Takes the connection from the toolkit's list when it goes.
-    struct Listing
-    {
-        Listing();
-        ~Listing();
-        Q_DISABLE_COPY(Listing)
-        QString name;
-    };
-
     QString m_path;
-    Listing m_listing;
     QSqlDatabase m_database;
     sqlite3* m_handle = nullptr;
     int m_systemError = 0; ///< Why it could not be opened, as errno; 0 where that is not known.
