@@ -100,6 +100,10 @@ void Conductor::follow()
     prepareNext();
     attendNext();
     attendCurrent();
+    if (m_next && !m_next->slot) {
+        // A deck may have become free.
+        prepareNext();
+    }
     m_tally.setOnTimeline(m_isShown, m_steady);
     sleep();
     if (std::exchange(m_isChanged, false)) {
@@ -123,6 +127,7 @@ qint64 Conductor::look()
 void Conductor::begin(const ScreenPlay& play, bool hasLeapt)
 {
     const bool isThereAlready = isThere(play);
+    const std::optional<qint64> grace = m_graceUntil;
     leave();
     m_isSwitch = !hasLeapt && m_over != kEver && play.state.since >= m_over && m_over <= m_now;
     m_dueAt = m_isSwitch ? std::min(play.state.since, m_now) : m_now;
@@ -131,6 +136,9 @@ void Conductor::begin(const ScreenPlay& play, bool hasLeapt)
     if (m_next && m_next->play.isSamePlay(play) && !isThereAlready) {
         m_current = *std::exchange(m_next, std::nullopt);
         m_current.play = play;
+        if (m_current.failures > 0) {
+            m_current.failedAt = m_steady;
+        }
     } else {
         dropNext();
     }
@@ -144,22 +152,38 @@ void Conductor::begin(const ScreenPlay& play, bool hasLeapt)
         adopt(play);
     } else if (m_current.slot && m_current.slot->isReady()) {
         show();
-    } else if (!m_isSwitch) {
-        m_graceUntil = m_steady + kGrace;
+    } else {
+        beginWithout(grace);
+    }
+}
+
+void Conductor::beginWithout(std::optional<qint64> grace)
+{
+    const ScreenPlay& play = m_current.play;
+    if (!m_isSwitch) {
+        m_graceUntil = grace.value_or(m_steady + kGrace);
     } else {
         if (!m_current.fault && !play.isTooShort()) {
             note(ScreenEvent::Kind::Late, play);
         }
-        // The last good picture of a play that broke is the best that there is of its last one.
-        if (!m_onStage || !m_onStage->play().isOfSamePlay(play)) {
+        // A picture of the same play stands, where it goes on elsewhere in the program.
+        if (m_onStage && m_onStage->play().isOfSamePlay(play)) {
+            m_onStage->pause();
+        } else {
             standBy();
         }
+    }
+    // Before the next one is prepared.
+    if (!m_current.slot && isDue(m_current)) {
+        join();
     }
 }
 
 void Conductor::leave()
 {
-    settle();
+    if (m_current.backAt) {
+        settle(m_current);
+    }
     if (m_isShown && !m_current.play.isBlack()) {
         note(ScreenEvent::Kind::Left, m_current.play);
     }
@@ -196,11 +220,13 @@ void Conductor::adopt(const ScreenPlay& play)
 
 void Conductor::join()
 {
+    const ScreenPlay& play = m_current.play;
     DeckSlot* slot = slotForCurrent();
-    if (!slot) {
+    // What is over before it could be there would only be in the way of what follows.
+    const bool isAlmostOver = m_graceUntil && play.state.until - m_now <= kGrace;
+    if (!slot || play.isTooShort() || isAlmostOver) {
         return;
     }
-    const ScreenPlay& play = m_current.play;
     const bool isWorthWaiting =
         play.isPlaying() && play.hasPosition() && play.state.until - m_now > 2 * kLead;
     load(m_current, *slot, isWorthWaiting ? m_now + kLead : m_now);
@@ -275,6 +301,9 @@ void Conductor::attendNext()
     if (!m_next || !m_next->slot) {
         return;
     }
+    if (m_next->failures > 0 && m_next->slot->isReady()) {
+        settle(*m_next);
+    }
     if (const DeckFault fault = m_next->slot->trouble(m_now, kNever, m_steady)) {
         fail(*m_next, fault);
     }
@@ -287,9 +316,7 @@ void Conductor::attendCurrent()
     if (m_current.play.isBlack()) {
         return;
     }
-    const bool isLook = isWatched() && m_steady >= m_lookAt;
-    if (isLook) {
-        m_lookAt = m_steady + kLook;
+    if (isLookDue()) {
         m_current.slot->watch(m_steady);
     }
     if (m_current.slot) {
@@ -300,14 +327,15 @@ void Conductor::attendCurrent()
     }
     attendPicture();
     attendGrace();
-    if (!m_current.slot && isDue(m_current) && !m_current.play.isTooShort()) {
+    if (!m_current.slot && isDue(m_current)) {
         join();
     }
-    if (isLook) {
+    if (isLookDue()) {
+        m_lookAt = m_steady + kLook;
         attendPosition();
     }
     if (m_current.backAt && m_steady - *m_current.backAt >= kWell) {
-        settle();
+        settle(m_current);
     }
 }
 
@@ -345,12 +373,11 @@ void Conductor::attendGrace()
 void Conductor::attendPosition()
 {
     DeckSlot* slot = m_current.slot;
-    if (!isWatched() || slot->hasEnded()) {
-        return;
-    }
     put(pictureOf(*slot));
     const ScreenPlay& play = m_current.play;
-    if (!play.hasPosition() || play.state.until - m_now < PositionHold::kTooFar) {
+    // What stands still is not helped by being sent elsewhere; it would only look alive.
+    if (slot->hasEnded() || !slot->hasMoved() || !play.hasPosition() ||
+        play.state.until - m_now < PositionHold::kTooFar) {
         return;
     }
     const PositionHold::Step step =
@@ -367,21 +394,17 @@ void Conductor::attendPosition()
     }
 }
 
-void Conductor::settle()
+void Conductor::settle(PlayAttempt& attempt)
 {
-    if (m_current.backAt) {
-        ScreenEvent event;
-        event.kind = ScreenEvent::Kind::Recovered;
-        event.play = m_current.play;
-        event.amount = *m_current.backAt - *m_current.failedAt;
-        event.fault = m_current.fault;
-        event.tries = m_current.failures;
-        note(event);
-        m_current.fault = {};
-        m_current.failures = 0;
-        m_current.failedAt.reset();
-        m_current.backAt.reset();
-    }
+    ScreenEvent event;
+    event.kind = ScreenEvent::Kind::Recovered;
+    event.play = attempt.play;
+    event.amount = attempt.backAt.value_or(m_steady) - attempt.failedAt.value_or(m_steady);
+    event.fault = std::exchange(attempt.fault, {});
+    event.tries = std::exchange(attempt.failures, 0);
+    attempt.failedAt.reset();
+    attempt.backAt.reset();
+    note(event);
 }
 
 void Conductor::fail(PlayAttempt& attempt, const DeckFault& fault)
@@ -434,6 +457,11 @@ void Conductor::load(PlayAttempt& attempt, DeckSlot& slot, Instant startsAt)
 bool Conductor::isDue(const PlayAttempt& attempt) const
 {
     return !attempt.retryAt || m_steady >= *attempt.retryAt;
+}
+
+bool Conductor::isLookDue() const
+{
+    return isWatched() && m_steady >= m_lookAt;
 }
 
 bool Conductor::isWatched() const
@@ -562,7 +590,7 @@ void Conductor::note(ScreenEvent::Kind kind, const ScreenPlay& play, qint64 amou
 
 void Conductor::note(ScreenEvent event)
 {
-    event.moment = m_now;
+    event.moment = Clock::current().msecsSinceEpoch();
     event.onScreenSince = m_shownSince;
     m_isChanged = true;
     m_tally.note(event);

@@ -78,6 +78,7 @@ private:
     qint64 look();
 
     void begin(const ScreenPlay& play, bool hasLeapt);
+    void beginWithout(std::optional<qint64> grace);
     void leave();
     bool isThere(const ScreenPlay& play) const;
     void adopt(const ScreenPlay& play);
@@ -93,7 +94,7 @@ private:
     void attendPicture();
     void attendPosition();
     void attendGrace();
-    void settle();
+    void settle(PlayAttempt& attempt);
     void fail(PlayAttempt& attempt, const DeckFault& fault);
     void loseCurrent(const DeckFault& fault);
 
@@ -101,6 +102,7 @@ private:
     DeckSlot* slotForCurrent() const;
     bool isDue(const PlayAttempt& attempt) const;
     bool isWatched() const;
+    bool isLookDue() const;
 
     void show();
     void start();

@@ -16,7 +16,8 @@ struct DeckLoad
     QString media; ///< Absolute path of a file, or the address of a stream.
     mediadispatch::ProgramKind kind = mediadispatch::ProgramKind::Other;
     /// Where the first picture lies, in milliseconds from the program's beginning. Nothing for what
-    /// has no length.
+    /// has no length. At the end of the program, as for the last frame of a play, or beyond it
+    /// where a file is shorter than was known, the last picture.
     qint64 position = 0;
     /// The first picture stands and is never played on, as the last frame of a play does.
     bool stands = false;

@@ -48,6 +48,8 @@ public:
     qint64 deadline() const;
     /// Looks where the play is; to be called a few times a second once it has been started.
     void watch(qint64 steady);
+    /// Whether it was elsewhere at the last look than at the one before.
+    bool hasMoved() const { return m_stillLooks == 0; }
 
 signals:
     /// It is ready, has failed or has come to its end.

@@ -83,7 +83,7 @@ bool ScreenPlay::isSamePlay(const ScreenPlay& other) const
 
 ScreenPlay screenPlayAt(const ScreenSchedule& schedule, Instant moment)
 {
-    const ScreenPlay play = plainPlayAt(schedule, moment);
+    ScreenPlay play = plainPlayAt(schedule, moment);
     for (ScreenPlay next = play; next.state.until - moment < kFrame && next.isTooShort();) {
         next = plainPlayAt(schedule, next.state.until);
         if (!next.isTooShort()) {

@@ -1,0 +1,304 @@
+#include "ScreenFixture.h"
+
+#include "support/TestProgram.h"
+
+#include <QtTest>
+
+using namespace trel::mediadispatch;
+using namespace trel::screen;
+
+namespace {
+
+using Kind = ScreenEvent::Kind;
+
+/// A program that cannot be loaded for now.
+class Broken
+{
+public:
+    Broken(ScreenFixture& screen, const char* media, DeckTrouble trouble)
+        : m_media(QLatin1String(media))
+        , m_trouble(trouble)
+    {
+        for (RecordedDeck* deck : {&screen.one, &screen.two}) {
+            deck->setTrouble([this](const QString& asked) {
+                ++m_tries;
+                return asked == m_media ? m_trouble : DeckTrouble::None;
+            });
+        }
+    }
+
+    void mend() { m_trouble = DeckTrouble::None; }
+    void set(DeckTrouble trouble) { m_trouble = trouble; }
+    int takeTries() { return std::exchange(m_tries, 0); }
+
+private:
+    QString m_media;
+    DeckTrouble m_trouble;
+    int m_tries = 0;
+};
+
+} // namespace
+
+/// What cannot be shown, and comes back.
+class tst_ConductorFaults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void standsByForWhatIsNotReady()
+    {
+        ScreenFixture screen("07:59:59");
+        screen.follow("08:00:00-09:00:00 A B");
+        screen.advanceTo("08:00:07");
+        screen.two.setReadyAfter(std::nullopt);
+        screen.log.take();
+        screen.takeCalls();
+        screen.advanceTo("08:00:10.700");
+        // Not a moment longer than A has.
+        QCOMPARE(screen.takeCalls(), lines({"08:00:08 two: load B at 0", "08:00:10 stage: stand-by",
+                                            "08:00:10 one: clear"}));
+        screen.two.tellReady();
+        QCOMPARE(screen.takeCalls(), lines({"08:00:10.700 stage: two", "08:00:10.700 two: play",
+                                            "08:00:10.700 two: seek 800"}));
+        QCOMPARE(screen.log.take(), lines({"left A", "late B", "switch B +700", "sought B -700"}));
+        QCOMPARE(screen.conductor.tally().lates(), 1);
+        QCOMPARE(screen.conductor.tally().worstLateness(), 700);
+        QCOMPARE(screen.conductor.longestOff(), 700);
+    }
+
+    void triesAgainWithPausesAndJoins()
+    {
+        ScreenFixture screen("07:59:59", 10);
+        Broken broken(screen, "H", DeckTrouble::Missing);
+        screen.follow("07:00:00-08:00:00 B / 08:00:00-09:00:00 H");
+        screen.advanceTo("08:00:10");
+        const QStringList calls = screen.takeCalls();
+        // From the moment at which it was first loaded: with pauses of 0.25, 0.5, 1, 1, ... s, and
+        // from its beginning on with the position that it would have.
+        const QStringList loads = calls.filter(QStringLiteral("load H"));
+        QCOMPARE(loads.mid(0, 5),
+                 lines({"07:59:59 two: load H at 0", "07:59:59.260 two: load H at 0",
+                        "07:59:59.770 two: load H at 0", "08:00:00.780 one: load H at 1030",
+                        "08:00:01.790 one: load H at 2040"}));
+        QCOMPARE(screen.picture(), QStringLiteral("stand-by"));
+        QCOMPARE(screen.log.take(Kind::Fault), lines({"fault H missing"}));
+        QCOMPARE(screen.conductor.tally().faults(DeckTrouble::Missing), 1);
+        QCOMPARE(screen.conductor.status().fault.trouble, DeckTrouble::Missing);
+
+        broken.mend();
+        screen.advance(2000);
+        QCOMPARE(screen.picture(), QStringLiteral("H at 12000"));
+        QVERIFY(screen.conductor.status().isOnTimeline);
+        QCOMPARE(screen.conductor.status().fault.trouble, DeckTrouble::None);
+        screen.advance(1000);
+        const QStringList recovered = screen.log.take(Kind::Recovered);
+        QCOMPARE(recovered.size(), 1);
+        QVERIFY(recovered.first().startsWith(QStringLiteral("recovered H missing")));
+    }
+
+    void isBackWithinTwoSecondsOfRecovery_data()
+    {
+        QTest::addColumn<int>("after");
+        for (const int after : {1, 100, 333, 777, 1500, 2222, 5001, 9876, 60'000}) {
+            QTest::addRow("%d ms", after) << after;
+        }
+    }
+    void isBackWithinTwoSecondsOfRecovery()
+    {
+        QFETCH(int, after);
+        ScreenFixture screen("08:00:10", 200);
+        Broken broken(screen, "H", DeckTrouble::Unreadable);
+        screen.follow("08:00:00-09:00:00 H");
+        screen.advance(after);
+        QCOMPARE(screen.picture(), QStringLiteral("stand-by"));
+        broken.mend();
+        screen.advance(2000);
+        QVERIFY(screen.conductor.status().isOnTimeline);
+        QCOMPARE(screen.picture(), QStringLiteral("H at %1").arg(10'000 + after + 2000));
+    }
+
+    void keepsTheLastGoodPictureOfThePlay()
+    {
+        ScreenFixture screen("08:00:01");
+        Broken broken(screen, "H", DeckTrouble::None);
+        screen.follow("08:00:00-09:00:00 H");
+        screen.advanceTo("08:00:05");
+        screen.takeCalls();
+        broken.set(DeckTrouble::Unreadable);
+        screen.one.tellFailed(DeckTrouble::Unreadable);
+        screen.advance(10'000);
+        QCOMPARE(screen.picture(), QStringLiteral("H at 5000"));
+        QVERIFY(!screen.conductor.status().isOnTimeline);
+        QVERIFY(screen.takeCalls().filter(QStringLiteral("stage")).isEmpty());
+        broken.mend();
+        screen.advance(2000);
+        QCOMPARE(screen.picture(), QStringLiteral("H at 17000"));
+        QCOMPARE(screen.stage.deck(), &screen.two);
+        screen.advance(1000);
+        QVERIFY(screen.log.take().contains(QStringLiteral("fault H unreadable")));
+        QVERIFY(screen.conductor.longestOff() > 10'000);
+    }
+
+    void endsTheSoundOfWhatBroke()
+    {
+        ScreenFixture screen("08:00:01");
+        screen.follow("08:00:00-09:00:00 M");
+        screen.advanceTo("08:00:03");
+        QCOMPARE(screen.picture(), QStringLiteral("stand-by M"));
+        screen.one.setReadyAfter(std::nullopt);
+        screen.one.tellFailed(DeckTrouble::Unreadable);
+        QCOMPARE(screen.picture(), QStringLiteral("stand-by"));
+        QVERIFY(screen.one.loaded().media.isEmpty());
+    }
+
+    void takesAnEarlyEndForABreak()
+    {
+        ScreenFixture screen("08:00:01");
+        Broken broken(screen, "H", DeckTrouble::None);
+        screen.follow("08:00:00-09:00:00 H");
+        screen.advanceTo("08:00:05");
+        broken.set(DeckTrouble::Refused);
+        screen.one.tellEnded();
+        screen.advance(3000);
+        QCOMPARE(screen.picture(), QStringLiteral("H at 5000"));
+        QCOMPARE(screen.log.take(Kind::Fault), lines({"fault H broke off", "fault H refused"}));
+    }
+
+    void takesAnEndInTheLastHalfSecondForTheEnd()
+    {
+        for (const qint64 early : {500, 501}) {
+            ScreenFixture screen("08:00:01");
+            screen.follow("08:00:00-09:00:00 A");
+            screen.advanceTo("08:00:09");
+            screen.advance(1000 - early);
+            screen.one.tellEnded();
+            screen.advanceTo("08:00:10");
+            QCOMPARE(screen.conductor.tally().faults(DeckTrouble::BrokeOff), early - 500);
+        }
+    }
+
+    void noticesThatAPlayStandsStill()
+    {
+        ScreenFixture screen("08:00:01");
+        screen.follow("08:00:00-09:00:00 H");
+        screen.advanceTo("08:00:05");
+        screen.one.setStalled(true);
+        screen.advance(900);
+        QCOMPARE(screen.conductor.tally().faults(), 0);
+        screen.advance(600);
+        QCOMPARE(screen.conductor.tally().faults(DeckTrouble::Stalled), 1);
+        // The other deck has taken over.
+        screen.advance(1500);
+        QCOMPARE(screen.picture(), QStringLiteral("H at 8000"));
+        QCOMPARE(screen.stage.deck(), &screen.two);
+    }
+
+    void noticesThatAStreamStandsStill()
+    {
+        ScreenFixture screen("08:00:01");
+        screen.follow("08:00:00-09:00:00 L");
+        screen.advanceTo("08:00:05");
+        screen.one.setStalled(true);
+        screen.advance(4000);
+        QCOMPARE(screen.conductor.tally().faults(DeckTrouble::Stalled), 1);
+        QCOMPARE(screen.stage.deck(), &screen.two);
+        QVERIFY(screen.conductor.status().isOnTimeline);
+    }
+
+    void givesUpALoadThatNeverEnds_data()
+    {
+        QTest::addColumn<char>("program");
+        QTest::addColumn<qint64>("deadline");
+        QTest::newRow("stream") << 'L' << qint64(5000);
+        QTest::newRow("file") << 'H' << qint64(10'000);
+    }
+    void givesUpALoadThatNeverEnds()
+    {
+        QFETCH(char, program);
+        QFETCH(qint64, deadline);
+        ScreenFixture screen("08:00:01", std::nullopt);
+        screen.follow((std::string("08:00:00-09:00:00 ") + program).c_str());
+        screen.advance(deadline - 1);
+        QCOMPARE(screen.conductor.tally().faults(), 0);
+        screen.advance(1);
+        QCOMPARE(screen.conductor.tally().faults(DeckTrouble::Stalled), 1);
+        screen.one.setReadyAfter(10);
+        screen.two.setReadyAfter(10);
+        screen.advance(1000);
+        QVERIFY(screen.conductor.status().isOnTimeline);
+    }
+
+    void connectsAgainToAStreamThatEnds()
+    {
+        ScreenFixture screen("08:00:01", 300);
+        screen.follow("08:00:00-09:00:00 L");
+        screen.advanceTo("08:00:05");
+        screen.takeCalls();
+        screen.one.tellEnded();
+        screen.advance(2000);
+        QCOMPARE(screen.takeCalls(), lines({"08:00:05 one: pause", "08:00:05.250 two: load L at 0",
+                                            "08:00:05.550 stage: two", "08:00:05.550 two: play",
+                                            "08:00:05.550 one: clear"}));
+        QCOMPARE(screen.log.take(Kind::Recovered), lines({"recovered L broke off +550 tries 1"}));
+    }
+
+    /// Two decks: the next play has one, and the last picture of what broke the other.
+    void givesWayToWhatIsNext()
+    {
+        ScreenFixture screen("08:00:01");
+        Broken broken(screen, "A", DeckTrouble::None);
+        screen.follow("08:00:00-09:00:00 A B");
+        screen.advanceTo("08:00:05");
+        broken.set(DeckTrouble::Missing);
+        screen.one.tellFailed(DeckTrouble::Missing);
+        screen.advanceTo("08:00:07.999");
+        screen.takeCalls();
+        screen.advanceTo("08:00:10.500");
+        QCOMPARE(screen.takeCalls(), lines({"08:00:08 two: load B at 0", "08:00:10 stage: two",
+                                            "08:00:10 two: play", "08:00:10 one: clear"}));
+    }
+
+    void takesNoSignalOfAnEarlierFaultForAnother()
+    {
+        ScreenFixture screen("08:00:01");
+        Broken broken(screen, "A", DeckTrouble::Missing);
+        screen.follow("08:00:00-09:00:00 A B");
+        screen.advanceTo("08:00:10.500");
+        QCOMPARE(screen.picture(), QStringLiteral("B at 500"));
+        QCOMPARE(screen.conductor.status().fault.trouble, DeckTrouble::None);
+        // A is announced each time that it is to be on.
+        screen.advanceTo("08:00:30");
+        QCOMPARE(screen.log.take(Kind::Fault),
+                 lines({"fault A missing", "fault A missing", "fault A missing"}));
+    }
+
+    void countsAsOneFaultWhatBreaksAgainAtOnce()
+    {
+        ScreenFixture screen("08:00:01", 10);
+        screen.follow("08:00:00-09:00:00 H");
+        screen.advanceTo("08:00:05");
+        screen.log.take();
+        for (int i = 0; i < 10; ++i) {
+            (screen.stage.deck() == &screen.one ? screen.one : screen.two).tellEnded();
+            screen.advance(1300);
+        }
+        const QStringList told = screen.log.take();
+        QCOMPARE(told.count(QStringLiteral("fault H broke off")), 1);
+        QVERIFY(told.filter(QStringLiteral("recovered")).isEmpty());
+    }
+
+    void isInTimeWhereItWasMendedBefore()
+    {
+        ScreenFixture screen("08:00:01", 10);
+        Broken broken(screen, "B", DeckTrouble::Missing);
+        screen.follow("08:00:00-09:00:00 A B");
+        screen.advanceTo("08:00:08.100");
+        broken.mend();
+        screen.advanceTo("08:00:10");
+        QCOMPARE(screen.picture(), QStringLiteral("B at 0"));
+        QVERIFY(screen.log.take().contains(QStringLiteral("switch B +0")));
+    }
+};
+
+TREL_TEST(tst_ConductorFaults, QCoreApplication)
+#include "tst_ConductorFaults.moc"
