@@ -1,5 +1,6 @@
 #include "support/NumberedClip.h"
 
+#include <QBuffer>
 #include <QFile>
 
 #include <algorithm>
@@ -335,6 +336,24 @@ bool media::makeTone(const QString& path, int milliseconds, const QString& sound
            avformat_write_header(output.get(), nullptr) >= 0 &&
            writeSoundUntil(*output, sound, written, kSoundRate / 1000 * milliseconds) &&
            finish(*output, sound) && av_write_trailer(output.get()) == 0;
+}
+
+bool media::makeTurnedJpeg(const QString& path, const QImage& picture, int orientation)
+{
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    if (!buffer.open(QIODevice::WriteOnly) || !picture.save(&buffer, "JPEG", 95)) {
+        return false;
+    }
+    QByteArray mark("Exif\0\0MM\0\x2a\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0", 25);
+    mark += char(orientation);
+    mark += QByteArray(2 + 4, '\0');
+    QByteArray head("\xff\xe1\0", 3);
+    head += char(mark.size() + 2);
+    // Behind the sign that every such file begins with.
+    jpeg.insert(2, head + mark);
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(jpeg) == jpeg.size();
 }
 
 QImage media::clipPicture(const ClipMark& mark, const QSize& size)

@@ -33,6 +33,9 @@ bool makeClip(const QString& path, const ClipOrder& order);
 /// Only the tone, so long, by a coder of libavcodec.
 bool makeTone(const QString& path, int milliseconds, const QString& soundCoder);
 
+/// A JPEG with a camera's mark: 6 for a picture that is to be turned clockwise by 90 degrees.
+bool makeTurnedJpeg(const QString& path, const QImage& picture, int orientation);
+
 /// What a picture of a clip tells of itself.
 struct ClipMark
 {

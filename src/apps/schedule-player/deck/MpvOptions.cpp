@@ -110,7 +110,9 @@ std::vector<MpvOption> mpvOptions(const MpvWishes& wishes)
         options.push_back({"cache-pause-wait", "0.2"});
     } else {
         options.push_back({"access-references", "no"});
-        options.push_back({"demuxer-lavf-o", "format_whitelist=" + quoted(kFileFormats)});
+        // Where a file is cut short, its last picture is only half there.
+        options.push_back(
+            {"demuxer-lavf-o", "fflags=+discardcorrupt,format_whitelist=" + quoted(kFileFormats)});
         options.push_back({"cache", "no"});
     }
     return options;

@@ -35,6 +35,7 @@ constexpr std::chrono::milliseconds kLongestDrawing{500};
 
 enum Observed : std::uint64_t {
     Place = 1,
+    ReadUntil,
     IsAtEnd,
     DroppedOnScreen,
     DroppedDecoding,
@@ -191,6 +192,7 @@ void MpvWork::startLoading()
     mpv_render_context_set_update_callback(m_renderer.get(), &MpvWork::drawingIsDue, this);
     mpv_request_log_messages(handle, "error");
     mpv_observe_property(handle, Place, "time-pos", MPV_FORMAT_DOUBLE);
+    mpv_observe_property(handle, ReadUntil, "demuxer-cache-time", MPV_FORMAT_DOUBLE);
     mpv_observe_property(handle, IsAtEnd, "eof-reached", MPV_FORMAT_FLAG);
     mpv_observe_property(handle, DroppedOnScreen, "frame-drop-count", MPV_FORMAT_INT64);
     mpv_observe_property(handle, DroppedDecoding, "decoder-frame-drop-count", MPV_FORMAT_INT64);
@@ -267,7 +269,7 @@ void MpvWork::handle(const mpv_event& event)
         restarted();
         return;
     case MPV_EVENT_PROPERTY_CHANGE:
-        handleProperty(*static_cast<const mpv_event_property*>(event.data));
+        handleProperty(event.reply_userdata, *static_cast<const mpv_event_property*>(event.data));
         return;
     case MPV_EVENT_END_FILE:
         fileEnded(*static_cast<const mpv_event_end_file*>(event.data));
@@ -280,17 +282,29 @@ void MpvWork::handle(const mpv_event& event)
     }
 }
 
-void MpvWork::handleProperty(const mpv_event_property& property)
+void MpvWork::handleProperty(std::uint64_t observed, const mpv_event_property& property)
 {
-    if (property.format == MPV_FORMAT_DOUBLE) {
+    if (property.format == MPV_FORMAT_NONE) {
+        return;
+    }
+    switch (observed) {
+    case Place:
         reached(*static_cast<const double*>(property.data));
-    } else if (property.format == MPV_FORMAT_FLAG) {
+        return;
+    case ReadUntil: {
+        const std::lock_guard lock(m_mutex);
+        m_position.readUntil(*static_cast<const double*>(property.data) * 1000.0);
+        return;
+    }
+    case IsAtEnd:
         if (*static_cast<const int*>(property.data) != 0) {
             reachedEnd();
         }
-    } else if (property.format == MPV_FORMAT_INT64) {
+        return;
+    default:
         m_droppedFrames = number(m_handle.get(), "frame-drop-count") +
                           number(m_handle.get(), "decoder-frame-drop-count");
+        return;
     }
 }
 
@@ -326,7 +340,11 @@ void MpvWork::readTracks()
 void MpvWork::fileLoaded()
 {
     readTracks();
-    m_hasVideo = !m_isOver && number(m_handle.get(), "current-tracks/video/id") > 0;
+    m_hasVideo = number(m_handle.get(), "current-tracks/video/id") > 0;
+    if (!m_hasVideo && m_load.kind == ProgramKind::Video) {
+        // Noise is easily taken for sound, as it has so little to be known by.
+        fail(DeckTrouble::Unreadable, QStringLiteral("The film holds no picture"));
+    }
 }
 
 void MpvWork::restarted()
@@ -566,9 +584,6 @@ void MpvWork::setShape(const ScreenShape& shape)
 
 std::optional<qint64> MpvWork::position() const
 {
-    if (m_isStream) {
-        return {};
-    }
     const std::lock_guard lock(m_mutex);
     const std::optional<double> place = m_position.at(std::chrono::steady_clock::now());
     return place ? std::optional(qRound64(*place)) : std::nullopt;

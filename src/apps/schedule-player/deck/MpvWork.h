@@ -54,7 +54,7 @@ private:
     bool waitForWork();
     void handleEvents();
     void handle(const mpv_event& event);
-    void handleProperty(const mpv_event_property& property);
+    void handleProperty(std::uint64_t observed, const mpv_event_property& property);
     void handleLog(const mpv_event_log_message& message);
     void fileLoaded();
     void restarted();

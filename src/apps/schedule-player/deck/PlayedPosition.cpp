@@ -44,8 +44,9 @@ std::optional<double> PlayedPosition::at(Moment moment) const
     if (!m_position || !m_runs) {
         return m_position;
     }
-    const double since = std::clamp(millisecondsBetween(m_since, moment), 0.0, kLongestGuess);
-    return *m_position + since * m_speed;
+    const double since = std::max(millisecondsBetween(m_since, moment), 0.0);
+    const double farthest = std::max(*m_position + kLongestGuess, m_readUntil);
+    return std::min(*m_position + since * m_speed, farthest);
 }
 
 void PlayedPosition::keep(Moment moment)

@@ -19,8 +19,11 @@ public:
     void run(Moment moment);
     void stand(Moment moment);
     void setSpeed(double speed, Moment moment);
+    /// The program has been read up to this place, and so goes on to it.
+    void readUntil(double position) { m_readUntil = position; }
 
-    /// Goes on for a quarter of a second beyond what was reached last, and stands from then on.
+    /// Goes on while there is something to go on with: for a quarter of a second beyond what was
+    /// reached last, and as far as the program has been read. Stands from then on.
     std::optional<double> at(Moment moment) const;
 
 private:
@@ -29,6 +32,7 @@ private:
     std::optional<double> m_position;
     Moment m_since;
     double m_speed = 1.0;
+    double m_readUntil = 0.0;
     bool m_runs = false;
 };
 

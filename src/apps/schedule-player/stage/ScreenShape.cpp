@@ -20,6 +20,9 @@ QImage fittedOnBlack(const QImage& picture, const QSize& room)
     if (picture.size() == room && !picture.hasAlphaChannel()) {
         return picture;
     }
+    if (room.isEmpty()) {
+        return {};
+    }
     QImage fitted(room, QImage::Format_RGB32);
     fitted.fill(Qt::black);
     if (!picture.isNull()) {

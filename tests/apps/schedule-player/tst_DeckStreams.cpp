@@ -1,0 +1,228 @@
+#include "DeckFixture.h"
+#include "StreamServer.h"
+#include "support/TestProgram.h"
+
+#include <QFile>
+#include <QGuiApplication>
+
+using trel::mediadispatch::ProgramKind;
+using trel::player::PlayerDeck;
+using trel::screen::DeckLoad;
+using trel::screen::DeckTrouble;
+
+/// Streams: that they play, and what becomes of them when they do not.
+class tst_DeckStreams : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void playsAStream();
+    void tellsWhenAStreamStalls();
+    void tellsWhenAStreamEnds();
+    void tellsWhenNobodyAnswers_data();
+    void tellsWhenNobodyAnswers();
+    void isBackAfterABreak();
+    void keepsPasswordsToItself();
+    void followsAListOfTheNetworkOnly();
+    void refusesWhatIsNoStream_data();
+    void refusesWhatIsNoStream();
+    void leavesASilentOneAtOnce();
+
+private:
+    static DeckLoad live(const QString& address) { return {address, ProgramKind::Live, 0, false}; }
+
+    QTemporaryDir m_folder;
+    QByteArray m_stream;
+};
+
+void tst_DeckStreams::initTestCase()
+{
+    media::ClipOrder order;
+    order.program = 9;
+    order.frames = 50;
+    const QString path = m_folder.filePath(QStringLiteral("live.ts"));
+    QVERIFY(media::makeClip(path, order));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    m_stream = file.readAll();
+}
+
+void tst_DeckStreams::playsAStream()
+{
+    StreamServer server;
+    server.serve(QStringLiteral("/live"), m_stream);
+    DeckFixture screen;
+    screen.show(screen.first);
+    screen.first.load(live(server.address()));
+    QTRY_VERIFY(screen.first.isReady());
+    QVERIFY(screen.first.hasPicture());
+    QVERIFY(screen.shows(9, 0));
+    screen.first.play();
+    QTRY_VERIFY(screen.record.last().mark.frame > 20);
+    const auto position = screen.first.position();
+    QVERIFY(position);
+    QTRY_VERIFY(screen.first.position() > position);
+}
+
+void tst_DeckStreams::tellsWhenAStreamStalls()
+{
+    StreamServer server;
+    server.serve(QStringLiteral("/live"), m_stream);
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    screen.show(screen.first);
+    screen.first.load(live(server.address()));
+    QTRY_VERIFY(screen.first.isReady());
+    screen.first.play();
+    QTRY_COMPARE(failed.count(), 1);
+    QCOMPARE(faultIn(failed).trouble, DeckTrouble::Stalled);
+    // The last picture that came stays.
+    QVERIFY(screen.first.hasPicture());
+    QCOMPARE(screen.record.last().content, RecordedFrame::Content::Clip);
+    QVERIFY(screen.record.last().mark.frame > 40);
+    const auto position = screen.first.position();
+    QTest::qWait(200);
+    QCOMPARE(screen.first.position(), position);
+}
+
+void tst_DeckStreams::tellsWhenAStreamEnds()
+{
+    StreamServer server;
+    server.serve(QStringLiteral("/live"), m_stream);
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    QSignalSpy ended(&screen.first, &PlayerDeck::ended);
+    screen.show(screen.first);
+    screen.first.load(live(server.address()));
+    QTRY_VERIFY(screen.first.isReady());
+    screen.first.play();
+    server.hangUp();
+    QTRY_COMPARE(failed.count(), 1);
+    QCOMPARE(faultIn(failed).trouble, DeckTrouble::BrokeOff);
+    QCOMPARE(ended.count(), 0);
+    QVERIFY(screen.first.hasPicture());
+    QVERIFY(screen.record.last().mark.frame > 40);
+}
+
+void tst_DeckStreams::tellsWhenNobodyAnswers_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<bool>("isStopped");
+    QTest::newRow("nobody there") << QStringLiteral("/live") << true;
+    QTest::newRow("not found") << QStringLiteral("/other") << false;
+}
+
+void tst_DeckStreams::tellsWhenNobodyAnswers()
+{
+    QFETCH(const QString, path);
+    QFETCH(const bool, isStopped);
+    StreamServer server;
+    if (isStopped) {
+        server.stop();
+    }
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    screen.first.load(live(server.address(path)));
+    QTRY_COMPARE(failed.count(), 1);
+    QCOMPARE(faultIn(failed).trouble, DeckTrouble::Unreachable);
+    QVERIFY(!faultIn(failed).words.isEmpty());
+}
+
+void tst_DeckStreams::isBackAfterABreak()
+{
+    StreamServer server;
+    server.serve(QStringLiteral("/live"), m_stream);
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    screen.show(screen.first);
+    screen.first.load(live(server.address()));
+    QTRY_VERIFY(screen.first.isReady());
+    screen.first.play();
+    server.stop();
+    QTRY_COMPARE(failed.count(), 1);
+    screen.first.load(live(server.address()));
+    QTRY_COMPARE(failed.count(), 2);
+    server.goOn();
+    screen.first.load(live(server.address()));
+    QTRY_VERIFY(screen.first.isReady());
+    QVERIFY(screen.shows(9, 0));
+}
+
+void tst_DeckStreams::keepsPasswordsToItself()
+{
+    StreamServer server;
+    server.stop();
+    QString address = server.address();
+    address.replace(QLatin1String("//"), QLatin1String("//somebody:secret-word@"));
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    screen.first.load(live(address));
+    QTRY_COMPARE(failed.count(), 1);
+    QVERIFY(!faultIn(failed).words.contains(QLatin1String("secret-word")));
+}
+
+void tst_DeckStreams::followsAListOfTheNetworkOnly()
+{
+    // The first piece lies on the disk of this machine, and shows another program.
+    media::ClipOrder order;
+    order.program = 66;
+    order.frames = 50;
+    const QString own = m_folder.filePath(QStringLiteral("own.ts"));
+    QVERIFY(media::makeClip(own, order));
+    StreamServer server;
+    server.serveWhole(QStringLiteral("/live.m3u8"),
+                      "#EXTM3U\n#EXT-X-TARGETDURATION:2\n#EXTINF:2,\nfile://" +
+                          QFile::encodeName(own) + "\n#EXTINF:2,\npiece.ts\n#EXT-X-ENDLIST\n");
+    server.serveWhole(QStringLiteral("/piece.ts"), m_stream);
+    DeckFixture screen;
+    screen.show(screen.first);
+    screen.first.load(live(server.address(QStringLiteral("/live.m3u8"))));
+    QTRY_VERIFY(screen.first.isReady());
+    QVERIFY(server.paths().contains(QLatin1String("/piece.ts")));
+    screen.first.play();
+    QTRY_VERIFY(screen.record.last().mark.frame > 5);
+    for (const RecordedFrame& frame : screen.record.frames()) {
+        QVERIFY(frame.content == RecordedFrame::Content::Black || frame.mark.program == 9);
+    }
+}
+
+void tst_DeckStreams::refusesWhatIsNoStream_data()
+{
+    QTest::addColumn<QString>("address");
+    const QString own = m_folder.filePath(QStringLiteral("live.ts"));
+    for (const char* scheme : {"", "file://", "edl://", "concat:", "av://v4l2:", "pipe:", "fd://",
+                               "lavf://", "memory://", "ytdl://", "dvd://", "slice://0@"}) {
+        QTest::newRow(scheme) << QLatin1String(scheme) + own;
+    }
+}
+
+void tst_DeckStreams::refusesWhatIsNoStream()
+{
+    QFETCH(const QString, address);
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    screen.first.load(live(address));
+    QTRY_COMPARE(failed.count(), 1);
+    QCOMPARE(faultIn(failed).trouble, DeckTrouble::Refused);
+}
+
+void tst_DeckStreams::leavesASilentOneAtOnce()
+{
+    StreamServer server;
+    server.setSilent(true);
+    QElapsedTimer timer;
+    {
+        DeckFixture screen;
+        screen.first.load(live(server.address()));
+        QTRY_COMPARE(server.requests(), 1);
+        timer.start();
+        screen.first.clear();
+        QVERIFY(timer.elapsed() < 100);
+    }
+    QVERIFY(timer.elapsed() < 1000);
+}
+
+TREL_TEST(tst_DeckStreams, QGuiApplication)
+#include "tst_DeckStreams.moc"
