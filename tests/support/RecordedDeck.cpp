@@ -21,6 +21,7 @@ RecordedDeck::~RecordedDeck() = default;
 quint64 RecordedDeck::load(const DeckLoad& load)
 {
     m_loaded = load;
+    m_loadedAt = Clock::current().msecsSinceEpoch();
     m_isReady = false;
     m_isPlaying = false;
     m_isStalled = false;

@@ -38,6 +38,8 @@ public:
     QString name() const { return m_name; }
     /// The present load; of no media while it is clear.
     const trel::screen::DeckLoad& loaded() const { return m_loaded; }
+    /// When, by the clock in force.
+    qint64 loadedAt() const { return m_loadedAt; }
     bool isPlaying() const { return m_isPlaying; }
     double speed() const { return m_speed; }
 
@@ -71,6 +73,7 @@ private:
 
     trel::screen::DeckLoad m_loaded;
     quint64 m_load = 0;
+    qint64 m_loadedAt = 0;
     bool m_isReady = false;
     bool m_isPlaying = false;
     bool m_isStalled = false;

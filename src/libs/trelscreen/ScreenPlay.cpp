@@ -75,10 +75,13 @@ bool ScreenPlay::isSamePlay(const ScreenPlay& other) const
     if (isBlack() || (isTooShort() && other.isTooShort())) {
         return true;
     }
-    // Not by its beginning: that of a play which an insertion interrupted is another one once the
-    // insertion is forgotten.
+    // Not by when it began to be shown: that is another moment once an insertion that interrupted
+    // the play is forgotten.
+    const auto programBegan = [](const ScreenPlay& play) {
+        return (play.isPlaying() ? play.moment : 0) - play.state.position;
+    };
     return isOfSamePlay(other) && isTooShort() == other.isTooShort() &&
-           (!hasPosition() || std::abs(positionAt(moment) - other.positionAt(moment)) <= kRounding);
+           (!hasPosition() || std::abs(programBegan(*this) - programBegan(other)) <= kRounding);
 }
 
 ScreenPlay screenPlayAt(const ScreenSchedule& schedule, Instant moment)
