@@ -34,6 +34,7 @@ class tst_CatalogueRemoval : public QObject
 private slots:
     void manyAreOneChange();
     void oneProgramIsASetOfOne();
+    void aScheduleThatIsTakenOverIsMarked();
     void nothingToRemoveIsNoChange();
     void besideAnotherEditor();
     void plansAreCountedInTheStore();
@@ -84,6 +85,19 @@ void tst_CatalogueRemoval::oneProgramIsASetOfOne()
     QVERIFY(store.host.removeProgram(1));
     QCOMPARE(counts.take(), QStringLiteral("programs, ends, catalogue"));
     QCOMPARE(store.manager.getPrograms().size(), std::size_t(1));
+}
+
+void tst_CatalogueRemoval::aScheduleThatIsTakenOverIsMarked()
+{
+    StoreFixture store;
+    QVERIFY(store.host.addPrograms(samplePrograms(1)).store);
+    TaskMap tasks = sampleSchedule(1, 1, 2);
+    tasks[1].plans[0].programs[0].progIndex = 1;
+    tasks[1].plans[0].programs[1].progIndex = 2;
+    QVERIFY(store.host.replaceSchedule(tasks));
+    const PlayTask task = store.manager.getgTaskMap().at(1);
+    QVERIFY(!task.plans[0].programs[0].isInvalid);
+    QVERIFY(task.plans[0].programs[1].isInvalid);
 }
 
 void tst_CatalogueRemoval::nothingToRemoveIsNoChange()

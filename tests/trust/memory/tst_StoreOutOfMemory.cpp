@@ -42,6 +42,7 @@ private slots:
     // Once only: the toolkit takes memory to close what could not be opened in full.
     void making();
     void opening();
+    void reopening();
     void reading_data() { addLastings(); }
     void reading();
     void saving_data() { addLastings(); }
@@ -123,6 +124,27 @@ void tst_StoreOutOfMemory::opening()
             QVERIFY2(result || isWellRefused(result), qPrintable(englishText(result)));
             QCOMPARE(store.isOpen(), bool(result));
             QVERIFY(result || store.open(path, StoreOpenMode::MustExist));
+            StoreContents found;
+            QVERIFY(store.read(StorePart::Both, found));
+            QVERIFY(found.tasks == tasks);
+        },
+        kKind);
+}
+
+void tst_StoreOutOfMemory::reopening()
+{
+    const QuickFolder folder;
+    const QString path = pathIn(folder);
+    const TaskMap tasks = sampleSchedule(2, 1, 0);
+    ScheduleDatabase store;
+    make(store, folder, tasks);
+    StoreResult result;
+    failEverywhere(
+        FailingMemory::Lasting::Once, [&] { result = store.reopen(); },
+        [&](bool hasFailed) {
+            QVERIFY(hasFailed || result);
+            QVERIFY2(result || isWellRefused(result), qPrintable(englishText(result)));
+            QVERIFY(result || store.reopen());
             StoreContents found;
             QVERIFY(store.read(StorePart::Both, found));
             QVERIFY(found.tasks == tasks);

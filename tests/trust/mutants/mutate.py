@@ -50,6 +50,7 @@ RULES = [
 PROGRAMS = [
     "tst_rules", "tst_dispatch", "tst_service", "tst_FileReplacement", "tst_ctl_parts", "tst_ctl",
     "tst_CtlHostLanguage", "tst_Translator", "trust_inputs", "trust_answers",
+    "tst_OutOfMemory", "tst_StoreOutOfMemory",
 ]
 
 

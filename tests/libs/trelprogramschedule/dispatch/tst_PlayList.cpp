@@ -98,6 +98,7 @@ private slots:
     void lengthsThatAreNone();
     void lengthsBeyondAnyTime();
     void whatStandsBehindAnEndlessEntry();
+    void whatIsShownOnceInHundredsOfRuns();
     void positionsStopWithTheProgram();
     void partsOfAMillisecondCountAsOne();
 };
@@ -215,6 +216,17 @@ void tst_PlayList::whatStandsBehindAnEndlessEntry()
     QVERIFY(!list.firstShown({3, false}, 0, kEndless));
     QCOMPARE(list.firstShown({2, false}, 0, kEndless), std::optional<Microseconds>(kMillisecond));
     QVERIFY(!list.firstShown({2, false}, 0, kMillisecond));
+}
+
+// A run of 999 microseconds meets the same part of a millisecond after a thousand of them, and a
+// play of one microsecond a whole millisecond in one of these.
+void tst_PlayList::whatIsShownOnceInHundredsOfRuns()
+{
+    const Catalogue catalogue = catalogueOf({0.3, 0.001, 0.698});
+    const PlayList list({entry(1), entry(2), entry(3)}, catalogue, PlayList::kRepeated);
+    QCOMPARE(list.firstShown({2, false}, 0, kEndless),
+             std::optional<Microseconds>(300 * kMillisecond));
+    QCOMPARE(list.at(300 * kMillisecond).run, qint64(300));
 }
 
 void tst_PlayList::positionsStopWithTheProgram()

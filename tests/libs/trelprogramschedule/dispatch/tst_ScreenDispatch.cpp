@@ -37,6 +37,7 @@ private slots:
     void whatNoPlanUsesIsOfNoAccount();
     void aLengthThatChanges();
     void whatPlaysLaterIsToldToo();
+    void anotherProgramThatWaitsIsTold();
     void theTimelineIsBuiltForNewFactsOnly();
     void aProgramChangedUnnoticedIsKnownToAnInsertion();
     void insertionsOutliveANewTimeline();
@@ -278,6 +279,19 @@ void tst_ScreenDispatch::whatPlaysLaterIsToldToo()
     fixture.takeTold();
     fixture.insert(fixture.inserted("07:00:00-07:30:00 A"));
     QCOMPARE(fixture.takeTold(), QStringList());
+}
+
+void tst_ScreenDispatch::anotherProgramThatWaitsIsTold()
+{
+    DispatchFixture fixture("08:00:03");
+    fixture.saveAndStart(kTwoPlans);
+    const QStringList same = lines({"08:00:03 plays A to 08:00:10"});
+    fixture.insertDelayed(fixture.inserted("08:00:00-08:00:30 B"));
+    fixture.takeTold();
+    fixture.insertDelayed(fixture.inserted("08:00:00-08:00:30 B"));
+    QCOMPARE(fixture.takeTold(), QStringList());
+    fixture.insertDelayed(fixture.inserted("08:00:00-08:00:30 D"));
+    QCOMPARE(fixture.takeTold(), same);
 }
 
 void tst_ScreenDispatch::theTimelineIsBuiltForNewFactsOnly()

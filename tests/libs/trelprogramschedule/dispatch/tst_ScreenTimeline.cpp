@@ -20,6 +20,7 @@ private slots:
     void showsWhatIsCutIn_data();
     void showsWhatIsCutIn();
     void keepsTheOneOnScreenAndTheOneThatWaits();
+    void aDateThatIsNoneIsNever();
     void doesNotWalkOverGaps();
 };
 
@@ -427,6 +428,15 @@ void tst_ScreenTimeline::keepsTheOneOnScreenAndTheOneThatWaits()
     QCOMPARE(insertions.size(), std::size_t{2});
     QCOMPARE(insertions.front().ends, insertions.back().begins);
     QCOMPARE(insertions.back().begins, insertions.back().ends);
+}
+
+void tst_ScreenTimeline::aDateThatIsNoneIsNever()
+{
+    const ScreenTimeline timeline({}, lettersCatalogue(), berlin());
+    QCOMPARE(timeline.instant(QDate(), QTime(8, 0)), kNever);
+    QCOMPARE(timeline.instant(QDate(2024, 3, 4), QTime()), kNever);
+    QCOMPARE(timeline.instant(QDate(2024, 3, 4), QTime(8, 0)),
+             momentFromText(QStringLiteral("2024.03.04 08:00:00"), berlin()));
 }
 
 // Thousands of years, twice as many changes of the clock and ten thousand tasks without a plan lie

@@ -101,6 +101,9 @@ void tst_FileReplacement::replacesAFile()
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{QStringLiteral("a %1.json")});
     QCOMPARE(englishClause(replaceFile(folder.filePath(QStringLiteral("no/such")), "new")),
              qt_error_string(ENOENT));
+    // What cannot be looked at is told as such.
+    QCOMPARE(englishClause(replaceFile(path + QStringLiteral("/inside"), "new")),
+             qt_error_string(ENOTDIR));
 }
 
 void tst_FileReplacement::aNewFileIsPrivate()
