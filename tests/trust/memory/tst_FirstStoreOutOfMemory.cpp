@@ -25,7 +25,7 @@ public:
 };
 
 /// How a process that opens the first store of its life with failing memory ends.
-enum Outcome { HadEnough = 0, IsWell, IsBadlyRefused, IsOddlyOpen };
+enum Outcome { HadEnough = 0, IsWell, IsBadlyRefused };
 
 bool isRefusedForMemory(const StoreResult& result)
 {
@@ -44,9 +44,9 @@ Outcome openAtFirst(const QString& path, long nth, FailingMemory::Lasting lastin
     if (!first && !isRefusedForMemory(first)) {
         return IsBadlyRefused;
     }
-    // What the toolkit could not make once it may never make again. That is refused as well.
+    // What the toolkit could not make once it may never make again.
     const StoreResult second = store.open(path, StoreOpenMode::MustExist);
-    return store.isOpen() == bool(second) ? IsWell : IsOddlyOpen;
+    return second || isRefusedForMemory(second) ? IsWell : IsBadlyRefused;
 }
 
 /// Runs in a process of its own, whose toolkit has seen no store before. Returns how it ended, as

@@ -209,18 +209,18 @@ const StoreSchema::Elements& StoreSchema::elementsOfVersion(int version)
 {
     // The database writes definitions in its own way, so that a fresh one is asked.
     static std::map<int, Elements> known;
-    const auto [place, isNew] = known.try_emplace(version);
-    if (isNew) {
-        const StoreConnection fresh(QString(), StoreConnection::Access::Memory);
-        for (const Step& step : steps()) {
-            for (const QString& statement :
-                 step.version <= version ? step.statements : QStringList()) {
-                fresh.run(statement);
-            }
-        }
-        place->second = elementsOf(fresh);
+    if (const auto place = known.find(version); place != known.end()) {
+        return place->second;
     }
-    return place->second;
+    const StoreConnection fresh(QString(), StoreConnection::Access::Memory);
+    for (const Step& step : steps()) {
+        for (const QString& statement : step.version <= version ? step.statements : QStringList()) {
+            fresh.run(statement);
+        }
+    }
+    // Kept when it is whole: with what a lack of memory has cut short, every store would be
+    // refused.
+    return known.emplace(version, elementsOf(fresh)).first->second;
 }
 
 void StoreSchema::checkElements(const StoreConnection& connection, const QString& path)

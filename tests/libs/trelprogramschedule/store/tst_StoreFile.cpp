@@ -1,3 +1,5 @@
+#include "libs/trelprogramschedule/StoreChild.h"
+#include "libs/trelprogramschedule/StoreFixture.h"
 #include "store/StoreFile.h"
 #include "support/TestProgram.h"
 
@@ -34,6 +36,7 @@ class tst_StoreFile : public QObject
 
 private slots:
     void stampsTellStatesOfAFileApart();
+    void seesOthersAtTheLog();
 };
 
 void tst_StoreFile::stampsTellStatesOfAFileApart()
@@ -69,6 +72,20 @@ void tst_StoreFile::stampsTellStatesOfAFileApart()
     write(path, "one");
     setChanged(path, 1000, 7);
     QVERIFY(!isSame());
+}
+
+void tst_StoreFile::seesOthersAtTheLog()
+{
+    const StoreFixture store;
+    const StoreFile file(store.path);
+    // What this program itself has open does not count.
+    QVERIFY(!file.isLogInUse());
+    {
+        const StoreChild other({QStringLiteral("hold"), store.path});
+        QVERIFY(other.isReady());
+        QVERIFY(file.isLogInUse());
+    }
+    QVERIFY(!file.isLogInUse());
 }
 
 TREL_TEST(tst_StoreFile, QCoreApplication)
