@@ -140,6 +140,9 @@ Monkey::Monkey(Desk& desk, TestClock& clock, const TrialOptions& options, const 
 
 void Monkey::start()
 {
+    // With what the end of a program hangs on, for one that does not end.
+    connect(qApp, &QGuiApplication::lastWindowClosed, this,
+            [] { FlightRecorder::note(QStringLiteral("the last window has closed")); });
     QTimer::singleShot(0, this, &Monkey::takeTurn);
 }
 
@@ -622,6 +625,17 @@ void Monkey::tellWhatKeepsIt()
                 QStringLiteral("still there: %1 '%2'%3")
                     .arg(QLatin1String(window->metaObject()->className()), window->objectName(),
                          window->parentWidget() ? QStringLiteral(" of another") : QString()));
+        }
+    }
+    // One of the system's without a widget keeps it as well.
+    const QWindowList places = QGuiApplication::topLevelWindows();
+    for (const QWindow* place : places) {
+        if (place->isVisible()) {
+            FlightRecorder::note(
+                QStringLiteral("still open: %1 '%2', type %3%4")
+                    .arg(QLatin1String(place->metaObject()->className()), place->objectName())
+                    .arg(place->type())
+                    .arg(place->transientParent() ? QStringLiteral(" of another") : QString()));
         }
     }
 }

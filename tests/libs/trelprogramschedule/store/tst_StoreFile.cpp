@@ -53,6 +53,10 @@ void tst_StoreFile::stampsTellStatesOfAFileApart()
     QVERIFY(!isSame());
     setChanged(path, 1000, 8);
     QVERIFY(!isSame());
+    setChanged(path, 1000, 999'999'999);
+    const StoreFile::Stamp late = file.stamp();
+    setChanged(path, 1001, 0);
+    QVERIFY(!(file.stamp() == late));
     setChanged(path, 1000, 7);
     QVERIFY(isSame());
     write(path, "three");

@@ -110,7 +110,7 @@ private:
     QByteArray m_bytes;
 };
 
-bool follows(const QByteArray& log, qint64 schedule, qint64 catalogue)
+bool follows(const QByteArray& log, qint64 schedule, qint64 catalogue, qint64 effect = 0)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("log"));
@@ -118,6 +118,7 @@ bool follows(const QByteArray& log, qint64 schedule, qint64 catalogue)
     StoreRevision revision;
     revision.schedule = schedule;
     revision.catalogue = catalogue;
+    revision.effect = effect;
     return file.open(QIODevice::WriteOnly) && file.write(log) == log.size() && file.flush() &&
            StoreLog(path).follows(revision, kPage);
 }
@@ -156,6 +157,7 @@ class tst_StoreLog : public QObject
 private slots:
     void followsOneStepAtATime();
     void followsAnyOfItsCommits();
+    void countsWhatIsInEffect();
     void numbersOfEverySize_data();
     void numbersOfEverySize();
     void longNumbersBeforeTheRow();
@@ -199,6 +201,25 @@ void tst_StoreLog::followsAnyOfItsCommits()
     QVERIFY(!follows(log, 5, 4));
     QVERIFY(!follows(log, 7, 4));
     QVERIFY(!follows(log, 6, 5));
+}
+
+void tst_StoreLog::countsWhatIsInEffect()
+{
+    // Schedule 5, catalogue 3, and 7 of what is in effect.
+    const QByteArray row = QByteArray::fromHex("1401") + QByteArray::fromHex("0600010100") +
+                           QByteArray::fromHex("01") + QByteArray::fromHex("050307");
+    const Log log = Log().commit(page(row));
+    QVERIFY(follows(log.bytes(), 5, 3, 7));
+    QVERIFY(follows(log.bytes(), 5, 3, 6));
+    QVERIFY(follows(log.bytes(), 4, 3, 7));
+    QVERIFY(!follows(log.bytes(), 5, 3, 5));
+    QVERIFY(!follows(log.bytes(), 5, 3, 8));
+    QVERIFY(!follows(log.bytes(), 4, 3, 6));
+    // One of them goes back, and the sum is that of a step.
+    QVERIFY(!follows(log.bytes(), 3, 3, 8));
+    QVERIFY(!follows(log.bytes(), 5, 1, 8));
+    QVERIFY(!follows(log.bytes(), 6, 3, 5));
+    QVERIFY(!follows(log.bytes(), 5, 4, 5));
 }
 
 void tst_StoreLog::numbersOfEverySize_data()
@@ -247,6 +268,10 @@ void tst_StoreLog::longNumbersBeforeTheRow()
     const QByteArray text =
         QByteArray::fromHex("7f01") + QByteArray::fromHex("0500815c01") + QByteArray(1, '\x03');
     QVERIFY(begins(Log().commit(page(text)), 0, 3));
+    // A head of the row of 132 bytes, with columns of later versions.
+    const QByteArray wide = QByteArray::fromHex("7f01") + QByteArray::fromHex("8104000101") +
+                            QByteArray(127, '\0') + QByteArray::fromHex("0503");
+    QVERIFY(begins(Log().commit(page(wide)), 5, 3));
 }
 
 void tst_StoreLog::pagesOfEverySize_data()
