@@ -1,3 +1,4 @@
+#include "ScheduleLimits.h"
 #include "StoreFixture.h"
 #include "faults/FaultWords.h"
 #include "store/StoreConnection.h"
@@ -73,6 +74,7 @@ private slots:
     void contentsThatDoNotFitAreRefusedAsTheyAre();
     void kindsThatAreNoneCountAsOther();
     void aCatalogueThatHoldsTooMuchIsRefused();
+    void asManyNumbersAsMayBeAreRead();
     void readingHasADeadline();
     void aLogOfAnotherCopyIsNotWorkedIn_data();
     void aLogOfAnotherCopyIsNotWorkedIn();
@@ -159,6 +161,9 @@ void tst_StoreDefence::connectionsAreGuarded()
     QVERIFY(!refusalOf(connection, QStringLiteral("ATTACH ':memory:' AS other")).isEmpty());
     QVERIFY(!refusalOf(connection, QStringLiteral("SELECT load_extension('x')")).isEmpty());
     QCOMPARE(connection.value(QStringLiteral("PRAGMA trusted_schema")).toInt(), 0);
+    const QString endless =
+        QStringLiteral("SELECT 1") + QString(kLargestStoredValue, QLatin1Char(' '));
+    QVERIFY(!refusalOf(connection, endless).isEmpty());
     connection.run(QStringLiteral("CREATE TEMP VIEW v AS SELECT 1"));
     runAsAnother(store.path, "CREATE VIEW v AS SELECT 1");
     QVERIFY(!refusalOf(connection, QStringLiteral("SELECT * FROM main.v")).isEmpty());
@@ -247,6 +252,27 @@ void tst_StoreDefence::aCatalogueThatHoldsTooMuchIsRefused()
     QCOMPARE(int(result.problem), int(StoreProblem::TooLarge));
     QCOMPARE(int(result.cause.code), int(FaultCode::TooManyPrograms));
     QCOMPARE(result.cause.number(0), most);
+}
+
+void tst_StoreDefence::asManyNumbersAsMayBeAreRead()
+{
+    StoreFixture store;
+    store.save(sampleSchedule(1, 1, 0));
+    store.host.close();
+    const QByteArray most = QByteArray::number(qulonglong(kMostServiceValues));
+    runAsAnother(store.path,
+                 "DELETE FROM plan_value; WITH RECURSIVE number(i) AS (SELECT 0 UNION ALL"
+                 " SELECT i + 1 FROM number WHERE i < " +
+                     most +
+                     " - 1) INSERT INTO plan_value (task_id, plan_position, position, value)"
+                     " SELECT 1, 0, i, i FROM number");
+    QVERIFY(store.host.open(store.path));
+    QCOMPARE(store.manager.getTask(1).plans[0].serviceList.size(), kMostServiceValues);
+    store.host.close();
+    runAsAnother(store.path, "INSERT INTO plan_value (task_id, plan_position, position, value)"
+                             " VALUES (1, 0, " +
+                                 most + ", 0)");
+    QCOMPARE(int(store.host.open(store.path).problem), int(StoreProblem::TooLarge));
 }
 
 void tst_StoreDefence::readingHasADeadline()

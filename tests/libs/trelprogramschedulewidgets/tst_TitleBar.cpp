@@ -193,6 +193,8 @@ void tst_TitleBar::showsATitleOnceItIsSet()
     m_bar->setTitleContent(QStringLiteral("Week 12"));
     QVERIFY(title->isVisible());
     QCOMPARE(title->text(), QStringLiteral("Week 12"));
+    // The host's title names a file, which is no markup.
+    QCOMPARE(title->textFormat(), Qt::PlainText);
     m_bar->setTitleContent(QString());
     QVERIFY(title->isVisible());
     QCOMPARE(title->text(), QString());

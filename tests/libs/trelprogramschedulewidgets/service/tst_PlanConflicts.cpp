@@ -55,7 +55,7 @@ std::string randomTime(std::mt19937& random)
     if (random() % 12 == 0) {
         return pickText(random, {"", "x", "8:00:00", "24:00:00", "08:00:00.5", "08:00:0",
                                  "08:00:00 and later", "08:00:00 and sooner",
-                                 std::string("08:00\0", 6), "\xff\xfe"});
+                                 std::string("08:00\0", 6), "\xff\xfe", "0\xff"});
     }
     return QTime(6, 0)
         .addSecs(static_cast<int>(random() % 12) * 1800)
