@@ -16,6 +16,8 @@ namespace {
 
 /// How long before its time a play is loaded.
 constexpr qint64 kAhead = 2000;
+/// The least of that which it is left where the present play, which broke, is just coming back.
+constexpr qint64 kAheadAtLeast = 1000;
 /// What a deck is given to be ready in the middle of a program, so that it begins to the frame.
 constexpr qint64 kLead = 250;
 /// How long a picture may stay whose time ended without notice.
@@ -282,7 +284,8 @@ DeckSlot* Conductor::slotForNext()
         }
     }
     // A play whose last picture stands gives way to the one after it.
-    if (m_onStage && m_current.slot != m_onStage && !m_graceUntil) {
+    const bool isComingBack = m_onStage && m_current.slot != m_onStage && !m_graceUntil;
+    if (isComingBack && m_over - m_now <= kAheadAtLeast) {
         return std::exchange(m_current.slot, nullptr);
     }
     return nullptr;
@@ -571,6 +574,9 @@ void Conductor::sleep()
         }
     }
     if (m_next) {
+        if (!m_next->slot) {
+            at(m_over - kAheadAtLeast);
+        }
         atSteady(m_next->retryAt);
         if (m_next->slot && m_next->slot->isLoading()) {
             atSteady(m_next->slot->deadline());

@@ -38,8 +38,8 @@ QString ScreenWatch::step(qint64 milliseconds)
 void ScreenWatch::expectChange()
 {
     m_troubledUntil = std::max(m_troubledUntil, m_steady + kTrouble);
-    // Changes that follow each other do not make it longer.
-    if (m_steady > m_graceUntil) {
+    // Changes that follow each other leave nothing on screen that was out before the first.
+    if (m_steady > m_graceUntil || isExact(expected())) {
         m_former = m_screen.stage.picture();
     }
     m_graceUntil = m_steady + kGrace;

@@ -258,6 +258,25 @@ private slots:
                                             "08:00:10 two: play", "08:00:10 one: clear"}));
     }
 
+    void givesWayLaterWhereItIsJustComingBack()
+    {
+        for (const qint64 left : {1700, 1200, 900}) {
+            ScreenFixture screen("08:00:01");
+            screen.follow("08:00:00-09:00:00 A B");
+            screen.advanceTo("08:00:05");
+            screen.two.setSeekTakes(100);
+            screen.two.setReadyAfter(4750 - left);
+            screen.one.tellFailed(DeckTrouble::Missing);
+            screen.advanceTo("08:00:08.500");
+            QCOMPARE(screen.picture(),
+                     left == 1700 ? QStringLiteral("A at 8500") : QStringLiteral("A at 5000"));
+            screen.one.setReadyAfter(900);
+            screen.two.setReadyAfter(900);
+            screen.advanceTo("08:00:10");
+            QCOMPARE(screen.picture(), QStringLiteral("B at 0"));
+        }
+    }
+
     void takesNoSignalOfAnEarlierFaultForAnother()
     {
         ScreenFixture screen("08:00:01");

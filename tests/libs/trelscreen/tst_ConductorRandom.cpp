@@ -60,7 +60,7 @@ QString plansText(Draw& draw, const char* letters)
     return plans.join(QStringLiteral(" / "));
 }
 
-constexpr std::uint32_t kSeeds = 30;
+constexpr std::uint32_t kSeeds = 24;
 constexpr char kMost[] = "AAABBBCKKHIML";
 
 /// A screen to which things happen.
