@@ -1,0 +1,117 @@
+#include "PlayerOptions.h"
+
+#include "common/DisplayText.h"
+#include "trelprogramschedule/screens/PlayerStatusFolder.h"
+
+#include <QCommandLineParser>
+#include <QSysInfo>
+
+using trel::mediadispatch::PlayerStatusFolder;
+
+namespace trel::player {
+
+namespace {
+
+PlayerOptionsResult ended(PlayerOptionsResult::Next next, const QString& text)
+{
+    PlayerOptionsResult result;
+    result.next = next;
+    result.text = text;
+    return result;
+}
+
+PlayerOptionsResult misuse(const QString& sentence)
+{
+    return ended(PlayerOptionsResult::Next::Misuse, sentence + QStringLiteral("\nTry --help."));
+}
+
+/// One machine has one screen, where nothing else is said.
+QString machineName()
+{
+    const QString name = QSysInfo::machineHostName();
+    return PlayerStatusFolder::takesName(name) ? name : QStringLiteral("screen");
+}
+
+} // namespace
+
+PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Shows on a screen what the schedule in effect says.\n\n"
+        "It plays until it is told to end, by SIGTERM or, in a window, by closing it. "
+        "What happens on the screen is written to the standard error."));
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption database(
+        {QStringLiteral("d"), QStringLiteral("database")},
+        QStringLiteral(
+            "Follow the schedule in FILE instead of your own. It need not be there yet."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption screen(
+        QStringLiteral("screen"),
+        QStringLiteral("Play under this name, which \"schedulectl screens\" lists; the machine's "
+                       "when it is left out."),
+        QStringLiteral("NAME"));
+    const QCommandLineOption window(QStringLiteral("window"), QStringLiteral("Play in a window."));
+    const QCommandLineOption fullScreen(
+        QStringLiteral("full-screen"),
+        QStringLiteral("Fill the screen, which is so when nothing is said."));
+    const QCommandLineOption monitor(
+        QStringLiteral("on"),
+        QStringLiteral("Play on this monitor, by the system's name such as HDMI-1, or by its "
+                       "number, counted from 1."),
+        QStringLiteral("SCREEN"));
+    const QCommandLineOption mute(QStringLiteral("mute"), QStringLiteral("Play without sound."));
+    const QCommandLineOption standBy(
+        QStringLiteral("standby"),
+        QStringLiteral("Show this image when there is no picture to show, instead of black."),
+        QStringLiteral("IMAGE"));
+    const QCommandLineOption rotate(
+        QStringLiteral("rotate"),
+        QStringLiteral("Turn the picture clockwise, by 0, 90, 180 or 270 degrees."),
+        QStringLiteral("DEGREES"), QStringLiteral("0"));
+    parser.addOptions({database, screen, window, fullScreen, monitor, mute, standBy, rotate});
+
+    if (!parser.parse(arguments)) {
+        return misuse(hosts::printable(parser.errorText()));
+    }
+    if (parser.isSet(help)) {
+        return ended(PlayerOptionsResult::Next::Done, parser.helpText().trimmed());
+    }
+    if (parser.isSet(version)) {
+        return ended(PlayerOptionsResult::Next::Done,
+                     QStringLiteral("schedule-player " TREL_VERSION));
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        return misuse(QStringLiteral("What is %1? The player takes options alone.")
+                          .arg(hosts::inQuotes(hosts::printable(parser.positionalArguments()[0]))));
+    }
+    if (parser.isSet(window) && parser.isSet(fullScreen)) {
+        return misuse(QStringLiteral("It is either --window or --full-screen."));
+    }
+    bool isNumber = false;
+    const int turned = parser.value(rotate).toInt(&isNumber);
+    if (!isNumber || turned < 0 || turned > 270 || turned % 90 != 0) {
+        return misuse(QStringLiteral("--rotate takes 0, 90, 180 or 270, not %1.")
+                          .arg(hosts::inQuotes(hosts::printable(parser.value(rotate)))));
+    }
+    const QString name = parser.isSet(screen) ? parser.value(screen) : machineName();
+    if (!PlayerStatusFolder::takesName(name)) {
+        return misuse(QStringLiteral("%1 cannot be the name of a screen: it is empty, too long, or "
+                                     "has characters that are not shown.")
+                          .arg(hosts::inQuotes(hosts::printable(name))));
+    }
+
+    PlayerOptionsResult result;
+    result.options.database = parser.value(database);
+    result.options.screen = name;
+    result.options.inWindow = parser.isSet(window);
+    result.options.monitor = parser.value(monitor);
+    result.options.isMute = parser.isSet(mute);
+    result.options.standBy = parser.value(standBy);
+    result.options.turned = turned;
+    return result;
+}
+
+} // namespace trel::player

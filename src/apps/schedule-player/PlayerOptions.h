@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace trel::player {
+
+/// What the command line asks of the player.
+struct PlayerOptions
+{
+    QString database;      ///< Empty for the user's own.
+    QString screen;        ///< The name under which it plays; never empty.
+    bool inWindow = false; ///< In a window that can be moved, instead of the whole screen.
+    QString monitor;       ///< The system's name of the screen to play on; empty for the first one.
+    bool isMute = false;
+    QString standBy; ///< The image for when there is no picture; empty for black.
+    int turned = 0;  ///< Degrees clockwise: 0, 90, 180 or 270.
+};
+
+/// How reading a command line ended.
+struct PlayerOptionsResult
+{
+    enum class Next {
+        Start, ///< Go on with the options.
+        Done,  ///< Print text and end with 0.
+        Misuse ///< Print text and end with 2.
+    };
+
+    Next next = Next::Start;
+    PlayerOptions options;
+    QString text;
+};
+
+/// Reads a command line, the program's name included. Needs a QCoreApplication.
+PlayerOptionsResult readPlayerOptions(const QStringList& arguments);
+
+} // namespace trel::player
