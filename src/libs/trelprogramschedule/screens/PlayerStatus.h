@@ -2,6 +2,7 @@
 
 #include "trelprogramschedule/dispatch/ScreenState.h"
 
+#include <QMetaType>
 #include <QString>
 
 namespace trel::mediadispatch {
@@ -30,3 +31,5 @@ struct PlayerStatus
 };
 
 } // namespace trel::mediadispatch
+
+Q_DECLARE_METATYPE(trel::mediadispatch::PlayerStatus)

@@ -1,0 +1,162 @@
+#include "Player.h"
+
+#include "PlayerStatusWriter.h"
+#include "clock/Clock.h"
+#include "common/DisplayText.h"
+#include "log/LogWriter.h"
+#include "trelprogramschedule/faults/FaultWords.h"
+#include "trelscreen/ScheduleFeed.h"
+
+#include <QCoreApplication>
+#include <QSysInfo>
+
+#include <chrono>
+#include <cstdlib>
+
+using namespace std::chrono_literals;
+using namespace trel::mediadispatch;
+using namespace trel::screen;
+
+namespace trel::player {
+
+namespace {
+
+/// How often a player is heard of at least, and at most.
+constexpr auto kRound = 10s;
+constexpr auto kChange = 1s;
+/// How long the thread may take to end. The whole program has a second.
+constexpr auto kFarewell = 500ms;
+
+QString thisPlayer()
+{
+    return QStringLiteral("%1 %2@%3")
+        .arg(QCoreApplication::applicationName(),
+             QString::number(QCoreApplication::applicationPid()), QSysInfo::machineHostName());
+}
+
+/// For the manager of services: "plays “News”".
+QString shortText(const PlayerStatus& status)
+{
+    const QString name = hosts::inQuotes(hosts::printable(status.program));
+    if (status.isStandIn) {
+        return QStringLiteral("cannot show %1").arg(name);
+    }
+    switch (status.shown.picture) {
+    case ScreenPicture::Black:
+        break;
+    case ScreenPicture::Playing:
+        return QStringLiteral("plays %1").arg(name);
+    case ScreenPicture::Frozen:
+        return QStringLiteral("last frame of %1").arg(name);
+    }
+    return QStringLiteral("black screen");
+}
+
+} // namespace
+
+Player::Player(const QString& store, const QString& screen, Stage& stage, Deck& first, Deck& second)
+    : m_store(store)
+    , m_screen(screen)
+    , m_started(Clock::current().msecsSinceEpoch())
+    , m_conductor(stage, first, second, m_log)
+    , m_feed(std::make_unique<ScheduleFeed>(store))
+    , m_logWriter(std::make_unique<LogWriter>())
+    , m_statusWriter(std::make_unique<PlayerStatusWriter>(store))
+{
+    qRegisterMetaType<PlayerStatus>();
+    m_feed->moveToThread(&m_thread);
+    m_logWriter->moveToThread(&m_thread);
+    m_statusWriter->moveToThread(&m_thread);
+    connect(&m_log, &PlayerLog::line, m_logWriter.get(), &LogWriter::write);
+    connect(this, &Player::statusDue, m_statusWriter.get(), &PlayerStatusWriter::write);
+    connect(m_statusWriter.get(), &PlayerStatusWriter::failed, this, [this](const QString& reason) {
+        m_log.tell(
+            QStringLiteral("\"schedulectl screens\" does not hear of this player: %1").arg(reason));
+    });
+    tellOfStore();
+    connect(m_feed.get(), &ScheduleFeed::changed, this, [this](const ScreenSchedule& schedule) {
+        m_conductor.setSchedule(schedule);
+        follow();
+    });
+    connect(&m_thread, &QThread::started, m_feed.get(), &ScheduleFeed::start);
+
+    m_change.setSingleShot(true);
+    m_change.setInterval(kChange);
+    connect(&m_change, &QTimer::timeout, this, &Player::tellStatus);
+    connect(&m_round, &QTimer::timeout, this, &Player::tellStatus);
+    connect(&m_conductor, &Conductor::changed, this, [this] {
+        if (m_isReady && !m_change.isActive()) {
+            m_change.start();
+        }
+    });
+    m_thread.start();
+}
+
+Player::~Player()
+{
+    m_manager.tellStopping();
+    const auto leave = [this] {
+        m_statusWriter->remove(m_screen);
+        m_feed->stop();
+        m_thread.quit();
+    };
+    QMetaObject::invokeMethod(m_feed.get(), leave, Qt::QueuedConnection);
+    if (!m_thread.wait(std::chrono::milliseconds(kFarewell).count())) {
+        // It hangs in a disk. Nothing that it has is lost: the store is only read.
+        std::_Exit(EXIT_SUCCESS);
+    }
+}
+
+void Player::tellOfStore()
+{
+    m_log.tell(QStringLiteral("screen %1 follows %2")
+                   .arg(hosts::inQuotes(hosts::printable(m_screen)), hosts::printable(m_store)));
+    connect(m_feed.get(), &ScheduleFeed::lost, this, [this](const StoreResult& reason) {
+        m_log.tell(hosts::printable(englishText(reason)) +
+                   QStringLiteral(" What was read before goes on; the file is tried again every "
+                                  "second."));
+    });
+    connect(m_feed.get(), &ScheduleFeed::found, this, [this] {
+        m_log.tell(QStringLiteral("%1 is read again").arg(hosts::printable(m_store)));
+    });
+}
+
+/// The first schedule, or the certainty that there is none, is what the player was started for.
+void Player::follow()
+{
+    if (!m_isReady) {
+        m_isReady = true;
+        m_manager.tellReady();
+        tellStatus();
+    }
+}
+
+void Player::tellStatus()
+{
+    const PlayerStatus now = status();
+    m_manager.tellStatus(shortText(now));
+    emit statusDue(now);
+    m_round.start(kRound);
+}
+
+PlayerStatus Player::status() const
+{
+    const ScreenStatus shown = m_conductor.status();
+    PlayerStatus status;
+    status.screen = m_screen;
+    status.player = thisPlayer();
+    status.started = m_started;
+    status.heard = Clock::current().msecsSinceEpoch();
+    status.shown = shown.play.state;
+    status.program = shown.play.isBlack() ? QString() : shown.play.name;
+    status.isStandIn = !shown.isOnTimeline;
+    status.switches = tally().switches();
+    status.medianLateness = static_cast<double>(tally().lateness(50));
+    status.worstLateness = static_cast<double>(tally().worstLateness());
+    status.faults = tally().faults();
+    status.lastFault = m_log.lastFault();
+    status.lastFaultAt = m_log.lastFaultAt();
+    return status;
+}
+
+} // namespace trel::player

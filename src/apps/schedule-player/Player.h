@@ -1,0 +1,75 @@
+#pragma once
+
+#include "log/PlayerLog.h"
+#include "system/ServiceManager.h"
+#include "trelprogramschedule/screens/PlayerStatus.h"
+#include "trelscreen/Conductor.h"
+
+#include <QObject>
+#include <QString>
+#include <QThread>
+#include <QTimer>
+
+#include <memory>
+
+namespace trel::screen {
+class Deck;
+class ScheduleFeed;
+class Stage;
+} // namespace trel::screen
+
+namespace trel::player {
+
+class LogWriter;
+class PlayerStatusWriter;
+
+/// Has on a stage what a store says is in effect, from construction to its end, writes what happens
+/// to the standard error, and tells those who ask how it is.
+///
+/// The store, the log and the status are read and written in a thread of their own, so that no disk
+/// holds up a picture.
+class Player : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Absolute path of the store, which need not be there. Stage and decks outlive it; there can
+    /// be one player in a process.
+    Player(const QString& store, const QString& screen, screen::Stage& stage, screen::Deck& first,
+           screen::Deck& second);
+    /// Waits half a second for the thread; the process ends at once where a disk holds it up for
+    /// longer.
+    ~Player() override;
+
+    const screen::Conductor& conductor() const { return m_conductor; }
+    const screen::ScreenTally& tally() const { return m_conductor.tally(); }
+    /// Writes a line to the log.
+    void tell(const QString& what) { m_log.tell(what); }
+
+signals:
+    /// For the thread beside.
+    void statusDue(const trel::mediadispatch::PlayerStatus& status);
+
+private:
+    void follow();
+    void tellOfStore();
+    void tellStatus();
+    mediadispatch::PlayerStatus status() const;
+
+    const QString m_store;
+    const QString m_screen;
+    const mediadispatch::Instant m_started;
+    PlayerLog m_log;
+    screen::Conductor m_conductor;
+    ServiceManager m_manager;
+    bool m_isReady = false;
+    QTimer m_round;  ///< Since the status was told last.
+    QTimer m_change; ///< Until a change is told.
+
+    std::unique_ptr<screen::ScheduleFeed> m_feed; ///< In the thread, as the two below.
+    std::unique_ptr<LogWriter> m_logWriter;
+    std::unique_ptr<PlayerStatusWriter> m_statusWriter;
+    QThread m_thread;
+};
+
+} // namespace trel::player
