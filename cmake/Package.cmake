@@ -1,4 +1,4 @@
-# The installed package: libraries, the headers of what they export, the two hosts, and the files
+# The installed package: libraries, the headers of what they export, the hosts, and the files
 # with which find_package(trelprogramschedulewidgets) finds them.
 include(CMakePackageConfigHelpers)
 
@@ -10,12 +10,15 @@ set(libraries
 foreach(library IN LISTS libraries)
   target_include_directories(${library} INTERFACE $<INSTALL_INTERFACE:${include_dir}>)
 endforeach()
-set_target_properties(schedule-editor schedulectl PROPERTIES
+set_target_properties(schedule-editor schedulectl schedule-player PROPERTIES
   INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 set_target_properties(trelprogramschedulewidgets trelprogramschedule PROPERTIES
   INSTALL_RPATH "$ORIGIN")
 
 install(TARGETS ${libraries} schedule-editor schedulectl EXPORT trelTargets)
+# A program alone: what it links must not become a part of a host.
+install(TARGETS schedule-player)
+install(FILES dist/systemd/schedule-player.service DESTINATION lib/systemd/user)
 # Beside the library that starts it. Hosts that carry their libraries with them take it from
 # $<TARGET_FILE:trel::media-reader>.
 install(TARGETS media-reader EXPORT trelTargets

@@ -47,7 +47,13 @@ get_filename_component(library_dir ${readers}/../.. ABSOLUTE)
 set(import ${WORK}/moved/bin/schedulectl import --database ${WORK}/media.db)
 run(${import} ${MEDIA}/Opening.mp4 OUTPUT "Opening +video +0:00:12.000")
 
-# It alone brings the libraries for media files along.
+# The player finds its libraries in the moved tree too.
+run(${WORK}/moved/bin/schedule-player --version OUTPUT "schedule-player [0-9]")
+if(NOT EXISTS ${WORK}/moved/lib/systemd/user/schedule-player.service)
+  message(FATAL_ERROR "The unit of the player is missing")
+endif()
+
+# It alone of all that a host links brings the libraries for media files along.
 foreach(program IN ITEMS
     bin/schedule-editor bin/schedulectl ${library_dir}/libtrelprogramschedule.so)
   cmake_path(ABSOLUTE_PATH program BASE_DIRECTORY ${WORK}/moved)

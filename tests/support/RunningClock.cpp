@@ -3,7 +3,6 @@
 #include <limits>
 #include <utility>
 
-using trel::mediadispatch::Clock;
 using trel::mediadispatch::ClockAlarm;
 
 namespace {

@@ -95,6 +95,7 @@ Player::Player(const QString& store, const QString& screen, Stage& stage, Deck& 
 Player::~Player()
 {
     m_manager.tellStopping();
+    m_log.tell(QStringLiteral("ends"));
     const auto leave = [this] {
         m_statusWriter->remove(m_screen);
         m_feed->stop();

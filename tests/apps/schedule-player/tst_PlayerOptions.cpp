@@ -1,0 +1,108 @@
+#include "PlayerOptions.h"
+#include "support/TestProgram.h"
+
+#include <QCoreApplication>
+#include <QSysInfo>
+#include <QtTest>
+
+using namespace trel::player;
+using Next = PlayerOptionsResult::Next;
+
+class tst_PlayerOptions : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nothingSaid();
+    void everythingSaid();
+    void helpAndVersion();
+    void misuse_data();
+    void misuse();
+};
+
+namespace {
+
+PlayerOptionsResult read(const QStringList& options)
+{
+    return readPlayerOptions(QStringList(QStringLiteral("schedule-player")) + options);
+}
+
+} // namespace
+
+void tst_PlayerOptions::nothingSaid()
+{
+    const PlayerOptionsResult result = read({});
+    QCOMPARE(result.next, Next::Start);
+    QVERIFY(result.options.database.isEmpty());
+    QCOMPARE(result.options.screen, QSysInfo::machineHostName());
+    QVERIFY(!result.options.inWindow);
+    QVERIFY(result.options.monitor.isEmpty());
+    QVERIFY(!result.options.isMute);
+    QVERIFY(result.options.standBy.isEmpty());
+    QCOMPARE(result.options.turned, 0);
+}
+
+void tst_PlayerOptions::everythingSaid()
+{
+    const PlayerOptionsResult result =
+        read({QStringLiteral("--database"), QStringLiteral("a.db"), QStringLiteral("--screen"),
+              QStringLiteral("大厅"), QStringLiteral("--window"), QStringLiteral("--on"),
+              QStringLiteral("HDMI-1"), QStringLiteral("--mute"), QStringLiteral("--standby"),
+              QStringLiteral("a.png"), QStringLiteral("--rotate"), QStringLiteral("270")});
+    QCOMPARE(result.next, Next::Start);
+    QCOMPARE(result.options.database, QStringLiteral("a.db"));
+    QCOMPARE(result.options.screen, QStringLiteral("大厅"));
+    QVERIFY(result.options.inWindow);
+    QCOMPARE(result.options.monitor, QStringLiteral("HDMI-1"));
+    QVERIFY(result.options.isMute);
+    QCOMPARE(result.options.standBy, QStringLiteral("a.png"));
+    QCOMPARE(result.options.turned, 270);
+    QVERIFY(!read({QStringLiteral("--full-screen")}).options.inWindow);
+}
+
+void tst_PlayerOptions::helpAndVersion()
+{
+    const PlayerOptionsResult help = read({QStringLiteral("--help")});
+    QCOMPARE(help.next, Next::Done);
+    for (const char* const option : {"--database", "--screen", "--window", "--full-screen", "--on",
+                                     "--mute", "--standby", "--rotate"}) {
+        QVERIFY2(help.text.contains(QLatin1String(option)), option);
+    }
+    const PlayerOptionsResult version = read({QStringLiteral("--version")});
+    QCOMPARE(version.next, Next::Done);
+    QVERIFY(version.text.startsWith(QStringLiteral("schedule-player ")));
+}
+
+void tst_PlayerOptions::misuse_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("says");
+    const auto row = [](const char* name, const QStringList& options, const char* says) {
+        QTest::newRow(name) << options << QString::fromLatin1(says);
+    };
+    row("unknown option", {QStringLiteral("--loud")}, "loud");
+    row("no value", {QStringLiteral("--screen")}, "screen");
+    row("argument", {QStringLiteral("film.mp4")}, "What is \"film.mp4\"?");
+    row("window and full screen", {QStringLiteral("--window"), QStringLiteral("--full-screen")},
+        "either --window or --full-screen");
+    row("turned by 45", {QStringLiteral("--rotate"), QStringLiteral("45")}, "not \"45\"");
+    row("turned by 360", {QStringLiteral("--rotate"), QStringLiteral("360")}, "not \"360\"");
+    row("turned back", {QStringLiteral("--rotate=-90")}, "not \"-90\"");
+    row("turned by a word", {QStringLiteral("--rotate"), QStringLiteral("left")}, "not \"left\"");
+    row("no name", {QStringLiteral("--screen"), QString()}, "cannot be the name of a screen");
+    row("control", {QStringLiteral("--screen"), QStringLiteral("a\x1b[2J")}, "\\x1b[2J");
+}
+
+void tst_PlayerOptions::misuse()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QString, says);
+    const PlayerOptionsResult result = read(options);
+    QCOMPARE(result.next, Next::Misuse);
+    QVERIFY2(result.text.contains(says), qPrintable(result.text));
+    QVERIFY(result.text.endsWith(QStringLiteral("\nTry --help.")));
+    QVERIFY(!result.text.contains(QChar(0x1b)));
+}
+
+TREL_TEST(tst_PlayerOptions, QCoreApplication)
+#include "tst_PlayerOptions.moc"

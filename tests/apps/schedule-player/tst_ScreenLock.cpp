@@ -1,0 +1,95 @@
+#include "support/TestProgram.h"
+#include "system/ScreenLock.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using trel::player::ScreenLock;
+
+class tst_ScreenLock : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void oneAtATime();
+    void eachScreenAndEachStore();
+    void aPlayerThatWasKilledKeepsNobodyAway();
+    void whereTheFolderCannotBeWritten();
+};
+
+namespace {
+
+const QString kLobby = QStringLiteral("lobby");
+
+} // namespace
+
+void tst_ScreenLock::oneAtATime()
+{
+    const QTemporaryDir folder;
+    const QString store = folder.filePath(QStringLiteral("a.db"));
+    {
+        const ScreenLock first(store, kLobby);
+        QVERIFY(first.isTaken());
+        const ScreenLock second(store, kLobby);
+        QVERIFY(!second.isTaken());
+        const QString refusal = second.refusal();
+        QVERIFY2(refusal.contains(QStringLiteral("\"lobby\"")), qPrintable(refusal));
+        QVERIFY2(refusal.contains(QStringLiteral("process %1 on %2.")
+                                      .arg(QCoreApplication::applicationPid())
+                                      .arg(QSysInfo::machineHostName())),
+                 qPrintable(refusal));
+    }
+    QVERIFY(ScreenLock(store, kLobby).isTaken());
+}
+
+void tst_ScreenLock::eachScreenAndEachStore()
+{
+    const QTemporaryDir folder;
+    const ScreenLock lobby(folder.filePath(QStringLiteral("a.db")), kLobby);
+    const ScreenLock bar(folder.filePath(QStringLiteral("a.db")), QStringLiteral("bar"));
+    const ScreenLock other(folder.filePath(QStringLiteral("b.db")), kLobby);
+    QVERIFY(lobby.isTaken() && bar.isTaken() && other.isTaken());
+}
+
+void tst_ScreenLock::aPlayerThatWasKilledKeepsNobodyAway()
+{
+    const QTemporaryDir folder;
+    const QString store = folder.filePath(QStringLiteral("a.db"));
+    QByteArray left;
+    const QString path = folder.filePath(QStringLiteral("a.db-screens/lobby.lock"));
+    {
+        const ScreenLock first(store, kLobby);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        left = file.readAll();
+    }
+    // The file as a process leaves it that is no more: of a number that no process has.
+    QProcess process;
+    process.start(QStringLiteral("true"), {});
+    QVERIFY(process.waitForStarted());
+    const QByteArray number = QByteArray::number(process.processId());
+    QVERIFY(process.waitForFinished());
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(
+        left.replace(QByteArray::number(QCoreApplication::applicationPid()) + '\n', number + '\n'));
+    file.close();
+    QVERIFY(ScreenLock(store, kLobby).isTaken());
+}
+
+void tst_ScreenLock::whereTheFolderCannotBeWritten()
+{
+    const QTemporaryDir folder;
+    // A file in the place of the folder, which keeps the administrator out as well.
+    QFile inTheWay(folder.filePath(QStringLiteral("a.db-screens")));
+    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    const QString store = folder.filePath(QStringLiteral("a.db"));
+    const ScreenLock first(store, kLobby);
+    QVERIFY(first.isTaken());
+    QVERIFY(!ScreenLock(store, kLobby).isTaken());
+}
+
+TREL_TEST(tst_ScreenLock, QCoreApplication)
+#include "tst_ScreenLock.moc"
