@@ -84,6 +84,7 @@ bool RecordedDeck::hasPicture() const
 
 std::optional<qint64> RecordedDeck::position() const
 {
+    ++m_looks;
     const bool hasAny = m_isReady && m_loaded.kind != ProgramKind::Image;
     return hasAny && now() >= m_soughtUntil ? std::make_optional(std::llround(reached()))
                                             : std::nullopt;

@@ -41,6 +41,8 @@ public:
     /// When, by the clock in force.
     qint64 loadedAt() const { return m_loadedAt; }
     bool isPlaying() const { return m_isPlaying; }
+    /// How often its position was asked for.
+    int looks() const { return m_looks; }
     double speed() const { return m_speed; }
 
     /// How long each load takes in milliseconds; nothing to have the test tell.
@@ -73,6 +75,7 @@ private:
 
     trel::screen::DeckLoad m_loaded;
     quint64 m_load = 0;
+    mutable int m_looks = 0;
     qint64 m_loadedAt = 0;
     bool m_isReady = false;
     bool m_isPlaying = false;

@@ -379,7 +379,7 @@ void Conductor::attendPosition()
     put(pictureOf(*slot));
     const ScreenPlay& play = m_current.play;
     // What stands still is not helped by being sent elsewhere; it would only look alive.
-    if (slot->hasEnded() || !slot->hasMoved() || !play.hasPosition() ||
+    if (!slot->hasMoved() || !play.hasPosition() ||
         play.state.until - m_now < PositionHold::kTooFar) {
         return;
     }

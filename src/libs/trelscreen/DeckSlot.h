@@ -39,7 +39,6 @@ public:
     bool isLoading() const { return m_state == State::Loading; }
     bool isReady() const { return m_state == State::Ready; }
     bool isStarted() const { return m_isStarted; }
-    bool hasEnded() const { return m_hasEnded; }
 
     /// What has become of it by a moment, with the instant at which the play is to be over.
     DeckFault trouble(mediadispatch::Instant now, mediadispatch::Instant until,

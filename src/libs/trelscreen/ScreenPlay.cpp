@@ -12,9 +12,6 @@ namespace trel::screen {
 
 namespace {
 
-/// Positions are rounded down and borders up to whole milliseconds, so that one play tells of its
-/// beginning differently at different moments.
-constexpr qint64 kRounding = 2;
 constexpr qint64 kSecond = 1000;
 
 ScreenPlay playOf(const ScreenSchedule& schedule, const ScreenState& state, Instant moment)
@@ -76,12 +73,13 @@ bool ScreenPlay::isSamePlay(const ScreenPlay& other) const
         return true;
     }
     // Not by when it began to be shown: that is another moment once an insertion that interrupted
-    // the play is forgotten.
+    // the play is forgotten. And what moves it by less than can be seen, such as a program before
+    // it that was measured again, shall not disturb it.
     const auto programBegan = [](const ScreenPlay& play) {
         return (play.isPlaying() ? play.moment : 0) - play.state.position;
     };
     return isOfSamePlay(other) && isTooShort() == other.isTooShort() &&
-           (!hasPosition() || std::abs(programBegan(*this) - programBegan(other)) <= kRounding);
+           (!hasPosition() || std::abs(programBegan(*this) - programBegan(other)) < kFrame);
 }
 
 ScreenPlay screenPlayAt(const ScreenSchedule& schedule, Instant moment)

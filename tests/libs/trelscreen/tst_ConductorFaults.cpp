@@ -91,7 +91,11 @@ private slots:
         QVERIFY(screen.conductor.status().isOnTimeline);
         QCOMPARE(screen.conductor.status().fault.trouble, DeckTrouble::None);
         screen.advance(1000);
-        const QStringList recovered = screen.log.take(Kind::Recovered);
+        const QStringList told = screen.log.take();
+        // It did not come at its time.
+        QCOMPARE(told.filter(QStringLiteral("shown H")).size(), 1);
+        QCOMPARE(told.filter(QStringLiteral("switch H")).size(), 0);
+        const QStringList recovered = told.filter(QStringLiteral("recovered"));
         QCOMPARE(recovered.size(), 1);
         QVERIFY(recovered.first().startsWith(QStringLiteral("recovered H missing")));
     }
@@ -277,7 +281,24 @@ private slots:
         }
     }
 
-    void takesNoSignalOfAnEarlierFaultForAnother()
+    void hearsNothingOfAnotherLoad()
+    {
+        ScreenFixture screen("08:00:01", std::nullopt);
+        screen.follow("08:00:00-09:00:00 H");
+        screen.advance(1000);
+        emit screen.one.ready(99);
+        emit screen.one.failed(99, {DeckTrouble::Missing, {}});
+        emit screen.one.ended(99);
+        emit screen.two.ready(0);
+        emit screen.two.failed(0, {DeckTrouble::Missing, {}});
+        screen.advance(1000);
+        QCOMPARE(screen.picture(), QStringLiteral("stand-by"));
+        QCOMPARE(screen.conductor.tally().faults(), 0);
+        screen.one.tellReady();
+        QCOMPARE(screen.stage.deck(), &screen.one);
+    }
+
+    void announcesAFaultOnceForEachPlay()
     {
         ScreenFixture screen("08:00:01");
         Broken broken(screen, "A", DeckTrouble::Missing);

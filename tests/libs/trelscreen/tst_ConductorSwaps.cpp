@@ -62,6 +62,18 @@ private slots:
         QCOMPARE(screen.conductor.longestOff(), 0);
     }
 
+    void tellsHowLateItIs()
+    {
+        ScreenFixture screen("08:00:01");
+        screen.follow("08:00:00-09:00:00 A B");
+        screen.advanceTo("08:00:09.900");
+        // A program that was held up; less than a clock that was set.
+        screen.clock.set(ScreenFixture::moment("08:00:10.070"));
+        QCOMPARE(screen.picture(), QStringLiteral("B at 0"));
+        QVERIFY(screen.log.take().contains(QStringLiteral("switch B +70")));
+        QCOMPARE(screen.conductor.tally().worstLateness(), 70);
+    }
+
     void swapsBetweenThePlaysOfOneEntryToo()
     {
         ScreenFixture screen("07:59:59");
@@ -168,6 +180,8 @@ private slots:
                                             "08:10:00.001 one: play"}));
         screen.advanceTo("08:59:50");
         QCOMPARE(screen.takeCalls(), QStringList());
+        // Nor is it looked at, so that the machine may rest.
+        QCOMPARE(screen.one.looks(), 0);
         screen.advanceTo("09:00:00");
         QCOMPARE(screen.takeCalls(), lines({"09:00:00 stage: black", "09:00:00 one: clear"}));
     }

@@ -82,6 +82,19 @@ private slots:
         QVERIFY(!early.isSamePlay(later));
     }
 
+    void isTheSameWhereItIsMovedByLessThanAFrame()
+    {
+        for (const int by : {39, 40}) {
+            std::map<int, ProgramIten> longer = ScreenFixture::letters();
+            longer[programOf(QLatin1Char('B'))].durationMs += by;
+            const ScreenPlay play =
+                screenPlayAt(scheduleOf("08:00:00-09:00:00 B A"), at("08:00:07"));
+            const ScreenPlay moved =
+                screenPlayAt(scheduleOf("08:00:00-09:00:00 B A", longer), at("08:00:07"));
+            QCOMPARE(play.isSamePlay(moved), by == 39);
+        }
+    }
+
     void isTheSameImageWheneverItIsSeen()
     {
         const ScreenSchedule schedule = scheduleOf("08:00:00-09:00:00 I");
