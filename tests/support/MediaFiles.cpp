@@ -6,6 +6,7 @@
 #include <QtEndian>
 
 #include <memory>
+#include <random>
 
 extern "C" {
 #include <libavcodec/packet.h>
@@ -162,6 +163,18 @@ bool media::makeImage(const QString& path)
     QImage image(16, 16, QImage::Format_RGB32);
     image.fill(Qt::darkCyan);
     return image.save(path);
+}
+
+bool media::makePhotograph(const QString& path, int side)
+{
+    QImage image(side, side, QImage::Format_RGB32);
+    std::minstd_rand random(1);
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            image.setPixel(x, y, 0xff000000U | static_cast<QRgb>(random()));
+        }
+    }
+    return image.save(path, "JPEG", 90);
 }
 
 bool media::makeText(const QString& path)

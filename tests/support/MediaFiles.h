@@ -21,6 +21,9 @@ bool makeVideo(const QString& path, int frames, int framesPerSecond);
 /// A picture in the format that the suffix names (png, jpg, bmp).
 bool makeImage(const QString& path);
 
+/// A square of noise as a JPEG file, which takes about as many bytes as it has dots.
+bool makePhotograph(const QString& path, int side);
+
 /// Bytes that are no media.
 bool makeText(const QString& path);
 

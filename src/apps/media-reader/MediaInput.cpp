@@ -90,15 +90,21 @@ const AVInputFormat* MediaInput::format(const NameHint& hint) const
     if (std::strcmp(hint.suffix, "tga") == 0) {
         return av_find_input_format("image2pipe");
     }
-    const AVInputFormat* found = nullptr;
-    const std::string name =
-        hint.isNamedAsMedia ? std::string("file.") + hint.suffix : std::string();
-    const int score = av_probe_input_buffer2(m_io, &found, name.c_str(), nullptr, 0, 0);
-    if (score < 0 || (!hint.isNamedAsMedia && score <= AVPROBE_SCORE_RETRY)) {
-        return nullptr;
+    if (!hint.isNamedAsMedia) {
+        return probed({}, AVPROBE_SCORE_RETRY);
     }
-    // A format that wants to open its files itself was guessed from the suffix alone.
-    return (found->flags & AVFMT_NOFILE) != 0 ? nullptr : found;
+    const AVInputFormat* const found = probed(std::string("file.") + hint.suffix, 0);
+    // A format that wants to open its files itself was guessed from the suffix alone, and hides
+    // what the content says, as it does for every photograph.
+    return found == nullptr ? probed({}, 0) : found;
+}
+
+const AVInputFormat* MediaInput::probed(const std::string& name, int leastScore) const
+{
+    const AVInputFormat* found = nullptr;
+    const int score = av_probe_input_buffer2(m_io, &found, name.c_str(), nullptr, 0, 0);
+    const bool isFound = score > leastScore && (found->flags & AVFMT_NOFILE) == 0;
+    return isFound ? found : nullptr;
 }
 
 int MediaInput::read(void* self, std::uint8_t* room, int count)

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -58,6 +59,8 @@ public:
 private:
     trel::mediadispatch::wire::Verdict open(const NameHint& hint, Look look);
     const AVInputFormat* format(const NameHint& hint) const;
+    /// What the content is by all signs, one of them the name where there is one.
+    const AVInputFormat* probed(const std::string& name, int leastScore) const;
     static int read(void* self, std::uint8_t* room, int count);
     static std::int64_t seek(void* self, std::int64_t offset, int whence);
 

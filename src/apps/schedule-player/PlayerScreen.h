@@ -11,9 +11,12 @@
 
 #include <memory>
 
+class QWindow;
+
 namespace trel::player {
 
 class FrameSink;
+class GlSharing;
 class MonitorPlace;
 class PlayerWindow;
 class ScreenAwake;
@@ -31,6 +34,13 @@ struct ScreenWishes
     QImage standBy;             ///< For when there is no picture; null for black.
     QString title;              ///< Of the window, and what is said to who would blank the screen.
     QSize windowSize{960, 540}; ///< Not of a full screen.
+    /// How films are drawn.
+    enum class Drawing {
+        Best,     ///< By OpenGL where hardware does it, and in memory elsewhere.
+        OpenGl,   ///< By OpenGL wherever there is any, be it by the processor.
+        Software, ///< In memory.
+    };
+    Drawing drawing = Drawing::Best;
 };
 
 /// A screen with all that plays on it: the window, the stage and the two decks. GUI thread only,
@@ -50,10 +60,14 @@ public:
     screen::Deck& firstDeck() { return *m_first; }
     screen::Deck& secondDeck() { return *m_second; }
 
-    /// Gets each picture of the screen as well. It outlives the screen.
+    /// Gets each picture of the screen as well; those of films only as textures where OpenGL draws
+    /// them. It outlives the screen.
     void add(FrameSink& sink);
     /// How many pictures of films came too late to be shown, since the beginning.
     qint64 droppedFrames() const;
+    /// Whether films are drawn by OpenGL.
+    bool drawsByOpenGl() const { return m_sharing != nullptr; }
+    const QWindow& window() const;
     /// Whether the monitor that was wished for is there. The first one is filled while it is not.
     bool hasItsMonitor() const;
 
@@ -65,6 +79,7 @@ private:
     ScreenShape shape() const;
 
     const ScreenWishes m_wishes;
+    std::unique_ptr<GlSharing> m_sharing; ///< None where films are drawn in memory.
     std::unique_ptr<PlayerWindow> m_window;
     std::unique_ptr<MonitorPlace> m_place;
     std::unique_ptr<PlayerDeck> m_first;

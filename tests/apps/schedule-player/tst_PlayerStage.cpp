@@ -222,7 +222,7 @@ void tst_PlayerStage::drawsEverythingAgainForAnotherShape()
     screen.stage.setShape({QSize(360, 640), 90});
     QCOMPARE(screen.record.lastPicture().size(), QSize(360, 640));
     QTRY_VERIFY(screen.shows(1, 0));
-    QTRY_COMPARE(screen.second.picture().size(), QSize(360, 640));
+    QTRY_COMPARE(screen.second.picture().image.size(), QSize(360, 640));
     screen.show(screen.second);
     QVERIFY(screen.shows(5, 77));
 }

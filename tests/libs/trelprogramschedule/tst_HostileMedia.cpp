@@ -172,7 +172,7 @@ void tst_HostileMedia::brokenImages_data()
     const QString none = QStringLiteral("The picture in it cannot be read.");
     QTest::newRow("cut.png") << none;
     QTest::newRow("broken.png") << none;
-    QTest::newRow("cut.jpg") << QStringLiteral("It is not a media file, or it is damaged.");
+    QTest::newRow("cut.jpg") << none;
     QTest::newRow("huge.png") << none;
     QTest::newRow("empty.png") << QStringLiteral("It is empty.");
 }

@@ -2,14 +2,29 @@
 
 #include "deck/MpvWork.h"
 #include "deck/PlaybackThreads.h"
+#include "deck/SoftwareMaker.h"
+#include "gl/GlSharing.h"
 
 #include <utility>
 
 namespace trel::player {
 
+namespace {
+
+std::unique_ptr<PictureMaker> makerFor(GlSharing* sharing)
+{
+    if (sharing == nullptr) {
+        return std::make_unique<SoftwareMaker>();
+    }
+    return sharing->makeMaker();
+}
+
+} // namespace
+
 MpvPlayback::MpvPlayback(const screen::DeckLoad& load, bool isMute, const ScreenShape& shape,
-                         PlaybackNews news, PlaybackThreads& threads)
-    : m_work(std::make_shared<MpvWork>(load, isMute, shape, m_receiver, std::move(news)))
+                         PlaybackNews news, PlaybackThreads& threads, GlSharing* sharing)
+    : m_work(std::make_shared<MpvWork>(load, isMute, shape, m_receiver, std::move(news),
+                                       makerFor(sharing), sharing == nullptr))
 {
     threads.start([work = m_work] { work->run(); });
 }
@@ -49,7 +64,7 @@ std::optional<qint64> MpvPlayback::position() const
     return m_work->position();
 }
 
-QImage MpvPlayback::picture() const
+DeckPicture MpvPlayback::picture() const
 {
     return m_work->picture();
 }

@@ -9,6 +9,7 @@
 
 namespace trel::player {
 
+class GlSharing;
 class MpvWork;
 class PlaybackThreads;
 
@@ -17,8 +18,9 @@ class PlaybackThreads;
 class MpvPlayback : public Playback
 {
 public:
+    /// Draws in memory where nothing is shared.
     MpvPlayback(const screen::DeckLoad& load, bool isMute, const ScreenShape& shape,
-                PlaybackNews news, PlaybackThreads& threads);
+                PlaybackNews news, PlaybackThreads& threads, GlSharing* sharing);
     ~MpvPlayback() override;
 
     void play() override;
@@ -28,7 +30,7 @@ public:
     void setShape(const ScreenShape& shape) override;
 
     std::optional<qint64> position() const override;
-    QImage picture() const override;
+    DeckPicture picture() const override;
     qint64 droppedFrames() const override;
 
 private:

@@ -119,12 +119,15 @@ bool isTrackOf(mpv_handle* handle, std::int64_t track, const char* type)
 } // namespace
 
 MpvWork::MpvWork(const screen::DeckLoad& load, bool isMute, const ScreenShape& shape,
-                 QObject& receiver, PlaybackNews news)
+                 QObject& receiver, PlaybackNews news, std::unique_ptr<PictureMaker> maker,
+                 bool copiesDecoded)
     : m_load(load)
     , m_isMute(isMute)
     , m_isStream(load.kind == ProgramKind::Live)
+    , m_copiesDecoded(copiesDecoded)
     , m_news(std::move(news))
     , m_mail(receiver)
+    , m_maker(std::move(maker))
     , m_shape(shape)
 {}
 
@@ -142,6 +145,7 @@ void MpvWork::run()
         m_commanded = nullptr;
     }
     m_renderer.reset();
+    m_maker->finish();
     m_handle.reset();
 }
 
@@ -158,20 +162,17 @@ bool MpvWork::open()
     wishes.isStream = m_isStream;
     wishes.onlySounds = m_load.kind == ProgramKind::Audio;
     wishes.isMute = m_isMute;
+    wishes.copiesDecoded = m_copiesDecoded;
     m_handle = startMpv(wishes);
     if (m_handle == nullptr) {
         fail(DeckTrouble::Unreadable, QStringLiteral("libmpv does not start"));
         return false;
     }
-    mpv_render_context* renderer = nullptr;
-    char api[] = MPV_RENDER_API_TYPE_SW;
-    mpv_render_param params[] = {{MPV_RENDER_PARAM_API_TYPE, api},
-                                 {MPV_RENDER_PARAM_INVALID, nullptr}};
-    if (mpv_render_context_create(&renderer, m_handle.get(), params) < 0) {
+    m_renderer = m_maker->start(m_handle.get());
+    if (m_renderer == nullptr) {
         fail(DeckTrouble::Unreadable, QStringLiteral("libmpv does not draw"));
         return false;
     }
-    m_renderer.reset(renderer);
     return true;
 }
 
@@ -318,8 +319,12 @@ void MpvWork::chooseStart(std::uint64_t hook)
     // The library would show the first picture that begins after the place; on screen at that time
     // is the one before it. Only by now the file has told how long a picture stands.
     readTracks();
-    const QByteArray start = QByteArray::number(toFrame(m_load.position), 'f', 6);
-    mpv_set_property_string(m_handle.get(), "start", start.constData());
+    const double start = toFrame(m_load.position);
+    // The beginning is where it begins; bare streams of pictures do not let themselves be sought.
+    if (start > 0.0) {
+        mpv_set_property_string(m_handle.get(), "start",
+                                QByteArray::number(start, 'f', 6).constData());
+    }
     mpv_hook_continue(m_handle.get(), hook);
 }
 
@@ -403,30 +408,19 @@ void MpvWork::draw(const ScreenShape& shape)
 {
     mpv_render_frame_info info = {};
     const mpv_render_param asked{MPV_RENDER_PARAM_NEXT_FRAME_INFO, &info};
-    const bool hasPicture = mpv_render_context_get_info(m_renderer.get(), asked) >= 0 &&
-                            (info.flags & MPV_RENDER_FRAME_INFO_PRESENT) != 0;
+    const bool isNew = mpv_render_context_get_info(m_renderer.get(), asked) >= 0 &&
+                       (info.flags & MPV_RENDER_FRAME_INFO_PRESENT) != 0;
+    // Until the first has come there is only black; from then on the last one is drawn again.
+    const bool hasPicture = isNew || m_hasDrawn;
     const int turned = (shape.turned + m_fileTurned) % 360;
-    QImage& picture = m_pictures.blank(roomBeforeTurning(shape.size, turned));
-    if (picture.isNull()) {
-        return;
-    }
-    int size[] = {picture.width(), picture.height()};
-    auto stride = static_cast<std::size_t>(picture.bytesPerLine());
-    char format[] = "bgr0";
-    int waits = 0;
-    mpv_render_param params[] = {{MPV_RENDER_PARAM_SW_SIZE, size},
-                                 {MPV_RENDER_PARAM_SW_FORMAT, format},
-                                 {MPV_RENDER_PARAM_SW_STRIDE, &stride},
-                                 {MPV_RENDER_PARAM_SW_POINTER, picture.bits()},
-                                 {MPV_RENDER_PARAM_BLOCK_FOR_TARGET_TIME, &waits},
-                                 {MPV_RENDER_PARAM_INVALID, nullptr}};
-    const bool isDrawn = mpv_render_context_render(m_renderer.get(), params) >= 0;
+    const QSize room = roomBeforeTurning(shape.size, turned);
+    const DeckPicture picture = m_maker->draw(m_renderer.get(), room, turned);
     mpv_render_context_report_swap(m_renderer.get());
-    if (!isDrawn || !hasPicture) {
+    if (picture.isNull() || !hasPicture) {
         return;
     }
     m_hasDrawn = true;
-    if (m_pictures.put(turnedClockwise(picture, turned))) {
+    if (m_pictures.put(picture)) {
         m_mail.post(m_news.pictureChanged);
     }
     tellReadyOnce();

@@ -2,6 +2,7 @@
 
 #include "deck/MpvHandle.h"
 #include "deck/MpvOptions.h"
+#include "deck/PictureMaker.h"
 #include "deck/PictureSlot.h"
 #include "deck/Playback.h"
 #include "deck/PlayedPosition.h"
@@ -26,7 +27,7 @@ class MpvWork
 {
 public:
     MpvWork(const screen::DeckLoad& load, bool isMute, const ScreenShape& shape, QObject& receiver,
-            PlaybackNews news);
+            PlaybackNews news, std::unique_ptr<PictureMaker> maker, bool copiesDecoded);
     ~MpvWork();
     Q_DISABLE_COPY(MpvWork)
 
@@ -41,7 +42,7 @@ public:
     void setSpeed(double speed);
     void setShape(const ScreenShape& shape);
     std::optional<qint64> position() const;
-    QImage picture() { return m_pictures.take(); }
+    DeckPicture picture() { return m_pictures.take(); }
     qint64 droppedFrames() const { return m_droppedFrames; }
 
 private:
@@ -81,6 +82,7 @@ private:
     const screen::DeckLoad m_load;
     const bool m_isMute;
     const bool m_isStream;
+    const bool m_copiesDecoded;
     PlaybackNews m_news;
     ThreadMail m_mail;
     PictureSlot m_pictures;
@@ -89,6 +91,7 @@ private:
     std::atomic<double> m_framesPerSecond{0.0};
 
     // Of the thread alone.
+    std::unique_ptr<PictureMaker> m_maker;
     MpvHandle m_handle;
     MpvRenderer m_renderer;
     int m_fileTurned = 0;

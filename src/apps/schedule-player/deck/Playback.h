@@ -1,9 +1,8 @@
 #pragma once
 
+#include "deck/DeckPicture.h"
 #include "stage/ScreenShape.h"
 #include "trelscreen/DeckFault.h"
-
-#include <QImage>
 
 #include <functional>
 #include <optional>
@@ -37,9 +36,8 @@ public:
 
     /// In milliseconds; none where it is not known.
     virtual std::optional<qint64> position() const = 0;
-    /// The newest picture: as large as the screen and turned as it hangs, with black around. Null
-    /// where there is none.
-    virtual QImage picture() const = 0;
+    /// The newest picture: as large as the screen, with black around.
+    virtual DeckPicture picture() const = 0;
     /// How many pictures came too late to be shown.
     virtual qint64 droppedFrames() const = 0;
 

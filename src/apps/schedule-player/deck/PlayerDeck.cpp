@@ -11,9 +11,10 @@ namespace trel::player {
 using mediadispatch::ProgramKind;
 using screen::DeckFault;
 
-PlayerDeck::PlayerDeck(bool isMute, QObject* parent)
+PlayerDeck::PlayerDeck(bool isMute, GlSharing* sharing, QObject* parent)
     : Deck(parent)
     , m_isMute(isMute)
+    , m_sharing(sharing)
 {
     // The toolkit's application has taken the user's by now. Before any thread runs that asks.
     std::setlocale(LC_NUMERIC, "C");
@@ -35,7 +36,8 @@ quint64 PlayerDeck::load(const screen::DeckLoad& load)
     if (load.kind == ProgramKind::Image) {
         m_playback = std::make_unique<StillPlayback>(load.media, m_shape, news, m_threads);
     } else {
-        m_playback = std::make_unique<MpvPlayback>(load, m_isMute, m_shape, news, m_threads);
+        m_playback =
+            std::make_unique<MpvPlayback>(load, m_isMute, m_shape, news, m_threads, m_sharing);
     }
     return number;
 }
@@ -105,9 +107,9 @@ void PlayerDeck::setShape(const ScreenShape& shape)
     }
 }
 
-QImage PlayerDeck::picture() const
+DeckPicture PlayerDeck::picture() const
 {
-    return m_playback != nullptr ? m_playback->picture() : QImage();
+    return m_playback != nullptr ? m_playback->picture() : DeckPicture();
 }
 
 qint64 PlayerDeck::droppedFrames() const

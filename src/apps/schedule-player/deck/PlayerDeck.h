@@ -1,16 +1,16 @@
 #pragma once
 
+#include "deck/DeckPicture.h"
 #include "deck/MpvHandle.h"
 #include "deck/PlaybackThreads.h"
 #include "stage/ScreenShape.h"
 #include "trelscreen/Deck.h"
 
-#include <QImage>
-
 #include <memory>
 
 namespace trel::player {
 
+class GlSharing;
 class Playback;
 
 /// A deck that really plays: films, sound and streams by libmpv, images by the program that reads
@@ -23,7 +23,8 @@ class PlayerDeck : public screen::Deck
     Q_OBJECT
 
 public:
-    explicit PlayerDeck(bool isMute, QObject* parent = nullptr);
+    /// Draws films by OpenGL where something is shared, which outlives it, and in memory otherwise.
+    explicit PlayerDeck(bool isMute, GlSharing* sharing = nullptr, QObject* parent = nullptr);
     ~PlayerDeck() override;
 
     quint64 load(const screen::DeckLoad& load) override;
@@ -40,8 +41,8 @@ public:
 
     /// What its pictures are made for, from now on. Has to be said before the first load.
     void setShape(const ScreenShape& shape);
-    /// The newest picture, as large as the screen and turned as it hangs; null where it has none.
-    QImage picture() const;
+    /// The newest picture, as large as the screen; null where it has none.
+    DeckPicture picture() const;
     /// How many pictures came too late to be shown, of all that it has played.
     qint64 droppedFrames() const;
 
@@ -54,6 +55,7 @@ private:
     void forget();
 
     const bool m_isMute;
+    GlSharing* const m_sharing;
     ScreenShape m_shape;
     quint64 m_number = 0;
     bool m_isReady = false;

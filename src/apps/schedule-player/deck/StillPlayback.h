@@ -27,7 +27,7 @@ public:
     void setShape(const ScreenShape& shape) override;
 
     std::optional<qint64> position() const override { return {}; }
-    QImage picture() const override { return m_picture; }
+    DeckPicture picture() const override { return {m_picture, nullptr}; }
     qint64 droppedFrames() const override { return 0; }
 
 private:

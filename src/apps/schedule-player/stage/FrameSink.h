@@ -1,5 +1,6 @@
 #pragma once
 
+#include "gl/GlPicture.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
 
 #include <QImage>
@@ -15,6 +16,10 @@ public:
     /// The screen shows this from now on: as large as the screen, without transparency. In the
     /// thread of the windows.
     virtual void frame(const QImage& picture, mediadispatch::Instant moment) = 0;
+
+    /// The same, of a screen that is drawn by OpenGL. Comes for films alone, and to sinks of such a
+    /// screen.
+    virtual void texture(const SharedGlPicture& /*picture*/, mediadispatch::Instant /*moment*/) {}
 
 protected:
     FrameSink() = default;

@@ -58,8 +58,16 @@ void SoftwareStage::deckChanged(const PlayerDeck& deck)
 
 void SoftwareStage::present()
 {
-    const QImage shown = picture();
     const mediadispatch::Instant moment = mediadispatch::Clock::current().msecsSinceEpoch();
+    if (m_shown.kind == StagePicture::Kind::Deck) {
+        if (const SharedGlPicture texture = shownByDeck().texture) {
+            for (FrameSink* sink : m_sinks) {
+                sink->texture(texture, moment);
+            }
+            return;
+        }
+    }
+    const QImage shown = picture();
     for (FrameSink* sink : m_sinks) {
         sink->frame(shown, moment);
     }
@@ -87,11 +95,16 @@ QImage SoftwareStage::picture() const
     return turnedClockwise(upright, m_shape.turned);
 }
 
-QImage SoftwareStage::deckPicture() const
+DeckPicture SoftwareStage::shownByDeck() const
 {
     const auto found = std::find(m_decks.begin(), m_decks.end(), m_shown.deck);
+    return found == m_decks.end() ? DeckPicture() : (*found)->picture();
+}
+
+QImage SoftwareStage::deckPicture() const
+{
     // One of another size is on its way to be drawn again.
-    return fittedOnBlack(found == m_decks.end() ? QImage() : (*found)->picture(), m_shape.size);
+    return fittedOnBlack(shownByDeck().image, m_shape.size);
 }
 
 } // namespace trel::player

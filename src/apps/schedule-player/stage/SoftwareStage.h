@@ -1,5 +1,6 @@
 #pragma once
 
+#include "deck/DeckPicture.h"
 #include "stage/ScreenShape.h"
 #include "trelscreen/Stage.h"
 
@@ -37,6 +38,7 @@ private:
     void deckChanged(const PlayerDeck& deck);
     void present();
     QImage picture() const;
+    DeckPicture shownByDeck() const;
     QImage deckPicture() const;
 
     ScreenShape m_shape;

@@ -2,14 +2,12 @@
 
 #include <QCursor>
 #include <QEvent>
-#include <QPainter>
 
 namespace trel::player {
 
-PlayerWindow::PlayerWindow()
-    : m_store(this)
+PlayerWindow::PlayerWindow(QSurface::SurfaceType surface)
 {
-    setSurfaceType(QSurface::RasterSurface);
+    setSurfaceType(surface);
     setCursor(Qt::BlankCursor);
 }
 
@@ -18,35 +16,6 @@ PlayerWindow::~PlayerWindow() = default;
 QSize PlayerWindow::dots() const
 {
     return size() * devicePixelRatio();
-}
-
-void PlayerWindow::frame(const QImage& picture, mediadispatch::Instant /*moment*/)
-{
-    m_picture = picture;
-    paint();
-}
-
-void PlayerWindow::paint()
-{
-    if (!isExposed() || size().isEmpty()) {
-        return;
-    }
-    const QRect whole(QPoint(), size());
-    if (m_store.size() != size()) {
-        m_store.resize(size());
-    }
-    m_store.beginPaint(whole);
-    {
-        QPainter painter(m_store.paintDevice());
-        painter.setCompositionMode(QPainter::CompositionMode_Source);
-        if (m_picture.isNull()) {
-            painter.fillRect(whole, Qt::black);
-        } else {
-            painter.drawImage(whole, m_picture);
-        }
-    }
-    m_store.endPaint();
-    m_store.flush(whole);
 }
 
 bool PlayerWindow::event(QEvent* event)

@@ -2,8 +2,6 @@
 
 #include "stage/FrameSink.h"
 
-#include <QBackingStore>
-#include <QImage>
 #include <QWindow>
 
 namespace trel::player {
@@ -15,13 +13,10 @@ class PlayerWindow : public QWindow, public FrameSink
     Q_OBJECT
 
 public:
-    PlayerWindow();
     ~PlayerWindow() override;
 
     /// The dots that it has.
     QSize dots() const;
-
-    void frame(const QImage& picture, mediadispatch::Instant moment) override;
 
 signals:
     /// It has another number of dots from now on.
@@ -29,15 +24,14 @@ signals:
     void closeAsked();
 
 protected:
+    explicit PlayerWindow(QSurface::SurfaceType surface);
+
+    /// Shows the present picture, if the window is to be seen.
+    virtual void paint() = 0;
+
     bool event(QEvent* event) override;
     void exposeEvent(QExposeEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-
-private:
-    void paint();
-
-    QBackingStore m_store;
-    QImage m_picture;
 };
 
 } // namespace trel::player

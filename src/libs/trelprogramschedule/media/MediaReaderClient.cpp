@@ -200,6 +200,8 @@ MediaPicture MediaReaderClient::picture(const QString& path, ProgramKind kind, c
     }
     wire::Question question;
     question.wish = kind == ProgramKind::Image ? wire::Wish::ImagePicture : wire::Wish::FilmPicture;
+    // It became a program once, so that its name is not all that speaks for it.
+    question.isNamedAsMedia = 1;
     question.width = sideOf(bound.width());
     question.height = sideOf(bound.height());
     setSuffix(question, path);

@@ -129,6 +129,11 @@ void tst_ProgramImporter::kindAndLength_data()
         0.0);
     row(QStringLiteral("still.jpg"), media::makeImage(path(QStringLiteral("still.jpg"))), image,
         0.0);
+    // Larger than what is looked at first, and than all that is looked at.
+    row(QStringLiteral("photograph.jpg"),
+        media::makePhotograph(path(QStringLiteral("photograph.jpg")), 320), image, 0.0);
+    row(QStringLiteral("large.jpg"), media::makePhotograph(path(QStringLiteral("large.jpg")), 1600),
+        image, 0.0);
     row(QStringLiteral("still.bmp"), media::makeImage(path(QStringLiteral("still.bmp"))), image,
         0.0);
     row(QStringLiteral("take%02d.png"), media::makeImage(path(QStringLiteral("take%02d.png"))),

@@ -1,0 +1,108 @@
+#include "FrameRecord.h"
+#include "PlayerScreen.h"
+#include "support/TestProgram.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWindow>
+
+using trel::player::PlayerScreen;
+using trel::player::ScreenWishes;
+
+namespace {
+
+QWindow& windowOf(const PlayerScreen& screen)
+{
+    const QWindowList windows = QGuiApplication::allWindows();
+    const int place = int(windows.indexOf(const_cast<QWindow*>(&screen.window())));
+    return *windows.at(place);
+}
+
+ScreenWishes inAWindow()
+{
+    ScreenWishes wishes;
+    wishes.isFullScreen = false;
+    wishes.isMute = true;
+    wishes.title = QStringLiteral("Screen 1");
+    wishes.windowSize = QSize(400, 300);
+    return wishes;
+}
+
+} // namespace
+
+/// The window of a screen.
+class tst_PlayerScreen : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isABlackWindowWithoutAPointer();
+    void fillsItsMonitor();
+    void followsTheSizeOfTheWindow();
+    void doesNotClose();
+    void fillsTheFirstMonitorWhereItsOwnIsMissing();
+};
+
+void tst_PlayerScreen::isABlackWindowWithoutAPointer()
+{
+    PlayerScreen screen(inAWindow());
+    FrameRecord record;
+    screen.add(record);
+    QVERIFY(QTest::qWaitForWindowExposed(&windowOf(screen)));
+    QCOMPARE(screen.window().cursor().shape(), Qt::BlankCursor);
+    QCOMPARE(screen.window().title(), QStringLiteral("Screen 1"));
+    QCOMPARE(record.last().content, RecordedFrame::Content::Black);
+    QCOMPARE(record.lastPicture().size(), QSize(400, 300));
+    QVERIFY(!screen.drawsByOpenGl());
+    QCOMPARE(screen.droppedFrames(), qint64(0));
+}
+
+void tst_PlayerScreen::fillsItsMonitor()
+{
+    ScreenWishes wishes = inAWindow();
+    wishes.isFullScreen = true;
+    wishes.monitor = QGuiApplication::primaryScreen()->name();
+    PlayerScreen screen(wishes);
+    FrameRecord record;
+    screen.add(record);
+    QVERIFY(screen.hasItsMonitor());
+    QTRY_COMPARE(screen.window().geometry(), QGuiApplication::primaryScreen()->geometry());
+    QVERIFY(screen.window().windowStates() & Qt::WindowFullScreen);
+    QTRY_COMPARE(record.lastPicture().size(), QGuiApplication::primaryScreen()->size());
+}
+
+void tst_PlayerScreen::followsTheSizeOfTheWindow()
+{
+    PlayerScreen screen(inAWindow());
+    FrameRecord record;
+    screen.add(record);
+    windowOf(screen).resize(500, 200);
+    QTRY_COMPARE(record.lastPicture().size(), QSize(500, 200));
+}
+
+void tst_PlayerScreen::doesNotClose()
+{
+    PlayerScreen screen(inAWindow());
+    QSignalSpy asked(&screen, &PlayerScreen::closeAsked);
+    QCloseEvent close;
+    QCoreApplication::sendEvent(&windowOf(screen), &close);
+    QVERIFY(!close.isAccepted());
+    QVERIFY(screen.window().isVisible());
+    QCOMPARE(asked.count(), 1);
+}
+
+void tst_PlayerScreen::fillsTheFirstMonitorWhereItsOwnIsMissing()
+{
+    ScreenWishes wishes = inAWindow();
+    wishes.isFullScreen = true;
+    wishes.monitor = QStringLiteral("HDMI-77");
+    PlayerScreen screen(wishes);
+    QVERIFY(!screen.hasItsMonitor());
+    QTRY_COMPARE(screen.window().geometry(), QGuiApplication::primaryScreen()->geometry());
+}
+
+TREL_TEST(tst_PlayerScreen, QGuiApplication)
+#include "tst_PlayerScreen.moc"
