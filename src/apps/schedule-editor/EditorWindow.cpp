@@ -481,7 +481,10 @@ void EditorWindow::closeEvent(QCloseEvent* event)
         return;
     }
     m_editor.close();
-    event->accept();
+    // Where something keeps the editor open, a prompt in the middle of its own end for instance,
+    // this window stays too: with the editor alone, the program would not end and could not be
+    // left.
+    event->setAccepted(!m_editor.isVisible());
 }
 
 void EditorWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -14,6 +14,24 @@
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
 
+namespace {
+
+/// Keeps a window open, as what is answered in its own closing does.
+class RefusedClosing : public QObject
+{
+public:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        if (event->type() != QEvent::Close) {
+            return false;
+        }
+        event->ignore();
+        return true;
+    }
+};
+
+} // namespace
+
 /// The host's window around the editor: databases, languages, the catalogue and the way out.
 class tst_EditorWindow : public QObject
 {
@@ -35,6 +53,7 @@ private slots:
     void closingWithUnsavedChangesAsks();
     void closingWhileATimeIsTypedAsks();
     void closingWithoutChangesAsksNothing();
+    void closesWithItsEditorOnly();
 
 private:
     static QAction* action(const QWidget& window, const QString& text)
@@ -290,6 +309,25 @@ void tst_EditorWindow::closingWithoutChangesAsksNothing()
     fixture.window.close();
 
     QVERIFY(fixture.window.isHidden());
+}
+
+// The editor may be in the middle of its own end, or be kept open by something else: without its
+// window the program could not be left any more.
+void tst_EditorWindow::closesWithItsEditorOnly()
+{
+    HostFixture fixture;
+    fixture.showDemonstration();
+    fixture.window.show();
+    {
+        RefusedClosing refusal;
+        fixture.editor->installEventFilter(&refusal);
+        QVERIFY(!fixture.window.close());
+        QVERIFY(fixture.editor->isVisible());
+        QVERIFY(fixture.window.isVisible());
+    }
+    QVERIFY(fixture.window.close());
+    QVERIFY(!fixture.editor->isVisible());
+    QVERIFY(!fixture.window.isVisible());
 }
 
 TREL_TEST(tst_EditorWindow, QApplication)
