@@ -62,6 +62,20 @@ void makeHostileDatabase(const QString& path)
     host.close();
 }
 
+/// A day of plays of a millisecond each, every day of a month.
+void playMilliseconds(const CtlFixture& fixture)
+{
+    fixture.writeFile(QStringLiteral("clip.mp4"), "x");
+    ScheduleHost& host = ScheduleHost::instance();
+    QVERIFY(host.open(fixture.database()));
+    QVERIFY(host.addPrograms({{QStringLiteral("a"), fixture.path(QStringLiteral("clip.mp4")), 1.0,
+                               ProgramKind::Video}})
+                .store);
+    QVERIFY(
+        host.replaceSchedule({{1, januaryTask(1, {timePlan(1, "00:00:00", "23:59:59", "", 1)})}}));
+    host.close();
+}
+
 } // namespace
 
 /// What comes from elsewhere never reaches the terminal as a command to it.
@@ -78,6 +92,7 @@ private slots:
     void longNamesDoNotFillTheTerminal();
     void playsAreStreamed_data();
     void playsAreStreamed();
+    void lostOutputEndsEndlessPlays();
     void errorsAreHarmless_data();
     void errorsAreHarmless();
 };
@@ -164,6 +179,20 @@ void tst_CtlTerminal::longNamesDoNotFillTheTerminal()
     QVERIFY(!result.lines().isEmpty());
 }
 
+// They would go on for hours into a disk that is full.
+void tst_CtlTerminal::lostOutputEndsEndlessPlays()
+{
+    const CtlFixture fixture;
+    playMilliseconds(fixture);
+    QProcess process;
+    process.setStandardOutputFile(QStringLiteral("/dev/full"));
+    fixture.start(process, {QStringLiteral("timeline"), QStringLiteral("--plays"),
+                            QStringLiteral("--from"), QStringLiteral("2024-01-03"),
+                            QStringLiteral("--to"), QStringLiteral("2025-01-03")});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 1);
+}
+
 void tst_CtlTerminal::playsAreStreamed_data()
 {
     QTest::addColumn<QStringList>("more");
@@ -177,15 +206,7 @@ void tst_CtlTerminal::playsAreStreamed()
 {
     QFETCH(QStringList, more);
     const CtlFixture fixture;
-    fixture.writeFile(QStringLiteral("clip.mp4"), "x");
-    ScheduleHost& host = ScheduleHost::instance();
-    QVERIFY(host.open(fixture.database()));
-    QVERIFY(host.addPrograms({{QStringLiteral("a"), fixture.path(QStringLiteral("clip.mp4")), 1.0,
-                               ProgramKind::Video}})
-                .store);
-    QVERIFY(
-        host.replaceSchedule({{1, januaryTask(1, {timePlan(1, "00:00:00", "23:59:59", "", 1)})}}));
-    host.close();
+    playMilliseconds(fixture);
     QProcess process;
     fixture.start(process, QStringList{QStringLiteral("timeline"), QStringLiteral("--plays"),
                                        QStringLiteral("--from"), QStringLiteral("2024-01-03"),

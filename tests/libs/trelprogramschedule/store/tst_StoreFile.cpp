@@ -37,6 +37,7 @@ class tst_StoreFile : public QObject
 private slots:
     void stampsTellStatesOfAFileApart();
     void seesOthersAtTheLog();
+    void aNewStoreIsPrivate();
 };
 
 void tst_StoreFile::stampsTellStatesOfAFileApart()
@@ -90,6 +91,17 @@ void tst_StoreFile::seesOthersAtTheLog()
         QVERIFY(file.isLogInUse());
     }
     QVERIFY(!file.isLogInUse());
+}
+
+void tst_StoreFile::aNewStoreIsPrivate()
+{
+    const StoreFixture store;
+    for (const char* suffix : {"", "-wal", "-shm"}) {
+        struct stat status = {};
+        const QString path = store.path + QLatin1String(suffix);
+        QCOMPARE(::stat(QFile::encodeName(path).constData(), &status), 0);
+        QCOMPARE(status.st_mode & 0777U, mode_t(0600));
+    }
 }
 
 TREL_TEST(tst_StoreFile, QCoreApplication)
