@@ -25,6 +25,7 @@ private slots:
     void usersOwnDatabaseIsTheDefault();
     void lostOutputIsNoticed_data();
     void lostOutputIsNoticed();
+    void aLimitOfFileSizesIsToldLikeAFullDisk();
     void needsNoDesktop();
 
 private:
@@ -289,6 +290,23 @@ void tst_CtlUse::lostOutputIsNoticed()
     QCOMPARE(result.status, 1);
     QCOMPARE(result.err, QStringLiteral("schedulectl: The results could not all be written: No "
                                         "space left on device.\n"));
+}
+
+void tst_CtlUse::aLimitOfFileSizesIsToldLikeAFullDisk()
+{
+    const CtlFixture fixture;
+    fixture.store({});
+    QProcess process;
+    process.start(QStringLiteral("sh"),
+                  {QStringLiteral("-c"), QStringLiteral("ulimit -f 0; exec \"$0\" \"$@\""),
+                   QStringLiteral(SCHEDULECTL), QStringLiteral("export"),
+                   fixture.path(QStringLiteral("out.json")), QStringLiteral("--database"),
+                   fixture.database()});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY(process.readAllStandardError().startsWith("schedulectl: "));
+    QVERIFY(!QFile::exists(fixture.path(QStringLiteral("out.json"))));
 }
 
 void tst_CtlUse::needsNoDesktop()
