@@ -111,6 +111,7 @@ void tst_TextTable::durations_data()
     QTest::addColumn<double>("milliseconds");
     QTest::addColumn<QString>("text");
 
+    QTest::newRow("just below a minute") << 59999.0 << QStringLiteral("0:00:59.999");
     QTest::newRow("nothing") << 0.0 << QStringLiteral("0:00:00.000");
     QTest::newRow("rounded") << 1500.6 << QStringLiteral("0:00:01.501");
     QTest::newRow("minutes") << 90500.0 << QStringLiteral("0:01:30.500");
