@@ -1,0 +1,110 @@
+#pragma once
+
+#include "FrameRecord.h"
+#include "deck/PlayerDeck.h"
+#include "service/ScheduleRecords.h"
+#include "stage/SoftwareStage.h"
+#include "trelscreen/Conductor.h"
+#include "trelscreen/ScreenLog.h"
+
+#include <QString>
+#include <QTemporaryDir>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+/// The programs that a PlayedScreen plays: films of 0.4, 0.6, 1 and 2.4 seconds whose pictures tell
+/// which they are, an image and a sound of 0.7 seconds.
+enum PlayedProgram { Short = 1, Middle, Long, Longer, Still, Sound };
+
+/// Their files, made in a folder of their own.
+class PlayedPrograms
+{
+public:
+    using Catalogue = std::map<int, trel::mediadispatch::ProgramIten>;
+
+    PlayedPrograms();
+
+    /// False when a file could not be made.
+    bool areMade() const { return m_areMade; }
+    QString path(PlayedProgram program) const;
+    const std::shared_ptr<const Catalogue>& catalogue() const { return m_catalogue; }
+
+private:
+    QTemporaryDir m_folder;
+    std::shared_ptr<const Catalogue> m_catalogue;
+    bool m_areMade = true;
+};
+
+/// A plan in TimeMode.
+trel::mediadispatch::PlayPlan playedPlan(int id, const QTime& start, const QTime& end,
+                                         const std::vector<int>& programs);
+/// A schedule of one task that is valid on every day.
+std::map<int, trel::mediadispatch::PlayTask>
+playedTask(std::vector<trel::mediadispatch::PlayPlan> plans);
+/// Programs that play round and round, all day.
+std::map<int, trel::mediadispatch::PlayTask> playedAllDay(const std::vector<int>& programs);
+
+/// A screen of real decks that plays, and all that it showed, to be held against the timeline.
+class PlayedScreen
+{
+public:
+    using Instant = trel::mediadispatch::Instant;
+    using ScreenState = trel::mediadispatch::ScreenState;
+
+    /// A busy machine is late by less than that. Nothing that is wrong stands on a screen for
+    /// longer. Milliseconds.
+    static constexpr Instant kPatience = 300;
+
+    /// Plays from now on.
+    PlayedScreen(const QString& name, const std::map<int, trel::mediadispatch::PlayTask>& tasks,
+                 std::shared_ptr<const PlayedPrograms::Catalogue> catalogue);
+
+    /// Cuts a program in, to be played once.
+    void cutIn(PlayedProgram program, bool isDelayed);
+
+    /// All plays and pictures from one moment to another, each with the moment of its position as
+    /// the one since when it is.
+    std::vector<ScreenState> plays(Instant from, Instant to) const;
+    /// Why the picture is a wrong one; empty when it is right, or when a fault explains that there
+    /// was none.
+    QString fault(const RecordedFrame& frame) const;
+    /// Whether the picture stood on the screen soon after its beginning, or came later.
+    bool hasShown(const ScreenState& state) const;
+    /// Whether a fault about that moment explains that a picture was missing.
+    bool explains(Instant moment) const { return m_log.explains(moment); }
+
+    const QString& name() const { return m_name; }
+    const std::vector<RecordedFrame>& frames() const { return m_record.frames(); }
+    /// Forgets what has been looked at, so that a long run does not fill the memory.
+    void forgetFrames();
+    const trel::screen::Conductor& conductor() const { return m_conductor; }
+    const trel::screen::ScreenTally& tally() const { return m_conductor.tally(); }
+    qint64 droppedFrames() const { return m_first.droppedFrames() + m_second.droppedFrames(); }
+
+private:
+    class EventRecord : public trel::screen::ScreenLog
+    {
+    public:
+        void note(const trel::screen::ScreenEvent& event) override;
+        bool explains(Instant moment) const;
+
+    private:
+        std::vector<Instant> m_troubles;
+    };
+
+    static bool isStandBy(const RecordedFrame& frame);
+    static bool fits(const RecordedFrame& frame, const ScreenState& state);
+
+    const QString m_name;
+    trel::player::PlayerDeck m_first{true};
+    trel::player::PlayerDeck m_second{true};
+    FrameRecord m_record;
+    trel::player::SoftwareStage m_stage;
+    EventRecord m_log;
+    trel::screen::ScreenSchedule m_schedule;
+    /// What was cut in, by when it was.
+    std::map<Instant, trel::mediadispatch::ScreenInsertions> m_insertions;
+    trel::screen::Conductor m_conductor;
+};
