@@ -20,6 +20,8 @@ const QSize kSize(320, 180);
 /// The number in the stand-by picture.
 constexpr int kStandBy = 200;
 constexpr int kSoundLength = 700; // milliseconds
+/// What a fault explains at most, where its play goes on for longer; milliseconds.
+constexpr Instant kLongest = 5000;
 
 int framesOf(PlayedProgram program)
 {
@@ -127,14 +129,18 @@ void PlayedScreen::EventRecord::note(const ScreenEvent& event)
 {
     if (event.kind == ScreenEvent::Kind::Fault || event.kind == ScreenEvent::Kind::Late ||
         event.kind == ScreenEvent::Kind::Recovered) {
-        m_troubles.push_back(event.moment);
+        // A play that cannot be loaded is told of before its time, once for all that it lasts.
+        const ScreenState& state = event.play.state;
+        m_troubles.push_back(
+            {std::min(event.moment, state.since),
+             std::max(event.moment, std::min(state.until, event.moment + kLongest))});
     }
 }
 
 bool PlayedScreen::EventRecord::explains(Instant moment) const
 {
-    return std::any_of(m_troubles.rbegin(), m_troubles.rend(), [moment](Instant trouble) {
-        return std::abs(trouble - moment) <= 2 * kPatience;
+    return std::any_of(m_troubles.rbegin(), m_troubles.rend(), [moment](const Trouble& trouble) {
+        return moment >= trouble.from - 2 * kPatience && moment <= trouble.to + 2 * kPatience;
     });
 }
 

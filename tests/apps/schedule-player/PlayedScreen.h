@@ -91,7 +91,13 @@ private:
         bool explains(Instant moment) const;
 
     private:
-        std::vector<Instant> m_troubles;
+        struct Trouble
+        {
+            Instant from;
+            Instant to;
+        };
+
+        std::vector<Trouble> m_troubles;
     };
 
     static bool isStandBy(const RecordedFrame& frame);

@@ -1,0 +1,174 @@
+#include "BareSleeper.h"
+#include "FaultInjector.h"
+#include "PlayedScreen.h"
+#include "clock/Clock.h"
+
+#include <QCommandLineParser>
+#include <QFile>
+#include <QGuiApplication>
+#include <QTextStream>
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+/// What the screen shows at its very beginning is joined in the middle.
+constexpr Instant kBeginning = 1000; // milliseconds
+
+/// What the process has of the memory, in MiB.
+double residentMemory()
+{
+    QFile file(QStringLiteral("/proc/self/status"));
+    if (file.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& line : file.readAll().split('\n')) {
+            if (line.startsWith("VmRSS:")) {
+                return line.mid(6).trimmed().split(' ').first().toDouble() / 1024.0;
+            }
+        }
+    }
+    return 0.0;
+}
+
+/// Plays for some time, looks at every picture that reaches the screen, and counts.
+class Soak : public QObject
+{
+    Q_OBJECT
+
+public:
+    Soak(const PlayedPrograms& programs, Instant length, bool hasFaults, unsigned seed)
+        : m_from(Clock::current().msecsSinceEpoch())
+        , m_to(m_from + length)
+        , m_screen(QStringLiteral("soak"), playedAllDay({Short, Middle, Short, Long}),
+                   programs.catalogue())
+        , m_sleeper(moments())
+    {
+        if (hasFaults) {
+            m_faults = std::make_unique<FaultInjector>(programs, seed);
+        }
+        connect(&m_round, &QTimer::timeout, this, &Soak::look);
+        m_round.start(1000);
+    }
+
+    /// Nothing wrong has been on the screen.
+    bool isRight() const { return m_wrong == 0; }
+    void tell(QTextStream& out) const;
+
+signals:
+    void over();
+
+private:
+    /// When the picture changes by the timeline, but for the beginning.
+    std::vector<Instant> moments() const
+    {
+        std::vector<Instant> moments;
+        for (const ScreenState& state : m_screen.plays(m_from + kBeginning, m_to)) {
+            if (state.since > m_from + kBeginning) {
+                moments.push_back(state.since);
+            }
+        }
+        return moments;
+    }
+
+    void look()
+    {
+        for (const RecordedFrame& frame : m_screen.frames()) {
+            ++m_frames;
+            const QString fault =
+                frame.moment < m_from + kBeginning ? QString() : m_screen.fault(frame);
+            if (!fault.isEmpty()) {
+                ++m_wrong;
+                QTextStream(stderr)
+                    << "after " << frame.moment - m_from << " ms: " << fault << Qt::endl;
+            }
+        }
+        m_screen.forgetFrames();
+        const Instant now = Clock::current().msecsSinceEpoch();
+        if (m_memoryAtFirst <= 0.0 && now >= m_from + (m_to - m_from) / 10) {
+            m_memoryAtFirst = residentMemory();
+        }
+        if (now >= m_to) {
+            m_round.stop();
+            emit over();
+        }
+    }
+
+    const Instant m_from;
+    const Instant m_to;
+    PlayedScreen m_screen;
+    BareSleeper m_sleeper;
+    std::unique_ptr<FaultInjector> m_faults;
+    QTimer m_round;
+    qint64 m_frames = 0;
+    qint64 m_wrong = 0;
+    double m_memoryAtFirst = 0.0;
+};
+
+void Soak::tell(QTextStream& out) const
+{
+    const trel::screen::ScreenTally& tally = m_screen.tally();
+    const auto row = [&out](const char* what, const QString& figure) {
+        out << QString::fromLatin1(what).leftJustified(44) << figure << Qt::endl;
+    };
+    const auto number = [](auto value) { return QString::number(value); };
+    row("switches", number(tally.switches()));
+    row("lateness in the middle, ms", number(tally.lateness(50)));
+    row("  of a thread that only sleeps", number(m_sleeper.lateness(50)));
+    row("lateness of 99 %, ms", number(tally.lateness(99)));
+    row("  of a thread that only sleeps", number(m_sleeper.lateness(99)));
+    row("worst lateness, ms", number(tally.worstLateness()));
+    row("  of a thread that only sleeps", number(m_sleeper.lateness(100)));
+    row("not ready at their moment", number(tally.lates()));
+    row("pictures on the screen", number(m_frames));
+    row("  wrong, stale or black between two plays", number(m_wrong));
+    row("  dropped", number(m_screen.droppedFrames()));
+    row("corrections by speed", number(tally.speedCorrections()));
+    row("corrections by a seek", number(tally.seeks()));
+    row("faults made", number(m_faults ? m_faults->made() : 0));
+    row("faults met", number(tally.faults()));
+    row("longest time off the timeline, ms", number(m_screen.conductor().longestOff()));
+    row("memory after a tenth of the time, MiB", QString::number(m_memoryAtFirst, 'f', 1));
+    row("memory at the end, MiB", QString::number(residentMemory(), 'f', 1));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QGuiApplication application(argc, argv);
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Plays a schedule of short programs, holds every picture on the screen against "
+        "it, and prints a table."));
+    parser.addHelpOption();
+    const QCommandLineOption minutes(QStringLiteral("minutes"), QStringLiteral("How long."),
+                                     QStringLiteral("N"), QStringLiteral("10"));
+    const QCommandLineOption faults(QStringLiteral("faults"),
+                                    QStringLiteral("Breaks files while they are in use."));
+    const QCommandLineOption seed(QStringLiteral("seed"), QStringLiteral("Which faults."),
+                                  QStringLiteral("S"), QStringLiteral("1"));
+    parser.addOptions({minutes, faults, seed});
+    parser.process(application);
+    bool isNumber = false;
+    const double length = parser.value(minutes).toDouble(&isNumber);
+    QTextStream out(stdout);
+    if (!isNumber || length <= 0.0 || length > 100000.0) {
+        QTextStream(stderr) << "--minutes takes a number above 0." << Qt::endl;
+        return 2;
+    }
+    const PlayedPrograms programs;
+    if (!programs.areMade()) {
+        QTextStream(stderr) << "The clips cannot be made." << Qt::endl;
+        return 1;
+    }
+    Soak soak(programs, static_cast<Instant>(length * 60000.0), parser.isSet(faults),
+              parser.value(seed).toUInt());
+    QObject::connect(&soak, &Soak::over, &application, &QCoreApplication::quit);
+    QCoreApplication::exec();
+    soak.tell(out);
+    return soak.isRight() ? 0 : 1;
+}
+
+#include "SoakMain.moc"
