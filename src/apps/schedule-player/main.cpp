@@ -4,6 +4,7 @@
 #include "common/DefaultDatabase.h"
 #include "common/StopSignals.h"
 #include "media/PictureRequest.h"
+#include "system/FewArenas.h"
 #include "system/ScreenLock.h"
 
 #include <QFileInfo>
@@ -104,6 +105,7 @@ int play(const PlayerOptions& options)
 
 int main(int argc, char** argv)
 {
+    keepToFewArenas();
     const PlayerOptionsResult read = readOptions(argc, argv);
     if (read.next != PlayerOptionsResult::Next::Start) {
         const bool misuse = read.next == PlayerOptionsResult::Next::Misuse;

@@ -2,6 +2,7 @@
 #include "FaultInjector.h"
 #include "PlayedScreen.h"
 #include "clock/Clock.h"
+#include "system/FewArenas.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -137,6 +138,7 @@ void Soak::tell(QTextStream& out) const
 
 int main(int argc, char** argv)
 {
+    trel::player::keepToFewArenas();
     QGuiApplication application(argc, argv);
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
