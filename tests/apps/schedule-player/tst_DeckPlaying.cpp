@@ -83,19 +83,19 @@ void tst_DeckPlaying::showsTheLoadedPosition_data()
     QTest::addColumn<qint64>("position");
     QTest::addColumn<int>("frame");
     for (const char* name : {"one.mp4", "two.mp4"}) {
-        const auto row = [name](const char* what) {
-            return qPrintable(
-                QString::fromLatin1("%1, %2").arg(QLatin1String(name), QLatin1String(what)));
-        };
-        QTest::newRow(row("at the beginning of a picture"))
+        const auto row = [name](const char* what) { return QByteArray(name) + ", " + what; };
+        QTest::newRow(row("at the beginning of a picture").constData())
             << QString::fromLatin1(name) << qint64(1000) << 25;
-        QTest::newRow(row("just before the next"))
+        QTest::newRow(row("just before the next").constData())
             << QString::fromLatin1(name) << qint64(1038) << 25;
-        QTest::newRow(row("in the middle of a picture"))
+        QTest::newRow(row("in the middle of a picture").constData())
             << QString::fromLatin1(name) << qint64(2020) << 50;
-        QTest::newRow(row("the last")) << QString::fromLatin1(name) << qint64(3990) << 99;
-        QTest::newRow(row("at the end")) << QString::fromLatin1(name) << qint64(4000) << 99;
-        QTest::newRow(row("beyond the end")) << QString::fromLatin1(name) << qint64(9000) << 99;
+        QTest::newRow(row("the last").constData())
+            << QString::fromLatin1(name) << qint64(3990) << 99;
+        QTest::newRow(row("at the end").constData())
+            << QString::fromLatin1(name) << qint64(4000) << 99;
+        QTest::newRow(row("beyond the end").constData())
+            << QString::fromLatin1(name) << qint64(9000) << 99;
     }
 }
 

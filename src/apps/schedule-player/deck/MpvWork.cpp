@@ -70,13 +70,13 @@ std::int64_t readFile(void* file, char* room, std::uint64_t count)
 
 std::int64_t seekFile(void* file, std::int64_t place)
 {
-    return static_cast<PlayedFile*>(file)->seek(place) ? place : MPV_ERROR_GENERIC;
+    return static_cast<PlayedFile*>(file)->seek(place) ? place : std::int64_t{MPV_ERROR_GENERIC};
 }
 
 std::int64_t sizeOfFile(void* file)
 {
     const std::int64_t size = static_cast<PlayedFile*>(file)->size();
-    return size < 0 ? MPV_ERROR_UNSUPPORTED : size;
+    return size < 0 ? std::int64_t{MPV_ERROR_UNSUPPORTED} : size;
 }
 
 /// The file belongs to the playback.
