@@ -5,6 +5,8 @@
 #include <cmath>
 #include <utility>
 
+#include <algorithm>
+
 using namespace trel::mediadispatch;
 using namespace trel::screen;
 
@@ -26,7 +28,7 @@ quint64 RecordedDeck::load(const DeckLoad& load)
     m_isPlaying = false;
     m_isStalled = false;
     m_hasEnded = false;
-    m_position = static_cast<double>(load.position);
+    m_position = static_cast<double>(std::min(load.position, m_mediaLength));
     m_since = now();
     m_soughtUntil = 0;
     tell(QStringLiteral("load %1 at %2%3")

@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 
 #include <functional>
+#include <limits>
 #include <memory>
 #include <optional>
 
@@ -48,6 +49,8 @@ public:
     /// How long each load takes in milliseconds; nothing to have the test tell.
     void setReadyAfter(std::optional<qint64> milliseconds) { m_readyAfter = milliseconds; }
     void setTrouble(Trouble trouble) { m_trouble = std::move(trouble); }
+    /// Where whatever is loaded ends, before the place that was asked for perhaps.
+    void setMediaLength(qint64 milliseconds) { m_mediaLength = milliseconds; }
     void setSeekTakes(qint64 milliseconds) { m_seekTakes = milliseconds; }
 
     void tellReady();
@@ -69,6 +72,7 @@ private:
     Tell m_tell;
     Trouble m_trouble;
     std::optional<qint64> m_readyAfter;
+    qint64 m_mediaLength = std::numeric_limits<qint64>::max();
     qint64 m_seekTakes = 0;
     std::unique_ptr<trel::mediadispatch::ClockAlarm> m_alarm;
     QElapsedTimer m_timer;

@@ -3,7 +3,6 @@
 #include "PlayerStatusWriter.h"
 #include "clock/Clock.h"
 #include "common/DisplayText.h"
-#include "log/LogWriter.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 #include "trelscreen/ScheduleFeed.h"
 
@@ -25,7 +24,7 @@ namespace {
 constexpr auto kRound = 10s;
 constexpr auto kChange = 1s;
 /// How long the thread may take to end. The whole program has a second.
-constexpr auto kFarewell = 500ms;
+constexpr auto kFarewell = 250ms;
 
 QString thisPlayer()
 {
@@ -60,14 +59,13 @@ Player::Player(const QString& store, const QString& screen, Stage& stage, Deck& 
     , m_started(Clock::current().msecsSinceEpoch())
     , m_conductor(stage, first, second, m_log)
     , m_feed(std::make_unique<ScheduleFeed>(store))
-    , m_logWriter(std::make_unique<LogWriter>())
     , m_statusWriter(std::make_unique<PlayerStatusWriter>(store))
 {
     qRegisterMetaType<PlayerStatus>();
     m_feed->moveToThread(&m_thread);
-    m_logWriter->moveToThread(&m_thread);
     m_statusWriter->moveToThread(&m_thread);
-    connect(&m_log, &PlayerLog::line, m_logWriter.get(), &LogWriter::write);
+    connect(&m_log, &PlayerLog::line, this,
+            [this](const QString& line) { m_logWriter.write(line); });
     connect(this, &Player::statusDue, m_statusWriter.get(), &PlayerStatusWriter::write);
     connect(m_statusWriter.get(), &PlayerStatusWriter::failed, this, [this](const QString& reason) {
         m_log.tell(

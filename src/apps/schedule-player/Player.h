@@ -1,5 +1,6 @@
 #pragma once
 
+#include "log/LogWriter.h"
 #include "log/PlayerLog.h"
 #include "system/ServiceManager.h"
 #include "trelprogramschedule/screens/PlayerStatus.h"
@@ -20,14 +21,13 @@ class Stage;
 
 namespace trel::player {
 
-class LogWriter;
 class PlayerStatusWriter;
 
 /// Has on a stage what a store says is in effect, from construction to its end, writes what happens
 /// to the standard error, and tells those who ask how it is.
 ///
-/// The store, the log and the status are read and written in a thread of their own, so that no disk
-/// holds up a picture.
+/// The store and the status are read and written in a thread of their own, and the log in another,
+/// so that neither a disk nor a reader of the log holds up a picture or each other.
 class Player : public QObject
 {
     Q_OBJECT
@@ -37,8 +37,8 @@ public:
     /// be one player in a process.
     Player(const QString& store, const QString& screen, screen::Stage& stage, screen::Deck& first,
            screen::Deck& second);
-    /// Waits half a second for the thread; the process ends at once where a disk holds it up for
-    /// longer.
+    /// Waits a quarter of a second for the thread; the process ends at once where a disk holds it
+    /// up for longer.
     ~Player() override;
 
     const screen::Conductor& conductor() const { return m_conductor; }
@@ -59,6 +59,7 @@ private:
     const QString m_store;
     const QString m_screen;
     const mediadispatch::Instant m_started;
+    LogWriter m_logWriter;
     PlayerLog m_log;
     screen::Conductor m_conductor;
     ServiceManager m_manager;
@@ -66,8 +67,7 @@ private:
     QTimer m_round;  ///< Since the status was told last.
     QTimer m_change; ///< Until a change is told.
 
-    std::unique_ptr<screen::ScheduleFeed> m_feed; ///< In the thread, as the two below.
-    std::unique_ptr<LogWriter> m_logWriter;
+    std::unique_ptr<screen::ScheduleFeed> m_feed; ///< In the thread, as the one below.
     std::unique_ptr<PlayerStatusWriter> m_statusWriter;
     QThread m_thread;
 };

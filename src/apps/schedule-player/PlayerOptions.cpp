@@ -90,6 +90,9 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
     if (parser.isSet(window) && parser.isSet(fullScreen)) {
         return misuse(QStringLiteral("It is either --window or --full-screen."));
     }
+    if (parser.isSet(window) && parser.isSet(monitor)) {
+        return misuse(QStringLiteral("--on goes with --full-screen; a window can be moved."));
+    }
     bool isNumber = false;
     const int turned = parser.value(rotate).toInt(&isNumber);
     if (!isNumber || turned < 0 || turned > 270 || turned % 90 != 0) {

@@ -12,6 +12,7 @@
 #include <QTextStream>
 
 #include <atomic>
+#include <csignal>
 #include <cstdio>
 
 using namespace trel::player;
@@ -106,6 +107,8 @@ int play(const PlayerOptions& options)
 int main(int argc, char** argv)
 {
     keepToFewArenas();
+    // A log whose reader has gone is no reason to go dark.
+    std::signal(SIGPIPE, SIG_IGN);
     const PlayerOptionsResult read = readOptions(argc, argv);
     if (read.next != PlayerOptionsResult::Next::Start) {
         const bool misuse = read.next == PlayerOptionsResult::Next::Misuse;

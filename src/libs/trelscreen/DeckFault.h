@@ -17,7 +17,7 @@ enum class DeckTrouble {
     BrokeOff,    ///< It was over before its time: the file is cut short, or the stream has ended.
 };
 
-/// A trouble with the words of whoever found it, for the log.
+/// A trouble with the words of what found it, for the log.
 struct DeckFault
 {
     DeckTrouble trouble = DeckTrouble::None;

@@ -6,9 +6,10 @@ namespace trel::screen {
 
 namespace {
 
-/// How long a file may take to be ready, and a stream, which answers soon or not at all.
+/// How long a file may take to be ready, and a stream, of which the deck itself tells sooner when
+/// it does not answer.
 constexpr qint64 kFileDeadline = 10'000;
-constexpr qint64 kStreamDeadline = 5000;
+constexpr qint64 kStreamDeadline = 15'000;
 /// How long the position may stand still, and how often it has to be seen to do so: a program that
 /// was held up itself knows nothing of the deck.
 constexpr qint64 kStillAllowed = 1000;
@@ -105,6 +106,17 @@ void DeckSlot::setSpeed(double speed)
     }
 }
 
+/// Its end lies before the place that was asked for: the deck stands on the last picture, which
+/// would be over as soon as it was started.
+bool DeckSlot::isCutShort() const
+{
+    if (m_state != State::Ready || !m_play.isPlaying() || !m_play.hasPosition()) {
+        return false;
+    }
+    const std::optional<qint64> position = m_deck.position();
+    return position && *position < m_play.positionAt(m_startsAt) - kShortfall;
+}
+
 DeckFault DeckSlot::trouble(Instant now, Instant until, qint64 steady) const
 {
     if (m_state == State::Failed) {
@@ -114,7 +126,9 @@ DeckFault DeckSlot::trouble(Instant now, Instant until, qint64 steady) const
         return stalled("not ready in time");
     }
     if (!m_isStarted) {
-        return {};
+        return isCutShort()
+                   ? DeckFault{DeckTrouble::BrokeOff, QStringLiteral("shorter than it was")}
+                   : DeckFault();
     }
     if (m_hasEnded) {
         return until - now > kShortfall

@@ -55,6 +55,8 @@ signals:
     void changed();
 
 private:
+    bool isCutShort() const;
+
     enum class State { Empty, Loading, Ready, Failed };
 
     Deck& m_deck;

@@ -36,7 +36,7 @@ struct ScreenPlay
         return !isBlack() && kind != mediadispatch::ProgramKind::Image &&
                kind != mediadispatch::ProgramKind::Live;
     }
-    /// It lasts for less than a frame, and nobody could see it.
+    /// It lasts for less than a frame, and could not be seen.
     bool isTooShort() const;
 
     /// How far into the program an instant of this play lies, or where it stopped; milliseconds.

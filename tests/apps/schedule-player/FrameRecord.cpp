@@ -1,5 +1,8 @@
 #include "FrameRecord.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "stage/ScreenShape.h"
 
 namespace {
@@ -32,4 +35,14 @@ void FrameRecord::frame(const QImage& picture, trel::mediadispatch::Instant mome
         taken.content = RecordedFrame::Content::Black;
     }
     m_frames.push_back(taken);
+}
+
+void FrameRecord::forgetBefore(trel::mediadispatch::Instant moment)
+{
+    const auto first =
+        std::find_if(m_frames.begin(), m_frames.end(),
+                     [moment](const RecordedFrame& frame) { return frame.moment >= moment; });
+    if (first != m_frames.begin()) {
+        m_frames.erase(m_frames.begin(), std::prev(first));
+    }
 }

@@ -41,6 +41,8 @@ public:
     const QImage& lastPicture() const { return m_lastPicture; }
     qint64 elapsed() const { return m_timer.nsecsElapsed(); }
     void clear() { m_frames.clear(); }
+    /// Keeps what came from that moment on, and the one before.
+    void forgetBefore(trel::mediadispatch::Instant moment);
 
 private:
     QElapsedTimer m_timer;

@@ -219,11 +219,6 @@ bool PlayedScreen::hasShown(const ScreenState& state) const
     return std::any_of(first, over, [&](const RecordedFrame& frame) { return fits(frame, state); });
 }
 
-void PlayedScreen::forgetFrames()
-{
-    m_record.clear();
-}
-
 bool PlayedScreen::isStandBy(const RecordedFrame& frame)
 {
     return frame.content == RecordedFrame::Content::Clip && frame.mark.program == kStandBy;

@@ -77,8 +77,9 @@ public:
 
     const QString& name() const { return m_name; }
     const std::vector<RecordedFrame>& frames() const { return m_record.frames(); }
-    /// Forgets what has been looked at, so that a long run does not fill the memory.
-    void forgetFrames();
+    /// Forgets what was on the screen before that moment, so that a long run does not fill the
+    /// memory; what stood there at the moment stays.
+    void forgetFramesBefore(Instant moment) { m_record.forgetBefore(moment); }
     const trel::screen::Conductor& conductor() const { return m_conductor; }
     const trel::screen::ScreenTally& tally() const { return m_conductor.tally(); }
     qint64 droppedFrames() const { return m_first.droppedFrames() + m_second.droppedFrames(); }

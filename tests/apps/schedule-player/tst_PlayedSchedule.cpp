@@ -90,6 +90,7 @@ void tst_PlayedSchedule::everyPictureIsTheRightOne()
     QTRY_VERIFY_WITH_TIMEOUT(clock.msecsSinceEpoch() >= to, 2 * kRun * 1000);
 
     qint64 switches = 0;
+    qint64 lates = 0;
     for (const std::unique_ptr<PlayedScreen>& screen : screens) {
         const qint64 second = 1000;
         for (const RecordedFrame& frame : screen->frames()) {
@@ -112,12 +113,15 @@ void tst_PlayedSchedule::everyPictureIsTheRightOne()
         }
         switches += screen->tally().switches();
         QCOMPARE(screen->tally().faults(), 0);
+        lates += screen->tally().lates();
         qInfo("%s: %lld switches, lateness %lld in the middle and %lld ms at worst, %lld late, "
               "%lld faults",
               qPrintable(screen->name()), screen->tally().switches(), screen->tally().lateness(50),
               screen->tally().worstLateness(), screen->tally().lates(), screen->tally().faults());
     }
     QVERIFY2(switches > 50, qPrintable(QString::number(switches)));
+    // A busy machine may miss one now and then.
+    QVERIFY2(10 * lates <= switches, qPrintable(QString::number(lates)));
 }
 
 TREL_TEST(tst_PlayedSchedule, QGuiApplication)

@@ -46,18 +46,18 @@ void tst_PlayerOptions::everythingSaid()
 {
     const PlayerOptionsResult result =
         read({QStringLiteral("--database"), QStringLiteral("a.db"), QStringLiteral("--screen"),
-              QStringLiteral("大厅"), QStringLiteral("--window"), QStringLiteral("--on"),
+              QStringLiteral("大厅"), QStringLiteral("--full-screen"), QStringLiteral("--on"),
               QStringLiteral("HDMI-1"), QStringLiteral("--mute"), QStringLiteral("--standby"),
               QStringLiteral("a.png"), QStringLiteral("--rotate"), QStringLiteral("270")});
     QCOMPARE(result.next, Next::Start);
     QCOMPARE(result.options.database, QStringLiteral("a.db"));
     QCOMPARE(result.options.screen, QStringLiteral("大厅"));
-    QVERIFY(result.options.inWindow);
+    QVERIFY(!result.options.inWindow);
     QCOMPARE(result.options.monitor, QStringLiteral("HDMI-1"));
     QVERIFY(result.options.isMute);
     QCOMPARE(result.options.standBy, QStringLiteral("a.png"));
     QCOMPARE(result.options.turned, 270);
-    QVERIFY(!read({QStringLiteral("--full-screen")}).options.inWindow);
+    QVERIFY(read({QStringLiteral("--window")}).options.inWindow);
 }
 
 void tst_PlayerOptions::helpAndVersion()
@@ -85,6 +85,9 @@ void tst_PlayerOptions::misuse_data()
     row("argument", {QStringLiteral("film.mp4")}, "What is \"film.mp4\"?");
     row("window and full screen", {QStringLiteral("--window"), QStringLiteral("--full-screen")},
         "either --window or --full-screen");
+    row("window on a monitor",
+        {QStringLiteral("--window"), QStringLiteral("--on"), QStringLiteral("2")},
+        "--on goes with --full-screen");
     row("turned by 45", {QStringLiteral("--rotate"), QStringLiteral("45")}, "not \"45\"");
     row("turned by 360", {QStringLiteral("--rotate"), QStringLiteral("360")}, "not \"360\"");
     row("turned back", {QStringLiteral("--rotate=-90")}, "not \"-90\"");

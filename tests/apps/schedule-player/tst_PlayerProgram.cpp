@@ -20,6 +20,7 @@ private slots:
     void aStoreThatComesLater();
     void aSecondPlayerForTheScreen();
     void endsWithinASecond();
+    void playsOnWithoutAReaderOfItsLog();
     void comesBackAfterAKill();
     void tellsTheManagerOfServices();
     void aStoreThatIsTakenAway();
@@ -198,6 +199,19 @@ void tst_PlayerProgram::endsWithinASecond()
     QCOMPARE(player.process().exitCode(), 0);
     QVERIFY(player.log().endsWith(QStringLiteral("  ends\n")));
     QVERIFY(screenOf(fixture).isEmpty());
+}
+
+void tst_PlayerProgram::playsOnWithoutAReaderOfItsLog()
+{
+    const Fixture fixture;
+    PlayerProcess player(fixture);
+    QTRY_COMPARE_WITH_TIMEOUT(shownBy(fixture), QStringLiteral("film1"), kPatience);
+    player.process().closeReadChannel(QProcess::StandardError);
+    fixture.ctl({QStringLiteral("insert"), QStringLiteral("2")});
+    QTRY_COMPARE_WITH_TIMEOUT(shownBy(fixture), QStringLiteral("film2"), kPatience);
+    fixture.ctl({QStringLiteral("stop")});
+    QTRY_COMPARE_WITH_TIMEOUT(shownBy(fixture), QString(), kPatience);
+    QCOMPARE(player.process().state(), QProcess::Running);
 }
 
 void tst_PlayerProgram::comesBackAfterAKill()

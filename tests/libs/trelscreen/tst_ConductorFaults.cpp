@@ -213,7 +213,7 @@ private slots:
     {
         QTest::addColumn<char>("program");
         QTest::addColumn<qint64>("deadline");
-        QTest::newRow("stream") << 'L' << qint64(5000);
+        QTest::newRow("stream") << 'L' << qint64(15'000);
         QTest::newRow("file") << 'H' << qint64(10'000);
     }
     void givesUpALoadThatNeverEnds()
@@ -325,6 +325,26 @@ private slots:
         const QStringList told = screen.log.take();
         QCOMPARE(told.count(QStringLiteral("fault H broke off")), 1);
         QVERIFY(told.filter(QStringLiteral("recovered")).isEmpty());
+    }
+
+    /// What is left of the file ends before the place that the schedule has come to: it is not put
+    /// on the stage to be over at once, again and again.
+    void leavesOutWhatHasBeenCutShort()
+    {
+        ScreenFixture screen("08:10:00", 10);
+        screen.one.setMediaLength(60'000);
+        screen.two.setMediaLength(60'000);
+        screen.follow("08:00:00-09:00:00 H");
+        screen.advance(20'000);
+        QCOMPARE(screen.conductor.tally().faults(DeckTrouble::BrokeOff), 1);
+        QVERIFY(screen.log.take().filter(QStringLiteral("shown")).isEmpty());
+        QVERIFY(screen.takeCalls().filter(QStringLiteral("play")).isEmpty());
+        QCOMPARE(screen.picture(), QStringLiteral("stand-by"));
+        QVERIFY(screen.conductor.longestOff() >= 20'000);
+        screen.one.setMediaLength(3'600'000);
+        screen.two.setMediaLength(3'600'000);
+        screen.advance(2000);
+        QVERIFY(screen.conductor.status().isOnTimeline);
     }
 
     void isInTimeWhereItWasMendedBefore()

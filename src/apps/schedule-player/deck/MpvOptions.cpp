@@ -76,7 +76,8 @@ void addPlaying(std::vector<MpvOption>& options)
          {"audio-display", "no"},
          // A breath of speed is to be heard as little as it is seen: no filter comes or goes.
          {"audio-pitch-correction", "no"},
-         // The end is where the last sound has been heard, and not where it was handed to the device.
+         // The end is where the last sound has been heard, and not where it was handed to the
+         // device.
          {"gapless-audio", "no"},
          // What only sounds goes on in time where there is no device.
          {"audio-fallback-to-null", "yes"},

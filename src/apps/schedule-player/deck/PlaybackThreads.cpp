@@ -2,6 +2,7 @@
 
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -10,7 +11,9 @@ namespace trel::player {
 namespace {
 
 /// A player that is told to end has a second for all.
-constexpr std::chrono::milliseconds kPatience{350};
+constexpr std::chrono::milliseconds kPatience{300};
+/// Two programs and their successors take a handful; all others hang.
+constexpr int kMostThreads = 16;
 
 } // namespace
 
@@ -34,16 +37,26 @@ void PlaybackThreads::start(std::function<void()> function)
 {
     {
         const std::lock_guard lock(m_count->mutex);
+        if (m_count->running >= kMostThreads) {
+            return;
+        }
         ++m_count->running;
     }
-    std::thread([function = std::move(function), count = m_count]() mutable {
-        function();
-        // What the function holds goes first, as it is what is waited for.
-        function = nullptr;
+    const auto over = [count = m_count] {
         const std::lock_guard lock(count->mutex);
         --count->running;
         count->changed.notify_all();
-    }).detach();
+    };
+    try {
+        std::thread([function = std::move(function), over]() mutable {
+            function();
+            // What the function holds goes first, as it is what is waited for.
+            function = nullptr;
+            over();
+        }).detach();
+    } catch (const std::system_error&) {
+        over();
+    }
 }
 
 bool PlaybackThreads::wait(std::chrono::milliseconds patience) const

@@ -19,7 +19,10 @@ public:
     ~PlaybackThreads();
     Q_DISABLE_COPY(PlaybackThreads)
 
-    /// Runs the function in a thread of its own. What it uses has to be its own as well.
+    /// Runs the function in a thread of its own. What it uses has to be its own as well. Where
+    /// sixteen threads hang already, or the system has none left, it is not run: a disk that does
+    /// not answer for days must not use up the machine. A load that was to be read so never gets
+    /// ready, and is given up and tried again like any other.
     void start(std::function<void()> function);
     /// Whether all have ended by then.
     bool wait(std::chrono::milliseconds patience) const;

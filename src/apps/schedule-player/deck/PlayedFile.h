@@ -8,9 +8,10 @@
 
 namespace trel::player {
 
-/// A media file, open for reading, and read through its descriptor alone: whoever plays it knows no
-/// name beside which other files could stand. Only a regular file is opened; a device, a pipe and a
-/// socket may keep a reader waiting for ever, and some do something when they are opened.
+/// A media file, open for reading, and read through its descriptor alone: the library that plays it
+/// knows no name beside which other files could stand. Only a regular file is opened; a device, a
+/// pipe and a socket may keep a reader waiting for ever, and some do something when they are
+/// opened.
 ///
 /// Goes on to be read where its name is taken away, and to its new end where it grows.
 class PlayedFile

@@ -15,7 +15,7 @@ public:
     void finish() override {}
 
 private:
-    /// A picture of that size to draw on, which nobody else looks at.
+    /// A picture of that size to draw on, which is not looked at elsewhere.
     QImage& blank(const QSize& size);
 
     std::array<QImage, 3> m_pool; ///< One is drawn on, one is out, one is on its way to the screen.

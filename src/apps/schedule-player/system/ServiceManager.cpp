@@ -11,7 +11,7 @@ namespace {
 
 void notify(const char* state)
 {
-    // Without a manager there is nobody to tell, and a manager that cannot be told finds out.
+    // Nothing is lost without a manager, and a manager that cannot be told finds out.
     static_cast<void>(sd_notify(0, state));
 }
 

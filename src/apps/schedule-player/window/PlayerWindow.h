@@ -7,7 +7,7 @@
 namespace trel::player {
 
 /// A window that shows the pictures of a stage, dot by dot, with no pointer above them. It does not
-/// close: whoever asks for it is told, and what becomes of it is for the program to say.
+/// close: a request is told, and what becomes of it is for the program to say.
 class PlayerWindow : public QWindow, public FrameSink
 {
     Q_OBJECT

@@ -28,7 +28,7 @@ QString programName()
     return QStringLiteral("schedule-player");
 }
 
-/// Nobody is started just to be told.
+/// No service is started just to be told.
 QDBusPendingCall askQuietly(const QDBusConnection& bus, QDBusMessage call)
 {
     call.setAutoStartService(false);

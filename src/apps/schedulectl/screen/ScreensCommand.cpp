@@ -43,8 +43,7 @@ QString shownText(const PlayerStatus& status)
         shown = QStringLiteral("last frame of %1").arg(name);
         break;
     }
-    return status.isStandIn ? QStringLiteral("stand-by picture, as it cannot show: %1").arg(shown)
-                            : shown;
+    return status.isStandIn ? QStringLiteral("has no picture for: %1").arg(shown) : shown;
 }
 
 QString heardText(const PlayerStatus& status, Instant now, const MomentFormat& local)

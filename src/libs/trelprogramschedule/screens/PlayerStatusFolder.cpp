@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
@@ -208,8 +209,13 @@ QString PlayerStatusFolder::lockPath(const QString& screen) const
 Fault PlayerStatusFolder::write(const PlayerStatus& status) const
 {
     QDir().mkpath(m_folder);
+    const QString path = statusPath(status.screen);
+    if (QFileInfo(path).isSymLink()) {
+        // What it leads to would be written in its stead.
+        QFile::remove(path);
+    }
     errno = 0;
-    QSaveFile file(statusPath(status.screen));
+    QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly)) {
         file.write(bytesOf(status));
         if (file.commit()) {

@@ -53,8 +53,9 @@ public:
         m_round.start(1000);
     }
 
-    /// Nothing wrong has been on the screen.
-    bool isRight() const { return m_wrong == 0; }
+    /// Nothing wrong has been on the screen and, where no faults were made, everything came in
+    /// time.
+    bool isRight() const { return m_wrong == 0 && (m_faults || isPunctual()); }
     void tell(QTextStream& out) const;
 
 signals:
@@ -73,20 +74,26 @@ private:
         return moments;
     }
 
+    /// Looks at what has come since the last time, and at what should have. A picture that stands
+    /// tells nothing by itself.
     void look()
     {
+        const Instant now = Clock::current().msecsSinceEpoch();
         for (const RecordedFrame& frame : m_screen.frames()) {
-            ++m_frames;
-            const QString fault =
-                frame.moment < m_from + kBeginning ? QString() : m_screen.fault(frame);
-            if (!fault.isEmpty()) {
-                ++m_wrong;
-                QTextStream(stderr)
-                    << "after " << frame.moment - m_from << " ms: " << fault << Qt::endl;
+            if (frame.moment >= m_judged && frame.moment < now) {
+                ++m_frames;
+                judge(frame);
             }
         }
-        m_screen.forgetFrames();
-        const Instant now = Clock::current().msecsSinceEpoch();
+        const Instant from = std::max(m_judged, m_from + 2 * kBeginning) - kBeginning;
+        for (const ScreenState& state : m_screen.plays(from, now - kBeginning)) {
+            if (!m_screen.hasShown(state) && !m_screen.explains(state.since)) {
+                tellWrong(state.since,
+                          QStringLiteral("program %1 did not come").arg(state.progIndex));
+            }
+        }
+        m_judged = now;
+        m_screen.forgetFramesBefore(now - 5 * kBeginning);
         if (m_memoryAtFirst <= 0.0 && now >= m_from + (m_to - m_from) / 10) {
             m_memoryAtFirst = residentMemory();
         }
@@ -94,6 +101,29 @@ private:
             m_round.stop();
             emit over();
         }
+    }
+
+    void judge(const RecordedFrame& frame)
+    {
+        const QString fault =
+            frame.moment < m_from + kBeginning ? QString() : m_screen.fault(frame);
+        if (!fault.isEmpty()) {
+            tellWrong(frame.moment, fault);
+        }
+    }
+
+    void tellWrong(Instant moment, const QString& what)
+    {
+        ++m_wrong;
+        QTextStream(stderr) << "after " << moment - m_from << " ms: " << what << Qt::endl;
+    }
+
+    /// What the player adds to what the machine allows.
+    bool isPunctual() const
+    {
+        const trel::screen::ScreenTally& tally = m_screen.tally();
+        return tally.lates() == 0 && tally.lateness(50) <= m_sleeper.lateness(50) + 2 &&
+               tally.worstLateness() <= m_sleeper.lateness(100) + trel::screen::kFrame;
     }
 
     const Instant m_from;
@@ -104,6 +134,7 @@ private:
     QTimer m_round;
     qint64 m_frames = 0;
     qint64 m_wrong = 0;
+    Instant m_judged = 0; ///< What came before has been looked at.
     double m_memoryAtFirst = 0.0;
 };
 

@@ -28,6 +28,7 @@ private slots:
     void whatIsNoFileIsLeftOut();
     void longWordsAreCut();
     void aFolderThatCannotBeMade();
+    void aLinkIsNotFollowed();
     void aScreenThatEnds();
 };
 
@@ -230,6 +231,20 @@ void tst_PlayerStatusFolder::aFolderThatCannotBeMade()
     QCOMPARE(fault.code, FaultCode::System);
     QCOMPARE(fault.number(0), ENOTDIR);
     QVERIFY(fixture.folder.read().empty());
+}
+
+void tst_PlayerStatusFolder::aLinkIsNotFollowed()
+{
+    const Fixture fixture;
+    QVERIFY(!fixture.folder.write(fullStatus(QStringLiteral("bar"))));
+    const QString victim = fixture.path(QStringLiteral("victim"));
+    QFile file(victim);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    QVERIFY(QFile::link(victim, fixture.screens() + QStringLiteral("/lobby.json")));
+    QVERIFY(!fixture.folder.write(fullStatus(QStringLiteral("lobby"))));
+    QCOMPARE(QFileInfo(victim).size(), 0);
+    QCOMPARE(fixture.folder.read().size(), 2U);
 }
 
 void tst_PlayerStatusFolder::aScreenThatEnds()
