@@ -48,6 +48,7 @@ private slots:
     void refusedSavesDoNotComeBack_data();
     void refusedSavesDoNotComeBack();
     void unclearOutcomesAreNamed();
+    void whatCannotBeMadeSureOfIsUnclear();
     void everyCallFails_data();
     void everyCallFails();
     void everyCallOfTheCatalogueFails_data();
@@ -118,6 +119,34 @@ void tst_StoreFaults::unclearOutcomesAreNamed()
     store.restart();
     QCOMPARE(generationOf(store.manager.getgTaskMap()), 3);
     store.host.close();
+}
+
+/// The commit fails once, which alone leaves nothing behind, and then the log cannot be locked to
+/// make sure of it.
+void tst_StoreFaults::whatCannotBeMadeSureOfIsUnclear()
+{
+    int unclear = 0;
+    bool hasFailed = true;
+    for (int nth = 1; hasFailed; ++nth) {
+        QVERIFY(nth < 100);
+        StoreFixture store;
+        store.host.close();
+        FaultyDisk disk;
+        store.open();
+        store.save(generation(1));
+        for (const auto& [id, task] : generation(2)) {
+            store.manager.addTask(task);
+        }
+        disk.fail(FaultyDisk::Sync, 1, FaultyDisk::Lasting::Once, EIO);
+        disk.fail(FaultyDisk::Lock, nth, FaultyDisk::Lasting::ForGood, EIO);
+        const StoreProblem problem = store.host.trySave().problem;
+        hasFailed = disk.count(FaultyDisk::Lock) >= nth;
+        QVERIFY2(problem != StoreProblem::None, qPrintable(QString::number(nth)));
+        unclear += problem == StoreProblem::Unclear ? 1 : 0;
+        disk.heal();
+        store.host.close();
+    }
+    QVERIFY(unclear > 0);
 }
 
 void tst_StoreFaults::everyCallFails_data()
