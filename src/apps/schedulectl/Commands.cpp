@@ -5,24 +5,11 @@ namespace trel::console {
 const std::vector<Command>& allCommands()
 {
     static const std::vector<Command> commands = {
-        importCommand(),
-        programsCommand(),
-        removeProgramCommand(),
-        showCommand(),
-        checkCommand(),
-        nowCommand(),
-        timelineCommand(),
-        whyCommand(),
-        effectCommand(),
-        startCommand(),
-        stopCommand(),
-        insertCommand(),
-        cancelInsertionCommand(),
-        runCommand(),
-        screensCommand(),
-        exportCommand(),
-        importScheduleCommand(),
-        checkLanguageCommand(),
+        importCommand(),          programsCommand(),      removeProgramCommand(), showCommand(),
+        checkCommand(),           nowCommand(),           timelineCommand(),      whyCommand(),
+        effectCommand(),          startCommand(),         stopCommand(),          insertCommand(),
+        cancelInsertionCommand(), runCommand(),           screensCommand(),       exportCommand(),
+        importScheduleCommand(),  checkLanguageCommand(),
     };
     return commands;
 }

@@ -185,8 +185,8 @@ signals:
     /// with a signal. Comes while the store is followed.
     void savedElsewhere();
     /// Another program has changed the catalogue, or the file that was opened no longer stands in
-    /// its place. Comes while the store is followed, with every look until reload has taken it over;
-    /// what was read stays until then.
+    /// its place. Comes while the store is followed, with every look until reload has taken it
+    /// over; what was read stays until then.
     void changedElsewhere();
 
 private:
