@@ -1,12 +1,13 @@
 #include "deck/PlayedFile.h"
 
-#include <QFile>
+#include "trelprogramschedule/faults/FaultWords.h"
 
 #include <cerrno>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+using namespace trel::mediadispatch;
 
 namespace trel::player {
 
@@ -15,66 +16,42 @@ using screen::DeckTrouble;
 
 namespace {
 
-DeckFault faultOfError(int error)
+DeckTrouble troubleOf(FaultCode code)
 {
-    const QString words = qt_error_string(error);
-    switch (error) {
-    case ENOENT:
-    case ENOTDIR:
-        return {DeckTrouble::Missing, words};
-    case EACCES:
-    case EPERM:
-    case ELOOP:
-    case ENXIO:
-        return {DeckTrouble::Refused, words};
+    switch (code) {
+    case FaultCode::FileMissing:
+        return DeckTrouble::Missing;
+    case FaultCode::NoPermission:
+    case FaultCode::NotAFile:
+        return DeckTrouble::Refused;
     default:
-        return {DeckTrouble::Unreadable, words};
+        return DeckTrouble::Unreadable;
     }
 }
 
 } // namespace
 
 PlayedFile::PlayedFile(const QString& path)
-{
-    const QByteArray name = QFile::encodeName(path);
-    struct stat seen = {};
-    // Looked at before it is opened, and once more afterwards, in case another took its place.
-    if (::stat(name.constData(), &seen) != 0) {
-        m_fault = faultOfError(errno);
-        return;
-    }
-    if (S_ISREG(seen.st_mode)) {
-        m_descriptor = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
-        if (m_descriptor < 0 || ::fstat(m_descriptor, &seen) != 0) {
-            m_fault = faultOfError(errno);
-            return;
-        }
-    }
-    if (!S_ISREG(seen.st_mode)) {
-        m_fault = {DeckTrouble::Refused, QStringLiteral("Not a regular file")};
-    } else if (seen.st_size == 0) {
-        m_fault = {DeckTrouble::Unreadable, QStringLiteral("The file is empty")};
-    }
-}
+    : m_file(path)
+{}
 
-PlayedFile::~PlayedFile()
+DeckFault PlayedFile::fault() const
 {
-    if (m_descriptor >= 0) {
-        ::close(m_descriptor);
-    }
+    const Fault fault = m_file.fault();
+    return fault ? DeckFault{troubleOf(fault.code), englishClause(fault)} : DeckFault();
 }
 
 std::int64_t PlayedFile::size() const
 {
     struct stat seen = {};
-    return ::fstat(m_descriptor, &seen) == 0 ? seen.st_size : -1;
+    return ::fstat(m_file.descriptor(), &seen) == 0 ? seen.st_size : -1;
 }
 
 std::int64_t PlayedFile::read(char* room, std::uint64_t count)
 {
     ssize_t got = -1;
     do {
-        got = ::pread(m_descriptor, room, count, m_place);
+        got = ::pread(m_file.descriptor(), room, count, m_place);
     } while (got < 0 && errno == EINTR);
     if (got > 0) {
         m_place += got;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "trelprogramschedule/media/MediaFile.h"
 #include "trelscreen/DeckFault.h"
 
 #include <QString>
@@ -18,11 +19,9 @@ class PlayedFile
 {
 public:
     explicit PlayedFile(const QString& path);
-    ~PlayedFile();
-    Q_DISABLE_COPY(PlayedFile)
 
     /// Why it is not open.
-    const screen::DeckFault& fault() const { return m_fault; }
+    screen::DeckFault fault() const;
 
     /// The bytes that it has now; -1 where that cannot be told.
     std::int64_t size() const;
@@ -32,9 +31,8 @@ public:
     bool seek(std::int64_t place);
 
 private:
-    int m_descriptor = -1;
+    const mediadispatch::MediaFile m_file;
     std::int64_t m_place = 0;
-    screen::DeckFault m_fault;
 };
 
 } // namespace trel::player

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "faults/Fault.h"
+#include "trelprogramschedule/faults/Fault.h"
+#include "trelprogramschedule_export.h"
 
 #include <QString>
 
@@ -9,7 +10,7 @@ namespace trel::mediadispatch {
 /// A media file, open for reading. Only what lies on a disk is opened, which a device, a pipe and a
 /// socket do not: those may keep who opens or reads them waiting for ever, and some do something
 /// when they are opened.
-class MediaFile
+class TRELPROGRAMSCHEDULE_EXPORT MediaFile
 {
 public:
     explicit MediaFile(const QString& path);
