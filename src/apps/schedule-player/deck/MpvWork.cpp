@@ -3,7 +3,6 @@
 #include "deck/PlayedAddress.h"
 #include "deck/PlayedFile.h"
 #include "stage/ScreenShape.h"
-#include "trelprogramschedule/catalogue/ShownAddress.h"
 
 #include <QFileInfo>
 
@@ -467,12 +466,7 @@ void MpvWork::fail(DeckTrouble trouble, const QString& words)
     if (std::exchange(m_isOver, true)) {
         return;
     }
-    QString told = words;
-    if (m_isStream) {
-        // The library quotes the address with the password in it.
-        told.replace(m_load.media, mediadispatch::shownAddress(m_load.media));
-    }
-    const DeckFault fault{trouble, oneLine(told)};
+    const DeckFault fault{trouble, oneLine(m_isStream ? withoutSecrets(words) : words)};
     m_mail.post([failed = m_news.failed, fault] { failed(fault); });
 }
 

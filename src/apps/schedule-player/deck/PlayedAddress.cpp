@@ -1,5 +1,8 @@
 #include "deck/PlayedAddress.h"
 
+#include "trelprogramschedule/catalogue/ShownAddress.h"
+
+#include <QRegularExpression>
 #include <QStringList>
 
 namespace trel::player {
@@ -14,6 +17,21 @@ bool isStreamAddress(const QString& address)
         QStringLiteral("udp")};
     const int end = address.indexOf(QLatin1String("://"));
     return end > 0 && schemes.contains(address.left(end).toLower());
+}
+
+QString withoutSecrets(const QString& words)
+{
+    static const QRegularExpression address(QStringLiteral("[A-Za-z][A-Za-z0-9+.-]*://[^\\s'\"]+"));
+    QString told;
+    int end = 0;
+    QRegularExpressionMatchIterator found = address.globalMatch(words);
+    while (found.hasNext()) {
+        const QRegularExpressionMatch match = found.next();
+        told += words.mid(end, match.capturedStart() - end) +
+                mediadispatch::shownAddress(match.captured());
+        end = match.capturedEnd();
+    }
+    return told + words.mid(end);
 }
 
 } // namespace trel::player
