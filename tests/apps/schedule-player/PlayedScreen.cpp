@@ -22,6 +22,8 @@ constexpr int kStandBy = 200;
 constexpr int kSoundLength = 700; // milliseconds
 /// What a fault explains at most, where its play goes on for longer; milliseconds.
 constexpr Instant kLongest = 5000;
+/// What a busy machine may take to load what could not be foreseen; milliseconds.
+constexpr Instant kLoading = 1000;
 
 int framesOf(PlayedProgram program)
 {
@@ -142,6 +144,13 @@ bool PlayedScreen::EventRecord::explains(Instant moment) const
     return std::any_of(m_troubles.rbegin(), m_troubles.rend(), [moment](const Trouble& trouble) {
         return moment >= trouble.from - 2 * kPatience && moment <= trouble.to + 2 * kPatience;
     });
+}
+
+bool PlayedScreen::explains(Instant moment) const
+{
+    const auto later = m_insertions.upper_bound(moment);
+    return m_log.explains(moment) ||
+           (later != m_insertions.begin() && moment - std::prev(later)->first <= kLoading);
 }
 
 PlayedScreen::PlayedScreen(const QString& name, const std::map<int, PlayTask>& tasks,

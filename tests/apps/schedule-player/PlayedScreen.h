@@ -72,8 +72,9 @@ public:
     QString fault(const RecordedFrame& frame) const;
     /// Whether the picture stood on the screen soon after its beginning, or came later.
     bool hasShown(const ScreenState& state) const;
-    /// Whether a fault about that moment explains that a picture was missing.
-    bool explains(Instant moment) const { return m_log.explains(moment); }
+    /// Whether a fault about that moment, or what was cut in at once and had to be loaded, explains
+    /// that a picture was missing.
+    bool explains(Instant moment) const;
 
     const QString& name() const { return m_name; }
     const std::vector<RecordedFrame>& frames() const { return m_record.frames(); }
