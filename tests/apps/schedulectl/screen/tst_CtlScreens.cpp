@@ -18,6 +18,7 @@ private slots:
     void onAirAndSilent();
     void faultsAreToldInPlainText();
     void forMachines();
+    void aBlackScreenWithoutFaults();
     void needsADatabase();
 };
 
@@ -133,6 +134,29 @@ void tst_CtlScreens::forMachines()
     QCOMPARE(shows.value(QLatin1String("screen")).toString(), QStringLiteral("playing"));
     QCOMPARE(shows.value(QLatin1String("name")).toString(), QStringLiteral("Weather"));
     QCOMPARE(shows.value(QLatin1String("entry")).toInt(), 2);
+}
+
+void tst_CtlScreens::aBlackScreenWithoutFaults()
+{
+    const Fixture fixture;
+    PlayerStatus status = statusOf("lobby", 5);
+    status.shown = ScreenState();
+    status.program.clear();
+    fixture.tell(status);
+    const QStringList lines = fixture.screens().lines();
+    QVERIFY2(lines.last().startsWith(QStringLiteral("lobby   black screen  ")),
+             qPrintable(lines.last()));
+    const QJsonObject screen = fixture.screens({QStringLiteral("--json")})
+                                   .json()
+                                   .value(QLatin1String("screens"))
+                                   .toArray()
+                                   .first()
+                                   .toObject();
+    QVERIFY(screen.value(QLatin1String("lastFault")).isNull());
+    QVERIFY(screen.value(QLatin1String("lastFaultAt")).isNull());
+    const QJsonObject shows = screen.value(QLatin1String("shows")).toObject();
+    QVERIFY(shows.value(QLatin1String("name")).isNull());
+    QVERIFY(shows.value(QLatin1String("until")).isNull());
 }
 
 void tst_CtlScreens::needsADatabase()

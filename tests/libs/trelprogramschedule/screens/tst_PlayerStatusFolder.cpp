@@ -141,6 +141,7 @@ void tst_PlayerStatusFolder::namesLeadNowhereElse_data()
     QTest::newRow("absolute") << QStringLiteral("/tmp/a");
     QTest::newRow("blank and percent") << QStringLiteral("a %2e b");
     QTest::newRow("other script") << QStringLiteral("大厅");
+    QTest::newRow("what needs no sign") << QStringLiteral("Hall-09_zZ{[`@");
     QTest::newRow("the sign itself") << QStringLiteral("+2e");
 }
 
@@ -181,6 +182,9 @@ void tst_PlayerStatusFolder::whatIsNoStatusIsLeftOut_data()
     QTest::newRow("another's name") << QByteArray("\"lobby\"") << QByteArray("\"bar\"");
     QTest::newRow("picture") << QByteArray("\"picture\": 2") << QByteArray("\"picture\": 3");
     QTest::newRow("no picture") << QByteArray("\"picture\"") << QByteArray("\"pictures\"");
+    QTest::newRow("no name") << QByteArray("\"screen\": \"lobby\"")
+                             << QByteArray("\"screen\": \"\"");
+    QTest::newRow("no reason") << QByteArray("\"reason\"") << QByteArray("\"reasons\"");
     QTest::newRow("reason") << QByteArray("\"reason\": 8") << QByteArray("\"reason\": 9");
 }
 
