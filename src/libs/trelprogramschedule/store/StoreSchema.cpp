@@ -3,24 +3,16 @@
 #include "StoreConnection.h"
 #include "StoreRefusals.h"
 
-#include <QSqlQuery>
 #include <QVariant>
+
+#include <map>
 
 namespace trel::mediadispatch {
 
 namespace {
 
-/// More than any schema has, so that one that has more shows.
-constexpr int kMostElements = 1000;
 /// The first version that has tables for what is in effect.
 constexpr int kEffectVersion = 2;
-/// What a message shows of a name that somebody else has chosen.
-constexpr int kLongestName = 60;
-
-Fault partFault(FaultCode code, const std::pair<QString, QString>& element)
-{
-    return faultOf(code, element.second.left(kLongestName), element.first);
-}
 
 /// Tables for the plans of what another table holds under the name of its key.
 QStringList planStatements(const QString& prefix, const QString& owner)
@@ -192,58 +184,24 @@ bool StoreSchema::hasEffect(const StoreConnection& connection)
     return versionOf(connection) >= kEffectVersion;
 }
 
-StoreSchema::Elements StoreSchema::elementsOf(const StoreConnection& connection)
+const StoreElements& StoreSchema::elementsOfVersion(int version)
 {
-    QSqlQuery row = connection.query(
-        QStringLiteral("SELECT type, name, tbl_name, sql FROM sqlite_schema LIMIT %1")
-            .arg(kMostElements));
-    Elements elements;
-    while (connection.next(row)) {
-        elements.insert({{row.value(0).toString(), row.value(1).toString()},
-                         {row.value(2).toString(), row.value(3).toString()}});
-    }
-    return elements;
-}
-
-const StoreSchema::Elements& StoreSchema::elementsOfVersion(int version)
-{
-    // The database writes definitions in its own way, so that a fresh one is asked.
-    static std::map<int, Elements> known;
+    static std::map<int, StoreElements> known;
     if (const auto place = known.find(version); place != known.end()) {
         return place->second;
     }
-    const StoreConnection fresh(QString(), StoreConnection::Access::Memory);
+    QStringList statements;
     for (const Step& step : steps()) {
-        for (const QString& statement : step.version <= version ? step.statements : QStringList()) {
-            fresh.run(statement);
-        }
+        statements += step.version <= version ? step.statements : QStringList();
     }
     // Kept when it is whole: with what a lack of memory has cut short, every store would be
     // refused.
-    return known.emplace(version, elementsOf(fresh)).first->second;
+    return known.emplace(version, StoreElements::made(statements)).first->second;
 }
 
 void StoreSchema::checkElements(const StoreConnection& connection, const QString& path)
 {
-    const Elements& expected = elementsOfVersion(versionOf(connection));
-    const Elements found = elementsOf(connection);
-    for (const auto& [name, definition] : expected) {
-        if (found.count(name) == 0) {
-            throw StoreError{
-                refusal(StoreProblem::Damaged, path, partFault(FaultCode::PartMissing, name))};
-        }
-    }
-    for (const auto& [name, definition] : found) {
-        const auto own = expected.find(name);
-        if (own == expected.end()) {
-            throw StoreError{
-                refusal(StoreProblem::Altered, path, partFault(FaultCode::PartUnknown, name))};
-        }
-        if (own->second != definition) {
-            throw StoreError{
-                refusal(StoreProblem::Altered, path, partFault(FaultCode::PartAltered, name))};
-        }
-    }
+    StoreElements::of(connection).check(elementsOfVersion(versionOf(connection)), path);
 }
 
 void StoreSchema::migrate(const StoreConnection& connection)

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "StoreElements.h"
+
 #include <QString>
 #include <QStringList>
 
-#include <map>
-#include <utility>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -32,11 +32,6 @@ public:
     static void checkElements(const StoreConnection& connection, const QString& path);
 
 private:
-    /// A table, an index or whatever else a database can hold, by kind and name.
-    using ElementName = std::pair<QString, QString>;
-    /// Elements with the table that they belong to and their definition.
-    using Elements = std::map<ElementName, std::pair<QString, QString>>;
-
     struct Step
     {
         int version; ///< What the schema is after the step.
@@ -44,8 +39,7 @@ private:
     };
 
     static const std::vector<Step>& steps();
-    static Elements elementsOf(const StoreConnection& connection);
-    static const Elements& elementsOfVersion(int version);
+    static const StoreElements& elementsOfVersion(int version);
     static int versionOf(const StoreConnection& connection);
 };
 
