@@ -147,6 +147,7 @@ void Conductor::begin(const ScreenPlay& play, bool hasLeapt)
     if (former && former != m_onStage) {
         former->clear();
     }
+    noteDue();
 
     if (play.isBlack()) {
         showBlack();
@@ -171,6 +172,7 @@ void Conductor::beginWithout(std::optional<qint64> grace)
         // A picture of the same play stands, where it goes on elsewhere in the program.
         if (m_onStage && m_onStage->play().isOfSamePlay(play)) {
             m_onStage->pause();
+            noteStandIn(StandIn::LastPicture);
         } else {
             standBy();
         }
@@ -361,12 +363,12 @@ void Conductor::attendGrace()
         return;
     }
     m_graceUntil.reset();
-    const bool isSomethingElse = m_picture.kind != StagePicture::Kind::StandBy || m_onStage;
-    if (m_isShown || !isSomethingElse) {
+    if (m_isShown) {
         return;
     }
+    const bool isSomethingElse = m_picture.kind != StagePicture::Kind::StandBy || m_onStage;
     // Its first picture stands until its moment comes, rather than the stand-by picture in between.
-    if (m_current.slot && m_current.slot->isReady()) {
+    if (isSomethingElse && m_current.slot && m_current.slot->isReady()) {
         show();
     } else {
         standBy();
@@ -445,6 +447,7 @@ void Conductor::loseCurrent(const DeckFault& fault)
     m_dueAt = m_now;
     if (m_picture.kind == StagePicture::Kind::Deck && slot->deck().hasPicture()) {
         slot->pause();
+        noteStandIn(StandIn::LastPicture);
     } else {
         standBy();
     }
@@ -517,6 +520,7 @@ void Conductor::standBy()
     if (DeckSlot* former = std::exchange(m_onStage, nullptr)) {
         former->clear();
     }
+    noteStandIn(StandIn::StandByPicture);
 }
 
 void Conductor::put(const StagePicture& picture)
@@ -537,6 +541,25 @@ void Conductor::noteShown()
     event.play = m_current.play;
     event.isSwitch = m_isSwitch;
     event.amount = m_shownSince - m_dueAt;
+    note(event);
+}
+
+void Conductor::noteDue()
+{
+    ScreenEvent event;
+    event.kind = ScreenEvent::Kind::Due;
+    event.play = m_current.play;
+    event.isSwitch = m_isSwitch;
+    note(event);
+}
+
+void Conductor::noteStandIn(StandIn standIn)
+{
+    ScreenEvent event;
+    event.kind = ScreenEvent::Kind::StoodIn;
+    event.play = m_current.play;
+    event.fault = m_current.fault;
+    event.standIn = standIn;
     note(event);
 }
 

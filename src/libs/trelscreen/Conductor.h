@@ -110,6 +110,8 @@ private:
     void standBy();
     void put(const StagePicture& picture);
     void noteShown();
+    void noteDue();
+    void noteStandIn(StandIn standIn);
 
     void sleep();
     void note(ScreenEvent::Kind kind, const ScreenPlay& play, qint64 amount = 0);

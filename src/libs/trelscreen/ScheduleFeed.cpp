@@ -106,10 +106,12 @@ void ScheduleFeed::publish()
     if (m_told.timeline && next.catalogue == m_told.catalogue && next.start == m_told.start &&
         zone == m_zone) {
         next.timeline = m_told.timeline;
+        next.tasks = m_told.tasks;
     } else {
-        next.timeline = std::make_shared<const ScreenTimeline>(m_host->dispatch().tasks(),
-                                                               *next.catalogue, zone);
+        next.tasks = std::make_shared<const std::map<int, PlayTask>>(m_host->dispatch().tasks());
+        next.timeline = std::make_shared<const ScreenTimeline>(*next.tasks, *next.catalogue, zone);
     }
+    next.zone = zone;
     m_zone = zone;
     m_told = std::move(next);
     emit changed(m_told);

@@ -5,6 +5,13 @@
 
 namespace trel::screen {
 
+/// What stands on the stage in the place of a play.
+enum class StandIn {
+    None,
+    StandByPicture,
+    LastPicture, ///< Of the same play, from before it broke or went elsewhere.
+};
+
 /// Something that has happened on a screen.
 struct ScreenEvent
 {
@@ -18,6 +25,9 @@ struct ScreenEvent
         CorrectedBySpeed, ///< It begins to be brought back onto the timeline by its speed.
         Sought,           ///< It is brought back onto the timeline at once.
         ClockLeapt,
+        Due, ///< The schedule has the play on from now on. Shown or StoodIn follows: at once, or
+             ///< within a tenth of a second in which the former picture stays.
+        StoodIn, ///< Something else stands on the stage from now on, as the play is not there.
     };
 
     Kind kind = Kind::Shown;
@@ -27,15 +37,16 @@ struct ScreenEvent
     /// Since when the play has been, or was, on screen; kNever while it has not.
     mediadispatch::Instant onScreenSince = mediadispatch::kNever;
 
-    /// Of Shown: the change came at its time, and not with a new schedule, a leap of the clock or
-    /// the end of a fault.
+    /// Of Shown and Due: the change came at its time, and not with a new schedule, a leap of the
+    /// clock or, of Shown, the end of a fault.
     bool isSwitch = false;
     /// Milliseconds. Of Shown: behind the planned beginning or, where that could not be known, the
     /// moment at which it was. Of Recovered: how long it was away. Of CorrectedBySpeed and Sought:
     /// how far it was ahead of the timeline, below 0 behind. Of ClockLeapt: how far, below 0 back.
     qint64 amount = 0;
-    DeckFault fault; ///< Of Fault and Recovered.
+    DeckFault fault; ///< Of Fault and Recovered; of StoodIn, where a fault is known.
     int tries = 0;   ///< Of Recovered: how often it was tried again.
+    StandIn standIn = StandIn::None; ///< Of StoodIn.
 };
 
 /// Takes down what happens on a screen. Called in the screen's own thread, right after a picture

@@ -6,6 +6,7 @@
 #include "trelprogramschedule/effect/EffectStart.h"
 
 #include <QMetaType>
+#include <QTimeZone>
 
 #include <map>
 #include <memory>
@@ -25,6 +26,10 @@ struct ScreenSchedule
     std::shared_ptr<const std::map<int, mediadispatch::ProgramIten>> catalogue;
     /// None while nothing is in effect.
     std::optional<mediadispatch::EffectStart> start;
+
+    /// What the timeline was made of besides; never null where the schedule comes from a store.
+    std::shared_ptr<const std::map<int, mediadispatch::PlayTask>> tasks;
+    QTimeZone zone;
 };
 
 } // namespace trel::screen

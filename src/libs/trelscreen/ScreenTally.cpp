@@ -59,6 +59,8 @@ void ScreenTally::note(const ScreenEvent& event)
     case Kind::ScheduleTaken:
     case Kind::Left:
     case Kind::Recovered:
+    case Kind::Due:
+    case Kind::StoodIn:
         break;
     }
 }

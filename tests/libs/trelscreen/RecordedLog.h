@@ -11,14 +11,23 @@
 class RecordedLog : public trel::screen::ScreenLog
 {
 public:
-    void note(const trel::screen::ScreenEvent& event) override { events.push_back(event); }
+    void note(const trel::screen::ScreenEvent& event) override
+    {
+        events.push_back(event);
+        if (alsoTo != nullptr) {
+            alsoTo->note(event);
+        }
+    }
 
-    /// Since the last call.
+    /// Since the last call, but for Due and StoodIn, which go with another line.
     QStringList take()
     {
         QStringList lines;
         for (const trel::screen::ScreenEvent& event : std::exchange(events, {})) {
-            lines += lineOf(event);
+            if (event.kind != trel::screen::ScreenEvent::Kind::Due &&
+                event.kind != trel::screen::ScreenEvent::Kind::StoodIn) {
+                lines += lineOf(event);
+            }
         }
         return lines;
     }
@@ -35,6 +44,7 @@ public:
     }
 
     std::vector<trel::screen::ScreenEvent> events;
+    trel::screen::ScreenLog* alsoTo = nullptr;
 
 private:
     static QString lineOf(const trel::screen::ScreenEvent& event)
@@ -67,6 +77,13 @@ private:
             return QStringLiteral("sought %1 %2").arg(what, amount);
         case Kind::ClockLeapt:
             return QStringLiteral("leapt %1").arg(amount);
+        case Kind::Due:
+            return QStringLiteral("due %1").arg(what);
+        case Kind::StoodIn:
+            return QStringLiteral("instead of %1 %2")
+                .arg(what, QLatin1String(event.standIn == trel::screen::StandIn::LastPicture
+                                             ? "its last picture"
+                                             : "stand-by"));
         }
         return {};
     }

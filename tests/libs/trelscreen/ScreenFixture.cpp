@@ -73,6 +73,14 @@ void ScreenFixture::cancelInsertion()
     give();
 }
 
+void ScreenFixture::stop()
+{
+    tasks.clear();
+    insertions.clear();
+    start.reset();
+    give();
+}
+
 void ScreenFixture::give()
 {
     timeline = std::make_shared<const ScreenTimeline>(tasks, catalogue, clock.zone());
@@ -80,6 +88,12 @@ void ScreenFixture::give()
     schedule.timeline = timeline;
     schedule.insertions = insertions;
     schedule.catalogue = std::make_shared<const std::map<int, ProgramIten>>(catalogue);
+    schedule.start = start;
+    schedule.tasks = std::make_shared<const std::map<int, PlayTask>>(tasks);
+    schedule.zone = clock.zone();
+    if (beforeGiving) {
+        beforeGiving(schedule);
+    }
     conductor.setSchedule(schedule);
     QCoreApplication::processEvents();
 }

@@ -9,6 +9,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 /// A screen of recorded decks, "one" and "two", on a clock that stands on 2024.03.04, a Monday, in
@@ -33,6 +34,8 @@ public:
     /// Cuts a plan in, for the plan with the id 1.
     void insert(const char* plan, bool isDelayed = false);
     void cancelInsertion();
+    /// Nothing is in effect any more.
+    void stop();
 
     /// Lets time go by; each moment at which something happens is met.
     void advance(qint64 milliseconds);
@@ -58,6 +61,9 @@ public:
     std::map<int, trel::mediadispatch::PlayTask> tasks;
     trel::mediadispatch::ScreenInsertions insertions;
     std::shared_ptr<const trel::mediadispatch::ScreenTimeline> timeline;
+    std::optional<trel::mediadispatch::EffectStart> start;
+    /// Gets each schedule right before the screen does.
+    std::function<void(const trel::screen::ScreenSchedule&)> beforeGiving;
 
 private:
     void give();

@@ -102,6 +102,13 @@ QString whatText(const ScreenEvent& event)
     case ScreenEvent::Kind::ClockLeapt:
         return QStringLiteral("the clock was set: it is %1 of what it was")
             .arg(offText(event.amount));
+    case ScreenEvent::Kind::Due:
+        return QStringLiteral("has %1 on").arg(playText(event.play));
+    case ScreenEvent::Kind::StoodIn:
+        return QStringLiteral("%1 stands in for %2")
+            .arg(event.standIn == StandIn::LastPicture ? QStringLiteral("its last picture")
+                                                       : QStringLiteral("the stand-by picture"),
+                 name);
     }
     return QString();
 }

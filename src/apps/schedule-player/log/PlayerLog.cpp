@@ -16,8 +16,9 @@ void PlayerLog::note(const ScreenEvent& event)
                                                    faultSentence(event.fault));
         m_lastFaultAt = event.moment;
     }
-    // What comes instead says the same.
-    if (event.kind != ScreenEvent::Kind::Left) {
+    // What comes instead, or the reason for it, says the same.
+    using Kind = ScreenEvent::Kind;
+    if (event.kind != Kind::Left && event.kind != Kind::Due && event.kind != Kind::StoodIn) {
         emit line(eventLine(event, MomentFormat(Clock::current().zone())));
     }
 }
