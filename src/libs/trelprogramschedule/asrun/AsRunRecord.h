@@ -43,6 +43,12 @@ enum class AsRunOutcome {
     PlayerHadEnded = 8,
     PlayerWasKilled = 9,
     MachineHadStopped = 10, ///< It was another start of the machine.
+    // of a picture
+    GoesOn = 11, ///< The same picture goes on under the schedule that was taken.
+    // of a gap
+    NothingReadYet = 12,  ///< The player had begun, and had no schedule yet.
+    MachineHadSlept = 13, ///< It was suspended.
+    NotRecorded = 14,     ///< Something was on, but its records could not be kept.
 };
 
 /// One change of what was on a screen, as a player tells it. Numbers that do not apply are -1,
