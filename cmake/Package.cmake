@@ -10,20 +10,31 @@ set(libraries
 foreach(library IN LISTS libraries)
   target_include_directories(${library} INTERFACE $<INSTALL_INTERFACE:${include_dir}>)
 endforeach()
-set_target_properties(schedule-editor schedulectl schedule-player PROPERTIES
-  INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
-set_target_properties(trelprogramschedulewidgets trelprogramschedule PROPERTIES
-  INSTALL_RPATH "$ORIGIN")
+# A tree that can be moved, but for the system's own, whose libraries the loader finds by itself.
+if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+  set_target_properties(schedule-editor schedulectl schedule-player PROPERTIES
+    INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(trelprogramschedulewidgets trelprogramschedule PROPERTIES
+    INSTALL_RPATH "$ORIGIN")
+endif()
 
-install(TARGETS ${libraries} schedule-editor schedulectl EXPORT trelTargets)
+foreach(library IN LISTS libraries)
+  set(component service)
+  if(library MATCHES "widgets")
+    set(component widgets)
+  endif()
+  install(TARGETS ${library} EXPORT trelTargets
+    LIBRARY COMPONENT ${component} NAMELINK_COMPONENT development)
+endforeach()
+install(TARGETS schedule-editor EXPORT trelTargets COMPONENT editor)
+install(TARGETS schedulectl EXPORT trelTargets COMPONENT console)
 # A program alone: what it links must not become a part of a host.
-install(TARGETS schedule-player)
-install(FILES dist/systemd/schedule-player.service DESTINATION lib/systemd/user)
+install(TARGETS schedule-player COMPONENT player)
 # Beside the library that starts it. Hosts that carry their libraries with them take it from
 # $<TARGET_FILE:trel::media-reader>.
 install(TARGETS media-reader EXPORT trelTargets
-  DESTINATION ${CMAKE_INSTALL_LIBDIR}/${PROJECT_NAME})
-install(EXPORT trelTargets NAMESPACE trel:: DESTINATION ${package_dir})
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/${PROJECT_NAME} COMPONENT service)
+install(EXPORT trelTargets NAMESPACE trel:: DESTINATION ${package_dir} COMPONENT development)
 
 # install_headers(<library> <folder> <header>...)
 #
@@ -32,9 +43,11 @@ install(EXPORT trelTargets NAMESPACE trel:: DESTINATION ${package_dir})
 function(install_headers library base)
   foreach(header IN LISTS ARGN)
     cmake_path(GET header PARENT_PATH folder)
-    install(FILES ${base}/${header} DESTINATION ${include_dir}/${folder})
+    install(FILES ${base}/${header}
+      DESTINATION ${include_dir}/${folder} COMPONENT development)
   endforeach()
-  install(FILES ${CMAKE_BINARY_DIR}/exports/${library}_export.h DESTINATION ${include_dir})
+  install(FILES ${CMAKE_BINARY_DIR}/exports/${library}_export.h
+    DESTINATION ${include_dir} COMPONENT development)
 endfunction()
 
 install_headers(tstranslate src/libs
@@ -87,7 +100,7 @@ install_headers(trelprogramschedulewidgets src/libs/trelprogramschedulewidgets
   ProgramSheduleWidgetTranslateManager.h
   scheduleControlUI.h)
 install(DIRECTORY resources/demonstration
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME}
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME} COMPONENT data
   PATTERN make-media EXCLUDE)
 
 configure_package_config_file(
@@ -100,4 +113,21 @@ write_basic_package_version_file(
 install(FILES
   ${CMAKE_BINARY_DIR}/${PROJECT_NAME}Config.cmake
   ${CMAKE_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
-  DESTINATION ${package_dir})
+  DESTINATION ${package_dir} COMPONENT development)
+
+# For hosts that are built without CMake. They find their place from that of the file, but for the
+# system's own, where compilers look by themselves. Paths that are absolute stay so.
+set(pc_prefix ${CMAKE_INSTALL_PREFIX})
+if(NOT pc_prefix STREQUAL "/usr" AND NOT IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
+  file(RELATIVE_PATH pc_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+  set(pc_prefix "\${pcfiledir}/${pc_prefix}")
+endif()
+cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_LIBDIR
+  BASE_DIRECTORY "\${prefix}" OUTPUT_VARIABLE pc_libdir)
+cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_INCLUDEDIR
+  BASE_DIRECTORY "\${prefix}" OUTPUT_VARIABLE pc_includedir)
+foreach(library IN ITEMS trelprogramschedule trelprogramschedulewidgets)
+  configure_file(dist/pkgconfig/${library}.pc.in ${CMAKE_BINARY_DIR}/${library}.pc @ONLY)
+  install(FILES ${CMAKE_BINARY_DIR}/${library}.pc
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+endforeach()

@@ -75,7 +75,7 @@ function(trel_library name)
   endforeach()
   generate_export_header(${name} EXPORT_FILE_NAME ${CMAKE_BINARY_DIR}/exports/${name}_export.h)
   set_target_properties(${name} PROPERTIES
-    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    VERSION ${PROJECT_VERSION} SOVERSION ${TREL_ABI_VERSION})
 endfunction()
 
 # trel_application(<name> SOURCES ... LINK ...)

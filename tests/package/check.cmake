@@ -1,22 +1,6 @@
 # Fails unless the example host builds against the installed package and behaves when started, each
 # installed header compiles alone, and all that they declare can be linked.
-function(run)
-  cmake_parse_arguments(ARG "" "STATUS;OUTPUT;WITHOUT" "" ${ARGN})
-  execute_process(COMMAND ${ARG_UNPARSED_ARGUMENTS}
-    RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE out)
-  if(NOT ARG_STATUS)
-    set(ARG_STATUS 0)
-  endif()
-  if(NOT status EQUAL ARG_STATUS)
-    message(FATAL_ERROR "${ARG_UNPARSED_ARGUMENTS}: ended with ${status}\n${out}")
-  endif()
-  if(ARG_OUTPUT AND NOT out MATCHES "${ARG_OUTPUT}")
-    message(FATAL_ERROR "${ARG_UNPARSED_ARGUMENTS}: no \"${ARG_OUTPUT}\" in\n${out}")
-  endif()
-  if(ARG_WITHOUT AND out MATCHES "${ARG_WITHOUT}")
-    message(FATAL_ERROR "${ARG_UNPARSED_ARGUMENTS}: \"${ARG_WITHOUT}\" in\n${out}")
-  endif()
-endfunction()
+include(${CMAKE_CURRENT_LIST_DIR}/run.cmake)
 
 file(REMOVE_RECURSE ${WORK})
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/installed)
@@ -34,7 +18,25 @@ run(${WORK}/surface/surface OUTPUT "All there")
 run(${WORK}/build/minimal-host STATUS 2 OUTPUT "Usage: minimal-host")
 run(${WORK}/build/minimal-host ${WORK}/no/such/folder/schedule.db STATUS 1 OUTPUT "no/such/folder")
 run(${WORK}/installed/bin/schedulectl --help OUTPUT "schedulectl")
-run(${WORK}/installed/bin/schedule-editor --version OUTPUT "schedule-editor [0-9]")
+foreach(program IN ITEMS schedule-editor schedulectl schedule-player)
+  run(${WORK}/installed/bin/${program} --version
+    OUTPUT "^${program} [0-9]+\\.[0-9]+\\.[0-9]+ \\(.*Qt 5\\.[0-9.]+\\)\n$")
+endforeach()
+
+# Without CMake, by what pkg-config tells.
+set(ENV{PKG_CONFIG_PATH} ${WORK}/installed/${LIBDIR}/pkgconfig)
+foreach(module IN ITEMS trelprogramschedulewidgets trelprogramschedule)
+  run(pkg-config --validate ${module})
+endforeach()
+execute_process(
+  COMMAND pkg-config --cflags --libs
+    trelprogramschedulewidgets trelprogramschedule
+  OUTPUT_VARIABLE told OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+separate_arguments(told UNIX_COMMAND "${told}")
+separate_arguments(flags UNIX_COMMAND "${FLAGS}")
+run(${COMPILER} -std=c++17 ${flags} ${EXAMPLE}/main.cpp -o ${WORK}/told-host ${told}
+  -Wl,-rpath,${WORK}/installed/${LIBDIR})
+run(${WORK}/told-host STATUS 2 OUTPUT "Usage: minimal-host")
 
 # The tree can be moved, and media are read by whatever part of it needs them.
 file(RENAME ${WORK}/installed ${WORK}/moved)

@@ -117,6 +117,8 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     QCoreApplication::setOrganizationName(QStringLiteral("trel"));
     QCoreApplication::setApplicationName(QStringLiteral("schedule-editor"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TREL_VERSION));
+    // How a desktop finds the entry that a window belongs to.
+    QGuiApplication::setDesktopFileName(QStringLiteral("schedule-editor"));
     QGuiApplication::setWindowIcon(look::imageIcon(QStringLiteral("schedule-editor"), QColor()));
     Themes themes(application);
 

@@ -1,5 +1,8 @@
 #include "EditorOptions.h"
 
+#include "DatabaseArgument.h"
+#include "common/DisplayText.h"
+
 #include <QCommandLineParser>
 
 namespace trel::desktop {
@@ -44,6 +47,9 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
                                    QStringLiteral("Start in this theme, dark or light."),
                                    QStringLiteral("NAME"));
     parser.addOptions({database, demonstration, screenshot, language, theme});
+    parser.addPositionalArgument(QStringLiteral("DATABASE"),
+                                 QStringLiteral("A schedule to open, as with --database."),
+                                 QStringLiteral("[DATABASE]"));
     parser.addPositionalArgument(QStringLiteral("MEDIA"),
                                  QStringLiteral("Files and folders to import as programs."),
                                  QStringLiteral("[MEDIA...]"));
@@ -56,8 +62,7 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
         return ended(EditorOptionsResult::Next::Done, parser.helpText().trimmed());
     }
     if (parser.isSet(version)) {
-        return ended(EditorOptionsResult::Next::Done,
-                     QStringLiteral("schedule-editor " TREL_VERSION));
+        return ended(EditorOptionsResult::Next::Version, {});
     }
 
     EditorOptionsResult result;
@@ -66,7 +71,18 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
     result.options.screenshot = parser.value(screenshot);
     result.options.language = parser.value(language);
     result.options.theme = parser.value(theme);
-    result.options.imports = parser.positionalArguments();
+    const QStringList files = parser.positionalArguments();
+    for (const QString& file : files) {
+        if (!isDatabaseFile(file)) {
+            result.options.imports.append(file);
+        } else if (result.options.database.isEmpty()) {
+            result.options.database = file;
+        } else {
+            return ended(EditorOptionsResult::Next::Misuse,
+                         QStringLiteral("Only one schedule can be opened: %1 is another one.")
+                             .arg(hosts::inQuotes(hosts::printable(file))));
+        }
+    }
     return result;
 }
 

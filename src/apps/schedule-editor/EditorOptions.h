@@ -13,16 +13,17 @@ struct EditorOptions
     QString screenshot;  ///< Where to write a picture of the editor before ending; empty for none.
     QString language;    ///< Empty for the language last chosen.
     QString theme;       ///< "dark" or "light"; empty for the theme last chosen.
-    QStringList imports; ///< Media to import at the start.
+    QStringList imports; ///< Media to import at the start; never a database.
 };
 
 /// How reading a command line ended.
 struct EditorOptionsResult
 {
     enum class Next {
-        Start, ///< Go on with the options.
-        Done,  ///< Print text and end with 0.
-        Misuse ///< Print text and end with 2.
+        Start,  ///< Go on with the options.
+        Done,   ///< Print text and end with 0.
+        Misuse, ///< Print text and end with 2.
+        Version ///< Print the version and end with 0.
     };
 
     Next next = Next::Start;
@@ -30,7 +31,8 @@ struct EditorOptionsResult
     QString text;
 };
 
-/// Reads a command line, the program's name included. Needs no application object.
+/// Reads a command line, the program's name included, and the first bytes of the files that it
+/// names: what is a database stands in its place among the options. Needs no application object.
 EditorOptionsResult readEditorOptions(const QStringList& arguments);
 
 } // namespace trel::desktop

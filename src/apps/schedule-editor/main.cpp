@@ -1,5 +1,6 @@
 #include "EditorApplication.h"
 #include "FreedMemory.h"
+#include "common/VersionText.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -24,6 +25,10 @@ int main(int argc, char** argv)
 {
     joinFreedMemoryAtOnce();
     const EditorOptionsResult read = readOptions(argc, argv);
+    if (read.next == EditorOptionsResult::Next::Version) {
+        QTextStream(stdout) << trel::hosts::versionText("schedule-editor") << Qt::endl;
+        return 0;
+    }
     if (read.next != EditorOptionsResult::Next::Start) {
         const bool misuse = read.next == EditorOptionsResult::Next::Misuse;
         QTextStream(misuse ? stderr : stdout) << read.text << Qt::endl;

@@ -80,8 +80,7 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
         return ended(PlayerOptionsResult::Next::Done, parser.helpText().trimmed());
     }
     if (parser.isSet(version)) {
-        return ended(PlayerOptionsResult::Next::Done,
-                     QStringLiteral("schedule-player " TREL_VERSION));
+        return ended(PlayerOptionsResult::Next::Version, {});
     }
     if (!parser.positionalArguments().isEmpty()) {
         return misuse(QStringLiteral("What is %1? The player takes options alone.")

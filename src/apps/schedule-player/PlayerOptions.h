@@ -21,9 +21,10 @@ struct PlayerOptions
 struct PlayerOptionsResult
 {
     enum class Next {
-        Start, ///< Go on with the options.
-        Done,  ///< Print text and end with 0.
-        Misuse ///< Print text and end with 2.
+        Start,  ///< Go on with the options.
+        Done,   ///< Print text and end with 0.
+        Misuse, ///< Print text and end with 2.
+        Version ///< Print the version and end with 0.
     };
 
     Next next = Next::Start;

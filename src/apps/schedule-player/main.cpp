@@ -3,6 +3,7 @@
 #include "PlayerScreen.h"
 #include "common/DefaultDatabase.h"
 #include "common/StopSignals.h"
+#include "common/VersionText.h"
 #include "media/PictureRequest.h"
 #include "system/FewArenas.h"
 #include "system/ScreenLock.h"
@@ -110,6 +111,10 @@ int main(int argc, char** argv)
     // A log whose reader has gone is no reason to go dark.
     std::signal(SIGPIPE, SIG_IGN);
     const PlayerOptionsResult read = readOptions(argc, argv);
+    if (read.next == PlayerOptionsResult::Next::Version) {
+        QTextStream(stdout) << trel::hosts::versionText("schedule-player") << Qt::endl;
+        return 0;
+    }
     if (read.next != PlayerOptionsResult::Next::Start) {
         const bool misuse = read.next == PlayerOptionsResult::Next::Misuse;
         QTextStream(misuse ? stderr : stdout) << read.text << Qt::endl;

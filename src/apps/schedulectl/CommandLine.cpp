@@ -144,6 +144,10 @@ private:
             m_line.invocation.arguments.append(word);
             return;
         }
+        if (word == kHelpWord) {
+            m_wantsHelp = true;
+            return;
+        }
         const auto found =
             std::find_if(m_commands.begin(), m_commands.end(),
                          [&word](const Command& command) { return named(command.name) == word; });

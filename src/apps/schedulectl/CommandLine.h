@@ -8,6 +8,9 @@
 
 namespace trel::console {
 
+/// In the place of a command it asks for help, on the command behind it where there is one.
+inline const QLatin1String kHelpWord("help");
+
 /// What a command line says. Reading it does nothing else.
 struct CommandLine
 {

@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 #include "Commands.h"
 #include "LackOfMemory.h"
+#include "common/VersionText.h"
 #include "text/Console.h"
 #include "text/HelpText.h"
 
@@ -23,7 +24,7 @@ ExitStatus obey(const CommandLine& line, Console& console)
                                               : commandHelp(*line.command));
         return Done;
     case CommandLine::Wish::ShowVersion:
-        console.writeLine(QStringLiteral("schedulectl " TREL_VERSION));
+        console.writeLine(trel::hosts::versionText("schedulectl"));
         return Done;
     case CommandLine::Wish::Misuse:
         break;

@@ -130,7 +130,7 @@ void tst_ScheduleEditor::helpAndVersionEndWithNothing_data()
     QTest::addColumn<QString>("words");
 
     QTest::newRow("help") << QStringLiteral("--help") << QStringLiteral("[MEDIA...]");
-    QTest::newRow("version") << QStringLiteral("--version") << QStringLiteral("schedule-editor ");
+    QTest::newRow("version") << QStringLiteral("--version") << QStringLiteral(", Qt 5.");
 }
 
 void tst_ScheduleEditor::helpAndVersionEndWithNothing()

@@ -69,8 +69,7 @@ void tst_PlayerOptions::helpAndVersion()
         QVERIFY2(help.text.contains(QLatin1String(option)), option);
     }
     const PlayerOptionsResult version = read({QStringLiteral("--version")});
-    QCOMPARE(version.next, Next::Done);
-    QVERIFY(version.text.startsWith(QStringLiteral("schedule-player ")));
+    QCOMPARE(version.next, Next::Version);
 }
 
 void tst_PlayerOptions::misuse_data()

@@ -135,6 +135,12 @@ void tst_CommandLine::read_data()
     row("--help list", "help list");
     row("take --help", "help take");
     row("take --wrong --help", "help take");
+    row("help", "help");
+    row("help take", "help take");
+    row("help take --wrong", "help take");
+    row("help nothing", "misuse: There is no command \"nothing\".");
+    row("take help", "run take <help>");
+    row("-- help", "help");
     row("nothing --help", "misuse: There is no command \"nothing\".");
     row("--version", "version");
     row("list --version", "version");

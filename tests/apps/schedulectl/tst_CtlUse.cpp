@@ -117,7 +117,9 @@ void tst_CtlUse::versionIsOneLine()
 {
     const CtlResult version = CtlFixture().run({QStringLiteral("--version")});
     QCOMPARE(version.status, 0);
-    const QRegularExpression expected(QStringLiteral("^schedulectl \\d+\\.\\d+\\.\\d+\n$"));
+    const QRegularExpression expected(
+        QStringLiteral("^schedulectl \\d+\\.\\d+\\.\\d+ "
+                       "\\((commit [0-9a-f]{12}\\+?, )?Qt 5\\.\\d+\\.\\d+\\)\n$"));
     QVERIFY2(expected.match(version.text()).hasMatch(), version.out.constData());
 }
 

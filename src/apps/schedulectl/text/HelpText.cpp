@@ -1,5 +1,6 @@
 #include "HelpText.h"
 
+#include "SharedOptions.h"
 #include "common/DefaultDatabase.h"
 
 #include <algorithm>
@@ -16,16 +17,6 @@ QString text(std::string_view latin)
 /// Where the meaning of an option begins, behind the margin.
 constexpr int kMeaningColumn = 19;
 
-QString option(const QString& name, const QString& meaning)
-{
-    return QStringLiteral("  %1%2\n").arg(name, -kMeaningColumn).arg(meaning);
-}
-
-QString option(const char* name, const QString& meaning)
-{
-    return option(QString::fromLatin1(name), meaning);
-}
-
 /// What comes behind a line break in a meaning stands below it.
 QString hanging(QString meaning)
 {
@@ -33,27 +24,22 @@ QString hanging(QString meaning)
                            QLatin1Char('\n') + QString(kMeaningColumn + 2, QLatin1Char(' ')));
 }
 
-QString usageOf(const CommandOption& own)
+QString usageOf(const CommandOption& option)
 {
-    return own.value.empty() ? text(own.name) : text(own.name) + QLatin1Char(' ') + text(own.value);
+    const QString name = text(option.name);
+    if (option.name == helpOption().name) {
+        return QStringLiteral("-h, ") + name;
+    }
+    return option.value.empty() ? name : name + QLatin1Char(' ') + text(option.value);
 }
 
-QString databaseOption()
+QString helpOn(const CommandOption& option)
 {
-    return option("--database FILE",
-                  hanging(QStringLiteral("The database to work on; defaults to the editor's "
-                                         "own:\n") +
-                          hosts::defaultDatabasePath()));
-}
-
-QString jsonOption()
-{
-    return option("--json", QStringLiteral("Write the result as JSON."));
-}
-
-QString helpOption()
-{
-    return option("-h, --help", QStringLiteral("Show this help."));
+    QString meaning = text(option.meaning);
+    if (option.name == databaseOption().name) {
+        meaning += QLatin1Char('\n') + hosts::defaultDatabasePath();
+    }
+    return QStringLiteral("  %1%2\n").arg(usageOf(option), -kMeaningColumn).arg(hanging(meaning));
 }
 
 const char* const kExitStatus = R"(Exit status:
@@ -74,13 +60,11 @@ QString generalHelp(const std::vector<Command>& commands)
         help +=
             QStringLiteral("  %1%2\n").arg(text(command.name), -column).arg(text(command.summary));
     }
-    help += QStringLiteral(
-        "\n\"schedulectl COMMAND --help\" tells more about a command.\n\nOptions:\n");
-    help += databaseOption();
-    help += option("--json", QStringLiteral("Write the result as JSON, where a command has one."));
-    help += helpOption();
-    help += option("--version", QStringLiteral("Show the version."));
-    help += option("--", QStringLiteral("Take everything that follows as an argument."));
+    help +=
+        QStringLiteral("\n\"schedulectl help COMMAND\" tells more about a command.\n\nOptions:\n");
+    for (const CommandOption& option : generalOptions()) {
+        help += helpOn(option);
+    }
     return help + QLatin1Char('\n') + QString::fromLatin1(kExitStatus);
 }
 
@@ -93,16 +77,9 @@ QString commandHelp(const Command& command)
     }
     QString help = QStringLiteral("Usage: schedulectl %1 [OPTION...]%2\n\n%3\n\nOptions:\n")
                        .arg(text(command.name), arguments, text(command.help));
-    for (const CommandOption& own : command.options) {
-        help += option(usageOf(own), hanging(text(own.meaning)));
+    for (const CommandOption& option : optionsOf(command)) {
+        help += helpOn(option);
     }
-    if (command.hasDatabase) {
-        help += databaseOption();
-    }
-    if (command.hasJson) {
-        help += jsonOption();
-    }
-    help += helpOption();
     return help + QLatin1Char('\n') + QString::fromLatin1(kExitStatus);
 }
 

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Command.h"
+
+#include <vector>
+
+namespace trel::console {
+
+/// The options that commands share. What reads a command line knows them too.
+
+/// Its meaning ends with a colon, behind which the path of the default database stands.
+CommandOption databaseOption();
+CommandOption jsonOption();
+/// Also "-h".
+CommandOption helpOption();
+CommandOption versionOption();
+/// What ends the options.
+CommandOption endOfOptions();
+
+/// All options of a command: its own, then those that it shares.
+std::vector<CommandOption> optionsOf(const Command& command);
+
+/// The options that may stand before a command.
+std::vector<CommandOption> generalOptions();
+
+} // namespace trel::console

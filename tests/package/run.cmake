@@ -1,0 +1,20 @@
+# run(<command>... [STATUS <number>] [OUTPUT <regex>] [WITHOUT <regex>])
+#
+# Fails unless the command ends with the number, 0 when nothing is said, and writes what is asked for.
+function(run)
+  cmake_parse_arguments(ARG "" "STATUS;OUTPUT;WITHOUT" "" ${ARGN})
+  execute_process(COMMAND ${ARG_UNPARSED_ARGUMENTS}
+    RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE out)
+  if(NOT ARG_STATUS)
+    set(ARG_STATUS 0)
+  endif()
+  if(NOT status EQUAL ARG_STATUS)
+    message(FATAL_ERROR "${ARG_UNPARSED_ARGUMENTS}: ended with ${status}\n${out}")
+  endif()
+  if(ARG_OUTPUT AND NOT out MATCHES "${ARG_OUTPUT}")
+    message(FATAL_ERROR "${ARG_UNPARSED_ARGUMENTS}: no \"${ARG_OUTPUT}\" in\n${out}")
+  endif()
+  if(ARG_WITHOUT AND out MATCHES "${ARG_WITHOUT}")
+    message(FATAL_ERROR "${ARG_UNPARSED_ARGUMENTS}: \"${ARG_WITHOUT}\" in\n${out}")
+  endif()
+endfunction()
