@@ -206,7 +206,7 @@ void tst_CtlEffect::aPlanIsInserted()
     const QStringList lines = result.lines();
     QVERIFY2(lines.value(0).startsWith(QStringLiteral("Inserted: News from ")),
              qPrintable(result.text()));
-    QVERIFY(lines.value(0).endsWith(QStringLiteral(" to 23:59:59, for task 1, plan 4.")));
+    QVERIFY(lines.value(0).endsWith(QStringLiteral(" until 23:59:59, for task 1, plan 4.")));
     QCOMPARE(lines.value(1), QStringLiteral("It takes the screen from what it shows: plays News."));
 }
 

@@ -161,7 +161,7 @@ void tst_CtlScreen::nowWithoutAPlan()
                  QStringLiteral("Screen        last frame of rtsp://host/live"),
                  QStringLiteral("Plan          task 1, row 3, plan 7"),
                  QStringLiteral("Since         13:00:00"),
-                 QStringLiteral("Until         for good"),
+                 QStringLiteral("Until         further notice"),
                  QStringLiteral("Why           No plan claims this time; the last one, task 1, row "
                                 "3, plan 7, left the last frame of rtsp://host/live."),
                  QStringLiteral("Next program  none"),

@@ -35,7 +35,7 @@ QJsonValue startJson(const std::optional<EffectStart>& started, const ScreenRepo
 QString insertionText(const ScreenInsertion& insertion, Instant besides, const ScreenReport& words)
 {
     const MomentFormat& local = words.source().local;
-    return QStringLiteral("%1 from %2 to %3, for task %4, plan %5")
+    return QStringLiteral("%1 from %2 until %3, for task %4, plan %5")
         .arg(entriesText(insertion.plan.programs, words.source().programs),
              local.text(insertion.begins, besides), words.untilText(insertion.ends, besides),
              QString::number(insertion.taskId), QString::number(insertion.planId));

@@ -119,7 +119,7 @@ QString ScreenReport::programName(int progIndex) const
 
 QString ScreenReport::untilText(Instant until, Instant besides) const
 {
-    return isDated(until) ? m_source.local.text(until, besides) : QStringLiteral("for good");
+    return isDated(until) ? m_source.local.text(until, besides) : QStringLiteral("further notice");
 }
 
 QJsonObject ScreenReport::json(const ScreenState& state) const

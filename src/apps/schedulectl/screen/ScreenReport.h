@@ -37,8 +37,8 @@ public:
     static QString planText(int taskId, int row, int planId);
     /// Printable.
     QString programName(int progIndex) const;
-    /// "09:00:00" or, on another day than the other moment, "2024-01-31 09:00:00"; "for good" where
-    /// it never comes.
+    /// "09:00:00" or, on another day than the other moment, "2024-01-31 09:00:00"; "further
+    /// notice" where it never comes. Reads well behind "until".
     QString untilText(trel::mediadispatch::Instant until,
                       trel::mediadispatch::Instant besides) const;
 
