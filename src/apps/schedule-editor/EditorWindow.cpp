@@ -6,6 +6,7 @@
 #include "ImportJob.h"
 #include "Languages.h"
 #include "PendingNotices.h"
+#include "PlainTabTips.h"
 #include "ProblemWords.h"
 #include "ProgramTableModel.h"
 #include "clock/ClockChangePanel.h"
@@ -125,6 +126,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
 
     connectMenus();
     new EffectActions(*m_menus, *m_notices, this);
+    new PlainTabTips(*this);
     buildPanels(languages, themes);
     retranslate();
     resize(1180, 720);

@@ -11,9 +11,20 @@ namespace {
 
 const QString kName = QStringLiteral("eo_EO");
 
+/// Of XML.
+QString unescaped(QString text)
+{
+    return text.replace(QLatin1String("&lt;"), QLatin1String("<"))
+        .replace(QLatin1String("&gt;"), QLatin1String(">"))
+        .replace(QLatin1String("&quot;"), QLatin1String("\""))
+        .replace(QLatin1String("&apos;"), QLatin1String("'"))
+        .replace(QLatin1String("&amp;"), QLatin1String("&"));
+}
+
 } // namespace
 
-PseudoLanguage::PseudoLanguage(trel::mediadispatch::scheduleControlUI& editor)
+PseudoLanguage::PseudoLanguage(trel::mediadispatch::scheduleControlUI& editor, Change change)
+    : m_change(change)
 {
     editor.loadLanguageFiles({compileEditorTexts()});
     editor.switchLanguage(kName);
@@ -51,7 +62,7 @@ QString PseudoLanguage::translate(const char* context, const char* source,
     // The toolkit asks for the direction of writing in this way.
     const bool isText = QLatin1String(context) != QLatin1String("QApplication") &&
                         QLatin1String(context) != QLatin1String("QGuiApplication");
-    return isText ? longer(QString::fromUtf8(source)) : QString();
+    return isText ? m_change(QString::fromUtf8(source)) : QString();
 }
 
 QString PseudoLanguage::compileEditorTexts() const
@@ -69,7 +80,8 @@ QString PseudoLanguage::compileEditorTexts() const
     QRegularExpressionMatchIterator matches = translation.globalMatch(texts);
     while (matches.hasNext()) {
         const QRegularExpressionMatch match = matches.next();
-        made += texts.mid(done, match.capturedStart(1) - done) + longer(match.captured(1));
+        made += texts.mid(done, match.capturedStart(1) - done) +
+                m_change(unescaped(match.captured(1))).toHtmlEscaped();
         done = match.capturedEnd(1);
     }
     made += texts.mid(done);

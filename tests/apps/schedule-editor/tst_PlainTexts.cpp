@@ -1,5 +1,6 @@
 #include "CardOnScreen.h"
 #include "HostFixture.h"
+#include "PseudoLanguage.h"
 #include "support/ChooserAnswer.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
@@ -7,12 +8,15 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QDockWidget>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QTextDocument>
 #include <QToolTip>
+
+#include <algorithm>
 
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
@@ -104,6 +108,34 @@ QString tipOver(QWidget& widget, const QPoint& place)
     return QToolTip::text();
 }
 
+/// The tool tips that come up over what can be seen, at places close to each other.
+QStringList tipsOverAll()
+{
+    constexpr int kStep = 24;
+    QStringList tips;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) {
+        if (!widget->isVisible() || widget->inherits("QTipLabel")) {
+            continue;
+        }
+        for (int y = qMin(kStep, widget->height()) / 2; y < widget->height(); y += kStep) {
+            for (int x = qMin(kStep, widget->width()) / 2; x < widget->width(); x += kStep) {
+                if (const QString tip = tipOver(*widget, {x, y}); !tip.isEmpty()) {
+                    tips.append(tip);
+                }
+            }
+        }
+    }
+    tips.removeDuplicates();
+    return tips;
+}
+
+/// A text of a language file that is all markup.
+QString marked(const QString& text)
+{
+    return kMarkup + text;
+}
+
 int widgetsWithMarkup()
 {
     int count = 0;
@@ -124,6 +156,9 @@ class tst_PlainTexts : public QObject
 
 private slots:
     void everyWidgetShowsTextsToTheLetter();
+    void languageFilesAreShownToTheLetter_data();
+    void languageFilesAreShownToTheLetter();
+    void insertionsAreShownToTheLetter();
     void promptsShowTextsToTheLetter();
     void theImportShowsNamesToTheLetter();
 
@@ -153,6 +188,16 @@ private:
             QVERIFY(host.replaceSchedule({{1, task}, {2, odd}}));
             manager.slotOpen();
         }
+
+        QList<QWidget*> openCards() const
+        {
+            const auto cards = editor->findChildren<QWidget*>(QStringLiteral("PlanTaskWidget"));
+            for (QWidget* card : cards) {
+                card->findChild<QAbstractButton*>(QStringLiteral("title"))->setChecked(false);
+            }
+            QCoreApplication::processEvents();
+            return cards;
+        }
     };
 };
 
@@ -161,25 +206,15 @@ void tst_PlainTexts::everyWidgetShowsTextsToTheLetter()
     Hostile fixture;
     fixture.window.show();
     fixture.showEditor();
-    const QList<QWidget*> cards =
-        fixture.editor->findChildren<QWidget*>(QStringLiteral("PlanTaskWidget"));
-    for (QWidget* card : cards) {
-        card->findChild<QAbstractButton*>(QStringLiteral("title"))->setChecked(false);
-    }
-    QCoreApplication::processEvents();
+    const QList<QWidget*> cards = fixture.openCards();
     QVERIFY2(widgetsWithMarkup() > 0, "the panels of the host show no program");
     QCOMPARE(faultsOfAll(), QString());
 
-    const QWidgetList widgets = QApplication::allWidgets();
-    int tips = 0;
-    for (QWidget* widget : widgets) {
-        const QString tip = widget->isVisible() && !widget->inherits("QTipLabel")
-                                ? tipOver(*widget, widget->rect().center())
-                                : QString();
-        tips += tip.isEmpty() ? 0 : 1;
+    const QStringList tips = tipsOverAll();
+    for (const QString& tip : tips) {
         QVERIFY2(!tip.contains(kMarkup) && isShownToTheLetter(tip), qPrintable(tip));
     }
-    QVERIFY2(tips > 0, "no tool tip came up");
+    QVERIFY2(!tips.isEmpty(), "no tool tip came up");
 
     ChooserAnswer answer([](const ChooserWindow& chooser) {
         QCOMPARE(chooser.programTable()->model()->rowCount(), 2);
@@ -192,6 +227,76 @@ void tst_PlainTexts::everyWidgetShowsTextsToTheLetter()
     });
     CardOnScreen(*cards.front()).openChooser(0);
     QCOMPARE(answer.count(), 1);
+}
+
+void tst_PlainTexts::languageFilesAreShownToTheLetter_data()
+{
+    QTest::addColumn<bool>("areCardsOpen");
+    QTest::newRow("before the cards come") << false;
+    QTest::newRow("while the cards are open") << true;
+}
+
+/// A language file may be anybody's.
+void tst_PlainTexts::languageFilesAreShownToTheLetter()
+{
+    QFETCH(const bool, areCardsOpen);
+    Hostile fixture;
+    fixture.window.resize(1180, 720);
+    fixture.window.show();
+    if (areCardsOpen) {
+        fixture.showEditor();
+        fixture.openCards();
+    }
+    const PseudoLanguage language(*fixture.editor, marked);
+    if (!areCardsOpen) {
+        fixture.showEditor();
+        fixture.openCards();
+    }
+    for (const char* name : {"pbtCreatCopy", "pushButtonDelete"}) {
+        auto* button = fixture.firstCard()->findChild<QWidget*>(QLatin1String(name));
+        QVERIFY2(button != nullptr, name);
+        QToolTip::hideText();
+        const QPoint place = button->rect().center();
+        QEnterEvent enter(place, button->mapTo(button->window(), place),
+                          button->mapToGlobal(place));
+        QApplication::sendEvent(button, &enter);
+        const QString tip = QToolTip::text();
+        QVERIFY2(Qt::mightBeRichText(tip) && isShownToTheLetter(tip) && !tip.contains(kMarkup),
+                 qPrintable(tip));
+    }
+    const QList<QDockWidget*> panels = fixture.window.findChildren<QDockWidget*>();
+    for (QDockWidget* panel : panels) {
+        panel->show();
+        panel->raise();
+        QCoreApplication::processEvents();
+        QCOMPARE(faultsOfAll(), QString());
+        const QStringList tips = tipsOverAll();
+        for (const QString& tip : tips) {
+            QVERIFY2(!tip.contains(kMarkup) && isShownToTheLetter(tip), qPrintable(tip));
+        }
+        QVERIFY2(std::any_of(tips.begin(), tips.end(),
+                             [](const QString& tip) { return Qt::mightBeRichText(tip); }),
+                 qPrintable(panel->objectName()));
+    }
+}
+
+void tst_PlainTexts::insertionsAreShownToTheLetter()
+{
+    Hostile fixture;
+    fixture.window.show();
+    const QList<QDockWidget*> panels = fixture.window.findChildren<QDockWidget*>();
+    for (QDockWidget* panel : panels) {
+        panel->show();
+    }
+    PlayPlan plan = hostilePlan(1);
+    plan.serviceFlagA = true;
+    QVERIFY(fixture.host.insertPlan(1, 1, plan, false));
+    auto* badge = fixture.window.findChild<QWidget*>(QStringLiteral("nowInserted"));
+    QVERIFY(badge != nullptr);
+    QTRY_VERIFY(badge->isVisible());
+    const QString tip = tipOver(*badge, badge->rect().center());
+    QVERIFY2(Qt::mightBeRichText(tip), qPrintable(tip));
+    QVERIFY2(!tip.contains(kMarkup) && isShownToTheLetter(tip), qPrintable(tip));
 }
 
 void tst_PlainTexts::promptsShowTextsToTheLetter()

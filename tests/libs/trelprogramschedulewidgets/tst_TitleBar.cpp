@@ -1,6 +1,7 @@
 #include "ChosenLanguage.h"
 #include "Mouse.h"
 #include "TitleBar.h"
+#include "libs/tstranslate/QmBytes.h"
 #include "support/MessageLog.h"
 #include "support/TestProgram.h"
 
@@ -10,6 +11,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTemporaryFile>
+#include <QTextDocument>
 #include <QtTest>
 
 #include <memory>
@@ -57,6 +60,7 @@ private slots:
     void selectsALanguage();
     void ignoresALanguageOutOfRange();
     void retranslatesWhenTheToolkitSaysSo();
+    void textsOfALanguageAreNoMarkup();
     void letsAFilterHoverOverTitleAndButtons();
     void takesNoHoverFilterToo();
     void paintsTheBackgroundOfAStyleSheetAlone();
@@ -366,6 +370,27 @@ void tst_TitleBar::retranslatesWhenTheToolkitSaysSo()
     QCOMPARE(m_bar->findChild<QLabel*>(QStringLiteral("TitleLabel"))->text(),
              QStringLiteral("zhMinAct"));
     QCOMPARE(translate.count(), 0);
+}
+
+void tst_TitleBar::textsOfALanguageAreNoMarkup()
+{
+    const QString markup = QStringLiteral("<b>Close</b>");
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write(
+        QmBytes().language("xx_XX").text("zhCloseAct", markup, "SheduleWidgets", "Widget").bytes());
+    QVERIFY(file.flush());
+    auto& texts =
+        trel::mediadispatch::ProgramSheduleWidgetTranslateManager::instance().translator();
+    QVERIFY(texts.load(file.fileName()));
+    const QString before = texts.language();
+    texts.switchLanguage(QStringLiteral("xx_XX"));
+    m_bar->retranslate();
+    texts.switchLanguage(before);
+    QCOMPARE(closeButton()->accessibleName(), markup);
+    QTextDocument tip;
+    tip.setHtml(closeButton()->toolTip());
+    QCOMPARE(tip.toPlainText(), markup);
 }
 
 void tst_TitleBar::letsAFilterHoverOverTitleAndButtons()
