@@ -103,10 +103,12 @@ install(DIRECTORY resources/demonstration
   DESTINATION ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME} COMPONENT data
   PATTERN make-media EXCLUDE)
 
+set(language_dir ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME}/languages)
 configure_package_config_file(
   cmake/${PROJECT_NAME}Config.cmake.in
   ${CMAKE_BINARY_DIR}/${PROJECT_NAME}Config.cmake
-  INSTALL_DESTINATION ${package_dir})
+  INSTALL_DESTINATION ${package_dir}
+  PATH_VARS language_dir)
 write_basic_package_version_file(
   ${CMAKE_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
   COMPATIBILITY SameMinorVersion)

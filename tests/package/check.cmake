@@ -14,6 +14,35 @@ run(${CMAKE_COMMAND} -S ${SURFACE} -B ${WORK}/surface -G Ninja
   -DCMAKE_CXX_COMPILER=${COMPILER})
 run(${CMAKE_COMMAND} --build ${WORK}/surface)
 run(${WORK}/surface/surface OUTPUT "All there")
+run(${WORK}/surface/surface OUTPUT "Languages: [^\n]*/installed/share/[a-z]+/languages\n")
+
+run(${CMAKE_COMMAND} -S ${SNIPPETS} -B ${WORK}/snippets -G Ninja -DDOCUMENT=${DOCUMENT}
+  -DCMAKE_PREFIX_PATH=${WORK}/installed "-DCMAKE_CXX_FLAGS=${FLAGS}"
+  -DCMAKE_CXX_COMPILER=${COMPILER})
+run(${CMAKE_COMMAND} --build ${WORK}/snippets)
+
+# A host may forbid itself whatever the toolkit lets it forbid, and be of a later standard.
+set(strictness
+  QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
+  QT_NO_URL_CAST_FROM_STRING QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_NO_JAVA_STYLE_ITERATORS
+  QT_NO_LINKED_LIST QT_STRICT_ITERATORS QT_USE_QSTRINGBUILDER QT_DISABLE_DEPRECATED_BEFORE=0x060000)
+list(TRANSFORM strictness PREPEND -D)
+execute_process(COMMAND pkg-config --cflags Qt5Widgets Qt5Sql
+  OUTPUT_VARIABLE toolkit OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+string(REPLACE -I -isystem toolkit "${toolkit}")
+separate_arguments(toolkit UNIX_COMMAND "${toolkit}")
+set(includes ${WORK}/installed/include/trelprogramschedulewidgets)
+file(GLOB_RECURSE headers RELATIVE ${includes} ${includes}/*.h)
+list(TRANSFORM headers REPLACE "(.+)" "#include \"\\1\"\n")
+list(JOIN headers "" headers)
+file(WRITE ${WORK}/headers.cpp "${headers}")
+foreach(compiler IN ITEMS g++ clang++)
+  foreach(standard IN ITEMS 17 20 2b)
+    run(${compiler} -std=c++${standard} -fsyntax-only -fPIC -Werror
+      -Wall -Wextra -Wpedantic -Wshadow -Wconversion ${strictness} ${toolkit} -I${includes}
+      ${WORK}/headers.cpp)
+  endforeach()
+endforeach()
 
 run(${WORK}/build/minimal-host STATUS 2 OUTPUT "Usage: minimal-host")
 run(${WORK}/build/minimal-host ${WORK}/no/such/folder/schedule.db STATUS 1 OUTPUT "no/such/folder")

@@ -12,7 +12,6 @@
 #include <QLocale>
 
 #include <algorithm>
-#include <vector>
 
 using namespace trel::mediadispatch;
 
@@ -38,16 +37,16 @@ Languages::Languages(const QString& folder, scheduleControlUI& editor, QObject* 
     , m_folder(folder)
     , m_editor(editor)
 {
-    std::vector<QString> files;
+    auto& texts = ProgramSheduleWidgetTranslateManager::instance().translator();
     const QFileInfoList found =
         QDir(folder).entryInfoList({QStringLiteral("*.qm")}, QDir::Files, QDir::Name);
     for (const QFileInfo& file : found) {
-        if (!file.fileName().startsWith(kHostPrefix)) {
-            files.push_back(file.absoluteFilePath());
+        // What is refused is not offered.
+        if (texts.load(file.absoluteFilePath())) {
             m_names.append(file.completeBaseName());
         }
     }
-    m_editor.loadLanguageFiles(files);
+    m_editor.loadLanguageFiles({});
 }
 
 QString Languages::nativeName(const QString& name)
@@ -125,7 +124,7 @@ void Languages::select(const QString& name)
     // for every country.
     exchange(m_toolkitTexts, kToolkitPrefix + name,
              QLibraryInfo::location(QLibraryInfo::TranslationsPath));
-    exchange(m_hostTexts, kHostPrefix + name, m_folder);
+    exchange(m_hostTexts, kHostPrefix + name, m_folder + QStringLiteral("/../host-languages"));
     m_editor.switchLanguage(name);
     m_editor.translate();
     emit changed();

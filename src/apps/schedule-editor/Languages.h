@@ -13,9 +13,9 @@ namespace trel::desktop {
 /// The languages of the editor and of the host around it, and the one in use.
 ///
 /// The editor's texts come from one language file each, loaded at construction; the host's own
-/// from the files with the prefix "schedule-editor_" beside them. What the toolkit itself says, in
-/// file dialogs, on standard buttons and in the menus of fields, comes from its own translations,
-/// as far as they are installed; otherwise it stays English.
+/// from the files "schedule-editor_*.qm" in the folder "host-languages" beside that one. What the
+/// toolkit itself says, in file dialogs, on standard buttons and in the menus of fields, comes from
+/// its own translations, as far as they are installed; otherwise it stays English.
 class Languages : public QObject
 {
     Q_OBJECT

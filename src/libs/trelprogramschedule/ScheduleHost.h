@@ -160,7 +160,7 @@ public:
     /// hosts that show a schedule which nobody has started. Nothing happens while one is in effect.
     void rehearse();
 
-signals:
+Q_SIGNALS:
     /// scheduleManage::save could not commit. Emitted while save still runs, so that a receiver can
     /// still ask the operator, call trySave again or write the working set elsewhere.
     void saveFailed(const trel::mediadispatch::StoreResult& reason);

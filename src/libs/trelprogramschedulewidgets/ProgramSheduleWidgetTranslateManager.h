@@ -2,7 +2,7 @@
 
 #include "trelprogramschedulewidgets_export.h"
 
-#include <QtGlobal>
+#include <QString>
 
 #include <memory>
 
@@ -30,6 +30,11 @@ public:
 
     /// The same object on every call, owned by the manager.
     tessark::trans::Translator& translator();
+
+    /// The folder of the language files that come with the library: its absolute path, found from
+    /// the place of the library, so that the installed tree can be moved. It holds nothing but
+    /// files for this translator, a language each. Empty where it is not there. From any thread.
+    static QString languageFolder();
 
 private:
     ProgramSheduleWidgetTranslateManager();

@@ -55,7 +55,7 @@ public:
     /// call it before they close their service.
     void unsetScheduleManage() const;
 
-signals:
+Q_SIGNALS:
     /// The list of cards is to be read again.
     void signalUpdatePlanList();
     /// The list of cards is to be emptied.
@@ -63,7 +63,7 @@ signals:
     /// For hosts that drive a language choice by index. Nothing in the window listens to it.
     void signalTranslationByQz7(int);
 
-public slots:
+public Q_SLOTS:
     /// Closes the window, which hides it. What was not saved goes with the next refresh.
     void slotCancel();
     /// Saves the schedule and closes the window.

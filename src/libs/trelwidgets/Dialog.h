@@ -58,7 +58,7 @@ public:
     /// dialogWidget() is null from then on, and setScaleSwitch() does nothing.
     void dismantle();
 
-signals:
+Q_SIGNALS:
     /// The operator has accepted the dialog from the keyboard, with Control and Return.
     /// Emitted only with acceptsByKey(). A cell editor that was open has handed in its value
     /// before. The dialog does not close by itself.

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QTranslator>
 
+#include <algorithm>
 #include <map>
 #include <new>
 #include <utility>
@@ -54,7 +55,17 @@ public:
     }
 
     std::map<QString, std::unique_ptr<Language>> languages;
+    /// Whether a file has anything to say to those who ask.
+    bool accepts(const LanguageFile& file) const
+    {
+        return wanted.isEmpty() || std::any_of(file.messages.begin(), file.messages.end(),
+                                               [this](const LanguageMessage& message) {
+                                                   return message.group == wanted;
+                                               });
+    }
+
     QString selected = kFallbackLanguage;
+    QString wanted; ///< The group of which a file needs a text; empty for any.
 };
 
 Translator::Translator()
@@ -66,7 +77,7 @@ Translator::~Translator() = default;
 bool Translator::load(const QString& file)
 try {
     const std::optional<LanguageFile> read = readLanguageFile(file);
-    if (!read) {
+    if (!read || !d->accepts(*read)) {
         return false;
     }
     auto language = std::make_unique<Language>(read->bytes);
@@ -89,6 +100,11 @@ void Translator::switchLanguage(const QString& language)
 QString Translator::language() const
 {
     return d->selected;
+}
+
+void Translator::acceptOnly(const QString& group)
+{
+    d->wanted = group;
 }
 
 QString translate(const Translator& translator, const QString& group, const QString& context,

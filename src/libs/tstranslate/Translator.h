@@ -25,7 +25,7 @@ public:
     /// Loads a language file whole into memory; the file may change or go afterwards. A second file
     /// of a language takes the place of the first. Returns false, and leaves every language as it
     /// was, for a file that is missing, without texts, damaged or no language file, for one that
-    /// refers to other files, and for lack of memory.
+    /// refers to other files or has nothing of what acceptOnly wants, and for lack of memory.
     bool load(const QString& file);
 
     /// Selects the language of later lookups, by name, such as "zh_CN". A name that was not loaded
@@ -34,6 +34,11 @@ public:
 
     /// The name last given to switchLanguage; "zh_CN" before the first call.
     QString language() const;
+
+    /// Lets load refuse files without a text of this group from now on, so that the texts of
+    /// another program do not take the place of a language. An empty group lets in every file, as
+    /// before the first call. What is loaded stays.
+    void acceptOnly(const QString& group);
 
 private:
     friend TSTRANSLATE_EXPORT QString translate(const Translator& translator, const QString& group,

@@ -29,6 +29,7 @@ class tst_HostLanguage : public QObject
 private slots:
     void nativeNames_data();
     void nativeNames();
+    void offersWhatTheEditorCanSpeak();
     void startLanguage_data();
     void startLanguage();
     void fontBeginsWithTheOwnFace_data();
@@ -186,6 +187,23 @@ void tst_HostLanguage::nativeNames()
 {
     QFETCH(QString, name);
     QCOMPARE(Languages::nativeName(QString::fromUtf8(QTest::currentDataTag())), name);
+}
+
+/// Of what may lie in a folder of languages.
+void tst_HostLanguage::offersWhatTheEditorCanSpeak()
+{
+    HostFixture fixture;
+    QTemporaryDir folder;
+    const auto put = [&folder](const QString& source) {
+        return QFile::copy(source, folder.filePath(QFileInfo(source).fileName()));
+    };
+    QVERIFY(put(QStringLiteral(LANGUAGES "/de_DE.qm")));
+    QVERIFY(put(QStringLiteral(LANGUAGES "/../host-languages/schedule-editor_fr_FR.qm")));
+    QFile damaged(folder.filePath(QStringLiteral("es_ES.qm")));
+    QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write("no language") > 0);
+    damaged.close();
+    const Languages languages(folder.path(), *fixture.editor);
+    QCOMPARE(languages.names(), QStringList{QStringLiteral("de_DE")});
 }
 
 void tst_HostLanguage::startLanguage_data()

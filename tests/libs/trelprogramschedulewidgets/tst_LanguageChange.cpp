@@ -11,9 +11,11 @@
 #include "tstranslate/Translator.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSet>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
@@ -89,6 +91,8 @@ private slots:
     void translateReachesEveryText();
     void aCardBuiltAfterTheSwitchSpeaksTheNewLanguage();
     void aCardThatIsGoneIsNotAsked();
+    void textsOfAHostTakeNoLanguagesPlace();
+    void theFolderHoldsALanguageAFile();
 };
 
 void tst_LanguageChange::init()
@@ -156,6 +160,36 @@ void tst_LanguageChange::aCardThatIsGoneIsNotAsked()
     QStringList english = expectedTexts();
     english.removeAt(6);
     QCOMPARE(editor.texts(), english);
+}
+
+void tst_LanguageChange::textsOfAHostTakeNoLanguagesPlace()
+{
+    const Editor editor;
+    editor.dialog.switchLanguage(kEnglish);
+    const QStringList english = expectedTexts();
+    const QString host = QStringLiteral(LANGUAGE_DIR "/../host-languages/schedule-editor_en_US.qm");
+    QVERIFY(QFile::exists(host));
+    editor.dialog.loadLanguageFiles({host});
+    editor.dialog.switchLanguage(kEnglish);
+    QCOMPARE(expectedTexts(), english);
+}
+
+void tst_LanguageChange::theFolderHoldsALanguageAFile()
+{
+    const QString folder = ProgramSheduleWidgetTranslateManager::languageFolder();
+    QCOMPARE(QDir(folder).canonicalPath(), QDir(QStringLiteral(LANGUAGE_DIR)).canonicalPath());
+    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files);
+    QCOMPARE(files.size(), 10);
+    tessark::trans::Translator& texts =
+        ProgramSheduleWidgetTranslateManager::instance().translator();
+    QSet<QString> titles;
+    for (const QFileInfo& file : files) {
+        QVERIFY2(texts.load(file.absoluteFilePath()), qPrintable(file.fileName()));
+        texts.switchLanguage(file.completeBaseName());
+        titles.insert(scheduleText("zhNoPlayTask"));
+    }
+    texts.switchLanguage(kChinese);
+    QCOMPARE(titles.size(), files.size());
 }
 
 TREL_TEST(tst_LanguageChange, QApplication)

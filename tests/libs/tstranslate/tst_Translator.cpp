@@ -64,6 +64,7 @@ private slots:
     void refuses_data();
     void refuses();
     void refusesWhatIsNoFile();
+    void refusesTheTextsOfAnotherProgram();
     void survivesItsFile();
     void refusesFilesCutShort_data();
     void refusesFilesCutShort();
@@ -360,6 +361,33 @@ void TestTranslator::refusesWhatIsNoFile()
     const QString pipe = m_dir->filePath(QStringLiteral("pipe.qm"));
     QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     QVERIFY(!translator.load(pipe));
+}
+
+void TestTranslator::refusesTheTextsOfAnotherProgram()
+{
+    Translator translator;
+    translator.acceptOnly(kGroup);
+    QVERIFY(translator.load(write(chinese().bytes())));
+    const QString other = write(
+        QmBytes()
+            .language(QByteArrayLiteral("zh_CN"))
+            .text(QByteArrayLiteral("ok"), QStringLiteral("other"), QByteArrayLiteral("Another"))
+            .bytes(),
+        QStringLiteral("other.qm"));
+    QVERIFY(!translator.load(other));
+    QCOMPARE(textOf(translator, "ok"), QStringLiteral("确定"));
+    // One text is enough, whatever else there is.
+    const QString both =
+        write(QmBytes()
+                  .language(QByteArrayLiteral("zh_CN"))
+                  .text(QByteArrayLiteral("x"), QStringLiteral("y"), QByteArrayLiteral("Another"))
+                  .text(QByteArrayLiteral("ok"), QStringLiteral("好"))
+                  .bytes(),
+              QStringLiteral("both.qm"));
+    QVERIFY(translator.load(both));
+    QCOMPARE(textOf(translator, "ok"), QStringLiteral("好"));
+    translator.acceptOnly(QString());
+    QVERIFY(translator.load(other));
 }
 
 void TestTranslator::survivesItsFile()

@@ -84,5 +84,7 @@ int main()
         &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleFromJson, &scheduleToJson,
         &shownAddress, &storeProblemName, &timeFromText, &timeToText, &totalText,
         &tessark::trans::translate, &weeksOverlap, &writeScheduleFile);
+    std::cout << "Languages: "
+              << ProgramSheduleWidgetTranslateManager::languageFolder().toStdString() << '\n';
     std::cout << (areClassesThere && areFunctionsThere ? "All there\n" : "Something is missing\n");
 }

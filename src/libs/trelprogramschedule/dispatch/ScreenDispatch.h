@@ -42,7 +42,7 @@ public:
     /// original of the last one is filled in right after changed() has told of it.
     const ScreenInsertions& insertions() const;
 
-signals:
+Q_SIGNALS:
     /// Something else is on screen than was last told, or was to come: a play has ended or begun,
     /// a schedule was started or stopped, an insertion was taken, a program of the schedule came,
     /// went or got another length, the clock leapt to another picture. Not emitted for what makes

@@ -91,7 +91,7 @@ public:
     /// The text kept last.
     std::string getqstrSelectedProgram() const;
 
-signals:
+Q_SIGNALS:
     /// The conflict picture may have changed, through the program of this index, or for another
     /// reason if it is -1. Never emitted from inside addTask.
     void signalReflushConflict(int progId);

@@ -1,0 +1,3 @@
+// The snippets are there to be compiled.
+
+int main() {}
