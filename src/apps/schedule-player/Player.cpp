@@ -1,6 +1,7 @@
 #include "Player.h"
 
 #include "PlayerStatusWriter.h"
+#include "asrun/AsRunKeeper.h"
 #include "clock/Clock.h"
 #include "common/DisplayText.h"
 #include "trelprogramschedule/faults/FaultWords.h"
@@ -53,13 +54,14 @@ QString shortText(const PlayerStatus& status)
 
 } // namespace
 
-Player::Player(const QString& store, const QString& screen, Stage& stage, Deck& first, Deck& second)
-    : m_store(store)
-    , m_screen(screen)
+Player::Player(const AsRunPlace& place, Stage& stage, Deck& first, Deck& second)
+    : m_store(place.store)
+    , m_screen(place.screen)
     , m_started(Clock::current().msecsSinceEpoch())
-    , m_conductor(stage, first, second, m_log)
-    , m_feed(std::make_unique<ScheduleFeed>(store))
-    , m_statusWriter(std::make_unique<PlayerStatusWriter>(store))
+    , m_asRun(place)
+    , m_conductor(stage, first, second, m_events)
+    , m_feed(std::make_unique<ScheduleFeed>(m_store))
+    , m_statusWriter(std::make_unique<PlayerStatusWriter>(m_store))
 {
     qRegisterMetaType<PlayerStatus>();
     m_feed->moveToThread(&m_thread);
@@ -71,8 +73,12 @@ Player::Player(const QString& store, const QString& screen, Stage& stage, Deck& 
         m_log.tell(
             QStringLiteral("\"schedulectl screens\" does not hear of this player: %1").arg(reason));
     });
+    connect(&m_asRun, &AsRunRecording::told, this,
+            [this](const QString& line) { m_log.tell(line); });
+    m_asRun.follow(m_conductor);
     tellOfStore();
     connect(m_feed.get(), &ScheduleFeed::changed, this, [this](const ScreenSchedule& schedule) {
+        m_asRun.take(schedule);
         m_conductor.setSchedule(schedule);
         follow();
     });
@@ -100,10 +106,20 @@ Player::~Player()
         m_thread.quit();
     };
     QMetaObject::invokeMethod(m_feed.get(), leave, Qt::QueuedConnection);
-    if (!m_thread.wait(std::chrono::milliseconds(kFarewell).count())) {
-        // It hangs in a disk. Nothing that it has is lost: the store is only read.
+    m_asRun.leave();
+    const auto farewell = std::chrono::milliseconds(kFarewell).count();
+    const bool isRecorded = m_asRun.waitForEnd(farewell);
+    if (!m_thread.wait(farewell) || !isRecorded) {
+        // One hangs in a disk. The store is only read, and records that are not in the spool would
+        // not get there.
         std::_Exit(EXIT_SUCCESS);
     }
+}
+
+void Player::Events::note(const ScreenEvent& event)
+{
+    m_log.note(event);
+    m_asRun.log().note(event);
 }
 
 void Player::tellOfStore()

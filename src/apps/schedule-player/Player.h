@@ -1,5 +1,6 @@
 #pragma once
 
+#include "asrun/AsRunRecording.h"
 #include "log/LogWriter.h"
 #include "log/PlayerLog.h"
 #include "system/ServiceManager.h"
@@ -22,22 +23,24 @@ class Stage;
 namespace trel::player {
 
 class PlayerStatusWriter;
+struct AsRunPlace;
 
 /// Has on a stage what a store says is in effect, from construction to its end, writes what happens
 /// to the standard error, and tells those who ask how it is.
 ///
-/// The store and the status are read and written in a thread of their own, and the log in another,
-/// so that neither a disk nor a reader of the log holds up a picture or each other.
+/// The store and the status are read and written in a thread of their own, the log in another, and
+/// the records of what was on the screen in a third, so that neither a disk nor a reader of the log
+/// holds up a picture or each other.
 class Player : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Absolute path of the store, which need not be there. Stage and decks outlive it; there can
-    /// be one player in a process.
-    Player(const QString& store, const QString& screen, screen::Stage& stage, screen::Deck& first,
+    /// The store need not be there. Stage and decks outlive it; there can be one player in a
+    /// process.
+    Player(const AsRunPlace& place, screen::Stage& stage, screen::Deck& first,
            screen::Deck& second);
-    /// Waits a quarter of a second for the thread; the process ends at once where a disk holds it
+    /// Waits a quarter of a second for each thread; the process ends at once where a disk holds one
     /// up for longer.
     ~Player() override;
 
@@ -51,6 +54,21 @@ signals:
     void statusDue(const trel::mediadispatch::PlayerStatus& status);
 
 private:
+    /// Tells all that have to do with what happens on the screen.
+    class Events : public screen::ScreenLog
+    {
+    public:
+        Events(PlayerLog& log, AsRunRecording& asRun)
+            : m_log(log)
+            , m_asRun(asRun)
+        {}
+        void note(const screen::ScreenEvent& event) override;
+
+    private:
+        PlayerLog& m_log;
+        AsRunRecording& m_asRun;
+    };
+
     void follow();
     void tellOfStore();
     void tellStatus();
@@ -61,6 +79,8 @@ private:
     const mediadispatch::Instant m_started;
     LogWriter m_logWriter;
     PlayerLog m_log;
+    AsRunRecording m_asRun;
+    Events m_events{m_log, m_asRun};
     screen::Conductor m_conductor;
     ServiceManager m_manager;
     bool m_isReady = false;

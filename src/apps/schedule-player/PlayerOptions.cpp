@@ -71,7 +71,13 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
         QStringLiteral("rotate"),
         QStringLiteral("Turn the picture clockwise, by 0, 90, 180 or 270 degrees."),
         QStringLiteral("DEGREES"), QStringLiteral("0"));
-    parser.addOptions({database, screen, window, fullScreen, monitor, mute, standBy, rotate});
+    const QCommandLineOption spool(
+        QStringLiteral("spool"),
+        QStringLiteral("Keep the records of what was on the screen in this folder until they are "
+                       "handed in, instead of a folder of your own."),
+        QStringLiteral("FOLDER"));
+    parser.addOptions(
+        {database, screen, window, fullScreen, monitor, mute, standBy, rotate, spool});
 
     if (!parser.parse(arguments)) {
         return misuse(hosts::printable(parser.errorText()));
@@ -113,6 +119,7 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
     result.options.isMute = parser.isSet(mute);
     result.options.standBy = parser.value(standBy);
     result.options.turned = turned;
+    result.options.spool = parser.value(spool);
     return result;
 }
 

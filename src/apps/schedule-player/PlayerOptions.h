@@ -15,6 +15,7 @@ struct PlayerOptions
     bool isMute = false;
     QString standBy; ///< The image for when there is no picture; empty for black.
     int turned = 0;  ///< Degrees clockwise: 0, 90, 180 or 270.
+    QString spool;   ///< The folder for records that wait; empty for the user's own.
 };
 
 /// How reading a command line ended.

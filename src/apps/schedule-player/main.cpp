@@ -1,6 +1,8 @@
 #include "Player.h"
 #include "PlayerOptions.h"
 #include "PlayerScreen.h"
+#include "asrun/AsRunKeeper.h"
+#include "asrun/SpoolPlace.h"
 #include "common/DefaultDatabase.h"
 #include "common/StopSignals.h"
 #include "common/VersionText.h"
@@ -78,6 +80,12 @@ ScreenWishes wishesOf(const PlayerOptions& options)
     return wishes;
 }
 
+AsRunPlace placeOf(const PlayerOptions& options, const QString& store)
+{
+    const QString folder = options.spool.isEmpty() ? defaultSpoolFolder() : options.spool;
+    return {store, options.screen, spoolPath(folder, store, options.screen)};
+}
+
 int play(const PlayerOptions& options)
 {
     const QString store = storePath(options);
@@ -93,7 +101,7 @@ int play(const PlayerOptions& options)
     if (options.inWindow) {
         QObject::connect(&screen, &PlayerScreen::closeAsked, qApp, &QCoreApplication::quit);
     }
-    Player player(store, options.screen, screen.stage(), screen.firstDeck(), screen.secondDeck());
+    Player player(placeOf(options, store), screen.stage(), screen.firstDeck(), screen.secondDeck());
     if (!options.standBy.isEmpty() && wishes.standBy.isNull()) {
         player.tell(QStringLiteral("the stand-by picture cannot be read; black takes its place"));
     }

@@ -132,10 +132,16 @@ AsRunRecord AsRunRecorder::open() const
     return record;
 }
 
-void AsRunRecorder::end()
+AsRunRecord AsRunRecorder::end()
 {
-    close(now(), AsRunOutcome::CutByPlayerEnd);
+    const Moment moment = now();
+    close(moment, AsRunOutcome::CutByPlayerEnd);
     release();
+    goOn(moment);
+    AsRunRecord left = open();
+    left.kind = AsRunKind::Picture;
+    left.outcome = AsRunOutcome::CutByPlayerEnd;
+    return left;
 }
 
 AsRunRecorder::Moment AsRunRecorder::now()

@@ -46,8 +46,9 @@ public:
     void look(const ScreenPlay& now);
     /// What is on screen, as a record that ends at this moment with the player being killed.
     mediadispatch::AsRunRecord open() const;
-    /// The player ends in order. Nothing is noted any more.
-    void end();
+    /// The player ends in order. Nothing is noted any more. Returns what open() is from then on: a
+    /// record without length that says so.
+    mediadispatch::AsRunRecord end();
 
 private:
     struct Moment
