@@ -35,6 +35,7 @@ public:
     bool isReady() const override { return m_isReady; }
     bool hasPicture() const override;
     std::optional<qint64> position() const override;
+    std::optional<qint64> pictureLength() const override { return m_pictureLength; }
 
     QString name() const { return m_name; }
     /// The present load; of no media while it is clear.
@@ -51,6 +52,8 @@ public:
     void setTrouble(Trouble trouble) { m_trouble = std::move(trouble); }
     /// Where whatever is loaded ends, before the place that was asked for perhaps.
     void setMediaLength(qint64 milliseconds) { m_mediaLength = milliseconds; }
+    /// How long a picture of whatever is loaded stands.
+    void setPictureLength(std::optional<qint64> milliseconds) { m_pictureLength = milliseconds; }
     void setSeekTakes(qint64 milliseconds) { m_seekTakes = milliseconds; }
 
     void tellReady();
@@ -74,6 +77,7 @@ private:
     std::optional<qint64> m_readyAfter;
     qint64 m_mediaLength = std::numeric_limits<qint64>::max();
     qint64 m_seekTakes = 0;
+    std::optional<qint64> m_pictureLength;
     std::unique_ptr<trel::mediadispatch::ClockAlarm> m_alarm;
     QElapsedTimer m_timer;
 

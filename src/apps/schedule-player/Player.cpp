@@ -39,7 +39,8 @@ QString shortText(const PlayerStatus& status)
 {
     const QString name = hosts::inQuotes(hosts::printable(status.program));
     if (status.isStandIn) {
-        return QStringLiteral("cannot show %1").arg(name);
+        return status.keepsLastPicture ? QStringLiteral("stands still in %1").arg(name)
+                                       : QStringLiteral("cannot show %1").arg(name);
     }
     switch (status.shown.picture) {
     case ScreenPicture::Black:
@@ -112,6 +113,7 @@ Player::~Player()
     if (!m_thread.wait(farewell) || !isRecorded) {
         // One hangs in a disk. The store is only read, and records that are not in the spool would
         // not get there.
+        m_logWriter.finish();
         std::_Exit(EXIT_SUCCESS);
     }
 }
@@ -165,6 +167,7 @@ PlayerStatus Player::status() const
     status.shown = shown.play.state;
     status.program = shown.play.isBlack() ? QString() : shown.play.name;
     status.isStandIn = !shown.isOnTimeline;
+    status.keepsLastPicture = shown.keepsLastPicture;
     status.switches = tally().switches();
     status.medianLateness = static_cast<double>(tally().lateness(50));
     status.worstLateness = static_cast<double>(tally().worstLateness());

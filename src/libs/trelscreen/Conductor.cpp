@@ -2,7 +2,7 @@
 
 #include "clock/Clock.h"
 #include "trelscreen/DeckSlot.h"
-#include "trelscreen/RetryPauses.h"
+#include "trelscreen/WakeUp.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -70,6 +70,8 @@ ScreenStatus Conductor::status() const
     status.play = m_current.play;
     status.picture = m_picture.kind;
     status.isOnTimeline = m_isShown;
+    status.keepsLastPicture = !m_isShown && m_picture.kind == StagePicture::Kind::Deck &&
+                              m_onStage && m_onStage->play().isOfSamePlay(m_current.play);
     status.onScreenSince = m_shownSince;
     status.fault = m_isShown ? DeckFault() : m_current.fault;
     return status;
@@ -106,7 +108,7 @@ void Conductor::follow()
         // A deck may have become free.
         prepareNext();
     }
-    m_tally.setOnTimeline(m_isShown, m_steady);
+    m_tally.setOnTimeline(m_isShown && !m_heldShown, m_steady);
     sleep();
     if (std::exchange(m_isChanged, false)) {
         emit changed();
@@ -178,7 +180,7 @@ void Conductor::beginWithout(std::optional<qint64> grace)
         }
     }
     // Before the next one is prepared.
-    if (!m_current.slot && isDue(m_current)) {
+    if (!m_current.slot && m_current.isDue(m_steady)) {
         join();
     }
 }
@@ -186,7 +188,7 @@ void Conductor::beginWithout(std::optional<qint64> grace)
 void Conductor::leave()
 {
     if (m_current.backAt) {
-        settle(m_current);
+        settleCurrent();
     }
     if (m_isShown && !m_current.play.isBlack()) {
         note(ScreenEvent::Kind::Left, m_current.play);
@@ -265,7 +267,7 @@ void Conductor::prepareNext()
         dropNext();
         m_next.emplace().play = next;
     }
-    if (!m_next->slot && isDue(*m_next)) {
+    if (!m_next->slot && m_next->isDue(m_steady)) {
         if (DeckSlot* slot = slotForNext()) {
             load(*m_next, *slot, next.moment);
         }
@@ -307,7 +309,7 @@ void Conductor::attendNext()
         return;
     }
     if (m_next->failures > 0 && m_next->slot->isReady()) {
-        settle(*m_next);
+        note(m_next->recover(m_steady));
     }
     if (const DeckFault fault = m_next->slot->trouble(m_now, kNever, m_steady)) {
         fail(*m_next, fault);
@@ -332,7 +334,7 @@ void Conductor::attendCurrent()
     }
     attendPicture();
     attendGrace();
-    if (!m_current.slot && isDue(m_current)) {
+    if (!m_current.slot && m_current.isDue(m_steady)) {
         join();
     }
     if (isLookDue()) {
@@ -340,7 +342,7 @@ void Conductor::attendCurrent()
         attendPosition();
     }
     if (m_current.backAt && m_steady - *m_current.backAt >= kWell) {
-        settle(m_current);
+        settleCurrent();
     }
 }
 
@@ -386,7 +388,7 @@ void Conductor::attendPosition()
         return;
     }
     const PositionHold::Step step =
-        m_hold.step(play.positionAt(m_now), slot->deck().position(), m_steady);
+        m_hold->step(play.positionAt(m_now), slot->deck().position(), m_steady);
     if (step.speed) {
         slot->setSpeed(*step.speed);
         if (*step.speed != 1.0) {
@@ -399,28 +401,19 @@ void Conductor::attendPosition()
     }
 }
 
-void Conductor::settle(PlayAttempt& attempt)
+void Conductor::settleCurrent()
 {
-    ScreenEvent event;
-    event.kind = ScreenEvent::Kind::Recovered;
-    event.play = attempt.play;
-    event.amount = attempt.backAt.value_or(m_steady) - attempt.failedAt.value_or(m_steady);
-    event.fault = std::exchange(attempt.fault, {});
-    event.tries = std::exchange(attempt.failures, 0);
-    attempt.failedAt.reset();
-    attempt.backAt.reset();
-    note(event);
+    if (m_heldShown) {
+        m_tally.setOnTimeline(true, *m_current.backAt);
+        note(*std::exchange(m_heldShown, std::nullopt));
+    }
+    note(m_current.recover(m_steady));
 }
 
 void Conductor::fail(PlayAttempt& attempt, const DeckFault& fault)
 {
-    const bool isNew = attempt.fault.trouble != fault.trouble;
-    attempt.fault = fault;
-    ++attempt.failures;
-    attempt.failedAt = attempt.failedAt.value_or(m_steady);
-    attempt.retryAt = m_steady + retryPause(attempt.failures);
-    attempt.backAt.reset();
-    DeckSlot* slot = std::exchange(attempt.slot, nullptr);
+    DeckSlot* slot = attempt.slot;
+    const bool isNew = attempt.fail(fault, m_steady);
     if (slot != m_onStage) {
         slot->clear();
     }
@@ -440,7 +433,9 @@ void Conductor::loseCurrent(const DeckFault& fault)
     if (!m_isShown) {
         return;
     }
-    note(ScreenEvent::Kind::Left, m_current.play);
+    if (!std::exchange(m_heldShown, std::nullopt)) {
+        note(ScreenEvent::Kind::Left, m_current.play);
+    }
     m_isShown = false;
     m_shownSince = kNever;
     m_isSwitch = false;
@@ -458,11 +453,6 @@ void Conductor::load(PlayAttempt& attempt, DeckSlot& slot, Instant startsAt)
     attempt.retryAt.reset();
     attempt.slot = &slot;
     slot.load(attempt.play, startsAt, m_steady);
-}
-
-bool Conductor::isDue(const PlayAttempt& attempt) const
-{
-    return !attempt.retryAt || m_steady >= *attempt.retryAt;
 }
 
 bool Conductor::isLookDue() const
@@ -499,7 +489,7 @@ void Conductor::show()
 
 void Conductor::start()
 {
-    m_hold = PositionHold();
+    m_hold.emplace(m_current.slot->deck().pictureLength());
     m_lookAt = m_steady;
     m_current.slot->start(m_steady);
 }
@@ -541,7 +531,12 @@ void Conductor::noteShown()
     event.play = m_current.play;
     event.isSwitch = m_isSwitch;
     event.amount = m_shownSince - m_dueAt;
-    note(event);
+    if (m_current.backAt) {
+        m_heldShown = event;
+        m_isChanged = true;
+    } else {
+        note(event);
+    }
 }
 
 void Conductor::noteDue()
@@ -567,45 +562,35 @@ void Conductor::noteStandIn(StandIn standIn)
 
 void Conductor::sleep()
 {
-    Instant earliest = m_over;
-    const auto at = [&](Instant moment) {
-        if (moment > m_now) {
-            earliest = std::min(earliest, moment);
-        }
-    };
-    const auto atSteady = [&](std::optional<qint64> moment) {
-        if (moment) {
-            at(m_now + *moment - m_steady);
-        }
-    };
+    WakeUp wake(m_now, m_steady, m_over);
     if (m_over != kNever) {
-        at(m_over - kAhead);
+        wake.at(m_over - kAhead);
     }
-    atSteady(m_graceUntil);
-    atSteady(m_current.retryAt);
+    wake.atSteady(m_graceUntil);
+    wake.atSteady(m_current.retryAt);
     if (m_current.backAt) {
-        atSteady(*m_current.backAt + kWell);
+        wake.atSteady(*m_current.backAt + kWell);
     }
     if (const DeckSlot* slot = m_current.slot) {
         if (slot->isLoading()) {
-            atSteady(slot->deadline());
+            wake.atSteady(slot->deadline());
         } else if (!m_isShown || !slot->isStarted()) {
-            at(slot->startsAt());
+            wake.at(slot->startsAt());
         }
         if (isWatched()) {
-            atSteady(m_lookAt);
+            wake.atSteady(m_lookAt);
         }
     }
     if (m_next) {
         if (!m_next->slot) {
-            at(m_over - kAheadAtLeast);
+            wake.at(m_over - kAheadAtLeast);
         }
-        atSteady(m_next->retryAt);
+        wake.atSteady(m_next->retryAt);
         if (m_next->slot && m_next->slot->isLoading()) {
-            atSteady(m_next->slot->deadline());
+            wake.atSteady(m_next->slot->deadline());
         }
     }
-    m_alarm->set(earliest);
+    m_alarm->set(wake.earliest());
 }
 
 void Conductor::note(ScreenEvent::Kind kind, const ScreenPlay& play, qint64 amount)

@@ -30,6 +30,8 @@ struct ScreenStatus
     StagePicture::Kind picture = StagePicture::Kind::StandBy; ///< What stands on the stage.
     /// Whether that is what the schedule has.
     bool isOnTimeline = false;
+    /// Where it is not, the last good picture of the play stands meanwhile.
+    bool keepsLastPicture = false;
     mediadispatch::Instant onScreenSince = mediadispatch::kNever; ///< kNever while it is not.
     DeckFault fault;                                              ///< What keeps it from being so.
 };
@@ -94,13 +96,12 @@ private:
     void attendPicture();
     void attendPosition();
     void attendGrace();
-    void settle(PlayAttempt& attempt);
+    void settleCurrent();
     void fail(PlayAttempt& attempt, const DeckFault& fault);
     void loseCurrent(const DeckFault& fault);
 
     void load(PlayAttempt& attempt, DeckSlot& slot, mediadispatch::Instant startsAt);
     DeckSlot* slotForCurrent() const;
-    bool isDue(const PlayAttempt& attempt) const;
     bool isWatched() const;
     bool isLookDue() const;
 
@@ -138,10 +139,11 @@ private:
     mediadispatch::Instant m_shownSince = mediadispatch::kNever;
     mediadispatch::Instant m_dueAt = 0; ///< What the lateness is counted from.
     bool m_isSwitch = false;
-    std::optional<qint64> m_graceUntil; ///< How long a former picture may stay.
+    std::optional<ScreenEvent> m_heldShown; ///< To be told once it has lasted.
+    std::optional<qint64> m_graceUntil;     ///< How long a former picture may stay.
 
-    PositionHold m_hold;
-    qint64 m_lookAt = 0; ///< When the position is looked at next.
+    std::optional<PositionHold> m_hold; ///< Of what has been started.
+    qint64 m_lookAt = 0;                ///< When the position is looked at next.
     bool m_isChanged = false;
 };
 

@@ -62,6 +62,9 @@ public:
     /// that are more than half a second apart: one that stands still for a second is taken for a
     /// stall. That of a stream counts from anywhere, and only whether it moves is looked at.
     virtual std::optional<qint64> position() const = 0;
+    /// How long a picture of the present load stands, in milliseconds; none where that is not
+    /// known, and before it is ready.
+    virtual std::optional<qint64> pictureLength() const { return std::nullopt; }
 
 signals:
     /// The first picture is there, or the first sound of what has no picture.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "trelscreen/DeckFault.h"
+#include "trelscreen/ScreenLog.h"
 #include "trelscreen/ScreenPlay.h"
 
 #include <optional>
@@ -22,6 +23,14 @@ struct PlayAttempt
     std::optional<qint64> retryAt;
     /// When it was on screen again; it has recovered once it stays so for a while.
     std::optional<qint64> backAt;
+
+    /// Takes down that it cannot be shown, gives up its slot and sets the time of the next try.
+    /// Tells whether that is another trouble than before.
+    bool fail(const DeckFault& fault, qint64 steady);
+    /// Forgets its troubles: returns what there is to tell of them.
+    ScreenEvent recover(qint64 steady);
+    /// Whether it may be tried now.
+    bool isDue(qint64 steady) const { return !retryAt || steady >= *retryAt; }
 };
 
 } // namespace trel::screen

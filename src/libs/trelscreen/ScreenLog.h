@@ -13,11 +13,14 @@ enum class StandIn {
 };
 
 /// Something that has happened on a screen.
+///
+/// What comes back after a fault is told as Shown once it has stood for a second, or to its end,
+/// with onScreenSince as the moment at which it came back: what breaks again at once is not told.
 struct ScreenEvent
 {
     enum class Kind {
         ScheduleTaken,    ///< Another schedule was given; the play is what was on before.
-        Shown,            ///< The play is on screen from now on; again, after a fault.
+        Shown,            ///< The play is on screen; again, after a fault. See below.
         Left,             ///< The play, which was on screen, is so no more.
         Late,             ///< It was not ready when its time came.
         Fault,            ///< It cannot be shown, for a reason that is new.

@@ -327,6 +327,79 @@ private slots:
         QVERIFY(told.filter(QStringLiteral("recovered")).isEmpty());
     }
 
+    /// What breaks again and again is off the schedule all the time, and is not told as shown.
+    void tellsOfNothingThatDoesNotLast()
+    {
+        ScreenFixture screen("08:00:01", 10);
+        screen.follow("08:00:00-09:00:00 H");
+        screen.advanceTo("08:00:05");
+        screen.log.take();
+        const auto breakOff = [&screen] {
+            (screen.stage.deck() == &screen.one ? screen.one : screen.two).tellEnded();
+        };
+        breakOff();
+        qint64 off = 0;
+        // After a pause and a quarter of a second to load it is back, and breaks within a second.
+        for (const qint64 away : {500, 750, 1250, 1250, 1250}) {
+            screen.advance(away);
+            QVERIFY(screen.conductor.status().isOnTimeline);
+            screen.advance(900);
+            off += away + 900;
+            breakOff();
+        }
+        QCOMPARE(screen.log.take(), lines({"fault H broke off", "left H"}));
+        QCOMPARE(screen.conductor.longestOff(), off);
+        screen.advance(1250);
+        const Instant back = screen.conductor.status().onScreenSince;
+        screen.advance(999);
+        QCOMPARE(screen.log.take(), QStringList());
+        screen.advance(1);
+        QCOMPARE(screen.log.events.size(), std::size_t(2));
+        QCOMPARE(screen.log.events.front().onScreenSince, back);
+        QCOMPARE(screen.log.take(),
+                 lines({"shown H +1250", "recovered H broke off +10750 tries 6"}));
+        QCOMPARE(screen.conductor.longestOff(), off + 1250);
+    }
+
+    void tellsOfWhatLastedToItsEnd()
+    {
+        ScreenFixture screen("08:00:01", 10);
+        screen.follow("08:00:00-09:00:00 H");
+        screen.advanceTo("08:00:05");
+        screen.one.tellEnded();
+        screen.advance(1000);
+        QVERIFY(screen.conductor.status().isOnTimeline);
+        screen.log.take();
+        screen.follow("08:00:00-09:00:00 B");
+        QCOMPARE(screen.log.take(), lines({"schedule", "shown H +500",
+                                           "recovered H broke off +500 tries 1", "left H"}));
+    }
+
+    void tellsAStillPictureFromNone()
+    {
+        ScreenFixture screen("08:00:01");
+        Broken broken(screen, "H", DeckTrouble::None);
+        screen.follow("08:00:00-09:00:00 H");
+        screen.advanceTo("08:00:05");
+        QVERIFY(!screen.conductor.status().keepsLastPicture);
+        broken.set(DeckTrouble::Unreadable);
+        screen.one.tellFailed(DeckTrouble::Unreadable);
+        screen.advance(3000);
+        QVERIFY(!screen.conductor.status().isOnTimeline);
+        QVERIFY(screen.conductor.status().keepsLastPicture);
+        broken.mend();
+        screen.advance(2000);
+        QVERIFY(screen.conductor.status().isOnTimeline);
+        QVERIFY(!screen.conductor.status().keepsLastPicture);
+
+        ScreenFixture dark("08:00:01");
+        Broken never(dark, "H", DeckTrouble::Missing);
+        dark.follow("08:00:00-09:00:00 H");
+        dark.advance(3000);
+        QVERIFY(!dark.conductor.status().isOnTimeline);
+        QVERIFY(!dark.conductor.status().keepsLastPicture);
+    }
+
     /// What is left of the file ends before the place that the schedule has come to: it is not put
     /// on the stage to be over at once, again and again.
     void leavesOutWhatHasBeenCutShort()

@@ -24,6 +24,21 @@ private slots:
         QCOMPARE(screen.conductor.tally().speedCorrections(), 0);
     }
 
+    void leavesAFilmOfFewPicturesAlone()
+    {
+        ScreenFixture screen("08:00:01");
+        screen.one.setPictureLength(100);
+        screen.follow("08:00:00-09:00:00 H");
+        screen.advance(1000);
+        screen.takeCalls();
+        screen.one.drift(-90);
+        screen.advance(10'000);
+        QCOMPARE(screen.takeCalls(), QStringList());
+        screen.one.drift(-20);
+        screen.advance(1000);
+        QVERIFY(screen.takeCalls().first().endsWith(QStringLiteral("one: speed 1.02")));
+    }
+
     void bringsItBackByABreathOfSpeed()
     {
         ScreenFixture screen("08:00:01");

@@ -69,6 +69,26 @@ private slots:
         }
     }
 
+    void countsByTheFramesOfTheFilm_data()
+    {
+        QTest::addColumn<qint64>("frame");
+        QTest::addColumn<qint64>("tolerance");
+        QTest::newRow("10 a second") << qint64(100) << qint64(100);
+        QTest::newRow("5 a second") << qint64(200) << qint64(200);
+        QTest::newRow("1 a second") << qint64(1000) << qint64(250);
+        QTest::newRow("50 a second") << qint64(20) << qint64(40);
+    }
+    void countsByTheFramesOfTheFilm()
+    {
+        QFETCH(qint64, frame);
+        QFETCH(qint64, tolerance);
+        QVERIFY(!PositionHold(frame).step(5000, 5000 - tolerance, 0).speed);
+        PositionHold hold(frame);
+        QCOMPARE(hold.step(5000, 5000 - tolerance - 1, 0).speed.value_or(0.0), 1.02);
+        QVERIFY(!hold.step(250, 250 - tolerance / 4 - 7, 250).speed);
+        QCOMPARE(hold.step(300, 300 - tolerance / 4, 300).speed.value_or(0.0), 1.0);
+    }
+
     void breathesWhereItIsOffByMoreThanAFrame()
     {
         PositionHold late;
@@ -127,6 +147,23 @@ private slots:
         QCOMPARE(hold.step(5900, 5100, 900).seek.value_or(-1), 5900 + 900);
         // And less far again where it does not.
         QCOMPARE(hold.step(6000, 6800, 1000).seek.value_or(-1), 6000 + 100);
+    }
+
+    void pausesBetweenSeeksThatDoNotHelp()
+    {
+        PositionHold hold;
+        std::vector<qint64> sought;
+        for (qint64 moment = 0; moment <= 80'000; moment += kLook) {
+            if (hold.step(5000 + moment, 0, moment).seek) {
+                sought.push_back(moment);
+            }
+        }
+        const std::vector<qint64> expected{0,      250,    500,    1500,   3500,  7500,
+                                           15'500, 31'500, 47'500, 63'500, 79'500};
+        QCOMPARE(sought, expected);
+        // Where it has been right in between, the next one is not kept waiting.
+        QVERIFY(!hold.step(90'000, 90'000, 80'250).seek);
+        QVERIFY(hold.step(90'250, 0, 80'500).seek);
     }
 
     void holdsADriftingClock_data()

@@ -43,15 +43,23 @@ LogWriter::LogWriter()
 
 LogWriter::~LogWriter()
 {
+    finish();
+}
+
+bool LogWriter::finish()
+{
     std::unique_lock lock(m_queue->mutex);
     m_queue->isClosed = true;
     m_queue->changed.notify_all();
-    m_queue->changed.wait_for(lock, kFarewell, [this] { return m_queue->isOver; });
+    return m_queue->changed.wait_for(lock, kFarewell, [this] { return m_queue->isOver; });
 }
 
 void LogWriter::write(const QString& line)
 {
     const std::lock_guard lock(m_queue->mutex);
+    if (m_queue->isClosed) {
+        return;
+    }
     if (m_queue->lines.size() >= kMostLines) {
         ++m_queue->leftOut;
         return;

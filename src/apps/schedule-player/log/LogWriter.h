@@ -12,14 +12,16 @@ class LogWriter
 {
 public:
     LogWriter();
-    /// Waits a little for what is still to be written. A thread that hangs is left to the end of
-    /// the process.
+    /// Finishes.
     ~LogWriter();
     Q_DISABLE_COPY(LogWriter)
 
     /// A line, with the line feed apart. Returns at once. Where a thousand lines wait already it is
     /// left out, and counted.
     void write(const QString& line);
+    /// Waits a little for what is still to be written, and takes nothing any more. A thread that
+    /// hangs is left to the end of the process; tells whether it has ended.
+    bool finish();
 
 private:
     struct Queue;

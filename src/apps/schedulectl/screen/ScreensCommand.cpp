@@ -43,7 +43,11 @@ QString shownText(const PlayerStatus& status)
         shown = QStringLiteral("last frame of %1").arg(name);
         break;
     }
-    return status.isStandIn ? QStringLiteral("has no picture for: %1").arg(shown) : shown;
+    if (!status.isStandIn) {
+        return shown;
+    }
+    return status.keepsLastPicture ? QStringLiteral("stands still in: %1").arg(shown)
+                                   : QStringLiteral("has no picture for: %1").arg(shown);
 }
 
 QString heardText(const PlayerStatus& status, Instant now, const MomentFormat& local)
@@ -103,6 +107,7 @@ QJsonObject screenJson(const PlayerStatus& status, Instant now, const ScreenRepo
         {QStringLiteral("silent"), isSilent(status, now)},
         {QStringLiteral("shows"), shown},
         {QStringLiteral("standIn"), status.isStandIn},
+        {QStringLiteral("lastPicture"), status.keepsLastPicture},
         {QStringLiteral("switches"), status.switches},
         {QStringLiteral("medianLatenessMs"), status.medianLateness},
         {QStringLiteral("worstLatenessMs"), status.worstLateness},

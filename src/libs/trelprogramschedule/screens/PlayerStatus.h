@@ -19,6 +19,9 @@ struct PlayerStatus
     QString program;   ///< The name of the program in it; empty for none.
     /// Something else stands there, because what the timeline has cannot be shown.
     bool isStandIn = false;
+    /// What stands there instead is the last good picture of the program, and not one of no
+    /// program.
+    bool keepsLastPicture = false;
 
     qint64 switches = 0; ///< Changes of picture since it runs.
     /// How late they came, in milliseconds.

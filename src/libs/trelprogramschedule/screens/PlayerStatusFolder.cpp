@@ -132,6 +132,7 @@ QByteArray bytesOf(const PlayerStatus& status)
         {QStringLiteral("shown"), stateJson(status.shown)},
         {QStringLiteral("name"), status.program.left(kLongestText)},
         {QStringLiteral("standIn"), status.isStandIn},
+        {QStringLiteral("lastPicture"), status.keepsLastPicture},
         {QStringLiteral("switches"), status.switches},
         {QStringLiteral("medianLateness"), status.medianLateness},
         {QStringLiteral("worstLateness"), status.worstLateness},
@@ -162,6 +163,7 @@ std::optional<PlayerStatus> statusOf(const QByteArray& bytes, const QString& fil
     status.heard = instantOf(object, "heard");
     status.program = textOf(object, "name");
     status.isStandIn = object.value(QLatin1String("standIn")).toBool();
+    status.keepsLastPicture = object.value(QLatin1String("lastPicture")).toBool();
     status.switches = countOf(object, "switches");
     status.medianLateness = measureOf(object, "medianLateness");
     status.worstLateness = measureOf(object, "worstLateness");

@@ -17,6 +17,7 @@ private slots:
     void noPlayer();
     void onAirAndSilent();
     void faultsAreToldInPlainText();
+    void aStillPictureIsToldFromNone();
     void forMachines();
     void aBlackScreenWithoutFaults();
     void needsADatabase();
@@ -106,6 +107,28 @@ void tst_CtlScreens::faultsAreToldInPlainText()
     QVERIFY2(text.contains(QStringLiteral("3, the last at ")), qPrintable(text));
     QVERIFY(!text.contains(QChar(0x1b)));
     QVERIFY(!text.contains(QChar(0x202e)));
+}
+
+void tst_CtlScreens::aStillPictureIsToldFromNone()
+{
+    const Fixture fixture;
+    PlayerStatus status = statusOf("lobby", 5);
+    const auto lastPicture = [&fixture] {
+        const QJsonObject json = fixture.screens({QStringLiteral("--json")}).json();
+        return json.value(QLatin1String("screens"))
+            .toArray()
+            .first()
+            .toObject()
+            .value(QLatin1String("lastPicture"));
+    };
+    status.isStandIn = true;
+    fixture.tell(status);
+    QCOMPARE(lastPicture(), QJsonValue(false));
+    status.keepsLastPicture = true;
+    fixture.tell(status);
+    QCOMPARE(lastPicture(), QJsonValue(true));
+    const QString text = fixture.screens().text();
+    QVERIFY2(text.contains(QStringLiteral("stands still in: plays Weather")), qPrintable(text));
 }
 
 void tst_CtlScreens::forMachines()

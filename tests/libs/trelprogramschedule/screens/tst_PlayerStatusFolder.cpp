@@ -56,6 +56,7 @@ PlayerStatus fullStatus(const QString& screen)
     status.shown.spanUntil = kNever - 1;
     status.program = QStringLiteral("天气 <b>");
     status.isStandIn = true;
+    status.keepsLastPicture = true;
     status.switches = 8;
     status.medianLateness = 0.25;
     status.worstLateness = 12.5;
@@ -75,8 +76,9 @@ QString lineOf(const PlayerStatus& status)
         << static_cast<int>(shown.picture) << static_cast<int>(shown.reason) << shown.taskId
         << shown.planId << shown.planRow << shown.entry << shown.progIndex << shown.play
         << shown.run << shown.position << shown.since << shown.until << shown.spanUntil
-        << status.program << status.isStandIn << status.switches << status.medianLateness
-        << status.worstLateness << status.faults << status.lastFault << status.lastFaultAt;
+        << status.program << status.isStandIn << status.keepsLastPicture << status.switches
+        << status.medianLateness << status.worstLateness << status.faults << status.lastFault
+        << status.lastFaultAt;
     return line;
 }
 
