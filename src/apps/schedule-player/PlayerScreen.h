@@ -17,6 +17,7 @@ namespace trel::player {
 
 class FrameSink;
 class GlSharing;
+class GlWindow;
 class MonitorPlace;
 class PlayerWindow;
 class ScreenAwake;
@@ -46,7 +47,8 @@ struct ScreenWishes
 /// A screen with all that plays on it: the window, the stage and the two decks. GUI thread only,
 /// and the application has to be there by then.
 ///
-/// Going takes up to a third of a second for each deck, whatever the decks are about.
+/// Going takes up to a third of a second, whatever the decks are about. See also
+/// PlaybackThreads::areLeft.
 class PlayerScreen : public QObject
 {
     Q_OBJECT
@@ -66,21 +68,31 @@ public:
     /// How many pictures of films came too late to be shown, since the beginning.
     qint64 droppedFrames() const;
     /// Whether films are drawn by OpenGL.
-    bool drawsByOpenGl() const { return m_sharing != nullptr; }
+    bool drawsByOpenGl() const { return m_glWindow != nullptr; }
+    /// Another one once OpenGL has failed.
     const QWindow& window() const;
+    /// Another picture for when there is none; null for black.
+    void setStandBy(const QImage& standBy);
     /// Whether the monitor that was wished for is there. The first one is filled while it is not.
     bool hasItsMonitor() const;
 
 signals:
     /// Somebody tried to close the window, which stays.
     void closeAsked();
+    /// OpenGL has failed: all is drawn in memory from now on, in a window of its own.
+    void openGlLost();
+    /// The first or the second deck, 0 or 1, is about to load that, or nothing.
+    void loadBegins(int deck, const QString& media);
 
 private:
     ScreenShape shape() const;
+    void showWindow();
+    void drawInMemory();
 
     const ScreenWishes m_wishes;
     std::unique_ptr<GlSharing> m_sharing; ///< None where films are drawn in memory.
     std::unique_ptr<PlayerWindow> m_window;
+    GlWindow* m_glWindow = nullptr; ///< The same; none where films are drawn in memory.
     std::unique_ptr<MonitorPlace> m_place;
     std::unique_ptr<PlayerDeck> m_first;
     std::unique_ptr<PlayerDeck> m_second;

@@ -1,29 +1,29 @@
-#include "Player.h"
 #include "PlayerOptions.h"
-#include "PlayerScreen.h"
+#include "PlayerStart.h"
 #include "asrun/AsRunKeeper.h"
 #include "asrun/SpoolPlace.h"
 #include "common/DefaultDatabase.h"
 #include "common/StopSignals.h"
 #include "common/VersionText.h"
-#include "media/PictureRequest.h"
+#include "deck/PlaybackThreads.h"
 #include "system/FewArenas.h"
-#include "system/ScreenLock.h"
+#include "system/LastResort.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QTextStream>
 
-#include <atomic>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 using namespace trel::player;
 
 namespace {
 
-/// The largest picture that any screen shows.
-const QSize kLargest(8192, 8192);
+/// When a player that was told to end is over at the latest; it has a second.
+constexpr std::chrono::milliseconds kFarewell{800};
 
 /// The toolkit words its help by the name of a running application, and the one with a window comes
 /// only after the options.
@@ -54,32 +54,6 @@ QString storePath(const PlayerOptions& options)
     return QFileInfo(path).absoluteFilePath();
 }
 
-QImage standByPicture(const QString& path)
-{
-    if (path.isEmpty()) {
-        return {};
-    }
-    const std::atomic<bool> isCancelled{false};
-    const trel::mediadispatch::MediaPicture read = trel::mediadispatch::readPicture(
-        QFileInfo(path).absoluteFilePath(), trel::mediadispatch::ProgramKind::Image, kLargest,
-        isCancelled);
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): as the picture takes its dots
-    const auto* const dots = reinterpret_cast<const uchar*>(read.dots.data());
-    return QImage(dots, read.size.width(), read.size.height(), QImage::Format_ARGB32).copy();
-}
-
-ScreenWishes wishesOf(const PlayerOptions& options)
-{
-    ScreenWishes wishes;
-    wishes.isFullScreen = !options.inWindow;
-    wishes.monitor = options.monitor;
-    wishes.turned = options.turned;
-    wishes.isMute = options.isMute;
-    wishes.standBy = standByPicture(options.standBy);
-    wishes.title = options.screen;
-    return wishes;
-}
-
 AsRunPlace placeOf(const PlayerOptions& options, const QString& store)
 {
     const QString folder = options.spool.isEmpty() ? defaultSpoolFolder() : options.spool;
@@ -88,25 +62,16 @@ AsRunPlace placeOf(const PlayerOptions& options, const QString& store)
 
 int play(const PlayerOptions& options)
 {
-    const QString store = storePath(options);
-    const ScreenLock lock(store, options.screen);
-    if (!lock.isTaken()) {
-        return refuse(lock.refusal());
-    }
     const trel::hosts::StopSignals stopSignals;
     QObject::connect(&stopSignals, &trel::hosts::StopSignals::stopped, qApp,
                      &QCoreApplication::quit);
-    const ScreenWishes wishes = wishesOf(options);
-    PlayerScreen screen(wishes);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp,
+                     [] { endProcessAfter(kFarewell); });
+    PlayerStart start(options, placeOf(options, storePath(options)));
+    QObject::connect(&start, &PlayerStart::refused, qApp,
+                     [](const QString& sentence) { QCoreApplication::exit(refuse(sentence)); });
     if (options.inWindow) {
-        QObject::connect(&screen, &PlayerScreen::closeAsked, qApp, &QCoreApplication::quit);
-    }
-    Player player(placeOf(options, store), screen.stage(), screen.firstDeck(), screen.secondDeck());
-    if (!options.standBy.isEmpty() && wishes.standBy.isNull()) {
-        player.tell(QStringLiteral("the stand-by picture cannot be read; black takes its place"));
-    }
-    if (!screen.hasItsMonitor()) {
-        player.tell(QStringLiteral("the monitor is not there; the first one takes its place"));
+        QObject::connect(&start, &PlayerStart::closeAsked, qApp, &QCoreApplication::quit);
     }
     return QCoreApplication::exec();
 }
@@ -136,5 +101,10 @@ int main(int argc, char** argv)
     QGuiApplication application(argc, argv);
     // A monitor that is pulled takes its window along.
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    return play(read.options);
+    const int status = play(read.options);
+    if (PlaybackThreads::areLeft()) {
+        // They may go on while the libraries are taken down, and what they used would be gone.
+        std::_Exit(status);
+    }
+    return status;
 }

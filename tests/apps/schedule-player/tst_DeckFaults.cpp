@@ -33,6 +33,8 @@ private slots:
     void playsWhatIsWrittenMeanwhile();
     void goesOnWhereTheMiddleIsDestroyed();
     void clearsWhileItLoads();
+    void decodesNoPictureThatIsTooLarge_data();
+    void decodesNoPictureThatIsTooLarge();
 
 private:
     QString file(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
@@ -265,6 +267,51 @@ void tst_DeckFaults::clearsWhileItLoads()
         QTest::qWait(5);
         QCOMPARE(ready.count() + failed.count(), told);
         QVERIFY(!screen.first.hasPicture());
+    }
+}
+
+void tst_DeckFaults::decodesNoPictureThatIsTooLarge_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<bool>("isTooLarge");
+    QTest::newRow("as it is") << 8192 << 4096 << false;
+    QTest::newRow("too large") << 16384 << 8208 << true;
+    QTest::newRow("largest that can be said") << 65000 << 65000 << true;
+}
+
+void tst_DeckFaults::decodesNoPictureThatIsTooLarge()
+{
+    QFETCH(const int, width);
+    QFETCH(const int, height);
+    QFETCH(const bool, isTooLarge);
+    media::ClipOrder order;
+    order.frames = 1;
+    order.size = QSize(8192, 4096);
+    order.pictureCoder = QStringLiteral("mjpeg");
+    QVERIFY(media::makeClip(file("large.avi"), order));
+    // Each picture claims to be of that size.
+    QByteArray film = contentOf("large.avi");
+    const QByteArray mark("\xff\xc0\x00\x11\x08", 5);
+    int pictures = 0;
+    for (int at = film.indexOf(mark); at >= 0; at = film.indexOf(mark, at + 1)) {
+        const int place = at + mark.size();
+        film[place] = static_cast<char>(height >> 8);
+        film[place + 1] = static_cast<char>(height & 0xff);
+        film[place + 2] = static_cast<char>(width >> 8);
+        film[place + 3] = static_cast<char>(width & 0xff);
+        ++pictures;
+    }
+    QCOMPARE(pictures, 1);
+    QVERIFY(write("claims.avi", film));
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    screen.first.load(filmOf(file("claims.avi")));
+    QTRY_VERIFY(screen.first.isReady() || failed.count() == 1);
+    QCOMPARE(failed.count(), isTooLarge ? 1 : 0);
+    QCOMPARE(screen.first.hasPicture(), !isTooLarge);
+    if (isTooLarge) {
+        QCOMPARE(faultIn(failed).trouble, DeckTrouble::Unreadable);
     }
 }
 

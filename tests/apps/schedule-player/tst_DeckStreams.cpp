@@ -36,6 +36,7 @@ private slots:
     void refusesWhatIsNoStream_data();
     void refusesWhatIsNoStream();
     void leavesASilentOneAtOnce();
+    void tellsAtOnceWhereItCannotBeSought();
 
 private:
     static DeckLoad live(const QString& address) { return {address, ProgramKind::Live, 0, false}; }
@@ -229,6 +230,29 @@ void tst_DeckStreams::leavesASilentOneAtOnce()
         QVERIFY(timer.elapsed() < 100);
     }
     QVERIFY(timer.elapsed() < 1000);
+}
+
+/// It has no places that it could be sent to.
+void tst_DeckStreams::tellsAtOnceWhereItCannotBeSought()
+{
+    StreamServer server;
+    server.serve(QStringLiteral("/live"), m_stream);
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    screen.show(screen.first);
+    screen.first.load(live(server.address()));
+    QTRY_VERIFY(screen.first.isReady());
+    screen.first.play();
+    QTRY_VERIFY(screen.record.last().mark.frame > 3);
+    QElapsedTimer timer;
+    timer.start();
+    screen.first.seek(3'600'000);
+    QTRY_COMPARE(failed.count(), 1);
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(faultIn(failed).trouble, DeckTrouble::Unreadable);
+    QVERIFY2(faultIn(failed).words.startsWith(QStringLiteral("It cannot be sought: ")),
+             qPrintable(faultIn(failed).words));
+    QVERIFY(screen.first.hasPicture());
 }
 
 TREL_TEST(tst_DeckStreams, QGuiApplication)

@@ -17,6 +17,7 @@ class tst_PlaybackThreads : public QObject
 private slots:
     void threadsThatHangAreBounded();
     void waitsNoLongerThanItShould();
+    void leavesWhatHangs();
 };
 
 void tst_PlaybackThreads::threadsThatHangAreBounded()
@@ -48,6 +49,33 @@ void tst_PlaybackThreads::waitsNoLongerThanItShould()
     const std::shared_future<void> disk = answer.get_future().share();
     threads.start([disk] { disk.wait(); });
     QVERIFY(!threads.wait(10ms));
+    answer.set_value();
+    QVERIFY(threads.wait(5s));
+}
+
+void tst_PlaybackThreads::leavesWhatHangs()
+{
+    const auto now = [] { return std::chrono::steady_clock::now(); };
+    {
+        PlaybackThreads threads;
+        threads.start([] {});
+        QVERIFY(threads.leave(now() + 5s));
+        const auto hasRun = std::make_shared<std::atomic<bool>>(false);
+        threads.start([hasRun] { *hasRun = true; });
+        QVERIFY(threads.wait(5s));
+        QVERIFY(!*hasRun);
+    }
+    QVERIFY(!PlaybackThreads::areLeft());
+    std::promise<void> answer;
+    const std::shared_future<void> disk = answer.get_future().share();
+    PlaybackThreads threads;
+    threads.start([disk] { disk.wait(); });
+    const auto begin = now();
+    QVERIFY(!threads.leave(begin + 20ms));
+    QVERIFY(now() - begin >= 20ms);
+    // A moment that has passed is not waited for.
+    QVERIFY(!threads.leave(begin));
+    QVERIFY(PlaybackThreads::areLeft());
     answer.set_value();
     QVERIFY(threads.wait(5s));
 }

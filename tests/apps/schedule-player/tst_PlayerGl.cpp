@@ -1,3 +1,4 @@
+#include "FrameRecord.h"
 #include "PlayerScreen.h"
 #include "support/NumberedClip.h"
 #include "support/TestProgram.h"
@@ -26,6 +27,8 @@ private slots:
     void showsFilmsImagesAndStandBy();
     void changesDecksWithoutAForeignPicture();
     void comesAndGoes();
+    void goesOnInMemoryWhereTheWindowIsLost();
+    void goesOnInMemoryWhereAFilmCannotBeDrawn();
 
 private:
     QString file(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
@@ -138,6 +141,64 @@ void tst_PlayerGl::comesAndGoes()
         QTRY_VERIFY(screen.firstDeck().isReady());
         screen.firstDeck().play();
     }
+}
+
+void tst_PlayerGl::goesOnInMemoryWhereTheWindowIsLost()
+{
+    PlayerScreen screen(wishes(0));
+    QTRY_VERIFY(screen.window().isExposed());
+    QSignalSpy lost(&screen, &PlayerScreen::openGlLost);
+    QSignalSpy failed(&screen.firstDeck(), &Deck::failed);
+    QSignalSpy otherFailed(&screen.secondDeck(), &Deck::failed);
+    const quint64 load = screen.firstDeck().load({file("one.mp4"), ProgramKind::Video, 0, false});
+    screen.secondDeck().load({file("image.png"), ProgramKind::Image, 0, false});
+    QTRY_VERIFY(screen.firstDeck().isReady() && screen.secondDeck().isReady());
+    show(screen, screen.firstDeck());
+    QVERIFY(screen.drawsByOpenGl());
+    QCOMPARE(failed.count(), 0);
+    const QPoint place(30, 40);
+    auto& window = const_cast<QWindow&>(screen.window());
+    window.setPosition(place);
+
+    // A window of a kind that OpenGL does not draw into, as one whose driver has gone.
+    window.setSurfaceType(QSurface::OpenVGSurface);
+    screen.firstDeck().play();
+    QTRY_COMPARE(lost.count(), 1);
+    QVERIFY(!screen.drawsByOpenGl());
+    QTRY_COMPARE(failed.count(), 1);
+    QCOMPARE(failed.first().first().toULongLong(), load);
+    QVERIFY(!screen.firstDeck().hasPicture());
+    // An image has nothing to do with OpenGL.
+    QCOMPARE(otherFailed.count(), 0);
+    QVERIFY(screen.secondDeck().isReady());
+    QTRY_VERIFY(screen.window().isExposed());
+    QCOMPARE(screen.window().title(), wishes(0).title);
+
+    FrameRecord record;
+    screen.add(record);
+    screen.firstDeck().load({file("one.mp4"), ProgramKind::Video, 1000, false});
+    QTRY_VERIFY(screen.firstDeck().isReady());
+    show(screen, screen.firstDeck());
+    QCOMPARE(record.last().mark, (media::ClipMark{1, 25}));
+    screen.firstDeck().play();
+    QTRY_VERIFY(record.last().mark.frame > 30);
+    QCOMPARE(failed.count(), 1);
+    QCOMPARE(lost.count(), 1);
+}
+
+void tst_PlayerGl::goesOnInMemoryWhereAFilmCannotBeDrawn()
+{
+    PlayerScreen screen(wishes(0));
+    QTRY_VERIFY(screen.window().isExposed());
+    QSignalSpy lost(&screen, &PlayerScreen::openGlLost);
+    emit dynamic_cast<trel::player::PlayerDeck&>(screen.secondDeck()).drawingFailed();
+    QTRY_COMPARE(lost.count(), 1);
+    screen.secondDeck().load({file("one.mp4"), ProgramKind::Video, 1000, false});
+    QTRY_VERIFY(screen.secondDeck().isReady());
+    FrameRecord record;
+    screen.add(record);
+    show(screen, screen.secondDeck());
+    QCOMPARE(record.last().mark, (media::ClipMark{1, 25}));
 }
 
 TREL_TEST(tst_PlayerGl, QGuiApplication)

@@ -9,6 +9,10 @@
 
 #include <csignal>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 /// The real player beside the real console, on a real store.
 class tst_PlayerProgram : public QObject
 {
@@ -20,8 +24,11 @@ private slots:
     void aStoreThatComesLater();
     void aSecondPlayerForTheScreen();
     void endsWithinASecond();
+    void endsWithinASecondWhereItsLogHangs();
     void playsOnWithoutAReaderOfItsLog();
     void comesBackAfterAKill();
+    void tellsWhatItHadLoadedAtASuddenEnd();
+    void playsWithoutAFolderForItsStatus();
     void tellsTheManagerOfServices();
     void aStoreThatIsTakenAway();
     void aFileThatIsBroken();
@@ -201,6 +208,37 @@ void tst_PlayerProgram::endsWithinASecond()
     QVERIFY(screenOf(fixture).isEmpty());
 }
 
+/// Nothing reads its log.
+void tst_PlayerProgram::endsWithinASecondWhereItsLogHangs()
+{
+    const Fixture fixture;
+    const QByteArray pipe = QFile::encodeName(fixture.path(QStringLiteral("log")));
+    QCOMPARE(::mkfifo(pipe.constData(), 0600), 0);
+    const int end = ::open(pipe.constData(), O_RDWR | O_NONBLOCK);
+    QVERIFY(end >= 0);
+    QProcess player;
+    player.setProcessEnvironment(PlayerProcess::environment());
+    player.setStandardErrorFile(fixture.path(QStringLiteral("log")));
+    player.start(QStringLiteral(SCHEDULE_PLAYER),
+                 {QStringLiteral("--database"), fixture.database(), QStringLiteral("--screen"),
+                  QStringLiteral("lobby"), QStringLiteral("--mute"), QStringLiteral("--window")});
+    QTRY_COMPARE_WITH_TIMEOUT(shownBy(fixture), QStringLiteral("film1"), kPatience);
+    // Full, so that the next line hangs.
+    const QByteArray line(4096, 'x');
+    while (::write(end, line.constData(), static_cast<std::size_t>(line.size())) > 0) {
+    }
+    fixture.ctl({QStringLiteral("insert"), QStringLiteral("2")});
+    QTRY_COMPARE_WITH_TIMEOUT(shownBy(fixture), QStringLiteral("film2"), kPatience);
+    QElapsedTimer timer;
+    timer.start();
+    player.terminate();
+    QVERIFY(player.waitForFinished(kPatience));
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(player.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(player.exitCode(), 0);
+    ::close(end);
+}
+
 void tst_PlayerProgram::playsOnWithoutAReaderOfItsLog()
 {
     const Fixture fixture;
@@ -227,6 +265,46 @@ void tst_PlayerProgram::comesBackAfterAKill()
     QCOMPARE(shownBy(fixture), QStringLiteral("film1"));
     PlayerProcess again(fixture);
     QTRY_VERIFY_WITH_TIMEOUT(again.log().contains(QStringLiteral("plays \"film1\"")), kPatience);
+}
+
+void tst_PlayerProgram::tellsWhatItHadLoadedAtASuddenEnd()
+{
+    const Fixture fixture;
+    for (int turn = 0; turn < 2; ++turn) {
+        PlayerProcess player(fixture);
+        QTRY_VERIFY_WITH_TIMEOUT(player.log().contains(QStringLiteral("plays \"film1\"")),
+                                 kPatience);
+        player.stop(SIGKILL);
+        QVERIFY(player.process().waitForFinished(kPatience));
+    }
+    PlayerProcess again(fixture);
+    QTRY_VERIFY_WITH_TIMEOUT(again.log().contains(QStringLiteral("plays \"film1\"")), kPatience);
+    QVERIFY2(again.log().contains(
+                 QStringLiteral("the player before this one ended without notice, 2 times in a "
+                                "row; it had loaded \"%1\"")
+                     .arg(fixture.film(1))),
+             qPrintable(again.log()));
+    again.stop(SIGTERM);
+    QVERIFY(again.process().waitForFinished(kPatience));
+    PlayerProcess last(fixture);
+    QTRY_VERIFY_WITH_TIMEOUT(last.log().contains(QStringLiteral("plays \"film1\"")), kPatience);
+    QVERIFY(!last.log().contains(QStringLiteral("without notice")));
+}
+
+void tst_PlayerProgram::playsWithoutAFolderForItsStatus()
+{
+    const Fixture fixture;
+    // A file in the place of the folder, which keeps the administrator out as well.
+    fixture.writeFile(QStringLiteral("test.db-screens"), "x");
+    PlayerProcess player(fixture);
+    QTRY_VERIFY_WITH_TIMEOUT(player.log().contains(QStringLiteral("plays \"film1\"")), kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(
+        player.log().contains(QStringLiteral("\"schedulectl screens\" does not hear of this")),
+        kPatience);
+    // Its name is taken all the same.
+    PlayerProcess second(fixture);
+    QVERIFY(second.process().waitForFinished(kPatience));
+    QVERIFY(second.log().contains(QStringLiteral("Another player shows the screen")));
 }
 
 void tst_PlayerProgram::tellsTheManagerOfServices()

@@ -44,6 +44,8 @@ private slots:
     void followsTheSizeOfTheWindow();
     void doesNotClose();
     void fillsTheFirstMonitorWhereItsOwnIsMissing();
+    void takesAStandByPictureThatComesLater();
+    void tellsWhatItsDecksLoad();
 };
 
 void tst_PlayerScreen::isABlackWindowWithoutAPointer()
@@ -102,6 +104,35 @@ void tst_PlayerScreen::fillsTheFirstMonitorWhereItsOwnIsMissing()
     PlayerScreen screen(wishes);
     QVERIFY(!screen.hasItsMonitor());
     QTRY_COMPARE(screen.window().geometry(), QGuiApplication::primaryScreen()->geometry());
+}
+
+void tst_PlayerScreen::takesAStandByPictureThatComesLater()
+{
+    PlayerScreen screen(inAWindow());
+    FrameRecord record;
+    record.setPart(QRectF(0, 37, 400, 225));
+    screen.add(record);
+    trel::screen::StagePicture standBy;
+    standBy.kind = trel::screen::StagePicture::Kind::StandBy;
+    screen.stage().show(standBy);
+    QCOMPARE(record.last().content, RecordedFrame::Content::Black);
+    screen.setStandBy(media::clipPicture({7, 77}, QSize(320, 180)));
+    QCOMPARE(record.last().content, RecordedFrame::Content::Clip);
+    QCOMPARE(record.last().mark, (media::ClipMark{7, 77}));
+}
+
+void tst_PlayerScreen::tellsWhatItsDecksLoad()
+{
+    PlayerScreen screen(inAWindow());
+    QStringList told;
+    connect(&screen, &PlayerScreen::loadBegins, this, [&told](int deck, const QString& media) {
+        told.append(QString::number(deck) + QLatin1Char(' ') + media);
+    });
+    screen.firstDeck().load({QStringLiteral("/a.mp4")});
+    screen.secondDeck().load({QStringLiteral("/b.png"), trel::mediadispatch::ProgramKind::Image});
+    screen.firstDeck().clear();
+    QCOMPARE(told, QStringList({QStringLiteral("0 /a.mp4"), QStringLiteral("1 /b.png"),
+                                QStringLiteral("0 ")}));
 }
 
 TREL_TEST(tst_PlayerScreen, QGuiApplication)

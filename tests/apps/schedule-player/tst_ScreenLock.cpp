@@ -16,6 +16,8 @@ private slots:
     void oneAtATime();
     void eachScreenAndEachStore();
     void aPlayerThatWasKilledKeepsNobodyAway();
+    void aPowerCutKeepsNobodyAway();
+    void aFileThatIsHeldIsNotTakenForALeftOne();
     void whereTheFolderCannotBeWritten();
 };
 
@@ -77,6 +79,45 @@ void tst_ScreenLock::aPlayerThatWasKilledKeepsNobodyAway()
         left.replace(QByteArray::number(QCoreApplication::applicationPid()) + '\n', number + '\n'));
     file.close();
     QVERIFY(ScreenLock(store, kLobby).isTaken());
+}
+
+/// What a machine had written when its power went: nothing, or any part.
+void tst_ScreenLock::aPowerCutKeepsNobodyAway()
+{
+    const QTemporaryDir folder;
+    const QString store = folder.filePath(QStringLiteral("a.db"));
+    const QString path = folder.filePath(QStringLiteral("a.db-screens/lobby.lock"));
+    QByteArray whole;
+    {
+        const ScreenLock first(store, kLobby);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        whole = file.readAll();
+    }
+    const int line = whole.indexOf('\n');
+    for (const int length : {0, 1, line, line + 1, line + 4}) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(whole.left(length));
+        file.close();
+        QVERIFY2(ScreenLock(store, kLobby).isTaken(), qPrintable(QString::number(length)));
+    }
+    QFile zeros(path);
+    QVERIFY(zeros.open(QIODevice::WriteOnly));
+    zeros.write(QByteArray(whole.size(), '\0'));
+    zeros.close();
+    QVERIFY(ScreenLock(store, kLobby).isTaken());
+}
+
+void tst_ScreenLock::aFileThatIsHeldIsNotTakenForALeftOne()
+{
+    const QTemporaryDir folder;
+    const QString store = folder.filePath(QStringLiteral("a.db"));
+    const ScreenLock first(store, kLobby);
+    QVERIFY(first.isTaken());
+    // Emptied under the one that holds it.
+    QVERIFY(QFile::resize(folder.filePath(QStringLiteral("a.db-screens/lobby.lock")), 0));
+    QVERIFY(!ScreenLock(store, kLobby).isTaken());
 }
 
 void tst_ScreenLock::whereTheFolderCannotBeWritten()

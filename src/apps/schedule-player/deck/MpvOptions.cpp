@@ -18,6 +18,9 @@ constexpr char kNetworkProtocols[] =
     "crypto,data,ffrtmpcrypt,ffrtmphttp,hls,http,httpproxy,https,mmsh,mmst,rist,rtmp,rtmpe,rtmps,"
     "rtmpt,rtmpte,rtmpts,rtp,rtsp,srt,srtp,tcp,tls,udp,udplite";
 
+/// As many dots as the program that imports media decodes in one picture.
+constexpr qint64 kMostDots = 128 * 1024 * 1024;
+
 /// A list as one value of a list of keys and values: its length in bytes, and the bytes.
 QByteArray quoted(const QByteArray& value)
 {
@@ -85,6 +88,7 @@ void addPlaying(std::vector<MpvOption>& options)
          // What the import tells from noise with the help of a name plays as well.
          {"demuxer-lavf-probescore", "1"},
          // Two decks in a machine of small memory.
+         {"vd-lavc-o", "max_pixels=" + QByteArray::number(kMostDots)},
          {"demuxer-max-bytes", "32MiB"},
          {"demuxer-max-back-bytes", "0"}});
 }

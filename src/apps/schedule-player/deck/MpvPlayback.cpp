@@ -64,6 +64,11 @@ std::optional<qint64> MpvPlayback::position() const
     return m_work->position();
 }
 
+std::optional<qint64> MpvPlayback::pictureLength() const
+{
+    return m_work->pictureLength();
+}
+
 DeckPicture MpvPlayback::picture() const
 {
     return m_work->picture();

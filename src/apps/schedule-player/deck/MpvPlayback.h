@@ -30,6 +30,7 @@ public:
     void setShape(const ScreenShape& shape) override;
 
     std::optional<qint64> position() const override;
+    std::optional<qint64> pictureLength() const override;
     DeckPicture picture() const override;
     qint64 droppedFrames() const override;
 

@@ -1,13 +1,12 @@
 #include "deck/MpvWork.h"
 
+#include "deck/MpvFile.h"
+#include "deck/MpvTracks.h"
 #include "deck/PlayedAddress.h"
 #include "deck/PlayedFile.h"
 #include "stage/ScreenShape.h"
 
-#include <QFileInfo>
-
 #include <cmath>
-#include <cstring>
 #include <utility>
 
 namespace trel::player {
@@ -18,12 +17,7 @@ using screen::DeckTrouble;
 
 namespace {
 
-constexpr char kProtocol[] = "schedule-player";
-constexpr int kMostLettersOfSuffix = 8;
 constexpr int kMostLettersOfWords = 200;
-/// A film has more than half a picture a second, and fewer than these.
-constexpr double kFewestFrames = 0.5;
-constexpr double kMostFrames = 1000.0;
 /// A file tells its times in whole thousandths, so that those of its pictures are rounded.
 constexpr double kRounding = 0.001;
 constexpr std::chrono::milliseconds kLook{250};
@@ -40,79 +34,19 @@ enum Observed : std::uint64_t {
     DroppedDecoding,
 };
 
-/// What the name of a file says about its content: letters and digits alone, which cannot be taken
-/// for anything but a suffix.
-QByteArray suffixOf(const QString& path)
-{
-    QByteArray suffix;
-    for (const char letter : QFileInfo(path).suffix().toLower().toLatin1()) {
-        const bool isPlain = (letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9');
-        if (!isPlain || suffix.size() == kMostLettersOfSuffix) {
-            return {};
-        }
-        suffix += letter;
-    }
-    return suffix;
-}
+/// What is asked of the library, where a refusal matters.
+enum Asked : std::uint64_t {
+    Nothing,
+    Loading,
+    Playing,
+    Seeking,
+};
 
 QString oneLine(const QString& text)
 {
     QString line = text.simplified();
     line.truncate(kMostLettersOfWords);
     return line;
-}
-
-std::int64_t readFile(void* file, char* room, std::uint64_t count)
-{
-    return static_cast<PlayedFile*>(file)->read(room, count);
-}
-
-std::int64_t seekFile(void* file, std::int64_t place)
-{
-    return static_cast<PlayedFile*>(file)->seek(place) ? place : std::int64_t{MPV_ERROR_GENERIC};
-}
-
-std::int64_t sizeOfFile(void* file)
-{
-    const std::int64_t size = static_cast<PlayedFile*>(file)->size();
-    return size < 0 ? std::int64_t{MPV_ERROR_UNSUPPORTED} : size;
-}
-
-/// The file belongs to the playback.
-void closeFile(void* /*file*/) {}
-
-QByteArray trackProperty(std::int64_t track, const char* name)
-{
-    return "track-list/" + QByteArray::number(qint64(track)) + '/' + name;
-}
-
-std::int64_t number(mpv_handle* handle, const QByteArray& property)
-{
-    std::int64_t value = 0;
-    return mpv_get_property(handle, property.constData(), MPV_FORMAT_INT64, &value) < 0 ? 0 : value;
-}
-
-bool flag(mpv_handle* handle, const QByteArray& property)
-{
-    int value = 0;
-    return mpv_get_property(handle, property.constData(), MPV_FORMAT_FLAG, &value) >= 0 &&
-           value != 0;
-}
-
-std::optional<double> decimal(mpv_handle* handle, const QByteArray& property)
-{
-    double value = 0.0;
-    return mpv_get_property(handle, property.constData(), MPV_FORMAT_DOUBLE, &value) < 0
-               ? std::nullopt
-               : std::optional(value);
-}
-
-bool isTrackOf(mpv_handle* handle, std::int64_t track, const char* type)
-{
-    char* found = mpv_get_property_string(handle, trackProperty(track, "type").constData());
-    const bool isOf = found != nullptr && std::strcmp(found, type) == 0;
-    mpv_free(found);
-    return isOf;
 }
 
 } // namespace
@@ -169,7 +103,7 @@ bool MpvWork::open()
     }
     m_renderer = m_maker->start(m_handle.get());
     if (m_renderer == nullptr) {
-        fail(DeckTrouble::Unreadable, QStringLiteral("libmpv does not draw"));
+        cannotDraw();
         return false;
     }
     return true;
@@ -183,6 +117,14 @@ bool MpvWork::openFile()
         fail(fault.trouble, fault.words);
     }
     return !fault;
+}
+
+void MpvWork::cannotDraw()
+{
+    if (!m_isOver) {
+        m_mail.post(m_news.drawingFailed);
+    }
+    fail(DeckTrouble::Unreadable, QStringLiteral("Its pictures cannot be drawn"));
 }
 
 void MpvWork::startLoading()
@@ -199,11 +141,10 @@ void MpvWork::startLoading()
     QByteArray address = m_load.media.toUtf8();
     if (!m_isStream) {
         mpv_hook_add(handle, 0, "on_preloaded", 0);
-        mpv_stream_cb_add_ro(handle, kProtocol, this, &MpvWork::openStream);
-        address = QByteArray(kProtocol) + "://media." + suffixOf(m_load.media);
+        address = offerFile(handle, *m_file, m_load.media);
     }
     const char* command[] = {"loadfile", address.constData(), nullptr};
-    mpv_command_async(handle, 0, command);
+    mpv_command_async(handle, Loading, command);
     const std::lock_guard lock(m_commandMutex);
     m_commanded = handle;
 }
@@ -271,6 +212,11 @@ void MpvWork::handle(const mpv_event& event)
     case MPV_EVENT_PROPERTY_CHANGE:
         handleProperty(event.reply_userdata, *static_cast<const mpv_event_property*>(event.data));
         return;
+    case MPV_EVENT_COMMAND_REPLY:
+        if (event.error < 0) {
+            refused(event.reply_userdata, event.error);
+        }
+        return;
     case MPV_EVENT_END_FILE:
         fileEnded(*static_cast<const mpv_event_end_file*>(event.data));
         return;
@@ -302,15 +248,27 @@ void MpvWork::handleProperty(std::uint64_t observed, const mpv_event_property& p
         }
         return;
     default:
-        m_droppedFrames = number(m_handle.get(), "frame-drop-count") +
-                          number(m_handle.get(), "decoder-frame-drop-count");
+        m_droppedFrames = numberOf(m_handle.get(), "frame-drop-count") +
+                          numberOf(m_handle.get(), "decoder-frame-drop-count");
         return;
     }
 }
 
 void MpvWork::handleLog(const mpv_event_log_message& message)
 {
+    if (qEnvironmentVariableIsSet("DBGLOG"))
+        fprintf(stderr, "%s: %s", message.prefix, message.text);
     m_lastLog = QByteArray(message.prefix) + ": " + message.text;
+    // The command itself is done by then, as the library seeks some time after it.
+    if (isSeeking() && m_lastLog.startsWith("cplayer: Cannot seek")) {
+        seekRefused(QString::fromUtf8(m_lastLog));
+    }
+}
+
+bool MpvWork::isSeeking() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_isSeeking;
 }
 
 void MpvWork::chooseStart(std::uint64_t hook)
@@ -329,22 +287,36 @@ void MpvWork::chooseStart(std::uint64_t hook)
 
 void MpvWork::readTracks()
 {
-    mpv_handle* handle = m_handle.get();
-    const std::int64_t tracks = number(handle, "track-list/count");
-    for (std::int64_t track = 0; track < tracks; ++track) {
-        if (!isTrackOf(handle, track, "video") || flag(handle, trackProperty(track, "albumart"))) {
-            continue;
-        }
-        m_fileTurned = static_cast<int>(number(handle, trackProperty(track, "demux-rotation")));
-        m_framesPerSecond = decimal(handle, trackProperty(track, "demux-fps")).value_or(0.0);
+    if (const std::optional<FilmTrack> film = filmTrackOf(m_handle.get())) {
+        m_fileTurned = film->turned;
+        m_framesPerSecond = film->framesPerSecond;
+    }
+}
+
+void MpvWork::refused(std::uint64_t asked, int error)
+{
+    switch (static_cast<Asked>(asked)) {
+    case Nothing:
+        return;
+    case Loading:
+    case Playing:
+        fail(DeckTrouble::Unreadable, lastWords(error));
+        return;
+    case Seeking:
+        seekRefused(QString::fromUtf8(mpv_error_string(error)));
         return;
     }
+}
+
+void MpvWork::seekRefused(const QString& words)
+{
+    fail(DeckTrouble::Unreadable, QStringLiteral("It cannot be sought: %1").arg(words));
 }
 
 void MpvWork::fileLoaded()
 {
     readTracks();
-    m_hasVideo = number(m_handle.get(), "current-tracks/video/id") > 0;
+    m_hasVideo = numberOf(m_handle.get(), "current-tracks/video/id") > 0;
     if (!m_hasVideo && m_load.kind == ProgramKind::Video) {
         // Noise is easily taken for sound, as it has so little to be known by.
         fail(DeckTrouble::Unreadable, QStringLiteral("The film holds no picture"));
@@ -360,7 +332,7 @@ void MpvWork::restarted()
         const std::lock_guard lock(m_mutex);
         m_isSeeking = false;
     }
-    if (const std::optional<double> place = decimal(m_handle.get(), "time-pos")) {
+    if (const std::optional<double> place = decimalOf(m_handle.get(), "time-pos")) {
         reached(*place);
     }
     tellReadyOnce();
@@ -415,6 +387,9 @@ void MpvWork::draw(const ScreenShape& shape)
     const QSize room = roomBeforeTurning(shape.size, turned);
     const DeckPicture picture = m_maker->draw(m_renderer.get(), room, turned);
     mpv_render_context_report_swap(m_renderer.get());
+    if (picture.isNull() && !room.isEmpty()) {
+        cannotDraw();
+    }
     if (picture.isNull() || !hasPicture) {
         return;
     }
@@ -443,7 +418,7 @@ void MpvWork::lookForStall()
     if (m_hasRestarted && !m_isReady && now - m_restartedAt > kLongestDrawing) {
         // None of its pictures can be decoded.
         m_hasVideo = false;
-        if (number(m_handle.get(), "current-tracks/audio/id") > 0) {
+        if (numberOf(m_handle.get(), "current-tracks/audio/id") > 0) {
             tellReadyOnce();
         } else {
             fail(DeckTrouble::Unreadable, lastWords(0));
@@ -483,7 +458,7 @@ double MpvWork::toFrame(qint64 position) const
 {
     const double seconds = static_cast<double>(position) / 1000.0;
     const double frames = m_framesPerSecond;
-    if (frames < kFewestFrames || frames > kMostFrames) {
+    if (frames <= 0.0) {
         return seconds;
     }
     return std::floor((seconds + kRounding) * frames) / frames;
@@ -494,7 +469,7 @@ void MpvWork::stop()
     m_mail.close();
     const char* command[] = {"stop", nullptr};
     // Gets it out of a connection that is still being made.
-    commandAsync(command);
+    commandAsync(command, Nothing);
     const std::lock_guard lock(m_mutex);
     m_isStopped = true;
     m_work.notify_one();
@@ -503,13 +478,13 @@ void MpvWork::stop()
 void MpvWork::play()
 {
     setPlays(true);
-    setAsync("pause", "no");
+    setAsync("pause", "no", Playing);
 }
 
 void MpvWork::pause()
 {
     setPlays(false);
-    setAsync("pause", "yes");
+    setAsync("pause", "yes", Nothing);
 }
 
 void MpvWork::setPlays(bool plays)
@@ -534,7 +509,7 @@ void MpvWork::seek(qint64 position)
     }
     const QByteArray place = QByteArray::number(toFrame(position), 'f', 6);
     const char* command[] = {"seek", place.constData(), "absolute+exact", nullptr};
-    commandAsync(command);
+    commandAsync(command, Seeking);
 }
 
 void MpvWork::setSpeed(double speed)
@@ -543,20 +518,21 @@ void MpvWork::setSpeed(double speed)
         const std::lock_guard lock(m_mutex);
         m_position.setSpeed(speed, std::chrono::steady_clock::now());
     }
-    setAsync("speed", QByteArray::number(speed, 'f', 6).constData());
+    setAsync("speed", QByteArray::number(speed, 'f', 6).constData(), Nothing);
 }
 
-void MpvWork::setAsync(const char* property, const char* value)
+void MpvWork::setAsync(const char* property, const char* value, std::uint64_t asked)
 {
     const char* command[] = {"set", property, value, nullptr};
-    commandAsync(command);
+    commandAsync(command, asked);
 }
 
-void MpvWork::commandAsync(const char** command)
+void MpvWork::commandAsync(const char** command, std::uint64_t asked)
 {
     const std::lock_guard lock(m_commandMutex);
-    if (m_commanded != nullptr) {
-        mpv_command_async(m_commanded, 0, command);
+    if (m_commanded != nullptr && mpv_command_async(m_commanded, asked, command) < 0) {
+        // Only what is no command at all, or a library that has no room for one more.
+        qWarning("libmpv does not take %s", command[0]);
     }
 }
 
@@ -577,6 +553,12 @@ std::optional<qint64> MpvWork::position() const
     return place ? std::optional(qRound64(*place)) : std::nullopt;
 }
 
+std::optional<qint64> MpvWork::pictureLength() const
+{
+    const double frames = m_framesPerSecond;
+    return frames > 0.0 ? std::optional(qRound64(1000.0 / frames)) : std::nullopt;
+}
+
 void MpvWork::eventsCame(void* self)
 {
     auto& work = *static_cast<MpvWork*>(self);
@@ -591,16 +573,6 @@ void MpvWork::drawingIsDue(void* self)
     const std::lock_guard lock(work.m_mutex);
     work.m_hasDrawing = true;
     work.m_work.notify_one();
-}
-
-int MpvWork::openStream(void* self, char* /*address*/, mpv_stream_cb_info* info)
-{
-    info->cookie = static_cast<MpvWork*>(self)->m_file.get();
-    info->read_fn = &readFile;
-    info->seek_fn = &seekFile;
-    info->size_fn = &sizeOfFile;
-    info->close_fn = &closeFile;
-    return 0;
 }
 
 } // namespace trel::player

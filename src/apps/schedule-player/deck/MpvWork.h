@@ -43,6 +43,7 @@ public:
     void setShape(const ScreenShape& shape);
     std::optional<qint64> position() const;
     DeckPicture picture() { return m_pictures.take(); }
+    std::optional<qint64> pictureLength() const;
     qint64 droppedFrames() const { return m_droppedFrames; }
 
 private:
@@ -63,6 +64,9 @@ private:
     void fileEnded(const mpv_event_end_file& end);
     void chooseStart(std::uint64_t hook);
     void readTracks();
+    void refused(std::uint64_t asked, int error);
+    void seekRefused(const QString& words);
+    void cannotDraw();
     void draw(const ScreenShape& shape);
     void tellReadyOnce();
     void lookForStall();
@@ -71,13 +75,13 @@ private:
     QString lastWords(int error) const;
     double toFrame(qint64 position) const;
     void setPlays(bool plays);
-    void setAsync(const char* property, const char* value);
-    void commandAsync(const char** command);
+    void setAsync(const char* property, const char* value, std::uint64_t asked);
+    void commandAsync(const char** command, std::uint64_t asked);
+    bool isSeeking() const;
     Moment::duration silence(Moment now) const;
 
     static void eventsCame(void* self);
     static void drawingIsDue(void* self);
-    static int openStream(void* self, char* address, mpv_stream_cb_info* info);
 
     const screen::DeckLoad m_load;
     const bool m_isMute;

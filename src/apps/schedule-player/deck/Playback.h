@@ -17,6 +17,8 @@ struct PlaybackNews
     std::function<void(const screen::DeckFault&)> failed;
     std::function<void()> ended;
     std::function<void()> pictureChanged; ///< There is a newer one; several may have come.
+    /// Its pictures cannot be drawn in the way that it was told to. It fails as well.
+    std::function<void()> drawingFailed;
 };
 
 /// One program as it plays: what a deck has loaded. It begins to load when it is made, is never
@@ -36,6 +38,8 @@ public:
 
     /// In milliseconds; none where it is not known.
     virtual std::optional<qint64> position() const = 0;
+    /// How long a picture stands, in milliseconds; none where it is not known.
+    virtual std::optional<qint64> pictureLength() const { return std::nullopt; }
     /// The newest picture: as large as the screen, with black around.
     virtual DeckPicture picture() const = 0;
     /// How many pictures came too late to be shown.

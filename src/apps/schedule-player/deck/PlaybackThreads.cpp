@@ -1,5 +1,7 @@
 #include "deck/PlaybackThreads.h"
 
+#include <algorithm>
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <system_error>
@@ -14,6 +16,10 @@ namespace {
 constexpr std::chrono::milliseconds kPatience{300};
 /// Two programs and their successors take a handful; all others hang.
 constexpr int kMostThreads = 16;
+
+using Patience = std::chrono::steady_clock::duration;
+
+std::atomic<bool> hasLeftAny{false};
 
 } // namespace
 
@@ -30,11 +36,30 @@ PlaybackThreads::PlaybackThreads()
 
 PlaybackThreads::~PlaybackThreads()
 {
-    wait(kPatience);
+    if (!m_hasLeft) {
+        leave(std::chrono::steady_clock::now() + kPatience);
+    }
+}
+
+bool PlaybackThreads::leave(std::chrono::steady_clock::time_point until)
+{
+    m_hasLeft = true;
+    const auto patience = std::max(until - std::chrono::steady_clock::now(), Patience::zero());
+    const bool isOver = wait(std::chrono::ceil<std::chrono::milliseconds>(patience));
+    hasLeftAny = hasLeftAny || !isOver;
+    return isOver;
+}
+
+bool PlaybackThreads::areLeft()
+{
+    return hasLeftAny;
 }
 
 void PlaybackThreads::start(std::function<void()> function)
 {
+    if (m_hasLeft) {
+        return;
+    }
     {
         const std::lock_guard lock(m_count->mutex);
         if (m_count->running >= kMostThreads) {

@@ -14,8 +14,7 @@ class PlaybackThreads
 {
 public:
     PlaybackThreads();
-    /// Waits for all of them, but no longer than that; those that hang are left to the end of the
-    /// process.
+    /// Leaves a third of a second from now, unless it has left.
     ~PlaybackThreads();
     Q_DISABLE_COPY(PlaybackThreads)
 
@@ -27,10 +26,18 @@ public:
     /// Whether all have ended by then.
     bool wait(std::chrono::milliseconds patience) const;
 
+    /// Waits for all of them, but no longer than that, and tells whether they have ended; those
+    /// that hang are left to the end of the process. Nothing is started any more.
+    bool leave(std::chrono::steady_clock::time_point until);
+    /// Whether any thread of this process has been left. What such a one may use again must not be
+    /// taken down, the static objects of the libraries among it.
+    static bool areLeft();
+
 private:
     struct Count;
 
     std::shared_ptr<Count> m_count;
+    bool m_hasLeft = false;
 };
 
 } // namespace trel::player

@@ -10,6 +10,7 @@ namespace trel::player {
 
 using mediadispatch::ProgramKind;
 using screen::DeckFault;
+using screen::DeckTrouble;
 
 PlayerDeck::PlayerDeck(bool isMute, GlSharing* sharing, QObject* parent)
     : Deck(parent)
@@ -27,12 +28,15 @@ quint64 PlayerDeck::load(const screen::DeckLoad& load)
 {
     forget();
     const quint64 number = ++m_number;
+    emit loadBegins(load.media);
     m_stands = load.stands;
     PlaybackNews news;
     news.ready = [this] { becomeReady(); };
     news.failed = [this, number](const DeckFault& fault) { emit failed(number, fault); };
     news.ended = [this, number] { emit ended(number); };
     news.pictureChanged = [this] { emit pictureChanged(); };
+    news.drawingFailed = [this] { emit drawingFailed(); };
+    m_isByOpenGl = m_sharing != nullptr && load.kind != ProgramKind::Image;
     if (load.kind == ProgramKind::Image) {
         m_playback = std::make_unique<StillPlayback>(load.media, m_shape, news, m_threads);
     } else {
@@ -46,6 +50,7 @@ void PlayerDeck::clear()
 {
     forget();
     ++m_number;
+    emit loadBegins({});
 }
 
 void PlayerDeck::forget()
@@ -53,6 +58,28 @@ void PlayerDeck::forget()
     m_droppedBefore = droppedFrames();
     m_playback.reset();
     m_isReady = false;
+}
+
+bool PlayerDeck::leave(std::chrono::steady_clock::time_point until)
+{
+    clear();
+    return m_threads.leave(until);
+}
+
+void PlayerDeck::drawInMemory()
+{
+    m_sharing = nullptr;
+    if (!m_isByOpenGl || m_playback == nullptr) {
+        return;
+    }
+    forget();
+    const auto lose = [this, number = m_number] {
+        if (number == m_number) {
+            emit failed(number,
+                        {DeckTrouble::Unreadable, QStringLiteral("OpenGL does not draw any more")});
+        }
+    };
+    QMetaObject::invokeMethod(this, lose, Qt::QueuedConnection);
 }
 
 void PlayerDeck::becomeReady()
@@ -97,6 +124,11 @@ bool PlayerDeck::hasPicture() const
 std::optional<qint64> PlayerDeck::position() const
 {
     return m_isReady ? m_playback->position() : std::nullopt;
+}
+
+std::optional<qint64> PlayerDeck::pictureLength() const
+{
+    return m_isReady ? m_playback->pictureLength() : std::nullopt;
 }
 
 void PlayerDeck::setShape(const ScreenShape& shape)

@@ -6,6 +6,7 @@
 #include "stage/ScreenShape.h"
 #include "trelscreen/Deck.h"
 
+#include <chrono>
 #include <memory>
 
 namespace trel::player {
@@ -38,6 +39,15 @@ public:
     bool isReady() const override { return m_isReady; }
     bool hasPicture() const override;
     std::optional<qint64> position() const override;
+    std::optional<qint64> pictureLength() const override;
+
+    /// Forgets what it had, and waits until its threads have ended, but no longer than that. Tells
+    /// whether they have; those that hang are left to the end of the process. It loads nothing any
+    /// more.
+    bool leave(std::chrono::steady_clock::time_point until);
+
+    /// Draws in memory from now on. Where it has a film by OpenGL, that fails.
+    void drawInMemory();
 
     /// What its pictures are made for, from now on. Has to be said before the first load.
     void setShape(const ScreenShape& shape);
@@ -49,17 +59,22 @@ public:
 signals:
     /// There is a newer picture. Several may have come.
     void pictureChanged();
+    /// What it was to draw cannot be drawn in the way that it was told to. The load fails as well.
+    void drawingFailed();
+    /// It is about to load that, or nothing. From within load() and clear().
+    void loadBegins(const QString& media);
 
 private:
     void becomeReady();
     void forget();
 
     const bool m_isMute;
-    GlSharing* const m_sharing;
+    GlSharing* m_sharing; ///< None where films are drawn in memory.
     ScreenShape m_shape;
     quint64 m_number = 0;
     bool m_isReady = false;
     bool m_stands = false;
+    bool m_isByOpenGl = false; ///< The present load.
     qint64 m_droppedBefore = 0;
     MpvHandle m_quiet; ///< Goes after all threads.
     PlaybackThreads m_threads;

@@ -60,7 +60,8 @@ MpvRenderer GlMaker::start(mpv_handle* handle)
 
 DeckPicture GlMaker::draw(mpv_render_context* renderer, const QSize& room, int turned)
 {
-    if (room.isEmpty()) {
+    // Made current again each time, which is how a context finds out that its driver has lost it.
+    if (room.isEmpty() || !m_context->makeCurrent(m_surface.get())) {
         return {};
     }
     Canvas& canvas = blank(room);
@@ -82,6 +83,12 @@ DeckPicture GlMaker::draw(mpv_render_context* renderer, const QSize& room, int t
 
 void GlMaker::finish()
 {
+    const bool isCurrent =
+        m_context != nullptr && QOpenGLContext::currentContext() == m_context.get();
+    if (!isCurrent) {
+        // What was lost has taken all of it along.
+        m_pool.clear();
+    }
     for (Canvas& canvas : m_pool) {
         drop(canvas);
     }

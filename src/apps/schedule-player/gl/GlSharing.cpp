@@ -43,6 +43,10 @@ GlSharing::GlSharing()
     : m_trash(std::make_shared<GlTrash>())
     , m_context(std::make_unique<QOpenGLContext>())
 {
+    // A driver that loses all that it had says so, where it can.
+    QSurfaceFormat format = m_context->format();
+    format.setOption(QSurfaceFormat::ResetNotification);
+    m_context->setFormat(format);
     if (!m_context->create()) {
         m_context.reset();
     }

@@ -32,6 +32,17 @@ void SoftwareStage::add(FrameSink& sink)
     present();
 }
 
+void SoftwareStage::remove(FrameSink& sink)
+{
+    m_sinks.erase(std::remove(m_sinks.begin(), m_sinks.end(), &sink), m_sinks.end());
+}
+
+void SoftwareStage::setStandBy(const QImage& standBy)
+{
+    m_standBy = standBy;
+    setShape(m_shape);
+}
+
 void SoftwareStage::setShape(const ScreenShape& shape)
 {
     m_shape = shape;

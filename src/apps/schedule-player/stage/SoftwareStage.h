@@ -26,8 +26,12 @@ public:
 
     /// A deck that it may be told to show; it outlives the stage. It is told the screen's shape.
     void add(PlayerDeck& deck);
-    /// Gets what is on screen now, and all that follows. It outlives the stage.
+    /// Gets what is on screen now, and all that follows. It outlives the stage, or is taken out.
     void add(FrameSink& sink);
+    void remove(FrameSink& sink);
+
+    /// Another picture for when there is none; null for black.
+    void setStandBy(const QImage& standBy);
 
     void setShape(const ScreenShape& shape);
     const ScreenShape& shape() const { return m_shape; }
@@ -42,7 +46,7 @@ private:
     QImage deckPicture() const;
 
     ScreenShape m_shape;
-    const QImage m_standBy;
+    QImage m_standBy;
     QImage m_fittedStandBy; ///< As large as the screen, before it is turned.
     screen::StagePicture m_shown;
     std::vector<PlayerDeck*> m_decks;

@@ -1,23 +1,24 @@
 #include "ScreenLock.h"
 
 #include "common/DisplayText.h"
+#include "system/OwnPlace.h"
 #include "trelprogramschedule/screens/PlayerStatusFolder.h"
 
-#include <QCryptographicHash>
-#include <QStandardPaths>
+#include <QThread>
 
 namespace trel::player {
 
 namespace {
 
-/// Where the folder of the store cannot be written, and no other machine can either: the user's own
-/// place on this machine.
-QString ownPath(const QString& lockPath)
+/// How long a file that says nothing may be one that is just being written, in milliseconds.
+constexpr unsigned long kWriting = 100;
+
+bool saysWho(const QLockFile& lock)
 {
-    const QByteArray name =
-        QCryptographicHash::hash(lockPath.toUtf8(), QCryptographicHash::Sha256).toHex();
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
-           QStringLiteral("/schedule-player-%1.lock").arg(QString::fromLatin1(name));
+    qint64 process = 0;
+    QString machine;
+    QString program;
+    return lock.getLockInfo(&process, &machine, &program);
 }
 
 std::unique_ptr<QLockFile> lockAt(const QString& path)
@@ -26,6 +27,14 @@ std::unique_ptr<QLockFile> lockAt(const QString& path)
     // Its age says nothing: a player may play for years.
     lock->setStaleLockTime(0);
     lock->tryLock(0);
+    if (lock->error() == QLockFile::LockFailedError && !saysWho(*lock)) {
+        // A machine that lost its power may leave it empty or cut short, which would keep all
+        // players away for ever.
+        QThread::msleep(kWriting);
+        if (!lock->tryLock(0) && !saysWho(*lock) && lock->removeStaleLockFile()) {
+            lock->tryLock(0);
+        }
+    }
     return lock;
 }
 
@@ -38,7 +47,8 @@ ScreenLock::ScreenLock(const QString& store, const QString& screen)
     m_lock = lockAt(path);
     if (m_lock->error() == QLockFile::PermissionError ||
         m_lock->error() == QLockFile::UnknownError) {
-        m_lock = lockAt(ownPath(path));
+        // Where the folder of the store cannot be written, and no other machine can either.
+        m_lock = lockAt(ownPlaceOf(path, QStringLiteral("lock")));
     }
     m_isTaken = m_lock->isLocked();
 }

@@ -8,7 +8,8 @@
 namespace trel::player {
 
 /// Keeps a second player from playing for the same screen on the same store, for as long as it
-/// lives. A player that was killed, or whose machine lost its power, keeps no other away.
+/// lives. A player that was killed, or whose machine lost its power, keeps no other away, even
+/// where its file was left empty.
 class ScreenLock
 {
 public:

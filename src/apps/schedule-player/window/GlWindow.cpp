@@ -43,6 +43,7 @@ bool GlWindow::makeCurrent()
 {
     if (m_context == nullptr) {
         m_context = std::make_unique<QOpenGLContext>();
+        m_context->setFormat(m_sharing.context()->format());
         m_context->setShareContext(m_sharing.context());
         m_context->create();
     }
@@ -52,7 +53,11 @@ bool GlWindow::makeCurrent()
 
 void GlWindow::paint()
 {
-    if (!isExposed() || size().isEmpty() || !makeCurrent()) {
+    if (!isExposed() || size().isEmpty()) {
+        return;
+    }
+    if (!makeCurrent()) {
+        emit drawingFailed();
         return;
     }
     draw();

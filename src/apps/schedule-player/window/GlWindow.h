@@ -30,6 +30,10 @@ public:
     /// What it shows, as it is read back from OpenGL; null where it has shown nothing yet.
     QImage shown();
 
+signals:
+    /// OpenGL does not draw into it, or not any more. May come with every picture.
+    void drawingFailed();
+
 protected:
     void paint() override;
 
