@@ -108,7 +108,7 @@ void Conductor::follow()
         // A deck may have become free.
         prepareNext();
     }
-    m_tally.setOnTimeline(m_isShown && !m_heldShown, m_steady);
+    m_tally.setOnTimeline(m_isShown && !m_current.backAt, m_steady);
     sleep();
     if (std::exchange(m_isChanged, false)) {
         emit changed();
@@ -403,10 +403,7 @@ void Conductor::attendPosition()
 
 void Conductor::settleCurrent()
 {
-    if (m_heldShown) {
-        m_tally.setOnTimeline(true, *m_current.backAt);
-        note(*std::exchange(m_heldShown, std::nullopt));
-    }
+    m_tally.setOnTimeline(true, *m_current.backAt);
     note(m_current.recover(m_steady));
 }
 
@@ -433,9 +430,7 @@ void Conductor::loseCurrent(const DeckFault& fault)
     if (!m_isShown) {
         return;
     }
-    if (!std::exchange(m_heldShown, std::nullopt)) {
-        note(ScreenEvent::Kind::Left, m_current.play);
-    }
+    note(ScreenEvent::Kind::Left, m_current.play);
     m_isShown = false;
     m_shownSince = kNever;
     m_isSwitch = false;
@@ -531,12 +526,8 @@ void Conductor::noteShown()
     event.play = m_current.play;
     event.isSwitch = m_isSwitch;
     event.amount = m_shownSince - m_dueAt;
-    if (m_current.backAt) {
-        m_heldShown = event;
-        m_isChanged = true;
-    } else {
-        note(event);
-    }
+    event.isAgain = m_current.backAt.has_value();
+    note(event);
 }
 
 void Conductor::noteDue()

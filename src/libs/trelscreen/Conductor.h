@@ -139,8 +139,7 @@ private:
     mediadispatch::Instant m_shownSince = mediadispatch::kNever;
     mediadispatch::Instant m_dueAt = 0; ///< What the lateness is counted from.
     bool m_isSwitch = false;
-    std::optional<ScreenEvent> m_heldShown; ///< To be told once it has lasted.
-    std::optional<qint64> m_graceUntil;     ///< How long a former picture may stay.
+    std::optional<qint64> m_graceUntil; ///< How long a former picture may stay.
 
     std::optional<PositionHold> m_hold; ///< Of what has been started.
     qint64 m_lookAt = 0;                ///< When the position is looked at next.

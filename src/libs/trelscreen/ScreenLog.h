@@ -13,14 +13,11 @@ enum class StandIn {
 };
 
 /// Something that has happened on a screen.
-///
-/// What comes back after a fault is told as Shown once it has stood for a second, or to its end,
-/// with onScreenSince as the moment at which it came back: what breaks again at once is not told.
 struct ScreenEvent
 {
     enum class Kind {
         ScheduleTaken,    ///< Another schedule was given; the play is what was on before.
-        Shown,            ///< The play is on screen; again, after a fault. See below.
+        Shown,            ///< The play is on screen from now on; again, after a fault.
         Left,             ///< The play, which was on screen, is so no more.
         Late,             ///< It was not ready when its time came.
         Fault,            ///< It cannot be shown, for a reason that is new.
@@ -43,6 +40,9 @@ struct ScreenEvent
     /// Of Shown and Due: the change came at its time, and not with a new schedule, a leap of the
     /// clock or, of Shown, the end of a fault.
     bool isSwitch = false;
+    /// Of Shown: it has broken before and may do so again at once. Recovered follows when it has
+    /// lasted for a second, or to its end; Left without it where it has not.
+    bool isAgain = false;
     /// Milliseconds. Of Shown: behind the planned beginning or, where that could not be known, the
     /// moment at which it was. Of Recovered: how long it was away. Of CorrectedBySpeed and Sought:
     /// how far it was ahead of the timeline, below 0 behind. Of ClockLeapt: how far, below 0 back.

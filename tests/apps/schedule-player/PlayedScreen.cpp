@@ -5,6 +5,8 @@
 #include "support/NumberedClip.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
 
+#include <QFile>
+
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
@@ -20,6 +22,7 @@ const QSize kSize(320, 180);
 /// The number in the stand-by picture.
 constexpr int kStandBy = 200;
 constexpr int kSoundLength = 700; // milliseconds
+constexpr int kStreamTime = 5000; // milliseconds that it is played at a time
 /// What a fault explains at most, where its play goes on for longer; milliseconds.
 constexpr Instant kLongest = 5000;
 /// What a busy machine may take to load what could not be foreseen; milliseconds.
@@ -36,6 +39,8 @@ int framesOf(PlayedProgram program)
         return 25;
     case Longer:
         return 60;
+    case Stream:
+        return PlayedPrograms::kStreamLength / kFrameLength;
     case Still:
     case Sound:
         break;
@@ -65,7 +70,7 @@ ScreenInsertion insertionOf(int program)
 
 } // namespace
 
-PlayedPrograms::PlayedPrograms()
+PlayedPrograms::PlayedPrograms(const QString& stream)
 {
     Catalogue catalogue;
     for (const PlayedProgram program : {Short, Middle, Long, Longer, Still, Sound}) {
@@ -88,12 +93,27 @@ PlayedPrograms::PlayedPrograms()
             m_areMade &= makeFilm(path(program), program);
         }
     }
+    if (!stream.isEmpty()) {
+        ProgramIten& entry = catalogue[Stream];
+        entry.progIndex = Stream;
+        entry.mediaPath = stream.toStdString();
+        entry.progName = "stream";
+        entry.kind = ProgramKind::Live;
+        entry.durationMs = kStreamTime;
+        m_areMade &= makeFilm(path(Stream), Stream);
+        QFile file(path(Stream));
+        m_areMade &= file.open(QIODevice::ReadOnly);
+        m_stream = file.readAll();
+    }
     m_catalogue = std::make_shared<const Catalogue>(std::move(catalogue));
 }
 
 QString PlayedPrograms::path(PlayedProgram program) const
 {
-    const char* const suffix = program == Still ? "png" : program == Sound ? "wav" : "mp4";
+    const char* const suffix = program == Still    ? "png"
+                               : program == Sound  ? "wav"
+                               : program == Stream ? "ts"
+                                                   : "mp4";
     return m_folder.filePath(
         QStringLiteral("program%1.%2").arg(program).arg(QLatin1String(suffix)));
 }
@@ -201,19 +221,29 @@ QString PlayedScreen::fault(const RecordedFrame& frame) const
     if (frame.content == RecordedFrame::Content::Other) {
         return QStringLiteral("a mixture");
     }
-    for (const ScreenState& state : plays(frame.moment - kPatience, frame.moment + 1)) {
-        if (fits(frame, state)) {
-            return QString();
-        }
+    if (isRight(frame)) {
+        return QString();
     }
     const bool isNone = frame.content == RecordedFrame::Content::Black || isStandBy(frame);
-    if (isNone && explains(frame.moment)) {
+    const std::vector<ScreenState> about = plays(frame.moment - kPatience, frame.moment + 1);
+    const bool isOfAPlay =
+        std::any_of(about.begin(), about.end(), [&frame](const ScreenState& state) {
+            return state.progIndex == frame.mark.program;
+        });
+    if ((isNone || isOfAPlay) && explains(frame.moment)) {
         return QString();
     }
     return isNone ? QStringLiteral("no picture")
                   : QStringLiteral("program %1, frame %2")
                         .arg(frame.mark.program)
                         .arg(frame.mark.frame);
+}
+
+bool PlayedScreen::isRight(const RecordedFrame& frame) const
+{
+    const std::vector<ScreenState> about = plays(frame.moment - kPatience, frame.moment + 1);
+    return std::any_of(about.begin(), about.end(),
+                       [&frame](const ScreenState& state) { return fits(frame, state); });
 }
 
 bool PlayedScreen::hasShown(const ScreenState& state) const
@@ -247,7 +277,7 @@ bool PlayedScreen::fits(const RecordedFrame& frame, const ScreenState& state)
     if (frame.mark.program != state.progIndex) {
         return false;
     }
-    if (state.progIndex == Still) {
+    if (state.progIndex == Still || state.progIndex == Stream) {
         return true;
     }
     // A frame stands for its whole length, and position is that of its beginning.

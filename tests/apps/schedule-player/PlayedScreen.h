@@ -15,8 +15,8 @@
 #include <vector>
 
 /// The programs that a PlayedScreen plays: films of 0.4, 0.6, 1 and 2.4 seconds whose pictures tell
-/// which they are, an image and a sound of 0.7 seconds.
-enum PlayedProgram { Short = 1, Middle, Long, Longer, Still, Sound };
+/// which they are, an image, a sound of 0.7 seconds and a stream that is played for five.
+enum PlayedProgram { Short = 1, Middle, Long, Longer, Still, Sound, Stream };
 
 /// Their files, made in a folder of their own.
 class PlayedPrograms
@@ -24,16 +24,21 @@ class PlayedPrograms
 public:
     using Catalogue = std::map<int, trel::mediadispatch::ProgramIten>;
 
-    PlayedPrograms();
+    /// With the address of the stream, which somebody has to serve; there is none without it.
+    explicit PlayedPrograms(const QString& stream = QString());
 
     /// False when a file could not be made.
     bool areMade() const { return m_areMade; }
     QString path(PlayedProgram program) const;
+    /// What is to be served as the stream, and for how long it lasts.
+    const QByteArray& stream() const { return m_stream; }
+    static constexpr int kStreamLength = 40'000; // milliseconds
     const std::shared_ptr<const Catalogue>& catalogue() const { return m_catalogue; }
 
 private:
     QTemporaryDir m_folder;
     std::shared_ptr<const Catalogue> m_catalogue;
+    QByteArray m_stream;
     bool m_areMade = true;
 };
 
@@ -68,8 +73,12 @@ public:
     /// the one since when it is.
     std::vector<ScreenState> plays(Instant from, Instant to) const;
     /// Why the picture is a wrong one; empty when it is right, or when a fault explains that there
-    /// was none.
+    /// was none, or another one of the same program.
     QString fault(const RecordedFrame& frame) const;
+    /// Whether the picture is the one that the timeline has at its moment.
+    bool isRight(const RecordedFrame& frame) const;
+    /// Whether it is the one for when there is none.
+    static bool isStandBy(const RecordedFrame& frame);
     /// Whether the picture stood on the screen soon after its beginning, or came later.
     bool hasShown(const ScreenState& state) const;
     /// Whether a fault about that moment, or what was cut in at once and had to be loaded, explains
@@ -102,7 +111,6 @@ private:
         std::vector<Trouble> m_troubles;
     };
 
-    static bool isStandBy(const RecordedFrame& frame);
     static bool fits(const RecordedFrame& frame, const ScreenState& state);
 
     const QString m_name;

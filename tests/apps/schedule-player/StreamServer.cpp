@@ -1,11 +1,22 @@
 #include "StreamServer.h"
 
+#include <algorithm>
+
+namespace {
+
+constexpr int kAtOnce = 1000; // milliseconds of what is paced
+constexpr int kPieces = 40;   // milliseconds from one piece to the next
+constexpr int kSoon = 500;    // milliseconds until a line that breaks off does so
+
+} // namespace
+
 StreamServer::StreamServer(QObject* parent)
     : QObject(parent)
 {
     connect(&m_server, &QTcpServer::newConnection, this, &StreamServer::connected);
     m_server.listen(QHostAddress::LocalHost);
     m_port = m_server.serverPort();
+    connect(&m_pace, &QTimer::timeout, this, &StreamServer::sendMore);
 }
 
 QString StreamServer::address(const QString& path) const
@@ -17,6 +28,31 @@ void StreamServer::serveWhole(const QString& path, const QByteArray& content)
 {
     m_whole.append(path);
     serve(path, content);
+}
+
+void StreamServer::servePaced(const QString& path, const QByteArray& content, int milliseconds)
+{
+    m_paced[path] = {content, milliseconds};
+    m_pace.start(kPieces);
+}
+
+void StreamServer::sendMore()
+{
+    const auto isOver = [](const Line& line) {
+        return line.socket == nullptr || line.socket->state() != QAbstractSocket::ConnectedState;
+    };
+    m_lines.erase(std::remove_if(m_lines.begin(), m_lines.end(), isOver), m_lines.end());
+    for (Line& line : m_lines) {
+        if (m_breaksOff && line.timer.elapsed() >= kSoon) {
+            line.socket->disconnectFromHost();
+        } else if (!m_isStalled) {
+            const qint64 due = line.source.content.size() * (line.timer.elapsed() + kAtOnce) /
+                               line.source.milliseconds;
+            const int until = static_cast<int>(std::min<qint64>(due, line.source.content.size()));
+            line.socket->write(line.source.content.mid(line.sent, until - line.sent));
+            line.sent = until;
+        }
+    }
 }
 
 void StreamServer::hangUp()
@@ -56,6 +92,13 @@ void StreamServer::answer(QTcpSocket& socket)
     const QString path = QString::fromLatin1(request.split(' ').value(1));
     m_paths.append(path);
     if (m_isSilent) {
+        return;
+    }
+    if (m_paced.contains(path)) {
+        socket.write("HTTP/1.0 200 OK\r\n\r\n");
+        Line line{&socket, m_paced.value(path), 0, {}};
+        line.timer.start();
+        m_lines.push_back(line);
         return;
     }
     if (!m_contents.contains(path)) {

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QHash>
 #include <QObject>
 #include <QPointer>
 #include <QTcpServer>
 #include <QTcpSocket>
+#include <QTimer>
+
+#include <vector>
 
 /// A source of streams on this machine, which does with those who connect what a test says.
 class StreamServer : public QObject
@@ -20,8 +24,14 @@ public:
     void serve(const QString& path, const QByteArray& content) { m_contents[path] = content; }
     /// The same, and then it hangs up.
     void serveWhole(const QString& path, const QByteArray& content);
+    /// What is sent as if it was being made: a second of it at once, and the rest as time passes.
+    void servePaced(const QString& path, const QByteArray& content, int milliseconds);
     /// Sends no answer at all.
     void setSilent(bool isSilent) { m_isSilent = isSilent; }
+    /// Sends nothing more of what is paced, on lines that stay.
+    void setStalled(bool isStalled) { m_isStalled = isStalled; }
+    /// Ends each line of what is paced half a second after the first of it.
+    void setBreaksOff(bool breaksOff) { m_breaksOff = breaksOff; }
     /// Ends all lines.
     void hangUp();
     /// Nobody can connect any more, until it goes on at the same place.
@@ -32,6 +42,20 @@ public:
     const QStringList& paths() const { return m_paths; }
 
 private:
+    struct Paced
+    {
+        QByteArray content;
+        int milliseconds = 0;
+    };
+    struct Line
+    {
+        QPointer<QTcpSocket> socket;
+        Paced source;
+        int sent = 0;
+        QElapsedTimer timer;
+    };
+
+    void sendMore();
     void connected();
     void answer(QTcpSocket& socket);
 
@@ -41,6 +65,11 @@ private:
     QStringList m_whole;
     QList<QPointer<QTcpSocket>> m_sockets;
     QStringList m_paths;
+    QHash<QString, Paced> m_paced;
+    std::vector<Line> m_lines;
+    QTimer m_pace;
+    bool m_isStalled = false;
+    bool m_breaksOff = false;
     bool m_isSilent = false;
     int m_requests = 0;
 };

@@ -30,6 +30,7 @@ private slots:
     void tellsWhenAStreamEnds();
     void tellsWhenNobodyAnswers_data();
     void tellsWhenNobodyAnswers();
+    void showsNoHalfPicture();
     void isBackAfterABreak();
     void keepsPasswordsToItself();
     void followsAListOfTheNetworkOnly();
@@ -136,6 +137,28 @@ void tst_DeckStreams::tellsWhenNobodyAnswers()
     QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, kPatience);
     QCOMPARE(faultIn(failed).trouble, DeckTrouble::Unreachable);
     QVERIFY(!faultIn(failed).words.isEmpty());
+}
+
+/// However the line breaks off in the middle of a picture.
+void tst_DeckStreams::showsNoHalfPicture()
+{
+    constexpr int kPacket = 188;
+    for (int cut = 8; cut < 12; ++cut) {
+        StreamServer server;
+        const int packets = m_stream.size() / kPacket * cut / 16;
+        server.serveWhole(QStringLiteral("/live"), m_stream.left(packets * kPacket - 40));
+        DeckFixture screen;
+        QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+        screen.show(screen.first);
+        screen.first.load(live(server.address()));
+        QTRY_VERIFY(screen.first.isReady());
+        screen.first.play();
+        QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, kPatience);
+        for (const RecordedFrame& frame : screen.record.frames()) {
+            QVERIFY2(frame.content != RecordedFrame::Content::Other,
+                     qPrintable(QString::number(cut)));
+        }
+    }
 }
 
 void tst_DeckStreams::isBackAfterABreak()

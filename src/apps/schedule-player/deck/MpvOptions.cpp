@@ -88,7 +88,6 @@ void addPlaying(std::vector<MpvOption>& options)
          // What the import tells from noise with the help of a name plays as well.
          {"demuxer-lavf-probescore", "1"},
          // Two decks in a machine of small memory.
-         {"vd-lavc-o", "max_pixels=" + QByteArray::number(kMostDots)},
          {"demuxer-max-bytes", "32MiB"},
          {"demuxer-max-back-bytes", "0"}});
 }
@@ -108,7 +107,10 @@ std::vector<MpvOption> mpvOptions(const MpvWishes& wishes)
         // No device is taken at all.
         options.push_back({"ao", "null"});
     }
+    QByteArray decoding = "max_pixels=" + QByteArray::number(kMostDots);
     if (wishes.isStream) {
+        // Where a line breaks off, its last picture is only half there.
+        decoding += ",err_detect=explode";
         const QByteArray protocols = "protocol_whitelist=" + quoted(kNetworkProtocols);
         const QByteArray formats = QByteArray(kFileFormats) + kStreamFormats;
         options.push_back({"stream-lavf-o", protocols});
@@ -122,6 +124,7 @@ std::vector<MpvOption> mpvOptions(const MpvWishes& wishes)
             {"demuxer-lavf-o", "fflags=+discardcorrupt,format_whitelist=" + quoted(kFileFormats)});
         options.push_back({"cache", "no"});
     }
+    options.push_back({"vd-lavc-o", decoding});
     return options;
 }
 

@@ -4,6 +4,8 @@
 #include "clock/Clock.h"
 #include "common/DisplayText.h"
 
+#include <utility>
+
 using namespace trel::mediadispatch;
 using namespace trel::screen;
 
@@ -16,11 +18,45 @@ void PlayerLog::note(const ScreenEvent& event)
                                                    faultSentence(event.fault));
         m_lastFaultAt = event.moment;
     }
-    // What comes instead, or the reason for it, says the same.
     using Kind = ScreenEvent::Kind;
-    if (event.kind != Kind::Left && event.kind != Kind::Due && event.kind != Kind::StoodIn) {
-        emit line(eventLine(event, MomentFormat(Clock::current().zone())));
+    switch (event.kind) {
+    case Kind::Shown:
+        m_again = event.isAgain ? std::optional(event) : std::nullopt;
+        if (!event.isAgain) {
+            write(event);
+        }
+        return;
+    case Kind::Recovered:
+        if (m_again) {
+            write(*std::exchange(m_again, std::nullopt));
+        }
+        write(event);
+        return;
+    case Kind::CorrectedBySpeed:
+    case Kind::Sought:
+        if (!m_again) {
+            write(event);
+        }
+        return;
+    case Kind::Left:
+        m_again.reset();
+        return;
+    case Kind::Due:
+    case Kind::StoodIn:
+        // What comes instead, or the reason for it, says the same.
+        return;
+    case Kind::ScheduleTaken:
+    case Kind::Late:
+    case Kind::Fault:
+    case Kind::ClockLeapt:
+        write(event);
+        return;
     }
+}
+
+void PlayerLog::write(const ScreenEvent& event)
+{
+    emit line(eventLine(event, MomentFormat(Clock::current().zone())));
 }
 
 void PlayerLog::tell(const QString& what)

@@ -5,9 +5,14 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 namespace trel::player {
 
 /// Words what happens on the screen, and hands each line on without waiting for it to be written.
+///
+/// A play that comes back after a fault is told of once it has lasted: one that breaks again and
+/// again fills no log.
 class PlayerLog : public QObject, public screen::ScreenLog
 {
     Q_OBJECT
@@ -27,6 +32,9 @@ signals:
     void line(const QString& line);
 
 private:
+    void write(const screen::ScreenEvent& event);
+
+    std::optional<screen::ScreenEvent> m_again; ///< Shown again, and may break again at once.
     QString m_lastFault;
     mediadispatch::Instant m_lastFaultAt = 0;
 };

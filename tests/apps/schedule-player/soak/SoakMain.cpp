@@ -39,15 +39,20 @@ class Soak : public QObject
     Q_OBJECT
 
 public:
-    Soak(const PlayedPrograms& programs, Instant length, bool hasFaults, unsigned seed)
+    /// Breaks programs where a server of their stream is given.
+    Soak(const PlayedPrograms& programs, Instant length, StreamServer* server, unsigned seed)
         : m_from(Clock::current().msecsSinceEpoch())
         , m_to(m_from + length)
-        , m_screen(QStringLiteral("soak"), playedAllDay({Short, Middle, Short, Long}),
+        , m_screen(QStringLiteral("soak"),
+                   playedAllDay(server == nullptr ? std::vector<int>{Short, Middle, Short, Long}
+                                                  : std::vector<int>{Short, Middle, Stream, Long,
+                                                                     Still, Longer, Sound}),
                    programs.catalogue())
         , m_sleeper(moments())
     {
-        if (hasFaults) {
-            m_faults = std::make_unique<FaultInjector>(programs, seed);
+        if (server != nullptr) {
+            m_faults = std::make_unique<FaultInjector>(programs, *server);
+            m_faults->goOn(seed);
         }
         connect(&m_round, &QTimer::timeout, this, &Soak::look);
         m_round.start(1000);
@@ -178,8 +183,9 @@ int main(int argc, char** argv)
     parser.addHelpOption();
     const QCommandLineOption minutes(QStringLiteral("minutes"), QStringLiteral("How long."),
                                      QStringLiteral("N"), QStringLiteral("10"));
-    const QCommandLineOption faults(QStringLiteral("faults"),
-                                    QStringLiteral("Breaks files while they are in use."));
+    const QCommandLineOption faults(
+        QStringLiteral("faults"),
+        QStringLiteral("Breaks files and a stream while they are in use."));
     const QCommandLineOption seed(QStringLiteral("seed"), QStringLiteral("Which faults."),
                                   QStringLiteral("S"), QStringLiteral("1"));
     parser.addOptions({minutes, faults, seed});
@@ -191,12 +197,15 @@ int main(int argc, char** argv)
         QTextStream(stderr) << "--minutes takes a number above 0." << Qt::endl;
         return 2;
     }
-    const PlayedPrograms programs;
+    StreamServer server;
+    const bool hasFaults = parser.isSet(faults);
+    const PlayedPrograms programs(hasFaults ? server.address() : QString());
+    server.servePaced(QStringLiteral("/live"), programs.stream(), PlayedPrograms::kStreamLength);
     if (!programs.areMade()) {
         QTextStream(stderr) << "The clips cannot be made." << Qt::endl;
         return 1;
     }
-    Soak soak(programs, static_cast<Instant>(length * 60000.0), parser.isSet(faults),
+    Soak soak(programs, static_cast<Instant>(length * 60000.0), hasFaults ? &server : nullptr,
               parser.value(seed).toUInt());
     QObject::connect(&soak, &Soak::over, &application, &QCoreApplication::quit);
     QCoreApplication::exec();
