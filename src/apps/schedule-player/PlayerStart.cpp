@@ -156,8 +156,8 @@ void PlayerStart::play()
                     m_notes->note(deck, media);
                 }
             });
-    m_player = std::make_unique<Player>(m_place, m_screen->stage(),
-                                        m_screen->firstDeck(), m_screen->secondDeck());
+    m_player = std::make_unique<Player>(m_place, m_screen->stage(), m_screen->firstDeck(),
+                                        m_screen->secondDeck());
     if (m_notes->formerEnd()) {
         tell(LoadNotes::words(*m_notes->formerEnd()));
     }
