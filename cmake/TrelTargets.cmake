@@ -9,7 +9,10 @@ target_compile_options(trel_strict INTERFACE
   -Wold-style-cast
   # What the macros of the toolkit's tests make of an empty list.
   $<$<CXX_COMPILER_ID:Clang>:-Wno-gnu-zero-variadic-macro-arguments>
-  $<$<BOOL:${TREL_WARNINGS_AS_ERRORS}>:-Werror>)
+  $<$<BOOL:${TREL_WARNINGS_AS_ERRORS}>:-Werror>
+  # What operators get tells nothing of the folder in which it was built.
+  $<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.
+    -ffile-prefix-map=${PROJECT_BINARY_DIR}=build>)
 target_compile_definitions(trel_strict INTERFACE
   QT_NO_CAST_FROM_ASCII
   QT_NO_CAST_TO_ASCII
@@ -94,6 +97,14 @@ function(trel_test_environment name)
     # A minute here is many under the sanitizers on a busy machine.
     TIMEOUT 900
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=Europe/Berlin")
+endfunction()
+
+# trel_threads(<Name>...)
+#
+# These classes of tests, of the same folder, have more than one thread at work: scripts/races runs them
+# under the thread sanitizer.
+function(trel_threads)
+  set_tests_properties(${ARGN} PROPERTIES LABELS threads)
 endfunction()
 
 # trel_test_executable(<target> SOURCES ... LINK ... PRECOMPILE ...)

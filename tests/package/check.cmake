@@ -63,7 +63,7 @@ execute_process(
   OUTPUT_VARIABLE told OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 separate_arguments(told UNIX_COMMAND "${told}")
 separate_arguments(flags UNIX_COMMAND "${FLAGS}")
-run(${COMPILER} -std=c++17 ${flags} ${EXAMPLE}/main.cpp -o ${WORK}/told-host ${told}
+run(${COMPILER} -std=c++17 -fPIC ${flags} ${EXAMPLE}/main.cpp -o ${WORK}/told-host ${told}
   -Wl,-rpath,${WORK}/installed/${LIBDIR})
 run(${WORK}/told-host STATUS 2 OUTPUT "Usage: minimal-host")
 
