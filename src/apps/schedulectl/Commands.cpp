@@ -5,11 +5,25 @@ namespace trel::console {
 const std::vector<Command>& allCommands()
 {
     static const std::vector<Command> commands = {
-        importCommand(),          programsCommand(),      removeProgramCommand(), showCommand(),
-        checkCommand(),           nowCommand(),           timelineCommand(),      whyCommand(),
-        effectCommand(),          startCommand(),         stopCommand(),          insertCommand(),
-        cancelInsertionCommand(), runCommand(),           screensCommand(),       exportCommand(),
-        importScheduleCommand(),  checkLanguageCommand(),
+        importCommand(),
+        programsCommand(),
+        removeProgramCommand(),
+        showCommand(),
+        checkCommand(),
+        nowCommand(),
+        timelineCommand(),
+        whyCommand(),
+        effectCommand(),
+        startCommand(),
+        stopCommand(),
+        insertCommand(),
+        cancelInsertionCommand(),
+        runCommand(),
+        screensCommand(),
+        asRunCommand(),
+        exportCommand(),
+        importScheduleCommand(),
+        checkLanguageCommand(),
     };
     return commands;
 }

@@ -23,6 +23,7 @@ Command insertCommand();
 Command cancelInsertionCommand();
 Command runCommand();
 Command screensCommand();
+Command asRunCommand();
 Command exportCommand();
 Command importScheduleCommand();
 Command checkLanguageCommand();

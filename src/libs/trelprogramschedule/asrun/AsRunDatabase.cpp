@@ -2,6 +2,7 @@
 
 #include "AsRunContents.h"
 #include "AsRunHash.h"
+#include "AsRunRetention.h"
 #include "AsRunRows.h"
 #include "AsRunSchedule.h"
 #include "AsRunSchema.h"
@@ -310,29 +311,50 @@ StoreResult AsRunDatabase::numbersIn(const QString& screen, Instant from, Instan
     });
 }
 
-StoreResult AsRunDatabase::visit(const QString& screen, const AsRunNumbers& numbers,
-                                 const Visitor& visitor)
+StoreResult AsRunDatabase::readSome(const QString& screen, AsRunNumbers& numbers,
+                                    std::vector<AsRunRecord>& records)
 {
     if (!isOpen()) {
         return refusal(StoreProblem::NotOpen, QString());
     }
     return attempt(path(), [&] {
-        std::vector<AsRunRecord> records;
-        AsRunNumbers rest = numbers;
-        while (!rest.isEmpty()) {
-            StoreTransaction transaction(m_d->m_connection, StoreTransaction::Purpose::Read);
-            m_d->m_rows->read(m_d->screenId(screen), rest, kMostAtOnce, records);
-            transaction.commit();
-            for (const AsRunRecord& record : records) {
-                if (!visitor(record)) {
-                    return;
-                }
-            }
-            if (records.size() < kMostAtOnce) {
-                return;
-            }
-            rest.first = records.back().number + 1;
+        StoreTransaction transaction(m_d->m_connection, StoreTransaction::Purpose::Read);
+        m_d->m_rows->read(m_d->screenId(screen), numbers, kMostAtOnce, records);
+        transaction.commit();
+        numbers.first = records.size() < kMostAtOnce ? numbers.last + 1 : records.back().number + 1;
+    });
+}
+
+StoreResult AsRunDatabase::visit(const QString& screen, const AsRunNumbers& numbers,
+                                 const Visitor& visitor)
+{
+    std::vector<AsRunRecord> records;
+    AsRunNumbers rest = numbers;
+    while (!rest.isEmpty()) {
+        if (StoreResult result = readSome(screen, rest, records); !result) {
+            return result;
         }
+        for (const AsRunRecord& record : records) {
+            if (!visitor(record)) {
+                return {};
+            }
+        }
+    }
+    return {};
+}
+
+StoreResult AsRunDatabase::removeBefore(const QString& screen, Instant before, qint64& removed)
+{
+    removed = 0;
+    if (!isOpen()) {
+        return refusal(StoreProblem::NotOpen, QString());
+    }
+    return attempt(path(), [&] {
+        m_d->expectWritable();
+        StoreTransaction transaction(m_d->m_connection, StoreTransaction::Purpose::Write);
+        removed = AsRunRetention(m_d->m_connection, path())
+                      .removeBefore(m_d->screenId(screen), before, kMostAtOnce);
+        transaction.commit();
     });
 }
 

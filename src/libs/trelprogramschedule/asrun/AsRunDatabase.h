@@ -75,6 +75,16 @@ public:
     /// database is not locked while the visitor works, and takes a bounded amount of memory.
     StoreResult visit(const QString& screen, const AsRunNumbers& numbers, const Visitor& visitor);
 
+    /// The same step by step: reads the first of these records, some thousand at most, into the
+    /// place of others, and takes their numbers from those that are left. Empty when none is left.
+    StoreResult readSome(const QString& screen, AsRunNumbers& numbers,
+                         std::vector<AsRunRecord>& records);
+
+    /// Removes the oldest records of a screen that ended before a moment, some thousand at most, so
+    /// that players are not kept waiting; to be called until it removes none. The last of them
+    /// becomes the anchor of the chain. What was followed by none that are left goes too.
+    StoreResult removeBefore(const QString& screen, Instant before, qint64& removed);
+
     /// The contents of a schedule by their hash; empty where they are not there, or are not what
     /// the hash says.
     StoreResult readContents(const QByteArray& hash, QByteArray& contents);

@@ -1,0 +1,432 @@
+#include "CtlFixture.h"
+#include "support/TestProgram.h"
+#include "trelprogramschedule/asrun/AsRunDatabase.h"
+#include "trelprogramschedule/asrun/AsRunSchedule.h"
+#include "trelprogramschedule/dispatch/ScreenTimeline.h"
+
+#include <QDateTime>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QtTest>
+
+#include <sqlite3.h>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+const QString kHall = QStringLiteral("hall");
+
+/// 2024-01-03 08:00:00 in Berlin.
+constexpr Instant kStart = 1704265200000;
+
+/// Two programs of ten seconds each that take turns, and what a player has shown of them.
+class Fixture : public CtlFixture
+{
+public:
+    explicit Fixture(const std::string& name = "News")
+    {
+        m_schedule.zone = "Europe/Berlin";
+        m_schedule.start = EffectStart{kStart, 4, QStringLiteral("me@here")};
+        PlayPlan plan = timePlan(3, "08:00:00", "09:00:00", "1,2,3,4,5,6,7", 1);
+        plan.programs.push_back(plan.programs.front());
+        plan.programs.back().progIndex = 2;
+        m_schedule.tasks[1] = januaryTask(1, {plan});
+        for (const int index : {1, 2}) {
+            ProgramIten& program = m_schedule.catalogue[index];
+            program.progIndex = index;
+            program.progName = index == 1 ? name : "Weather";
+            program.durationMs = 10'000;
+            program.kind = ProgramKind::Video;
+        }
+        m_contents = asRunContents(m_schedule);
+        AsRunRecord taken;
+        taken.kind = AsRunKind::ScheduleTaken;
+        taken.revision = 4;
+        taken.schedule = asRunScheduleHash(m_contents);
+        taken.begins = taken.ends = kStart;
+        records.push_back(taken);
+        const ScreenTimeline timeline(m_schedule.tasks, m_schedule.catalogue,
+                                      QTimeZone("Europe/Berlin"));
+        timeline.visitPlays(kStart, kStart + 60'000, {}, [&](const ScreenState& state) {
+            add(state);
+            return true;
+        });
+    }
+
+    void hand(const QString& screen = kHall)
+    {
+        AsRunDatabase asRun;
+        QVERIFY(asRun.open(AsRunDatabase::pathFor(database()), StoreOpenMode::CreateIfMissing));
+        QVERIFY(asRun.append(screen, screen.toUtf8(), 1, records, {m_contents}));
+    }
+
+    void tamper(const char* statement) const
+    {
+        sqlite3* handle = nullptr;
+        const QString file = AsRunDatabase::pathFor(database());
+        QCOMPARE(sqlite3_open(file.toUtf8().constData(), &handle), SQLITE_OK);
+        QCOMPARE(sqlite3_exec(handle, statement, nullptr, nullptr, nullptr), SQLITE_OK);
+        sqlite3_close(handle);
+    }
+
+    CtlResult asRun(const QStringList& options = {}) const
+    {
+        return onDatabase(QStringList{QStringLiteral("as-run")} + options);
+    }
+
+    std::vector<AsRunRecord> records;
+
+private:
+    void add(const ScreenState& state)
+    {
+        AsRunRecord record;
+        record.revision = 4;
+        record.schedule = asRunScheduleHash(m_contents);
+        record.picture = state.picture;
+        record.taskId = state.taskId;
+        record.planId = state.planId;
+        record.planRow = state.planRow;
+        record.entry = state.entry;
+        record.play = state.play;
+        record.run = state.run;
+        record.progIndex = state.progIndex;
+        record.program = QString::fromStdString(m_schedule.catalogue.at(state.progIndex).progName);
+        record.plannedBegin = state.since;
+        record.plannedEnd = state.until;
+        record.begins = state.since;
+        record.ends = state.until;
+        records.push_back(record);
+    }
+
+    AsRunSchedule m_schedule;
+    QByteArray m_contents;
+};
+
+} // namespace
+
+/// What the players have had on screen, in the console.
+class tst_CtlAsRun : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aList();
+    void aListOfATimeAndAProgram();
+    void screensHaveAPartEach();
+    void forMachines();
+    void forSpreadsheets();
+    void noNameBecomesAFormula_data();
+    void noNameBecomesAFormula();
+    void namesDoNotReachTheTerminal();
+    void totals();
+    void verifiedAndWhole();
+    void tamperedWith();
+    void unexplained();
+    void oldOnesAreRemoved();
+    void nothingRecordedYet();
+    void misuse_data();
+    void misuse();
+};
+
+void tst_CtlAsRun::aList()
+{
+    Fixture fixture;
+    fixture.records[2].late = 120;
+    fixture.records[2].begins += 120;
+    fixture.records[1].ends += 120;
+    fixture.records[3].shown = AsRunShown::StandBy;
+    fixture.records[3].why = QStringLiteral("no such file");
+    fixture.records[4].kind = AsRunKind::Gap;
+    fixture.records[4].outcome = AsRunOutcome::PlayerWasKilled;
+    fixture.records[5].outcome = AsRunOutcome::CutByInsertion;
+    fixture.hand();
+    const CtlResult result = fixture.asRun();
+    QCOMPARE(result.status, 0);
+    QCOMPARE(
+        result.lines(),
+        (QStringList{
+            QStringLiteral("Screen \"hall\""),
+            QStringLiteral("From                     To                           Late  On screen"),
+            QStringLiteral(
+                "2024-01-03 08:00:00                                         follows what is "
+                "in effect, save 4"),
+            QStringLiteral(
+                "2024-01-03 08:00:00      08:00:10.120                       plays News"),
+            QStringLiteral(
+                "2024-01-03 08:00:10.120  08:00:20                   120 ms  plays Weather"),
+            QStringLiteral("2024-01-03 08:00:20      08:00:30                           stand-by "
+                           "picture for News (complete: no such file)"),
+            QStringLiteral("2024-01-03 08:00:30      08:00:40                           no player "
+                           "(the player had been killed)"),
+            QStringLiteral("2024-01-03 08:00:40      08:00:50                           plays News "
+                           "(cut off by an insertion)"),
+            QStringLiteral(
+                "2024-01-03 08:00:50      08:01:00                           plays Weather"),
+        }));
+}
+
+void tst_CtlAsRun::aListOfATimeAndAProgram()
+{
+    Fixture fixture;
+    fixture.hand();
+    const QStringList times = {QStringLiteral("--from"), QStringLiteral("2024-01-03 08:00:15"),
+                               QStringLiteral("--to"), QStringLiteral("2024-01-03 08:00:31")};
+    QCOMPARE(fixture.asRun(times).lines().size(), 2 + 3);
+    QCOMPARE(
+        fixture.asRun(times + QStringList{QStringLiteral("--program"), QStringLiteral("WEATH")})
+            .lines()
+            .size(),
+        2 + 2);
+    QCOMPARE(fixture.asRun(times + QStringList{QStringLiteral("--program"), QStringLiteral("1")})
+                 .lines()
+                 .size(),
+             2 + 1);
+    QCOMPARE(fixture.asRun({QStringLiteral("--from"), QStringLiteral("2025-01-01")}).lines(),
+             QStringList{QStringLiteral("There is no record of this time.")});
+}
+
+void tst_CtlAsRun::screensHaveAPartEach()
+{
+    Fixture fixture;
+    fixture.hand();
+    fixture.hand(QStringLiteral("bar"));
+    QCOMPARE(fixture.asRun().lines().size(), 2 * (2 + 7));
+    QCOMPARE(fixture.asRun({QStringLiteral("--screen"), QStringLiteral("bar")}).lines().size(),
+             2 + 7);
+    const CtlResult none = fixture.asRun({QStringLiteral("--screen"), QStringLiteral("roof")});
+    QCOMPARE(none.status, 1);
+    QVERIFY(none.err.contains(QStringLiteral("but of \"bar\", \"hall\".")));
+}
+
+void tst_CtlAsRun::forMachines()
+{
+    Fixture fixture;
+    fixture.records[2].why = QStringLiteral("odd \"one\"");
+    fixture.hand();
+    const QJsonArray list =
+        fixture.asRun({QStringLiteral("--json")}).json().value(QStringLiteral("records")).toArray();
+    QCOMPARE(list.size(), 7);
+    QCOMPARE(list[0].toObject().value(QStringLiteral("kind")).toString(),
+             QStringLiteral("scheduleTaken"));
+    const QJsonObject second = list[2].toObject();
+    QCOMPARE(second.value(QStringLiteral("screen")).toString(), kHall);
+    QCOMPARE(second.value(QStringLiteral("number")).toInt(), 3);
+    QCOMPARE(second.value(QStringLiteral("from")).toString(),
+             QStringLiteral("2024-01-03T08:00:10.000+01:00"));
+    QCOMPARE(second.value(QStringLiteral("entry")).toInt(), 2);
+    QCOMPARE(second.value(QStringLiteral("program")).toString(), QStringLiteral("Weather"));
+    QCOMPARE(second.value(QStringLiteral("why")).toString(), QStringLiteral("odd \"one\""));
+    QCOMPARE(second.value(QStringLiteral("hash")).toString().size(), 64);
+    QVERIFY(second.value(QStringLiteral("insertion")).isNull());
+    const QJsonObject none =
+        fixture
+            .asRun({QStringLiteral("--json"), QStringLiteral("--to"), QStringLiteral("2020-01-01")})
+            .json();
+    QVERIFY(none.value(QStringLiteral("records")).toArray().isEmpty());
+}
+
+void tst_CtlAsRun::forSpreadsheets()
+{
+    Fixture fixture;
+    fixture.records[1].program = QStringLiteral("News, \"late\"");
+    fixture.hand();
+    const QStringList lines = fixture.asRun({QStringLiteral("--csv")}).lines();
+    QCOMPARE(lines.size(), 1 + 7);
+    QVERIFY(lines[0].startsWith(QStringLiteral("screen,number,kind,from,to,lengthMs,program,")));
+    QVERIFY2(lines[2].startsWith(QStringLiteral(
+                 "hall,2,picture,2024-01-03T08:00:00.000+01:00,2024-01-03T08:00:10.000+01:00,"
+                 "10000,\"News, \"\"late\"\"\",1,playing,asPlanned,1,3,1,1,1,1,,4,")),
+             qPrintable(lines[2]));
+    QCOMPARE(lines[3].count(QLatin1Char(',')), lines[0].count(QLatin1Char(',')));
+}
+
+void tst_CtlAsRun::noNameBecomesAFormula_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("field");
+    QTest::newRow("equal") << QStringLiteral("=1+1") << QStringLiteral("'=1+1");
+    QTest::newRow("plus") << QStringLiteral("+1") << QStringLiteral("'+1");
+    QTest::newRow("minus") << QStringLiteral("-1") << QStringLiteral("'-1");
+    QTest::newRow("at") << QStringLiteral("@A1") << QStringLiteral("'@A1");
+    QTest::newRow("wide") << QStringLiteral("\uFF1D1") << QStringLiteral("'\uFF1D1");
+    QTest::newRow("blanks") << QStringLiteral(" =1") << QStringLiteral("' =1");
+    QTest::newRow("tab") << QStringLiteral("\t=1") << QStringLiteral("'\\t=1");
+    QTest::newRow("line") << QStringLiteral("a\n=1") << QStringLiteral("a\\n=1");
+    QTest::newRow("comma") << QStringLiteral("=1,2") << QStringLiteral("\"'=1,2\"");
+    QTest::newRow("plain") << QStringLiteral("a=1") << QStringLiteral("a=1");
+}
+
+void tst_CtlAsRun::noNameBecomesAFormula()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QString, field);
+    Fixture fixture;
+    fixture.records[1].program = name;
+    fixture.hand();
+    const QStringList list = fixture.asRun({QStringLiteral("--csv")}).lines();
+    QVERIFY2(list[2].contains(QStringLiteral(",10000,%1,1,playing,").arg(field)),
+             qPrintable(list[2]));
+    const QString sums =
+        fixture.asRun({QStringLiteral("--csv"), QStringLiteral("--totals")}).text();
+    QVERIFY(!sums.contains(QStringLiteral("\n=")) && !sums.contains(QStringLiteral(",=")));
+}
+
+void tst_CtlAsRun::namesDoNotReachTheTerminal()
+{
+    const std::string name = "\x1b[2Jbad\nScreen";
+    Fixture fixture(name);
+    fixture.records[1].why = QStringLiteral("\x1b]0;x\x07");
+    fixture.hand(QStringLiteral("ha\x1bll"));
+    for (const char* const option : {"", "--csv", "--json", "--totals", "--verify"}) {
+        const QStringList options =
+            *option == '\0' ? QStringList() : QStringList{QLatin1String(option)};
+        const CtlResult result = fixture.asRun(options);
+        QVERIFY(!result.out.contains('\x1b') && !result.out.contains('\x07'));
+    }
+    for (const QString& line : fixture.asRun().lines().mid(1)) {
+        QVERIFY(!line.startsWith(QStringLiteral("Screen")));
+    }
+}
+
+void tst_CtlAsRun::totals()
+{
+    Fixture fixture;
+    fixture.records[3].shown = AsRunShown::StandBy;
+    fixture.hand();
+    const CtlResult result = fixture.asRun({QStringLiteral("--totals")});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(
+        result.lines(),
+        (QStringList{
+            QStringLiteral("Screen \"hall\""),
+            QStringLiteral("Index  Planned   Length  Shown   Length  Replaced  No player  Program"),
+            QStringLiteral("    1        3  0:00:30      2  0:00:20   0:00:10    0:00:00  News"),
+            QStringLiteral("    2        3  0:00:30      3  0:00:30   0:00:00    0:00:00  Weather"),
+        }));
+    const QJsonArray sums = fixture.asRun({QStringLiteral("--totals"), QStringLiteral("--json")})
+                                .json()
+                                .value(QStringLiteral("totals"))
+                                .toArray();
+    QCOMPARE(sums.size(), 2);
+    QCOMPARE(sums[0].toObject().value(QStringLiteral("shownMs")).toInt(), 20'000);
+    QCOMPARE(fixture
+                 .asRun({QStringLiteral("--totals"), QStringLiteral("--csv"),
+                         QStringLiteral("--program"), QStringLiteral("2")})
+                 .lines()
+                 .mid(1),
+             QStringList{QStringLiteral("hall,2,Weather,3,30000,3,30000,0,0")});
+}
+
+void tst_CtlAsRun::verifiedAndWhole()
+{
+    Fixture fixture;
+    fixture.hand();
+    const CtlResult result = fixture.asRun({QStringLiteral("--verify")});
+    QCOMPARE(result.status, 0);
+    const QStringList lines = result.lines();
+    QCOMPARE(lines.size(), 4);
+    QCOMPARE(lines[0], QStringLiteral("Screen \"hall\": 7 records."));
+    QVERIFY(lines[1].startsWith(QStringLiteral("The chain is whole. It ends with record 7, ")));
+    QCOMPARE(lines[2], QStringLiteral("On screen as planned 0:01:00, late 0:00:00, replaced "
+                                      "0:00:00, no player 0:00:00, unexplained 0:00:00."));
+    QCOMPARE(lines[3], QStringLiteral("Every deviation from the timeline is explained."));
+}
+
+void tst_CtlAsRun::tamperedWith()
+{
+    Fixture fixture;
+    fixture.hand();
+    fixture.tamper(
+        "UPDATE record SET late = 7 WHERE number = 3; DELETE FROM record WHERE number = 6");
+    const CtlResult result = fixture.asRun({QStringLiteral("--verify")});
+    QCOMPARE(result.status, 1);
+    QVERIFY(result.text().contains(
+        QStringLiteral("The chain is broken at 2 places.\n"
+                       "  Record 3, of 2024-01-03 08:00:10, was changed.\n"
+                       "  Record 6 is missing, near 2024-01-03 08:00:50.\n")));
+    QVERIFY(result.text().contains(
+        QStringLiteral("2024-01-03 08:00:40 to 08:00:50: no record says what was on screen.")));
+    const QJsonObject screen = fixture.asRun({QStringLiteral("--verify"), QStringLiteral("--json")})
+                                   .json()
+                                   .value(QStringLiteral("screens"))
+                                   .toArray()[0]
+                                   .toObject();
+    QCOMPARE(screen.value(QStringLiteral("good")).toBool(true), false);
+    QCOMPARE(screen.value(QStringLiteral("breakCount")).toInt(), 2);
+    QCOMPARE(screen.value(QStringLiteral("deviations")).toArray().size(), 1);
+}
+
+void tst_CtlAsRun::unexplained()
+{
+    Fixture fixture;
+    fixture.records[2].progIndex = 1;
+    fixture.records[2].program = QStringLiteral("News");
+    fixture.hand();
+    const CtlResult result = fixture.asRun({QStringLiteral("--verify")});
+    QCOMPARE(result.status, 1);
+    QVERIFY2(result.text().contains(QStringLiteral(
+                 "1 deviation from the timeline is not explained:\n"
+                 "  2024-01-03 08:00:10 to 08:00:20: the program planned is Weather, the one on "
+                 "screen News (record 3), and no record says why.\n")),
+             qPrintable(result.text()));
+}
+
+void tst_CtlAsRun::oldOnesAreRemoved()
+{
+    Fixture fixture;
+    const Instant now = QDateTime::currentMSecsSinceEpoch();
+    AsRunRecord recent = fixture.records.back();
+    recent.begins = now - 1000;
+    recent.ends = now;
+    fixture.records.push_back(recent);
+    fixture.hand();
+    const CtlResult result = fixture.asRun({QStringLiteral("--keep"), QStringLiteral("30")});
+    QCOMPARE(result.status, 0);
+    QVERIFY(
+        result.text().startsWith(QStringLiteral("7 records of the screen \"hall\" from before ")));
+    QCOMPARE(fixture.asRun().lines().size(), 2 + 1);
+    QVERIFY(fixture.asRun({QStringLiteral("--verify")})
+                .text()
+                .contains(QStringLiteral("The chain is whole.")));
+}
+
+void tst_CtlAsRun::nothingRecordedYet()
+{
+    Fixture fixture;
+    const CtlResult result = fixture.asRun();
+    QCOMPARE(result.status, 1);
+    QVERIFY(result.err.contains(QStringLiteral("A player makes it when it shows the schedule.")));
+    QVERIFY(fixture.files().isEmpty());
+}
+
+void tst_CtlAsRun::misuse_data()
+{
+    QTest::addColumn<QStringList>("options");
+    const auto add = [](const char* name, const char* options) {
+        QTest::newRow(name) << QString::fromLatin1(options).split(QLatin1Char(' '));
+    };
+    add("two", "--totals --verify");
+    add("forms", "--csv --json");
+    add("verify as csv", "--verify --csv");
+    add("verify one program", "--verify --program 1");
+    add("keep and from", "--keep 3 --from 2024-01-01");
+    add("keep none", "--keep 0");
+    add("keep words", "--keep all");
+    add("backwards", "--from 2024-01-02 --to 2024-01-01");
+    add("no moment", "--from yesterday");
+}
+
+void tst_CtlAsRun::misuse()
+{
+    QFETCH(const QStringList, options);
+    Fixture fixture;
+    fixture.hand();
+    const CtlResult result = fixture.asRun(options);
+    QCOMPARE(result.status, 2);
+    QVERIFY(result.out.isEmpty());
+    QVERIFY(!result.err.isEmpty());
+}
+
+TREL_TEST(tst_CtlAsRun, QCoreApplication)
+#include "tst_CtlAsRun.moc"
