@@ -46,8 +46,7 @@ public:
         taken.schedule = asRunScheduleHash(m_contents);
         taken.begins = taken.ends = kStart;
         records.push_back(taken);
-        const ScreenTimeline timeline(m_schedule.tasks, m_schedule.catalogue,
-                                      QTimeZone("Europe/Berlin"));
+        const ScreenTimeline timeline(m_schedule.tasks, m_schedule.catalogue, QTimeZone("Europe/Berlin"));
         timeline.visitPlays(kStart, kStart + 60'000, {}, [&](const ScreenState& state) {
             add(state);
             return true;
@@ -300,9 +299,12 @@ void tst_CtlAsRun::totals()
         result.lines(),
         (QStringList{
             QStringLiteral("Screen \"hall\""),
-            QStringLiteral("Index  Planned   Length  Shown   Length  Replaced  No player  Program"),
-            QStringLiteral("    1        3  0:00:30      2  0:00:20   0:00:10    0:00:00  News"),
-            QStringLiteral("    2        3  0:00:30      3  0:00:30   0:00:00    0:00:00  Weather"),
+            QStringLiteral("Index  Planned       Length  Shown       Length     Replaced    No "
+                           "player  Program"),
+            QStringLiteral(
+                "    1        3  0:00:30.000      2  0:00:20.000  0:00:10.000  0:00:00.000  News"),
+            QStringLiteral("    2        3  0:00:30.000      3  0:00:30.000  0:00:00.000  "
+                           "0:00:00.000  Weather"),
         }));
     const QJsonArray sums = fixture.asRun({QStringLiteral("--totals"), QStringLiteral("--json")})
                                 .json()
@@ -328,8 +330,9 @@ void tst_CtlAsRun::verifiedAndWhole()
     QCOMPARE(lines.size(), 4);
     QCOMPARE(lines[0], QStringLiteral("Screen \"hall\": 7 records."));
     QVERIFY(lines[1].startsWith(QStringLiteral("The chain is whole. It ends with record 7, ")));
-    QCOMPARE(lines[2], QStringLiteral("On screen as planned 0:01:00, late 0:00:00, replaced "
-                                      "0:00:00, no player 0:00:00, unexplained 0:00:00."));
+    QCOMPARE(lines[2],
+             QStringLiteral("On screen as planned 0:01:00.000, late 0:00:00.000, replaced "
+                            "0:00:00.000, no player 0:00:00.000, unexplained 0:00:00.000."));
     QCOMPARE(lines[3], QStringLiteral("Every deviation from the timeline is explained."));
 }
 
