@@ -66,6 +66,7 @@ std::int64_t hashPlainly(const std::string& path)
     const auto isWord = [](int column) {
         return column == 4 || column == 14 || column == 21 || column == 25;
     };
+    QCryptographicHash hash(QCryptographicHash::Sha256);
     QByteArray bytes;
     QByteArray before(32, '\0');
     std::int64_t hashed = 0;
@@ -81,7 +82,7 @@ std::int64_t hashPlainly(const std::string& path)
                 put(bytes, value);
             }
         }
-        QCryptographicHash hash(QCryptographicHash::Sha256);
+        hash.reset();
         hash.addData(before);
         hash.addData(bytes);
         before = hash.result();

@@ -161,7 +161,7 @@ QString breakText(const AsRunBreak& place, const MomentFormat& local)
 {
     const QString moment = local.text(place.moment);
     const bool isOne = place.first == place.last;
-    const QString records = recordsText(place);
+    QString records = recordsText(place);
     switch (place.kind) {
     case AsRunBreak::Kind::Changed:
         return isOne ? QStringLiteral("%1, of %2, was changed.").arg(records, moment)
@@ -188,9 +188,8 @@ QString breakText(const AsRunBreak& place, const MomentFormat& local)
 
 QString deviationText(const AsRunDeviation& deviation, const MomentFormat& local)
 {
-    const QString time =
-        QStringLiteral("%1 to %2")
-            .arg(local.text(deviation.from), local.text(deviation.to, deviation.from));
+    QString time = QStringLiteral("%1 to %2")
+                       .arg(local.text(deviation.from), local.text(deviation.to, deviation.from));
     const QString planned = deviation.plannedProgram.isEmpty()
                                 ? QStringLiteral("none")
                                 : printable(deviation.plannedProgram);

@@ -13,7 +13,7 @@
 namespace trel::mediadispatch {
 
 /// A time in which neither what was planned nor what was on screen changes.
-struct AsRunStretch
+struct TRELPROGRAMSCHEDULE_EXPORT AsRunStretch
 {
     Instant from = 0;
     Instant to = 0;

@@ -46,7 +46,8 @@ public:
         taken.schedule = asRunScheduleHash(m_contents);
         taken.begins = taken.ends = kStart;
         records.push_back(taken);
-        const ScreenTimeline timeline(m_schedule.tasks, m_schedule.catalogue, QTimeZone("Europe/Berlin"));
+        const ScreenTimeline timeline(m_schedule.tasks, m_schedule.catalogue,
+                                      QTimeZone("Europe/Berlin"));
         timeline.visitPlays(kStart, kStart + 60'000, {}, [&](const ScreenState& state) {
             add(state);
             return true;

@@ -85,10 +85,10 @@ QString columns(const QString& number, const QString& screen = QStringLiteral("s
 }
 
 #define COMPARE_BREAK(FOUND, KIND, FIRST, LAST)                                                    \
-    QCOMPARE(FOUND.size(), std::size_t(1));                                                        \
-    QCOMPARE(static_cast<int>(FOUND[0].kind), static_cast<int>(KIND));                             \
-    QCOMPARE(FOUND[0].first, qint64(FIRST));                                                       \
-    QCOMPARE(FOUND[0].last, qint64(LAST))
+    QCOMPARE((FOUND).size(), std::size_t(1));                                                      \
+    QCOMPARE(static_cast<int>((FOUND)[0].kind), static_cast<int>(KIND));                           \
+    QCOMPARE((FOUND)[0].first, qint64(FIRST));                                                     \
+    QCOMPARE((FOUND)[0].last, qint64(LAST))
 
 } // namespace
 
