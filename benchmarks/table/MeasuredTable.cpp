@@ -13,8 +13,11 @@ namespace bench {
 
 namespace {
 
-constexpr char kStart[] = "<!-- table: start -->\n";
-constexpr char kEnd[] = "<!-- table: end -->\n";
+/// The marker line of a table: of the one without a name, or of another.
+std::string marker(const std::string& name, const char* end)
+{
+    return "<!-- table" + (name.empty() ? name : ' ' + name) + ": " + end + " -->\n";
+}
 
 enum Column { CaseColumn, SizeColumn, RatioColumn, TargetColumn, MetColumn, ColumnCount };
 using Cells = std::array<std::string, ColumnCount>;
@@ -160,14 +163,16 @@ std::string toMarkdown(const MeasuredTable& table, const std::string& machine)
     return text + '\n' + summary(table) + " Measured on " + machine + ".\n";
 }
 
-std::string withTable(const std::string& document, const std::string& markdown)
+std::string withTable(const std::string& document, const std::string& markdown,
+                      const std::string& name)
 {
-    const std::size_t start = document.find(kStart);
-    const std::size_t end = document.find(kEnd);
+    const std::string first = marker(name, "start");
+    const std::size_t start = document.find(first);
+    const std::size_t end = document.find(marker(name, "end"));
     if (start == std::string::npos || end == std::string::npos || end < start) {
         throw std::runtime_error("The document has no marker lines to put the table between.");
     }
-    return document.substr(0, start) + kStart + '\n' + markdown + '\n' + document.substr(end);
+    return document.substr(0, start) + first + '\n' + markdown + '\n' + document.substr(end);
 }
 
 } // namespace bench

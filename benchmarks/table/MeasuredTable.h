@@ -30,8 +30,10 @@ std::string toJson(const MeasuredTable& table);
 /// by most, and below it how many of all rows meet theirs, and on which machine.
 std::string toMarkdown(const MeasuredTable& table, const std::string& machine);
 
-/// The document with what stands between its two marker lines replaced. Throws std::runtime_error
-/// for a document without them.
-std::string withTable(const std::string& document, const std::string& markdown);
+/// The document with what stands between its two marker lines replaced; a document may have several
+/// tables, each but one with a name in its marker lines. Throws std::runtime_error for a document
+/// without them.
+std::string withTable(const std::string& document, const std::string& markdown,
+                      const std::string& name = {});
 
 } // namespace bench

@@ -1,4 +1,4 @@
-// bench_table [--json FILE] [--markdown DOCUMENT] RESULTS...
+// bench_table [--json FILE] [--markdown DOCUMENT [--table NAME]] RESULTS...
 //
 // Prints the one table of the results that the benchmark programs have written, and puts it into a
 // JSON file and between the marker lines of a document where that is asked for.
@@ -38,12 +38,15 @@ void run(int argc, char** argv)
     bench::MeasuredTable table;
     std::string json;
     std::string document;
+    std::string name;
     for (int i = 1; i < argc; ++i) {
         const std::string argument = argv[i];
         if (argument == "--json" && i + 1 < argc) {
             json = argv[++i];
         } else if (argument == "--markdown" && i + 1 < argc) {
             document = argv[++i];
+        } else if (argument == "--table" && i + 1 < argc) {
+            name = argv[++i];
         } else {
             const bench::MeasuredTable part = bench::readResults(readFile(argument));
             table.insert(table.end(), part.begin(), part.end());
@@ -55,7 +58,7 @@ void run(int argc, char** argv)
     }
     if (!document.empty()) {
         const std::string markdown = bench::toMarkdown(table, bench::machineText());
-        writeFile(document, bench::withTable(readFile(document), markdown));
+        writeFile(document, bench::withTable(readFile(document), markdown, name));
     }
 }
 

@@ -44,6 +44,7 @@ private slots:
     void writesARowACase();
     void meetsATargetThatItReaches();
     void replacesTheTableOfADocument();
+    void replacesTheTableOfAName();
     void tellsOfEachCaseWhereItIsNearestToItsTarget();
     void refusesADocumentWithoutMarkers();
 };
@@ -134,6 +135,17 @@ void TestMeasuredTable::replacesTheTableOfADocument()
         QString()};
     QCOMPARE(lines(once), expected);
     QCOMPARE(withTable(once, toMarkdown(kTable, "a machine")), once);
+}
+
+void TestMeasuredTable::replacesTheTableOfAName()
+{
+    const std::string first = "<!-- table: start -->\nold\n<!-- table: end -->\n";
+    const std::string second = "<!-- table b: start -->\nold\n<!-- table b: end -->\n";
+    QCOMPARE(withTable(first + second, "new\n", "b"),
+             first + "<!-- table b: start -->\n\nnew\n\n<!-- table b: end -->\n");
+    QCOMPARE(withTable(first + second, "new\n"),
+             "<!-- table: start -->\n\nnew\n\n<!-- table: end -->\n" + second);
+    QVERIFY_EXCEPTION_THROWN(withTable(first + second, "new\n", "c"), std::runtime_error);
 }
 
 void TestMeasuredTable::tellsOfEachCaseWhereItIsNearestToItsTarget()
