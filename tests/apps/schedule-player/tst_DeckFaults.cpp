@@ -2,6 +2,7 @@
 #include "support/MediaFiles.h"
 #include "support/TestProgram.h"
 
+#include <QDataStream>
 #include <QFile>
 #include <QGuiApplication>
 
@@ -14,6 +15,53 @@ using trel::screen::DeckTrouble;
 
 Q_DECLARE_METATYPE(trel::mediadispatch::ProgramKind)
 Q_DECLARE_METATYPE(trel::screen::DeckTrouble)
+
+namespace {
+
+QByteArray chunk(const char* name, const QByteArray& content)
+{
+    QByteArray bytes(name, 4);
+    QDataStream out(&bytes, QIODevice::Append);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out << quint32(content.size());
+    return bytes + content;
+}
+
+QByteArray list(const char* name, const QByteArray& content)
+{
+    return chunk("LIST", QByteArray(name, 4) + content);
+}
+
+QByteArray numbers(const std::vector<quint32>& values)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    out.setByteOrder(QDataStream::LittleEndian);
+    for (const quint32 value : values) {
+        out << value;
+    }
+    return bytes;
+}
+
+/// A film of any size in a few bytes: its pictures end before their first dot, and are black.
+QByteArray emptyFilm(int width, int height)
+{
+    const auto wide = static_cast<quint32>(width);
+    const auto high = static_cast<quint32>(height);
+    const QByteArray avih = numbers({40000, 0, 0, 0, 3, 0, 1, 0, wide, high, 0, 0, 0, 0});
+    const QByteArray strh = QByteArray("vidsmrle") + numbers({0, 0, 0, 1, 25, 0, 3, 0, 0, 0, 0, 0});
+    const quint32 oneLayerOfBytes = 1 + (8 << 16);
+    const QByteArray strf =
+        numbers({40, wide, high, oneLayerOfBytes, 1, 0, 0, 0, 256, 0}) + QByteArray(1024, '\0');
+    const QByteArray picture = chunk("00dc", QByteArray("\0\1", 2));
+    const QByteArray film =
+        list("hdrl",
+             chunk("avih", avih) + list("strl", chunk("strh", strh) + chunk("strf", strf))) +
+        list("movi", picture + picture + picture);
+    return chunk("RIFF", "AVI " + film);
+}
+
+} // namespace
 
 /// What a deck says of a program that cannot be played, and what is on screen meanwhile.
 class tst_DeckFaults : public QObject
@@ -275,9 +323,8 @@ void tst_DeckFaults::decodesNoPictureThatIsTooLarge_data()
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("height");
     QTest::addColumn<bool>("isTooLarge");
-    QTest::newRow("as it is") << 8192 << 4096 << false;
+    QTest::newRow("large") << 4096 << 2160 << false;
     QTest::newRow("too large") << 16384 << 8208 << true;
-    QTest::newRow("largest that can be said") << 65000 << 65000 << true;
 }
 
 void tst_DeckFaults::decodesNoPictureThatIsTooLarge()
@@ -285,25 +332,7 @@ void tst_DeckFaults::decodesNoPictureThatIsTooLarge()
     QFETCH(const int, width);
     QFETCH(const int, height);
     QFETCH(const bool, isTooLarge);
-    media::ClipOrder order;
-    order.frames = 1;
-    order.size = QSize(8192, 4096);
-    order.pictureCoder = QStringLiteral("mjpeg");
-    QVERIFY(media::makeClip(file("large.avi"), order));
-    // Each picture claims to be of that size.
-    QByteArray film = contentOf("large.avi");
-    const QByteArray mark("\xff\xc0\x00\x11\x08", 5);
-    int pictures = 0;
-    for (int at = film.indexOf(mark); at >= 0; at = film.indexOf(mark, at + 1)) {
-        const int place = at + mark.size();
-        film[place] = static_cast<char>(height >> 8);
-        film[place + 1] = static_cast<char>(height & 0xff);
-        film[place + 2] = static_cast<char>(width >> 8);
-        film[place + 3] = static_cast<char>(width & 0xff);
-        ++pictures;
-    }
-    QCOMPARE(pictures, 1);
-    QVERIFY(write("claims.avi", film));
+    QVERIFY(write("claims.avi", emptyFilm(width, height)));
     DeckFixture screen;
     QSignalSpy failed(&screen.first, &PlayerDeck::failed);
     screen.first.load(filmOf(file("claims.avi")));

@@ -3,6 +3,8 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
+
 using trel::player::PlayerDeck;
 using trel::screen::DeckLoad;
 
@@ -34,6 +36,8 @@ private slots:
     void changesDecksWithoutAForeignPicture();
     void forgetsWhatItHad();
     void tellsNothingOfAReplacedLoad();
+    void drawsEveryDotOpaque();
+    void tellsHowLongAPictureStands();
 
 private:
     QString file(const char* name) const { return m_folder.filePath(QLatin1String(name)); }
@@ -326,6 +330,40 @@ void tst_DeckPlaying::tellsNothingOfAReplacedLoad()
     QCOMPARE(failed.count(), 0);
     for (const RecordedFrame& frame : screen.record.frames()) {
         QVERIFY(frame.content == RecordedFrame::Content::Black || frame.mark.program == 1);
+    }
+}
+
+/// A compositor may heed what a picture without transparency is said not to have.
+void tst_DeckPlaying::drawsEveryDotOpaque()
+{
+    DeckFixture screen;
+    screen.show(screen.first);
+    screen.first.load(filmOf(file("one.mp4")));
+    QTRY_VERIFY(screen.first.isReady());
+    const QImage picture = screen.record.lastPicture();
+    QCOMPARE(picture.format(), QImage::Format_RGB32);
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto* dots = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        QVERIFY(
+            std::all_of(dots, dots + picture.width(), [](QRgb dot) { return qAlpha(dot) == 255; }));
+    }
+}
+
+void tst_DeckPlaying::tellsHowLongAPictureStands()
+{
+    media::ClipOrder order;
+    order.framesPerSecond = 10;
+    QVERIFY(media::makeClip(file("slow.mp4"), order));
+    QVERIFY(media::makeTone(file("tone.wav"), 500, QStringLiteral("pcm_s16le")));
+    DeckFixture screen;
+    for (const auto& [name, length] : {std::pair("slow.mp4", std::optional<qint64>(100)),
+                                       std::pair("one.mp4", std::optional<qint64>(40)),
+                                       std::pair("tone.wav", std::optional<qint64>())}) {
+        screen.first.load({file(name), name[0] == 't' ? trel::mediadispatch::ProgramKind::Audio
+                                                      : trel::mediadispatch::ProgramKind::Video});
+        QVERIFY(!screen.first.pictureLength());
+        QTRY_VERIFY(screen.first.isReady());
+        QCOMPARE(screen.first.pictureLength(), length);
     }
 }
 

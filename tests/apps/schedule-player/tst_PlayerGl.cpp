@@ -5,6 +5,7 @@
 #include "window/GlWindow.h"
 
 #include <QGuiApplication>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
@@ -180,6 +181,11 @@ void tst_PlayerGl::goesOnInMemoryWhereTheWindowIsLost()
     QTRY_VERIFY(screen.firstDeck().isReady());
     show(screen, screen.firstDeck());
     QCOMPARE(record.last().mark, (media::ClipMark{1, 25}));
+    const auto inTheWindow = [&screen] {
+        const QWindow& raster = screen.window();
+        return media::readClipMark(raster.screen()->grabWindow(raster.winId()).toImage());
+    };
+    QTRY_COMPARE(inTheWindow(), std::optional(media::ClipMark{1, 25}));
     screen.firstDeck().play();
     QTRY_VERIFY(record.last().mark.frame > 30);
     QCOMPARE(failed.count(), 1);

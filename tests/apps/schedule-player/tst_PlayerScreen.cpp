@@ -46,6 +46,7 @@ private slots:
     void fillsTheFirstMonitorWhereItsOwnIsMissing();
     void takesAStandByPictureThatComesLater();
     void tellsWhatItsDecksLoad();
+    void putsThePictureIntoItsWindow();
 };
 
 void tst_PlayerScreen::isABlackWindowWithoutAPointer()
@@ -133,6 +134,25 @@ void tst_PlayerScreen::tellsWhatItsDecksLoad()
     screen.firstDeck().clear();
     QCOMPARE(told, QStringList({QStringLiteral("0 /a.mp4"), QStringLiteral("1 /b.png"),
                                 QStringLiteral("0 ")}));
+}
+
+void tst_PlayerScreen::putsThePictureIntoItsWindow()
+{
+    PlayerScreen screen(inAWindow());
+    QVERIFY(QTest::qWaitForWindowExposed(&windowOf(screen)));
+    const auto shown = [&screen](const QRectF& part) {
+        const QWindow& window = screen.window();
+        return media::readClipMark(window.screen()->grabWindow(window.winId()).toImage(), part);
+    };
+    screen.setStandBy(media::clipPicture({7, 77}, QSize(320, 180)));
+    trel::screen::StagePicture standBy;
+    standBy.kind = trel::screen::StagePicture::Kind::StandBy;
+    screen.stage().show(standBy);
+    QCOMPARE(shown(QRectF(0, 37, 400, 225)), std::optional(media::ClipMark{7, 77}));
+    windowOf(screen).resize(640, 360);
+    QTRY_COMPARE(shown(QRectF(0, 0, 640, 360)), std::optional(media::ClipMark{7, 77}));
+    screen.stage().show({});
+    QVERIFY(!shown(QRectF(0, 0, 640, 360)));
 }
 
 TREL_TEST(tst_PlayerScreen, QGuiApplication)

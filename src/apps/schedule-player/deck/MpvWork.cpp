@@ -256,8 +256,6 @@ void MpvWork::handleProperty(std::uint64_t observed, const mpv_event_property& p
 
 void MpvWork::handleLog(const mpv_event_log_message& message)
 {
-    if (qEnvironmentVariableIsSet("DBGLOG"))
-        fprintf(stderr, "%s: %s", message.prefix, message.text);
     m_lastLog = QByteArray(message.prefix) + ": " + message.text;
     // The command itself is done by then, as the library seeks some time after it.
     if (isSeeking() && m_lastLog.startsWith("cplayer: Cannot seek")) {

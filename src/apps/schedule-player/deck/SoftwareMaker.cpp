@@ -24,7 +24,8 @@ DeckPicture SoftwareMaker::draw(mpv_render_context* renderer, const QSize& room,
     }
     int size[] = {picture.width(), picture.height()};
     auto stride = static_cast<std::size_t>(picture.bytesPerLine());
-    char format[] = "bgr0";
+    // With every dot opaque, as a Wayland compositor heeds it: what only fills up is left at zero.
+    char format[] = "bgra";
     int waits = 0;
     mpv_render_param params[] = {{MPV_RENDER_PARAM_SW_SIZE, size},
                                  {MPV_RENDER_PARAM_SW_FORMAT, format},
