@@ -8,7 +8,7 @@
 #include <sys/prctl.h>
 #include <sys/resource.h>
 
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(TREL_ADDRESS_SANITIZER)
 #define READER_IS_SANITIZED
 #endif
 

@@ -101,7 +101,7 @@ void tst_ReopenedEditor::isAsLargeAsBefore_data()
 
 void tst_ReopenedEditor::isAsLargeAsBefore()
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TREL_ADDRESS_SANITIZER
     QSKIP("What is freed stays with the sanitizer for a while.");
 #endif
     if (bytesInUse() == 0.0) {

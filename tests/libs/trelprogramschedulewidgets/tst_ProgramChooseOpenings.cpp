@@ -82,7 +82,7 @@ void tst_ProgramChooseOpenings::noWindowStays()
 
 void tst_ProgramChooseOpenings::theProcessDoesNotGrow()
 {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TREL_ADDRESS_SANITIZER
     QSKIP("What is freed stays with the sanitizer for a while.");
 #endif
     ChooserFixture fixture;
