@@ -106,11 +106,14 @@ private:
         if (end.status == 0 && found != m_after) {
             complain(QStringLiteral("it had ended, and the contents are not the new ones"));
         }
-        // A program that is removed is not there to be removed once more.
-        const bool isRepeatable =
-            found == m_before || m_command.words.first() != QLatin1String("remove-program");
+        // A program that is removed is not there to be removed once more, and a second insertion
+        // ends the first.
+        const QString& word = m_command.words.first();
+        const bool mayBeRefused = found != m_before && word == QLatin1String("remove-program");
+        const bool isOther = found != m_before && word == QLatin1String("insert");
         const ProcessEnd again = run(passAll);
-        if (isRepeatable && (again.status != 0 || m_folder.contents(m_command) != m_after)) {
+        const QByteArray after = m_folder.contents(m_command);
+        if (!mayBeRefused && (again.status != 0 || (!isOther && after != m_after))) {
             complain(QStringLiteral("the command does not work afterwards: %1")
                          .arg(QString::fromUtf8(again.errors)));
         }
