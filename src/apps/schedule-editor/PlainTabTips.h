@@ -6,8 +6,8 @@ class QMainWindow;
 
 namespace trel::desktop {
 
-/// Shows the tool tips of the tabs of stacked panels to the letter: the toolkit takes the title of a
-/// panel for its tip, and a tip that looks like markup for markup.
+/// Shows the tool tips of the tabs of stacked panels to the letter: the toolkit takes the title of
+/// a panel for its tip, and a tip that looks like markup for markup.
 class PlainTabTips : public QObject
 {
     Q_OBJECT

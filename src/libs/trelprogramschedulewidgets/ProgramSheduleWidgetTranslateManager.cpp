@@ -49,7 +49,7 @@ QString ProgramSheduleWidgetTranslateManager::languageFolder()
     const QString own = ownFolder();
     // From where libraries are installed, and from where they and programs are built.
     for (const char* way : {LANGUAGES_FROM_LIBRARY, "../" LANGUAGES_FROM_PREFIX}) {
-        const QString folder = QDir::cleanPath(own + QLatin1Char('/') + QLatin1String(way));
+        QString folder = QDir::cleanPath(own + QLatin1Char('/') + QLatin1String(way));
         if (!own.isEmpty() && QFileInfo(folder).isDir()) {
             return folder;
         }
