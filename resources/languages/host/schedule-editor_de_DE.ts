@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>&amp;As-run of a day…</source>
+        <translation>&amp;Sendeprotokoll eines Tages…</translation>
+    </message>
+    <message>
         <source>&amp;Schedule</source>
         <translation>&amp;Wiedergabeplan</translation>
     </message>
@@ -1314,6 +1318,179 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>What is in effect could not be changed. %1</source>
         <translation>Was in Kraft ist, konnte nicht geändert werden. %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunWindow</name>
+    <message>
+        <source>As-run</source>
+        <translation>Sendeprotokoll</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Previous day</source>
+        <translation>Voriger Tag</translation>
+    </message>
+    <message>
+        <source>Next day</source>
+        <translation>Nächster Tag</translation>
+    </message>
+    <message>
+        <source>Only what was not as planned</source>
+        <translation>Nur Abweichungen</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunModel</name>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>Geplant</translation>
+    </message>
+    <message>
+        <source>On screen</source>
+        <translation>Auf dem Bildschirm</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Anmerkung</translation>
+    </message>
+</context>
+<context>
+    <name>AsRunText</name>
+    <message>
+        <source>Not known</source>
+        <translation>Nicht bekannt</translation>
+    </message>
+    <message>
+        <source>No record</source>
+        <translation>Keine Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>No player</source>
+        <translation>Kein Player</translation>
+    </message>
+    <message>
+        <source>Stand-by picture</source>
+        <translation>Ersatzbild</translation>
+    </message>
+    <message>
+        <source>Last good frame of %1</source>
+        <translation>Letztes gutes Bild von %1</translation>
+    </message>
+    <message>
+        <source>What was on before</source>
+        <translation>Was vorher lief</translation>
+    </message>
+    <message>
+        <source>Cut off: the schedule was stopped</source>
+        <translation>Unterbrochen: Wiedergabeplan beendet</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was ended</source>
+        <translation>Unterbrochen: Player beendet</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was killed</source>
+        <translation>Unterbrochen: Player abgebrochen</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Cut off: the clock was changed</source>
+        <translation>Unterbrochen: Uhr verstellt</translation>
+    </message>
+    <message>
+        <source>The player had been ended</source>
+        <translation>Der Player war beendet</translation>
+    </message>
+    <message>
+        <source>The player had been killed</source>
+        <translation>Der Player war abgebrochen</translation>
+    </message>
+    <message>
+        <source>The machine had stopped</source>
+        <translation>Der Rechner war aus</translation>
+    </message>
+    <message>
+        <source>The player had no schedule yet</source>
+        <translation>Der Player hatte noch keinen Wiedergabeplan</translation>
+    </message>
+    <message>
+        <source>The machine was asleep</source>
+        <translation>Der Rechner schlief</translation>
+    </message>
+    <message>
+        <source>The records could not be kept</source>
+        <translation>Das Protokoll konnte nicht geführt werden</translation>
+    </message>
+    <message>
+        <source>Recorded until %1.</source>
+        <translation>Protokolliert bis %1.</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 lines of the day are shown.</source>
+        <translation>Nur die ersten %L1 Zeilen des Tages werden gezeigt.</translation>
+    </message>
+    <message>
+        <source>No record tells why</source>
+        <translation>Keine Aufzeichnung sagt, warum</translation>
+    </message>
+    <message>
+        <source>%1 s late</source>
+        <translation>%1 s zu spät</translation>
+    </message>
+    <message>
+        <source>The records cannot be read: %1</source>
+        <translation>Das Protokoll kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>No player has recorded anything for this database.</source>
+        <translation>Zu dieser Datenbank hat noch kein Player etwas protokolliert.</translation>
+    </message>
+    <message>
+        <source>The records were changed, or some are missing. “schedulectl as-run --verify” names the place.</source>
+        <translation>Das Protokoll wurde verändert oder ist lückenhaft. „schedulectl as-run --verify“ nennt die Stelle.</translation>
+    </message>
+    <message>
+        <source>Not as planned, and no record tells why: %1</source>
+        <translation>Abweichungen, die keine Aufzeichnung erklärt: %1</translation>
+    </message>
+    <message>
+        <source>There is no record of this day.</source>
+        <translation>Zu diesem Tag gibt es keine Aufzeichnung.</translation>
+    </message>
+    <message>
+        <source>The screen was as planned, or a record tells why not.</source>
+        <translation>Der Bildschirm zeigte das Geplante, oder eine Aufzeichnung sagt, warum nicht.</translation>
+    </message>
+    <message>
+        <source>Cut off: something was cut in</source>
+        <translation>Unterbrochen: etwas wurde eingespielt</translation>
+    </message>
+    <message>
+        <source>Cut off: another schedule came</source>
+        <translation>Unterbrochen: anderer Wiedergabeplan</translation>
     </message>
 </context>
 </TS>

@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>&amp;As-run of a day…</source>
+        <translation>&amp;Registro de emisión de un día…</translation>
+    </message>
+    <message>
         <source>&amp;Schedule</source>
         <translation>Pro&amp;gramación</translation>
     </message>
@@ -1314,6 +1318,179 @@ What do you want to do with your changes?</source>
     <message>
         <source>What is in effect could not be changed. %1</source>
         <translation>No se pudo cambiar lo que está en vigor. %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunWindow</name>
+    <message>
+        <source>As-run</source>
+        <translation>Registro de emisión</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Pantalla</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Día</translation>
+    </message>
+    <message>
+        <source>Previous day</source>
+        <translation>Día anterior</translation>
+    </message>
+    <message>
+        <source>Next day</source>
+        <translation>Día siguiente</translation>
+    </message>
+    <message>
+        <source>Only what was not as planned</source>
+        <translation>Solo lo distinto de lo previsto</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Leyendo…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunModel</name>
+    <message>
+        <source>From</source>
+        <translation>Desde</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Hasta</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>Previsto</translation>
+    </message>
+    <message>
+        <source>On screen</source>
+        <translation>En pantalla</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Observación</translation>
+    </message>
+</context>
+<context>
+    <name>AsRunText</name>
+    <message>
+        <source>Not known</source>
+        <translation>No se conoce</translation>
+    </message>
+    <message>
+        <source>No record</source>
+        <translation>Sin registro</translation>
+    </message>
+    <message>
+        <source>No player</source>
+        <translation>Sin reproductor</translation>
+    </message>
+    <message>
+        <source>Stand-by picture</source>
+        <translation>Imagen de espera</translation>
+    </message>
+    <message>
+        <source>Last good frame of %1</source>
+        <translation>Último fotograma bueno de %1</translation>
+    </message>
+    <message>
+        <source>What was on before</source>
+        <translation>Lo que había antes</translation>
+    </message>
+    <message>
+        <source>Cut off: the schedule was stopped</source>
+        <translation>Cortado: se detuvo la programación</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was ended</source>
+        <translation>Cortado: se cerró el reproductor</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was killed</source>
+        <translation>Cortado: el reproductor se interrumpió</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Falló</translation>
+    </message>
+    <message>
+        <source>Cut off: the clock was changed</source>
+        <translation>Cortado: se cambió el reloj</translation>
+    </message>
+    <message>
+        <source>The player had been ended</source>
+        <translation>El reproductor estaba cerrado</translation>
+    </message>
+    <message>
+        <source>The player had been killed</source>
+        <translation>El reproductor se había interrumpido</translation>
+    </message>
+    <message>
+        <source>The machine had stopped</source>
+        <translation>El equipo estaba parado</translation>
+    </message>
+    <message>
+        <source>The player had no schedule yet</source>
+        <translation>El reproductor aún no tenía programación</translation>
+    </message>
+    <message>
+        <source>The machine was asleep</source>
+        <translation>El equipo estaba suspendido</translation>
+    </message>
+    <message>
+        <source>The records could not be kept</source>
+        <translation>No se pudo llevar el registro</translation>
+    </message>
+    <message>
+        <source>Recorded until %1.</source>
+        <translation>Registrado hasta las %1.</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 lines of the day are shown.</source>
+        <translation>Solo se muestran las primeras %L1 líneas del día.</translation>
+    </message>
+    <message>
+        <source>No record tells why</source>
+        <translation>Ningún registro dice por qué</translation>
+    </message>
+    <message>
+        <source>%1 s late</source>
+        <translation>%1 s de retraso</translation>
+    </message>
+    <message>
+        <source>The records cannot be read: %1</source>
+        <translation>No se puede leer el registro: %1</translation>
+    </message>
+    <message>
+        <source>No player has recorded anything for this database.</source>
+        <translation>Ningún reproductor ha registrado nada para esta base de datos.</translation>
+    </message>
+    <message>
+        <source>The records were changed, or some are missing. “schedulectl as-run --verify” names the place.</source>
+        <translation>El registro fue modificado o está incompleto. «schedulectl as-run --verify» indica el lugar.</translation>
+    </message>
+    <message>
+        <source>Not as planned, and no record tells why: %1</source>
+        <translation>Distinto de lo previsto sin que un registro diga por qué: %1</translation>
+    </message>
+    <message>
+        <source>There is no record of this day.</source>
+        <translation>No hay ningún registro de este día.</translation>
+    </message>
+    <message>
+        <source>The screen was as planned, or a record tells why not.</source>
+        <translation>La pantalla mostró lo previsto, o un registro dice por qué no.</translation>
+    </message>
+    <message>
+        <source>Cut off: something was cut in</source>
+        <translation>Cortado: se insertó algo</translation>
+    </message>
+    <message>
+        <source>Cut off: another schedule came</source>
+        <translation>Cortado: otra programación</translation>
     </message>
 </context>
 </TS>

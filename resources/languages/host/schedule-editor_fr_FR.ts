@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>&amp;As-run of a day…</source>
+        <translation>&amp;Relevé de diffusion d’un jour…</translation>
+    </message>
+    <message>
         <source>&amp;Schedule</source>
         <translation>&amp;Programmation</translation>
     </message>
@@ -1314,6 +1318,179 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>What is in effect could not be changed. %1</source>
         <translation>Ce qui est en vigueur n’a pas pu être modifié. %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunWindow</name>
+    <message>
+        <source>As-run</source>
+        <translation>Relevé de diffusion</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Écran</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Jour</translation>
+    </message>
+    <message>
+        <source>Previous day</source>
+        <translation>Jour précédent</translation>
+    </message>
+    <message>
+        <source>Next day</source>
+        <translation>Jour suivant</translation>
+    </message>
+    <message>
+        <source>Only what was not as planned</source>
+        <translation>Seulement ce qui n’était pas prévu</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Chargement…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunModel</name>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>À</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>Prévu</translation>
+    </message>
+    <message>
+        <source>On screen</source>
+        <translation>À l’écran</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Remarque</translation>
+    </message>
+</context>
+<context>
+    <name>AsRunText</name>
+    <message>
+        <source>Not known</source>
+        <translation>Inconnu</translation>
+    </message>
+    <message>
+        <source>No record</source>
+        <translation>Aucune trace</translation>
+    </message>
+    <message>
+        <source>No player</source>
+        <translation>Aucun lecteur</translation>
+    </message>
+    <message>
+        <source>Stand-by picture</source>
+        <translation>Image d’attente</translation>
+    </message>
+    <message>
+        <source>Last good frame of %1</source>
+        <translation>Dernière bonne image de %1</translation>
+    </message>
+    <message>
+        <source>What was on before</source>
+        <translation>Ce qui précédait</translation>
+    </message>
+    <message>
+        <source>Cut off: the schedule was stopped</source>
+        <translation>Coupé : programmation arrêtée</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was ended</source>
+        <translation>Coupé : lecteur fermé</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was killed</source>
+        <translation>Coupé : lecteur interrompu</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <source>Cut off: the clock was changed</source>
+        <translation>Coupé : horloge modifiée</translation>
+    </message>
+    <message>
+        <source>The player had been ended</source>
+        <translation>Le lecteur était fermé</translation>
+    </message>
+    <message>
+        <source>The player had been killed</source>
+        <translation>Le lecteur avait été interrompu</translation>
+    </message>
+    <message>
+        <source>The machine had stopped</source>
+        <translation>La machine était arrêtée</translation>
+    </message>
+    <message>
+        <source>The player had no schedule yet</source>
+        <translation>Le lecteur n’avait pas encore de programmation</translation>
+    </message>
+    <message>
+        <source>The machine was asleep</source>
+        <translation>La machine était en veille</translation>
+    </message>
+    <message>
+        <source>The records could not be kept</source>
+        <translation>Le relevé n’a pas pu être tenu</translation>
+    </message>
+    <message>
+        <source>Recorded until %1.</source>
+        <translation>Consigné jusqu’à %1.</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 lines of the day are shown.</source>
+        <translation>Seules les %L1 premières lignes du jour sont affichées.</translation>
+    </message>
+    <message>
+        <source>No record tells why</source>
+        <translation>Aucune trace ne dit pourquoi</translation>
+    </message>
+    <message>
+        <source>%1 s late</source>
+        <translation>%1 s de retard</translation>
+    </message>
+    <message>
+        <source>The records cannot be read: %1</source>
+        <translation>Le relevé ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>No player has recorded anything for this database.</source>
+        <translation>Aucun lecteur n’a rien consigné pour cette base de données.</translation>
+    </message>
+    <message>
+        <source>The records were changed, or some are missing. “schedulectl as-run --verify” names the place.</source>
+        <translation>Le relevé a été modifié ou est incomplet. « schedulectl as-run --verify » indique l’endroit.</translation>
+    </message>
+    <message>
+        <source>Not as planned, and no record tells why: %1</source>
+        <translation>Différent de ce qui était prévu, sans trace qui dise pourquoi : %1</translation>
+    </message>
+    <message>
+        <source>There is no record of this day.</source>
+        <translation>Il n’y a aucune trace de ce jour.</translation>
+    </message>
+    <message>
+        <source>The screen was as planned, or a record tells why not.</source>
+        <translation>L’écran a montré ce qui était prévu, ou une trace dit pourquoi non.</translation>
+    </message>
+    <message>
+        <source>Cut off: something was cut in</source>
+        <translation>Coupé : quelque chose a été inséré</translation>
+    </message>
+    <message>
+        <source>Cut off: another schedule came</source>
+        <translation>Coupé : autre programmation</translation>
     </message>
 </context>
 </TS>

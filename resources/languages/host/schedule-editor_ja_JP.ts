@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>&amp;As-run of a day…</source>
+        <translation>一日の放送実績(&amp;A)…</translation>
+    </message>
+    <message>
         <source>&amp;Schedule</source>
         <translation>スケジュール(&amp;S)</translation>
     </message>
@@ -1292,6 +1296,179 @@ What do you want to do with your changes?</source>
     <message>
         <source>What is in effect could not be changed. %1</source>
         <translation>有効な内容を変更できませんでした。%1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunWindow</name>
+    <message>
+        <source>As-run</source>
+        <translation>放送実績</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>スクリーン</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>Previous day</source>
+        <translation>前の日</translation>
+    </message>
+    <message>
+        <source>Next day</source>
+        <translation>次の日</translation>
+    </message>
+    <message>
+        <source>Only what was not as planned</source>
+        <translation>予定どおりでないものだけ</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>読み込み中…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunModel</name>
+    <message>
+        <source>From</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>予定</translation>
+    </message>
+    <message>
+        <source>On screen</source>
+        <translation>表示内容</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>備考</translation>
+    </message>
+</context>
+<context>
+    <name>AsRunText</name>
+    <message>
+        <source>Not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>No record</source>
+        <translation>記録なし</translation>
+    </message>
+    <message>
+        <source>No player</source>
+        <translation>プレーヤーなし</translation>
+    </message>
+    <message>
+        <source>Stand-by picture</source>
+        <translation>待機画像</translation>
+    </message>
+    <message>
+        <source>Last good frame of %1</source>
+        <translation>%1 の最後の正常なフレーム</translation>
+    </message>
+    <message>
+        <source>What was on before</source>
+        <translation>直前の内容</translation>
+    </message>
+    <message>
+        <source>Cut off: the schedule was stopped</source>
+        <translation>中断：スケジュールが停止された</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was ended</source>
+        <translation>中断：プレーヤーが終了した</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was killed</source>
+        <translation>中断：プレーヤーが強制終了した</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Cut off: the clock was changed</source>
+        <translation>中断：時計が変更された</translation>
+    </message>
+    <message>
+        <source>The player had been ended</source>
+        <translation>プレーヤーは終了していた</translation>
+    </message>
+    <message>
+        <source>The player had been killed</source>
+        <translation>プレーヤーは強制終了していた</translation>
+    </message>
+    <message>
+        <source>The machine had stopped</source>
+        <translation>機器が停止していた</translation>
+    </message>
+    <message>
+        <source>The player had no schedule yet</source>
+        <translation>プレーヤーにはまだスケジュールがなかった</translation>
+    </message>
+    <message>
+        <source>The machine was asleep</source>
+        <translation>機器がスリープしていた</translation>
+    </message>
+    <message>
+        <source>The records could not be kept</source>
+        <translation>記録を保存できなかった</translation>
+    </message>
+    <message>
+        <source>Recorded until %1.</source>
+        <translation>%1 まで記録されています。</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 lines of the day are shown.</source>
+        <translation>この日の最初の %L1 行だけを表示しています。</translation>
+    </message>
+    <message>
+        <source>No record tells why</source>
+        <translation>理由の記録なし</translation>
+    </message>
+    <message>
+        <source>%1 s late</source>
+        <translation>%1 秒遅れ</translation>
+    </message>
+    <message>
+        <source>The records cannot be read: %1</source>
+        <translation>記録を読み込めません：%1</translation>
+    </message>
+    <message>
+        <source>No player has recorded anything for this database.</source>
+        <translation>このデータベースに対するプレーヤーの記録はありません。</translation>
+    </message>
+    <message>
+        <source>The records were changed, or some are missing. “schedulectl as-run --verify” names the place.</source>
+        <translation>記録が変更されたか、欠けています。場所は「schedulectl as-run --verify」でわかります。</translation>
+    </message>
+    <message>
+        <source>Not as planned, and no record tells why: %1</source>
+        <translation>予定どおりでなく、理由の記録がない箇所：%1</translation>
+    </message>
+    <message>
+        <source>There is no record of this day.</source>
+        <translation>この日の記録はありません。</translation>
+    </message>
+    <message>
+        <source>The screen was as planned, or a record tells why not.</source>
+        <translation>スクリーンは予定どおりか、違う理由が記録されています。</translation>
+    </message>
+    <message>
+        <source>Cut off: something was cut in</source>
+        <translation>中断：割り込みがあった</translation>
+    </message>
+    <message>
+        <source>Cut off: another schedule came</source>
+        <translation>中断：別のスケジュール</translation>
     </message>
 </context>
 </TS>

@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>&amp;As-run of a day…</source>
+        <translation>하루 송출 기록(&amp;A)…</translation>
+    </message>
+    <message>
         <source>&amp;Schedule</source>
         <translation>일정(&amp;S)</translation>
     </message>
@@ -1292,6 +1296,179 @@ What do you want to do with your changes?</source>
     <message>
         <source>What is in effect could not be changed. %1</source>
         <translation>적용 중인 내용을 변경하지 못했습니다. %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunWindow</name>
+    <message>
+        <source>As-run</source>
+        <translation>송출 기록</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>화면</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>날짜</translation>
+    </message>
+    <message>
+        <source>Previous day</source>
+        <translation>이전 날</translation>
+    </message>
+    <message>
+        <source>Next day</source>
+        <translation>다음 날</translation>
+    </message>
+    <message>
+        <source>Only what was not as planned</source>
+        <translation>예정과 다른 것만</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>읽는 중…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunModel</name>
+    <message>
+        <source>From</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>끝</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>예정</translation>
+    </message>
+    <message>
+        <source>On screen</source>
+        <translation>화면 내용</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>비고</translation>
+    </message>
+</context>
+<context>
+    <name>AsRunText</name>
+    <message>
+        <source>Not known</source>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
+        <source>No record</source>
+        <translation>기록 없음</translation>
+    </message>
+    <message>
+        <source>No player</source>
+        <translation>플레이어 없음</translation>
+    </message>
+    <message>
+        <source>Stand-by picture</source>
+        <translation>대기 화면</translation>
+    </message>
+    <message>
+        <source>Last good frame of %1</source>
+        <translation>%1의 마지막 정상 프레임</translation>
+    </message>
+    <message>
+        <source>What was on before</source>
+        <translation>직전 내용</translation>
+    </message>
+    <message>
+        <source>Cut off: the schedule was stopped</source>
+        <translation>중단됨: 일정이 중지됨</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was ended</source>
+        <translation>중단됨: 플레이어가 종료됨</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was killed</source>
+        <translation>중단됨: 플레이어가 강제 종료됨</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>Cut off: the clock was changed</source>
+        <translation>중단됨: 시계가 변경됨</translation>
+    </message>
+    <message>
+        <source>The player had been ended</source>
+        <translation>플레이어가 종료되어 있었음</translation>
+    </message>
+    <message>
+        <source>The player had been killed</source>
+        <translation>플레이어가 강제 종료되어 있었음</translation>
+    </message>
+    <message>
+        <source>The machine had stopped</source>
+        <translation>장비가 멈춰 있었음</translation>
+    </message>
+    <message>
+        <source>The player had no schedule yet</source>
+        <translation>플레이어에 아직 일정이 없었음</translation>
+    </message>
+    <message>
+        <source>The machine was asleep</source>
+        <translation>장비가 절전 상태였음</translation>
+    </message>
+    <message>
+        <source>The records could not be kept</source>
+        <translation>기록을 보관할 수 없었음</translation>
+    </message>
+    <message>
+        <source>Recorded until %1.</source>
+        <translation>%1까지 기록되었습니다.</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 lines of the day are shown.</source>
+        <translation>이 날의 처음 %L1줄만 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>No record tells why</source>
+        <translation>이유를 알리는 기록 없음</translation>
+    </message>
+    <message>
+        <source>%1 s late</source>
+        <translation>%1초 늦음</translation>
+    </message>
+    <message>
+        <source>The records cannot be read: %1</source>
+        <translation>기록을 읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>No player has recorded anything for this database.</source>
+        <translation>이 데이터베이스에 대한 플레이어 기록이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The records were changed, or some are missing. “schedulectl as-run --verify” names the place.</source>
+        <translation>기록이 변경되었거나 일부가 없습니다. “schedulectl as-run --verify”가 위치를 알려 줍니다.</translation>
+    </message>
+    <message>
+        <source>Not as planned, and no record tells why: %1</source>
+        <translation>예정과 다르며 이유를 알리는 기록이 없는 곳: %1</translation>
+    </message>
+    <message>
+        <source>There is no record of this day.</source>
+        <translation>이날의 기록이 없습니다.</translation>
+    </message>
+    <message>
+        <source>The screen was as planned, or a record tells why not.</source>
+        <translation>화면이 예정대로였거나, 아닌 이유가 기록되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>Cut off: something was cut in</source>
+        <translation>중단됨: 삽입이 있었음</translation>
+    </message>
+    <message>
+        <source>Cut off: another schedule came</source>
+        <translation>중단됨: 다른 일정</translation>
     </message>
 </context>
 </TS>

@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>&amp;As-run of a day…</source>
+        <translation>&amp;Registro de exibição de um dia…</translation>
+    </message>
+    <message>
         <source>&amp;Schedule</source>
         <translation>Pro&amp;gramação</translation>
     </message>
@@ -1314,6 +1318,179 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>What is in effect could not be changed. %1</source>
         <translation>Não foi possível alterar o que está em vigor. %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunWindow</name>
+    <message>
+        <source>As-run</source>
+        <translation>Registro de exibição</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Tela</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Dia</translation>
+    </message>
+    <message>
+        <source>Previous day</source>
+        <translation>Dia anterior</translation>
+    </message>
+    <message>
+        <source>Next day</source>
+        <translation>Próximo dia</translation>
+    </message>
+    <message>
+        <source>Only what was not as planned</source>
+        <translation>Somente o que não foi como planejado</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Lendo…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunModel</name>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Até</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>Planejado</translation>
+    </message>
+    <message>
+        <source>On screen</source>
+        <translation>Na tela</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Observação</translation>
+    </message>
+</context>
+<context>
+    <name>AsRunText</name>
+    <message>
+        <source>Not known</source>
+        <translation>Não se sabe</translation>
+    </message>
+    <message>
+        <source>No record</source>
+        <translation>Sem registro</translation>
+    </message>
+    <message>
+        <source>No player</source>
+        <translation>Sem player</translation>
+    </message>
+    <message>
+        <source>Stand-by picture</source>
+        <translation>Imagem de espera</translation>
+    </message>
+    <message>
+        <source>Last good frame of %1</source>
+        <translation>Último quadro bom de %1</translation>
+    </message>
+    <message>
+        <source>What was on before</source>
+        <translation>O que havia antes</translation>
+    </message>
+    <message>
+        <source>Cut off: the schedule was stopped</source>
+        <translation>Cortado: a programação foi parada</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was ended</source>
+        <translation>Cortado: o player foi encerrado</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was killed</source>
+        <translation>Cortado: o player foi interrompido</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Falhou</translation>
+    </message>
+    <message>
+        <source>Cut off: the clock was changed</source>
+        <translation>Cortado: o relógio foi alterado</translation>
+    </message>
+    <message>
+        <source>The player had been ended</source>
+        <translation>O player estava encerrado</translation>
+    </message>
+    <message>
+        <source>The player had been killed</source>
+        <translation>O player havia sido interrompido</translation>
+    </message>
+    <message>
+        <source>The machine had stopped</source>
+        <translation>A máquina estava parada</translation>
+    </message>
+    <message>
+        <source>The player had no schedule yet</source>
+        <translation>O player ainda não tinha programação</translation>
+    </message>
+    <message>
+        <source>The machine was asleep</source>
+        <translation>A máquina estava suspensa</translation>
+    </message>
+    <message>
+        <source>The records could not be kept</source>
+        <translation>Não foi possível manter o registro</translation>
+    </message>
+    <message>
+        <source>Recorded until %1.</source>
+        <translation>Registrado até %1.</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 lines of the day are shown.</source>
+        <translation>Apenas as primeiras %L1 linhas do dia são exibidas.</translation>
+    </message>
+    <message>
+        <source>No record tells why</source>
+        <translation>Nenhum registro diz por quê</translation>
+    </message>
+    <message>
+        <source>%1 s late</source>
+        <translation>%1 s de atraso</translation>
+    </message>
+    <message>
+        <source>The records cannot be read: %1</source>
+        <translation>Não é possível ler o registro: %1</translation>
+    </message>
+    <message>
+        <source>No player has recorded anything for this database.</source>
+        <translation>Nenhum player registrou nada para este banco de dados.</translation>
+    </message>
+    <message>
+        <source>The records were changed, or some are missing. “schedulectl as-run --verify” names the place.</source>
+        <translation>O registro foi alterado ou está incompleto. “schedulectl as-run --verify” indica o lugar.</translation>
+    </message>
+    <message>
+        <source>Not as planned, and no record tells why: %1</source>
+        <translation>Não foi como planejado e nenhum registro diz por quê: %1</translation>
+    </message>
+    <message>
+        <source>There is no record of this day.</source>
+        <translation>Não há registro deste dia.</translation>
+    </message>
+    <message>
+        <source>The screen was as planned, or a record tells why not.</source>
+        <translation>A tela mostrou o planejado, ou um registro diz por que não.</translation>
+    </message>
+    <message>
+        <source>Cut off: something was cut in</source>
+        <translation>Cortado: algo foi inserido</translation>
+    </message>
+    <message>
+        <source>Cut off: another schedule came</source>
+        <translation>Cortado: outra programação</translation>
     </message>
 </context>
 </TS>

@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>&amp;As-run of a day…</source>
+        <translation>&amp;Отчёт о показе за день…</translation>
+    </message>
+    <message>
         <source>&amp;Schedule</source>
         <translation>&amp;Расписание</translation>
     </message>
@@ -1336,6 +1340,179 @@ What do you want to do with your changes?</source>
     <message>
         <source>What is in effect could not be changed. %1</source>
         <translation>Действующее расписание не удалось изменить. %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunWindow</name>
+    <message>
+        <source>As-run</source>
+        <translation>Отчёт о показе</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Экран</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>День</translation>
+    </message>
+    <message>
+        <source>Previous day</source>
+        <translation>Предыдущий день</translation>
+    </message>
+    <message>
+        <source>Next day</source>
+        <translation>Следующий день</translation>
+    </message>
+    <message>
+        <source>Only what was not as planned</source>
+        <translation>Только отклонения</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Чтение…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunModel</name>
+    <message>
+        <source>From</source>
+        <translation>С</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>До</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>Намечено</translation>
+    </message>
+    <message>
+        <source>On screen</source>
+        <translation>На экране</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>Примечание</translation>
+    </message>
+</context>
+<context>
+    <name>AsRunText</name>
+    <message>
+        <source>Not known</source>
+        <translation>Неизвестно</translation>
+    </message>
+    <message>
+        <source>No record</source>
+        <translation>Нет в отчёте</translation>
+    </message>
+    <message>
+        <source>No player</source>
+        <translation>Нет плеера</translation>
+    </message>
+    <message>
+        <source>Stand-by picture</source>
+        <translation>Заставка ожидания</translation>
+    </message>
+    <message>
+        <source>Last good frame of %1</source>
+        <translation>Последний исправный кадр: %1</translation>
+    </message>
+    <message>
+        <source>What was on before</source>
+        <translation>То, что было до этого</translation>
+    </message>
+    <message>
+        <source>Cut off: the schedule was stopped</source>
+        <translation>Прервано: расписание остановлено</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was ended</source>
+        <translation>Прервано: плеер завершён</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was killed</source>
+        <translation>Прервано: плеер прекратил работу</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Сбой</translation>
+    </message>
+    <message>
+        <source>Cut off: the clock was changed</source>
+        <translation>Прервано: переведены часы</translation>
+    </message>
+    <message>
+        <source>The player had been ended</source>
+        <translation>Плеер был завершён</translation>
+    </message>
+    <message>
+        <source>The player had been killed</source>
+        <translation>Плеер прекратил работу</translation>
+    </message>
+    <message>
+        <source>The machine had stopped</source>
+        <translation>Компьютер был выключен</translation>
+    </message>
+    <message>
+        <source>The player had no schedule yet</source>
+        <translation>У плеера ещё не было расписания</translation>
+    </message>
+    <message>
+        <source>The machine was asleep</source>
+        <translation>Компьютер был в спящем режиме</translation>
+    </message>
+    <message>
+        <source>The records could not be kept</source>
+        <translation>Отчёт не удалось сохранить</translation>
+    </message>
+    <message>
+        <source>Recorded until %1.</source>
+        <translation>Записано до %1.</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 lines of the day are shown.</source>
+        <translation>Показаны только первые %L1 строк дня.</translation>
+    </message>
+    <message>
+        <source>No record tells why</source>
+        <translation>В отчёте нет причины</translation>
+    </message>
+    <message>
+        <source>%1 s late</source>
+        <translation>Опоздание %1 с</translation>
+    </message>
+    <message>
+        <source>The records cannot be read: %1</source>
+        <translation>Отчёт невозможно прочитать: %1</translation>
+    </message>
+    <message>
+        <source>No player has recorded anything for this database.</source>
+        <translation>Для этой базы данных плееры ещё ничего не сообщили.</translation>
+    </message>
+    <message>
+        <source>The records were changed, or some are missing. “schedulectl as-run --verify” names the place.</source>
+        <translation>Отчёт изменён или неполон. «schedulectl as-run --verify» укажет место.</translation>
+    </message>
+    <message>
+        <source>Not as planned, and no record tells why: %1</source>
+        <translation>Отклонения без причины в отчёте: %1</translation>
+    </message>
+    <message>
+        <source>There is no record of this day.</source>
+        <translation>За этот день отчёта нет.</translation>
+    </message>
+    <message>
+        <source>The screen was as planned, or a record tells why not.</source>
+        <translation>Экран показывал намеченное, или в отчёте есть причина.</translation>
+    </message>
+    <message>
+        <source>Cut off: something was cut in</source>
+        <translation>Прервано: вставка</translation>
+    </message>
+    <message>
+        <source>Cut off: another schedule came</source>
+        <translation>Прервано: другое расписание</translation>
     </message>
 </context>
 </TS>

@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>&amp;As-run of a day…</source>
+        <translation>单日播出记录(&amp;A)…</translation>
+    </message>
+    <message>
         <source>&amp;Schedule</source>
         <translation>排期(&amp;S)</translation>
     </message>
@@ -1292,6 +1296,179 @@ What do you want to do with your changes?</source>
     <message>
         <source>What is in effect could not be changed. %1</source>
         <translation>无法更改生效中的内容。%1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunWindow</name>
+    <message>
+        <source>As-run</source>
+        <translation>播出记录</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>屏幕</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Previous day</source>
+        <translation>前一天</translation>
+    </message>
+    <message>
+        <source>Next day</source>
+        <translation>后一天</translation>
+    </message>
+    <message>
+        <source>Only what was not as planned</source>
+        <translation>仅显示与预定不符的</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在读取…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunModel</name>
+    <message>
+        <source>From</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>结束</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>预定</translation>
+    </message>
+    <message>
+        <source>On screen</source>
+        <translation>屏幕内容</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>备注</translation>
+    </message>
+</context>
+<context>
+    <name>AsRunText</name>
+    <message>
+        <source>Not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>No record</source>
+        <translation>无记录</translation>
+    </message>
+    <message>
+        <source>No player</source>
+        <translation>无播放器</translation>
+    </message>
+    <message>
+        <source>Stand-by picture</source>
+        <translation>待机画面</translation>
+    </message>
+    <message>
+        <source>Last good frame of %1</source>
+        <translation>%1 的最后一个完好帧</translation>
+    </message>
+    <message>
+        <source>What was on before</source>
+        <translation>之前的内容</translation>
+    </message>
+    <message>
+        <source>Cut off: the schedule was stopped</source>
+        <translation>中断：排期已停止</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was ended</source>
+        <translation>中断：播放器已退出</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was killed</source>
+        <translation>中断：播放器被强行终止</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>Cut off: the clock was changed</source>
+        <translation>中断：时钟被调整</translation>
+    </message>
+    <message>
+        <source>The player had been ended</source>
+        <translation>播放器已退出</translation>
+    </message>
+    <message>
+        <source>The player had been killed</source>
+        <translation>播放器已被强行终止</translation>
+    </message>
+    <message>
+        <source>The machine had stopped</source>
+        <translation>设备已停机</translation>
+    </message>
+    <message>
+        <source>The player had no schedule yet</source>
+        <translation>播放器尚无排期</translation>
+    </message>
+    <message>
+        <source>The machine was asleep</source>
+        <translation>设备处于休眠</translation>
+    </message>
+    <message>
+        <source>The records could not be kept</source>
+        <translation>记录未能保存</translation>
+    </message>
+    <message>
+        <source>Recorded until %1.</source>
+        <translation>记录到 %1 为止。</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 lines of the day are shown.</source>
+        <translation>只显示当天的前 %L1 行。</translation>
+    </message>
+    <message>
+        <source>No record tells why</source>
+        <translation>没有记录说明原因</translation>
+    </message>
+    <message>
+        <source>%1 s late</source>
+        <translation>晚了 %1 秒</translation>
+    </message>
+    <message>
+        <source>The records cannot be read: %1</source>
+        <translation>无法读取记录：%1</translation>
+    </message>
+    <message>
+        <source>No player has recorded anything for this database.</source>
+        <translation>还没有播放器为此数据库留下记录。</translation>
+    </message>
+    <message>
+        <source>The records were changed, or some are missing. “schedulectl as-run --verify” names the place.</source>
+        <translation>记录被改动或有缺失。“schedulectl as-run --verify”会指出位置。</translation>
+    </message>
+    <message>
+        <source>Not as planned, and no record tells why: %1</source>
+        <translation>与预定不符且没有记录说明原因：%1</translation>
+    </message>
+    <message>
+        <source>There is no record of this day.</source>
+        <translation>这一天没有记录。</translation>
+    </message>
+    <message>
+        <source>The screen was as planned, or a record tells why not.</source>
+        <translation>屏幕与预定一致，或有记录说明原因。</translation>
+    </message>
+    <message>
+        <source>Cut off: something was cut in</source>
+        <translation>中断：有插播</translation>
+    </message>
+    <message>
+        <source>Cut off: another schedule came</source>
+        <translation>中断：换了排期</translation>
     </message>
 </context>
 </TS>

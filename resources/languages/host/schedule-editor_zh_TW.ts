@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>&amp;As-run of a day…</source>
+        <translation>單日播出記錄(&amp;A)…</translation>
+    </message>
+    <message>
         <source>&amp;Schedule</source>
         <translation>排程(&amp;S)</translation>
     </message>
@@ -1292,6 +1296,179 @@ What do you want to do with your changes?</source>
     <message>
         <source>What is in effect could not be changed. %1</source>
         <translation>無法變更生效中的內容。%1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunWindow</name>
+    <message>
+        <source>As-run</source>
+        <translation>播出記錄</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>螢幕</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Previous day</source>
+        <translation>前一天</translation>
+    </message>
+    <message>
+        <source>Next day</source>
+        <translation>後一天</translation>
+    </message>
+    <message>
+        <source>Only what was not as planned</source>
+        <translation>僅顯示與預定不符的</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在讀取…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::AsRunModel</name>
+    <message>
+        <source>From</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Planned</source>
+        <translation>預定</translation>
+    </message>
+    <message>
+        <source>On screen</source>
+        <translation>螢幕內容</translation>
+    </message>
+    <message>
+        <source>Remark</source>
+        <translation>備註</translation>
+    </message>
+</context>
+<context>
+    <name>AsRunText</name>
+    <message>
+        <source>Not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>No record</source>
+        <translation>無記錄</translation>
+    </message>
+    <message>
+        <source>No player</source>
+        <translation>無播放器</translation>
+    </message>
+    <message>
+        <source>Stand-by picture</source>
+        <translation>待機畫面</translation>
+    </message>
+    <message>
+        <source>Last good frame of %1</source>
+        <translation>%1 的最後一個完好畫面</translation>
+    </message>
+    <message>
+        <source>What was on before</source>
+        <translation>先前的內容</translation>
+    </message>
+    <message>
+        <source>Cut off: the schedule was stopped</source>
+        <translation>中斷：排程已停止</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was ended</source>
+        <translation>中斷：播放器已結束</translation>
+    </message>
+    <message>
+        <source>Cut off: the player was killed</source>
+        <translation>中斷：播放器被強制終止</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>Cut off: the clock was changed</source>
+        <translation>中斷：時鐘被調整</translation>
+    </message>
+    <message>
+        <source>The player had been ended</source>
+        <translation>播放器已結束</translation>
+    </message>
+    <message>
+        <source>The player had been killed</source>
+        <translation>播放器已被強制終止</translation>
+    </message>
+    <message>
+        <source>The machine had stopped</source>
+        <translation>裝置已停機</translation>
+    </message>
+    <message>
+        <source>The player had no schedule yet</source>
+        <translation>播放器尚無排程</translation>
+    </message>
+    <message>
+        <source>The machine was asleep</source>
+        <translation>裝置處於休眠</translation>
+    </message>
+    <message>
+        <source>The records could not be kept</source>
+        <translation>記錄未能保存</translation>
+    </message>
+    <message>
+        <source>Recorded until %1.</source>
+        <translation>記錄到 %1 為止。</translation>
+    </message>
+    <message>
+        <source>Only the first %L1 lines of the day are shown.</source>
+        <translation>只顯示當天的前 %L1 列。</translation>
+    </message>
+    <message>
+        <source>No record tells why</source>
+        <translation>沒有記錄說明原因</translation>
+    </message>
+    <message>
+        <source>%1 s late</source>
+        <translation>晚了 %1 秒</translation>
+    </message>
+    <message>
+        <source>The records cannot be read: %1</source>
+        <translation>無法讀取記錄：%1</translation>
+    </message>
+    <message>
+        <source>No player has recorded anything for this database.</source>
+        <translation>還沒有播放器為此資料庫留下記錄。</translation>
+    </message>
+    <message>
+        <source>The records were changed, or some are missing. “schedulectl as-run --verify” names the place.</source>
+        <translation>記錄遭到變更或有缺漏。「schedulectl as-run --verify」會指出位置。</translation>
+    </message>
+    <message>
+        <source>Not as planned, and no record tells why: %1</source>
+        <translation>與預定不符且沒有記錄說明原因：%1</translation>
+    </message>
+    <message>
+        <source>There is no record of this day.</source>
+        <translation>這一天沒有記錄。</translation>
+    </message>
+    <message>
+        <source>The screen was as planned, or a record tells why not.</source>
+        <translation>螢幕與預定一致，或有記錄說明原因。</translation>
+    </message>
+    <message>
+        <source>Cut off: something was cut in</source>
+        <translation>中斷：有插播</translation>
+    </message>
+    <message>
+        <source>Cut off: another schedule came</source>
+        <translation>中斷：換了排程</translation>
     </message>
 </context>
 </TS>

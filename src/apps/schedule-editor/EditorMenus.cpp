@@ -84,6 +84,8 @@ EditorMenus::EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes)
     m_removePrograms = add(*m_programs, QKeySequence::Delete);
 
     m_belowPanels = m_view->addSeparator();
+    m_asRun = add(*m_view, {});
+    m_view->addSeparator();
     buildThemes(themes);
     buildLanguages(languages);
     retranslate();
@@ -142,6 +144,7 @@ void EditorMenus::retranslate()
     m_importFolder->setText(tr("Import &folder…"));
     m_removePrograms->setText(tr("&Remove from catalog"));
     m_view->setTitle(tr("&View"));
+    m_asRun->setText(tr("&As-run of a day…"));
     m_themes->actions().at(0)->setText(tr("&Dark theme"));
     m_themes->actions().at(1)->setText(tr("&Light theme"));
     m_language->setTitle(tr("&Language"));

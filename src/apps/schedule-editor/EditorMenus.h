@@ -33,6 +33,7 @@ public:
     QAction* skipPlay() const { return m_skipPlay; }
     QAction* cancelInsertion() const { return m_cancelInsertion; }
     QAction* stopSchedule() const { return m_stopSchedule; }
+    QAction* asRun() const { return m_asRun; }
 
     /// The name of the menu of programs, without the mark of its letter.
     QString programsTitle() const;
@@ -60,7 +61,8 @@ private:
     QAction* m_skipPlay;
     QAction* m_cancelInsertion;
     QAction* m_stopSchedule;
-    QAction* m_belowPanels; ///< Parts them from the themes.
+    QAction* m_belowPanels; ///< Parts them from what is no part of the window.
+    QAction* m_asRun;
     QActionGroup* m_themes;
 };
 

@@ -9,6 +9,7 @@
 #include "PlainTabTips.h"
 #include "ProblemWords.h"
 #include "ProgramTableModel.h"
+#include "asrun/AsRunWindow.h"
 #include "clock/ClockChangePanel.h"
 #include "common/PatientFile.h"
 #include "effect/EffectActions.h"
@@ -158,6 +159,7 @@ void EditorWindow::connectMenus()
     run(m_menus->importFiles(), &EditorWindow::choosePrograms);
     run(m_menus->importFolder(), &EditorWindow::chooseFolder);
     run(m_menus->removePrograms(), &EditorWindow::removeSelectedPrograms);
+    run(m_menus->asRun(), &EditorWindow::showAsRun);
 
     QAction* remove = m_menus->removePrograms();
     m_table->addAction(m_menus->importFiles());
@@ -252,6 +254,9 @@ QString EditorWindow::openDatabase(const QString& path, const QString& demonstra
     if (m_editor.isVisible()) {
         m_editor.clearAndInitialize();
     }
+    if (m_asRun != nullptr) {
+        m_asRun->setStore(ScheduleHost::instance().path());
+    }
     return error;
 }
 
@@ -265,6 +270,17 @@ void EditorWindow::showEditor()
     m_editor.slotShow();
     m_editor.raise();
     m_editor.activateWindow();
+}
+
+void EditorWindow::showAsRun()
+{
+    if (m_asRun == nullptr) {
+        m_asRun = new AsRunWindow(this);
+    }
+    m_asRun->setStore(ScheduleHost::instance().path());
+    m_asRun->show();
+    m_asRun->raise();
+    m_asRun->activateWindow();
 }
 
 void EditorWindow::chooseDatabase()

@@ -15,6 +15,7 @@ struct ImportScan;
 
 namespace trel::desktop {
 
+class AsRunWindow;
 class EditorMenus;
 class ImportJob;
 class Languages;
@@ -79,6 +80,7 @@ private:
     void exportSchedule();
     void importSchedule();
     void removeSelectedPrograms();
+    void showAsRun();
     void finishImport();
     void reportImport(const trel::mediadispatch::ImportScan& scan, int added, int updated);
     void takeOverTyping();
@@ -95,6 +97,7 @@ private:
     ImportJob* m_job = nullptr;
     QProgressDialog* m_progress = nullptr;
     PendingNotices* m_notices;
+    AsRunWindow* m_asRun = nullptr; ///< Once it has been asked for.
 };
 
 } // namespace trel::desktop

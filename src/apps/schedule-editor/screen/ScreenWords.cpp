@@ -42,12 +42,12 @@ QString ScreenWords::picture(ScreenPicture picture)
 
 QString ScreenWords::program(const ScreenScene& scene)
 {
-    return program(scene.state, QString::fromStdString(scene.program.progName));
+    return program(scene.state.picture, QString::fromStdString(scene.program.progName));
 }
 
-QString ScreenWords::program(const ScreenState& state, const QString& name)
+QString ScreenWords::program(ScreenPicture picture, const QString& name)
 {
-    switch (state.picture) {
+    switch (picture) {
     case ScreenPicture::Playing:
         return name;
     case ScreenPicture::Frozen:

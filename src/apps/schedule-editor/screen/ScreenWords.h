@@ -27,7 +27,7 @@ public:
     static QString picture(trel::mediadispatch::ScreenPicture picture);
     /// The program's name, or what is there instead of one.
     static QString program(const ScreenScene& scene);
-    static QString program(const trel::mediadispatch::ScreenState& state, const QString& name);
+    static QString program(trel::mediadispatch::ScreenPicture picture, const QString& name);
     /// "Entry 2 of 5, play 1 of 3"; empty where no entry is on screen.
     static QString entry(const ScreenScene& scene);
     /// "Task 1, plan 2"; empty where no plan has or had the screen.

@@ -28,7 +28,7 @@ QString whatText(const WeekSchedule& schedule, const ScreenState& state)
     if (state.isPlaying()) {
         return Words::tr("On screen: %1, at %2").arg(program, ScreenWords::gone(state.position));
     }
-    return Words::tr("On screen: %1").arg(ScreenWords::program(state, program));
+    return Words::tr("On screen: %1").arg(ScreenWords::program(state.picture, program));
 }
 
 QString neverText(const WeekBlock& block)

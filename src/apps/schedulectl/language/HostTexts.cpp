@@ -58,8 +58,8 @@ const std::vector<HostMenu>& hostMenus()
         {QStringLiteral("the menu \"View\""),
          {entry("EditorWindow", "&Now and next"), entry("PreviewDock", "&Preview"),
           entry("PreviewDock", "&Full-screen preview"), entry("EditorWindow", "&Clock changes"),
-          entry("WeekDock", "&Week"), entry("EditorMenus", "&Dark theme"),
-          entry("EditorMenus", "&Light theme")}},
+          entry("WeekDock", "&Week"), entry("EditorMenus", "&As-run of a day…"),
+          entry("EditorMenus", "&Dark theme"), entry("EditorMenus", "&Light theme")}},
     };
     return menus;
 }
