@@ -47,6 +47,10 @@ bool AsRunChain::fits(const QByteArray& before, const AsRunRecord& record, qint6
 void AsRunChain::add(const AsRunRecord& record)
 {
     ++m_records;
+    if (record.number < m_next) {
+        noteInFront(record);
+        return;
+    }
     if (record.number > m_next) {
         note(Kind::Missing, m_next, record.number - 1, record.begins);
         // What it followed has gone, so that it cannot be checked.
@@ -149,6 +153,16 @@ void AsRunChain::note(Kind kind, qint64 first, qint64 last, Instant moment)
     ++m_count;
     if (m_found.size() < kMostKept) {
         m_found.push_back({{kind, first, last, moment, {}}, {}, {}});
+    }
+}
+
+/// No record of the chain has such a number, or has it any more.
+void AsRunChain::noteInFront(const AsRunRecord& record)
+{
+    if (!m_found.empty() && m_found.back().place.last + 1 == record.number) {
+        m_found.back().place.last = record.number;
+    } else {
+        note(Kind::Added, record.number, record.number, record.begins);
     }
 }
 

@@ -77,6 +77,7 @@ private:
     void notePutIn(qint64 first);
     void accept(const AsRunRecord& record);
     void note(AsRunBreak::Kind kind, qint64 first, qint64 last, Instant moment);
+    void noteInFront(const AsRunRecord& record);
     void noteChanged(const AsRunRecord& record);
     void explainSwaps();
     bool areSwapped(const Found& a, const Found& b);

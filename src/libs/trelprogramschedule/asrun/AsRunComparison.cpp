@@ -65,6 +65,20 @@ bool AsRunStretch::isAsPlanned() const
     return of(*planned, insertion) == of(*record, record->insertion);
 }
 
+AsRunEnd asRunEnd(const AsRunRecord& record)
+{
+    return {record.kind, record.outcome, record.boot, record.steadyEnd};
+}
+
+bool hasClockLeapt(const AsRunEnd& before, const AsRunRecord& next)
+{
+    if (before.kind == AsRunKind::Gap) {
+        return !before.boot.isEmpty() && before.boot == next.boot &&
+               before.steady == next.steadyBegin;
+    }
+    return before.outcome == AsRunOutcome::CutByClock;
+}
+
 class AsRunComparison::Private
 {
 public:
@@ -99,7 +113,8 @@ public:
 /// taken while it was on has come before it.
 void AsRunComparison::Private::pull()
 {
-    const bool wasCutByClock = m_record != nullptr && m_record->outcome == AsRunOutcome::CutByClock;
+    const bool isFirst = m_record == nullptr;
+    const AsRunEnd former = isFirst ? AsRunEnd() : asRunEnd(*m_record);
     const AsRunRecord* next = m_records();
     for (; next != nullptr && next->kind == AsRunKind::ScheduleTaken; next = m_records()) {
         m_taken.push_back({next->begins, next->schedule});
@@ -108,7 +123,13 @@ void AsRunComparison::Private::pull()
     if (next == nullptr) {
         return;
     }
-    m_hasLeapt = wasCutByClock && m_record->begins < m_at;
+    m_hasLeapt = !isFirst && m_record->begins < m_at && hasClockLeapt(former, *m_record);
+    if (m_hasLeapt) {
+        for (Taken& taken : m_taken) {
+            // It was taken before the clock leapt.
+            taken.moment = std::min(taken.moment, m_record->begins);
+        }
+    }
     const QByteArray known = !m_taken.empty()      ? m_taken.back().hash
                              : m_timelines.empty() ? QByteArray()
                                                    : m_timelines.front().hash;
@@ -193,7 +214,10 @@ bool AsRunComparison::Private::step(Instant end, const ScreenState* planned, con
             until =
                 m_taken.empty() ? m_record->ends : std::min(m_record->ends, m_taken.front().moment);
             give(std::min(until, m_to), nullptr, visitor);
-            return m_at < end;
+            if (m_at > end) {
+                return false;
+            }
+            continue;
         }
         give(until, planned, visitor);
     }

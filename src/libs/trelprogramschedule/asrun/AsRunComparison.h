@@ -34,6 +34,21 @@ struct TRELPROGRAMSCHEDULE_EXPORT AsRunStretch
 /// length of a picture at 25 of them a second, in milliseconds.
 inline constexpr qint64 kShortestSeen = 40;
 
+/// How a record of a picture or a gap ended.
+struct AsRunEnd
+{
+    AsRunKind kind = AsRunKind::Picture;
+    AsRunOutcome outcome = AsRunOutcome::Complete;
+    QByteArray boot;
+    qint64 steady = 0;
+};
+
+TRELPROGRAMSCHEDULE_EXPORT AsRunEnd asRunEnd(const AsRunRecord& record);
+
+/// Whether the clock leapt between a record and the next one. A picture says so. A gap has another
+/// reason to tell; there the clock that never leaps says that no time has passed.
+TRELPROGRAMSCHEDULE_EXPORT bool hasClockLeapt(const AsRunEnd& before, const AsRunRecord& next);
+
 /// Holds records against the timelines of the schedules that were followed: one pass over both,
 /// without keeping more than the last few of either.
 class TRELPROGRAMSCHEDULE_EXPORT AsRunComparison

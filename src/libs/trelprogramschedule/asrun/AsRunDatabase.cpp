@@ -66,6 +66,23 @@ StoreResult create(const StoreFile& file)
     return result;
 }
 
+/// Stands for records that the database had once, or that a player has handed in elsewhere.
+AsRunRecord gapBetween(const AsRunRecord& before, const AsRunRecord& next, qint64 missing)
+{
+    AsRunRecord gap;
+    gap.kind = AsRunKind::Gap;
+    gap.outcome = AsRunOutcome::NotRecorded;
+    gap.why = QStringLiteral("Records that were handed in are missing: %1.").arg(missing);
+    gap.revision = before.revision;
+    gap.schedule = before.schedule;
+    gap.boot = next.boot;
+    gap.begins = before.ends;
+    gap.ends = next.begins;
+    gap.steadyBegin = before.boot == next.boot ? before.steadyEnd : next.steadyBegin;
+    gap.steadyEnd = next.steadyBegin;
+    return gap;
+}
+
 } // namespace
 
 class AsRunDatabase::Private
@@ -80,11 +97,16 @@ public:
     qint64 sequence(qint64 screenId, const QByteArray& source);
     void putSequence(qint64 screenId, const QByteArray& source, qint64 sequence);
     void putHead(qint64 screenId, qint64 number, const QByteArray& hash);
+    /// Chains the records of a source that come behind those that are known of it.
+    void chain(qint64 screenId, AsRunScreen& head, const std::vector<AsRunRecord>& records,
+               qint64 known, qint64 firstSequence);
+    void add(qint64 screenId, AsRunScreen& head, AsRunRecord record);
 
     StoreFile m_file;
     StoreOpenMode m_mode;
     StoreConnection m_connection;
     StoreFile::Identity m_identity;
+    AsRunHasher m_hasher;
     std::unique_ptr<AsRunRows> m_rows; ///< Before the connection goes.
 };
 
@@ -204,6 +226,33 @@ void AsRunDatabase::Private::putHead(qint64 screenId, qint64 number, const QByte
     put.run();
 }
 
+void AsRunDatabase::Private::add(qint64 screenId, AsRunScreen& head, AsRunRecord record)
+{
+    record.number = ++head.lastNumber;
+    record.hash = m_hasher.hash(head.lastHash, record);
+    head.lastHash = record.hash;
+    m_rows->add(screenId, record);
+}
+
+void AsRunDatabase::Private::chain(qint64 screenId, AsRunScreen& head,
+                                   const std::vector<AsRunRecord>& records, qint64 known,
+                                   qint64 firstSequence)
+{
+    const qint64 missing = firstSequence - known - 1;
+    if (missing > 0 && !records.empty()) {
+        AsRunNumbers last{head.lastNumber, head.lastNumber};
+        std::vector<AsRunRecord> before;
+        m_rows->read(screenId, last, 1, before);
+        if (!before.empty()) {
+            add(screenId, head, gapBetween(before.front(), records.front(), missing));
+        }
+    }
+    const qint64 end = firstSequence + static_cast<qint64>(records.size());
+    for (qint64 at = std::max(firstSequence, known + 1); at < end; ++at) {
+        add(screenId, head, records[static_cast<std::size_t>(at - firstSequence)]);
+    }
+}
+
 AsRunDatabase::AsRunDatabase() = default;
 AsRunDatabase::~AsRunDatabase() = default;
 
@@ -257,21 +306,14 @@ StoreResult AsRunDatabase::append(const QString& screen, const QByteArray& sourc
         StoreTransaction transaction(m_d->m_connection, StoreTransaction::Purpose::Write);
         const qint64 screenId = m_d->makeScreen(screen);
         const qint64 known = m_d->sequence(screenId, source);
-        const qint64 end = firstSequence + static_cast<qint64>(records.size());
         for (const QByteArray& content : contents) {
             AsRunContents(m_d->m_connection, path()).put(content);
         }
         AsRunScreen head = m_d->screen(screen);
-        AsRunHasher hasher;
-        for (qint64 at = std::max(firstSequence, known + 1); at < end; ++at) {
-            AsRunRecord record = records[static_cast<std::size_t>(at - firstSequence)];
-            record.number = ++head.lastNumber;
-            record.hash = hasher.hash(head.lastHash, record);
-            head.lastHash = record.hash;
-            m_d->m_rows->add(screenId, record);
-        }
+        m_d->chain(screenId, head, records, known, firstSequence);
         m_d->putHead(screenId, head.lastNumber, head.lastHash);
-        m_d->putSequence(screenId, source, std::max(known, end - 1));
+        const qint64 last = firstSequence + static_cast<qint64>(records.size()) - 1;
+        m_d->putSequence(screenId, source, std::max(known, last));
         transaction.commit();
     });
 }

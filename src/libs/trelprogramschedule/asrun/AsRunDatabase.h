@@ -54,7 +54,9 @@ public:
     QString path() const;
 
     /// Adds records to the chain of a screen, in order, each once: `source` counts what it hands in
-    /// from 1, and what it has handed in before is left out. `number` and `hash` of the records are
+    /// from 1, and what it has handed in before is left out. Where some have not come, because they
+    /// were handed in to a file in whose place an older one was put, a gap that says so takes their
+    /// place; not before the first record of a screen. `number` and `hash` of the records are
     /// given here. `contents` are those of schedules that the records name, see asRunContents;
     /// those that are known already may be left out or not. All or nothing is added.
     ///

@@ -40,6 +40,7 @@ void AsRunJudge::see(const AsRunRecord& record)
     if (record.kind == AsRunKind::ScheduleTaken) {
         return;
     }
+    m_hasLeapt = m_ends != kEver && hasClockLeapt(m_end, record);
     if (m_ends != kEver && !m_hasLeapt && record.begins < m_ends - kShortestSeen) {
         AsRunDeviation overlap;
         overlap.kind = Kind::Overlap;
@@ -50,7 +51,7 @@ void AsRunJudge::see(const AsRunRecord& record)
         note(overlap);
     }
     m_ends = record.ends;
-    m_hasLeapt = record.outcome == AsRunOutcome::CutByClock;
+    m_end = asRunEnd(record);
 }
 
 void AsRunJudge::add(const AsRunStretch& stretch)
@@ -115,7 +116,7 @@ void AsRunJudge::addPending(Kind kind, const AsRunStretch& stretch)
     resolve(&stretch);
     const bool isFormer =
         stretch.record != nullptr && (m_goesOn || stretch.record->begins < stretch.from);
-    const bool isAfterLeap = kind == Kind::NothingSaid && m_outcome == AsRunOutcome::CutByClock;
+    const bool isAfterLeap = kind == Kind::NothingSaid && m_hasLeapt;
     m_pending = Pending{deviation, since, isFormer, isAfterLeap};
 }
 

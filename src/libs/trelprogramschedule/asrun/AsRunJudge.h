@@ -76,7 +76,8 @@ private:
 
     std::optional<Pending> m_pending;
     Instant m_ends = kEver;                          ///< Of the last record that was seen.
-    bool m_hasLeapt = false;                         ///< The clock leapt behind it.
+    AsRunEnd m_end;                                  ///< The same, with its reason.
+    bool m_hasLeapt = false;                         ///< The clock leapt before it.
     qint64 m_number = 0;                             ///< Of the last record in a stretch,
     AsRunOutcome m_outcome = AsRunOutcome::Complete; ///< and why it ended.
     bool m_goesOn = false; ///< It is what the record before has left on screen.

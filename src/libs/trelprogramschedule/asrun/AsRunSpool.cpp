@@ -298,7 +298,7 @@ StoreResult AsRunSpool::write(const std::vector<AsRunRecord>& records,
     const std::optional<AsRunRecord> last =
         records.empty() ? m_d->m_last : std::optional(records.back());
     const qint64 next = m_d->m_next + static_cast<qint64>(records.size());
-    const StoreResult result = attempt(m_d->m_path, [&] {
+    StoreResult result = attempt(m_d->m_path, [&] {
         StoreTransaction transaction(m_d->m_connection, StoreTransaction::Purpose::Write);
         for (const QByteArray& content : contents) {
             AsRunContents(m_d->m_connection, m_d->m_path).put(content);

@@ -16,14 +16,21 @@ namespace {
 using Kind = AsRunBreak::Kind;
 constexpr int kRecords = 1000;
 
-/// Two screens with a thousand records each, made once, and copied for each break.
+/// Two screens with a thousand records each, made once, and copied for each break. Of the first
+/// screen some may have gone because of their age.
 class Samples
 {
 public:
-    Samples()
+    explicit Samples(int removed = 0)
     {
         fixture.append(sampleRecords(kRecords), 1, QStringLiteral("hall"), "one");
         fixture.append(sampleRecords(kRecords, 5000), 1, QStringLiteral("bar"), "two");
+        qint64 gone = 0;
+        [&] {
+            QVERIFY(fixture.database.removeBefore(QStringLiteral("hall"),
+                                                  sampleRecord(removed).begins, gone));
+            QCOMPARE(gone, std::max(0, removed - 1));
+        }();
         fixture.database.close();
     }
 
@@ -112,6 +119,8 @@ private slots:
     void aRecordOfAnotherScreenIsNamed();
     void aDayIsCheckedByItself();
     void manyBreaksAreCounted();
+    void theSameHoldsBehindAnAnchor();
+    void whatIsPutInFrontIsNamed();
 
 private:
     Samples m_samples;
@@ -288,6 +297,52 @@ void tst_AsRunChain::manyBreaksAreCounted()
         {QStringLiteral("UPDATE record SET late = 77 WHERE screen_id = 1 AND number % 2 = 0")});
     QCOMPARE(found.size(), std::size_t(500));
     QCOMPARE(found[499].first, 1000);
+}
+
+void tst_AsRunChain::theSameHoldsBehindAnAnchor()
+{
+    constexpr int first = 301;
+    Samples samples(first);
+    QVERIFY(samples.breaks({}).empty());
+    for (const int number : {first, first + 1, 650, kRecords}) {
+        const auto changed = samples.breaks({change(number, QStringLiteral("late = 5"))});
+        COMPARE_BREAK(changed, Kind::Changed, number, number);
+        const auto removed = samples.breaks({removal(number)});
+        COMPARE_BREAK(removed, Kind::Missing, number, number);
+        QStringList statements = renumbering(QStringLiteral("number >= %1").arg(number), 1);
+        statements += columns(QString::number(number)) +
+                      QStringLiteral("WHERE screen_id = 1 AND number = 750");
+        const auto added = samples.breaks(statements);
+        COMPARE_BREAK(added, Kind::Added, number, number);
+    }
+    for (const auto& [a, b] : {std::pair(first, first + 1), std::pair(first, kRecords),
+                               std::pair(650, 700), std::pair(kRecords - 1, kRecords)}) {
+        const auto swapped = samples.breaks({change(a, QStringLiteral("number = -1")),
+                                             change(b, QStringLiteral("number = %1").arg(a)),
+                                             change(-1, QStringLiteral("number = %1").arg(b))});
+        COMPARE_BREAK(swapped, Kind::Swapped, a, b);
+    }
+    const auto all = samples.breaks({QStringLiteral("DELETE FROM record WHERE screen_id = 1")});
+    COMPARE_BREAK(all, Kind::Missing, first, kRecords);
+    // One that has gone comes back, or others are said to have gone.
+    const auto back = samples.breaks({columns(QString::number(first - 1)) +
+                                      QStringLiteral("WHERE screen_id = 1 AND number = 301")});
+    COMPARE_BREAK(back, Kind::Added, first - 1, first - 1);
+    const auto gone = samples.breaks(
+        {removal(first), QStringLiteral("UPDATE screen SET anchor_number = 301 WHERE id = 1")});
+    COMPARE_BREAK(gone, Kind::Changed, first + 1, first + 1);
+}
+
+void tst_AsRunChain::whatIsPutInFrontIsNamed()
+{
+    for (const int number : {0, -7}) {
+        const auto found = m_samples.breaks({columns(QString::number(number)) +
+                                             QStringLiteral("WHERE screen_id = 1 AND number = 1")});
+        COMPARE_BREAK(found, Kind::Added, number, number);
+    }
+    const auto two = m_samples.breaks({columns(QStringLiteral("number - 2")) +
+                                       QStringLiteral("WHERE screen_id = 1 AND number IN (1, 2)")});
+    COMPARE_BREAK(two, Kind::Added, -1, 0);
 }
 
 TREL_TEST(tst_AsRunChain, QCoreApplication)

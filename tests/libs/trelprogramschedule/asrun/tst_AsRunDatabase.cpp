@@ -31,6 +31,7 @@ private slots:
     void aRecordIsReadAsItWasWritten();
     void eachScreenHasItsChain();
     void whatIsHandedInTwiceIsTakenOnce();
+    void whatNeverCameIsNamed();
     void sourcesDoNotMeet();
     void aDayIsFoundByItsTime();
     void whatReachesIntoATimeIsFound();
@@ -111,6 +112,40 @@ void tst_AsRunDatabase::whatIsHandedInTwiceIsTakenOnce()
     for (std::size_t at = 0; at < read.size(); ++at) {
         QCOMPARE(read[at].number, static_cast<qint64>(at) + 1);
         QCOMPARE(read[at].begins, sampleRecord(static_cast<int>(at)).begins);
+    }
+}
+
+void tst_AsRunDatabase::whatNeverCameIsNamed()
+{
+    AsRunFixture fixture;
+    // Nothing is known of the time before the first.
+    fixture.append(sampleRecords(2, 5), 6);
+    fixture.append(sampleRecords(2, 10), 11);
+    fixture.append(sampleRecords(1, 12), 13);
+    // Of which some have come.
+    fixture.append(sampleRecords(3, 11), 12);
+    AsRunRecord afterStart = sampleRecord(20);
+    afterStart.boot = QByteArray(16, 'c');
+    fixture.append({afterStart}, 21);
+    const auto read = fixture.read(kAllNumbers);
+    QCOMPARE(read.size(), std::size_t(9));
+    const AsRunRecord& gap = read[2];
+    QCOMPARE(gap.kind, AsRunKind::Gap);
+    QCOMPARE(gap.outcome, AsRunOutcome::NotRecorded);
+    QCOMPARE(gap.why, QStringLiteral("Records that were handed in are missing: 3."));
+    QCOMPARE(gap.number, 3);
+    QCOMPARE(gap.schedule, read[1].schedule);
+    QCOMPARE(gap.begins, sampleRecord(6).ends);
+    QCOMPARE(gap.ends, sampleRecord(10).begins);
+    QCOMPARE(gap.steadyBegin, sampleRecord(6).steadyEnd);
+    QCOMPARE(gap.steadyEnd, sampleRecord(10).steadyBegin);
+    QCOMPARE(read[6].begins, sampleRecord(13).begins);
+    QCOMPARE(read[7].kind, AsRunKind::Gap);
+    QCOMPARE(read[7].boot, afterStart.boot);
+    QCOMPARE(read[7].steadyBegin, afterStart.steadyBegin);
+    AsRunHasher hasher;
+    for (std::size_t at = 1; at < read.size(); ++at) {
+        QCOMPARE(read[at].hash, hasher.hash(read[at - 1].hash, read[at]));
     }
 }
 

@@ -2,6 +2,7 @@
 #include "../dispatch/ScheduleWriting.h"
 #include "AsRunSamples.h"
 #include "SimulatedPlayer.h"
+#include "VerifiedRecords.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/asrun/AsRunTotals.h"
 #include "trelprogramschedule/asrun/AsRunVerification.h"
@@ -16,11 +17,6 @@ using namespace trel::mediadispatch;
 namespace {
 
 constexpr int kSeconds = 900;
-constexpr char kZone[] = "Europe/Berlin";
-
-/// Noon of a day in March 2024, in Berlin.
-constexpr Instant kNoon = 1709636400000;
-
 const Drawing kDrawing{{"2024.03.05", "2024.03.05", "2024.03.06"}, 11, 13};
 
 /// Schedules as no sane operator would write them, taken one after the other, with insertions.
@@ -58,39 +54,6 @@ std::vector<TakenSchedule> randomSchedules(std::uint32_t seed)
         }
     }
     return schedules;
-}
-
-/// The records of a screen, verified.
-AsRunVerdict verdictOf(const std::vector<AsRunRecord>& records,
-                       const std::vector<TakenSchedule>& schedules, AsRunFixture& fixture,
-                       Instant from = kEver, Instant to = kNever)
-{
-    std::vector<QByteArray> contents;
-    for (const TakenSchedule& taken : schedules) {
-        contents.push_back(taken.contents);
-    }
-    AsRunVerdict verdict;
-    [&] {
-        QVERIFY(fixture.database.append(QStringLiteral("hall"), "player", 1, records, contents));
-        QVERIFY(verifyAsRun(fixture.database, fixture.screen(), from, to, verdict));
-    }();
-    return verdict;
-}
-
-QString textOf(const AsRunVerdict& verdict)
-{
-    QString text;
-    for (const AsRunDeviation& deviation : verdict.deviations) {
-        text +=
-            QStringLiteral("kind %1, record %2, from +%3 to +%4, planned %5 \"%6\", shown \"%7\"\n")
-                .arg(static_cast<int>(deviation.kind))
-                .arg(deviation.number)
-                .arg(deviation.from - kNoon)
-                .arg(deviation.to - kNoon)
-                .arg(deviation.progIndex)
-                .arg(deviation.plannedProgram, deviation.shownProgram);
-    }
-    return text;
 }
 
 /// What the sums have to be, by looking at every stretch of time between two borders of any kind.
@@ -161,7 +124,6 @@ private slots:
     void sumsAreThoseOfEveryMoment();
     void whatNobodyTellsIsNamed();
     void aLeapOfTheClockIsExplained();
-    void aHoleIsNamedOnce();
     void anUnknownScheduleIsNamed();
     void latenessCountsAsFarAsItIsTold();
     void aPartIsHeldAgainstItsPart();
@@ -278,27 +240,6 @@ void tst_AsRunVerification::whatNobodyTellsIsNamed()
     QVERIFY(named > 35);
 }
 
-namespace {
-
-/// One plan of A (10 s) and B (4 s), all day.
-std::vector<TakenSchedule> plainSchedules()
-{
-    AsRunSchedule schedule;
-    schedule.zone = kZone;
-    schedule.start = EffectStart{kNoon, 1, QStringLiteral("test")};
-    schedule.tasks =
-        scheduleFromText(QStringLiteral("1 2024.03.05-2024.03.05 / 12:00:00-20:00:00 A B"));
-    schedule.catalogue = lettersCatalogue();
-    return {takenSchedule(kNoon, schedule)};
-}
-
-std::vector<AsRunRecord> plainRecords(qint64 length = 140'000)
-{
-    return SimulatedPlayer(plainSchedules(), 1, 0).play(kNoon + length);
-}
-
-} // namespace
-
 void tst_AsRunVerification::aLeapOfTheClockIsExplained()
 {
     for (const qint64 leap : {-60'000, 60'000}) {
@@ -324,20 +265,6 @@ void tst_AsRunVerification::aLeapOfTheClockIsExplained()
                  static_cast<int>(leap < 0 ? AsRunDeviation::Kind::Overlap
                                            : AsRunDeviation::Kind::NothingSaid));
     }
-}
-
-void tst_AsRunVerification::aHoleIsNamedOnce()
-{
-    std::vector<AsRunRecord> records = plainRecords();
-    const Instant from = records[3].begins;
-    const Instant to = records[8].begins;
-    records.erase(records.begin() + 3, records.begin() + 8);
-    AsRunFixture fixture;
-    const AsRunVerdict verdict = verdictOf(records, plainSchedules(), fixture);
-    QCOMPARE(verdict.deviationCount, 1);
-    QCOMPARE(verdict.deviations[0].from, from);
-    QCOMPARE(verdict.deviations[0].to, to);
-    QCOMPARE(verdict.times.unexplained, to - from);
 }
 
 void tst_AsRunVerification::anUnknownScheduleIsNamed()
