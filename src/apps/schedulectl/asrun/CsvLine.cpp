@@ -2,16 +2,38 @@
 
 #include "common/DisplayText.h"
 
+#include <QStringList>
+
 namespace trel::console {
+
+namespace {
+
+/// A text may hide the sign behind blanks, which some programs take away first.
+bool isFormula(const QString& text)
+{
+    static const QString signs = QStringLiteral("=+-@\uFF1D\uFF0B\uFF0D\uFF20");
+    const QString trimmed = text.trimmed();
+    return !trimmed.isEmpty() && signs.contains(trimmed.at(0));
+}
+
+/// Where a comma parts whole and fraction, spreadsheets part fields at the semicolon, whatever is
+/// in quotes.
+QString withoutFormulas(const QString& text)
+{
+    QStringList parts = text.split(QLatin1Char(';'));
+    for (QString& part : parts) {
+        if (isFormula(part)) {
+            part.prepend(QLatin1Char('\''));
+        }
+    }
+    return parts.join(QLatin1Char(';'));
+}
+
+} // namespace
 
 void CsvLine::addText(const QString& text)
 {
-    static const QString formulaSigns = QStringLiteral("=+-@\uFF1D\uFF0B\uFF0D\uFF20");
-    // A text may hide the sign behind blanks, which some programs take away first.
-    const QString trimmed = text.trimmed();
-    const bool isFormula = !trimmed.isEmpty() && formulaSigns.contains(trimmed.at(0));
-    QByteArray field = (isFormula ? QLatin1String("'") : QLatin1String("")).latin1();
-    field += hosts::escapedText(text).toUtf8();
+    QByteArray field = hosts::escapedText(withoutFormulas(text)).toUtf8();
     if (field.contains(',') || field.contains('"') || field.startsWith(' ') ||
         field.endsWith(' ')) {
         field.replace('"', "\"\"");

@@ -8,7 +8,8 @@ namespace trel::console {
 /// A line of comma-separated values in UTF-8, as RFC 4180 has them, but ended by a line feed alone.
 ///
 /// A text that a spreadsheet would take for a formula gets an apostrophe in front: one that begins
-/// with =, +, -, @ or one of their wide forms. What a terminal would obey, an end of a line
+/// with =, +, -, @ or one of their wide forms. So does what follows a semicolon, at which some part
+/// the fields. What a terminal would obey, an end of a line
 /// included, is written as an escape.
 class CsvLine
 {

@@ -254,6 +254,9 @@ void tst_CtlAsRun::noNameBecomesAFormula_data()
     QTest::newRow("tab") << QStringLiteral("\t=1") << QStringLiteral("'\\t=1");
     QTest::newRow("line") << QStringLiteral("a\n=1") << QStringLiteral("a\\n=1");
     QTest::newRow("comma") << QStringLiteral("=1,2") << QStringLiteral("\"'=1,2\"");
+    QTest::newRow("command") << QStringLiteral("=cmd|' /C calc'!A0")
+                             << QStringLiteral("'=cmd|' /C calc'!A0");
+    QTest::newRow("semicolon") << QStringLiteral("a; =1;b;-2") << QStringLiteral("a;' =1;b;'-2");
     QTest::newRow("plain") << QStringLiteral("a=1") << QStringLiteral("a=1");
 }
 
