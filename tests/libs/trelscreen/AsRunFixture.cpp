@@ -78,19 +78,22 @@ QString wordsOf(const DeckFault& fault)
 
 } // namespace
 
-AsRunFixture::AsRunFixture(const char* timeOfDay, std::optional<qint64> readyAfter)
-    : screen(timeOfDay, readyAfter)
-    , recorder(
-          [this] {
-              QElapsedTimer timer;
-              timer.start();
-              return screen.clock.elapsed(timer) + slept;
-          },
-          wordsOf, [this](const AsRunEntry& entry) { entries.push_back(entry); })
+AsRunFixture::AsRunFixture(const QDateTime& now, qint64 steady, std::optional<qint64> readyAfter)
+    : screen(now, readyAfter)
+    , slept(steady)
+    , recorder([this] { return this->steady(); }, wordsOf,
+               [this](const AsRunEntry& entry) { entries.push_back(entry); })
 {
     screen.log.alsoTo = &recorder;
     screen.start = EffectStart();
     screen.beforeGiving = [this](const ScreenSchedule& schedule) { recorder.take(schedule); };
+}
+
+qint64 AsRunFixture::steady() const
+{
+    QElapsedTimer timer;
+    timer.start();
+    return screen.clock.elapsed(timer) + slept;
 }
 
 QStringList AsRunFixture::take()

@@ -12,7 +12,11 @@
 class AsRunFixture
 {
 public:
-    explicit AsRunFixture(const char* timeOfDay, std::optional<qint64> readyAfter = 1);
+    explicit AsRunFixture(const char* timeOfDay, std::optional<qint64> readyAfter = 1)
+        : AsRunFixture(ScreenFixture::moment(timeOfDay), 0, readyAfter)
+    {}
+    /// With the clock that never leaps at a moment.
+    AsRunFixture(const QDateTime& now, qint64 steady, std::optional<qint64> readyAfter = 1);
 
     /// What has been recorded since the last call, a line for each record; see lineOf.
     QStringList take();
@@ -26,8 +30,11 @@ public:
     /// how it ended; then ", 5 late" and the reason in brackets, where there are any.
     static QString lineOf(const trel::mediadispatch::AsRunRecord& record);
 
+    /// The clock that never leaps.
+    qint64 steady() const;
+
     ScreenFixture screen;
-    qint64 slept = 0;
+    qint64 slept = 0; ///< By which it is ahead of the one that the screen runs on.
     /// All that was recorded.
     std::vector<trel::screen::AsRunEntry> entries;
     trel::screen::AsRunRecorder recorder;

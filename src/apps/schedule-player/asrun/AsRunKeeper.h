@@ -48,7 +48,9 @@ public:
     void start(const trel::mediadispatch::AsRunRecord& first);
     /// Takes what has been posted, within a round.
     void workSoon();
-    /// Takes what has been posted, writes it, and tries once to hand it in.
+    /// Takes what has been posted, writes it, and hands it in where it may be tried again.
+    void work();
+    /// The same for the last time; nothing of the files is held any more.
     void stop();
 
 signals:
@@ -56,7 +58,6 @@ signals:
     void told(const QString& line);
 
 private:
-    void work();
     void openSpool();
     void replaceSpool(const mediadispatch::StoreResult& reason);
     void setAside(const mediadispatch::StoreResult& reason);
