@@ -154,6 +154,7 @@ AsRunRecorder::Moment AsRunRecorder::now()
         close({moment.time - leap, moment.steady}, AsRunOutcome::CutByClock);
         goOn(moment);
     }
+    m_passed = moment.steady - m_last.steady;
     m_last = moment;
     return moment;
 }
@@ -218,12 +219,19 @@ void AsRunRecorder::put(const ScreenEvent& event, AsRunShown shown, Moment momen
         begin(event.play, shown, moment);
     }
     if (shown == AsRunShown::AsPlanned) {
-        m_open.late = std::max<qint64>(0, event.amount);
+        m_open.late = std::max<qint64>(0, event.amount + heldUp(event, moment));
     } else if (event.fault) {
         m_open.why = m_words(event.fault);
     } else if (event.play.isTooShort()) {
         m_open.why = QStringLiteral("It is over before it could be seen.");
     }
+}
+
+/// How much later than the screen has told the record begins, on a machine that is busy.
+qint64 AsRunRecorder::heldUp(const ScreenEvent& event, Moment moment) const
+{
+    const qint64 length = event.onScreenSince == kNever ? 0 : moment.time - event.onScreenSince;
+    return length <= m_passed + kLeap ? std::max<qint64>(0, length) : 0;
 }
 
 // The clock.

@@ -63,6 +63,7 @@ private:
     void takeAt(Moment moment);
     void due(const ScreenEvent& event, Moment moment);
     void put(const ScreenEvent& event, mediadispatch::AsRunShown shown, Moment moment);
+    qint64 heldUp(const ScreenEvent& event, Moment moment) const;
     void leap(qint64 amount, Moment moment);
     void sleep(qint64 length, Moment moment);
     mediadispatch::AsRunOutcome causeOf(const ScreenPlay& next) const;
@@ -75,8 +76,9 @@ private:
     const Steady m_steady;
     const Words m_words;
     const Take m_take;
-    Moment m_last;      ///< At which the clocks were read last.
-    qint64 m_leapt = 0; ///< What was seen of leaps that the screen has not told of.
+    Moment m_last;       ///< At which the clocks were read last.
+    qint64 m_passed = 0; ///< Between the last two times, by the steady clock.
+    qint64 m_leapt = 0;  ///< What was seen of leaps that the screen has not told of.
     std::optional<ScreenSchedule> m_given; ///< To be taken with the next ScheduleTaken.
     ScreenSchedule m_schedule;             ///< That is followed.
 

@@ -110,7 +110,14 @@ public:
         m_log += QString::fromUtf8(m_process.readAllStandardError());
         return m_log;
     }
-    QProcess& process() { return m_process; }
+    QString howItEnded()
+    {
+        return QStringLiteral("status %1, code %2, error %3: %4")
+            .arg(static_cast<int>(m_process.exitStatus()))
+            .arg(m_process.exitCode())
+            .arg(static_cast<int>(m_process.error()))
+            .arg(log());
+    }
 
 private:
     QProcess m_process;
@@ -227,7 +234,7 @@ public:
 
     void kill(int kills)
     {
-        while (m_kills < kills) {
+        while (m_kills < kills && !QTest::currentTestFailed()) {
             for (Victim& victim : m_victims) {
                 attend(victim);
             }
@@ -273,7 +280,7 @@ private:
             victim.begun = now;
         }
         if (now >= victim.killAt) {
-            QVERIFY(victim.player->isRunning());
+            QVERIFY2(victim.player->isRunning(), qPrintable(victim.player->howItEnded()));
             victim.player->end(SIGKILL);
             if (victim.begun != 0) {
                 victim.lives.push_back({victim.begun, now});

@@ -77,6 +77,40 @@ private slots:
                                     "08:00:10.500 +3500 B complete, 500 late"}));
     }
 
+    /// The record begins when it is made, after the screen has told how late it was.
+    void aBusyMachine()
+    {
+        class HeldUp : public ScreenLog
+        {
+        public:
+            void note(const ScreenEvent& event) override
+            {
+                ScreenEvent earlier = event;
+                earlier.onScreenSince -= event.kind == ScreenEvent::Kind::Shown ? by : 0;
+                to->note(earlier);
+            }
+            ScreenLog* to = nullptr;
+            qint64 by = 0;
+        };
+        AsRunFixture run("08:00:05");
+        HeldUp log;
+        log.to = &run.recorder;
+        run.screen.log.alsoTo = &log;
+        run.screen.follow("08:00:00-09:00:00 A B");
+        run.screen.advanceTo("08:00:06");
+        run.take();
+        log.by = 70;
+        run.screen.advanceTo("08:00:11");
+        // The clock was set in between.
+        log.by = 3'600'000;
+        run.screen.advanceTo("08:00:15");
+        log.by = 0;
+        run.screen.advanceTo("08:00:26");
+        QCOMPARE(run.take(),
+                 lines({"08:00:05.250 +4750 A complete, 250 late",
+                        "08:00:10 +4000 B complete, 70 late", "08:00:14 +10000 A complete"}));
+    }
+
     void aProgramThatBreaks()
     {
         AsRunFixture run("07:59:59");

@@ -115,6 +115,7 @@ void AsRunList::writeText(const QString& screen, const AsRunRecord& record)
 
 void AsRunList::writeCsv(const QString& screen, const AsRunRecord& record)
 {
+    const bool isPicture = record.kind == AsRunKind::Picture;
     CsvLine line;
     line.addText(screen);
     line.addNumber(record.number);
@@ -124,8 +125,8 @@ void AsRunList::writeCsv(const QString& screen, const AsRunRecord& record)
     line.addNumber(record.ends - record.begins);
     line.addText(record.program);
     line.addWord(numberText(record.progIndex));
-    line.addWord(record.kind == AsRunKind::Picture ? pictureName(record.picture) : QString());
-    line.addWord(record.kind == AsRunKind::Picture ? shownName(record.shown) : QString());
+    line.addWord(isPicture ? pictureName(record.picture) : QString());
+    line.addWord(isPicture ? shownName(record.shown) : QString());
     line.addWord(numberText(record.taskId));
     line.addWord(numberText(record.planId));
     line.addWord(countText(record.planRow));
@@ -134,8 +135,8 @@ void AsRunList::writeCsv(const QString& screen, const AsRunRecord& record)
     line.addWord(countText(record.run));
     line.addWord(record.insertion == 0 ? QString() : QString::number(record.insertion));
     line.addNumber(record.revision);
-    line.addWord(isoText(m_local, record.plannedBegin));
-    line.addWord(isoText(m_local, record.plannedEnd));
+    line.addWord(isPicture ? isoText(m_local, record.plannedBegin) : QString());
+    line.addWord(isPicture ? isoText(m_local, record.plannedEnd) : QString());
     line.addNumber(record.late);
     line.addWord(record.kind == AsRunKind::ScheduleTaken ? QString() : outcomeName(record.outcome));
     line.addText(record.why);
@@ -171,8 +172,10 @@ void AsRunList::writeJson(const QString& screen, const AsRunRecord& record)
          record.insertion == 0 ? QJsonValue(QJsonValue::Null) : QJsonValue(record.insertion)},
         {QStringLiteral("save"), record.revision},
         {QStringLiteral("schedule"), QString::fromLatin1(record.schedule.toHex())},
-        {QStringLiteral("plannedFrom"), asRunMoment(m_local, record.plannedBegin)},
-        {QStringLiteral("plannedTo"), asRunMoment(m_local, record.plannedEnd)},
+        {QStringLiteral("plannedFrom"),
+         isPicture ? asRunMoment(m_local, record.plannedBegin) : QJsonValue(QJsonValue::Null)},
+        {QStringLiteral("plannedTo"),
+         isPicture ? asRunMoment(m_local, record.plannedEnd) : QJsonValue(QJsonValue::Null)},
         {QStringLiteral("lateMs"), record.late},
         {QStringLiteral("outcome"), record.kind == AsRunKind::ScheduleTaken
                                         ? QJsonValue(QJsonValue::Null)

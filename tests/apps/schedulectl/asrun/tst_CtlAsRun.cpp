@@ -209,6 +209,8 @@ void tst_CtlAsRun::forMachines()
     QCOMPARE(list.size(), 7);
     QCOMPARE(list[0].toObject().value(QStringLiteral("kind")).toString(),
              QStringLiteral("scheduleTaken"));
+    QVERIFY(list[0].toObject().value(QStringLiteral("plannedFrom")).isNull());
+    QVERIFY(list[0].toObject().value(QStringLiteral("plannedTo")).isNull());
     const QJsonObject second = list[2].toObject();
     QCOMPARE(second.value(QStringLiteral("screen")).toString(), kHall);
     QCOMPARE(second.value(QStringLiteral("number")).toInt(), 3);
@@ -239,6 +241,12 @@ void tst_CtlAsRun::forSpreadsheets()
                  "10000,\"News, \"\"late\"\"\",1,playing,asPlanned,1,3,1,1,1,1,,4,")),
              qPrintable(lines[2]));
     QCOMPARE(lines[3].count(QLatin1Char(',')), lines[0].count(QLatin1Char(',')));
+    const QStringList taken = lines[1].split(QLatin1Char(','));
+    QCOMPARE(taken.size(), lines[0].split(QLatin1Char(',')).size());
+    for (const char* const column : {"picture", "shown", "plannedFrom", "plannedTo", "outcome"}) {
+        const int at = lines[0].split(QLatin1Char(',')).indexOf(QLatin1String(column));
+        QVERIFY2(taken.at(at).isEmpty(), column);
+    }
 }
 
 void tst_CtlAsRun::noNameBecomesAFormula_data()
