@@ -81,10 +81,20 @@ function(trel_library name)
     VERSION ${PROJECT_VERSION} SOVERSION ${TREL_ABI_VERSION})
 endfunction()
 
+# trel_ordered_threads(<program>)
+#
+# Lets the thread sanitizer know what the toolkit's mutexes, threads and events put in order.
+function(trel_ordered_threads program)
+  if(TREL_THREAD_SANITIZER)
+    target_link_libraries(${program} PRIVATE toolkit_threads)
+  endif()
+endfunction()
+
 # trel_application(<name> SOURCES ... LINK ...)
 function(trel_application name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
+  trel_ordered_threads(${name})
   target_link_libraries(${name} PRIVATE ${ARG_LINK} trel_strict)
   target_include_directories(${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 endfunction()
@@ -101,16 +111,47 @@ endfunction()
 
 # trel_threads(<Name>...)
 #
-# These classes of tests, of the same folder, have more than one thread at work: scripts/races runs them
-# under the thread sanitizer.
+# These classes of tests have more than one thread at work: scripts/races runs them under the thread
+# sanitizer.
 function(trel_threads)
-  set_tests_properties(${ARGN} PROPERTIES LABELS threads)
+  set_property(GLOBAL APPEND PROPERTY TREL_TESTS_THREADS ${ARGN})
+endfunction()
+
+# trel_own_allocation(<Name>...)
+#
+# These classes of tests put an allocation of their own in the place of the language's, which the thread
+# sanitizer has to itself.
+function(trel_own_allocation)
+  set_property(GLOBAL APPEND PROPERTY TREL_TESTS_OWN_ALLOCATION ${ARGN})
+endfunction()
+
+# trel_list_tests(<file>)
+#
+# A line "class program kind" for each class of tests so far, of the kind "threads", "own-allocation" or
+# "other". CTest knows the program of a class only once that is built.
+function(trel_list_tests file)
+  get_property(tests GLOBAL PROPERTY TREL_TESTS)
+  get_property(threads GLOBAL PROPERTY TREL_TESTS_THREADS)
+  get_property(own_allocation GLOBAL PROPERTY TREL_TESTS_OWN_ALLOCATION)
+  set(lines)
+  foreach(test IN LISTS tests)
+    string(REGEX REPLACE " .*" "" name ${test})
+    set(kind other)
+    if(name IN_LIST threads)
+      set(kind threads)
+    elseif(name IN_LIST own_allocation)
+      set(kind own-allocation)
+    endif()
+    string(APPEND lines "${test} ${kind}\n")
+  endforeach()
+  file(WRITE ${file} "${lines}")
 endfunction()
 
 # trel_test_executable(<target> SOURCES ... LINK ... PRECOMPILE ...)
 function(trel_test_executable target)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK;PRECOMPILE" ${ARGN})
   add_executable(${target} ${ARG_SOURCES})
+  trel_ordered_threads(${target})
   target_link_libraries(${target} PRIVATE ${ARG_LINK} Qt5::Test trel_strict)
   target_include_directories(${target} PRIVATE
     ${PROJECT_SOURCE_DIR}/tests ${CMAKE_CURRENT_SOURCE_DIR})
@@ -126,6 +167,7 @@ endfunction()
 function(trel_test name)
   trel_test_executable(tst_${name} ${ARGN})
   add_test(NAME ${name} COMMAND tst_${name})
+  set_property(GLOBAL APPEND PROPERTY TREL_TESTS "${name} tst_${name}")
   trel_test_environment(${name})
 endfunction()
 
@@ -149,6 +191,7 @@ function(trel_tests program)
     cmake_path(GET path FILENAME name)
     target_sources(${program} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/${room}/tst_${name}.cpp)
     add_test(NAME ${name} COMMAND ${program} ${name})
+    set_property(GLOBAL APPEND PROPERTY TREL_TESTS "${name} ${program}")
     trel_test_environment(${name})
   endforeach()
 endfunction()

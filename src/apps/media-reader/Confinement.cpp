@@ -8,7 +8,7 @@
 #include <sys/prctl.h>
 #include <sys/resource.h>
 
-#if defined(TREL_ADDRESS_SANITIZER)
+#if defined(TREL_ADDRESS_SANITIZER) || defined(TREL_THREAD_SANITIZER)
 #define READER_IS_SANITIZED
 #endif
 

@@ -101,7 +101,7 @@ void tst_ReopenedEditor::isAsLargeAsBefore_data()
 
 void tst_ReopenedEditor::isAsLargeAsBefore()
 {
-#ifdef TREL_ADDRESS_SANITIZER
+#if defined(TREL_ADDRESS_SANITIZER) || defined(TREL_THREAD_SANITIZER)
     QSKIP("What is freed stays with the sanitizer for a while.");
 #endif
     if (bytesInUse() == 0.0) {

@@ -44,7 +44,7 @@ void prepare(QProcess& process, const QString& home)
 QString complaints(const QByteArray& err)
 {
     QString text = QString::fromUtf8(err);
-#ifdef TREL_ADDRESS_SANITIZER
+#if defined(TREL_ADDRESS_SANITIZER) || defined(TREL_THREAD_SANITIZER)
     text.remove(QStringLiteral("Media are read without a filter of system calls, which this system "
                                "or this build does not have; the limits hold.\n"));
 #endif

@@ -82,7 +82,7 @@ void tst_ProgramChooseOpenings::noWindowStays()
 
 void tst_ProgramChooseOpenings::theProcessDoesNotGrow()
 {
-#ifdef TREL_ADDRESS_SANITIZER
+#if defined(TREL_ADDRESS_SANITIZER) || defined(TREL_THREAD_SANITIZER)
     QSKIP("What is freed stays with the sanitizer for a while.");
 #endif
     ChooserFixture fixture;
