@@ -64,8 +64,11 @@ void ScheduleFeed::stop()
 void ScheduleFeed::look()
 {
     if (!m_host->isOpen()) {
-        note(m_host->open(m_store, ScheduleHost::OpenMode::ReadOnly));
-        publishSoon();
+        const StoreResult opened = m_host->open(m_store, ScheduleHost::OpenMode::ReadOnly);
+        note(opened);
+        if (opened) {
+            publishSoon();
+        }
     }
     if (Clock::current().zone() != m_zone) {
         publishSoon();

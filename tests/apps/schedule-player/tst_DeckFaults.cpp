@@ -81,6 +81,7 @@ private slots:
     void playsWhatIsWrittenMeanwhile();
     void goesOnWhereTheMiddleIsDestroyed();
     void clearsWhileItLoads();
+    void tellsWhatCannotBeDrawn();
     void decodesNoPictureThatIsTooLarge_data();
     void decodesNoPictureThatIsTooLarge();
 
@@ -316,6 +317,21 @@ void tst_DeckFaults::clearsWhileItLoads()
         QCOMPARE(ready.count() + failed.count(), told);
         QVERIFY(!screen.first.hasPicture());
     }
+}
+
+void tst_DeckFaults::tellsWhatCannotBeDrawn()
+{
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    QSignalSpy drawingFailed(&screen.first, &PlayerDeck::drawingFailed);
+    // No picture can be that wide.
+    screen.first.setShape({QSize(100'000'000, 1), 0});
+    screen.first.load(filmOf(file("film.mp4")));
+    QTRY_COMPARE(failed.count(), 1);
+    QCOMPARE(faultIn(failed).trouble, DeckTrouble::Unreadable);
+    QCOMPARE(faultIn(failed).words, QStringLiteral("Its pictures cannot be drawn"));
+    QCOMPARE(drawingFailed.count(), 1);
+    QVERIFY(!screen.first.isReady());
 }
 
 void tst_DeckFaults::decodesNoPictureThatIsTooLarge_data()

@@ -43,6 +43,7 @@ private:
 ScreenWishes tst_PlayerGl::wishes(int turned)
 {
     ScreenWishes wishes;
+    wishes.title = QStringLiteral("Lobby");
     wishes.isFullScreen = false;
     wishes.isMute = true;
     wishes.turned = turned;

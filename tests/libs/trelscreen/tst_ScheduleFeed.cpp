@@ -137,6 +137,9 @@ void tst_ScheduleFeed::withoutAStoreNothingIsInEffect()
     QCOMPARE(fed.now().reason, ScreenReason::NoPlanYet);
     QCOMPARE(fed.losses, std::vector<StoreProblem>{StoreProblem::FileMissing});
     QVERIFY(fixture.files().isEmpty());
+    // It is looked for every second, which is nothing to tell of.
+    QVERIFY(!fed.tellsWithin(1500));
+    QCOMPARE(fed.losses.size(), 1U);
 }
 
 void tst_ScheduleFeed::aStoreThatComesLater()
