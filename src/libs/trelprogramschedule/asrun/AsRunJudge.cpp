@@ -7,6 +7,8 @@ namespace trel::mediadispatch {
 namespace {
 
 constexpr std::size_t kMostKept = 1000;
+/// What a kill takes of the records at most, in milliseconds.
+constexpr qint64 kLostByKill = 5000;
 
 using Kind = AsRunDeviation::Kind;
 
@@ -146,8 +148,17 @@ bool AsRunJudge::isExplained(const AsRunStretch* next) const
     if (length <= kShortestSeen) {
         return true;
     }
-    return deviation.kind == Kind::OtherPicture && m_pending->isFormer && next != nullptr &&
-           next->isAsPlanned() && next->planned->since == m_pending->since &&
+    if (deviation.kind != Kind::OtherPicture || !m_pending->isFormer || next == nullptr) {
+        return false;
+    }
+    // What was late, and would have told so, went with a kill.
+    const bool isKilled = next->record != nullptr && next->record->kind == AsRunKind::Gap &&
+                          (next->record->outcome == AsRunOutcome::PlayerWasKilled ||
+                           next->record->outcome == AsRunOutcome::MachineHadStopped);
+    if (isKilled) {
+        return length <= kLostByKill;
+    }
+    return next->isAsPlanned() && next->planned->since == m_pending->since &&
            next->record->begins == next->from &&
            (next->record->shown != AsRunShown::AsPlanned ||
             next->record->late + kShortestSeen >= length);

@@ -107,6 +107,7 @@ void tst_AsRunDatabase::whatIsHandedInTwiceIsTakenOnce()
     fixture.append(sampleRecords(3));
     fixture.append(sampleRecords(4, 1), 2);
     fixture.append(sampleRecords(1, 1), 2);
+    fixture.append(sampleRecords(4, 1), 2);
     const auto read = fixture.read(kAllNumbers);
     QCOMPARE(read.size(), std::size_t(5));
     for (std::size_t at = 0; at < read.size(); ++at) {

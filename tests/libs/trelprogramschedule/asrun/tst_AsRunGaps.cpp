@@ -15,6 +15,7 @@ class tst_AsRunGaps : public QObject
 private slots:
     void aHoleIsNamedOnce();
     void aGapIsAsLongAsItSays();
+    void aLateOneThatWentWithAKill();
     void whatNeverCameIsAGap();
     void aLeapOfTheClockInAGap_data();
     void aLeapOfTheClockInAGap();
@@ -61,6 +62,30 @@ void tst_AsRunGaps::aGapIsAsLongAsItSays()
         QVERIFY2(verdict.isGood(), qPrintable(textOf(verdict)));
         QCOMPARE(verdict.times.gaps, length);
         QCOMPARE(verdict.times.asPlanned, 140'000 - length);
+    }
+}
+
+void tst_AsRunGaps::aLateOneThatWentWithAKill()
+{
+    for (const auto& [late, outcome, isGood] :
+         {std::tuple(46, AsRunOutcome::PlayerWasKilled, true),
+          std::tuple(4900, AsRunOutcome::MachineHadStopped, true),
+          std::tuple(46, AsRunOutcome::PlayerHadEnded, false),
+          std::tuple(5100, AsRunOutcome::PlayerWasKilled, false)}) {
+        std::vector<AsRunRecord> records = plainRecords();
+        // B, which was on until A came late, of which no record is left.
+        QCOMPARE(records[4].program, QStringLiteral("B"));
+        records[4].ends += late;
+        const qint64 length = records[5].ends - records[4].ends;
+        AsRunRecord& gap = records[5];
+        gap.kind = AsRunKind::Gap;
+        gap.outcome = outcome;
+        gap.begins = records[4].ends;
+        AsRunFixture fixture;
+        const AsRunVerdict verdict = verdictOf(records, plainSchedules(), fixture);
+        QVERIFY2(verdict.isGood() == isGood, qPrintable(textOf(verdict)));
+        QCOMPARE(verdict.times.late, isGood ? late : 0);
+        QCOMPARE(verdict.times.gaps, length);
     }
 }
 

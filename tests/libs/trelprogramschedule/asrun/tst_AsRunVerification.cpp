@@ -206,7 +206,7 @@ void tst_AsRunVerification::whatNobodyTellsIsNamed()
         const std::size_t at = places[seed * 7 % places.size()];
         AsRunRecord& record = records[at];
         const AsRunRecord before = record;
-        switch (seed % 6) {
+        switch (seed % 7) {
         case 0:
             record.entry += 1;
             break;
@@ -222,6 +222,9 @@ void tst_AsRunVerification::whatNobodyTellsIsNamed()
             break;
         case 4:
             record.plannedEnd += 100;
+            break;
+        case 5:
+            record.insertion += 1;
             break;
         default:
             records.erase(records.begin() + static_cast<std::ptrdiff_t>(at));
@@ -331,7 +334,11 @@ void tst_AsRunVerification::totalsCountPlaysOnce()
     gap.ends = ends;
     records.insert(records.begin() + 3, {broken, last});
     AsRunFixture fixture;
-    QVERIFY(verdictOf(records, plainSchedules(), fixture).isGood());
+    const AsRunVerdict verdict = verdictOf(records, plainSchedules(), fixture);
+    QVERIFY(verdict.isGood());
+    QCOMPARE(verdict.times.stoodIn, 12'000);
+    QCOMPARE(verdict.times.gaps, ends - begins);
+    QCOMPARE(verdict.times.asPlanned, 140'000 - 12'000 - (ends - begins));
     AsRunTotals totals;
     QVERIFY(compareAsRun(fixture.database, fixture.screen(), kEver, kNever,
                          AsRunComparison::Gaps::ByPlay, [&](const AsRunStretch& stretch) {
