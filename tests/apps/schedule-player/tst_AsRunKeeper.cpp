@@ -232,6 +232,39 @@ private slots:
         QCOMPARE(run.told.count(), 2);
     }
 
+    void aRefusalIsFollowedByAPause()
+    {
+        QFile file(AsRunDatabase::pathFor(store()));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray(5000, 'x'));
+        file.close();
+        {
+            const auto mail = std::make_shared<AsRunMail>();
+            AsRunKeeper keeper(mail, {store(), kScreen, path() + QStringLiteral("/spool/one")},
+                               kBoot, std::chrono::hours(1));
+            keeper.start(pictureOf("", 0, 0).record);
+            QVERIFY(file.remove());
+            mail->post(taking(3, 0));
+            mail->post(pictureOf("A", 0, 100));
+            keeper.work();
+            QVERIFY(!file.exists());
+        }
+        const Run again(path(), 500);
+        QTRY_COMPARE(handedIn().mid(0, 2),
+                     QStringList({QStringLiteral("schedule 3"), QStringLiteral("A 0-100")}));
+    }
+
+    /// It is refused at the end of the handing in, and not when it is opened.
+    void aDatabaseThatIsReplaced()
+    {
+        Run run(path(), 0);
+        run.post({taking(3, 0), pictureOf("A", 0, 100)});
+        QTRY_COMPARE(handedIn().size(), 2);
+        QVERIFY(QFile::remove(AsRunDatabase::pathFor(store())));
+        run.post({pictureOf("B", 100, 200)});
+        QTRY_COMPARE_WITH_TIMEOUT(handedIn(), QStringList(QStringLiteral("B 100-200")), 20000);
+    }
+
     void aSpoolThatCannotBeMade()
     {
         QFile file(path() + QStringLiteral("/spool"));

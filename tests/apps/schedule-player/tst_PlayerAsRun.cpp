@@ -1,7 +1,4 @@
-#include "CtlFixture.h"
-#include "support/NumberedClip.h"
-#include "trelprogramschedule/asrun/AsRunDatabase.h"
-#include "trelprogramschedule/asrun/AsRunVerification.h"
+#include "RecordedPlayer.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,183 +14,11 @@ using namespace trel::mediadispatch;
 
 namespace {
 
-constexpr int kPatience = 20000; // milliseconds, for programs that start on a busy machine
 /// What a kill may cost.
 constexpr qint64 kMostLost = 5000;
 /// Of the long form, by TREL_KILLS: players side by side, and how long one plays at most.
 constexpr int kMostScreens = 8;
 constexpr int kLongestLife = 9000; // milliseconds
-const QString kScreen = QStringLiteral("lobby");
-
-/// A store with two films of 0.6 and 0.8 seconds, which play in turn round and round.
-class Fixture : public CtlFixture
-{
-public:
-    Fixture()
-    {
-        for (const int program : {1, 2}) {
-            media::ClipOrder order;
-            order.program = program;
-            order.frames = 10 + 5 * program;
-            QVERIFY(media::makeClip(film(program), order));
-        }
-        ctl({QStringLiteral("import"), film(1), film(2)});
-        PlayTask task;
-        task.id = 1;
-        task.startDate = "2000.01.01";
-        task.endDate = "2099.12.31";
-        task.plans = {timePlan(1, "00:00:00", "23:59:59", "", 1)};
-        task.plans.front().programs.emplace_back().progIndex = 2;
-        store({{1, task}});
-        ctl({QStringLiteral("start")});
-    }
-
-    QString film(int program) const { return path(QStringLiteral("film%1.mp4").arg(program)); }
-    void ctl(const QStringList& arguments) const
-    {
-        const CtlResult result = onDatabase(arguments);
-        QVERIFY2(result.status == 0, qPrintable(result.err));
-    }
-
-    std::vector<AsRunRecord> records(const QString& screen = kScreen) const
-    {
-        std::vector<AsRunRecord> records;
-        AsRunDatabase asRun;
-        if (asRun.open(AsRunDatabase::pathFor(database()), StoreOpenMode::ReadOnly)) {
-            asRun.visit(screen, {1, 1'000'000}, [&records](const AsRunRecord& record) {
-                records.push_back(record);
-                return true;
-            });
-        }
-        return records;
-    }
-    int count(AsRunKind kind, AsRunOutcome outcome) const
-    {
-        const std::vector<AsRunRecord> all = records();
-        return static_cast<int>(std::count_if(all.begin(), all.end(), [&](const AsRunRecord& one) {
-            return one.kind == kind && one.outcome == outcome;
-        }));
-    }
-};
-
-class PlayerProcess
-{
-public:
-    explicit PlayerProcess(const Fixture& fixture, const QStringList& options = {},
-                           const QString& screen = kScreen)
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        environment.insert(QStringLiteral("XDG_STATE_HOME"), fixture.path(QStringLiteral("state")));
-        m_process.setProcessEnvironment(environment);
-        m_process.setReadChannel(QProcess::StandardError);
-        m_process.start(QStringLiteral(SCHEDULE_PLAYER),
-                        QStringList({QStringLiteral("--database"), fixture.database(),
-                                     QStringLiteral("--screen"), screen, QStringLiteral("--mute"),
-                                     QStringLiteral("--window")}) +
-                            options);
-        m_process.waitForStarted();
-    }
-    ~PlayerProcess() { end(SIGKILL); }
-    Q_DISABLE_COPY(PlayerProcess)
-
-    bool isRunning() const { return m_process.state() != QProcess::NotRunning; }
-    void end(int signal)
-    {
-        if (isRunning()) {
-            ::kill(static_cast<pid_t>(m_process.processId()), signal);
-            m_process.waitForFinished(kPatience);
-        }
-    }
-    QString log()
-    {
-        m_log += QString::fromUtf8(m_process.readAllStandardError());
-        return m_log;
-    }
-    QString howItEnded()
-    {
-        return QStringLiteral("status %1, code %2, error %3: %4")
-            .arg(static_cast<int>(m_process.exitStatus()))
-            .arg(m_process.exitCode())
-            .arg(static_cast<int>(m_process.error()))
-            .arg(log());
-    }
-
-private:
-    QProcess m_process;
-    QString m_log;
-};
-
-/// Each record begins where the one before has ended, and nothing is told twice.
-void expectNoHole(const std::vector<AsRunRecord>& records)
-{
-    for (std::size_t at = 1; at < records.size(); ++at) {
-        const AsRunRecord& former = records[at - 1];
-        const AsRunRecord& next = records[at];
-        const QString place = QStringLiteral("record %1").arg(next.number);
-        QVERIFY2(next.number == former.number + 1, qPrintable(place));
-        QVERIFY2(next.steadyBegin == former.steadyEnd, qPrintable(place));
-        QVERIFY2(next.steadyEnd >= next.steadyBegin, qPrintable(place));
-        QVERIFY2(next.steadyEnd > next.steadyBegin || next.kind != former.kind, qPrintable(place));
-    }
-}
-
-QString textOf(const AsRunRecord& record)
-{
-    return QStringLiteral("\n  %1: kind %2, shown %3, outcome %4, %5 to %6, planned %7 to %8, late "
-                          "%9, entry ")
-               .arg(record.number)
-               .arg(static_cast<int>(record.kind))
-               .arg(static_cast<int>(record.shown))
-               .arg(static_cast<int>(record.outcome))
-               .arg(record.begins)
-               .arg(record.ends)
-               .arg(record.plannedBegin)
-               .arg(record.plannedEnd)
-               .arg(record.late) +
-           QString::number(record.entry) + QLatin1Char(' ') + record.why;
-}
-
-/// What is not explained, with the records about it.
-QString textOf(const AsRunVerdict& verdict, AsRunDatabase& database)
-{
-    QString text = QStringLiteral("%1 breaks, %2 deviations on %3")
-                       .arg(verdict.breakCount)
-                       .arg(verdict.deviationCount)
-                       .arg(verdict.screen.name);
-    for (const AsRunDeviation& deviation : verdict.deviations) {
-        text += QStringLiteral("\n kind %1, %2 to %3")
-                    .arg(static_cast<int>(deviation.kind))
-                    .arg(deviation.from)
-                    .arg(deviation.to);
-        database.visit(verdict.screen.name, {1, verdict.screen.lastNumber},
-                       [&](const AsRunRecord& record) {
-                           constexpr Instant about = 2000;
-                           if (record.ends >= deviation.from - about &&
-                               record.begins <= deviation.to + about) {
-                               text += textOf(record);
-                           }
-                           return true;
-                       });
-    }
-    return text;
-}
-
-/// The chains of all screens are whole, and explain all.
-void expectVerified(const Fixture& fixture)
-{
-    AsRunDatabase database;
-    QVERIFY(database.open(AsRunDatabase::pathFor(fixture.database()), StoreOpenMode::ReadOnly));
-    std::vector<AsRunScreen> screens;
-    QVERIFY(database.screens(screens));
-    QVERIFY(!screens.empty());
-    for (const AsRunScreen& screen : screens) {
-        AsRunVerdict verdict;
-        QVERIFY(verifyAsRun(database, screen, kEver, kNever, verdict));
-        QVERIFY2(verdict.isGood(), qPrintable(textOf(verdict, database)));
-        QVERIFY(verdict.isWhole);
-    }
-}
 
 /// Only the kills have left gaps.
 void expectGaps(const std::vector<AsRunRecord>& records)
@@ -223,7 +48,7 @@ public:
         std::vector<Life> lives;
     };
 
-    Killer(const Fixture& fixture, int screens, int longestLife)
+    Killer(const PlayedFixture& fixture, int screens, int longestLife)
         : m_fixture(fixture)
         , m_longestLife(longestLife)
     {
@@ -297,7 +122,7 @@ private:
                (victim.lives.empty() || records.back().ends > victim.lives.back().killed);
     }
 
-    const Fixture& m_fixture;
+    const PlayedFixture& m_fixture;
     const int m_longestLife;
     std::mt19937 m_random{20};
     std::vector<Victim> m_victims;
@@ -342,7 +167,7 @@ private slots:
 
 void tst_PlayerAsRun::recordsWhatPlays()
 {
-    const Fixture fixture;
+    const PlayedFixture fixture;
     PlayerProcess player(fixture);
     QTRY_VERIFY_WITH_TIMEOUT(fixture.count(AsRunKind::Picture, AsRunOutcome::Complete) >= 4,
                              kPatience);
@@ -369,7 +194,7 @@ void tst_PlayerAsRun::killedAtAnyMoment()
 {
     bool isLong = false;
     const int kills = qEnvironmentVariableIntValue("TREL_KILLS", &isLong);
-    const Fixture fixture;
+    const PlayedFixture fixture;
     Killer killer(fixture, isLong ? kMostScreens : 2, isLong ? kLongestLife : 2500);
     killer.kill(isLong ? kills : 4);
     if (QTest::currentTestFailed()) {
@@ -395,7 +220,7 @@ void tst_PlayerAsRun::killedAtAnyMoment()
 
 void tst_PlayerAsRun::aStoreThatIsTakenAway()
 {
-    const Fixture fixture;
+    const PlayedFixture fixture;
     const QString asRun = AsRunDatabase::pathFor(fixture.database());
     PlayerProcess player(fixture);
     QTRY_VERIFY_WITH_TIMEOUT(!fixture.records().empty(), kPatience);
@@ -420,7 +245,7 @@ void tst_PlayerAsRun::aStoreThatIsTakenAway()
 
 void tst_PlayerAsRun::aFolderForRecordsThatCannotBeMade()
 {
-    const Fixture fixture;
+    const PlayedFixture fixture;
     fixture.writeFile(QStringLiteral("file"), "x");
     PlayerProcess player(fixture,
                          {QStringLiteral("--spool"), fixture.path(QStringLiteral("file"))});
