@@ -73,7 +73,9 @@ void StreamServer::stop()
 
 void StreamServer::goOn()
 {
-    m_server.listen(QHostAddress::LocalHost, m_port);
+    if (!m_server.isListening()) {
+        m_server.listen(QHostAddress::LocalHost, m_port);
+    }
 }
 
 void StreamServer::connected()
