@@ -1,109 +1,13 @@
-#include "CtlFixture.h"
+#include "RecordedFixture.h"
 #include "support/TestProgram.h"
-#include "trelprogramschedule/asrun/AsRunDatabase.h"
-#include "trelprogramschedule/asrun/AsRunSchedule.h"
-#include "trelprogramschedule/dispatch/ScreenTimeline.h"
 
 #include <QDateTime>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QtTest>
 
-#include <sqlite3.h>
-
 using namespace trel::mediadispatch;
-
-namespace {
-
-const QString kHall = QStringLiteral("hall");
-
-/// 2024-01-03 08:00:00 in Berlin.
-constexpr Instant kStart = 1704265200000;
-
-/// Two programs of ten seconds each that take turns, and what a player has shown of them.
-class Fixture : public CtlFixture
-{
-public:
-    explicit Fixture(const std::string& name = "News")
-    {
-        m_schedule.zone = "Europe/Berlin";
-        m_schedule.start = EffectStart{kStart, 4, QStringLiteral("me@here")};
-        PlayPlan plan = timePlan(3, "08:00:00", "09:00:00", "1,2,3,4,5,6,7", 1);
-        plan.programs.push_back(plan.programs.front());
-        plan.programs.back().progIndex = 2;
-        m_schedule.tasks[1] = januaryTask(1, {plan});
-        for (const int index : {1, 2}) {
-            ProgramIten& program = m_schedule.catalogue[index];
-            program.progIndex = index;
-            program.progName = index == 1 ? name : "Weather";
-            program.durationMs = 10'000;
-            program.kind = ProgramKind::Video;
-        }
-        m_contents = asRunContents(m_schedule);
-        AsRunRecord taken;
-        taken.kind = AsRunKind::ScheduleTaken;
-        taken.revision = 4;
-        taken.schedule = asRunScheduleHash(m_contents);
-        taken.begins = taken.ends = kStart;
-        records.push_back(taken);
-        const ScreenTimeline timeline(m_schedule.tasks, m_schedule.catalogue,
-                                      QTimeZone("Europe/Berlin"));
-        timeline.visitPlays(kStart, kStart + 60'000, {}, [&](const ScreenState& state) {
-            add(state);
-            return true;
-        });
-    }
-
-    void hand(const QString& screen = kHall)
-    {
-        AsRunDatabase asRun;
-        QVERIFY(asRun.open(AsRunDatabase::pathFor(database()), StoreOpenMode::CreateIfMissing));
-        QVERIFY(asRun.append(screen, screen.toUtf8(), 1, records, {m_contents}));
-    }
-
-    void tamper(const char* statement) const
-    {
-        sqlite3* handle = nullptr;
-        const QString file = AsRunDatabase::pathFor(database());
-        QCOMPARE(sqlite3_open(file.toUtf8().constData(), &handle), SQLITE_OK);
-        QCOMPARE(sqlite3_exec(handle, statement, nullptr, nullptr, nullptr), SQLITE_OK);
-        sqlite3_close(handle);
-    }
-
-    CtlResult asRun(const QStringList& options = {}) const
-    {
-        return onDatabase(QStringList{QStringLiteral("as-run")} + options);
-    }
-
-    std::vector<AsRunRecord> records;
-
-private:
-    void add(const ScreenState& state)
-    {
-        AsRunRecord record;
-        record.revision = 4;
-        record.schedule = asRunScheduleHash(m_contents);
-        record.picture = state.picture;
-        record.taskId = state.taskId;
-        record.planId = state.planId;
-        record.planRow = state.planRow;
-        record.entry = state.entry;
-        record.play = state.play;
-        record.run = state.run;
-        record.progIndex = state.progIndex;
-        record.program = QString::fromStdString(m_schedule.catalogue.at(state.progIndex).progName);
-        record.plannedBegin = state.since;
-        record.plannedEnd = state.until;
-        record.begins = state.since;
-        record.ends = state.until;
-        records.push_back(record);
-    }
-
-    AsRunSchedule m_schedule;
-    QByteArray m_contents;
-};
-
-} // namespace
 
 /// What the players have had on screen, in the console.
 class tst_CtlAsRun : public QObject
@@ -113,7 +17,9 @@ class tst_CtlAsRun : public QObject
 private slots:
     void aList();
     void aListOfATimeAndAProgram();
+    void whatAClockThatLeaptHasBetween();
     void screensHaveAPartEach();
+    void readingNeedsNoRightToWrite();
     void forMachines();
     void forSpreadsheets();
     void noNameBecomesAFormula_data();
@@ -131,7 +37,7 @@ private slots:
 
 void tst_CtlAsRun::aList()
 {
-    Fixture fixture;
+    RecordedFixture fixture;
     fixture.records[2].late = 120;
     fixture.records[2].begins += 120;
     fixture.records[1].ends += 120;
@@ -168,7 +74,7 @@ void tst_CtlAsRun::aList()
 
 void tst_CtlAsRun::aListOfATimeAndAProgram()
 {
-    Fixture fixture;
+    RecordedFixture fixture;
     fixture.hand();
     const QStringList times = {QStringLiteral("--from"), QStringLiteral("2024-01-03 08:00:15"),
                                QStringLiteral("--to"), QStringLiteral("2024-01-03 08:00:31")};
@@ -186,9 +92,38 @@ void tst_CtlAsRun::aListOfATimeAndAProgram()
              QStringList{QStringLiteral("There is no record of this time.")});
 }
 
+void tst_CtlAsRun::whatAClockThatLeaptHasBetween()
+{
+    RecordedFixture fixture;
+    fixture.records[3].begins -= 3'600'000;
+    fixture.records[3].ends -= 3'600'000;
+    fixture.hand();
+    const QStringList lines =
+        fixture
+            .asRun({QStringLiteral("--from"), QStringLiteral("2024-01-03 08:00:15"),
+                    QStringLiteral("--to"), QStringLiteral("2024-01-03 08:00:45")})
+            .lines();
+    QCOMPARE(lines.size(), 2 + 3);
+    QVERIFY(lines.filter(QStringLiteral("07:00:20")).isEmpty());
+}
+
+void tst_CtlAsRun::readingNeedsNoRightToWrite()
+{
+    RecordedFixture fixture;
+    fixture.hand();
+    const QString file = AsRunDatabase::pathFor(fixture.database());
+    QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
+    for (const char* const option : {"--json", "--csv", "--totals", "--verify"}) {
+        QCOMPARE(fixture.asRun({QLatin1String(option)}).status, 0);
+    }
+    QCOMPARE(fixture.asRun().lines().size(), 2 + 7);
+    QCOMPARE(fixture.asRun({QStringLiteral("--keep"), QStringLiteral("1")}).status, 1);
+    QCOMPARE(fixture.asRun().lines().size(), 2 + 7);
+}
+
 void tst_CtlAsRun::screensHaveAPartEach()
 {
-    Fixture fixture;
+    RecordedFixture fixture;
     fixture.hand();
     fixture.hand(QStringLiteral("bar"));
     QCOMPARE(fixture.asRun().lines().size(), 2 * (2 + 7));
@@ -201,7 +136,7 @@ void tst_CtlAsRun::screensHaveAPartEach()
 
 void tst_CtlAsRun::forMachines()
 {
-    Fixture fixture;
+    RecordedFixture fixture;
     fixture.records[2].why = QStringLiteral("odd \"one\"");
     fixture.hand();
     const QJsonArray list =
@@ -230,7 +165,7 @@ void tst_CtlAsRun::forMachines()
 
 void tst_CtlAsRun::forSpreadsheets()
 {
-    Fixture fixture;
+    RecordedFixture fixture;
     fixture.records[1].program = QStringLiteral("News, \"late\"");
     fixture.hand();
     const QStringList lines = fixture.asRun({QStringLiteral("--csv")}).lines();
@@ -272,7 +207,7 @@ void tst_CtlAsRun::noNameBecomesAFormula()
 {
     QFETCH(const QString, name);
     QFETCH(const QString, field);
-    Fixture fixture;
+    RecordedFixture fixture;
     fixture.records[1].program = name;
     fixture.hand();
     const QStringList list = fixture.asRun({QStringLiteral("--csv")}).lines();
@@ -286,7 +221,7 @@ void tst_CtlAsRun::noNameBecomesAFormula()
 void tst_CtlAsRun::namesDoNotReachTheTerminal()
 {
     const std::string name = "\x1b[2Jbad\nScreen";
-    Fixture fixture(name);
+    RecordedFixture fixture(name);
     fixture.records[1].why = QStringLiteral("\x1b]0;x\x07");
     fixture.hand(QStringLiteral("ha\x1bll"));
     for (const char* const option : {"", "--csv", "--json", "--totals", "--verify"}) {
@@ -302,7 +237,7 @@ void tst_CtlAsRun::namesDoNotReachTheTerminal()
 
 void tst_CtlAsRun::totals()
 {
-    Fixture fixture;
+    RecordedFixture fixture;
     fixture.records[3].shown = AsRunShown::StandBy;
     fixture.hand();
     const CtlResult result = fixture.asRun({QStringLiteral("--totals")});
@@ -334,7 +269,7 @@ void tst_CtlAsRun::totals()
 
 void tst_CtlAsRun::verifiedAndWhole()
 {
-    Fixture fixture;
+    RecordedFixture fixture;
     fixture.hand();
     const CtlResult result = fixture.asRun({QStringLiteral("--verify")});
     QCOMPARE(result.status, 0);
@@ -350,7 +285,7 @@ void tst_CtlAsRun::verifiedAndWhole()
 
 void tst_CtlAsRun::tamperedWith()
 {
-    Fixture fixture;
+    RecordedFixture fixture;
     fixture.hand();
     fixture.tamper(
         "UPDATE record SET late = 7 WHERE number = 3; DELETE FROM record WHERE number = 6");
@@ -374,7 +309,7 @@ void tst_CtlAsRun::tamperedWith()
 
 void tst_CtlAsRun::unexplained()
 {
-    Fixture fixture;
+    RecordedFixture fixture;
     fixture.records[2].progIndex = 1;
     fixture.records[2].program = QStringLiteral("News");
     fixture.hand();
@@ -389,7 +324,7 @@ void tst_CtlAsRun::unexplained()
 
 void tst_CtlAsRun::oldOnesAreRemoved()
 {
-    Fixture fixture;
+    RecordedFixture fixture;
     const Instant now = QDateTime::currentMSecsSinceEpoch();
     AsRunRecord recent = fixture.records.back();
     recent.begins = now - 1000;
@@ -408,7 +343,7 @@ void tst_CtlAsRun::oldOnesAreRemoved()
 
 void tst_CtlAsRun::nothingRecordedYet()
 {
-    Fixture fixture;
+    RecordedFixture fixture;
     const CtlResult result = fixture.asRun();
     QCOMPARE(result.status, 1);
     QVERIFY(result.err.contains(QStringLiteral("A player makes it when it shows the schedule.")));
@@ -435,7 +370,7 @@ void tst_CtlAsRun::misuse_data()
 void tst_CtlAsRun::misuse()
 {
     QFETCH(const QStringList, options);
-    Fixture fixture;
+    RecordedFixture fixture;
     fixture.hand();
     const CtlResult result = fixture.asRun(options);
     QCOMPARE(result.status, 2);
