@@ -74,7 +74,7 @@ public:
         : keeper(
               mail,
               {folder + QStringLiteral("/store"), kScreen, folder + QStringLiteral("/spool/one")},
-              boot)
+              boot, std::chrono::milliseconds(100))
         , told(&keeper, &AsRunKeeper::told)
     {
         keeper.start(pictureOf("", begin, begin).record);
