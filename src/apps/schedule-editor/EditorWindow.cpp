@@ -242,6 +242,17 @@ void EditorWindow::updateCatalogue()
     m_table->setVisible(!empty);
 }
 
+void EditorWindow::showReplacedSchedule()
+{
+    if (m_editor.isVisible()) {
+        m_editor.clearAndInitialize();
+    } else {
+        // The cards of the former schedule would answer what is told of the new one, and file their
+        // tasks in it. They come when the editor is shown.
+        emit m_editor.sigclearPlanList();
+    }
+}
+
 QString EditorWindow::openDatabase(const QString& path, const QString& demonstration)
 {
     const bool isNew = !QFileInfo::exists(path);
@@ -251,9 +262,7 @@ QString EditorWindow::openDatabase(const QString& path, const QString& demonstra
     }
     updateTitle();
     updateCatalogue();
-    if (m_editor.isVisible()) {
-        m_editor.clearAndInitialize();
-    }
+    showReplacedSchedule();
     if (m_asRun != nullptr) {
         m_asRun->setStore(ScheduleHost::instance().path());
     }
@@ -353,9 +362,7 @@ void EditorWindow::importSchedule()
         tell(problems::sentence(result));
         return;
     }
-    if (m_editor.isVisible()) {
-        m_editor.clearAndInitialize();
-    }
+    showReplacedSchedule();
 }
 
 void EditorWindow::removeSelectedPrograms()

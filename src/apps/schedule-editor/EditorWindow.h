@@ -79,6 +79,7 @@ private:
     void chooseFolder();
     void exportSchedule();
     void importSchedule();
+    void showReplacedSchedule();
     void removeSelectedPrograms();
     void showAsRun();
     void finishImport();

@@ -74,6 +74,10 @@ PlayTask scheduleManage::getTask(int taskId)
 
 void scheduleManage::addTask(const PlayTask& task)
 {
+    // A card whose task has gone reads the answer to an unknown id, and files that.
+    if (task == PlayTask()) {
+        return;
+    }
     // Cards file their whole tasks whenever they work out collisions, mostly as they were.
     if (d->state.tasks.putTask(task)) {
         d->service.noteWorkingSet();

@@ -20,6 +20,7 @@ private slots:
     void editsStayOutOfTheStoredSet();
     void deletingAnUnknownTaskDoesNothing();
     void unknownTaskIsADefaultRecord();
+    void theAnswerToAnUnknownTaskIsNotFiled();
     void getPlanTellsThePosition();
     void unknownPlanLeavesTheIndex();
     void addPlanReplacesOrAppends();
@@ -88,6 +89,17 @@ void tst_scheduleManage::unknownTaskIsADefaultRecord()
 {
     StoreFixture store;
     QVERIFY(store.manager.getTask(44) == PlayTask());
+}
+
+void tst_scheduleManage::theAnswerToAnUnknownTaskIsNotFiled()
+{
+    StoreFixture store;
+    store.manager.addTask(store.manager.getTask(5));
+    QVERIFY(store.manager.getAllTask().empty());
+    PlayTask dated;
+    dated.startDate = "2030.01.01";
+    store.manager.addTask(dated);
+    QVERIFY(store.manager.getTask(-1) == dated);
 }
 
 void tst_scheduleManage::getPlanTellsThePosition()

@@ -47,6 +47,7 @@ public:
     /// A copy of one task of the working set; a default record when there is none.
     PlayTask getTask(int taskId);
     /// Files the task under its id in the working set, replacing the whole record that stood there.
+    /// The record that getTask() returns where there is no task need not be filed.
     void addTask(const PlayTask& task);
     /// Removes a task from the working set; an unknown id changes nothing.
     void deleteTask(int taskId);
