@@ -28,6 +28,21 @@ tessark::trans::Translator& translator()
     return ProgramSheduleWidgetTranslateManager::instance().translator();
 }
 
+/// The editor that was shown last: the working set, of which a process has one, is that of its
+/// cards.
+QPointer<scheduleControlUI>& editorInWork()
+{
+    static QPointer<scheduleControlUI> editor;
+    return editor;
+}
+
+/// The other editor that is at work; null where there is none.
+scheduleControlUI* editorInTheWay(const scheduleControlUI* of)
+{
+    scheduleControlUI* const last = editorInWork();
+    return last != of && last != nullptr && last->isVisible() ? last : nullptr;
+}
+
 } // namespace
 
 scheduleControlUI::scheduleControlUI(QWidget* parent)
@@ -78,6 +93,12 @@ void scheduleControlUI::connectAll()
 
 void scheduleControlUI::clearAndInitialize()
 {
+    if (scheduleControlUI* const other = editorInTheWay(this)) {
+        // It is the other's edits that are dropped. This one reads when it is shown.
+        other->clearAndInitialize();
+        return;
+    }
+    editorInWork() = this;
     const QPointer<scheduleControlUI> self(this);
     emit sigclearPlanList();
     scheduleManage::getInstance().resetUiTask();
@@ -148,13 +169,23 @@ void scheduleControlUI::slotShow(bool bUpdatePlanList)
     if (isLocked()) {
         return;
     }
+    if (scheduleControlUI* const other = editorInTheWay(this)) {
+        qWarning("A schedule editor is not shown, as another one of this process is open.");
+        other->setWindowState(other->windowState() & ~Qt::WindowMinimized);
+        other->raise();
+        other->activateWindow();
+        return;
+    }
     // Pending events are handled while the list is built.
     const QPointer<scheduleControlUI> self(this);
+    // What the cards of this one show may not be the working set any more.
+    const bool wasOther = editorInWork() != nullptr && editorInWork() != this;
+    editorInWork() = this;
     if (!isVisible()) {
         show();
         showNormal();
         raise();
-        if (bUpdatePlanList) {
+        if (bUpdatePlanList || wasOther) {
             emit signalUpdatePlanList();
         }
     }

@@ -30,6 +30,11 @@ class centerWidget;
 /// 5. calls translate(), now and after every switchLanguage() to come,
 /// 6. calls slotShow(), a second or more after the window was built,
 /// 7. calls clearAndInitialize() whenever the stored schedule was replaced from outside.
+///
+/// A process has one working set, and so one editor at work. While one is visible, slotShow() of
+/// another raises that one, with a warning on the debug stream, and shows nothing; and
+/// clearAndInitialize() of another is that of the visible one. An editor that is shown after
+/// another one reads the list again in any case.
 class TRELPROGRAMSCHEDULEWIDGETS_EXPORT scheduleControlUI : public widgets::Dialog
 {
     Q_OBJECT
