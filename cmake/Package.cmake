@@ -12,8 +12,10 @@ foreach(library IN LISTS libraries)
 endforeach()
 # A tree that can be moved, but for the system's own, whose libraries the loader finds by itself.
 if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
-  set_target_properties(schedule-editor schedulectl schedule-player PROPERTIES
-    INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  if(TREL_BUILD_PROGRAMS)
+    set_target_properties(schedule-editor schedulectl schedule-player PROPERTIES
+      INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  endif()
   set_target_properties(trelprogramschedulewidgets trelprogramschedule PROPERTIES
     INSTALL_RPATH "$ORIGIN")
 endif()
@@ -26,10 +28,12 @@ foreach(library IN LISTS libraries)
   install(TARGETS ${library} EXPORT trelTargets
     LIBRARY COMPONENT ${component} NAMELINK_COMPONENT development)
 endforeach()
-install(TARGETS schedule-editor EXPORT trelTargets COMPONENT editor)
-install(TARGETS schedulectl EXPORT trelTargets COMPONENT console)
-# A program alone: what it links must not become a part of a host.
-install(TARGETS schedule-player COMPONENT player)
+if(TREL_BUILD_PROGRAMS)
+  install(TARGETS schedule-editor EXPORT trelTargets COMPONENT editor)
+  install(TARGETS schedulectl EXPORT trelTargets COMPONENT console)
+  # A program alone: what it links must not become a part of a host.
+  install(TARGETS schedule-player COMPONENT player)
+endif()
 # Beside the library that starts it. Hosts that carry their libraries with them take it from
 # $<TARGET_FILE:trel::media-reader>.
 install(TARGETS media-reader EXPORT trelTargets
@@ -77,6 +81,8 @@ install_headers(schedulecontract src/libs/trelprogramschedulewidgets
   service/TimeText.h
   service/WeekDays.h
   service/scheduleManage.h)
+install(FILES ${CMAKE_BINARY_DIR}/exports/service/Version.h
+  DESTINATION ${include_dir}/service COMPONENT development)
 install_headers(trelprogramschedule src/libs
   trelprogramschedule/catalogue/ProgramImporter.h
   trelprogramschedule/ScheduleHost.h
@@ -99,16 +105,18 @@ install_headers(trelprogramschedule src/libs
 install_headers(trelprogramschedulewidgets src/libs/trelprogramschedulewidgets
   ProgramSheduleWidgetTranslateManager.h
   scheduleControlUI.h)
-install(DIRECTORY resources/demonstration
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME} COMPONENT data
-  PATTERN make-media EXCLUDE)
+if(TREL_BUILD_PROGRAMS)
+  install(DIRECTORY resources/demonstration
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME} COMPONENT data
+    PATTERN make-media EXCLUDE)
+endif()
 
 set(language_dir ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME}/languages)
 configure_package_config_file(
   cmake/${PROJECT_NAME}Config.cmake.in
   ${CMAKE_BINARY_DIR}/${PROJECT_NAME}Config.cmake
   INSTALL_DESTINATION ${package_dir}
-  PATH_VARS language_dir)
+  PATH_VARS language_dir include_dir)
 write_basic_package_version_file(
   ${CMAKE_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
   COMPATIBILITY SameMinorVersion)

@@ -14,6 +14,7 @@ run(${CMAKE_COMMAND} -S ${SURFACE} -B ${WORK}/surface -G Ninja
   -DCMAKE_CXX_COMPILER=${COMPILER})
 run(${CMAKE_COMMAND} --build ${WORK}/surface)
 run(${WORK}/surface/surface OUTPUT "All there")
+run(${WORK}/surface/surface OUTPUT "Version: [0-9.]+, as compiled")
 run(${WORK}/surface/surface OUTPUT "Languages: [^\n]*/installed/share/[a-z]+/languages\n")
 
 run(${CMAKE_COMMAND} -S ${SNIPPETS} -B ${WORK}/snippets -G Ninja -DDOCUMENT=${DOCUMENT}
@@ -75,6 +76,26 @@ if(NOT count EQUAL 1)
   message(FATAL_ERROR "One program that reads media is expected, and not: ${readers}")
 endif()
 get_filename_component(library_dir ${readers}/../.. ABSOLUTE)
+
+# A host with a service, a sheet and a language of its own, from the tree as it lies now.
+set(own ${WORK}/own-service)
+run(${CMAKE_COMMAND} -S ${OWN_EXAMPLE} -B ${own} -G Ninja
+  -DCMAKE_PREFIX_PATH=${WORK}/moved "-DCMAKE_CXX_FLAGS=${FLAGS} -Wall -Wextra -Werror"
+  -DCMAKE_CXX_COMPILER=${COMPILER})
+run(${CMAKE_COMMAND} --build ${own})
+run(ldd ${own}/own-service OUTPUT libtrelprogramschedulewidgets WITHOUT "libtrelprogramschedule\\.so")
+run(${own}/own-service STATUS 2 OUTPUT "schedule")
+run(${own}/own-service ${WORK}/none.json STATUS 1 OUTPUT "none.json")
+run(${own}/own-service --picture ${own}/picture.png ${OWN_EXAMPLE}/station.json OUTPUT "Palinsesto")
+if(NOT EXISTS ${own}/picture.png)
+  message(FATAL_ERROR "The host has saved no picture")
+endif()
+run(${CMAKE_COMMAND} -S ${OWN_TEST} -B ${own}/test -G Ninja -DEXAMPLE=${OWN_EXAMPLE}
+  -DCMAKE_PREFIX_PATH=${WORK}/moved "-DCMAKE_CXX_FLAGS=${FLAGS} -Wall -Wextra -Werror"
+  -DCMAKE_CXX_COMPILER=${COMPILER})
+run(${CMAKE_COMMAND} --build ${own}/test)
+run(${own}/test/tst_OwnService)
+
 set(import ${WORK}/moved/bin/schedulectl import --database ${WORK}/media.db)
 run(${import} ${MEDIA}/Opening.mp4 OUTPUT "Opening +video +0:00:12.000")
 

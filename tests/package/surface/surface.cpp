@@ -18,6 +18,7 @@
 #include <service/TaskPeriods.h>
 #include <service/TaskPlans.h>
 #include <service/TimeText.h>
+#include <service/Version.h>
 #include <service/WeekDays.h>
 #include <service/scheduleManage.h>
 #include <trelprogramschedule/ScheduleHost.h>
@@ -39,6 +40,7 @@
 
 #include <cstddef>
 #include <iostream>
+#include <string>
 
 using namespace trel::mediadispatch;
 
@@ -77,13 +79,16 @@ int main()
         static_cast<QString (*)(const ScheduleFromJson&)>(&englishText), &exceedsDay, &faultName,
         &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm, &holdsAsInvalid,
         &insertedPlan, &insertionScope, &isInvalidReadBack, &tessark::trans::isLanguageFile,
-        &joinWeeks, &lastPlanWithId, &listFromRow, &mediaReading, &namesAnyDay, &nextClockChanges,
+        &joinWeeks, &lastPlanWithId, &listFromRow, &loadedVersion, &mediaReading, &namesAnyDay, &nextClockChanges,
         &nextPlanId, &offeredPrograms, &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd,
         &planTemplate, &programListText, &programText, &programVerdict,
         &tessark::trans::readLanguageFile, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
         &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleFromJson, &scheduleToJson,
         &shownAddress, &storeProblemName, &timeFromText, &timeToText, &totalText,
         &tessark::trans::translate, &weeksOverlap, &writeScheduleFile);
+    static_assert(TREL_VERSION >= TREL_VERSION_CHECK(0, 2, 0));
+    std::cout << "Version: " << loadedVersion()
+              << (std::string(loadedVersion()) == TREL_VERSION_STRING ? ", as compiled\n" : "\n");
     std::cout << "Languages: "
               << ProgramSheduleWidgetTranslateManager::languageFolder().toStdString() << '\n';
     std::cout << (areClassesThere && areFunctionsThere ? "All there\n" : "Something is missing\n");
