@@ -1,4 +1,6 @@
 # Removes the files that MANIFEST lists, a line each, and the folders that are empty then.
+cmake_minimum_required(VERSION 3.25)
+
 if(NOT EXISTS ${MANIFEST})
   message(FATAL_ERROR "Nothing was installed from here: there is no ${MANIFEST}")
 endif()

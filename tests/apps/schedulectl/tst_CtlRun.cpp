@@ -117,9 +117,10 @@ void tst_CtlRun::endsCleanlyOnASignal()
     Run run;
     m_fixture->start(run.process, words("run"));
     const QString line = QString::fromUtf8(run.line());
-    QVERIFY2(line.endsWith(QStringLiteral("  black screen until further notice. No plan has started "
-                                          "yet.\n")),
-             qPrintable(line));
+    QVERIFY2(
+        line.endsWith(QStringLiteral("  black screen until further notice. No plan has started "
+                                     "yet.\n")),
+        qPrintable(line));
     QCOMPARE(::kill(static_cast<pid_t>(run.process.processId()), number), 0);
     QVERIFY(run.process.waitForFinished(kPatience));
     QCOMPARE(run.process.exitStatus(), QProcess::NormalExit);
