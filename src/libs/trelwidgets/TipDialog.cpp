@@ -33,16 +33,16 @@ bool canBeBelow(const QWidget* window)
            (window->windowType() == Qt::Window || window->windowType() == Qt::Dialog);
 }
 
-/// The youngest window in sight; none when the application shows no window.
-QWidget* youngestWindow()
+/// The youngest window in sight besides the prompt; none when the application shows no other.
+QWidget* youngestWindow(const QWidget& prompt)
 {
     QWidget* youngest = nullptr;
     const QWindowList windows = QGuiApplication::topLevelWindows();
     const QWidgetList widgets = QApplication::topLevelWidgets();
     for (const QWindow* const window : windows) {
         const auto found =
-            std::find_if(widgets.begin(), widgets.end(), [window](const QWidget* widget) {
-                return widget->windowHandle() == window && canBeBelow(widget);
+            std::find_if(widgets.begin(), widgets.end(), [window, &prompt](const QWidget* widget) {
+                return widget != &prompt && widget->windowHandle() == window && canBeBelow(widget);
             });
         if (found != widgets.end()) {
             youngest = *found;
@@ -62,7 +62,7 @@ QWidget* windowBelow(const QWidget& prompt)
     }
     // Right after another dialog has closed, the system has yet to name the next active window.
     QWidget* const active = QApplication::activeWindow();
-    return canBeBelow(active) ? active : youngestWindow();
+    return canBeBelow(active) ? active : youngestWindow(prompt);
 }
 
 bool isHeldDown(QEvent* event)
@@ -94,6 +94,17 @@ public:
             buttons[i] = makeButton(static_cast<int>(i) + 1);
         }
         layOut();
+    }
+
+    /// A window that ends while the prompt waits, as that of a progress does, leaves it to another.
+    void belongTo(const QWidget& below)
+    {
+        q->windowHandle()->setTransientParent(below.windowHandle());
+        connect(below.windowHandle(), &QObject::destroyed, q, [this] {
+            if (const QWidget* const next = youngestWindow(*q)) {
+                belongTo(*next);
+            }
+        });
     }
 
     void showIcon()
@@ -238,7 +249,7 @@ PromptBoxTriggerInfo TipDialog::run()
     if (below && !parentWidget()) {
         // A window manager keeps the prompt above the window that it belongs to.
         winId();
-        windowHandle()->setTransientParent(below->windowHandle());
+        d->belongTo(*below);
     }
     exec();
     delete self.data();

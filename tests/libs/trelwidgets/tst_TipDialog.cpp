@@ -11,6 +11,9 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <memory>
+#include <vector>
+
 using trel::widgets::Dialog;
 using trel::widgets::TipDialog;
 
@@ -69,6 +72,7 @@ private slots:
     void standsOverTheActiveWindow();
     void standsOverTheYoungestWindowWhenNoneIsActive();
     void staysOnTheScreen();
+    void belongsToAnotherWindowWhenTheOneBelowEnds();
     void takesTheTitleOfTheWindowBelow();
     void growsWithItsText();
     void showsMarkupAsItStands();
@@ -304,6 +308,32 @@ void TestTipDialog::standsOverTheYoungestWindowWhenNoneIsActive()
         prompt->close();
     });
     QCOMPARE(below, window.windowHandle());
+}
+
+void TestTipDialog::belongsToAnotherWindowWhenTheOneBelowEnds()
+{
+    QWidget window;
+    window.show();
+    auto progress = std::make_unique<QDialog>(&window);
+    progress->setWindowModality(Qt::WindowModal);
+    progress->show();
+    auto later = std::make_unique<QDialog>(&window);
+    QVERIFY(QTest::qWaitForWindowExposed(progress.get()));
+    TipDialog* prompt = makePrompt();
+    std::vector<QWindow*> below;
+    runAnd(prompt, [&] {
+        below.push_back(prompt->windowHandle()->transientParent());
+        later->show();
+        progress.reset();
+        below.push_back(prompt->windowHandle()->transientParent());
+        later.reset();
+        below.push_back(prompt->windowHandle()->transientParent());
+        prompt->close();
+    });
+    QCOMPARE(below.size(), std::size_t(3));
+    QVERIFY(below[0] != nullptr && below[0] != window.windowHandle());
+    QVERIFY(below[1] != nullptr && below[1] != window.windowHandle());
+    QCOMPARE(below[2], window.windowHandle());
 }
 
 void TestTipDialog::staysOnTheScreen()
