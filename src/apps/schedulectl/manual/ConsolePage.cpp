@@ -80,6 +80,8 @@ QString consolePage(const std::vector<Command>& commands, const ManualPage::Pack
     page.section(QStringLiteral("FILES"));
     page.item(QLatin1String(kDatabase), QStringLiteral("The user's own schedule, in "
                                                        "$XDG_DATA_HOME where that is set."));
+    page.item(QLatin1String(kDatabase) + QStringLiteral("-as-run"),
+              QStringLiteral("What was on the screens of this schedule, beside each database."));
     page.section(QStringLiteral("SEE ALSO"));
     page.raw(QStringLiteral(".BR schedule\\-editor (1),\n.BR schedule\\-player (1)\n"));
     return page.page();
