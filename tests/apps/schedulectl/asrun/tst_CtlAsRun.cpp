@@ -325,10 +325,10 @@ void tst_CtlAsRun::unexplained()
 void tst_CtlAsRun::oldOnesAreRemoved()
 {
     RecordedFixture fixture;
-    const Instant now = QDateTime::currentMSecsSinceEpoch();
+    constexpr qint64 day = 86'400'000;
     AsRunRecord recent = fixture.records.back();
-    recent.begins = now - 1000;
-    recent.ends = now;
+    recent.begins = QDateTime::currentMSecsSinceEpoch() - 29 * day;
+    recent.ends = recent.begins + 1000;
     fixture.records.push_back(recent);
     fixture.hand();
     const CtlResult result = fixture.asRun({QStringLiteral("--keep"), QStringLiteral("30")});
