@@ -88,7 +88,9 @@ void AsRunJudge::addRecord(const AsRunStretch& stretch)
     }
     const ScreenState* const planned = stretch.planned;
     // What goes on was planned by what came before.
-    const bool goesOn = m_outcome == AsRunOutcome::GoesOn || m_outcome == AsRunOutcome::CutByClock;
+    const bool goesOn = m_outcome == AsRunOutcome::GoesOn ||
+                        m_outcome == AsRunOutcome::CutByClock ||
+                        m_outcome == AsRunOutcome::MachineHadSlept;
     if (isSaidOfPlan && !goesOn && planned->isPlaying() &&
         planned->until - planned->since >= kShortestSeen &&
         (!isNear(planned->since, record.plannedBegin) ||

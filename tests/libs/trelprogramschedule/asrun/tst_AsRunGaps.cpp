@@ -16,6 +16,7 @@ private slots:
     void aHoleIsNamedOnce();
     void aGapIsAsLongAsItSays();
     void aLateOneThatWentWithAKill();
+    void whatGoesOnBehindASleep();
     void whatNeverCameIsAGap();
     void aLeapOfTheClockInAGap_data();
     void aLeapOfTheClockInAGap();
@@ -86,6 +87,31 @@ void tst_AsRunGaps::aLateOneThatWentWithAKill()
         QVERIFY2(verdict.isGood() == isGood, qPrintable(textOf(verdict)));
         QCOMPARE(verdict.times.late, isGood ? late : 0);
         QCOMPARE(verdict.times.gaps, length);
+    }
+}
+
+void tst_AsRunGaps::whatGoesOnBehindASleep()
+{
+    for (const auto& [outcome, isGood] : {std::pair(AsRunOutcome::MachineHadSlept, true),
+                                          std::pair(AsRunOutcome::PlayerWasKilled, false)}) {
+        std::vector<AsRunRecord> records = plainRecords();
+        AsRunRecord before = records[3];
+        before.ends = before.begins + 3000;
+        before.outcome = AsRunOutcome::CutByClock;
+        AsRunRecord gap;
+        gap.kind = AsRunKind::Gap;
+        gap.outcome = outcome;
+        gap.schedule = before.schedule;
+        gap.begins = before.ends;
+        gap.ends = gap.begins + 2000;
+        // It was planned for other times when it began.
+        records[3].plannedBegin -= 100;
+        records[3].begins = gap.ends;
+        records.insert(records.begin() + 3, {before, gap});
+        AsRunFixture fixture;
+        const AsRunVerdict verdict = verdictOf(records, plainSchedules(), fixture);
+        QVERIFY2(verdict.isGood() == isGood, qPrintable(textOf(verdict)));
+        QCOMPARE(verdict.times.gaps, 2000);
     }
 }
 
