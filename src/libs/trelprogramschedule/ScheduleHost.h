@@ -37,6 +37,7 @@ class TRELPROGRAMSCHEDULE_EXPORT ScheduleHost : public QObject
     Q_OBJECT
 
 public:
+    /// How open() takes a file that is missing, or may not be written.
     using OpenMode = StoreOpenMode;
 
     /// The one instance, beside scheduleManage::getInstance().
@@ -66,6 +67,7 @@ public:
     /// Forgets the store and everything read from it. What was not saved is lost. A schedule in
     /// effect stops here; in the store it stays in effect.
     void close();
+    /// Whether a store is open.
     bool isOpen() const;
     /// Absolute path of the open store; empty when none is.
     QString path() const;

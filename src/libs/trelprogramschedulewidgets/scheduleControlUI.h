@@ -40,6 +40,7 @@ class TRELPROGRAMSCHEDULEWIDGETS_EXPORT scheduleControlUI : public widgets::Dial
     Q_OBJECT
 
 public:
+    /// Builds the window, hidden and without cards.
     explicit scheduleControlUI(QWidget* parent = nullptr);
     ~scheduleControlUI() override;
 

@@ -13,9 +13,11 @@ class TRELWIDGETS_EXPORT ComboBox : public QComboBox
     Q_OBJECT
 
 public:
+    /// An empty box.
     explicit ComboBox(QWidget* parent = nullptr);
 
 protected:
+    /// Leaves the wheel to what the box stands in.
     void wheelEvent(QWheelEvent* event) override;
 };
 

@@ -28,9 +28,11 @@ namespace trel::widgets {
 class TRELWIDGETS_EXPORT Dialog : public QDialog
 {
     Q_OBJECT
+    /// See setAcceptsByKey().
     Q_PROPERTY(bool acceptsByKey READ acceptsByKey WRITE setAcceptsByKey)
 
 public:
+    /// A dialog with its title bar and an empty content.
     explicit Dialog(QWidget* parent = nullptr);
     ~Dialog() override;
 
@@ -50,6 +52,7 @@ public:
     /// Whether Control with Return or Enter emits signalAccept(). Off by default: a receiver that
     /// has not asked for the key hears of it only when somebody else emits the signal.
     void setAcceptsByKey(bool accepts);
+    /// See setAcceptsByKey().
     bool acceptsByKey() const;
 
     /// Ends a dialog that is not shown again but has to stay, as its parent's or others' object:
@@ -65,6 +68,7 @@ Q_SIGNALS:
     void signalAccept();
 
 protected:
+    /// See the keys above.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

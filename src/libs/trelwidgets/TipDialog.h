@@ -33,6 +33,7 @@ class TRELWIDGETS_EXPORT TipDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// What a prompt is for, which decides on its sign and its buttons.
     enum TipType {
         Notice = 0,       ///< Something was refused.
         Confirmation = 1, ///< Something is about to be done.
@@ -51,7 +52,9 @@ public:
     PromptBoxTriggerInfo run();
 
 protected:
+    /// Fits icon and text to another style, font or palette.
     void changeEvent(QEvent* event) override;
+    /// Keeps keys that are held down from its buttons.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -17,23 +17,23 @@ struct MediaSource
 {
     QString
         name; ///< As it will be shown: the file's base name, or the address without its password.
-    QString path;            ///< Absolute and clean, or the address of a live source.
-    double durationMs = 0.0; ///< 0 for images and live sources.
-    ProgramKind kind = ProgramKind::Other;
+    QString path;                          ///< Absolute and clean, or the address of a live source.
+    double durationMs = 0.0;               ///< 0 for images and live sources.
+    ProgramKind kind = ProgramKind::Other; ///< What it is made of.
 };
 
 /// A path that could not become a program.
 struct ImportRefusal
 {
-    QString path;
-    Fault fault; ///< Why.
+    QString path; ///< The file or address.
+    Fault fault;  ///< Why.
 };
 
 /// What a scan found.
 struct ImportScan
 {
-    std::vector<MediaSource> sources; ///< In the order of the paths; folders by name.
-    std::vector<ImportRefusal> refusals;
+    std::vector<MediaSource> sources;    ///< In the order of the paths; folders by name.
+    std::vector<ImportRefusal> refusals; ///< In the order of the sources.
     bool cancelled = false; ///< The caller ended it; sources and refusals are incomplete.
 };
 

@@ -25,16 +25,18 @@ enum class ClockChangeKind {
 /// stands as two, one for each day.
 struct ClockChange
 {
-    QDate date;
-    ClockChangeKind kind = ClockChangeKind::LeftOut;
-    int begin = 0; ///< Second of the local day.
-    int end = 0;   ///< The same, not included any more; 86400 at the end of the day.
+    QDate date;                                      ///< Local.
+    ClockChangeKind kind = ClockChangeKind::LeftOut; ///< What the clock does.
+    int begin = 0;                                   ///< Second of the local day.
+    int end = 0; ///< The same, not included any more; 86400 at the end of the day.
     /// When the clock is put: the first instant that shows the new time.
     Instant moment = 0;
 
+    /// Whether the local clock leaves the time out, and does not show it twice.
     bool isLeftOut() const { return kind == ClockChangeKind::LeftOut; }
 };
 
+/// Whether all fields are the same.
 inline bool operator==(const ClockChange& a, const ClockChange& b)
 {
     return std::tie(a.date, a.kind, a.begin, a.end, a.moment) ==
@@ -61,13 +63,14 @@ enum class ClockChangeEffect {
 /// A plan that shares time with a change.
 struct TouchedPlan
 {
-    int planId = 0;
-    int row = 0;   ///< In its task, from 0.
-    int begin = 0; ///< Its span, the end as it is in force: seconds of the local day.
-    int end = 0;   ///< Not included.
-    ClockChangeEffect effect = ClockChangeEffect::Lost;
+    int planId = 0; ///< Within the task.
+    int row = 0;    ///< In its task, from 0.
+    int begin = 0;  ///< Its span, the end as it is in force: seconds of the local day.
+    int end = 0;    ///< Not included.
+    ClockChangeEffect effect = ClockChangeEffect::Lost; ///< What becomes of the plan.
 };
 
+/// Whether all fields are the same.
 inline bool operator==(const TouchedPlan& a, const TouchedPlan& b)
 {
     return std::tie(a.planId, a.row, a.begin, a.end, a.effect) ==
@@ -77,11 +80,12 @@ inline bool operator==(const TouchedPlan& a, const TouchedPlan& b)
 /// A change on a day on which a task is in effect, with the plans that it touches: none, or some.
 struct TaskClockChange
 {
-    ClockChange change;
-    int taskId = 0;
+    ClockChange change;             ///< The change itself.
+    int taskId = 0;                 ///< The task that it touches.
     std::vector<TouchedPlan> plans; ///< In the order of their rows.
 };
 
+/// Whether all fields are the same.
 inline bool operator==(const TaskClockChange& a, const TaskClockChange& b)
 {
     return std::tie(a.change, a.taskId, a.plans) == std::tie(b.change, b.taskId, b.plans);
@@ -103,9 +107,12 @@ nextClockChanges(const std::map<int, PlayTask>& tasks, const std::map<int, Progr
 class TRELPROGRAMSCHEDULE_EXPORT ClockChangeSearch
 {
 public:
+    /// Searches by the clock of a zone; no task is set yet.
     explicit ClockChangeSearch(const QTimeZone& zone);
     ~ClockChangeSearch();
+    /// Moves; the source may only be assigned to or destroyed.
     ClockChangeSearch(ClockChangeSearch&&) noexcept;
+    /// Moves; the source may only be assigned to or destroyed.
     ClockChangeSearch& operator=(ClockChangeSearch&&) noexcept;
 
     /// Puts a task in, or in the place of the one with this id; null takes it out.

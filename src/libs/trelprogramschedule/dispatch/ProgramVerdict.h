@@ -42,15 +42,16 @@ enum class VerdictRule {
 /// screen. Numbers that do not apply are -1; rows and entries count from 0.
 struct PlanVerdict
 {
-    VerdictRule rule = VerdictRule::Plays;
+    VerdictRule rule =
+        VerdictRule::Plays; ///< The first rule that keeps it off the screen, or Plays.
     /// The list is that of the insertion which has the screen, not that of the plan it stands for.
     bool isInsertion = false;
 
-    int taskId = -1;
-    int planId = -1;
-    int planRow = -1;
+    int taskId = -1;   ///< Of the plan.
+    int planId = -1;   ///< Within the task.
+    int planRow = -1;  ///< Counted from 0.
     std::string start; ///< The span in force, as the plan has it.
-    std::string end;
+    std::string end;   ///< kTimeFormat.
 
     int entry = -1;      ///< The first entry of the program that the rule is about.
     int otherEntry = -1; ///< NotItsTurn: which plays. NeverReached: which holds the screen.

@@ -36,6 +36,7 @@ public:
     /// these are empty. Valid until the next changed(), which a slot of that very signal may cause:
     /// copy what is to outlive a call.
     const ScreenTimeline& timeline() const;
+    /// The tasks that are in effect; empty where none are.
     const std::map<int, PlayTask>& tasks() const;
     /// Those that are over stay until the next one comes. Their instants never change: whatever
     /// becomes of programs and clocks, an insertion ends where it was to end when it was taken. The

@@ -13,8 +13,8 @@ namespace trel::mediadispatch {
 /// its program once, outside the plan's span.
 struct ScreenInsertion
 {
-    int taskId = 0; ///< The plan in effect that it stands for.
-    int planId = 0;
+    int taskId = 0;                     ///< The plan in effect that it stands for.
+    int planId = 0;                     ///< Within the task.
     PlayPlan plan;                      ///< What it plays instead, from the first entry on.
     std::vector<struProgInfo> original; ///< The list as the operator saw it before.
 
@@ -25,7 +25,9 @@ struct ScreenInsertion
     qint64 number = 0; ///< Which one of its store it is; 0 while it is in none.
     QString askedBy;   ///< The program and the machine that asked for it; empty when not known.
 
+    /// Whether it has been asked for, and is still to begin.
     bool isWaitingAt(Instant moment) const { return requested <= moment && moment < begins; }
+    /// Whether it has the screen.
     bool hasScreenAt(Instant moment) const { return begins <= moment && moment < ends; }
 };
 

@@ -38,12 +38,12 @@ enum class ScreenReason {
 /// What is on screen from one instant to another, and why. Numbers that do not apply are -1.
 struct ScreenState
 {
-    ScreenPicture picture = ScreenPicture::Black;
-    ScreenReason reason = ScreenReason::NothingInEffect;
+    ScreenPicture picture = ScreenPicture::Black;        ///< What the screen shows.
+    ScreenReason reason = ScreenReason::NothingInEffect; ///< Why.
 
     /// The plan that has the screen or, after PlanEnded, had it last.
     int taskId = -1;
-    int planId = -1;
+    int planId = -1;  ///< Within the task.
     int planRow = -1; ///< Its row in the task, from 0.
 
     /// The entry that plays or whose last frame is frozen; of an insertion, in the inserted list.
@@ -62,6 +62,7 @@ struct ScreenState
 
     /// Whether a play of a program can be waited for to end.
     bool isPlaying() const { return picture == ScreenPicture::Playing; }
+    /// Whether an insertion has the screen, with something to play or without.
     bool isInserted() const { return reason >= ScreenReason::InsertionPlays; }
 };
 

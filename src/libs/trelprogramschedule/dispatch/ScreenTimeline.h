@@ -45,7 +45,9 @@ public:
     ScreenTimeline(const std::map<int, PlayTask>& tasks,
                    const std::map<int, ProgramIten>& catalogue, const QTimeZone& zone);
     ~ScreenTimeline();
+    /// Moves; the source may only be assigned to or destroyed.
     ScreenTimeline(ScreenTimeline&&) noexcept;
+    /// Moves; the source may only be assigned to or destroyed.
     ScreenTimeline& operator=(ScreenTimeline&&) noexcept;
     /// The timeline of other tasks, which have been read with the catalogue of this one, in the
     /// same zone. Shares the tasks and, where all are valid on the same days, what it knows of
@@ -55,6 +57,7 @@ public:
     /// What is on screen at an instant.
     ScreenState at(Instant moment, const ScreenInsertions& insertions = {}) const;
 
+    /// Is handed one state after the other; false ends the visit.
     using Visitor = std::function<bool(const ScreenState&)>;
     /// Every play of a program and every picture in between, in order, from the one at `from` to
     /// the last that begins before `to`; ends early when the visitor returns false. Position is
@@ -102,6 +105,8 @@ public:
     /// The local date and time of day of an instant, and the other way round: the earliest instant
     /// at which the local clock shows this or more; kNever for a date or time that is not valid.
     QDateTime local(Instant moment) const;
+    /// When the local clock shows a date and time: the first moment where it does so twice, and the
+    /// first after the gap where it leaves them out.
     Instant instant(const QDate& date, const QTime& time) const;
 
 private:

@@ -114,8 +114,8 @@ constexpr int kFaultCodes = static_cast<int>(FaultCode::ReaderOfOtherVersion) + 
 /// the operator's language, and FaultWords.h in English.
 struct Fault
 {
-    FaultCode code = FaultCode::None;
-    QStringList arguments; ///< As many as the code takes.
+    FaultCode code = FaultCode::None; ///< What went wrong.
+    QStringList arguments;            ///< As many as the code takes.
 
     /// True when there is a reason, which means that something went wrong.
     explicit operator bool() const { return code != FaultCode::None; }
@@ -126,11 +126,13 @@ struct Fault
     int number(int place) const { return arguments.value(place).toInt(); }
 };
 
+/// A text as an argument of a fault.
 inline QString faultArgument(const QString& text)
 {
     return text;
 }
 
+/// A number as an argument of a fault.
 template <typename Number>
 QString faultArgument(Number number)
 {

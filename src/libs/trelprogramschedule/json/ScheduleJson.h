@@ -23,8 +23,8 @@ TRELPROGRAMSCHEDULE_EXPORT QByteArray scheduleToJson(const std::map<int, PlayTas
 /// A schedule read from JSON, or why it could not be read.
 struct ScheduleFromJson
 {
-    std::map<int, PlayTask> tasks;
-    Fault fault;   ///< None on success.
+    std::map<int, PlayTask> tasks; ///< By their ids.
+    Fault fault;                   ///< None on success.
     QString place; ///< Where it is, such as "tasks[2].plans[0].startTime"; may be empty.
     int line = 0;  ///< The line of the place, from 1.
 };

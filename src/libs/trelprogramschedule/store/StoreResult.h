@@ -47,18 +47,19 @@ constexpr int kStoreProblems = static_cast<int>(StoreProblem::Unclear) + 1;
 /// How a call of the store ended.
 struct StoreResult
 {
-    StoreProblem problem = StoreProblem::None;
+    StoreProblem problem = StoreProblem::None; ///< What went wrong.
     QString path; ///< The file; empty for NotOpen and when all went well.
     Fault cause; ///< What is known besides: with ReadOnly, Damaged, DiskFull, Full, Other, Altered,
                  ///< TooLarge and Unclear.
 
+    /// Whether it was done.
     explicit operator bool() const { return problem == StoreProblem::None; }
 };
 
 /// What an import did to the catalogue.
 struct ImportResult
 {
-    StoreResult store;
+    StoreResult store;        ///< What became of the transaction.
     std::vector<int> added;   ///< Indexes of programs that are new.
     std::vector<int> updated; ///< Indexes of programs that were known by their path.
 };

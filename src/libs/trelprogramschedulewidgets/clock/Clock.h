@@ -24,6 +24,7 @@ public:
 
     virtual ~Clock() = default;
 
+    /// The moment, with local time and the zone.
     virtual QDateTime now() const;
     /// The zone whose time of day local time is. May change while the program runs.
     virtual QTimeZone zone() const;
@@ -34,8 +35,11 @@ public:
     /// machine's gives out alarms of its own. The clock outlives its alarms.
     virtual std::unique_ptr<ClockAlarm> makeAlarm(std::function<void()> ring) const;
 
+    /// The local date.
     QDate today() const { return now().date(); }
+    /// The local time of day.
     QTime timeOfDay() const { return now().time(); }
+    /// The moment in milliseconds since 1970, UTC.
     qint64 msecsSinceEpoch() const { return now().toMSecsSinceEpoch(); }
 
 protected:

@@ -14,7 +14,7 @@ struct PlanClaim
 {
     std::string start; ///< kTimeFormat.
     std::string end;   ///< kTimeFormat.
-    std::string weeks;
+    std::string weeks; ///< As PlayPlan::weeks.
 };
 
 /// What each plan of a list claims, in the order of the list. The end of a plan in FrequencyMode is

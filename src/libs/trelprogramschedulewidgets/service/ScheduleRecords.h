@@ -86,8 +86,8 @@ struct ProgramIten
     std::string progName;    ///< UTF-8, as it is shown.
     std::string mediaPath;   ///< UTF-8: absolute path of the file, or address of a live source.
     double durationMs = 0.0; ///< One play, in milliseconds; negative when it is not known.
-    ProgramKind kind = ProgramKind::Other;
-    bool isNull = false; ///< True when nothing stands behind the index any more.
+    ProgramKind kind = ProgramKind::Other; ///< What it is made of.
+    bool isNull = false;                   ///< True when nothing stands behind the index any more.
 };
 
 /// Whether a play of the program ends by itself. Its length may be unknown all the same.
@@ -128,23 +128,26 @@ struct PlayPlan
 /// A period of validity with its plans, in the order of their rows.
 struct PlayTask
 {
-    int id = -1;
-    std::string startDate; ///< kDateFormat: first day of validity.
-    std::string endDate;   ///< kDateFormat: last day of validity.
-    std::vector<PlayPlan> plans;
+    int id = -1;                 ///< Its key in a set of tasks; -1 stands for none.
+    std::string startDate;       ///< kDateFormat: first day of validity.
+    std::string endDate;         ///< kDateFormat: last day of validity.
+    std::vector<PlayPlan> plans; ///< In the order of their rows.
 };
 
+/// Whether all fields are the same.
 inline bool operator==(const struProgInfo& a, const struProgInfo& b)
 {
     return std::tie(a.progIndex, a.isInvalid, a.progName, a.playCount) ==
            std::tie(b.progIndex, b.isInvalid, b.progName, b.playCount);
 }
 
+/// Whether a field is another one.
 inline bool operator!=(const struProgInfo& a, const struProgInfo& b)
 {
     return !(a == b);
 }
 
+/// Whether all fields are the same, those of the entries included.
 inline bool operator==(const PlayPlan& a, const PlayPlan& b)
 {
     return std::tie(a.mode, a.id, a.startTime, a.endTime, a.times, a.serviceCount, a.endAction,
@@ -155,17 +158,20 @@ inline bool operator==(const PlayPlan& a, const PlayPlan& b)
                     b.hasNoDuration, b.serviceFlagA, b.serviceFlagB);
 }
 
+/// Whether a field is another one.
 inline bool operator!=(const PlayPlan& a, const PlayPlan& b)
 {
     return !(a == b);
 }
 
+/// Whether all fields are the same, those of the plans included.
 inline bool operator==(const PlayTask& a, const PlayTask& b)
 {
     return std::tie(a.id, a.startDate, a.endDate, a.plans) ==
            std::tie(b.id, b.startDate, b.endDate, b.plans);
 }
 
+/// Whether a field is another one.
 inline bool operator!=(const PlayTask& a, const PlayTask& b)
 {
     return !(a == b);
