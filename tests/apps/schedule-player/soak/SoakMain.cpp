@@ -19,6 +19,24 @@ namespace {
 /// What the screen shows at its very beginning is joined in the middle.
 constexpr Instant kBeginning = 1000; // milliseconds
 
+/// Films and sounds all day long, and in each minute a stream and an image, which have no end of
+/// their own and would keep the screen.
+std::map<int, PlayTask> dayOfAllKinds()
+{
+    std::vector<PlayPlan> plans;
+    const auto add = [&plans](const QTime& start, const QTime& end,
+                              const std::vector<int>& programs) {
+        plans.push_back(playedPlan(static_cast<int>(plans.size()) + 1, start, end, programs));
+    };
+    for (int minute = 0; minute < 24 * 60; ++minute) {
+        const QTime start(minute / 60, minute % 60);
+        add(start.addSecs(20), start.addSecs(35), {Stream});
+        add(start.addSecs(45), start.addSecs(52), {Still});
+    }
+    add(QTime(0, 0, 0), QTime(23, 59, 59), {Short, Middle, Long, Longer, Sound});
+    return playedTask(std::move(plans));
+}
+
 /// What the process has of the memory, in MiB.
 double residentMemory()
 {
@@ -44,9 +62,7 @@ public:
         : m_from(Clock::current().msecsSinceEpoch())
         , m_to(m_from + length)
         , m_screen(QStringLiteral("soak"),
-                   playedAllDay(server == nullptr ? std::vector<int>{Short, Middle, Short, Long}
-                                                  : std::vector<int>{Short, Middle, Stream, Long,
-                                                                     Still, Longer, Sound}),
+                   server == nullptr ? playedAllDay({Short, Middle, Short, Long}) : dayOfAllKinds(),
                    programs.catalogue())
         , m_sleeper(moments())
     {
