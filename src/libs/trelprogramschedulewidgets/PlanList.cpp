@@ -2,6 +2,7 @@
 
 #include "PlanTaskWidget.h"
 #include "card/AnswerCatalogue.h"
+#include "card/CardPlace.h"
 #include "card/EditorInUse.h"
 #include "clock/Clock.h"
 #include "initProcess.h"
@@ -21,6 +22,7 @@
 #include <vector>
 
 using trel::mediadispatch::AnswerCatalogue;
+using trel::mediadispatch::CardPlace;
 using trel::mediadispatch::Clock;
 using trel::mediadispatch::idAfter;
 using trel::mediadispatch::initProcess;
@@ -169,8 +171,9 @@ void PlanList::addTask(const PlayTask& task)
     }
 }
 
-void PlanList::addCard(const PlayTask& task, bool folded)
+void PlanList::addCard(const PlayTask& task, bool folded, PlanTaskWidget* before)
 {
+    const QPointer<PlanTaskWidget> next = before;
     const QPointer<PlanTaskWidget> card =
         folded ? PlanTaskWidget::makeFolded(task, this) : new PlanTaskWidget(task, this);
     // A set that was written elsewhere may hold an id twice. The service tells tasks apart by their
@@ -179,7 +182,8 @@ void PlanList::addCard(const PlayTask& task, bool folded)
     if (!card) {
         return;
     }
-    m_layout->insertWidget(m_layout->count() - 1, card);
+    const int place = next ? m_layout->indexOf(next) : m_layout->count() - 1;
+    m_layout->insertWidget(place, card);
     m_taskWidgets[task.id] = card;
     emit sigGetMapCount(m_taskWidgets.size());
     if (!card) {
@@ -255,6 +259,7 @@ void PlanList::refreshPlanList()
     }
     const QPointer<PlanList> self(this);
     m_refreshing = true;
+    m_areCardsDue = true;
     slotShowProcess();
     if (self) {
         slotclearPlanList();
@@ -291,6 +296,7 @@ void PlanList::rebuild()
             return;
         }
     }
+    m_areCardsDue = false;
     // Before the list is shown: on show, every widget would ask for its own painting once more.
     setUpdatesEnabled(true);
     if (wasVisible) {
@@ -393,4 +399,50 @@ void PlanList::slotclearPlanList()
     // What asked to be laid out meanwhile was not heard.
     m_layout->activate();
     emit sigGetMapCount(m_taskWidgets.size());
+}
+
+void PlanList::slotShowTask(int taskId)
+{
+    if (m_areCardsDue) {
+        return;
+    }
+    const PlayTask task = service().getTask(taskId);
+    if (task.id == taskId && taskId != PlayTask().id) {
+        showCard(task);
+    } else if (m_taskWidgets.contains(taskId)) {
+        dropCard(taskId);
+    }
+}
+
+void PlanList::showCard(const PlayTask& task)
+{
+    rememberPlace();
+    std::optional<CardPlace> place;
+    if (const PlanTaskWidget* const former = m_taskWidgets.value(task.id)) {
+        place.emplace(*former);
+    }
+    const auto next = qAsConst(m_taskWidgets).upperBound(task.id);
+    const QPointer<PlanList> self(this);
+    addCard(task, !place || place->isFolded(),
+            next == m_taskWidgets.cend() ? nullptr : next.value());
+    const QPointer<PlanTaskWidget> card = self ? m_taskWidgets.value(task.id) : nullptr;
+    if (card && isVisible()) {
+        // The layout would show it later, and leaves it out until then.
+        card->show();
+        scrollToPlace();
+    }
+    if (card && place) {
+        place->restore(*card);
+    }
+}
+
+void PlanList::dropCard(int taskId)
+{
+    rememberPlace();
+    destroyCard(taskId);
+    const QPointer<PlanList> self(this);
+    emit sigGetMapCount(m_taskWidgets.size());
+    if (self) {
+        scrollToPlace();
+    }
 }

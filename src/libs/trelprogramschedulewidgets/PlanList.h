@@ -73,6 +73,16 @@ public slots:
     /// Takes every card out of the layout and destroys it, one after the other in ascending id
     /// order. The service is not touched. Cards that are added meanwhile stay.
     void slotclearPlanList();
+    /// Shows one task as the working set has it now. Its card is built anew in its place, folded or
+    /// open as it was, with its table as far scrolled; what is half typed in it is dropped, and a
+    /// focus that it had is that of the same field again. A task that has no card gets one, folded,
+    /// before the first card with a larger id; the card of a task that is no more goes. Other cards
+    /// stay as they are.
+    ///
+    /// For a host that edits the working set by itself, once it has done so: not from within a call
+    /// of the service or a signal of the card. Does nothing while a rebuild has its cards still to
+    /// make, which are those of the stored set then.
+    void slotShowTask(int taskId);
 
 protected:
     bool event(QEvent* event) override;
@@ -91,8 +101,10 @@ private:
     bool mayAdd() const;
     void foldAll();
     void addTask(const PlayTask& task);
-    /// The card, or the list with it, may be gone afterwards.
-    void addCard(const PlayTask& task, bool folded);
+    /// Puts the card before another one, or last. It, or the list with it, may be gone afterwards.
+    void addCard(const PlayTask& task, bool folded, PlanTaskWidget* before = nullptr);
+    void showCard(const PlayTask& task);
+    void dropCard(int taskId);
     void takeOutOfLayout(PlanTaskWidget& card);
     void destroyCard(int taskId);
     void forgetDestroyedCard(int taskId, const QObject* card);
@@ -102,6 +114,8 @@ private:
     trel::mediadispatch::initProcess* m_process;
     qint64 m_lastRefreshMSecs = 0;
     bool m_refreshing = false;
+    /// A rebuild has begun and has its cards still to make.
+    bool m_areCardsDue = false;
     /// Where to scroll when the list is in sight again, and the card that has to come into sight.
     std::optional<trel::mediadispatch::ScrollPlace> m_place;
     QPointer<QWidget> m_newCard;

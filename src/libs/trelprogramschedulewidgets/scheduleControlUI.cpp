@@ -199,6 +199,15 @@ void scheduleControlUI::slotShow()
     slotShow(true);
 }
 
+void scheduleControlUI::slotShowTask(int taskId)
+{
+    if (scheduleControlUI* const other = editorInTheWay(this)) {
+        other->slotShowTask(taskId);
+    } else if (m_centerWidget && m_centerWidget->planList()) {
+        m_centerWidget->planList()->slotShowTask(taskId);
+    }
+}
+
 void scheduleControlUI::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape) {

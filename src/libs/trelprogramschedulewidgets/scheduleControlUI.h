@@ -82,6 +82,13 @@ public Q_SLOTS:
     void slotShow(bool bUpdatePlanList);
     /// Shows a hidden window and reads the list again.
     void slotShow();
+    /// Shows one task as the working set has it now, for a host that edits that set by itself: its
+    /// card is built anew, in its place and folded or open as it was; a task that has none gets
+    /// one, and the card of a task that is no more goes. What is half typed in the card is dropped.
+    /// To be called when the service has done with the edit, not from within a call of it. Works
+    /// hidden as well; while the list is being read again it does nothing, as there is nothing left
+    /// to do.
+    void slotShowTask(int taskId);
 
 protected:
     /// Escape is left to the parent of the window: it never closes a schedule in work.

@@ -58,7 +58,7 @@ void tst_PlanList::declaresItsMethodsInOrder()
     QCOMPARE(ownMethods(PlanList::staticMetaObject, QMetaMethod::Slot).join(QLatin1Char(' ')),
              QStringLiteral("slotAddOutput() slotDeleteTask(int) slotCopyTask(int) "
                             "slotShowProcess() slotCloseProcess() refreshPlanList() "
-                            "slotclearPlanList()"));
+                            "slotclearPlanList() slotShowTask(int)"));
 }
 
 void tst_PlanList::firstTaskOfAnEmptySchedule()

@@ -63,6 +63,20 @@ const std::map<QString, Rebuilding>& rebuildings()
              RecordingService::instance().working.clear();
              emit RecordingService::manager().signalReflushConflict(-1);
          }},
+        {QStringLiteral("cards built anew"),
+         [](Stage& stage) {
+             RecordingService::instance().working.at(1).plans.pop_back();
+             for (const auto& task : std::map(RecordingService::instance().working)) {
+                 stage.dialog().slotShowTask(task.first);
+             }
+         }},
+        {QStringLiteral("tasks gone one by one"),
+         [](Stage& stage) {
+             const auto tasks = std::exchange(RecordingService::instance().working, {});
+             for (const auto& task : tasks) {
+                 stage.dialog().slotShowTask(task.first);
+             }
+         }},
         {QStringLiteral("other lengths"),
          [](Stage&) {
              RecordingService::instance().programs.at(1).durationMs = 120000.0;

@@ -68,7 +68,8 @@ void tst_scheduleControlUI::declaresItsMethodsInOrder()
         ownMethods(metaObject, QMetaMethod::Signal).join(QLatin1Char(' ')),
         QStringLiteral("signalUpdatePlanList() sigclearPlanList() signalTranslationByQz7(int)"));
     QCOMPARE(ownMethods(metaObject, QMetaMethod::Slot).join(QLatin1Char(' ')),
-             QStringLiteral("slotCancel() slotSave() slotStart() slotShow(bool) slotShow()"));
+             QStringLiteral("slotCancel() slotSave() slotStart() slotShow(bool) slotShow() "
+                            "slotShowTask(int)"));
 }
 
 void tst_scheduleControlUI::holdsThePanelAlone()

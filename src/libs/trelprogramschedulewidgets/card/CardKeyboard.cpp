@@ -1,5 +1,6 @@
 #include "CardKeyboard.h"
 
+#include "CardFields.h"
 #include "PlanCells.h"
 #include "PlanColumns.h"
 #include "PlanList.h"
@@ -41,31 +42,6 @@ void pressInRow(const QTableView& table, const QModelIndex& cell, PlanColumn col
     if (button) {
         button->click();
     }
-}
-
-QPushButton* barOf(const PlanTaskWidget& card)
-{
-    return card.findChild<QPushButton*>(QStringLiteral("title"));
-}
-
-QTableView* tableOf(const PlanTaskWidget* card)
-{
-    return card ? card->findChild<QTableView*>(QStringLiteral("schedule")) : nullptr;
-}
-
-QWidget* fieldIn(const QTableView& table, int row, int column)
-{
-    const QWidget* const holder = table.indexWidget(table.model()->index(row, column));
-    if (!holder) {
-        return nullptr;
-    }
-    const auto widgets = holder->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* const widget : widgets) {
-        if (widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) != 0) {
-            return widget;
-        }
-    }
-    return nullptr;
 }
 
 } // namespace
@@ -140,7 +116,8 @@ PlanTaskWidget* CardKeyboard::currentCard() const
 
 QModelIndex CardKeyboard::currentCell() const
 {
-    const QTableView* const table = tableOf(currentCard());
+    const PlanTaskWidget* const card = currentCard();
+    const QTableView* const table = card ? tableOf(*card) : nullptr;
     return table ? cellOf(*table, QApplication::focusWidget()) : QModelIndex();
 }
 
@@ -240,7 +217,7 @@ void CardKeyboard::addPlan()
         return;
     }
     card->setFolded(false);
-    const QTableView* const table = tableOf(card);
+    const QTableView* const table = tableOf(*card);
     const int rows = table->model()->rowCount();
     press(card, "pushButtonAdd");
     if (card && table->model()->rowCount() > rows) {
@@ -254,7 +231,7 @@ void CardKeyboard::copyPlan()
     if (!cell.isValid()) {
         return;
     }
-    const QTableView* const table = tableOf(currentCard());
+    const QTableView* const table = tableOf(*currentCard());
     const int rows = table->model()->rowCount();
     const int column = cell.column();
     pressInRow(*table, cell, CopyColumn);
@@ -270,7 +247,7 @@ void CardKeyboard::deletePlan()
         return;
     }
     const QPointer<PlanTaskWidget> card = currentCard();
-    const QTableView* const table = tableOf(card);
+    const QTableView* const table = tableOf(*card);
     const int rows = table->model()->rowCount();
     const int row = cell.row();
     const int column = cell.column();
@@ -289,7 +266,7 @@ void CardKeyboard::choosePrograms()
 {
     const QModelIndex cell = currentCell();
     if (cell.isValid()) {
-        pressInRow(*tableOf(currentCard()), cell, ProgramsColumn);
+        pressInRow(*tableOf(*currentCard()), cell, ProgramsColumn);
     }
 }
 
