@@ -62,14 +62,17 @@ AsRunPlace placeOf(const PlayerOptions& options, const QString& store)
 
 int play(const PlayerOptions& options)
 {
+    int status = EXIT_SUCCESS;
     const trel::hosts::StopSignals stopSignals;
     QObject::connect(&stopSignals, &trel::hosts::StopSignals::stopped, qApp,
                      &QCoreApplication::quit);
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp,
-                     [] { endProcessAfter(kFarewell); });
+                     [&status] { endProcessAfter(kFarewell, status); });
     PlayerStart start(options, placeOf(options, storePath(options)));
-    QObject::connect(&start, &PlayerStart::refused, qApp,
-                     [](const QString& sentence) { QCoreApplication::exit(refuse(sentence)); });
+    QObject::connect(&start, &PlayerStart::refused, qApp, [&status](const QString& sentence) {
+        status = refuse(sentence);
+        QCoreApplication::exit(status);
+    });
     if (options.inWindow) {
         QObject::connect(&start, &PlayerStart::closeAsked, qApp, &QCoreApplication::quit);
     }

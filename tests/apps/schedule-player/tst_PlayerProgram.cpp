@@ -23,6 +23,7 @@ private slots:
     void insertionsOfOthers();
     void aStoreThatComesLater();
     void aSecondPlayerForTheScreen();
+    void aSecondPlayerWhoseEndHangs();
     void endsWithinASecond();
     void endsWithinASecondWhereItsLogHangs();
     void playsOnWithoutAReaderOfItsLog();
@@ -90,9 +91,10 @@ QString shownBy(const CtlFixture& fixture)
 class PlayerProcess
 {
 public:
-    explicit PlayerProcess(const CtlFixture& fixture, const QStringList& options = {})
+    explicit PlayerProcess(const CtlFixture& fixture, const QStringList& options = {},
+                           const QProcessEnvironment& given = environment())
     {
-        m_process.setProcessEnvironment(environment());
+        m_process.setProcessEnvironment(given);
         m_process.setReadChannel(QProcess::StandardError);
         m_process.start(QStringLiteral(SCHEDULE_PLAYER),
                         QStringList({QStringLiteral("--database"), fixture.database(),
@@ -190,6 +192,24 @@ void tst_PlayerProgram::aSecondPlayerForTheScreen()
     QCOMPARE(first.process().state(), QProcess::Running);
     PlayerProcess third(fixture, {QStringLiteral("--screen"), QStringLiteral("bar")});
     QTRY_VERIFY_WITH_TIMEOUT(third.log().contains(QStringLiteral("plays \"film1\"")), kPatience);
+}
+
+/// Something in it does not come to its end, as a driver that is taken down may not.
+void tst_PlayerProgram::aSecondPlayerWhoseEndHangs()
+{
+    const Fixture fixture;
+    PlayerProcess first(fixture);
+    QTRY_COMPARE_WITH_TIMEOUT(shownBy(fixture), QStringLiteral("film1"), kPatience);
+    QProcessEnvironment environment = PlayerProcess::environment();
+    environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(HANGING_END));
+    // It comes before the sanitizer's own library, where there is one.
+    environment.insert(QStringLiteral("ASAN_OPTIONS"),
+                       QStringLiteral("verify_asan_link_order=0:detect_leaks=0"));
+    PlayerProcess second(fixture, {}, environment);
+    QVERIFY(second.process().waitForFinished(kPatience));
+    QVERIFY(second.log().contains(QStringLiteral("Another player shows the screen")));
+    QCOMPARE(second.process().exitStatus(), QProcess::NormalExit);
+    QCOMPARE(second.process().exitCode(), 1);
 }
 
 void tst_PlayerProgram::endsWithinASecond()

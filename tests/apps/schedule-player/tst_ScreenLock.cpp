@@ -6,6 +6,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <csignal>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
 using trel::player::ScreenLock;
 
 class tst_ScreenLock : public QObject
@@ -16,6 +21,10 @@ private slots:
     void oneAtATime();
     void eachScreenAndEachStore();
     void aPlayerThatWasKilledKeepsNobodyAway();
+    void aNumberThatIsUsedAgainKeepsNobodyAway_data();
+    void aNumberThatIsUsedAgainKeepsNobodyAway();
+    void aPlayerThatLivesIsBelievedWithoutItsFile();
+    void theFileOfAnotherMachineIsBelieved();
     void aPowerCutKeepsNobodyAway();
     void aFileThatIsHeldIsNotTakenForALeftOne();
     void whereTheFolderCannotBeWritten();
@@ -24,6 +33,26 @@ private slots:
 namespace {
 
 const QString kLobby = QStringLiteral("lobby");
+
+/// The file of a player that has gone.
+struct Left
+{
+    Left() { const ScreenLock lock(store, kLobby); }
+
+    /// Without the numbers of machine and boot, which not every machine has.
+    void write(qint64 process, const QString& machine) const
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(QStringLiteral("%1\n%2\n%3\n")
+                       .arg(QString::number(process), QCoreApplication::applicationName(), machine)
+                       .toUtf8());
+    }
+
+    QTemporaryDir folder;
+    QString store = folder.filePath(QStringLiteral("a.db"));
+    QString path = folder.filePath(QStringLiteral("a.db-screens/lobby.lock"));
+};
 
 } // namespace
 
@@ -79,6 +108,65 @@ void tst_ScreenLock::aPlayerThatWasKilledKeepsNobodyAway()
         left.replace(QByteArray::number(QCoreApplication::applicationPid()) + '\n', number + '\n'));
     file.close();
     QVERIFY(ScreenLock(store, kLobby).isTaken());
+}
+
+void tst_ScreenLock::aNumberThatIsUsedAgainKeepsNobodyAway_data()
+{
+    QTest::addColumn<bool>("isItsOwn");
+    QTest::newRow("by a process of the same name") << false;
+    // As where a player is the only process of a container, and so always the first.
+    QTest::newRow("by the player itself") << true;
+}
+
+void tst_ScreenLock::aNumberThatIsUsedAgainKeepsNobodyAway()
+{
+    QFETCH(const bool, isItsOwn);
+    const Left left;
+    // A child has the name of this process until it runs something else.
+    const pid_t child = isItsOwn ? 0 : ::fork();
+    if (child == 0 && !isItsOwn) {
+        ::alarm(60);
+        for (;;) {
+            ::pause();
+        }
+    }
+    const qint64 number = isItsOwn ? QCoreApplication::applicationPid() : child;
+    left.write(number, QSysInfo::machineHostName());
+    QLockFile toolkit(left.path);
+    toolkit.setStaleLockTime(0);
+    // What the toolkit says by itself.
+    QVERIFY(!toolkit.tryLock(0));
+    {
+        const ScreenLock lock(left.store, kLobby);
+        QVERIFY2(lock.isTaken(), qPrintable(lock.refusal()));
+        QVERIFY(!ScreenLock(left.store, kLobby).isTaken());
+    }
+    if (!isItsOwn) {
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+    }
+}
+
+void tst_ScreenLock::aPlayerThatLivesIsBelievedWithoutItsFile()
+{
+    const Left left;
+    const ScreenLock first(left.store, kLobby);
+    QVERIFY(first.isTaken());
+    QVERIFY(QFile::remove(left.path));
+    const ScreenLock second(left.store, kLobby);
+    QVERIFY(!second.isTaken());
+    QCOMPARE(second.refusal(),
+             QStringLiteral("Another player shows the screen \"lobby\" of this schedule."));
+}
+
+/// Its locks may not be seen here.
+void tst_ScreenLock::theFileOfAnotherMachineIsBelieved()
+{
+    const Left left;
+    left.write(QCoreApplication::applicationPid(), QStringLiteral("another-machine"));
+    const ScreenLock lock(left.store, kLobby);
+    QVERIFY(!lock.isTaken());
+    QVERIFY(lock.refusal().contains(QStringLiteral("another-machine")));
 }
 
 /// What a machine had written when its power went: nothing, or any part.

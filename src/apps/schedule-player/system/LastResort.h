@@ -4,9 +4,9 @@
 
 namespace trel::player {
 
-/// Ends the process with success when that time is up, if it has not ended by then, whatever of it
-/// hangs: a disk, a driver, a library. For a program that has been told to end, and ends in order
+/// Ends the process with that status when that time is up, if it has not ended by then, whatever of
+/// it hangs: a disk, a driver, a library. For a program that is about to end, and ends in order
 /// where nothing hangs. What the first call has said holds.
-void endProcessAfter(std::chrono::milliseconds patience);
+void endProcessAfter(std::chrono::milliseconds patience, int status);
 
 } // namespace trel::player
