@@ -77,6 +77,7 @@ void FaultInjector::breakNow(PlayedProgram program, Way way)
     } else {
         breakFile(m_programs.path(program), way);
     }
+    emit broke(program, static_cast<int>(way));
 }
 
 void FaultInjector::breakFile(const QString& path, Way way)
@@ -121,9 +122,13 @@ void FaultInjector::breakStream(Way way)
     case Way::Unreachable:
         m_server.stop();
         break;
-    default:
+    case Way::Silent:
         m_server.setSilent(true);
         m_server.hangUp();
+        break;
+    default:
+        m_server.setSilent(true);
+        m_server.forgetLines();
         break;
     }
 }
@@ -146,4 +151,5 @@ void FaultInjector::mend()
         m_server.goOn();
     }
     m_broken.clear();
+    emit mended();
 }

@@ -29,9 +29,10 @@ public:
         BreaksOff,   ///< The line ends, and each one made again ends soon.
         Unreachable, ///< Nothing answers there.
         Silent,      ///< It takes lines, and says nothing.
+        Dead,        ///< The same, and nothing comes any more on those that it had, also later.
     };
     static constexpr int kFileWays = 6;
-    static constexpr int kStreamWays = 4;
+    static constexpr int kStreamWays = 5;
 
     /// The programs and the server outlive it. The server has the stream of the programs.
     FaultInjector(const PlayedPrograms& programs, StreamServer& server);
@@ -48,6 +49,11 @@ public:
     /// them three seconds later.
     void goOn(unsigned seed);
     qint64 made() const { return m_made; }
+
+signals:
+    void broke(int program, int way);
+    /// All is whole from now on.
+    void mended();
 
 private:
     void breakFile(const QString& path, Way way);

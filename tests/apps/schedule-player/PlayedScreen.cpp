@@ -149,6 +149,9 @@ std::map<int, PlayTask> playedAllDay(const std::vector<int>& programs)
 
 void PlayedScreen::EventRecord::note(const ScreenEvent& event)
 {
+    for (ScreenLog* listener : m_listeners) {
+        listener->note(event);
+    }
     if (event.kind == ScreenEvent::Kind::Fault || event.kind == ScreenEvent::Kind::Late ||
         event.kind == ScreenEvent::Kind::Recovered) {
         // A play that cannot be loaded is told of before its time, once for all that it lasts.

@@ -93,6 +93,10 @@ public:
     const trel::screen::Conductor& conductor() const { return m_conductor; }
     const trel::screen::ScreenTally& tally() const { return m_conductor.tally(); }
     qint64 droppedFrames() const { return m_first.droppedFrames() + m_second.droppedFrames(); }
+    const trel::player::PlayerDeck& firstDeck() const { return m_first; }
+    const trel::player::PlayerDeck& secondDeck() const { return m_second; }
+    /// Hears of all events from now on; outlives the screen.
+    void addListener(trel::screen::ScreenLog& listener) { m_log.add(listener); }
 
 private:
     class EventRecord : public trel::screen::ScreenLog
@@ -100,6 +104,7 @@ private:
     public:
         void note(const trel::screen::ScreenEvent& event) override;
         bool explains(Instant moment) const;
+        void add(trel::screen::ScreenLog& listener) { m_listeners.push_back(&listener); }
 
     private:
         struct Trouble
@@ -109,6 +114,7 @@ private:
         };
 
         std::vector<Trouble> m_troubles;
+        std::vector<trel::screen::ScreenLog*> m_listeners;
     };
 
     static bool fits(const RecordedFrame& frame, const ScreenState& state);

@@ -93,6 +93,7 @@ void StreamServer::answer(QTcpSocket& socket)
     ++m_requests;
     const QString path = QString::fromLatin1(request.split(' ').value(1));
     m_paths.append(path);
+    emit asked(path);
     if (m_isSilent) {
         return;
     }

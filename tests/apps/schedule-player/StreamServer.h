@@ -32,6 +32,8 @@ public:
     void setStalled(bool isStalled) { m_isStalled = isStalled; }
     /// Ends each line of what is paced half a second after the first of it.
     void setBreaksOff(bool breaksOff) { m_breaksOff = breaksOff; }
+    /// Sends nothing more on the lines that it has, which stay.
+    void forgetLines() { m_lines.clear(); }
     /// Ends all lines.
     void hangUp();
     /// Nobody can connect any more, until it goes on at the same place.
@@ -40,6 +42,9 @@ public:
 
     int requests() const { return m_requests; }
     const QStringList& paths() const { return m_paths; }
+
+signals:
+    void asked(const QString& path);
 
 private:
     struct Paced

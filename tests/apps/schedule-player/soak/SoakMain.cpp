@@ -1,6 +1,8 @@
 #include "BareSleeper.h"
 #include "FaultInjector.h"
+#include "OffTimes.h"
 #include "PlayedScreen.h"
+#include "SoakLog.h"
 #include "clock/Clock.h"
 #include "system/FewArenas.h"
 
@@ -61,6 +63,7 @@ public:
     Soak(const PlayedPrograms& programs, Instant length, StreamServer* server, unsigned seed)
         : m_from(Clock::current().msecsSinceEpoch())
         , m_to(m_from + length)
+        , m_offTimes(m_from)
         , m_screen(QStringLiteral("soak"),
                    server == nullptr ? playedAllDay({Short, Middle, Short, Long}) : dayOfAllKinds(),
                    programs.catalogue())
@@ -69,7 +72,10 @@ public:
         if (server != nullptr) {
             m_faults = std::make_unique<FaultInjector>(programs, *server);
             m_faults->goOn(seed);
+            connect(m_faults.get(), &FaultInjector::broke, this, [this] { setWhole(false); });
+            connect(m_faults.get(), &FaultInjector::mended, this, [this] { setWhole(true); });
         }
+        m_screen.addListener(m_offTimes);
         connect(&m_round, &QTimer::timeout, this, &Soak::look);
         m_round.start(1000);
     }
@@ -78,6 +84,12 @@ public:
     /// time.
     bool isRight() const { return m_wrong == 0 && (m_faults || isPunctual()); }
     void tell(QTextStream& out) const;
+    /// Tells from now on what happens, line by line.
+    void follow(QTextStream& out, const StreamServer& server)
+    {
+        m_log = std::make_unique<SoakLog>(out, m_screen, m_faults.get(), server);
+        m_screen.addListener(*m_log);
+    }
 
 signals:
     void over();
@@ -124,6 +136,11 @@ private:
         }
     }
 
+    void setWhole(bool isWhole)
+    {
+        m_offTimes.setWhole(isWhole, Clock::current().msecsSinceEpoch());
+    }
+
     void judge(const RecordedFrame& frame)
     {
         const QString fault =
@@ -149,6 +166,8 @@ private:
 
     const Instant m_from;
     const Instant m_to;
+    OffTimes m_offTimes;
+    std::unique_ptr<SoakLog> m_log;
     PlayedScreen m_screen;
     BareSleeper m_sleeper;
     std::unique_ptr<FaultInjector> m_faults;
@@ -182,6 +201,8 @@ void Soak::tell(QTextStream& out) const
     row("faults made", number(m_faults ? m_faults->made() : 0));
     row("faults met", number(tally.faults()));
     row("longest time off the timeline, ms", number(m_screen.conductor().longestOff()));
+    row("  of it while all was whole, ms",
+        number(m_offTimes.longest(Clock::current().msecsSinceEpoch())));
     row("memory after a tenth of the time, MiB", QString::number(m_memoryAtFirst, 'f', 1));
     row("memory at the end, MiB", QString::number(residentMemory(), 'f', 1));
 }
@@ -204,7 +225,9 @@ int main(int argc, char** argv)
         QStringLiteral("Breaks files and a stream while they are in use."));
     const QCommandLineOption seed(QStringLiteral("seed"), QStringLiteral("Which faults."),
                                   QStringLiteral("S"), QStringLiteral("1"));
-    parser.addOptions({minutes, faults, seed});
+    const QCommandLineOption log(QStringLiteral("log"),
+                                 QStringLiteral("Tells all that happens, on the standard error."));
+    parser.addOptions({minutes, faults, seed, log});
     parser.process(application);
     bool isNumber = false;
     const double length = parser.value(minutes).toDouble(&isNumber);
@@ -221,8 +244,12 @@ int main(int argc, char** argv)
         QTextStream(stderr) << "The clips cannot be made." << Qt::endl;
         return 1;
     }
+    QTextStream errors(stderr);
     Soak soak(programs, static_cast<Instant>(length * 60000.0), hasFaults ? &server : nullptr,
               parser.value(seed).toUInt());
+    if (parser.isSet(log)) {
+        soak.follow(errors, server);
+    }
     QObject::connect(&soak, &Soak::over, &application, &QCoreApplication::quit);
     QCoreApplication::exec();
     soak.tell(out);
