@@ -111,12 +111,20 @@ if(TREL_BUILD_PROGRAMS)
     PATTERN make-media EXCLUDE)
 endif()
 
+# What hosts compile into themselves. The name of the list becomes that of a symbol in each of them.
+set(image_dir ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME}/resources)
+set(image_list ${image_dir}/trel_editor_images.qrc)
+install(FILES resources/editor.qrc RENAME trel_editor_images.qrc
+  DESTINATION ${image_dir} COMPONENT development)
+install(DIRECTORY resources/images resources/themes
+  DESTINATION ${image_dir} COMPONENT development)
+
 set(language_dir ${CMAKE_INSTALL_DATADIR}/${PROJECT_NAME}/languages)
 configure_package_config_file(
   cmake/${PROJECT_NAME}Config.cmake.in
   ${CMAKE_BINARY_DIR}/${PROJECT_NAME}Config.cmake
   INSTALL_DESTINATION ${package_dir}
-  PATH_VARS language_dir include_dir)
+  PATH_VARS language_dir include_dir image_list)
 write_basic_package_version_file(
   ${CMAKE_BINARY_DIR}/${PROJECT_NAME}ConfigVersion.cmake
   COMPATIBILITY SameMinorVersion)
@@ -136,6 +144,7 @@ cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_LIBDIR
   BASE_DIRECTORY "\${prefix}" OUTPUT_VARIABLE pc_libdir)
 cmake_path(ABSOLUTE_PATH CMAKE_INSTALL_INCLUDEDIR
   BASE_DIRECTORY "\${prefix}" OUTPUT_VARIABLE pc_includedir)
+cmake_path(ABSOLUTE_PATH image_list BASE_DIRECTORY "\${prefix}" OUTPUT_VARIABLE pc_images)
 foreach(library IN ITEMS trelprogramschedule trelprogramschedulewidgets)
   configure_file(dist/pkgconfig/${library}.pc.in ${CMAKE_BINARY_DIR}/${library}.pc @ONLY)
   install(FILES ${CMAKE_BINARY_DIR}/${library}.pc

@@ -17,6 +17,8 @@ run(${WORK}/surface/surface OUTPUT "All there")
 run(${WORK}/surface/surface OUTPUT "Version: [0-9.]+, as compiled")
 run(${WORK}/surface/surface OUTPUT "Languages: [^\n]*/installed/share/[a-z]+/languages\n")
 
+run(${WORK}/surface/surface OUTPUT "Images: refresh.gif checked.png unchecked@2x.png add.svg\n")
+
 run(${CMAKE_COMMAND} -S ${SNIPPETS} -B ${WORK}/snippets -G Ninja -DDOCUMENT=${DOCUMENT}
   -DCMAKE_PREFIX_PATH=${WORK}/installed "-DCMAKE_CXX_FLAGS=${FLAGS}"
   -DCMAKE_CXX_COMPILER=${COMPILER})
@@ -63,6 +65,11 @@ execute_process(
     trelprogramschedulewidgets trelprogramschedule
   OUTPUT_VARIABLE told OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 separate_arguments(told UNIX_COMMAND "${told}")
+execute_process(
+  COMMAND pkg-config --variable=images trelprogramschedulewidgets
+  OUTPUT_VARIABLE images OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+find_program(RCC NAMES rcc-qt5 rcc PATHS /usr/lib/qt5/bin REQUIRED)
+run(${RCC} --name trel_editor_images -o ${WORK}/images.cpp ${images})
 separate_arguments(flags UNIX_COMMAND "${FLAGS}")
 run(${COMPILER} -std=c++17 -fPIC ${flags} ${EXAMPLE}/main.cpp -o ${WORK}/told-host ${told}
   -Wl,-rpath,${WORK}/installed/${LIBDIR})

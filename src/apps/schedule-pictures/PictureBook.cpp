@@ -87,7 +87,7 @@ void PictureBook::drawChoosers()
 void PictureBook::drawMenu()
 {
     saveDialog(QStringLiteral("chooser-menu"), [this] {
-        QTimer::singleShot(0, &m_editor, [this] {
+        QTimer::singleShot(0, &m_editor, [] {
             QWidget* chooser = QApplication::activeModalWidget();
             const auto tables = chooser->findChildren<QTableView*>(QStringLiteral("schedule"));
             QTableView* plan = tables.last();

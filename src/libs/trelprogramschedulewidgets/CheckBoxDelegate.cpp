@@ -2,6 +2,7 @@
 
 #include "CheckBoxImages.h"
 #include "chooser/ChooserColumns.h"
+#include "trelwidgets/Sign.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -38,8 +39,19 @@ void CheckBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     }
     const QStyle* const style = option.widget ? option.widget->style() : QApplication::style();
     const bool isChecked = index.data(kCheckRole).toBool();
-    style->drawItemPixmap(painter, option.rect, Qt::AlignCenter,
-                          isChecked ? m_checkedPixmap : m_uncheckedPixmap);
+    const QPixmap& image = isChecked ? m_checkedPixmap : m_uncheckedPixmap;
+    style->drawItemPixmap(painter, option.rect, Qt::AlignCenter, image);
+    if (m_drawsMissingImages && image.isNull()) {
+        const bool isEnabled = (option.state & QStyle::State_Enabled) != 0;
+        widgets::paintSign(*painter, option.rect,
+                           isChecked ? widgets::Sign::Checked : widgets::Sign::Unchecked,
+                           widgets::signColor(option.palette, QPalette::Text, isEnabled));
+    }
+}
+
+void CheckBoxDelegate::drawMissingImages()
+{
+    m_drawsMissingImages = true;
 }
 
 bool CheckBoxDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,

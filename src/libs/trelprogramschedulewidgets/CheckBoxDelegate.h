@@ -22,6 +22,10 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 
+    /// From here on a drawn box, with a tick or without, stands in for an image that cannot be
+    /// loaded; else there is nothing in its place.
+    void drawMissingImages();
+
 signals:
     /// The operator has pressed the mark of a row; check is its new state.
     void signalChecked(CheckType type, int row, bool check);
@@ -34,6 +38,7 @@ private:
     QPixmap m_uncheckedPixmap;
     QPixmap m_checkedPixmap;
     CheckType m_type;
+    bool m_drawsMissingImages = false;
 };
 
 } // namespace trel::mediadispatch

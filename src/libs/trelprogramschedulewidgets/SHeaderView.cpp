@@ -2,6 +2,7 @@
 
 #include "CheckBoxImages.h"
 #include "ScheduleText.h"
+#include "trelwidgets/Sign.h"
 
 #include <QColor>
 #include <QMouseEvent>
@@ -46,6 +47,11 @@ void SHeaderView::setChecked(bool checked)
     updateSection(kCheckSection);
 }
 
+void SHeaderView::drawMissingImages()
+{
+    m_drawsMissingImages = true;
+}
+
 void SHeaderView::mousePressEvent(QMouseEvent* event)
 {
     // The base does not see a press elsewhere: there is nothing to sort or to select by a header.
@@ -65,8 +71,7 @@ void SHeaderView::paintSection(QPainter* painter, const QRect& rect, int logical
     painter->restore();
 
     if (logicalIndex == kCheckSection) {
-        style()->drawItemPixmap(painter, rect, Qt::AlignCenter,
-                                m_checked ? m_checkedPixmap : m_uncheckedPixmap);
+        paintMark(painter, rect);
     }
 
     // With no role of the palette given, the pen is what colours the text.
@@ -76,6 +81,17 @@ void SHeaderView::paintSection(QPainter* painter, const QRect& rect, int logical
 
     if (logicalIndex < count() - 1) {
         paintSeparator(painter, rect);
+    }
+}
+
+void SHeaderView::paintMark(QPainter* painter, const QRect& rect) const
+{
+    const QPixmap& image = m_checked ? m_checkedPixmap : m_uncheckedPixmap;
+    style()->drawItemPixmap(painter, rect, Qt::AlignCenter, image);
+    if (m_drawsMissingImages && image.isNull()) {
+        widgets::paintSign(*painter, rect,
+                           m_checked ? widgets::Sign::Checked : widgets::Sign::Unchecked,
+                           widgets::signColor(palette(), QPalette::ButtonText, isEnabled()));
     }
 }
 

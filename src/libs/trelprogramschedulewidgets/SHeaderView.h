@@ -22,6 +22,10 @@ public:
     /// Sets the mark, to keep it in step with the marks of the rows. Emits nothing.
     void setChecked(bool checked);
 
+    /// From here on a drawn box, with a tick or without, stands in for an image that cannot be
+    /// loaded; else there is nothing in its place.
+    void drawMissingImages();
+
 signals:
     /// The operator has pressed the mark; ischeck is its new state.
     void signalSelectAll(CheckType type, bool ischeck);
@@ -32,11 +36,13 @@ protected:
 
 private:
     void paintSeparator(QPainter* painter, const QRect& rect) const;
+    void paintMark(QPainter* painter, const QRect& rect) const;
 
     QPixmap m_uncheckedPixmap;
     QPixmap m_checkedPixmap;
     bool m_checked = false;
     CheckType m_type;
+    bool m_drawsMissingImages = false;
 };
 
 } // namespace trel::mediadispatch

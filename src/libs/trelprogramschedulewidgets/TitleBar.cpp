@@ -2,6 +2,7 @@
 
 #include "ScheduleText.h"
 #include "trelwidgets/PlainToolTip.h"
+#include "trelwidgets/SignButton.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -49,7 +50,7 @@ bool isShortOfStep(const QPoint& way)
 
 QPushButton* newButton(const QString& objectName)
 {
-    auto* button = new QPushButton;
+    auto* button = new widgets::SignButton;
     button->setObjectName(objectName);
     return button;
 }
@@ -78,7 +79,7 @@ void TitleBar::buildForm()
     m_buttonMin = newButton(QStringLiteral("ButtonMin"));
     m_buttonRestore = newButton(QStringLiteral("ButtonRestore"));
     m_buttonMax = newButton(QStringLiteral("ButtonMax"));
-    m_buttonClose = new QPushButton;
+    m_buttonClose = new widgets::SignButton;
     m_buttonClose->setProperty("imageBtn", QStringLiteral("close"));
 
     m_transCombo = new QComboBox;

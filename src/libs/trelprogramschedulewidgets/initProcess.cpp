@@ -1,6 +1,9 @@
 #include "initProcess.h"
 
+#include "trelwidgets/Sign.h"
+
 #include <QLabel>
+#include <QPainter>
 
 namespace trel::mediadispatch {
 
@@ -25,6 +28,16 @@ initProcess::initProcess(QWidget* parent)
     m_label->setWindowOpacity(kLabelOpacity);
     m_label->setMovie(m_movie.get());
     m_movie->start();
+}
+
+void initProcess::paintEvent(QPaintEvent* event)
+{
+    QDialog::paintEvent(event);
+    if (!m_movie->isValid()) {
+        QPainter painter(this);
+        widgets::paintSign(painter, rect(), widgets::Sign::Refresh,
+                           widgets::signColor(palette(), QPalette::WindowText, isEnabled()));
+    }
 }
 
 } // namespace trel::mediadispatch

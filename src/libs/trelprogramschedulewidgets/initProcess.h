@@ -11,14 +11,17 @@ namespace trel::mediadispatch {
 
 /// A small, half transparent busy indicator without a frame: a running picture, nothing else.
 ///
-/// The picture ":/qss/img/refresh.gif" is the host's; without it the indicator stays empty. It is
-/// hidden until its owner shows it.
+/// The picture ":/qss/img/refresh.gif" is the host's; without it the indicator shows a drawn sign
+/// that stands still. It is hidden until its owner shows it.
 class initProcess : public QDialog
 {
     Q_OBJECT
 
 public:
     explicit initProcess(QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     QLabel* m_label;

@@ -55,7 +55,7 @@ public:
     /// Fetches the title and the texts of the panel and of every card again.
     void translate();
     /// Where the images of a check mark lie. They hold for the cards and choosers that are built
-    /// after this call, in the whole process.
+    /// after this call, in the whole process. A mark whose image cannot be loaded is drawn.
     void setCheckBoxImagePath(const QString& checkedPath, const QString& uncheckedPath) const;
     /// Has no effect. The service is never owned here, so there is nothing to let go of; hosts may
     /// call it before they close their service.

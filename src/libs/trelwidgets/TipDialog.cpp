@@ -1,6 +1,7 @@
 #include "trelwidgets/TipDialog.h"
 
 #include "FrameTitle.h"
+#include "SignLabel.h"
 #include "WindowFrame.h"
 
 #include <QApplication>
@@ -79,7 +80,7 @@ public:
         : q(dialog)
         , type(tipType == Confirmation ? Confirmation : Notice)
         , frame(new WindowFrame(dialog))
-        , icon(new QLabel(frame->client()))
+        , icon(new SignLabel(frame->client()))
         , text(new QLabel(frame->client()))
     {
         frame->title()->setMinimiseVisible(false);

@@ -1,10 +1,13 @@
 #include "TitleButton.h"
 
+#include "BarePainting.h"
+#include "Sign.h"
+
 #include <QEvent>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
-#include <QStyle>
+#include <QStylePainter>
 #include <QVariant>
 
 namespace trel::widgets {
@@ -14,65 +17,53 @@ namespace {
 constexpr int kButtonSide = 26;
 constexpr int kSignSide = 16;
 
+Sign drawnSign(TitleButton::Sign sign)
+{
+    switch (sign) {
+    case TitleButton::Minimise:
+        return Sign::Minimise;
+    case TitleButton::Expand:
+        return Sign::Expand;
+    case TitleButton::Restore:
+        return Sign::Restore;
+    case TitleButton::Close:
+        break;
+    }
+    return Sign::Close;
+}
+
 /// Draws a sign for every size and palette, so that it is sharp on every screen.
 class SignEngine : public QIconEngine
 {
 public:
     SignEngine(TitleButton::Sign sign, const QWidget* button)
-        : m_sign(sign)
+        : m_sign(drawnSign(sign))
         , m_button(button)
     {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
     {
-        const QPalette::ColorGroup group =
-            mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
-        const qreal unit = qMin(rect.width(), rect.height()) / qreal(kSignSide);
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->translate(QRectF(rect).center());
-        painter->scale(unit, unit);
-        painter->setPen(QPen(m_button->palette().color(group, QPalette::ButtonText), 1.3));
-        painter->setBrush(Qt::NoBrush);
-        drawSign(painter);
-        painter->restore();
+        const QColor color =
+            signColor(m_button->palette(), QPalette::ButtonText, mode != QIcon::Disabled);
+        paintSign(*painter, rect, m_sign, color);
     }
 
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override
     {
         QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
+        // The size is in pixels of the screen, and the sign in units.
+        const qreal scale = qMax(1.0, qMin(size.width(), size.height()) / qreal(kSignSide));
+        painter.scale(scale, scale);
+        paint(&painter, QRect(QPoint(), size / scale), mode, QIcon::Off);
         return pixmap;
     }
 
     QIconEngine* clone() const override { return new SignEngine(*this); }
 
 private:
-    /// In a square of 16 units with its origin in the middle.
-    void drawSign(QPainter* painter) const
-    {
-        switch (m_sign) {
-        case TitleButton::Minimise:
-            painter->drawLine(QPointF(-4.5, 0.0), QPointF(4.5, 0.0));
-            break;
-        case TitleButton::Expand:
-            painter->drawRect(QRectF(-4.5, -4.5, 9.0, 9.0));
-            break;
-        case TitleButton::Restore:
-            painter->drawRect(QRectF(-4.5, -2.5, 7.0, 7.0));
-            painter->drawPolyline(
-                QPolygonF({{-2.0, -2.5}, {-2.0, -4.8}, {4.8, -4.8}, {4.8, 2.0}, {2.5, 2.0}}));
-            break;
-        case TitleButton::Close:
-            painter->drawLine(QPointF(-4.2, -4.2), QPointF(4.2, 4.2));
-            painter->drawLine(QPointF(-4.2, 4.2), QPointF(4.2, -4.2));
-            break;
-        }
-    }
-
-    TitleButton::Sign m_sign;
+    Sign m_sign;
     const QWidget* m_button; // Owns the icon, and so outlives it.
 };
 
@@ -117,6 +108,7 @@ void TitleButton::setSign(Sign sign)
     m_sign = sign;
     const SignWords words = wordsOf(sign);
     setIcon(QIcon(new SignEngine(sign, this)));
+    m_ownIcon = icon().cacheKey();
     setAccessibleName(words.spoken);
     setProperty("imageBtn", words.image);
     // A style sheet looks at a property only when the widget is polished.
@@ -130,6 +122,23 @@ void TitleButton::changeEvent(QEvent* event)
         setAccessibleName(wordsOf(m_sign).spoken);
     }
     QPushButton::changeEvent(event);
+}
+
+void TitleButton::paintEvent(QPaintEvent*)
+{
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const bool hasOwnIcon = option.icon.cacheKey() == m_ownIcon;
+    if (hasOwnIcon) {
+        option.icon = QIcon();
+    }
+    painter.drawControl(QStyle::CE_PushButton, option);
+    // Past the icon, which styles ask for a picture in the size of another screen.
+    if (hasOwnIcon && !paintsPictureOnButton(*this, option)) {
+        paintSign(painter, rect(), drawnSign(m_sign),
+                  signColor(palette(), QPalette::ButtonText, isEnabled()));
+    }
 }
 
 QSize TitleButton::sizeHint() const

@@ -7,7 +7,8 @@ namespace trel::widgets {
 /// A button of a window's title bar. It never takes the focus and is never pressed by Return.
 ///
 /// Its sign is drawn in the colour that the palette gives to button texts, so it stays legible
-/// under every theme; a style sheet may give another one with `qproperty-icon`.
+/// under every theme; a style sheet may give another one with `qproperty-icon` or any image, and a
+/// style by painting one.
 ///
 /// Assistive software reads its name, "Minimize", "Maximize", "Restore" or "Close". A host that
 /// speaks another language translates it in the context "trel::widgets::TitleButton".
@@ -28,9 +29,11 @@ public:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     Sign m_sign;
+    qint64 m_ownIcon = 0;
 };
 
 } // namespace trel::widgets

@@ -38,6 +38,8 @@
 #include <tstranslate/LanguageFile.h>
 #include <tstranslate/Translator.h>
 
+#include <QFile>
+
 #include <cstddef>
 #include <iostream>
 #include <string>
@@ -91,5 +93,10 @@ int main()
               << (std::string(loadedVersion()) == TREL_VERSION_STRING ? ", as compiled\n" : "\n");
     std::cout << "Languages: "
               << ProgramSheduleWidgetTranslateManager::languageFolder().toStdString() << '\n';
+    std::cout << "Images:";
+    for (const char* name : {"refresh.gif", "checked.png", "unchecked@2x.png", "add.svg"}) {
+        std::cout << ' ' << (QFile::exists(QLatin1String(":/qss/img/") + name) ? name : "none");
+    }
+    std::cout << '\n';
     std::cout << (areClassesThere && areFunctionsThere ? "All there\n" : "Something is missing\n");
 }

@@ -11,6 +11,7 @@
 
 #include "trelwidgets/ComboBox.h"
 #include "trelwidgets/PlainToolTip.h"
+#include "trelwidgets/SignButton.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -266,7 +267,7 @@ QPushButton* RowBuilder::addButton(PlanColumn column, const QString& image, cons
                                    int planId) const
 {
     QWidget* holder = nullptr;
-    auto* const button = makeEditor<QPushButton>(holder);
+    auto* const button = makeEditor<widgets::SignButton>(holder);
     button->setFixedSize(kButtonSize, kButtonSize);
     button->setFocusPolicy(Qt::NoFocus);
     button->setProperty("imageBtn", image);

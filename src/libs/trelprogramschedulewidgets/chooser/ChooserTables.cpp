@@ -26,6 +26,7 @@ SHeaderView* makeHeader(QTableView* table, CheckType type)
 {
     auto* header = new SHeaderView(type, Qt::Horizontal, table);
     header->setObjectName(QStringLiteral("schedule"));
+    header->drawMissingImages();
     header->setDefaultAlignment(Qt::AlignCenter);
     // Some styles would not let a section be as narrow as the mark.
     header->setMinimumSectionSize(kCheckWidth);
@@ -50,7 +51,9 @@ SHeaderView* setUpTable(QTableView* table, CustomTableModel* model, CheckType ty
     table->setFocusPolicy(Qt::NoFocus);
     table->setSelectionMode(QAbstractItemView::NoSelection);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setItemDelegateForColumn(OfferCheckColumn, new CheckBoxDelegate(type, table));
+    auto* const checks = new CheckBoxDelegate(type, table);
+    checks->drawMissingImages();
+    table->setItemDelegateForColumn(OfferCheckColumn, checks);
     table->verticalScrollBar()->setContextMenuPolicy(Qt::NoContextMenu);
 
     // The header paints labels of its own; a section without an item would show its number below.
