@@ -201,6 +201,9 @@ void MultiComboBox::changeEvent(QEvent* event)
         return;
     }
     QComboBox::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        showText(m_currentText);
+    }
 }
 
 QModelIndex MultiComboBox::entryIndex(int entry) const

@@ -8,6 +8,7 @@
 #include "card/Prompts.h"
 #include "service/TaskPeriods.h"
 #include "service/scheduleManage.h"
+#include "toolkit/StyleAgain.h"
 #include "ui_centerWidget.h"
 
 #include <QApplication>
@@ -105,6 +106,7 @@ void centerWidget::setUpHint()
     m_hintLabel = new QLabel(m_ui->scrollArea);
     m_hintLabel->setTextFormat(Qt::PlainText);
     m_hintLabel->setProperty(kStyle, QStringLiteral("grayHint"));
+    m_hintLabel->installEventFilter(this);
 
     // A layout on the area itself, not on its viewport, so that the hint floats over the list.
     auto* layout = new QVBoxLayout(m_ui->scrollArea);
@@ -194,9 +196,40 @@ void centerWidget::slotGetMapCount(int count)
 {
     const bool empty = count < 1;
     m_hintLabel->setVisible(empty);
-    setProperty(kState, empty ? QStringLiteral("default") : QStringLiteral("busy"));
-    // Makes the style sheet look at the property again.
-    setStyle(QApplication::style());
+    const QString state = empty ? QStringLiteral("default") : QStringLiteral("busy");
+    const bool isOther = property(kState).toString() != state;
+    setProperty(kState, state);
+    // Makes the style sheet look at the property again. Under one of a window that is to look at
+    // all that lies in the panel, which would be once for each card of a list that is built.
+    if (isOther || style() == QApplication::style()) {
+        m_isStyleChanging = true;
+        setStyleAgain(*this);
+        m_isStyleChanging = false;
+    }
+}
+
+void centerWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    noticeStyle(*event);
+}
+
+bool centerWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    // What has been given a style is not told when the application takes another one. Its parts
+    // are.
+    noticeStyle(*event);
+    return QWidget::eventFilter(watched, event);
+}
+
+void centerWidget::noticeStyle(const QEvent& event)
+{
+    // Dropping a style is such a change as well.
+    if (event.type() == QEvent::StyleChange && !m_isStyleChanging) {
+        m_isStyleChanging = true;
+        dropFormerStyle(*this);
+        m_isStyleChanging = false;
+    }
 }
 
 void centerWidget::slotShowProcess()

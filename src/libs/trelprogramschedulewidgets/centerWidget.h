@@ -58,6 +58,10 @@ public slots:
     /// Shows the hint for an empty list, or hides it, after the number of tasks.
     void slotGetMapCount(int count);
 
+protected:
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     class Form;
 
@@ -67,10 +71,12 @@ private:
     void connectAll();
     void nameKeys();
     bool mayBeSaved();
+    void noticeStyle(const QEvent& event);
 
     std::unique_ptr<Form> m_ui;
     QLabel* m_hintLabel = nullptr;
     std::unique_ptr<CardKeyboard> m_keyboard;
+    bool m_isStyleChanging = false;
 };
 
 } // namespace trel::mediadispatch

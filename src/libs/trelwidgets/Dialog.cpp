@@ -1,6 +1,7 @@
 #include "trelwidgets/Dialog.h"
 
 #include "FrameTitle.h"
+#include "LookFollower.h"
 #include "WindowFrame.h"
 
 #include <QKeyEvent>
@@ -81,6 +82,7 @@ public:
     explicit Private(Dialog* dialog)
         : q(dialog)
         , frame(new WindowFrame(dialog))
+        , look(*dialog)
     {}
 
     void switchScale()
@@ -99,6 +101,7 @@ public:
 
     Dialog* q;
     WindowFrame* frame;
+    LookFollower look;
     std::optional<ScaleSwitch> scale;
     bool acceptsByKey = false;
 };
@@ -156,6 +159,15 @@ void Dialog::dismantle()
     d->frame->deleteLater();
     d->frame = nullptr;
     layout()->deleteLater();
+}
+
+void Dialog::changeEvent(QEvent* event)
+{
+    QDialog::changeEvent(event);
+    // The frame is part of what is made first.
+    if (d) {
+        d->look.follow(*event);
+    }
 }
 
 void Dialog::keyPressEvent(QKeyEvent* event)

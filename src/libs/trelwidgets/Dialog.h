@@ -70,6 +70,9 @@ Q_SIGNALS:
 protected:
     /// See the keys above.
     void keyPressEvent(QKeyEvent* event) override;
+    /// Has all that lies in the dialog follow another palette and another font, at once where it is
+    /// in sight, also below a style sheet.
+    void changeEvent(QEvent* event) override;
 
 private:
     class Private;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "EditorStyle.h"
+#include "trelwidgets/InSightFirst.h"
 
 #include <QObject>
 #include <QPointer>
@@ -28,19 +29,13 @@ public:
     /// is part of that.
     void begin();
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void recolour(QWidget& widget);
-    void recolourWhole(QWidget& widget);
-    void recolourInSight(QWidget& widget, const QRect& sight);
-    void putOff(QWidget& part);
     void beginWithTheRest();
     void takeTurn();
 
     QPointer<EditorStyle> m_style; // The application's, which may take another one.
-    std::vector<QPointer<QWidget>> m_waiting;
+    trel::widgets::InSightFirst m_parts;
     std::vector<QPointer<QWidget>> m_shown; ///< The windows that begin() has done.
     bool m_hasRest = false;                 ///< All other windows, until the next turn.
     QTimer m_turn;

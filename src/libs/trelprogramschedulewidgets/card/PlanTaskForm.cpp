@@ -4,9 +4,9 @@
 #include "ScheduleText.h"
 #include "service/DateText.h"
 #include "service/ScheduleRecords.h"
+#include "toolkit/StyleAgain.h"
 #include "trelwidgets/PlainToolTip.h"
 
-#include <QApplication>
 #include <QEnterEvent>
 #include <QStringBuilder>
 #include <QToolTip>
@@ -67,7 +67,7 @@ void PlanTaskForm::showFolded(bool isFolded)
 {
     arrow->setProperty("labelImage", isFolded ? QStringLiteral("right") : QStringLiteral("down"));
     // A style sheet looks at a property again only when the style is set again.
-    arrow->setStyle(QApplication::style());
+    setStyleAgain(*arrow);
     widget->setVisible(!isFolded);
 }
 
