@@ -4,6 +4,7 @@
 
 #include <scheduleControlUI.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
@@ -28,14 +29,22 @@ QString beside(const QString& name)
 }
 
 /// Colours of the host, for the hooks of the editor.
-bool setLooks(QApplication& application)
+bool setLooks(QApplication& application, const QString& path)
 {
-    QFile sheet(beside(QStringLiteral("station.qss")));
+    QFile sheet(path);
     if (!sheet.open(QIODevice::ReadOnly)) {
         return false;
     }
     application.setStyleSheet(QString::fromUtf8(sheet.readAll()));
     return true;
+}
+
+/// By a click on the bar of a card, as an operator does it.
+void unfoldFirst(const scheduleControlUI& editor)
+{
+    if (auto* const bar = editor.findChild<QAbstractButton*>(QStringLiteral("title"))) {
+        bar->click();
+    }
 }
 
 } // namespace
@@ -48,6 +57,10 @@ int main(int argc, char** argv)
                                      QStringLiteral("Save a picture of the editor, and end."),
                                      QStringLiteral("file"));
     parser.addOption(picture);
+    const QCommandLineOption sheet(QStringLiteral("sheet"),
+                                   QStringLiteral("Take the looks from here."),
+                                   QStringLiteral("file"), beside(QStringLiteral("station.qss")));
+    parser.addOption(sheet);
     parser.addHelpOption();
     parser.addPositionalArgument(QStringLiteral("schedule"),
                                  QStringLiteral("The file of the schedule, in JSON."));
@@ -59,8 +72,8 @@ int main(int argc, char** argv)
     if (!refused.isEmpty()) {
         return refuse(refused);
     }
-    if (!setLooks(application)) {
-        return refuse(QStringLiteral("station.qss is missing beside the program."));
+    if (!setLooks(application, parser.value(sheet))) {
+        return refuse(QStringLiteral("The style sheet cannot be read: ") + parser.value(sheet));
     }
 
     scheduleControlUI editor;
@@ -78,6 +91,7 @@ int main(int argc, char** argv)
     QTimer::singleShot(1000, &editor, [&] {
         editor.slotShow();
         if (parser.isSet(picture)) {
+            unfoldFirst(editor);
             const bool isSaved = editor.grab().save(parser.value(picture));
             QTextStream(stdout) << editor.windowTitle() << Qt::endl;
             QApplication::exit(isSaved ? 0 : 1);

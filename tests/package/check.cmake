@@ -94,7 +94,9 @@ run(ldd ${own}/own-service OUTPUT libtrelprogramschedulewidgets WITHOUT "libtrel
 run(${own}/own-service STATUS 2 OUTPUT "schedule")
 run(${own}/own-service ${WORK}/none.json STATUS 1 OUTPUT "none.json")
 run(${own}/own-service --picture ${own}/picture.png ${OWN_EXAMPLE}/station.json OUTPUT "Palinsesto")
-if(NOT EXISTS ${own}/picture.png)
+run(${own}/own-service --sheet ${OWN_EXAMPLE}/hooks.qss --picture ${own}/hooks.png
+  ${OWN_EXAMPLE}/station.json OUTPUT "Palinsesto" WITHOUT "Could not")
+if(NOT EXISTS ${own}/picture.png OR NOT EXISTS ${own}/hooks.png)
   message(FATAL_ERROR "The host has saved no picture")
 endif()
 run(${CMAKE_COMMAND} -S ${OWN_TEST} -B ${own}/test -G Ninja -DEXAMPLE=${OWN_EXAMPLE}

@@ -87,6 +87,7 @@ ProgramChoose::ProgramChoose(PlayTask* task, int taskId, int planId, QWidget* pa
     ui->pushButtonDelete->setProperty(kStyle, QStringLiteral("assist"));
     ui->cancelBtn->setProperty(kStyle, QStringLiteral("assist"));
     ui->okBtn->setObjectName(QStringLiteral("comfirmBtn"));
+    ui->okBtn->setProperty(kStyle, QStringLiteral("general"));
     setUpFrame();
 }
 

@@ -1,7 +1,9 @@
 #include "ShownEditor.h"
 
+#include "CheckBoxDelegate.h"
 #include "CheckBoxImages.h"
 #include "ChooserFixture.h"
+#include "SHeaderView.h"
 #include "TitleBar.h"
 #include "initProcess.h"
 #include "support/TestProgram.h"
@@ -9,7 +11,9 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMovie>
 #include <QProxyStyle>
+#include <QStandardItemModel>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -69,6 +73,18 @@ double contrast(const QImage& picture, const QImage& ground)
         }
     }
     return sum;
+}
+
+bool shows(const QImage& picture, const QColor& color)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixelColor(x, y) == color) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 QString nameOf(const QWidget& widget)
@@ -158,6 +174,7 @@ private slots:
     void marksCanBeSeen_data();
     void marksCanBeSeen();
     void imagesOfMarksStandAlone();
+    void marksAreDrawnWhereTheyAreAskedFor();
     void theBusySignComesWithoutMovie();
     void imagesOfASheetStandAlone_data();
     void imagesOfASheetStandAlone();
@@ -302,15 +319,12 @@ void tst_BuiltInSigns::haveTheColorOfThePalette()
             QPalette palette = widget->palette();
             palette.setColor(QPalette::ButtonText, Qt::magenta);
             palette.setColor(QPalette::WindowText, Qt::magenta);
+            palette.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::cyan);
+            palette.setColor(QPalette::Disabled, QPalette::WindowText, Qt::cyan);
             widget->setPalette(palette);
-            const QImage image = drawn(*widget, 2);
-            bool isFound = false;
-            for (int y = 0; y < image.height() && !isFound; ++y) {
-                for (int x = 0; x < image.width() && !isFound; ++x) {
-                    isFound = image.pixelColor(x, y) == QColor(Qt::magenta);
-                }
-            }
-            QVERIFY2(isFound, qPrintable(nameOf(*widget)));
+            QVERIFY2(shows(drawn(*widget, 2), Qt::magenta), qPrintable(nameOf(*widget)));
+            widget->setEnabled(false);
+            QVERIFY2(shows(drawn(*widget, 2), Qt::cyan), qPrintable(nameOf(*widget)));
         }
     });
 }
@@ -418,12 +432,42 @@ void tst_BuiltInSigns::imagesOfMarksStandAlone()
     }});
 }
 
+void tst_BuiltInSigns::marksAreDrawnWhereTheyAreAskedFor()
+{
+    QStandardItemModel model(1, 1);
+    QTableView table;
+    auto* const header = new SHeaderView(ProgramListCheck, Qt::Horizontal, &table);
+    auto* const delegate = new CheckBoxDelegate(ProgramListCheck, &table);
+    table.setHorizontalHeader(header);
+    table.setItemDelegate(delegate);
+    table.setModel(&model);
+    table.show();
+    const auto picture = [&table] { return drawn(*table.viewport()); };
+    const auto head = [header] { return drawn(*header->viewport()); };
+    const QImage without = picture();
+    const QImage headWithout = head();
+    model.setData(model.index(0, 0), true, Qt::UserRole);
+    header->setChecked(true);
+    QCOMPARE(picture(), without);
+    QCOMPARE(head(), headWithout);
+    delegate->drawMissingImages();
+    header->drawMissingImages();
+    QVERIFY(picture() != without);
+    QVERIFY(head() != headWithout);
+}
+
 void tst_BuiltInSigns::theBusySignComesWithoutMovie()
 {
     initProcess busy;
     QDialog bare;
     bare.setFixedSize(busy.size());
     QVERIFY(drawn(busy) != drawn(bare));
+    auto* const label = busy.findChild<QLabel*>();
+    label->hide();
+    label->movie()->setFileName(QStringLiteral(SOURCE_DIR "/resources/images/refresh.gif"));
+    QVERIFY(label->movie()->isValid());
+    QCOMPARE(drawn(busy), drawn(bare));
+    label->movie()->setFileName(QString());
     QVERIFY(drawn(busy, 2) != drawn(busy).scaled(busy.size() * 2));
 }
 

@@ -5,12 +5,15 @@
 #include "service/scheduleManage.h"
 
 #include <QLabel>
+#include <QVariant>
 
 #include <algorithm>
 
 namespace trel::mediadispatch {
 
 namespace {
+
+constexpr char kState[] = "state";
 
 std::vector<bool> collisions(const std::vector<PlayPlan>& plans, const CatalogueSource& catalogue)
 {
@@ -51,14 +54,18 @@ std::unordered_set<int> markConflicts(PlayTask& task, const CatalogueSource& cat
 }
 
 PlanStateLook::PlanStateLook()
-    : m_normal{QStringLiteral("color:green; padding-left: 1px;"), scheduleText("zhnormalStr")}
-    , m_colliding{QStringLiteral("color:red; padding-left: 1px;"), scheduleText("zhconflictStr")}
+    : m_normal{QStringLiteral("color:green; padding-left: 1px;"), scheduleText("zhnormalStr"),
+               QStringLiteral("free")}
+    , m_colliding{QStringLiteral("color:red; padding-left: 1px;"), scheduleText("zhconflictStr"),
+                  QStringLiteral("collision")}
 {}
 
 void PlanStateLook::show(QLabel& label, bool collides) const
 {
     const State& state = collides ? m_colliding : m_normal;
     if (label.styleSheet() != state.styleSheet) {
+        // First, for with the label's own sheet that of the application is looked at again.
+        label.setProperty(kState, state.hook);
         label.setStyleSheet(state.styleSheet);
     }
     if (label.text() != state.text) {

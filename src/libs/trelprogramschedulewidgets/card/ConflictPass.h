@@ -36,6 +36,7 @@ private:
     {
         QString styleSheet;
         QString text;
+        QString hook; ///< The property "state", for style sheets.
     };
 
     State m_normal;
