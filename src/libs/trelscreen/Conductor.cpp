@@ -447,7 +447,8 @@ void Conductor::load(PlayAttempt& attempt, DeckSlot& slot, Instant startsAt)
 {
     attempt.retryAt.reset();
     attempt.slot = &slot;
-    slot.load(attempt.play, startsAt, m_steady);
+    attempt.triedAt = m_steady;
+    slot.load(attempt.play, startsAt, m_steady, attempt.failures);
 }
 
 bool Conductor::isLookDue() const
@@ -474,6 +475,7 @@ void Conductor::show()
         former->clear();
     }
     m_isShown = true;
+    m_current.triedAt.reset();
     m_graceUntil.reset();
     m_isSwitch = m_isSwitch && m_current.failures == 0;
     if (m_current.failures > 0) {

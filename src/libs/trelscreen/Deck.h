@@ -21,6 +21,8 @@ struct DeckLoad
     qint64 position = 0;
     /// The first picture stands and is never played on, as the last frame of a play does.
     bool stands = false;
+    /// How often the play has failed in a row before this load: what is slow may be given more time.
+    int failures = 0;
 };
 
 /// One of the two that a screen plays on: a deck loads a program, shows its first picture and waits

@@ -19,13 +19,14 @@ constexpr qint64 kSeekAllowed = 5000;
 /// How much shorter than the catalogue says a file may be.
 constexpr qint64 kShortfall = 500;
 
-DeckLoad loadOf(const ScreenPlay& play, Instant startsAt)
+DeckLoad loadOf(const ScreenPlay& play, Instant startsAt, int failures)
 {
     DeckLoad load;
     load.media = play.media;
     load.kind = play.kind;
     load.position = play.hasPosition() ? play.positionAt(startsAt) : 0;
     load.stands = play.isFrozen();
+    load.failures = failures;
     return load;
 }
 
@@ -61,7 +62,7 @@ DeckSlot::DeckSlot(Deck& deck, QObject* parent)
     });
 }
 
-void DeckSlot::load(const ScreenPlay& play, Instant startsAt, qint64 steady)
+void DeckSlot::load(const ScreenPlay& play, Instant startsAt, qint64 steady, int failures)
 {
     m_play = play;
     m_startsAt = startsAt;
@@ -71,7 +72,7 @@ void DeckSlot::load(const ScreenPlay& play, Instant startsAt, qint64 steady)
     m_isStarted = false;
     m_hasEnded = false;
     setSpeed(1.0);
-    m_load = m_deck.load(loadOf(play, startsAt));
+    m_load = m_deck.load(loadOf(play, startsAt, failures));
 }
 
 void DeckSlot::clear()

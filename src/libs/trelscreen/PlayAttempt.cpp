@@ -2,6 +2,7 @@
 
 #include "trelscreen/RetryPauses.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace trel::screen {
@@ -12,7 +13,9 @@ bool PlayAttempt::fail(const DeckFault& newFault, qint64 steady)
     fault = newFault;
     ++failures;
     failedAt = failedAt.value_or(steady);
-    retryAt = steady + retryPause(failures);
+    // What took long to fail has had its pause meanwhile.
+    retryAt = std::max(steady + retryPause(1), triedAt.value_or(steady) + retryPause(failures));
+    triedAt.reset();
     backAt.reset();
     slot = nullptr;
     return isNew;

@@ -20,6 +20,7 @@ struct PlayAttempt
     DeckFault fault;                ///< The last one, until it has recovered.
     int failures = 0;               ///< Since it was well.
     std::optional<qint64> failedAt; ///< The first of them.
+    std::optional<qint64> triedAt;  ///< When it was loaded, until it has been on screen.
     std::optional<qint64> retryAt;
     /// When it was on screen again; it has recovered once it stays so for a while.
     std::optional<qint64> backAt;

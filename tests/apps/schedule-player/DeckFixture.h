@@ -46,7 +46,7 @@ public:
 /// The load of a film, for tests that have nothing special to say about it.
 inline trel::screen::DeckLoad filmOf(const QString& path, qint64 position = 0)
 {
-    return {path, trel::mediadispatch::ProgramKind::Video, position, false};
+    return {path, trel::mediadispatch::ProgramKind::Video, position, false, 0};
 }
 
 /// The fault of the only signal that a spy on failed has.

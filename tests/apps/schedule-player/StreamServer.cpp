@@ -82,12 +82,14 @@ void StreamServer::connected()
 {
     while (QTcpSocket* socket = m_server.nextPendingConnection()) {
         m_sockets.append(socket);
-        connect(socket, &QTcpSocket::readyRead, this, [this, socket] { answer(*socket); });
+        m_mostLines = std::max(m_mostLines, ++m_openLines);
+        connect(socket, &QTcpSocket::disconnected, this, [this] { --m_openLines; });
+        connect(socket, &QTcpSocket::readyRead, this, [this, socket] { ask(*socket); });
         connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
     }
 }
 
-void StreamServer::answer(QTcpSocket& socket)
+void StreamServer::ask(QTcpSocket& socket)
 {
     const QByteArray request = socket.readAll();
     ++m_requests;
@@ -97,6 +99,15 @@ void StreamServer::answer(QTcpSocket& socket)
     if (m_isSilent) {
         return;
     }
+    if (m_delay > 0) {
+        QTimer::singleShot(m_delay, &socket, [this, &socket, path] { answer(socket, path); });
+    } else {
+        answer(socket, path);
+    }
+}
+
+void StreamServer::answer(QTcpSocket& socket, const QString& path)
+{
     if (m_paced.contains(path)) {
         socket.write("HTTP/1.0 200 OK\r\n\r\n");
         Line line{&socket, m_paced.value(path), 0, {}};
@@ -109,7 +120,8 @@ void StreamServer::answer(QTcpSocket& socket)
         socket.disconnectFromHost();
         return;
     }
-    socket.write("HTTP/1.0 200 OK\r\n\r\n" + m_contents.value(path));
+    const QByteArray content = m_contents.value(path);
+    socket.write("HTTP/1.0 200 OK\r\n\r\n" + content.left(m_cutOff.value_or(content.size())));
     if (m_whole.contains(path)) {
         socket.disconnectFromHost();
     }

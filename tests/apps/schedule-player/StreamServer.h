@@ -9,6 +9,7 @@
 #include <QTcpSocket>
 #include <QTimer>
 
+#include <optional>
 #include <vector>
 
 /// A source of streams on this machine, which does with those who connect what a test says.
@@ -34,12 +35,19 @@ public:
     void setBreaksOff(bool breaksOff) { m_breaksOff = breaksOff; }
     /// Sends nothing more on the lines that it has, which stay.
     void forgetLines() { m_lines.clear(); }
+    /// Answers each line only after that time.
+    void setDelay(int milliseconds) { m_delay = milliseconds; }
+    /// Sends so many bytes of what there is at once, and nothing more on lines that stay.
+    void setCutOff(std::optional<int> bytes) { m_cutOff = bytes; }
     /// Ends all lines.
     void hangUp();
     /// Nobody can connect any more, until it goes on at the same place.
     void stop();
     void goOn();
 
+    /// How many lines there are now, and were at most.
+    int lines() const { return m_openLines; }
+    int mostLines() const { return m_mostLines; }
     int requests() const { return m_requests; }
     const QStringList& paths() const { return m_paths; }
 
@@ -62,7 +70,8 @@ private:
 
     void sendMore();
     void connected();
-    void answer(QTcpSocket& socket);
+    void ask(QTcpSocket& socket);
+    void answer(QTcpSocket& socket, const QString& path);
 
     QTcpServer m_server;
     quint16 m_port = 0;
@@ -77,4 +86,8 @@ private:
     bool m_breaksOff = false;
     bool m_isSilent = false;
     int m_requests = 0;
+    int m_delay = 0;
+    std::optional<int> m_cutOff;
+    int m_openLines = 0;
+    int m_mostLines = 0;
 };

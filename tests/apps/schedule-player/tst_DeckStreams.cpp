@@ -1,5 +1,6 @@
 #include "DeckFixture.h"
 #include "StreamServer.h"
+#include "deck/StreamPlayback.h"
 #include "support/TestProgram.h"
 
 #include <QFile>
@@ -7,6 +8,7 @@
 
 using trel::mediadispatch::ProgramKind;
 using trel::player::PlayerDeck;
+using trel::player::StreamPlayback;
 using trel::screen::DeckLoad;
 using trel::screen::DeckTrouble;
 
@@ -59,6 +61,12 @@ private slots:
     void showsNoHalfPicture_data();
     void showsNoHalfPicture();
     void isBackAfterABreak();
+    void isBackAfterASilence_data();
+    void isBackAfterASilence();
+    void waitsForASlowServer_data();
+    void waitsForASlowServer();
+    void asksASilentServerNowAndThen();
+    void asksOnceWhereItIsAnswered();
     void keepsPasswordsToItself();
     void followsAListOfTheNetworkOnly();
     void refusesWhatIsNoStream_data();
@@ -67,7 +75,7 @@ private slots:
     void tellsAtOnceWhereItCannotBeSought();
 
 private:
-    static DeckLoad live(const QString& address) { return {address, ProgramKind::Live, 0, false}; }
+    static DeckLoad live(const QString& address) { return {address, ProgramKind::Live, 0, false, 0}; }
 
     QTemporaryDir m_folder;
     QByteArray m_stream;
@@ -227,6 +235,108 @@ void tst_DeckStreams::isBackAfterABreak()
     screen.first.load(live(server.address()));
     QTRY_VERIFY(screen.first.isReady());
     QVERIFY(screen.shows(9, 0));
+}
+
+void tst_DeckStreams::isBackAfterASilence_data()
+{
+    QTest::addColumn<bool>("begins");
+    QTest::newRow("nothing has come") << false;
+    QTest::newRow("broken off in the middle of the first picture") << true;
+}
+
+/// The line that it had made stays silent for good.
+void tst_DeckStreams::isBackAfterASilence()
+{
+    QFETCH(const bool, begins);
+    StreamServer server;
+    server.serve(QStringLiteral("/live"), m_stream);
+    if (begins) {
+        server.setCutOff(5 * kPacket);
+    } else {
+        server.setSilent(true);
+    }
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    screen.show(screen.first);
+    screen.first.load(live(server.address()));
+    QTRY_COMPARE(server.requests(), 1);
+    server.setCutOff(std::nullopt);
+    server.setSilent(false);
+    QElapsedTimer timer;
+    timer.start();
+    QTRY_VERIFY(screen.first.isReady());
+    QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(server.requests(), 2);
+    QCOMPARE(failed.count(), 0);
+    QVERIFY(screen.shows(9, 0));
+    screen.first.play();
+    QTRY_VERIFY(screen.record.last().mark.frame > 10);
+    // The silent one has been left.
+    QTRY_COMPARE(server.lines(), 1);
+}
+
+void tst_DeckStreams::waitsForASlowServer_data()
+{
+    QTest::addColumn<int>("delay");
+    QTest::addColumn<int>("failures");
+    QTest::addColumn<bool>("isReady");
+    QTest::newRow("slow") << 3500 << 0 << true;
+    QTest::newRow("slower than is believed at first") << 7000 << 0 << false;
+    QTest::newRow("slower, and tried again") << 7000 << 1 << true;
+}
+
+/// Its first line is kept beside all others.
+void tst_DeckStreams::waitsForASlowServer()
+{
+    QFETCH(const int, delay);
+    QFETCH(const int, failures);
+    QFETCH(const bool, isReady);
+    StreamServer server;
+    server.serve(QStringLiteral("/live"), m_stream);
+    server.setDelay(delay);
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    screen.show(screen.first);
+    DeckLoad load = live(server.address());
+    load.failures = failures;
+    screen.first.load(load);
+    QTRY_VERIFY_WITH_TIMEOUT(screen.first.isReady() || !failed.isEmpty(), kPatience);
+    QCOMPARE(screen.first.isReady(), isReady);
+    QCOMPARE(failed.count(), isReady ? 0 : 1);
+    QCOMPARE(faultIn(failed).trouble, isReady ? DeckTrouble::None : DeckTrouble::Unreachable);
+}
+
+void tst_DeckStreams::asksASilentServerNowAndThen()
+{
+    StreamServer server;
+    server.setSilent(true);
+    DeckFixture screen;
+    QSignalSpy failed(&screen.first, &PlayerDeck::failed);
+    QElapsedTimer timer;
+    timer.start();
+    DeckLoad load = live(server.address());
+    load.failures = 1;
+    screen.first.load(load);
+    QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, kPatience);
+    const qint64 most = 1 + timer.elapsed() / StreamPlayback::kSilence;
+    QVERIFY2(server.requests() <= most && server.requests() >= most / 2,
+             qPrintable(QString::number(server.requests())));
+    // With one that is just being left.
+    QVERIFY2(server.mostLines() <= static_cast<int>(StreamPlayback::kMostLines) + 1,
+             qPrintable(QString::number(server.mostLines())));
+    QTRY_COMPARE(server.lines(), 0);
+}
+
+void tst_DeckStreams::asksOnceWhereItIsAnswered()
+{
+    StreamServer server;
+    server.servePaced(QStringLiteral("/live"), m_stream, 2000);
+    DeckFixture screen;
+    screen.show(screen.first);
+    screen.first.load(live(server.address()));
+    QTRY_VERIFY(screen.first.isReady());
+    QTest::qWait(2 * StreamPlayback::kSilence);
+    QCOMPARE(server.requests(), 1);
 }
 
 void tst_DeckStreams::keepsPasswordsToItself()

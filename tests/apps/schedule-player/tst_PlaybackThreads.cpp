@@ -34,6 +34,7 @@ void tst_PlaybackThreads::threadsThatHangAreBounded()
         threads.start(hang);
     }
     QTRY_COMPARE(running->load(), 16);
+    QCOMPARE(threads.running(), 16);
     answer.set_value();
     QVERIFY(threads.wait(5s));
     QCOMPARE(running->load(), 16);

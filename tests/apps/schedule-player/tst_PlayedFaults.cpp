@@ -104,6 +104,17 @@ void tst_PlayedFaults::allBreakAtOnce_data()
                                         {Long, Way::Pipe},       {Longer, Way::CutShort},
                                         {Still, Way::Text},      {Sound, Way::Missing},
                                         {Stream, Way::BreaksOff}};
+    // The others have nothing to do with it.
+    QTest::newRow("silent") << Ways{
+        {Short, Way::Text},   {Middle, Way::Missing}, {Long, Way::Missing}, {Longer, Way::Text},
+        {Still, Way::Folder}, {Sound, Way::Emptied},  {Stream, Way::Silent}};
+    QTest::newRow("dead") << Ways{
+        {Short, Way::Pipe},    {Middle, Way::Pipe}, {Long, Way::Folder}, {Longer, Way::Missing},
+        {Still, Way::Missing}, {Sound, Way::Text},  {Stream, Way::Dead}};
+    QTest::newRow("unreachable") << Ways{{Short, Way::CutShort},    {Middle, Way::CutShort},
+                                         {Long, Way::Text},         {Longer, Way::Folder},
+                                         {Still, Way::Emptied},     {Sound, Way::Pipe},
+                                         {Stream, Way::Unreachable}};
 }
 
 void tst_PlayedFaults::allBreakAtOnce()

@@ -82,13 +82,13 @@ private slots:
         screen.follow("07:00:00-08:00:00 B / 08:00:00-09:00:00 H");
         screen.advanceTo("08:00:10");
         const QStringList calls = screen.takeCalls();
-        // From the moment at which it was first loaded: with pauses of 0.25, 0.5, 1, 1, ... s, and
-        // from its beginning on with the position that it would have.
+        // From the moment at which it was first loaded: 0.25 s after its failure, then 0.5, 1, 1,
+        // ... s after the last try, and from its beginning on with the position that it would have.
         const QStringList loads = calls.filter(QStringLiteral("load H"));
         QCOMPARE(loads.mid(0, 5),
                  lines({"07:59:59 two: load H at 0", "07:59:59.260 two: load H at 0",
-                        "07:59:59.770 two: load H at 0", "08:00:00.780 one: load H at 1030",
-                        "08:00:01.790 one: load H at 2040"}));
+                        "07:59:59.760 two: load H at 0", "08:00:00.760 one: load H at 1010",
+                        "08:00:01.760 one: load H at 2010"}));
         QCOMPARE(screen.picture(), QStringLiteral("stand-by"));
         QCOMPARE(screen.log.take(Kind::Fault), lines({"fault H missing"}));
         QCOMPARE(screen.conductor.tally().faults(DeckTrouble::Missing), 1);
@@ -216,6 +216,36 @@ private slots:
         QCOMPARE(screen.conductor.tally().faults(DeckTrouble::Stalled), 1);
         QCOMPARE(screen.stage.deck(), &screen.two);
         QVERIFY(screen.conductor.status().isOnTimeline);
+    }
+
+    /// A stream takes seconds to be given up; all that time was a pause as well.
+    void triesAgainSoonAfterWhatTookLongToFail()
+    {
+        ScreenFixture screen("08:00:10", 5000);
+        Broken broken(screen, "L", DeckTrouble::Unreachable);
+        screen.follow("08:00:00-09:00:00 L");
+        screen.advance(16'000);
+        QCOMPARE(screen.takeCalls().filter(QStringLiteral("load L")),
+                 lines({"08:00:10 one: load L at 0", "08:00:15.250 one: load L at 0",
+                        "08:00:20.500 one: load L at 0", "08:00:25.750 one: load L at 0"}));
+    }
+
+    void tellsTheDeckHowOftenItHasFailed()
+    {
+        ScreenFixture screen("08:00:10", 10);
+        Broken broken(screen, "L", DeckTrouble::Unreachable);
+        screen.follow("08:00:00-09:00:00 L");
+        QCOMPARE(screen.one.loaded().failures, 0);
+        screen.advance(260);
+        QCOMPARE(screen.one.loaded().failures, 1);
+        screen.advance(500);
+        QCOMPARE(screen.one.loaded().failures, 2);
+        broken.mend();
+        screen.advance(3000);
+        QVERIFY(screen.conductor.status().isOnTimeline);
+        (screen.stage.deck() == &screen.one ? screen.one : screen.two).tellEnded();
+        screen.advance(250);
+        QVERIFY(screen.one.loaded().failures == 1 || screen.two.loaded().failures == 1);
     }
 
     void givesUpALoadThatNeverEnds_data()

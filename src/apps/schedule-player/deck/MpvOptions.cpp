@@ -115,7 +115,7 @@ std::vector<MpvOption> mpvOptions(const MpvWishes& wishes)
         const QByteArray formats = QByteArray(kFileFormats) + kStreamFormats;
         options.push_back({"stream-lavf-o", protocols});
         options.push_back({"demuxer-lavf-o", protocols + ",format_whitelist=" + quoted(formats)});
-        options.push_back({"network-timeout", "5"});
+        options.push_back({"network-timeout", QByteArray::number(wishes.streamPatience)});
         options.push_back({"cache-pause-wait", "0.2"});
     } else {
         options.push_back({"access-references", "no"});

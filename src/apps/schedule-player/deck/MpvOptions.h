@@ -12,6 +12,7 @@ namespace trel::player {
 struct MpvWishes
 {
     bool isStream = false;
+    int streamPatience = 5;  ///< Seconds that a stream may be silent.
     bool onlySounds = false; ///< Shows no picture, also where the file has one for its cover.
     bool isMute = false;
     bool copiesDecoded = true; ///< Pictures decoded by hardware are fetched into memory.

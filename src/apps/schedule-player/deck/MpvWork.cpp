@@ -21,6 +21,9 @@ constexpr int kMostLettersOfWords = 200;
 /// A file tells its times in whole thousandths, so that those of its pictures are rounded.
 constexpr double kRounding = 0.001;
 constexpr std::chrono::milliseconds kLook{250};
+/// How long a stream may be silent that is being connected to, and how long it may take in all.
+constexpr int kFirstPatience = 5; // seconds
+constexpr int kLaterPatience = 10;
 constexpr std::chrono::seconds kLongestConnecting{10};
 constexpr std::chrono::seconds kLongestSilence{2};
 /// From the library's word that it plays to the first picture, which is on its way by then.
@@ -93,6 +96,8 @@ bool MpvWork::open()
     }
     MpvWishes wishes;
     wishes.isStream = m_isStream;
+    // What does not answer in time at first may only be slow.
+    wishes.streamPatience = m_load.failures == 0 ? kFirstPatience : kLaterPatience;
     wishes.onlySounds = m_load.kind == ProgramKind::Audio;
     wishes.isMute = m_isMute;
     wishes.copiesDecoded = m_copiesDecoded;
@@ -238,6 +243,7 @@ void MpvWork::handleProperty(std::uint64_t observed, const mpv_event_property& p
         reached(*static_cast<const double*>(property.data));
         return;
     case ReadUntil: {
+        stir();
         const std::lock_guard lock(m_mutex);
         m_position.readUntil(*static_cast<const double*>(property.data) * 1000.0);
         return;
@@ -311,8 +317,16 @@ void MpvWork::seekRefused(const QString& words)
     fail(DeckTrouble::Unreadable, QStringLiteral("It cannot be sought: %1").arg(words));
 }
 
+void MpvWork::stir()
+{
+    if (m_isStream && !m_isReady && !m_isOver) {
+        m_mail.post(m_news.stirred);
+    }
+}
+
 void MpvWork::fileLoaded()
 {
+    stir();
     readTracks();
     m_hasVideo = numberOf(m_handle.get(), "current-tracks/video/id") > 0;
     if (!m_hasVideo && m_load.kind == ProgramKind::Video) {

@@ -58,6 +58,7 @@ private:
     void handle(const mpv_event& event);
     void handleProperty(std::uint64_t observed, const mpv_event_property& property);
     void handleLog(const mpv_event_log_message& message);
+    void stir();
     void fileLoaded();
     void restarted();
     void reachedEnd();

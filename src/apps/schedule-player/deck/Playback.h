@@ -19,6 +19,8 @@ struct PlaybackNews
     std::function<void()> pictureChanged; ///< There is a newer one; several may have come.
     /// Its pictures cannot be drawn in the way that it was told to. It fails as well.
     std::function<void()> drawingFailed;
+    /// Of a stream that is not ready: something of it has come. Told any number of times.
+    std::function<void()> stirred;
 };
 
 /// One program as it plays: what a deck has loaded. It begins to load when it is made, is never

@@ -14,8 +14,6 @@ namespace {
 
 /// A player that is told to end has a second for all.
 constexpr std::chrono::milliseconds kPatience{300};
-/// Two programs and their successors take a handful; all others hang.
-constexpr int kMostThreads = 16;
 
 using Patience = std::chrono::steady_clock::duration;
 
@@ -62,7 +60,7 @@ void PlaybackThreads::start(std::function<void()> function)
     }
     {
         const std::lock_guard lock(m_count->mutex);
-        if (m_count->running >= kMostThreads) {
+        if (m_count->running >= kMost) {
             return;
         }
         ++m_count->running;
@@ -82,6 +80,12 @@ void PlaybackThreads::start(std::function<void()> function)
     } catch (const std::system_error&) {
         over();
     }
+}
+
+int PlaybackThreads::running() const
+{
+    const std::lock_guard lock(m_count->mutex);
+    return m_count->running;
 }
 
 bool PlaybackThreads::wait(std::chrono::milliseconds patience) const

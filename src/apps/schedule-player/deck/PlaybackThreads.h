@@ -18,11 +18,15 @@ public:
     ~PlaybackThreads();
     Q_DISABLE_COPY(PlaybackThreads)
 
+    /// How many run at a time. Two programs and their successors take a handful; all others hang.
+    static constexpr int kMost = 16;
+
     /// Runs the function in a thread of its own. What it uses has to be its own as well. Where
-    /// sixteen threads hang already, or the system has none left, it is not run: a disk that does
+    /// that many hang already, or the system has none left, it is not run: a disk that does
     /// not answer for days must not use up the machine. A load that was to be read so never gets
     /// ready, and is given up and tried again like any other.
     void start(std::function<void()> function);
+    int running() const;
     /// Whether all have ended by then.
     bool wait(std::chrono::milliseconds patience) const;
 

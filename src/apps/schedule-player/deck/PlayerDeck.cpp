@@ -3,6 +3,7 @@
 #include "deck/MpvOptions.h"
 #include "deck/MpvPlayback.h"
 #include "deck/StillPlayback.h"
+#include "deck/StreamPlayback.h"
 
 #include <clocale>
 
@@ -11,6 +12,14 @@ namespace trel::player {
 using mediadispatch::ProgramKind;
 using screen::DeckFault;
 using screen::DeckTrouble;
+
+namespace {
+
+/// Lines of a stream that hang, in the search for its address for instance, leave threads enough
+/// for other programs.
+constexpr int kMostThreadsForMore = PlaybackThreads::kMost - 4;
+
+} // namespace
 
 PlayerDeck::PlayerDeck(bool isMute, GlSharing* sharing, QObject* parent)
     : Deck(parent)
@@ -37,13 +46,24 @@ quint64 PlayerDeck::load(const screen::DeckLoad& load)
     news.pictureChanged = [this] { emit pictureChanged(); };
     news.drawingFailed = [this] { emit drawingFailed(); };
     m_isByOpenGl = m_sharing != nullptr && load.kind != ProgramKind::Image;
-    if (load.kind == ProgramKind::Image) {
-        m_playback = std::make_unique<StillPlayback>(load.media, m_shape, news, m_threads);
-    } else {
-        m_playback =
-            std::make_unique<MpvPlayback>(load, m_isMute, m_shape, news, m_threads, m_sharing);
-    }
+    m_playback = playbackOf(load, news);
     return number;
+}
+
+std::unique_ptr<Playback> PlayerDeck::playbackOf(const screen::DeckLoad& load,
+                                                 const PlaybackNews& news)
+{
+    if (load.kind == ProgramKind::Image) {
+        return std::make_unique<StillPlayback>(load.media, m_shape, news, m_threads);
+    }
+    const auto play = [this, load](const PlaybackNews& heard) {
+        return std::make_unique<MpvPlayback>(load, m_isMute, m_shape, heard, m_threads, m_sharing);
+    };
+    if (load.kind != ProgramKind::Live) {
+        return play(news);
+    }
+    return std::make_unique<StreamPlayback>(
+        play, [this] { return m_threads.running() < kMostThreadsForMore; }, news);
 }
 
 void PlayerDeck::clear()

@@ -13,6 +13,7 @@ namespace trel::player {
 
 class GlSharing;
 class Playback;
+struct PlaybackNews;
 
 /// A deck that really plays: films, sound and streams by libmpv, images by the program that reads
 /// media. Each load has a player of its own, made and taken down in threads of its own.
@@ -65,6 +66,7 @@ signals:
     void loadBegins(const QString& media);
 
 private:
+    std::unique_ptr<Playback> playbackOf(const screen::DeckLoad& load, const PlaybackNews& news);
     void becomeReady();
     void forget();
 
