@@ -9,7 +9,7 @@ namespace {
 /// How long a file may take to be ready, and a stream, of which the deck itself tells sooner when
 /// it does not answer.
 constexpr qint64 kFileDeadline = 10'000;
-constexpr qint64 kStreamDeadline = 15'000;
+constexpr qint64 kStreamDeadline = 20'000;
 /// How long the position may stand still, and how often it has to be seen to do so: a program that
 /// was held up itself knows nothing of the deck.
 constexpr qint64 kStillAllowed = 1000;

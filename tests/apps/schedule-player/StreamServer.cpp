@@ -55,6 +55,15 @@ void StreamServer::sendMore()
     }
 }
 
+void StreamServer::sendRest()
+{
+    for (const auto& [socket, rest] : std::exchange(m_rest, {})) {
+        if (socket != nullptr) {
+            socket->write(rest);
+        }
+    }
+}
+
 void StreamServer::hangUp()
 {
     for (const QPointer<QTcpSocket>& socket : qAsConst(m_sockets)) {
@@ -121,7 +130,9 @@ void StreamServer::answer(QTcpSocket& socket, const QString& path)
         return;
     }
     const QByteArray content = m_contents.value(path);
-    socket.write("HTTP/1.0 200 OK\r\n\r\n" + content.left(m_cutOff.value_or(content.size())));
+    const int length = m_cutOff.value_or(content.size());
+    socket.write("HTTP/1.0 200 OK\r\n\r\n" + content.left(length));
+    m_rest.emplace_back(&socket, content.mid(length));
     if (m_whole.contains(path)) {
         socket.disconnectFromHost();
     }

@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 /// A source of streams on this machine, which does with those who connect what a test says.
@@ -39,6 +40,8 @@ public:
     void setDelay(int milliseconds) { m_delay = milliseconds; }
     /// Sends so many bytes of what there is at once, and nothing more on lines that stay.
     void setCutOff(std::optional<int> bytes) { m_cutOff = bytes; }
+    /// Sends what was cut off.
+    void sendRest();
     /// Ends all lines.
     void hangUp();
     /// Nobody can connect any more, until it goes on at the same place.
@@ -88,6 +91,7 @@ private:
     int m_requests = 0;
     int m_delay = 0;
     std::optional<int> m_cutOff;
+    std::vector<std::pair<QPointer<QTcpSocket>, QByteArray>> m_rest;
     int m_openLines = 0;
     int m_mostLines = 0;
 };

@@ -67,6 +67,7 @@ private slots:
     void waitsForASlowServer();
     void asksASilentServerNowAndThen();
     void asksOnceWhereItIsAnswered();
+    void asksOnceWhereItIsAnsweredSlowly();
     void keepsPasswordsToItself();
     void followsAListOfTheNetworkOnly();
     void refusesWhatIsNoStream_data();
@@ -75,7 +76,10 @@ private slots:
     void tellsAtOnceWhereItCannotBeSought();
 
 private:
-    static DeckLoad live(const QString& address) { return {address, ProgramKind::Live, 0, false, 0}; }
+    static DeckLoad live(const QString& address)
+    {
+        return {address, ProgramKind::Live, 0, false, 0};
+    }
 
     QTemporaryDir m_folder;
     QByteArray m_stream;
@@ -337,6 +341,24 @@ void tst_DeckStreams::asksOnceWhereItIsAnswered()
     QTRY_VERIFY(screen.first.isReady());
     QTest::qWait(2 * StreamPlayback::kSilence);
     QCOMPARE(server.requests(), 1);
+}
+
+/// The rest of the first picture comes later than a second line would be made beside a silent one.
+void tst_DeckStreams::asksOnceWhereItIsAnsweredSlowly()
+{
+    StreamServer server;
+    server.serve(QStringLiteral("/live"), m_stream);
+    server.setCutOff(15 * kPacket);
+    DeckFixture screen;
+    screen.show(screen.first);
+    QElapsedTimer timer;
+    timer.start();
+    screen.first.load(live(server.address()));
+    QTRY_VERIFY(timer.elapsed() >= (StreamPlayback::kSilence + StreamPlayback::kPause) / 2);
+    QVERIFY(!screen.first.isReady());
+    QCOMPARE(server.requests(), 1);
+    server.sendRest();
+    QTRY_VERIFY(screen.first.isReady());
 }
 
 void tst_DeckStreams::keepsPasswordsToItself()

@@ -96,6 +96,8 @@ private slots:
     void theFirstThatIsReadyWins();
     void asksNoMoreOnceItIsReady();
     void whatStirsKeepsOthersWaiting();
+    void sharesAThinLineWithOneAtMost();
+    void leavesNoneOnWhichSomethingHasCome();
     void keepsTheFirstAndTheNewest();
     void isOverWithTheFirst();
     void goesOnWithWhatStirsInThePlaceOfTheFirst();
@@ -140,7 +142,7 @@ void tst_StreamPlayback::whatStirsKeepsOthersWaiting()
 {
     Lines lines;
     const StreamPlayback stream(
-        lines.make(), [] { return true; }, lines.told(), 200);
+        lines.make(), [] { return true; }, lines.told(), 200, 300);
     QElapsedTimer timer;
     timer.start();
     while (timer.elapsed() < 600) {
@@ -149,7 +151,32 @@ void tst_StreamPlayback::whatStirsKeepsOthersWaiting()
     }
     QCOMPARE(lines.news.size(), std::size_t(1));
     // It is silent from now on.
+    timer.start();
     QTRY_COMPARE(lines.news.size(), std::size_t(2));
+    QVERIFY(timer.elapsed() >= 250);
+}
+
+void tst_StreamPlayback::sharesAThinLineWithOneAtMost()
+{
+    Lines lines;
+    const StreamPlayback stream(
+        lines.make(), [] { return true; }, lines.told(), kSilence, kSilence);
+    lines.news[0].stirred();
+    QTRY_VERIFY(lines.news.size() >= 5);
+    QCOMPARE(lines.alive, QList<int>({0, static_cast<int>(lines.news.size()) - 1}));
+}
+
+void tst_StreamPlayback::leavesNoneOnWhichSomethingHasCome()
+{
+    Lines lines;
+    const StreamPlayback stream(
+        lines.make(), [] { return true; }, lines.told(), 100, kSilence);
+    QTRY_COMPARE(lines.news.size(), std::size_t(3));
+    lines.news[1].stirred();
+    QTRY_COMPARE(lines.alive, QList<int>({0, 1}));
+    QTest::qWait(5 * kSilence);
+    QCOMPARE(lines.alive, QList<int>({0, 1}));
+    QCOMPARE(lines.news.size(), std::size_t(3));
 }
 
 void tst_StreamPlayback::keepsTheFirstAndTheNewest()
@@ -182,7 +209,7 @@ void tst_StreamPlayback::goesOnWithWhatStirsInThePlaceOfTheFirst()
 {
     Lines lines;
     const StreamPlayback stream(
-        lines.make(), [] { return true; }, lines.told(), 200);
+        lines.make(), [] { return true; }, lines.told(), 200, 200);
     QTRY_COMPARE(lines.news.size(), std::size_t(2));
     lines.news[1].stirred();
     lines.fail(0, "no answer");
@@ -196,7 +223,7 @@ void tst_StreamPlayback::aRefusalBesideASilentOneSaysNothing()
 {
     Lines lines;
     const StreamPlayback stream(
-        lines.make(), [] { return true; }, lines.told(), 200);
+        lines.make(), [] { return true; }, lines.told(), 200, 200);
     QTRY_COMPARE(lines.news.size(), std::size_t(2));
     lines.fail(1, "only one at a time");
     QVERIFY(lines.heard.isEmpty());

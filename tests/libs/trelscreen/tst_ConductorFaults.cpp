@@ -252,7 +252,7 @@ private slots:
     {
         QTest::addColumn<char>("program");
         QTest::addColumn<qint64>("deadline");
-        QTest::newRow("stream") << 'L' << qint64(15'000);
+        QTest::newRow("stream") << 'L' << qint64(20'000);
         QTest::newRow("file") << 'H' << qint64(10'000);
     }
     void givesUpALoadThatNeverEnds()

@@ -24,7 +24,8 @@ constexpr std::chrono::milliseconds kLook{250};
 /// How long a stream may be silent that is being connected to, and how long it may take in all.
 constexpr int kFirstPatience = 5; // seconds
 constexpr int kLaterPatience = 10;
-constexpr std::chrono::seconds kLongestConnecting{10};
+constexpr std::chrono::seconds kFirstConnecting{10};
+constexpr std::chrono::seconds kLaterConnecting{15};
 constexpr std::chrono::seconds kLongestSilence{2};
 /// From the library's word that it plays to the first picture, which is on its way by then.
 constexpr std::chrono::milliseconds kLongestDrawing{500};
@@ -97,7 +98,7 @@ bool MpvWork::open()
     MpvWishes wishes;
     wishes.isStream = m_isStream;
     // What does not answer in time at first may only be slow.
-    wishes.streamPatience = m_load.failures == 0 ? kFirstPatience : kLaterPatience;
+    wishes.streamPatience = isTriedAgain() ? kLaterPatience : kFirstPatience;
     wishes.onlySounds = m_load.kind == ProgramKind::Audio;
     wishes.isMute = m_isMute;
     wishes.copiesDecoded = m_copiesDecoded;
@@ -137,7 +138,7 @@ void MpvWork::startLoading()
     mpv_handle* handle = m_handle.get();
     mpv_set_wakeup_callback(handle, &MpvWork::eventsCame, this);
     mpv_render_context_set_update_callback(m_renderer.get(), &MpvWork::drawingIsDue, this);
-    mpv_request_log_messages(handle, "error");
+    mpv_request_log_messages(handle, tellsOfItsReading() ? "v" : "error");
     mpv_observe_property(handle, Place, "time-pos", MPV_FORMAT_DOUBLE);
     mpv_observe_property(handle, ReadUntil, "demuxer-cache-time", MPV_FORMAT_DOUBLE);
     mpv_observe_property(handle, IsAtEnd, "eof-reached", MPV_FORMAT_FLAG);
@@ -260,8 +261,23 @@ void MpvWork::handleProperty(std::uint64_t observed, const mpv_event_property& p
     }
 }
 
+/// The connection itself is made beneath what reads, which has nothing to tell before it is there;
+/// but for this kind, which what reads connects to by itself.
+bool MpvWork::tellsOfItsReading() const
+{
+    return m_isStream && !m_load.media.startsWith(QLatin1String("rtsp"), Qt::CaseInsensitive);
+}
+
 void MpvWork::handleLog(const mpv_event_log_message& message)
 {
+    if (message.log_level > MPV_LOG_LEVEL_ERROR) {
+        // The library has no other sign of what has come before it knows all about a stream.
+        const QByteArray from(message.prefix);
+        if (from == "demux" || from == "lavf") {
+            stir();
+        }
+        return;
+    }
     m_lastLog = QByteArray(message.prefix) + ": " + message.text;
     // The command itself is done by then, as the library seeks some time after it.
     if (isSeeking() && m_lastLog.startsWith("cplayer: Cannot seek")) {
@@ -418,6 +434,7 @@ void MpvWork::tellReadyOnce()
         return;
     }
     m_isReady = true;
+    mpv_request_log_messages(m_handle.get(), "error");
     m_mail.post(m_news.ready);
 }
 
@@ -435,7 +452,8 @@ void MpvWork::lookForStall()
         } else {
             fail(DeckTrouble::Unreadable, lastWords(0));
         }
-    } else if (m_isStream && !m_isReady && now - m_begun > kLongestConnecting) {
+    } else if (m_isStream && !m_isReady &&
+               now - m_begun > (isTriedAgain() ? kLaterConnecting : kFirstConnecting)) {
         fail(DeckTrouble::Unreachable, QStringLiteral("No answer"));
     } else if (m_isStream && m_isReady && silence(now) > kLongestSilence) {
         fail(DeckTrouble::Stalled, QStringLiteral("Nothing has come for two seconds"));

@@ -51,6 +51,7 @@ private:
 
     bool open();
     bool openFile();
+    bool isTriedAgain() const { return m_load.failures > 0; }
     void startLoading();
     void loop();
     bool waitForWork();
@@ -59,6 +60,7 @@ private:
     void handleProperty(std::uint64_t observed, const mpv_event_property& property);
     void handleLog(const mpv_event_log_message& message);
     void stir();
+    bool tellsOfItsReading() const;
     void fileLoaded();
     void restarted();
     void reachedEnd();

@@ -5,10 +5,11 @@
 
 namespace trel::player {
 
-StreamPlayback::StreamPlayback(Line line, Room hasRoom, PlaybackNews news, int silence)
+StreamPlayback::StreamPlayback(Line line, Room hasRoom, PlaybackNews news, int silence, int pause)
     : m_line(std::move(line))
     , m_hasRoom(std::move(hasRoom))
     , m_news(std::move(news))
+    , m_pause(pause)
 {
     m_silence.setInterval(silence);
     m_silence.setTimerType(Qt::PreciseTimer);
@@ -27,13 +28,30 @@ void StreamPlayback::tryOnce()
 
 void StreamPlayback::tryAgain()
 {
-    if (!m_hasRoom()) {
-        return;
+    if (m_hasRoom() && makeWay()) {
+        tryOnce();
     }
-    if (m_tries.size() >= kMostLines) {
-        m_tries.erase(m_tries.begin() + 1);
+}
+
+/// Leaves lines until there may be one more, and tells whether there may.
+bool StreamPlayback::makeWay()
+{
+    const std::size_t most = hasAnyStirred() ? kMostShared : kMostLines;
+    while (m_tries.size() >= most) {
+        const auto silent = std::find_if(m_tries.begin() + 1, m_tries.end(),
+                                         [](const Try& one) { return !one.hasStirred; });
+        if (silent == m_tries.end()) {
+            return false;
+        }
+        m_tries.erase(silent);
     }
-    tryOnce();
+    return true;
+}
+
+bool StreamPlayback::hasAnyStirred() const
+{
+    return std::any_of(m_tries.begin(), m_tries.end(),
+                       [](const Try& one) { return one.hasStirred; });
 }
 
 PlaybackNews StreamPlayback::newsOf(int number)
@@ -80,7 +98,7 @@ void StreamPlayback::stir(int number)
 {
     if (!m_isReady) {
         find(number)->hasStirred = true;
-        m_silence.start();
+        m_silence.start(m_pause);
     }
 }
 
@@ -92,9 +110,7 @@ void StreamPlayback::fail(int number, const screen::DeckFault& fault)
     const bool isFirst = failed == m_tries.begin();
     if (!m_isReady) {
         m_tries.erase(failed);
-        const bool isAnyAlive = std::any_of(m_tries.begin(), m_tries.end(),
-                                            [](const Try& one) { return one.hasStirred; });
-        if (!m_tries.empty() && (!isFirst || isAnyAlive)) {
+        if (!m_tries.empty() && (!isFirst || hasAnyStirred())) {
             return;
         }
         m_silence.stop();
