@@ -25,7 +25,7 @@ constexpr int kEverythingEntry = 0;
 constexpr int kTextWidth = 93;
 constexpr int kReopenDelayMs = 100;
 
-// A point on the arrow, in from the right edge and down from the top.
+// A point on the arrow, in from the edge at its side and down from the top.
 constexpr int kArrowInset = 10;
 
 /// Makes a line the one that a box shows, and thereby the box editable. setEditable() would build
@@ -173,9 +173,26 @@ void MultiComboBox::mousePressEvent(QMouseEvent* event)
 {
     // An editable box opens on its arrow only, and here the text is as good a place.
     if (lineEdit() && lineEdit()->geometry().contains(event->pos())) {
-        event->setLocalPos(QPointF(width() - kArrowInset, kArrowInset));
+        event->setLocalPos(placeOnArrow());
     }
     QComboBox::mousePressEvent(event);
+}
+
+QPointF MultiComboBox::placeOnArrow() const
+{
+    const QPoint usual =
+        QStyle::visualPos(layoutDirection(), rect(), QPoint(width() - kArrowInset, kArrowInset));
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QStyle::SubControl hit =
+        style()->hitTestComplexControl(QStyle::CC_ComboBox, &option, usual, this);
+    if (hit == QStyle::SC_ComboBoxArrow) {
+        return usual;
+    }
+    // A style sheet may have put it elsewhere.
+    return style()
+        ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this)
+        .center();
 }
 
 void MultiComboBox::wheelEvent(QWheelEvent* event)

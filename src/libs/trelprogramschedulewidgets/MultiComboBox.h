@@ -79,6 +79,7 @@ private:
         QString label;
     };
 
+    QPointF placeOnArrow() const;
     QModelIndex entryIndex(int entry) const;
     void showText(const QString& text);
     void rememberShownEntries();

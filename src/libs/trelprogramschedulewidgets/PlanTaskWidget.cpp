@@ -135,6 +135,7 @@ PlanTaskWidget* PlanTaskWidget::makeFolded(const PlayTask& task, QWidget* parent
 void PlanTaskWidget::setUpForm()
 {
     m_ui->setUp(*this);
+    m_ui->followDirection(*this);
     releaseStyleRecords(*this);
     m_ui->translate(m_task);
     m_ui->pbtCreatCopy->installEventFilter(this);
@@ -239,6 +240,14 @@ bool PlanTaskWidget::eventFilter(QObject* watched, QEvent* event)
 {
     m_ui->showToolTipOnEnter(watched, *event);
     return QWidget::eventFilter(watched, event);
+}
+
+void PlanTaskWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        m_ui->followDirection(*this);
+    }
 }
 
 std::string PlanTaskWidget::addDuration(const std::string& start, int seconds)

@@ -67,6 +67,7 @@ public:
     bool isFolded() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
     /// The end of a new or copied plan in TimeMode; see the function of this name in PlanTiming.
     static std::string addDuration(const std::string& start, int seconds);

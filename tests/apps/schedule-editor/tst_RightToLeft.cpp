@@ -35,6 +35,7 @@ private slots:
     void datesAndTimesKeepTheirOrder();
     void datesAndTimesKeepTheirOrderAcrossASwitch();
     void cardsKeepTheirDistance();
+    void theBarsOfCardsAreMirrored();
     void theSignOfTheAddButtonComesFirst();
     void theArrowOfTheChooserPointsToThePlan();
     void theHeaderHasItsSeparators();
@@ -154,6 +155,29 @@ void tst_RightToLeft::cardsKeepTheirDistance()
     QCoreApplication::processEvents();
     QCOMPARE(fromTheRight, left());
     QVERIFY(fromTheRight > 0);
+}
+
+void tst_RightToLeft::theBarsOfCardsAreMirrored()
+{
+    auto* bar = m_host->firstCard()->findChild<QAbstractButton*>(QStringLiteral("title"));
+    bar->setChecked(true);
+    auto* arrow = bar->findChild<QLabel*>(QStringLiteral("arrow"));
+    auto* copy = bar->findChild<QPushButton*>(QStringLiteral("pbtCreatCopy"));
+    m_host->editor->grab();
+    const QImage points = pictureOf(arrow);
+    QVERIFY(arrow->x() > bar->width() / 2);
+    QVERIFY(copy->x() < bar->width() / 2);
+    // The name of the task stands beside the arrow.
+    const QRect half(0, 4, bar->width() / 2, bar->height() - 8);
+    const QRect middle = half.adjusted(80, 0, 0, 0);
+    QVERIFY(inkIn(pictureOf(bar), middle).isEmpty());
+    QVERIFY(!inkIn(pictureOf(bar), middle.translated(half.width() - 80, 0)).isEmpty());
+
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    QCoreApplication::processEvents();
+    QVERIFY(arrow->x() < bar->width() / 2);
+    QVERIFY(copy->x() > bar->width() / 2);
+    QCOMPARE(points, pictureOf(arrow).mirrored(true, false));
 }
 
 void tst_RightToLeft::theSignOfTheAddButtonComesFirst()

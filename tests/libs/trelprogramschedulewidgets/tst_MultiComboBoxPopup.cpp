@@ -26,6 +26,8 @@ class tst_MultiComboBoxPopup : public QObject
 
 private slots:
     void opensFromTheTextAndTheArrow();
+    void opensFromTheTextWhereverTheArrowIs_data();
+    void opensFromTheTextWhereverTheArrowIs();
     void theOtherButtonsOpenNothing();
     void reopens_data();
     void reopens();
@@ -62,6 +64,41 @@ void tst_MultiComboBoxPopup::opensFromTheTextAndTheArrow()
     day.clock.advance(100);
     QTest::mouseClick(&day.box, Qt::LeftButton, {}, QPoint(day.box.width() - 10, 10));
     QVERIFY(day.isOpen());
+}
+
+void tst_MultiComboBoxPopup::opensFromTheTextWhereverTheArrowIs_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<QString>("sheet");
+    const QString atTheLeft =
+        QStringLiteral("QComboBox { border: 1px solid; padding-left: 22px; }"
+                       "QComboBox::drop-down { subcontrol-position: left; width: 20px; }");
+    const QString narrow = QStringLiteral("QComboBox { border: 1px solid; }"
+                                          "QComboBox::drop-down { width: 6px; }");
+    QTest::newRow("from the left") << Qt::LeftToRight << QString();
+    QTest::newRow("from the right") << Qt::RightToLeft << QString();
+    QTest::newRow("at the left by a sheet") << Qt::LeftToRight << atTheLeft;
+    QTest::newRow("narrow by a sheet") << Qt::LeftToRight << narrow;
+    QTest::newRow("narrow by a sheet, from the right") << Qt::RightToLeft << narrow;
+}
+
+void tst_MultiComboBoxPopup::opensFromTheTextWhereverTheArrowIs()
+{
+    QFETCH(const Qt::LayoutDirection, direction);
+    QFETCH(const QString, sheet);
+    DayBox day;
+    day.box.setLayoutDirection(direction);
+    day.box.setStyleSheet(sheet);
+    day.window.grab();
+    for (const QPoint& place :
+         {day.textPlace(), day.box.lineEdit()->geometry().topLeft() + QPoint(1, 1),
+          day.box.lineEdit()->geometry().bottomRight() - QPoint(1, 1)}) {
+        day.clock.advance(100);
+        QTest::mouseClick(&day.box, Qt::LeftButton, {}, place);
+        QVERIFY(day.isOpen());
+        day.box.hidePopup();
+        QVERIFY(!day.isOpen());
+    }
 }
 
 void tst_MultiComboBoxPopup::theOtherButtonsOpenNothing()

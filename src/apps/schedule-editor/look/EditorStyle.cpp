@@ -492,7 +492,13 @@ bool EditorStyle::paintLabelFrame(const QStyleOption& option, QPainter& painter,
     if (image.isEmpty()) {
         return false;
     }
+    painter.save();
+    if (option.direction == Qt::RightToLeft && image == QLatin1String("arrow-right")) {
+        painter.translate(option.rect.left() + option.rect.right() + 1, 0);
+        painter.scale(-1, 1);
+    }
     paintImage(painter, option.rect, image, m_colours.icon);
+    painter.restore();
     return true;
 }
 

@@ -71,6 +71,11 @@ void PlanTaskForm::showFolded(bool isFolded)
     widget->setVisible(!isFolded);
 }
 
+void PlanTaskForm::followDirection(const QWidget& card)
+{
+    title->setLayoutDirection(card.layoutDirection());
+}
+
 void PlanTaskForm::translate(const PlayTask& task)
 {
     title->setText(

@@ -18,6 +18,8 @@ public:
     /// Shows the period of validity; a date that does not parse leaves its editor as it is.
     void showDates(const PlayTask& task);
     void showFolded(bool isFolded);
+    /// Has the bar follow the direction of the card. By itself it runs from the left.
+    void followDirection(const QWidget& card);
     void translate(const PlayTask& task);
     /// Shows the tool tip of a button of the title bar at once when the pointer enters it. To be
     /// told of the events of both buttons.
