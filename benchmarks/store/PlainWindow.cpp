@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListView>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QProgressBar>
@@ -89,7 +90,7 @@ PlainWindow::PlainWindow(int programs)
 void PlainWindow::addMenus()
 {
     const std::initializer_list<std::pair<const char*, int>> menus = {
-        {"&Schedule", 5}, {"&Programs", 3}, {"&View", 7}, {"&Language", 10}};
+        {"&Schedule", 10}, {"&Programs", 3}, {"&View", 7}, {"&Language", 10}};
     for (const auto& [title, actions] : menus) {
         QMenu* menu = menuBar()->addMenu(QLatin1String(title));
         for (int i = 0; i < actions; ++i) {
@@ -134,6 +135,7 @@ void PlainWindow::addPanels()
         addPanel(QStringLiteral("Clock changes"), clockChanges(), Qt::BottomDockWidgetArea);
     QDockWidget* days = hidden(addPanel(QStringLiteral("Week"), week(), Qt::BottomDockWidgetArea));
     tabifyDockWidget(clocks, days);
+    hidden(addPanel(QStringLiteral("History"), new QListView, Qt::RightDockWidgetArea));
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({now}, {360}, Qt::Horizontal);
     resizeDocks({now, preview, clocks}, {430, 210, 130}, Qt::Vertical);

@@ -1493,4 +1493,129 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Unterbrochen: anderer Wiedergabeplan</translation>
     </message>
 </context>
+<context>
+    <name>EditWords</name>
+    <message>
+        <source>Back to what is saved</source>
+        <translation>Zurück zum gespeicherten Stand</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks edited</source>
+        <translation>
+            <numerusform>%n Auftrag geändert</numerusform>
+            <numerusform>%n Aufträge geändert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Task %1 added</source>
+        <translation>Auftrag %1 hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Task %1 deleted</source>
+        <translation>Auftrag %1 gelöscht</translation>
+    </message>
+    <message>
+        <source>Task %1 edited</source>
+        <translation>Auftrag %1 geändert</translation>
+    </message>
+    <message>
+        <source>Task %1: first day %2 → %3</source>
+        <translation>Auftrag %1: erster Tag %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1: last day %2 → %3</source>
+        <translation>Auftrag %1: letzter Tag %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 added</source>
+        <translation>Auftrag %1, Plan %2 hinzugefügt</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 deleted</source>
+        <translation>Auftrag %1, Plan %2 gelöscht</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 edited</source>
+        <translation>Auftrag %1, Plan %2 geändert</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: other programs</source>
+        <translation>Auftrag %1, Plan %2: andere Programme</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends at a set time</source>
+        <translation>Auftrag %1, Plan %2: endet zu fester Zeit</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends after a number of runs</source>
+        <translation>Auftrag %1, Plan %2: endet nach einer Zahl von Durchläufen</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: start %3 → %4</source>
+        <translation>Auftrag %1, Plan %2: Beginn %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: end %3 → %4</source>
+        <translation>Auftrag %1, Plan %2: Ende %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: days %3 → %4</source>
+        <translation>Auftrag %1, Plan %2: Tage %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: runs %3 → %4</source>
+        <translation>Auftrag %1, Plan %2: Durchläufe %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: a black screen at the end</source>
+        <translation>Auftrag %1, Plan %2: Schwarzbild am Ende</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: the last frame at the end</source>
+        <translation>Auftrag %1, Plan %2: letztes Bild am Ende eingefroren</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>jeden Tag</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryActions</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what is done, and the step</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryModel</name>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>%1 (saved)</source>
+        <comment>a step</comment>
+        <translation>%1 (gespeichert)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryDock</name>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>Ver&amp;lauf</translation>
+    </message>
+</context>
 </TS>

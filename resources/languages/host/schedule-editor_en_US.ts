@@ -167,4 +167,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>EditWords</name>
+    <message numerus="yes">
+        <source>%n tasks edited</source>
+        <translation>
+            <numerusform>%n task edited</numerusform>
+            <numerusform>%n tasks edited</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -1493,4 +1493,129 @@ What do you want to do with your changes?</source>
         <translation>Cortado: otra programación</translation>
     </message>
 </context>
+<context>
+    <name>EditWords</name>
+    <message>
+        <source>Back to what is saved</source>
+        <translation>Vuelta a lo guardado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks edited</source>
+        <translation>
+            <numerusform>%n tarea editada</numerusform>
+            <numerusform>%n tareas editadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Task %1 added</source>
+        <translation>Tarea %1 añadida</translation>
+    </message>
+    <message>
+        <source>Task %1 deleted</source>
+        <translation>Tarea %1 eliminada</translation>
+    </message>
+    <message>
+        <source>Task %1 edited</source>
+        <translation>Tarea %1 editada</translation>
+    </message>
+    <message>
+        <source>Task %1: first day %2 → %3</source>
+        <translation>Tarea %1: primer día %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1: last day %2 → %3</source>
+        <translation>Tarea %1: último día %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 added</source>
+        <translation>Tarea %1, plan %2 añadido</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 deleted</source>
+        <translation>Tarea %1, plan %2 eliminado</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 edited</source>
+        <translation>Tarea %1, plan %2 editado</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: other programs</source>
+        <translation>Tarea %1, plan %2: otros programas</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends at a set time</source>
+        <translation>Tarea %1, plan %2: termina a una hora fija</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends after a number of runs</source>
+        <translation>Tarea %1, plan %2: termina tras un número de pasadas</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: start %3 → %4</source>
+        <translation>Tarea %1, plan %2: inicio %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: end %3 → %4</source>
+        <translation>Tarea %1, plan %2: fin %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: days %3 → %4</source>
+        <translation>Tarea %1, plan %2: días %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: runs %3 → %4</source>
+        <translation>Tarea %1, plan %2: pasadas %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: a black screen at the end</source>
+        <translation>Tarea %1, plan %2: pantalla negra al final</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: the last frame at the end</source>
+        <translation>Tarea %1, plan %2: último fotograma congelado al final</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>todos los días</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryActions</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>Des&amp;hacer</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what is done, and the step</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryModel</name>
+    <message>
+        <source>Start</source>
+        <translation>Comienzo</translation>
+    </message>
+    <message>
+        <source>%1 (saved)</source>
+        <comment>a step</comment>
+        <translation>%1 (guardado)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryDock</name>
+    <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>H&amp;istorial</translation>
+    </message>
+</context>
 </TS>

@@ -1493,4 +1493,129 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Coupé : autre programmation</translation>
     </message>
 </context>
+<context>
+    <name>EditWords</name>
+    <message>
+        <source>Back to what is saved</source>
+        <translation>Retour à ce qui est enregistré</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks edited</source>
+        <translation>
+            <numerusform>%n tâche modifiée</numerusform>
+            <numerusform>%n tâches modifiées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Task %1 added</source>
+        <translation>Tâche %1 ajoutée</translation>
+    </message>
+    <message>
+        <source>Task %1 deleted</source>
+        <translation>Tâche %1 supprimée</translation>
+    </message>
+    <message>
+        <source>Task %1 edited</source>
+        <translation>Tâche %1 modifiée</translation>
+    </message>
+    <message>
+        <source>Task %1: first day %2 → %3</source>
+        <translation>Tâche %1 : premier jour %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1: last day %2 → %3</source>
+        <translation>Tâche %1 : dernier jour %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 added</source>
+        <translation>Tâche %1, créneau %2 ajouté</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 deleted</source>
+        <translation>Tâche %1, créneau %2 supprimé</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 edited</source>
+        <translation>Tâche %1, créneau %2 modifié</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: other programs</source>
+        <translation>Tâche %1, créneau %2 : autres programmes</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends at a set time</source>
+        <translation>Tâche %1, créneau %2 : finit à une heure fixe</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends after a number of runs</source>
+        <translation>Tâche %1, créneau %2 : finit après un nombre de passages</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: start %3 → %4</source>
+        <translation>Tâche %1, créneau %2 : début %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: end %3 → %4</source>
+        <translation>Tâche %1, créneau %2 : fin %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: days %3 → %4</source>
+        <translation>Tâche %1, créneau %2 : jours %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: runs %3 → %4</source>
+        <translation>Tâche %1, créneau %2 : passages %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: a black screen at the end</source>
+        <translation>Tâche %1, créneau %2 : écran noir à la fin</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: the last frame at the end</source>
+        <translation>Tâche %1, créneau %2 : image figée à la fin</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>tous les jours</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryActions</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>Ann&amp;uler</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what is done, and the step</comment>
+        <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryModel</name>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>%1 (saved)</source>
+        <comment>a step</comment>
+        <translation>%1 (enregistré)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryDock</name>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>H&amp;istorique</translation>
+    </message>
+</context>
 </TS>

@@ -1471,4 +1471,128 @@ What do you want to do with your changes?</source>
         <translation>中断：別のスケジュール</translation>
     </message>
 </context>
+<context>
+    <name>EditWords</name>
+    <message>
+        <source>Back to what is saved</source>
+        <translation>保存済みの状態に戻した</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks edited</source>
+        <translation>
+            <numerusform>%n 件のタスクを編集</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Task %1 added</source>
+        <translation>タスク %1 を追加</translation>
+    </message>
+    <message>
+        <source>Task %1 deleted</source>
+        <translation>タスク %1 を削除</translation>
+    </message>
+    <message>
+        <source>Task %1 edited</source>
+        <translation>タスク %1 を編集</translation>
+    </message>
+    <message>
+        <source>Task %1: first day %2 → %3</source>
+        <translation>タスク %1：初日 %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1: last day %2 → %3</source>
+        <translation>タスク %1：最終日 %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 added</source>
+        <translation>タスク %1、計画 %2 を追加</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 deleted</source>
+        <translation>タスク %1、計画 %2 を削除</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 edited</source>
+        <translation>タスク %1、計画 %2 を編集</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: other programs</source>
+        <translation>タスク %1、計画 %2：番組を変更</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends at a set time</source>
+        <translation>タスク %1、計画 %2：決まった時刻に終了</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends after a number of runs</source>
+        <translation>タスク %1、計画 %2：回数で終了</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: start %3 → %4</source>
+        <translation>タスク %1、計画 %2：開始 %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: end %3 → %4</source>
+        <translation>タスク %1、計画 %2：終了 %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: days %3 → %4</source>
+        <translation>タスク %1、計画 %2：曜日 %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: runs %3 → %4</source>
+        <translation>タスク %1、計画 %2：回数 %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: a black screen at the end</source>
+        <translation>タスク %1、計画 %2：終了時は黒画面</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: the last frame at the end</source>
+        <translation>タスク %1、計画 %2：終了時は最終画面</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>毎日</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryActions</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>やり直す(&amp;D)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what is done, and the step</comment>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryModel</name>
+    <message>
+        <source>Start</source>
+        <translation>最初</translation>
+    </message>
+    <message>
+        <source>%1 (saved)</source>
+        <comment>a step</comment>
+        <translation>%1（保存済み）</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryDock</name>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>履歴(&amp;H)</translation>
+    </message>
+</context>
 </TS>

@@ -1471,4 +1471,128 @@ What do you want to do with your changes?</source>
         <translation>중단됨: 다른 일정</translation>
     </message>
 </context>
+<context>
+    <name>EditWords</name>
+    <message>
+        <source>Back to what is saved</source>
+        <translation>저장된 상태로 되돌림</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks edited</source>
+        <translation>
+            <numerusform>작업 %n개 편집</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Task %1 added</source>
+        <translation>작업 %1 추가</translation>
+    </message>
+    <message>
+        <source>Task %1 deleted</source>
+        <translation>작업 %1 삭제</translation>
+    </message>
+    <message>
+        <source>Task %1 edited</source>
+        <translation>작업 %1 편집</translation>
+    </message>
+    <message>
+        <source>Task %1: first day %2 → %3</source>
+        <translation>작업 %1: 첫날 %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1: last day %2 → %3</source>
+        <translation>작업 %1: 마지막 날 %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 added</source>
+        <translation>작업 %1, 계획 %2 추가</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 deleted</source>
+        <translation>작업 %1, 계획 %2 삭제</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 edited</source>
+        <translation>작업 %1, 계획 %2 편집</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: other programs</source>
+        <translation>작업 %1, 계획 %2: 프로그램 변경</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends at a set time</source>
+        <translation>작업 %1, 계획 %2: 정해진 시각에 끝남</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends after a number of runs</source>
+        <translation>작업 %1, 계획 %2: 횟수만큼 재생 후 끝남</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: start %3 → %4</source>
+        <translation>작업 %1, 계획 %2: 시작 %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: end %3 → %4</source>
+        <translation>작업 %1, 계획 %2: 끝 %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: days %3 → %4</source>
+        <translation>작업 %1, 계획 %2: 요일 %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: runs %3 → %4</source>
+        <translation>작업 %1, 계획 %2: 횟수 %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: a black screen at the end</source>
+        <translation>작업 %1, 계획 %2: 끝나면 검은 화면</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: the last frame at the end</source>
+        <translation>작업 %1, 계획 %2: 끝나면 마지막 화면</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>매일</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryActions</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>실행 취소(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>다시 실행(&amp;D)</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what is done, and the step</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryModel</name>
+    <message>
+        <source>Start</source>
+        <translation>처음</translation>
+    </message>
+    <message>
+        <source>%1 (saved)</source>
+        <comment>a step</comment>
+        <translation>%1(저장됨)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryDock</name>
+    <message>
+        <source>History</source>
+        <translation>기록</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>기록(&amp;H)</translation>
+    </message>
+</context>
 </TS>

@@ -1493,4 +1493,129 @@ O que deseja fazer com as alterações?</translation>
         <translation>Cortado: outra programação</translation>
     </message>
 </context>
+<context>
+    <name>EditWords</name>
+    <message>
+        <source>Back to what is saved</source>
+        <translation>De volta ao que está salvo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks edited</source>
+        <translation>
+            <numerusform>%n tarefa editada</numerusform>
+            <numerusform>%n tarefas editadas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Task %1 added</source>
+        <translation>Tarefa %1 adicionada</translation>
+    </message>
+    <message>
+        <source>Task %1 deleted</source>
+        <translation>Tarefa %1 excluída</translation>
+    </message>
+    <message>
+        <source>Task %1 edited</source>
+        <translation>Tarefa %1 editada</translation>
+    </message>
+    <message>
+        <source>Task %1: first day %2 → %3</source>
+        <translation>Tarefa %1: primeiro dia %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1: last day %2 → %3</source>
+        <translation>Tarefa %1: último dia %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 added</source>
+        <translation>Tarefa %1, plano %2 adicionado</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 deleted</source>
+        <translation>Tarefa %1, plano %2 excluído</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 edited</source>
+        <translation>Tarefa %1, plano %2 editado</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: other programs</source>
+        <translation>Tarefa %1, plano %2: outros programas</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends at a set time</source>
+        <translation>Tarefa %1, plano %2: termina em hora fixa</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends after a number of runs</source>
+        <translation>Tarefa %1, plano %2: termina após um número de rodadas</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: start %3 → %4</source>
+        <translation>Tarefa %1, plano %2: início %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: end %3 → %4</source>
+        <translation>Tarefa %1, plano %2: fim %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: days %3 → %4</source>
+        <translation>Tarefa %1, plano %2: dias %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: runs %3 → %4</source>
+        <translation>Tarefa %1, plano %2: rodadas %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: a black screen at the end</source>
+        <translation>Tarefa %1, plano %2: tela preta no fim</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: the last frame at the end</source>
+        <translation>Tarefa %1, plano %2: último quadro congelado no fim</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>todos os dias</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryActions</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Desfazer</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>Re&amp;fazer</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what is done, and the step</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryModel</name>
+    <message>
+        <source>Start</source>
+        <translation>Começo</translation>
+    </message>
+    <message>
+        <source>%1 (saved)</source>
+        <comment>a step</comment>
+        <translation>%1 (salvo)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryDock</name>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>H&amp;istórico</translation>
+    </message>
+</context>
 </TS>

@@ -1515,4 +1515,130 @@ What do you want to do with your changes?</source>
         <translation>Прервано: другое расписание</translation>
     </message>
 </context>
+<context>
+    <name>EditWords</name>
+    <message>
+        <source>Back to what is saved</source>
+        <translation>Возврат к сохранённому</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks edited</source>
+        <translation>
+            <numerusform>Изменено %n задание</numerusform>
+            <numerusform>Изменены %n задания</numerusform>
+            <numerusform>Изменено %n заданий</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Task %1 added</source>
+        <translation>Задание %1 добавлено</translation>
+    </message>
+    <message>
+        <source>Task %1 deleted</source>
+        <translation>Задание %1 удалено</translation>
+    </message>
+    <message>
+        <source>Task %1 edited</source>
+        <translation>Задание %1 изменено</translation>
+    </message>
+    <message>
+        <source>Task %1: first day %2 → %3</source>
+        <translation>Задание %1: первый день %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1: last day %2 → %3</source>
+        <translation>Задание %1: последний день %2 → %3</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 added</source>
+        <translation>Задание %1, план %2 добавлен</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 deleted</source>
+        <translation>Задание %1, план %2 удалён</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2 edited</source>
+        <translation>Задание %1, план %2 изменён</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: other programs</source>
+        <translation>Задание %1, план %2: другие программы</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends at a set time</source>
+        <translation>Задание %1, план %2: конец в заданное время</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: ends after a number of runs</source>
+        <translation>Задание %1, план %2: конец после числа повторов</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: start %3 → %4</source>
+        <translation>Задание %1, план %2: начало %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: end %3 → %4</source>
+        <translation>Задание %1, план %2: конец %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: days %3 → %4</source>
+        <translation>Задание %1, план %2: дни %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: runs %3 → %4</source>
+        <translation>Задание %1, план %2: повторы %3 → %4</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: a black screen at the end</source>
+        <translation>Задание %1, план %2: в конце чёрный экран</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: the last frame at the end</source>
+        <translation>Задание %1, план %2: в конце стоп-кадр</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>каждый день</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryActions</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>От&amp;менить</translation>
+    </message>
+    <message>
+        <source>Re&amp;do</source>
+        <translation>По&amp;вторить</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>what is done, and the step</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryModel</name>
+    <message>
+        <source>Start</source>
+        <translation>Начало</translation>
+    </message>
+    <message>
+        <source>%1 (saved)</source>
+        <comment>a step</comment>
+        <translation>%1 (сохранено)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::undo::HistoryDock</name>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+    <message>
+        <source>&amp;History</source>
+        <translation>&amp;История</translation>
+    </message>
+</context>
 </TS>

@@ -64,6 +64,8 @@ EditorMenus::EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes)
     , m_view(bar.addMenu(QString()))
     , m_language(bar.addMenu(QString()))
     , m_editSchedule(add(*m_schedule, QKeySequence(QStringLiteral("Ctrl+E"))))
+    , m_undo(add(*m_schedule, QKeySequence(QStringLiteral("Ctrl+Z"))))
+    , m_redo(add(*m_schedule, QKeySequence(QStringLiteral("Ctrl+Shift+Z"))))
     , m_themes(new QActionGroup(this))
 {
     m_schedule->addSeparator();

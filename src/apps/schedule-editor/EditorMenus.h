@@ -23,6 +23,8 @@ public:
     EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes);
 
     QAction* editSchedule() const { return m_editSchedule; }
+    QAction* undo() const { return m_undo; }
+    QAction* redo() const { return m_redo; }
     QAction* openDatabase() const { return m_openDatabase; }
     QAction* importSchedule() const { return m_importSchedule; }
     QAction* exportSchedule() const { return m_exportSchedule; }
@@ -51,6 +53,8 @@ private:
     QMenu* m_view;
     QMenu* m_language;
     QAction* m_editSchedule;
+    QAction* m_undo;
+    QAction* m_redo;
     QAction* m_openDatabase;
     QAction* m_importSchedule;
     QAction* m_exportSchedule;

@@ -22,6 +22,9 @@
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
+#include "undo/EditHistory.h"
+#include "undo/HistoryActions.h"
+#include "undo/HistoryDock.h"
 #include "week/WeekDock.h"
 
 #include <QAbstractButton>
@@ -186,6 +189,10 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     connect(week, &WeekDock::activated, this, &EditorWindow::showEditor);
     addPanel(week, Qt::BottomDockWidgetArea);
     tabifyDockWidget(m_clockChanges, week);
+    m_history = new undo::EditHistory(*edited, m_editor, this);
+    m_undo = new undo::HistoryActions(*m_menus, *m_history, this);
+    m_editor.addActions({m_menus->undo(), m_menus->redo()});
+    addPanel(new undo::HistoryDock(*m_history, this), Qt::RightDockWidgetArea);
     // What is on screen stands beside the list of changes, not above it.
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({m_nowNext}, {360}, Qt::Horizontal);
@@ -201,6 +208,7 @@ void EditorWindow::addPanel(QDockWidget* panel, Qt::DockWidgetArea area)
 void EditorWindow::retranslate()
 {
     m_menus->retranslate();
+    m_undo->update();
     m_table->setAccessibleName(m_menus->programsTitle());
     m_hint->setText(
         tr("No programs yet. Drop media files or folders here, or choose “Import files”."));
@@ -260,6 +268,7 @@ QString EditorWindow::openDatabase(const QString& path, const QString& demonstra
     if (error.isEmpty() && isNew && !demonstration.isEmpty()) {
         error = fillWithDemonstration(demonstration);
     }
+    m_history->clear();
     updateTitle();
     updateCatalogue();
     showReplacedSchedule();

@@ -15,6 +15,11 @@ struct ImportScan;
 
 namespace trel::desktop {
 
+namespace undo {
+class EditHistory;
+class HistoryActions;
+} // namespace undo
+
 class AsRunWindow;
 class EditorMenus;
 class ImportJob;
@@ -98,6 +103,8 @@ private:
     ImportJob* m_job = nullptr;
     QProgressDialog* m_progress = nullptr;
     PendingNotices* m_notices;
+    undo::EditHistory* m_history = nullptr;
+    undo::HistoryActions* m_undo = nullptr;
     AsRunWindow* m_asRun = nullptr; ///< Once it has been asked for.
 };
 

@@ -173,6 +173,11 @@ void ScheduleHost::rehearse()
     service().rehearse();
 }
 
+void ScheduleHost::restoreTask(const PlayTask& task)
+{
+    service().restoreTask(task);
+}
+
 const std::map<int, PlayTask>& ScheduleHost::workingSet() const
 {
     return service().state().tasks.working();

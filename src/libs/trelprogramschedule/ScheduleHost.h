@@ -162,6 +162,11 @@ public:
     /// hosts that show a schedule which nobody has started. Nothing happens while one is in effect.
     void rehearse();
 
+    /// As scheduleManage::addTask, of a state from before: entries whose programs have left the
+    /// catalog since are marked, and ends that follow from lengths are those of today. For hosts
+    /// that take edits back; the editor shows it with scheduleControlUI::slotShowTask.
+    void restoreTask(const PlayTask& task);
+
 Q_SIGNALS:
     /// scheduleManage::save could not commit. Emitted while save still runs, so that a receiver can
     /// still ask the operator, call trySave again or write the working set elsewhere.

@@ -399,6 +399,17 @@ void ScheduleService::refresh()
     followEffect();
 }
 
+void ScheduleService::restoreTask(PlayTask task)
+{
+    const ProgramCatalogue& catalogue = m_state.catalogue;
+    mediadispatch::markLostEntries(
+        task, [&catalogue](int progIndex) { return catalogue.contains(progIndex); });
+    updatePlanEnds(task, catalogue);
+    if (m_state.tasks.putTask(task)) {
+        noteWorkingSet();
+    }
+}
+
 void ScheduleService::watchFiles(bool isOn)
 {
     if (!isOn) {

@@ -101,6 +101,9 @@ public:
     /// it is called until then, what comes of it comes once.
     void noteWorkingSet();
 
+    /// See ScheduleHost::restoreTask.
+    void restoreTask(PlayTask task);
+
     ImportResult addPrograms(const std::vector<MediaSource>& sources);
     /// Takes programs out, all in one transaction and with one announcement.
     StoreResult removePrograms(const std::vector<int>& progIndexes);

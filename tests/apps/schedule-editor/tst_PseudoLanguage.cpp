@@ -165,7 +165,7 @@ void tst_PseudoLanguage::window()
     };
     QTRY_VERIFY(isShown("effectSince") && isShown("effectDiffering") && isShown("nowCutIn"));
     const QList<QDockWidget*> panels = fixture.window.findChildren<QDockWidget*>();
-    QCOMPARE(panels.size(), 4);
+    QCOMPARE(panels.size(), 5);
     for (QDockWidget* panel : panels) {
         panel->show();
         panel->raise();

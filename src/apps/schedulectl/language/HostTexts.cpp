@@ -46,7 +46,8 @@ const std::vector<HostMenu>& hostMenus()
          {entry("EditorMenus", "&Schedule"), entry("EditorMenus", "&Programs"),
           entry("EditorMenus", "&View"), entry("EditorMenus", "&Language")}},
         {QStringLiteral("the menu \"Schedule\""),
-         {entry("EditorMenus", "&Edit schedule"), entry("EditorMenus", "&Open database…"),
+         {entry("EditorMenus", "&Edit schedule"), entry("undo::HistoryActions", "&Undo"),
+          entry("undo::HistoryActions", "Re&do"), entry("EditorMenus", "&Open database…"),
           entry("EditorMenus", "&Read schedule from a file…"),
           entry("EditorMenus", "&Write schedule to a file…"),
           entry("EditorMenus", "S&kip to the next play"),
@@ -58,8 +59,9 @@ const std::vector<HostMenu>& hostMenus()
         {QStringLiteral("the menu \"View\""),
          {entry("EditorWindow", "&Now and next"), entry("PreviewDock", "&Preview"),
           entry("PreviewDock", "&Full-screen preview"), entry("EditorWindow", "&Clock changes"),
-          entry("WeekDock", "&Week"), entry("EditorMenus", "&As-run of a day…"),
-          entry("EditorMenus", "&Dark theme"), entry("EditorMenus", "&Light theme")}},
+          entry("WeekDock", "&Week"), entry("undo::HistoryDock", "&History"),
+          entry("EditorMenus", "&As-run of a day…"), entry("EditorMenus", "&Dark theme"),
+          entry("EditorMenus", "&Light theme")}},
     };
     return menus;
 }

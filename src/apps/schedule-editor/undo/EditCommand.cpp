@@ -1,0 +1,55 @@
+#include "undo/EditCommand.h"
+
+#include "undo/EditHistory.h"
+
+#include <utility>
+
+namespace trel::desktop::undo {
+
+EditCommand::EditCommand(EditHistory& history, TaskEdits edits, const EditedField& field,
+                         int number)
+    : m_history(history)
+    , m_edits(std::move(edits))
+    , m_field(field)
+    , m_number(number)
+    , m_catalogue(history.catalogueNumber())
+{}
+
+void EditCommand::undo()
+{
+    for (const TaskEdit& edit : m_edits) {
+        m_history.put(edit.taskId, edit.before, m_catalogue);
+    }
+}
+
+void EditCommand::redo()
+{
+    if (std::exchange(m_isDone, false)) {
+        return;
+    }
+    for (const TaskEdit& edit : m_edits) {
+        m_history.put(edit.taskId, edit.after, m_catalogue);
+    }
+}
+
+int EditCommand::id() const
+{
+    constexpr int kNeverJoined = -1;
+    constexpr int kJoined = 1;
+    return m_field.isOneField() ? kJoined : kNeverJoined;
+}
+
+bool EditCommand::mergeWith(const QUndoCommand* next)
+{
+    // All commands of the history are of this class.
+    const auto& later = static_cast<const EditCommand&>(*next);
+    if (!(later.m_field == m_field)) {
+        return false;
+    }
+    m_edits.front().after = later.m_edits.front().after;
+    // Back to where it began: there is nothing left to take back.
+    setObsolete(isSameToOperator(m_edits.front().before, m_edits.front().after));
+    return true;
+}
+
+} // namespace trel::desktop::undo

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "follow/ScheduleEdits.h"
+#include "undo/TaskEdit.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QUndoStack>
+
+#include <map>
+#include <set>
+
+class QWidget;
+
+namespace trel::mediadispatch {
+class scheduleControlUI;
+}
+
+namespace trel::desktop {
+
+namespace follow {
+class EditedSchedule;
+}
+
+namespace undo {
+
+class EditCommand;
+
+/// Every step of the operator that reached the working set since the store was opened, to be taken
+/// back and done again. A save, and a list that is read again and drops what was not saved, are
+/// steps on the way and not its end.
+///
+/// A step is what one turn of the event loop brought. Nothing is taken back while the editor is
+/// hidden, as its edits go when it is next shown, nor while a prompt stands over it. What is half
+/// typed is a step of its own, which is taken back first. There is no limit: a step costs the
+/// memory of the tasks that it changed.
+class EditHistory : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Both outlive the history.
+    EditHistory(follow::EditedSchedule& edited, mediadispatch::scheduleControlUI& editor,
+                QObject* parent);
+    ~EditHistory() override;
+
+    /// Another store has been opened: forgets all steps.
+    void clear();
+
+    /// Whether steps can be taken back and done again now.
+    bool isAtWork() const { return m_isAtWork; }
+
+    /// How many steps there are, and how many of them are done.
+    int count() const { return m_stack.count(); }
+    int index() const { return m_stack.index(); }
+    /// A step by its place, from 0.
+    QString name(int step) const;
+    /// Whether what is saved, now or at some time since, is what stood after so many steps.
+    bool isSaved(int steps) const;
+
+    /// Takes back the last step that is done, or does the first that is not. Nothing where there is
+    /// none.
+    void undo();
+    void redo();
+    /// Takes back or does again until so many steps are done.
+    void goTo(int steps);
+
+signals:
+    /// Steps have come or gone, or others of them are done.
+    void changed();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    friend class EditCommand;
+
+    /// Counts the changes of the catalog.
+    int catalogueNumber() const { return m_catalogue; }
+    /// Files a state of a task, made with a catalog, or takes the task out.
+    void put(int taskId, const follow::SharedTask& task, int catalogue);
+    void showWhatWasPut();
+
+    void take(const follow::ScheduleEdits& edits);
+    /// Takes in what has not been told yet.
+    void catchUp();
+    void add(TaskEdits edits);
+    void markSaved();
+    /// Takes in what is half typed. False when nothing can be taken back now.
+    bool begin();
+    void leaveKeysTo(QWidget* field);
+    void setAtWork(bool isAtWork);
+    const EditCommand& step(int index) const;
+
+    mediadispatch::scheduleControlUI& m_editor;
+    QUndoStack m_stack;
+    /// The working set after the last step that is known.
+    std::map<int, follow::SharedTask> m_known;
+    std::set<int> m_due;         ///< Tasks that have been put, but not shown.
+    std::set<int> m_saved = {0}; ///< Numbers of steps after which it was saved; 0 for the start.
+    int m_lastNumber = 0;
+    int m_catalogue = 0;
+    bool m_isAtWork = false;
+    bool m_isReadAgain = false; ///< What comes now is the saved schedule.
+    QPointer<QWidget> m_field;  ///< Whose keys are watched.
+};
+
+} // namespace undo
+} // namespace trel::desktop

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "undo/TaskEdit.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <string>
+
+namespace trel::desktop::undo {
+
+struct EditedField;
+
+/// The names of the operator's steps, in the language in use.
+class EditWords
+{
+    Q_DECLARE_TR_FUNCTIONS(EditWords)
+
+public:
+    /// "Task 1, plan 3: end 14:00:00 → 15:00:00". The edits may not be empty, and the field is
+    /// theirs.
+    static QString name(const EditedField& field, const TaskEdits& edits);
+
+private:
+    static QString planName(const EditedField& field, const TaskEdit& edit);
+    static QString days(const std::string& weeks);
+};
+
+} // namespace trel::desktop::undo

@@ -1,0 +1,37 @@
+#include "undo/HistoryActions.h"
+
+#include "EditorMenus.h"
+#include "undo/EditHistory.h"
+
+#include <QAction>
+
+namespace trel::desktop::undo {
+
+HistoryActions::HistoryActions(const EditorMenus& menus, EditHistory& history, QObject* parent)
+    : QObject(parent)
+    , m_menus(menus)
+    , m_history(history)
+{
+    connect(menus.undo(), &QAction::triggered, &history, &EditHistory::undo);
+    connect(menus.redo(), &QAction::triggered, &history, &EditHistory::redo);
+    connect(&history, &EditHistory::changed, this, &HistoryActions::update);
+    update();
+}
+
+void HistoryActions::update()
+{
+    const int index = m_history.index();
+    const bool canUndo = index > 0;
+    const bool canRedo = index < m_history.count();
+    m_menus.undo()->setEnabled(canUndo && m_history.isAtWork());
+    m_menus.redo()->setEnabled(canRedo && m_history.isAtWork());
+    m_menus.undo()->setText(canUndo ? named(tr("&Undo"), index - 1) : tr("&Undo"));
+    m_menus.redo()->setText(canRedo ? named(tr("Re&do"), index) : tr("Re&do"));
+}
+
+QString HistoryActions::named(const QString& action, int step) const
+{
+    return tr("%1: %2", "what is done, and the step").arg(action, m_history.name(step));
+}
+
+} // namespace trel::desktop::undo
