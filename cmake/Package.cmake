@@ -75,6 +75,7 @@ install_headers(schedulecontract src/libs/trelprogramschedulewidgets
   service/ProgramOffers.h
   service/ProgramText.h
   service/ProgramTotal.h
+  service/ScheduleDifferences.h
   service/ScheduleRecords.h
   service/TaskPeriods.h
   service/TaskPlans.h
@@ -89,6 +90,7 @@ install_headers(trelprogramschedule src/libs
   trelprogramschedule/effect/EffectStart.h
   trelprogramschedule/faults/Fault.h
   trelprogramschedule/faults/FaultWords.h
+  trelprogramschedule/history/ScheduleVersion.h
   trelprogramschedule/json/ScheduleJson.h
   trelprogramschedule/catalogue/ShownAddress.h
   trelprogramschedule/store/StoreResult.h

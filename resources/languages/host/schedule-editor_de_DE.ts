@@ -613,6 +613,21 @@
         <translation>Medien können nicht gelesen werden. Das Medienleseprogramm %1 gehört zu einer anderen Version.</translation>
     </message>
     <message>
+        <source>Version %1 is damaged.</source>
+        <translation>Version %1 ist beschädigt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the note of a version is longer than %n characters.</source>
+        <translation>
+            <numerusform>Der Name oder die Notiz einer Version ist länger als %n Zeichen.</numerusform>
+            <numerusform>Der Name oder die Notiz einer Version ist länger als %n Zeichen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The name or the note of a version contains a character that is not visible.</source>
+        <translation>Der Name oder die Notiz einer Version enthält ein unsichtbares Zeichen.</translation>
+    </message>
+    <message>
         <source>No schedule file is open, so nothing can be saved.</source>
         <translation>Es ist keine Wiedergabeplan-Datei geöffnet, daher kann nichts gespeichert werden.</translation>
     </message>

@@ -156,6 +156,13 @@
             <numerusform>The text is longer than %n bytes.</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>The name or the note of a version is longer than %n characters.</source>
+        <translation>
+            <numerusform>The name or the note of a version is longer than %n character.</numerusform>
+            <numerusform>The name or the note of a version is longer than %n characters.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>EffectWords</name>

@@ -613,6 +613,21 @@
         <translation>No se pueden leer los medios. El lector de medios %1 es de otra versión.</translation>
     </message>
     <message>
+        <source>Version %1 is damaged.</source>
+        <translation>La versión %1 está dañada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the note of a version is longer than %n characters.</source>
+        <translation>
+            <numerusform>El nombre o la nota de una versión tiene más de %n carácter.</numerusform>
+            <numerusform>El nombre o la nota de una versión tiene más de %n caracteres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The name or the note of a version contains a character that is not visible.</source>
+        <translation>El nombre o la nota de una versión contiene un carácter que no es visible.</translation>
+    </message>
+    <message>
         <source>No schedule file is open, so nothing can be saved.</source>
         <translation>No hay ningún archivo de programación abierto, por lo que no se puede guardar nada.</translation>
     </message>

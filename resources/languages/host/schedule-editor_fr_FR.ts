@@ -613,6 +613,21 @@
         <translation>Impossible de lire les médias. Le lecteur de médias %1 est d’une autre version.</translation>
     </message>
     <message>
+        <source>Version %1 is damaged.</source>
+        <translation>La version %1 est endommagée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the note of a version is longer than %n characters.</source>
+        <translation>
+            <numerusform>Le nom ou la note d’une version dépasse %n caractère.</numerusform>
+            <numerusform>Le nom ou la note d’une version dépasse %n caractères.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The name or the note of a version contains a character that is not visible.</source>
+        <translation>Le nom ou la note d’une version contient un caractère invisible.</translation>
+    </message>
+    <message>
         <source>No schedule file is open, so nothing can be saved.</source>
         <translation>Aucun fichier de programmation n’est ouvert, rien ne peut donc être enregistré.</translation>
     </message>

@@ -593,6 +593,20 @@
         <translation>メディアを読み取れません。メディアリーダー %1 のバージョンが異なります。</translation>
     </message>
     <message>
+        <source>Version %1 is damaged.</source>
+        <translation>バージョン %1 は破損しています。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the note of a version is longer than %n characters.</source>
+        <translation>
+            <numerusform>バージョンの名前またはメモが %n 文字を超えています。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The name or the note of a version contains a character that is not visible.</source>
+        <translation>バージョンの名前またはメモに、表示されない文字が含まれています。</translation>
+    </message>
+    <message>
         <source>No schedule file is open, so nothing can be saved.</source>
         <translation>スケジュールファイルが開かれていないため、保存できません。</translation>
     </message>

@@ -593,6 +593,20 @@
         <translation>미디어를 읽을 수 없습니다. 미디어 리더 %1의 버전이 다릅니다.</translation>
     </message>
     <message>
+        <source>Version %1 is damaged.</source>
+        <translation>버전 %1이(가) 손상되었습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the note of a version is longer than %n characters.</source>
+        <translation>
+            <numerusform>버전의 이름 또는 메모가 %n자를 초과합니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The name or the note of a version contains a character that is not visible.</source>
+        <translation>버전의 이름 또는 메모에 보이지 않는 문자가 있습니다.</translation>
+    </message>
+    <message>
         <source>No schedule file is open, so nothing can be saved.</source>
         <translation>열려 있는 일정 파일이 없어 저장할 수 없습니다.</translation>
     </message>

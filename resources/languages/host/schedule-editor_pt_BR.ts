@@ -613,6 +613,21 @@
         <translation>Não é possível ler as mídias. O leitor de mídia %1 é de outra versão.</translation>
     </message>
     <message>
+        <source>Version %1 is damaged.</source>
+        <translation>A versão %1 está danificada.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the note of a version is longer than %n characters.</source>
+        <translation>
+            <numerusform>O nome ou a nota de uma versão tem mais de %n caractere.</numerusform>
+            <numerusform>O nome ou a nota de uma versão tem mais de %n caracteres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The name or the note of a version contains a character that is not visible.</source>
+        <translation>O nome ou a nota de uma versão contém um caractere que não é visível.</translation>
+    </message>
+    <message>
         <source>No schedule file is open, so nothing can be saved.</source>
         <translation>Nenhum arquivo de programação está aberto; por isso, nada pode ser salvo.</translation>
     </message>

@@ -633,6 +633,22 @@
         <translation>Не удаётся прочитать медиафайлы. Модуль чтения медиафайлов %1 другой версии.</translation>
     </message>
     <message>
+        <source>Version %1 is damaged.</source>
+        <translation>Версия %1 повреждена.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the note of a version is longer than %n characters.</source>
+        <translation>
+            <numerusform>Название или примечание версии длиннее %n символа.</numerusform>
+            <numerusform>Название или примечание версии длиннее %n символов.</numerusform>
+            <numerusform>Название или примечание версии длиннее %n символов.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The name or the note of a version contains a character that is not visible.</source>
+        <translation>Название или примечание версии содержит невидимый символ.</translation>
+    </message>
+    <message>
         <source>No schedule file is open, so nothing can be saved.</source>
         <translation>Файл расписания не открыт, поэтому сохранить ничего нельзя.</translation>
     </message>

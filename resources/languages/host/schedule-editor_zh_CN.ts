@@ -593,6 +593,20 @@
         <translation>无法读取媒体。媒体读取程序 %1 的版本不符。</translation>
     </message>
     <message>
+        <source>Version %1 is damaged.</source>
+        <translation>版本 %1 已损坏。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the note of a version is longer than %n characters.</source>
+        <translation>
+            <numerusform>版本的名称或备注超过 %n 个字符。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The name or the note of a version contains a character that is not visible.</source>
+        <translation>版本的名称或备注中包含不可见的字符。</translation>
+    </message>
+    <message>
         <source>No schedule file is open, so nothing can be saved.</source>
         <translation>未打开排期文件，因此无法保存。</translation>
     </message>

@@ -593,6 +593,20 @@
         <translation>無法讀取媒體。媒體讀取程式 %1 的版本不符。</translation>
     </message>
     <message>
+        <source>Version %1 is damaged.</source>
+        <translation>版本 %1 已損毀。</translation>
+    </message>
+    <message numerus="yes">
+        <source>The name or the note of a version is longer than %n characters.</source>
+        <translation>
+            <numerusform>版本的名稱或備註超過 %n 個字元。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The name or the note of a version contains a character that is not visible.</source>
+        <translation>版本的名稱或備註中包含不可見的字元。</translation>
+    </message>
+    <message>
         <source>No schedule file is open, so nothing can be saved.</source>
         <translation>未開啟排程檔案，因此無法儲存。</translation>
     </message>

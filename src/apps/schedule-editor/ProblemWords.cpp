@@ -134,6 +134,15 @@ constexpr Pattern kFaults[] = {
                        "Media cannot be read. The media reader %1 exits immediately.")},
     {QT_TRANSLATE_NOOP("ProblemWords",
                        "Media cannot be read. The media reader %1 is of another version.")},
+
+    {QT_TRANSLATE_NOOP("ProblemWords", "There is no version %1.")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "Version %1 is damaged.")},
+    {QT_TRANSLATE_N_NOOP("ProblemWords",
+                         "The name or the note of a version is longer than %n characters."),
+     0},
+    {QT_TRANSLATE_NOOP("ProblemWords",
+                       "The name or the note of a version contains a character that is not "
+                       "visible.")},
 };
 static_assert(std::size(kFaults) == kFaultCodes);
 

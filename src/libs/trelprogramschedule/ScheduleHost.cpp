@@ -178,6 +178,27 @@ void ScheduleHost::restoreTask(const PlayTask& task)
     service().restoreTask(task);
 }
 
+StoreResult ScheduleHost::versions(std::vector<ScheduleVersion>& versions) const
+{
+    return service().readVersions(versions);
+}
+
+StoreResult ScheduleHost::versionTasks(qint64 number, std::map<int, PlayTask>& tasks) const
+{
+    return service().readVersion(number, tasks);
+}
+
+StoreResult ScheduleHost::nameVersion(qint64 number, const QString& name, const QString& note)
+{
+    return service().nameVersion(number, name, note);
+}
+
+StoreResult ScheduleHost::restoreVersion(qint64 number)
+{
+    service().noteWorkingSet();
+    return service().restoreVersion(number);
+}
+
 const std::map<int, PlayTask>& ScheduleHost::workingSet() const
 {
     return service().state().tasks.working();

@@ -2,6 +2,7 @@
 
 #include "service/ScheduleRecords.h"
 #include "trelprogramschedule/effect/EffectStart.h"
+#include "trelprogramschedule/history/ScheduleVersion.h"
 #include "trelprogramschedule/store/StoreResult.h"
 #include "trelprogramschedule_export.h"
 
@@ -166,6 +167,27 @@ public:
     /// catalog since are marked, and ends that follow from lengths are those of today. For hosts
     /// that take edits back; the editor shows it with scheduleControlUI::slotShowTask.
     void restoreTask(const PlayTask& task);
+
+    // Each save keeps the state before it, in the same transaction. What is kept is a version, with
+    // the number of the save that made it; the newest is what is saved. The last 200 stay, and all
+    // that have a name; the others thin out with their age, to one a day, one a week and one in
+    // thirty days, for ten years. A save that changes nothing makes none.
+
+    /// The versions that the store has, the newest first, which is what is saved. Empty in a store
+    /// of a former schema that is only read. Left as it is where the result is a refusal.
+    StoreResult versions(std::vector<ScheduleVersion>& versions) const;
+    /// The tasks of a version, by their ids, with the ends that follow from the lengths of today,
+    /// and entries of programs that have left the catalogue marked as gone bad. Refused with
+    /// StoreProblem::Other, and VersionUnknown or VersionDamaged as the cause, where there is no
+    /// such version, or no longer, or where what the store has of it is not whole.
+    StoreResult versionTasks(qint64 number, std::map<int, PlayTask>& tasks) const;
+    /// Gives a version a name and a note, in the place of those that it had; both may be empty.
+    /// One transaction. Refused as versionTasks, and with VersionTextTooLong or VersionTextHidden
+    /// for what faultOfVersionTexts() refuses.
+    StoreResult nameVersion(qint64 number, const QString& name, const QString& note);
+    /// Saves a version once more: as replaceSchedule with its tasks, so that what was saved before
+    /// becomes a version itself. The working set is lost. Where nothing differs nothing is written.
+    StoreResult restoreVersion(qint64 number);
 
 Q_SIGNALS:
     /// scheduleManage::save could not commit. Emitted while save still runs, so that a receiver can

@@ -332,14 +332,14 @@ void ScheduleService::saveOrTell()
     }
 }
 
-StoreResult ScheduleService::replace(const TaskMap& tasks)
+StoreResult ScheduleService::replace(const TaskMap& tasks, qint64 restored)
 {
     TaskMap filed = filedByTheirIds(tasks);
     for (auto& [id, task] : filed) {
         updatePlanEnds(task, m_state.catalogue);
     }
     StoreResult result =
-        m_database.writeTasks(filed, m_state.tasks.editsTo(filed), m_revision.schedule);
+        m_database.writeTasks(filed, m_state.tasks.editsTo(filed), m_revision.schedule, restored);
     if (!result) {
         return result;
     }
@@ -352,6 +352,38 @@ StoreResult ScheduleService::replace(const TaskMap& tasks)
     // An editor that still shows the former tasks answers with them.
     m_state.tasks.resetWorking();
     return result;
+}
+
+StoreResult ScheduleService::readVersions(std::vector<ScheduleVersion>& versions)
+{
+    return m_database.readVersions(versions);
+}
+
+StoreResult ScheduleService::readVersion(qint64 number, TaskMap& tasks)
+{
+    StoreResult result = m_database.readVersion(number, tasks);
+    if (result) {
+        // As with every reading of tasks: what follows from the catalogue follows from that of now.
+        const ProgramCatalogue& catalogue = m_state.catalogue;
+        for (auto& [id, task] : tasks) {
+            updatePlanEnds(task, catalogue);
+            mediadispatch::markLostEntries(
+                task, [&catalogue](int progIndex) { return catalogue.contains(progIndex); });
+        }
+    }
+    return result;
+}
+
+StoreResult ScheduleService::nameVersion(qint64 number, const QString& name, const QString& note)
+{
+    return m_database.nameVersion(number, name, note);
+}
+
+StoreResult ScheduleService::restoreVersion(qint64 number)
+{
+    TaskMap tasks;
+    StoreResult result = readVersion(number, tasks);
+    return result ? replace(tasks, number) : result;
 }
 
 StoreResult ScheduleService::reload()

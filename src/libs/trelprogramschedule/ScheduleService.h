@@ -86,8 +86,17 @@ public:
     StoreResult save();
     /// The same, with saveFailed in the place of a refusal.
     void saveOrTell();
-    /// Commits other tasks and makes them the working set.
-    StoreResult replace(const TaskMap& tasks);
+    /// Commits other tasks and makes them the working set; they may be a version that is brought
+    /// back.
+    StoreResult replace(const TaskMap& tasks, qint64 restored = kNoVersion);
+    /// See ScheduleHost::versions.
+    StoreResult readVersions(std::vector<ScheduleVersion>& versions);
+    /// See ScheduleHost::versionTasks.
+    StoreResult readVersion(qint64 number, TaskMap& tasks);
+    /// See ScheduleHost::nameVersion.
+    StoreResult nameVersion(qint64 number, const QString& name, const QString& note);
+    /// See ScheduleHost::restoreVersion.
+    StoreResult restoreVersion(qint64 number);
     /// Reads catalogue and stored set again; the working set stays.
     StoreResult reload();
     /// Takes over what other editors have changed in the store and has the files looked at.

@@ -40,11 +40,17 @@ void addEdit(TaskEdits& edits, const TaskMap& from, const TaskMap& to, int taskI
     const auto before = from.find(taskId);
     const auto after = to.find(taskId);
     const bool isUnwritten = held.unwritten.count(taskId) > 0;
+    const bool isSame =
+        before != from.end() && after != to.end() && before->second == after->second;
+    if (isSame && !isUnwritten) {
+        return;
+    }
+    if (!isSame && (before != from.end() || after != to.end())) {
+        edits.former.push_back({taskId, before == from.end() ? nullptr : &before->second, false});
+    }
     if (before != from.end() && after != to.end() && !isUnwritten) {
-        if (before->second == after->second) {
-            return;
-        }
         if (held.marked.count(taskId) == 0 && haveSameLists(before->second, after->second)) {
+            edits.former.back().keepsLists = true;
             addFieldEdits(edits, before->second, after->second);
             return;
         }

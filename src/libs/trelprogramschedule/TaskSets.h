@@ -18,9 +18,17 @@ struct PlanEdit
     const PlayPlan* plan = nullptr;
 };
 
+/// A task that is going to be another one, as it was before; null for one that is new.
+struct FormerTask
+{
+    int taskId = -1;
+    const PlayTask* task = nullptr;
+    bool keepsLists = false; ///< Known to have the same lists afterwards.
+};
+
 /// What turns a stored set into another: the tasks to take out first, and those to put in then. A
 /// task that has changed stands in both, but for one of which only some fields are others: what an
-/// operator mostly does to a task. The pointers lead into the set that was asked.
+/// operator mostly does to a task. The pointers lead into the two sets that were asked.
 struct TaskEdits
 {
     std::vector<int> removed;
@@ -28,6 +36,9 @@ struct TaskEdits
     std::vector<const PlayTask*> dated; ///< Those that have other dates. Of plans, what follows.
     std::vector<PlanEdit> plans;
     bool removesAll = false; ///< Not one task stays as it was.
+    /// Of the tasks that differ in the two sets, what the edits do away with, ascending. What is
+    /// only written because the store holds it otherwise is not among them.
+    std::vector<FormerTask> former;
 
     bool isEmpty() const
     {

@@ -67,6 +67,12 @@ void tst_StoreSurvival::stoppedInTheMiddle()
         QVERIFY2(found == acknowledged || found == acknowledged + 1,
                  qPrintable(context +
                             QStringLiteral(": found %1 after %2").arg(found).arg(acknowledged)));
+        // Each generation is one save, and so are the versions.
+        for (int number = qMax(generation, found - 3); number <= found; ++number) {
+            std::map<int, PlayTask> tasks;
+            QVERIFY2(store.host.versionTasks(number, tasks), qPrintable(context));
+            QVERIFY2(generationOf(tasks) == number, qPrintable(context));
+        }
         generation = found;
     }
     QVERIFY(generation >= kStops);

@@ -15,6 +15,7 @@
 #include <service/ProgramOffers.h>
 #include <service/ProgramText.h>
 #include <service/ProgramTotal.h>
+#include <service/ScheduleDifferences.h>
 #include <service/TaskPeriods.h>
 #include <service/TaskPlans.h>
 #include <service/TimeText.h>
@@ -29,6 +30,7 @@
 #include <trelprogramschedule/dispatch/ScreenDispatch.h>
 #include <trelprogramschedule/dispatch/ScreenTimeline.h>
 #include <trelprogramschedule/faults/FaultWords.h>
+#include <trelprogramschedule/history/ScheduleVersion.h>
 #include <trelprogramschedule/json/ScheduleJson.h>
 #include <trelprogramschedule/media/MediaReading.h>
 #include <trelprogramschedule/media/PictureRequest.h>
@@ -79,15 +81,15 @@ int main()
         &englishClause, &englishSentence,
         static_cast<QString (*)(const StoreResult&)>(&englishText),
         static_cast<QString (*)(const ScheduleFromJson&)>(&englishText), &exceedsDay, &faultName,
-        &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm, &holdsAsInvalid,
-        &insertedPlan, &insertionScope, &isInvalidReadBack, &tessark::trans::isLanguageFile,
-        &joinWeeks, &lastPlanWithId, &listFromRow, &loadedVersion, &mediaReading, &namesAnyDay,
-        &nextClockChanges, &nextPlanId, &offeredPrograms, &parseWeeks, &planAt, &planClaims,
-        &planFault, &plannedEnd, &planTemplate, &programListText, &programText, &programVerdict,
-        &tessark::trans::readLanguageFile, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
-        &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleFromJson, &scheduleToJson,
-        &shownAddress, &storeProblemName, &timeFromText, &timeToText, &totalText,
-        &tessark::trans::translate, &weeksOverlap, &writeScheduleFile);
+        &faultOfVersionTexts, &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm,
+        &holdsAsInvalid, &insertedPlan, &insertionScope, &isInvalidReadBack,
+        &tessark::trans::isLanguageFile, &joinWeeks, &lastPlanWithId, &listFromRow, &loadedVersion,
+        &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId, &offeredPrograms, &parseWeeks,
+        &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate, &programListText,
+        &programText, &programVerdict, &tessark::trans::readLanguageFile, &readPicture,
+        &readScheduleJson, &removeFirstPlanWithId, &runsLessThanOnce, &setMediaReading, &scanMedia,
+        &scheduleDifferences, &scheduleFromJson, &scheduleToJson, &shownAddress, &storeProblemName, &timeFromText,
+        &timeToText, &totalText, &tessark::trans::translate, &weeksOverlap, &writeScheduleFile);
     static_assert(TREL_VERSION >= TREL_VERSION_CHECK(0, 2, 0));
     std::cout << "Version: " << loadedVersion()
               << (std::string(loadedVersion()) == TREL_VERSION_STRING ? ", as compiled\n" : "\n");

@@ -1,13 +1,11 @@
 #include "ScheduleInEffect.h"
 
 #include "PlanEnds.h"
+#include "ThisProgram.h"
 #include "clock/Clock.h"
 #include "store/ScheduleDatabase.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
 #include "trelprogramschedule/dispatch/SkippedPlay.h"
-
-#include <QCoreApplication>
-#include <QSysInfo>
 
 #include <algorithm>
 #include <utility>
@@ -19,12 +17,6 @@ namespace {
 Instant now()
 {
     return Clock::current().msecsSinceEpoch();
-}
-
-/// Who changes what is in effect, for those who see it elsewhere: "schedulectl@studio".
-QString thisProgram()
-{
-    return QCoreApplication::applicationName() + QLatin1Char('@') + QSysInfo::machineHostName();
 }
 
 /// The insertion that has the screen now; null without one.

@@ -105,10 +105,16 @@ enum class FaultCode {
     ReaderDoesNotAnswer,  ///< Its file.
     ReaderEndsAtOnce,     ///< Its file.
     ReaderOfOtherVersion, ///< Its file.
+
+    // versions of the schedule
+    VersionUnknown,     ///< The number that no version has, or has any more.
+    VersionDamaged,     ///< The number of the version.
+    VersionTextTooLong, ///< The most characters of a name or a note.
+    VersionTextHidden,
 };
 
 /// How many codes there are; they count from 0.
-constexpr int kFaultCodes = static_cast<int>(FaultCode::ReaderOfOtherVersion) + 1;
+constexpr int kFaultCodes = static_cast<int>(FaultCode::VersionTextHidden) + 1;
 
 /// A reason as a code and what belongs into its words. It has no words of its own: hosts word it in
 /// the operator's language, and FaultWords.h in English.

@@ -114,6 +114,11 @@ constexpr Words kWords[] = {
                          "%1: it ends at once"},
     {"readerOfOtherVersion", "media cannot be read, for a file of this program cannot be started: "
                              "%1: it is of another version"},
+
+    {"versionUnknown", "it has no version %1"},
+    {"versionDamaged", "its version %1 is damaged"},
+    {"versionTextTooLong", "a name or a note of a version has more than %1 characters"},
+    {"versionTextHidden", "a name or a note of a version has a character that does not show"},
 };
 static_assert(std::size(kWords) == kFaultCodes);
 

@@ -10,7 +10,10 @@
 #include "StoreSchema.h"
 #include "StoreTaskReader.h"
 #include "StoreTaskWriter.h"
+#include "StoreVersions.h"
+#include "ThisProgram.h"
 #include "catalogue/ProgramImporter.h"
+#include "clock/Clock.h"
 
 #include <QSqlQuery>
 #include <QVariant>
@@ -73,6 +76,10 @@ StoreRevision revisionOf(const StoreConnection& connection)
     }
     if (StoreSchema::hasEffect(connection)) {
         revision.effect = StoreEffect::revision(connection);
+    }
+    if (StoreSchema::hasHistory(connection)) {
+        revision.names =
+            connection.value(QStringLiteral("SELECT version_revision FROM store")).toLongLong();
     }
     return revision;
 }
@@ -404,7 +411,7 @@ bool ScheduleDatabase::takeSeen(StorePart part, StoreContents& contents)
 }
 
 StoreResult ScheduleDatabase::writeTasks(const TaskMap& tasks, const TaskEdits& edits,
-                                         qint64& revision)
+                                         qint64& revision, qint64 restored)
 {
     return attempt(m_file.path(), [&] {
         expectInPlace();
@@ -420,6 +427,9 @@ StoreResult ScheduleDatabase::writeTasks(const TaskMap& tasks, const TaskEdits& 
         if (edits.isEmpty()) {
             return;
         }
+        StoreVersions(*m_connection, m_file.path())
+            .keep(revision, edits, tasks,
+                  {Clock::current().msecsSinceEpoch(), thisProgram(), restored});
         StoreTaskWriter(*m_connection).write(edits);
         m_connection->run(
             QStringLiteral("UPDATE store SET schedule_revision = schedule_revision + 1"));
@@ -538,6 +548,29 @@ StoreResult ScheduleDatabase::writeInsertions(ScreenInsertions& insertions, qint
         ++revision;
     }
     return result;
+}
+
+StoreResult ScheduleDatabase::readVersions(std::vector<ScheduleVersion>& versions)
+{
+    return readWith([&] { versions = StoreVersions(*m_connection, m_file.path()).list(); });
+}
+
+StoreResult ScheduleDatabase::readVersion(qint64 number, TaskMap& tasks)
+{
+    return readWith([&] { tasks = StoreVersions(*m_connection, m_file.path()).read(number); });
+}
+
+StoreResult ScheduleDatabase::nameVersion(qint64 number, const QString& name, const QString& note)
+{
+    return attempt(m_file.path(), [&] {
+        expectInPlace();
+        if (const Fault fault = faultOfVersionTexts(name, note)) {
+            throw StoreError{refusal(StoreProblem::Other, m_file.path(), fault)};
+        }
+        StoreTransaction transaction(*m_connection, StoreTransaction::Purpose::Write);
+        StoreVersions(*m_connection, m_file.path()).name(number, name, note);
+        transaction.commit();
+    });
 }
 
 StoreResult ScheduleDatabase::countPlansWith(const std::vector<int>& progIndexes, int& count) const

@@ -5,6 +5,7 @@
 #include "StoreResult.h"
 #include "StoredEffect.h"
 #include "TaskSets.h"
+#include "trelprogramschedule/history/ScheduleVersion.h"
 
 #include <QString>
 #include <QtGlobal>
@@ -60,8 +61,10 @@ public:
     StoreResult read(StorePart part, StoreContents& contents);
     /// Writes what is to be changed so that the store holds these tasks, if it still has the
     /// schedule revision that is given; MovedOn otherwise. The revision is counted up, unless there
-    /// is no change. TooLarge for tasks beyond the limits of a schedule.
-    StoreResult writeTasks(const TaskMap& tasks, const TaskEdits& edits, qint64& revision);
+    /// is no change. TooLarge for tasks beyond the limits of a schedule. The state before becomes a
+    /// version; of what is written it is told which version is brought back by it, if one is.
+    StoreResult writeTasks(const TaskMap& tasks, const TaskEdits& edits, qint64& revision,
+                           qint64 restored = kNoVersion);
 
     /// Puts sources into the catalogue; see ScheduleHost::addPrograms. Gives their programs, and
     /// the revisions with them, as they stand in the store then.
@@ -79,6 +82,13 @@ public:
     /// Writes the insertions, if what is in effect still has the revision that is given; MovedOn
     /// otherwise. Gives the new revision, and a number to the insertion that is new.
     StoreResult writeInsertions(ScreenInsertions& insertions, qint64& revision);
+
+    /// Reads the list of the versions, newest first.
+    StoreResult readVersions(std::vector<ScheduleVersion>& versions);
+    /// Reads the tasks of a version.
+    StoreResult readVersion(qint64 number, TaskMap& tasks);
+    /// See ScheduleHost::nameVersion.
+    StoreResult nameVersion(qint64 number, const QString& name, const QString& note);
 
     /// See ScheduleHost::plansWith.
     StoreResult countPlansWith(const std::vector<int>& progIndexes, int& count) const;

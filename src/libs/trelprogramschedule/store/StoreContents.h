@@ -11,13 +11,14 @@
 namespace trel::mediadispatch {
 
 /// Which state of the store somebody has read. Every change of the schedule counts the first
-/// number up by one, every change of the catalogue the second, and every change of what is in
-/// effect the third.
+/// number up by one, every change of the catalogue the second, every change of what is in effect
+/// the third, and every name that a version gets the fourth.
 struct StoreRevision
 {
     qint64 schedule = 0;
     qint64 catalogue = 0;
     qint64 effect = 0;
+    qint64 names = 0;
 };
 
 /// What a store holds.

@@ -105,20 +105,23 @@ std::optional<StoreRevision> revisionIn(const QByteArray& page)
     const qint64 scheduleKind = row.varint();
     const qint64 catalogueKind = row.varint();
     const qint64 nextProgIndexKind = row.varint();
-    // A row that was written before there was this column ends here.
+    // A row that was written before there was one of these columns ends in front of it.
     const qint64 effectKind = row.place() < begin + headSize ? row.varint() : 0;
+    const qint64 namesKind = row.place() < begin + headSize ? row.varint() : 0;
     row.moveTo(begin + static_cast<int>(std::min<qint64>(headSize, page.size())));
     StoreRevision revision;
     revision.schedule = row.number(scheduleKind);
     revision.catalogue = row.number(catalogueKind);
     row.number(nextProgIndexKind);
     revision.effect = row.number(effectKind);
+    revision.names = row.number(namesKind);
     return revision;
 }
 
 bool isSame(const StoreRevision& a, const StoreRevision& b)
 {
-    return a.schedule == b.schedule && a.catalogue == b.catalogue && a.effect == b.effect;
+    return a.schedule == b.schedule && a.catalogue == b.catalogue && a.effect == b.effect &&
+           a.names == b.names;
 }
 
 bool isNext(const StoreRevision& former, const StoreRevision& later)
@@ -126,7 +129,9 @@ bool isNext(const StoreRevision& former, const StoreRevision& later)
     const qint64 schedule = later.schedule - former.schedule;
     const qint64 catalogue = later.catalogue - former.catalogue;
     const qint64 effect = later.effect - former.effect;
-    return schedule >= 0 && catalogue >= 0 && effect >= 0 && schedule + catalogue + effect == 1;
+    const qint64 names = later.names - former.names;
+    return schedule >= 0 && catalogue >= 0 && effect >= 0 && names >= 0 &&
+           schedule + catalogue + effect + names == 1;
 }
 
 } // namespace

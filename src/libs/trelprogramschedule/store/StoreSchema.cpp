@@ -13,6 +13,8 @@ namespace {
 
 /// The first version that has tables for what is in effect.
 constexpr int kEffectVersion = 2;
+/// The first version that has tables for former states of what is saved.
+constexpr int kHistoryVersion = 3;
 
 /// Tables for the plans of what another table holds under the name of its key.
 QStringList planStatements(const QString& prefix, const QString& owner)
@@ -95,6 +97,37 @@ QStringList effectStatements()
     return statements;
 }
 
+/// The states that saves have made, and what they were made of.
+QStringList historyStatements()
+{
+    return {
+        QStringLiteral("ALTER TABLE store"
+                       " ADD COLUMN version_revision INTEGER NOT NULL DEFAULT 0"),
+        // Writes the row in its new form, which a log is compared with.
+        QStringLiteral("UPDATE store SET version_revision = 0"),
+        // The newest is what is saved. Its number is the revision of the schedule.
+        QStringLiteral("CREATE TABLE version ("
+                       " number INTEGER PRIMARY KEY,"
+                       " saved_ms INTEGER NOT NULL,"
+                       " saved_by TEXT NOT NULL,"
+                       " added INTEGER NOT NULL,"
+                       " changed INTEGER NOT NULL,"
+                       " removed INTEGER NOT NULL,"
+                       " task_ids TEXT NOT NULL,"
+                       " restored INTEGER NOT NULL,"
+                       " name TEXT NOT NULL,"
+                       " note TEXT NOT NULL) STRICT"),
+        // What of the tasks is another one in the next version. A value has a size that it may
+        // have, so that it comes in parts.
+        QStringLiteral("CREATE TABLE version_part ("
+                       " version INTEGER NOT NULL REFERENCES version ON DELETE CASCADE,"
+                       " part INTEGER NOT NULL,"
+                       " content BLOB NOT NULL,"
+                       " PRIMARY KEY (version, part)) STRICT, WITHOUT ROWID"),
+        QStringLiteral("INSERT INTO version SELECT schedule_revision, 0, '', 0, 0, 0, '', -1, '',"
+                       " '' FROM store")};
+}
+
 } // namespace
 
 const std::vector<StoreSchema::Step>& StoreSchema::steps()
@@ -160,6 +193,7 @@ const std::vector<StoreSchema::Step>& StoreSchema::steps()
                          " FOREIGN KEY (task_id, plan_position) REFERENCES plan"
                          " ON DELETE CASCADE) STRICT, WITHOUT ROWID")}},
         {kEffectVersion, effectStatements()},
+        {kHistoryVersion, historyStatements()},
     };
     return steps;
 }
@@ -182,6 +216,11 @@ bool StoreSchema::isNewest(const StoreConnection& connection)
 bool StoreSchema::hasEffect(const StoreConnection& connection)
 {
     return versionOf(connection) >= kEffectVersion;
+}
+
+bool StoreSchema::hasHistory(const StoreConnection& connection)
+{
+    return versionOf(connection) >= kHistoryVersion;
 }
 
 const StoreElements& StoreSchema::elementsOfVersion(int version)
