@@ -21,7 +21,8 @@ struct DeckLoad
     qint64 position = 0;
     /// The first picture stands and is never played on, as the last frame of a play does.
     bool stands = false;
-    /// How often the play has failed in a row before this load: what is slow may be given more time.
+    /// How often the play has failed in a row before this load: what is slow may be given more
+    /// time.
     int failures = 0;
 };
 

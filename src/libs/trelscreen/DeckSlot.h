@@ -19,8 +19,8 @@ public:
     /// The deck outlives it.
     explicit DeckSlot(Deck& deck, QObject* parent = nullptr);
 
-    /// Loads a play to be shown from an instant on, which has failed so many times in a row. What is
-    /// frozen, and what has no position, can be shown at once.
+    /// Loads a play to be shown from an instant on, which has failed so many times in a row. What
+    /// is frozen, and what has no position, can be shown at once.
     void load(const ScreenPlay& play, mediadispatch::Instant startsAt, qint64 steady, int failures);
     void clear();
     void start(qint64 steady);
