@@ -66,6 +66,11 @@ void HostWindows::fill(int programs, bool areFiles, const TaskMap& tasks)
     QCoreApplication::processEvents();
 }
 
+DraftJournal& HostWindows::journal() const
+{
+    return *m_window.findChild<DraftJournal*>();
+}
+
 void HostWindows::reopen()
 {
     ScheduleHost::instance().close();

@@ -6,6 +6,7 @@
 #include "look/Themes.h"
 #include "scheduleControlUI.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
+#include "trelprogramschedule/draft/DraftJournal.h"
 
 #include <QTemporaryDir>
 
@@ -31,6 +32,8 @@ public:
     /// Shows the changes of the clocks and the week, each in a window of its own.
     void showPanels();
     trel::mediadispatch::scheduleControlUI& editor() { return m_editor; }
+    /// What writes down edits that are not saved.
+    trel::mediadispatch::DraftJournal& journal() const;
     trel::desktop::Languages& languages() { return m_languages; }
     trel::desktop::Themes& themes() { return m_themes; }
 

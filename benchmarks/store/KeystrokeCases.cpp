@@ -69,13 +69,19 @@ public:
         : m_tasks(std::move(tasks))
     {}
 
+    /// Whether what is not saved is written down meanwhile.
+    enum class Draft { IsKept, IsNotKept };
+
     template <typename Measure>
-    double measure(const Measure& measure) const
+    double measure(const Measure& measure, Draft draft = Draft::IsKept) const
     {
         HostWindows windows;
         windows.fill(kProgramsInUse, false, m_tasks);
         windows.showPanels();
         settle();
+        if (draft == Draft::IsKept) {
+            windows.journal().begin();
+        }
         PlayTask task = m_tasks.size() > 2 ? m_tasks.at(3) : m_tasks.begin()->second;
         pressKey(task);
         settle();
@@ -107,10 +113,21 @@ void addKeys(const std::string& size, const TaskMap& many, const TaskMap& few, b
          [ofFew] { return ofFew->measure(threadSeconds) + kFrame; }, kRounds, isLong});
 }
 
+/// The keys come as fast as they can, and so the journal writes as often as it ever does.
+void addDrafts(const std::string& size, const TaskMap& tasks)
+{
+    const auto keys = std::make_shared<const Keys>(tasks);
+    add({"A key with its draft on the interface thread, against one without", size, 1.05,
+         [keys] { return keys->measure(threadSeconds); },
+         [keys] { return keys->measure(threadSeconds, Keys::Draft::IsNotKept); }});
+}
+
 } // namespace
 
 void addKeystrokeCases()
 {
+    addDrafts("100 tasks of 5 plans", tasksFromNowOn(100, 5));
+    addDrafts("1,000 tasks of 5 plans", tasksFromNowOn(1000, 5));
     addKeys("1,000 tasks of 5 plans against 100 tasks", tasksFromNowOn(1000, 5),
             tasksFromNowOn(100, 5), false);
     addKeys("1,000 tasks of 60 plans against 100 tasks", tasksFromNowOn(1000, 60),

@@ -86,6 +86,10 @@
         <source>S&amp;top the schedule…</source>
         <translation>Wiedergabeplan s&amp;toppen…</translation>
     </message>
+    <message>
+        <source>&amp;Bring back what was canceled</source>
+        <translation>&amp;Verworfenes zurückholen</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -200,20 +204,12 @@
         <translation>Einige Dateien konnten nicht importiert werden:</translation>
     </message>
     <message>
-        <source>The schedule has changes that are not saved.</source>
-        <translation>Der Wiedergabeplan enthält ungespeicherte Änderungen.</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>Verwerfen</translation>
-    </message>
-    <message>
-        <source>Keep editing</source>
-        <translation>Weiter bearbeiten</translation>
     </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
@@ -239,6 +235,18 @@
             <numerusform>%n aktualisiert</numerusform>
             <numerusform>%n aktualisiert</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>Der Wiedergabeplan enthält ungespeicherte Änderungen. Als Entwurf werden sie angeboten, wenn diese Datenbank wieder geöffnet wird.
+
+Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>Als Entwurf behalten</translation>
     </message>
 </context>
 <context>
@@ -1631,6 +1639,81 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>&amp;History</source>
         <translation>Ver&amp;lauf</translation>
+    </message>
+</context>
+<context>
+    <name>DraftWords</name>
+    <message>
+        <source>There are changes that were not saved. The last one was made on %1.</source>
+        <translation>Es gibt Änderungen, die nicht gespeichert wurden. Die letzte stammt vom %1.</translation>
+    </message>
+    <message>
+        <source>New tasks: %1</source>
+        <translation>Neue Aufträge: %1</translation>
+    </message>
+    <message>
+        <source>Changed tasks: %1</source>
+        <translation>Geänderte Aufträge: %1</translation>
+    </message>
+    <message>
+        <source>Deleted tasks: %1</source>
+        <translation>Gelöschte Aufträge: %1</translation>
+    </message>
+    <message>
+        <source>The very last change may be missing.</source>
+        <translation>Die allerletzte Änderung kann fehlen.</translation>
+    </message>
+    <message>
+        <source>A part of them is damaged and cannot be read.</source>
+        <translation>Ein Teil davon ist beschädigt und nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>They were made in another database, which stood in the place of this one.</source>
+        <translation>Sie wurden in einer anderen Datenbank vorgenommen, die an der Stelle dieser stand.</translation>
+    </message>
+    <message>
+        <source>The schedule was saved since then.</source>
+        <translation>Der Wiedergabeplan wurde seitdem gespeichert.</translation>
+    </message>
+    <message>
+        <source>Close this question to decide later.</source>
+        <translation>Schließen Sie diese Frage, um später zu entscheiden.</translation>
+    </message>
+    <message>
+        <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
+        <translation>Die Datei %1 enthält ungespeicherte Änderungen. Sie stammen von einer neueren Version dieses Programms, die gebraucht wird, um sie zu übernehmen.</translation>
+    </message>
+    <message>
+        <source>The file %1 should keep changes that were not saved, but nothing in it can be read.</source>
+        <translation>Die Datei %1 sollte ungespeicherte Änderungen enthalten, aber nichts darin ist lesbar.</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved cannot be kept beside the database at the moment: if the program ends now, they are lost. %1</source>
+        <translation>Ungespeicherte Änderungen können im Moment nicht neben der Datenbank festgehalten werden: Endet das Programm jetzt, gehen sie verloren. %1</translation>
+    </message>
+    <message>
+        <source>The changes could not be kept beside the database. They are still in the editor.</source>
+        <translation>Die Änderungen konnten nicht neben der Datenbank festgehalten werden. Im Editor sind sie noch da.</translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Put into a file</source>
+        <translation>In Datei ablegen</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>Datei löschen</translation>
+    </message>
+    <message>
+        <source>Decide later</source>
+        <translation>Später entscheiden</translation>
     </message>
 </context>
 </TS>

@@ -86,6 +86,10 @@
         <source>S&amp;top the schedule…</source>
         <translation>&amp;Detener la programación…</translation>
     </message>
+    <message>
+        <source>&amp;Bring back what was canceled</source>
+        <translation>Rec&amp;uperar lo cancelado</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -200,20 +204,12 @@
         <translation>Algunos archivos no se han podido importar:</translation>
     </message>
     <message>
-        <source>The schedule has changes that are not saved.</source>
-        <translation>La programación tiene cambios sin guardar.</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Guardar</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>Descartar</translation>
-    </message>
-    <message>
-        <source>Keep editing</source>
-        <translation>Seguir editando</translation>
     </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
@@ -239,6 +235,18 @@
             <numerusform>%n actualizado</numerusform>
             <numerusform>%n actualizados</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>La programación tiene cambios sin guardar. Como borrador se ofrecerán cuando se vuelva a abrir esta base de datos.
+
+Cierre esta pregunta para seguir editando.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>Guardar borrador</translation>
     </message>
 </context>
 <context>
@@ -1631,6 +1639,81 @@ What do you want to do with your changes?</source>
     <message>
         <source>&amp;History</source>
         <translation>H&amp;istorial</translation>
+    </message>
+</context>
+<context>
+    <name>DraftWords</name>
+    <message>
+        <source>There are changes that were not saved. The last one was made on %1.</source>
+        <translation>Hay cambios que no se guardaron. El último se hizo el %1.</translation>
+    </message>
+    <message>
+        <source>New tasks: %1</source>
+        <translation>Tareas nuevas: %1</translation>
+    </message>
+    <message>
+        <source>Changed tasks: %1</source>
+        <translation>Tareas modificadas: %1</translation>
+    </message>
+    <message>
+        <source>Deleted tasks: %1</source>
+        <translation>Tareas eliminadas: %1</translation>
+    </message>
+    <message>
+        <source>The very last change may be missing.</source>
+        <translation>Puede faltar el último cambio.</translation>
+    </message>
+    <message>
+        <source>A part of them is damaged and cannot be read.</source>
+        <translation>Una parte está dañada y no se puede leer.</translation>
+    </message>
+    <message>
+        <source>They were made in another database, which stood in the place of this one.</source>
+        <translation>Se hicieron en otra base de datos, que estaba en el lugar de esta.</translation>
+    </message>
+    <message>
+        <source>The schedule was saved since then.</source>
+        <translation>La programación se ha guardado desde entonces.</translation>
+    </message>
+    <message>
+        <source>Close this question to decide later.</source>
+        <translation>Cierre esta pregunta para decidir más tarde.</translation>
+    </message>
+    <message>
+        <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
+        <translation>El archivo %1 contiene cambios sin guardar. Se hicieron con una versión más reciente de esta aplicación, que hace falta para recuperarlos.</translation>
+    </message>
+    <message>
+        <source>The file %1 should keep changes that were not saved, but nothing in it can be read.</source>
+        <translation>El archivo %1 debería contener cambios sin guardar, pero no se puede leer nada de él.</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved cannot be kept beside the database at the moment: if the program ends now, they are lost. %1</source>
+        <translation>En este momento los cambios sin guardar no se pueden conservar junto a la base de datos: si la aplicación termina ahora, se pierden. %1</translation>
+    </message>
+    <message>
+        <source>The changes could not be kept beside the database. They are still in the editor.</source>
+        <translation>Los cambios no se pudieron conservar junto a la base de datos. Siguen en el editor.</translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation>Recuperar</translation>
+    </message>
+    <message>
+        <source>Put into a file</source>
+        <translation>Llevar a un archivo</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>Eliminar el archivo</translation>
+    </message>
+    <message>
+        <source>Decide later</source>
+        <translation>Decidir más tarde</translation>
     </message>
 </context>
 </TS>

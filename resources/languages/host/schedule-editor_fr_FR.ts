@@ -86,6 +86,10 @@
         <source>S&amp;top the schedule…</source>
         <translation>&amp;Arrêter la programmation…</translation>
     </message>
+    <message>
+        <source>&amp;Bring back what was canceled</source>
+        <translation>Ré&amp;tablir ce qui a été annulé</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -200,20 +204,12 @@
         <translation>Certains fichiers n’ont pas pu être importés&#xa0;:</translation>
     </message>
     <message>
-        <source>The schedule has changes that are not saved.</source>
-        <translation>La programmation contient des modifications non enregistrées.</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>Ne pas enregistrer</translation>
-    </message>
-    <message>
-        <source>Keep editing</source>
-        <translation>Continuer l’édition</translation>
     </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
@@ -239,6 +235,18 @@
             <numerusform>%n mise à jour</numerusform>
             <numerusform>%n mises à jour</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>La programmation contient des modifications non enregistrées. Conservées comme brouillon, elles sont proposées à la prochaine ouverture de cette base de données.
+
+Fermez cette question pour continuer à modifier.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>Garder le brouillon</translation>
     </message>
 </context>
 <context>
@@ -1631,6 +1639,81 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>&amp;History</source>
         <translation>H&amp;istorique</translation>
+    </message>
+</context>
+<context>
+    <name>DraftWords</name>
+    <message>
+        <source>There are changes that were not saved. The last one was made on %1.</source>
+        <translation>Des modifications n’ont pas été enregistrées. La dernière date du %1.</translation>
+    </message>
+    <message>
+        <source>New tasks: %1</source>
+        <translation>Nouvelles tâches : %1</translation>
+    </message>
+    <message>
+        <source>Changed tasks: %1</source>
+        <translation>Tâches modifiées : %1</translation>
+    </message>
+    <message>
+        <source>Deleted tasks: %1</source>
+        <translation>Tâches supprimées : %1</translation>
+    </message>
+    <message>
+        <source>The very last change may be missing.</source>
+        <translation>La toute dernière modification peut manquer.</translation>
+    </message>
+    <message>
+        <source>A part of them is damaged and cannot be read.</source>
+        <translation>Une partie est endommagée et illisible.</translation>
+    </message>
+    <message>
+        <source>They were made in another database, which stood in the place of this one.</source>
+        <translation>Elles ont été faites dans une autre base de données, qui se trouvait à la place de celle-ci.</translation>
+    </message>
+    <message>
+        <source>The schedule was saved since then.</source>
+        <translation>La programmation a été enregistrée depuis.</translation>
+    </message>
+    <message>
+        <source>Close this question to decide later.</source>
+        <translation>Fermez cette question pour décider plus tard.</translation>
+    </message>
+    <message>
+        <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
+        <translation>Le fichier %1 contient des modifications non enregistrées. Elles viennent d’une version plus récente de cette application, nécessaire pour les reprendre.</translation>
+    </message>
+    <message>
+        <source>The file %1 should keep changes that were not saved, but nothing in it can be read.</source>
+        <translation>Le fichier %1 devrait contenir des modifications non enregistrées, mais rien n’y est lisible.</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved cannot be kept beside the database at the moment: if the program ends now, they are lost. %1</source>
+        <translation>Les modifications non enregistrées ne peuvent pas être conservées à côté de la base de données pour le moment : si l’application s’arrête maintenant, elles sont perdues. %1</translation>
+    </message>
+    <message>
+        <source>The changes could not be kept beside the database. They are still in the editor.</source>
+        <translation>Les modifications n’ont pas pu être conservées à côté de la base de données. Elles sont encore dans l’éditeur.</translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Put into a file</source>
+        <translation>Mettre dans un fichier</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>Supprimer le fichier</translation>
+    </message>
+    <message>
+        <source>Decide later</source>
+        <translation>Décider plus tard</translation>
     </message>
 </context>
 </TS>

@@ -86,6 +86,10 @@
         <source>S&amp;top the schedule…</source>
         <translation>スケジュールの運用を停止(&amp;T)…</translation>
     </message>
+    <message>
+        <source>&amp;Bring back what was canceled</source>
+        <translation>取り消した変更を元に戻す(&amp;B)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -197,20 +201,12 @@
         <translation>取り込めなかったファイルがあります：</translation>
     </message>
     <message>
-        <source>The schedule has changes that are not saved.</source>
-        <translation>スケジュールに保存されていない変更があります。</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>保存</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>保存しない</translation>
-    </message>
-    <message>
-        <source>Keep editing</source>
-        <translation>編集を続ける</translation>
     </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
@@ -233,6 +229,18 @@
         <translation>
             <numerusform>更新 %n 件</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>スケジュールに保存されていない変更があります。下書きとして残すと、このデータベースを次に開いたときに確認されます。
+
+編集を続けるには、この確認を閉じてください。</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>下書きとして残す</translation>
     </message>
 </context>
 <context>
@@ -1607,6 +1615,81 @@ What do you want to do with your changes?</source>
     <message>
         <source>&amp;History</source>
         <translation>履歴(&amp;H)</translation>
+    </message>
+</context>
+<context>
+    <name>DraftWords</name>
+    <message>
+        <source>There are changes that were not saved. The last one was made on %1.</source>
+        <translation>保存されなかった変更があります。最後の変更: %1</translation>
+    </message>
+    <message>
+        <source>New tasks: %1</source>
+        <translation>新しいタスク: %1</translation>
+    </message>
+    <message>
+        <source>Changed tasks: %1</source>
+        <translation>変更されたタスク: %1</translation>
+    </message>
+    <message>
+        <source>Deleted tasks: %1</source>
+        <translation>削除されたタスク: %1</translation>
+    </message>
+    <message>
+        <source>The very last change may be missing.</source>
+        <translation>最後の変更が欠けている可能性があります。</translation>
+    </message>
+    <message>
+        <source>A part of them is damaged and cannot be read.</source>
+        <translation>一部が破損しており、読み取れません。</translation>
+    </message>
+    <message>
+        <source>They were made in another database, which stood in the place of this one.</source>
+        <translation>以前この場所にあった別のデータベースで行われた変更です。</translation>
+    </message>
+    <message>
+        <source>The schedule was saved since then.</source>
+        <translation>その後、スケジュールは保存されています。</translation>
+    </message>
+    <message>
+        <source>Close this question to decide later.</source>
+        <translation>後で決めるには、この確認を閉じてください。</translation>
+    </message>
+    <message>
+        <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
+        <translation>ファイル %1 には保存されなかった変更があります。このアプリの新しいバージョンで行われたもので、引き継ぐにはそのバージョンが必要です。</translation>
+    </message>
+    <message>
+        <source>The file %1 should keep changes that were not saved, but nothing in it can be read.</source>
+        <translation>ファイル %1 には保存されなかった変更があるはずですが、何も読み取れません。</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved cannot be kept beside the database at the moment: if the program ends now, they are lost. %1</source>
+        <translation>現在、保存されていない変更をデータベースのそばに残せません。今終了すると失われます。%1</translation>
+    </message>
+    <message>
+        <source>The changes could not be kept beside the database. They are still in the editor.</source>
+        <translation>変更をデータベースのそばに残せませんでした。エディターにはまだ残っています。</translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation>引き継ぐ</translation>
+    </message>
+    <message>
+        <source>Put into a file</source>
+        <translation>ファイルに入れる</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>捨てる</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>ファイルを削除</translation>
+    </message>
+    <message>
+        <source>Decide later</source>
+        <translation>後で決める</translation>
     </message>
 </context>
 </TS>

@@ -86,6 +86,10 @@
         <source>S&amp;top the schedule…</source>
         <translation>일정 적용 중지(&amp;T)…</translation>
     </message>
+    <message>
+        <source>&amp;Bring back what was canceled</source>
+        <translation>취소한 변경 내용 되살리기(&amp;B)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -197,20 +201,12 @@
         <translation>일부 파일을 가져올 수 없습니다:</translation>
     </message>
     <message>
-        <source>The schedule has changes that are not saved.</source>
-        <translation>일정에 저장되지 않은 변경 내용이 있습니다.</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>저장</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>저장 안 함</translation>
-    </message>
-    <message>
-        <source>Keep editing</source>
-        <translation>계속 편집</translation>
     </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
@@ -233,6 +229,18 @@
         <translation>
             <numerusform>업데이트 %n개</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>일정에 저장되지 않은 변경 내용이 있습니다. 초안으로 보관하면 이 데이터베이스를 다시 열 때 처리 방법을 묻습니다.
+
+계속 편집하려면 이 질문을 닫으세요.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>초안으로 보관</translation>
     </message>
 </context>
 <context>
@@ -1607,6 +1615,81 @@ What do you want to do with your changes?</source>
     <message>
         <source>&amp;History</source>
         <translation>기록(&amp;H)</translation>
+    </message>
+</context>
+<context>
+    <name>DraftWords</name>
+    <message>
+        <source>There are changes that were not saved. The last one was made on %1.</source>
+        <translation>저장되지 않은 변경 내용이 있습니다. 마지막 변경: %1</translation>
+    </message>
+    <message>
+        <source>New tasks: %1</source>
+        <translation>새 작업: %1</translation>
+    </message>
+    <message>
+        <source>Changed tasks: %1</source>
+        <translation>변경된 작업: %1</translation>
+    </message>
+    <message>
+        <source>Deleted tasks: %1</source>
+        <translation>삭제된 작업: %1</translation>
+    </message>
+    <message>
+        <source>The very last change may be missing.</source>
+        <translation>마지막 변경 내용이 빠졌을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>A part of them is damaged and cannot be read.</source>
+        <translation>일부가 손상되어 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>They were made in another database, which stood in the place of this one.</source>
+        <translation>이전에 이 위치에 있던 다른 데이터베이스에서 변경한 내용입니다.</translation>
+    </message>
+    <message>
+        <source>The schedule was saved since then.</source>
+        <translation>그 후에 일정이 저장되었습니다.</translation>
+    </message>
+    <message>
+        <source>Close this question to decide later.</source>
+        <translation>나중에 결정하려면 이 질문을 닫으세요.</translation>
+    </message>
+    <message>
+        <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
+        <translation>파일 %1에 저장되지 않은 변경 내용이 있습니다. 이 앱의 더 새로운 버전에서 만든 것이므로 가져오려면 그 버전이 필요합니다.</translation>
+    </message>
+    <message>
+        <source>The file %1 should keep changes that were not saved, but nothing in it can be read.</source>
+        <translation>파일 %1에는 저장되지 않은 변경 내용이 있어야 하지만 아무것도 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved cannot be kept beside the database at the moment: if the program ends now, they are lost. %1</source>
+        <translation>지금은 저장되지 않은 변경 내용을 데이터베이스 옆에 보관할 수 없습니다. 지금 종료하면 사라집니다. %1</translation>
+    </message>
+    <message>
+        <source>The changes could not be kept beside the database. They are still in the editor.</source>
+        <translation>변경 내용을 데이터베이스 옆에 보관하지 못했습니다. 편집기에는 아직 남아 있습니다.</translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>Put into a file</source>
+        <translation>파일에 넣기</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>버리기</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>파일 삭제</translation>
+    </message>
+    <message>
+        <source>Decide later</source>
+        <translation>나중에 결정</translation>
     </message>
 </context>
 </TS>

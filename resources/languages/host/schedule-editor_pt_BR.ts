@@ -86,6 +86,10 @@
         <source>S&amp;top the schedule…</source>
         <translation>Pa&amp;rar a programação…</translation>
     </message>
+    <message>
+        <source>&amp;Bring back what was canceled</source>
+        <translation>Rec&amp;uperar o que foi cancelado</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -200,20 +204,12 @@
         <translation>Alguns arquivos não puderam ser importados:</translation>
     </message>
     <message>
-        <source>The schedule has changes that are not saved.</source>
-        <translation>A programação tem alterações não salvas.</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Salvar</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>Descartar</translation>
-    </message>
-    <message>
-        <source>Keep editing</source>
-        <translation>Continuar editando</translation>
     </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
@@ -239,6 +235,18 @@
             <numerusform>%n atualizado</numerusform>
             <numerusform>%n atualizados</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>A programação tem alterações não salvas. Como rascunho, elas são oferecidas quando este banco de dados for aberto novamente.
+
+Feche esta pergunta para continuar editando.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>Manter rascunho</translation>
     </message>
 </context>
 <context>
@@ -1631,6 +1639,81 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>&amp;History</source>
         <translation>H&amp;istórico</translation>
+    </message>
+</context>
+<context>
+    <name>DraftWords</name>
+    <message>
+        <source>There are changes that were not saved. The last one was made on %1.</source>
+        <translation>Há alterações que não foram salvas. A última foi feita em %1.</translation>
+    </message>
+    <message>
+        <source>New tasks: %1</source>
+        <translation>Tarefas novas: %1</translation>
+    </message>
+    <message>
+        <source>Changed tasks: %1</source>
+        <translation>Tarefas alteradas: %1</translation>
+    </message>
+    <message>
+        <source>Deleted tasks: %1</source>
+        <translation>Tarefas excluídas: %1</translation>
+    </message>
+    <message>
+        <source>The very last change may be missing.</source>
+        <translation>A última alteração pode estar faltando.</translation>
+    </message>
+    <message>
+        <source>A part of them is damaged and cannot be read.</source>
+        <translation>Uma parte está danificada e não pode ser lida.</translation>
+    </message>
+    <message>
+        <source>They were made in another database, which stood in the place of this one.</source>
+        <translation>Elas foram feitas em outro banco de dados, que estava no lugar deste.</translation>
+    </message>
+    <message>
+        <source>The schedule was saved since then.</source>
+        <translation>A programação foi salva desde então.</translation>
+    </message>
+    <message>
+        <source>Close this question to decide later.</source>
+        <translation>Feche esta pergunta para decidir mais tarde.</translation>
+    </message>
+    <message>
+        <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
+        <translation>O arquivo %1 contém alterações não salvas. Elas foram feitas com uma versão mais recente deste aplicativo, necessária para recuperá-las.</translation>
+    </message>
+    <message>
+        <source>The file %1 should keep changes that were not saved, but nothing in it can be read.</source>
+        <translation>O arquivo %1 deveria conter alterações não salvas, mas nada nele pode ser lido.</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved cannot be kept beside the database at the moment: if the program ends now, they are lost. %1</source>
+        <translation>No momento, as alterações não salvas não podem ser mantidas ao lado do banco de dados: se o aplicativo terminar agora, elas se perdem. %1</translation>
+    </message>
+    <message>
+        <source>The changes could not be kept beside the database. They are still in the editor.</source>
+        <translation>As alterações não puderam ser mantidas ao lado do banco de dados. Elas continuam no editor.</translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation>Recuperar</translation>
+    </message>
+    <message>
+        <source>Put into a file</source>
+        <translation>Levar a um arquivo</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>Excluir o arquivo</translation>
+    </message>
+    <message>
+        <source>Decide later</source>
+        <translation>Decidir mais tarde</translation>
     </message>
 </context>
 </TS>

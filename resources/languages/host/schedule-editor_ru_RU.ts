@@ -86,6 +86,10 @@
         <source>S&amp;top the schedule…</source>
         <translation>Ос&amp;тановить расписание…</translation>
     </message>
+    <message>
+        <source>&amp;Bring back what was canceled</source>
+        <translation>Вер&amp;нуть отменённое</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -203,20 +207,12 @@
         <translation>Некоторые файлы не удалось импортировать:</translation>
     </message>
     <message>
-        <source>The schedule has changes that are not saved.</source>
-        <translation>В расписании есть несохранённые изменения.</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>Сохранить</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>Не сохранять</translation>
-    </message>
-    <message>
-        <source>Keep editing</source>
-        <translation>Продолжить правку</translation>
     </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
@@ -245,6 +241,18 @@
             <numerusform>обновлено %n</numerusform>
             <numerusform>обновлено %n</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>В расписании есть несохранённые изменения. Черновик будет предложен, когда эта база данных откроется снова.
+
+Закройте этот вопрос, чтобы продолжить правку.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>Оставить черновик</translation>
     </message>
 </context>
 <context>
@@ -1655,6 +1663,81 @@ What do you want to do with your changes?</source>
     <message>
         <source>&amp;History</source>
         <translation>&amp;История</translation>
+    </message>
+</context>
+<context>
+    <name>DraftWords</name>
+    <message>
+        <source>There are changes that were not saved. The last one was made on %1.</source>
+        <translation>Есть изменения, которые не были сохранены. Последнее сделано %1.</translation>
+    </message>
+    <message>
+        <source>New tasks: %1</source>
+        <translation>Новые задания: %1</translation>
+    </message>
+    <message>
+        <source>Changed tasks: %1</source>
+        <translation>Изменённые задания: %1</translation>
+    </message>
+    <message>
+        <source>Deleted tasks: %1</source>
+        <translation>Удалённые задания: %1</translation>
+    </message>
+    <message>
+        <source>The very last change may be missing.</source>
+        <translation>Самого последнего изменения может не быть.</translation>
+    </message>
+    <message>
+        <source>A part of them is damaged and cannot be read.</source>
+        <translation>Часть из них повреждена и не читается.</translation>
+    </message>
+    <message>
+        <source>They were made in another database, which stood in the place of this one.</source>
+        <translation>Они сделаны в другой базе данных, которая была на месте этой.</translation>
+    </message>
+    <message>
+        <source>The schedule was saved since then.</source>
+        <translation>С тех пор расписание сохраняли.</translation>
+    </message>
+    <message>
+        <source>Close this question to decide later.</source>
+        <translation>Закройте этот вопрос, чтобы решить позже.</translation>
+    </message>
+    <message>
+        <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
+        <translation>В файле %1 хранятся несохранённые изменения. Они сделаны в более новой версии этого приложения, и принять их может только она.</translation>
+    </message>
+    <message>
+        <source>The file %1 should keep changes that were not saved, but nothing in it can be read.</source>
+        <translation>В файле %1 должны быть несохранённые изменения, но прочитать в нём ничего нельзя.</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved cannot be kept beside the database at the moment: if the program ends now, they are lost. %1</source>
+        <translation>Сейчас несохранённые изменения нельзя записать рядом с базой данных: если приложение завершится, они пропадут. %1</translation>
+    </message>
+    <message>
+        <source>The changes could not be kept beside the database. They are still in the editor.</source>
+        <translation>Изменения не удалось записать рядом с базой данных. В редакторе они ещё есть.</translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation>Принять</translation>
+    </message>
+    <message>
+        <source>Put into a file</source>
+        <translation>Записать в файл</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>Удалить файл</translation>
+    </message>
+    <message>
+        <source>Decide later</source>
+        <translation>Решить позже</translation>
     </message>
 </context>
 </TS>

@@ -86,6 +86,10 @@
         <source>S&amp;top the schedule…</source>
         <translation>停用排期(&amp;T)…</translation>
     </message>
+    <message>
+        <source>&amp;Bring back what was canceled</source>
+        <translation>恢复已取消的更改(&amp;B)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -197,20 +201,12 @@
         <translation>部分文件无法导入：</translation>
     </message>
     <message>
-        <source>The schedule has changes that are not saved.</source>
-        <translation>排期有尚未保存的更改。</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>保存</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>放弃更改</translation>
-    </message>
-    <message>
-        <source>Keep editing</source>
-        <translation>继续编辑</translation>
     </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
@@ -233,6 +229,18 @@
         <translation>
             <numerusform>更新 %n 个</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>排期有尚未保存的更改。保留为草稿后，再次打开此数据库时会询问如何处理。
+
+关闭此提示可继续编辑。</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>保留为草稿</translation>
     </message>
 </context>
 <context>
@@ -1607,6 +1615,81 @@ What do you want to do with your changes?</source>
     <message>
         <source>&amp;History</source>
         <translation>历史记录(&amp;H)</translation>
+    </message>
+</context>
+<context>
+    <name>DraftWords</name>
+    <message>
+        <source>There are changes that were not saved. The last one was made on %1.</source>
+        <translation>有未保存的更改。最后一次更改于 %1。</translation>
+    </message>
+    <message>
+        <source>New tasks: %1</source>
+        <translation>新任务：%1</translation>
+    </message>
+    <message>
+        <source>Changed tasks: %1</source>
+        <translation>已更改的任务：%1</translation>
+    </message>
+    <message>
+        <source>Deleted tasks: %1</source>
+        <translation>已删除的任务：%1</translation>
+    </message>
+    <message>
+        <source>The very last change may be missing.</source>
+        <translation>最后一次更改可能缺失。</translation>
+    </message>
+    <message>
+        <source>A part of them is damaged and cannot be read.</source>
+        <translation>其中一部分已损坏，无法读取。</translation>
+    </message>
+    <message>
+        <source>They were made in another database, which stood in the place of this one.</source>
+        <translation>这些更改是在另一个数据库中进行的，该数据库原先位于此处。</translation>
+    </message>
+    <message>
+        <source>The schedule was saved since then.</source>
+        <translation>此后排期已保存过。</translation>
+    </message>
+    <message>
+        <source>Close this question to decide later.</source>
+        <translation>关闭此提示可稍后决定。</translation>
+    </message>
+    <message>
+        <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
+        <translation>文件 %1 中有未保存的更改。它们由此软件的较新版本写入，需要用该版本来采用。</translation>
+    </message>
+    <message>
+        <source>The file %1 should keep changes that were not saved, but nothing in it can be read.</source>
+        <translation>文件 %1 应包含未保存的更改，但其中的内容无法读取。</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved cannot be kept beside the database at the moment: if the program ends now, they are lost. %1</source>
+        <translation>目前无法在数据库旁保留未保存的更改：如果现在退出，这些更改将丢失。%1</translation>
+    </message>
+    <message>
+        <source>The changes could not be kept beside the database. They are still in the editor.</source>
+        <translation>无法在数据库旁保留更改。更改仍在编辑器中。</translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation>采用</translation>
+    </message>
+    <message>
+        <source>Put into a file</source>
+        <translation>存入文件</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>丢弃</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>删除文件</translation>
+    </message>
+    <message>
+        <source>Decide later</source>
+        <translation>稍后决定</translation>
     </message>
 </context>
 </TS>

@@ -86,6 +86,10 @@
         <source>S&amp;top the schedule…</source>
         <translation>停用排程(&amp;T)…</translation>
     </message>
+    <message>
+        <source>&amp;Bring back what was canceled</source>
+        <translation>復原已取消的變更(&amp;B)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -197,20 +201,12 @@
         <translation>部分檔案無法匯入：</translation>
     </message>
     <message>
-        <source>The schedule has changes that are not saved.</source>
-        <translation>排程有尚未儲存的變更。</translation>
-    </message>
-    <message>
         <source>Save</source>
         <translation>儲存</translation>
     </message>
     <message>
         <source>Discard</source>
         <translation>捨棄變更</translation>
-    </message>
-    <message>
-        <source>Keep editing</source>
-        <translation>繼續編輯</translation>
     </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
@@ -233,6 +229,18 @@
         <translation>
             <numerusform>更新 %n 個</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>排程有尚未儲存的變更。保留為草稿後，再次開啟此資料庫時會詢問如何處理。
+
+關閉此提示可繼續編輯。</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>保留為草稿</translation>
     </message>
 </context>
 <context>
@@ -1607,6 +1615,81 @@ What do you want to do with your changes?</source>
     <message>
         <source>&amp;History</source>
         <translation>歷程記錄(&amp;H)</translation>
+    </message>
+</context>
+<context>
+    <name>DraftWords</name>
+    <message>
+        <source>There are changes that were not saved. The last one was made on %1.</source>
+        <translation>有未儲存的變更。最後一次變更於 %1。</translation>
+    </message>
+    <message>
+        <source>New tasks: %1</source>
+        <translation>新任務：%1</translation>
+    </message>
+    <message>
+        <source>Changed tasks: %1</source>
+        <translation>已變更的任務：%1</translation>
+    </message>
+    <message>
+        <source>Deleted tasks: %1</source>
+        <translation>已刪除的任務：%1</translation>
+    </message>
+    <message>
+        <source>The very last change may be missing.</source>
+        <translation>最後一次變更可能遺失。</translation>
+    </message>
+    <message>
+        <source>A part of them is damaged and cannot be read.</source>
+        <translation>其中一部分已損毀，無法讀取。</translation>
+    </message>
+    <message>
+        <source>They were made in another database, which stood in the place of this one.</source>
+        <translation>這些變更是在另一個資料庫中進行的，該資料庫原先位於此處。</translation>
+    </message>
+    <message>
+        <source>The schedule was saved since then.</source>
+        <translation>此後排程已儲存過。</translation>
+    </message>
+    <message>
+        <source>Close this question to decide later.</source>
+        <translation>關閉此提示可稍後決定。</translation>
+    </message>
+    <message>
+        <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
+        <translation>檔案 %1 中有未儲存的變更。它們由此軟體的較新版本寫入，需要用該版本來採用。</translation>
+    </message>
+    <message>
+        <source>The file %1 should keep changes that were not saved, but nothing in it can be read.</source>
+        <translation>檔案 %1 應包含未儲存的變更，但其中的內容無法讀取。</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved cannot be kept beside the database at the moment: if the program ends now, they are lost. %1</source>
+        <translation>目前無法在資料庫旁保留未儲存的變更：如果現在結束，這些變更將遺失。%1</translation>
+    </message>
+    <message>
+        <source>The changes could not be kept beside the database. They are still in the editor.</source>
+        <translation>無法在資料庫旁保留變更。變更仍在編輯器中。</translation>
+    </message>
+    <message>
+        <source>Take over</source>
+        <translation>採用</translation>
+    </message>
+    <message>
+        <source>Put into a file</source>
+        <translation>存入檔案</translation>
+    </message>
+    <message>
+        <source>Drop</source>
+        <translation>丟棄</translation>
+    </message>
+    <message>
+        <source>Delete the file</source>
+        <translation>刪除檔案</translation>
+    </message>
+    <message>
+        <source>Decide later</source>
+        <translation>稍後決定</translation>
     </message>
 </context>
 </TS>

@@ -176,6 +176,9 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
         if (!error.isEmpty()) {
             window.tell(error);
         }
+        if (!unattended) {
+            window.offerDrafts();
+        }
         if (unattended && options.imports.isEmpty()) {
             reportAndLeave();
         }

@@ -36,6 +36,7 @@ public:
     QAction* cancelInsertion() const { return m_cancelInsertion; }
     QAction* stopSchedule() const { return m_stopSchedule; }
     QAction* asRun() const { return m_asRun; }
+    QAction* bringBack() const { return m_bringBack; }
 
     /// The name of the menu of programs, without the mark of its letter.
     QString programsTitle() const;
@@ -55,6 +56,7 @@ private:
     QAction* m_editSchedule;
     QAction* m_undo;
     QAction* m_redo;
+    QAction* m_bringBack;
     QAction* m_openDatabase;
     QAction* m_importSchedule;
     QAction* m_exportSchedule;

@@ -12,6 +12,7 @@
 #include "asrun/AsRunWindow.h"
 #include "clock/ClockChangePanel.h"
 #include "common/PatientFile.h"
+#include "draft/DraftKeeper.h"
 #include "effect/EffectActions.h"
 #include "follow/EditedSchedule.h"
 #include "scheduleControlUI.h"
@@ -96,6 +97,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     , m_nowNext(new QDockWidget(this))
     , m_clockChanges(new QDockWidget(this))
     , m_notices(new PendingNotices(*this))
+    , m_drafts(new DraftKeeper(m_editor, *m_menus->bringBack(), *m_notices, this))
 {
     setObjectName(QStringLiteral("editorWindow"));
     setAcceptDrops(true);
@@ -144,6 +146,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     connect(&languages, &Languages::changed, this, takeLocale);
     takeLocale();
     connect(&languages, &Languages::changed, this, &EditorWindow::updateTitle);
+    connect(m_drafts, &DraftKeeper::unsavedChanged, this, &EditorWindow::updateTitle);
     updateCatalogue();
 }
 
@@ -233,7 +236,10 @@ void EditorWindow::retranslate()
 
 void EditorWindow::updateTitle()
 {
-    const QString database = QFileInfo(ScheduleHost::instance().path()).fileName();
+    QString database = QFileInfo(ScheduleHost::instance().path()).fileName();
+    if (!database.isEmpty() && m_drafts->isUnsaved()) {
+        database += QLatin1Char('*');
+    }
     setWindowTitle(database.isEmpty() ? tr("Schedule editor")
                                       : tr("%1 – Schedule editor").arg(database));
     // The editor sets its own title on every change of language; the database's name goes behind.
@@ -269,6 +275,7 @@ QString EditorWindow::openDatabase(const QString& path, const QString& demonstra
         error = fillWithDemonstration(demonstration);
     }
     m_history->clear();
+    m_drafts->begin();
     updateTitle();
     updateCatalogue();
     showReplacedSchedule();
@@ -281,6 +288,11 @@ QString EditorWindow::openDatabase(const QString& path, const QString& demonstra
 void EditorWindow::tell(const QString& text)
 {
     prompts::notice(text);
+}
+
+void EditorWindow::offerDrafts()
+{
+    m_drafts->offer();
 }
 
 void EditorWindow::showEditor()
@@ -310,7 +322,9 @@ void EditorWindow::chooseDatabase()
     }
     if (const QString error = openDatabase(file); !error.isEmpty()) {
         tell(error);
+        return;
     }
+    m_drafts->offer();
 }
 
 void EditorWindow::choosePrograms()
@@ -498,14 +512,24 @@ bool EditorWindow::maySettle()
     if (!m_editor.isVisible() || !host.hasUnsavedChanges()) {
         return true;
     }
-    const int answer = prompts::confirm(tr("The schedule has changes that are not saved."),
-                                        tr("Save"), tr("Discard"), tr("Keep editing"));
-    if (answer == 1) {
+    const int answer =
+        prompts::confirm(tr("The schedule has changes that are not saved. As a draft they are "
+                            "offered when this database is opened again.\n\nClose this question "
+                            "to keep editing."),
+                         tr("Save"), tr("Keep as draft"), tr("Discard"));
+    switch (answer) {
+    case 1:
         // Through the service, so that a failure takes the same way as any other.
         scheduleManage::getInstance().save();
         return true;
+    case 2:
+        return m_drafts->keep();
+    case 3:
+        m_drafts->discard();
+        return true;
+    default:
+        return false;
     }
-    return answer == 2;
 }
 
 void EditorWindow::closeEvent(QCloseEvent* event)
@@ -519,6 +543,9 @@ void EditorWindow::closeEvent(QCloseEvent* event)
     // this window stays too: with the editor alone, the program would not end and could not be
     // left.
     event->setAccepted(!m_editor.isVisible());
+    if (m_editor.isVisible()) {
+        m_drafts->begin();
+    }
 }
 
 void EditorWindow::dragEnterEvent(QDragEnterEvent* event)

@@ -21,6 +21,7 @@ class HistoryActions;
 } // namespace undo
 
 class AsRunWindow;
+class DraftKeeper;
 class EditorMenus;
 class ImportJob;
 class Languages;
@@ -53,6 +54,9 @@ public:
 
     /// Shows a message and waits until it has been read.
     void tell(const QString& text);
+
+    /// Asks what becomes of changes that were left unsaved in the database that is open.
+    void offerDrafts();
 
     /// Shows the schedule editor; in the first second of its life the editor stays away.
     void showEditor();
@@ -105,6 +109,7 @@ private:
     PendingNotices* m_notices;
     undo::EditHistory* m_history = nullptr;
     undo::HistoryActions* m_undo = nullptr;
+    DraftKeeper* m_drafts;
     AsRunWindow* m_asRun = nullptr; ///< Once it has been asked for.
 };
 

@@ -6,6 +6,8 @@
 #include "PictureFiles.h"
 #include "ProblemWords.h"
 #include "SaveRescue.h"
+#include "clock/Clock.h"
+#include "draft/DraftWords.h"
 #include "scheduleControlUI.h"
 #include "screen/PreviewDock.h"
 #include "service/scheduleManage.h"
@@ -27,7 +29,9 @@
 #include <QTableView>
 #include <QTimer>
 
+#include <cerrno>
 #include <map>
+#include <optional>
 
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
@@ -187,6 +191,7 @@ void HostPictures::drawPrompts()
     task.endDate = task.startDate;
     manager.addTask(task);
     m_files.saveDialog(m_window, QStringLiteral("prompt-unsaved"), [this] { m_window.close(); });
+    drawDrafts();
 
     const QString store = ScheduleHost::instance().path();
     const SaveRescue rescue(ScheduleHost::instance(), &m_window);
@@ -211,6 +216,27 @@ void HostPictures::drawPrompts()
         });
     QFile::setPermissions(store, former);
     manager.updateUItask();
+}
+
+void HostPictures::drawDrafts()
+{
+    LeftDraft left;
+    left.path = QStringLiteral("/home/operator/schedules/station.db.unsaved-operator@studio");
+    left.draft.state = DraftState::Damaged;
+    left.draft.edited = Clock::current().msecsSinceEpoch();
+    left.isOfOtherSave = true;
+    const std::map<int, PlayTask> saved = {{1, PlayTask()}, {2, PlayTask()}, {3, PlayTask()}};
+    left.draft.tasks = {{1, PlayTask()}, {2, PlayTask()}, {3, std::nullopt}, {9, PlayTask()}};
+    m_files.saveDialog(m_window, QStringLiteral("prompt-draft"), [this, &left, &saved] {
+        prompts::confirm(DraftWords::offer(left, saved, m_window.locale()), DraftWords::takeOver(),
+                         DraftWords::putIntoFile(), DraftWords::drop());
+    });
+    left.draft.state = DraftState::TooNew;
+    m_files.saveDialog(m_window, QStringLiteral("prompt-draft-too-new"), [&left] {
+        prompts::confirm(DraftWords::unreadable(left), DraftWords::decideLater(),
+                         DraftWords::deleteFile());
+    });
+    savePrompt("prompt-draft-failed", DraftWords::notKept(faultOf(FaultCode::System, ENOSPC)));
 }
 
 /// The longest ones.

@@ -33,6 +33,7 @@ private:
     void drawImport();
     void drawFileDialogs();
     void drawPrompts();
+    void drawDrafts();
     void drawProblems();
     void drawEmpty();
 

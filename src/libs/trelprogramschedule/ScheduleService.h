@@ -63,6 +63,8 @@ public:
     StoreResult open(const QString& path, StoreOpenMode mode, StorePart part = StorePart::Both);
     void close();
     const ScheduleDatabase& database() const { return m_database; }
+    /// What has been read of the store.
+    const StoreRevision& revision() const { return m_revision; }
 
     /// A change of what is in effect.
     using EffectChange = std::function<StoreResult(ScheduleInEffect& inEffect)>;

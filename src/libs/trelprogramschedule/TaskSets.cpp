@@ -99,24 +99,24 @@ PlayTask withoutCollisions(PlayTask task)
     return task;
 }
 
-/// Whether two sets differ in a task by more than its marks of collision.
-bool isOther(const TaskMap& a, const TaskMap& b, int taskId)
+} // namespace
+
+bool isOtherTask(const TaskMap& a, const TaskMap& b, int taskId)
 {
     const auto one = a.find(taskId);
     const auto other = b.find(taskId);
     if (one == a.end() || other == b.end()) {
         return (one == a.end()) != (other == b.end());
     }
-    return withoutCollisions(one->second) != withoutCollisions(other->second);
+    return one->second != other->second &&
+           withoutCollisions(one->second) != withoutCollisions(other->second);
 }
-
-} // namespace
 
 std::set<int> otherTasks(const TaskMap& a, const TaskMap& b)
 {
     std::set<int> others;
     for (const int id : idsOfBoth(a, b)) {
-        if (isOther(a, b, id)) {
+        if (isOtherTask(a, b, id)) {
             others.insert(others.end(), id);
         }
     }
@@ -214,7 +214,7 @@ void TaskSets::putPlan(int taskId, const PlayPlan& plan)
 bool TaskSets::isEdited() const
 {
     return std::any_of(m_touched.begin(), m_touched.end(),
-                       [this](int id) { return isOther(m_stored, m_working, id); });
+                       [this](int id) { return isOtherTask(m_stored, m_working, id); });
 }
 
 TaskEdits TaskSets::edits() const

@@ -59,6 +59,8 @@ TaskEdits editsBetween(const TaskMap& from, const TaskMap& to, const HeldOtherwi
 /// The tasks in which two sets differ by more than their marks of collision, which are worked out
 /// afresh wherever a task is shown.
 std::set<int> otherTasks(const TaskMap& a, const TaskMap& b);
+/// Whether a task is one of these.
+bool isOtherTask(const TaskMap& a, const TaskMap& b, int taskId);
 
 /// The stored and the working set. Knows which tasks have been touched since the two were last the
 /// same, so that its questions cost what was edited and not what there is.

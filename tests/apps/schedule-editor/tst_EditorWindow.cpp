@@ -249,8 +249,8 @@ void tst_EditorWindow::closingWithUnsavedChangesAsks_data()
     QTest::addColumn<int>("storedTasks");
 
     QTest::newRow("save") << 1 << true << 4;
-    QTest::newRow("discard") << 2 << true << 3;
-    QTest::newRow("stay") << 3 << false << 3;
+    QTest::newRow("keep as draft") << 2 << true << 3;
+    QTest::newRow("discard") << 3 << true << 3;
     QTest::newRow("escape") << static_cast<int>(PromptAnswer::Escape) << false << 3;
 }
 
@@ -288,7 +288,7 @@ void tst_EditorWindow::closingWhileATimeIsTypedAsks()
     QTest::keyClick(start, Qt::Key_0);
     QVERIFY(!fixture.host.hasUnsavedChanges());
 
-    const PromptAnswer stay(3);
+    const PromptAnswer stay(PromptAnswer::Escape);
     fixture.window.close();
 
     QCOMPARE(stay.count(), 1);

@@ -1,3 +1,4 @@
+#include "DraftTarget.h"
 #include "FuzzTarget.h"
 #include "LanguageTargets.h"
 #include "StoreTarget.h"
@@ -17,6 +18,7 @@ const std::vector<FuzzTarget>& targets()
         {"language", tryLanguage},
         {"translation", tryTranslation},
         {"store", tryStore, mutateStore},
+        {"draft", tryDraft, mutateDraft},
     };
     return all;
 }

@@ -71,6 +71,7 @@ public:
     bool setMode(mode_t mode) const { return ::fchmod(m_handle, mode & kModeBits) == 0; }
     bool write(const QByteArray& content) const;
     bool sync() const { return ::fdatasync(m_handle) == 0; }
+    bool pass(const FileInspection& inspect) const { return inspect(m_handle); }
     bool takePlace();
 
 private:
@@ -106,7 +107,8 @@ bool Draft::takePlace()
     return true;
 }
 
-/// The new name, too, is to outlast a power cut. Not all file systems can be asked for that.
+} // namespace
+
 void syncFolder(const QString& target)
 {
     const QByteArray folder = QFile::encodeName(QFileInfo(target).path());
@@ -117,9 +119,12 @@ void syncFolder(const QString& target)
     }
 }
 
-} // namespace
-
 Fault replaceFile(const QString& path, const QByteArray& content)
+{
+    return replaceFile(path, content, [](int) { return true; });
+}
+
+Fault replaceFile(const QString& path, const QByteArray& content, const FileInspection& inspect)
 {
     const QString target = targetOf(path);
     const QByteArray name = QFile::encodeName(target);
@@ -137,7 +142,7 @@ Fault replaceFile(const QString& path, const QByteArray& content)
     }
     Draft draft(target);
     if (!draft.isOpen() || (isThere && !draft.setMode(former.st_mode)) || !draft.write(content) ||
-        !draft.sync() || !draft.takePlace()) {
+        !draft.sync() || !draft.pass(inspect) || !draft.takePlace()) {
         return faultOf(FaultCode::System, errno);
     }
     removeLeftDrafts(target);

@@ -1,0 +1,251 @@
+#include "draft/DraftKeeper.h"
+
+#include "HostPrompts.h"
+#include "PendingNotices.h"
+#include "ProblemWords.h"
+#include "draft/DraftWords.h"
+#include "scheduleControlUI.h"
+#include "service/scheduleManage.h"
+#include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/json/ScheduleJson.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QSysInfo>
+#include <QWidget>
+
+#include <utility>
+#include <vector>
+
+#include <pwd.h>
+#include <unistd.h>
+
+using namespace trel::mediadispatch;
+
+namespace trel::desktop {
+
+namespace {
+
+/// Whoever works at this machine under this name: two operators of one machine, or one at two of
+/// them, do not get each other's changes.
+QString deskName()
+{
+    const passwd* const user = ::getpwuid(::geteuid());
+    const QString name =
+        user != nullptr ? QString::fromLocal8Bit(user->pw_name) : QString::number(::geteuid());
+    return name + QLatin1Char('@') + QSysInfo::machineHostName();
+}
+
+} // namespace
+
+DraftKeeper::DraftKeeper(scheduleControlUI& editor, QAction& bringBack, PendingNotices& notices,
+                         QWidget* window)
+    : QObject(window)
+    , m_editor(editor)
+    , m_bringBack(bringBack)
+    , m_notices(notices)
+    , m_window(window)
+    , m_journal(new DraftJournal(deskName(), this))
+{
+    const ScheduleHost& host = ScheduleHost::instance();
+    m_editor.installEventFilter(this);
+    connect(&m_bringBack, &QAction::triggered, this, &DraftKeeper::bringBack);
+    connect(m_journal, &DraftJournal::canceledChanged, this, &DraftKeeper::updateAction);
+    connect(
+        m_journal, &DraftJournal::failed, this,
+        [this](const Fault& fault) { m_notices.tell(DraftWords::notKept(fault)); },
+        Qt::QueuedConnection);
+    // The journal has heard of it before.
+    connect(&host, &ScheduleHost::workingSetChanged, this, &DraftKeeper::tellUnsaved);
+    connect(&host, &ScheduleHost::storedSetChanged, this, &DraftKeeper::tellUnsaved);
+    // However the program ends, but by a kill, what was done last is written down.
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, m_journal,
+            [this] { m_journal->flush(); });
+    updateAction();
+}
+
+void DraftKeeper::begin()
+{
+    m_journal->begin();
+}
+
+bool DraftKeeper::keep()
+{
+    if (!m_journal->flush()) {
+        prompts::notice(DraftWords::couldNotBeKept());
+        return false;
+    }
+    m_journal->end();
+    return true;
+}
+
+void DraftKeeper::discard()
+{
+    m_journal->drop();
+    m_journal->end();
+}
+
+bool DraftKeeper::isUnsaved() const
+{
+    return m_journal->isUnsaved();
+}
+
+bool DraftKeeper::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == &m_editor && (event->type() == QEvent::Hide || event->type() == QEvent::Show)) {
+        // An editor that closes after a save has nothing unsaved.
+        if (event->type() == QEvent::Hide && !event->spontaneous()) {
+            m_journal->cancel();
+        }
+        tellUnsaved();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void DraftKeeper::tellUnsaved()
+{
+    const bool isNow = isUnsaved();
+    if (std::exchange(m_wasUnsaved, isNow) != isNow) {
+        emit unsavedChanged();
+    }
+}
+
+void DraftKeeper::updateAction()
+{
+    m_bringBack.setEnabled(!m_journal->canceled().empty());
+}
+
+bool DraftKeeper::show(const DraftTasks& tasks)
+{
+    if (!m_editor.isVisible()) {
+        m_editor.slotShow();
+    }
+    if (!m_editor.isVisible()) {
+        return false;
+    }
+    scheduleManage& manager = scheduleManage::getInstance();
+    for (const auto& [id, task] : tasks) {
+        if (task) {
+            manager.addTask(*task);
+        } else {
+            manager.deleteTask(id);
+        }
+        m_editor.slotShowTask(id);
+    }
+    m_editor.raise();
+    m_editor.activateWindow();
+    return true;
+}
+
+void DraftKeeper::bringBack()
+{
+    // While they are shown, what is canceled may be another one.
+    const DraftTasks tasks = m_journal->canceled();
+    if (show(tasks)) {
+        m_journal->takeCanceled();
+    }
+}
+
+void DraftKeeper::offer()
+{
+    const std::vector<LeftDraft> drafts = m_journal->left();
+    for (const LeftDraft& left : drafts) {
+        if (!decide(left)) {
+            return;
+        }
+    }
+}
+
+bool DraftKeeper::decide(const LeftDraft& left)
+{
+    if (left.draft.tasks.empty()) {
+        if (left.draft.canceled.empty()) {
+            decideOnUnreadable(left);
+        } else {
+            takeCanceledOver(left);
+        }
+        return true;
+    }
+    const QString store = ScheduleHost::instance().path();
+    const QString text = DraftWords::offer(left, m_journal->saved(), m_window->locale());
+    for (;;) {
+        const int answer = prompts::confirm(text, DraftWords::takeOver(), DraftWords::putIntoFile(),
+                                            DraftWords::drop());
+        if (ScheduleHost::instance().path() != store) {
+            return false;
+        }
+        switch (answer) {
+        case 1:
+            return takeOver(left);
+        case 2:
+            if (putIntoFile(left)) {
+                removeLeftDraft(left);
+                return true;
+            }
+            break;
+        case 3:
+            removeLeftDraft(left);
+            return true;
+        default:
+            return false;
+        }
+    }
+}
+
+void DraftKeeper::decideOnUnreadable(const LeftDraft& left)
+{
+    const int answer = prompts::confirm(DraftWords::unreadable(left), DraftWords::decideLater(),
+                                        DraftWords::deleteFile());
+    if (answer == 2) {
+        removeLeftDraft(left);
+    }
+}
+
+void DraftKeeper::takeCanceledOver(const LeftDraft& left)
+{
+    m_journal->adoptCanceled(left.draft.canceled);
+    if (m_journal->flush()) {
+        removeLeftDraft(left);
+    }
+}
+
+bool DraftKeeper::takeOver(const LeftDraft& left)
+{
+    if (!show(left.draft.tasks)) {
+        return false;
+    }
+    // Until they are written down anew they are nowhere else.
+    if (m_journal->flush()) {
+        removeLeftDraft(left);
+    }
+    return true;
+}
+
+bool DraftKeeper::putIntoFile(const LeftDraft& left)
+{
+    const QString file = prompts::saveFileName(m_window, DraftWords::putIntoFile(),
+                                               QStringLiteral("*.json"), QStringLiteral("json"));
+    if (file.isEmpty()) {
+        return false;
+    }
+    // Of another store it is not known what was saved there.
+    std::map<int, PlayTask> tasks;
+    if (!left.isOfOtherStore) {
+        tasks = m_journal->saved();
+    }
+    for (const auto& [id, task] : left.draft.tasks) {
+        if (task) {
+            tasks.insert_or_assign(id, *task);
+        } else {
+            tasks.erase(id);
+        }
+    }
+    if (const Fault fault = writeScheduleFile(file, tasks)) {
+        prompts::notice(problems::unwritable(file, fault));
+        return false;
+    }
+    return true;
+}
+
+} // namespace trel::desktop

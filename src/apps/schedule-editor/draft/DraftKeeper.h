@@ -1,0 +1,70 @@
+#pragma once
+
+#include "trelprogramschedule/draft/DraftJournal.h"
+
+#include <QObject>
+
+class QAction;
+class QWidget;
+
+namespace trel::mediadispatch {
+class scheduleControlUI;
+} // namespace trel::mediadispatch
+
+namespace trel::desktop {
+
+class PendingNotices;
+
+/// Looks after what is edited and not saved: has it written down while it is edited, offers what a
+/// former program has left, and brings back what was canceled.
+class DraftKeeper : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The action brings back what was canceled. All of these outlive the keeper, but for the
+    /// window, which owns it. Prompts stand over that one.
+    DraftKeeper(trel::mediadispatch::scheduleControlUI& editor, QAction& bringBack,
+                PendingNotices& notices, QWidget* window);
+
+    /// To be called after each opening of a store.
+    void begin();
+    /// Asks what becomes of the changes that were left on the store that is open, if there are any.
+    void offer();
+    /// The changes of the open editor stay in a file for the next time, and are not looked after
+    /// any more. False, after the operator was told, where they cannot be kept.
+    bool keep();
+    /// They are given up.
+    void discard();
+
+    /// There are changes that are neither saved nor canceled.
+    bool isUnsaved() const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    /// What isUnsaved() tells is another.
+    void unsavedChanged();
+
+private:
+    void tellUnsaved();
+    void bringBack();
+    void updateAction();
+    /// False when nothing more is to be asked.
+    bool decide(const trel::mediadispatch::LeftDraft& left);
+    void decideOnUnreadable(const trel::mediadispatch::LeftDraft& left);
+    void takeCanceledOver(const trel::mediadispatch::LeftDraft& left);
+    bool takeOver(const trel::mediadispatch::LeftDraft& left);
+    bool putIntoFile(const trel::mediadispatch::LeftDraft& left);
+    /// Puts tasks into the working set, and shows it.
+    bool show(const trel::mediadispatch::DraftTasks& tasks);
+
+    trel::mediadispatch::scheduleControlUI& m_editor;
+    QAction& m_bringBack;
+    PendingNotices& m_notices;
+    QWidget* m_window;
+    trel::mediadispatch::DraftJournal* m_journal;
+    bool m_wasUnsaved = false;
+};
+
+} // namespace trel::desktop

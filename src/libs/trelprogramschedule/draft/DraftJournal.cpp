@@ -1,0 +1,278 @@
+#include "DraftJournal.h"
+
+#include "DraftPlace.h"
+#include "DraftWriter.h"
+#include "ScheduleService.h"
+#include "trelprogramschedule/ScheduleHost.h"
+
+#include <QMetaObject>
+
+#include <utility>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+using Kind = DraftEdit::Kind;
+
+const TaskSets& sets()
+{
+    return ScheduleService::instance().state().tasks;
+}
+
+DraftHead headOf(const QString& store, const QString& desk)
+{
+    return {storeIdentity(store), ScheduleService::instance().revision().schedule, desk};
+}
+
+std::shared_ptr<const PlayTask> shared(const std::optional<PlayTask>& task)
+{
+    return task ? std::make_shared<const PlayTask>(*task) : nullptr;
+}
+
+std::optional<PlayTask> workingTask(int taskId)
+{
+    const auto task = sets().working().find(taskId);
+    return task == sets().working().end() ? std::nullopt : std::optional(task->second);
+}
+
+} // namespace
+
+DraftJournal::DraftJournal(QString desk, QObject* parent, DraftHabits habits)
+    : QObject(parent)
+    , m_desk(std::move(desk))
+    , m_habits(habits)
+{
+    const ScheduleHost& host = ScheduleHost::instance();
+    connect(&host, &ScheduleHost::workingTasksChanged, this, &DraftJournal::note);
+    connect(&host, &ScheduleHost::storedSetChanged, this, &DraftJournal::noteSave);
+}
+
+DraftJournal::~DraftJournal() = default;
+
+bool DraftJournal::isRecording() const
+{
+    return !m_store.isEmpty() && m_store == ScheduleHost::instance().path();
+}
+
+void DraftJournal::begin()
+{
+    end();
+    m_store = ScheduleHost::instance().path();
+}
+
+void DraftJournal::end()
+{
+    m_store.clear();
+    m_unsaved.clear();
+    m_isInPlace = false;
+    setCanceled({});
+    if (m_writer) {
+        // Writes what is left.
+        m_writer.reset();
+    }
+}
+
+void DraftJournal::drop()
+{
+    m_unsaved.clear();
+    m_isInPlace = false;
+    setCanceled({});
+    if (m_writer) {
+        m_writer->take({{Kind::Clear}});
+        m_writer->flush();
+    }
+}
+
+void DraftJournal::cancel()
+{
+    if (!isRecording() || m_isInPlace || !sets().isEdited()) {
+        return;
+    }
+    Edits edits;
+    addEverything(edits);
+    edits.push_back({Kind::Cancel});
+    DraftTasks canceled;
+    for (const auto& [id, task] : std::exchange(m_unsaved, {})) {
+        canceled.emplace(id, task ? std::optional(*task) : std::nullopt);
+    }
+    m_isInPlace = true;
+    hand(std::move(edits));
+    setCanceled(std::move(canceled));
+}
+
+DraftTasks DraftJournal::takeCanceled()
+{
+    DraftTasks tasks = m_canceled;
+    Edits edits = {{Kind::Clear}};
+    for (const auto& [id, task] : tasks) {
+        m_unsaved.insert_or_assign(id, shared(task));
+    }
+    for (const auto& [id, task] : m_unsaved) {
+        edits.push_back({Kind::Task, id, task});
+    }
+    m_isInPlace = false;
+    if (isRecording()) {
+        hand(std::move(edits));
+    }
+    setCanceled({});
+    return tasks;
+}
+
+void DraftJournal::adoptCanceled(const DraftTasks& tasks)
+{
+    if (!isRecording() || !m_canceled.empty() || tasks.empty()) {
+        return;
+    }
+    Edits edits;
+    for (const auto& [id, task] : tasks) {
+        edits.push_back({Kind::Restore, id, shared(task)});
+    }
+    hand(std::move(edits));
+    setCanceled(tasks);
+}
+
+void DraftJournal::setCanceled(DraftTasks tasks)
+{
+    const bool isOther = !m_canceled.empty() || !tasks.empty();
+    m_canceled = std::move(tasks);
+    if (isOther) {
+        emit canceledChanged();
+    }
+}
+
+bool DraftJournal::flush()
+{
+    if (isRecording()) {
+        Edits edits;
+        addEverything(edits);
+        hand(std::move(edits));
+    }
+    return !m_writer || m_writer->flush();
+}
+
+const std::map<int, PlayTask>& DraftJournal::saved() const
+{
+    return sets().stored();
+}
+
+std::vector<LeftDraft> DraftJournal::left() const
+{
+    const QString store = ScheduleHost::instance().path();
+    if (store.isEmpty()) {
+        return {};
+    }
+    return leftDrafts({store, ScheduleService::instance().revision().schedule, &sets().stored()},
+                      m_desk);
+}
+
+void DraftJournal::note(const std::set<int>& taskIds)
+{
+    if (!isRecording()) {
+        return;
+    }
+    Edits edits;
+    for (const int id : taskIds) {
+        addEdit(edits, id);
+    }
+    hand(std::move(edits));
+}
+
+void DraftJournal::noteSave()
+{
+    if (!isRecording()) {
+        return;
+    }
+    Edits edits;
+    if (sets().isEdited()) {
+        // Another stored set was read, and what was edited is edited on that one now.
+        addEverything(edits);
+    } else {
+        m_unsaved.clear();
+        m_isInPlace = false;
+        setCanceled({});
+        edits.push_back({Kind::Clear});
+    }
+    if (m_writer) {
+        DraftEdit head = {Kind::Head};
+        head.head = headOf(m_store, m_desk);
+        edits.push_back(std::move(head));
+        hand(std::move(edits));
+    }
+}
+
+void DraftJournal::addEverything(Edits& edits)
+{
+    std::set<int> ids = otherTasks(sets().stored(), sets().working());
+    for (const auto& [id, task] : m_unsaved) {
+        ids.insert(id);
+    }
+    for (const int id : ids) {
+        addEdit(edits, id);
+    }
+}
+
+void DraftJournal::addEdit(Edits& edits, int taskId)
+{
+    if (!isOtherTask(sets().stored(), sets().working(), taskId)) {
+        m_isInPlace = m_isInPlace && m_canceled.count(taskId) == 0;
+        if (m_unsaved.erase(taskId) > 0) {
+            edits.push_back({Kind::Return, taskId});
+        }
+        return;
+    }
+    const auto working = sets().working().find(taskId);
+    const PlayTask* const task = working == sets().working().end() ? nullptr : &working->second;
+    const auto known = m_unsaved.find(taskId);
+    if (known != m_unsaved.end() &&
+        (task == nullptr ? !known->second : known->second && *known->second == *task)) {
+        return;
+    }
+    const auto canceled = m_isInPlace ? m_canceled.find(taskId) : m_canceled.end();
+    if (canceled != m_canceled.end() && canceled->second == workingTask(taskId)) {
+        return;
+    }
+    put(edits, taskId, task == nullptr ? nullptr : std::make_shared<const PlayTask>(*task));
+}
+
+void DraftJournal::put(Edits& edits, int taskId, SharedTask task)
+{
+    edits.push_back({Kind::Task, taskId, task});
+    m_unsaved.insert_or_assign(taskId, std::move(task));
+}
+
+void DraftJournal::hand(Edits edits)
+{
+    if (edits.empty()) {
+        return;
+    }
+    if (!m_writer) {
+        m_writer = std::make_unique<DraftWriter>(m_habits, [this](const Fault& fault) {
+            // The thread ends before this object does.
+            QMetaObject::invokeMethod(
+                this, [this, fault] { hear(fault); }, Qt::QueuedConnection);
+        });
+        DraftEdit begin = {Kind::Begin};
+        begin.store = m_store;
+        begin.head = headOf(m_store, m_desk);
+        m_writer->take({std::move(begin)});
+    }
+    m_writer->take(std::move(edits));
+}
+
+void DraftJournal::hear(const Fault& fault)
+{
+    const bool hadFailed = std::exchange(m_hasFailed, bool(fault));
+    if (fault) {
+        if (!hadFailed) {
+            emit failed(fault);
+        }
+        return;
+    }
+    if (hadFailed) {
+        emit recovered();
+    }
+    emit written();
+}
+
+} // namespace trel::mediadispatch
