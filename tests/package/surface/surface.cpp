@@ -88,8 +88,9 @@ int main()
         &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate, &programListText,
         &programText, &programVerdict, &tessark::trans::readLanguageFile, &readPicture,
         &readScheduleJson, &removeFirstPlanWithId, &runsLessThanOnce, &setMediaReading, &scanMedia,
-        &scheduleDifferences, &scheduleFromJson, &scheduleToJson, &shownAddress, &storeProblemName, &timeFromText,
-        &timeToText, &totalText, &tessark::trans::translate, &weeksOverlap, &writeScheduleFile);
+        &scheduleDifferences, &scheduleFromJson, &scheduleToJson, &shownAddress, &storeProblemName,
+        &timeFromText, &timeToText, &totalText, &tessark::trans::translate, &weeksOverlap,
+        &writeScheduleFile);
     static_assert(TREL_VERSION >= TREL_VERSION_CHECK(0, 2, 0));
     std::cout << "Version: " << loadedVersion()
               << (std::string(loadedVersion()) == TREL_VERSION_STRING ? ", as compiled\n" : "\n");

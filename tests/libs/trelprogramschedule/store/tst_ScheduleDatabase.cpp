@@ -49,6 +49,15 @@ void tst_ScheduleDatabase::countsItsWritingsUp()
         QVERIFY(database.readRevision(stored));
         QCOMPARE(stored.effect, revision);
     }
+    // Names too, or a log of another copy of the file would pass for one of it.
+    for (qint64 names = 1; names <= 2; ++names) {
+        QVERIFY(database.nameVersion(0, QStringLiteral("name"), QString()));
+        StoreRevision stored;
+        QVERIFY(database.readRevision(stored));
+        QCOMPARE(stored.names, names);
+        QCOMPARE(stored.effect, revision);
+        QCOMPARE(stored.schedule, 0);
+    }
     qint64 former = revision - 1;
     QCOMPARE(database.writeInsertions(none, former).problem, StoreProblem::MovedOn);
     QCOMPARE(former, revision - 1);
