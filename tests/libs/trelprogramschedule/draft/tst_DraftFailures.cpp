@@ -10,7 +10,6 @@
 #include <climits>
 #include <thread>
 
-#include <fcntl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -82,11 +81,6 @@ extern "C" int rename(const char* from, const char* to)
 extern "C" int unlink(const char* name)
 {
     return fails() ? -1 : static_cast<int>(::syscall(SYS_unlink, name));
-}
-
-extern "C" int flock(int handle, int what)
-{
-    return fails() ? -1 : static_cast<int>(::syscall(SYS_flock, handle, what));
 }
 
 namespace {
