@@ -11,8 +11,10 @@
 #include <QFontMetrics>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
+#include <QStyleOptionFrame>
 #include <QWheelEvent>
 
 namespace trel::mediadispatch {
@@ -27,6 +29,35 @@ constexpr int kReopenDelayMs = 100;
 
 // A point on the arrow, in from the edge at its side and down from the top.
 constexpr int kArrowInset = 10;
+
+/// The line of a box, which takes no typing. What it has no room for it cuts, with dots.
+class CutLine : public QLineEdit
+{
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QStyleOptionFrame option;
+        initStyleOption(&option);
+        // The toolkit's own margins of a line.
+        const QRect room = style()
+                               ->subElementRect(QStyle::SE_LineEditContents, &option, this)
+                               .adjusted(2, 0, -2, 0);
+        if (fontMetrics().horizontalAdvance(text()) <= room.width()) {
+            QLineEdit::paintEvent(event);
+            return;
+        }
+        QPainter painter(this);
+        style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
+        painter.setPen(palette().color(QPalette::Text));
+        const Qt::Alignment side =
+            QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
+        painter.drawText(room, int(side) | int(Qt::TextSingleLine),
+                         fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+    }
+};
 
 /// Makes a line the one that a box shows, and thereby the box editable. setEditable() would build
 /// the list as well, which is most of the box, and most boxes of a long schedule are never opened.
@@ -51,7 +82,7 @@ MultiComboBox::MultiComboBox(QWidget* parent)
     , m_separator(QLatin1Char(','))
     , m_lastHideTime(Clock::current().timeOfDay())
 {
-    auto* const line = new QLineEdit(this);
+    auto* const line = new CutLine(this);
     line->setPalette(palette());
     setLine(*this, line);
     setInsertPolicy(QComboBox::NoInsert);

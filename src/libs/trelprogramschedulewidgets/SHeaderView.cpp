@@ -2,6 +2,7 @@
 
 #include "CheckBoxImages.h"
 #include "ScheduleText.h"
+#include "trelwidgets/CutTip.h"
 #include "trelwidgets/Sign.h"
 
 #include <QColor>
@@ -52,6 +53,17 @@ void SHeaderView::drawMissingImages()
     m_drawsMissingImages = true;
 }
 
+void SHeaderView::cutLongLabels()
+{
+    m_cutsLongLabels = true;
+}
+
+QString SHeaderView::labelFor(int section, int width) const
+{
+    const QString label = sectionLabel(section);
+    return m_cutsLongLabels ? fontMetrics().elidedText(label, Qt::ElideRight, width) : label;
+}
+
 void SHeaderView::mousePressEvent(QMouseEvent* event)
 {
     // The base does not see a press elsewhere: there is nothing to sort or to select by a header.
@@ -77,11 +89,25 @@ void SHeaderView::paintSection(QPainter* painter, const QRect& rect, int logical
     // With no role of the palette given, the pen is what colours the text.
     painter->setPen(QColor(QStringLiteral("#B6B6B6")));
     style()->drawItemText(painter, rect.adjusted(0, 0, 0, -kLabelRaise), Qt::AlignCenter, palette(),
-                          true, sectionLabel(logicalIndex), QPalette::NoRole);
+                          true, labelFor(logicalIndex, rect.width()), QPalette::NoRole);
 
     if (logicalIndex < count() - 1) {
         paintSeparator(painter, rect);
     }
+}
+
+bool SHeaderView::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto& help = *static_cast<QHelpEvent*>(event);
+        const int section = logicalIndexAt(help.pos());
+        const QString label = sectionLabel(section);
+        if (labelFor(section, sectionSize(section)) != label) {
+            widgets::showCutTip(help, *viewport(), label);
+            return true;
+        }
+    }
+    return QHeaderView::viewportEvent(event);
 }
 
 void SHeaderView::paintMark(QPainter* painter, const QRect& rect) const

@@ -25,6 +25,9 @@ public:
     /// From here on a drawn box, with a tick or without, stands in for an image that cannot be
     /// loaded; else there is nothing in its place.
     void drawMissingImages();
+    /// Has labels that their sections have no room for cut with dots, and told by a tool tip. By
+    /// itself the style gets them whole.
+    void cutLongLabels();
 
 signals:
     /// The operator has pressed the mark; ischeck is its new state.
@@ -32,9 +35,12 @@ signals:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    /// Shows the whole of a label that its section has no room for.
+    bool viewportEvent(QEvent* event) override;
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
 
 private:
+    QString labelFor(int section, int width) const;
     void paintSeparator(QPainter* painter, const QRect& rect) const;
     void paintMark(QPainter* painter, const QRect& rect) const;
 
@@ -43,6 +49,7 @@ private:
     bool m_checked = false;
     CheckType m_type;
     bool m_drawsMissingImages = false;
+    bool m_cutsLongLabels = false;
 };
 
 } // namespace trel::mediadispatch

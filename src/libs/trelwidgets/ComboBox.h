@@ -17,8 +17,16 @@ public:
     explicit ComboBox(QWidget* parent = nullptr);
 
 protected:
+    /// Shows the whole of a text that the box has no room for, as a tool tip.
+    bool event(QEvent* event) override;
+    /// Cuts such a text, with dots.
+    void paintEvent(QPaintEvent* event) override;
     /// Leaves the wheel to what the box stands in.
     void wheelEvent(QWheelEvent* event) override;
+
+private:
+    int roomForText() const;
+    bool isCut() const;
 };
 
 } // namespace trel::widgets

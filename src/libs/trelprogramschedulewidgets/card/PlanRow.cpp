@@ -6,6 +6,7 @@
 #include "PlanRowState.h"
 #include "PlanRowTexts.h"
 #include "kCustomLineEdit.h"
+#include "toolkit/CutLabel.h"
 #include "toolkit/FocusedWheel.h"
 #include "toolkit/StyleRecords.h"
 
@@ -222,8 +223,7 @@ QSpinBox* RowBuilder::addTimesBox(int times) const
 
 QLabel* RowBuilder::addStateLabel() const
 {
-    auto* const label = new QLabel(m_table.viewport());
-    label->setTextFormat(Qt::PlainText);
+    auto* const label = new CutLabel(m_table.viewport());
     markRow(*label, m_row);
     place(StateColumn, label);
     return label;

@@ -27,6 +27,7 @@ SHeaderView* makeHeader(QTableView* table, CheckType type)
     auto* header = new SHeaderView(type, Qt::Horizontal, table);
     header->setObjectName(QStringLiteral("schedule"));
     header->drawMissingImages();
+    header->cutLongLabels();
     header->setDefaultAlignment(Qt::AlignCenter);
     // Some styles would not let a section be as narrow as the mark.
     header->setMinimumSectionSize(kCheckWidth);

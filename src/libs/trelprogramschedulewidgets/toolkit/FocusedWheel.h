@@ -1,6 +1,9 @@
 #pragma once
 
+#include "trelwidgets/CutTip.h"
+
 #include <QDateEdit>
+#include <QLineEdit>
 #include <QWheelEvent>
 
 namespace trel::mediadispatch {
@@ -22,6 +25,20 @@ public:
     }
 
 protected:
+    /// Shows the whole of a value that the field has no room for. What is typed scrolls in it, so
+    /// that there are no dots.
+    bool event(QEvent* event) override
+    {
+        constexpr int kLineMargins = 4;
+        if (event->type() == QEvent::ToolTip && this->toolTip().isEmpty() &&
+            this->fontMetrics().horizontalAdvance(this->text()) + kLineMargins >
+                this->lineEdit()->width()) {
+            widgets::showCutTip(*static_cast<QHelpEvent*>(event), *this, this->text());
+            return true;
+        }
+        return Field::event(event);
+    }
+
     void wheelEvent(QWheelEvent* event) override
     {
         if (this->hasFocus()) {
