@@ -148,6 +148,7 @@ private slots:
     void walksByTheList();
     void waitsForThePromptAndTheEditor();
     void takesBackWhatIsHalfTyped();
+    void takesBackWhatWasNotToldYet();
     void leavesTheChooserItsKeys();
     void anotherStoreHasAHistoryOfItsOwn();
     void anotherLengthIsNoStep();
@@ -383,6 +384,26 @@ void tst_EditHistory::takesBackWhatIsHalfTyped()
     desk.pressUndo();
     QCOMPARE(desk.card(0).times(0).value(), 3);
     QVERIFY(!desk.undo().isEnabled());
+
+    // One digit of the hours waits for the second, and nobody has heard of it yet.
+    desk.card(0).choose(desk.card(0).endAction(3), 1);
+    QTimeEdit& start = desk.card(0).startTime(0);
+    click(start);
+    start.setSelectedSection(QDateTimeEdit::HourSection);
+    QTest::keyClicks(&start, QStringLiteral("1"));
+    desk.pressUndo();
+    QCOMPARE(desk.card(0).startTime(0).time(), QTime(7, 30));
+    QCOMPARE(desk.card(0).endAction(3).currentIndex(), 1);
+}
+
+void tst_EditHistory::takesBackWhatWasNotToldYet()
+{
+    const Desk desk;
+    desk.card(0).choose(desk.card(0).endAction(3), 1);
+    desk.card(0).endTime(3).setTime(QTime(17, 0));
+    desk.undo().trigger();
+    QCOMPARE(desk.card(0).endTime(3).time(), QTime(18, 0));
+    QCOMPARE(desk.card(0).endAction(3).currentIndex(), 1);
 }
 
 void tst_EditHistory::leavesTheChooserItsKeys()
