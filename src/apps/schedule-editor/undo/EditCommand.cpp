@@ -1,24 +1,20 @@
 #include "undo/EditCommand.h"
 
-#include "undo/EditHistory.h"
-
 #include <utility>
 
 namespace trel::desktop::undo {
 
-EditCommand::EditCommand(EditHistory& history, TaskEdits edits, const EditedField& field,
-                         int number)
-    : m_history(history)
+EditCommand::EditCommand(Put put, TaskEdits edits, const EditedField& field, int number)
+    : m_put(std::move(put))
     , m_edits(std::move(edits))
     , m_field(field)
     , m_number(number)
-    , m_catalogue(history.catalogueNumber())
 {}
 
 void EditCommand::undo()
 {
     for (const TaskEdit& edit : m_edits) {
-        m_history.put(edit.taskId, edit.before, m_catalogue);
+        m_put(edit.taskId, edit.before);
     }
 }
 
@@ -28,7 +24,7 @@ void EditCommand::redo()
         return;
     }
     for (const TaskEdit& edit : m_edits) {
-        m_history.put(edit.taskId, edit.after, m_catalogue);
+        m_put(edit.taskId, edit.after);
     }
 }
 

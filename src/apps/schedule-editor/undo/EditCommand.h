@@ -5,17 +5,20 @@
 
 #include <QUndoCommand>
 
-namespace trel::desktop::undo {
+#include <functional>
 
-class EditHistory;
+namespace trel::desktop::undo {
 
 /// One step of the operator, which has been done when the command is made. Steps at the same field,
 /// one after the other, are one.
 class EditCommand : public QUndoCommand
 {
 public:
-    /// The history outlives the command. The number tells it from all others of the history.
-    EditCommand(EditHistory& history, TaskEdits edits, const EditedField& field, int number);
+    /// Files a state of a task, or takes the task out.
+    using Put = std::function<void(int taskId, const follow::SharedTask& task)>;
+
+    /// The number tells it from all others of the history. What put refers to outlives the command.
+    EditCommand(Put put, TaskEdits edits, const EditedField& field, int number);
 
     const EditedField& field() const { return m_field; }
     const TaskEdits& edits() const { return m_edits; }
@@ -27,11 +30,10 @@ public:
     bool mergeWith(const QUndoCommand* next) override;
 
 private:
-    EditHistory& m_history;
+    Put m_put;
     TaskEdits m_edits;
     EditedField m_field;
     int m_number;
-    int m_catalogue;      ///< Which catalog its records were made with.
     bool m_isDone = true; ///< The stack asks for it once more when it takes the command.
 };
 

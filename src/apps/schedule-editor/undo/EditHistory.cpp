@@ -148,7 +148,10 @@ void EditHistory::add(TaskEdits edits)
         return;
     }
     const EditedField field = m_isReadAgain ? EditedField{EditKind::ReadAgain} : editedField(edits);
-    m_stack.push(new EditCommand(*this, std::move(edits), field, ++m_lastNumber));
+    const auto put = [this, catalogue = m_catalogue](int taskId, const follow::SharedTask& task) {
+        this->put(taskId, task, catalogue);
+    };
+    m_stack.push(new EditCommand(put, std::move(edits), field, ++m_lastNumber));
     if (m_isReadAgain) {
         markSaved();
     }

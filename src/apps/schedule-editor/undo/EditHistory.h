@@ -73,11 +73,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    friend class EditCommand;
-
-    /// Counts the changes of the catalog.
-    int catalogueNumber() const { return m_catalogue; }
-    /// Files a state of a task, made with a catalog, or takes the task out.
+    /// Files a state of a task, made with the catalog of that number, or takes the task out.
     void put(int taskId, const follow::SharedTask& task, int catalogue);
     void showWhatWasPut();
 
@@ -99,7 +95,7 @@ private:
     std::set<int> m_due;         ///< Tasks that have been put, but not shown.
     std::set<int> m_saved = {0}; ///< Numbers of steps after which it was saved; 0 for the start.
     int m_lastNumber = 0;
-    int m_catalogue = 0;
+    int m_catalogue = 0; ///< Counts the changes of the catalog.
     bool m_isAtWork = false;
     bool m_isReadAgain = false; ///< What comes now is the saved schedule.
     QPointer<QWidget> m_field;  ///< Whose keys are watched.
