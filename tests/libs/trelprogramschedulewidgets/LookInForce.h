@@ -5,6 +5,7 @@
 #include <QPalette>
 #include <QString>
 #include <QStyleFactory>
+#include <QWidget>
 
 /// All that a host can set of a look, before the editor is made or while it is open.
 struct Look

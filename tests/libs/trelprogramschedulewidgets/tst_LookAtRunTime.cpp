@@ -11,13 +11,15 @@
 #include "support/PlanTaskWidgetInspector.h"
 #include "support/RecordingService.h"
 #include "support/TestProgram.h"
+#include "trelwidgets/TipDialog.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QLabel>
+#include <QTableView>
+#include <QTimeEdit>
 #include <QTimer>
 #include <QtTest>
-#include <trelwidgets/TipDialog.h>
 
 #include <functional>
 #include <utility>

@@ -78,9 +78,9 @@ bool PieceReader::add(const QByteArray& part)
             return false;
         }
         const auto taskId = int(qFromLittleEndian<quint32>(head));
-        const int aspect = head[kAspectPlace];
+        const int aspect = static_cast<unsigned char>(head[kAspectPlace]);
         const auto size = qint64(qFromLittleEndian<quint32>(head + kAspectPlace + 1));
-        if (size > left || aspect < 0 || aspect >= int(std::size(kTaskAspects))) {
+        if (size > left || aspect >= int(std::size(kTaskAspects))) {
             return false;
         }
         if (m_pieces.empty() || m_pieces.back().taskId != taskId ||

@@ -36,7 +36,7 @@ BytePacker::~BytePacker()
 QByteArray BytePacker::packed(const QByteArray& bytes)
 {
     if (bytes.size() >= kShortestDeflated) {
-        const QByteArray smaller = deflated(bytes);
+        QByteArray smaller = deflated(bytes);
         if (smaller.size() < bytes.size()) {
             return smaller;
         }
