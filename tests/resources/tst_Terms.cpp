@@ -236,7 +236,7 @@ void tst_Terms::textsNameWhatTheySpeakOf()
         text(QStringLiteral("trel::desktop::EditorMenus"), QStringLiteral("&Import files…"));
     entry.remove(QRegularExpression(QStringLiteral("\\(&.\\)|&|…")));
     const QString hint =
-        text(QStringLiteral("trel::desktop::EditorWindow"),
+        text(QStringLiteral("trel::desktop::CataloguePanel"),
              QStringLiteral("No programs yet. Drop media files or folders here, or choose “Import "
                             "files”."));
     QVERIFY2(!entry.isEmpty() && hint.contains(entry), qPrintable(hint));

@@ -110,10 +110,6 @@
         <translation>&amp;Zeitumstellungen</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
-        <translation>Noch keine Programme. Ziehen Sie Mediendateien oder Ordner hierher oder wählen Sie „Dateien importieren“.</translation>
-    </message>
-    <message>
         <source>Schedule editor</source>
         <translation>Wiedergabeplan-Editor</translation>
     </message>
@@ -128,14 +124,6 @@
     <message>
         <source>Schedules (*.db *.sqlite);;All files (*)</source>
         <translation>Wiedergabepläne (*.db *.sqlite);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>Import files</source>
-        <translation>Dateien importieren</translation>
-    </message>
-    <message>
-        <source>Import folder</source>
-        <translation>Ordner importieren</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
@@ -168,6 +156,37 @@
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>Der Wiedergabeplan enthält ungespeicherte Änderungen. Als Entwurf werden sie angeboten, wenn diese Datenbank wieder geöffnet wird.
+
+Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>Als Entwurf behalten</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CataloguePanel</name>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>Noch keine Programme. Ziehen Sie Mediendateien oder Ordner hierher oder wählen Sie „Dateien importieren“.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
     <message numerus="yes">
         <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
@@ -178,6 +197,21 @@
     <message>
         <source>Remove</source>
         <translation>Entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueImport</name>
+    <message>
+        <source>Import files</source>
+        <translation>Dateien importieren</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>Ordner importieren</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Importing</source>
@@ -203,14 +237,6 @@
         <source>Some files could not be imported:</source>
         <translation>Einige Dateien konnten nicht importiert werden:</translation>
     </message>
-    <message>
-        <source>Save</source>
-        <translation>Speichern</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>Verwerfen</translation>
-    </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
         <translation>
@@ -235,18 +261,6 @@
             <numerusform>%n aktualisiert</numerusform>
             <numerusform>%n aktualisiert</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
-
-Close this question to keep editing.</source>
-        <translation>Der Wiedergabeplan enthält ungespeicherte Änderungen. Als Entwurf werden sie angeboten, wenn diese Datenbank wieder geöffnet wird.
-
-Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
-    </message>
-    <message>
-        <source>Keep as draft</source>
-        <translation>Als Entwurf behalten</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,9 @@
             <numerusform>Replace the whole schedule with the %n tasks in this file?</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>trel::desktop::CataloguePanel</name>
     <message numerus="yes">
         <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
@@ -17,6 +20,9 @@
             <numerusform>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueImport</name>
     <message numerus="yes">
         <source>… and %n more.</source>
         <translation>

@@ -110,10 +110,6 @@
         <translation>Cambios de &amp;hora</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
-        <translation>Aún no hay programas. Arrastre aquí archivos multimedia o carpetas, o elija «Importar archivos».</translation>
-    </message>
-    <message>
         <source>Schedule editor</source>
         <translation>Editor de la programación</translation>
     </message>
@@ -128,14 +124,6 @@
     <message>
         <source>Schedules (*.db *.sqlite);;All files (*)</source>
         <translation>Programaciones (*.db *.sqlite);;Todos los archivos (*)</translation>
-    </message>
-    <message>
-        <source>Import files</source>
-        <translation>Importar archivos</translation>
-    </message>
-    <message>
-        <source>Import folder</source>
-        <translation>Importar carpeta</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
@@ -168,6 +156,37 @@
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>La programación tiene cambios sin guardar. Como borrador se ofrecerán cuando se vuelva a abrir esta base de datos.
+
+Cierre esta pregunta para seguir editando.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>Guardar borrador</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CataloguePanel</name>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>Aún no hay programas. Arrastre aquí archivos multimedia o carpetas, o elija «Importar archivos».</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
     <message numerus="yes">
         <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
@@ -178,6 +197,21 @@
     <message>
         <source>Remove</source>
         <translation>Quitar</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueImport</name>
+    <message>
+        <source>Import files</source>
+        <translation>Importar archivos</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>Importar carpeta</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Importing</source>
@@ -203,14 +237,6 @@
         <source>Some files could not be imported:</source>
         <translation>Algunos archivos no se han podido importar:</translation>
     </message>
-    <message>
-        <source>Save</source>
-        <translation>Guardar</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>Descartar</translation>
-    </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
         <translation>
@@ -235,18 +261,6 @@
             <numerusform>%n actualizado</numerusform>
             <numerusform>%n actualizados</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
-
-Close this question to keep editing.</source>
-        <translation>La programación tiene cambios sin guardar. Como borrador se ofrecerán cuando se vuelva a abrir esta base de datos.
-
-Cierre esta pregunta para seguir editando.</translation>
-    </message>
-    <message>
-        <source>Keep as draft</source>
-        <translation>Guardar borrador</translation>
     </message>
 </context>
 <context>

@@ -110,10 +110,6 @@
         <translation>Changements d’&amp;heure</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
-        <translation>Aucun programme pour l’instant. Déposez ici des fichiers multimédias ou des dossiers, ou choisissez «&#xa0;Importer des fichiers&#xa0;».</translation>
-    </message>
-    <message>
         <source>Schedule editor</source>
         <translation>Éditeur de la programmation</translation>
     </message>
@@ -128,14 +124,6 @@
     <message>
         <source>Schedules (*.db *.sqlite);;All files (*)</source>
         <translation>Programmations (*.db *.sqlite);;Tous les fichiers (*)</translation>
-    </message>
-    <message>
-        <source>Import files</source>
-        <translation>Importer des fichiers</translation>
-    </message>
-    <message>
-        <source>Import folder</source>
-        <translation>Importer un dossier</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
@@ -168,6 +156,37 @@
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>La programmation contient des modifications non enregistrées. Conservées comme brouillon, elles sont proposées à la prochaine ouverture de cette base de données.
+
+Fermez cette question pour continuer à modifier.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>Garder le brouillon</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CataloguePanel</name>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>Aucun programme pour l’instant. Déposez ici des fichiers multimédias ou des dossiers, ou choisissez «&#xa0;Importer des fichiers&#xa0;».</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
     <message numerus="yes">
         <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
@@ -178,6 +197,21 @@
     <message>
         <source>Remove</source>
         <translation>Retirer</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueImport</name>
+    <message>
+        <source>Import files</source>
+        <translation>Importer des fichiers</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>Importer un dossier</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Importing</source>
@@ -203,14 +237,6 @@
         <source>Some files could not be imported:</source>
         <translation>Certains fichiers n’ont pas pu être importés&#xa0;:</translation>
     </message>
-    <message>
-        <source>Save</source>
-        <translation>Enregistrer</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>Ne pas enregistrer</translation>
-    </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
         <translation>
@@ -235,18 +261,6 @@
             <numerusform>%n mise à jour</numerusform>
             <numerusform>%n mises à jour</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
-
-Close this question to keep editing.</source>
-        <translation>La programmation contient des modifications non enregistrées. Conservées comme brouillon, elles sont proposées à la prochaine ouverture de cette base de données.
-
-Fermez cette question pour continuer à modifier.</translation>
-    </message>
-    <message>
-        <source>Keep as draft</source>
-        <translation>Garder le brouillon</translation>
     </message>
 </context>
 <context>

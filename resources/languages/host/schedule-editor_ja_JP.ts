@@ -110,10 +110,6 @@
         <translation>夏時間の切り替え(&amp;C)</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
-        <translation>番組がまだありません。メディアファイルやフォルダーをここにドロップするか、「ファイルを取り込む」を選択してください。</translation>
-    </message>
-    <message>
         <source>Schedule editor</source>
         <translation>スケジュールエディター</translation>
     </message>
@@ -128,14 +124,6 @@
     <message>
         <source>Schedules (*.db *.sqlite);;All files (*)</source>
         <translation>スケジュール (*.db *.sqlite);;すべてのファイル (*)</translation>
-    </message>
-    <message>
-        <source>Import files</source>
-        <translation>ファイルを取り込む</translation>
-    </message>
-    <message>
-        <source>Import folder</source>
-        <translation>フォルダーを取り込む</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
@@ -167,6 +155,37 @@
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>保存しない</translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>スケジュールに保存されていない変更があります。下書きとして残すと、このデータベースを次に開いたときに確認されます。
+
+編集を続けるには、この確認を閉じてください。</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>下書きとして残す</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CataloguePanel</name>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>番組がまだありません。メディアファイルやフォルダーをここにドロップするか、「ファイルを取り込む」を選択してください。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
     <message numerus="yes">
         <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
@@ -176,6 +195,21 @@
     <message>
         <source>Remove</source>
         <translation>外す</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueImport</name>
+    <message>
+        <source>Import files</source>
+        <translation>ファイルを取り込む</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>フォルダーを取り込む</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Importing</source>
@@ -200,14 +234,6 @@
         <source>Some files could not be imported:</source>
         <translation>取り込めなかったファイルがあります：</translation>
     </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>保存しない</translation>
-    </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
         <translation>
@@ -229,18 +255,6 @@
         <translation>
             <numerusform>更新 %n 件</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
-
-Close this question to keep editing.</source>
-        <translation>スケジュールに保存されていない変更があります。下書きとして残すと、このデータベースを次に開いたときに確認されます。
-
-編集を続けるには、この確認を閉じてください。</translation>
-    </message>
-    <message>
-        <source>Keep as draft</source>
-        <translation>下書きとして残す</translation>
     </message>
 </context>
 <context>

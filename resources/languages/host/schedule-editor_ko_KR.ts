@@ -110,10 +110,6 @@
         <translation>서머타임 전환(&amp;C)</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
-        <translation>아직 프로그램이 없습니다. 미디어 파일이나 폴더를 여기에 끌어다 놓거나 ‘파일 가져오기’를 선택하세요.</translation>
-    </message>
-    <message>
         <source>Schedule editor</source>
         <translation>일정 편집기</translation>
     </message>
@@ -128,14 +124,6 @@
     <message>
         <source>Schedules (*.db *.sqlite);;All files (*)</source>
         <translation>일정 (*.db *.sqlite);;모든 파일 (*)</translation>
-    </message>
-    <message>
-        <source>Import files</source>
-        <translation>파일 가져오기</translation>
-    </message>
-    <message>
-        <source>Import folder</source>
-        <translation>폴더 가져오기</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
@@ -167,6 +155,37 @@
         <source>Cancel</source>
         <translation>취소</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>저장 안 함</translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>일정에 저장되지 않은 변경 내용이 있습니다. 초안으로 보관하면 이 데이터베이스를 다시 열 때 처리 방법을 묻습니다.
+
+계속 편집하려면 이 질문을 닫으세요.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>초안으로 보관</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CataloguePanel</name>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>아직 프로그램이 없습니다. 미디어 파일이나 폴더를 여기에 끌어다 놓거나 ‘파일 가져오기’를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
     <message numerus="yes">
         <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
@@ -176,6 +195,21 @@
     <message>
         <source>Remove</source>
         <translation>제거</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueImport</name>
+    <message>
+        <source>Import files</source>
+        <translation>파일 가져오기</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>폴더 가져오기</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
     </message>
     <message>
         <source>Importing</source>
@@ -200,14 +234,6 @@
         <source>Some files could not be imported:</source>
         <translation>일부 파일을 가져올 수 없습니다:</translation>
     </message>
-    <message>
-        <source>Save</source>
-        <translation>저장</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>저장 안 함</translation>
-    </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
         <translation>
@@ -229,18 +255,6 @@
         <translation>
             <numerusform>업데이트 %n개</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
-
-Close this question to keep editing.</source>
-        <translation>일정에 저장되지 않은 변경 내용이 있습니다. 초안으로 보관하면 이 데이터베이스를 다시 열 때 처리 방법을 묻습니다.
-
-계속 편집하려면 이 질문을 닫으세요.</translation>
-    </message>
-    <message>
-        <source>Keep as draft</source>
-        <translation>초안으로 보관</translation>
     </message>
 </context>
 <context>

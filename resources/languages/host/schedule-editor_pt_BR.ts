@@ -110,10 +110,6 @@
         <translation>Mudanças de &amp;horário</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
-        <translation>Ainda não há programas. Arraste arquivos de mídia ou pastas para cá ou escolha “Importar arquivos”.</translation>
-    </message>
-    <message>
         <source>Schedule editor</source>
         <translation>Editor da programação</translation>
     </message>
@@ -128,14 +124,6 @@
     <message>
         <source>Schedules (*.db *.sqlite);;All files (*)</source>
         <translation>Programações (*.db *.sqlite);;Todos os arquivos (*)</translation>
-    </message>
-    <message>
-        <source>Import files</source>
-        <translation>Importar arquivos</translation>
-    </message>
-    <message>
-        <source>Import folder</source>
-        <translation>Importar pasta</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
@@ -168,6 +156,37 @@
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>A programação tem alterações não salvas. Como rascunho, elas são oferecidas quando este banco de dados for aberto novamente.
+
+Feche esta pergunta para continuar editando.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>Manter rascunho</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CataloguePanel</name>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>Ainda não há programas. Arraste arquivos de mídia ou pastas para cá ou escolha “Importar arquivos”.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
     <message numerus="yes">
         <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
@@ -178,6 +197,21 @@
     <message>
         <source>Remove</source>
         <translation>Remover</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueImport</name>
+    <message>
+        <source>Import files</source>
+        <translation>Importar arquivos</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>Importar pasta</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Importing</source>
@@ -203,14 +237,6 @@
         <source>Some files could not be imported:</source>
         <translation>Alguns arquivos não puderam ser importados:</translation>
     </message>
-    <message>
-        <source>Save</source>
-        <translation>Salvar</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>Descartar</translation>
-    </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
         <translation>
@@ -235,18 +261,6 @@
             <numerusform>%n atualizado</numerusform>
             <numerusform>%n atualizados</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
-
-Close this question to keep editing.</source>
-        <translation>A programação tem alterações não salvas. Como rascunho, elas são oferecidas quando este banco de dados for aberto novamente.
-
-Feche esta pergunta para continuar editando.</translation>
-    </message>
-    <message>
-        <source>Keep as draft</source>
-        <translation>Manter rascunho</translation>
     </message>
 </context>
 <context>

@@ -110,10 +110,6 @@
         <translation>Переводы &amp;часов</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
-        <translation>Программ пока нет. Перетащите сюда медиафайлы или папки либо выберите «Импорт файлов».</translation>
-    </message>
-    <message>
         <source>Schedule editor</source>
         <translation>Редактор расписания</translation>
     </message>
@@ -128,14 +124,6 @@
     <message>
         <source>Schedules (*.db *.sqlite);;All files (*)</source>
         <translation>Расписания (*.db *.sqlite);;Все файлы (*)</translation>
-    </message>
-    <message>
-        <source>Import files</source>
-        <translation>Импорт файлов</translation>
-    </message>
-    <message>
-        <source>Import folder</source>
-        <translation>Импорт папки</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
@@ -169,6 +157,37 @@
         <source>Cancel</source>
         <translation>Отмена</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Не сохранять</translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>В расписании есть несохранённые изменения. Черновик будет предложен, когда эта база данных откроется снова.
+
+Закройте этот вопрос, чтобы продолжить правку.</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>Оставить черновик</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CataloguePanel</name>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>Программ пока нет. Перетащите сюда медиафайлы или папки либо выберите «Импорт файлов».</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
     <message numerus="yes">
         <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
@@ -180,6 +199,21 @@
     <message>
         <source>Remove</source>
         <translation>Удалить</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueImport</name>
+    <message>
+        <source>Import files</source>
+        <translation>Импорт файлов</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>Импорт папки</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Importing</source>
@@ -205,14 +239,6 @@
     <message>
         <source>Some files could not be imported:</source>
         <translation>Некоторые файлы не удалось импортировать:</translation>
-    </message>
-    <message>
-        <source>Save</source>
-        <translation>Сохранить</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>Не сохранять</translation>
     </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
@@ -241,18 +267,6 @@
             <numerusform>обновлено %n</numerusform>
             <numerusform>обновлено %n</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
-
-Close this question to keep editing.</source>
-        <translation>В расписании есть несохранённые изменения. Черновик будет предложен, когда эта база данных откроется снова.
-
-Закройте этот вопрос, чтобы продолжить правку.</translation>
-    </message>
-    <message>
-        <source>Keep as draft</source>
-        <translation>Оставить черновик</translation>
     </message>
 </context>
 <context>

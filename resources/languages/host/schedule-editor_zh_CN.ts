@@ -110,10 +110,6 @@
         <translation>夏令时切换(&amp;C)</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
-        <translation>还没有节目。请将媒体文件或文件夹拖放到此处，或选择“导入文件”。</translation>
-    </message>
-    <message>
         <source>Schedule editor</source>
         <translation>排期编辑器</translation>
     </message>
@@ -128,14 +124,6 @@
     <message>
         <source>Schedules (*.db *.sqlite);;All files (*)</source>
         <translation>排期 (*.db *.sqlite);;所有文件 (*)</translation>
-    </message>
-    <message>
-        <source>Import files</source>
-        <translation>导入文件</translation>
-    </message>
-    <message>
-        <source>Import folder</source>
-        <translation>导入文件夹</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
@@ -167,6 +155,37 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃更改</translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>排期有尚未保存的更改。保留为草稿后，再次打开此数据库时会询问如何处理。
+
+关闭此提示可继续编辑。</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>保留为草稿</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CataloguePanel</name>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>还没有节目。请将媒体文件或文件夹拖放到此处，或选择“导入文件”。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
     <message numerus="yes">
         <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
@@ -176,6 +195,21 @@
     <message>
         <source>Remove</source>
         <translation>移除</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueImport</name>
+    <message>
+        <source>Import files</source>
+        <translation>导入文件</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>导入文件夹</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Importing</source>
@@ -200,14 +234,6 @@
         <source>Some files could not be imported:</source>
         <translation>部分文件无法导入：</translation>
     </message>
-    <message>
-        <source>Save</source>
-        <translation>保存</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>放弃更改</translation>
-    </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
         <translation>
@@ -229,18 +255,6 @@
         <translation>
             <numerusform>更新 %n 个</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
-
-Close this question to keep editing.</source>
-        <translation>排期有尚未保存的更改。保留为草稿后，再次打开此数据库时会询问如何处理。
-
-关闭此提示可继续编辑。</translation>
-    </message>
-    <message>
-        <source>Keep as draft</source>
-        <translation>保留为草稿</translation>
     </message>
 </context>
 <context>

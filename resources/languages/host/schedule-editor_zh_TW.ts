@@ -110,10 +110,6 @@
         <translation>日光節約時間切換(&amp;C)</translation>
     </message>
     <message>
-        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
-        <translation>還沒有節目。請將媒體檔案或資料夾拖放到這裡，或選擇「匯入檔案」。</translation>
-    </message>
-    <message>
         <source>Schedule editor</source>
         <translation>排程編輯器</translation>
     </message>
@@ -128,14 +124,6 @@
     <message>
         <source>Schedules (*.db *.sqlite);;All files (*)</source>
         <translation>排程 (*.db *.sqlite);;所有檔案 (*)</translation>
-    </message>
-    <message>
-        <source>Import files</source>
-        <translation>匯入檔案</translation>
-    </message>
-    <message>
-        <source>Import folder</source>
-        <translation>匯入資料夾</translation>
     </message>
     <message>
         <source>Write the schedule to a file</source>
@@ -167,6 +155,37 @@
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
+    <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>捨棄變更</translation>
+    </message>
+    <message>
+        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
+
+Close this question to keep editing.</source>
+        <translation>排程有尚未儲存的變更。保留為草稿後，再次開啟此資料庫時會詢問如何處理。
+
+關閉此提示可繼續編輯。</translation>
+    </message>
+    <message>
+        <source>Keep as draft</source>
+        <translation>保留為草稿</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CataloguePanel</name>
+    <message>
+        <source>No programs yet. Drop media files or folders here, or choose “Import files”.</source>
+        <translation>還沒有節目。請將媒體檔案或資料夾拖放到這裡，或選擇「匯入檔案」。</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
     <message numerus="yes">
         <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
         <translation>
@@ -176,6 +195,21 @@
     <message>
         <source>Remove</source>
         <translation>移除</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueImport</name>
+    <message>
+        <source>Import files</source>
+        <translation>匯入檔案</translation>
+    </message>
+    <message>
+        <source>Import folder</source>
+        <translation>匯入資料夾</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Importing</source>
@@ -200,14 +234,6 @@
         <source>Some files could not be imported:</source>
         <translation>部分檔案無法匯入：</translation>
     </message>
-    <message>
-        <source>Save</source>
-        <translation>儲存</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>捨棄變更</translation>
-    </message>
     <message numerus="yes">
         <source>Looking for files: %n found</source>
         <translation>
@@ -229,18 +255,6 @@
         <translation>
             <numerusform>更新 %n 個</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>The schedule has changes that are not saved. As a draft they are offered when this database is opened again.
-
-Close this question to keep editing.</source>
-        <translation>排程有尚未儲存的變更。保留為草稿後，再次開啟此資料庫時會詢問如何處理。
-
-關閉此提示可繼續編輯。</translation>
-    </message>
-    <message>
-        <source>Keep as draft</source>
-        <translation>保留為草稿</translation>
     </message>
 </context>
 <context>

@@ -3,13 +3,13 @@
 #include "Demonstration.h"
 #include "EditorMenus.h"
 #include "HostPrompts.h"
-#include "ImportJob.h"
 #include "Languages.h"
 #include "PendingNotices.h"
 #include "PlainTabTips.h"
 #include "ProblemWords.h"
-#include "ProgramTableModel.h"
 #include "asrun/AsRunWindow.h"
+#include "catalogue/CatalogueImport.h"
+#include "catalogue/CataloguePanel.h"
 #include "clock/ClockChangePanel.h"
 #include "common/PatientFile.h"
 #include "draft/DraftKeeper.h"
@@ -21,7 +21,6 @@
 #include "screen/ScreenFollower.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
-#include "trelprogramschedule/catalogue/ShownAddress.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 #include "undo/EditHistory.h"
 #include "undo/HistoryActions.h"
@@ -37,16 +36,11 @@
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QHeaderView>
-#include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QProgressDialog>
 #include <QStatusBar>
-#include <QTableView>
 #include <QTimer>
 #include <QUrl>
-#include <QVBoxLayout>
 
 #include <chrono>
 
@@ -67,17 +61,6 @@ QStringList droppedMedia(const QMimeData* data)
     return paths;
 }
 
-/// What is told of a file or an address while it is imported.
-QString shownName(const QString& path)
-{
-    return QFileInfo(shownAddress(path)).fileName();
-}
-
-void showSearch(QProgressDialog& progress, int found)
-{
-    progress.setLabelText(EditorWindow::tr("Looking for files: %n found", nullptr, found));
-}
-
 /// Names a button of the toolkit in the toolkit's own words.
 void nameButton(const QDockWidget& panel, const char* button, const char* name)
 {
@@ -91,12 +74,11 @@ void nameButton(const QDockWidget& panel, const char* button, const char* name)
 EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Themes& themes)
     : m_editor(editor)
     , m_menus(new EditorMenus(*menuBar(), languages, themes))
-    , m_programs(new ProgramTableModel(this))
-    , m_table(new QTableView(this))
-    , m_hint(new QLabel(this))
+    , m_catalogue(new CataloguePanel(*m_menus, this))
     , m_nowNext(new QDockWidget(this))
     , m_clockChanges(new QDockWidget(this))
     , m_notices(new PendingNotices(*this))
+    , m_import(new CatalogueImport(*m_notices, *this))
     , m_drafts(new DraftKeeper(m_editor, *m_menus->bringBack(), *m_notices, this))
 {
     setObjectName(QStringLiteral("editorWindow"));
@@ -104,32 +86,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     m_editor.setAcceptDrops(true);
     m_editor.installEventFilter(this);
 
-    m_table->setObjectName(QStringLiteral("programTable"));
-    m_table->setModel(m_programs);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setAlternatingRowColors(true);
-    m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
-    m_table->verticalHeader()->hide();
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->setColumnWidth(ProgramTableModel::IndexColumn, 60);
-    m_table->setColumnWidth(ProgramTableModel::NameColumn, 260);
-    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
-
-    m_hint->setObjectName(QStringLiteral("programHint"));
-    m_hint->setTextFormat(Qt::PlainText);
-    m_hint->setAlignment(Qt::AlignCenter);
-    m_hint->setWordWrap(true);
-
-    auto* centre = new QWidget(this);
-    auto* layout = new QVBoxLayout(centre);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_hint, 1);
-    layout->addWidget(m_table, 1);
-    setCentralWidget(centre);
-
+    setCentralWidget(m_catalogue);
     connectMenus();
     new EffectActions(*m_menus, *m_notices, this);
     new PlainTabTips(*this);
@@ -137,8 +94,6 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     retranslate();
     resize(1180, 720);
 
-    connect(&ScheduleHost::instance(), &ScheduleHost::catalogueChanged, this,
-            &EditorWindow::updateCatalogue);
     ScheduleHost::instance().watchFiles();
     ScheduleHost::instance().followStore();
     // The panels write dates as the language does; they take the locale over.
@@ -147,7 +102,6 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     takeLocale();
     connect(&languages, &Languages::changed, this, &EditorWindow::updateTitle);
     connect(m_drafts, &DraftKeeper::unsavedChanged, this, &EditorWindow::updateTitle);
-    updateCatalogue();
 }
 
 EditorWindow::~EditorWindow() = default;
@@ -162,17 +116,13 @@ void EditorWindow::connectMenus()
     run(m_menus->importSchedule(), &EditorWindow::importSchedule);
     run(m_menus->exportSchedule(), &EditorWindow::exportSchedule);
     run(m_menus->quit(), &EditorWindow::close);
-    run(m_menus->importFiles(), &EditorWindow::choosePrograms);
-    run(m_menus->importFolder(), &EditorWindow::chooseFolder);
-    run(m_menus->removePrograms(), &EditorWindow::removeSelectedPrograms);
     run(m_menus->asRun(), &EditorWindow::showAsRun);
 
-    QAction* remove = m_menus->removePrograms();
-    m_table->addAction(m_menus->importFiles());
-    m_table->addAction(remove);
-    remove->setEnabled(false);
-    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, remove,
-            [this, remove] { remove->setEnabled(m_table->selectionModel()->hasSelection()); });
+    connect(m_menus->importFiles(), &QAction::triggered, m_import, &CatalogueImport::chooseFiles);
+    connect(m_menus->importFolder(), &QAction::triggered, m_import, &CatalogueImport::chooseFolder);
+    connect(m_import, &CatalogueImport::ended, this, &EditorWindow::importEnded);
+    connect(m_import, &CatalogueImport::told, this,
+            [this](const QString& line) { statusBar()->showMessage(line); });
 }
 
 void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
@@ -212,15 +162,11 @@ void EditorWindow::retranslate()
 {
     m_menus->retranslate();
     m_undo->update();
-    m_table->setAccessibleName(m_menus->programsTitle());
-    m_hint->setText(
-        tr("No programs yet. Drop media files or folders here, or choose “Import files”."));
     m_nowNext->setWindowTitle(tr("Now and next"));
     m_clockChanges->setWindowTitle(tr("Clock changes"));
     // A new title becomes the text of the action, which has a letter besides.
     m_nowNext->toggleViewAction()->setText(tr("&Now and next"));
     m_clockChanges->toggleViewAction()->setText(tr("&Clock changes"));
-    m_programs->retranslate();
     // What was said in another language is not said again.
     if (auto* bar = findChild<QStatusBar*>(QString(), Qt::FindDirectChildrenOnly)) {
         bar->clearMessage();
@@ -248,14 +194,6 @@ void EditorWindow::updateTitle()
     }
 }
 
-void EditorWindow::updateCatalogue()
-{
-    m_programs->reload();
-    const bool empty = m_programs->rowCount() == 0;
-    m_hint->setVisible(empty);
-    m_table->setVisible(!empty);
-}
-
 void EditorWindow::showReplacedSchedule()
 {
     if (m_editor.isVisible()) {
@@ -277,7 +215,7 @@ QString EditorWindow::openDatabase(const QString& path, const QString& demonstra
     m_history->clear();
     m_drafts->begin();
     updateTitle();
-    updateCatalogue();
+    m_catalogue->reload();
     showReplacedSchedule();
     if (m_asRun != nullptr) {
         m_asRun->setStore(ScheduleHost::instance().path());
@@ -325,19 +263,6 @@ void EditorWindow::chooseDatabase()
         return;
     }
     m_drafts->offer();
-}
-
-void EditorWindow::choosePrograms()
-{
-    importMedia(QFileDialog::getOpenFileNames(this, tr("Import files")));
-}
-
-void EditorWindow::chooseFolder()
-{
-    const QString folder = QFileDialog::getExistingDirectory(this, tr("Import folder"));
-    if (!folder.isEmpty()) {
-        importMedia({folder});
-    }
 }
 
 void EditorWindow::exportSchedule()
@@ -388,112 +313,9 @@ void EditorWindow::importSchedule()
     showReplacedSchedule();
 }
 
-void EditorWindow::removeSelectedPrograms()
-{
-    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
-    if (rows.isEmpty()) {
-        return;
-    }
-    // While the question stands, programs may come and go, and with them the rows.
-    std::vector<int> indexes;
-    for (const QModelIndex& row : rows) {
-        indexes.push_back(row.data(ProgramTableModel::ProgramIndexRole).toInt());
-    }
-    const int answer =
-        prompts::confirm(tr("Remove %n programs from the catalog? Plans that use them will show "
-                            "their entries as invalid. The files are not deleted.",
-                            nullptr, rows.size()),
-                         tr("Remove"), tr("Cancel"));
-    if (answer != 1) {
-        return;
-    }
-    if (const StoreResult result = ScheduleHost::instance().removePrograms(indexes); !result) {
-        tell(problems::sentence(result));
-    }
-}
-
 void EditorWindow::importMedia(const QStringList& paths)
 {
-    if (paths.isEmpty() || m_job != nullptr) {
-        return;
-    }
-    m_job = new ImportJob(paths, this);
-    m_progress = new QProgressDialog(this);
-    m_progress->setObjectName(QStringLiteral("importProgress"));
-    auto* shown = new QLabel(m_progress);
-    shown->setTextFormat(Qt::PlainText); // Names of files are no markup.
-    m_progress->setLabel(shown);
-    m_progress->setWindowTitle(tr("Importing"));
-    m_progress->setCancelButtonText(tr("Cancel"));
-    m_progress->setWindowModality(Qt::WindowModal);
-    m_progress->setAutoReset(false);
-    m_progress->setMinimumWidth(420);
-    // A handful of files is done before anyone could read a dialog.
-    m_progress->setMinimumDuration(300);
-    // How many there are is not known before all have been found.
-    m_progress->setMaximum(0);
-    m_progress->setValue(0);
-    showSearch(*m_progress, 0);
-    connect(m_progress, &QProgressDialog::canceled, m_job, &ImportJob::cancel);
-    connect(m_job, &ImportJob::searched, m_progress,
-            [progress = m_progress](int found) { showSearch(*progress, found); });
-    connect(m_job, &ImportJob::progressed, m_progress,
-            [progress = m_progress](int done, int total, const QString& path) {
-                if (progress->wasCanceled()) {
-                    return;
-                }
-                progress->setLabelText(shownName(path));
-                progress->setMaximum(total);
-                progress->setValue(done);
-            });
-    connect(m_job, &ImportJob::finished, this, &EditorWindow::finishImport);
-    m_job->start();
-}
-
-void EditorWindow::finishImport()
-{
-    // A prompt would take it for the window that it stands over.
-    m_progress->hide();
-    m_progress->deleteLater();
-    m_progress = nullptr;
-    m_job->deleteLater();
-    const bool isCancelled = m_job->isCancelled();
-    const ImportScan scan = std::exchange(m_job, nullptr)->scan();
-    if (isCancelled) {
-        statusBar()->showMessage(tr("The import was canceled; nothing was imported."));
-    } else {
-        const ImportResult result = ScheduleHost::instance().addPrograms(scan.sources);
-        if (result.store) {
-            reportImport(scan, static_cast<int>(result.added.size()),
-                         static_cast<int>(result.updated.size()));
-        } else {
-            m_notices->tell(problems::sentence(result.store));
-        }
-    }
-    emit importEnded();
-}
-
-void EditorWindow::reportImport(const ImportScan& scan, int added, int updated)
-{
-    statusBar()->showMessage(
-        tr("Imported: %1, %2.")
-            .arg(tr("%n new", nullptr, added), tr("%n updated", nullptr, updated)));
-    if (scan.refusals.empty()) {
-        return;
-    }
-    constexpr std::size_t kShown = 8;
-    QStringList lines;
-    for (std::size_t i = 0; i < std::min(kShown, scan.refusals.size()); ++i) {
-        lines.append(
-            tr("%1: %2", "file and reason")
-                .arg(shownName(scan.refusals[i].path), problems::sentence(scan.refusals[i].fault)));
-    }
-    if (scan.refusals.size() > kShown) {
-        lines.append(
-            tr("… and %n more.", nullptr, static_cast<int>(scan.refusals.size() - kShown)));
-    }
-    m_notices->tell(tr("Some files could not be imported:") + QLatin1Char('\n') +
-                    lines.join(QLatin1Char('\n')));
+    m_import->run(paths);
 }
 
 void EditorWindow::takeOverTyping()

@@ -4,13 +4,9 @@
 #include <QStringList>
 
 class QDockWidget;
-class QLabel;
-class QProgressDialog;
-class QTableView;
 
 namespace trel::mediadispatch {
 class scheduleControlUI;
-struct ImportScan;
 } // namespace trel::mediadispatch
 
 namespace trel::desktop {
@@ -21,12 +17,12 @@ class HistoryActions;
 } // namespace undo
 
 class AsRunWindow;
+class CatalogueImport;
+class CataloguePanel;
 class DraftKeeper;
 class EditorMenus;
-class ImportJob;
 class Languages;
 class PendingNotices;
-class ProgramTableModel;
 class Themes;
 
 /// The host's window: the catalogue of programs, the menus, and the way into the schedule editor.
@@ -80,33 +76,24 @@ private:
     void addPanel(QDockWidget* panel, Qt::DockWidgetArea area);
     void retranslate();
     void updateTitle();
-    void updateCatalogue();
     void enableUpdates();
 
     void chooseDatabase();
-    void choosePrograms();
-    void chooseFolder();
     void exportSchedule();
     void importSchedule();
     void showReplacedSchedule();
-    void removeSelectedPrograms();
     void showAsRun();
-    void finishImport();
-    void reportImport(const trel::mediadispatch::ImportScan& scan, int added, int updated);
     void takeOverTyping();
     /// True when the window may go: nothing unsaved, or the operator has said what becomes of it.
     bool maySettle();
 
     trel::mediadispatch::scheduleControlUI& m_editor;
     EditorMenus* m_menus;
-    ProgramTableModel* m_programs;
-    QTableView* m_table;
-    QLabel* m_hint;
+    CataloguePanel* m_catalogue;
     QDockWidget* m_nowNext;
     QDockWidget* m_clockChanges;
-    ImportJob* m_job = nullptr;
-    QProgressDialog* m_progress = nullptr;
     PendingNotices* m_notices;
+    CatalogueImport* m_import;
     undo::EditHistory* m_history = nullptr;
     undo::HistoryActions* m_undo = nullptr;
     DraftKeeper* m_drafts;

@@ -1,5 +1,5 @@
 #include "HostFixture.h"
-#include "ProgramTableModel.h"
+#include "catalogue/ProgramTableModel.h"
 #include "support/CountingLook.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"

@@ -1,5 +1,5 @@
 #include "HostFixture.h"
-#include "ImportJob.h"
+#include "catalogue/ImportJob.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
 

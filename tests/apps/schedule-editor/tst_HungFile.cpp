@@ -1,4 +1,4 @@
-#include "ImportJob.h"
+#include "catalogue/ImportJob.h"
 #include "screen/PreviewPictures.h"
 #include "support/ChildProcesses.h"
 #include "trelprogramschedule/media/MediaReading.h"

@@ -3,6 +3,7 @@
 #include "PseudoLanguage.h"
 #include "WindowTexts.h"
 #include "card/PlanColumns.h"
+#include "catalogue/CatalogueImport.h"
 #include "support/PlatformNotes.h"
 #include "support/SampleSchedule.h"
 #include "support/TestProgram.h"
@@ -282,7 +283,7 @@ void tst_PseudoLanguage::promptsOfTheHost()
     fixture.lookAtDialog(QStringLiteral("stop the schedule"),
                          [&fixture] { fixture.action("S&top the schedule…")->trigger(); });
     fixture.lookAtDialog(QStringLiteral("notice"), [] {
-        prompts::notice(EditorWindow::tr("Some files could not be imported:"));
+        prompts::notice(CatalogueImport::tr("Some files could not be imported:"));
     });
     verifyTexts(12);
 }

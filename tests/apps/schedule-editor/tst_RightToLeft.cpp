@@ -2,8 +2,8 @@
 #include "LookSupport.h"
 #include "support/TestProgram.h"
 
-#include "ProgramTableModel.h"
 #include "card/PlanColumns.h"
+#include "catalogue/ProgramTableModel.h"
 #include "screen/ElidedText.h"
 
 #include <QApplication>

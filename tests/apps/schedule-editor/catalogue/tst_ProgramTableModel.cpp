@@ -1,4 +1,4 @@
-#include "ProgramTableModel.h"
+#include "catalogue/ProgramTableModel.h"
 #include "service/scheduleManage.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/ScheduleHost.h"

@@ -1,4 +1,4 @@
-#include "ImportJob.h"
+#include "catalogue/ImportJob.h"
 
 #include <QMutex>
 #include <QMutexLocker>

@@ -1,4 +1,4 @@
-#include "ProgramTableModel.h"
+#include "catalogue/ProgramTableModel.h"
 
 #include "BidiText.h"
 #include "service/scheduleManage.h"
