@@ -56,6 +56,7 @@ void CataloguePanel::buildTable()
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->setColumnWidth(ProgramTableModel::IndexColumn, 60);
     m_table->setColumnWidth(ProgramTableModel::NameColumn, 260);
+    m_table->setDragEnabled(true);
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 

@@ -1,6 +1,7 @@
 #include "catalogue/ProgramTableModel.h"
 
 #include "BidiText.h"
+#include "catalogue/ProgramDrag.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
 #include "trelwidgets/PlainToolTip.h"
@@ -10,6 +11,7 @@
 #include <QPalette>
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 using namespace trel::mediadispatch;
@@ -154,6 +156,35 @@ QVariant ProgramTableModel::headerData(int section, Qt::Orientation orientation,
     default:
         return QVariant();
     }
+}
+
+Qt::ItemFlags ProgramTableModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return index.isValid() ? flags | Qt::ItemIsDragEnabled : flags;
+}
+
+QStringList ProgramTableModel::mimeTypes() const
+{
+    return {programdrag::mimeType()};
+}
+
+QMimeData* ProgramTableModel::mimeData(const QModelIndexList& indexes) const
+{
+    std::set<int> rows;
+    for (const QModelIndex& index : indexes) {
+        rows.insert(index.row());
+    }
+    std::vector<int> programs;
+    for (const int row : rows) {
+        programs.push_back(index(row, 0).data(ProgramIndexRole).toInt());
+    }
+    return programdrag::make(programs);
+}
+
+Qt::DropActions ProgramTableModel::supportedDragActions() const
+{
+    return Qt::CopyAction;
 }
 
 void ProgramTableModel::reload()

@@ -28,6 +28,11 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation,
                         int role = Qt::DisplayRole) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QStringList mimeTypes() const override;
+    /// The programs of the rows, each once, in the order of the rows; see ProgramDrag.
+    QMimeData* mimeData(const QModelIndexList& indexes) const override;
+    Qt::DropActions supportedDragActions() const override;
 
     /// Takes over the catalogue as it stands in the service now. Selections stay where the programs
     /// are the same and only tell something else of themselves, such as that their file has gone.
