@@ -68,6 +68,7 @@ install_headers(schedulecontract src/libs/trelprogramschedulewidgets
   service/FixedText.h
   service/InvalidEntries.h
   service/NewPlan.h
+  service/PlanCollisions.h
   service/PlanConflicts.h
   service/PlanFaults.h
   service/PlanInsertion.h

@@ -8,6 +8,7 @@
 #include <service/FixedText.h>
 #include <service/InvalidEntries.h>
 #include <service/NewPlan.h>
+#include <service/PlanCollisions.h>
 #include <service/PlanConflicts.h>
 #include <service/PlanFaults.h>
 #include <service/PlanInsertion.h>
@@ -76,9 +77,9 @@ int main()
                  &ProgramVerdict::plays, &Clock::current, &ClockAlarm::set, &ScreenTimeline::at,
                  &tessark::trans::Translator::load);
     const bool areFunctionsThere = areThere(
-        &addDuration, &allTaskOverlaps, &buryInvalidEntry, &clockChanges, &collidingClaims,
-        &completeNewPlan, &containsNoDuration, &countsRuns, &dateFromText, &dateToText, &digitsAt,
-        &englishClause, &englishSentence,
+        &addDuration, &allTaskOverlaps, &buryInvalidEntry, &clockChanges, &claimsCollide,
+        &collidingClaims, &collisionsOf, &firstCollisions, &completeNewPlan, &containsNoDuration,
+        &countsRuns, &dateFromText, &dateToText, &digitsAt, &englishClause, &englishSentence,
         static_cast<QString (*)(const StoreResult&)>(&englishText),
         static_cast<QString (*)(const ScheduleFromJson&)>(&englishText), &exceedsDay, &faultName,
         &faultOfVersionTexts, &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm,
