@@ -2,8 +2,10 @@
 
 #include "PlanTaskWidget.h"
 #include "card/AnswerCatalogue.h"
+#include "card/CardFields.h"
 #include "card/CardPlace.h"
 #include "card/EditorInUse.h"
+#include "card/PlanColumns.h"
 #include "clock/Clock.h"
 #include "initProcess.h"
 #include "service/NextId.h"
@@ -11,8 +13,10 @@
 #include "toolkit/NewWidgets.h"
 
 #include <QCoreApplication>
+#include <QItemSelectionModel>
 #include <QScrollArea>
 #include <QShowEvent>
+#include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -24,6 +28,7 @@
 using trel::mediadispatch::AnswerCatalogue;
 using trel::mediadispatch::CardPlace;
 using trel::mediadispatch::Clock;
+using trel::mediadispatch::fieldNear;
 using trel::mediadispatch::idAfter;
 using trel::mediadispatch::initProcess;
 using trel::mediadispatch::kDateFormat;
@@ -31,6 +36,8 @@ using trel::mediadispatch::paintAsAWhole;
 using trel::mediadispatch::PlanTaskWidget;
 using trel::mediadispatch::scheduleManage;
 using trel::mediadispatch::scrollIntoSight;
+using trel::mediadispatch::StartTimeColumn;
+using trel::mediadispatch::tableOf;
 using trel::mediadispatch::takeOverTyping;
 
 namespace {
@@ -115,6 +122,12 @@ QList<PlanTaskWidget*> PlanList::cards() const
         }
     }
     return cards;
+}
+
+bool PlanList::hasPlan(int taskId, int planId) const
+{
+    const PlanTaskWidget* const card = m_taskWidgets.value(taskId);
+    return m_areCardsDue || (card && card->rowOfPlan(planId) >= 0);
 }
 
 bool PlanList::mayAdd() const
@@ -273,8 +286,12 @@ void PlanList::refreshPlanList()
     if (self) {
         slotCloseProcess();
     }
-    if (self) {
-        m_refreshing = false;
+    if (!self) {
+        return;
+    }
+    m_refreshing = false;
+    if (const auto plan = std::exchange(m_planDue, std::nullopt)) {
+        slotShowPlan(plan->first, plan->second);
     }
 }
 
@@ -445,4 +462,46 @@ void PlanList::dropCard(int taskId)
     if (self) {
         scrollToPlace();
     }
+}
+
+void PlanList::slotShowPlan(int taskId, int planId)
+{
+    if (m_areCardsDue) {
+        m_planDue.emplace(taskId, planId);
+        return;
+    }
+    if (hasPlan(taskId, planId)) {
+        PlanTaskWidget& card = *m_taskWidgets.value(taskId);
+        showPlan(card, card.rowOfPlan(planId));
+    }
+}
+
+void PlanList::showPlan(PlanTaskWidget& card, int row)
+{
+    const QPointer<PlanTaskWidget> shown = &card;
+    card.setFolded(false);
+    if (!shown) {
+        return;
+    }
+    mark(card, row);
+    m_newCard = &card;
+    scrollToPlace();
+    QTableView& table = *tableOf(card);
+    table.scrollTo(table.model()->index(row, 0));
+    // Last: the field that loses the focus may raise a prompt, in which everything may go.
+    if (QWidget* const field = fieldNear(table, row, StartTimeColumn)) {
+        field->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void PlanList::mark(PlanTaskWidget& card, int row)
+{
+    if (m_marked && m_marked != &card) {
+        tableOf(*m_marked)->clearSelection();
+    }
+    m_marked = &card;
+    const QTableView& table = *tableOf(card);
+    // Not made the current one: a cell that becomes current is edited.
+    table.selectionModel()->select(table.model()->index(row, 0),
+                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <utility>
 
 class QScrollArea;
 class QVBoxLayout;
@@ -40,6 +41,8 @@ public:
 
     /// The cards as they stand, from the top. The list owns them.
     QList<trel::mediadispatch::PlanTaskWidget*> cards() const;
+    /// Whether there is a row of that plan to be shown; also when a rebuild has yet to tell.
+    bool hasPlan(int taskId, int planId) const;
 
 signals:
     /// A rebuild begins; no task can be added until sigCloseProcess.
@@ -83,6 +86,12 @@ public slots:
     /// of the service or a signal of the card. Does nothing while a rebuild has its cards still to
     /// make, which are those of the stored set then.
     void slotShowTask(int taskId);
+    /// Unfolds the card of a task, brings it and the row of one of its plans into sight, marks that
+    /// row and gives the focus to the field of its start; as soon as the list is in sight
+    /// itself. The mark is the selection of the table, and that of the former call goes. Does
+    /// nothing when there is no such card or row. While a rebuild has its cards still to make it
+    /// waits for the end of it; the last call counts.
+    void slotShowPlan(int taskId, int planId);
 
 protected:
     bool event(QEvent* event) override;
@@ -105,6 +114,8 @@ private:
     void addCard(const PlayTask& task, bool folded, PlanTaskWidget* before = nullptr);
     void showCard(const PlayTask& task);
     void dropCard(int taskId);
+    void showPlan(PlanTaskWidget& card, int row);
+    void mark(PlanTaskWidget& card, int row);
     void takeOutOfLayout(PlanTaskWidget& card);
     void destroyCard(int taskId);
     void forgetDestroyedCard(int taskId, const QObject* card);
@@ -119,4 +130,7 @@ private:
     /// Where to scroll when the list is in sight again, and the card that has to come into sight.
     std::optional<trel::mediadispatch::ScrollPlace> m_place;
     QPointer<QWidget> m_newCard;
+    /// A task and its plan, to be shown once there are cards again.
+    std::optional<std::pair<int, int>> m_planDue;
+    QPointer<PlanTaskWidget> m_marked; ///< The card with the row that was shown last.
 };

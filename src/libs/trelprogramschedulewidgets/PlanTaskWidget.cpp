@@ -216,6 +216,12 @@ bool PlanTaskWidget::isFolded() const
     return m_ui->title->isChecked();
 }
 
+int PlanTaskWidget::rowOfPlan(int planId) const
+{
+    const auto found = m_rowByPlanId.find(planId);
+    return found == m_rowByPlanId.end() ? -1 : found->second;
+}
+
 void PlanTaskWidget::slotFold(bool isFold)
 {
     const EditorInUse inUse;

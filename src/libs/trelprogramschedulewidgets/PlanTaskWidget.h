@@ -65,6 +65,8 @@ public:
     /// Shows the title alone, or the whole card.
     void setFolded(bool folded);
     bool isFolded() const;
+    /// The row of the first plan with an id; -1 when there is none. Builds no rows.
+    int rowOfPlan(int planId) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;

@@ -14,6 +14,8 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <map>
 #include <memory>
 
 namespace trel::mediadispatch {
@@ -41,6 +43,15 @@ scheduleControlUI* editorInTheWay(const scheduleControlUI* of)
 {
     scheduleControlUI* const last = editorInWork();
     return last != of && last != nullptr && last->isVisible() ? last : nullptr;
+}
+
+bool isStored(int taskId, int planId)
+{
+    const std::map<int, PlayTask> stored = scheduleManage::getInstance().getgTaskMap();
+    const auto task = stored.find(taskId);
+    return task != stored.end() &&
+           std::any_of(task->second.plans.begin(), task->second.plans.end(),
+                       [planId](const PlayPlan& plan) { return plan.id == planId; });
 }
 
 } // namespace
@@ -164,6 +175,13 @@ bool scheduleControlUI::isLocked() const
     return elapsed < kShowLockMSecs;
 }
 
+void scheduleControlUI::bringToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+}
+
 void scheduleControlUI::slotShow(bool bUpdatePlanList)
 {
     if (isLocked()) {
@@ -171,9 +189,7 @@ void scheduleControlUI::slotShow(bool bUpdatePlanList)
     }
     if (scheduleControlUI* const other = editorInTheWay(this)) {
         qWarning("A schedule editor is not shown, as another one of this process is open.");
-        other->setWindowState(other->windowState() & ~Qt::WindowMinimized);
-        other->raise();
-        other->activateWindow();
+        other->bringToFront();
         return;
     }
     // Pending events are handled while the list is built.
@@ -205,6 +221,36 @@ void scheduleControlUI::slotShowTask(int taskId)
         other->slotShowTask(taskId);
     } else if (m_centerWidget && m_centerWidget->planList()) {
         m_centerWidget->planList()->slotShowTask(taskId);
+    }
+}
+
+void scheduleControlUI::slotShowPlan(int taskId, int planId)
+{
+    if (scheduleControlUI* const other = editorInTheWay(this)) {
+        other->slotShowPlan(taskId, planId);
+        return;
+    }
+    // Pending events are handled while the list is built.
+    const QPointer<scheduleControlUI> self(this);
+    const QPointer<PlanList> list = m_centerWidget ? m_centerWidget->planList() : nullptr;
+    if (!list) {
+        return;
+    }
+    if (isVisible()) {
+        if (!list->hasPlan(taskId, planId)) {
+            return;
+        }
+        bringToFront();
+    } else {
+        // The cards will be those of the stored set.
+        if (isLocked() || !isStored(taskId, planId)) {
+            return;
+        }
+        slotShow();
+    }
+    if (self && isVisible() && list) {
+        activateWindow();
+        list->slotShowPlan(taskId, planId);
     }
 }
 

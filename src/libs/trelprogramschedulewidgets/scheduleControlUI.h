@@ -89,6 +89,21 @@ public Q_SLOTS:
     /// hidden as well; while the list is being read again it does nothing, as there is nothing left
     /// to do.
     void slotShowTask(int taskId);
+    /// Leads the operator to one plan: its card is unfolded and in sight, its row in the table as
+    /// well, and marked by being selected, which the row of the former call is no more. The field
+    /// of its start has the focus, or else another one of the row; what is half typed elsewhere is
+    /// taken over, as always when a field loses the focus.
+    ///
+    /// A hidden editor is shown for it as by slotShow(): it reads the stored schedule again, and it
+    /// stays hidden in the second in which slotShow() shows nothing. A visible one is raised, and
+    /// brought back if it is minimized; it keeps what is not saved. Does nothing, and shows
+    /// nothing, when a visible editor has no such row, or the stored schedule no such plan for a
+    /// hidden one. Of plans that share an id it is the first.
+    ///
+    /// Works while a prompt stands over the editor, and behind it. While the list is being read
+    /// again it waits until that is done; of several such calls the last one counts. To be called
+    /// from no call of the service.
+    void slotShowPlan(int taskId, int planId);
 
 protected:
     /// Escape is left to the parent of the window: it never closes a schedule in work.
@@ -97,6 +112,7 @@ protected:
 private:
     void connectAll();
     bool isLocked() const;
+    void bringToFront();
 
     QMenu m_menu;
     // The frame brings the title bar of the window; this place for another stays empty.

@@ -58,7 +58,8 @@ void tst_PlanList::declaresItsMethodsInOrder()
     QCOMPARE(ownMethods(PlanList::staticMetaObject, QMetaMethod::Slot).join(QLatin1Char(' ')),
              QStringLiteral("slotAddOutput() slotDeleteTask(int) slotCopyTask(int) "
                             "slotShowProcess() slotCloseProcess() refreshPlanList() "
-                            "slotclearPlanList() slotShowTask(int)"));
+                            "slotclearPlanList() slotShowTask(int) "
+                            "slotShowPlan(int,int)"));
 }
 
 void tst_PlanList::firstTaskOfAnEmptySchedule()

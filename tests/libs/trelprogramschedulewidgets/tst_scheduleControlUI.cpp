@@ -69,7 +69,7 @@ void tst_scheduleControlUI::declaresItsMethodsInOrder()
         QStringLiteral("signalUpdatePlanList() sigclearPlanList() signalTranslationByQz7(int)"));
     QCOMPARE(ownMethods(metaObject, QMetaMethod::Slot).join(QLatin1Char(' ')),
              QStringLiteral("slotCancel() slotSave() slotStart() slotShow(bool) slotShow() "
-                            "slotShowTask(int)"));
+                            "slotShowTask(int) slotShowPlan(int,int)"));
 }
 
 void tst_scheduleControlUI::holdsThePanelAlone()

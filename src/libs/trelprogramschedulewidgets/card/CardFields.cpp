@@ -1,5 +1,6 @@
 #include "CardFields.h"
 
+#include "PlanColumns.h"
 #include "PlanTaskWidget.h"
 
 #include <QPushButton>
@@ -30,6 +31,15 @@ QWidget* fieldIn(const QTableView& table, int row, int column)
         }
     }
     return nullptr;
+}
+
+QWidget* fieldNear(const QTableView& table, int row, int column)
+{
+    QWidget* field = fieldIn(table, row, column);
+    for (int other = ModeColumn; !field && other <= EndActionColumn; ++other) {
+        field = fieldIn(table, row, other);
+    }
+    return field;
 }
 
 } // namespace trel::mediadispatch

@@ -14,5 +14,7 @@ QPushButton* barOf(const PlanTaskWidget& card);
 QTableView* tableOf(const PlanTaskWidget& card);
 /// The widget in a cell that Tab reaches and that can be worked now; null where there is none.
 QWidget* fieldIn(const QTableView& table, int row, int column);
+/// That one, or else the first such widget of the row; null where the row has none.
+QWidget* fieldNear(const QTableView& table, int row, int column);
 
 } // namespace trel::mediadispatch

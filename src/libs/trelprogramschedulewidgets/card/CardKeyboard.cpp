@@ -287,12 +287,7 @@ void CardKeyboard::giveFocus(QWidget& field)
 
 void CardKeyboard::focusCell(const QTableView& table, int row, int column)
 {
-    constexpr int kFirst = ModeColumn;
-    QWidget* field = fieldIn(table, row, column);
-    for (int other = kFirst; !field && other <= EndActionColumn; ++other) {
-        field = fieldIn(table, row, other);
-    }
-    if (field) {
+    if (QWidget* const field = fieldNear(table, row, column)) {
         giveFocus(*field);
     }
 }
