@@ -1643,6 +1643,16 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <comment>a step</comment>
         <translation>%1 (gespeichert)</translation>
     </message>
+    <message>
+        <source>%1 (saved; editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1 (gespeichert; Editor geöffnet)</translation>
+    </message>
+    <message>
+        <source>%1 (editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1 (Editor geöffnet)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryDock</name>

@@ -1643,6 +1643,16 @@ What do you want to do with your changes?</source>
         <comment>a step</comment>
         <translation>%1 (guardado)</translation>
     </message>
+    <message>
+        <source>%1 (saved; editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1 (guardado; editor abierto)</translation>
+    </message>
+    <message>
+        <source>%1 (editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1 (editor abierto)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryDock</name>

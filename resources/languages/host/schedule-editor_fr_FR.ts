@@ -1643,6 +1643,16 @@ Que faire de vos modifications&#xa0;?</translation>
         <comment>a step</comment>
         <translation>%1 (enregistré)</translation>
     </message>
+    <message>
+        <source>%1 (saved; editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1 (enregistré ; éditeur ouvert)</translation>
+    </message>
+    <message>
+        <source>%1 (editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1 (éditeur ouvert)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryDock</name>

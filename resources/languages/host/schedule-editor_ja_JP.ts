@@ -1619,6 +1619,16 @@ What do you want to do with your changes?</source>
         <comment>a step</comment>
         <translation>%1（保存済み）</translation>
     </message>
+    <message>
+        <source>%1 (saved; editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1（保存済み、エディターを開いた時点）</translation>
+    </message>
+    <message>
+        <source>%1 (editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1（エディターを開いた時点）</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryDock</name>

@@ -1643,6 +1643,16 @@ O que deseja fazer com as alterações?</translation>
         <comment>a step</comment>
         <translation>%1 (salvo)</translation>
     </message>
+    <message>
+        <source>%1 (saved; editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1 (salvo; editor aberto)</translation>
+    </message>
+    <message>
+        <source>%1 (editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1 (editor aberto)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryDock</name>

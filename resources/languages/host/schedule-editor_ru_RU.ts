@@ -1667,6 +1667,16 @@ What do you want to do with your changes?</source>
         <comment>a step</comment>
         <translation>%1 (сохранено)</translation>
     </message>
+    <message>
+        <source>%1 (saved; editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1 (сохранено; редактор открыт)</translation>
+    </message>
+    <message>
+        <source>%1 (editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1 (редактор открыт)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryDock</name>

@@ -1619,6 +1619,16 @@ What do you want to do with your changes?</source>
         <comment>a step</comment>
         <translation>%1（已保存）</translation>
     </message>
+    <message>
+        <source>%1 (saved; editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1（已保存，打开编辑器时）</translation>
+    </message>
+    <message>
+        <source>%1 (editor opened)</source>
+        <comment>a step</comment>
+        <translation>%1（打开编辑器时）</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryDock</name>

@@ -4,11 +4,13 @@
 
 namespace trel::desktop::undo {
 
-EditCommand::EditCommand(Put put, TaskEdits edits, const EditedField& field, int number)
+EditCommand::EditCommand(Put put, TaskEdits edits, const EditedField& field, int number,
+                         Joined joined)
     : m_put(std::move(put))
     , m_edits(std::move(edits))
     , m_field(field)
     , m_number(number)
+    , m_joined(joined)
 {}
 
 void EditCommand::undo()
@@ -39,7 +41,7 @@ bool EditCommand::mergeWith(const QUndoCommand* next)
 {
     // All commands of the history are of this class.
     const auto& later = static_cast<const EditCommand&>(*next);
-    if (!(later.m_field == m_field)) {
+    if (later.m_joined == Joined::Never || !(later.m_field == m_field)) {
         return false;
     }
     m_edits.front().after = later.m_edits.front().after;

@@ -17,8 +17,11 @@ public:
     /// Files a state of a task, or takes the task out.
     using Put = std::function<void(int taskId, const follow::SharedTask& task)>;
 
+    /// Whether a step is one with that before it.
+    enum class Joined { ToSameField, Never };
+
     /// The number tells it from all others of the history. What put refers to outlives the command.
-    EditCommand(Put put, TaskEdits edits, const EditedField& field, int number);
+    EditCommand(Put put, TaskEdits edits, const EditedField& field, int number, Joined joined);
 
     const EditedField& field() const { return m_field; }
     const TaskEdits& edits() const { return m_edits; }
@@ -34,6 +37,7 @@ private:
     TaskEdits m_edits;
     EditedField m_field;
     int m_number;
+    Joined m_joined;
     bool m_isDone = true; ///< The stack asks for it once more when it takes the command.
 };
 

@@ -55,6 +55,7 @@ EditHistory::EditHistory(follow::EditedSchedule& edited, scheduleControlUI& edit
         m_isReadAgain = true;
         catchUp();
         m_isReadAgain = false;
+        m_openedNow.reset();
     });
     connect(&ScheduleHost::instance(), &ScheduleHost::catalogueChanged, this,
             [this] { ++m_catalogue; });
@@ -79,6 +80,8 @@ void EditHistory::clear()
         m_known.emplace_hint(m_known.end(), id, std::make_shared<const PlayTask>(task));
     }
     m_saved = {0};
+    m_opened.clear();
+    m_openedNow.reset();
     m_lastNumber = 0;
     m_stack.clear();
     emit changed();
@@ -95,9 +98,19 @@ QString EditHistory::name(int step) const
     return EditWords::name(command.field(), command.edits());
 }
 
+int EditHistory::stateNumber(int steps) const
+{
+    return steps == 0 ? 0 : step(steps - 1).number();
+}
+
 bool EditHistory::isSaved(int steps) const
 {
-    return m_saved.count(steps == 0 ? 0 : step(steps - 1).number()) > 0;
+    return m_saved.count(stateNumber(steps)) > 0;
+}
+
+bool EditHistory::isOpened(int steps) const
+{
+    return m_opened.count(stateNumber(steps)) > 0;
 }
 
 void EditHistory::take(const follow::ScheduleEdits& edits)
@@ -151,9 +164,16 @@ void EditHistory::add(TaskEdits edits)
     const auto put = [this, catalogue = m_catalogue](int taskId, const follow::SharedTask& task) {
         this->put(taskId, task, catalogue);
     };
-    m_stack.push(new EditCommand(put, std::move(edits), field, ++m_lastNumber));
+    // What has a mark stays the state that it was.
+    const auto joined = isSaved(index()) || isOpened(index()) ? EditCommand::Joined::Never
+                                                              : EditCommand::Joined::ToSameField;
+    m_stack.push(new EditCommand(put, std::move(edits), field, ++m_lastNumber, joined));
     if (m_isReadAgain) {
         markSaved();
+        if (m_openedNow) {
+            m_opened.erase(*m_openedNow);
+            markOpened();
+        }
     }
 }
 
@@ -163,9 +183,17 @@ void EditHistory::markSaved()
     if (ScheduleHost::instance().hasUnsavedChanges()) {
         return;
     }
-    m_saved.insert(index() == 0 ? 0 : step(index() - 1).number());
-    // What comes next is not joined with what was saved.
-    m_stack.setClean();
+    m_saved.insert(stateNumber(index()));
+    emit changed();
+}
+
+void EditHistory::markOpened()
+{
+    const int state = stateNumber(index());
+    m_openedNow.reset();
+    if (m_opened.insert(state).second) {
+        m_openedNow = state;
+    }
     emit changed();
 }
 
@@ -261,6 +289,9 @@ bool EditHistory::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == &m_editor && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
         setAtWork(event->type() == QEvent::Show);
+        if (event->type() == QEvent::Show && !event->spontaneous()) {
+            markOpened();
+        }
     }
     if (event->type() == QEvent::ShortcutOverride && watched == m_field &&
         isOfHistory(*static_cast<QKeyEvent*>(event))) {

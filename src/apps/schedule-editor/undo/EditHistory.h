@@ -8,6 +8,7 @@
 #include <QUndoStack>
 
 #include <map>
+#include <optional>
 #include <set>
 
 class QWidget;
@@ -27,8 +28,8 @@ namespace undo {
 class EditCommand;
 
 /// Every step of the operator that reached the working set since the store was opened, to be taken
-/// back and done again. A save, and a list that is read again and drops what was not saved, are
-/// steps on the way and not its end.
+/// back and done again. That the editor was opened, a save, and a list that is read again and drops
+/// what was not saved, are marks on the way and not its end.
 ///
 /// A step is what one turn of the event loop brought. Nothing is taken back while the editor is
 /// hidden, as its edits go when it is next shown, nor while a prompt stands over it. What is half
@@ -57,6 +58,8 @@ public:
     QString name(int step) const;
     /// Whether what is saved, now or at some time since, is what stood after so many steps.
     bool isSaved(int steps) const;
+    /// Whether the editor was opened when so many steps were done.
+    bool isOpened(int steps) const;
 
     /// Takes back the last step that is done, or does the first that is not. Nothing where there is
     /// none.
@@ -82,6 +85,9 @@ private:
     void catchUp();
     void add(TaskEdits edits);
     void markSaved();
+    void markOpened();
+    /// What tells the state after so many steps from all others; 0 is the start.
+    int stateNumber(int steps) const;
     /// Takes in what is half typed. False when nothing can be taken back now.
     bool begin();
     void leaveKeysTo(QWidget* field);
@@ -93,7 +99,10 @@ private:
     /// The working set after the last step that is known.
     std::map<int, follow::SharedTask> m_known;
     std::set<int> m_due;         ///< Tasks that have been put, but not shown.
-    std::set<int> m_saved = {0}; ///< Numbers of steps after which it was saved; 0 for the start.
+    std::set<int> m_saved = {0}; ///< The numbers of the states that were saved.
+    std::set<int> m_opened;      ///< Those that the editor was opened with.
+    /// The one that it was opened with just now, before its list is read again.
+    std::optional<int> m_openedNow;
     int m_lastNumber = 0;
     int m_catalogue = 0; ///< Counts the changes of the catalog.
     bool m_isAtWork = false;

@@ -47,7 +47,12 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const
 QString HistoryModel::text(int steps) const
 {
     const QString name = steps == 0 ? tr("Start") : m_history.name(steps - 1);
-    return m_history.isSaved(steps) ? tr("%1 (saved)", "a step").arg(name) : name;
+    const bool isSaved = m_history.isSaved(steps);
+    if (m_history.isOpened(steps)) {
+        return isSaved ? tr("%1 (saved; editor opened)", "a step").arg(name)
+                       : tr("%1 (editor opened)", "a step").arg(name);
+    }
+    return isSaved ? tr("%1 (saved)", "a step").arg(name) : name;
 }
 
 void HistoryModel::update()

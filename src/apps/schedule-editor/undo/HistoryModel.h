@@ -7,7 +7,7 @@ namespace trel::desktop::undo {
 class EditHistory;
 
 /// The states that the operator has been through, the first on top: how it was in the beginning,
-/// and after each step. Saved ones say so.
+/// and after each step. Those that were saved, or that the editor was opened with, say so.
 class HistoryModel : public QAbstractListModel
 {
     Q_OBJECT

@@ -139,6 +139,8 @@ private slots:
     void joinsWhatIsTypedIntoOneField();
     void forgetsWhatIsTypedBack();
     void keepsSavesApart();
+    void keepsEverySavedStateApart();
+    void marksThatTheEditorWasOpened();
     void goesBackBehindASave();
     void namesTheStepInTheMenu();
     void bringsADeletedTaskBack();
@@ -163,7 +165,7 @@ void tst_EditHistory::beginsEmpty()
     QVERIFY(!desk.undo().isEnabled());
     QVERIFY(!desk.redo().isEnabled());
     QCOMPARE(desk.undo().text(), QStringLiteral("&Undo"));
-    QCOMPARE(desk.steps(), QStringList({QStringLiteral("Start (saved)")}));
+    QCOMPARE(desk.steps(), QStringList({QStringLiteral("Start (saved; editor opened)")}));
     QVERIFY(!desk.host.hasUnsavedChanges());
 }
 
@@ -195,7 +197,7 @@ void tst_EditHistory::joinsWhatIsTypedIntoOneField()
     desk.card(0).type(desk.card(0).startTime(3), "15:20:30");
     desk.card(0).choose(desk.card(0).endAction(3), 1);
     QCOMPARE(desk.steps(),
-             QStringList({QStringLiteral("Start (saved)"),
+             QStringList({QStringLiteral("Start (saved; editor opened)"),
                           QStringLiteral("Task 1, plan 4: start 13:30:00 → 15:20:30"),
                           QStringLiteral("Task 1, plan 4: the last frame at the end")}));
     desk.pressUndo();
@@ -220,9 +222,52 @@ void tst_EditHistory::keepsSavesApart()
     QVERIFY(desk.host.trySave());
     desk.card(0).type(desk.card(0).endTime(3), "16:00:00");
     QTRY_COMPARE(desk.steps(),
-                 QStringList({QStringLiteral("Start (saved)"),
+                 QStringList({QStringLiteral("Start (saved; editor opened)"),
                               QStringLiteral("Task 1, plan 4: end 18:00:00 → 17:00:00 (saved)"),
                               QStringLiteral("Task 1, plan 4: end 17:00:00 → 16:00:00")}));
+}
+
+// Also one that was saved before another one was.
+void tst_EditHistory::keepsEverySavedStateApart()
+{
+    const Desk desk;
+    desk.card(0).type(desk.card(0).endTime(3), "17:00:00");
+    QVERIFY(desk.host.trySave());
+    desk.pressUndo();
+    QVERIFY(desk.host.trySave());
+    desk.pressRedo();
+    desk.card(0).type(desk.card(0).endTime(3), "16:00:00");
+    QTRY_COMPARE(desk.steps(),
+                 QStringList({QStringLiteral("Start (saved; editor opened)"),
+                              QStringLiteral("Task 1, plan 4: end 18:00:00 → 17:00:00 (saved)"),
+                              QStringLiteral("Task 1, plan 4: end 17:00:00 → 16:00:00")}));
+}
+
+void tst_EditHistory::marksThatTheEditorWasOpened()
+{
+    const Desk desk;
+    desk.card(0).type(desk.card(0).endTime(3), "17:00:00");
+    desk.EditorRun::press("pushButtonSave");
+    QVERIFY(!desk.editor->isVisible());
+    const QString former = QStringLiteral("Task 1, plan 4: end 18:00:00 → 17:00:00 (saved");
+    QCOMPARE(desk.lastStep(), former + QLatin1Char(')'));
+    desk.editor->show();
+    desk.editor->clearAndInitialize();
+    QCOMPARE(desk.lastStep(), former + QStringLiteral("; editor opened)"));
+    // What was dropped meanwhile is a step of its own, and the editor begins behind it.
+    desk.card(0).toggleFold();
+    desk.card(0).choose(desk.card(0).endAction(3), 1);
+    desk.EditorRun::press("pushButtonClose");
+    desk.editor->show();
+    desk.editor->clearAndInitialize();
+    QCOMPARE(desk.steps().mid(2),
+             QStringList({QStringLiteral("Task 1, plan 4: the last frame at the end"),
+                          QStringLiteral("Back to what is saved (saved; editor opened)")}));
+    // A list that is read again while it is open is no start of the editor.
+    desk.card(0).toggleFold();
+    desk.card(0).choose(desk.card(0).endAction(3), 1);
+    desk.editor->clearAndInitialize();
+    QCOMPARE(desk.lastStep(), QStringLiteral("Back to what is saved (saved)"));
 }
 
 void tst_EditHistory::goesBackBehindASave()
@@ -306,7 +351,7 @@ void tst_EditHistory::bringsBackWhatCancelDropped()
     desk.editor->show();
     desk.editor->clearAndInitialize();
     QVERIFY(!desk.host.hasUnsavedChanges());
-    QCOMPARE(desk.lastStep(), QStringLiteral("Back to what is saved (saved)"));
+    QCOMPARE(desk.lastStep(), QStringLiteral("Back to what is saved (saved; editor opened)"));
     desk.undo().trigger();
     QCOMPARE(recordsOf(desk.working()), edited);
     desk.undo().trigger();
@@ -323,7 +368,7 @@ void tst_EditHistory::aNewStepEndsWhatWasTakenBack()
     desk.pressUndo();
     QCOMPARE(desk.steps().filter(QStringLiteral("(undone)")).size(), 2);
     desk.card(0).copy(0);
-    QTRY_COMPARE(desk.steps(), QStringList({QStringLiteral("Start (saved)"),
+    QTRY_COMPARE(desk.steps(), QStringList({QStringLiteral("Start (saved; editor opened)"),
                                             QStringLiteral("Task 1, plan 6 added")}));
     QVERIFY(!desk.redo().isEnabled());
 }
@@ -359,14 +404,16 @@ void tst_EditHistory::waitsForThePromptAndTheEditor()
 {
     const Desk desk;
     desk.card(0).type(desk.card(0).endTime(3), "17:00:00");
+    std::string end;
     const OnPrompt onPrompt([&](QWidget& prompt) {
         desk.undo().trigger();
-        QCOMPARE(desk.manager.getTask(1).plans.at(3).endTime, std::string("17:00:00"));
+        end = desk.manager.getTask(1).plans.at(3).endTime;
         QTest::mouseClick(prompt.findChild<QPushButton*>(QStringLiteral("tipButton2")),
                           Qt::LeftButton);
     });
     desk.card(0).remove(2);
     QVERIFY(onPrompt.hasRun);
+    QCOMPARE(end, std::string("17:00:00"));
     desk.editor->hide();
     QVERIFY(!desk.undo().isEnabled());
     QVERIFY(!desk.list().isEnabled());
@@ -410,14 +457,16 @@ void tst_EditHistory::leavesTheChooserItsKeys()
 {
     const Desk desk;
     desk.card(0).type(desk.card(0).endTime(3), "17:00:00");
+    std::string end;
     const OnPrompt onPrompt([&](QWidget& chooser) {
         QTest::keyClick(chooser.windowHandle(), Qt::Key_Z, Qt::ControlModifier);
         QTest::keyClick(desk.editor->windowHandle(), Qt::Key_Z, Qt::ControlModifier);
-        QCOMPARE(desk.manager.getTask(1).plans.at(3).endTime, std::string("17:00:00"));
+        end = desk.manager.getTask(1).plans.at(3).endTime;
         chooser.close();
     });
     desk.card(0).openChooser(0);
     QVERIFY(onPrompt.hasRun);
+    QCOMPARE(end, std::string("17:00:00"));
     QVERIFY(desk.undo().isEnabled());
 }
 

@@ -12,12 +12,18 @@ using namespace trel::mediadispatch;
 namespace {
 
 constexpr unsigned kSeed = 20260101;
-constexpr int kStops = 40;
 constexpr int kLongestLife = 800;
 /// How old an edit may be that is not on the disk yet.
 constexpr qint64 kMostLost = 250;
-/// A machine that does much else may keep a disk, or the walk itself, waiting.
-constexpr int kMostLate = kStops / 20;
+/// A machine that does much else may keep a disk, or the walk itself, waiting: one in so many.
+constexpr int kLateOnceIn = 20;
+
+/// How many programs are killed. More by hand, with TREL_WALK_KILLS; see docs/testing.md.
+int stops()
+{
+    const int asked = qEnvironmentVariableIntValue("TREL_WALK_KILLS");
+    return asked > 0 ? asked : 40;
+}
 
 /// What a program that was killed told before.
 struct Told
@@ -111,9 +117,10 @@ void tst_DraftSurvival::killedAtAnyMoment()
     store.save(draftWalkStart());
     DraftJournal reader(QStringLiteral("walker"));
     std::mt19937 random(kSeed);
+    const int asked = stops();
     int late = 0;
     int drafts = 0;
-    for (int stop = 0; stop < kStops; ++stop) {
+    for (int stop = 0; stop < asked; ++stop) {
         const int life = 1 + static_cast<int>(random() % kLongestLife);
         const unsigned seed = kSeed + static_cast<unsigned>(stop);
         QProcess child;
@@ -143,8 +150,9 @@ void tst_DraftSurvival::killedAtAnyMoment()
             QVERIFY(removeLeftDraft(left.front()));
         }
     }
-    QVERIFY2(late <= kMostLate, qPrintable(QString::number(late)));
-    QVERIFY2(drafts > kStops / 2, qPrintable(QString::number(drafts)));
+    qInfo("%d killed, %d drafts, %d late", asked, drafts, late);
+    QVERIFY2(late <= std::max(1, asked / kLateOnceIn), qPrintable(QString::number(late)));
+    QVERIFY2(drafts > asked / 2, qPrintable(QString::number(drafts)));
 }
 
 QTEST_GUILESS_MAIN(tst_DraftSurvival)
