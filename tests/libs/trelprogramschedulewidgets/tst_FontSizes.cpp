@@ -100,12 +100,18 @@ QStringList badlyCut(const QWidget& window)
     return faults;
 }
 
-/// A field in which one types shows no dots.
+/// A field in which one types scrolls while it has the focus.
 void lookAtField(QAbstractSpinBox& field)
 {
-    const auto* const line = field.findChild<QLineEdit*>();
+    auto* const line = field.findChild<QLineEdit*>();
     const bool isWhole = field.fontMetrics().horizontalAdvance(field.text()) + 4 <= line->width();
-    QCOMPARE(tipAt(field, line->geometry().center()), isWhole ? QString() : field.text());
+    const QString tip = tipAt(field, line->geometry().center());
+    QCOMPARE(tip, isWhole ? QString() : field.text());
+    QCOMPARE(paintedBy(*line).contains(field.text()), isWhole || field.hasFocus());
+    if (!field.hasFocus()) {
+        const QString found = fault(paintedBy(*line), field.text(), tip);
+        QVERIFY2(found.isEmpty(), qPrintable(found));
+    }
 }
 
 /// The widths of the columns and the sizes of the boxes in them are fixed in pixels.
@@ -177,7 +183,7 @@ void lookAtHeader(SHeaderView& header)
 /// Texts in fonts of 10 to 20 pixels: nothing is cut but what a fixed width forces, and that with
 /// dots and a tool tip.
 ///
-/// What is typed scrolls in the fields of dates, times and counts, which have the tool tip alone.
+/// What is typed scrolls in the fields of dates, times and counts while they have the focus.
 class tst_FontSizes : public QObject
 {
     Q_OBJECT
@@ -243,6 +249,8 @@ void tst_FontSizes::theEditor()
     QCoreApplication::processEvents();
     QCOMPARE(badlyCut(editor.dialog()).join(u'|'), QString());
     for (QDateEdit* const date : editor.card(0).findChildren<QDateEdit*>()) {
+        lookAtField(*date);
+        date->setFocus();
         lookAtField(*date);
     }
     PlanTaskWidgetInspector rows(editor.card(0));

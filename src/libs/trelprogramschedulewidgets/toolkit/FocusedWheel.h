@@ -1,5 +1,6 @@
 #pragma once
 
+#include "toolkit/CutLine.h"
 #include "trelwidgets/CutTip.h"
 
 #include <QDateEdit>
@@ -22,17 +23,27 @@ public:
         : Field(parent)
     {
         this->setFocusPolicy(Qt::StrongFocus);
+        this->lineEdit()->installEventFilter(this);
+    }
+
+    /// A value that the field has no room for ends in dots, but while it has the focus: then it
+    /// scrolls, as one types in it.
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint && watched == this->lineEdit() && !this->hasFocus() &&
+            isCut(*this->lineEdit())) {
+            paintCut(*this->lineEdit(), *this);
+            return true;
+        }
+        return Field::eventFilter(watched, event);
     }
 
 protected:
-    /// Shows the whole of a value that the field has no room for. What is typed scrolls in it, so
-    /// that there are no dots.
+    /// Shows the whole of a value that the field has no room for.
     bool event(QEvent* event) override
     {
-        constexpr int kLineMargins = 4;
         if (event->type() == QEvent::ToolTip && this->toolTip().isEmpty() &&
-            this->fontMetrics().horizontalAdvance(this->text()) + kLineMargins >
-                this->lineEdit()->width()) {
+            isCut(*this->lineEdit())) {
             widgets::showCutTip(*static_cast<QHelpEvent*>(event), *this, this->text());
             return true;
         }
