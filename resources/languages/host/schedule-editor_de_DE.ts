@@ -1740,4 +1740,138 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Später entscheiden</translation>
     </message>
 </context>
+<context>
+    <name>DifferenceWords</name>
+    <message>
+        <source>Task %1: %2</source>
+        <comment>where, and what differs</comment>
+        <translation>Auftrag %1: %2</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: %3</source>
+        <comment>where, and what differs</comment>
+        <translation>Auftrag %1, Plan %2: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>added, valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>hinzugefügt, gilt vom %1 bis %2, %n Plan</numerusform>
+            <numerusform>hinzugefügt, gilt vom %1 bis %2, %n Pläne</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>deleted, was valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>gelöscht, galt vom %1 bis %2, %n Plan</numerusform>
+            <numerusform>gelöscht, galt vom %1 bis %2, %n Pläne</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>added in row %1: %2, %3 to %4, %5</source>
+        <translation>hinzugefügt in Zeile %1: %2, %3 bis %4, %5</translation>
+    </message>
+    <message>
+        <source>deleted from row %1: %2, %3 to %4, %5</source>
+        <translation>gelöscht aus Zeile %1: %2, %3 bis %4, %5</translation>
+    </message>
+    <message>
+        <source>no programs</source>
+        <translation>keine Programme</translation>
+    </message>
+    <message>
+        <source>row %1 → %2</source>
+        <translation>Zeile %1 → %2</translation>
+    </message>
+    <message>
+        <source>“%1” added as entry %2</source>
+        <translation>„%1“ als Eintrag %2 hinzugefügt</translation>
+    </message>
+    <message>
+        <source>“%1” deleted, was entry %2</source>
+        <translation>„%1“ gelöscht, war Eintrag %2</translation>
+    </message>
+    <message>
+        <source>“%1”: entry %2 → %3</source>
+        <translation>„%1“: Eintrag %2 → %3</translation>
+    </message>
+    <message>
+        <source>“%1”, entry %2: %3</source>
+        <translation>„%1“, Eintrag %2: %3</translation>
+    </message>
+    <message>
+        <source>first day %1 → %2</source>
+        <translation>erster Tag %1 → %2</translation>
+    </message>
+    <message>
+        <source>last day %1 → %2</source>
+        <translation>letzter Tag %1 → %2</translation>
+    </message>
+    <message>
+        <source>start %1 → %2</source>
+        <translation>Beginn %1 → %2</translation>
+    </message>
+    <message>
+        <source>end %1 → %2</source>
+        <translation>Ende %1 → %2</translation>
+    </message>
+    <message>
+        <source>runs %1 → %2</source>
+        <translation>Durchläufe %1 → %2</translation>
+    </message>
+    <message>
+        <source>days %1 → %2</source>
+        <translation>Tage %1 → %2</translation>
+    </message>
+    <message>
+        <source>mode “%1” → “%2”</source>
+        <translation>Modus „%1“ → „%2“</translation>
+    </message>
+    <message>
+        <source>at the end “%1” → “%2”</source>
+        <translation>am Ende „%1“ → „%2“</translation>
+    </message>
+    <message>
+        <source>name “%1” → “%2”</source>
+        <translation>Name „%1“ → „%2“</translation>
+    </message>
+    <message>
+        <source>plays in a row %1 → %2</source>
+        <translation>Wiedergaben in Folge %1 → %2</translation>
+    </message>
+    <message>
+        <source>now has a program without a length of its own</source>
+        <translation>hat jetzt ein Programm ohne eigene Länge</translation>
+    </message>
+    <message>
+        <source>no longer has a program without a length of its own</source>
+        <translation>hat kein Programm ohne eigene Länge mehr</translation>
+    </message>
+    <message>
+        <source>now in conflict</source>
+        <translation>jetzt im Konflikt</translation>
+    </message>
+    <message>
+        <source>no longer in conflict</source>
+        <translation>nicht mehr im Konflikt</translation>
+    </message>
+    <message>
+        <source>now invalid</source>
+        <translation>jetzt ungültig</translation>
+    </message>
+    <message>
+        <source>no longer invalid</source>
+        <translation>nicht mehr ungültig</translation>
+    </message>
+    <message>
+        <source>something that the editor does not show</source>
+        <translation>etwas, das der Editor nicht anzeigt</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more differences.</source>
+        <translation>
+            <numerusform>… und %n weiterer Unterschied.</numerusform>
+            <numerusform>… und %n weitere Unterschiede.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -190,4 +190,28 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>DifferenceWords</name>
+    <message numerus="yes">
+        <source>added, valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>added, valid from %1 to %2, %n plan</numerusform>
+            <numerusform>added, valid from %1 to %2, %n plans</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>deleted, was valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>deleted, was valid from %1 to %2, %n plan</numerusform>
+            <numerusform>deleted, was valid from %1 to %2, %n plans</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more differences.</source>
+        <translation>
+            <numerusform>… and %n more difference.</numerusform>
+            <numerusform>… and %n more differences.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

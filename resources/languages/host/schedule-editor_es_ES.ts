@@ -1740,4 +1740,138 @@ What do you want to do with your changes?</source>
         <translation>Decidir más tarde</translation>
     </message>
 </context>
+<context>
+    <name>DifferenceWords</name>
+    <message>
+        <source>Task %1: %2</source>
+        <comment>where, and what differs</comment>
+        <translation>Tarea %1: %2</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: %3</source>
+        <comment>where, and what differs</comment>
+        <translation>Tarea %1, plan %2: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>added, valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>añadida, válida del %1 al %2, %n plan</numerusform>
+            <numerusform>añadida, válida del %1 al %2, %n planes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>deleted, was valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>eliminada, era válida del %1 al %2, %n plan</numerusform>
+            <numerusform>eliminada, era válida del %1 al %2, %n planes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>added in row %1: %2, %3 to %4, %5</source>
+        <translation>añadido en la fila %1: %2, de %3 a %4, %5</translation>
+    </message>
+    <message>
+        <source>deleted from row %1: %2, %3 to %4, %5</source>
+        <translation>eliminado de la fila %1: %2, de %3 a %4, %5</translation>
+    </message>
+    <message>
+        <source>no programs</source>
+        <translation>sin programas</translation>
+    </message>
+    <message>
+        <source>row %1 → %2</source>
+        <translation>fila %1 → %2</translation>
+    </message>
+    <message>
+        <source>“%1” added as entry %2</source>
+        <translation>«%1» añadido como entrada %2</translation>
+    </message>
+    <message>
+        <source>“%1” deleted, was entry %2</source>
+        <translation>«%1» eliminado, era la entrada %2</translation>
+    </message>
+    <message>
+        <source>“%1”: entry %2 → %3</source>
+        <translation>«%1»: entrada %2 → %3</translation>
+    </message>
+    <message>
+        <source>“%1”, entry %2: %3</source>
+        <translation>«%1», entrada %2: %3</translation>
+    </message>
+    <message>
+        <source>first day %1 → %2</source>
+        <translation>primer día %1 → %2</translation>
+    </message>
+    <message>
+        <source>last day %1 → %2</source>
+        <translation>último día %1 → %2</translation>
+    </message>
+    <message>
+        <source>start %1 → %2</source>
+        <translation>inicio %1 → %2</translation>
+    </message>
+    <message>
+        <source>end %1 → %2</source>
+        <translation>fin %1 → %2</translation>
+    </message>
+    <message>
+        <source>runs %1 → %2</source>
+        <translation>pasadas %1 → %2</translation>
+    </message>
+    <message>
+        <source>days %1 → %2</source>
+        <translation>días %1 → %2</translation>
+    </message>
+    <message>
+        <source>mode “%1” → “%2”</source>
+        <translation>modo «%1» → «%2»</translation>
+    </message>
+    <message>
+        <source>at the end “%1” → “%2”</source>
+        <translation>al final «%1» → «%2»</translation>
+    </message>
+    <message>
+        <source>name “%1” → “%2”</source>
+        <translation>nombre «%1» → «%2»</translation>
+    </message>
+    <message>
+        <source>plays in a row %1 → %2</source>
+        <translation>reproducciones seguidas %1 → %2</translation>
+    </message>
+    <message>
+        <source>now has a program without a length of its own</source>
+        <translation>ahora tiene un programa sin duración propia</translation>
+    </message>
+    <message>
+        <source>no longer has a program without a length of its own</source>
+        <translation>ya no tiene ningún programa sin duración propia</translation>
+    </message>
+    <message>
+        <source>now in conflict</source>
+        <translation>ahora en conflicto</translation>
+    </message>
+    <message>
+        <source>no longer in conflict</source>
+        <translation>ya no está en conflicto</translation>
+    </message>
+    <message>
+        <source>now invalid</source>
+        <translation>ahora no válido</translation>
+    </message>
+    <message>
+        <source>no longer invalid</source>
+        <translation>de nuevo válido</translation>
+    </message>
+    <message>
+        <source>something that the editor does not show</source>
+        <translation>algo que el editor no muestra</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more differences.</source>
+        <translation>
+            <numerusform>… y %n diferencia más.</numerusform>
+            <numerusform>… y %n diferencias más.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -1740,4 +1740,138 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Décider plus tard</translation>
     </message>
 </context>
+<context>
+    <name>DifferenceWords</name>
+    <message>
+        <source>Task %1: %2</source>
+        <comment>where, and what differs</comment>
+        <translation>Tâche %1 : %2</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: %3</source>
+        <comment>where, and what differs</comment>
+        <translation>Tâche %1, créneau %2 : %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>added, valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>ajoutée, valable du %1 au %2, %n créneau</numerusform>
+            <numerusform>ajoutée, valable du %1 au %2, %n créneaux</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>deleted, was valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>supprimée, était valable du %1 au %2, %n créneau</numerusform>
+            <numerusform>supprimée, était valable du %1 au %2, %n créneaux</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>added in row %1: %2, %3 to %4, %5</source>
+        <translation>ajouté en ligne %1 : %2, de %3 à %4, %5</translation>
+    </message>
+    <message>
+        <source>deleted from row %1: %2, %3 to %4, %5</source>
+        <translation>supprimé de la ligne %1 : %2, de %3 à %4, %5</translation>
+    </message>
+    <message>
+        <source>no programs</source>
+        <translation>aucun programme</translation>
+    </message>
+    <message>
+        <source>row %1 → %2</source>
+        <translation>ligne %1 → %2</translation>
+    </message>
+    <message>
+        <source>“%1” added as entry %2</source>
+        <translation>« %1 » ajouté comme entrée %2</translation>
+    </message>
+    <message>
+        <source>“%1” deleted, was entry %2</source>
+        <translation>« %1 » supprimé, était l’entrée %2</translation>
+    </message>
+    <message>
+        <source>“%1”: entry %2 → %3</source>
+        <translation>« %1 » : entrée %2 → %3</translation>
+    </message>
+    <message>
+        <source>“%1”, entry %2: %3</source>
+        <translation>« %1 », entrée %2 : %3</translation>
+    </message>
+    <message>
+        <source>first day %1 → %2</source>
+        <translation>premier jour %1 → %2</translation>
+    </message>
+    <message>
+        <source>last day %1 → %2</source>
+        <translation>dernier jour %1 → %2</translation>
+    </message>
+    <message>
+        <source>start %1 → %2</source>
+        <translation>début %1 → %2</translation>
+    </message>
+    <message>
+        <source>end %1 → %2</source>
+        <translation>fin %1 → %2</translation>
+    </message>
+    <message>
+        <source>runs %1 → %2</source>
+        <translation>passages %1 → %2</translation>
+    </message>
+    <message>
+        <source>days %1 → %2</source>
+        <translation>jours %1 → %2</translation>
+    </message>
+    <message>
+        <source>mode “%1” → “%2”</source>
+        <translation>mode « %1 » → « %2 »</translation>
+    </message>
+    <message>
+        <source>at the end “%1” → “%2”</source>
+        <translation>à la fin « %1 » → « %2 »</translation>
+    </message>
+    <message>
+        <source>name “%1” → “%2”</source>
+        <translation>nom « %1 » → « %2 »</translation>
+    </message>
+    <message>
+        <source>plays in a row %1 → %2</source>
+        <translation>diffusions de suite %1 → %2</translation>
+    </message>
+    <message>
+        <source>now has a program without a length of its own</source>
+        <translation>a maintenant un programme sans durée propre</translation>
+    </message>
+    <message>
+        <source>no longer has a program without a length of its own</source>
+        <translation>n’a plus de programme sans durée propre</translation>
+    </message>
+    <message>
+        <source>now in conflict</source>
+        <translation>maintenant en conflit</translation>
+    </message>
+    <message>
+        <source>no longer in conflict</source>
+        <translation>plus en conflit</translation>
+    </message>
+    <message>
+        <source>now invalid</source>
+        <translation>maintenant non valide</translation>
+    </message>
+    <message>
+        <source>no longer invalid</source>
+        <translation>de nouveau valide</translation>
+    </message>
+    <message>
+        <source>something that the editor does not show</source>
+        <translation>quelque chose que l’éditeur ne montre pas</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more differences.</source>
+        <translation>
+            <numerusform>… et %n autre différence.</numerusform>
+            <numerusform>… et %n autres différences.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

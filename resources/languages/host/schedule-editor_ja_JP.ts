@@ -1716,4 +1716,135 @@ What do you want to do with your changes?</source>
         <translation>後で決める</translation>
     </message>
 </context>
+<context>
+    <name>DifferenceWords</name>
+    <message>
+        <source>Task %1: %2</source>
+        <comment>where, and what differs</comment>
+        <translation>タスク %1：%2</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: %3</source>
+        <comment>where, and what differs</comment>
+        <translation>タスク %1、計画 %2：%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>added, valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>追加、有効期間 %1～%2、計画 %n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>deleted, was valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>削除、元の有効期間 %1～%2、計画 %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>added in row %1: %2, %3 to %4, %5</source>
+        <translation>%1 行目に追加：%2、%3～%4、%5</translation>
+    </message>
+    <message>
+        <source>deleted from row %1: %2, %3 to %4, %5</source>
+        <translation>%1 行目から削除：%2、%3～%4、%5</translation>
+    </message>
+    <message>
+        <source>no programs</source>
+        <translation>番組なし</translation>
+    </message>
+    <message>
+        <source>row %1 → %2</source>
+        <translation>行 %1 → %2</translation>
+    </message>
+    <message>
+        <source>“%1” added as entry %2</source>
+        <translation>「%1」を項目 %2 として追加</translation>
+    </message>
+    <message>
+        <source>“%1” deleted, was entry %2</source>
+        <translation>「%1」を削除、元は項目 %2</translation>
+    </message>
+    <message>
+        <source>“%1”: entry %2 → %3</source>
+        <translation>「%1」：項目 %2 → %3</translation>
+    </message>
+    <message>
+        <source>“%1”, entry %2: %3</source>
+        <translation>「%1」、項目 %2：%3</translation>
+    </message>
+    <message>
+        <source>first day %1 → %2</source>
+        <translation>初日 %1 → %2</translation>
+    </message>
+    <message>
+        <source>last day %1 → %2</source>
+        <translation>最終日 %1 → %2</translation>
+    </message>
+    <message>
+        <source>start %1 → %2</source>
+        <translation>開始 %1 → %2</translation>
+    </message>
+    <message>
+        <source>end %1 → %2</source>
+        <translation>終了 %1 → %2</translation>
+    </message>
+    <message>
+        <source>runs %1 → %2</source>
+        <translation>回数 %1 → %2</translation>
+    </message>
+    <message>
+        <source>days %1 → %2</source>
+        <translation>曜日 %1 → %2</translation>
+    </message>
+    <message>
+        <source>mode “%1” → “%2”</source>
+        <translation>モード 「%1」 → 「%2」</translation>
+    </message>
+    <message>
+        <source>at the end “%1” → “%2”</source>
+        <translation>終了時 「%1」 → 「%2」</translation>
+    </message>
+    <message>
+        <source>name “%1” → “%2”</source>
+        <translation>名前 「%1」 → 「%2」</translation>
+    </message>
+    <message>
+        <source>plays in a row %1 → %2</source>
+        <translation>連続再生 %1 → %2</translation>
+    </message>
+    <message>
+        <source>now has a program without a length of its own</source>
+        <translation>固有の長さのない番組あり</translation>
+    </message>
+    <message>
+        <source>no longer has a program without a length of its own</source>
+        <translation>固有の長さのない番組なし</translation>
+    </message>
+    <message>
+        <source>now in conflict</source>
+        <translation>重複あり</translation>
+    </message>
+    <message>
+        <source>no longer in conflict</source>
+        <translation>重複なし</translation>
+    </message>
+    <message>
+        <source>now invalid</source>
+        <translation>無効になった</translation>
+    </message>
+    <message>
+        <source>no longer invalid</source>
+        <translation>再び有効</translation>
+    </message>
+    <message>
+        <source>something that the editor does not show</source>
+        <translation>エディターに表示されない内容</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more differences.</source>
+        <translation>
+            <numerusform>…ほか %n 件の違い。</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -1716,4 +1716,135 @@ What do you want to do with your changes?</source>
         <translation>나중에 결정</translation>
     </message>
 </context>
+<context>
+    <name>DifferenceWords</name>
+    <message>
+        <source>Task %1: %2</source>
+        <comment>where, and what differs</comment>
+        <translation>작업 %1: %2</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: %3</source>
+        <comment>where, and what differs</comment>
+        <translation>작업 %1, 계획 %2: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>added, valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>추가, 유효 기간 %1~%2, 계획 %n개</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>deleted, was valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>삭제, 이전 유효 기간 %1~%2, 계획 %n개</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>added in row %1: %2, %3 to %4, %5</source>
+        <translation>%1행에 추가: %2, %3~%4, %5</translation>
+    </message>
+    <message>
+        <source>deleted from row %1: %2, %3 to %4, %5</source>
+        <translation>%1행에서 삭제: %2, %3~%4, %5</translation>
+    </message>
+    <message>
+        <source>no programs</source>
+        <translation>프로그램 없음</translation>
+    </message>
+    <message>
+        <source>row %1 → %2</source>
+        <translation>행 %1 → %2</translation>
+    </message>
+    <message>
+        <source>“%1” added as entry %2</source>
+        <translation>“%1” 항목 %2(으)로 추가</translation>
+    </message>
+    <message>
+        <source>“%1” deleted, was entry %2</source>
+        <translation>“%1” 삭제, 이전 항목 %2</translation>
+    </message>
+    <message>
+        <source>“%1”: entry %2 → %3</source>
+        <translation>“%1”: 항목 %2 → %3</translation>
+    </message>
+    <message>
+        <source>“%1”, entry %2: %3</source>
+        <translation>“%1”, 항목 %2: %3</translation>
+    </message>
+    <message>
+        <source>first day %1 → %2</source>
+        <translation>첫날 %1 → %2</translation>
+    </message>
+    <message>
+        <source>last day %1 → %2</source>
+        <translation>마지막 날 %1 → %2</translation>
+    </message>
+    <message>
+        <source>start %1 → %2</source>
+        <translation>시작 %1 → %2</translation>
+    </message>
+    <message>
+        <source>end %1 → %2</source>
+        <translation>끝 %1 → %2</translation>
+    </message>
+    <message>
+        <source>runs %1 → %2</source>
+        <translation>횟수 %1 → %2</translation>
+    </message>
+    <message>
+        <source>days %1 → %2</source>
+        <translation>요일 %1 → %2</translation>
+    </message>
+    <message>
+        <source>mode “%1” → “%2”</source>
+        <translation>모드 “%1” → “%2”</translation>
+    </message>
+    <message>
+        <source>at the end “%1” → “%2”</source>
+        <translation>종료 시 “%1” → “%2”</translation>
+    </message>
+    <message>
+        <source>name “%1” → “%2”</source>
+        <translation>이름 “%1” → “%2”</translation>
+    </message>
+    <message>
+        <source>plays in a row %1 → %2</source>
+        <translation>연속 재생 %1 → %2</translation>
+    </message>
+    <message>
+        <source>now has a program without a length of its own</source>
+        <translation>자체 길이가 없는 프로그램 있음</translation>
+    </message>
+    <message>
+        <source>no longer has a program without a length of its own</source>
+        <translation>자체 길이가 없는 프로그램 없음</translation>
+    </message>
+    <message>
+        <source>now in conflict</source>
+        <translation>이제 충돌함</translation>
+    </message>
+    <message>
+        <source>no longer in conflict</source>
+        <translation>더 이상 충돌하지 않음</translation>
+    </message>
+    <message>
+        <source>now invalid</source>
+        <translation>이제 무효</translation>
+    </message>
+    <message>
+        <source>no longer invalid</source>
+        <translation>더 이상 무효 아님</translation>
+    </message>
+    <message>
+        <source>something that the editor does not show</source>
+        <translation>편집기에 표시되지 않는 내용</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more differences.</source>
+        <translation>
+            <numerusform>… 그 밖에 차이 %n개.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -1740,4 +1740,138 @@ O que deseja fazer com as alterações?</translation>
         <translation>Decidir mais tarde</translation>
     </message>
 </context>
+<context>
+    <name>DifferenceWords</name>
+    <message>
+        <source>Task %1: %2</source>
+        <comment>where, and what differs</comment>
+        <translation>Tarefa %1: %2</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: %3</source>
+        <comment>where, and what differs</comment>
+        <translation>Tarefa %1, plano %2: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>added, valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>adicionada, válida de %1 a %2, %n plano</numerusform>
+            <numerusform>adicionada, válida de %1 a %2, %n planos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>deleted, was valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>excluída, era válida de %1 a %2, %n plano</numerusform>
+            <numerusform>excluída, era válida de %1 a %2, %n planos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>added in row %1: %2, %3 to %4, %5</source>
+        <translation>adicionado na linha %1: %2, de %3 a %4, %5</translation>
+    </message>
+    <message>
+        <source>deleted from row %1: %2, %3 to %4, %5</source>
+        <translation>excluído da linha %1: %2, de %3 a %4, %5</translation>
+    </message>
+    <message>
+        <source>no programs</source>
+        <translation>sem programas</translation>
+    </message>
+    <message>
+        <source>row %1 → %2</source>
+        <translation>linha %1 → %2</translation>
+    </message>
+    <message>
+        <source>“%1” added as entry %2</source>
+        <translation>“%1” adicionado como entrada %2</translation>
+    </message>
+    <message>
+        <source>“%1” deleted, was entry %2</source>
+        <translation>“%1” excluído, era a entrada %2</translation>
+    </message>
+    <message>
+        <source>“%1”: entry %2 → %3</source>
+        <translation>“%1”: entrada %2 → %3</translation>
+    </message>
+    <message>
+        <source>“%1”, entry %2: %3</source>
+        <translation>“%1”, entrada %2: %3</translation>
+    </message>
+    <message>
+        <source>first day %1 → %2</source>
+        <translation>primeiro dia %1 → %2</translation>
+    </message>
+    <message>
+        <source>last day %1 → %2</source>
+        <translation>último dia %1 → %2</translation>
+    </message>
+    <message>
+        <source>start %1 → %2</source>
+        <translation>início %1 → %2</translation>
+    </message>
+    <message>
+        <source>end %1 → %2</source>
+        <translation>fim %1 → %2</translation>
+    </message>
+    <message>
+        <source>runs %1 → %2</source>
+        <translation>rodadas %1 → %2</translation>
+    </message>
+    <message>
+        <source>days %1 → %2</source>
+        <translation>dias %1 → %2</translation>
+    </message>
+    <message>
+        <source>mode “%1” → “%2”</source>
+        <translation>modo “%1” → “%2”</translation>
+    </message>
+    <message>
+        <source>at the end “%1” → “%2”</source>
+        <translation>ao final “%1” → “%2”</translation>
+    </message>
+    <message>
+        <source>name “%1” → “%2”</source>
+        <translation>nome “%1” → “%2”</translation>
+    </message>
+    <message>
+        <source>plays in a row %1 → %2</source>
+        <translation>exibições seguidas %1 → %2</translation>
+    </message>
+    <message>
+        <source>now has a program without a length of its own</source>
+        <translation>agora tem um programa sem duração própria</translation>
+    </message>
+    <message>
+        <source>no longer has a program without a length of its own</source>
+        <translation>não tem mais programa sem duração própria</translation>
+    </message>
+    <message>
+        <source>now in conflict</source>
+        <translation>agora em conflito</translation>
+    </message>
+    <message>
+        <source>no longer in conflict</source>
+        <translation>não está mais em conflito</translation>
+    </message>
+    <message>
+        <source>now invalid</source>
+        <translation>agora inválido</translation>
+    </message>
+    <message>
+        <source>no longer invalid</source>
+        <translation>válido novamente</translation>
+    </message>
+    <message>
+        <source>something that the editor does not show</source>
+        <translation>algo que o editor não mostra</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more differences.</source>
+        <translation>
+            <numerusform>… e mais %n diferença.</numerusform>
+            <numerusform>… e mais %n diferenças.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -1764,4 +1764,141 @@ What do you want to do with your changes?</source>
         <translation>Решить позже</translation>
     </message>
 </context>
+<context>
+    <name>DifferenceWords</name>
+    <message>
+        <source>Task %1: %2</source>
+        <comment>where, and what differs</comment>
+        <translation>Задание %1: %2</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: %3</source>
+        <comment>where, and what differs</comment>
+        <translation>Задание %1, план %2: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>added, valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>добавлено, действует с %1 по %2, %n план</numerusform>
+            <numerusform>добавлено, действует с %1 по %2, %n плана</numerusform>
+            <numerusform>добавлено, действует с %1 по %2, %n планов</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>deleted, was valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>удалено, действовало с %1 по %2, %n план</numerusform>
+            <numerusform>удалено, действовало с %1 по %2, %n плана</numerusform>
+            <numerusform>удалено, действовало с %1 по %2, %n планов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>added in row %1: %2, %3 to %4, %5</source>
+        <translation>добавлен в строке %1: %2, с %3 до %4, %5</translation>
+    </message>
+    <message>
+        <source>deleted from row %1: %2, %3 to %4, %5</source>
+        <translation>удалён из строки %1: %2, с %3 до %4, %5</translation>
+    </message>
+    <message>
+        <source>no programs</source>
+        <translation>нет программ</translation>
+    </message>
+    <message>
+        <source>row %1 → %2</source>
+        <translation>строка %1 → %2</translation>
+    </message>
+    <message>
+        <source>“%1” added as entry %2</source>
+        <translation>«%1» добавлена как запись %2</translation>
+    </message>
+    <message>
+        <source>“%1” deleted, was entry %2</source>
+        <translation>«%1» удалена, была записью %2</translation>
+    </message>
+    <message>
+        <source>“%1”: entry %2 → %3</source>
+        <translation>«%1»: запись %2 → %3</translation>
+    </message>
+    <message>
+        <source>“%1”, entry %2: %3</source>
+        <translation>«%1», запись %2: %3</translation>
+    </message>
+    <message>
+        <source>first day %1 → %2</source>
+        <translation>первый день %1 → %2</translation>
+    </message>
+    <message>
+        <source>last day %1 → %2</source>
+        <translation>последний день %1 → %2</translation>
+    </message>
+    <message>
+        <source>start %1 → %2</source>
+        <translation>начало %1 → %2</translation>
+    </message>
+    <message>
+        <source>end %1 → %2</source>
+        <translation>конец %1 → %2</translation>
+    </message>
+    <message>
+        <source>runs %1 → %2</source>
+        <translation>повторы %1 → %2</translation>
+    </message>
+    <message>
+        <source>days %1 → %2</source>
+        <translation>дни %1 → %2</translation>
+    </message>
+    <message>
+        <source>mode “%1” → “%2”</source>
+        <translation>режим «%1» → «%2»</translation>
+    </message>
+    <message>
+        <source>at the end “%1” → “%2”</source>
+        <translation>в конце «%1» → «%2»</translation>
+    </message>
+    <message>
+        <source>name “%1” → “%2”</source>
+        <translation>название «%1» → «%2»</translation>
+    </message>
+    <message>
+        <source>plays in a row %1 → %2</source>
+        <translation>показы подряд %1 → %2</translation>
+    </message>
+    <message>
+        <source>now has a program without a length of its own</source>
+        <translation>теперь есть программа без своей длительности</translation>
+    </message>
+    <message>
+        <source>no longer has a program without a length of its own</source>
+        <translation>больше нет программы без своей длительности</translation>
+    </message>
+    <message>
+        <source>now in conflict</source>
+        <translation>теперь есть накладка</translation>
+    </message>
+    <message>
+        <source>no longer in conflict</source>
+        <translation>накладки больше нет</translation>
+    </message>
+    <message>
+        <source>now invalid</source>
+        <translation>теперь недействительна</translation>
+    </message>
+    <message>
+        <source>no longer invalid</source>
+        <translation>снова действительна</translation>
+    </message>
+    <message>
+        <source>something that the editor does not show</source>
+        <translation>то, чего редактор не показывает</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more differences.</source>
+        <translation>
+            <numerusform>… и ещё %n различие.</numerusform>
+            <numerusform>… и ещё %n различия.</numerusform>
+            <numerusform>… и ещё %n различий.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -1716,4 +1716,135 @@ What do you want to do with your changes?</source>
         <translation>稍后决定</translation>
     </message>
 </context>
+<context>
+    <name>DifferenceWords</name>
+    <message>
+        <source>Task %1: %2</source>
+        <comment>where, and what differs</comment>
+        <translation>任务 %1：%2</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: %3</source>
+        <comment>where, and what differs</comment>
+        <translation>任务 %1，计划 %2：%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>added, valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>已添加，有效期 %1 至 %2，%n 个计划</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>deleted, was valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>已删除，原有效期 %1 至 %2，%n 个计划</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>added in row %1: %2, %3 to %4, %5</source>
+        <translation>已添加到第 %1 行：%2，%3 至 %4，%5</translation>
+    </message>
+    <message>
+        <source>deleted from row %1: %2, %3 to %4, %5</source>
+        <translation>已从第 %1 行删除：%2，%3 至 %4，%5</translation>
+    </message>
+    <message>
+        <source>no programs</source>
+        <translation>无节目</translation>
+    </message>
+    <message>
+        <source>row %1 → %2</source>
+        <translation>行 %1 → %2</translation>
+    </message>
+    <message>
+        <source>“%1” added as entry %2</source>
+        <translation>“%1”添加为条目 %2</translation>
+    </message>
+    <message>
+        <source>“%1” deleted, was entry %2</source>
+        <translation>“%1”已删除，原为条目 %2</translation>
+    </message>
+    <message>
+        <source>“%1”: entry %2 → %3</source>
+        <translation>“%1”：条目 %2 → %3</translation>
+    </message>
+    <message>
+        <source>“%1”, entry %2: %3</source>
+        <translation>“%1”，条目 %2：%3</translation>
+    </message>
+    <message>
+        <source>first day %1 → %2</source>
+        <translation>首日 %1 → %2</translation>
+    </message>
+    <message>
+        <source>last day %1 → %2</source>
+        <translation>末日 %1 → %2</translation>
+    </message>
+    <message>
+        <source>start %1 → %2</source>
+        <translation>开始 %1 → %2</translation>
+    </message>
+    <message>
+        <source>end %1 → %2</source>
+        <translation>结束 %1 → %2</translation>
+    </message>
+    <message>
+        <source>runs %1 → %2</source>
+        <translation>次数 %1 → %2</translation>
+    </message>
+    <message>
+        <source>days %1 → %2</source>
+        <translation>星期 %1 → %2</translation>
+    </message>
+    <message>
+        <source>mode “%1” → “%2”</source>
+        <translation>模式“%1” → “%2”</translation>
+    </message>
+    <message>
+        <source>at the end “%1” → “%2”</source>
+        <translation>结束动作“%1” → “%2”</translation>
+    </message>
+    <message>
+        <source>name “%1” → “%2”</source>
+        <translation>名称“%1” → “%2”</translation>
+    </message>
+    <message>
+        <source>plays in a row %1 → %2</source>
+        <translation>连续播放 %1 → %2</translation>
+    </message>
+    <message>
+        <source>now has a program without a length of its own</source>
+        <translation>现在有无自身时长的节目</translation>
+    </message>
+    <message>
+        <source>no longer has a program without a length of its own</source>
+        <translation>不再有无自身时长的节目</translation>
+    </message>
+    <message>
+        <source>now in conflict</source>
+        <translation>现在有冲突</translation>
+    </message>
+    <message>
+        <source>no longer in conflict</source>
+        <translation>不再有冲突</translation>
+    </message>
+    <message>
+        <source>now invalid</source>
+        <translation>现已失效</translation>
+    </message>
+    <message>
+        <source>no longer invalid</source>
+        <translation>不再失效</translation>
+    </message>
+    <message>
+        <source>something that the editor does not show</source>
+        <translation>编辑器不显示的内容</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more differences.</source>
+        <translation>
+            <numerusform>… 还有 %n 处差异。</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

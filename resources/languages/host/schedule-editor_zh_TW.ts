@@ -1716,4 +1716,135 @@ What do you want to do with your changes?</source>
         <translation>稍後決定</translation>
     </message>
 </context>
+<context>
+    <name>DifferenceWords</name>
+    <message>
+        <source>Task %1: %2</source>
+        <comment>where, and what differs</comment>
+        <translation>任務 %1：%2</translation>
+    </message>
+    <message>
+        <source>Task %1, plan %2: %3</source>
+        <comment>where, and what differs</comment>
+        <translation>任務 %1，計畫 %2：%3</translation>
+    </message>
+    <message numerus="yes">
+        <source>added, valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>已新增，有效期 %1 至 %2，%n 個計畫</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>deleted, was valid from %1 to %2, %n plans</source>
+        <translation>
+            <numerusform>已刪除，原有效期 %1 至 %2，%n 個計畫</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>added in row %1: %2, %3 to %4, %5</source>
+        <translation>已新增到第 %1 列：%2，%3 至 %4，%5</translation>
+    </message>
+    <message>
+        <source>deleted from row %1: %2, %3 to %4, %5</source>
+        <translation>已從第 %1 列刪除：%2，%3 至 %4，%5</translation>
+    </message>
+    <message>
+        <source>no programs</source>
+        <translation>無節目</translation>
+    </message>
+    <message>
+        <source>row %1 → %2</source>
+        <translation>列 %1 → %2</translation>
+    </message>
+    <message>
+        <source>“%1” added as entry %2</source>
+        <translation>「%1」新增為項目 %2</translation>
+    </message>
+    <message>
+        <source>“%1” deleted, was entry %2</source>
+        <translation>「%1」已刪除，原為項目 %2</translation>
+    </message>
+    <message>
+        <source>“%1”: entry %2 → %3</source>
+        <translation>「%1」：項目 %2 → %3</translation>
+    </message>
+    <message>
+        <source>“%1”, entry %2: %3</source>
+        <translation>「%1」，項目 %2：%3</translation>
+    </message>
+    <message>
+        <source>first day %1 → %2</source>
+        <translation>首日 %1 → %2</translation>
+    </message>
+    <message>
+        <source>last day %1 → %2</source>
+        <translation>末日 %1 → %2</translation>
+    </message>
+    <message>
+        <source>start %1 → %2</source>
+        <translation>開始 %1 → %2</translation>
+    </message>
+    <message>
+        <source>end %1 → %2</source>
+        <translation>結束 %1 → %2</translation>
+    </message>
+    <message>
+        <source>runs %1 → %2</source>
+        <translation>次數 %1 → %2</translation>
+    </message>
+    <message>
+        <source>days %1 → %2</source>
+        <translation>星期 %1 → %2</translation>
+    </message>
+    <message>
+        <source>mode “%1” → “%2”</source>
+        <translation>模式 「%1」 → 「%2」</translation>
+    </message>
+    <message>
+        <source>at the end “%1” → “%2”</source>
+        <translation>結束動作 「%1」 → 「%2」</translation>
+    </message>
+    <message>
+        <source>name “%1” → “%2”</source>
+        <translation>名稱 「%1」 → 「%2」</translation>
+    </message>
+    <message>
+        <source>plays in a row %1 → %2</source>
+        <translation>連續播放 %1 → %2</translation>
+    </message>
+    <message>
+        <source>now has a program without a length of its own</source>
+        <translation>現在有無自身長度的節目</translation>
+    </message>
+    <message>
+        <source>no longer has a program without a length of its own</source>
+        <translation>不再有無自身長度的節目</translation>
+    </message>
+    <message>
+        <source>now in conflict</source>
+        <translation>現在有衝突</translation>
+    </message>
+    <message>
+        <source>no longer in conflict</source>
+        <translation>不再有衝突</translation>
+    </message>
+    <message>
+        <source>now invalid</source>
+        <translation>現已失效</translation>
+    </message>
+    <message>
+        <source>no longer invalid</source>
+        <translation>不再失效</translation>
+    </message>
+    <message>
+        <source>something that the editor does not show</source>
+        <translation>編輯器不顯示的內容</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more differences.</source>
+        <translation>
+            <numerusform>… 還有 %n 處差異。</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -78,9 +78,14 @@ QString Languages::nativeName(const QString& name)
 
 QString Languages::editorTitle()
 {
+    return editorText("zhSchedulePlayStr");
+}
+
+QString Languages::editorText(const char* key)
+{
     return tessark::trans::translate(ProgramSheduleWidgetTranslateManager::instance().translator(),
                                      QStringLiteral("SheduleWidgets"), QStringLiteral("Widget"),
-                                     QStringLiteral("zhSchedulePlayStr"));
+                                     QLatin1String(key));
 }
 
 QString Languages::startLanguage(const QString& wanted) const

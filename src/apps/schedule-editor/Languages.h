@@ -31,6 +31,8 @@ public:
     static QString nativeName(const QString& name);
     /// The editor's own title in the language in use.
     static QString editorTitle();
+    /// A text of the editor's, such as the label of a field, in the language in use.
+    static QString editorText(const char* key);
 
     QString current() const { return m_current; }
     /// Switches editor, host, toolkit and the families of the application's font; a name that no

@@ -87,11 +87,11 @@ int main()
         &tessark::trans::isLanguageFile, &joinWeeks, &lastPlanWithId, &listFromRow, &loadedVersion,
         &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId, &offeredPrograms, &parseWeeks,
         &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate, &programListText,
-        &programText, &programVerdict, &tessark::trans::readLanguageFile, &readPicture,
-        &readScheduleJson, &removeFirstPlanWithId, &runsLessThanOnce, &setMediaReading, &scanMedia,
-        &scheduleDifferences, &scheduleFromJson, &scheduleToJson, &shownAddress, &storeProblemName,
-        &timeFromText, &timeToText, &totalText, &tessark::trans::translate, &weeksOverlap,
-        &writeScheduleFile);
+        &programText, &entryText, &differencesOfNote, &programVerdict,
+        &tessark::trans::readLanguageFile, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
+        &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleDifferences, &scheduleFromJson,
+        &scheduleToJson, &shownAddress, &storeProblemName, &timeFromText, &timeToText, &totalText,
+        &tessark::trans::translate, &weeksOverlap, &writeScheduleFile);
     static_assert(TREL_VERSION >= TREL_VERSION_CHECK(0, 2, 0));
     std::cout << "Version: " << loadedVersion()
               << (std::string(loadedVersion()) == TREL_VERSION_STRING ? ", as compiled\n" : "\n");

@@ -81,20 +81,8 @@ QString kindText(ProgramKind kind)
 
 QString entryText(const struProgInfo& entry, const std::map<int, ProgramIten>& programs)
 {
-    const auto lookup = [&](int progIndex) {
-        const auto found = programs.find(progIndex);
-        if (found != programs.end()) {
-            return found->second;
-        }
-        // What the catalogue has lost, the plan still knows by its name.
-        ProgramIten lost;
-        lost.progIndex = progIndex;
-        lost.progName = entry.progName;
-        lost.isNull = true;
-        return lost;
-    };
     const ProgramSuffixes suffixes = {QStringLiteral(" (invalid)"), QStringLiteral(" (gone)")};
-    return programText(entry, lookup, suffixes);
+    return mediadispatch::entryText(entry, programs, suffixes);
 }
 
 QString entriesText(const std::vector<struProgInfo>& entries,

@@ -11,7 +11,6 @@
 
 #include <QJsonArray>
 
-#include <algorithm>
 #include <vector>
 
 using namespace trel::hosts;
@@ -43,9 +42,7 @@ QJsonObject headJson(const Sides& sides, const Database& database)
 ExitStatus tellDifferences(const Sides& sides, const Database& database,
                            const Invocation& invocation, Console& console)
 {
-    auto differences = scheduleDifferences(sides.former.tasks, sides.later.tasks);
-    differences.erase(std::remove_if(differences.begin(), differences.end(), isWorkedOutAfresh),
-                      differences.end());
+    const auto differences = differencesOfNote(sides.former.tasks, sides.later.tasks);
     const auto programs = database.programs();
     if (invocation.json) {
         QJsonArray list;

@@ -16,6 +16,23 @@ QString programText(const struProgInfo& entry, const ProgramLookup& lookup,
     return program.isNull ? name + suffixes.null : name;
 }
 
+QString entryText(const struProgInfo& entry, const std::map<int, ProgramIten>& catalogue,
+                  const ProgramSuffixes& suffixes)
+{
+    const auto lookup = [&](int progIndex) {
+        const auto found = catalogue.find(progIndex);
+        if (found != catalogue.end()) {
+            return found->second;
+        }
+        ProgramIten lost;
+        lost.progIndex = progIndex;
+        lost.progName = entry.progName;
+        lost.isNull = true;
+        return lost;
+    };
+    return programText(entry, lookup, suffixes);
+}
+
 QString programListText(const std::vector<struProgInfo>& entries, const ProgramLookup& lookup,
                         const ProgramSuffixes& suffixes)
 {

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <map>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -30,5 +31,11 @@ SCHEDULECONTRACT_EXPORT QString programText(const struProgInfo& entry, const Pro
 SCHEDULECONTRACT_EXPORT QString programListText(const std::vector<struProgInfo>& entries,
                                                 const ProgramLookup& lookup,
                                                 const ProgramSuffixes& suffixes);
+
+/// The text of one entry against a whole catalogue. A program that has left it goes by the name
+/// that the entry remembers, as one that no longer exists.
+SCHEDULECONTRACT_EXPORT QString entryText(const struProgInfo& entry,
+                                          const std::map<int, ProgramIten>& catalogue,
+                                          const ProgramSuffixes& suffixes);
 
 } // namespace trel::mediadispatch

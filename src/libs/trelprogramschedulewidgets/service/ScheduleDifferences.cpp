@@ -271,4 +271,12 @@ std::vector<ScheduleDifference> scheduleDifferences(const std::map<int, PlayTask
     return found;
 }
 
+std::vector<ScheduleDifference> differencesOfNote(const std::map<int, PlayTask>& former,
+                                                  const std::map<int, PlayTask>& later)
+{
+    std::vector<ScheduleDifference> found = scheduleDifferences(former, later);
+    found.erase(std::remove_if(found.begin(), found.end(), isWorkedOutAfresh), found.end());
+    return found;
+}
+
 } // namespace trel::mediadispatch

@@ -94,4 +94,8 @@ inline bool isWorkedOutAfresh(const ScheduleDifference& difference)
     return difference.field == DifferenceField::IsConflict;
 }
 
+/// What of scheduleDifferences() an operator is told: all but what is worked out afresh.
+SCHEDULECONTRACT_EXPORT std::vector<ScheduleDifference>
+differencesOfNote(const std::map<int, PlayTask>& former, const std::map<int, PlayTask>& later);
+
 } // namespace trel::mediadispatch

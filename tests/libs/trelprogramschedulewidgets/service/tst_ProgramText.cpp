@@ -39,6 +39,7 @@ private slots:
     void namesAreUtf8();
     void badEntriesAreNotLookedUp();
     void textOfAList();
+    void textOfAnEntryInACatalogue();
 };
 
 void tst_ProgramText::textOfOneEntry_data()
@@ -96,6 +97,19 @@ void tst_ProgramText::textOfAList()
              QStringLiteral("catalogue 1,own(invalid),catalogue 200(null)"));
     QCOMPARE(programListText({entry(65536, true, ""), entry(65536, true, "")}, lookup, kSuffixes),
              QStringLiteral(","));
+}
+
+void tst_ProgramText::textOfAnEntryInACatalogue()
+{
+    std::map<int, ProgramIten> catalogue = {{3, lookup(3)}, {200, lookup(200)}};
+    QCOMPARE(entryText(entry(3, false, "own"), catalogue, kSuffixes),
+             QStringLiteral("catalogue 3"));
+    QCOMPARE(entryText(entry(200, false, "own"), catalogue, kSuffixes),
+             QStringLiteral("catalogue 200(null)"));
+    QCOMPARE(entryText(entry(4, false, "own"), catalogue, kSuffixes), QStringLiteral("own(null)"));
+    QCOMPARE(entryText(entry(4, true, "own"), catalogue, kSuffixes),
+             QStringLiteral("own(invalid)"));
+    QCOMPARE(entryText(entry(65536, true, "own"), catalogue, kSuffixes), QStringLiteral("own"));
 }
 
 TREL_TEST(tst_ProgramText, trel::tests::NoApplication)

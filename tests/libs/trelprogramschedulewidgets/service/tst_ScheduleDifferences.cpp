@@ -294,6 +294,9 @@ void tst_ScheduleDifferences::tellValuesOfBothSides()
     QVERIFY(!isWorkedOutAfresh(found[0]));
     QVERIFY(isWorkedOutAfresh(found[1]));
     QVERIFY(numberIn(found[1].before) != numberIn(found[1].after));
+    const auto ofNote = differencesOfNote({{2, task}}, {{2, later}});
+    QCOMPARE(ofNote.size(), std::size_t(1));
+    QCOMPARE(int(ofNote[0].field), int(DifferenceField::EndTime));
 }
 
 TREL_TEST(tst_ScheduleDifferences, QCoreApplication)
