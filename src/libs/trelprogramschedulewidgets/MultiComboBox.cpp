@@ -2,6 +2,7 @@
 
 #include "card/BoolCheckDelegate.h"
 #include "clock/Clock.h"
+#include "toolkit/CutLine.h"
 #include "trelwidgets/PlainToolTip.h"
 
 #include <QAbstractItemView>
@@ -11,10 +12,8 @@
 #include <QFontMetrics>
 #include <QLineEdit>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
-#include <QStyleOptionFrame>
 #include <QWheelEvent>
 
 namespace trel::mediadispatch {
@@ -31,32 +30,26 @@ constexpr int kReopenDelayMs = 100;
 constexpr int kArrowInset = 10;
 
 /// The line of a box, which takes no typing. What it has no room for it cuts, with dots.
-class CutLine : public QLineEdit
+class DayLine : public QLineEdit
 {
 public:
-    using QLineEdit::QLineEdit;
+    explicit DayLine(QComboBox* box)
+        : QLineEdit(box)
+        , m_box(*box)
+    {}
 
 protected:
     void paintEvent(QPaintEvent* event) override
     {
-        QStyleOptionFrame option;
-        initStyleOption(&option);
-        // The toolkit's own margins of a line.
-        const QRect room = style()
-                               ->subElementRect(QStyle::SE_LineEditContents, &option, this)
-                               .adjusted(2, 0, -2, 0);
-        if (fontMetrics().horizontalAdvance(text()) <= room.width()) {
+        if (isCut(*this)) {
+            paintCut(*this, m_box);
+        } else {
             QLineEdit::paintEvent(event);
-            return;
         }
-        QPainter painter(this);
-        style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
-        painter.setPen(palette().color(QPalette::Text));
-        const Qt::Alignment side =
-            QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
-        painter.drawText(room, int(side) | int(Qt::TextSingleLine),
-                         fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
     }
+
+private:
+    const QComboBox& m_box;
 };
 
 /// Makes a line the one that a box shows, and thereby the box editable. setEditable() would build
@@ -82,7 +75,7 @@ MultiComboBox::MultiComboBox(QWidget* parent)
     , m_separator(QLatin1Char(','))
     , m_lastHideTime(Clock::current().timeOfDay())
 {
-    auto* const line = new CutLine(this);
+    auto* const line = new DayLine(this);
     line->setPalette(palette());
     setLine(*this, line);
     setInsertPolicy(QComboBox::NoInsert);

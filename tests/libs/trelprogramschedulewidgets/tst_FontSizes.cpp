@@ -195,6 +195,8 @@ private slots:
     void theEditor();
     void theChooser_data() { addSizes(); }
     void theChooser();
+    void theDaysAreCutToTheirLine();
+    void theDaysAreCutAgainInAnotherFont();
 
 private:
     static void addSizes();
@@ -273,6 +275,56 @@ void tst_FontSizes::theChooser()
         chooser.cancel();
     });
     rows.cell(0, ProgramsColumn)->findChild<QPushButton*>(QStringLiteral("pushButton"))->click();
+}
+
+/// A style sheet may leave the line less room than the days were cut for, and gives it its color.
+void tst_FontSizes::theDaysAreCutToTheirLine()
+{
+    const QString text = QStringLiteral("Mon,Wed,Fri");
+    MultiComboBox days;
+    QFont font = days.font();
+    font.setPixelSize(10);
+    days.setFont(font);
+    days.setFixedWidth(60);
+    days.setShownText(text);
+    days.show();
+    QCOMPARE(days.lineEdit()->text(), text);
+    const QStringList painted = paintedBy(*days.lineEdit());
+    QCOMPARE(painted.size(), 1);
+    QVERIFY2(painted.first().endsWith(QChar(0x2026)), qPrintable(painted.first()));
+    QVERIFY(text.startsWith(painted.first().chopped(1)));
+
+    const auto redPixels = [&days] {
+        const QImage image = days.grab().toImage();
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor color = image.pixelColor(x, y);
+                count += color.red() > color.green() + 60 ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    QCOMPARE(redPixels(), 0);
+    days.setStyleSheet(QStringLiteral("QComboBox { color: #ff0000; }"));
+    QVERIFY(redPixels() > 10);
+}
+
+void tst_FontSizes::theDaysAreCutAgainInAnotherFont()
+{
+    MultiComboBox days;
+    QFont font = days.font();
+    font.setPixelSize(10);
+    days.setFont(font);
+    const QString text = QStringLiteral("Mon,Wed,Fri");
+    days.setShownText(text);
+    QCOMPARE(days.lineEdit()->text(), text);
+    font.setPixelSize(20);
+    days.setFont(font);
+    QVERIFY2(days.lineEdit()->text().endsWith(QChar(0x2026)), qPrintable(days.lineEdit()->text()));
+    font.setPixelSize(10);
+    days.setFont(font);
+    QCOMPARE(days.lineEdit()->text(), text);
 }
 
 TREL_TEST(tst_FontSizes, QApplication)
