@@ -306,7 +306,7 @@ void tst_FontSizes::theDaysAreCutToTheirLine()
         return count;
     };
     QCOMPARE(redPixels(), 0);
-    days.setStyleSheet(QStringLiteral("QComboBox { color: #ff0000; }"));
+    qApp->setStyleSheet(QStringLiteral("QComboBox { color: #ff0000; }"));
     QVERIFY(redPixels() > 10);
 }
 
