@@ -76,6 +76,7 @@ install_headers(schedulecontract src/libs/trelprogramschedulewidgets
   service/ProgramOffers.h
   service/ProgramText.h
   service/ProgramTotal.h
+  service/ProgramUses.h
   service/ScheduleDifferences.h
   service/ScheduleRecords.h
   service/TaskPeriods.h

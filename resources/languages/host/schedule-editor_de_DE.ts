@@ -198,6 +198,10 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
+    <message>
+        <source>No program fits what is searched for.</source>
+        <translation>Kein Programm passt zu dem, was gesucht wird.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CatalogueImport</name>
@@ -781,26 +785,6 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
 <context>
     <name>trel::desktop::ProgramTableModel</name>
     <message>
-        <source>Video</source>
-        <translation>Video</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>Audio</translation>
-    </message>
-    <message>
-        <source>Image</source>
-        <translation>Bild</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>Live</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>Sonstiges</translation>
-    </message>
-    <message>
         <source>File not found: %1</source>
         <translation>Die Datei ist nicht mehr vorhanden: %1</translation>
     </message>
@@ -821,8 +805,8 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
         <translation>Dauer</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Datei</translation>
+        <source>Folder</source>
+        <translation>Ordner</translation>
     </message>
 </context>
 <context>
@@ -1871,6 +1855,64 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>
             <numerusform>… und %n weiterer Unterschied.</numerusform>
             <numerusform>… und %n weitere Unterschiede.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWords</name>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Sonstiges</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueFilter</name>
+    <message>
+        <source>%1 of %2</source>
+        <comment>programs found of programs</comment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>Search name and folder</source>
+        <translation>Name und Ordner durchsuchen</translation>
+    </message>
+    <message>
+        <source>Kind of program</source>
+        <translation>Art des Programms</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Alle Arten</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Fehlende</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>Unbenutzte</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs</source>
+        <translation>
+            <numerusform>%n Programm</numerusform>
+            <numerusform>%n Programme</numerusform>
         </translation>
     </message>
 </context>

@@ -214,4 +214,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::CatalogueFilter</name>
+    <message numerus="yes">
+        <source>%n programs</source>
+        <translation>
+            <numerusform>%n program</numerusform>
+            <numerusform>%n programs</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

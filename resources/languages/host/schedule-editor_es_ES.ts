@@ -198,6 +198,10 @@ Cierre esta pregunta para seguir editando.</translation>
         <source>Remove</source>
         <translation>Quitar</translation>
     </message>
+    <message>
+        <source>No program fits what is searched for.</source>
+        <translation>Ningún programa coincide con lo que se busca.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CatalogueImport</name>
@@ -781,26 +785,6 @@ Cierre esta pregunta para seguir editando.</translation>
 <context>
     <name>trel::desktop::ProgramTableModel</name>
     <message>
-        <source>Video</source>
-        <translation>Vídeo</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>Audio</translation>
-    </message>
-    <message>
-        <source>Image</source>
-        <translation>Imagen</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>En directo</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>Otro</translation>
-    </message>
-    <message>
         <source>File not found: %1</source>
         <translation>El archivo ya no existe: %1</translation>
     </message>
@@ -821,8 +805,8 @@ Cierre esta pregunta para seguir editando.</translation>
         <translation>Duración</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Archivo</translation>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
     </message>
 </context>
 <context>
@@ -1871,6 +1855,64 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>… y %n diferencia más.</numerusform>
             <numerusform>… y %n diferencias más.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWords</name>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>En directo</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Otro</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueFilter</name>
+    <message>
+        <source>%1 of %2</source>
+        <comment>programs found of programs</comment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Search name and folder</source>
+        <translation>Buscar en nombre y carpeta</translation>
+    </message>
+    <message>
+        <source>Kind of program</source>
+        <translation>Tipo de programa</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Todos los tipos</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Faltan</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>Sin usar</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs</source>
+        <translation>
+            <numerusform>%n programa</numerusform>
+            <numerusform>%n programas</numerusform>
         </translation>
     </message>
 </context>

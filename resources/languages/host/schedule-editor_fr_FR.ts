@@ -198,6 +198,10 @@ Fermez cette question pour continuer à modifier.</translation>
         <source>Remove</source>
         <translation>Retirer</translation>
     </message>
+    <message>
+        <source>No program fits what is searched for.</source>
+        <translation>Aucun programme ne correspond à la recherche.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CatalogueImport</name>
@@ -781,26 +785,6 @@ Fermez cette question pour continuer à modifier.</translation>
 <context>
     <name>trel::desktop::ProgramTableModel</name>
     <message>
-        <source>Video</source>
-        <translation>Vidéo</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>Audio</translation>
-    </message>
-    <message>
-        <source>Image</source>
-        <translation>Image</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>En direct</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>Autre</translation>
-    </message>
-    <message>
         <source>File not found: %1</source>
         <translation>Le fichier n’existe plus&#xa0;: %1</translation>
     </message>
@@ -821,8 +805,8 @@ Fermez cette question pour continuer à modifier.</translation>
         <translation>Durée</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Fichier</translation>
+        <source>Folder</source>
+        <translation>Dossier</translation>
     </message>
 </context>
 <context>
@@ -1871,6 +1855,64 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>
             <numerusform>… et %n autre différence.</numerusform>
             <numerusform>… et %n autres différences.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWords</name>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>En direct</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Autre</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueFilter</name>
+    <message>
+        <source>%1 of %2</source>
+        <comment>programs found of programs</comment>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>Search name and folder</source>
+        <translation>Rechercher dans le nom et le dossier</translation>
+    </message>
+    <message>
+        <source>Kind of program</source>
+        <translation>Type de programme</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Tous les types</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Introuvables</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>Non utilisés</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs</source>
+        <translation>
+            <numerusform>%n programme</numerusform>
+            <numerusform>%n programmes</numerusform>
         </translation>
     </message>
 </context>

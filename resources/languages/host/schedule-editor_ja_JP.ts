@@ -196,6 +196,10 @@ Close this question to keep editing.</source>
         <source>Remove</source>
         <translation>外す</translation>
     </message>
+    <message>
+        <source>No program fits what is searched for.</source>
+        <translation>検索に合う番組はありません。</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CatalogueImport</name>
@@ -760,26 +764,6 @@ Close this question to keep editing.</source>
 <context>
     <name>trel::desktop::ProgramTableModel</name>
     <message>
-        <source>Video</source>
-        <translation>動画</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>音声</translation>
-    </message>
-    <message>
-        <source>Image</source>
-        <translation>画像</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>ライブ</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>その他</translation>
-    </message>
-    <message>
         <source>File not found: %1</source>
         <translation>ファイルが見つかりません：%1</translation>
     </message>
@@ -800,8 +784,8 @@ Close this question to keep editing.</source>
         <translation>長さ</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>ファイル</translation>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
     </message>
 </context>
 <context>
@@ -1844,6 +1828,63 @@ What do you want to do with your changes?</source>
         <source>… and %n more differences.</source>
         <translation>
             <numerusform>…ほか %n 件の違い。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWords</name>
+    <message>
+        <source>Video</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音声</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>ライブ</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>その他</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueFilter</name>
+    <message>
+        <source>%1 of %2</source>
+        <comment>programs found of programs</comment>
+        <translation>%2 件中 %1 件</translation>
+    </message>
+    <message>
+        <source>Search name and folder</source>
+        <translation>名前とフォルダーを検索</translation>
+    </message>
+    <message>
+        <source>Kind of program</source>
+        <translation>番組の種類</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>すべての種類</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>未使用</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs</source>
+        <translation>
+            <numerusform>番組 %n 件</numerusform>
         </translation>
     </message>
 </context>

@@ -196,6 +196,10 @@ Close this question to keep editing.</source>
         <source>Remove</source>
         <translation>제거</translation>
     </message>
+    <message>
+        <source>No program fits what is searched for.</source>
+        <translation>찾는 조건에 맞는 프로그램이 없습니다.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CatalogueImport</name>
@@ -760,26 +764,6 @@ Close this question to keep editing.</source>
 <context>
     <name>trel::desktop::ProgramTableModel</name>
     <message>
-        <source>Video</source>
-        <translation>동영상</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>오디오</translation>
-    </message>
-    <message>
-        <source>Image</source>
-        <translation>이미지</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>라이브</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>기타</translation>
-    </message>
-    <message>
         <source>File not found: %1</source>
         <translation>파일이 없습니다: %1</translation>
     </message>
@@ -800,8 +784,8 @@ Close this question to keep editing.</source>
         <translation>길이</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>파일</translation>
+        <source>Folder</source>
+        <translation>폴더</translation>
     </message>
 </context>
 <context>
@@ -1844,6 +1828,63 @@ What do you want to do with your changes?</source>
         <source>… and %n more differences.</source>
         <translation>
             <numerusform>… 그 밖에 차이 %n개.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWords</name>
+    <message>
+        <source>Video</source>
+        <translation>동영상</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>오디오</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>이미지</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>라이브</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>기타</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueFilter</name>
+    <message>
+        <source>%1 of %2</source>
+        <comment>programs found of programs</comment>
+        <translation>%2개 중 %1개</translation>
+    </message>
+    <message>
+        <source>Search name and folder</source>
+        <translation>이름과 폴더에서 찾기</translation>
+    </message>
+    <message>
+        <source>Kind of program</source>
+        <translation>프로그램 종류</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>모든 종류</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>없는 파일</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>미사용</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs</source>
+        <translation>
+            <numerusform>프로그램 %n개</numerusform>
         </translation>
     </message>
 </context>

@@ -198,6 +198,10 @@ Feche esta pergunta para continuar editando.</translation>
         <source>Remove</source>
         <translation>Remover</translation>
     </message>
+    <message>
+        <source>No program fits what is searched for.</source>
+        <translation>Nenhum programa corresponde ao que se procura.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CatalogueImport</name>
@@ -781,26 +785,6 @@ Feche esta pergunta para continuar editando.</translation>
 <context>
     <name>trel::desktop::ProgramTableModel</name>
     <message>
-        <source>Video</source>
-        <translation>Vídeo</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>Áudio</translation>
-    </message>
-    <message>
-        <source>Image</source>
-        <translation>Imagem</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>Ao vivo</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>Outro</translation>
-    </message>
-    <message>
         <source>File not found: %1</source>
         <translation>O arquivo não existe mais: %1</translation>
     </message>
@@ -821,8 +805,8 @@ Feche esta pergunta para continuar editando.</translation>
         <translation>Duração</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Arquivo</translation>
+        <source>Folder</source>
+        <translation>Pasta</translation>
     </message>
 </context>
 <context>
@@ -1871,6 +1855,64 @@ O que deseja fazer com as alterações?</translation>
         <translation>
             <numerusform>… e mais %n diferença.</numerusform>
             <numerusform>… e mais %n diferenças.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWords</name>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Áudio</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Imagem</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Ao vivo</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Outro</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueFilter</name>
+    <message>
+        <source>%1 of %2</source>
+        <comment>programs found of programs</comment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Search name and folder</source>
+        <translation>Procurar no nome e na pasta</translation>
+    </message>
+    <message>
+        <source>Kind of program</source>
+        <translation>Tipo de programa</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Todos os tipos</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Ausentes</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>Não usados</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs</source>
+        <translation>
+            <numerusform>%n programa</numerusform>
+            <numerusform>%n programas</numerusform>
         </translation>
     </message>
 </context>

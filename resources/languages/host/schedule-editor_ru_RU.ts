@@ -200,6 +200,10 @@ Close this question to keep editing.</source>
         <source>Remove</source>
         <translation>Удалить</translation>
     </message>
+    <message>
+        <source>No program fits what is searched for.</source>
+        <translation>Ни одна программа не подходит под условия поиска.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CatalogueImport</name>
@@ -802,26 +806,6 @@ Close this question to keep editing.</source>
 <context>
     <name>trel::desktop::ProgramTableModel</name>
     <message>
-        <source>Video</source>
-        <translation>Видео</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>Аудио</translation>
-    </message>
-    <message>
-        <source>Image</source>
-        <translation>Изображение</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>Прямой эфир</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>Другое</translation>
-    </message>
-    <message>
         <source>File not found: %1</source>
         <translation>Файл больше не существует: %1</translation>
     </message>
@@ -842,8 +826,8 @@ Close this question to keep editing.</source>
         <translation>Длительность</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>Файл</translation>
+        <source>Folder</source>
+        <translation>Папка</translation>
     </message>
 </context>
 <context>
@@ -1898,6 +1882,65 @@ What do you want to do with your changes?</source>
             <numerusform>… и ещё %n различие.</numerusform>
             <numerusform>… и ещё %n различия.</numerusform>
             <numerusform>… и ещё %n различий.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWords</name>
+    <message>
+        <source>Video</source>
+        <translation>Видео</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>Аудио</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Изображение</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>Прямой эфир</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>Другое</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueFilter</name>
+    <message>
+        <source>%1 of %2</source>
+        <comment>programs found of programs</comment>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
+        <source>Search name and folder</source>
+        <translation>Поиск по имени и папке</translation>
+    </message>
+    <message>
+        <source>Kind of program</source>
+        <translation>Тип программы</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>Все типы</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>Без файла</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>Без планов</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs</source>
+        <translation>
+            <numerusform>%n программа</numerusform>
+            <numerusform>%n программы</numerusform>
+            <numerusform>%n программ</numerusform>
         </translation>
     </message>
 </context>

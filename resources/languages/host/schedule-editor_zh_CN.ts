@@ -196,6 +196,10 @@ Close this question to keep editing.</source>
         <source>Remove</source>
         <translation>移除</translation>
     </message>
+    <message>
+        <source>No program fits what is searched for.</source>
+        <translation>没有符合搜索条件的节目。</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CatalogueImport</name>
@@ -760,26 +764,6 @@ Close this question to keep editing.</source>
 <context>
     <name>trel::desktop::ProgramTableModel</name>
     <message>
-        <source>Video</source>
-        <translation>视频</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>音频</translation>
-    </message>
-    <message>
-        <source>Image</source>
-        <translation>图片</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>直播</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>其他</translation>
-    </message>
-    <message>
         <source>File not found: %1</source>
         <translation>文件已不存在：%1</translation>
     </message>
@@ -800,8 +784,8 @@ Close this question to keep editing.</source>
         <translation>时长</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>文件</translation>
+        <source>Folder</source>
+        <translation>文件夹</translation>
     </message>
 </context>
 <context>
@@ -1844,6 +1828,63 @@ What do you want to do with your changes?</source>
         <source>… and %n more differences.</source>
         <translation>
             <numerusform>… 还有 %n 处差异。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWords</name>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音频</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>直播</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>其他</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueFilter</name>
+    <message>
+        <source>%1 of %2</source>
+        <comment>programs found of programs</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Search name and folder</source>
+        <translation>搜索名称和文件夹</translation>
+    </message>
+    <message>
+        <source>Kind of program</source>
+        <translation>节目类型</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>所有类型</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>缺失</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>未使用</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs</source>
+        <translation>
+            <numerusform>%n 个节目</numerusform>
         </translation>
     </message>
 </context>

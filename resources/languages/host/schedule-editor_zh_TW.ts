@@ -196,6 +196,10 @@ Close this question to keep editing.</source>
         <source>Remove</source>
         <translation>移除</translation>
     </message>
+    <message>
+        <source>No program fits what is searched for.</source>
+        <translation>沒有符合搜尋條件的節目。</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CatalogueImport</name>
@@ -760,26 +764,6 @@ Close this question to keep editing.</source>
 <context>
     <name>trel::desktop::ProgramTableModel</name>
     <message>
-        <source>Video</source>
-        <translation>影片</translation>
-    </message>
-    <message>
-        <source>Audio</source>
-        <translation>音訊</translation>
-    </message>
-    <message>
-        <source>Image</source>
-        <translation>圖片</translation>
-    </message>
-    <message>
-        <source>Live</source>
-        <translation>直播</translation>
-    </message>
-    <message>
-        <source>Other</source>
-        <translation>其他</translation>
-    </message>
-    <message>
         <source>File not found: %1</source>
         <translation>檔案已不存在：%1</translation>
     </message>
@@ -800,8 +784,8 @@ Close this question to keep editing.</source>
         <translation>長度</translation>
     </message>
     <message>
-        <source>File</source>
-        <translation>檔案</translation>
+        <source>Folder</source>
+        <translation>資料夾</translation>
     </message>
 </context>
 <context>
@@ -1844,6 +1828,63 @@ What do you want to do with your changes?</source>
         <source>… and %n more differences.</source>
         <translation>
             <numerusform>… 還有 %n 處差異。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ProgramWords</name>
+    <message>
+        <source>Video</source>
+        <translation>影片</translation>
+    </message>
+    <message>
+        <source>Audio</source>
+        <translation>音訊</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>圖片</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>直播</translation>
+    </message>
+    <message>
+        <source>Other</source>
+        <translation>其他</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::CatalogueFilter</name>
+    <message>
+        <source>%1 of %2</source>
+        <comment>programs found of programs</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Search name and folder</source>
+        <translation>搜尋名稱和資料夾</translation>
+    </message>
+    <message>
+        <source>Kind of program</source>
+        <translation>節目類型</translation>
+    </message>
+    <message>
+        <source>All kinds</source>
+        <translation>所有類型</translation>
+    </message>
+    <message>
+        <source>Missing</source>
+        <translation>遺失</translation>
+    </message>
+    <message>
+        <source>Unused</source>
+        <translation>未使用</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs</source>
+        <translation>
+            <numerusform>%n 個節目</numerusform>
         </translation>
     </message>
 </context>

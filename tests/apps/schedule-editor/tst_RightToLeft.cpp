@@ -266,12 +266,13 @@ void tst_RightToLeft::theTotalStandsOffItsCaption()
 void tst_RightToLeft::pathsKeepTheirFirstSlash()
 {
     auto* programs = m_host->window.findChild<QTableView*>(QStringLiteral("programTable"));
-    const QModelIndex path = programs->model()->index(0, ProgramTableModel::PathColumn);
+    const QModelIndex path = programs->model()->index(0, ProgramTableModel::FolderColumn);
     const QString shown = path.data().toString();
     QCOMPARE(shown.at(0), QChar(0x2066));
     QCOMPARE(shown.at(1), QLatin1Char('/'));
     QCOMPARE(shown.at(shown.size() - 1), QChar(0x2069));
-    QCOMPARE(path.data(Qt::ToolTipRole).toString(), shown.mid(1, shown.size() - 2));
+    const QString folder = shown.mid(1, shown.size() - 2);
+    QVERIFY(path.data(Qt::ToolTipRole).toString().startsWith(folder + QLatin1Char('/')));
 }
 
 void tst_RightToLeft::theEllipsisStandsWhereTheTextIsCut_data()

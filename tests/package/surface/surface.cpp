@@ -16,6 +16,7 @@
 #include <service/ProgramOffers.h>
 #include <service/ProgramText.h>
 #include <service/ProgramTotal.h>
+#include <service/ProgramUses.h>
 #include <service/ScheduleDifferences.h>
 #include <service/TaskPeriods.h>
 #include <service/TaskPlans.h>
@@ -87,11 +88,11 @@ int main()
         &tessark::trans::isLanguageFile, &joinWeeks, &lastPlanWithId, &listFromRow, &loadedVersion,
         &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId, &offeredPrograms, &parseWeeks,
         &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate, &programListText,
-        &programText, &entryText, &differencesOfNote, &programVerdict,
+        &programText, &entryText, &differencesOfNote, &programVerdict, &programsInUse,
         &tessark::trans::readLanguageFile, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
         &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleDifferences, &scheduleFromJson,
         &scheduleToJson, &shownAddress, &storeProblemName, &timeFromText, &timeToText, &totalText,
-        &tessark::trans::translate, &weeksOverlap, &writeScheduleFile);
+        &tessark::trans::translate, &usesOf, &weeksOverlap, &writeScheduleFile);
     static_assert(TREL_VERSION >= TREL_VERSION_CHECK(0, 2, 0));
     std::cout << "Version: " << loadedVersion()
               << (std::string(loadedVersion()) == TREL_VERSION_STRING ? ", as compiled\n" : "\n");

@@ -3,26 +3,41 @@
 #include "EditorMenus.h"
 #include "HostPrompts.h"
 #include "ProblemWords.h"
+#include "catalogue/CatalogueFilter.h"
+#include "catalogue/CatalogueOrder.h"
+#include "catalogue/ProgramTable.h"
 #include "catalogue/ProgramTableModel.h"
+#include "service/ProgramUses.h"
 #include "trelprogramschedule/ScheduleHost.h"
 
 #include <QAction>
+#include <QDataStream>
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
-#include <QTableView>
+#include <QScrollBar>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace trel::mediadispatch;
 
 namespace trel::desktop {
 
+namespace {
+
+constexpr qint32 kStateVersion = 1;
+
+} // namespace
+
 CataloguePanel::CataloguePanel(EditorMenus& menus, QWidget* parent)
     : QWidget(parent)
     , m_menus(menus)
     , m_programs(new ProgramTableModel(this))
-    , m_table(new QTableView(this))
+    , m_filter(new CatalogueFilter(this))
+    , m_table(new ProgramTable(*m_programs, this))
     , m_hint(new QLabel(this))
+    , m_order(new CatalogueOrder(this))
 {
     setObjectName(QStringLiteral("cataloguePanel"));
     m_hint->setObjectName(QStringLiteral("programHint"));
@@ -32,31 +47,33 @@ CataloguePanel::CataloguePanel(EditorMenus& menus, QWidget* parent)
     buildTable();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_filter);
     layout->addWidget(m_hint, 1);
     layout->addWidget(m_table, 1);
 
     connectMenus();
-    connect(&ScheduleHost::instance(), &ScheduleHost::catalogueChanged, this,
-            &CataloguePanel::reload);
+    connectOrder();
     retranslate();
+    wish();
     reload();
 }
 
 void CataloguePanel::buildTable()
 {
     m_table->setObjectName(QStringLiteral("programTable"));
-    m_table->setModel(m_programs);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setAlternatingRowColors(true);
-    m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
-    m_table->verticalHeader()->hide();
-    m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_table->setColumnWidth(ProgramTableModel::IndexColumn, 60);
-    m_table->setColumnWidth(ProgramTableModel::NameColumn, 260);
-    m_table->setDragEnabled(true);
+    QHeaderView* columns = m_table->horizontalHeader();
+    columns->setHighlightSections(false);
+    columns->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    columns->setSectionsClickable(true);
+    columns->setSectionsMovable(true);
+    columns->setSortIndicator(ProgramTableModel::IndexColumn, Qt::AscendingOrder);
+    columns->setSortIndicatorShown(true);
+    columns->resizeSection(ProgramTableModel::NameColumn, 160);
+    columns->resizeSection(ProgramTableModel::FolderColumn, 110);
+    columns->resizeSection(ProgramTableModel::KindColumn, 66);
+    columns->resizeSection(ProgramTableModel::LengthColumn, 82);
+    columns->resizeSection(ProgramTableModel::IndexColumn, 80);
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
@@ -71,36 +88,126 @@ void CataloguePanel::connectMenus()
             [this, remove] { remove->setEnabled(m_table->selectionModel()->hasSelection()); });
 }
 
+void CataloguePanel::connectOrder()
+{
+    const ScheduleHost& host = ScheduleHost::instance();
+    connect(&host, &ScheduleHost::catalogueChanged, this, &CataloguePanel::reload);
+    connect(&host, &ScheduleHost::workingSetChanged, this, &CataloguePanel::takeUsed);
+    connect(m_order, &CatalogueOrder::ordered, this, &CataloguePanel::show);
+    connect(m_table->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
+            &CataloguePanel::wish);
+    connect(m_filter, &CatalogueFilter::changed, this, &CataloguePanel::wish);
+    connect(m_filter, &CatalogueFilter::done, m_table, [this] {
+        if (!m_table->currentIndex().isValid()) {
+            m_table->setCurrentIndex(m_programs->index(0, 0));
+        }
+        m_table->setFocus(Qt::OtherFocusReason);
+    });
+}
+
 void CataloguePanel::reload()
 {
-    m_programs->reload();
-    const bool empty = m_programs->rowCount() == 0;
-    m_hint->setVisible(empty);
-    m_table->setVisible(!empty);
+    takeUsed();
+    m_order->setCatalogue(ScheduleHost::instance().catalogue());
+}
+
+void CataloguePanel::takeUsed()
+{
+    // A pass through all plans; nobody needs it as long as nobody asks.
+    if (m_order->wish().isOnlyUnused) {
+        m_order->setUsed(programsInUse(ScheduleHost::instance().workingSet()));
+    }
+}
+
+void CataloguePanel::wish()
+{
+    CatalogueWish wish = m_order->wish();
+    m_filter->fill(wish);
+    const QHeaderView* columns = m_table->horizontalHeader();
+    wish.sortBy(static_cast<ProgramColumn>(columns->sortIndicatorSection()),
+                columns->sortIndicatorOrder());
+    m_isWishNew = true;
+    m_order->setWish(wish);
+    takeUsed();
+}
+
+void CataloguePanel::show(const follow::SharedCatalogue& catalogue, const ProgramRows& rows)
+{
+    const std::vector<int> selected = m_table->selectedPrograms();
+    const int current = m_table->currentProgram();
+    const int place = m_table->verticalScrollBar()->value();
+    bool isOther = false;
+    const auto watch =
+        connect(m_programs, &QAbstractItemModel::modelReset, this, [&isOther] { isOther = true; });
+    m_programs->show(catalogue, rows);
+    disconnect(watch);
+    const bool isEmpty = catalogue->empty();
+    m_hint->setVisible(isEmpty);
+    m_filter->setVisible(!isEmpty);
+    m_table->setVisible(!isEmpty);
+    m_filter->showCount(rows.size(), catalogue->size());
+    if (isOther) {
+        m_table->selectPrograms(selected, current);
+        m_table->verticalScrollBar()->setValue(place);
+    }
+    if (std::exchange(m_isWishNew, false) && isOther) {
+        showCurrent();
+    }
+}
+
+void CataloguePanel::showCurrent()
+{
+    if (m_table->currentIndex().isValid()) {
+        m_table->scrollTo(m_table->currentIndex());
+    } else {
+        m_table->scrollToTop();
+    }
+}
+
+void CataloguePanel::focusSearch()
+{
+    m_filter->focusSearch();
+}
+
+QByteArray CataloguePanel::saveState() const
+{
+    QByteArray state;
+    QDataStream out(&state, QIODevice::WriteOnly);
+    out << kStateVersion << m_table->horizontalHeader()->saveState() << m_filter->saveState();
+    return state;
+}
+
+void CataloguePanel::restoreState(const QByteArray& state)
+{
+    QDataStream in(state);
+    qint32 version = 0;
+    QByteArray columns;
+    QByteArray filter;
+    in >> version >> columns >> filter;
+    if (in.status() != QDataStream::Ok || version != kStateVersion) {
+        return;
+    }
+    QHeaderView* header = m_table->horizontalHeader();
+    if (header->restoreState(columns)) {
+        wish();
+    }
+    m_filter->restoreState(filter);
 }
 
 void CataloguePanel::retranslate()
 {
     m_table->setAccessibleName(m_menus.programsTitle());
+    m_table->setEmptyText(tr("No program fits what is searched for."));
     m_hint->setText(
         tr("No programs yet. Drop media files or folders here, or choose “Import files”."));
     m_programs->retranslate();
-}
-
-std::vector<int> CataloguePanel::selectedPrograms() const
-{
-    std::vector<int> indexes;
-    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
-    for (const QModelIndex& row : rows) {
-        indexes.push_back(row.data(ProgramTableModel::ProgramIndexRole).toInt());
-    }
-    return indexes;
+    m_order->setKindWords();
 }
 
 void CataloguePanel::removeSelected()
 {
     // While the question stands, programs may come and go, and with them the rows.
-    const std::vector<int> indexes = selectedPrograms();
+    const std::vector<int> indexes = m_table->selectedPrograms();
     if (indexes.empty()) {
         return;
     }
@@ -121,6 +228,9 @@ void CataloguePanel::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
+    }
+    if (event->type() == QEvent::LocaleChange) {
+        m_order->setLocale(locale());
     }
     QWidget::changeEvent(event);
 }

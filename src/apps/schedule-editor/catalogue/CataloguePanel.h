@@ -1,19 +1,21 @@
 #pragma once
 
+#include "catalogue/CatalogueRows.h"
+
 #include <QWidget>
 
-#include <vector>
-
-class QAction;
 class QLabel;
-class QTableView;
 
 namespace trel::desktop {
 
+class CatalogueFilter;
+class CatalogueOrder;
 class EditorMenus;
+class ProgramTable;
 class ProgramTableModel;
 
-/// The catalogue of programs: a table of them, or a hint how to come by some.
+/// The catalogue of programs: a table of them that can be searched, filtered and sorted, or a hint
+/// how to come by some.
 ///
 /// It imports nothing and opens nothing itself; the entries of the menus that concern programs
 /// stand in its context menu, and the one that removes them is done here.
@@ -29,20 +31,36 @@ public:
     /// whenever the host says that it has changed.
     void reload();
 
+    /// Lets the operator type what to search for. The panel has to be shown.
+    void focusSearch();
+
+    /// The widths and the order of the columns, what they are sorted by, and the filter without the
+    /// words that are searched for.
+    QByteArray saveState() const;
+    /// Takes over what saveState() has made, as far as it is whole; everything else stays.
+    void restoreState(const QByteArray& state);
+
 protected:
     void changeEvent(QEvent* event) override;
 
 private:
     void buildTable();
     void connectMenus();
+    void connectOrder();
     void retranslate();
+    void wish();
+    void takeUsed();
+    void show(const follow::SharedCatalogue& catalogue, const ProgramRows& rows);
+    void showCurrent();
     void removeSelected();
-    std::vector<int> selectedPrograms() const;
 
     EditorMenus& m_menus;
     ProgramTableModel* m_programs;
-    QTableView* m_table;
+    CatalogueFilter* m_filter;
+    ProgramTable* m_table;
     QLabel* m_hint;
+    CatalogueOrder* m_order;
+    bool m_isWishNew = false; ///< The rows to come are what the operator has asked for.
 };
 
 } // namespace trel::desktop

@@ -2,8 +2,7 @@
 
 #include "BidiText.h"
 #include "catalogue/ProgramDrag.h"
-#include "service/scheduleManage.h"
-#include "trelprogramschedule/catalogue/ShownAddress.h"
+#include "catalogue/ProgramWords.h"
 #include "trelwidgets/PlainToolTip.h"
 
 #include <QBrush>
@@ -20,16 +19,6 @@ namespace trel::desktop {
 
 namespace {
 
-/// A length as hours, minutes and seconds; hours may pass 24.
-QString lengthText(double durationMs)
-{
-    const auto seconds = static_cast<qint64>(durationMs / 1000.0);
-    return QStringLiteral("%1:%2:%3")
-        .arg(seconds / 3600, 2, 10, QLatin1Char('0'))
-        .arg(seconds / 60 % 60, 2, 10, QLatin1Char('0'))
-        .arg(seconds % 60, 2, 10, QLatin1Char('0'));
-}
-
 /// Numbers stand under one another; everything else has the alignment of its view.
 QVariant alignmentOf(int column)
 {
@@ -45,17 +34,23 @@ QString shownPath(const QString& path)
     return QGuiApplication::isRightToLeft() ? leftToRight(path) : path;
 }
 
-bool haveSameIndexes(const std::vector<ProgramIten>& a, const std::vector<ProgramIten>& b)
+bool haveSameIndexes(const ProgramRows& a, const ProgramRows& b)
 {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](const ProgramIten& one, const ProgramIten& other) {
-                          return one.progIndex == other.progIndex;
+                      [](const ProgramIten* one, const ProgramIten* other) {
+                          return one->progIndex == other->progIndex;
                       });
 }
 
-bool hasLength(const ProgramIten& program)
+/// What tells of a program in full. The name stands in front of it where it may have been cut.
+QString toolTip(const ProgramIten& program, int column)
 {
-    return hasOwnLength(program) && program.durationMs >= 0.0;
+    const QString address = programwords::address(program);
+    const QString told =
+        program.isNull ? ProgramTableModel::tr("File not found: %1").arg(address) : address;
+    return column == ProgramTableModel::NameColumn
+               ? programwords::name(program) + QLatin1Char('\n') + told
+               : told;
 }
 
 } // namespace
@@ -66,7 +61,7 @@ ProgramTableModel::ProgramTableModel(QObject* parent)
 
 int ProgramTableModel::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_programs.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 int ProgramTableModel::columnCount(const QModelIndex& parent) const
@@ -74,31 +69,19 @@ int ProgramTableModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : static_cast<int>(ColumnCount);
 }
 
-QVariant ProgramTableModel::text(const ProgramIten& program, int column) const
+QVariant ProgramTableModel::text(const ProgramIten& program, int column)
 {
     switch (column) {
+    case NameColumn:
+        return programwords::name(program);
+    case FolderColumn:
+        return shownPath(programwords::folder(program));
+    case KindColumn:
+        return programwords::kind(program.kind);
+    case LengthColumn:
+        return programwords::length(program);
     case IndexColumn:
         return program.progIndex;
-    case NameColumn:
-        return QString::fromStdString(program.progName);
-    case KindColumn:
-        switch (program.kind) {
-        case ProgramKind::Video:
-            return tr("Video");
-        case ProgramKind::Audio:
-            return tr("Audio");
-        case ProgramKind::Image:
-            return tr("Image");
-        case ProgramKind::Live:
-            return tr("Live");
-        case ProgramKind::Other:
-            return tr("Other");
-        }
-        return QVariant();
-    case LengthColumn:
-        return hasLength(program) ? lengthText(program.durationMs) : QString();
-    case PathColumn:
-        return shownPath(shownAddress(QString::fromStdString(program.mediaPath)));
     default:
         return QVariant();
     }
@@ -109,15 +92,12 @@ QVariant ProgramTableModel::data(const QModelIndex& index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return QVariant();
     }
-    const ProgramIten& program = m_programs[static_cast<std::size_t>(index.row())];
+    const ProgramIten& program = this->program(index.row());
     switch (role) {
     case Qt::DisplayRole:
         return text(program, index.column());
-    case Qt::ToolTipRole: {
-        const QString address = shownAddress(QString::fromStdString(program.mediaPath));
-        return trel::widgets::plainToolTip(program.isNull ? tr("File not found: %1").arg(address)
-                                                          : address);
-    }
+    case Qt::ToolTipRole:
+        return trel::widgets::plainToolTip(toolTip(program, index.column()));
     case Qt::TextAlignmentRole:
         return alignmentOf(index.column());
     case Qt::ForegroundRole:
@@ -143,16 +123,16 @@ QVariant ProgramTableModel::headerData(int section, Qt::Orientation orientation,
         return QAbstractTableModel::headerData(section, orientation, role);
     }
     switch (section) {
-    case IndexColumn:
-        return tr("No.");
     case NameColumn:
         return tr("Program");
+    case FolderColumn:
+        return tr("Folder");
     case KindColumn:
         return tr("Kind");
     case LengthColumn:
         return tr("Length");
-    case PathColumn:
-        return tr("File");
+    case IndexColumn:
+        return tr("No.");
     default:
         return QVariant();
     }
@@ -177,7 +157,7 @@ QMimeData* ProgramTableModel::mimeData(const QModelIndexList& indexes) const
     }
     std::vector<int> programs;
     for (const int row : rows) {
-        programs.push_back(index(row, 0).data(ProgramIndexRole).toInt());
+        programs.push_back(program(row).progIndex);
     }
     return programdrag::make(programs);
 }
@@ -187,29 +167,32 @@ Qt::DropActions ProgramTableModel::supportedDragActions() const
     return Qt::CopyAction;
 }
 
-void ProgramTableModel::reload()
+void ProgramTableModel::show(const follow::SharedCatalogue& catalogue, const ProgramRows& rows)
 {
-    std::vector<ProgramIten> programs;
-    for (auto& [index, program] : scheduleManage::getInstance().getPrograms()) {
-        programs.push_back(std::move(program));
-    }
-    if (haveSameIndexes(programs, m_programs)) {
+    if (haveSameIndexes(rows, m_rows)) {
         // The operator keeps the selection and the place in the table.
-        m_programs = std::move(programs);
-        if (!m_programs.empty()) {
+        m_rows = rows;
+        m_catalogue = catalogue;
+        if (!m_rows.empty()) {
             emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
         }
         return;
     }
     beginResetModel();
-    m_programs = std::move(programs);
+    m_rows = rows;
+    m_catalogue = catalogue;
     endResetModel();
+}
+
+const ProgramIten& ProgramTableModel::program(int row) const
+{
+    return *m_rows[static_cast<std::size_t>(row)];
 }
 
 void ProgramTableModel::retranslate()
 {
     emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
-    if (!m_programs.empty()) {
+    if (!m_rows.empty()) {
         emit dataChanged(index(0, KindColumn), index(rowCount() - 1, KindColumn));
     }
 }

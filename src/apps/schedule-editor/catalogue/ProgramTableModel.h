@@ -1,20 +1,26 @@
 #pragma once
 
-#include "service/ScheduleRecords.h"
+#include "catalogue/CatalogueRows.h"
+#include "catalogue/ProgramColumns.h"
 
 #include <QAbstractTableModel>
 
-#include <vector>
-
 namespace trel::desktop {
 
-/// The programs of the catalogue, a row each, in the order of their indexes.
+/// Programs of the catalogue, a row each, in the order that they are handed over in.
 class ProgramTableModel : public QAbstractTableModel
 {
     Q_OBJECT
 
 public:
-    enum Column { IndexColumn, NameColumn, KindColumn, LengthColumn, PathColumn, ColumnCount };
+    enum Column {
+        NameColumn = static_cast<int>(ProgramColumn::Name),
+        FolderColumn = static_cast<int>(ProgramColumn::Folder),
+        KindColumn = static_cast<int>(ProgramColumn::Kind),
+        LengthColumn = static_cast<int>(ProgramColumn::Length),
+        IndexColumn = static_cast<int>(ProgramColumn::Index),
+        ColumnCount = kProgramColumns
+    };
 
     enum Role {
         ProgramIndexRole = Qt::UserRole, ///< int
@@ -34,16 +40,19 @@ public:
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
     Qt::DropActions supportedDragActions() const override;
 
-    /// Takes over the catalogue as it stands in the service now. Selections stay where the programs
-    /// are the same and only tell something else of themselves, such as that their file has gone.
-    void reload();
+    /// Shows these programs of a catalogue. Selections stay where the programs are the same and
+    /// only tell something else of themselves, such as that their file has gone.
+    void show(const follow::SharedCatalogue& catalogue, const ProgramRows& rows);
+    /// The program of a row that there is. Valid until show().
+    const trel::mediadispatch::ProgramIten& program(int row) const;
     /// Shows captions and kinds in the language in use now; rows and selections stay.
     void retranslate();
 
 private:
-    QVariant text(const trel::mediadispatch::ProgramIten& program, int column) const;
+    static QVariant text(const trel::mediadispatch::ProgramIten& program, int column);
 
-    std::vector<trel::mediadispatch::ProgramIten> m_programs;
+    follow::SharedCatalogue m_catalogue; ///< Owns what the rows speak of.
+    ProgramRows m_rows;
 };
 
 } // namespace trel::desktop

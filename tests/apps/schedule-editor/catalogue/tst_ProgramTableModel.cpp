@@ -25,6 +25,8 @@ private slots:
     void aPasswordIsNotShown();
 
 private:
+    /// Shows the catalogue as it stands.
+    void reload(ProgramTableModel& model) const;
     static QString row(const ProgramTableModel& model, int row);
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -34,10 +36,17 @@ private:
 QString tst_ProgramTableModel::row(const ProgramTableModel& model, int row)
 {
     QStringList cells;
-    for (int column = 0; column < ProgramTableModel::PathColumn; ++column) {
+    for (const int column : {ProgramTableModel::IndexColumn, ProgramTableModel::NameColumn,
+                             ProgramTableModel::KindColumn, ProgramTableModel::LengthColumn}) {
         cells.append(model.index(row, column).data().toString());
     }
     return cells.join(QLatin1Char('|'));
+}
+
+void tst_ProgramTableModel::reload(ProgramTableModel& model) const
+{
+    const follow::SharedCatalogue catalogue = m_host.catalogue();
+    model.show(catalogue, rowsOf(catalogue, {}, {}));
 }
 
 void tst_ProgramTableModel::init()
@@ -69,14 +78,14 @@ void tst_ProgramTableModel::cleanup()
 void tst_ProgramTableModel::showsOneLineAProgram()
 {
     ProgramTableModel model;
-    model.reload();
+    reload(model);
 
     QCOMPARE(model.rowCount(), 4);
     QCOMPARE(row(model, 0), QStringLiteral("1|film|Video|01:01:01"));
     QCOMPARE(row(model, 1), QStringLiteral("2|tune|Audio|00:00:01"));
     QCOMPARE(row(model, 2), QStringLiteral("3|card|Image|"));
     QCOMPARE(row(model, 3), QStringLiteral("4|feed|Live|"));
-    QCOMPARE(model.index(3, ProgramTableModel::PathColumn).data().toString(),
+    QCOMPARE(model.index(3, ProgramTableModel::FolderColumn).data().toString(),
              QStringLiteral("rtsp://feed"));
 }
 
@@ -91,19 +100,19 @@ void tst_ProgramTableModel::followsTheModelRules()
     QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
     QVERIFY(changes.isValid());
 
-    model.reload();
+    reload(model);
     QCOMPARE(resets.count(), 1);
     QCOMPARE(changes.count(), 0);
-    model.reload();
+    reload(model);
     QCOMPARE(resets.count(), 1);
     QCOMPARE(changes.count(), 1);
     QVERIFY(m_host.removeProgram(2));
-    model.reload();
+    reload(model);
     QCOMPARE(resets.count(), 2);
     QCOMPARE(row(model, 1), QStringLiteral("3|card|Image|"));
     m_host.close();
-    model.reload();
-    model.reload();
+    reload(model);
+    reload(model);
     QCOMPARE(model.rowCount(), 0);
     QCOMPARE(changes.count(), 1);
 }
@@ -111,12 +120,12 @@ void tst_ProgramTableModel::followsTheModelRules()
 void tst_ProgramTableModel::aFileThatHasGoneIsMarked()
 {
     ProgramTableModel model;
-    model.reload();
+    reload(model);
     QItemSelectionModel selection(&model);
     selection.select(model.index(2, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
     QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral("film"))));
     QVERIFY(m_host.reload());
-    model.reload();
+    reload(model);
 
     QVERIFY(selection.isRowSelected(2, {}));
     QVERIFY(model.index(0, 0).data(ProgramTableModel::MissingRole).toBool());
@@ -136,11 +145,11 @@ void tst_ProgramTableModel::aPasswordIsNotShown()
                                ProgramKind::Other}})
                 .store);
     ProgramTableModel model;
-    model.reload();
+    reload(model);
 
     QCOMPARE(model.rowCount(), 6);
     const auto told = [&model](int row, int role) {
-        return model.index(row, ProgramTableModel::PathColumn).data(role).toString();
+        return model.index(row, ProgramTableModel::FolderColumn).data(role).toString();
     };
     QCOMPARE(told(4, Qt::DisplayRole), shown);
     QCOMPARE(told(4, Qt::ToolTipRole), shown);
