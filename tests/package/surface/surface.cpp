@@ -78,10 +78,10 @@ int main()
                  &ProgramVerdict::plays, &Clock::current, &ClockAlarm::set, &ScreenTimeline::at,
                  &tessark::trans::Translator::load);
     const bool areFunctionsThere = areThere(
-        &addDuration, &allTaskOverlaps, &buryInvalidEntry, &clockChanges, &claimsCollide,
-        &collidingClaims, &collisionsOf, &firstCollisions, &completeNewPlan, &containsNoDuration,
-        &countsRuns, &dateFromText, &dateToText, &digitsAt, &englishClause, &englishSentence,
-        static_cast<QString (*)(const StoreResult&)>(&englishText),
+        &addDuration, &allTaskOverlaps, &buryInvalidEntry, &clockChanges, &clockChangesOfTask,
+        &claimsCollide, &collidingClaims, &collisionsOf, &firstCollisions, &completeNewPlan,
+        &containsNoDuration, &countsRuns, &dateFromText, &dateToText, &digitsAt, &englishClause,
+        &englishSentence, static_cast<QString (*)(const StoreResult&)>(&englishText),
         static_cast<QString (*)(const ScheduleFromJson&)>(&englishText), &exceedsDay, &faultName,
         &faultOfVersionTexts, &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm,
         &holdsAsInvalid, &insertedPlan, &insertionScope, &isInvalidReadBack,

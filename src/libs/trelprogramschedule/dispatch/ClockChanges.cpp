@@ -310,6 +310,29 @@ std::vector<TaskClockChange> ClockChangeSearch::next(const QDate& from, int coun
     return result;
 }
 
+std::vector<TaskClockChange> clockChangesOfTask(const PlayTask& task,
+                                                const std::map<int, ProgramIten>& catalogue,
+                                                const std::vector<ClockChange>& changes)
+{
+    std::vector<TaskClockChange> result;
+    const TaskValidity validity = validityOf(task);
+    std::optional<SpansOfTask> spans;
+    for (const ClockChange& change : changes) {
+        const DayNumber day = dayNumber(change.date);
+        if (day < validity.first || validity.last < day) {
+            continue;
+        }
+        if (!spans) {
+            spans.emplace(task, catalogue);
+        }
+        std::vector<TouchedPlan> touched = spans->touchedBy(change);
+        if (!touched.empty()) {
+            result.push_back({change, task.id, std::move(touched)});
+        }
+    }
+    return result;
+}
+
 std::vector<TaskClockChange> nextClockChanges(const std::map<int, PlayTask>& tasks,
                                               const std::map<int, ProgramIten>& catalogue,
                                               const QTimeZone& zone, const QDate& from, int count)

@@ -91,6 +91,12 @@ inline bool operator==(const TaskClockChange& a, const TaskClockChange& b)
     return std::tie(a.change, a.taskId, a.plans) == std::tie(b.change, b.taskId, b.plans);
 }
 
+/// Those of some changes that fall on a day on which a task is valid and that touch plans of it, in
+/// the order given. Other tasks that are valid on the same day are not looked at.
+TRELPROGRAMSCHEDULE_EXPORT std::vector<TaskClockChange>
+clockChangesOfTask(const PlayTask& task, const std::map<int, ProgramIten>& catalogue,
+                   const std::vector<ClockChange>& changes);
+
 /// The next changes, `count` at most, on days from `from` on on which a task is in effect: of
 /// several that are valid the one with the lowest id. A plan is touched when it plays on that
 /// weekday and its span and the change share a second; a span that is empty or inverted shares
