@@ -8,6 +8,7 @@ const std::vector<Command>& allCommands()
         importCommand(),
         programsCommand(),
         removeProgramCommand(),
+        whereUsedCommand(),
         showCommand(),
         checkCommand(),
         nowCommand(),

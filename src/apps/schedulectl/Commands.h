@@ -11,6 +11,7 @@ namespace trel::console {
 Command importCommand();
 Command programsCommand();
 Command removeProgramCommand();
+Command whereUsedCommand();
 Command showCommand();
 Command checkCommand();
 Command nowCommand();

@@ -48,6 +48,7 @@ const QStringList& commandNames()
                                       QStringLiteral("now"),
                                       QStringLiteral("timeline"),
                                       QStringLiteral("why"),
+                                      QStringLiteral("where-used"),
                                       QStringLiteral("run")};
     return names;
 }
@@ -64,7 +65,7 @@ void addReadingCommands()
     for (const char* command :
          {"programs", "programs --json", "show", "show --json", "check", "check --json",
           "export out.json", "export -", "remove-program 1", "now", "now --json",
-          "timeline --from 08:00 --to 09:00", "why 1", "run"}) {
+          "timeline --from 08:00 --to 09:00", "why 1", "where-used 1", "run"}) {
         QTest::newRow(command) << words(command);
     }
 }
