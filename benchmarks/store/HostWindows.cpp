@@ -88,12 +88,10 @@ void HostWindows::showEditor()
 
 void HostWindows::showPanels()
 {
-    for (const char* const name : {"clockChangeDock", "weekDock"}) {
-        auto* panel = m_window.findChild<QDockWidget*>(QLatin1String(name));
-        panel->setFloating(true);
-        panel->resize(1000, 700);
-        panel->show();
-    }
+    auto* panel = m_window.findChild<QDockWidget*>(QStringLiteral("clockChangeDock"));
+    panel->setFloating(true);
+    panel->resize(1000, 700);
+    panel->show();
     QCoreApplication::processEvents();
 }
 

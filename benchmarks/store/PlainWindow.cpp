@@ -82,9 +82,9 @@ QPushButton* sign(const char* text, QWidget* parent)
 PlainWindow::PlainWindow(int programs)
 {
     addMenus();
-    addTable(programs);
-    addPanels();
-    resize(1180, 720);
+    addPanels(programs);
+    setCentralWidget(middle());
+    resize(1340, 700);
 }
 
 void PlainWindow::addMenus()
@@ -99,7 +99,7 @@ void PlainWindow::addMenus()
     }
 }
 
-void PlainWindow::addTable(int programs)
+QWidget* PlainWindow::catalogue(int programs)
 {
     auto* centre = new QWidget(this);
     auto* table = new QTableView(centre);
@@ -118,11 +118,13 @@ void PlainWindow::addTable(int programs)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(hidden(new QLabel(QStringLiteral("No programs yet."), centre)), 1);
     layout->addWidget(table, 1);
-    setCentralWidget(centre);
+    return centre;
 }
 
-void PlainWindow::addPanels()
+void PlainWindow::addPanels(int programs)
 {
+    QDockWidget* list =
+        addPanel(QStringLiteral("Catalog"), catalogue(programs), Qt::LeftDockWidgetArea);
     auto* picture = new QWidget;
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
@@ -133,12 +135,12 @@ void PlainWindow::addPanels()
     QDockWidget* preview = addPanel(QStringLiteral("Preview"), picture, Qt::RightDockWidgetArea);
     QDockWidget* clocks =
         addPanel(QStringLiteral("Clock changes"), clockChanges(), Qt::BottomDockWidgetArea);
-    QDockWidget* days = hidden(addPanel(QStringLiteral("Week"), week(), Qt::BottomDockWidgetArea));
-    tabifyDockWidget(clocks, days);
     hidden(addPanel(QStringLiteral("History"), new QListView, Qt::RightDockWidgetArea));
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    resizeDocks({now}, {360}, Qt::Horizontal);
-    resizeDocks({now, preview, clocks}, {430, 210, 130}, Qt::Vertical);
+    resizeDocks({list, now}, {250, 260}, Qt::Horizontal);
+    resizeDocks({now, preview}, {450, 150}, Qt::Vertical);
+    resizeDocks({clocks}, {56}, Qt::Vertical);
 }
 
 QDockWidget* PlainWindow::addPanel(const QString& title, QWidget* content, Qt::DockWidgetArea area)
@@ -216,6 +218,25 @@ QWidget* PlainWindow::clockChanges()
     return list;
 }
 
+QWidget* PlainWindow::middle()
+{
+    auto* page = new QWidget;
+    auto* year = new QWidget(page);
+    year->setMinimumHeight(46);
+    auto* reason = line("Click a block to see why it is on screen, or why not.", page);
+    reason->setWordWrap(true);
+    reason->setMinimumHeight(4 * reason->fontMetrics().lineSpacing());
+    auto* below = new QHBoxLayout;
+    below->addWidget(reason, 1);
+    below->addWidget(new QWidget(page), 1);
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(year);
+    layout->addWidget(week(), 1);
+    layout->addLayout(below);
+    return page;
+}
+
 QWidget* PlainWindow::week()
 {
     auto* panel = new QWidget;
@@ -228,10 +249,12 @@ QWidget* PlainWindow::week()
 
     auto* controls = new QHBoxLayout;
     controls->setSpacing(4);
+    controls->addWidget(sign("<<", panel));
     controls->addWidget(sign("<", panel));
     controls->addWidget(new QPushButton(QStringLiteral("Today"), panel));
     controls->addWidget(sign(">", panel));
-    controls->addWidget(new QLabel(QStringLiteral("11/16/26 - 11/22/26"), panel));
+    controls->addWidget(sign(">>", panel));
+    controls->addWidget(new QPushButton(QStringLiteral("2026.11.16 - 2026.11.22"), panel));
     controls->addStretch();
     controls->addWidget(source);
     controls->addWidget(sign("-", panel));

@@ -18,8 +18,9 @@ public:
 
 private:
     void addMenus();
-    void addTable(int programs);
-    void addPanels();
+    void addPanels(int programs);
+    QWidget* catalogue(int programs);
+    QWidget* middle();
     QWidget* nowNext();
     QWidget* clockChanges();
     QWidget* week();

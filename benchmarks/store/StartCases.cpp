@@ -61,8 +61,7 @@ public:
         const QStringList families = languageFont(QFont(), QLatin1String(kLanguage)).families();
         m_widgets =
             QStringList{families.join(QLatin1Char(',')),
-                        QString::number(scheduleManage::getInstance().getPrograms().size()),
-                        QString::number(scheduleManage::getInstance().getgTaskMap().size())};
+                        QString::number(scheduleManage::getInstance().getPrograms().size())};
         ScheduleHost::instance().close();
     }
 

@@ -176,6 +176,14 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
         <source>Keep as draft</source>
         <translation>Als Entwurf behalten</translation>
     </message>
+    <message>
+        <source>Catalog</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Catal&amp;og</source>
+        <translation>&amp;Katalog</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1147,16 +1155,17 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <source>nothing to show</source>
         <translation>nichts zu zeigen</translation>
     </message>
-</context>
-<context>
-    <name>trel::desktop::WeekDock</name>
     <message>
-        <source>Week</source>
-        <translation>Woche</translation>
+        <source>Not on screen</source>
+        <translation>Nicht auf dem Bildschirm</translation>
     </message>
     <message>
-        <source>&amp;Week</source>
-        <translation>&amp;Woche</translation>
+        <source>In conflict</source>
+        <translation>In Konflikt</translation>
+    </message>
+    <message>
+        <source>Programs of the week</source>
+        <translation>Programme der Woche</translation>
     </message>
 </context>
 <context>
@@ -1203,6 +1212,23 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>Schedule shown</source>
         <translation>Angezeigter Wiedergabeplan</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>Vorheriger Monat</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>Folgender Monat</translation>
+    </message>
+    <message>
+        <source>Choose a day in a calendar</source>
+        <translation>Einen Tag im Kalender wählen</translation>
+    </message>
+    <message>
+        <source>%1. Choose a day in a calendar</source>
+        <comment>days of a week</comment>
+        <translation>%1. Einen Tag im Kalender wählen</translation>
     </message>
 </context>
 <context>
@@ -1914,6 +1940,43 @@ Was soll mit Ihren Änderungen geschehen?</translation>
             <numerusform>%n Programm</numerusform>
             <numerusform>%n Programme</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CalendarPopup</name>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekPage</name>
+    <message>
+        <source>Click a block to see why it is on screen, or why not.</source>
+        <translation>Klicken Sie auf einen Block, um zu sehen, warum er auf dem Bildschirm ist oder nicht.</translation>
+    </message>
+    <message>
+        <source>Why the selected block is on screen, or why not</source>
+        <translation>Warum der gewählte Block auf dem Bildschirm ist oder nicht</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::year::YearStrip</name>
+    <message>
+        <source>Gap: no task is valid from %1 to %2.</source>
+        <translation>Lücke: Von %1 bis %2 ist kein Auftrag gültig.</translation>
+    </message>
+    <message>
+        <source>Overlap: several tasks are valid from %1 to %2.</source>
+        <translation>Überschneidung: Von %1 bis %2 sind mehrere Aufträge gültig.</translation>
+    </message>
+    <message>
+        <source>Task %1 is valid from %2 to %3.</source>
+        <translation>Auftrag %1 ist von %2 bis %3 gültig.</translation>
+    </message>
+    <message>
+        <source>Validity of the tasks in %1</source>
+        <translation>Gültigkeit der Aufträge im Jahr %1</translation>
     </message>
 </context>
 </TS>

@@ -176,6 +176,14 @@ Cierre esta pregunta para seguir editando.</translation>
         <source>Keep as draft</source>
         <translation>Guardar borrador</translation>
     </message>
+    <message>
+        <source>Catalog</source>
+        <translation>Catálogo</translation>
+    </message>
+    <message>
+        <source>Catal&amp;og</source>
+        <translation>Catálo&amp;go</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1147,16 +1155,17 @@ What do you want to do with your changes?</source>
         <source>nothing to show</source>
         <translation>nada que mostrar</translation>
     </message>
-</context>
-<context>
-    <name>trel::desktop::WeekDock</name>
     <message>
-        <source>Week</source>
-        <translation>Semana</translation>
+        <source>Not on screen</source>
+        <translation>No en pantalla</translation>
     </message>
     <message>
-        <source>&amp;Week</source>
-        <translation>&amp;Semana</translation>
+        <source>In conflict</source>
+        <translation>En conflicto</translation>
+    </message>
+    <message>
+        <source>Programs of the week</source>
+        <translation>Programas de la semana</translation>
     </message>
 </context>
 <context>
@@ -1203,6 +1212,23 @@ What do you want to do with your changes?</source>
     <message>
         <source>Schedule shown</source>
         <translation>Qué programación se muestra</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>Mes anterior</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>Mes siguiente</translation>
+    </message>
+    <message>
+        <source>Choose a day in a calendar</source>
+        <translation>Elegir un día en un calendario</translation>
+    </message>
+    <message>
+        <source>%1. Choose a day in a calendar</source>
+        <comment>days of a week</comment>
+        <translation>%1. Elegir un día en un calendario</translation>
     </message>
 </context>
 <context>
@@ -1914,6 +1940,43 @@ What do you want to do with your changes?</source>
             <numerusform>%n programa</numerusform>
             <numerusform>%n programas</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CalendarPopup</name>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendario</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekPage</name>
+    <message>
+        <source>Click a block to see why it is on screen, or why not.</source>
+        <translation>Haga clic en un bloque para ver por qué está en pantalla o por qué no.</translation>
+    </message>
+    <message>
+        <source>Why the selected block is on screen, or why not</source>
+        <translation>Por qué el bloque seleccionado está en pantalla o por qué no</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::year::YearStrip</name>
+    <message>
+        <source>Gap: no task is valid from %1 to %2.</source>
+        <translation>Hueco: ninguna tarea es válida del %1 al %2.</translation>
+    </message>
+    <message>
+        <source>Overlap: several tasks are valid from %1 to %2.</source>
+        <translation>Solapamiento: varias tareas son válidas del %1 al %2.</translation>
+    </message>
+    <message>
+        <source>Task %1 is valid from %2 to %3.</source>
+        <translation>La tarea %1 es válida del %2 al %3.</translation>
+    </message>
+    <message>
+        <source>Validity of the tasks in %1</source>
+        <translation>Validez de las tareas en %1</translation>
     </message>
 </context>
 </TS>

@@ -176,6 +176,14 @@ Fermez cette question pour continuer à modifier.</translation>
         <source>Keep as draft</source>
         <translation>Garder le brouillon</translation>
     </message>
+    <message>
+        <source>Catalog</source>
+        <translation>Catalogue</translation>
+    </message>
+    <message>
+        <source>Catal&amp;og</source>
+        <translation>Catalo&amp;gue</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1147,16 +1155,17 @@ Que faire de vos modifications&#xa0;?</translation>
         <source>nothing to show</source>
         <translation>rien à montrer</translation>
     </message>
-</context>
-<context>
-    <name>trel::desktop::WeekDock</name>
     <message>
-        <source>Week</source>
-        <translation>Semaine</translation>
+        <source>Not on screen</source>
+        <translation>Pas à l’écran</translation>
     </message>
     <message>
-        <source>&amp;Week</source>
-        <translation>S&amp;emaine</translation>
+        <source>In conflict</source>
+        <translation>En conflit</translation>
+    </message>
+    <message>
+        <source>Programs of the week</source>
+        <translation>Programmes de la semaine</translation>
     </message>
 </context>
 <context>
@@ -1203,6 +1212,23 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>Schedule shown</source>
         <translation>Programmation affichée</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>Mois précédent</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>Mois suivant</translation>
+    </message>
+    <message>
+        <source>Choose a day in a calendar</source>
+        <translation>Choisir un jour dans un calendrier</translation>
+    </message>
+    <message>
+        <source>%1. Choose a day in a calendar</source>
+        <comment>days of a week</comment>
+        <translation>%1. Choisir un jour dans un calendrier</translation>
     </message>
 </context>
 <context>
@@ -1914,6 +1940,43 @@ Que faire de vos modifications&#xa0;?</translation>
             <numerusform>%n programme</numerusform>
             <numerusform>%n programmes</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CalendarPopup</name>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendrier</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekPage</name>
+    <message>
+        <source>Click a block to see why it is on screen, or why not.</source>
+        <translation>Cliquez sur un bloc pour savoir pourquoi il est à l’écran, ou pourquoi non.</translation>
+    </message>
+    <message>
+        <source>Why the selected block is on screen, or why not</source>
+        <translation>Pourquoi le bloc sélectionné est à l’écran, ou pourquoi non</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::year::YearStrip</name>
+    <message>
+        <source>Gap: no task is valid from %1 to %2.</source>
+        <translation>Lacune : aucune tâche n’est valide du %1 au %2.</translation>
+    </message>
+    <message>
+        <source>Overlap: several tasks are valid from %1 to %2.</source>
+        <translation>Chevauchement : plusieurs tâches sont valides du %1 au %2.</translation>
+    </message>
+    <message>
+        <source>Task %1 is valid from %2 to %3.</source>
+        <translation>La tâche %1 est valide du %2 au %3.</translation>
+    </message>
+    <message>
+        <source>Validity of the tasks in %1</source>
+        <translation>Validité des tâches en %1</translation>
     </message>
 </context>
 </TS>

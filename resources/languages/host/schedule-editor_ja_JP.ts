@@ -175,6 +175,14 @@ Close this question to keep editing.</source>
         <source>Keep as draft</source>
         <translation>下書きとして残す</translation>
     </message>
+    <message>
+        <source>Catalog</source>
+        <translation>番組一覧</translation>
+    </message>
+    <message>
+        <source>Catal&amp;og</source>
+        <translation>番組一覧(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1125,16 +1133,17 @@ What do you want to do with your changes?</source>
         <source>nothing to show</source>
         <translation>表示するものなし</translation>
     </message>
-</context>
-<context>
-    <name>trel::desktop::WeekDock</name>
     <message>
-        <source>Week</source>
-        <translation>週</translation>
+        <source>Not on screen</source>
+        <translation>画面に出ない</translation>
     </message>
     <message>
-        <source>&amp;Week</source>
-        <translation>週(&amp;W)</translation>
+        <source>In conflict</source>
+        <translation>重複あり</translation>
+    </message>
+    <message>
+        <source>Programs of the week</source>
+        <translation>週の番組</translation>
     </message>
 </context>
 <context>
@@ -1181,6 +1190,23 @@ What do you want to do with your changes?</source>
     <message>
         <source>Schedule shown</source>
         <translation>表示するスケジュール</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>前の月</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>次の月</translation>
+    </message>
+    <message>
+        <source>Choose a day in a calendar</source>
+        <translation>カレンダーで日を選択</translation>
+    </message>
+    <message>
+        <source>%1. Choose a day in a calendar</source>
+        <comment>days of a week</comment>
+        <translation>%1。カレンダーで日を選択</translation>
     </message>
 </context>
 <context>
@@ -1886,6 +1912,43 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>番組 %n 件</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CalendarPopup</name>
+    <message>
+        <source>Calendar</source>
+        <translation>カレンダー</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekPage</name>
+    <message>
+        <source>Click a block to see why it is on screen, or why not.</source>
+        <translation>ブロックをクリックすると、画面に出る理由または出ない理由が表示されます。</translation>
+    </message>
+    <message>
+        <source>Why the selected block is on screen, or why not</source>
+        <translation>選択したブロックが画面に出る理由または出ない理由</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::year::YearStrip</name>
+    <message>
+        <source>Gap: no task is valid from %1 to %2.</source>
+        <translation>空き：%1から%2まで有効なタスクがありません。</translation>
+    </message>
+    <message>
+        <source>Overlap: several tasks are valid from %1 to %2.</source>
+        <translation>重なり：%1から%2まで複数のタスクが有効です。</translation>
+    </message>
+    <message>
+        <source>Task %1 is valid from %2 to %3.</source>
+        <translation>タスク%1は%2から%3まで有効です。</translation>
+    </message>
+    <message>
+        <source>Validity of the tasks in %1</source>
+        <translation>%1年のタスクの有効期間</translation>
     </message>
 </context>
 </TS>

@@ -175,6 +175,14 @@ Close this question to keep editing.</source>
         <source>Keep as draft</source>
         <translation>초안으로 보관</translation>
     </message>
+    <message>
+        <source>Catalog</source>
+        <translation>프로그램 목록</translation>
+    </message>
+    <message>
+        <source>Catal&amp;og</source>
+        <translation>프로그램 목록(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1125,16 +1133,17 @@ What do you want to do with your changes?</source>
         <source>nothing to show</source>
         <translation>표시할 내용 없음</translation>
     </message>
-</context>
-<context>
-    <name>trel::desktop::WeekDock</name>
     <message>
-        <source>Week</source>
-        <translation>주</translation>
+        <source>Not on screen</source>
+        <translation>화면에 나오지 않음</translation>
     </message>
     <message>
-        <source>&amp;Week</source>
-        <translation>주(&amp;W)</translation>
+        <source>In conflict</source>
+        <translation>충돌 있음</translation>
+    </message>
+    <message>
+        <source>Programs of the week</source>
+        <translation>이번 주 프로그램</translation>
     </message>
 </context>
 <context>
@@ -1181,6 +1190,23 @@ What do you want to do with your changes?</source>
     <message>
         <source>Schedule shown</source>
         <translation>표시할 일정</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>이전 달</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>다음 달</translation>
+    </message>
+    <message>
+        <source>Choose a day in a calendar</source>
+        <translation>달력에서 날짜 선택</translation>
+    </message>
+    <message>
+        <source>%1. Choose a day in a calendar</source>
+        <comment>days of a week</comment>
+        <translation>%1. 달력에서 날짜 선택</translation>
     </message>
 </context>
 <context>
@@ -1886,6 +1912,43 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>프로그램 %n개</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CalendarPopup</name>
+    <message>
+        <source>Calendar</source>
+        <translation>달력</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekPage</name>
+    <message>
+        <source>Click a block to see why it is on screen, or why not.</source>
+        <translation>블록을 클릭하면 화면에 나오거나 나오지 않는 이유를 볼 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Why the selected block is on screen, or why not</source>
+        <translation>선택한 블록이 화면에 나오거나 나오지 않는 이유</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::year::YearStrip</name>
+    <message>
+        <source>Gap: no task is valid from %1 to %2.</source>
+        <translation>빈 기간: %1부터 %2까지 유효한 작업이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Overlap: several tasks are valid from %1 to %2.</source>
+        <translation>겹침: %1부터 %2까지 여러 작업이 유효합니다.</translation>
+    </message>
+    <message>
+        <source>Task %1 is valid from %2 to %3.</source>
+        <translation>작업 %1은(는) %2부터 %3까지 유효합니다.</translation>
+    </message>
+    <message>
+        <source>Validity of the tasks in %1</source>
+        <translation>%1년 작업의 유효 기간</translation>
     </message>
 </context>
 </TS>

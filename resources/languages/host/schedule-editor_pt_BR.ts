@@ -176,6 +176,14 @@ Feche esta pergunta para continuar editando.</translation>
         <source>Keep as draft</source>
         <translation>Manter rascunho</translation>
     </message>
+    <message>
+        <source>Catalog</source>
+        <translation>Catálogo</translation>
+    </message>
+    <message>
+        <source>Catal&amp;og</source>
+        <translation>Catálo&amp;go</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1147,16 +1155,17 @@ O que deseja fazer com as alterações?</translation>
         <source>nothing to show</source>
         <translation>nada a mostrar</translation>
     </message>
-</context>
-<context>
-    <name>trel::desktop::WeekDock</name>
     <message>
-        <source>Week</source>
-        <translation>Semana</translation>
+        <source>Not on screen</source>
+        <translation>Fora da tela</translation>
     </message>
     <message>
-        <source>&amp;Week</source>
-        <translation>&amp;Semana</translation>
+        <source>In conflict</source>
+        <translation>Em conflito</translation>
+    </message>
+    <message>
+        <source>Programs of the week</source>
+        <translation>Programas da semana</translation>
     </message>
 </context>
 <context>
@@ -1203,6 +1212,23 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>Schedule shown</source>
         <translation>Qual programação é mostrada</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>Mês anterior</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>Mês seguinte</translation>
+    </message>
+    <message>
+        <source>Choose a day in a calendar</source>
+        <translation>Escolher um dia em um calendário</translation>
+    </message>
+    <message>
+        <source>%1. Choose a day in a calendar</source>
+        <comment>days of a week</comment>
+        <translation>%1. Escolher um dia em um calendário</translation>
     </message>
 </context>
 <context>
@@ -1914,6 +1940,43 @@ O que deseja fazer com as alterações?</translation>
             <numerusform>%n programa</numerusform>
             <numerusform>%n programas</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CalendarPopup</name>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendário</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekPage</name>
+    <message>
+        <source>Click a block to see why it is on screen, or why not.</source>
+        <translation>Clique em um bloco para ver por que ele está na tela ou por que não.</translation>
+    </message>
+    <message>
+        <source>Why the selected block is on screen, or why not</source>
+        <translation>Por que o bloco selecionado está na tela ou por que não</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::year::YearStrip</name>
+    <message>
+        <source>Gap: no task is valid from %1 to %2.</source>
+        <translation>Lacuna: nenhuma tarefa é válida de %1 a %2.</translation>
+    </message>
+    <message>
+        <source>Overlap: several tasks are valid from %1 to %2.</source>
+        <translation>Sobreposição: várias tarefas são válidas de %1 a %2.</translation>
+    </message>
+    <message>
+        <source>Task %1 is valid from %2 to %3.</source>
+        <translation>A tarefa %1 é válida de %2 a %3.</translation>
+    </message>
+    <message>
+        <source>Validity of the tasks in %1</source>
+        <translation>Validade das tarefas em %1</translation>
     </message>
 </context>
 </TS>

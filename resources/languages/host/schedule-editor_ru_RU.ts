@@ -177,6 +177,14 @@ Close this question to keep editing.</source>
         <source>Keep as draft</source>
         <translation>Оставить черновик</translation>
     </message>
+    <message>
+        <source>Catalog</source>
+        <translation>Каталог</translation>
+    </message>
+    <message>
+        <source>Catal&amp;og</source>
+        <translation>&amp;Каталог</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1169,16 +1177,17 @@ What do you want to do with your changes?</source>
         <source>nothing to show</source>
         <translation>нечего показать</translation>
     </message>
-</context>
-<context>
-    <name>trel::desktop::WeekDock</name>
     <message>
-        <source>Week</source>
-        <translation>Неделя</translation>
+        <source>Not on screen</source>
+        <translation>Не на экране</translation>
     </message>
     <message>
-        <source>&amp;Week</source>
-        <translation>&amp;Неделя</translation>
+        <source>In conflict</source>
+        <translation>Есть накладка</translation>
+    </message>
+    <message>
+        <source>Programs of the week</source>
+        <translation>Программы недели</translation>
     </message>
 </context>
 <context>
@@ -1225,6 +1234,23 @@ What do you want to do with your changes?</source>
     <message>
         <source>Schedule shown</source>
         <translation>Какое расписание показано</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>Предыдущий месяц</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>Следующий месяц</translation>
+    </message>
+    <message>
+        <source>Choose a day in a calendar</source>
+        <translation>Выбрать день в календаре</translation>
+    </message>
+    <message>
+        <source>%1. Choose a day in a calendar</source>
+        <comment>days of a week</comment>
+        <translation>%1. Выбрать день в календаре</translation>
     </message>
 </context>
 <context>
@@ -1942,6 +1968,43 @@ What do you want to do with your changes?</source>
             <numerusform>%n программы</numerusform>
             <numerusform>%n программ</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CalendarPopup</name>
+    <message>
+        <source>Calendar</source>
+        <translation>Календарь</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekPage</name>
+    <message>
+        <source>Click a block to see why it is on screen, or why not.</source>
+        <translation>Щёлкните блок, чтобы узнать, почему он на экране или почему нет.</translation>
+    </message>
+    <message>
+        <source>Why the selected block is on screen, or why not</source>
+        <translation>Почему выбранный блок на экране или почему нет</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::year::YearStrip</name>
+    <message>
+        <source>Gap: no task is valid from %1 to %2.</source>
+        <translation>Пробел: с %1 по %2 не действует ни одно задание.</translation>
+    </message>
+    <message>
+        <source>Overlap: several tasks are valid from %1 to %2.</source>
+        <translation>Пересечение: с %1 по %2 действует несколько заданий.</translation>
+    </message>
+    <message>
+        <source>Task %1 is valid from %2 to %3.</source>
+        <translation>Задание %1 действует с %2 по %3.</translation>
+    </message>
+    <message>
+        <source>Validity of the tasks in %1</source>
+        <translation>Срок действия заданий в %1 году</translation>
     </message>
 </context>
 </TS>

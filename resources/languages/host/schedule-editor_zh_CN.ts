@@ -175,6 +175,14 @@ Close this question to keep editing.</source>
         <source>Keep as draft</source>
         <translation>保留为草稿</translation>
     </message>
+    <message>
+        <source>Catalog</source>
+        <translation>节目库</translation>
+    </message>
+    <message>
+        <source>Catal&amp;og</source>
+        <translation>节目库(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1125,16 +1133,17 @@ What do you want to do with your changes?</source>
         <source>nothing to show</source>
         <translation>无内容可播</translation>
     </message>
-</context>
-<context>
-    <name>trel::desktop::WeekDock</name>
     <message>
-        <source>Week</source>
-        <translation>周</translation>
+        <source>Not on screen</source>
+        <translation>不在屏幕上</translation>
     </message>
     <message>
-        <source>&amp;Week</source>
-        <translation>周(&amp;W)</translation>
+        <source>In conflict</source>
+        <translation>有冲突</translation>
+    </message>
+    <message>
+        <source>Programs of the week</source>
+        <translation>本周节目</translation>
     </message>
 </context>
 <context>
@@ -1181,6 +1190,23 @@ What do you want to do with your changes?</source>
     <message>
         <source>Schedule shown</source>
         <translation>显示哪个排期</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>上个月</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>下个月</translation>
+    </message>
+    <message>
+        <source>Choose a day in a calendar</source>
+        <translation>在日历中选择日期</translation>
+    </message>
+    <message>
+        <source>%1. Choose a day in a calendar</source>
+        <comment>days of a week</comment>
+        <translation>%1。在日历中选择日期</translation>
     </message>
 </context>
 <context>
@@ -1886,6 +1912,43 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>%n 个节目</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CalendarPopup</name>
+    <message>
+        <source>Calendar</source>
+        <translation>日历</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekPage</name>
+    <message>
+        <source>Click a block to see why it is on screen, or why not.</source>
+        <translation>单击一个区块，查看它为何在屏幕上或为何不在。</translation>
+    </message>
+    <message>
+        <source>Why the selected block is on screen, or why not</source>
+        <translation>所选区块为何在屏幕上或为何不在</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::year::YearStrip</name>
+    <message>
+        <source>Gap: no task is valid from %1 to %2.</source>
+        <translation>空档：%1至%2没有有效的任务。</translation>
+    </message>
+    <message>
+        <source>Overlap: several tasks are valid from %1 to %2.</source>
+        <translation>重叠：%1至%2有多个任务有效。</translation>
+    </message>
+    <message>
+        <source>Task %1 is valid from %2 to %3.</source>
+        <translation>任务%1的有效期为%2至%3。</translation>
+    </message>
+    <message>
+        <source>Validity of the tasks in %1</source>
+        <translation>%1年任务的有效期</translation>
     </message>
 </context>
 </TS>

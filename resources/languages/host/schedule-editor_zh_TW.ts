@@ -175,6 +175,14 @@ Close this question to keep editing.</source>
         <source>Keep as draft</source>
         <translation>保留為草稿</translation>
     </message>
+    <message>
+        <source>Catalog</source>
+        <translation>節目庫</translation>
+    </message>
+    <message>
+        <source>Catal&amp;og</source>
+        <translation>節目庫(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1125,16 +1133,17 @@ What do you want to do with your changes?</source>
         <source>nothing to show</source>
         <translation>無內容可播</translation>
     </message>
-</context>
-<context>
-    <name>trel::desktop::WeekDock</name>
     <message>
-        <source>Week</source>
-        <translation>週</translation>
+        <source>Not on screen</source>
+        <translation>不在螢幕上</translation>
     </message>
     <message>
-        <source>&amp;Week</source>
-        <translation>週(&amp;W)</translation>
+        <source>In conflict</source>
+        <translation>有衝突</translation>
+    </message>
+    <message>
+        <source>Programs of the week</source>
+        <translation>本週節目</translation>
     </message>
 </context>
 <context>
@@ -1181,6 +1190,23 @@ What do you want to do with your changes?</source>
     <message>
         <source>Schedule shown</source>
         <translation>顯示哪個排程</translation>
+    </message>
+    <message>
+        <source>Previous month</source>
+        <translation>上個月</translation>
+    </message>
+    <message>
+        <source>Next month</source>
+        <translation>下個月</translation>
+    </message>
+    <message>
+        <source>Choose a day in a calendar</source>
+        <translation>在月曆中選擇日期</translation>
+    </message>
+    <message>
+        <source>%1. Choose a day in a calendar</source>
+        <comment>days of a week</comment>
+        <translation>%1。在月曆中選擇日期</translation>
     </message>
 </context>
 <context>
@@ -1886,6 +1912,43 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>%n 個節目</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CalendarPopup</name>
+    <message>
+        <source>Calendar</source>
+        <translation>月曆</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekPage</name>
+    <message>
+        <source>Click a block to see why it is on screen, or why not.</source>
+        <translation>按一下區塊，查看它為何在螢幕上或為何不在。</translation>
+    </message>
+    <message>
+        <source>Why the selected block is on screen, or why not</source>
+        <translation>所選區塊為何在螢幕上或為何不在</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::year::YearStrip</name>
+    <message>
+        <source>Gap: no task is valid from %1 to %2.</source>
+        <translation>空檔：%1至%2沒有有效的任務。</translation>
+    </message>
+    <message>
+        <source>Overlap: several tasks are valid from %1 to %2.</source>
+        <translation>重疊：%1至%2有多個任務有效。</translation>
+    </message>
+    <message>
+        <source>Task %1 is valid from %2 to %3.</source>
+        <translation>任務%1的有效期為%2至%3。</translation>
+    </message>
+    <message>
+        <source>Validity of the tasks in %1</source>
+        <translation>%1年任務的有效期</translation>
     </message>
 </context>
 </TS>

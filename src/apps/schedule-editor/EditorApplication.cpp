@@ -172,7 +172,10 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
         QCoreApplication::exit(status);
     };
     QTimer::singleShot(kShowGuardMSecs, &window, [&] {
-        window.showEditor();
+        // Off screen it is what the picture shows.
+        if (options.edit || unattended) {
+            window.showEditor();
+        }
         if (!error.isEmpty()) {
             window.tell(error);
         }

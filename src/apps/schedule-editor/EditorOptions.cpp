@@ -24,8 +24,8 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Edits the play schedule of media screens.\n\n"
-                       "With no display the editor runs off screen, writes a picture of its window "
-                       "and prints a summary of the schedule."));
+                       "With no display the program runs off screen, writes a picture of its "
+                       "editor and prints a summary of the schedule."));
     const QCommandLineOption help = parser.addHelpOption();
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption database(
@@ -38,15 +38,18 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
         QStringLiteral("FOLDER"));
     const QCommandLineOption screenshot(
         QStringLiteral("screenshot"),
-        QStringLiteral("Write a picture of the editor to FILE, print a summary and end."),
+        QStringLiteral("Write a picture of the editor with its first task to FILE, print a summary "
+                       "and end."),
         QStringLiteral("FILE"));
+    const QCommandLineOption edit(QStringLiteral("edit"),
+                                  QStringLiteral("Open the editor at once."));
     const QCommandLineOption language(QStringLiteral("language"),
                                       QStringLiteral("Start in this language, such as en_US."),
                                       QStringLiteral("NAME"));
     const QCommandLineOption theme(QStringLiteral("theme"),
                                    QStringLiteral("Start in this theme, dark or light."),
                                    QStringLiteral("NAME"));
-    parser.addOptions({database, demonstration, screenshot, language, theme});
+    parser.addOptions({database, demonstration, screenshot, edit, language, theme});
     parser.addPositionalArgument(QStringLiteral("DATABASE"),
                                  QStringLiteral("A schedule to open, as with --database."),
                                  QStringLiteral("[DATABASE]"));
@@ -69,6 +72,7 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
     result.options.database = parser.value(database);
     result.options.demonstration = parser.value(demonstration);
     result.options.screenshot = parser.value(screenshot);
+    result.options.edit = parser.isSet(edit);
     result.options.language = parser.value(language);
     result.options.theme = parser.value(theme);
     const QStringList files = parser.positionalArguments();

@@ -11,6 +11,7 @@ struct EditorOptions
     QString database;      ///< Empty for the user's own.
     QString demonstration; ///< Folder that a database which does not exist yet is filled from.
     QString screenshot;  ///< Where to write a picture of the editor before ending; empty for none.
+    bool edit = false;   ///< Open the editor at once.
     QString language;    ///< Empty for the language last chosen.
     QString theme;       ///< "dark" or "light"; empty for the theme last chosen.
     QStringList imports; ///< Media to import at the start; never a database.

@@ -25,7 +25,7 @@
 #include "undo/EditHistory.h"
 #include "undo/HistoryActions.h"
 #include "undo/HistoryDock.h"
-#include "week/WeekDock.h"
+#include "week/WeekPage.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -49,6 +49,9 @@ using namespace trel::mediadispatch;
 namespace trel::desktop {
 
 namespace {
+
+/// Leaves room for the frame of the window and for a bar of the desktop on a screen of 1366 by 768.
+constexpr QSize kFirstSize(1340, 700);
 
 /// What of a drop can be imported: files, folders and addresses of streams.
 QStringList droppedMedia(const QMimeData* data)
@@ -75,6 +78,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     : m_editor(editor)
     , m_menus(new EditorMenus(*menuBar(), languages, themes))
     , m_catalogue(new CataloguePanel(*m_menus, this))
+    , m_programs(new QDockWidget(this))
     , m_nowNext(new QDockWidget(this))
     , m_clockChanges(new QDockWidget(this))
     , m_notices(new PendingNotices(*this))
@@ -86,13 +90,12 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     m_editor.setAcceptDrops(true);
     m_editor.installEventFilter(this);
 
-    setCentralWidget(m_catalogue);
     connectMenus();
     new EffectActions(*m_menus, *m_notices, this);
     new PlainTabTips(*this);
     buildPanels(languages, themes);
     retranslate();
-    resize(1180, 720);
+    resize(kFirstSize);
 
     ScheduleHost::instance().watchFiles();
     ScheduleHost::instance().followStore();
@@ -127,6 +130,9 @@ void EditorWindow::connectMenus()
 
 void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
 {
+    m_programs->setObjectName(QStringLiteral("catalogueDock"));
+    m_programs->setWidget(m_catalogue);
+    addPanel(m_programs, Qt::LeftDockWidgetArea);
     auto* follower = new ScreenFollower(ScheduleHost::instance().dispatch(), this);
     m_nowNext->setObjectName(QStringLiteral("nowNextDock"));
     m_nowNext->setWidget(new NowNextPanel(*follower, m_nowNext));
@@ -138,18 +144,19 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     auto* edited = new follow::EditedSchedule(this);
     m_clockChanges->setWidget(new ClockChangePanel(*edited, m_clockChanges));
     addPanel(m_clockChanges, Qt::BottomDockWidgetArea);
-    auto* week = new WeekDock(*edited, languages, themes, this);
-    connect(week, &WeekDock::activated, this, &EditorWindow::showEditor);
-    addPanel(week, Qt::BottomDockWidgetArea);
-    tabifyDockWidget(m_clockChanges, week);
+    auto* week = new week::WeekPage(*edited, languages, themes, this);
+    connect(week, &week::WeekPage::activated, this, &EditorWindow::showPlan);
+    setCentralWidget(week);
     m_history = new undo::EditHistory(*edited, m_editor, this);
     m_undo = new undo::HistoryActions(*m_menus, *m_history, this);
     m_editor.addActions({m_menus->undo(), m_menus->redo()});
     addPanel(new undo::HistoryDock(*m_history, this), Qt::RightDockWidgetArea);
-    // What is on screen stands beside the list of changes, not above it.
+    // The catalog and what is on screen stand beside the list of changes, not above it.
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    resizeDocks({m_nowNext}, {360}, Qt::Horizontal);
-    resizeDocks({m_nowNext, preview, m_clockChanges}, {430, 210, 130}, Qt::Vertical);
+    resizeDocks({m_programs, m_nowNext}, {250, 260}, Qt::Horizontal);
+    resizeDocks({m_nowNext, preview}, {450, 150}, Qt::Vertical);
+    resizeDocks({m_clockChanges}, {56}, Qt::Vertical);
 }
 
 void EditorWindow::addPanel(QDockWidget* panel, Qt::DockWidgetArea area)
@@ -162,6 +169,8 @@ void EditorWindow::retranslate()
 {
     m_menus->retranslate();
     m_undo->update();
+    m_programs->setWindowTitle(tr("Catalog"));
+    m_programs->toggleViewAction()->setText(tr("Catal&og"));
     m_nowNext->setWindowTitle(tr("Now and next"));
     m_clockChanges->setWindowTitle(tr("Clock changes"));
     // A new title becomes the text of the action, which has a letter besides.
@@ -236,8 +245,18 @@ void EditorWindow::offerDrafts()
 void EditorWindow::showEditor()
 {
     m_editor.slotShow();
+    m_editor.setWindowState(m_editor.windowState() & ~Qt::WindowMinimized);
     m_editor.raise();
     m_editor.activateWindow();
+}
+
+void EditorWindow::showPlan(int taskId, int planId)
+{
+    m_editor.slotShowPlan(taskId, planId);
+    if (!m_editor.isVisible()) {
+        // What is in effect may have plans that were taken out since.
+        showEditor();
+    }
 }
 
 void EditorWindow::showAsRun()

@@ -54,8 +54,11 @@ public:
     /// Asks what becomes of changes that were left unsaved in the database that is open.
     void offerDrafts();
 
-    /// Shows the schedule editor; in the first second of its life the editor stays away.
+    /// Shows the schedule editor, or brings it back; in the first second of its life the editor
+    /// stays away.
     void showEditor();
+    /// Shows it with the card and the row of a plan; without a row of that plan as it is.
+    void showPlan(int taskId, int planId);
 
 signals:
     /// An import that was begun has ended, in whatever way.
@@ -90,6 +93,7 @@ private:
     trel::mediadispatch::scheduleControlUI& m_editor;
     EditorMenus* m_menus;
     CataloguePanel* m_catalogue;
+    QDockWidget* m_programs;
     QDockWidget* m_nowNext;
     QDockWidget* m_clockChanges;
     PendingNotices* m_notices;

@@ -13,7 +13,7 @@
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
-#include "week/WeekDock.h"
+#include "week/WeekPage.h"
 #include "week/WeekView.h"
 
 #include <QAction>
@@ -125,21 +125,14 @@ void HostPictures::drawEffect()
 
 void HostPictures::drawWeeks()
 {
-    auto* dock = m_window.findChild<WeekDock*>();
-    auto* view = dock->findChild<week::WeekView*>();
-    dock->show();
-    dock->raise();
-    settle();
-    m_files.save(&m_window, QStringLiteral("window-week"));
-    dock->setFloating(true);
-    dock->resize(1180, 720);
+    auto* page = m_window.findChild<week::WeekPage*>();
+    auto* view = page->findChild<week::WeekView*>();
     // The first whole week of the demonstration.
     view->stepWeeks(1);
     settle();
-    m_files.save(dock, QStringLiteral("week"));
+    m_files.save(&m_window, QStringLiteral("window-week"));
+    m_files.save(page, QStringLiteral("week"));
     view->showNow();
-    dock->setFloating(false);
-    dock->hide();
 }
 
 void HostPictures::drawImport()

@@ -50,6 +50,7 @@ void tst_EditorOptions::nothingStartsOnTheUsersOwnSchedule()
     QVERIFY(result.options.database.isEmpty());
     QVERIFY(result.options.demonstration.isEmpty());
     QVERIFY(result.options.screenshot.isEmpty());
+    QVERIFY(!result.options.edit);
     QVERIFY(result.options.imports.isEmpty());
 }
 
@@ -58,14 +59,15 @@ void tst_EditorOptions::everyOptionIsRead()
     const EditorOptionsResult result =
         read({QStringLiteral("--database"), QStringLiteral("a.db"), QStringLiteral("--screenshot"),
               QStringLiteral("shot.png"), QStringLiteral("--demonstration=demo"),
-              QStringLiteral("--language"), QStringLiteral("en_US"), QStringLiteral("clip.mp4"),
-              QStringLiteral("folder")});
+              QStringLiteral("--language"), QStringLiteral("en_US"), QStringLiteral("--edit"),
+              QStringLiteral("clip.mp4"), QStringLiteral("folder")});
 
     QCOMPARE(result.next, Next::Start);
     QCOMPARE(result.options.database, QStringLiteral("a.db"));
     QCOMPARE(result.options.screenshot, QStringLiteral("shot.png"));
     QCOMPARE(result.options.demonstration, QStringLiteral("demo"));
     QCOMPARE(result.options.language, QStringLiteral("en_US"));
+    QVERIFY(result.options.edit);
     QCOMPARE(result.options.imports,
              QStringList({QStringLiteral("clip.mp4"), QStringLiteral("folder")}));
 }
@@ -103,8 +105,8 @@ void tst_EditorOptions::helpNamesEveryOption()
     const EditorOptionsResult result = read({QStringLiteral("--help")});
 
     QCOMPARE(result.next, Next::Done);
-    for (const char* option : {"--database", "--demonstration", "--screenshot", "--language",
-                               "--help", "--version", "DATABASE", "MEDIA"}) {
+    for (const char* option : {"--database", "--demonstration", "--screenshot", "--edit",
+                               "--language", "--help", "--version", "DATABASE", "MEDIA"}) {
         QVERIFY2(result.text.contains(QLatin1String(option)), option);
     }
 }

@@ -367,16 +367,16 @@ void tst_HostLanguage::aLetterChoosesItsEntry()
 {
     HostFixture fixture;
     fixture.window.show();
-    auto* week = fixture.window.findChild<QDockWidget*>(QStringLiteral("weekDock"));
-    QVERIFY(week->isHidden());
+    auto* programs = fixture.window.findChild<QDockWidget*>(QStringLiteral("catalogueDock"));
+    QVERIFY(!programs->isHidden());
     // A new title does not take the letter away.
-    week->setWindowTitle(QStringLiteral("Days"));
+    programs->setWindowTitle(QStringLiteral("Days"));
     fixture.languages.select(QStringLiteral("de_DE"));
     QCoreApplication::processEvents();
     QMenu* view = fixture.window.menuBar()->actions().at(2)->menu();
     view->popup(QPoint(0, 0));
-    QTest::keyClick(view, Qt::Key_W);
-    QVERIFY(!week->isHidden());
+    QTest::keyClick(view, Qt::Key_K);
+    QVERIFY(programs->isHidden());
 }
 
 void tst_HostLanguage::titleButtonsOfPromptsAreNamed()

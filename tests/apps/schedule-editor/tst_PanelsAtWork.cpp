@@ -4,7 +4,7 @@
 #include "support/PlanRecords.h"
 #include "support/TestClock.h"
 #include "support/TestProgram.h"
-#include "week/WeekDock.h"
+#include "week/WeekPage.h"
 #include "week/WeekPanel.h"
 #include "week/WeekView.h"
 
@@ -36,7 +36,7 @@ PlayTask longTask(const char* start)
 struct Window : HostFixture
 {
     Window()
-        : week(*window.findChild<WeekDock*>())
+        : week(*window.findChild<WeekPage*>())
         , view(*week.panel()->view())
         , feed(*window.findChild<WeekFeed*>())
         , clocks(*window.findChild<ClockChangePanel*>())
@@ -44,8 +44,6 @@ struct Window : HostFixture
         window.openDatabase(database);
         manager.addTask(longTask("01:00:00"));
         window.show();
-        week.setFloating(true);
-        week.show();
         clocks.parentWidget()->show();
     }
 
@@ -65,7 +63,7 @@ struct Window : HostFixture
 
     QString firstChange() const { return clocks.count() > 0 ? clocks.item(0)->text() : QString(); }
 
-    WeekDock& week;
+    WeekPage& week;
     WeekView& view;
     WeekFeed& feed;
     ClockChangePanel& clocks;

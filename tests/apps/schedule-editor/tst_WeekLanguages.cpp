@@ -6,8 +6,8 @@
 #include "support/PlatformNotes.h"
 #include "support/TestClock.h"
 #include "support/TestProgram.h"
-#include "week/WeekDock.h"
 #include "week/WeekFixture.h"
+#include "week/WeekPage.h"
 #include "week/WeekPanel.h"
 #include "week/WeekStrip.h"
 
@@ -26,14 +26,11 @@ struct WeekTexts : HostFixture
 {
     WeekTexts()
         : clock(wednesdayAtNine())
-        , dock(*window.findChild<WeekDock*>())
-        , view(*dock.panel()->view())
+        , page(*window.findChild<week::WeekPage*>())
+        , view(*page.panel()->view())
     {
         window.openDatabase(database);
-        window.resize(1180, 720);
         window.show();
-        dock.show();
-        dock.raise();
         QCoreApplication::processEvents();
     }
 
@@ -92,7 +89,7 @@ struct WeekTexts : HostFixture
     {
         QStringList texts;
         for (int y = 2; y < view.viewport()->height(); y += 4) {
-            for (int x = 6; x < view.viewport()->width(); x += 12) {
+            for (int x = 6; x < view.viewport()->width(); x += 8) {
                 const QPoint place(x, y);
                 QHelpEvent event(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
                 QCoreApplication::sendEvent(view.viewport(), &event);
@@ -124,7 +121,7 @@ struct WeekTexts : HostFixture
 
     const NoPlatformNotes quiet;
     TestClock clock;
-    WeekDock& dock;
+    week::WeekPage& page;
     week::WeekView& view;
 };
 
@@ -148,8 +145,7 @@ void tst_WeekLanguages::everyWordIsTranslated()
 {
     WeekTexts fixture;
     const PseudoLanguage language(*fixture.editor);
-    fixture.dock.setFloating(true);
-    fixture.dock.resize(1700, 1000);
+    fixture.window.resize(2400, 1300);
     QStringList texts;
     for (const QDate& day : kWeeks) {
         fixture.showWeekOf(day);

@@ -146,15 +146,13 @@ void tst_CtlHostLanguage::findingsAreListed_data()
                     "<numerusform>%n weiterer Plan kommt nicht auf den Bildschirm.</numerusform>"),
                 QString()),
         "plural Week: %n more plans do not reach the screen. it has 1 of 2");
-    row("no letter", changed(translation("&amp;Woche"), translation("Woche")),
-        "letter trel::desktop::WeekDock: &Week no letter chooses it");
+    row("no letter", changed(translation("&amp;Katalog"), translation("Katalog")),
+        "letter trel::desktop::EditorWindow: Catal&og no letter chooses it");
     row("stray letter", changed(translation("Heute"), translation("&amp;Heute")),
         "letter trel::desktop::week::WeekPanel: Today an \"&\" stands where no menu is");
-    row("clash", changed(translation("&amp;Woche"), translation("Woc&amp;he")),
-        "letter trel::desktop::EditorMenus: &Light theme \"H\", as trel::desktop::WeekDock: &Week; "
-        "in the menu \"View\" they "
-        "have "
-        "to differ");
+    row("clash", changed(translation("&amp;Katalog"), translation("Kata&amp;log")),
+        "letter trel::desktop::undo::HistoryDock: &History \"L\", as trel::desktop::EditorWindow: "
+        "Catal&og; in the menu \"View\" they have to differ");
     row("term",
         changed(kBlackScreen + translation("Schwarzbild"),
                 kBlackScreen + translation("Schwarzer Bildschirm")),
@@ -205,7 +203,7 @@ void tst_CtlHostLanguage::compiledFilesAreRead()
 {
     const CtlFixture fixture;
     fixture.writeFile(kSource,
-                      changed(translation("&amp;Woche"), translation("Woc&amp;he")).toUtf8());
+                      changed(translation("&amp;Katalog"), translation("Kata&amp;log")).toUtf8());
     QProcess process;
     process.start(QStringLiteral(LRELEASE), {QStringLiteral("-silent"), fixture.path(kSource),
                                              QStringLiteral("-qm"), fixture.path(kCompiled)});
@@ -222,7 +220,7 @@ void tst_CtlHostLanguage::jsonNamesTheKinds()
     source.replace(QStringLiteral("<numerusform>%n weiterer Plan kommt nicht auf den "
                                   "Bildschirm.</numerusform>"),
                    QString());
-    source.replace(translation("&amp;Woche"), translation("Woche"));
+    source.replace(translation("&amp;Katalog"), translation("Katalog"));
     source.replace(kBlackScreen + translation("Schwarzbild"),
                    kBlackScreen + translation("schwarzer Bildschirm"));
     fixture.writeFile(kSource, source.toUtf8());

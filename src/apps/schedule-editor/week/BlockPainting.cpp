@@ -1,6 +1,7 @@
 #include "week/BlockPainting.h"
 
 #include "BidiText.h"
+#include "look/ProgramColours.h"
 #include "look/ThemeColours.h"
 #include "screen/ScreenWords.h"
 #include "week/WeekScene.h"
@@ -24,8 +25,12 @@ constexpr int kLineWidth = 3;
 constexpr int kCollisionWidth = 6;
 constexpr int kTextSpace = 4;
 constexpr double kRadius = 2.5;
+constexpr int kSign = 7; ///< Before the name of a program that the ground does not tell.
+constexpr int kLeastForSign = 48;
 /// Lower pieces are a bar of one colour.
 constexpr int kLeastForm = 6;
+/// With more lines than these each program has one of its own.
+constexpr int kTitleLines = 2;
 
 const QLatin1String kGap("  ");
 
@@ -52,7 +57,10 @@ Look lookOf(const look::ThemeColours& colours, const DayPiece& piece, const Week
         return {colours.weekBlack, QColor(), colours.weekBlockLine, colours.weekBlackText,
                 Qt::SolidLine};
     }
-    return {colours.weekBlock, QColor(), colours.weekBlockLine, colours.weekBlockText, Qt::NoPen};
+    const bool hasProgram = block != nullptr && !block->programIndexes.empty();
+    const look::ProgramColours program =
+        look::programColours(hasProgram ? block->programIndexes.front() : -1, colours);
+    return {program.ground, QColor(), program.line, program.text, Qt::NoPen};
 }
 
 /// The names, each of which runs in a direction of its own.
@@ -65,7 +73,7 @@ QStringList namesOf(const WeekBlock& block)
     return names;
 }
 
-/// The lines of text for a height of so many.
+/// The lines of text for a height of so many: with three and more the second is the first program.
 QStringList linesOf(const DayPiece& piece, const WeekBlock* block, int lines,
                     const QFontMetrics& metrics, int width)
 {
@@ -76,10 +84,13 @@ QStringList linesOf(const DayPiece& piece, const WeekBlock* block, int lines,
     const QString names =
         block->hasNothing ? Words::tr("nothing to show") : ScreenWords::joined(programs);
     if (lines < 2) {
-        return {QString::number(block->planId) + kGap + names};
+        const QString whole = QString::number(block->planId) + kGap + names;
+        // A part of a name still tells the program; of other words it tells nothing.
+        const bool isTold = !block->hasNothing || metrics.horizontalAdvance(whole) <= width;
+        return {isTold ? whole : QString::number(block->planId)};
     }
     QStringList texts{blockTitle(*block, metrics, width)};
-    if (lines < 3 || block->hasNothing) {
+    if (lines <= kTitleLines || block->hasNothing) {
         texts.append(names);
         return texts;
     }
@@ -90,6 +101,28 @@ QStringList linesOf(const DayPiece& piece, const WeekBlock* block, int lines,
         texts.append(QStringLiteral("…"));
     }
     return texts;
+}
+
+/// In a list of several, each program has its colour before its name. Returns the room that is left
+/// for the name.
+QRect paintSign(QPainter& painter, const WeekScene& scene, const QRect& room, const Look& look,
+                const WeekBlock& block, int program)
+{
+    const bool isProgram = program < static_cast<int>(block.programIndexes.size());
+    if (block.programIndexes.size() < 2 || block.hasNothing || !isProgram ||
+        room.width() < kLeastForSign) {
+        return room;
+    }
+    const int index = block.programIndexes[static_cast<std::size_t>(program)];
+    const QRect sign(room.left(), room.top() + (painter.fontMetrics().height() - kSign) / 2, kSign,
+                     kSign);
+    const QRect seen = QStyle::visualRect(scene.geometry.direction(), room, sign);
+    painter.fillRect(seen, look::programColours(index, scene.colours).line);
+    painter.setPen(look.text);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(seen.adjusted(0, 0, -1, -1));
+    const QRect rest = room.adjusted(kSign + kTextSpace, 0, 0, 0);
+    return QStyle::visualRect(scene.geometry.direction(), room, rest);
 }
 
 void paintTexts(QPainter& painter, const WeekScene& scene, const QRect& rect, const Look& look,
@@ -104,8 +137,13 @@ void paintTexts(QPainter& painter, const WeekScene& scene, const QRect& rect, co
         return;
     }
     const QColor plate = look.pattern.isValid() ? look.ground : QColor();
-    for (const QString& line : linesOf(piece, block, lines, painter.fontMetrics(), place.width())) {
-        drawLabel(painter, place, line, look.text, plate);
+    const QStringList texts = linesOf(piece, block, lines, painter.fontMetrics(), place.width());
+    for (int line = 0; line < texts.size(); ++line) {
+        QRect room = place;
+        if (lines > kTitleLines && line > 0) {
+            room = paintSign(painter, scene, room, look, *block, line - 1);
+        }
+        drawLabel(painter, room, texts[line], look.text, plate);
         place.setTop(place.top() + lineHeight);
     }
 }

@@ -51,6 +51,7 @@ WeekBlock blockOf(const PlayPlan& plan, const PlanClaim& claim,
     block.hasMorePrograms = named < plan.programs.size();
     for (std::size_t i = 0; i < named; ++i) {
         block.programs.append(QString::fromStdString(nameOf(catalogue, plan.programs[i])));
+        block.programIndexes.push_back(plan.programs[i].progIndex);
     }
     // One without a day of the week stands on no day.
     block.never = planFault(plan, claim.end);

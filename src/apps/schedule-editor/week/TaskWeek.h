@@ -26,11 +26,12 @@ struct WeekBlock
     trel::mediadispatch::PlanFault never = trel::mediadispatch::PlanFault::None;
     /// The second of the day in which its list is over before the plan ends.
     std::optional<int> listOver;
-    bool collides = false;   ///< With a plan above it.
-    bool hasNothing = false; ///< None of its programs can be shown.
-    QString start;           ///< As the plan says.
-    QString end;             ///< As it is in force.
-    QStringList programs;    ///< The first of them.
+    bool collides = false;           ///< With a plan above it.
+    bool hasNothing = false;         ///< None of its programs can be shown.
+    QString start;                   ///< As the plan says.
+    QString end;                     ///< As it is in force.
+    QStringList programs;            ///< The first of them.
+    std::vector<int> programIndexes; ///< Of the same.
     bool hasMorePrograms = false;
 };
 

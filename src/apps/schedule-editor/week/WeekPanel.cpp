@@ -1,14 +1,18 @@
 #include "week/WeekPanel.h"
 
+#include "BidiText.h"
+#include "service/ScheduleRecords.h"
 #include "trelwidgets/PlainToolTip.h"
+#include "week/CalendarPopup.h"
 #include "week/WeekView.h"
 
 #include <QComboBox>
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+using trel::mediadispatch::kDateFormat;
 
 namespace trel::desktop::week {
 
@@ -30,18 +34,18 @@ WeekPanel::WeekPanel(follow::EditedSchedule& edited, QWidget* parent)
     : QWidget(parent)
     , m_feed(edited, this)
     , m_view(new WeekView(this))
+    , m_formerMonth(addButton("weekFormerMonth", QStringLiteral("«")))
     , m_former(addButton("weekFormer", QStringLiteral("‹")))
     , m_today(addButton("weekToday", QString()))
     , m_next(addButton("weekNext", QStringLiteral("›")))
-    , m_title(new QLabel(this))
+    , m_nextMonth(addButton("weekNextMonth", QStringLiteral("»")))
+    , m_title(addButton("weekTitle", QString()))
     , m_source(new QComboBox(this))
     , m_smaller(addButton("weekSmaller", QStringLiteral("−")))
     , m_larger(addButton("weekLarger", QStringLiteral("+")))
     , m_fit(addButton("weekFit", QString()))
 {
     m_view->setObjectName(QStringLiteral("weekView"));
-    m_title->setObjectName(QStringLiteral("weekTitle"));
-    m_title->setTextFormat(Qt::PlainText);
     m_source->setObjectName(QStringLiteral("weekSource"));
     m_source->addItem(QString(), static_cast<int>(WeekSource::Edited));
     m_source->addItem(QString(), static_cast<int>(WeekSource::InEffect));
@@ -66,7 +70,7 @@ void WeekPanel::buildControls()
 {
     auto* controls = new QHBoxLayout;
     controls->setSpacing(4);
-    for (QWidget* widget : {m_former, m_today, m_next}) {
+    for (QWidget* widget : {m_formerMonth, m_former, m_today, m_next, m_nextMonth}) {
         controls->addWidget(widget);
     }
     controls->addSpacing(8);
@@ -81,9 +85,10 @@ void WeekPanel::buildControls()
     layout->setContentsMargins(6, 6, 6, 6);
     layout->addLayout(controls);
     layout->addWidget(m_view, 1);
-    QWidget* former = m_former;
-    for (QWidget* next : std::initializer_list<QWidget*>{m_today, m_next, m_source, m_smaller,
-                                                         m_larger, m_fit, m_view}) {
+    QWidget* former = m_formerMonth;
+    for (QWidget* next :
+         std::initializer_list<QWidget*>{m_former, m_today, m_next, m_nextMonth, m_title, m_source,
+                                         m_smaller, m_larger, m_fit, m_view}) {
         setTabOrder(former, next);
         former = next;
     }
@@ -92,7 +97,7 @@ void WeekPanel::buildControls()
 void WeekPanel::connectControls()
 {
     connect(&m_feed, &WeekFeed::changed, m_view, &WeekView::setPicture);
-    connect(m_view, &WeekView::activated, this, &WeekPanel::activated);
+    connect(m_view, &WeekView::activated, this, &WeekPanel::activate);
     connect(m_view, &WeekView::weekChanged, this, [this] {
         m_feed.setWeek(m_view->firstDay());
         updateTitle();
@@ -102,6 +107,9 @@ void WeekPanel::connectControls()
     connect(m_former, &QPushButton::clicked, m_view, [this] { m_view->stepWeeks(-1); });
     connect(m_next, &QPushButton::clicked, m_view, [this] { m_view->stepWeeks(1); });
     connect(m_today, &QPushButton::clicked, m_view, &WeekView::showNow);
+    connect(m_formerMonth, &QPushButton::clicked, this, [this] { stepMonths(-1); });
+    connect(m_nextMonth, &QPushButton::clicked, this, [this] { stepMonths(1); });
+    connect(m_title, &QPushButton::clicked, this, &WeekPanel::showCalendar);
     connect(m_smaller, &QPushButton::clicked, m_view, [this] { m_view->zoom(1 / kZoomStep); });
     connect(m_larger, &QPushButton::clicked, m_view, [this] { m_view->zoom(kZoomStep); });
     connect(m_fit, &QPushButton::clicked, m_view, &WeekView::zoomToFit);
@@ -128,6 +136,8 @@ void WeekPanel::retranslate()
     m_source->setItemText(1, tr("In effect"));
     setWords(m_former, tr("Previous week"));
     setWords(m_next, tr("Next week"));
+    setWords(m_formerMonth, tr("Previous month"));
+    setWords(m_nextMonth, tr("Next month"));
     setWords(m_smaller, tr("Zoom out"));
     setWords(m_larger, tr("Zoom in"));
     setWords(m_source, tr("Schedule shown"));
@@ -139,9 +149,36 @@ void WeekPanel::retranslate()
 void WeekPanel::updateTitle()
 {
     const QDate first = m_view->firstDay();
-    m_title->setText(QStringLiteral("%1 – %2").arg(
-        locale().toString(first, QLocale::ShortFormat),
-        locale().toString(first.addDays(kDays - 1), QLocale::ShortFormat)));
+    const QString days = leftToRight(QStringLiteral("%1 – %2").arg(
+        first.toString(kDateFormat), first.addDays(kDays - 1).toString(kDateFormat)));
+    m_title->setText(days);
+    m_title->setToolTip(trel::widgets::plainToolTip(tr("Choose a day in a calendar")));
+    m_title->setAccessibleName(tr("%1. Choose a day in a calendar", "days of a week").arg(days));
+}
+
+/// The middle of the week decides which month it is of.
+void WeekPanel::stepMonths(int months)
+{
+    const QDate middle = m_view->firstDay().addDays(kDays / 2);
+    m_view->showWeekOf(middle.addMonths(months));
+}
+
+void WeekPanel::showCalendar()
+{
+    auto* calendar = new CalendarPopup(m_view->firstDay(), this);
+    connect(calendar, &CalendarPopup::chosen, m_view, &WeekView::showWeekOf);
+    calendar->showBelow(*m_title);
+}
+
+void WeekPanel::activate(int taskId, int planRow)
+{
+    for (const WeekColumn& column : m_view->layoutOfWeek().days) {
+        const WeekBlock* block = column.task == taskId ? column.blockOf(planRow) : nullptr;
+        if (block != nullptr) {
+            emit activated(taskId, block->planId);
+            return;
+        }
+    }
 }
 
 void WeekPanel::updateButtons()

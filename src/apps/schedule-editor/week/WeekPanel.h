@@ -6,7 +6,6 @@
 #include <QWidget>
 
 class QComboBox;
-class QLabel;
 class QPushButton;
 
 namespace trel::desktop::week {
@@ -28,8 +27,8 @@ public:
     void setLanguage(const QLocale& locale);
 
 signals:
-    /// The operator wants to get to a plan.
-    void activated(int taskId, int planRow);
+    /// The operator wants to get to a plan, by its id.
+    void activated(int taskId, int planId);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -41,15 +40,20 @@ private:
     void buildControls();
     void connectControls();
     void retranslate();
+    void activate(int taskId, int planRow);
+    void stepMonths(int months);
+    void showCalendar();
     void updateTitle();
     void updateButtons();
 
     WeekFeed m_feed;
     WeekView* m_view;
+    QPushButton* m_formerMonth;
     QPushButton* m_former;
     QPushButton* m_today;
     QPushButton* m_next;
-    QLabel* m_title;
+    QPushButton* m_nextMonth;
+    QPushButton* m_title; ///< Opens a calendar.
     QComboBox* m_source;
     QPushButton* m_smaller;
     QPushButton* m_larger;

@@ -1,7 +1,7 @@
 #include "week/WeekView.h"
 
+#include "PlainLines.h"
 #include "clock/Clock.h"
-#include "trelwidgets/PlainToolTip.h"
 #include "week/DayPainting.h"
 #include "week/FramePainting.h"
 #include "week/WeekReasons.h"
@@ -87,6 +87,8 @@ void WeekView::setPicture(const WeekPicture& picture)
     m_schedule = picture.schedule;
     m_layout = picture.layout;
     updateNow();
+    emit pictureChanged();
+    emit explanationChanged();
 }
 
 void WeekView::setColours(const look::ThemeColours& colours)
@@ -109,6 +111,8 @@ void WeekView::layOut(const QDate& first)
     if (isOther) {
         emit weekChanged();
     }
+    emit pictureChanged();
+    emit explanationChanged();
 }
 
 void WeekView::repaintAll()
@@ -283,6 +287,7 @@ void WeekView::select(const std::optional<BlockRef>& block)
     }
     setAccessibleDescription(description);
     viewport()->update();
+    emit explanationChanged();
 }
 
 void WeekView::step(BlockStep step)
@@ -311,11 +316,16 @@ bool WeekView::explainSelected()
     return place.has_value();
 }
 
+QString WeekView::explanation() const
+{
+    const std::optional<WeekHit> place = m_selected ? hit(*m_selected) : std::nullopt;
+    return place ? reasonText(*m_schedule, *m_layout, *place, locale()) : QString();
+}
+
 void WeekView::showTip(const QPoint& place, const WeekHit& hit)
 {
-    QToolTip::showText(
-        viewport()->mapToGlobal(place),
-        trel::widgets::plainToolTip(reasonText(*m_schedule, *m_layout, hit, locale())), viewport());
+    QToolTip::showText(viewport()->mapToGlobal(place),
+                       plainLines(reasonText(*m_schedule, *m_layout, hit, locale())), viewport());
 }
 
 void WeekView::mousePressEvent(QMouseEvent* event)

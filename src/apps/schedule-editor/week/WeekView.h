@@ -56,6 +56,9 @@ public:
 
     std::optional<BlockRef> selected() const { return m_selected; }
     const WeekLayout& layoutOfWeek() const { return *m_layout; }
+    /// Why the selected block is on screen, or is not: as its tool tip says it. Empty when no block
+    /// is selected, or it does not stand in this week.
+    QString explanation() const;
     /// Where a block stands in the viewport, from its first piece on; empty when it is not there.
     QRect visualRect(const BlockRef& block) const;
 
@@ -63,6 +66,9 @@ signals:
     /// The operator wants to get to a plan.
     void activated(int taskId, int planRow);
     void weekChanged();
+    /// Another week is shown, or another state of it.
+    void pictureChanged();
+    void explanationChanged();
     void zoomChanged();
 
 protected:

@@ -61,7 +61,7 @@ const std::vector<HostMenu>& hostMenus()
         {QStringLiteral("the menu \"View\""),
          {entry("EditorWindow", "&Now and next"), entry("PreviewDock", "&Preview"),
           entry("PreviewDock", "&Full-screen preview"), entry("EditorWindow", "&Clock changes"),
-          entry("WeekDock", "&Week"), entry("undo::HistoryDock", "&History"),
+          entry("EditorWindow", "Catal&og"), entry("undo::HistoryDock", "&History"),
           entry("EditorMenus", "&As-run of a day…"), entry("EditorMenus", "&Dark theme"),
           entry("EditorMenus", "&Light theme")}},
     };
