@@ -836,16 +836,57 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>In Datei speichern</translation>
     </message>
     <message>
-        <source>Discard changes</source>
-        <translation>Verwerfen</translation>
-    </message>
-    <message>
         <source>Write the schedule to a file</source>
         <translation>Wiedergabeplan in einer Datei speichern</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
         <translation>Wiedergabepläne (*.json)</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>Weiter bearbeiten</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by another program. Your changes are not saved.</source>
+        <translation>Während Sie bearbeitet haben, wurde %1 von einer anderen Anwendung gespeichert. Ihre Änderungen sind nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>If you keep yours, what was saved there stays among the versions. If you take theirs, yours can be brought back until the next save.</source>
+        <translation>Wenn Sie Ihre behalten, bleibt das dort Gespeicherte unter den Versionen. Wenn Sie die anderen übernehmen, lassen sich Ihre bis zum nächsten Speichern zurückholen.</translation>
+    </message>
+    <message>
+        <source>What was changed there:</source>
+        <translation>Was dort geändert wurde:</translation>
+    </message>
+    <message>
+        <source>Nothing that you would see.</source>
+        <translation>Nichts, was Sie sehen würden.</translation>
+    </message>
+    <message>
+        <source>As it was saved there</source>
+        <translation>Wie dort gespeichert</translation>
+    </message>
+    <message>
+        <source>With your changes</source>
+        <translation>Mit Ihren Änderungen</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Meine behalten</translation>
+    </message>
+    <message>
+        <source>Take theirs</source>
+        <translation>Andere übernehmen</translation>
+    </message>
+    <message>
+        <source>Write mine to a file</source>
+        <translation>Meine in Datei speichern</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by %2, on %3. Your changes are not saved.</source>
+        <comment>the database, a program, and the time</comment>
+        <translation>Während Sie bearbeitet haben, wurde %1 von %2 gespeichert, am %3. Ihre Änderungen sind nicht gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -1710,10 +1751,6 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Der Wiedergabeplan wurde seitdem gespeichert.</translation>
     </message>
     <message>
-        <source>Close this question to decide later.</source>
-        <translation>Schließen Sie diese Frage, um später zu entscheiden.</translation>
-    </message>
-    <message>
         <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
         <translation>Die Datei %1 enthält ungespeicherte Änderungen. Sie stammen von einer neueren Version dieses Programms, die gebraucht wird, um sie zu übernehmen.</translation>
     </message>
@@ -1748,6 +1785,54 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>Decide later</source>
         <translation>Später entscheiden</translation>
+    </message>
+    <message>
+        <source>There are changes that were not saved. The last one was made %1, on %2.</source>
+        <translation>Es gibt Änderungen, die nicht gespeichert wurden. Die letzte wurde %1 vorgenommen, am %2.</translation>
+    </message>
+    <message>
+        <source>less than a minute ago</source>
+        <translation>vor weniger als einer Minute</translation>
+    </message>
+    <message>
+        <source>What differs from what is saved:</source>
+        <translation>Was vom Gespeicherten abweicht:</translation>
+    </message>
+    <message>
+        <source>As it is saved</source>
+        <translation>Wie gespeichert</translation>
+    </message>
+    <message>
+        <source>With these changes</source>
+        <translation>Mit diesen Änderungen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes ago</source>
+        <translation>
+            <numerusform>vor %n Minute</numerusform>
+            <numerusform>vor %n Minuten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours ago</source>
+        <translation>
+            <numerusform>vor %n Stunde</numerusform>
+            <numerusform>vor %n Stunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>vor %n Tag</numerusform>
+            <numerusform>vor %n Tagen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::changes::ChangesDialog</name>
+    <message>
+        <source>Look at it in the week</source>
+        <translation>In der Woche ansehen</translation>
     </message>
 </context>
 <context>

@@ -836,16 +836,57 @@ What do you want to do with your changes?</source>
         <translation>Guardar en un archivo</translation>
     </message>
     <message>
-        <source>Discard changes</source>
-        <translation>Descartar</translation>
-    </message>
-    <message>
         <source>Write the schedule to a file</source>
         <translation>Guardar la programación en un archivo</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
         <translation>Programaciones (*.json)</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>Seguir editando</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by another program. Your changes are not saved.</source>
+        <translation>Mientras editaba, otra aplicación guardó %1. Sus cambios no están guardados.</translation>
+    </message>
+    <message>
+        <source>If you keep yours, what was saved there stays among the versions. If you take theirs, yours can be brought back until the next save.</source>
+        <translation>Si conserva los suyos, lo que se guardó allí queda entre las versiones. Si toma los otros, los suyos se pueden recuperar hasta que se vuelva a guardar.</translation>
+    </message>
+    <message>
+        <source>What was changed there:</source>
+        <translation>Qué se cambió allí:</translation>
+    </message>
+    <message>
+        <source>Nothing that you would see.</source>
+        <translation>Nada que se vea.</translation>
+    </message>
+    <message>
+        <source>As it was saved there</source>
+        <translation>Como se guardó allí</translation>
+    </message>
+    <message>
+        <source>With your changes</source>
+        <translation>Con sus cambios</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Conservar los míos</translation>
+    </message>
+    <message>
+        <source>Take theirs</source>
+        <translation>Tomar los otros</translation>
+    </message>
+    <message>
+        <source>Write mine to a file</source>
+        <translation>Guardar los míos en un archivo</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by %2, on %3. Your changes are not saved.</source>
+        <comment>the database, a program, and the time</comment>
+        <translation>Mientras editaba, %2 guardó %1, el %3. Sus cambios no están guardados.</translation>
     </message>
 </context>
 <context>
@@ -1710,10 +1751,6 @@ What do you want to do with your changes?</source>
         <translation>La programación se ha guardado desde entonces.</translation>
     </message>
     <message>
-        <source>Close this question to decide later.</source>
-        <translation>Cierre esta pregunta para decidir más tarde.</translation>
-    </message>
-    <message>
         <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
         <translation>El archivo %1 contiene cambios sin guardar. Se hicieron con una versión más reciente de esta aplicación, que hace falta para recuperarlos.</translation>
     </message>
@@ -1748,6 +1785,54 @@ What do you want to do with your changes?</source>
     <message>
         <source>Decide later</source>
         <translation>Decidir más tarde</translation>
+    </message>
+    <message>
+        <source>There are changes that were not saved. The last one was made %1, on %2.</source>
+        <translation>Hay cambios que no se guardaron. El último se hizo %1, el %2.</translation>
+    </message>
+    <message>
+        <source>less than a minute ago</source>
+        <translation>hace menos de un minuto</translation>
+    </message>
+    <message>
+        <source>What differs from what is saved:</source>
+        <translation>Qué difiere de lo guardado:</translation>
+    </message>
+    <message>
+        <source>As it is saved</source>
+        <translation>Como está guardada</translation>
+    </message>
+    <message>
+        <source>With these changes</source>
+        <translation>Con estos cambios</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes ago</source>
+        <translation>
+            <numerusform>hace %n minuto</numerusform>
+            <numerusform>hace %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours ago</source>
+        <translation>
+            <numerusform>hace %n hora</numerusform>
+            <numerusform>hace %n horas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>hace %n día</numerusform>
+            <numerusform>hace %n días</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::changes::ChangesDialog</name>
+    <message>
+        <source>Look at it in the week</source>
+        <translation>Ver en la semana</translation>
     </message>
 </context>
 <context>

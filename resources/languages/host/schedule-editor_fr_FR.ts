@@ -836,16 +836,57 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Enregistrer dans un fichier</translation>
     </message>
     <message>
-        <source>Discard changes</source>
-        <translation>Ne pas enregistrer</translation>
-    </message>
-    <message>
         <source>Write the schedule to a file</source>
         <translation>Enregistrer la programmation dans un fichier</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
         <translation>Programmations (*.json)</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>Continuer à modifier</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by another program. Your changes are not saved.</source>
+        <translation>Pendant vos modifications, %1 a été enregistrée par une autre application. Vos modifications ne sont pas enregistrées.</translation>
+    </message>
+    <message>
+        <source>If you keep yours, what was saved there stays among the versions. If you take theirs, yours can be brought back until the next save.</source>
+        <translation>Si vous gardez les vôtres, ce qui a été enregistré là-bas reste parmi les versions. Si vous prenez les autres, les vôtres peuvent être récupérées jusqu’au prochain enregistrement.</translation>
+    </message>
+    <message>
+        <source>What was changed there:</source>
+        <translation>Ce qui y a été modifié :</translation>
+    </message>
+    <message>
+        <source>Nothing that you would see.</source>
+        <translation>Rien de visible.</translation>
+    </message>
+    <message>
+        <source>As it was saved there</source>
+        <translation>Comme enregistrée là-bas</translation>
+    </message>
+    <message>
+        <source>With your changes</source>
+        <translation>Avec vos modifications</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Garder les miennes</translation>
+    </message>
+    <message>
+        <source>Take theirs</source>
+        <translation>Prendre les autres</translation>
+    </message>
+    <message>
+        <source>Write mine to a file</source>
+        <translation>Enregistrer les miennes dans un fichier</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by %2, on %3. Your changes are not saved.</source>
+        <comment>the database, a program, and the time</comment>
+        <translation>Pendant vos modifications, %1 a été enregistrée par %2, le %3. Vos modifications ne sont pas enregistrées.</translation>
     </message>
 </context>
 <context>
@@ -1710,10 +1751,6 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>La programmation a été enregistrée depuis.</translation>
     </message>
     <message>
-        <source>Close this question to decide later.</source>
-        <translation>Fermez cette question pour décider plus tard.</translation>
-    </message>
-    <message>
         <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
         <translation>Le fichier %1 contient des modifications non enregistrées. Elles viennent d’une version plus récente de cette application, nécessaire pour les reprendre.</translation>
     </message>
@@ -1748,6 +1785,54 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>Decide later</source>
         <translation>Décider plus tard</translation>
+    </message>
+    <message>
+        <source>There are changes that were not saved. The last one was made %1, on %2.</source>
+        <translation>Des modifications n’ont pas été enregistrées. La dernière a été faite %1, le %2.</translation>
+    </message>
+    <message>
+        <source>less than a minute ago</source>
+        <translation>il y a moins d’une minute</translation>
+    </message>
+    <message>
+        <source>What differs from what is saved:</source>
+        <translation>Ce qui diffère de ce qui est enregistré :</translation>
+    </message>
+    <message>
+        <source>As it is saved</source>
+        <translation>Comme enregistrée</translation>
+    </message>
+    <message>
+        <source>With these changes</source>
+        <translation>Avec ces modifications</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes ago</source>
+        <translation>
+            <numerusform>il y a %n minute</numerusform>
+            <numerusform>il y a %n minutes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours ago</source>
+        <translation>
+            <numerusform>il y a %n heure</numerusform>
+            <numerusform>il y a %n heures</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>il y a %n jour</numerusform>
+            <numerusform>il y a %n jours</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::changes::ChangesDialog</name>
+    <message>
+        <source>Look at it in the week</source>
+        <translation>Voir dans la semaine</translation>
     </message>
 </context>
 <context>

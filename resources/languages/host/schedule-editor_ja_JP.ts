@@ -815,16 +815,57 @@ What do you want to do with your changes?</source>
         <translation>ファイルに書き出す</translation>
     </message>
     <message>
-        <source>Discard changes</source>
-        <translation>変更を破棄</translation>
-    </message>
-    <message>
         <source>Write the schedule to a file</source>
         <translation>スケジュールをファイルに書き出す</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
         <translation>スケジュール (*.json)</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>編集を続ける</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by another program. Your changes are not saved.</source>
+        <translation>編集中に、%1 が別のアプリによって保存されました。あなたの変更は保存されていません。</translation>
+    </message>
+    <message>
+        <source>If you keep yours, what was saved there stays among the versions. If you take theirs, yours can be brought back until the next save.</source>
+        <translation>自分の変更を残す場合、相手が保存した内容はバージョンとして残ります。相手の内容を取り入れる場合、自分の変更は次に保存するまで元に戻せます。</translation>
+    </message>
+    <message>
+        <source>What was changed there:</source>
+        <translation>相手側での変更:</translation>
+    </message>
+    <message>
+        <source>Nothing that you would see.</source>
+        <translation>目に見える変更はありません。</translation>
+    </message>
+    <message>
+        <source>As it was saved there</source>
+        <translation>相手が保存した内容</translation>
+    </message>
+    <message>
+        <source>With your changes</source>
+        <translation>自分の変更を加えた内容</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>自分の変更を残す</translation>
+    </message>
+    <message>
+        <source>Take theirs</source>
+        <translation>相手の内容にする</translation>
+    </message>
+    <message>
+        <source>Write mine to a file</source>
+        <translation>自分の変更をファイルに書き出す</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by %2, on %3. Your changes are not saved.</source>
+        <comment>the database, a program, and the time</comment>
+        <translation>編集中に、%1 が %2 によって保存されました（%3）。あなたの変更は保存されていません。</translation>
     </message>
 </context>
 <context>
@@ -1686,10 +1727,6 @@ What do you want to do with your changes?</source>
         <translation>その後、スケジュールは保存されています。</translation>
     </message>
     <message>
-        <source>Close this question to decide later.</source>
-        <translation>後で決めるには、この確認を閉じてください。</translation>
-    </message>
-    <message>
         <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
         <translation>ファイル %1 には保存されなかった変更があります。このアプリの新しいバージョンで行われたもので、引き継ぐにはそのバージョンが必要です。</translation>
     </message>
@@ -1724,6 +1761,51 @@ What do you want to do with your changes?</source>
     <message>
         <source>Decide later</source>
         <translation>後で決める</translation>
+    </message>
+    <message>
+        <source>There are changes that were not saved. The last one was made %1, on %2.</source>
+        <translation>保存されなかった変更があります。最後の変更: %1（%2）</translation>
+    </message>
+    <message>
+        <source>less than a minute ago</source>
+        <translation>1 分以内</translation>
+    </message>
+    <message>
+        <source>What differs from what is saved:</source>
+        <translation>保存されている内容との違い:</translation>
+    </message>
+    <message>
+        <source>As it is saved</source>
+        <translation>保存されている内容</translation>
+    </message>
+    <message>
+        <source>With these changes</source>
+        <translation>この変更を加えた内容</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes ago</source>
+        <translation>
+            <numerusform>%n 分前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours ago</source>
+        <translation>
+            <numerusform>%n 時間前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>%n 日前</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::changes::ChangesDialog</name>
+    <message>
+        <source>Look at it in the week</source>
+        <translation>週で見る</translation>
     </message>
 </context>
 <context>

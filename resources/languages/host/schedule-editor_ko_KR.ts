@@ -815,16 +815,57 @@ What do you want to do with your changes?</source>
         <translation>파일로 저장</translation>
     </message>
     <message>
-        <source>Discard changes</source>
-        <translation>변경 내용 버리기</translation>
-    </message>
-    <message>
         <source>Write the schedule to a file</source>
         <translation>일정을 파일로 저장</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
         <translation>일정 (*.json)</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>계속 편집</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by another program. Your changes are not saved.</source>
+        <translation>편집하는 동안 다른 앱이 %1을(를) 저장했습니다. 사용자의 변경 내용은 저장되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>If you keep yours, what was saved there stays among the versions. If you take theirs, yours can be brought back until the next save.</source>
+        <translation>내 변경을 유지하면 다른 쪽에서 저장한 내용은 버전에 남습니다. 상대 쪽을 받아들이면 내 변경은 다음에 저장할 때까지 되살릴 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>What was changed there:</source>
+        <translation>다른 쪽에서 변경한 내용:</translation>
+    </message>
+    <message>
+        <source>Nothing that you would see.</source>
+        <translation>눈에 보이는 변경은 없습니다.</translation>
+    </message>
+    <message>
+        <source>As it was saved there</source>
+        <translation>다른 쪽에서 저장한 상태</translation>
+    </message>
+    <message>
+        <source>With your changes</source>
+        <translation>내 변경을 적용한 상태</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>내 변경 유지</translation>
+    </message>
+    <message>
+        <source>Take theirs</source>
+        <translation>상대 변경 적용</translation>
+    </message>
+    <message>
+        <source>Write mine to a file</source>
+        <translation>내 변경을 파일로 저장</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by %2, on %3. Your changes are not saved.</source>
+        <comment>the database, a program, and the time</comment>
+        <translation>편집하는 동안 %2이(가) %1을(를) 저장했습니다(%3). 사용자의 변경 내용은 저장되지 않았습니다.</translation>
     </message>
 </context>
 <context>
@@ -1686,10 +1727,6 @@ What do you want to do with your changes?</source>
         <translation>그 후에 일정이 저장되었습니다.</translation>
     </message>
     <message>
-        <source>Close this question to decide later.</source>
-        <translation>나중에 결정하려면 이 질문을 닫으세요.</translation>
-    </message>
-    <message>
         <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
         <translation>파일 %1에 저장되지 않은 변경 내용이 있습니다. 이 앱의 더 새로운 버전에서 만든 것이므로 가져오려면 그 버전이 필요합니다.</translation>
     </message>
@@ -1724,6 +1761,51 @@ What do you want to do with your changes?</source>
     <message>
         <source>Decide later</source>
         <translation>나중에 결정</translation>
+    </message>
+    <message>
+        <source>There are changes that were not saved. The last one was made %1, on %2.</source>
+        <translation>저장되지 않은 변경 내용이 있습니다. 마지막 변경: %1(%2)</translation>
+    </message>
+    <message>
+        <source>less than a minute ago</source>
+        <translation>1분 이내</translation>
+    </message>
+    <message>
+        <source>What differs from what is saved:</source>
+        <translation>저장된 내용과 다른 점:</translation>
+    </message>
+    <message>
+        <source>As it is saved</source>
+        <translation>저장된 상태</translation>
+    </message>
+    <message>
+        <source>With these changes</source>
+        <translation>이 변경을 적용한 상태</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes ago</source>
+        <translation>
+            <numerusform>%n분 전</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours ago</source>
+        <translation>
+            <numerusform>%n시간 전</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>%n일 전</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::changes::ChangesDialog</name>
+    <message>
+        <source>Look at it in the week</source>
+        <translation>주간 보기로 확인</translation>
     </message>
 </context>
 <context>

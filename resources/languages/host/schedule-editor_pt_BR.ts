@@ -836,16 +836,57 @@ O que deseja fazer com as alterações?</translation>
         <translation>Gravar em um arquivo</translation>
     </message>
     <message>
-        <source>Discard changes</source>
-        <translation>Descartar</translation>
-    </message>
-    <message>
         <source>Write the schedule to a file</source>
         <translation>Gravar a programação em um arquivo</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
         <translation>Programações (*.json)</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>Continuar editando</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by another program. Your changes are not saved.</source>
+        <translation>Enquanto você editava, %1 foi salvo por outro aplicativo. Suas alterações não estão salvas.</translation>
+    </message>
+    <message>
+        <source>If you keep yours, what was saved there stays among the versions. If you take theirs, yours can be brought back until the next save.</source>
+        <translation>Se mantiver as suas, o que foi salvo lá fica entre as versões. Se aceitar as outras, as suas podem ser trazidas de volta até o próximo salvamento.</translation>
+    </message>
+    <message>
+        <source>What was changed there:</source>
+        <translation>O que foi alterado lá:</translation>
+    </message>
+    <message>
+        <source>Nothing that you would see.</source>
+        <translation>Nada que se veja.</translation>
+    </message>
+    <message>
+        <source>As it was saved there</source>
+        <translation>Como foi salva lá</translation>
+    </message>
+    <message>
+        <source>With your changes</source>
+        <translation>Com suas alterações</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Manter as minhas</translation>
+    </message>
+    <message>
+        <source>Take theirs</source>
+        <translation>Aceitar as outras</translation>
+    </message>
+    <message>
+        <source>Write mine to a file</source>
+        <translation>Gravar as minhas em um arquivo</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by %2, on %3. Your changes are not saved.</source>
+        <comment>the database, a program, and the time</comment>
+        <translation>Enquanto você editava, %1 foi salvo por %2, em %3. Suas alterações não estão salvas.</translation>
     </message>
 </context>
 <context>
@@ -1710,10 +1751,6 @@ O que deseja fazer com as alterações?</translation>
         <translation>A programação foi salva desde então.</translation>
     </message>
     <message>
-        <source>Close this question to decide later.</source>
-        <translation>Feche esta pergunta para decidir mais tarde.</translation>
-    </message>
-    <message>
         <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
         <translation>O arquivo %1 contém alterações não salvas. Elas foram feitas com uma versão mais recente deste aplicativo, necessária para recuperá-las.</translation>
     </message>
@@ -1748,6 +1785,54 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>Decide later</source>
         <translation>Decidir mais tarde</translation>
+    </message>
+    <message>
+        <source>There are changes that were not saved. The last one was made %1, on %2.</source>
+        <translation>Há alterações que não foram salvas. A última foi feita %1, em %2.</translation>
+    </message>
+    <message>
+        <source>less than a minute ago</source>
+        <translation>há menos de um minuto</translation>
+    </message>
+    <message>
+        <source>What differs from what is saved:</source>
+        <translation>O que difere do que está salvo:</translation>
+    </message>
+    <message>
+        <source>As it is saved</source>
+        <translation>Como está salva</translation>
+    </message>
+    <message>
+        <source>With these changes</source>
+        <translation>Com estas alterações</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes ago</source>
+        <translation>
+            <numerusform>há %n minuto</numerusform>
+            <numerusform>há %n minutos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours ago</source>
+        <translation>
+            <numerusform>há %n hora</numerusform>
+            <numerusform>há %n horas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>há %n dia</numerusform>
+            <numerusform>há %n dias</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::changes::ChangesDialog</name>
+    <message>
+        <source>Look at it in the week</source>
+        <translation>Ver na semana</translation>
     </message>
 </context>
 <context>

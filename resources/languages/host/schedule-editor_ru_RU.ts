@@ -857,16 +857,57 @@ What do you want to do with your changes?</source>
         <translation>Сохранить в файл</translation>
     </message>
     <message>
-        <source>Discard changes</source>
-        <translation>Не сохранять</translation>
-    </message>
-    <message>
         <source>Write the schedule to a file</source>
         <translation>Сохранение расписания в файл</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
         <translation>Расписания (*.json)</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>Продолжить правку</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by another program. Your changes are not saved.</source>
+        <translation>Пока вы работали, %1 сохранило другое приложение. Ваши изменения не сохранены.</translation>
+    </message>
+    <message>
+        <source>If you keep yours, what was saved there stays among the versions. If you take theirs, yours can be brought back until the next save.</source>
+        <translation>Если оставить свои, сохранённое там останется среди версий. Если принять чужие, свои можно вернуть до следующего сохранения.</translation>
+    </message>
+    <message>
+        <source>What was changed there:</source>
+        <translation>Что там изменено:</translation>
+    </message>
+    <message>
+        <source>Nothing that you would see.</source>
+        <translation>Ничего видимого.</translation>
+    </message>
+    <message>
+        <source>As it was saved there</source>
+        <translation>Как сохранено там</translation>
+    </message>
+    <message>
+        <source>With your changes</source>
+        <translation>С вашими изменениями</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Оставить мои</translation>
+    </message>
+    <message>
+        <source>Take theirs</source>
+        <translation>Принять чужие</translation>
+    </message>
+    <message>
+        <source>Write mine to a file</source>
+        <translation>Сохранить мои в файл</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by %2, on %3. Your changes are not saved.</source>
+        <comment>the database, a program, and the time</comment>
+        <translation>Пока вы работали, %1 сохранило приложение %2, %3. Ваши изменения не сохранены.</translation>
     </message>
 </context>
 <context>
@@ -1734,10 +1775,6 @@ What do you want to do with your changes?</source>
         <translation>С тех пор расписание сохраняли.</translation>
     </message>
     <message>
-        <source>Close this question to decide later.</source>
-        <translation>Закройте этот вопрос, чтобы решить позже.</translation>
-    </message>
-    <message>
         <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
         <translation>В файле %1 хранятся несохранённые изменения. Они сделаны в более новой версии этого приложения, и принять их может только она.</translation>
     </message>
@@ -1772,6 +1809,57 @@ What do you want to do with your changes?</source>
     <message>
         <source>Decide later</source>
         <translation>Решить позже</translation>
+    </message>
+    <message>
+        <source>There are changes that were not saved. The last one was made %1, on %2.</source>
+        <translation>Есть изменения, которые не были сохранены. Последнее сделано %1, %2.</translation>
+    </message>
+    <message>
+        <source>less than a minute ago</source>
+        <translation>меньше минуты назад</translation>
+    </message>
+    <message>
+        <source>What differs from what is saved:</source>
+        <translation>Чем отличается от сохранённого:</translation>
+    </message>
+    <message>
+        <source>As it is saved</source>
+        <translation>Как сохранено</translation>
+    </message>
+    <message>
+        <source>With these changes</source>
+        <translation>С этими изменениями</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes ago</source>
+        <translation>
+            <numerusform>%n минуту назад</numerusform>
+            <numerusform>%n минуты назад</numerusform>
+            <numerusform>%n минут назад</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours ago</source>
+        <translation>
+            <numerusform>%n час назад</numerusform>
+            <numerusform>%n часа назад</numerusform>
+            <numerusform>%n часов назад</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>%n день назад</numerusform>
+            <numerusform>%n дня назад</numerusform>
+            <numerusform>%n дней назад</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::changes::ChangesDialog</name>
+    <message>
+        <source>Look at it in the week</source>
+        <translation>Показать в неделе</translation>
     </message>
 </context>
 <context>

@@ -815,16 +815,57 @@ What do you want to do with your changes?</source>
         <translation>写入文件</translation>
     </message>
     <message>
-        <source>Discard changes</source>
-        <translation>放弃更改</translation>
-    </message>
-    <message>
         <source>Write the schedule to a file</source>
         <translation>将排期写入文件</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
         <translation>排期 (*.json)</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>继续编辑</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by another program. Your changes are not saved.</source>
+        <translation>在您编辑期间，%1 已被其他软件保存。您的更改未保存。</translation>
+    </message>
+    <message>
+        <source>If you keep yours, what was saved there stays among the versions. If you take theirs, yours can be brought back until the next save.</source>
+        <translation>如果保留自己的更改，对方保存的内容会留在版本中。如果采用对方的内容，自己的更改在下次保存之前都可以恢复。</translation>
+    </message>
+    <message>
+        <source>What was changed there:</source>
+        <translation>对方所做的更改：</translation>
+    </message>
+    <message>
+        <source>Nothing that you would see.</source>
+        <translation>没有可见的更改。</translation>
+    </message>
+    <message>
+        <source>As it was saved there</source>
+        <translation>对方保存的内容</translation>
+    </message>
+    <message>
+        <source>With your changes</source>
+        <translation>含您的更改</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>保留我的</translation>
+    </message>
+    <message>
+        <source>Take theirs</source>
+        <translation>采用对方的</translation>
+    </message>
+    <message>
+        <source>Write mine to a file</source>
+        <translation>将我的写入文件</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by %2, on %3. Your changes are not saved.</source>
+        <comment>the database, a program, and the time</comment>
+        <translation>在您编辑期间，%1 已被 %2 保存（%3）。您的更改未保存。</translation>
     </message>
 </context>
 <context>
@@ -1686,10 +1727,6 @@ What do you want to do with your changes?</source>
         <translation>此后排期已保存过。</translation>
     </message>
     <message>
-        <source>Close this question to decide later.</source>
-        <translation>关闭此提示可稍后决定。</translation>
-    </message>
-    <message>
         <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
         <translation>文件 %1 中有未保存的更改。它们由此软件的较新版本写入，需要用该版本来采用。</translation>
     </message>
@@ -1724,6 +1761,51 @@ What do you want to do with your changes?</source>
     <message>
         <source>Decide later</source>
         <translation>稍后决定</translation>
+    </message>
+    <message>
+        <source>There are changes that were not saved. The last one was made %1, on %2.</source>
+        <translation>有未保存的更改。最后一次更改于 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>less than a minute ago</source>
+        <translation>不到一分钟前</translation>
+    </message>
+    <message>
+        <source>What differs from what is saved:</source>
+        <translation>与已保存内容的差异：</translation>
+    </message>
+    <message>
+        <source>As it is saved</source>
+        <translation>已保存的内容</translation>
+    </message>
+    <message>
+        <source>With these changes</source>
+        <translation>含这些更改</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes ago</source>
+        <translation>
+            <numerusform>%n 分钟前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours ago</source>
+        <translation>
+            <numerusform>%n 小时前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>%n 天前</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::changes::ChangesDialog</name>
+    <message>
+        <source>Look at it in the week</source>
+        <translation>在周视图中查看</translation>
     </message>
 </context>
 <context>

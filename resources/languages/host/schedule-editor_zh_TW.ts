@@ -815,16 +815,57 @@ What do you want to do with your changes?</source>
         <translation>寫入檔案</translation>
     </message>
     <message>
-        <source>Discard changes</source>
-        <translation>捨棄變更</translation>
-    </message>
-    <message>
         <source>Write the schedule to a file</source>
         <translation>將排程寫入檔案</translation>
     </message>
     <message>
         <source>Schedules (*.json)</source>
         <translation>排程 (*.json)</translation>
+    </message>
+    <message>
+        <source>Go on editing</source>
+        <translation>繼續編輯</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by another program. Your changes are not saved.</source>
+        <translation>在您編輯期間，%1 已被其他軟體儲存。您的變更未儲存。</translation>
+    </message>
+    <message>
+        <source>If you keep yours, what was saved there stays among the versions. If you take theirs, yours can be brought back until the next save.</source>
+        <translation>如果保留自己的變更，對方儲存的內容會留在版本中。如果採用對方的內容，自己的變更在下次儲存之前都可以恢復。</translation>
+    </message>
+    <message>
+        <source>What was changed there:</source>
+        <translation>對方所做的變更：</translation>
+    </message>
+    <message>
+        <source>Nothing that you would see.</source>
+        <translation>沒有可見的變更。</translation>
+    </message>
+    <message>
+        <source>As it was saved there</source>
+        <translation>對方儲存的內容</translation>
+    </message>
+    <message>
+        <source>With your changes</source>
+        <translation>含您的變更</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>保留我的</translation>
+    </message>
+    <message>
+        <source>Take theirs</source>
+        <translation>採用對方的</translation>
+    </message>
+    <message>
+        <source>Write mine to a file</source>
+        <translation>將我的寫入檔案</translation>
+    </message>
+    <message>
+        <source>While you were editing, %1 was saved by %2, on %3. Your changes are not saved.</source>
+        <comment>the database, a program, and the time</comment>
+        <translation>在您編輯期間，%1 已被 %2 儲存（%3）。您的變更未儲存。</translation>
     </message>
 </context>
 <context>
@@ -1686,10 +1727,6 @@ What do you want to do with your changes?</source>
         <translation>此後排程已儲存過。</translation>
     </message>
     <message>
-        <source>Close this question to decide later.</source>
-        <translation>關閉此提示可稍後決定。</translation>
-    </message>
-    <message>
         <source>The file %1 keeps changes that were not saved. They were made with a newer version of this program, which has to be used to take them over.</source>
         <translation>檔案 %1 中有未儲存的變更。它們由此軟體的較新版本寫入，需要用該版本來採用。</translation>
     </message>
@@ -1724,6 +1761,51 @@ What do you want to do with your changes?</source>
     <message>
         <source>Decide later</source>
         <translation>稍後決定</translation>
+    </message>
+    <message>
+        <source>There are changes that were not saved. The last one was made %1, on %2.</source>
+        <translation>有未儲存的變更。最後一次變更於 %1（%2）。</translation>
+    </message>
+    <message>
+        <source>less than a minute ago</source>
+        <translation>不到一分鐘前</translation>
+    </message>
+    <message>
+        <source>What differs from what is saved:</source>
+        <translation>與已儲存內容的差異：</translation>
+    </message>
+    <message>
+        <source>As it is saved</source>
+        <translation>已儲存的內容</translation>
+    </message>
+    <message>
+        <source>With these changes</source>
+        <translation>含這些變更</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n minutes ago</source>
+        <translation>
+            <numerusform>%n 分鐘前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n hours ago</source>
+        <translation>
+            <numerusform>%n 小時前</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n days ago</source>
+        <translation>
+            <numerusform>%n 天前</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::changes::ChangesDialog</name>
+    <message>
+        <source>Look at it in the week</source>
+        <translation>在週檢視中查看</translation>
     </message>
 </context>
 <context>

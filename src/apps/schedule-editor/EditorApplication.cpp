@@ -154,7 +154,7 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     }
 
     EditorWindow window(editor, languages, themes);
-    const SaveRescue rescue(ScheduleHost::instance(), &window);
+    const SaveRescue rescue(ScheduleHost::instance(), window.drafts(), &window);
     const hosts::StopSignals stop;
     QObject::connect(&stop, &hosts::StopSignals::stopped, &application, &QCoreApplication::quit);
     const QString database =

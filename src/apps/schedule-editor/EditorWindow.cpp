@@ -83,7 +83,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     , m_clockChanges(new QDockWidget(this))
     , m_notices(new PendingNotices(*this))
     , m_import(new CatalogueImport(*m_notices, *this))
-    , m_drafts(new DraftKeeper(m_editor, *m_menus->bringBack(), *m_notices, this))
+    , m_drafts(new DraftKeeper(m_editor, *m_menus->bringBack(), *m_notices, themes, this))
 {
     setObjectName(QStringLiteral("editorWindow"));
     setAcceptDrops(true);
@@ -362,7 +362,7 @@ bool EditorWindow::maySettle()
     case 1:
         // Through the service, so that a failure takes the same way as any other.
         scheduleManage::getInstance().save();
-        return true;
+        return !m_drafts->isGoingOn();
     case 2:
         return m_drafts->keep();
     case 3:

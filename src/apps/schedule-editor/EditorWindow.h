@@ -51,6 +51,8 @@ public:
     /// Shows a message and waits until it has been read.
     void tell(const QString& text);
 
+    /// What looks after the changes that are not saved.
+    DraftKeeper& drafts() const { return *m_drafts; }
     /// Asks what becomes of changes that were left unsaved in the database that is open.
     void offerDrafts();
 

@@ -3,25 +3,42 @@
 #include "HostPrompts.h"
 #include "KeptEdits.h"
 #include "ProblemWords.h"
+#include "changes/ChangesDialog.h"
+#include "draft/DraftKeeper.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
+#include "versions/DifferenceWords.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QEvent>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QMetaObject>
 #include <QWidget>
 
+#include <array>
 #include <utility>
+#include <vector>
 
 using namespace trel::mediadispatch;
 
 namespace trel::desktop {
 
-SaveRescue::SaveRescue(ScheduleHost& host, QWidget* window)
+namespace {
+
+QString goOnEditing()
+{
+    return SaveRescue::tr("Go on editing");
+}
+
+} // namespace
+
+SaveRescue::SaveRescue(ScheduleHost& host, DraftKeeper& drafts, QWidget* window)
     : QObject(window)
     , m_host(host)
+    , m_drafts(drafts)
     , m_window(window)
 {
     connect(&m_host, &ScheduleHost::saveFailed, this, &SaveRescue::rescue, Qt::DirectConnection);
@@ -30,22 +47,88 @@ SaveRescue::SaveRescue(ScheduleHost& host, QWidget* window)
     m_window->installEventFilter(this);
 }
 
-SaveRescue::Answer SaveRescue::ask(const QString& reason)
+SaveRescue::Answer SaveRescue::ask(const StoreResult& reason)
+{
+    std::vector<ScheduleVersion> versions;
+    std::map<int, PlayTask> tasks;
+    if (reason.problem != StoreProblem::MovedOn || !m_host.versions(versions) || versions.empty() ||
+        !m_host.versionTasks(versions.front().number, tasks)) {
+        return askPlainly(reason);
+    }
+    m_other = versions.front().number;
+    return askAboutOther(versions.front(), tasks);
+}
+
+SaveRescue::Answer SaveRescue::askPlainly(const StoreResult& reason) const
 {
     const int button = prompts::confirm(
         tr("The schedule was not saved. %1\n\nWhat do you want to do with your changes?")
-            .arg(reason),
-        tr("Try again"), tr("Write to a file"), tr("Discard changes"));
+            .arg(problems::sentence(reason)),
+        tr("Try again"), tr("Write to a file"), goOnEditing());
     switch (button) {
     case 1:
         return Answer::TryAgain;
     case 2:
         return Answer::WriteFile;
-    case 3:
-        return Answer::GiveUp;
     default:
-        return Answer::None;
+        return Answer::GoOn;
     }
+}
+
+SaveRescue::Answer SaveRescue::askAboutOther(const ScheduleVersion& other,
+                                             const std::map<int, PlayTask>& tasks) const
+{
+    const QString store = QFileInfo(m_host.path()).fileName();
+    const QString saved = m_window->locale().toString(QDateTime::fromMSecsSinceEpoch(other.saved),
+                                                      QLocale::ShortFormat);
+    changes::ChangesQuestion question;
+    question.text =
+        (other.by.isEmpty()
+             ? tr("While you were editing, %1 was saved by another program. Your changes are not "
+                  "saved.")
+                   .arg(store)
+             : tr("While you were editing, %1 was saved by %2, on %3. Your changes are not saved.",
+                  "the database, a program, and the time")
+                   .arg(store, other.by, saved)) +
+        QStringLiteral("\n\n") +
+        tr("If you keep yours, what was saved there stays among the versions. If you take theirs, "
+           "yours can be brought back until the next save.");
+    question.listTitle = tr("What was changed there:");
+    question.lines = versions::DifferenceWords::lines(m_drafts.saved(), tasks, *m_host.catalogue(),
+                                                      changes::kMostLines);
+    if (question.lines.isEmpty()) {
+        question.lines.append(tr("Nothing that you would see."));
+    }
+    question.former = {tr("As it was saved there"), tasks};
+    question.later = {tr("With your changes"), m_host.workingSet()};
+    question.answers =
+        QStringList{goOnEditing(), tr("Keep mine"), tr("Take theirs"), tr("Write mine to a file")};
+    constexpr std::array answers = {Answer::GoOn, Answer::GoOn, Answer::SaveOver, Answer::TakeOther,
+                                    Answer::WriteFile};
+    return answers.at(static_cast<std::size_t>(m_drafts.ask(question)));
+}
+
+StoreResult SaveRescue::saveOver(const StoreResult& movedOn)
+{
+    if (StoreResult result = m_host.reload(); !result) {
+        return result;
+    }
+    std::vector<ScheduleVersion> versions;
+    if (StoreResult result = m_host.versions(versions); !result) {
+        return result;
+    }
+    // Nobody saves over what nobody was told of.
+    const bool isTold = !versions.empty() && versions.front().number == m_other;
+    return isTold ? m_host.trySave() : movedOn;
+}
+
+StoreResult SaveRescue::takeOther()
+{
+    const StoreResult result = m_host.reload();
+    if (result) {
+        m_drafts.giveUp();
+    }
+    return result;
 }
 
 bool SaveRescue::writeFile()
@@ -76,32 +159,35 @@ void SaveRescue::rescue(const StoreResult& reason)
 
 void SaveRescue::askUntilDone(const StoreResult& reason)
 {
-    QString sentence = problems::sentence(reason);
-    for (;;) {
-        const Answer answer = ask(sentence);
-        if (answer == Answer::None && isLeaving()) {
+    StoreResult outcome = reason;
+    while (!outcome) {
+        if (m_isLeft) {
             keep();
             return;
         }
-        switch (answer) {
-        case Answer::TryAgain: {
-            const StoreResult again = m_host.trySave();
-            if (again) {
-                return;
-            }
-            sentence = problems::sentence(again);
+        switch (ask(outcome)) {
+        case Answer::TryAgain:
+            outcome = m_host.trySave();
             break;
-        }
+        case Answer::SaveOver:
+            outcome = saveOver(reason);
+            break;
+        case Answer::TakeOther:
+            outcome = takeOther();
+            break;
         case Answer::WriteFile:
             if (writeFile()) {
                 return;
             }
             break;
-        case Answer::GiveUp:
-            emit givenUp();
+        case Answer::GoOn:
+            if (isLeaving()) {
+                keep();
+            } else {
+                m_drafts.goOnEditing();
+                emit goesOn();
+            }
             return;
-        case Answer::None:
-            break;
         }
     }
 }

@@ -4,30 +4,40 @@
 
 #include <QObject>
 
+#include <map>
+
 class QWidget;
 
 namespace trel::desktop {
 
+class DraftKeeper;
+
 /// Stands by when a save fails.
 ///
 /// The editor closes after a save, and its next refresh drops what was not stored. So the operator
-/// is asked while the save still runs: try again, write the schedule to a file, or give it up. The
-/// question comes back until one of the three has been done, or until the program is to end: when
-/// it quits, when the window is closed or the session ends, the edits are kept in a file and
-/// nothing is asked any more.
+/// is asked while the save still runs: try again, write the schedule to a file, or go on editing,
+/// which is what closing the question does as well; then nothing closes. The question comes back
+/// until one of the three has been done.
+///
+/// Where another program has saved meanwhile, the question tells what that one has changed, and it
+/// can be saved over, or taken for what was edited. What is saved over stays among the versions,
+/// and what was edited can be brought back until the next save.
+///
+/// When the program is to end while it asks, because it quits, the window is closed or the session
+/// ends, the edits are kept in a file and nothing is asked any more.
 class SaveRescue : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Listens to the host from now on. Prompts stand over the window.
-    SaveRescue(trel::mediadispatch::ScheduleHost& host, QWidget* window);
+    /// Listens to the host from now on. Prompts stand over the window. Host and keeper outlive it.
+    SaveRescue(trel::mediadispatch::ScheduleHost& host, DraftKeeper& drafts, QWidget* window);
 
 signals:
     /// The schedule was written to a file instead of the store.
     void written(const QString& file);
-    /// The operator gave the schedule up.
-    void givenUp();
+    /// The operator goes on editing; nothing was saved.
+    void goesOn();
     /// The program is to end; the schedule stands in this file. Empty where it could be kept
     /// nowhere. The file is named in the log as well.
     void kept(const QString& file);
@@ -37,7 +47,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    enum class Answer { TryAgain, WriteFile, GiveUp, None };
+    enum class Answer { TryAgain, SaveOver, TakeOther, WriteFile, GoOn };
 
     void rescue(const trel::mediadispatch::StoreResult& reason);
     void askUntilDone(const trel::mediadispatch::StoreResult& reason);
@@ -45,12 +55,20 @@ private:
     void leave();
     bool isLeaving() const;
     void keep();
-    Answer ask(const QString& reason);
+    Answer ask(const trel::mediadispatch::StoreResult& reason);
+    Answer askPlainly(const trel::mediadispatch::StoreResult& reason) const;
+    /// What to do about what another program has saved.
+    Answer askAboutOther(const trel::mediadispatch::ScheduleVersion& other,
+                         const std::map<int, trel::mediadispatch::PlayTask>& tasks) const;
+    trel::mediadispatch::StoreResult saveOver(const trel::mediadispatch::StoreResult& movedOn);
+    trel::mediadispatch::StoreResult takeOther();
     /// True when the schedule stands in a file of the operator's choice.
     bool writeFile();
 
     trel::mediadispatch::ScheduleHost& m_host;
+    DraftKeeper& m_drafts;
     QWidget* m_window;
+    qint64 m_other = trel::mediadispatch::kNoVersion; ///< The save that the operator was told of.
     bool m_isAsking = false;
     bool m_isLeft = false;
 };

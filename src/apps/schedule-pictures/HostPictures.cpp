@@ -6,7 +6,9 @@
 #include "PictureFiles.h"
 #include "ProblemWords.h"
 #include "SaveRescue.h"
+#include "changes/ChangesDialog.h"
 #include "clock/Clock.h"
+#include "draft/DraftKeeper.h"
 #include "draft/DraftWords.h"
 #include "scheduleControlUI.h"
 #include "screen/PreviewDock.h"
@@ -23,11 +25,9 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPointer>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTableView>
-#include <QTimer>
 
 #include <cerrno>
 #include <map>
@@ -42,8 +42,8 @@ namespace {
 
 /// Longer than any import, in milliseconds.
 constexpr int kNever = 3600000;
-/// How often it is looked for what follows a dialog, in milliseconds.
-constexpr int kSecondLook = 50;
+/// How old the draft is that is offered, in milliseconds.
+constexpr qint64 kDraftAge = 3 * 3600 * 1000LL;
 
 } // namespace
 
@@ -187,26 +187,11 @@ void HostPictures::drawPrompts()
     drawDrafts();
 
     const QString store = ScheduleHost::instance().path();
-    const SaveRescue rescue(ScheduleHost::instance(), &m_window);
-    QObject::connect(&rescue, &SaveRescue::givenUp, &manager, &scheduleManage::updateUItask);
+    const SaveRescue rescue(ScheduleHost::instance(), m_window.drafts(), &m_window);
     const QFile::Permissions former = QFile::permissions(store);
     QFile::setPermissions(store, QFile::ReadOwner);
-    // A question that is closed comes back, and is answered then, however long that takes.
-    QPointer<QWidget> drawn;
-    QTimer answer;
-    QObject::connect(&answer, &QTimer::timeout, &m_window, [&drawn, &answer] {
-        QWidget* const again = QApplication::activeModalWidget();
-        if (again != nullptr && again != drawn) {
-            answer.stop();
-            again->findChild<QPushButton*>(QStringLiteral("tipButton3"))->click();
-        }
-    });
-    m_files.saveDialog(
-        m_window, QStringLiteral("prompt-not-saved"), [&manager] { manager.save(); },
-        [&drawn, &answer](QWidget* prompt) {
-            drawn = prompt;
-            answer.start(kSecondLook);
-        });
+    m_files.saveDialog(m_window, QStringLiteral("prompt-not-saved"),
+                       [&manager] { manager.save(); });
     QFile::setPermissions(store, former);
     manager.updateUItask();
 }
@@ -216,13 +201,20 @@ void HostPictures::drawDrafts()
     LeftDraft left;
     left.path = QStringLiteral("/home/operator/schedules/station.db.unsaved-operator@studio");
     left.draft.state = DraftState::Damaged;
-    left.draft.edited = Clock::current().msecsSinceEpoch();
+    left.draft.edited = Clock::current().msecsSinceEpoch() - kDraftAge;
     left.isOfOtherSave = true;
-    const std::map<int, PlayTask> saved = {{1, PlayTask()}, {2, PlayTask()}, {3, PlayTask()}};
-    left.draft.tasks = {{1, PlayTask()}, {2, PlayTask()}, {3, std::nullopt}, {9, PlayTask()}};
-    m_files.saveDialog(m_window, QStringLiteral("prompt-draft"), [this, &left, &saved] {
-        prompts::confirm(DraftWords::offer(left, saved, m_window.locale()), DraftWords::takeOver(),
-                         DraftWords::putIntoFile(), DraftWords::drop());
+    const std::map<int, PlayTask>& saved = m_window.drafts().saved();
+    PlayTask edited = saved.begin()->second;
+    edited.plans.front().startTime = "06:15:00";
+    edited.plans.back().weeks = "1,3,5";
+    edited.plans.erase(edited.plans.begin() + 1);
+    left.draft.tasks = {{edited.id, edited}, {saved.rbegin()->first, std::nullopt}};
+    edited.id = 9;
+    left.draft.tasks.emplace(9, edited);
+    const auto ask = [this, &left] { m_window.drafts().ask(m_window.drafts().questionOf(left)); };
+    m_files.saveDialog(m_window, QStringLiteral("prompt-draft"), ask);
+    m_files.saveDialog(m_window, QStringLiteral("prompt-draft-week"), ask, [](QWidget* dialog) {
+        dialog->findChild<QPushButton*>(QStringLiteral("changesLook"))->click();
     });
     left.draft.state = DraftState::TooNew;
     m_files.saveDialog(m_window, QStringLiteral("prompt-draft-too-new"), [&left] {

@@ -1,17 +1,22 @@
+#include "ChangesAnswer.h"
 #include "EditorMenus.h"
 #include "FileDialogAnswer.h"
 #include "HostFixture.h"
+#include "draft/DraftWords.h"
 #include "support/PromptAnswer.h"
 #include "support/SampleSchedule.h"
 #include "support/TestClock.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/draft/DraftJournal.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
+#include "week/WeekView.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QPushButton>
 #include <QtTest>
+
+#include <algorithm>
 
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
@@ -116,6 +121,9 @@ class tst_Drafts : public QObject
 private slots:
     void nothingLeftAsksNothing();
     void theOfferTellsWhatItIs();
+    void theOfferTellsHowOldItIs_data();
+    void theOfferTellsHowOldItIs();
+    void theOfferShowsBothWeeks();
     void takenOverItIsInTheEditor();
     void takenOverIntoAnOpenEditor();
     void putIntoAFile();
@@ -150,21 +158,85 @@ void tst_Drafts::theOfferTellsWhatItIs()
     DraftsFixture fixture;
     fixture.editInCards();
     fixture.killAndStart();
-    const PromptAnswer later(PromptAnswer::Escape);
+    // The journal writes down when it was, by the clock of the system.
+    fixture.clock.set(QDateTime::currentDateTime());
+    const ChangesAnswer later(0);
     const QString today =
         fixture.window.locale().toString(QDate::currentDate(), QLocale::ShortFormat);
     fixture.window.offerDrafts();
     QCOMPARE(later.count(), 1);
     const QString text = later.texts().first();
-    QVERIFY2(
-        text.startsWith(
-            QStringLiteral("There are changes that were not saved. The last one was made on ") +
-            today),
-        qPrintable(text));
-    QVERIFY2(text.contains(QStringLiteral("\nNew tasks: 9\nChanged tasks: 1\nDeleted tasks: 2\n\n"
-                                          "Close this question to decide later.")),
+    QVERIFY2(text.startsWith(QStringLiteral("There are changes that were not saved. The last one "
+                                            "was made less than a minute ago, on ") +
+                             today),
              qPrintable(text));
-    QCOMPARE(later.buttons().first(), QStringLiteral("Take over|Put into a file|Drop"));
+    QVERIFY2(text.endsWith(QStringLiteral("\nNew tasks: 9\nChanged tasks: 1\nDeleted tasks: 2")),
+             qPrintable(text));
+    QCOMPARE(later.buttons().first(),
+             QStringLiteral("Take over|Put into a file|Drop|Decide later"));
+    const QStringList lines = later.lists().first().split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 3);
+    QVERIFY2(lines.first().contains(QStringLiteral("2026.01.01")), qPrintable(lines.first()));
+}
+
+void tst_Drafts::theOfferTellsHowOldItIs_data()
+{
+    QTest::addColumn<int>("minutes");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("a moment") << 0 << QStringLiteral("made less than a minute ago, on ");
+    QTest::newRow("a minute") << 1 << QStringLiteral("made 1 minute ago, on ");
+    QTest::newRow("minutes") << 59 << QStringLiteral("made 59 minutes ago, on ");
+    QTest::newRow("an hour") << 60 << QStringLiteral("made 1 hour ago, on ");
+    QTest::newRow("hours") << 48 * 60 - 1 << QStringLiteral("made 47 hours ago, on ");
+    QTest::newRow("days") << 48 * 60 << QStringLiteral("made 2 days ago, on ");
+    QTest::newRow("a clock that was set back") << -1 << QStringLiteral("made on ");
+}
+
+void tst_Drafts::theOfferTellsHowOldItIs()
+{
+    QFETCH(const int, minutes);
+    QFETCH(const QString, told);
+    const DraftsFixture fixture;
+    LeftDraft left;
+    left.draft.edited = 1700000000000;
+    const QString text = DraftWords::offer(left, {}, QLocale(QStringLiteral("en_US")),
+                                           left.draft.edited + minutes * 60000LL);
+    QVERIFY2(text.contains(told), qPrintable(text));
+}
+
+void tst_Drafts::theOfferShowsBothWeeks()
+{
+    DraftsFixture fixture;
+    fixture.editInCards();
+    fixture.killAndStart();
+    ChangesAnswer later(0);
+    later.onEach = [](QDialog& dialog) {
+        QCOMPARE(dialog.findChildren<week::WeekView*>().size(), 0);
+        auto* const look = dialog.findChild<QPushButton*>(QStringLiteral("changesLook"));
+        QTest::mouseClick(look, Qt::LeftButton);
+        const auto views = dialog.findChildren<week::WeekView*>();
+        QCOMPARE(views.size(), 2);
+        for (const auto* view : views) {
+            QVERIFY(view->isVisible());
+            const auto hasBlocks = [view] {
+                const auto& days = view->layoutOfWeek().days;
+                return std::any_of(days.begin(), days.end(),
+                                   [](const auto& day) { return !day.blocks.empty(); });
+            };
+            QTRY_VERIFY(hasBlocks());
+        }
+        const QDate first = views.at(0)->firstDay();
+        QCOMPARE(views.at(1)->firstDay(), first);
+        QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("pairNext")),
+                          Qt::LeftButton);
+        views.at(1)->stepWeeks(1);
+        QCOMPARE(views.at(0)->firstDay(), first.addDays(14));
+        QCOMPARE(views.at(1)->firstDay(), first.addDays(14));
+        QTest::mouseClick(look, Qt::LeftButton);
+        QVERIFY(!views.at(0)->isVisible());
+    };
+    fixture.window.offerDrafts();
+    QCOMPARE(later.count(), 1);
 }
 
 void tst_Drafts::takenOverItIsInTheEditor()
@@ -174,7 +246,7 @@ void tst_Drafts::takenOverItIsInTheEditor()
     fixture.killAndStart();
     QVERIFY(!fixture.editor->isVisible());
     const QString former = fixture.file();
-    const PromptAnswer take(1);
+    const ChangesAnswer take(1);
     fixture.window.offerDrafts();
     QVERIFY(fixture.editor->isVisible());
     QCOMPARE(fixture.shown(), QStringLiteral("3 cards of 1 3 9"));
@@ -195,7 +267,7 @@ void tst_Drafts::takenOverIntoAnOpenEditor()
     fixture.killAndStart();
     fixture.window.showEditor();
     QCOMPARE(fixture.shown(), QStringLiteral("3 cards of 1 2 3"));
-    const PromptAnswer take(1);
+    const ChangesAnswer take(1);
     fixture.window.offerDrafts();
     QCOMPARE(fixture.shown(), QStringLiteral("3 cards of 1 3 9"));
     QCOMPARE(fixture.manager.getTask(1).startDate, std::string("2026.01.01"));
@@ -208,7 +280,7 @@ void tst_Drafts::putIntoAFile()
     const auto edited = fixture.manager.getAllTask();
     fixture.killAndStart();
     const QString target = fixture.folder.filePath(QStringLiteral("kept.json"));
-    const PromptAnswer put(2);
+    const ChangesAnswer put(2);
     answerFileDialog(target);
     fixture.window.offerDrafts();
     const ScheduleFromJson kept = scheduleFromJson(contentOf(target));
@@ -223,7 +295,7 @@ void tst_Drafts::dropped()
     DraftsFixture fixture;
     fixture.editInCards();
     fixture.killAndStart();
-    const PromptAnswer drop(3);
+    const ChangesAnswer drop(3);
     fixture.window.offerDrafts();
     QCOMPARE(fixture.files(), QStringList());
     QVERIFY(!fixture.host.hasUnsavedChanges());
@@ -235,7 +307,7 @@ void tst_Drafts::leftForLater()
     fixture.editInCards();
     fixture.killAndStart();
     for (int start = 0; start < 2; ++start) {
-        const PromptAnswer later(PromptAnswer::Escape);
+        const ChangesAnswer later(0);
         const QByteArray content = contentOf(fixture.file());
         fixture.window.offerDrafts();
         QCOMPARE(later.count(), 1);
@@ -252,14 +324,14 @@ void tst_Drafts::damageIsTold()
     QByteArray content = contentOf(fixture.file());
     overwrite(fixture.file(), content.left(content.size() - 3));
     {
-        const PromptAnswer later(PromptAnswer::Escape);
+        const ChangesAnswer later(0);
         fixture.window.offerDrafts();
         QVERIFY(
             later.texts().first().contains(QStringLiteral("The very last change may be missing.")));
     }
     content[content.size() / 2] = static_cast<char>(content[content.size() / 2] ^ 1);
     overwrite(fixture.file(), content);
-    const PromptAnswer take(1);
+    const ChangesAnswer take(1);
     fixture.window.offerDrafts();
     QVERIFY(take.texts().first().contains(
         QStringLiteral("A part of them is damaged and cannot be read.")));
@@ -294,7 +366,7 @@ void tst_Drafts::anotherDatabaseIsTold()
     fixture.host.close();
     QVERIFY(QFile::rename(fixture.database, fixture.database + QStringLiteral(".aside")));
     fixture.window.openDatabase(fixture.database);
-    const PromptAnswer later(PromptAnswer::Escape);
+    const ChangesAnswer later(0);
     fixture.window.offerDrafts();
     QVERIFY(later.texts().first().contains(QStringLiteral("They were made in another database")));
 }
@@ -394,12 +466,13 @@ void tst_Drafts::closingLeavesWhatTheAnswerSays()
     }
     QTRY_COMPARE(fixture.files().size(), isLeft ? 1 : 0);
     fixture.killAndStart();
-    PromptAnswer answer;
     if (isLeft) {
-        answer.expect(1);
+        const ChangesAnswer take(1);
+        fixture.window.offerDrafts();
+    } else {
+        const PromptAnswer nothing;
+        fixture.window.offerDrafts();
     }
-    fixture.window.offerDrafts();
-    QCOMPARE(answer.count(), isLeft ? 1 : 0);
     QCOMPARE(fixture.editor->isVisible(), isLeft);
 }
 
@@ -427,7 +500,7 @@ void tst_Drafts::aRefusedEndGoesOnRecording()
     QVERIFY(fixture.editor->isVisible());
     fixture.manager.deleteTask(3);
     fixture.killAndStart();
-    const PromptAnswer take(1);
+    const ChangesAnswer take(1);
     fixture.window.offerDrafts();
     QCOMPARE(fixture.shown(), QStringLiteral("2 cards of 1 9"));
 }
@@ -459,7 +532,7 @@ void tst_Drafts::withoutARestNothingIsShown()
     fixture.editInCards();
     fixture.killAndStart();
     fixture.clock.setElapsed(10);
-    const PromptAnswer take(1);
+    const ChangesAnswer take(1);
     fixture.window.offerDrafts();
     QVERIFY(!fixture.editor->isVisible());
     QVERIFY(!fixture.host.hasUnsavedChanges());

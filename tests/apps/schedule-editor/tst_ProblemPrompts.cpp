@@ -213,7 +213,7 @@ const Case kCases[] = {
      "geschrieben werden. Sie wurde nach dem Öffnen entfernt oder ersetzt."},
     {"a save that another program keeps away",
      [](PromptFixture& fixture) {
-         const SaveRescue rescue(fixture.host, &fixture.window);
+         const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
          OtherProgram other(fixture.database);
          other.run("BEGIN IMMEDIATE");
          fixture.edit();
@@ -221,17 +221,6 @@ const Case kCases[] = {
      },
      "Der Wiedergabeplan wurde nicht gespeichert. screen.db wird von einer anderen Anwendung "
      "verwendet. Versuchen Sie es erneut, wenn diese geschlossen ist.\n\n"
-     "Was soll mit Ihren Änderungen geschehen?"},
-    {"a save over another's",
-     [](PromptFixture& fixture) {
-         const SaveRescue rescue(fixture.host, &fixture.window);
-         fixture.edit();
-         OtherProgram(fixture.database)
-             .run("UPDATE store SET schedule_revision = schedule_revision + 1");
-         fixture.manager.save();
-     },
-     "Der Wiedergabeplan wurde nicht gespeichert. screen.db wurde inzwischen von einer anderen "
-     "Anwendung gespeichert. Speichern Sie jetzt, gehen diese Änderungen verloren.\n\n"
      "Was soll mit Ihren Änderungen geschehen?"},
 };
 

@@ -4,6 +4,7 @@
 #include "WindowTexts.h"
 #include "card/PlanColumns.h"
 #include "catalogue/CatalogueImport.h"
+#include "draft/DraftKeeper.h"
 #include "support/PlatformNotes.h"
 #include "support/SampleSchedule.h"
 #include "support/TestProgram.h"
@@ -282,6 +283,9 @@ void tst_PseudoLanguage::promptsOfTheHost()
     QVERIFY(fixture.host.startSchedule());
     fixture.lookAtDialog(QStringLiteral("stop the schedule"),
                          [&fixture] { fixture.action("S&top the schedule…")->trigger(); });
+    QVERIFY(fixture.window.drafts().keep());
+    fixture.window.openDatabase(fixture.database);
+    fixture.lookAtDialog(QStringLiteral("draft"), [&fixture] { fixture.window.offerDrafts(); });
     fixture.lookAtDialog(QStringLiteral("notice"), [] {
         prompts::notice(CatalogueImport::tr("Some files could not be imported:"));
     });

@@ -1,13 +1,17 @@
+#include "ChangesAnswer.h"
+#include "EditorMenus.h"
 #include "FileDialogAnswer.h"
 #include "HostFixture.h"
 #include "KeptEdits.h"
 #include "SaveRescue.h"
 #include "common/StopSignals.h"
+#include "draft/DraftKeeper.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -53,6 +57,24 @@ private:
     static QString name() { return QStringLiteral("other program"); }
 };
 
+/// A file that refuses every write while this lives.
+class ReadOnlyFile
+{
+public:
+    explicit ReadOnlyFile(const QString& file)
+        : m_file(file)
+        , m_former(QFile::permissions(file))
+    {
+        QFile::setPermissions(m_file, QFile::ReadOwner);
+    }
+    ~ReadOnlyFile() { QFile::setPermissions(m_file, m_former); }
+    Q_DISABLE_COPY(ReadOnlyFile)
+
+private:
+    const QString m_file;
+    const QFile::Permissions m_former;
+};
+
 /// Ends a test that is asked again and again.
 class PromptCount : public QObject
 {
@@ -87,9 +109,13 @@ private slots:
     void tryingAgainSavesWhenTheLockHasGone();
     void theScheduleGoesIntoAFile();
     void aFileThatWasNotChosenAsksAgain();
-    void givingUpKeepsTheStoredSet();
-    void escapeIsNoAnswer();
-    void theSecondEditorIsRefused();
+    void goingOnClosesNothing_data();
+    void goingOnClosesNothing();
+    void anotherDesksSaveIsTold();
+    void mineIsSavedOverTheirs();
+    void nobodySavesOverWhatNobodyWasToldOf();
+    void theirsIsTaken();
+    void mineGoesIntoAFile();
     void quittingKeepsTheEdits_data();
     void quittingKeepsTheEdits();
     void editsAreKeptWhereTheyCanBe();
@@ -100,11 +126,57 @@ private:
         Edited()
         {
             window.openDatabase(database, QStringLiteral(DEMONSTRATION));
+            manager.updateUItask();
+            put();
+        }
+        /// The same in an editor that is shown.
+        void edit()
+        {
+            showEditor();
+            put();
+        }
+        void put() const
+        {
             PlayTask task;
             task.id = 7;
             task.startDate = task.endDate = "2030.01.01";
-            manager.updateUItask();
             manager.addTask(task);
+        }
+        /// Another program takes out the last task of the stored set.
+        void saveElsewhere() const
+        {
+            const QString file = folder.filePath(QStringLiteral("theirs.json"));
+            std::map<int, PlayTask> theirs = window.drafts().saved();
+            theirs.erase(std::prev(theirs.end()));
+            QVERIFY(!writeScheduleFile(file, theirs));
+            control({QStringLiteral("import-schedule"), file});
+        }
+        /// Another program brings back what was saved first.
+        void restoreElsewhere() const { control({QStringLiteral("restore"), QStringLiteral("1")}); }
+        void control(QStringList arguments) const
+        {
+            QProcess other;
+            other.start(QStringLiteral(SCHEDULECTL),
+                        arguments << QStringLiteral("--database") << database);
+            QVERIFY(other.waitForFinished());
+            QCOMPARE(other.exitCode(), 0);
+        }
+        static QString ids(const std::map<int, PlayTask>& tasks)
+        {
+            QStringList ids;
+            for (const auto& [id, task] : tasks) {
+                ids.append(QString::number(id));
+            }
+            return ids.join(QLatin1Char(' '));
+        }
+        /// What the store has, as any other program reads it.
+        QString stored() const
+        {
+            std::vector<ScheduleVersion> versions;
+            std::map<int, PlayTask> tasks;
+            return host.versions(versions) && host.versionTasks(versions.front().number, tasks)
+                       ? ids(tasks)
+                       : QString();
         }
     };
 };
@@ -112,7 +184,7 @@ private:
 void tst_SaveRescue::aSaveThatSucceedsAsksNothing()
 {
     Edited fixture;
-    const SaveRescue rescue(fixture.host, &fixture.window);
+    const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
     const PromptAnswer nothing;
 
     fixture.manager.save();
@@ -123,7 +195,7 @@ void tst_SaveRescue::aSaveThatSucceedsAsksNothing()
 void tst_SaveRescue::tryingAgainSavesWhenTheLockHasGone()
 {
     Edited fixture;
-    const SaveRescue rescue(fixture.host, &fixture.window);
+    const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
     OtherProgram other(fixture.database);
     // The lock goes between the second refusal and the third try.
     int refusals = 0;
@@ -138,14 +210,14 @@ void tst_SaveRescue::tryingAgainSavesWhenTheLockHasGone()
     QCOMPARE(refusals, 1);
     QCOMPARE(answer.count(), 1);
     QVERIFY(answer.texts().at(0).contains(fixture.database));
-    QCOMPARE(answer.buttons().at(0), QStringLiteral("Try again|Write to a file|Discard changes"));
+    QCOMPARE(answer.buttons().at(0), QStringLiteral("Try again|Write to a file|Go on editing"));
     QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(4));
 }
 
 void tst_SaveRescue::theScheduleGoesIntoAFile()
 {
     Edited fixture;
-    SaveRescue rescue(fixture.host, &fixture.window);
+    SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
     const OtherProgram other(fixture.database);
     const QString file = fixture.folder.filePath(QStringLiteral("rescued.json"));
     QSignalSpy written(&rescue, &SaveRescue::written);
@@ -167,63 +239,168 @@ void tst_SaveRescue::theScheduleGoesIntoAFile()
 void tst_SaveRescue::aFileThatWasNotChosenAsksAgain()
 {
     Edited fixture;
-    SaveRescue rescue(fixture.host, &fixture.window);
+    SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
     const OtherProgram other(fixture.database);
-    QSignalSpy givenUp(&rescue, &SaveRescue::givenUp);
-    QVERIFY(givenUp.isValid());
+    QSignalSpy goesOn(&rescue, &SaveRescue::goesOn);
+    QVERIFY(goesOn.isValid());
     PromptAnswer answer({2, 3});
     answerFileDialog(QString());
 
     fixture.manager.save();
 
     QCOMPARE(answer.count(), 2);
-    QCOMPARE(givenUp.count(), 1);
+    QCOMPARE(goesOn.count(), 1);
 }
 
-void tst_SaveRescue::givingUpKeepsTheStoredSet()
+void tst_SaveRescue::goingOnClosesNothing_data()
 {
+    QTest::addColumn<int>("answer");
+    QTest::newRow("the button") << 3;
+    QTest::newRow("Escape") << int(PromptAnswer::Escape);
+    QTest::newRow("the title bar") << int(PromptAnswer::Close);
+}
+
+void tst_SaveRescue::goingOnClosesNothing()
+{
+    QFETCH(const int, answer);
     Edited fixture;
-    const SaveRescue rescue(fixture.host, &fixture.window);
-    const OtherProgram other(fixture.database);
-    PromptAnswer answer(3);
-
-    fixture.manager.save();
-
+    SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
+    fixture.window.show();
+    fixture.edit();
+    QSignalSpy goesOn(&rescue, &SaveRescue::goesOn);
+    QVERIFY(goesOn.isValid());
+    {
+        const ReadOnlyFile refused(fixture.database);
+        const PromptAnswer answers(answer);
+        fixture.editor->slotSave();
+        QCOMPARE(goesOn.count(), 1);
+    }
+    QVERIFY(fixture.editor->isVisible());
     QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(3));
     QCOMPARE(fixture.manager.getAllTask().size(), std::size_t(4));
+    QCoreApplication::processEvents();
+    {
+        // Nor does the program end that was to be closed.
+        const ReadOnlyFile refused(fixture.database);
+        const PromptAnswer answers({1, answer});
+        QVERIFY(!fixture.window.close());
+        QVERIFY(fixture.window.isVisible());
+    }
+    QVERIFY(fixture.editor->isVisible());
+    QCOMPARE(fixture.manager.getAllTask().size(), std::size_t(4));
+    // From then on everything closes again.
+    QCoreApplication::processEvents();
+    fixture.editor->slotSave();
+    QVERIFY(!fixture.editor->isVisible());
+    QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(4));
 }
 
-void tst_SaveRescue::escapeIsNoAnswer()
+void tst_SaveRescue::anotherDesksSaveIsTold()
 {
     Edited fixture;
-    SaveRescue rescue(fixture.host, &fixture.window);
-    const OtherProgram other(fixture.database);
-    QSignalSpy givenUp(&rescue, &SaveRescue::givenUp);
-    QVERIFY(givenUp.isValid());
-    PromptAnswer answer({PromptAnswer::Escape, PromptAnswer::Close, 3});
+    const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
+    fixture.edit();
+    fixture.saveElsewhere();
+    const ChangesAnswer answer{1, 0};
 
-    fixture.manager.save();
+    fixture.editor->slotSave();
 
-    QCOMPARE(answer.count(), 3);
-    QCOMPARE(givenUp.count(), 1);
-}
-
-void tst_SaveRescue::theSecondEditorIsRefused()
-{
-    Edited fixture;
-    const SaveRescue rescue(fixture.host, &fixture.window);
-    QProcess other;
-    other.start(QStringLiteral(SCHEDULECTL),
-                {QStringLiteral("import-schedule"), QStringLiteral(DEMONSTRATION "/schedule.json"),
-                 QStringLiteral("--database"), fixture.database});
-    QVERIFY(other.waitForFinished());
-    QCOMPARE(other.exitCode(), 0);
-    PromptAnswer answer({1, 3});
-
-    fixture.manager.save();
-
+    QCOMPARE(answer.count(), 1);
+    QVERIFY2(answer.texts().first().startsWith(
+                 QStringLiteral("While you were editing, screen.db was saved by schedulectl@")),
+             qPrintable(answer.texts().first()));
+    QCOMPARE(answer.lists().first(),
+             QStringLiteral("Task 3: deleted, was valid from 2027.01.16 to 2027.01.28, 1 plan"));
+    QCOMPARE(answer.buttons().first(),
+             QStringLiteral("Go on editing|Keep mine|Take theirs|Write mine to a file"));
+    QVERIFY(fixture.editor->isVisible());
+    QCOMPARE(fixture.ids(fixture.manager.getAllTask()), QStringLiteral("1 2 3 7"));
+    QCoreApplication::processEvents();
+    // What was told is asked about again, as long as it stands.
+    fixture.editor->slotSave();
     QCOMPARE(answer.count(), 2);
-    QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(3));
+    QCOMPARE(fixture.stored(), QStringLiteral("1 2"));
+}
+
+void tst_SaveRescue::mineIsSavedOverTheirs()
+{
+    Edited fixture;
+    const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
+    fixture.edit();
+    fixture.saveElsewhere();
+    const ChangesAnswer keep(2);
+
+    fixture.editor->slotSave();
+
+    QVERIFY(!fixture.editor->isVisible());
+    QCOMPARE(fixture.stored(), QStringLiteral("1 2 3 7"));
+    // Theirs can be brought back.
+    std::vector<ScheduleVersion> versions;
+    QVERIFY(fixture.host.versions(versions));
+    std::map<int, PlayTask> theirs;
+    QVERIFY(fixture.host.versionTasks(versions.at(1).number, theirs));
+    QCOMPARE(fixture.ids(theirs), QStringLiteral("1 2"));
+}
+
+// While the question stands, a third desk saves.
+void tst_SaveRescue::nobodySavesOverWhatNobodyWasToldOf()
+{
+    Edited fixture;
+    const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
+    fixture.edit();
+    fixture.saveElsewhere();
+    ChangesAnswer keep({2, 2});
+    keep.onEach = [&fixture, &keep](QDialog&) {
+        if (keep.count() == 1) {
+            fixture.restoreElsewhere();
+        }
+    };
+
+    fixture.editor->slotSave();
+
+    QCOMPARE(keep.count(), 2);
+    QCOMPARE(fixture.stored(), QStringLiteral("1 2 3 7"));
+}
+
+void tst_SaveRescue::theirsIsTaken()
+{
+    Edited fixture;
+    const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
+    fixture.window.show();
+    fixture.edit();
+    fixture.saveElsewhere();
+    {
+        const ChangesAnswer take(3);
+        fixture.editor->slotStart();
+    }
+    QVERIFY(fixture.editor->isVisible());
+    QTRY_COMPARE(fixture.ids(fixture.manager.getAllTask()), QStringLiteral("1 2"));
+    QCOMPARE(fixture.editor->findChildren<QWidget*>(QStringLiteral("PlanTaskWidget")).size(), 2);
+    QVERIFY(!fixture.host.hasUnsavedChanges());
+    QCOMPARE(fixture.stored(), QStringLiteral("1 2"));
+    // Mine comes back.
+    QAction* const back = fixture.window.findChild<EditorMenus*>()->bringBack();
+    QVERIFY(back->isEnabled());
+    back->trigger();
+    QCOMPARE(fixture.ids(fixture.manager.getAllTask()), QStringLiteral("1 2 3 7"));
+}
+
+void tst_SaveRescue::mineGoesIntoAFile()
+{
+    Edited fixture;
+    const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
+    fixture.edit();
+    fixture.saveElsewhere();
+    const QString file = fixture.folder.filePath(QStringLiteral("mine.json"));
+    answerFileDialog(file);
+    const ChangesAnswer write(4);
+
+    fixture.editor->slotSave();
+
+    QFile json(file);
+    QVERIFY(json.open(QIODevice::ReadOnly));
+    QCOMPARE(fixture.ids(scheduleFromJson(json.readAll()).tasks), QStringLiteral("1 2 3 7"));
+    QCOMPARE(fixture.stored(), QStringLiteral("1 2"));
 }
 
 void tst_SaveRescue::quittingKeepsTheEdits_data()
@@ -240,7 +417,7 @@ void tst_SaveRescue::quittingKeepsTheEdits()
     QFETCH(QString, way);
     Edited fixture;
     fixture.window.show();
-    SaveRescue rescue(fixture.host, &fixture.window);
+    SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
     const trel::hosts::StopSignals stop;
     connect(&stop, &trel::hosts::StopSignals::stopped, qApp, &QCoreApplication::quit);
     const OtherProgram other(fixture.database);

@@ -16,7 +16,7 @@ Desk::Desk(const QString& folder)
     , m_languages(QStringLiteral(LANGUAGES), m_editor)
     , m_themes(*qApp)
     , m_window(m_editor, m_languages, m_themes)
-    , m_rescue(ScheduleHost::instance(), &m_window)
+    , m_rescue(ScheduleHost::instance(), m_window.drafts(), &m_window)
 {
     m_editor.setCheckBoxImagePath(QStringLiteral(":/qss/img/checked.png"),
                                   QStringLiteral(":/qss/img/unchecked.png"));

@@ -3,11 +3,15 @@
 #include "HostPrompts.h"
 #include "PendingNotices.h"
 #include "ProblemWords.h"
+#include "changes/ChangesDialog.h"
+#include "clock/Clock.h"
 #include "draft/DraftWords.h"
+#include "look/Themes.h"
 #include "scheduleControlUI.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
+#include "versions/DifferenceWords.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -40,11 +44,12 @@ QString deskName()
 } // namespace
 
 DraftKeeper::DraftKeeper(scheduleControlUI& editor, QAction& bringBack, PendingNotices& notices,
-                         QWidget* window)
+                         const Themes& themes, QWidget* window)
     : QObject(window)
     , m_editor(editor)
     , m_bringBack(bringBack)
     , m_notices(notices)
+    , m_themes(themes)
     , m_window(window)
     , m_journal(new DraftJournal(deskName(), this))
 {
@@ -91,8 +96,48 @@ bool DraftKeeper::isUnsaved() const
     return m_journal->isUnsaved();
 }
 
+const std::map<int, PlayTask>& DraftKeeper::saved() const
+{
+    return m_journal->saved();
+}
+
+int DraftKeeper::ask(const changes::ChangesQuestion& question) const
+{
+    changes::ChangesDialog dialog(question, m_themes.colours(), m_window);
+    return dialog.ask();
+}
+
+void DraftKeeper::giveUp()
+{
+    m_journal->cancel();
+    tellUnsaved();
+    // The list is in the midst of a save.
+    QMetaObject::invokeMethod(this, &DraftKeeper::readAgain, Qt::QueuedConnection);
+}
+
+void DraftKeeper::readAgain()
+{
+    if (m_editor.isVisible()) {
+        m_editor.clearAndInitialize();
+    } else {
+        // The cards of the former schedule would answer what is told of the other one.
+        emit m_editor.sigclearPlanList();
+    }
+}
+
+void DraftKeeper::goOnEditing()
+{
+    m_isGoingOn = true;
+    QMetaObject::invokeMethod(
+        this, [this] { m_isGoingOn = false; }, Qt::QueuedConnection);
+}
+
 bool DraftKeeper::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == &m_editor && event->type() == QEvent::Close && m_isGoingOn) {
+        event->ignore();
+        return true;
+    }
     if (watched == &m_editor && (event->type() == QEvent::Hide || event->type() == QEvent::Show)) {
         // An editor that closes after a save has nothing unsaved.
         if (event->type() == QEvent::Hide && !event->spontaneous()) {
@@ -157,6 +202,22 @@ void DraftKeeper::offer()
     }
 }
 
+changes::ChangesQuestion DraftKeeper::questionOf(const LeftDraft& left) const
+{
+    changes::ChangesQuestion question;
+    question.text =
+        DraftWords::offer(left, saved(), m_window->locale(), Clock::current().msecsSinceEpoch());
+    question.listTitle = DraftWords::whatDiffers();
+    question.former = {DraftWords::asSaved(), saved()};
+    question.later = {DraftWords::withChanges(), scheduleOf(left)};
+    question.lines = versions::DifferenceWords::lines(question.former.tasks, question.later.tasks,
+                                                      *ScheduleHost::instance().catalogue(),
+                                                      changes::kMostLines);
+    question.answers = QStringList{DraftWords::takeOver(), DraftWords::putIntoFile(),
+                                   DraftWords::drop(), DraftWords::decideLater()};
+    return question;
+}
+
 bool DraftKeeper::decide(const LeftDraft& left)
 {
     if (left.draft.tasks.empty()) {
@@ -168,10 +229,9 @@ bool DraftKeeper::decide(const LeftDraft& left)
         return true;
     }
     const QString store = ScheduleHost::instance().path();
-    const QString text = DraftWords::offer(left, m_journal->saved(), m_window->locale());
+    const changes::ChangesQuestion question = questionOf(left);
     for (;;) {
-        const int answer = prompts::confirm(text, DraftWords::takeOver(), DraftWords::putIntoFile(),
-                                            DraftWords::drop());
+        const int answer = ask(question);
         if (ScheduleHost::instance().path() != store) {
             return false;
         }
@@ -222,17 +282,12 @@ bool DraftKeeper::takeOver(const LeftDraft& left)
     return true;
 }
 
-bool DraftKeeper::putIntoFile(const LeftDraft& left)
+std::map<int, PlayTask> DraftKeeper::scheduleOf(const LeftDraft& left) const
 {
-    const QString file = prompts::saveFileName(m_window, DraftWords::putIntoFile(),
-                                               QStringLiteral("*.json"), QStringLiteral("json"));
-    if (file.isEmpty()) {
-        return false;
-    }
     // Of another store it is not known what was saved there.
     std::map<int, PlayTask> tasks;
     if (!left.isOfOtherStore) {
-        tasks = m_journal->saved();
+        tasks = saved();
     }
     for (const auto& [id, task] : left.draft.tasks) {
         if (task) {
@@ -241,7 +296,17 @@ bool DraftKeeper::putIntoFile(const LeftDraft& left)
             tasks.erase(id);
         }
     }
-    if (const Fault fault = writeScheduleFile(file, tasks)) {
+    return tasks;
+}
+
+bool DraftKeeper::putIntoFile(const LeftDraft& left)
+{
+    const QString file = prompts::saveFileName(m_window, DraftWords::putIntoFile(),
+                                               QStringLiteral("*.json"), QStringLiteral("json"));
+    if (file.isEmpty()) {
+        return false;
+    }
+    if (const Fault fault = writeScheduleFile(file, scheduleOf(left))) {
         prompts::notice(problems::unwritable(file, fault));
         return false;
     }

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <map>
+
 class QAction;
 class QWidget;
 
@@ -13,7 +15,12 @@ class scheduleControlUI;
 
 namespace trel::desktop {
 
+namespace changes {
+struct ChangesQuestion;
+}
+
 class PendingNotices;
+class Themes;
 
 /// Looks after what is edited and not saved: has it written down while it is edited, offers what a
 /// former program has left, and brings back what was canceled.
@@ -25,12 +32,14 @@ public:
     /// The action brings back what was canceled. All of these outlive the keeper, but for the
     /// window, which owns it. Prompts stand over that one.
     DraftKeeper(trel::mediadispatch::scheduleControlUI& editor, QAction& bringBack,
-                PendingNotices& notices, QWidget* window);
+                PendingNotices& notices, const Themes& themes, QWidget* window);
 
     /// To be called after each opening of a store.
     void begin();
     /// Asks what becomes of the changes that were left on the store that is open, if there are any.
     void offer();
+    /// What is asked about a draft of which something can be read.
+    changes::ChangesQuestion questionOf(const trel::mediadispatch::LeftDraft& left) const;
     /// The changes of the open editor stay in a file for the next time, and are not looked after
     /// any more. False, after the operator was told, where they cannot be kept.
     bool keep();
@@ -39,6 +48,18 @@ public:
 
     /// There are changes that are neither saved nor canceled.
     bool isUnsaved() const;
+    /// What was saved last, as far as this program has read it; valid until something is saved or
+    /// read.
+    const std::map<int, trel::mediadispatch::PlayTask>& saved() const;
+
+    /// Asks about changes, over the window; see changes::ChangesDialog::ask().
+    int ask(const changes::ChangesQuestion& question) const;
+    /// The changes go, for what is saved, once the event loop runs, and can be brought back.
+    void giveUp();
+    /// In the midst of a save: neither the editor nor the window closes because of it.
+    void goOnEditing();
+    /// Whether that was called in this turn of the event loop.
+    bool isGoingOn() const { return m_isGoingOn; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -56,15 +77,21 @@ private:
     void takeCanceledOver(const trel::mediadispatch::LeftDraft& left);
     bool takeOver(const trel::mediadispatch::LeftDraft& left);
     bool putIntoFile(const trel::mediadispatch::LeftDraft& left);
+    /// What it makes of the saved schedule.
+    std::map<int, trel::mediadispatch::PlayTask>
+    scheduleOf(const trel::mediadispatch::LeftDraft& left) const;
+    void readAgain();
     /// Puts tasks into the working set, and shows it.
     bool show(const trel::mediadispatch::DraftTasks& tasks);
 
     trel::mediadispatch::scheduleControlUI& m_editor;
     QAction& m_bringBack;
     PendingNotices& m_notices;
+    const Themes& m_themes;
     QWidget* m_window;
     trel::mediadispatch::DraftJournal* m_journal;
     bool m_wasUnsaved = false;
+    bool m_isGoingOn = false;
 };
 
 } // namespace trel::desktop

@@ -21,10 +21,27 @@ QString listed(const QStringList& numbers)
     return numbers.size() > kMostNumbers ? list + QStringLiteral(", …") : list;
 }
 
+QString age(qint64 msecs)
+{
+    const qint64 minutes = msecs / 60000;
+    if (minutes < 1) {
+        return DraftWords::tr("less than a minute ago");
+    }
+    if (minutes < 60) {
+        return DraftWords::tr("%n minutes ago", nullptr, static_cast<int>(minutes));
+    }
+    const qint64 hours = minutes / 60;
+    // Of yesterday's, the hours still tell more than the days do.
+    if (hours < 48) {
+        return DraftWords::tr("%n hours ago", nullptr, static_cast<int>(hours));
+    }
+    return DraftWords::tr("%n days ago", nullptr, static_cast<int>(hours / 24));
+}
+
 } // namespace
 
 QString DraftWords::offer(const LeftDraft& left, const std::map<int, PlayTask>& saved,
-                          const QLocale& locale)
+                          const QLocale& locale, qint64 now)
 {
     QStringList added;
     QStringList changed;
@@ -33,9 +50,14 @@ QString DraftWords::offer(const LeftDraft& left, const std::map<int, PlayTask>& 
         QStringList& ids = !task ? removed : saved.count(id) > 0 ? changed : added;
         ids.append(QString::number(id));
     }
-    const QDateTime edited = QDateTime::fromMSecsSinceEpoch(left.draft.edited);
-    QStringList lines = {tr("There are changes that were not saved. The last one was made on %1.")
-                             .arg(locale.toString(edited, QLocale::ShortFormat))};
+    const QString edited =
+        locale.toString(QDateTime::fromMSecsSinceEpoch(left.draft.edited), QLocale::ShortFormat);
+    // A clock that was set back since would make it come from days to come.
+    QStringList lines = {
+        left.draft.edited > now
+            ? tr("There are changes that were not saved. The last one was made on %1.").arg(edited)
+            : tr("There are changes that were not saved. The last one was made %1, on %2.")
+                  .arg(age(now - left.draft.edited), edited)};
     if (!added.isEmpty()) {
         lines.append(tr("New tasks: %1").arg(listed(added)));
     }
@@ -56,8 +78,6 @@ QString DraftWords::offer(const LeftDraft& left, const std::map<int, PlayTask>& 
     } else if (left.isOfOtherSave) {
         lines.append(tr("The schedule was saved since then."));
     }
-    lines.append(QString());
-    lines.append(tr("Close this question to decide later."));
     return lines.join(QLatin1Char('\n'));
 }
 

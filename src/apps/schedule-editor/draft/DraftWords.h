@@ -14,11 +14,11 @@ class DraftWords
     Q_DECLARE_TR_FUNCTIONS(DraftWords)
 
 public:
-    /// How old they are and which tasks they touch, given what is saved, and what is wrong with
-    /// them.
+    /// How old they are at a moment, in milliseconds since 1970, UTC, and which tasks they touch,
+    /// given what is saved, and what is wrong with them.
     static QString offer(const trel::mediadispatch::LeftDraft& left,
                          const std::map<int, trel::mediadispatch::PlayTask>& saved,
-                         const QLocale& locale);
+                         const QLocale& locale, qint64 now);
     /// Why nothing of them can be offered.
     static QString unreadable(const trel::mediadispatch::LeftDraft& left);
     /// That edits are not kept at the moment, and why.
@@ -32,6 +32,10 @@ public:
     static QString drop() { return tr("Drop"); }
     static QString deleteFile() { return tr("Delete the file"); }
     static QString decideLater() { return tr("Decide later"); }
+    /// What is told of the list of differences, and of the two states.
+    static QString whatDiffers() { return tr("What differs from what is saved:"); }
+    static QString asSaved() { return tr("As it is saved"); }
+    static QString withChanges() { return tr("With these changes"); }
 };
 
 } // namespace trel::desktop

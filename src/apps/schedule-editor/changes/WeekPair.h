@@ -1,0 +1,54 @@
+#pragma once
+
+#include "look/ThemeColours.h"
+#include "service/ScheduleRecords.h"
+
+#include <QWidget>
+
+#include <map>
+
+class QLabel;
+class QPushButton;
+
+namespace trel::desktop::changes {
+
+class FixedWeek;
+
+/// Two states of a schedule, side by side: the same week of both.
+class WeekPair : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// One of the two, with its name.
+    struct State
+    {
+        QString name;
+        std::map<int, mediadispatch::PlayTask> tasks;
+    };
+
+    /// Begins with a week in which a task that differs is valid: this one, or the nearest that
+    /// comes, or else the last that was. The language is that of the locale.
+    WeekPair(const State& former, const State& later, const look::ThemeColours& colours,
+             const QLocale& locale, QWidget* parent = nullptr);
+
+private:
+    QPushButton* addButton(const char* name, const QString& text, const QString& words);
+    void connectControls();
+    void showWeekOf(const QDate& day);
+    void updateTitle();
+
+    QPushButton* m_before;
+    QPushButton* m_today;
+    QPushButton* m_next;
+    QLabel* m_title;
+    FixedWeek* m_former;
+    FixedWeek* m_later;
+};
+
+/// The day nearest to one, itself first and then those that come, on which a task is valid that is
+/// not the same in both; the day itself where there is none.
+QDate nearestChangedDay(const std::map<int, mediadispatch::PlayTask>& former,
+                        const std::map<int, mediadispatch::PlayTask>& later, const QDate& day);
+
+} // namespace trel::desktop::changes
