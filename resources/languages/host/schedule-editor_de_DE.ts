@@ -90,6 +90,10 @@
         <source>&amp;Bring back what was canceled</source>
         <translation>&amp;Verworfenes zurückholen</translation>
     </message>
+    <message>
+        <source>&amp;Where used…</source>
+        <translation>&amp;Wo verwendet…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -195,13 +199,6 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
-        <translation>
-            <numerusform>Dieses Programm aus dem Katalog entfernen? Pläne, die es verwenden, zeigen ihre Einträge dann als ungültig an. Die Datei bleibt erhalten.</numerusform>
-            <numerusform>%n Programme aus dem Katalog entfernen? Pläne, die sie verwenden, zeigen ihre Einträge dann als ungültig an. Die Dateien bleiben erhalten.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Remove</source>
         <translation>Entfernen</translation>
@@ -209,6 +206,13 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
     <message>
         <source>No program fits what is searched for.</source>
         <translation>Kein Programm passt zu dem, was gesucht wird.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n programs from the catalog? The files are not deleted.</source>
+        <translation>
+            <numerusform>Dieses Programm aus dem Katalog entfernen? Die Datei bleibt erhalten.</numerusform>
+            <numerusform>%n Programme aus dem Katalog entfernen? Die Dateien bleiben erhalten.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2062,6 +2066,94 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>Validity of the tasks in %1</source>
         <translation>Gültigkeit der Aufträge im Jahr %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesWindow</name>
+    <message>
+        <source>Where used</source>
+        <translation>Wo verwendet</translation>
+    </message>
+    <message>
+        <source>No plan plays “%1”.</source>
+        <translation>Kein Plan gibt „%1“ wieder.</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is played by %n plans.</source>
+        <translation>
+            <numerusform>„%1“ wird von %n Plan wiedergegeben.</numerusform>
+            <numerusform>„%1“ wird von %n Plänen wiedergegeben.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesModel</name>
+    <message>
+        <source>Task</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Gültig</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+</context>
+<context>
+    <name>UseWords</name>
+    <message>
+        <source>%1 – %2</source>
+        <comment>from and to</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Task %1 (%2), plan %3, %4 %5</source>
+        <comment>with dates, days and times</comment>
+        <translation>Auftrag %1 (%2), Plan %3, %4 %5</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule in effect has it.</source>
+        <translation>Nach dem geltenden Wiedergabeplan nicht mehr auf dem Bildschirm.</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule is edited.</source>
+        <translation>Nach dem bearbeiteten Wiedergabeplan nicht mehr auf dem Bildschirm.</translation>
+    </message>
+    <message>
+        <source>On screen now: task %1, plan %2.</source>
+        <translation>Jetzt auf dem Bildschirm: Auftrag %1, Plan %2.</translation>
+    </message>
+    <message>
+        <source>Next on screen: %1, task %2, plan %3.</source>
+        <translation>Nächstes Mal auf dem Bildschirm: %1, Auftrag %2, Plan %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Entries become invalid in %n plans:</source>
+        <translation>
+            <numerusform>Einträge werden ungültig in %n Plan:</numerusform>
+            <numerusform>Einträge werden ungültig in %n Plänen:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: nothing else is left of it</source>
+        <translation>%1: sonst bleibt davon nichts übrig</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more plans.</source>
+        <translation>
+            <numerusform>… und %n weiterer Plan.</numerusform>
+            <numerusform>… und %n weitere Pläne.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

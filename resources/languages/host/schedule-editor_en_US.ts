@@ -14,10 +14,10 @@
 <context>
     <name>trel::desktop::CataloguePanel</name>
     <message numerus="yes">
-        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
+        <source>Remove %n programs from the catalog? The files are not deleted.</source>
         <translation>
-            <numerusform>Remove this program from the catalog? Plans that use it will show its entries as invalid. The file is not deleted.</numerusform>
-            <numerusform>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</numerusform>
+            <numerusform>Remove this program from the catalog? The file is not deleted.</numerusform>
+            <numerusform>Remove %n programs from the catalog? The files are not deleted.</numerusform>
         </translation>
     </message>
 </context>
@@ -245,6 +245,33 @@
         <translation>
             <numerusform>%n day ago</numerusform>
             <numerusform>%n days ago</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesWindow</name>
+    <message numerus="yes">
+        <source>“%1” is played by %n plans.</source>
+        <translation>
+            <numerusform>“%1” is played by %n plan.</numerusform>
+            <numerusform>“%1” is played by %n plans.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>UseWords</name>
+    <message numerus="yes">
+        <source>Entries become invalid in %n plans:</source>
+        <translation>
+            <numerusform>Entries become invalid in %n plan:</numerusform>
+            <numerusform>Entries become invalid in %n plans:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more plans.</source>
+        <translation>
+            <numerusform>… and %n more plan.</numerusform>
+            <numerusform>… and %n more plans.</numerusform>
         </translation>
     </message>
 </context>

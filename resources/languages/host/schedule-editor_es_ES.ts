@@ -90,6 +90,10 @@
         <source>&amp;Bring back what was canceled</source>
         <translation>Rec&amp;uperar lo cancelado</translation>
     </message>
+    <message>
+        <source>&amp;Where used…</source>
+        <translation>&amp;Dónde se usa…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -195,13 +199,6 @@ Cierre esta pregunta para seguir editando.</translation>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
-        <translation>
-            <numerusform>¿Quitar este programa del catálogo? Los planes que lo usan mostrarán sus entradas como no válidas. El archivo se conserva.</numerusform>
-            <numerusform>¿Quitar %n programas del catálogo? Los planes que los usan mostrarán sus entradas como no válidas. Los archivos se conservan.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Remove</source>
         <translation>Quitar</translation>
@@ -209,6 +206,13 @@ Cierre esta pregunta para seguir editando.</translation>
     <message>
         <source>No program fits what is searched for.</source>
         <translation>Ningún programa coincide con lo que se busca.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n programs from the catalog? The files are not deleted.</source>
+        <translation>
+            <numerusform>¿Quitar este programa del catálogo? El archivo no se elimina.</numerusform>
+            <numerusform>¿Quitar %n programas del catálogo? Los archivos no se eliminan.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2062,6 +2066,94 @@ What do you want to do with your changes?</source>
     <message>
         <source>Validity of the tasks in %1</source>
         <translation>Validez de las tareas en %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesWindow</name>
+    <message>
+        <source>Where used</source>
+        <translation>Dónde se usa</translation>
+    </message>
+    <message>
+        <source>No plan plays “%1”.</source>
+        <translation>Ningún plan reproduce «%1».</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is played by %n plans.</source>
+        <translation>
+            <numerusform>%n plan reproduce «%1».</numerusform>
+            <numerusform>%n planes reproducen «%1».</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesModel</name>
+    <message>
+        <source>Task</source>
+        <translation>Tarea</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Validez</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Días</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+</context>
+<context>
+    <name>UseWords</name>
+    <message>
+        <source>%1 – %2</source>
+        <comment>from and to</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Task %1 (%2), plan %3, %4 %5</source>
+        <comment>with dates, days and times</comment>
+        <translation>Tarea %1 (%2), plan %3, %4 %5</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule in effect has it.</source>
+        <translation>Según la programación vigente, ya no sale en pantalla.</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule is edited.</source>
+        <translation>Según la programación editada, ya no sale en pantalla.</translation>
+    </message>
+    <message>
+        <source>On screen now: task %1, plan %2.</source>
+        <translation>Ahora en pantalla: tarea %1, plan %2.</translation>
+    </message>
+    <message>
+        <source>Next on screen: %1, task %2, plan %3.</source>
+        <translation>Próxima vez en pantalla: %1, tarea %2, plan %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Entries become invalid in %n plans:</source>
+        <translation>
+            <numerusform>Quedan entradas no válidas en %n plan:</numerusform>
+            <numerusform>Quedan entradas no válidas en %n planes:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: nothing else is left of it</source>
+        <translation>%1: no queda nada más en él</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more plans.</source>
+        <translation>
+            <numerusform>… y %n plan más.</numerusform>
+            <numerusform>… y %n planes más.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -90,6 +90,10 @@
         <source>&amp;Bring back what was canceled</source>
         <translation>Ré&amp;tablir ce qui a été annulé</translation>
     </message>
+    <message>
+        <source>&amp;Where used…</source>
+        <translation>&amp;Où utilisé…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -195,13 +199,6 @@ Fermez cette question pour continuer à modifier.</translation>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
-        <translation>
-            <numerusform>Retirer ce programme du catalogue&#xa0;? Les créneaux qui l’utilisent l’afficheront comme non valide. Le fichier est conservé.</numerusform>
-            <numerusform>Retirer %n programmes du catalogue&#xa0;? Les créneaux qui les utilisent les afficheront comme non valides. Les fichiers sont conservés.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Remove</source>
         <translation>Retirer</translation>
@@ -209,6 +206,13 @@ Fermez cette question pour continuer à modifier.</translation>
     <message>
         <source>No program fits what is searched for.</source>
         <translation>Aucun programme ne correspond à la recherche.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n programs from the catalog? The files are not deleted.</source>
+        <translation>
+            <numerusform>Retirer ce programme du catalogue ? Le fichier n’est pas supprimé.</numerusform>
+            <numerusform>Retirer %n programmes du catalogue ? Les fichiers ne sont pas supprimés.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2062,6 +2066,94 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>Validity of the tasks in %1</source>
         <translation>Validité des tâches en %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesWindow</name>
+    <message>
+        <source>Where used</source>
+        <translation>Où utilisé</translation>
+    </message>
+    <message>
+        <source>No plan plays “%1”.</source>
+        <translation>Aucun créneau ne diffuse « %1 ».</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is played by %n plans.</source>
+        <translation>
+            <numerusform>%n créneau diffuse « %1 ».</numerusform>
+            <numerusform>%n créneaux diffusent « %1 ».</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesModel</name>
+    <message>
+        <source>Task</source>
+        <translation>Tâche</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Validité</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Créneau</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Jours</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+</context>
+<context>
+    <name>UseWords</name>
+    <message>
+        <source>%1 – %2</source>
+        <comment>from and to</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Task %1 (%2), plan %3, %4 %5</source>
+        <comment>with dates, days and times</comment>
+        <translation>Tâche %1 (%2), créneau %3, %4 %5</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule in effect has it.</source>
+        <translation>Plus à l’écran, d’après la programmation en vigueur.</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule is edited.</source>
+        <translation>Plus à l’écran, d’après la programmation modifiée.</translation>
+    </message>
+    <message>
+        <source>On screen now: task %1, plan %2.</source>
+        <translation>À l’écran maintenant : tâche %1, créneau %2.</translation>
+    </message>
+    <message>
+        <source>Next on screen: %1, task %2, plan %3.</source>
+        <translation>Prochain passage à l’écran : %1, tâche %2, créneau %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Entries become invalid in %n plans:</source>
+        <translation>
+            <numerusform>Des entrées deviennent non valides, dans %n créneau :</numerusform>
+            <numerusform>Des entrées deviennent non valides, dans %n créneaux :</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: nothing else is left of it</source>
+        <translation>%1 : il n’y reste rien d’autre</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more plans.</source>
+        <translation>
+            <numerusform>… et %n autre créneau.</numerusform>
+            <numerusform>… et %n autres créneaux.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -90,6 +90,10 @@
         <source>&amp;Bring back what was canceled</source>
         <translation>取り消した変更を元に戻す(&amp;B)</translation>
     </message>
+    <message>
+        <source>&amp;Where used…</source>
+        <translation>使用箇所(&amp;W)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -194,12 +198,6 @@ Close this question to keep editing.</source>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
-        <translation>
-            <numerusform>%n 件の番組を番組一覧から外しますか？これらを使っている再生計画では無効と表示されます。ファイルは残ります。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Remove</source>
         <translation>外す</translation>
@@ -207,6 +205,12 @@ Close this question to keep editing.</source>
     <message>
         <source>No program fits what is searched for.</source>
         <translation>検索に合う番組はありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n programs from the catalog? The files are not deleted.</source>
+        <translation>
+            <numerusform>番組 %n 件を番組一覧から外しますか? ファイルは削除されません。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2031,6 +2035,91 @@ What do you want to do with your changes?</source>
     <message>
         <source>Validity of the tasks in %1</source>
         <translation>%1年のタスクの有効期間</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesWindow</name>
+    <message>
+        <source>Where used</source>
+        <translation>使用箇所</translation>
+    </message>
+    <message>
+        <source>No plan plays “%1”.</source>
+        <translation>「%1」を再生する計画はありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is played by %n plans.</source>
+        <translation>
+            <numerusform>「%1」は %n 件の計画で再生されます。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesModel</name>
+    <message>
+        <source>Task</source>
+        <translation>タスク</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有効期間</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>計画</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>曜日</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時刻</translation>
+    </message>
+</context>
+<context>
+    <name>UseWords</name>
+    <message>
+        <source>%1 – %2</source>
+        <comment>from and to</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Task %1 (%2), plan %3, %4 %5</source>
+        <comment>with dates, days and times</comment>
+        <translation>タスク %1 (%2)、計画 %3、%4 %5</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule in effect has it.</source>
+        <translation>適用中のスケジュールでは、もう画面に出ません。</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule is edited.</source>
+        <translation>編集中のスケジュールでは、もう画面に出ません。</translation>
+    </message>
+    <message>
+        <source>On screen now: task %1, plan %2.</source>
+        <translation>現在画面に表示中: タスク %1、計画 %2。</translation>
+    </message>
+    <message>
+        <source>Next on screen: %1, task %2, plan %3.</source>
+        <translation>次に画面に出るのは: %1、タスク %2、計画 %3。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Entries become invalid in %n plans:</source>
+        <translation>
+            <numerusform>%n 件の計画で項目が無効になります:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: nothing else is left of it</source>
+        <translation>%1: ほかには何も残りません</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more plans.</source>
+        <translation>
+            <numerusform>…ほか %n 件の計画。</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

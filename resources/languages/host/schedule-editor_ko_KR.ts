@@ -90,6 +90,10 @@
         <source>&amp;Bring back what was canceled</source>
         <translation>취소한 변경 내용 되살리기(&amp;B)</translation>
     </message>
+    <message>
+        <source>&amp;Where used…</source>
+        <translation>사용하는 곳(&amp;W)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -194,12 +198,6 @@ Close this question to keep editing.</source>
         <source>Cancel</source>
         <translation>취소</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
-        <translation>
-            <numerusform>프로그램 %n개를 목록에서 제거하시겠습니까? 이를 사용하는 계획에서는 해당 항목이 무효로 표시됩니다. 파일은 그대로 남습니다.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Remove</source>
         <translation>제거</translation>
@@ -207,6 +205,12 @@ Close this question to keep editing.</source>
     <message>
         <source>No program fits what is searched for.</source>
         <translation>찾는 조건에 맞는 프로그램이 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n programs from the catalog? The files are not deleted.</source>
+        <translation>
+            <numerusform>목록에서 프로그램 %n개를 제거하시겠습니까? 파일은 삭제되지 않습니다.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2031,6 +2035,91 @@ What do you want to do with your changes?</source>
     <message>
         <source>Validity of the tasks in %1</source>
         <translation>%1년 작업의 유효 기간</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesWindow</name>
+    <message>
+        <source>Where used</source>
+        <translation>사용하는 곳</translation>
+    </message>
+    <message>
+        <source>No plan plays “%1”.</source>
+        <translation>“%1”을(를) 재생하는 계획이 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is played by %n plans.</source>
+        <translation>
+            <numerusform>“%1”은(는) 계획 %n개에서 재생됩니다.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesModel</name>
+    <message>
+        <source>Task</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>유효 기간</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>계획</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>요일</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>시간</translation>
+    </message>
+</context>
+<context>
+    <name>UseWords</name>
+    <message>
+        <source>%1 – %2</source>
+        <comment>from and to</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Task %1 (%2), plan %3, %4 %5</source>
+        <comment>with dates, days and times</comment>
+        <translation>작업 %1(%2), 계획 %3, %4 %5</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule in effect has it.</source>
+        <translation>적용 중인 일정에서는 더 이상 화면에 나오지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule is edited.</source>
+        <translation>편집 중인 일정에서는 더 이상 화면에 나오지 않습니다.</translation>
+    </message>
+    <message>
+        <source>On screen now: task %1, plan %2.</source>
+        <translation>지금 화면에 있음: 작업 %1, 계획 %2.</translation>
+    </message>
+    <message>
+        <source>Next on screen: %1, task %2, plan %3.</source>
+        <translation>다음 화면 표시: %1, 작업 %2, 계획 %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Entries become invalid in %n plans:</source>
+        <translation>
+            <numerusform>계획 %n개에서 항목이 무효가 됩니다:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: nothing else is left of it</source>
+        <translation>%1: 다른 항목이 남지 않음</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more plans.</source>
+        <translation>
+            <numerusform>… 외 계획 %n개.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -90,6 +90,10 @@
         <source>&amp;Bring back what was canceled</source>
         <translation>Rec&amp;uperar o que foi cancelado</translation>
     </message>
+    <message>
+        <source>&amp;Where used…</source>
+        <translation>&amp;Onde é usado…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -195,13 +199,6 @@ Feche esta pergunta para continuar editando.</translation>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
-        <translation>
-            <numerusform>Remover este programa do catálogo? Os planos que o utilizam mostrarão as entradas dele como inválidas. O arquivo é mantido.</numerusform>
-            <numerusform>Remover %n programas do catálogo? Os planos que os utilizam mostrarão as entradas deles como inválidas. Os arquivos são mantidos.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Remove</source>
         <translation>Remover</translation>
@@ -209,6 +206,13 @@ Feche esta pergunta para continuar editando.</translation>
     <message>
         <source>No program fits what is searched for.</source>
         <translation>Nenhum programa corresponde ao que se procura.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n programs from the catalog? The files are not deleted.</source>
+        <translation>
+            <numerusform>Remover este programa do catálogo? O arquivo não é excluído.</numerusform>
+            <numerusform>Remover %n programas do catálogo? Os arquivos não são excluídos.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2062,6 +2066,94 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>Validity of the tasks in %1</source>
         <translation>Validade das tarefas em %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesWindow</name>
+    <message>
+        <source>Where used</source>
+        <translation>Onde é usado</translation>
+    </message>
+    <message>
+        <source>No plan plays “%1”.</source>
+        <translation>Nenhum plano exibe “%1”.</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is played by %n plans.</source>
+        <translation>
+            <numerusform>%n plano exibe “%1”.</numerusform>
+            <numerusform>%n planos exibem “%1”.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesModel</name>
+    <message>
+        <source>Task</source>
+        <translation>Tarefa</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Validade</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plano</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Dias</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Horário</translation>
+    </message>
+</context>
+<context>
+    <name>UseWords</name>
+    <message>
+        <source>%1 – %2</source>
+        <comment>from and to</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Task %1 (%2), plan %3, %4 %5</source>
+        <comment>with dates, days and times</comment>
+        <translation>Tarefa %1 (%2), plano %3, %4 %5</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule in effect has it.</source>
+        <translation>Não aparece mais na tela, pela programação em vigor.</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule is edited.</source>
+        <translation>Não aparece mais na tela, pela programação editada.</translation>
+    </message>
+    <message>
+        <source>On screen now: task %1, plan %2.</source>
+        <translation>Na tela agora: tarefa %1, plano %2.</translation>
+    </message>
+    <message>
+        <source>Next on screen: %1, task %2, plan %3.</source>
+        <translation>Próxima vez na tela: %1, tarefa %2, plano %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Entries become invalid in %n plans:</source>
+        <translation>
+            <numerusform>Entradas ficam inválidas em %n plano:</numerusform>
+            <numerusform>Entradas ficam inválidas em %n planos:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: nothing else is left of it</source>
+        <translation>%1: nada mais resta nele</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more plans.</source>
+        <translation>
+            <numerusform>… e mais %n plano.</numerusform>
+            <numerusform>… e mais %n planos.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -90,6 +90,10 @@
         <source>&amp;Bring back what was canceled</source>
         <translation>Вер&amp;нуть отменённое</translation>
     </message>
+    <message>
+        <source>&amp;Where used…</source>
+        <translation>&amp;Где используется…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -196,14 +200,6 @@ Close this question to keep editing.</source>
         <source>Cancel</source>
         <translation>Отмена</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
-        <translation>
-            <numerusform>Удалить %n программу из каталога? Соответствующие записи в планах будут отмечены как недействительные. Файлы не удаляются.</numerusform>
-            <numerusform>Удалить %n программы из каталога? В использующих их планах они будут отмечены как недействительные. Файлы останутся на месте.</numerusform>
-            <numerusform>Удалить %n программ из каталога? В использующих их планах они будут отмечены как недействительные. Файлы останутся на месте.</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Remove</source>
         <translation>Удалить</translation>
@@ -211,6 +207,14 @@ Close this question to keep editing.</source>
     <message>
         <source>No program fits what is searched for.</source>
         <translation>Ни одна программа не подходит под условия поиска.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n programs from the catalog? The files are not deleted.</source>
+        <translation>
+            <numerusform>Удалить из каталога %n программу? Файл останется на диске.</numerusform>
+            <numerusform>Удалить из каталога %n программы? Файлы останутся на диске.</numerusform>
+            <numerusform>Удалить из каталога %n программ? Файлы останутся на диске.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2093,6 +2097,97 @@ What do you want to do with your changes?</source>
     <message>
         <source>Validity of the tasks in %1</source>
         <translation>Срок действия заданий в %1 году</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesWindow</name>
+    <message>
+        <source>Where used</source>
+        <translation>Где используется</translation>
+    </message>
+    <message>
+        <source>No plan plays “%1”.</source>
+        <translation>Ни один план не показывает «%1».</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is played by %n plans.</source>
+        <translation>
+            <numerusform>«%1» показывает %n план.</numerusform>
+            <numerusform>«%1» показывают %n плана.</numerusform>
+            <numerusform>«%1» показывают %n планов.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesModel</name>
+    <message>
+        <source>Task</source>
+        <translation>Задание</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>Действует</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>План</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Дни</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Время</translation>
+    </message>
+</context>
+<context>
+    <name>UseWords</name>
+    <message>
+        <source>%1 – %2</source>
+        <comment>from and to</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Task %1 (%2), plan %3, %4 %5</source>
+        <comment>with dates, days and times</comment>
+        <translation>Задание %1 (%2), план %3, %4 %5</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule in effect has it.</source>
+        <translation>По действующему расписанию на экране больше не появится.</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule is edited.</source>
+        <translation>По редактируемому расписанию на экране больше не появится.</translation>
+    </message>
+    <message>
+        <source>On screen now: task %1, plan %2.</source>
+        <translation>Сейчас на экране: задание %1, план %2.</translation>
+    </message>
+    <message>
+        <source>Next on screen: %1, task %2, plan %3.</source>
+        <translation>Следующий раз на экране: %1, задание %2, план %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Entries become invalid in %n plans:</source>
+        <translation>
+            <numerusform>Записи станут недействительными в %n плане:</numerusform>
+            <numerusform>Записи станут недействительными в %n планах:</numerusform>
+            <numerusform>Записи станут недействительными в %n планах:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: nothing else is left of it</source>
+        <translation>%1: больше в нём ничего не останется</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more plans.</source>
+        <translation>
+            <numerusform>… и ещё %n план.</numerusform>
+            <numerusform>… и ещё %n плана.</numerusform>
+            <numerusform>… и ещё %n планов.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

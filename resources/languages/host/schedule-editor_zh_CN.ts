@@ -90,6 +90,10 @@
         <source>&amp;Bring back what was canceled</source>
         <translation>恢复已取消的更改(&amp;B)</translation>
     </message>
+    <message>
+        <source>&amp;Where used…</source>
+        <translation>使用位置(&amp;W)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -194,12 +198,6 @@ Close this question to keep editing.</source>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
-        <translation>
-            <numerusform>从节目库移除 %n 个节目吗？使用它们的计划将把相应条目显示为失效。文件会保留。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Remove</source>
         <translation>移除</translation>
@@ -207,6 +205,12 @@ Close this question to keep editing.</source>
     <message>
         <source>No program fits what is searched for.</source>
         <translation>没有符合搜索条件的节目。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n programs from the catalog? The files are not deleted.</source>
+        <translation>
+            <numerusform>从节目库移除 %n 个节目吗？文件不会被删除。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2031,6 +2035,91 @@ What do you want to do with your changes?</source>
     <message>
         <source>Validity of the tasks in %1</source>
         <translation>%1年任务的有效期</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesWindow</name>
+    <message>
+        <source>Where used</source>
+        <translation>使用位置</translation>
+    </message>
+    <message>
+        <source>No plan plays “%1”.</source>
+        <translation>没有计划播放“%1”。</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is played by %n plans.</source>
+        <translation>
+            <numerusform>有 %n 个计划播放“%1”。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesModel</name>
+    <message>
+        <source>Task</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有效期</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>计划</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+</context>
+<context>
+    <name>UseWords</name>
+    <message>
+        <source>%1 – %2</source>
+        <comment>from and to</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Task %1 (%2), plan %3, %4 %5</source>
+        <comment>with dates, days and times</comment>
+        <translation>任务 %1（%2），计划 %3，%4 %5</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule in effect has it.</source>
+        <translation>按生效的排期，不再出现在屏幕上。</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule is edited.</source>
+        <translation>按编辑中的排期，不再出现在屏幕上。</translation>
+    </message>
+    <message>
+        <source>On screen now: task %1, plan %2.</source>
+        <translation>现在在屏幕上：任务 %1，计划 %2。</translation>
+    </message>
+    <message>
+        <source>Next on screen: %1, task %2, plan %3.</source>
+        <translation>下次在屏幕上：%1，任务 %2，计划 %3。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Entries become invalid in %n plans:</source>
+        <translation>
+            <numerusform>%n 个计划中的条目将失效：</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: nothing else is left of it</source>
+        <translation>%1：其中不再有其他节目</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more plans.</source>
+        <translation>
+            <numerusform>……以及另外 %n 个计划。</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -90,6 +90,10 @@
         <source>&amp;Bring back what was canceled</source>
         <translation>復原已取消的變更(&amp;B)</translation>
     </message>
+    <message>
+        <source>&amp;Where used…</source>
+        <translation>使用位置(&amp;W)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -194,12 +198,6 @@ Close this question to keep editing.</source>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
-    <message numerus="yes">
-        <source>Remove %n programs from the catalog? Plans that use them will show their entries as invalid. The files are not deleted.</source>
-        <translation>
-            <numerusform>要從節目庫移除 %n 個節目嗎？使用這些節目的計畫會將相關項目顯示為失效。檔案會保留。</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Remove</source>
         <translation>移除</translation>
@@ -207,6 +205,12 @@ Close this question to keep editing.</source>
     <message>
         <source>No program fits what is searched for.</source>
         <translation>沒有符合搜尋條件的節目。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n programs from the catalog? The files are not deleted.</source>
+        <translation>
+            <numerusform>要從節目庫移除 %n 個節目嗎？檔案不會被刪除。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2031,6 +2035,91 @@ What do you want to do with your changes?</source>
     <message>
         <source>Validity of the tasks in %1</source>
         <translation>%1年任務的有效期</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesWindow</name>
+    <message>
+        <source>Where used</source>
+        <translation>使用位置</translation>
+    </message>
+    <message>
+        <source>No plan plays “%1”.</source>
+        <translation>沒有計畫播放「%1」。</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” is played by %n plans.</source>
+        <translation>
+            <numerusform>有 %n 個計畫播放「%1」。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::UsesModel</name>
+    <message>
+        <source>Task</source>
+        <translation>任務</translation>
+    </message>
+    <message>
+        <source>Valid</source>
+        <translation>有效期間</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>計畫</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>時間</translation>
+    </message>
+</context>
+<context>
+    <name>UseWords</name>
+    <message>
+        <source>%1 – %2</source>
+        <comment>from and to</comment>
+        <translation>%1 – %2</translation>
+    </message>
+    <message>
+        <source>Task %1 (%2), plan %3, %4 %5</source>
+        <comment>with dates, days and times</comment>
+        <translation>任務 %1（%2），計畫 %3，%4 %5</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule in effect has it.</source>
+        <translation>依生效的排程，不再出現在螢幕上。</translation>
+    </message>
+    <message>
+        <source>Not on screen any more, as the schedule is edited.</source>
+        <translation>依編輯中的排程，不再出現在螢幕上。</translation>
+    </message>
+    <message>
+        <source>On screen now: task %1, plan %2.</source>
+        <translation>現在在螢幕上：任務 %1，計畫 %2。</translation>
+    </message>
+    <message>
+        <source>Next on screen: %1, task %2, plan %3.</source>
+        <translation>下次在螢幕上：%1，任務 %2，計畫 %3。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Entries become invalid in %n plans:</source>
+        <translation>
+            <numerusform>%n 個計畫中的項目將失效：</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: nothing else is left of it</source>
+        <translation>%1：其中不再有其他節目</translation>
+    </message>
+    <message numerus="yes">
+        <source>… and %n more plans.</source>
+        <translation>
+            <numerusform>……以及另外 %n 個計畫。</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

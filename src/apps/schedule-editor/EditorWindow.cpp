@@ -123,6 +123,7 @@ void EditorWindow::connectMenus()
 
     connect(m_menus->importFiles(), &QAction::triggered, m_import, &CatalogueImport::chooseFiles);
     connect(m_menus->importFolder(), &QAction::triggered, m_import, &CatalogueImport::chooseFolder);
+    connect(m_catalogue, &CataloguePanel::planAsked, &m_editor, &scheduleControlUI::slotShowPlan);
     connect(m_import, &CatalogueImport::ended, this, &EditorWindow::importEnded);
     connect(m_import, &CatalogueImport::told, this,
             [this](const QString& line) { statusBar()->showMessage(line); });

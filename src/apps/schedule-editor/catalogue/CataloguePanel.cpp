@@ -5,8 +5,11 @@
 #include "ProblemWords.h"
 #include "catalogue/CatalogueFilter.h"
 #include "catalogue/CatalogueOrder.h"
+#include "catalogue/ProgramLookup.h"
 #include "catalogue/ProgramTable.h"
 #include "catalogue/ProgramTableModel.h"
+#include "catalogue/UseWords.h"
+#include "catalogue/UsesWindow.h"
 #include "service/ProgramUses.h"
 #include "trelprogramschedule/ScheduleHost.h"
 
@@ -38,6 +41,7 @@ CataloguePanel::CataloguePanel(EditorMenus& menus, QWidget* parent)
     , m_table(new ProgramTable(*m_programs, this))
     , m_hint(new QLabel(this))
     , m_order(new CatalogueOrder(this))
+    , m_lookup(new ProgramLookup(this))
 {
     setObjectName(QStringLiteral("cataloguePanel"));
     m_hint->setObjectName(QStringLiteral("programHint"));
@@ -79,13 +83,20 @@ void CataloguePanel::buildTable()
 
 void CataloguePanel::connectMenus()
 {
-    QAction* remove = m_menus.removePrograms();
-    m_table->addAction(m_menus.importFiles());
-    m_table->addAction(remove);
-    remove->setEnabled(false);
-    connect(remove, &QAction::triggered, this, &CataloguePanel::removeSelected);
-    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, remove,
-            [this, remove] { remove->setEnabled(m_table->selectionModel()->hasSelection()); });
+    m_table->addActions({m_menus.whereUsed(), m_menus.importFiles(), m_menus.removePrograms()});
+    connect(m_menus.removePrograms(), &QAction::triggered, this, &CataloguePanel::removeSelected);
+    connect(m_menus.whereUsed(), &QAction::triggered, this, &CataloguePanel::showUses);
+    connect(m_lookup, &ProgramLookup::answered, this, &CataloguePanel::askRemoval);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &CataloguePanel::enableActions);
+    enableActions();
+}
+
+void CataloguePanel::enableActions()
+{
+    const bool isAnySelected = m_table->selectionModel()->hasSelection();
+    m_menus.removePrograms()->setEnabled(isAnySelected);
+    m_menus.whereUsed()->setEnabled(isAnySelected);
 }
 
 void CataloguePanel::connectOrder()
@@ -206,22 +217,47 @@ void CataloguePanel::retranslate()
 
 void CataloguePanel::removeSelected()
 {
-    // While the question stands, programs may come and go, and with them the rows.
+    // While the answer is looked for and the question stands, programs may come and go, and with
+    // them the rows.
     const std::vector<int> indexes = m_table->selectedPrograms();
-    if (indexes.empty()) {
+    if (!indexes.empty()) {
+        m_lookup->ask(indexes);
+    }
+}
+
+void CataloguePanel::askRemoval(const LookupAnswer& answer)
+{
+    const int count = static_cast<int>(answer.programs.size());
+    QStringList lines{
+        tr("Remove %n programs from the catalog? The files are not deleted.", nullptr, count)};
+    const QStringList broken = UseWords::removal(answer);
+    if (!broken.isEmpty()) {
+        lines.append(QString());
+        lines.append(broken);
+    }
+    if (prompts::confirm(lines.join(QLatin1Char('\n')), tr("Remove"), tr("Cancel")) != 1) {
         return;
     }
-    const int answer =
-        prompts::confirm(tr("Remove %n programs from the catalog? Plans that use them will show "
-                            "their entries as invalid. The files are not deleted.",
-                            nullptr, static_cast<int>(indexes.size())),
-                         tr("Remove"), tr("Cancel"));
-    if (answer != 1) {
-        return;
-    }
-    if (const StoreResult result = ScheduleHost::instance().removePrograms(indexes); !result) {
+    const StoreResult result = ScheduleHost::instance().removePrograms(answer.programs);
+    if (!result) {
         prompts::notice(problems::sentence(result));
     }
+}
+
+void CataloguePanel::showUses()
+{
+    const int program = m_table->currentProgram();
+    if (program < 0) {
+        return;
+    }
+    if (m_uses == nullptr) {
+        m_uses = new UsesWindow(window());
+        connect(m_uses, &UsesWindow::planAsked, this, &CataloguePanel::planAsked);
+    }
+    m_uses->setProgram(program);
+    m_uses->show();
+    m_uses->raise();
+    m_uses->activateWindow();
 }
 
 void CataloguePanel::changeEvent(QEvent* event)

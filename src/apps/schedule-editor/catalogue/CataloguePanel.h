@@ -11,8 +11,11 @@ namespace trel::desktop {
 class CatalogueFilter;
 class CatalogueOrder;
 class EditorMenus;
+class ProgramLookup;
 class ProgramTable;
 class ProgramTableModel;
+class UsesWindow;
+struct LookupAnswer;
 
 /// The catalogue of programs: a table of them that can be searched, filtered and sorted, or a hint
 /// how to come by some.
@@ -40,6 +43,10 @@ public:
     /// Takes over what saveState() has made, as far as it is whole; everything else stays.
     void restoreState(const QByteArray& state);
 
+signals:
+    /// The operator wants to see a plan that plays a program.
+    void planAsked(int taskId, int planId);
+
 protected:
     void changeEvent(QEvent* event) override;
 
@@ -52,7 +59,10 @@ private:
     void takeUsed();
     void show(const follow::SharedCatalogue& catalogue, const ProgramRows& rows);
     void showCurrent();
+    void enableActions();
     void removeSelected();
+    void askRemoval(const LookupAnswer& answer);
+    void showUses();
 
     EditorMenus& m_menus;
     ProgramTableModel* m_programs;
@@ -60,7 +70,9 @@ private:
     ProgramTable* m_table;
     QLabel* m_hint;
     CatalogueOrder* m_order;
-    bool m_isWishNew = false; ///< The rows to come are what the operator has asked for.
+    ProgramLookup* m_lookup;      ///< For what is to be removed.
+    UsesWindow* m_uses = nullptr; ///< Once it has been asked for.
+    bool m_isWishNew = false;     ///< The rows to come are what the operator has asked for.
 };
 
 } // namespace trel::desktop

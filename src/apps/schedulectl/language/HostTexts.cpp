@@ -57,7 +57,7 @@ const std::vector<HostMenu>& hostMenus()
           entry("EditorMenus", "S&top the schedule…"), entry("EditorMenus", "&Quit")}},
         {QStringLiteral("the menu \"Programs\""),
          {entry("EditorMenus", "&Import files…"), entry("EditorMenus", "Import &folder…"),
-          entry("EditorMenus", "&Remove from catalog")}},
+          entry("EditorMenus", "&Where used…"), entry("EditorMenus", "&Remove from catalog")}},
         {QStringLiteral("the menu \"View\""),
          {entry("EditorWindow", "&Now and next"), entry("PreviewDock", "&Preview"),
           entry("PreviewDock", "&Full-screen preview"), entry("EditorWindow", "&Clock changes"),

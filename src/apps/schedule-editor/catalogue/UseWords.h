@@ -1,0 +1,29 @@
+#pragma once
+
+#include "catalogue/ProgramLookup.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+namespace trel::desktop {
+
+/// What is said of the plans that play a program, in the language in use.
+class UseWords
+{
+    Q_DECLARE_TR_FUNCTIONS(UseWords)
+
+public:
+    /// "2024.01.01 – 2024.01.31"
+    static QString validity(const trel::mediadispatch::PlayTask& task);
+    /// "08:00:00 – 09:00:00"
+    static QString span(const trel::mediadispatch::PlayPlan& plan);
+    /// "Task 1 (2024.01.01 – 2024.01.31), plan 2, Mon Wed 08:00:00 – 09:00:00"; rows count from 1.
+    static QString plan(const trel::mediadispatch::ProgramUse& use,
+                        const trel::mediadispatch::PlayTask& task);
+    /// When one of the programs is on screen next, as a sentence.
+    static QString next(const LookupAnswer& answer);
+    /// What a removal of the programs breaks, in lines; empty where it breaks nothing.
+    static QStringList removal(const LookupAnswer& answer);
+};
+
+} // namespace trel::desktop
