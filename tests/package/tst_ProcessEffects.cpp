@@ -15,6 +15,7 @@ const QStringList& calls()
         QStringLiteral("qRegisterMetaType"), QStringLiteral("qAddPostRoutine"),
         QStringLiteral("std::atexit"), QStringLiteral("posix_spawn"), QStringLiteral("waitpid"),
         QStringLiteral("QThread"), QStringLiteral("qWarning"), QStringLiteral("qDebug"),
+        QStringLiteral("QAccessible::installFactory"),
         // What a guest leaves alone.
         QStringLiteral("qInfo"), QStringLiteral("qCritical"), QStringLiteral("qFatal"),
         QStringLiteral("qInstallMessageHandler"), QStringLiteral("setFilterRules"),

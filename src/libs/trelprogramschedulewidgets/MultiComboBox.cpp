@@ -298,6 +298,13 @@ void MultiComboBox::toggle(const QModelIndex& entry)
     showText(m_pendingText);
 }
 
+void MultiComboBox::toggleEntry(int entry)
+{
+    if (isPopupOpen() && entryIndex(entry).isValid()) {
+        toggle(entryIndex(entry));
+    }
+}
+
 void MultiComboBox::excludeOthers(int toggledEntry)
 {
     if (toggledEntry != kEverythingEntry) {

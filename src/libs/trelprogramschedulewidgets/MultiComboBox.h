@@ -42,6 +42,8 @@ public:
     /// Shows a text, labels joined with the separator, and leaves the marks as they are. The text
     /// stands for the entries that have these labels now, also when they are given others later.
     void setShownText(const QString& text);
+    /// The text that is shown, uncut.
+    const QString& shownText() const { return m_currentText; }
 
     /// Marks the entries whose labels stand in the text last shown, and no others. An entry that
     /// has been given another label since is known by the one that it had. A label that no entry
@@ -55,6 +57,10 @@ public:
     /// Shows what the marks stand for, and writes it to the debug log. Emits nothing and leaves the
     /// current index alone.
     void updateBox();
+
+    /// Changes the mark of an entry, from 0, as a click on it in the open list does. Nothing while
+    /// the list is closed, or where there is no such entry.
+    void toggleEntry(int entry);
 
     void showPopup() override;
     void hidePopup() override;

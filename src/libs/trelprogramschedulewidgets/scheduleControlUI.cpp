@@ -5,6 +5,7 @@
 #include "ProgramSheduleWidgetTranslateManager.h"
 #include "ScheduleText.h"
 #include "TitleBar.h"
+#include "access/AccessibleFactory.h"
 #include "card/EditorInUse.h"
 #include "centerWidget.h"
 #include "clock/Clock.h"
@@ -60,6 +61,7 @@ scheduleControlUI::scheduleControlUI(QWidget* parent)
     : Dialog(parent)
     , m_menu(nullptr)
 {
+    installAccessibleFactory();
     m_centerWidget = new centerWidget(dialogWidget());
     m_centerWidget->setFixedSize(kPanelSize);
 

@@ -17,15 +17,6 @@ namespace trel::mediadispatch {
 
 namespace {
 
-/// Whether a prompt stands over a window. A key that comes before the prompt has the focus would
-/// reach what is behind it all the same, and bring the next prompt over the first.
-bool isBlocked(const QWidget& window)
-{
-    const QWidget* const modal = QApplication::activeModalWidget();
-    return modal && modal != &window && !modal->isAncestorOf(&window) &&
-           (modal->windowModality() == Qt::ApplicationModal || modal->parentWidget() == &window);
-}
-
 /// A click, which a disabled button refuses by itself.
 void press(const QWidget* where, const char* name)
 {
@@ -68,7 +59,7 @@ void CardKeyboard::add(EditorKey key, Run run)
         // A key that is held down would go on to delete.
         shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this, [this, run] {
-            if (!isBlocked(*m_panel.window())) {
+            if (!isBehindPrompt(*m_panel.window())) {
                 run();
             }
         });

@@ -10,4 +10,13 @@ namespace trel::mediadispatch {
 /// The cell that a widget lies in; invalid when it lies in none.
 QModelIndex cellOf(const QTableView& table, const QWidget* inside);
 
+/// What of a cell a screen reader stops at: the one widget in a holder, or the button with which a
+/// program field opens the chooser. Null when the cell has no editor.
+QWidget* editorIn(const QTableView& table, const QModelIndex& cell);
+
+/// Whether a prompt stands over a window. What comes from elsewhere than its own events, such as a
+/// key or a screen reader, would reach what is behind the prompt all the same, and bring the next
+/// one over the first.
+bool isBehindPrompt(const QWidget& window);
+
 } // namespace trel::mediadispatch

@@ -2,10 +2,10 @@
 
 #include "EditorKeys.h"
 #include "MultiComboBox.h"
+#include "PlanCells.h"
 #include "PlanColumns.h"
 #include "PlanRowState.h"
 #include "PlanRowTexts.h"
-#include "kCustomLineEdit.h"
 #include "toolkit/CutLabel.h"
 #include "toolkit/FocusedWheel.h"
 #include "toolkit/StyleRecords.h"
@@ -74,17 +74,6 @@ constexpr std::array<std::pair<PlanColumn, EditorKey>, 3> kColumnKeys = {{
     {DeleteColumn, EditorKey::DeletePlan},
 }};
 
-/// What of a cell a screen reader stops at: the one widget in a holder, or the button with which a
-/// program field opens the chooser; null when the field has none.
-QWidget* editorIn(QWidget* holder)
-{
-    if (const auto* const field = qobject_cast<kCustomLineEdit*>(holder)) {
-        return field->findChild<QPushButton*>(QStringLiteral("pushButton"));
-    }
-    QLayoutItem* const item = holder->layout() ? holder->layout()->itemAt(0) : nullptr;
-    return item && item->widget() ? item->widget() : holder;
-}
-
 /// Invalid when the table has been given another model, or none.
 QModelIndex cellOf(const QTableView& table, int row, int column)
 {
@@ -95,15 +84,13 @@ void nameEditors(const QTableView& table, int row, const PlanRowTexts& texts)
 {
     const QString plan = cellOf(table, row, TitleColumn).data().toString().trimmed();
     for (const ColumnText& name : kSpokenNames) {
-        QWidget* const holder = table.indexWidget(cellOf(table, row, name.column));
-        QWidget* const editor = holder ? editorIn(holder) : nullptr;
+        QWidget* const editor = editorIn(table, cellOf(table, row, name.column));
         if (editor) {
             editor->setAccessibleName(plan % QLatin1Char(' ') % texts.*name.text);
         }
     }
     for (const auto& [column, key] : kColumnKeys) {
-        QWidget* const holder = table.indexWidget(cellOf(table, row, column));
-        QWidget* const editor = holder ? editorIn(holder) : nullptr;
+        QWidget* const editor = editorIn(table, cellOf(table, row, column));
         if (editor) {
             editor->setAccessibleDescription(keyText(key));
         }

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "access/AccessibleEditor.h"
+
+class QComboBox;
+
+namespace trel::mediadispatch {
+
+/// A box of a card from which one entry is chosen, or several days. It is named by what it is for,
+/// and its value is what is chosen, uncut. Its one child is its list, once that has been opened.
+class AccessibleChoice : public AccessibleEditor
+{
+public:
+    explicit AccessibleChoice(QComboBox& box);
+
+    int childCount() const override;
+    QAccessibleInterface* child(int index) const override;
+    int indexOfChild(const QAccessibleInterface* child) const override;
+    QString text(QAccessible::Text kind) const override;
+    QAccessible::State state() const override;
+
+    QStringList actionNames() const override;
+    void doAction(const QString& action) override;
+
+private:
+    QComboBox& box() const;
+    QWidget* list() const;
+};
+
+} // namespace trel::mediadispatch

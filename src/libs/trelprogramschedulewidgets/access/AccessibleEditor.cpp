@@ -1,0 +1,70 @@
+#include "access/AccessibleEditor.h"
+
+#include "PlanStandardItemModel.h"
+#include "access/AccessiblePlanTable.h"
+#include "card/PlanCells.h"
+#include "card/PlanColumns.h"
+
+#include <QLabel>
+#include <QStringBuilder>
+#include <QTableView>
+#include <QTimer>
+
+#include <utility>
+
+namespace trel::mediadispatch {
+
+QTableView* planTableAbove(const QWidget& widget)
+{
+    for (QWidget* above = widget.parentWidget(); above; above = above->parentWidget()) {
+        auto* const table = qobject_cast<QTableView*>(above);
+        if (table && qobject_cast<PlanStandardItemModel*>(table->model())) {
+            return table;
+        }
+    }
+    return nullptr;
+}
+
+AccessibleEditor::AccessibleEditor(QWidget& editor, QAccessible::Role role)
+    : QAccessibleWidget(&editor, role)
+{}
+
+QAccessibleInterface* AccessibleEditor::parent() const
+{
+    QTableView* const table = planTableAbove(*widget());
+    if (table) {
+        auto* const rows =
+            dynamic_cast<AccessiblePlanTable*>(QAccessible::queryAccessibleInterface(table));
+        const QModelIndex cell = cellOf(*table, widget());
+        if (rows && cell.isValid()) {
+            return rows->child(cell.row());
+        }
+    }
+    return QAccessibleWidget::parent();
+}
+
+QString AccessibleEditor::text(QAccessible::Text kind) const
+{
+    const QTableView* const table = kind == QAccessible::Name ? planTableAbove(*widget()) : nullptr;
+    if (!table) {
+        return QAccessibleWidget::text(kind);
+    }
+    QString name = widget()->accessibleName();
+    if (const auto* const label = qobject_cast<const QLabel*>(widget())) {
+        const QModelIndex cell = cellOf(*table, label).siblingAtColumn(TitleColumn);
+        name = cell.data().toString().trimmed() % QLatin1Char(' ') % label->text();
+    }
+    return table->accessibleName() % QLatin1String(", ") % name;
+}
+
+void AccessibleEditor::later(std::function<void(QWidget&)> work) const
+{
+    QWidget* const editor = widget();
+    QTimer::singleShot(0, editor, [editor, work = std::move(work)] {
+        if (editor->isEnabled() && editor->isVisible() && !isBehindPrompt(*editor->window())) {
+            work(*editor);
+        }
+    });
+}
+
+} // namespace trel::mediadispatch

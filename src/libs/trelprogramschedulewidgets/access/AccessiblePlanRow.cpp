@@ -1,0 +1,98 @@
+#include "access/AccessiblePlanRow.h"
+
+#include "access/AccessiblePlanTable.h"
+#include "card/PlanCells.h"
+#include "card/PlanColumns.h"
+
+#include <QStringBuilder>
+
+namespace trel::mediadispatch {
+
+AccessiblePlanRow::AccessiblePlanRow(QTableView& table, int number)
+    : m_table(&table)
+    , m_number(number)
+{}
+
+bool AccessiblePlanRow::isValid() const
+{
+    return m_table && cell(TitleColumn).isValid();
+}
+
+QAccessibleInterface* AccessiblePlanRow::parent() const
+{
+    return m_table ? QAccessible::queryAccessibleInterface(m_table) : nullptr;
+}
+
+int AccessiblePlanRow::childCount() const
+{
+    return isValid() ? AccessiblePlanTable::editorColumns().size() : 0;
+}
+
+QAccessibleInterface* AccessiblePlanRow::child(int index) const
+{
+    if (index < 0 || index >= childCount()) {
+        return nullptr;
+    }
+    QWidget* const editor =
+        editorIn(*m_table, cell(AccessiblePlanTable::editorColumns().at(index)));
+    return editor ? QAccessible::queryAccessibleInterface(editor) : nullptr;
+}
+
+int AccessiblePlanRow::indexOfChild(const QAccessibleInterface* child) const
+{
+    const auto* const editor = child ? qobject_cast<const QWidget*>(child->object()) : nullptr;
+    const QModelIndex place = editor && isValid() ? cellOf(*m_table, editor) : QModelIndex();
+    return place.isValid() && place.row() == m_number
+               ? AccessiblePlanTable::editorColumns().indexOf(place.column())
+               : -1;
+}
+
+QAccessibleInterface* AccessiblePlanRow::childAt(int x, int y) const
+{
+    for (int index = 0; index < childCount(); ++index) {
+        QAccessibleInterface* const editor = child(index);
+        if (editor && editor->rect().contains(x, y)) {
+            return editor;
+        }
+    }
+    return nullptr;
+}
+
+QString AccessiblePlanRow::text(QAccessible::Text kind) const
+{
+    if (kind != QAccessible::Name || !isValid()) {
+        return QString();
+    }
+    return m_table->accessibleName() % QLatin1String(", ") %
+           cell(TitleColumn).data().toString().trimmed();
+}
+
+QRect AccessiblePlanRow::rect() const
+{
+    if (!isValid()) {
+        return QRect();
+    }
+    const QRect all =
+        m_table->visualRect(cell(TitleColumn)) | m_table->visualRect(cell(PlanColumnCount - 1));
+    return QRect(m_table->viewport()->mapToGlobal(all.topLeft()), all.size());
+}
+
+QAccessible::State AccessiblePlanRow::state() const
+{
+    QAccessible::State state;
+    state.invalid = !isValid();
+    state.invisible = !m_table || !m_table->isVisible();
+    state.disabled = !m_table || !m_table->isEnabled();
+    if (isValid() && !state.invisible) {
+        const QRect row = m_table->visualRect(cell(TitleColumn));
+        state.offscreen = !row.intersects(m_table->viewport()->rect());
+    }
+    return state;
+}
+
+QModelIndex AccessiblePlanRow::cell(int column) const
+{
+    return m_table && m_table->model() ? m_table->model()->index(m_number, column) : QModelIndex();
+}
+
+} // namespace trel::mediadispatch
