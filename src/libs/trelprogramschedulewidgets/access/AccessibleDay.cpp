@@ -1,11 +1,17 @@
 #include "access/AccessibleDay.h"
 
 #include "MultiComboBox.h"
-#include "access/AccessibleDayList.h"
 
 #include <QAbstractItemView>
 
 namespace trel::mediadispatch {
+
+// The list lies in a window of its own, which is a child of the box.
+MultiComboBox* boxOfDays(const QWidget& list)
+{
+    const QWidget* const window = list.parentWidget();
+    return window ? qobject_cast<MultiComboBox*>(window->parentWidget()) : nullptr;
+}
 
 AccessibleDay::AccessibleDay(QAbstractItemView& list, int number)
     : m_list(&list)

@@ -5,8 +5,14 @@
 #include <QPointer>
 
 class QAbstractItemView;
+class QWidget;
 
 namespace trel::mediadispatch {
+
+class MultiComboBox;
+
+/// The box of days that a list belongs to; null for any other list.
+MultiComboBox* boxOfDays(const QWidget& list);
 
 /// An entry in the open list of a box of days: one that is checked or not, and nothing else.
 class AccessibleDay : public QAccessibleInterface, public QAccessibleActionInterface

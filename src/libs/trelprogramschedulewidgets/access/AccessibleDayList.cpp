@@ -7,13 +7,6 @@
 
 namespace trel::mediadispatch {
 
-// The list lies in a window of its own, which is a child of the box.
-MultiComboBox* boxOfDays(const QWidget& list)
-{
-    const QWidget* const window = list.parentWidget();
-    return window ? qobject_cast<MultiComboBox*>(window->parentWidget()) : nullptr;
-}
-
 AccessibleDayList::AccessibleDayList(QAbstractItemView& list)
     : QAccessibleWidget(&list, QAccessible::List)
 {}

@@ -7,11 +7,6 @@ class QAbstractItemView;
 
 namespace trel::mediadispatch {
 
-class MultiComboBox;
-
-/// The box of days that a list belongs to; null for any other list.
-MultiComboBox* boxOfDays(const QWidget& list);
-
 /// The list of a box of days. An entry is checked or not; which one is current says nothing of what
 /// is chosen.
 class AccessibleDayList : public QAccessibleWidget

@@ -4,6 +4,7 @@
 #include "PlanTaskWidget.h"
 #include "access/AccessibleButton.h"
 #include "access/AccessibleChoice.h"
+#include "access/AccessibleDay.h"
 #include "access/AccessibleDayList.h"
 #include "access/AccessibleEditor.h"
 #include "access/AccessibleField.h"

@@ -1,6 +1,5 @@
 #include "access/AccessiblePlanRow.h"
 
-#include "access/AccessiblePlanTable.h"
 #include "card/PlanCells.h"
 #include "card/PlanColumns.h"
 
@@ -12,6 +11,14 @@ AccessiblePlanRow::AccessiblePlanRow(QTableView& table, int number)
     : m_table(&table)
     , m_number(number)
 {}
+
+const QVector<int>& AccessiblePlanRow::columns()
+{
+    static const QVector<int> columns{ProgramsColumn, ModeColumn,  StartTimeColumn, EndTimeColumn,
+                                      TimesColumn,    WeeksColumn, EndActionColumn, StateColumn,
+                                      CopyColumn,     DeleteColumn};
+    return columns;
+}
 
 bool AccessiblePlanRow::isValid() const
 {
@@ -25,7 +32,7 @@ QAccessibleInterface* AccessiblePlanRow::parent() const
 
 int AccessiblePlanRow::childCount() const
 {
-    return isValid() ? AccessiblePlanTable::editorColumns().size() : 0;
+    return isValid() ? columns().size() : 0;
 }
 
 QAccessibleInterface* AccessiblePlanRow::child(int index) const
@@ -33,8 +40,7 @@ QAccessibleInterface* AccessiblePlanRow::child(int index) const
     if (index < 0 || index >= childCount()) {
         return nullptr;
     }
-    QWidget* const editor =
-        editorIn(*m_table, cell(AccessiblePlanTable::editorColumns().at(index)));
+    QWidget* const editor = editorIn(*m_table, cell(columns().at(index)));
     return editor ? QAccessible::queryAccessibleInterface(editor) : nullptr;
 }
 
@@ -42,9 +48,7 @@ int AccessiblePlanRow::indexOfChild(const QAccessibleInterface* child) const
 {
     const auto* const editor = child ? qobject_cast<const QWidget*>(child->object()) : nullptr;
     const QModelIndex place = editor && isValid() ? cellOf(*m_table, editor) : QModelIndex();
-    return place.isValid() && place.row() == m_number
-               ? AccessiblePlanTable::editorColumns().indexOf(place.column())
-               : -1;
+    return place.isValid() && place.row() == m_number ? columns().indexOf(place.column()) : -1;
 }
 
 QAccessibleInterface* AccessiblePlanRow::childAt(int x, int y) const

@@ -3,6 +3,7 @@
 #include <QAccessibleInterface>
 #include <QPointer>
 #include <QTableView>
+#include <QVector>
 
 namespace trel::mediadispatch {
 
@@ -13,6 +14,9 @@ class AccessiblePlanRow : public QAccessibleInterface
 {
 public:
     AccessiblePlanRow(QTableView& table, int number);
+
+    /// The columns that have an editor, of PlanColumn, in the order of the children.
+    static const QVector<int>& columns();
 
     int number() const { return m_number; }
     bool isOf(const QTableView& table) const { return m_table == &table; }

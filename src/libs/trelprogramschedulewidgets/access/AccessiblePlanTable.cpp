@@ -20,14 +20,6 @@ AccessiblePlanTable::~AccessiblePlanTable()
     }
 }
 
-const QVector<int>& AccessiblePlanTable::editorColumns()
-{
-    static const QVector<int> columns{ProgramsColumn, ModeColumn,  StartTimeColumn, EndTimeColumn,
-                                      TimesColumn,    WeeksColumn, EndActionColumn, StateColumn,
-                                      CopyColumn,     DeleteColumn};
-    return columns;
-}
-
 void* AccessiblePlanTable::interface_cast(QAccessible::InterfaceType type)
 {
     if (type == QAccessible::TableInterface) {
@@ -72,6 +64,11 @@ QAccessibleInterface* AccessiblePlanTable::cellAt(int row, int column) const
 {
     const QAccessibleInterface* const plan = child(row);
     return plan ? plan->child(column) : nullptr;
+}
+
+int AccessiblePlanTable::columnCount() const
+{
+    return AccessiblePlanRow::columns().size();
 }
 
 // The captions stand in every row, each in the cell before its editor.

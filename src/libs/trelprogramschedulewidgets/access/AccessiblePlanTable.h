@@ -16,9 +16,6 @@ public:
     ~AccessiblePlanTable() override;
     Q_DISABLE_COPY(AccessiblePlanTable)
 
-    /// The columns that have an editor, of PlanColumn.
-    static const QVector<int>& editorColumns();
-
     void* interface_cast(QAccessible::InterfaceType type) override;
     int childCount() const override;
     QAccessibleInterface* child(int index) const override;
@@ -30,7 +27,7 @@ public:
     QAccessibleInterface* cellAt(int row, int column) const override;
     QString columnDescription(int column) const override;
     QString rowDescription(int row) const override;
-    int columnCount() const override { return editorColumns().size(); }
+    int columnCount() const override;
     int rowCount() const override { return childCount(); }
     // Nobody selects rows: they are edited in place.
     int selectedCellCount() const override { return 0; }
