@@ -23,7 +23,7 @@ struct Numbers
 
 double numberOf(const QTime& time)
 {
-    return time.msecsSinceStartOfDay() / kMSecsInSecond;
+    return QTime(0, 0).secsTo(time);
 }
 
 double numberOf(const QDate& date)
