@@ -188,6 +188,10 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
         <source>Catal&amp;og</source>
         <translation>&amp;Katalog</translation>
     </message>
+    <message>
+        <source>The change is in the editor now, where it can be saved.</source>
+        <translation>Die Änderung steht jetzt im Editor und kann dort gespeichert werden.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1670,6 +1674,10 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <source>every day</source>
         <translation>jeden Tag</translation>
     </message>
+    <message>
+        <source>Task %1, plan %2: %3 → %4</source>
+        <translation>Auftrag %1, Plan %2: %3 → %4</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryActions</name>
@@ -2153,6 +2161,144 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>
             <numerusform>… und %n weiterer Plan.</numerusform>
             <numerusform>… und %n weitere Pläne.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveWords</name>
+    <message>
+        <source>Plan %1: %2, %3 to %4</source>
+        <translation>Plan %1: %2, %3 bis %4</translation>
+    </message>
+    <message>
+        <source>New plan in task %1: %2, %3 to %4</source>
+        <translation>Neuer Plan in Auftrag %1: %2, %3 bis %4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>jeden Tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are valid on this day; that is the one in effect.</source>
+        <translation>
+            <numerusform>An diesem Tag gilt %n Auftrag; das ist der wirksame.</numerusform>
+            <numerusform>An diesem Tag gelten %n Aufträge; das ist der wirksame.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its times cannot be read.</source>
+        <translation>Seine Zeiten sind nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>A plan cannot run over midnight.</source>
+        <translation>Ein Plan kann nicht über Mitternacht laufen.</translation>
+    </message>
+    <message>
+        <source>A plan has to start before it ends.</source>
+        <translation>Ein Plan muss vor seinem Ende beginnen.</translation>
+    </message>
+    <message>
+        <source>Its end follows from its programs; it can only be moved.</source>
+        <translation>Sein Ende ergibt sich aus seinen Programmen; er lässt sich nur verschieben.</translation>
+    </message>
+    <message>
+        <source>It plays every day.</source>
+        <translation>Er läuft jeden Tag.</translation>
+    </message>
+    <message>
+        <source>It plays on that day already.</source>
+        <translation>Er läuft an diesem Tag schon.</translation>
+    </message>
+    <message>
+        <source>Its days cannot be read.</source>
+        <translation>Seine Tage sind nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Its task is not in effect on that day.</source>
+        <translation>Sein Auftrag ist an diesem Tag nicht in Kraft.</translation>
+    </message>
+    <message>
+        <source>Conflicts with plan %1, %2 to %3.</source>
+        <translation>Überschneidet sich mit Plan %1, %2 bis %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Conflicts with %n more.</source>
+        <translation>
+            <numerusform>Überschneidet sich mit %n weiteren.</numerusform>
+            <numerusform>Überschneidet sich mit %n weiteren.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>An diesem Tag gilt kein Auftrag.</translation>
+    </message>
+    <message>
+        <source>These programs cannot be planned here.</source>
+        <translation>Diese Programme lassen sich hier nicht einplanen.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1…</source>
+        <comment>a day</comment>
+        <translation>Pläne vom %1 kopieren…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekEdits</name>
+    <message>
+        <source>The editor is not ready yet. Please try again.</source>
+        <translation>Der Editor ist noch nicht bereit. Bitte versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The schedule has changed meanwhile; nothing was moved.</source>
+        <translation>Der Wiedergabeplan hat sich inzwischen geändert; es wurde nichts verschoben.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CopyDayDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Copy onto these days, whose own plans stay:</source>
+        <translation>Auf diese Tage kopieren, deren eigene Pläne bleiben:</translation>
+    </message>
+    <message>
+        <source>%1 (no task is valid)</source>
+        <comment>a day</comment>
+        <translation>%1 (kein Auftrag gilt)</translation>
+    </message>
+    <message>
+        <source>There is no plan on that day.</source>
+        <translation>An diesem Tag gibt es keinen Plan.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans play on that day. Choose the days to copy them onto.</source>
+        <translation>
+            <numerusform>An diesem Tag läuft %n Plan. Wählen Sie die Tage, auf die er kopiert wird.</numerusform>
+            <numerusform>An diesem Tag laufen %n Pläne. Wählen Sie die Tage, auf die sie kopiert werden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All of them play on these days already.</source>
+        <translation>Sie laufen an diesen Tagen schon alle.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans are copied.</source>
+        <translation>
+            <numerusform>%n Plan wird kopiert.</numerusform>
+            <numerusform>%n Pläne werden kopiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans will conflict then. Nothing is lost by that: change what you want afterwards.</source>
+        <translation>
+            <numerusform>%n weiterer Plan hat dann einen Konflikt. Dabei geht nichts verloren: Ändern Sie danach, was Sie wollen.</numerusform>
+            <numerusform>%n weitere Pläne haben dann einen Konflikt. Dabei geht nichts verloren: Ändern Sie danach, was Sie wollen.</numerusform>
         </translation>
     </message>
 </context>

@@ -275,4 +275,45 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>MoveWords</name>
+    <message numerus="yes">
+        <source>%n tasks are valid on this day; that is the one in effect.</source>
+        <translation>
+            <numerusform>%n task is valid on this day; that is the one in effect.</numerusform>
+            <numerusform>%n tasks are valid on this day; that is the one in effect.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Conflicts with %n more.</source>
+        <translation>
+            <numerusform>Conflicts with %n more.</numerusform>
+            <numerusform>Conflicts with %n more.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CopyDayDialog</name>
+    <message numerus="yes">
+        <source>%n plans play on that day. Choose the days to copy them onto.</source>
+        <translation>
+            <numerusform>%n plan plays on that day. Choose the days to copy it onto.</numerusform>
+            <numerusform>%n plans play on that day. Choose the days to copy them onto.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans are copied.</source>
+        <translation>
+            <numerusform>%n plan is copied.</numerusform>
+            <numerusform>%n plans are copied.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans will conflict then. Nothing is lost by that: change what you want afterwards.</source>
+        <translation>
+            <numerusform>%n more plan will conflict then. Nothing is lost by that: change what you want afterwards.</numerusform>
+            <numerusform>%n more plans will conflict then. Nothing is lost by that: change what you want afterwards.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -188,6 +188,10 @@ Cierre esta pregunta para seguir editando.</translation>
         <source>Catal&amp;og</source>
         <translation>Catálo&amp;go</translation>
     </message>
+    <message>
+        <source>The change is in the editor now, where it can be saved.</source>
+        <translation>El cambio está ahora en el editor, donde se puede guardar.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1670,6 +1674,10 @@ What do you want to do with your changes?</source>
         <source>every day</source>
         <translation>todos los días</translation>
     </message>
+    <message>
+        <source>Task %1, plan %2: %3 → %4</source>
+        <translation>Tarea %1, plan %2: %3 → %4</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryActions</name>
@@ -2153,6 +2161,144 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>… y %n plan más.</numerusform>
             <numerusform>… y %n planes más.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveWords</name>
+    <message>
+        <source>Plan %1: %2, %3 to %4</source>
+        <translation>Plan %1: %2, %3 a %4</translation>
+    </message>
+    <message>
+        <source>New plan in task %1: %2, %3 to %4</source>
+        <translation>Plan nuevo en la tarea %1: %2, %3 a %4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>todos los días</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are valid on this day; that is the one in effect.</source>
+        <translation>
+            <numerusform>Este día es válida %n tarea; esa es la que rige.</numerusform>
+            <numerusform>Este día son válidas %n tareas; esa es la que rige.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its times cannot be read.</source>
+        <translation>No se pueden leer sus horas.</translation>
+    </message>
+    <message>
+        <source>A plan cannot run over midnight.</source>
+        <translation>Un plan no puede pasar de medianoche.</translation>
+    </message>
+    <message>
+        <source>A plan has to start before it ends.</source>
+        <translation>Un plan debe empezar antes de terminar.</translation>
+    </message>
+    <message>
+        <source>Its end follows from its programs; it can only be moved.</source>
+        <translation>Su final depende de sus programas; solo se puede mover.</translation>
+    </message>
+    <message>
+        <source>It plays every day.</source>
+        <translation>Se reproduce todos los días.</translation>
+    </message>
+    <message>
+        <source>It plays on that day already.</source>
+        <translation>Ya se reproduce ese día.</translation>
+    </message>
+    <message>
+        <source>Its days cannot be read.</source>
+        <translation>No se pueden leer sus días.</translation>
+    </message>
+    <message>
+        <source>Its task is not in effect on that day.</source>
+        <translation>Su tarea no rige ese día.</translation>
+    </message>
+    <message>
+        <source>Conflicts with plan %1, %2 to %3.</source>
+        <translation>Entra en conflicto con el plan %1, %2 a %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Conflicts with %n more.</source>
+        <translation>
+            <numerusform>Entra en conflicto con %n más.</numerusform>
+            <numerusform>Entra en conflicto con %n más.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>Ninguna tarea es válida este día.</translation>
+    </message>
+    <message>
+        <source>These programs cannot be planned here.</source>
+        <translation>Estos programas no se pueden planificar aquí.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1…</source>
+        <comment>a day</comment>
+        <translation>Copiar los planes del %1…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekEdits</name>
+    <message>
+        <source>The editor is not ready yet. Please try again.</source>
+        <translation>El editor aún no está listo. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The schedule has changed meanwhile; nothing was moved.</source>
+        <translation>La programación ha cambiado entretanto; no se ha movido nada.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CopyDayDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Copy onto these days, whose own plans stay:</source>
+        <translation>Copiar a estos días, que conservan sus propios planes:</translation>
+    </message>
+    <message>
+        <source>%1 (no task is valid)</source>
+        <comment>a day</comment>
+        <translation>%1 (ninguna tarea es válida)</translation>
+    </message>
+    <message>
+        <source>There is no plan on that day.</source>
+        <translation>Ese día no hay ningún plan.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans play on that day. Choose the days to copy them onto.</source>
+        <translation>
+            <numerusform>Ese día se reproduce %n plan. Elija los días a los que copiarlo.</numerusform>
+            <numerusform>Ese día se reproducen %n planes. Elija los días a los que copiarlos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All of them play on these days already.</source>
+        <translation>Todos se reproducen ya esos días.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans are copied.</source>
+        <translation>
+            <numerusform>Se copia %n plan.</numerusform>
+            <numerusform>Se copian %n planes.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans will conflict then. Nothing is lost by that: change what you want afterwards.</source>
+        <translation>
+            <numerusform>Entonces %n plan más estará en conflicto. No se pierde nada: cambie después lo que quiera.</numerusform>
+            <numerusform>Entonces %n planes más estarán en conflicto. No se pierde nada: cambie después lo que quiera.</numerusform>
         </translation>
     </message>
 </context>

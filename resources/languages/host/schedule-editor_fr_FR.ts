@@ -188,6 +188,10 @@ Fermez cette question pour continuer à modifier.</translation>
         <source>Catal&amp;og</source>
         <translation>Catalo&amp;gue</translation>
     </message>
+    <message>
+        <source>The change is in the editor now, where it can be saved.</source>
+        <translation>La modification est maintenant dans l’éditeur, où elle peut être enregistrée.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1670,6 +1674,10 @@ Que faire de vos modifications&#xa0;?</translation>
         <source>every day</source>
         <translation>tous les jours</translation>
     </message>
+    <message>
+        <source>Task %1, plan %2: %3 → %4</source>
+        <translation>Tâche %1, créneau %2 : %3 → %4</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryActions</name>
@@ -2153,6 +2161,144 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>
             <numerusform>… et %n autre créneau.</numerusform>
             <numerusform>… et %n autres créneaux.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveWords</name>
+    <message>
+        <source>Plan %1: %2, %3 to %4</source>
+        <translation>Créneau %1 : %2, de %3 à %4</translation>
+    </message>
+    <message>
+        <source>New plan in task %1: %2, %3 to %4</source>
+        <translation>Nouveau créneau dans la tâche %1 : %2, de %3 à %4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>tous les jours</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are valid on this day; that is the one in effect.</source>
+        <translation>
+            <numerusform>%n tâche est valide ce jour-là ; c’est celle qui s’applique.</numerusform>
+            <numerusform>%n tâches sont valides ce jour-là ; c’est celle qui s’applique.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its times cannot be read.</source>
+        <translation>Ses heures sont illisibles.</translation>
+    </message>
+    <message>
+        <source>A plan cannot run over midnight.</source>
+        <translation>Un créneau ne peut pas dépasser minuit.</translation>
+    </message>
+    <message>
+        <source>A plan has to start before it ends.</source>
+        <translation>Un créneau doit commencer avant de finir.</translation>
+    </message>
+    <message>
+        <source>Its end follows from its programs; it can only be moved.</source>
+        <translation>Sa fin découle de ses programmes ; il ne peut être que déplacé.</translation>
+    </message>
+    <message>
+        <source>It plays every day.</source>
+        <translation>Il est lu tous les jours.</translation>
+    </message>
+    <message>
+        <source>It plays on that day already.</source>
+        <translation>Il est déjà lu ce jour-là.</translation>
+    </message>
+    <message>
+        <source>Its days cannot be read.</source>
+        <translation>Ses jours sont illisibles.</translation>
+    </message>
+    <message>
+        <source>Its task is not in effect on that day.</source>
+        <translation>Sa tâche ne s’applique pas ce jour-là.</translation>
+    </message>
+    <message>
+        <source>Conflicts with plan %1, %2 to %3.</source>
+        <translation>En conflit avec le créneau %1, de %2 à %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Conflicts with %n more.</source>
+        <translation>
+            <numerusform>En conflit avec %n autre.</numerusform>
+            <numerusform>En conflit avec %n autres.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>Aucune tâche n’est valide ce jour-là.</translation>
+    </message>
+    <message>
+        <source>These programs cannot be planned here.</source>
+        <translation>Ces programmes ne peuvent pas être planifiés ici.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1…</source>
+        <comment>a day</comment>
+        <translation>Copier les créneaux du %1…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekEdits</name>
+    <message>
+        <source>The editor is not ready yet. Please try again.</source>
+        <translation>L’éditeur n’est pas encore prêt. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>The schedule has changed meanwhile; nothing was moved.</source>
+        <translation>La programmation a changé entre-temps ; rien n’a été déplacé.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CopyDayDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Copy onto these days, whose own plans stay:</source>
+        <translation>Copier sur ces jours, qui gardent leurs propres créneaux :</translation>
+    </message>
+    <message>
+        <source>%1 (no task is valid)</source>
+        <comment>a day</comment>
+        <translation>%1 (aucune tâche n’est valide)</translation>
+    </message>
+    <message>
+        <source>There is no plan on that day.</source>
+        <translation>Il n’y a aucun créneau ce jour-là.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans play on that day. Choose the days to copy them onto.</source>
+        <translation>
+            <numerusform>%n créneau est lu ce jour-là. Choisissez les jours où le copier.</numerusform>
+            <numerusform>%n créneaux sont lus ce jour-là. Choisissez les jours où les copier.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All of them play on these days already.</source>
+        <translation>Ils sont déjà tous lus ces jours-là.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans are copied.</source>
+        <translation>
+            <numerusform>%n créneau est copié.</numerusform>
+            <numerusform>%n créneaux sont copiés.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans will conflict then. Nothing is lost by that: change what you want afterwards.</source>
+        <translation>
+            <numerusform>%n créneau de plus sera alors en conflit. Rien n’est perdu : modifiez ensuite ce que vous voulez.</numerusform>
+            <numerusform>%n créneaux de plus seront alors en conflit. Rien n’est perdu : modifiez ensuite ce que vous voulez.</numerusform>
         </translation>
     </message>
 </context>

@@ -187,6 +187,10 @@ Close this question to keep editing.</source>
         <source>Catal&amp;og</source>
         <translation>番組一覧(&amp;O)</translation>
     </message>
+    <message>
+        <source>The change is in the editor now, where it can be saved.</source>
+        <translation>変更はエディターに入り、そこで保存できます。</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1646,6 +1650,10 @@ What do you want to do with your changes?</source>
         <source>every day</source>
         <translation>毎日</translation>
     </message>
+    <message>
+        <source>Task %1, plan %2: %3 → %4</source>
+        <translation>タスク %1、計画 %2：%3 → %4</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryActions</name>
@@ -2119,6 +2127,139 @@ What do you want to do with your changes?</source>
         <source>… and %n more plans.</source>
         <translation>
             <numerusform>…ほか %n 件の計画。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveWords</name>
+    <message>
+        <source>Plan %1: %2, %3 to %4</source>
+        <translation>計画 %1：%2、%3～%4</translation>
+    </message>
+    <message>
+        <source>New plan in task %1: %2, %3 to %4</source>
+        <translation>タスク %1 の新しい計画：%2、%3～%4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>毎日</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are valid on this day; that is the one in effect.</source>
+        <translation>
+            <numerusform>この日に有効なタスクは %n 件で、実際に使われるのはこのタスクです。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its times cannot be read.</source>
+        <translation>時刻を読み取れません。</translation>
+    </message>
+    <message>
+        <source>A plan cannot run over midnight.</source>
+        <translation>計画は日付をまたげません。</translation>
+    </message>
+    <message>
+        <source>A plan has to start before it ends.</source>
+        <translation>計画の開始は終了より前でなければなりません。</translation>
+    </message>
+    <message>
+        <source>Its end follows from its programs; it can only be moved.</source>
+        <translation>終了は番組から決まるため、移動だけができます。</translation>
+    </message>
+    <message>
+        <source>It plays every day.</source>
+        <translation>毎日再生されます。</translation>
+    </message>
+    <message>
+        <source>It plays on that day already.</source>
+        <translation>その日にはすでに再生されます。</translation>
+    </message>
+    <message>
+        <source>Its days cannot be read.</source>
+        <translation>曜日を読み取れません。</translation>
+    </message>
+    <message>
+        <source>Its task is not in effect on that day.</source>
+        <translation>その日にはこの計画のタスクが使われません。</translation>
+    </message>
+    <message>
+        <source>Conflicts with plan %1, %2 to %3.</source>
+        <translation>計画 %1（%2～%3）と重複します。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Conflicts with %n more.</source>
+        <translation>
+            <numerusform>ほかに %n 件と重複します。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>この日に有効なタスクはありません。</translation>
+    </message>
+    <message>
+        <source>These programs cannot be planned here.</source>
+        <translation>これらの番組はここには計画できません。</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1…</source>
+        <comment>a day</comment>
+        <translation>%1の計画をコピー…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekEdits</name>
+    <message>
+        <source>The editor is not ready yet. Please try again.</source>
+        <translation>エディターの準備がまだできていません。もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The schedule has changed meanwhile; nothing was moved.</source>
+        <translation>その間にスケジュールが変わったため、何も移動していません。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CopyDayDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Copy onto these days, whose own plans stay:</source>
+        <translation>次の日にコピーします。その日の計画はそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>%1 (no task is valid)</source>
+        <comment>a day</comment>
+        <translation>%1（有効なタスクなし）</translation>
+    </message>
+    <message>
+        <source>There is no plan on that day.</source>
+        <translation>その日に計画はありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans play on that day. Choose the days to copy them onto.</source>
+        <translation>
+            <numerusform>その日に再生される計画は %n 件です。コピー先の日を選んでください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All of them play on these days already.</source>
+        <translation>これらの日にはすべてすでに再生されます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans are copied.</source>
+        <translation>
+            <numerusform>%n 件の計画をコピーします。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans will conflict then. Nothing is lost by that: change what you want afterwards.</source>
+        <translation>
+            <numerusform>さらに %n 件の計画が重複します。失われるものはないので、あとで変更できます。</numerusform>
         </translation>
     </message>
 </context>

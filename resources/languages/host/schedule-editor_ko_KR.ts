@@ -187,6 +187,10 @@ Close this question to keep editing.</source>
         <source>Catal&amp;og</source>
         <translation>프로그램 목록(&amp;O)</translation>
     </message>
+    <message>
+        <source>The change is in the editor now, where it can be saved.</source>
+        <translation>변경 내용은 이제 편집기에 있으며 거기서 저장할 수 있습니다.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1646,6 +1650,10 @@ What do you want to do with your changes?</source>
         <source>every day</source>
         <translation>매일</translation>
     </message>
+    <message>
+        <source>Task %1, plan %2: %3 → %4</source>
+        <translation>작업 %1, 계획 %2: %3 → %4</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryActions</name>
@@ -2119,6 +2127,139 @@ What do you want to do with your changes?</source>
         <source>… and %n more plans.</source>
         <translation>
             <numerusform>… 외 계획 %n개.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveWords</name>
+    <message>
+        <source>Plan %1: %2, %3 to %4</source>
+        <translation>계획 %1: %2, %3~%4</translation>
+    </message>
+    <message>
+        <source>New plan in task %1: %2, %3 to %4</source>
+        <translation>작업 %1의 새 계획: %2, %3~%4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>매일</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are valid on this day; that is the one in effect.</source>
+        <translation>
+            <numerusform>이날 유효한 작업은 %n개이며, 실제로 적용되는 것은 이 작업입니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its times cannot be read.</source>
+        <translation>시각을 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>A plan cannot run over midnight.</source>
+        <translation>계획은 자정을 넘길 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>A plan has to start before it ends.</source>
+        <translation>계획은 끝나기 전에 시작해야 합니다.</translation>
+    </message>
+    <message>
+        <source>Its end follows from its programs; it can only be moved.</source>
+        <translation>끝은 프로그램에 따라 정해지므로 옮길 수만 있습니다.</translation>
+    </message>
+    <message>
+        <source>It plays every day.</source>
+        <translation>매일 재생됩니다.</translation>
+    </message>
+    <message>
+        <source>It plays on that day already.</source>
+        <translation>그날에는 이미 재생됩니다.</translation>
+    </message>
+    <message>
+        <source>Its days cannot be read.</source>
+        <translation>요일을 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Its task is not in effect on that day.</source>
+        <translation>그날에는 이 계획의 작업이 적용되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Conflicts with plan %1, %2 to %3.</source>
+        <translation>계획 %1(%2~%3)과 충돌합니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Conflicts with %n more.</source>
+        <translation>
+            <numerusform>그 밖에 %n개와 충돌합니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>이날 유효한 작업이 없습니다.</translation>
+    </message>
+    <message>
+        <source>These programs cannot be planned here.</source>
+        <translation>이 프로그램은 여기에 계획할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1…</source>
+        <comment>a day</comment>
+        <translation>%1의 계획 복사…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekEdits</name>
+    <message>
+        <source>The editor is not ready yet. Please try again.</source>
+        <translation>편집기가 아직 준비되지 않았습니다. 다시 시도하세요.</translation>
+    </message>
+    <message>
+        <source>The schedule has changed meanwhile; nothing was moved.</source>
+        <translation>그사이 일정이 바뀌어 아무것도 옮기지 않았습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CopyDayDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Copy onto these days, whose own plans stay:</source>
+        <translation>다음 날에 복사합니다. 그날의 계획은 그대로 남습니다.</translation>
+    </message>
+    <message>
+        <source>%1 (no task is valid)</source>
+        <comment>a day</comment>
+        <translation>%1(유효한 작업 없음)</translation>
+    </message>
+    <message>
+        <source>There is no plan on that day.</source>
+        <translation>그날에는 계획이 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans play on that day. Choose the days to copy them onto.</source>
+        <translation>
+            <numerusform>그날 재생되는 계획은 %n개입니다. 복사할 날을 선택하세요.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All of them play on these days already.</source>
+        <translation>이 날들에는 이미 모두 재생됩니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans are copied.</source>
+        <translation>
+            <numerusform>계획 %n개를 복사합니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans will conflict then. Nothing is lost by that: change what you want afterwards.</source>
+        <translation>
+            <numerusform>계획 %n개가 더 충돌하게 됩니다. 없어지는 것은 없으니 나중에 바꾸면 됩니다.</numerusform>
         </translation>
     </message>
 </context>

@@ -188,6 +188,10 @@ Feche esta pergunta para continuar editando.</translation>
         <source>Catal&amp;og</source>
         <translation>Catálo&amp;go</translation>
     </message>
+    <message>
+        <source>The change is in the editor now, where it can be saved.</source>
+        <translation>A alteração está agora no editor, onde pode ser salva.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1670,6 +1674,10 @@ O que deseja fazer com as alterações?</translation>
         <source>every day</source>
         <translation>todos os dias</translation>
     </message>
+    <message>
+        <source>Task %1, plan %2: %3 → %4</source>
+        <translation>Tarefa %1, plano %2: %3 → %4</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryActions</name>
@@ -2153,6 +2161,144 @@ O que deseja fazer com as alterações?</translation>
         <translation>
             <numerusform>… e mais %n plano.</numerusform>
             <numerusform>… e mais %n planos.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveWords</name>
+    <message>
+        <source>Plan %1: %2, %3 to %4</source>
+        <translation>Plano %1: %2, %3 a %4</translation>
+    </message>
+    <message>
+        <source>New plan in task %1: %2, %3 to %4</source>
+        <translation>Novo plano na tarefa %1: %2, %3 a %4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>todos os dias</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are valid on this day; that is the one in effect.</source>
+        <translation>
+            <numerusform>%n tarefa vale neste dia; é essa que se aplica.</numerusform>
+            <numerusform>%n tarefas valem neste dia; é essa que se aplica.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its times cannot be read.</source>
+        <translation>Não é possível ler seus horários.</translation>
+    </message>
+    <message>
+        <source>A plan cannot run over midnight.</source>
+        <translation>Um plano não pode passar da meia-noite.</translation>
+    </message>
+    <message>
+        <source>A plan has to start before it ends.</source>
+        <translation>Um plano precisa começar antes de terminar.</translation>
+    </message>
+    <message>
+        <source>Its end follows from its programs; it can only be moved.</source>
+        <translation>Seu fim depende dos programas; só é possível movê-lo.</translation>
+    </message>
+    <message>
+        <source>It plays every day.</source>
+        <translation>É exibido todos os dias.</translation>
+    </message>
+    <message>
+        <source>It plays on that day already.</source>
+        <translation>Já é exibido nesse dia.</translation>
+    </message>
+    <message>
+        <source>Its days cannot be read.</source>
+        <translation>Não é possível ler seus dias.</translation>
+    </message>
+    <message>
+        <source>Its task is not in effect on that day.</source>
+        <translation>Sua tarefa não se aplica nesse dia.</translation>
+    </message>
+    <message>
+        <source>Conflicts with plan %1, %2 to %3.</source>
+        <translation>Conflita com o plano %1, %2 a %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Conflicts with %n more.</source>
+        <translation>
+            <numerusform>Conflita com mais %n.</numerusform>
+            <numerusform>Conflita com mais %n.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>Nenhuma tarefa vale neste dia.</translation>
+    </message>
+    <message>
+        <source>These programs cannot be planned here.</source>
+        <translation>Estes programas não podem ser planejados aqui.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1…</source>
+        <comment>a day</comment>
+        <translation>Copiar os planos de %1…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekEdits</name>
+    <message>
+        <source>The editor is not ready yet. Please try again.</source>
+        <translation>O editor ainda não está pronto. Tente novamente.</translation>
+    </message>
+    <message>
+        <source>The schedule has changed meanwhile; nothing was moved.</source>
+        <translation>A programação mudou nesse meio-tempo; nada foi movido.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CopyDayDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Copy onto these days, whose own plans stay:</source>
+        <translation>Copiar para estes dias, que mantêm seus próprios planos:</translation>
+    </message>
+    <message>
+        <source>%1 (no task is valid)</source>
+        <comment>a day</comment>
+        <translation>%1 (nenhuma tarefa vale)</translation>
+    </message>
+    <message>
+        <source>There is no plan on that day.</source>
+        <translation>Não há nenhum plano nesse dia.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans play on that day. Choose the days to copy them onto.</source>
+        <translation>
+            <numerusform>%n plano é exibido nesse dia. Escolha os dias para os quais copiá-lo.</numerusform>
+            <numerusform>%n planos são exibidos nesse dia. Escolha os dias para os quais copiá-los.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All of them play on these days already.</source>
+        <translation>Todos já são exibidos nesses dias.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans are copied.</source>
+        <translation>
+            <numerusform>%n plano é copiado.</numerusform>
+            <numerusform>%n planos são copiados.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans will conflict then. Nothing is lost by that: change what you want afterwards.</source>
+        <translation>
+            <numerusform>Mais %n plano entrará em conflito. Nada se perde: altere depois o que quiser.</numerusform>
+            <numerusform>Mais %n planos entrarão em conflito. Nada se perde: altere depois o que quiser.</numerusform>
         </translation>
     </message>
 </context>

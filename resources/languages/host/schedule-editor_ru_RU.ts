@@ -189,6 +189,10 @@ Close this question to keep editing.</source>
         <source>Catal&amp;og</source>
         <translation>&amp;Каталог</translation>
     </message>
+    <message>
+        <source>The change is in the editor now, where it can be saved.</source>
+        <translation>Изменение теперь в редакторе, где его можно сохранить.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1694,6 +1698,10 @@ What do you want to do with your changes?</source>
         <source>every day</source>
         <translation>каждый день</translation>
     </message>
+    <message>
+        <source>Task %1, plan %2: %3 → %4</source>
+        <translation>Задание %1, план %2: %3 → %4</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryActions</name>
@@ -2187,6 +2195,149 @@ What do you want to do with your changes?</source>
             <numerusform>… и ещё %n план.</numerusform>
             <numerusform>… и ещё %n плана.</numerusform>
             <numerusform>… и ещё %n планов.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveWords</name>
+    <message>
+        <source>Plan %1: %2, %3 to %4</source>
+        <translation>План %1: %2, %3–%4</translation>
+    </message>
+    <message>
+        <source>New plan in task %1: %2, %3 to %4</source>
+        <translation>Новый план в задании %1: %2, %3–%4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>каждый день</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are valid on this day; that is the one in effect.</source>
+        <translation>
+            <numerusform>В этот день действует %n задание; применяется указанное.</numerusform>
+            <numerusform>В этот день действуют %n задания; применяется указанное.</numerusform>
+            <numerusform>В этот день действуют %n заданий; применяется указанное.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its times cannot be read.</source>
+        <translation>Его время не удаётся прочитать.</translation>
+    </message>
+    <message>
+        <source>A plan cannot run over midnight.</source>
+        <translation>План не может переходить через полночь.</translation>
+    </message>
+    <message>
+        <source>A plan has to start before it ends.</source>
+        <translation>План должен начинаться раньше, чем заканчиваться.</translation>
+    </message>
+    <message>
+        <source>Its end follows from its programs; it can only be moved.</source>
+        <translation>Его конец определяется программами; его можно только переместить.</translation>
+    </message>
+    <message>
+        <source>It plays every day.</source>
+        <translation>Он показывается каждый день.</translation>
+    </message>
+    <message>
+        <source>It plays on that day already.</source>
+        <translation>В этот день он уже показывается.</translation>
+    </message>
+    <message>
+        <source>Its days cannot be read.</source>
+        <translation>Его дни не удаётся прочитать.</translation>
+    </message>
+    <message>
+        <source>Its task is not in effect on that day.</source>
+        <translation>В этот день его задание не применяется.</translation>
+    </message>
+    <message>
+        <source>Conflicts with plan %1, %2 to %3.</source>
+        <translation>Пересекается с планом %1, %2–%3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Conflicts with %n more.</source>
+        <translation>
+            <numerusform>Пересекается ещё с %n.</numerusform>
+            <numerusform>Пересекается ещё с %n.</numerusform>
+            <numerusform>Пересекается ещё с %n.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>В этот день не действует ни одно задание.</translation>
+    </message>
+    <message>
+        <source>These programs cannot be planned here.</source>
+        <translation>Эти программы нельзя запланировать здесь.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1…</source>
+        <comment>a day</comment>
+        <translation>Копировать планы за %1…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekEdits</name>
+    <message>
+        <source>The editor is not ready yet. Please try again.</source>
+        <translation>Редактор ещё не готов. Попробуйте снова.</translation>
+    </message>
+    <message>
+        <source>The schedule has changed meanwhile; nothing was moved.</source>
+        <translation>Расписание тем временем изменилось; ничего не перемещено.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CopyDayDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Copy onto these days, whose own plans stay:</source>
+        <translation>Копировать на эти дни; их собственные планы останутся:</translation>
+    </message>
+    <message>
+        <source>%1 (no task is valid)</source>
+        <comment>a day</comment>
+        <translation>%1 (нет действующего задания)</translation>
+    </message>
+    <message>
+        <source>There is no plan on that day.</source>
+        <translation>В этот день нет планов.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans play on that day. Choose the days to copy them onto.</source>
+        <translation>
+            <numerusform>В этот день показывается %n план. Выберите дни, на которые его копировать.</numerusform>
+            <numerusform>В этот день показываются %n плана. Выберите дни, на которые их копировать.</numerusform>
+            <numerusform>В этот день показываются %n планов. Выберите дни, на которые их копировать.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All of them play on these days already.</source>
+        <translation>В эти дни все они уже показываются.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans are copied.</source>
+        <translation>
+            <numerusform>Копируется %n план.</numerusform>
+            <numerusform>Копируются %n плана.</numerusform>
+            <numerusform>Копируются %n планов.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans will conflict then. Nothing is lost by that: change what you want afterwards.</source>
+        <translation>
+            <numerusform>Тогда в конфликте будет ещё %n план. Ничего не потеряется: измените потом, что хотите.</numerusform>
+            <numerusform>Тогда в конфликте будут ещё %n плана. Ничего не потеряется: измените потом, что хотите.</numerusform>
+            <numerusform>Тогда в конфликте будут ещё %n планов. Ничего не потеряется: измените потом, что хотите.</numerusform>
         </translation>
     </message>
 </context>

@@ -187,6 +187,10 @@ Close this question to keep editing.</source>
         <source>Catal&amp;og</source>
         <translation>节目库(&amp;O)</translation>
     </message>
+    <message>
+        <source>The change is in the editor now, where it can be saved.</source>
+        <translation>更改现已在编辑器中，可在那里保存。</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1646,6 +1650,10 @@ What do you want to do with your changes?</source>
         <source>every day</source>
         <translation>每天</translation>
     </message>
+    <message>
+        <source>Task %1, plan %2: %3 → %4</source>
+        <translation>任务 %1，计划 %2：%3 → %4</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryActions</name>
@@ -2119,6 +2127,139 @@ What do you want to do with your changes?</source>
         <source>… and %n more plans.</source>
         <translation>
             <numerusform>……以及另外 %n 个计划。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveWords</name>
+    <message>
+        <source>Plan %1: %2, %3 to %4</source>
+        <translation>计划 %1：%2，%3 至 %4</translation>
+    </message>
+    <message>
+        <source>New plan in task %1: %2, %3 to %4</source>
+        <translation>任务 %1 中的新计划：%2，%3 至 %4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>每天</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are valid on this day; that is the one in effect.</source>
+        <translation>
+            <numerusform>这一天有 %n 个有效任务，实际生效的是该任务。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its times cannot be read.</source>
+        <translation>无法读取其时间。</translation>
+    </message>
+    <message>
+        <source>A plan cannot run over midnight.</source>
+        <translation>计划不能跨越午夜。</translation>
+    </message>
+    <message>
+        <source>A plan has to start before it ends.</source>
+        <translation>计划的开始必须早于结束。</translation>
+    </message>
+    <message>
+        <source>Its end follows from its programs; it can only be moved.</source>
+        <translation>其结束由节目决定，只能移动。</translation>
+    </message>
+    <message>
+        <source>It plays every day.</source>
+        <translation>它每天都播放。</translation>
+    </message>
+    <message>
+        <source>It plays on that day already.</source>
+        <translation>它在那一天已经播放。</translation>
+    </message>
+    <message>
+        <source>Its days cannot be read.</source>
+        <translation>无法读取其日期。</translation>
+    </message>
+    <message>
+        <source>Its task is not in effect on that day.</source>
+        <translation>其任务在那一天不生效。</translation>
+    </message>
+    <message>
+        <source>Conflicts with plan %1, %2 to %3.</source>
+        <translation>与计划 %1（%2 至 %3）冲突。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Conflicts with %n more.</source>
+        <translation>
+            <numerusform>另与 %n 个冲突。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>这一天没有有效的任务。</translation>
+    </message>
+    <message>
+        <source>These programs cannot be planned here.</source>
+        <translation>这些节目不能安排在这里。</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1…</source>
+        <comment>a day</comment>
+        <translation>复制 %1 的计划…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekEdits</name>
+    <message>
+        <source>The editor is not ready yet. Please try again.</source>
+        <translation>编辑器尚未就绪，请重试。</translation>
+    </message>
+    <message>
+        <source>The schedule has changed meanwhile; nothing was moved.</source>
+        <translation>排期在此期间已更改，未移动任何内容。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CopyDayDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Copy onto these days, whose own plans stay:</source>
+        <translation>复制到以下日期，其原有计划保留：</translation>
+    </message>
+    <message>
+        <source>%1 (no task is valid)</source>
+        <comment>a day</comment>
+        <translation>%1（无有效任务）</translation>
+    </message>
+    <message>
+        <source>There is no plan on that day.</source>
+        <translation>那一天没有计划。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans play on that day. Choose the days to copy them onto.</source>
+        <translation>
+            <numerusform>那一天播放 %n 个计划。请选择要复制到的日期。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All of them play on these days already.</source>
+        <translation>它们在这些日期都已播放。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans are copied.</source>
+        <translation>
+            <numerusform>将复制 %n 个计划。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans will conflict then. Nothing is lost by that: change what you want afterwards.</source>
+        <translation>
+            <numerusform>届时将再有 %n 个计划冲突。不会丢失任何内容，之后可随意修改。</numerusform>
         </translation>
     </message>
 </context>

@@ -187,6 +187,10 @@ Close this question to keep editing.</source>
         <source>Catal&amp;og</source>
         <translation>節目庫(&amp;O)</translation>
     </message>
+    <message>
+        <source>The change is in the editor now, where it can be saved.</source>
+        <translation>變更現已在編輯器中，可在那裡儲存。</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::CataloguePanel</name>
@@ -1646,6 +1650,10 @@ What do you want to do with your changes?</source>
         <source>every day</source>
         <translation>每天</translation>
     </message>
+    <message>
+        <source>Task %1, plan %2: %3 → %4</source>
+        <translation>任務 %1，計畫 %2：%3 → %4</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::undo::HistoryActions</name>
@@ -2119,6 +2127,139 @@ What do you want to do with your changes?</source>
         <source>… and %n more plans.</source>
         <translation>
             <numerusform>……以及另外 %n 個計畫。</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MoveWords</name>
+    <message>
+        <source>Plan %1: %2, %3 to %4</source>
+        <translation>計畫 %1：%2，%3 至 %4</translation>
+    </message>
+    <message>
+        <source>New plan in task %1: %2, %3 to %4</source>
+        <translation>任務 %1 中的新計畫：%2，%3 至 %4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>每天</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are valid on this day; that is the one in effect.</source>
+        <translation>
+            <numerusform>這一天有 %n 個有效任務，實際生效的是該任務。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Its times cannot be read.</source>
+        <translation>無法讀取其時間。</translation>
+    </message>
+    <message>
+        <source>A plan cannot run over midnight.</source>
+        <translation>計畫不能跨越午夜。</translation>
+    </message>
+    <message>
+        <source>A plan has to start before it ends.</source>
+        <translation>計畫的開始必須早於結束。</translation>
+    </message>
+    <message>
+        <source>Its end follows from its programs; it can only be moved.</source>
+        <translation>其結束由節目決定，只能移動。</translation>
+    </message>
+    <message>
+        <source>It plays every day.</source>
+        <translation>它每天都播放。</translation>
+    </message>
+    <message>
+        <source>It plays on that day already.</source>
+        <translation>它在那一天已經播放。</translation>
+    </message>
+    <message>
+        <source>Its days cannot be read.</source>
+        <translation>無法讀取其日期。</translation>
+    </message>
+    <message>
+        <source>Its task is not in effect on that day.</source>
+        <translation>其任務在那一天不生效。</translation>
+    </message>
+    <message>
+        <source>Conflicts with plan %1, %2 to %3.</source>
+        <translation>與計畫 %1（%2 至 %3）衝突。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Conflicts with %n more.</source>
+        <translation>
+            <numerusform>另與 %n 個衝突。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task is valid on this day.</source>
+        <translation>這一天沒有有效的任務。</translation>
+    </message>
+    <message>
+        <source>These programs cannot be planned here.</source>
+        <translation>這些節目不能安排在這裡。</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1…</source>
+        <comment>a day</comment>
+        <translation>複製 %1 的計畫…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekEdits</name>
+    <message>
+        <source>The editor is not ready yet. Please try again.</source>
+        <translation>編輯器尚未就緒，請再試一次。</translation>
+    </message>
+    <message>
+        <source>The schedule has changed meanwhile; nothing was moved.</source>
+        <translation>排程在此期間已變更，未移動任何內容。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::CopyDayDialog</name>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Copy onto these days, whose own plans stay:</source>
+        <translation>複製到以下日期，其原有計畫保留：</translation>
+    </message>
+    <message>
+        <source>%1 (no task is valid)</source>
+        <comment>a day</comment>
+        <translation>%1（無有效任務）</translation>
+    </message>
+    <message>
+        <source>There is no plan on that day.</source>
+        <translation>那一天沒有計畫。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans play on that day. Choose the days to copy them onto.</source>
+        <translation>
+            <numerusform>那一天播放 %n 個計畫。請選擇要複製到的日期。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>All of them play on these days already.</source>
+        <translation>它們在這些日期都已播放。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n plans are copied.</source>
+        <translation>
+            <numerusform>將複製 %n 個計畫。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more plans will conflict then. Nothing is lost by that: change what you want afterwards.</source>
+        <translation>
+            <numerusform>屆時將再有 %n 個計畫衝突。不會遺失任何內容，之後可隨意修改。</numerusform>
         </translation>
     </message>
 </context>

@@ -26,6 +26,8 @@
 #include "undo/HistoryActions.h"
 #include "undo/HistoryDock.h"
 #include "week/WeekPage.h"
+#include "week/WeekPanel.h"
+#include "week/moves/WeekEdits.h"
 
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
@@ -151,6 +153,7 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     m_history = new undo::EditHistory(*edited, m_editor, this);
     m_undo = new undo::HistoryActions(*m_menus, *m_history, this);
     m_editor.addActions({m_menus->undo(), m_menus->redo()});
+    allowEdits(*week->panel());
     addPanel(new undo::HistoryDock(*m_history, this), Qt::RightDockWidgetArea);
     // The catalog and what is on screen stand beside the list of changes, not above it.
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
@@ -158,6 +161,20 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     resizeDocks({m_programs, m_nowNext}, {250, 260}, Qt::Horizontal);
     resizeDocks({m_nowNext, preview}, {450, 150}, Qt::Vertical);
     resizeDocks({m_clockChanges}, {56}, Qt::Vertical);
+}
+
+void EditorWindow::allowEdits(week::WeekPanel& panel)
+{
+    auto* edits = new week::WeekEdits(*m_history, m_editor, this);
+    panel.allowEdits(*edits);
+    connect(edits, &week::WeekEdits::refused, this,
+            [this](const QString& why) { statusBar()->showMessage(why); });
+    // The operator goes on in the picture; that the editor has opened is said.
+    connect(edits, &week::WeekEdits::editorShown, this, [this] {
+        raise();
+        activateWindow();
+        statusBar()->showMessage(tr("The change is in the editor now, where it can be saved."));
+    });
 }
 
 void EditorWindow::addPanel(QDockWidget* panel, Qt::DockWidgetArea area)

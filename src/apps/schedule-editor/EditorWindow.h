@@ -16,6 +16,10 @@ class EditHistory;
 class HistoryActions;
 } // namespace undo
 
+namespace week {
+class WeekPanel;
+} // namespace week
+
 class AsRunWindow;
 class CatalogueImport;
 class CataloguePanel;
@@ -77,6 +81,7 @@ protected:
 private:
     void connectMenus();
     void buildPanels(const Languages& languages, const Themes& themes);
+    void allowEdits(week::WeekPanel& panel);
     /// Docks a panel, which becomes a child, and lets the view menu show and hide it.
     void addPanel(QDockWidget* panel, Qt::DockWidgetArea area);
     void retranslate();

@@ -68,6 +68,10 @@ public:
     /// Takes back or does again until so many steps are done.
     void goTo(int steps);
 
+    /// Takes in what is half typed and what has not been told of yet, so that an edit of the host
+    /// is a step of its own. False while nothing can be edited, as with undo().
+    bool settle() { return begin(); }
+
 signals:
     /// Steps have come or gone, or others of them are done.
     void changed();

@@ -20,6 +20,11 @@ QString text(const std::string& utf8)
     return QString::fromStdString(utf8);
 }
 
+QString span(const PlayPlan& plan)
+{
+    return QStringLiteral("%1 – %2").arg(text(plan.startTime), text(plan.endTime));
+}
+
 /// The plan of the field where the task has it; else an empty one.
 PlayPlan planOf(const follow::SharedTask& task, int row)
 {
@@ -91,6 +96,8 @@ QString EditWords::planName(const EditedField& field, const TaskEdit& edit)
     case EditKind::End:
         return change(tr("Task %1, plan %2: end %3 → %4"), text(before.endTime),
                       text(after.endTime));
+    case EditKind::Moved:
+        return change(tr("Task %1, plan %2: %3 → %4"), span(before), span(after));
     default:
         return tr("Task %1, plan %2 edited").arg(task, plan);
     }

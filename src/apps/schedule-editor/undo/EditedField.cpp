@@ -69,7 +69,8 @@ EditKind kindOf(const PlayPlan& before, const PlayPlan& after)
         return EditKind::Mode;
     }
     if (before.startTime != after.startTime) {
-        return EditKind::Start;
+        const bool isMoved = after.mode == TimeMode && before.endTime != after.endTime;
+        return isMoved ? EditKind::Moved : EditKind::Start;
     }
     if (before.weeks != after.weeks) {
         return EditKind::Days;
@@ -123,6 +124,7 @@ bool EditedField::isOneField() const
     case EditKind::Runs:
     case EditKind::EndAction:
     case EditKind::End:
+    case EditKind::Moved:
         return true;
     default:
         return false;

@@ -23,6 +23,7 @@ enum class EditKind {
     EndAction,
     End,
     Carried, ///< What the service carries and nobody sees.
+    Moved,   ///< Both times, as when a block of the week is dragged.
 };
 
 struct EditedField

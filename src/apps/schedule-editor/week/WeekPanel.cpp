@@ -5,6 +5,8 @@
 #include "trelwidgets/PlainToolTip.h"
 #include "week/CalendarPopup.h"
 #include "week/WeekView.h"
+#include "week/moves/CopyDayMenu.h"
+#include "week/moves/WeekMover.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -120,6 +122,23 @@ void WeekPanel::connectControls()
 void WeekPanel::setColours(const look::ThemeColours& colours)
 {
     m_view->setColours(colours);
+    if (m_mover != nullptr) {
+        m_mover->setColours(colours);
+    }
+}
+
+void WeekPanel::allowEdits(EditTarget& target)
+{
+    m_mover = new WeekMover(*m_view, target);
+    m_mover->setColours(m_view->colours());
+    auto* copies = new CopyDayMenu(*m_view, target);
+    const auto follow = [this, copies] {
+        const bool isEdited = m_feed.source() == WeekSource::Edited;
+        m_mover->setEnabled(isEdited);
+        copies->setEnabled(isEdited);
+    };
+    connect(m_source, QOverload<int>::of(&QComboBox::currentIndexChanged), m_mover, follow);
+    follow();
 }
 
 void WeekPanel::setLanguage(const QLocale& locale)

@@ -10,6 +10,8 @@ class QPushButton;
 
 namespace trel::desktop::week {
 
+class EditTarget;
+class WeekMover;
 class WeekView;
 
 /// The picture of a week with its controls: which week, which schedule, how high an hour is.
@@ -25,6 +27,9 @@ public:
     void setColours(const look::ThemeColours& colours);
     /// The language of dates, and the country whose weeks they are.
     void setLanguage(const QLocale& locale);
+    /// Lets the operator move blocks of the schedule as edited. Without this the picture is only
+    /// looked at. To be called once; the target outlives the panel.
+    void allowEdits(EditTarget& target);
 
 signals:
     /// The operator wants to get to a plan, by its id.
@@ -48,6 +53,7 @@ private:
 
     WeekFeed m_feed;
     WeekView* m_view;
+    WeekMover* m_mover = nullptr;
     QPushButton* m_formerMonth;
     QPushButton* m_former;
     QPushButton* m_today;

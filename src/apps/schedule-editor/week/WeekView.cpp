@@ -76,6 +76,7 @@ void WeekView::setSchedule(std::shared_ptr<const WeekSchedule> schedule)
     m_schedule = std::move(schedule);
     layOut(firstDay());
     updateNow();
+    selectAwaited();
 }
 
 void WeekView::setPicture(const WeekPicture& picture)
@@ -87,6 +88,7 @@ void WeekView::setPicture(const WeekPicture& picture)
     m_schedule = picture.schedule;
     m_layout = picture.layout;
     updateNow();
+    selectAwaited();
     emit pictureChanged();
     emit explanationChanged();
 }
@@ -288,6 +290,16 @@ void WeekView::select(const std::optional<BlockRef>& block)
     setAccessibleDescription(description);
     viewport()->update();
     emit explanationChanged();
+}
+
+void WeekView::selectAwaited()
+{
+    if (m_awaited && hit(*m_awaited)) {
+        // What is said of it may be another thing than before.
+        m_selected.reset();
+        select(std::exchange(m_awaited, std::nullopt));
+        m_area->reveal(visualRect(*m_selected));
+    }
 }
 
 void WeekView::step(BlockStep step)

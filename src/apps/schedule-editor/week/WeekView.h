@@ -37,6 +37,7 @@ public:
     /// The same with a week that has been laid out; one that is not shown is laid out here.
     void setPicture(const WeekPicture& picture);
     void setColours(const look::ThemeColours& colours);
+    const look::ThemeColours& colours() const { return m_colours; }
     /// Takes the texts and the order of days from the language again.
     void retranslate();
 
@@ -61,6 +62,13 @@ public:
     QString explanation() const;
     /// Where a block stands in the viewport, from its first piece on; empty when it is not there.
     QRect visualRect(const BlockRef& block) const;
+    /// Where days and hours stand in the whole picture, of which the viewport shows a part.
+    const WeekGeometry& geometryOfWeek() const { return m_area->geometry(); }
+    QPoint offset() const { return m_area->offset(); }
+    /// What stands at a place of the viewport.
+    WeekHit hit(const QPoint& place) const;
+    /// Selects a block of this week as soon as a picture has it, with the next one at the earliest.
+    void selectWhenThere(const BlockRef& block) { m_awaited = block; }
 
 signals:
     /// The operator wants to get to a plan.
@@ -94,11 +102,11 @@ private:
     void repaintAll();
 
     WeekScene scene(const QRect& visible) const;
-    WeekHit hit(const QPoint& place) const;
     /// The first moment of a block; nothing when it does not stand in this week.
     std::optional<WeekHit> hit(const BlockRef& block) const;
 
     void select(const std::optional<BlockRef>& block);
+    void selectAwaited();
     void step(BlockStep step);
     bool activateSelected();
     bool explainSelected();
@@ -115,6 +123,7 @@ private:
     WeekStrip* m_dates;
     WeekStrip* m_hours;
     std::optional<BlockRef> m_selected;
+    std::optional<BlockRef> m_awaited; ///< To be selected.
     bool m_followsNow = true;
 };
 

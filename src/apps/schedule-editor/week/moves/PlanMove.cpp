@@ -1,6 +1,6 @@
 #include "week/moves/PlanMove.h"
 
-#include "service/PlanConflicts.h"
+#include "service/PlanCollisions.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
 
@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <set>
+#include <utility>
 
 using namespace trel::mediadispatch;
 
@@ -193,20 +194,16 @@ void markCollisions(PlayTask& task, const Programs& programs, const NoDurationTe
 std::vector<int> collidingRows(const PlayTask& task, int row, const PlayPlan& plan,
                                const Programs& programs, const NoDurationTest& hasNoDuration)
 {
-    const std::vector<PlanClaim> others = planClaims(task.plans, programs, hasNoDuration);
-    std::vector<PlanClaim> pair = planClaims({plan, PlayPlan()}, programs, hasNoDuration);
-    std::vector<int> rows;
-    for (std::size_t other = 0; other < others.size(); ++other) {
-        if (static_cast<int>(other) == row) {
-            continue;
-        }
-        // Whether two collide does not hang on which of them stands above.
-        pair.back() = others[other];
-        if (collidingClaims(pair).back()) {
-            rows.push_back(static_cast<int>(other));
-        }
+    std::vector<PlanClaim> claims = planClaims(task.plans, programs, hasNoDuration);
+    PlanClaim claim = std::move(planClaims({plan}, programs, hasNoDuration).front());
+    auto place = static_cast<std::size_t>(row);
+    if (row >= 0 && place < claims.size()) {
+        claims[place] = std::move(claim);
+    } else {
+        place = claims.size();
+        claims.push_back(std::move(claim));
     }
-    return rows;
+    return collisionsOf(claims, static_cast<int>(place));
 }
 
 } // namespace trel::desktop::week

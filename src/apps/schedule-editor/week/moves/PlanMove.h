@@ -42,7 +42,8 @@ enum class MoveRefusal {
     EndFollows,   ///< Its length follows from its programs and runs.
     EveryDay,     ///< It plays every day, so that it cannot change one of them.
     HasThatDay,   ///< It plays on that day already.
-    UnknownDays   ///< Its days are not all days of the week.
+    UnknownDays,  ///< Its days are not all days of the week.
+    OtherTask     ///< Another task is in effect there, or none. movedPlan() does not know of it.
 };
 
 struct MovedPlan
