@@ -5,9 +5,11 @@
 #include "ProblemWords.h"
 #include "catalogue/CatalogueFilter.h"
 #include "catalogue/CatalogueOrder.h"
+#include "catalogue/ProgramDelegate.h"
 #include "catalogue/ProgramLookup.h"
 #include "catalogue/ProgramTable.h"
 #include "catalogue/ProgramTableModel.h"
+#include "catalogue/Thumbnails.h"
 #include "catalogue/UseWords.h"
 #include "catalogue/UsesWindow.h"
 #include "service/ProgramUses.h"
@@ -30,6 +32,8 @@ namespace trel::desktop {
 namespace {
 
 constexpr qint32 kStateVersion = 1;
+/// Above and below a picture, in its row.
+constexpr int kAbovePicture = 6;
 
 } // namespace
 
@@ -37,6 +41,7 @@ CataloguePanel::CataloguePanel(EditorMenus& menus, QWidget* parent)
     : QWidget(parent)
     , m_menus(menus)
     , m_programs(new ProgramTableModel(this))
+    , m_pictures(new Thumbnails(this))
     , m_filter(new CatalogueFilter(this))
     , m_table(new ProgramTable(*m_programs, this))
     , m_hint(new QLabel(this))
@@ -73,11 +78,16 @@ void CataloguePanel::buildTable()
     columns->setSectionsMovable(true);
     columns->setSortIndicator(ProgramTableModel::IndexColumn, Qt::AscendingOrder);
     columns->setSortIndicatorShown(true);
-    columns->resizeSection(ProgramTableModel::NameColumn, 160);
+    columns->resizeSection(ProgramTableModel::NameColumn, 190);
     columns->resizeSection(ProgramTableModel::FolderColumn, 110);
     columns->resizeSection(ProgramTableModel::KindColumn, 66);
     columns->resizeSection(ProgramTableModel::LengthColumn, 82);
     columns->resizeSection(ProgramTableModel::IndexColumn, 80);
+    m_table->setItemDelegateForColumn(ProgramTableModel::NameColumn,
+                                      new ProgramDelegate(*m_programs, *m_pictures, m_table));
+    m_table->verticalHeader()->setDefaultSectionSize(Thumbnails::frame().height() + kAbovePicture);
+    connect(m_table, &ProgramTable::sightChanged, this, &CataloguePanel::readPictures);
+    connect(m_pictures, &Thumbnails::ready, m_table->viewport(), qOverload<>(&QWidget::update));
     m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
@@ -119,6 +129,7 @@ void CataloguePanel::connectOrder()
 void CataloguePanel::reload()
 {
     takeUsed();
+    m_pictures->renew();
     m_order->setCatalogue(ScheduleHost::instance().catalogue());
 }
 
@@ -173,6 +184,17 @@ void CataloguePanel::showCurrent()
     } else {
         m_table->scrollToTop();
     }
+}
+
+void CataloguePanel::readPictures()
+{
+    m_pictures->setDotsPerPoint(devicePixelRatioF());
+    const ProgramTable::Sight sight = m_table->sight();
+    std::vector<ProgramIten> programs;
+    for (int row = sight.first; row <= sight.last; ++row) {
+        programs.push_back(m_programs->program(row));
+    }
+    m_pictures->wish(programs);
 }
 
 void CataloguePanel::focusSearch()

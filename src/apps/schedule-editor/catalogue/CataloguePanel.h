@@ -14,6 +14,7 @@ class EditorMenus;
 class ProgramLookup;
 class ProgramTable;
 class ProgramTableModel;
+class Thumbnails;
 class UsesWindow;
 struct LookupAnswer;
 
@@ -59,6 +60,7 @@ private:
     void takeUsed();
     void show(const follow::SharedCatalogue& catalogue, const ProgramRows& rows);
     void showCurrent();
+    void readPictures();
     void enableActions();
     void removeSelected();
     void askRemoval(const LookupAnswer& answer);
@@ -66,6 +68,7 @@ private:
 
     EditorMenus& m_menus;
     ProgramTableModel* m_programs;
+    Thumbnails* m_pictures;
     CatalogueFilter* m_filter;
     ProgramTable* m_table;
     QLabel* m_hint;
