@@ -11,7 +11,9 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStandardItemModel>
+#include <QStatusBar>
 #include <QTableView>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace bench {
@@ -90,7 +92,7 @@ PlainWindow::PlainWindow(int programs)
 void PlainWindow::addMenus()
 {
     const std::initializer_list<std::pair<const char*, int>> menus = {
-        {"&Schedule", 10}, {"&Programs", 3}, {"&View", 7}, {"&Language", 10}};
+        {"&Schedule", 10}, {"&Programs", 3}, {"&View", 8}, {"&Language", 10}};
     for (const auto& [title, actions] : menus) {
         QMenu* menu = menuBar()->addMenu(QLatin1String(title));
         for (int i = 0; i < actions; ++i) {
@@ -133,14 +135,18 @@ void PlainWindow::addPanels(int programs)
 
     QDockWidget* now = addPanel(QStringLiteral("Now and next"), nowNext(), Qt::RightDockWidgetArea);
     QDockWidget* preview = addPanel(QStringLiteral("Preview"), picture, Qt::RightDockWidgetArea);
-    QDockWidget* clocks =
-        addPanel(QStringLiteral("Clock changes"), clockChanges(), Qt::BottomDockWidgetArea);
+    hidden(addPanel(QStringLiteral("Clock changes"), clockChanges(), Qt::BottomDockWidgetArea));
+    QDockWidget* wrong = addPanel(QStringLiteral("Problems"), problems(), Qt::BottomDockWidgetArea);
+    auto* number = new QToolButton(statusBar());
+    number->setText(QStringLiteral("No open problems"));
+    number->setAutoRaise(true);
+    statusBar()->addPermanentWidget(number);
     hidden(addPanel(QStringLiteral("History"), new QListView, Qt::RightDockWidgetArea));
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({list, now}, {250, 260}, Qt::Horizontal);
     resizeDocks({now, preview}, {450, 150}, Qt::Vertical);
-    resizeDocks({clocks}, {56}, Qt::Vertical);
+    resizeDocks({wrong}, {124}, Qt::Vertical);
 }
 
 QDockWidget* PlainWindow::addPanel(const QString& title, QWidget* content, Qt::DockWidgetArea area)
@@ -235,6 +241,30 @@ QWidget* PlainWindow::middle()
     layout->addWidget(week(), 1);
     layout->addLayout(below);
     return page;
+}
+
+QWidget* PlainWindow::problems()
+{
+    auto* panel = new QWidget;
+    auto* table = new QTableView(panel);
+    auto* model = new QStandardItemModel(3, 4, this);
+    table->setModel(model);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setAlternatingRowColors(true);
+    table->setShowGrid(false);
+    table->verticalHeader()->hide();
+    auto* none = hidden(new QLabel(QStringLiteral("No problems."), panel));
+    none->setAlignment(Qt::AlignCenter);
+    auto* buttons = new QVBoxLayout;
+    buttons->addWidget(new QPushButton(QStringLiteral("Go to the row"), panel));
+    buttons->addWidget(new QPushButton(QStringLiteral("Split in two"), panel));
+    buttons->addStretch(1);
+    auto* layout = new QHBoxLayout(panel);
+    layout->setContentsMargins(0, 0, 6, 0);
+    layout->addWidget(table, 1);
+    layout->addWidget(none, 1);
+    layout->addLayout(buttons);
+    return panel;
 }
 
 QWidget* PlainWindow::week()

@@ -23,6 +23,7 @@ private:
     QWidget* middle();
     QWidget* nowNext();
     QWidget* clockChanges();
+    QWidget* problems();
     QWidget* week();
     QDockWidget* addPanel(const QString& title, QWidget* content, Qt::DockWidgetArea area);
 };

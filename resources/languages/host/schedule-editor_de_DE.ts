@@ -912,6 +912,13 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>%1: %2–%3 entfällt; kein Plan von Auftrag %4 ist betroffen.</translation>
     </message>
     <message>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1: %2–%3 gibt es zweimal; kein Plan von Auftrag %4 ist betroffen.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangeText</name>
+    <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
         <translation>%1: %2–%3 entfällt; Plan %4 von Auftrag %5 läuft nicht.</translation>
     </message>
@@ -926,10 +933,6 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
         <translation>%1: %2–%3 entfällt; Plan %4 von Auftrag %5 überspringt diesen Teil seiner Liste.</translation>
-    </message>
-    <message>
-        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
-        <translation>%1: %2–%3 gibt es zweimal; kein Plan von Auftrag %4 ist betroffen.</translation>
     </message>
     <message>
         <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
@@ -1278,6 +1281,213 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <source>%1. Choose a day in a calendar</source>
         <comment>days of a week</comment>
         <translation>%1. Einen Tag im Kalender wählen</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Task %1</source>
+        <translation>Auftrag %1</translation>
+    </message>
+    <message>
+        <source>Task %1, row %2</source>
+        <translation>Auftrag %1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1 from %2 to %3.</source>
+        <translation>Die Gültigkeit überschneidet sich von %2 bis %3 mit der von Auftrag %1.</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1.</source>
+        <translation>Die Gültigkeit überschneidet sich mit der von Auftrag %1.</translation>
+    </message>
+    <message>
+        <source>The task is never valid: “%1” to “%2” is not a period.</source>
+        <translation>Der Auftrag gilt nie: „%1“ bis „%2“ ist kein Zeitraum.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: none of its days falls within the validity of the task.</source>
+        <translation>Plan %1 läuft nie: Keiner seiner Tage liegt in der Gültigkeit des Auftrags.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is never on screen: earlier rows such as row %2 always come first.</source>
+        <translation>Plan %1 ist nie auf dem Bildschirm: Frühere Zeilen wie Zeile %2 haben immer Vorrang.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3 from %4 on.</source>
+        <translation>Plan %1 steht ab %4 im Konflikt mit Plan %2 in Zeile %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3, but on no date.</source>
+        <translation>Plan %1 steht im Konflikt mit Plan %2 in Zeile %3, aber an keinem Datum.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2, every day.</source>
+        <translation>Kein Bild von %1 bis %2, täglich.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2 on: %3.</source>
+        <translation>Kein Bild von %1 bis %2 an: %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it would go on after midnight, until %2.</source>
+        <translation>Plan %1 läuft nie: Er ginge über Mitternacht hinaus bis %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on until %2.</source>
+        <translation>Plan %1 wird um Mitternacht abgeschnitten: Er ginge bis %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on for more than a day.</source>
+        <translation>Plan %1 wird um Mitternacht abgeschnitten: Er ginge mehr als einen Tag weiter.</translation>
+    </message>
+    <message>
+        <source>Invalid entries in plan %1: %2. The first is “%3”.</source>
+        <translation>Ungültige Einträge in Plan %1: %2. Der erste ist „%3“.</translation>
+    </message>
+    <message>
+        <source>Missing files in plan %1: %2. The first is “%3”.</source>
+        <translation>Fehlende Dateien in Plan %1: %2. Die erste ist „%3“.</translation>
+    </message>
+    <message>
+        <source>Entries without a length in plan %1: %2. The first is “%3”.</source>
+        <translation>Einträge ohne Länge in Plan %1: %2. Der erste ist „%3“.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at the end of the day.</source>
+        <translation>In Plan %1 wird „%2“ am Ende des Tages abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at %3, when the plan ends.</source>
+        <translation>In Plan %1 wird „%2“ um %3 abgeschnitten, wenn der Plan endet.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is never reached: an entry before it does not end by itself.</source>
+        <translation>In Plan %1 kommt „%2“ nie an die Reihe: Ein Eintrag davor endet nicht von selbst.</translation>
+    </message>
+    <message>
+        <source>Plan %1 contains no programs.</source>
+        <translation>Plan %1 enthält keine Programme.</translation>
+    </message>
+    <message>
+        <source>Change the dates of one of the two tasks. Until then nothing can be saved.</source>
+        <translation>Ändern Sie die Daten eines der beiden Aufträge. Bis dahin kann nichts gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>Choose a start date, and an end date that is not before it.</source>
+        <translation>Wählen Sie ein Startdatum und ein Enddatum, das nicht davor liegt.</translation>
+    </message>
+    <message>
+        <source>Correct the days and times of the plan.</source>
+        <translation>Korrigieren Sie Tage und Zeiten des Plans.</translation>
+    </message>
+    <message>
+        <source>Change the days or times of one of the plans.</source>
+        <translation>Ändern Sie Tage oder Zeiten eines der Pläne.</translation>
+    </message>
+    <message>
+        <source>Restore the files, or choose other programs.</source>
+        <translation>Stellen Sie die Dateien wieder her, oder wählen Sie andere Programme.</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan anew.</source>
+        <translation>Wählen Sie die Programme des Plans neu.</translation>
+    </message>
+    <message>
+        <source>Split the plan in two, or let it end before midnight.</source>
+        <translation>Teilen Sie den Plan, oder lassen Sie ihn vor Mitternacht enden.</translation>
+    </message>
+    <message>
+        <source>Let the plan end before midnight.</source>
+        <translation>Lassen Sie den Plan vor Mitternacht enden.</translation>
+    </message>
+    <message>
+        <source>Let the plan end later, or play less.</source>
+        <translation>Lassen Sie den Plan später enden, oder nehmen Sie weniger Programme auf.</translation>
+    </message>
+    <message>
+        <source>Move the entry to the front, or into another plan.</source>
+        <translation>Verschieben Sie den Eintrag nach vorn oder in einen anderen Plan.</translation>
+    </message>
+    <message>
+        <source>Add a plan, or let the plan before it end with its last frame.</source>
+        <translation>Fügen Sie einen Plan hinzu, oder lassen Sie das letzte Bild des Plans davor eingefroren.</translation>
+    </message>
+    <message>
+        <source>Move the plan if that is not wanted.</source>
+        <translation>Verschieben Sie den Plan, falls das nicht gewünscht ist.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemModel</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Stelle</translation>
+    </message>
+    <message>
+        <source>As of</source>
+        <translation>Ab</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>Abhilfe</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemPanel</name>
+    <message>
+        <source>No problems.</source>
+        <translation>Keine Probleme.</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>Zur Zeile</translation>
+    </message>
+    <message>
+        <source>Split in two</source>
+        <translation>Teilen</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemDock</name>
+    <message>
+        <source>No open problems</source>
+        <translation>Keine offenen Probleme</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open problems</source>
+        <translation>
+            <numerusform>%n offenes Problem</numerusform>
+            <numerusform>%n offene Probleme</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Pro&amp;blems</source>
+        <translation>&amp;Probleme</translation>
+    </message>
+    <message>
+        <source>Show what is wrong with the schedule</source>
+        <translation>Zeigt, was am Wiedergabeplan nicht stimmt</translation>
     </message>
 </context>
 <context>

@@ -316,4 +316,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::ProblemDock</name>
+    <message numerus="yes">
+        <source>%n open problems</source>
+        <translation>
+            <numerusform>%n open problem</numerusform>
+            <numerusform>%n open problems</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -912,6 +912,13 @@ What do you want to do with your changes?</source>
         <translation>%1: se omite %2–%3; no afecta a ningún plan de la tarea %4.</translation>
     </message>
     <message>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1: %2–%3 se repite; no afecta a ningún plan de la tarea %4.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangeText</name>
+    <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
         <translation>%1: se omite %2–%3; el plan %4 de la tarea %5 no se reproduce.</translation>
     </message>
@@ -926,10 +933,6 @@ What do you want to do with your changes?</source>
     <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
         <translation>%1: se omite %2–%3; el plan %4 de la tarea %5 se salta esta parte de su lista.</translation>
-    </message>
-    <message>
-        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
-        <translation>%1: %2–%3 se repite; no afecta a ningún plan de la tarea %4.</translation>
     </message>
     <message>
         <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
@@ -1278,6 +1281,213 @@ What do you want to do with your changes?</source>
         <source>%1. Choose a day in a calendar</source>
         <comment>days of a week</comment>
         <translation>%1. Elegir un día en un calendario</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Task %1</source>
+        <translation>Tarea %1</translation>
+    </message>
+    <message>
+        <source>Task %1, row %2</source>
+        <translation>Tarea %1, fila %2</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1 from %2 to %3.</source>
+        <translation>La validez se solapa con la de la tarea %1 del %2 al %3.</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1.</source>
+        <translation>La validez se solapa con la de la tarea %1.</translation>
+    </message>
+    <message>
+        <source>The task is never valid: “%1” to “%2” is not a period.</source>
+        <translation>La tarea nunca es válida: «%1» a «%2» no es un periodo.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: none of its days falls within the validity of the task.</source>
+        <translation>El plan %1 nunca se reproduce: ninguno de sus días cae en la validez de la tarea.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is never on screen: earlier rows such as row %2 always come first.</source>
+        <translation>El plan %1 nunca está en pantalla: siempre tienen prioridad filas anteriores como la fila %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3 from %4 on.</source>
+        <translation>El plan %1 está en conflicto con el plan %2 de la fila %3 desde el %4.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3, but on no date.</source>
+        <translation>El plan %1 está en conflicto con el plan %2 de la fila %3, pero en ninguna fecha.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2, every day.</source>
+        <translation>Sin imagen de %1 a %2, todos los días.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2 on: %3.</source>
+        <translation>Sin imagen de %1 a %2: %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it would go on after midnight, until %2.</source>
+        <translation>El plan %1 nunca se reproduce: pasaría de la medianoche, hasta las %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on until %2.</source>
+        <translation>El plan %1 se corta a medianoche: seguiría hasta las %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on for more than a day.</source>
+        <translation>El plan %1 se corta a medianoche: seguiría más de un día.</translation>
+    </message>
+    <message>
+        <source>Invalid entries in plan %1: %2. The first is “%3”.</source>
+        <translation>Entradas no válidas en el plan %1: %2. La primera es «%3».</translation>
+    </message>
+    <message>
+        <source>Missing files in plan %1: %2. The first is “%3”.</source>
+        <translation>Archivos que faltan en el plan %1: %2. El primero es «%3».</translation>
+    </message>
+    <message>
+        <source>Entries without a length in plan %1: %2. The first is “%3”.</source>
+        <translation>Entradas sin duración en el plan %1: %2. La primera es «%3».</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at the end of the day.</source>
+        <translation>En el plan %1, «%2» se corta al final del día.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at %3, when the plan ends.</source>
+        <translation>En el plan %1, «%2» se corta a las %3, cuando termina el plan.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is never reached: an entry before it does not end by itself.</source>
+        <translation>En el plan %1, a «%2» nunca le llega el turno: una entrada anterior no termina por sí sola.</translation>
+    </message>
+    <message>
+        <source>Plan %1 contains no programs.</source>
+        <translation>El plan %1 no contiene programas.</translation>
+    </message>
+    <message>
+        <source>Change the dates of one of the two tasks. Until then nothing can be saved.</source>
+        <translation>Cambie las fechas de una de las dos tareas. Hasta entonces no se puede guardar nada.</translation>
+    </message>
+    <message>
+        <source>Choose a start date, and an end date that is not before it.</source>
+        <translation>Elija una fecha de inicio y una de fin que no sea anterior.</translation>
+    </message>
+    <message>
+        <source>Correct the days and times of the plan.</source>
+        <translation>Corrija los días y las horas del plan.</translation>
+    </message>
+    <message>
+        <source>Change the days or times of one of the plans.</source>
+        <translation>Cambie los días o las horas de uno de los planes.</translation>
+    </message>
+    <message>
+        <source>Restore the files, or choose other programs.</source>
+        <translation>Restaure los archivos o elija otros programas.</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan anew.</source>
+        <translation>Elija de nuevo los programas del plan.</translation>
+    </message>
+    <message>
+        <source>Split the plan in two, or let it end before midnight.</source>
+        <translation>Divida el plan en dos o haga que termine antes de medianoche.</translation>
+    </message>
+    <message>
+        <source>Let the plan end before midnight.</source>
+        <translation>Haga que el plan termine antes de medianoche.</translation>
+    </message>
+    <message>
+        <source>Let the plan end later, or play less.</source>
+        <translation>Haga que el plan termine más tarde o quite programas.</translation>
+    </message>
+    <message>
+        <source>Move the entry to the front, or into another plan.</source>
+        <translation>Mueva la entrada al principio o a otro plan.</translation>
+    </message>
+    <message>
+        <source>Add a plan, or let the plan before it end with its last frame.</source>
+        <translation>Añada un plan o haga que el anterior termine con la imagen congelada.</translation>
+    </message>
+    <message>
+        <source>Move the plan if that is not wanted.</source>
+        <translation>Mueva el plan si no lo desea.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemModel</name>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Advertencia</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Lugar</translation>
+    </message>
+    <message>
+        <source>As of</source>
+        <translation>Desde</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Problema</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>Qué hacer</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemPanel</name>
+    <message>
+        <source>No problems.</source>
+        <translation>Ningún problema.</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>Ir a la fila</translation>
+    </message>
+    <message>
+        <source>Split in two</source>
+        <translation>Dividir en dos</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemDock</name>
+    <message>
+        <source>No open problems</source>
+        <translation>Ningún problema abierto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open problems</source>
+        <translation>
+            <numerusform>%n problema abierto</numerusform>
+            <numerusform>%n problemas abiertos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Problemas</translation>
+    </message>
+    <message>
+        <source>Pro&amp;blems</source>
+        <translation>Pro&amp;blemas</translation>
+    </message>
+    <message>
+        <source>Show what is wrong with the schedule</source>
+        <translation>Mostrar qué falla en la programación</translation>
     </message>
 </context>
 <context>

@@ -912,6 +912,13 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>%1&#xa0;: la plage %2–%3 est sautée&#xa0;; aucun créneau de la tâche %4 n’est concerné.</translation>
     </message>
     <message>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1&#xa0;: la plage %2–%3 a lieu deux fois&#xa0;; aucun créneau de la tâche %4 n’est concerné.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangeText</name>
+    <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
         <translation>%1&#xa0;: la plage %2–%3 est sautée&#xa0;; le créneau %4 de la tâche %5 n’est pas diffusé.</translation>
     </message>
@@ -926,10 +933,6 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
         <translation>%1&#xa0;: la plage %2–%3 est sautée&#xa0;; le créneau %4 de la tâche %5 saute cette partie de sa liste.</translation>
-    </message>
-    <message>
-        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
-        <translation>%1&#xa0;: la plage %2–%3 a lieu deux fois&#xa0;; aucun créneau de la tâche %4 n’est concerné.</translation>
     </message>
     <message>
         <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
@@ -1278,6 +1281,213 @@ Que faire de vos modifications&#xa0;?</translation>
         <source>%1. Choose a day in a calendar</source>
         <comment>days of a week</comment>
         <translation>%1. Choisir un jour dans un calendrier</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Task %1</source>
+        <translation>Tâche %1</translation>
+    </message>
+    <message>
+        <source>Task %1, row %2</source>
+        <translation>Tâche %1, ligne %2</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1 from %2 to %3.</source>
+        <translation>La validité chevauche celle de la tâche %1 du %2 au %3.</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1.</source>
+        <translation>La validité chevauche celle de la tâche %1.</translation>
+    </message>
+    <message>
+        <source>The task is never valid: “%1” to “%2” is not a period.</source>
+        <translation>La tâche n’est jamais valide : « %1 » à « %2 » n’est pas une période.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: none of its days falls within the validity of the task.</source>
+        <translation>Le créneau %1 n’est jamais diffusé : aucun de ses jours ne tombe dans la validité de la tâche.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is never on screen: earlier rows such as row %2 always come first.</source>
+        <translation>Le créneau %1 n’est jamais à l’écran : des lignes précédentes, comme la ligne %2, passent toujours avant.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3 from %4 on.</source>
+        <translation>Le créneau %1 est en conflit avec le créneau %2 de la ligne %3 à partir du %4.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3, but on no date.</source>
+        <translation>Le créneau %1 est en conflit avec le créneau %2 de la ligne %3, mais à aucune date.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2, every day.</source>
+        <translation>Pas d’image de %1 à %2, tous les jours.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2 on: %3.</source>
+        <translation>Pas d’image de %1 à %2 : %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it would go on after midnight, until %2.</source>
+        <translation>Le créneau %1 n’est jamais diffusé : il dépasserait minuit, jusqu’à %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on until %2.</source>
+        <translation>Le créneau %1 est coupé à minuit : il irait jusqu’à %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on for more than a day.</source>
+        <translation>Le créneau %1 est coupé à minuit : il durerait encore plus d’un jour.</translation>
+    </message>
+    <message>
+        <source>Invalid entries in plan %1: %2. The first is “%3”.</source>
+        <translation>Entrées non valides dans le créneau %1 : %2. La première est « %3 ».</translation>
+    </message>
+    <message>
+        <source>Missing files in plan %1: %2. The first is “%3”.</source>
+        <translation>Fichiers manquants dans le créneau %1 : %2. Le premier est « %3 ».</translation>
+    </message>
+    <message>
+        <source>Entries without a length in plan %1: %2. The first is “%3”.</source>
+        <translation>Entrées sans durée dans le créneau %1 : %2. La première est « %3 ».</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at the end of the day.</source>
+        <translation>Dans le créneau %1, « %2 » est coupé à la fin du jour.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at %3, when the plan ends.</source>
+        <translation>Dans le créneau %1, « %2 » est coupé à %3, à la fin du créneau.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is never reached: an entry before it does not end by itself.</source>
+        <translation>Dans le créneau %1, « %2 » n’est jamais atteint : une entrée qui précède ne se termine pas d’elle-même.</translation>
+    </message>
+    <message>
+        <source>Plan %1 contains no programs.</source>
+        <translation>Le créneau %1 ne contient aucun programme.</translation>
+    </message>
+    <message>
+        <source>Change the dates of one of the two tasks. Until then nothing can be saved.</source>
+        <translation>Modifiez les dates de l’une des deux tâches. D’ici là, rien ne peut être enregistré.</translation>
+    </message>
+    <message>
+        <source>Choose a start date, and an end date that is not before it.</source>
+        <translation>Choisissez une date de début et une date de fin qui ne la précède pas.</translation>
+    </message>
+    <message>
+        <source>Correct the days and times of the plan.</source>
+        <translation>Corrigez les jours et les heures du créneau.</translation>
+    </message>
+    <message>
+        <source>Change the days or times of one of the plans.</source>
+        <translation>Modifiez les jours ou les heures de l’un des créneaux.</translation>
+    </message>
+    <message>
+        <source>Restore the files, or choose other programs.</source>
+        <translation>Restaurez les fichiers, ou choisissez d’autres programmes.</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan anew.</source>
+        <translation>Choisissez à nouveau les programmes du créneau.</translation>
+    </message>
+    <message>
+        <source>Split the plan in two, or let it end before midnight.</source>
+        <translation>Divisez le créneau en deux, ou faites-le finir avant minuit.</translation>
+    </message>
+    <message>
+        <source>Let the plan end before midnight.</source>
+        <translation>Faites finir le créneau avant minuit.</translation>
+    </message>
+    <message>
+        <source>Let the plan end later, or play less.</source>
+        <translation>Faites finir le créneau plus tard, ou diffusez moins de programmes.</translation>
+    </message>
+    <message>
+        <source>Move the entry to the front, or into another plan.</source>
+        <translation>Déplacez l’entrée vers le début, ou dans un autre créneau.</translation>
+    </message>
+    <message>
+        <source>Add a plan, or let the plan before it end with its last frame.</source>
+        <translation>Ajoutez un créneau, ou laissez le créneau précédent finir sur une image figée.</translation>
+    </message>
+    <message>
+        <source>Move the plan if that is not wanted.</source>
+        <translation>Déplacez le créneau si cela n’est pas souhaité.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemModel</name>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Remarque</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Emplacement</translation>
+    </message>
+    <message>
+        <source>As of</source>
+        <translation>À partir du</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Problème</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>Que faire</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemPanel</name>
+    <message>
+        <source>No problems.</source>
+        <translation>Aucun problème.</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>Aller à la ligne</translation>
+    </message>
+    <message>
+        <source>Split in two</source>
+        <translation>Diviser en deux</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemDock</name>
+    <message>
+        <source>No open problems</source>
+        <translation>Aucun problème en suspens</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open problems</source>
+        <translation>
+            <numerusform>%n problème en suspens</numerusform>
+            <numerusform>%n problèmes en suspens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Problèmes</translation>
+    </message>
+    <message>
+        <source>Pro&amp;blems</source>
+        <translation>Pro&amp;blèmes</translation>
+    </message>
+    <message>
+        <source>Show what is wrong with the schedule</source>
+        <translation>Afficher ce qui ne va pas dans la programmation</translation>
     </message>
 </context>
 <context>

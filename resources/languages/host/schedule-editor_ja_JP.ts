@@ -891,6 +891,13 @@ What do you want to do with your changes?</source>
         <translation>%1：%2～%3 は飛ばされます。タスク %4 の計画には影響しません。</translation>
     </message>
     <message>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1：%2～%3 は 2 回あります。タスク %4 の計画には影響しません。</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangeText</name>
+    <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
         <translation>%1：%2～%3 は飛ばされます。タスク %5 の計画 %4 は再生されません。</translation>
     </message>
@@ -905,10 +912,6 @@ What do you want to do with your changes?</source>
     <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
         <translation>%1：%2～%3 は飛ばされます。タスク %5 の計画 %4 はリストのこの部分を飛ばします。</translation>
-    </message>
-    <message>
-        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
-        <translation>%1：%2～%3 は 2 回あります。タスク %4 の計画には影響しません。</translation>
     </message>
     <message>
         <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
@@ -1256,6 +1259,212 @@ What do you want to do with your changes?</source>
         <source>%1. Choose a day in a calendar</source>
         <comment>days of a week</comment>
         <translation>%1。カレンダーで日を選択</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Task %1</source>
+        <translation>タスク %1</translation>
+    </message>
+    <message>
+        <source>Task %1, row %2</source>
+        <translation>タスク %1、%2 行目</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1 from %2 to %3.</source>
+        <translation>有効期間が %2～%3 にタスク %1 の有効期間と重なっています。</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1.</source>
+        <translation>有効期間がタスク %1 の有効期間と重なっています。</translation>
+    </message>
+    <message>
+        <source>The task is never valid: “%1” to “%2” is not a period.</source>
+        <translation>タスクは有効になりません。「%1」～「%2」は期間ではありません。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: none of its days falls within the validity of the task.</source>
+        <translation>計画 %1 は再生されません。タスクの有効期間に該当する曜日がありません。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is never on screen: earlier rows such as row %2 always come first.</source>
+        <translation>計画 %1 は画面に出ません。%2 行目など前の行が常に優先されます。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3 from %4 on.</source>
+        <translation>計画 %1 は %4 から %3 行目の計画 %2 と重複しています。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3, but on no date.</source>
+        <translation>計画 %1 は %3 行目の計画 %2 と重複していますが、該当する日付はありません。</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2, every day.</source>
+        <translation>毎日 %1～%2 に画面がありません。</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2 on: %3.</source>
+        <translation>%3 の %1～%2 に画面がありません。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it would go on after midnight, until %2.</source>
+        <translation>計画 %1 は再生されません。午前 0 時を越えて %2 まで続くためです。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on until %2.</source>
+        <translation>計画 %1 は午前 0 時に打ち切られます。本来は %2 まで続きます。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on for more than a day.</source>
+        <translation>計画 %1 は午前 0 時に打ち切られます。本来は 1 日以上続きます。</translation>
+    </message>
+    <message>
+        <source>Invalid entries in plan %1: %2. The first is “%3”.</source>
+        <translation>計画 %1 の無効な項目：%2 件。最初は「%3」です。</translation>
+    </message>
+    <message>
+        <source>Missing files in plan %1: %2. The first is “%3”.</source>
+        <translation>計画 %1 の見つからないファイル：%2 件。最初は「%3」です。</translation>
+    </message>
+    <message>
+        <source>Entries without a length in plan %1: %2. The first is “%3”.</source>
+        <translation>計画 %1 の長さのない項目：%2 件。最初は「%3」です。</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at the end of the day.</source>
+        <translation>計画 %1 では「%2」が一日の終わりに打ち切られます。</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at %3, when the plan ends.</source>
+        <translation>計画 %1 では「%2」が計画の終わる %3 に打ち切られます。</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is never reached: an entry before it does not end by itself.</source>
+        <translation>計画 %1 では「%2」の番になりません。前の項目が自動的に終わらないためです。</translation>
+    </message>
+    <message>
+        <source>Plan %1 contains no programs.</source>
+        <translation>計画 %1 には番組がありません。</translation>
+    </message>
+    <message>
+        <source>Change the dates of one of the two tasks. Until then nothing can be saved.</source>
+        <translation>どちらかのタスクの日付を変更してください。それまで保存できません。</translation>
+    </message>
+    <message>
+        <source>Choose a start date, and an end date that is not before it.</source>
+        <translation>開始日と、それより前でない終了日を選んでください。</translation>
+    </message>
+    <message>
+        <source>Correct the days and times of the plan.</source>
+        <translation>計画の曜日と時刻を直してください。</translation>
+    </message>
+    <message>
+        <source>Change the days or times of one of the plans.</source>
+        <translation>どちらかの計画の曜日か時刻を変更してください。</translation>
+    </message>
+    <message>
+        <source>Restore the files, or choose other programs.</source>
+        <translation>ファイルを元に戻すか、別の番組を選んでください。</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan anew.</source>
+        <translation>計画の番組を選び直してください。</translation>
+    </message>
+    <message>
+        <source>Split the plan in two, or let it end before midnight.</source>
+        <translation>計画を二つに分けるか、午前 0 時までに終わらせてください。</translation>
+    </message>
+    <message>
+        <source>Let the plan end before midnight.</source>
+        <translation>計画を午前 0 時までに終わらせてください。</translation>
+    </message>
+    <message>
+        <source>Let the plan end later, or play less.</source>
+        <translation>計画の終わりを遅くするか、番組を減らしてください。</translation>
+    </message>
+    <message>
+        <source>Move the entry to the front, or into another plan.</source>
+        <translation>その項目を前に移すか、別の計画に移してください。</translation>
+    </message>
+    <message>
+        <source>Add a plan, or let the plan before it end with its last frame.</source>
+        <translation>計画を追加するか、前の計画を最終画面で終わらせてください。</translation>
+    </message>
+    <message>
+        <source>Move the plan if that is not wanted.</source>
+        <translation>望ましくない場合は計画を移してください。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemModel</name>
+    <message>
+        <source>Error</source>
+        <translation>エラー</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>場所</translation>
+    </message>
+    <message>
+        <source>As of</source>
+        <translation>開始日</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>対処</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemPanel</name>
+    <message>
+        <source>No problems.</source>
+        <translation>問題はありません。</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>行へ移動</translation>
+    </message>
+    <message>
+        <source>Split in two</source>
+        <translation>二つに分ける</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemDock</name>
+    <message>
+        <source>No open problems</source>
+        <translation>未解決の問題なし</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open problems</source>
+        <translation>
+            <numerusform>未解決の問題 %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>問題一覧</translation>
+    </message>
+    <message>
+        <source>Pro&amp;blems</source>
+        <translation>問題一覧(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Show what is wrong with the schedule</source>
+        <translation>スケジュールの問題を表示</translation>
     </message>
 </context>
 <context>

@@ -891,6 +891,13 @@ What do you want to do with your changes?</source>
         <translation>%1: %2~%3은(는) 건너뜁니다. 작업 %4의 계획에는 영향이 없습니다.</translation>
     </message>
     <message>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1: %2~%3은(는) 두 번 있습니다. 작업 %4의 계획에는 영향이 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangeText</name>
+    <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
         <translation>%1: %2~%3은(는) 건너뜁니다. 작업 %5의 계획 %4은(는) 재생되지 않습니다.</translation>
     </message>
@@ -905,10 +912,6 @@ What do you want to do with your changes?</source>
     <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
         <translation>%1: %2~%3은(는) 건너뜁니다. 작업 %5의 계획 %4은(는) 목록의 이 부분을 건너뜁니다.</translation>
-    </message>
-    <message>
-        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
-        <translation>%1: %2~%3은(는) 두 번 있습니다. 작업 %4의 계획에는 영향이 없습니다.</translation>
     </message>
     <message>
         <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
@@ -1256,6 +1259,212 @@ What do you want to do with your changes?</source>
         <source>%1. Choose a day in a calendar</source>
         <comment>days of a week</comment>
         <translation>%1. 달력에서 날짜 선택</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Task %1</source>
+        <translation>작업 %1</translation>
+    </message>
+    <message>
+        <source>Task %1, row %2</source>
+        <translation>작업 %1, %2행</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1 from %2 to %3.</source>
+        <translation>유효 기간이 %2부터 %3까지 작업 %1의 유효 기간과 겹칩니다.</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1.</source>
+        <translation>유효 기간이 작업 %1의 유효 기간과 겹칩니다.</translation>
+    </message>
+    <message>
+        <source>The task is never valid: “%1” to “%2” is not a period.</source>
+        <translation>작업이 유효해지지 않습니다. ‘%1’부터 ‘%2’까지는 기간이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: none of its days falls within the validity of the task.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다. 작업의 유효 기간에 해당하는 요일이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is never on screen: earlier rows such as row %2 always come first.</source>
+        <translation>계획 %1은(는) 화면에 나오지 않습니다. %2행과 같은 앞의 행이 항상 우선합니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3 from %4 on.</source>
+        <translation>계획 %1이(가) %4부터 %3행의 계획 %2와(과) 충돌합니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3, but on no date.</source>
+        <translation>계획 %1이(가) %3행의 계획 %2와(과) 충돌하지만 해당하는 날짜는 없습니다.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2, every day.</source>
+        <translation>매일 %1부터 %2까지 화면이 없습니다.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2 on: %3.</source>
+        <translation>%3 %1부터 %2까지 화면이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it would go on after midnight, until %2.</source>
+        <translation>계획 %1은(는) 재생되지 않습니다. 자정을 넘어 %2까지 이어지기 때문입니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on until %2.</source>
+        <translation>계획 %1은(는) 자정에 잘립니다. 원래는 %2까지 이어집니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on for more than a day.</source>
+        <translation>계획 %1은(는) 자정에 잘립니다. 원래는 하루 넘게 이어집니다.</translation>
+    </message>
+    <message>
+        <source>Invalid entries in plan %1: %2. The first is “%3”.</source>
+        <translation>계획 %1의 잘못된 항목은 %2개입니다. 첫 번째는 ‘%3’입니다.</translation>
+    </message>
+    <message>
+        <source>Missing files in plan %1: %2. The first is “%3”.</source>
+        <translation>계획 %1에서 없어진 파일은 %2개입니다. 첫 번째는 ‘%3’입니다.</translation>
+    </message>
+    <message>
+        <source>Entries without a length in plan %1: %2. The first is “%3”.</source>
+        <translation>계획 %1에서 길이가 없는 항목은 %2개입니다. 첫 번째는 ‘%3’입니다.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at the end of the day.</source>
+        <translation>계획 %1에서 ‘%2’이(가) 하루가 끝날 때 잘립니다.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at %3, when the plan ends.</source>
+        <translation>계획 %1에서 ‘%2’이(가) 계획이 끝나는 %3에 잘립니다.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is never reached: an entry before it does not end by itself.</source>
+        <translation>계획 %1에서 ‘%2’은(는) 차례가 오지 않습니다. 앞의 항목이 스스로 끝나지 않기 때문입니다.</translation>
+    </message>
+    <message>
+        <source>Plan %1 contains no programs.</source>
+        <translation>계획 %1에 프로그램이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Change the dates of one of the two tasks. Until then nothing can be saved.</source>
+        <translation>두 작업 중 하나의 날짜를 바꾸세요. 그때까지 저장할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Choose a start date, and an end date that is not before it.</source>
+        <translation>시작 날짜와 그보다 앞서지 않는 종료 날짜를 선택하세요.</translation>
+    </message>
+    <message>
+        <source>Correct the days and times of the plan.</source>
+        <translation>계획의 요일과 시각을 바로잡으세요.</translation>
+    </message>
+    <message>
+        <source>Change the days or times of one of the plans.</source>
+        <translation>계획 중 하나의 요일이나 시각을 바꾸세요.</translation>
+    </message>
+    <message>
+        <source>Restore the files, or choose other programs.</source>
+        <translation>파일을 되돌리거나 다른 프로그램을 선택하세요.</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan anew.</source>
+        <translation>계획의 프로그램을 다시 선택하세요.</translation>
+    </message>
+    <message>
+        <source>Split the plan in two, or let it end before midnight.</source>
+        <translation>계획을 둘로 나누거나 자정 전에 끝나게 하세요.</translation>
+    </message>
+    <message>
+        <source>Let the plan end before midnight.</source>
+        <translation>계획이 자정 전에 끝나게 하세요.</translation>
+    </message>
+    <message>
+        <source>Let the plan end later, or play less.</source>
+        <translation>계획이 더 늦게 끝나게 하거나 프로그램을 줄이세요.</translation>
+    </message>
+    <message>
+        <source>Move the entry to the front, or into another plan.</source>
+        <translation>그 항목을 앞으로 옮기거나 다른 계획으로 옮기세요.</translation>
+    </message>
+    <message>
+        <source>Add a plan, or let the plan before it end with its last frame.</source>
+        <translation>계획을 추가하거나 앞의 계획이 마지막 화면으로 끝나게 하세요.</translation>
+    </message>
+    <message>
+        <source>Move the plan if that is not wanted.</source>
+        <translation>원하지 않으면 계획을 옮기세요.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemModel</name>
+    <message>
+        <source>Error</source>
+        <translation>오류</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>참고</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>위치</translation>
+    </message>
+    <message>
+        <source>As of</source>
+        <translation>시작일</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>문제</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>해결 방법</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemPanel</name>
+    <message>
+        <source>No problems.</source>
+        <translation>문제가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>행으로 이동</translation>
+    </message>
+    <message>
+        <source>Split in two</source>
+        <translation>둘로 나누기</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemDock</name>
+    <message>
+        <source>No open problems</source>
+        <translation>해결할 문제 없음</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open problems</source>
+        <translation>
+            <numerusform>해결할 문제 %n개</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>문제 목록</translation>
+    </message>
+    <message>
+        <source>Pro&amp;blems</source>
+        <translation>문제 목록(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Show what is wrong with the schedule</source>
+        <translation>일정의 문제 보기</translation>
     </message>
 </context>
 <context>

@@ -912,6 +912,13 @@ O que deseja fazer com as alterações?</translation>
         <translation>%1: %2–%3 não existe; nenhum plano da tarefa %4 é afetado.</translation>
     </message>
     <message>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1: %2–%3 ocorre duas vezes; nenhum plano da tarefa %4 é afetado.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangeText</name>
+    <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
         <translation>%1: %2–%3 não existe; o plano %4 da tarefa %5 não é exibido.</translation>
     </message>
@@ -926,10 +933,6 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
         <translation>%1: %2–%3 não existe; o plano %4 da tarefa %5 pula esta parte da lista.</translation>
-    </message>
-    <message>
-        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
-        <translation>%1: %2–%3 ocorre duas vezes; nenhum plano da tarefa %4 é afetado.</translation>
     </message>
     <message>
         <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
@@ -1278,6 +1281,213 @@ O que deseja fazer com as alterações?</translation>
         <source>%1. Choose a day in a calendar</source>
         <comment>days of a week</comment>
         <translation>%1. Escolher um dia em um calendário</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Task %1</source>
+        <translation>Tarefa %1</translation>
+    </message>
+    <message>
+        <source>Task %1, row %2</source>
+        <translation>Tarefa %1, linha %2</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1 from %2 to %3.</source>
+        <translation>A validade se sobrepõe à da tarefa %1 de %2 a %3.</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1.</source>
+        <translation>A validade se sobrepõe à da tarefa %1.</translation>
+    </message>
+    <message>
+        <source>The task is never valid: “%1” to “%2” is not a period.</source>
+        <translation>A tarefa nunca é válida: “%1” a “%2” não é um período.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: none of its days falls within the validity of the task.</source>
+        <translation>O plano %1 nunca é exibido: nenhum dos seus dias cai na validade da tarefa.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is never on screen: earlier rows such as row %2 always come first.</source>
+        <translation>O plano %1 nunca aparece na tela: linhas anteriores, como a linha %2, sempre têm prioridade.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3 from %4 on.</source>
+        <translation>O plano %1 está em conflito com o plano %2 da linha %3 a partir de %4.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3, but on no date.</source>
+        <translation>O plano %1 está em conflito com o plano %2 da linha %3, mas em nenhuma data.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2, every day.</source>
+        <translation>Sem imagem de %1 a %2, todos os dias.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2 on: %3.</source>
+        <translation>Sem imagem de %1 a %2: %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it would go on after midnight, until %2.</source>
+        <translation>O plano %1 nunca é exibido: passaria da meia-noite, até %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on until %2.</source>
+        <translation>O plano %1 é cortado à meia-noite: iria até %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on for more than a day.</source>
+        <translation>O plano %1 é cortado à meia-noite: continuaria por mais de um dia.</translation>
+    </message>
+    <message>
+        <source>Invalid entries in plan %1: %2. The first is “%3”.</source>
+        <translation>Entradas inválidas no plano %1: %2. A primeira é “%3”.</translation>
+    </message>
+    <message>
+        <source>Missing files in plan %1: %2. The first is “%3”.</source>
+        <translation>Arquivos ausentes no plano %1: %2. O primeiro é “%3”.</translation>
+    </message>
+    <message>
+        <source>Entries without a length in plan %1: %2. The first is “%3”.</source>
+        <translation>Entradas sem duração no plano %1: %2. A primeira é “%3”.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at the end of the day.</source>
+        <translation>No plano %1, “%2” é cortado no fim do dia.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at %3, when the plan ends.</source>
+        <translation>No plano %1, “%2” é cortado às %3, quando o plano termina.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is never reached: an entry before it does not end by itself.</source>
+        <translation>No plano %1, nunca se chega a “%2”: uma entrada anterior não termina sozinha.</translation>
+    </message>
+    <message>
+        <source>Plan %1 contains no programs.</source>
+        <translation>O plano %1 não contém programas.</translation>
+    </message>
+    <message>
+        <source>Change the dates of one of the two tasks. Until then nothing can be saved.</source>
+        <translation>Altere as datas de uma das duas tarefas. Até lá, nada pode ser salvo.</translation>
+    </message>
+    <message>
+        <source>Choose a start date, and an end date that is not before it.</source>
+        <translation>Escolha uma data de início e uma de fim que não seja anterior.</translation>
+    </message>
+    <message>
+        <source>Correct the days and times of the plan.</source>
+        <translation>Corrija os dias e horários do plano.</translation>
+    </message>
+    <message>
+        <source>Change the days or times of one of the plans.</source>
+        <translation>Altere os dias ou horários de um dos planos.</translation>
+    </message>
+    <message>
+        <source>Restore the files, or choose other programs.</source>
+        <translation>Restaure os arquivos ou escolha outros programas.</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan anew.</source>
+        <translation>Escolha novamente os programas do plano.</translation>
+    </message>
+    <message>
+        <source>Split the plan in two, or let it end before midnight.</source>
+        <translation>Divida o plano em dois ou faça-o terminar antes da meia-noite.</translation>
+    </message>
+    <message>
+        <source>Let the plan end before midnight.</source>
+        <translation>Faça o plano terminar antes da meia-noite.</translation>
+    </message>
+    <message>
+        <source>Let the plan end later, or play less.</source>
+        <translation>Faça o plano terminar mais tarde ou retire programas.</translation>
+    </message>
+    <message>
+        <source>Move the entry to the front, or into another plan.</source>
+        <translation>Mova a entrada para o início ou para outro plano.</translation>
+    </message>
+    <message>
+        <source>Add a plan, or let the plan before it end with its last frame.</source>
+        <translation>Adicione um plano ou deixe o anterior terminar com a imagem congelada.</translation>
+    </message>
+    <message>
+        <source>Move the plan if that is not wanted.</source>
+        <translation>Mova o plano se isso não for desejado.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemModel</name>
+    <message>
+        <source>Error</source>
+        <translation>Erro</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Observação</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Local</translation>
+    </message>
+    <message>
+        <source>As of</source>
+        <translation>A partir de</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Problema</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>O que fazer</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemPanel</name>
+    <message>
+        <source>No problems.</source>
+        <translation>Nenhum problema.</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>Ir para a linha</translation>
+    </message>
+    <message>
+        <source>Split in two</source>
+        <translation>Dividir em dois</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemDock</name>
+    <message>
+        <source>No open problems</source>
+        <translation>Nenhum problema em aberto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open problems</source>
+        <translation>
+            <numerusform>%n problema em aberto</numerusform>
+            <numerusform>%n problemas em aberto</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Problemas</translation>
+    </message>
+    <message>
+        <source>Pro&amp;blems</source>
+        <translation>Pro&amp;blemas</translation>
+    </message>
+    <message>
+        <source>Show what is wrong with the schedule</source>
+        <translation>Mostrar o que há de errado na programação</translation>
     </message>
 </context>
 <context>

@@ -933,6 +933,13 @@ What do you want to do with your changes?</source>
         <translation>%1: %2–%3 пропускается; планы задания %4 не затронуты.</translation>
     </message>
     <message>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1: %2–%3 наступает дважды; планы задания %4 не затронуты.</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangeText</name>
+    <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
         <translation>%1: %2–%3 пропускается; план %4 задания %5 не показывается.</translation>
     </message>
@@ -947,10 +954,6 @@ What do you want to do with your changes?</source>
     <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
         <translation>%1: %2–%3 пропускается; план %4 задания %5 пропускает эту часть списка.</translation>
-    </message>
-    <message>
-        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
-        <translation>%1: %2–%3 наступает дважды; планы задания %4 не затронуты.</translation>
     </message>
     <message>
         <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
@@ -1300,6 +1303,214 @@ What do you want to do with your changes?</source>
         <source>%1. Choose a day in a calendar</source>
         <comment>days of a week</comment>
         <translation>%1. Выбрать день в календаре</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Task %1</source>
+        <translation>Задание %1</translation>
+    </message>
+    <message>
+        <source>Task %1, row %2</source>
+        <translation>Задание %1, строка %2</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1 from %2 to %3.</source>
+        <translation>Срок действия пересекается со сроком задания %1 с %2 по %3.</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1.</source>
+        <translation>Срок действия пересекается со сроком задания %1.</translation>
+    </message>
+    <message>
+        <source>The task is never valid: “%1” to “%2” is not a period.</source>
+        <translation>Задание никогда не действует: «%1» — «%2» не является сроком.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: none of its days falls within the validity of the task.</source>
+        <translation>План %1 никогда не показывается: ни один из его дней не попадает в срок действия задания.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is never on screen: earlier rows such as row %2 always come first.</source>
+        <translation>План %1 никогда не появляется на экране: предыдущие строки, например строка %2, всегда важнее.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3 from %4 on.</source>
+        <translation>Накладка: план %1 и план %2 в строке %3, начиная с %4.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3, but on no date.</source>
+        <translation>Накладка: план %1 и план %2 в строке %3, но ни на одну дату.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2, every day.</source>
+        <translation>Нет изображения с %1 до %2, ежедневно.</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2 on: %3.</source>
+        <translation>Нет изображения с %1 до %2: %3.</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it would go on after midnight, until %2.</source>
+        <translation>План %1 никогда не показывается: он продолжался бы после полуночи до %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on until %2.</source>
+        <translation>План %1 обрывается в полночь: он продолжался бы до %2.</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on for more than a day.</source>
+        <translation>План %1 обрывается в полночь: он продолжался бы ещё больше суток.</translation>
+    </message>
+    <message>
+        <source>Invalid entries in plan %1: %2. The first is “%3”.</source>
+        <translation>Недействительных записей в плане %1: %2. Первая — «%3».</translation>
+    </message>
+    <message>
+        <source>Missing files in plan %1: %2. The first is “%3”.</source>
+        <translation>Отсутствует файлов в плане %1: %2. Первый — «%3».</translation>
+    </message>
+    <message>
+        <source>Entries without a length in plan %1: %2. The first is “%3”.</source>
+        <translation>Записей без длительности в плане %1: %2. Первая — «%3».</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at the end of the day.</source>
+        <translation>В плане %1 «%2» обрывается в конце дня.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at %3, when the plan ends.</source>
+        <translation>В плане %1 «%2» обрывается в %3, когда план заканчивается.</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is never reached: an entry before it does not end by itself.</source>
+        <translation>В плане %1 до «%2» дело не доходит: одна из предыдущих записей не заканчивается сама.</translation>
+    </message>
+    <message>
+        <source>Plan %1 contains no programs.</source>
+        <translation>План %1 не содержит программ.</translation>
+    </message>
+    <message>
+        <source>Change the dates of one of the two tasks. Until then nothing can be saved.</source>
+        <translation>Измените даты одного из двух заданий. До тех пор ничего нельзя сохранить.</translation>
+    </message>
+    <message>
+        <source>Choose a start date, and an end date that is not before it.</source>
+        <translation>Выберите дату начала и дату окончания не раньше неё.</translation>
+    </message>
+    <message>
+        <source>Correct the days and times of the plan.</source>
+        <translation>Исправьте дни и время плана.</translation>
+    </message>
+    <message>
+        <source>Change the days or times of one of the plans.</source>
+        <translation>Измените дни или время одного из планов.</translation>
+    </message>
+    <message>
+        <source>Restore the files, or choose other programs.</source>
+        <translation>Восстановите файлы или выберите другие программы.</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan anew.</source>
+        <translation>Выберите программы плана заново.</translation>
+    </message>
+    <message>
+        <source>Split the plan in two, or let it end before midnight.</source>
+        <translation>Разделите план надвое или закончите его до полуночи.</translation>
+    </message>
+    <message>
+        <source>Let the plan end before midnight.</source>
+        <translation>Закончите план до полуночи.</translation>
+    </message>
+    <message>
+        <source>Let the plan end later, or play less.</source>
+        <translation>Закончите план позже или уберите часть программ.</translation>
+    </message>
+    <message>
+        <source>Move the entry to the front, or into another plan.</source>
+        <translation>Переместите запись вперёд или в другой план.</translation>
+    </message>
+    <message>
+        <source>Add a plan, or let the plan before it end with its last frame.</source>
+        <translation>Добавьте план или завершите предыдущий стоп-кадром.</translation>
+    </message>
+    <message>
+        <source>Move the plan if that is not wanted.</source>
+        <translation>Переместите план, если это нежелательно.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemModel</name>
+    <message>
+        <source>Error</source>
+        <translation>Ошибка</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>Замечание</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Место</translation>
+    </message>
+    <message>
+        <source>As of</source>
+        <translation>Начиная с</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Что не так</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>Что делать</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemPanel</name>
+    <message>
+        <source>No problems.</source>
+        <translation>Проблем нет.</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>К строке</translation>
+    </message>
+    <message>
+        <source>Split in two</source>
+        <translation>Разделить</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemDock</name>
+    <message>
+        <source>No open problems</source>
+        <translation>Открытых проблем нет</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open problems</source>
+        <translation>
+            <numerusform>%n открытая проблема</numerusform>
+            <numerusform>%n открытые проблемы</numerusform>
+            <numerusform>%n открытых проблем</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Проблемы</translation>
+    </message>
+    <message>
+        <source>Pro&amp;blems</source>
+        <translation>Проб&amp;лемы</translation>
+    </message>
+    <message>
+        <source>Show what is wrong with the schedule</source>
+        <translation>Показать, что не так с расписанием</translation>
     </message>
 </context>
 <context>

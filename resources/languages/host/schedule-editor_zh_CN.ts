@@ -891,6 +891,13 @@ What do you want to do with your changes?</source>
         <translation>%1：%2–%3 被跳过；不影响任务 %4 的计划。</translation>
     </message>
     <message>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1：%2–%3 出现两次；不影响任务 %4 的计划。</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangeText</name>
+    <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
         <translation>%1：%2–%3 被跳过；任务 %5 的计划 %4 不播放。</translation>
     </message>
@@ -905,10 +912,6 @@ What do you want to do with your changes?</source>
     <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
         <translation>%1：%2–%3 被跳过；任务 %5 的计划 %4 跳过列表的这一部分。</translation>
-    </message>
-    <message>
-        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
-        <translation>%1：%2–%3 出现两次；不影响任务 %4 的计划。</translation>
     </message>
     <message>
         <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
@@ -1256,6 +1259,212 @@ What do you want to do with your changes?</source>
         <source>%1. Choose a day in a calendar</source>
         <comment>days of a week</comment>
         <translation>%1。在日历中选择日期</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Task %1</source>
+        <translation>任务 %1</translation>
+    </message>
+    <message>
+        <source>Task %1, row %2</source>
+        <translation>任务 %1，第 %2 行</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1 from %2 to %3.</source>
+        <translation>有效期在 %2 至 %3 与任务 %1 的有效期重叠。</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1.</source>
+        <translation>有效期与任务 %1 的有效期重叠。</translation>
+    </message>
+    <message>
+        <source>The task is never valid: “%1” to “%2” is not a period.</source>
+        <translation>任务始终无效：“%1”至“%2”不是有效的期间。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: none of its days falls within the validity of the task.</source>
+        <translation>计划 %1 不会播放：任务的有效期内没有它的日期。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is never on screen: earlier rows such as row %2 always come first.</source>
+        <translation>计划 %1 从不上屏：前面的行（如第 %2 行）始终优先。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3 from %4 on.</source>
+        <translation>计划 %1 自 %4 起与第 %3 行的计划 %2 冲突。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3, but on no date.</source>
+        <translation>计划 %1 与第 %3 行的计划 %2 冲突，但不涉及任何日期。</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2, every day.</source>
+        <translation>每天 %1 至 %2 没有画面。</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2 on: %3.</source>
+        <translation>%3 的 %1 至 %2 没有画面。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it would go on after midnight, until %2.</source>
+        <translation>计划 %1 不会播放：它会跨过午夜，直到 %2。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on until %2.</source>
+        <translation>计划 %1 在午夜被截断：它会持续到 %2。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on for more than a day.</source>
+        <translation>计划 %1 在午夜被截断：它会持续一天以上。</translation>
+    </message>
+    <message>
+        <source>Invalid entries in plan %1: %2. The first is “%3”.</source>
+        <translation>计划 %1 中的无效条目：%2 个。第一个是“%3”。</translation>
+    </message>
+    <message>
+        <source>Missing files in plan %1: %2. The first is “%3”.</source>
+        <translation>计划 %1 中缺失的文件：%2 个。第一个是“%3”。</translation>
+    </message>
+    <message>
+        <source>Entries without a length in plan %1: %2. The first is “%3”.</source>
+        <translation>计划 %1 中没有时长的条目：%2 个。第一个是“%3”。</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at the end of the day.</source>
+        <translation>计划 %1 中的“%2”在一天结束时被截断。</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at %3, when the plan ends.</source>
+        <translation>计划 %1 中的“%2”在 %3 计划结束时被截断。</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is never reached: an entry before it does not end by itself.</source>
+        <translation>计划 %1 中永远轮不到“%2”：它前面的某个条目不会自行结束。</translation>
+    </message>
+    <message>
+        <source>Plan %1 contains no programs.</source>
+        <translation>计划 %1 不含任何节目。</translation>
+    </message>
+    <message>
+        <source>Change the dates of one of the two tasks. Until then nothing can be saved.</source>
+        <translation>请更改其中一个任务的日期。在此之前无法保存。</translation>
+    </message>
+    <message>
+        <source>Choose a start date, and an end date that is not before it.</source>
+        <translation>请选择开始日期，以及不早于它的结束日期。</translation>
+    </message>
+    <message>
+        <source>Correct the days and times of the plan.</source>
+        <translation>请更正计划的日期和时间。</translation>
+    </message>
+    <message>
+        <source>Change the days or times of one of the plans.</source>
+        <translation>请更改其中一个计划的日期或时间。</translation>
+    </message>
+    <message>
+        <source>Restore the files, or choose other programs.</source>
+        <translation>请恢复文件，或选择其他节目。</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan anew.</source>
+        <translation>请重新选择计划的节目。</translation>
+    </message>
+    <message>
+        <source>Split the plan in two, or let it end before midnight.</source>
+        <translation>请将计划一分为二，或使其在午夜前结束。</translation>
+    </message>
+    <message>
+        <source>Let the plan end before midnight.</source>
+        <translation>请使计划在午夜前结束。</translation>
+    </message>
+    <message>
+        <source>Let the plan end later, or play less.</source>
+        <translation>请使计划晚些结束，或减少节目。</translation>
+    </message>
+    <message>
+        <source>Move the entry to the front, or into another plan.</source>
+        <translation>请将该条目移到前面，或移到另一个计划中。</translation>
+    </message>
+    <message>
+        <source>Add a plan, or let the plan before it end with its last frame.</source>
+        <translation>请添加计划，或让前一个计划以定格画面结束。</translation>
+    </message>
+    <message>
+        <source>Move the plan if that is not wanted.</source>
+        <translation>如果不希望这样，请移动计划。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemModel</name>
+    <message>
+        <source>Error</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>As of</source>
+        <translation>起始日</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>处理方法</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemPanel</name>
+    <message>
+        <source>No problems.</source>
+        <translation>没有问题。</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>转到该行</translation>
+    </message>
+    <message>
+        <source>Split in two</source>
+        <translation>一分为二</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemDock</name>
+    <message>
+        <source>No open problems</source>
+        <translation>没有待解决的问题</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open problems</source>
+        <translation>
+            <numerusform>%n 个待解决的问题</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>问题列表</translation>
+    </message>
+    <message>
+        <source>Pro&amp;blems</source>
+        <translation>问题列表(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Show what is wrong with the schedule</source>
+        <translation>显示排期中的问题</translation>
     </message>
 </context>
 <context>

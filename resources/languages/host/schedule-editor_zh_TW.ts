@@ -891,6 +891,13 @@ What do you want to do with your changes?</source>
         <translation>%1：%2–%3 被跳過；不影響任務 %4 的計畫。</translation>
     </message>
     <message>
+        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
+        <translation>%1：%2–%3 出現兩次；不影響任務 %4 的計畫。</translation>
+    </message>
+</context>
+<context>
+    <name>ClockChangeText</name>
+    <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 does not play.</source>
         <translation>%1：%2–%3 被跳過；任務 %5 的計畫 %4 不播放。</translation>
     </message>
@@ -905,10 +912,6 @@ What do you want to do with your changes?</source>
     <message>
         <source>%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.</source>
         <translation>%1：%2–%3 被跳過；任務 %5 的計畫 %4 跳過清單的這一部分。</translation>
-    </message>
-    <message>
-        <source>%1: %2–%3 occurs twice; no plan of task %4 is affected.</source>
-        <translation>%1：%2–%3 出現兩次；不影響任務 %4 的計畫。</translation>
     </message>
     <message>
         <source>%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.</source>
@@ -1256,6 +1259,212 @@ What do you want to do with your changes?</source>
         <source>%1. Choose a day in a calendar</source>
         <comment>days of a week</comment>
         <translation>%1。在月曆中選擇日期</translation>
+    </message>
+</context>
+<context>
+    <name>ProblemText</name>
+    <message>
+        <source>Task %1</source>
+        <translation>任務 %1</translation>
+    </message>
+    <message>
+        <source>Task %1, row %2</source>
+        <translation>任務 %1，第 %2 列</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1 from %2 to %3.</source>
+        <translation>有效期在 %2 至 %3 與任務 %1 的有效期重疊。</translation>
+    </message>
+    <message>
+        <source>The validity overlaps that of task %1.</source>
+        <translation>有效期與任務 %1 的有效期重疊。</translation>
+    </message>
+    <message>
+        <source>The task is never valid: “%1” to “%2” is not a period.</source>
+        <translation>任務始終無效：「%1」至「%2」不是有效的期間。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: none of its days falls within the validity of the task.</source>
+        <translation>計畫 %1 不會播放：任務的有效期內沒有它的日期。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is never on screen: earlier rows such as row %2 always come first.</source>
+        <translation>計畫 %1 從不上螢幕：前面的列（如第 %2 列）始終優先。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3 from %4 on.</source>
+        <translation>計畫 %1 自 %4 起與第 %3 列的計畫 %2 衝突。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is in conflict with plan %2 in row %3, but on no date.</source>
+        <translation>計畫 %1 與第 %3 列的計畫 %2 衝突，但不涉及任何日期。</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2, every day.</source>
+        <translation>每天 %1 至 %2 沒有畫面。</translation>
+    </message>
+    <message>
+        <source>No picture from %1 to %2 on: %3.</source>
+        <translation>%3 的 %1 至 %2 沒有畫面。</translation>
+    </message>
+    <message>
+        <source>Plan %1 never plays: it would go on after midnight, until %2.</source>
+        <translation>計畫 %1 不會播放：它會跨過午夜，直到 %2。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on until %2.</source>
+        <translation>計畫 %1 在午夜被截斷：它會持續到 %2。</translation>
+    </message>
+    <message>
+        <source>Plan %1 is cut off at midnight: it would go on for more than a day.</source>
+        <translation>計畫 %1 在午夜被截斷：它會持續一天以上。</translation>
+    </message>
+    <message>
+        <source>Invalid entries in plan %1: %2. The first is “%3”.</source>
+        <translation>計畫 %1 中的無效項目：%2 個。第一個是「%3」。</translation>
+    </message>
+    <message>
+        <source>Missing files in plan %1: %2. The first is “%3”.</source>
+        <translation>計畫 %1 中遺失的檔案：%2 個。第一個是「%3」。</translation>
+    </message>
+    <message>
+        <source>Entries without a length in plan %1: %2. The first is “%3”.</source>
+        <translation>計畫 %1 中沒有長度的項目：%2 個。第一個是「%3」。</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at the end of the day.</source>
+        <translation>計畫 %1 中的「%2」在一天結束時被截斷。</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is cut off at %3, when the plan ends.</source>
+        <translation>計畫 %1 中的「%2」在 %3 計畫結束時被截斷。</translation>
+    </message>
+    <message>
+        <source>In plan %1, “%2” is never reached: an entry before it does not end by itself.</source>
+        <translation>計畫 %1 中永遠輪不到「%2」：它前面的某個項目不會自行結束。</translation>
+    </message>
+    <message>
+        <source>Plan %1 contains no programs.</source>
+        <translation>計畫 %1 不含任何節目。</translation>
+    </message>
+    <message>
+        <source>Change the dates of one of the two tasks. Until then nothing can be saved.</source>
+        <translation>請變更其中一個任務的日期。在此之前無法儲存。</translation>
+    </message>
+    <message>
+        <source>Choose a start date, and an end date that is not before it.</source>
+        <translation>請選擇開始日期，以及不早於它的結束日期。</translation>
+    </message>
+    <message>
+        <source>Correct the days and times of the plan.</source>
+        <translation>請更正計畫的日期和時間。</translation>
+    </message>
+    <message>
+        <source>Change the days or times of one of the plans.</source>
+        <translation>請變更其中一個計畫的日期或時間。</translation>
+    </message>
+    <message>
+        <source>Restore the files, or choose other programs.</source>
+        <translation>請還原檔案，或選擇其他節目。</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan anew.</source>
+        <translation>請重新選擇計畫的節目。</translation>
+    </message>
+    <message>
+        <source>Split the plan in two, or let it end before midnight.</source>
+        <translation>請將計畫一分為二，或使其在午夜前結束。</translation>
+    </message>
+    <message>
+        <source>Let the plan end before midnight.</source>
+        <translation>請使計畫在午夜前結束。</translation>
+    </message>
+    <message>
+        <source>Let the plan end later, or play less.</source>
+        <translation>請使計畫晚些結束，或減少節目。</translation>
+    </message>
+    <message>
+        <source>Move the entry to the front, or into another plan.</source>
+        <translation>請將該項目移到前面，或移到另一個計畫中。</translation>
+    </message>
+    <message>
+        <source>Add a plan, or let the plan before it end with its last frame.</source>
+        <translation>請新增計畫，或讓前一個計畫以定格畫面結束。</translation>
+    </message>
+    <message>
+        <source>Move the plan if that is not wanted.</source>
+        <translation>如果不希望這樣，請移動計畫。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemModel</name>
+    <message>
+        <source>Error</source>
+        <translation>錯誤</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>警告</translation>
+    </message>
+    <message>
+        <source>Hint</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>As of</source>
+        <translation>起始日</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>What to do</source>
+        <translation>處理方法</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemPanel</name>
+    <message>
+        <source>No problems.</source>
+        <translation>沒有問題。</translation>
+    </message>
+    <message>
+        <source>Go to the row</source>
+        <translation>前往該列</translation>
+    </message>
+    <message>
+        <source>Split in two</source>
+        <translation>一分為二</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProblemDock</name>
+    <message>
+        <source>No open problems</source>
+        <translation>沒有待解決的問題</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n open problems</source>
+        <translation>
+            <numerusform>%n 個待解決的問題</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>問題清單</translation>
+    </message>
+    <message>
+        <source>Pro&amp;blems</source>
+        <translation>問題清單(&amp;B)</translation>
+    </message>
+    <message>
+        <source>Show what is wrong with the schedule</source>
+        <translation>顯示排程中的問題</translation>
     </message>
 </context>
 <context>

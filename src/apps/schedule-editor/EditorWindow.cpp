@@ -15,6 +15,7 @@
 #include "draft/DraftKeeper.h"
 #include "effect/EffectActions.h"
 #include "follow/EditedSchedule.h"
+#include "problems/ProblemDock.h"
 #include "scheduleControlUI.h"
 #include "screen/NowNextPanel.h"
 #include "screen/PreviewDock.h"
@@ -147,6 +148,10 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     auto* edited = new follow::EditedSchedule(this);
     m_clockChanges->setWidget(new ClockChangePanel(*edited, m_clockChanges));
     addPanel(m_clockChanges, Qt::BottomDockWidgetArea);
+    auto* problems = new ProblemDock(*edited, m_editor, *statusBar(), this);
+    addPanel(problems, Qt::BottomDockWidgetArea);
+    // The problems tell of those changes that touch a plan soon.
+    m_clockChanges->hide();
     auto* week = new week::WeekPage(*edited, languages, themes, this);
     connect(week, &week::WeekPage::activated, this, &EditorWindow::showPlan);
     setCentralWidget(week);
@@ -160,7 +165,7 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({m_programs, m_nowNext}, {250, 260}, Qt::Horizontal);
     resizeDocks({m_nowNext, preview}, {450, 150}, Qt::Vertical);
-    resizeDocks({m_clockChanges}, {56}, Qt::Vertical);
+    resizeDocks({problems}, {124}, Qt::Vertical);
 }
 
 void EditorWindow::allowEdits(week::WeekPanel& panel)

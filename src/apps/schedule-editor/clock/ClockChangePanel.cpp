@@ -1,8 +1,8 @@
 #include "clock/ClockChangePanel.h"
 
 #include "clock/Clock.h"
+#include "common/ClockChangeText.h"
 #include "follow/EditedSchedule.h"
-#include "service/TimeText.h"
 #include "trelwidgets/PlainToolTip.h"
 
 #include <QEvent>
@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <numeric>
 
+using namespace trel::hosts;
 using namespace trel::mediadispatch;
 
 namespace trel::desktop {
@@ -18,14 +19,6 @@ namespace {
 
 /// More than anybody plans for; tasks may last for thousands of years.
 constexpr int kMostChanges = 24;
-
-QString timeOfDay(int second)
-{
-    constexpr int kSecondsPerDay = 86'400;
-    return second == kSecondsPerDay
-               ? QStringLiteral("24:00:00")
-               : QString::fromStdString(timeToText(QTime::fromMSecsSinceStartOfDay(second * 1000)));
-}
 
 /// A sentence for each plan, or one that says that there is none.
 int rowsOf(const TaskClockChange& change)
@@ -140,14 +133,16 @@ void ClockChangePanel::insertSentence(int row, const QString& sentence, bool isF
 
 void ClockChangePanel::insertChange(int row, const TaskClockChange& change)
 {
-    const auto sentence = [&](const QString& text) {
-        return text.arg(locale().toString(change.change.date, QLocale::ShortFormat),
-                        timeOfDay(change.change.begin), timeOfDay(change.change.end));
-    };
+    const QString date = locale().toString(change.change.date, QLocale::ShortFormat);
     for (const TouchedPlan& plan : change.plans) {
-        insertSentence(row++, effect(sentence(wordsFor(plan.effect)), change, plan), false);
+        insertSentence(row++, ClockChangeText::sentence(change.change, change.taskId, plan, date),
+                       false);
     }
     if (change.plans.empty()) {
+        const auto sentence = [&](const QString& text) {
+            return text.arg(date, ClockChangeText::timeOfDay(change.change.begin),
+                            ClockChangeText::timeOfDay(change.change.end));
+        };
         insertSentence(row,
                        sentence(change.change.isLeftOut()
                                     ? tr("%1: %2–%3 is skipped; no plan of task %4 is affected.")
@@ -155,52 +150,6 @@ void ClockChangePanel::insertChange(int row, const TaskClockChange& change)
                            .arg(change.taskId),
                        true);
     }
-}
-
-QString ClockChangePanel::wordsFor(ClockChangeEffect effect)
-{
-    switch (effect) {
-    case ClockChangeEffect::Lost:
-        return tr("%1: %2–%3 is skipped; plan %4 of task %5 does not play.");
-    case ClockChangeEffect::BeginsLate:
-        return tr("%1: %2–%3 is skipped; plan %4 of task %5 starts at %6 in the middle of its "
-                  "list.");
-    case ClockChangeEffect::EndsEarly:
-        return tr("%1: %2–%3 is skipped; plan %4 of task %5 is cut off at %6.");
-    case ClockChangeEffect::Skips:
-        return tr("%1: %2–%3 is skipped; plan %4 of task %5 skips this part of its list.");
-    case ClockChangeEffect::PlaysTwice:
-        return tr("%1: %2–%3 occurs twice; plan %4 of task %5 plays twice.");
-    case ClockChangeEffect::BeginsTwice:
-        return tr("%1: %2–%3 occurs twice; plan %4 of task %5 starts twice at %6.");
-    case ClockChangeEffect::EndsTwice:
-        return tr("%1: %2–%3 occurs twice; plan %4 of task %5 ends twice at %6.");
-    case ClockChangeEffect::RepeatsAPart:
-        break;
-    }
-    return tr("%1: %2–%3 occurs twice; plan %4 of task %5 repeats this part of its list.");
-}
-
-QString ClockChangePanel::effect(const QString& words, const TaskClockChange& change,
-                                 const TouchedPlan& plan)
-{
-    QString sentence = words.arg(plan.planId).arg(change.taskId);
-    switch (plan.effect) {
-    case ClockChangeEffect::BeginsLate:
-        return sentence.arg(timeOfDay(change.change.end));
-    case ClockChangeEffect::EndsEarly:
-        return sentence.arg(timeOfDay(change.change.begin));
-    case ClockChangeEffect::BeginsTwice:
-        return sentence.arg(timeOfDay(plan.begin));
-    case ClockChangeEffect::EndsTwice:
-        return sentence.arg(timeOfDay(plan.end));
-    case ClockChangeEffect::Lost:
-    case ClockChangeEffect::Skips:
-    case ClockChangeEffect::PlaysTwice:
-    case ClockChangeEffect::RepeatsAPart:
-        break;
-    }
-    return sentence;
 }
 
 void ClockChangePanel::showEvent(QShowEvent* event)

@@ -41,11 +41,6 @@ private:
     void fill();
     void insertSentence(int row, const QString& sentence, bool isFaint);
     void insertChange(int row, const trel::mediadispatch::TaskClockChange& change);
-    /// The sentence for an effect, with places for the change (%1 to %3), the plan and its task
-    /// (%4, %5), and where the effect has a time of day, for that (%6).
-    static QString wordsFor(trel::mediadispatch::ClockChangeEffect effect);
-    static QString effect(const QString& words, const trel::mediadispatch::TaskClockChange& change,
-                          const trel::mediadispatch::TouchedPlan& plan);
 
     follow::EditedSchedule& m_edited;
     QMetaObject::Connection m_following;

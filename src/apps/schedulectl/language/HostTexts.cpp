@@ -61,9 +61,9 @@ const std::vector<HostMenu>& hostMenus()
         {QStringLiteral("the menu \"View\""),
          {entry("EditorWindow", "&Now and next"), entry("PreviewDock", "&Preview"),
           entry("PreviewDock", "&Full-screen preview"), entry("EditorWindow", "&Clock changes"),
-          entry("EditorWindow", "Catal&og"), entry("undo::HistoryDock", "&History"),
-          entry("EditorMenus", "&As-run of a day…"), entry("EditorMenus", "&Dark theme"),
-          entry("EditorMenus", "&Light theme")}},
+          entry("ProblemDock", "Pro&blems"), entry("EditorWindow", "Catal&og"),
+          entry("undo::HistoryDock", "&History"), entry("EditorMenus", "&As-run of a day…"),
+          entry("EditorMenus", "&Dark theme"), entry("EditorMenus", "&Light theme")}},
     };
     return menus;
 }

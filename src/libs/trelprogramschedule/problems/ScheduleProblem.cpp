@@ -25,6 +25,7 @@ ProblemGravity gravityOf(const ScheduleProblem& problem)
 {
     switch (problem.kind) {
     case ProblemKind::TasksOverlap:
+        return ProblemGravity::Refusal;
     case ProblemKind::TaskNeverValid:
     case ProblemKind::PlanNeverPlays:
     case ProblemKind::PlanNeverSeen:

@@ -33,7 +33,8 @@ enum class ProblemKind {
 
 /// How grave a problem is. Graver ones come first.
 enum class ProblemGravity {
-    Error,   ///< Something is not shown at all, or a save is refused.
+    Refusal, ///< A save is refused.
+    Error,   ///< Something is not shown at all.
     Warning, ///< Something is not shown whole.
     Note,    ///< To be known; may well be meant.
 };
