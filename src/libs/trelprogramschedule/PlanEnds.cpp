@@ -1,5 +1,6 @@
 #include "PlanEnds.h"
 
+#include "TaskSets.h"
 #include "catalogue/ProgramCatalogue.h"
 #include "service/PlanTiming.h"
 
@@ -43,6 +44,12 @@ bool updatePlanEnds(PlayTask& task, const ProgramCatalogue& catalogue)
         isAnother = updatePlanEnd(plan, catalogue) || isAnother;
     }
     return isAnother;
+}
+
+void bringUpToDate(PlayTask& task, const ProgramCatalogue& catalogue)
+{
+    updatePlanEnds(task, catalogue);
+    markLostEntries(task, [&catalogue](int progIndex) { return catalogue.contains(progIndex); });
 }
 
 } // namespace trel::mediadispatch

@@ -17,4 +17,8 @@ bool updatePlanEnds(PlayTask& task, const ProgramCatalogue& catalogue);
 /// The same for one plan.
 bool updatePlanEnd(PlayPlan& plan, const ProgramCatalogue& catalogue);
 
+/// Takes into a task that was written at some time what follows from the catalogue of now: ends
+/// that follow from lengths, and the marks of entries whose programs have left it.
+void bringUpToDate(PlayTask& task, const ProgramCatalogue& catalogue);
+
 } // namespace trel::mediadispatch

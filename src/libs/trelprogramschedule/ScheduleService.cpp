@@ -364,11 +364,8 @@ StoreResult ScheduleService::readVersion(qint64 number, TaskMap& tasks)
     StoreResult result = m_database.readVersion(number, tasks);
     if (result) {
         // As with every reading of tasks: what follows from the catalogue follows from that of now.
-        const ProgramCatalogue& catalogue = m_state.catalogue;
         for (auto& [id, task] : tasks) {
-            updatePlanEnds(task, catalogue);
-            mediadispatch::markLostEntries(
-                task, [&catalogue](int progIndex) { return catalogue.contains(progIndex); });
+            bringUpToDate(task, m_state.catalogue);
         }
     }
     return result;

@@ -84,15 +84,16 @@ int main()
         &englishSentence, static_cast<QString (*)(const StoreResult&)>(&englishText),
         static_cast<QString (*)(const ScheduleFromJson&)>(&englishText), &exceedsDay, &faultName,
         &faultOfVersionTexts, &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm,
-        &holdsAsInvalid, &insertedPlan, &insertionScope, &isInvalidReadBack,
-        &tessark::trans::isLanguageFile, &joinWeeks, &lastPlanWithId, &listFromRow, &loadedVersion,
-        &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId, &offeredPrograms, &parseWeeks,
-        &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate, &programListText,
-        &programText, &entryText, &differencesOfNote, &programVerdict, &programsInUse,
-        &tessark::trans::readLanguageFile, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
-        &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleDifferences, &scheduleFromJson,
-        &scheduleToJson, &shownAddress, &storeProblemName, &timeFromText, &timeToText, &totalText,
-        &tessark::trans::translate, &usesOf, &weeksOverlap, &writeScheduleFile);
+        &holdsAsInvalid, &lostPrograms, &markLostEntries, &insertedPlan, &insertionScope,
+        &isInvalidReadBack, &tessark::trans::isLanguageFile, &joinWeeks, &lastPlanWithId,
+        &listFromRow, &loadedVersion, &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId,
+        &offeredPrograms, &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate,
+        &programListText, &programText, &entryText, &differencesOfNote, &programVerdict,
+        &programsInUse, &tessark::trans::readLanguageFile, &readPicture, &readScheduleJson,
+        &removeFirstPlanWithId, &runsLessThanOnce, &setMediaReading, &scanMedia,
+        &scheduleDifferences, &scheduleFromJson, &scheduleToJson, &shownAddress, &storeProblemName,
+        &timeFromText, &timeToText, &totalText, &tessark::trans::translate, &usesOf, &weeksOverlap,
+        &writeScheduleFile);
     static_assert(TREL_VERSION >= TREL_VERSION_CHECK(0, 2, 0));
     std::cout << "Version: " << loadedVersion()
               << (std::string(loadedVersion()) == TREL_VERSION_STRING ? ", as compiled\n" : "\n");

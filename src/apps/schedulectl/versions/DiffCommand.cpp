@@ -2,12 +2,13 @@
 
 #include "DifferenceWords.h"
 #include "ScheduleSide.h"
-#include "ScreenComparison.h"
 #include "clock/Clock.h"
 #include "common/DisplayText.h"
 #include "effect/StoredEffectWork.h"
 #include "schedule/ScheduleWords.h"
 #include "text/Console.h"
+#include "trelprogramschedule/dispatch/ScreenDifferences.h"
+#include "trelprogramschedule/dispatch/ScreenTimeline.h"
 
 #include <QJsonArray>
 
@@ -70,11 +71,8 @@ ExitStatus tellDifferences(const Sides& sides, const Database& database,
 /// "task 1, plan 4: News ×2, Weather", or what stays on screen where no plan has it.
 QString stateText(const ScreenState& state, const ScreenReport& words)
 {
-    const bool hasScreen = state.reason == ScreenReason::PlanPlays ||
-                           state.reason == ScreenReason::PlanRanOut ||
-                           state.reason == ScreenReason::PlanHasNothing;
     const PlayPlan* const plan = words.plan(state);
-    if (!hasScreen || plan == nullptr) {
+    if (!hasPlan(state) || plan == nullptr) {
         return words.pictureText(state);
     }
     return QStringLiteral("task %1, plan %2: %3")
@@ -86,8 +84,10 @@ ExitStatus tellOnScreen(const Sides& sides, const Database& database, const Mome
                         Instant from, Instant to, const Invocation& invocation, Console& console)
 {
     const auto programs = database.programs();
+    const ScreenTimeline before(sides.former.tasks, programs, local.zone());
+    const ScreenTimeline after(sides.later.tasks, programs, local.zone());
     const auto differences =
-        screenDifferences(sides.former.tasks, sides.later.tasks, programs, local, from, to);
+        screenDifferences({sides.former.tasks, before}, {sides.later.tasks, after}, from, to);
     const ScreenReport former({sides.former.tasks, programs, local});
     const ScreenReport later({sides.later.tasks, programs, local});
     if (invocation.json) {

@@ -4,11 +4,13 @@
 #include "common/DisplayText.h"
 #include "effect/StoredEffectWork.h"
 #include "schedule/ScheduleReport.h"
+#include "service/InvalidEntries.h"
 #include "text/Console.h"
 
 #include <QStringList>
 
-#include <set>
+#include <map>
+#include <string>
 
 using namespace trel::hosts;
 using namespace trel::mediadispatch;
@@ -20,27 +22,12 @@ namespace {
 constexpr char kDespite[] = "--despite-lost-programs";
 constexpr int kMostNames = 5;
 
-/// The names of programs that entries refer to and that the catalog no longer has.
-QStringList lostPrograms(const std::map<int, PlayTask>& tasks,
-                         const std::map<int, ProgramIten>& programs)
+QString namesText(const std::map<int, std::string>& lost)
 {
     QStringList names;
-    std::set<int> known;
-    for (const auto& [id, task] : tasks) {
-        for (const PlayPlan& plan : task.plans) {
-            for (const struProgInfo& entry : plan.programs) {
-                if (entry.progIndex < kInvalidProgIndex && programs.count(entry.progIndex) == 0 &&
-                    known.insert(entry.progIndex).second) {
-                    names.append(inQuotes(printable(entry.progName)));
-                }
-            }
-        }
+    for (const auto& [index, name] : lost) {
+        names.append(inQuotes(printable(name)));
     }
-    return names;
-}
-
-QString namesText(const QStringList& names)
-{
     const QString shown = QStringList(names.mid(0, kMostNames)).join(QLatin1String(", "));
     return names.size() > kMostNames
                ? QStringLiteral("%1 and %2 more").arg(shown).arg(names.size() - kMostNames)
@@ -56,8 +43,8 @@ ExitStatus carryOut(qint64 number, const Invocation& invocation, const Database&
         status != Done) {
         return status;
     }
-    const QStringList lost = lostPrograms(tasks, database.programs());
-    if (!lost.isEmpty() && !invocation.has(kDespite)) {
+    const std::map<int, std::string> lost = lostPrograms(tasks, database.programs());
+    if (!lost.empty() && !invocation.has(kDespite)) {
         console.tell(QStringLiteral("Version %1 is not restored, for the catalog no longer has %2; "
                                     "with \"%3\" it is, and their entries do not play.")
                          .arg(QString::number(number), namesText(lost), QLatin1String(kDespite)));
@@ -79,7 +66,7 @@ ExitStatus carryOut(qint64 number, const Invocation& invocation, const Database&
         console.writeJson({{QStringLiteral("database"), database.path()},
                            {QStringLiteral("restored"), number},
                            {QStringLiteral("save"), saved},
-                           {QStringLiteral("lostPrograms"), lost.size()}});
+                           {QStringLiteral("lostPrograms"), static_cast<int>(lost.size())}});
     } else {
         console.writeLine(QStringLiteral("Version %1 is saved, as %2: %3.")
                               .arg(QString::number(number), QString::number(saved),

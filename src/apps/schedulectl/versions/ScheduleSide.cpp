@@ -2,32 +2,13 @@
 
 #include "VersionReport.h"
 #include "effect/StoredEffectWork.h"
+#include "service/InvalidEntries.h"
 #include "text/Console.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
-
-#include <algorithm>
 
 using namespace trel::mediadispatch;
 
 namespace trel::console {
-
-namespace {
-
-/// What is in effect was put there before programs left the catalog; all other states have been
-/// read since.
-void markLost(std::map<int, PlayTask>& tasks, const std::map<int, ProgramIten>& programs)
-{
-    for (auto& [id, task] : tasks) {
-        for (PlayPlan& plan : task.plans) {
-            for (struProgInfo& entry : plan.programs) {
-                entry.isInvalid = entry.isInvalid || (entry.progIndex < kInvalidProgIndex &&
-                                                      programs.count(entry.progIndex) == 0);
-            }
-        }
-    }
-}
-
-} // namespace
 
 QString ScheduleSide::text() const
 {
@@ -56,7 +37,8 @@ std::optional<ScheduleSide> readSide(const QString& word, const Database& databa
             return std::nullopt;
         }
         side.tasks = database.host().dispatch().tasks();
-        markLost(side.tasks, database.programs());
+        // It was put there before programs left the catalog; all other states have been read since.
+        markLostEntries(side.tasks, database.programs());
     } else if (tellOutcome(database.host().versionTasks(versionNumber(word).value_or(kNoVersion),
                                                         side.tasks),
                            invocation, console) != Done) {

@@ -8,6 +8,11 @@ namespace {
 
 constexpr int kFirstInvalidReadBack = kInvalidProgIndex - 1;
 
+bool isLost(const struProgInfo& entry, const std::map<int, ProgramIten>& catalogue)
+{
+    return entry.progIndex < kInvalidProgIndex && catalogue.count(entry.progIndex) == 0;
+}
+
 } // namespace
 
 bool buryInvalidEntry(struProgInfo& entry, const std::string& suffix)
@@ -31,6 +36,33 @@ bool holdsAsInvalid(const PlayPlan& plan, int progIndex)
         plan.programs.rbegin(), plan.programs.rend(),
         [progIndex](const struProgInfo& entry) { return entry.progIndex == progIndex; });
     return last != plan.programs.rend() && last->isInvalid;
+}
+
+void markLostEntries(std::map<int, PlayTask>& tasks, const std::map<int, ProgramIten>& catalogue)
+{
+    for (auto& [id, task] : tasks) {
+        for (PlayPlan& plan : task.plans) {
+            for (struProgInfo& entry : plan.programs) {
+                entry.isInvalid = entry.isInvalid || isLost(entry, catalogue);
+            }
+        }
+    }
+}
+
+std::map<int, std::string> lostPrograms(const std::map<int, PlayTask>& tasks,
+                                        const std::map<int, ProgramIten>& catalogue)
+{
+    std::map<int, std::string> lost;
+    for (const auto& [id, task] : tasks) {
+        for (const PlayPlan& plan : task.plans) {
+            for (const struProgInfo& entry : plan.programs) {
+                if (isLost(entry, catalogue)) {
+                    lost.emplace(entry.progIndex, entry.progName);
+                }
+            }
+        }
+    }
+    return lost;
 }
 
 } // namespace trel::mediadispatch

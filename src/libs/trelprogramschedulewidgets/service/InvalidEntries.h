@@ -3,6 +3,7 @@
 #include "schedulecontract_export.h"
 #include "service/ScheduleRecords.h"
 
+#include <map>
 #include <string>
 
 namespace trel::mediadispatch {
@@ -20,5 +21,15 @@ SCHEDULECONTRACT_EXPORT bool isInvalidReadBack(int progIndex, bool programIsNull
 /// Whether the plan holds the program as gone bad. It may stand there several times: its last entry
 /// decides. A program that the plan does not hold is good.
 SCHEDULECONTRACT_EXPORT bool holdsAsInvalid(const PlayPlan& plan, int progIndex);
+
+/// Marks every entry whose program the catalogue does not have as gone bad. One that refers to
+/// nothing in the first place stays as it is.
+SCHEDULECONTRACT_EXPORT void markLostEntries(std::map<int, PlayTask>& tasks,
+                                             const std::map<int, ProgramIten>& catalogue);
+
+/// The programs that entries refer to and that the catalogue does not have, by their indexes, with
+/// the name that the first of those entries remembers.
+SCHEDULECONTRACT_EXPORT std::map<int, std::string>
+lostPrograms(const std::map<int, PlayTask>& tasks, const std::map<int, ProgramIten>& catalogue);
 
 } // namespace trel::mediadispatch

@@ -1,12 +1,10 @@
-#include "ScreenComparison.h"
+#include "ScreenDifferences.h"
 
-#include "trelprogramschedule/dispatch/ScreenTimeline.h"
+#include "ScreenTimeline.h"
 
 #include <algorithm>
 
-using namespace trel::mediadispatch;
-
-namespace trel::console {
+namespace trel::mediadispatch {
 
 namespace {
 
@@ -19,11 +17,9 @@ struct Span
     ScreenState state;
 };
 
-std::vector<Span> spansOf(const Tasks& tasks, const std::map<int, ProgramIten>& programs,
-                          const MomentFormat& local, Instant from, Instant to)
+std::vector<Span> spansOf(const ScreenTimeline& timeline, Instant from, Instant to)
 {
     std::vector<Span> spans;
-    const ScreenTimeline timeline(tasks, programs, local.zone());
     Instant begin = from;
     timeline.visitSpans(from, to, {}, [&](const ScreenState& state) {
         const Instant end = std::min(state.spanUntil, to);
@@ -34,12 +30,6 @@ std::vector<Span> spansOf(const Tasks& tasks, const std::map<int, ProgramIten>& 
         return begin < to;
     });
     return spans;
-}
-
-bool hasScreen(const ScreenState& state)
-{
-    return state.reason == ScreenReason::PlanPlays || state.reason == ScreenReason::PlanRanOut ||
-           state.reason == ScreenReason::PlanHasNothing;
 }
 
 const PlayPlan& planOf(const Tasks& tasks, const ScreenState& state)
@@ -61,10 +51,10 @@ bool playAlike(const PlayPlan& a, const PlayPlan& b)
 bool isSame(const Tasks& former, const ScreenState& before, const Tasks& later,
             const ScreenState& after)
 {
-    if (hasScreen(before) != hasScreen(after)) {
+    if (hasPlan(before) != hasPlan(after)) {
         return false;
     }
-    if (hasScreen(before)) {
+    if (hasPlan(before)) {
         return playAlike(planOf(former, before), planOf(later, after));
     }
     return before.picture == after.picture &&
@@ -74,19 +64,24 @@ bool isSame(const Tasks& former, const ScreenState& before, const Tasks& later,
 
 } // namespace
 
-std::vector<ScreenDifference> screenDifferences(const Tasks& former, const Tasks& later,
-                                                const std::map<int, ProgramIten>& programs,
-                                                const MomentFormat& local, Instant from, Instant to)
+bool hasPlan(const ScreenState& state)
 {
-    const std::vector<Span> before = spansOf(former, programs, local, from, to);
-    const std::vector<Span> after = spansOf(later, programs, local, from, to);
+    return state.reason == ScreenReason::PlanPlays || state.reason == ScreenReason::PlanRanOut ||
+           state.reason == ScreenReason::PlanHasNothing;
+}
+
+std::vector<ScreenDifference> screenDifferences(const ScreenSide& former, const ScreenSide& later,
+                                                Instant from, Instant to)
+{
+    const std::vector<Span> before = spansOf(former.timeline, from, to);
+    const std::vector<Span> after = spansOf(later.timeline, from, to);
     std::vector<ScreenDifference> found;
     auto one = before.begin();
     auto other = after.begin();
     while (one != before.end() && other != after.end()) {
         const Instant begin = std::max(one->from, other->from);
         const Instant end = std::min(one->to, other->to);
-        if (!isSame(former, one->state, later, other->state)) {
+        if (!isSame(former.tasks, one->state, later.tasks, other->state)) {
             found.push_back({begin, end, one->state, other->state});
         }
         // Both may end at once.
@@ -98,4 +93,4 @@ std::vector<ScreenDifference> screenDifferences(const Tasks& former, const Tasks
     return found;
 }
 
-} // namespace trel::console
+} // namespace trel::mediadispatch

@@ -1,0 +1,153 @@
+#include "history/VersionReader.h"
+#include "libs/trelprogramschedule/StoreFixture.h"
+#include "support/RandomEdits.h"
+#include "support/TestProgram.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QtTest>
+
+#include <random>
+#include <thread>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+using Tasks = std::map<int, PlayTask>;
+
+/// In a thread of its own, as a host does.
+template <typename Read>
+StoreResult inAnotherThread(const Read& read)
+{
+    StoreResult result;
+    std::thread([&] { result = read(); }).join();
+    return result;
+}
+
+Tasks read(const QString& path, qint64 number)
+{
+    Tasks tasks;
+    const StoreResult result =
+        inAnotherThread([&] { return VersionReader(path).tasks(number, tasks); });
+    if (!result) {
+        qWarning("%s", qPrintable(englishText(result)));
+    }
+    return tasks;
+}
+
+} // namespace
+
+/// What was saved, read beside the service.
+class tst_VersionReader : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsWhatTheServiceReads();
+    void takesTheCatalogueOfNow();
+    void leavesTheLocksOfTheService();
+    void refusesWhatIsNone();
+};
+
+void tst_VersionReader::readsWhatTheServiceReads()
+{
+    StoreFixture store;
+    std::mt19937 random(20261123);
+    Tasks tasks;
+    for (int save = 0; save < 60; ++save) {
+        editAtRandom(tasks, random);
+        QVERIFY(store.host.replaceSchedule(tasks));
+    }
+    std::vector<ScheduleVersion> versions;
+    QVERIFY(inAnotherThread([&] { return VersionReader(store.path).versions(versions); }));
+    std::vector<ScheduleVersion> expected;
+    QVERIFY(store.host.versions(expected));
+    QCOMPARE(versions.size(), expected.size());
+    QVERIFY(versions.size() > 20);
+    for (std::size_t i = 0; i < versions.size(); ++i) {
+        QCOMPARE(versions[i].number, expected[i].number);
+        QCOMPARE(versions[i].bytes, expected[i].bytes);
+        Tasks version;
+        QVERIFY(store.host.versionTasks(versions[i].number, version));
+        QVERIFY2(read(store.path, versions[i].number) == version,
+                 qPrintable(QString::number(versions[i].number)));
+    }
+    QVERIFY(read(store.path, kNoVersion) == read(store.path, versions.front().number));
+}
+
+void tst_VersionReader::takesTheCatalogueOfNow()
+{
+    StoreFixture store;
+    MediaSource source = samplePrograms(1).front();
+    QVERIFY(store.host.addPrograms({source}).store);
+    PlayPlan plan = samplePlan(1, 1);
+    plan.mode = FrequencyMode;
+    plan.startTime = "08:00:00";
+    plan.times = 2;
+    PlayTask task;
+    task.id = 1;
+    task.plans = {plan};
+    QVERIFY(store.host.replaceSchedule({{1, task}}));
+    QVERIFY(!read(store.path, 1).at(1).plans[0].programs[0].isInvalid);
+    QVERIFY(store.host.removeProgram(1));
+    const Tasks later = read(store.path, 1);
+    QVERIFY(later.at(1).plans[0].programs[0].isInvalid);
+    Tasks expected;
+    QVERIFY(store.host.versionTasks(1, expected));
+    QVERIFY(later == expected);
+    QVERIFY(read(store.path, kNoVersion) == expected);
+}
+
+/// A file that is closed by a process loses all locks of it. What the service holds has to stay, or
+/// another program could take the log away under it.
+void tst_VersionReader::leavesTheLocksOfTheService()
+{
+    StoreFixture store;
+    store.save(sampleSchedule(2, 1, 1));
+    const auto locks = [] {
+        // Those of this process on the file and on what stands beside it.
+        QFile table(QStringLiteral("/proc/locks"));
+        int count = 0;
+        if (table.open(QIODevice::ReadOnly)) {
+            const QByteArray own =
+                ' ' + QByteArray::number(QCoreApplication::applicationPid()) + ' ';
+            const QList<QByteArray> lines = table.readAll().split('\n');
+            for (const QByteArray& line : lines) {
+                count += line.contains(own) ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    const int before = locks();
+    QVERIFY(before > 0);
+    QVERIFY(!read(store.path, 1).empty());
+    QCOMPARE(locks(), before);
+    QVERIFY(store.host.replaceSchedule(sampleSchedule(3, 1, 1)));
+    QCOMPARE(read(store.path, kNoVersion).size(), std::size_t(3));
+}
+
+void tst_VersionReader::refusesWhatIsNone()
+{
+    StoreFixture store;
+    store.save(sampleSchedule(2, 1, 1));
+    Tasks tasks = {{9, PlayTask()}};
+    StoreResult result = VersionReader(store.path).tasks(7, tasks);
+    QCOMPARE(int(result.cause.code), int(FaultCode::VersionUnknown));
+    // What was there stays.
+    QCOMPARE(tasks.size(), std::size_t(1));
+    std::vector<ScheduleVersion> versions;
+    QVERIFY(!VersionReader(store.folder.filePath(QStringLiteral("none.db"))).versions(versions));
+    QVERIFY(!QFile::exists(store.folder.filePath(QStringLiteral("none.db"))));
+    // Another database at the place is told apart.
+    QFile other(store.folder.filePath(QStringLiteral("other.db")));
+    QVERIFY(other.open(QIODevice::WriteOnly));
+    other.write(QByteArray(8192, 'x'));
+    other.close();
+    result = VersionReader(other.fileName()).tasks(kNoVersion, tasks);
+    QVERIFY(!result);
+    QCOMPARE(tasks.size(), std::size_t(1));
+}
+
+TREL_TEST(tst_VersionReader, QCoreApplication)
+#include "tst_VersionReader.moc"
