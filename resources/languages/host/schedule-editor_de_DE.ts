@@ -94,6 +94,10 @@
         <source>&amp;Where used…</source>
         <translation>&amp;Wo verwendet…</translation>
     </message>
+    <message>
+        <source>&amp;Versions…</source>
+        <translation>Vers&amp;ionen…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2510,6 +2514,275 @@ Was soll mit Ihren Änderungen geschehen?</translation>
             <numerusform>%n weiterer Plan hat dann einen Konflikt. Dabei geht nichts verloren: Ändern Sie danach, was Sie wollen.</numerusform>
             <numerusform>%n weitere Pläne haben dann einen Konflikt. Dabei geht nichts verloren: Ändern Sie danach, was Sie wollen.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>VersionWords</name>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>What is in effect</source>
+        <translation>In Kraft</translation>
+    </message>
+    <message>
+        <source>What is saved</source>
+        <translation>Gespeicherter Stand</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>nicht bekannt</translation>
+    </message>
+    <message>
+        <source>new: %1</source>
+        <translation>neu: %1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>geändert: %1</translation>
+    </message>
+    <message>
+        <source>deleted: %1</source>
+        <translation>gelöscht: %1</translation>
+    </message>
+    <message>
+        <source>nothing of note</source>
+        <translation>nichts von Belang</translation>
+    </message>
+    <message>
+        <source>%1 (tasks %2)</source>
+        <comment>what a save changed, and in which tasks</comment>
+        <translation>%1 (Aufträge %2)</translation>
+    </message>
+    <message>
+        <source>version %1 restored: %2</source>
+        <translation>Version %1 wiederhergestellt: %2</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>Kein Unterschied.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n differences</source>
+        <translation>
+            <numerusform>%n Unterschied</numerusform>
+            <numerusform>%n Unterschiede</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restore version %1? What is saved now stays as a version, so that it can be restored in turn.</source>
+        <translation>Version %1 wiederherstellen? Der jetzt gespeicherte Stand bleibt als Version erhalten und kann seinerseits wiederhergestellt werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of its programs are no longer in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n ihrer Programme ist nicht mehr im Katalog. Seine Einträge werden ungültig: %1</numerusform>
+            <numerusform>%n ihrer Programme sind nicht mehr im Katalog. Ihre Einträge werden ungültig: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The schedule in the editor has changes that are not saved.</source>
+        <translation>Der Wiedergabeplan im Editor enthält Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2</source>
+        <comment>a version, and when it was saved</comment>
+        <translation>Version %1 – %2</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2 – %3</source>
+        <comment>a version, when it was saved, and its name</comment>
+        <translation>Version %1 – %2 – %3</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionModel</name>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::DifferenceModel</name>
+    <message>
+        <source>Task</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Unterschied</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::StretchModel</name>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::WeekPair</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>Wird verglichen…</translation>
+    </message>
+    <message>
+        <source>Nothing differs on the screen in this week.</source>
+        <translation>In dieser Woche gibt es auf dem Bildschirm keinen Unterschied.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stretches of this week differ on the screen:</source>
+        <translation>
+            <numerusform>%n Abschnitt dieser Woche unterscheidet sich auf dem Bildschirm:</numerusform>
+            <numerusform>%n Abschnitte dieser Woche unterscheiden sich auf dem Bildschirm:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <translation>Diese Woche</translation>
+    </message>
+    <message>
+        <source>Previous week</source>
+        <translation>Vorherige Woche</translation>
+    </message>
+    <message>
+        <source>Next week</source>
+        <translation>Folgende Woche</translation>
+    </message>
+    <message>
+        <source>What differs on the screen</source>
+        <translation>Unterschiede auf dem Bildschirm</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::ComparisonPanel</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>Wird verglichen…</translation>
+    </message>
+    <message>
+        <source>Nothing is in effect.</source>
+        <translation>Nichts ist in Kraft.</translation>
+    </message>
+    <message>
+        <source>%1 → %2: %3</source>
+        <comment>two states, and how much differs</comment>
+        <translation>%1 → %2: %3</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>In Worten</translation>
+    </message>
+    <message>
+        <source>On the screen</source>
+        <translation>Auf dem Bildschirm</translation>
+    </message>
+    <message>
+        <source>What differs</source>
+        <translation>Unterschiede</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionsWindow</name>
+    <message>
+        <source>Versions</source>
+        <translation>Versionen</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen…</translation>
+    </message>
+    <message>
+        <source>No versions are kept yet.</source>
+        <translation>Es gibt noch keine Versionen.</translation>
+    </message>
+    <message>
+        <source>Name and note…</source>
+        <translation>Name und Notiz…</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>Wiederherstellen…</translation>
+    </message>
+    <message>
+        <source>Write to a file…</source>
+        <translation>In Datei speichern…</translation>
+    </message>
+    <message>
+        <source>Compared with</source>
+        <translation>Verglichen mit</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>Andersherum</translation>
+    </message>
+    <message>
+        <source>Write the version to a file</source>
+        <translation>Version in einer Datei speichern</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>Wiedergabepläne (*.json)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>In %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>Save, then restore</source>
+        <translation>Speichern, dann wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Restore without saving</source>
+        <translation>Ohne Speichern wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 </TS>

@@ -326,4 +326,31 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>VersionWords</name>
+    <message numerus="yes">
+        <source>%n differences</source>
+        <translation>
+            <numerusform>%n difference</numerusform>
+            <numerusform>%n differences</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of its programs are no longer in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n of its programs is no longer in the catalog. Its entries will be invalid: %1</numerusform>
+            <numerusform>%n of its programs are no longer in the catalog. Their entries will be invalid: %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::WeekPair</name>
+    <message numerus="yes">
+        <source>%n stretches of this week differ on the screen:</source>
+        <translation>
+            <numerusform>%n stretch of this week differs on the screen:</numerusform>
+            <numerusform>%n stretches of this week differ on the screen:</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

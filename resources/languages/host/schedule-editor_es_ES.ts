@@ -94,6 +94,10 @@
         <source>&amp;Where used…</source>
         <translation>&amp;Dónde se usa…</translation>
     </message>
+    <message>
+        <source>&amp;Versions…</source>
+        <translation>&amp;Versiones…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2510,6 +2514,275 @@ What do you want to do with your changes?</source>
             <numerusform>Entonces %n plan más estará en conflicto. No se pierde nada: cambie después lo que quiera.</numerusform>
             <numerusform>Entonces %n planes más estarán en conflicto. No se pierde nada: cambie después lo que quiera.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>VersionWords</name>
+    <message>
+        <source>Version %1</source>
+        <translation>Versión %1</translation>
+    </message>
+    <message>
+        <source>What is in effect</source>
+        <translation>En vigor</translation>
+    </message>
+    <message>
+        <source>What is saved</source>
+        <translation>Lo guardado</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>no se sabe</translation>
+    </message>
+    <message>
+        <source>new: %1</source>
+        <translation>nuevas: %1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>modificadas: %1</translation>
+    </message>
+    <message>
+        <source>deleted: %1</source>
+        <translation>eliminadas: %1</translation>
+    </message>
+    <message>
+        <source>nothing of note</source>
+        <translation>nada relevante</translation>
+    </message>
+    <message>
+        <source>%1 (tasks %2)</source>
+        <comment>what a save changed, and in which tasks</comment>
+        <translation>%1 (tareas %2)</translation>
+    </message>
+    <message>
+        <source>version %1 restored: %2</source>
+        <translation>versión %1 restaurada: %2</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>No hay diferencias.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n differences</source>
+        <translation>
+            <numerusform>%n diferencia</numerusform>
+            <numerusform>%n diferencias</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restore version %1? What is saved now stays as a version, so that it can be restored in turn.</source>
+        <translation>¿Restaurar la versión %1? Lo guardado ahora queda como versión y se puede restaurar a su vez.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of its programs are no longer in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n de sus programas ya no está en el catálogo. Sus entradas dejarán de ser válidas: %1</numerusform>
+            <numerusform>%n de sus programas ya no están en el catálogo. Sus entradas dejarán de ser válidas: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The schedule in the editor has changes that are not saved.</source>
+        <translation>La programación en el editor tiene cambios sin guardar.</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2</source>
+        <comment>a version, and when it was saved</comment>
+        <translation>Versión %1 – %2</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2 – %3</source>
+        <comment>a version, when it was saved, and its name</comment>
+        <translation>Versión %1 – %2 – %3</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionModel</name>
+    <message>
+        <source>Version</source>
+        <translation>Versión</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Guardado</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>Por</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Cambios</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::DifferenceModel</name>
+    <message>
+        <source>Task</source>
+        <translation>Tarea</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferencia</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::StretchModel</name>
+    <message>
+        <source>From</source>
+        <translation>Desde</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Hasta</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::WeekPair</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>Comparando…</translation>
+    </message>
+    <message>
+        <source>Nothing differs on the screen in this week.</source>
+        <translation>En esta semana no hay diferencias en pantalla.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stretches of this week differ on the screen:</source>
+        <translation>
+            <numerusform>%n tramo de esta semana difiere en pantalla:</numerusform>
+            <numerusform>%n tramos de esta semana difieren en pantalla:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <translation>Esta semana</translation>
+    </message>
+    <message>
+        <source>Previous week</source>
+        <translation>Semana anterior</translation>
+    </message>
+    <message>
+        <source>Next week</source>
+        <translation>Semana siguiente</translation>
+    </message>
+    <message>
+        <source>What differs on the screen</source>
+        <translation>Diferencias en pantalla</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::ComparisonPanel</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>Comparando…</translation>
+    </message>
+    <message>
+        <source>Nothing is in effect.</source>
+        <translation>No hay nada en vigor.</translation>
+    </message>
+    <message>
+        <source>%1 → %2: %3</source>
+        <comment>two states, and how much differs</comment>
+        <translation>%1 → %2: %3</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>En palabras</translation>
+    </message>
+    <message>
+        <source>On the screen</source>
+        <translation>En pantalla</translation>
+    </message>
+    <message>
+        <source>What differs</source>
+        <translation>Diferencias</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionsWindow</name>
+    <message>
+        <source>Versions</source>
+        <translation>Versiones</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Leyendo…</translation>
+    </message>
+    <message>
+        <source>No versions are kept yet.</source>
+        <translation>Todavía no hay versiones.</translation>
+    </message>
+    <message>
+        <source>Name and note…</source>
+        <translation>Nombre y nota…</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>Restaurar…</translation>
+    </message>
+    <message>
+        <source>Write to a file…</source>
+        <translation>Escribir en un archivo…</translation>
+    </message>
+    <message>
+        <source>Compared with</source>
+        <translation>Comparado con</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>Al revés</translation>
+    </message>
+    <message>
+        <source>Write the version to a file</source>
+        <translation>Escribir la versión en un archivo</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>Programaciones (*.json)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>Escrito en %1.</translation>
+    </message>
+    <message>
+        <source>Save, then restore</source>
+        <translation>Guardar y después restaurar</translation>
+    </message>
+    <message>
+        <source>Restore without saving</source>
+        <translation>Restaurar sin guardar</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 </TS>

@@ -94,6 +94,10 @@
         <source>&amp;Where used…</source>
         <translation>&amp;Où utilisé…</translation>
     </message>
+    <message>
+        <source>&amp;Versions…</source>
+        <translation>&amp;Versions…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2510,6 +2514,275 @@ Que faire de vos modifications&#xa0;?</translation>
             <numerusform>%n créneau de plus sera alors en conflit. Rien n’est perdu : modifiez ensuite ce que vous voulez.</numerusform>
             <numerusform>%n créneaux de plus seront alors en conflit. Rien n’est perdu : modifiez ensuite ce que vous voulez.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>VersionWords</name>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>What is in effect</source>
+        <translation>En vigueur</translation>
+    </message>
+    <message>
+        <source>What is saved</source>
+        <translation>Ce qui est enregistré</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>new: %1</source>
+        <translation>nouvelles : %1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>modifiées : %1</translation>
+    </message>
+    <message>
+        <source>deleted: %1</source>
+        <translation>supprimées : %1</translation>
+    </message>
+    <message>
+        <source>nothing of note</source>
+        <translation>rien de notable</translation>
+    </message>
+    <message>
+        <source>%1 (tasks %2)</source>
+        <comment>what a save changed, and in which tasks</comment>
+        <translation>%1 (tâches %2)</translation>
+    </message>
+    <message>
+        <source>version %1 restored: %2</source>
+        <translation>version %1 restaurée : %2</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>Aucune différence.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n differences</source>
+        <translation>
+            <numerusform>%n différence</numerusform>
+            <numerusform>%n différences</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restore version %1? What is saved now stays as a version, so that it can be restored in turn.</source>
+        <translation>Restaurer la version %1 ? Ce qui est enregistré maintenant reste comme version et peut être restauré à son tour.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of its programs are no longer in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n de ses programmes n’est plus dans le catalogue. Ses entrées seront non valides : %1</numerusform>
+            <numerusform>%n de ses programmes ne sont plus dans le catalogue. Leurs entrées seront non valides : %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The schedule in the editor has changes that are not saved.</source>
+        <translation>La programmation dans l’éditeur a des modifications non enregistrées.</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2</source>
+        <comment>a version, and when it was saved</comment>
+        <translation>Version %1 – %2</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2 – %3</source>
+        <comment>a version, when it was saved, and its name</comment>
+        <translation>Version %1 – %2 – %3</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionModel</name>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Enregistré</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>Par</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Modifications</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::DifferenceModel</name>
+    <message>
+        <source>Task</source>
+        <translation>Tâche</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Créneau</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Différence</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::StretchModel</name>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>À</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::WeekPair</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>Comparaison…</translation>
+    </message>
+    <message>
+        <source>Nothing differs on the screen in this week.</source>
+        <translation>Cette semaine, rien ne diffère à l’écran.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stretches of this week differ on the screen:</source>
+        <translation>
+            <numerusform>%n intervalle de cette semaine diffère à l’écran :</numerusform>
+            <numerusform>%n intervalles de cette semaine diffèrent à l’écran :</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <translation>Cette semaine</translation>
+    </message>
+    <message>
+        <source>Previous week</source>
+        <translation>Semaine précédente</translation>
+    </message>
+    <message>
+        <source>Next week</source>
+        <translation>Semaine suivante</translation>
+    </message>
+    <message>
+        <source>What differs on the screen</source>
+        <translation>Différences à l’écran</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::ComparisonPanel</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>Comparaison…</translation>
+    </message>
+    <message>
+        <source>Nothing is in effect.</source>
+        <translation>Rien n’est en vigueur.</translation>
+    </message>
+    <message>
+        <source>%1 → %2: %3</source>
+        <comment>two states, and how much differs</comment>
+        <translation>%1 → %2 : %3</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>En mots</translation>
+    </message>
+    <message>
+        <source>On the screen</source>
+        <translation>À l’écran</translation>
+    </message>
+    <message>
+        <source>What differs</source>
+        <translation>Différences</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionsWindow</name>
+    <message>
+        <source>Versions</source>
+        <translation>Versions</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Chargement…</translation>
+    </message>
+    <message>
+        <source>No versions are kept yet.</source>
+        <translation>Il n’y a encore aucune version.</translation>
+    </message>
+    <message>
+        <source>Name and note…</source>
+        <translation>Nom et note…</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>Restaurer…</translation>
+    </message>
+    <message>
+        <source>Write to a file…</source>
+        <translation>Écrire dans un fichier…</translation>
+    </message>
+    <message>
+        <source>Compared with</source>
+        <translation>Comparé à</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>Dans l’autre sens</translation>
+    </message>
+    <message>
+        <source>Write the version to a file</source>
+        <translation>Écrire la version dans un fichier</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>Programmations (*.json)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>Écrit dans %1.</translation>
+    </message>
+    <message>
+        <source>Save, then restore</source>
+        <translation>Enregistrer, puis restaurer</translation>
+    </message>
+    <message>
+        <source>Restore without saving</source>
+        <translation>Restaurer sans enregistrer</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 </TS>

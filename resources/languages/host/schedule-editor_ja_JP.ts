@@ -94,6 +94,10 @@
         <source>&amp;Where used…</source>
         <translation>使用箇所(&amp;W)…</translation>
     </message>
+    <message>
+        <source>&amp;Versions…</source>
+        <translation>バージョン(&amp;V)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2470,6 +2474,272 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>さらに %n 件の計画が重複します。失われるものはないので、あとで変更できます。</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>VersionWords</name>
+    <message>
+        <source>Version %1</source>
+        <translation>バージョン %1</translation>
+    </message>
+    <message>
+        <source>What is in effect</source>
+        <translation>運用中</translation>
+    </message>
+    <message>
+        <source>What is saved</source>
+        <translation>保存済み</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>new: %1</source>
+        <translation>新規：%1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>変更：%1</translation>
+    </message>
+    <message>
+        <source>deleted: %1</source>
+        <translation>削除：%1</translation>
+    </message>
+    <message>
+        <source>nothing of note</source>
+        <translation>目立った変更なし</translation>
+    </message>
+    <message>
+        <source>%1 (tasks %2)</source>
+        <comment>what a save changed, and in which tasks</comment>
+        <translation>%1（タスク %2）</translation>
+    </message>
+    <message>
+        <source>version %1 restored: %2</source>
+        <translation>バージョン %1 を復元：%2</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>違いはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n differences</source>
+        <translation>
+            <numerusform>%n 件の違い</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restore version %1? What is saved now stays as a version, so that it can be restored in turn.</source>
+        <translation>バージョン %1 を復元しますか？現在保存されている内容もバージョンとして残り、後で復元できます。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of its programs are no longer in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n 件の番組が番組一覧にありません。その項目は無効になります：%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The schedule in the editor has changes that are not saved.</source>
+        <translation>エディターのスケジュールには保存されていない変更があります。</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2</source>
+        <comment>a version, and when it was saved</comment>
+        <translation>バージョン %1 – %2</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2 – %3</source>
+        <comment>a version, when it was saved, and its name</comment>
+        <translation>バージョン %1 – %2 – %3</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionModel</name>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>保存日時</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>保存元</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>変更内容</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>メモ</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::DifferenceModel</name>
+    <message>
+        <source>Task</source>
+        <translation>タスク</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>計画</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>違い</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::StretchModel</name>
+    <message>
+        <source>From</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>終了</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::WeekPair</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>比較中…</translation>
+    </message>
+    <message>
+        <source>Nothing differs on the screen in this week.</source>
+        <translation>この週の画面に違いはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stretches of this week differ on the screen:</source>
+        <translation>
+            <numerusform>この週の画面で %n 区間が異なります：</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <translation>今週</translation>
+    </message>
+    <message>
+        <source>Previous week</source>
+        <translation>前の週</translation>
+    </message>
+    <message>
+        <source>Next week</source>
+        <translation>次の週</translation>
+    </message>
+    <message>
+        <source>What differs on the screen</source>
+        <translation>画面の違い</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::ComparisonPanel</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>比較中…</translation>
+    </message>
+    <message>
+        <source>Nothing is in effect.</source>
+        <translation>運用中のものはありません。</translation>
+    </message>
+    <message>
+        <source>%1 → %2: %3</source>
+        <comment>two states, and how much differs</comment>
+        <translation>%1 → %2：%3</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>言葉で</translation>
+    </message>
+    <message>
+        <source>On the screen</source>
+        <translation>画面上</translation>
+    </message>
+    <message>
+        <source>What differs</source>
+        <translation>違い</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>メモ</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionsWindow</name>
+    <message>
+        <source>Versions</source>
+        <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>読み取り中…</translation>
+    </message>
+    <message>
+        <source>No versions are kept yet.</source>
+        <translation>バージョンはまだありません。</translation>
+    </message>
+    <message>
+        <source>Name and note…</source>
+        <translation>名前とメモ…</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>復元…</translation>
+    </message>
+    <message>
+        <source>Write to a file…</source>
+        <translation>ファイルに書き出す…</translation>
+    </message>
+    <message>
+        <source>Compared with</source>
+        <translation>比較相手</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>逆向きに比較</translation>
+    </message>
+    <message>
+        <source>Write the version to a file</source>
+        <translation>バージョンをファイルに書き出す</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>スケジュール (*.json)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>%1 に書き出しました。</translation>
+    </message>
+    <message>
+        <source>Save, then restore</source>
+        <translation>保存してから復元</translation>
+    </message>
+    <message>
+        <source>Restore without saving</source>
+        <translation>保存せずに復元</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>復元</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 </TS>

@@ -94,6 +94,10 @@
         <source>&amp;Where used…</source>
         <translation>사용하는 곳(&amp;W)…</translation>
     </message>
+    <message>
+        <source>&amp;Versions…</source>
+        <translation>버전(&amp;V)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2470,6 +2474,272 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>계획 %n개가 더 충돌하게 됩니다. 없어지는 것은 없으니 나중에 바꾸면 됩니다.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>VersionWords</name>
+    <message>
+        <source>Version %1</source>
+        <translation>버전 %1</translation>
+    </message>
+    <message>
+        <source>What is in effect</source>
+        <translation>적용 중</translation>
+    </message>
+    <message>
+        <source>What is saved</source>
+        <translation>저장된 상태</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
+        <source>new: %1</source>
+        <translation>추가: %1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>변경: %1</translation>
+    </message>
+    <message>
+        <source>deleted: %1</source>
+        <translation>삭제: %1</translation>
+    </message>
+    <message>
+        <source>nothing of note</source>
+        <translation>주요 변경 없음</translation>
+    </message>
+    <message>
+        <source>%1 (tasks %2)</source>
+        <comment>what a save changed, and in which tasks</comment>
+        <translation>%1 (작업 %2)</translation>
+    </message>
+    <message>
+        <source>version %1 restored: %2</source>
+        <translation>버전 %1 복원: %2</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>차이가 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n differences</source>
+        <translation>
+            <numerusform>차이 %n개</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restore version %1? What is saved now stays as a version, so that it can be restored in turn.</source>
+        <translation>버전 %1을(를) 복원할까요? 지금 저장된 상태도 버전으로 남아 나중에 복원할 수 있습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of its programs are no longer in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>프로그램 %n개가 더 이상 목록에 없습니다. 해당 항목은 무효가 됩니다: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The schedule in the editor has changes that are not saved.</source>
+        <translation>편집기의 일정에 저장되지 않은 변경 내용이 있습니다.</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2</source>
+        <comment>a version, and when it was saved</comment>
+        <translation>버전 %1 – %2</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2 – %3</source>
+        <comment>a version, when it was saved, and its name</comment>
+        <translation>버전 %1 – %2 – %3</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionModel</name>
+    <message>
+        <source>Version</source>
+        <translation>버전</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>저장 시각</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>저장한 곳</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>변경 내용</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>메모</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::DifferenceModel</name>
+    <message>
+        <source>Task</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>계획</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>차이</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::StretchModel</name>
+    <message>
+        <source>From</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>끝</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::WeekPair</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>비교 중…</translation>
+    </message>
+    <message>
+        <source>Nothing differs on the screen in this week.</source>
+        <translation>이 주에는 화면에 차이가 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stretches of this week differ on the screen:</source>
+        <translation>
+            <numerusform>이 주의 화면에서 %n개 구간이 다릅니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <translation>이번 주</translation>
+    </message>
+    <message>
+        <source>Previous week</source>
+        <translation>이전 주</translation>
+    </message>
+    <message>
+        <source>Next week</source>
+        <translation>다음 주</translation>
+    </message>
+    <message>
+        <source>What differs on the screen</source>
+        <translation>화면의 차이</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::ComparisonPanel</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>비교 중…</translation>
+    </message>
+    <message>
+        <source>Nothing is in effect.</source>
+        <translation>적용 중인 것이 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 → %2: %3</source>
+        <comment>two states, and how much differs</comment>
+        <translation>%1 → %2: %3</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>글로</translation>
+    </message>
+    <message>
+        <source>On the screen</source>
+        <translation>화면</translation>
+    </message>
+    <message>
+        <source>What differs</source>
+        <translation>차이</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>메모</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionsWindow</name>
+    <message>
+        <source>Versions</source>
+        <translation>버전</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>읽는 중…</translation>
+    </message>
+    <message>
+        <source>No versions are kept yet.</source>
+        <translation>아직 버전이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Name and note…</source>
+        <translation>이름과 메모…</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>복원…</translation>
+    </message>
+    <message>
+        <source>Write to a file…</source>
+        <translation>파일에 쓰기…</translation>
+    </message>
+    <message>
+        <source>Compared with</source>
+        <translation>비교 대상</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>반대로 비교</translation>
+    </message>
+    <message>
+        <source>Write the version to a file</source>
+        <translation>버전을 파일에 쓰기</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>일정 (*.json)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>%1에 썼습니다.</translation>
+    </message>
+    <message>
+        <source>Save, then restore</source>
+        <translation>저장 후 복원</translation>
+    </message>
+    <message>
+        <source>Restore without saving</source>
+        <translation>저장하지 않고 복원</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>복원</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
     </message>
 </context>
 </TS>

@@ -94,6 +94,10 @@
         <source>&amp;Where used…</source>
         <translation>&amp;Onde é usado…</translation>
     </message>
+    <message>
+        <source>&amp;Versions…</source>
+        <translation>&amp;Versões…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2510,6 +2514,275 @@ O que deseja fazer com as alterações?</translation>
             <numerusform>Mais %n plano entrará em conflito. Nada se perde: altere depois o que quiser.</numerusform>
             <numerusform>Mais %n planos entrarão em conflito. Nada se perde: altere depois o que quiser.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>VersionWords</name>
+    <message>
+        <source>Version %1</source>
+        <translation>Versão %1</translation>
+    </message>
+    <message>
+        <source>What is in effect</source>
+        <translation>Em vigor</translation>
+    </message>
+    <message>
+        <source>What is saved</source>
+        <translation>O que está salvo</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>não se sabe</translation>
+    </message>
+    <message>
+        <source>new: %1</source>
+        <translation>novas: %1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>alteradas: %1</translation>
+    </message>
+    <message>
+        <source>deleted: %1</source>
+        <translation>excluídas: %1</translation>
+    </message>
+    <message>
+        <source>nothing of note</source>
+        <translation>nada relevante</translation>
+    </message>
+    <message>
+        <source>%1 (tasks %2)</source>
+        <comment>what a save changed, and in which tasks</comment>
+        <translation>%1 (tarefas %2)</translation>
+    </message>
+    <message>
+        <source>version %1 restored: %2</source>
+        <translation>versão %1 restaurada: %2</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>Não há diferenças.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n differences</source>
+        <translation>
+            <numerusform>%n diferença</numerusform>
+            <numerusform>%n diferenças</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restore version %1? What is saved now stays as a version, so that it can be restored in turn.</source>
+        <translation>Restaurar a versão %1? O que está salvo agora permanece como versão e pode ser restaurado por sua vez.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of its programs are no longer in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n dos seus programas não está mais no catálogo. As entradas dele ficarão inválidas: %1</numerusform>
+            <numerusform>%n dos seus programas não estão mais no catálogo. As entradas deles ficarão inválidas: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The schedule in the editor has changes that are not saved.</source>
+        <translation>A programação no editor tem alterações não salvas.</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2</source>
+        <comment>a version, and when it was saved</comment>
+        <translation>Versão %1 – %2</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2 – %3</source>
+        <comment>a version, when it was saved, and its name</comment>
+        <translation>Versão %1 – %2 – %3</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionModel</name>
+    <message>
+        <source>Version</source>
+        <translation>Versão</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Salvo</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>Por</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Alterações</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::DifferenceModel</name>
+    <message>
+        <source>Task</source>
+        <translation>Tarefa</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plano</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Diferença</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::StretchModel</name>
+    <message>
+        <source>From</source>
+        <translation>De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Até</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::WeekPair</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>Comparando…</translation>
+    </message>
+    <message>
+        <source>Nothing differs on the screen in this week.</source>
+        <translation>Nesta semana não há diferenças na tela.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stretches of this week differ on the screen:</source>
+        <translation>
+            <numerusform>%n trecho desta semana difere na tela:</numerusform>
+            <numerusform>%n trechos desta semana diferem na tela:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <translation>Esta semana</translation>
+    </message>
+    <message>
+        <source>Previous week</source>
+        <translation>Semana anterior</translation>
+    </message>
+    <message>
+        <source>Next week</source>
+        <translation>Próxima semana</translation>
+    </message>
+    <message>
+        <source>What differs on the screen</source>
+        <translation>Diferenças na tela</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::ComparisonPanel</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>Comparando…</translation>
+    </message>
+    <message>
+        <source>Nothing is in effect.</source>
+        <translation>Nada está em vigor.</translation>
+    </message>
+    <message>
+        <source>%1 → %2: %3</source>
+        <comment>two states, and how much differs</comment>
+        <translation>%1 → %2: %3</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>Em palavras</translation>
+    </message>
+    <message>
+        <source>On the screen</source>
+        <translation>Na tela</translation>
+    </message>
+    <message>
+        <source>What differs</source>
+        <translation>Diferenças</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionsWindow</name>
+    <message>
+        <source>Versions</source>
+        <translation>Versões</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Lendo…</translation>
+    </message>
+    <message>
+        <source>No versions are kept yet.</source>
+        <translation>Ainda não há versões.</translation>
+    </message>
+    <message>
+        <source>Name and note…</source>
+        <translation>Nome e nota…</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>Restaurar…</translation>
+    </message>
+    <message>
+        <source>Write to a file…</source>
+        <translation>Gravar em um arquivo…</translation>
+    </message>
+    <message>
+        <source>Compared with</source>
+        <translation>Comparado com</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>Ao contrário</translation>
+    </message>
+    <message>
+        <source>Write the version to a file</source>
+        <translation>Gravar a versão em um arquivo</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>Programações (*.json)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>Gravado em %1.</translation>
+    </message>
+    <message>
+        <source>Save, then restore</source>
+        <translation>Salvar e depois restaurar</translation>
+    </message>
+    <message>
+        <source>Restore without saving</source>
+        <translation>Restaurar sem salvar</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 </TS>

@@ -94,6 +94,10 @@
         <source>&amp;Where used…</source>
         <translation>&amp;Где используется…</translation>
     </message>
+    <message>
+        <source>&amp;Versions…</source>
+        <translation>Ве&amp;рсии…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2550,6 +2554,278 @@ What do you want to do with your changes?</source>
             <numerusform>Тогда в конфликте будут ещё %n плана. Ничего не потеряется: измените потом, что хотите.</numerusform>
             <numerusform>Тогда в конфликте будут ещё %n планов. Ничего не потеряется: измените потом, что хотите.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>VersionWords</name>
+    <message>
+        <source>Version %1</source>
+        <translation>Версия %1</translation>
+    </message>
+    <message>
+        <source>What is in effect</source>
+        <translation>Действующее</translation>
+    </message>
+    <message>
+        <source>What is saved</source>
+        <translation>Сохранённое</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <source>new: %1</source>
+        <translation>новых: %1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>изменено: %1</translation>
+    </message>
+    <message>
+        <source>deleted: %1</source>
+        <translation>удалено: %1</translation>
+    </message>
+    <message>
+        <source>nothing of note</source>
+        <translation>ничего существенного</translation>
+    </message>
+    <message>
+        <source>%1 (tasks %2)</source>
+        <comment>what a save changed, and in which tasks</comment>
+        <translation>%1 (задания %2)</translation>
+    </message>
+    <message>
+        <source>version %1 restored: %2</source>
+        <translation>восстановлена версия %1: %2</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>Различий нет.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n differences</source>
+        <translation>
+            <numerusform>%n различие</numerusform>
+            <numerusform>%n различия</numerusform>
+            <numerusform>%n различий</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restore version %1? What is saved now stays as a version, so that it can be restored in turn.</source>
+        <translation>Восстановить версию %1? Сохранённое сейчас останется версией, которую тоже можно восстановить.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of its programs are no longer in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n программы из неё больше нет в каталоге. Её записи станут недействительными: %1</numerusform>
+            <numerusform>%n программ из неё больше нет в каталоге. Их записи станут недействительными: %1</numerusform>
+            <numerusform>%n программ из неё больше нет в каталоге. Их записи станут недействительными: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The schedule in the editor has changes that are not saved.</source>
+        <translation>В расписании в редакторе есть несохранённые изменения.</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2</source>
+        <comment>a version, and when it was saved</comment>
+        <translation>Версия %1 — %2</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2 – %3</source>
+        <comment>a version, when it was saved, and its name</comment>
+        <translation>Версия %1 — %2 — %3</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionModel</name>
+    <message>
+        <source>Version</source>
+        <translation>Версия</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Сохранено</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>Кем</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Изменения</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Название</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Примечание</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::DifferenceModel</name>
+    <message>
+        <source>Task</source>
+        <translation>Задание</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>План</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Различие</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::StretchModel</name>
+    <message>
+        <source>From</source>
+        <translation>С</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>До</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::WeekPair</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>Сравнение…</translation>
+    </message>
+    <message>
+        <source>Nothing differs on the screen in this week.</source>
+        <translation>На этой неделе на экране различий нет.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stretches of this week differ on the screen:</source>
+        <translation>
+            <numerusform>На экране различается %n отрезок этой недели:</numerusform>
+            <numerusform>На экране различаются %n отрезка этой недели:</numerusform>
+            <numerusform>На экране различаются %n отрезков этой недели:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <translation>Эта неделя</translation>
+    </message>
+    <message>
+        <source>Previous week</source>
+        <translation>Предыдущая неделя</translation>
+    </message>
+    <message>
+        <source>Next week</source>
+        <translation>Следующая неделя</translation>
+    </message>
+    <message>
+        <source>What differs on the screen</source>
+        <translation>Различия на экране</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::ComparisonPanel</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>Сравнение…</translation>
+    </message>
+    <message>
+        <source>Nothing is in effect.</source>
+        <translation>Ничего не действует.</translation>
+    </message>
+    <message>
+        <source>%1 → %2: %3</source>
+        <comment>two states, and how much differs</comment>
+        <translation>%1 → %2: %3</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>Словами</translation>
+    </message>
+    <message>
+        <source>On the screen</source>
+        <translation>На экране</translation>
+    </message>
+    <message>
+        <source>What differs</source>
+        <translation>Различия</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>Название</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Примечание</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionsWindow</name>
+    <message>
+        <source>Versions</source>
+        <translation>Версии</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Чтение…</translation>
+    </message>
+    <message>
+        <source>No versions are kept yet.</source>
+        <translation>Версий пока нет.</translation>
+    </message>
+    <message>
+        <source>Name and note…</source>
+        <translation>Название и примечание…</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>Восстановить…</translation>
+    </message>
+    <message>
+        <source>Write to a file…</source>
+        <translation>Записать в файл…</translation>
+    </message>
+    <message>
+        <source>Compared with</source>
+        <translation>Сравнить с</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>Наоборот</translation>
+    </message>
+    <message>
+        <source>Write the version to a file</source>
+        <translation>Записать версию в файл</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>Расписания (*.json)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>Записано в %1.</translation>
+    </message>
+    <message>
+        <source>Save, then restore</source>
+        <translation>Сохранить и восстановить</translation>
+    </message>
+    <message>
+        <source>Restore without saving</source>
+        <translation>Восстановить без сохранения</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Восстановить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
     </message>
 </context>
 </TS>

@@ -94,6 +94,10 @@
         <source>&amp;Where used…</source>
         <translation>使用位置(&amp;W)…</translation>
     </message>
+    <message>
+        <source>&amp;Versions…</source>
+        <translation>版本(&amp;V)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2470,6 +2474,272 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>届时将再有 %n 个计划冲突。不会丢失任何内容，之后可随意修改。</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>VersionWords</name>
+    <message>
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message>
+        <source>What is in effect</source>
+        <translation>生效内容</translation>
+    </message>
+    <message>
+        <source>What is saved</source>
+        <translation>已保存的内容</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>new: %1</source>
+        <translation>新增：%1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>更改：%1</translation>
+    </message>
+    <message>
+        <source>deleted: %1</source>
+        <translation>删除：%1</translation>
+    </message>
+    <message>
+        <source>nothing of note</source>
+        <translation>无重要更改</translation>
+    </message>
+    <message>
+        <source>%1 (tasks %2)</source>
+        <comment>what a save changed, and in which tasks</comment>
+        <translation>%1（任务 %2）</translation>
+    </message>
+    <message>
+        <source>version %1 restored: %2</source>
+        <translation>恢复版本 %1：%2</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>没有差异。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n differences</source>
+        <translation>
+            <numerusform>%n 处差异</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restore version %1? What is saved now stays as a version, so that it can be restored in turn.</source>
+        <translation>恢复版本 %1？当前已保存的内容将保留为一个版本，之后也可以恢复。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of its programs are no longer in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>其中 %n 个节目已不在节目库中，相应条目将失效：%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The schedule in the editor has changes that are not saved.</source>
+        <translation>编辑器中的排期有未保存的更改。</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2</source>
+        <comment>a version, and when it was saved</comment>
+        <translation>版本 %1 – %2</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2 – %3</source>
+        <comment>a version, when it was saved, and its name</comment>
+        <translation>版本 %1 – %2 – %3</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionModel</name>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>保存时间</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>保存者</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>更改</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>备注</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::DifferenceModel</name>
+    <message>
+        <source>Task</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>计划</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差异</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::StretchModel</name>
+    <message>
+        <source>From</source>
+        <translation>从</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>至</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::WeekPair</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>正在比较…</translation>
+    </message>
+    <message>
+        <source>Nothing differs on the screen in this week.</source>
+        <translation>本周屏幕上没有差异。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stretches of this week differ on the screen:</source>
+        <translation>
+            <numerusform>本周屏幕上有 %n 段不同：</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <translation>本周</translation>
+    </message>
+    <message>
+        <source>Previous week</source>
+        <translation>上一周</translation>
+    </message>
+    <message>
+        <source>Next week</source>
+        <translation>下一周</translation>
+    </message>
+    <message>
+        <source>What differs on the screen</source>
+        <translation>屏幕上的差异</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::ComparisonPanel</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>正在比较…</translation>
+    </message>
+    <message>
+        <source>Nothing is in effect.</source>
+        <translation>没有内容生效。</translation>
+    </message>
+    <message>
+        <source>%1 → %2: %3</source>
+        <comment>two states, and how much differs</comment>
+        <translation>%1 → %2：%3</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>文字说明</translation>
+    </message>
+    <message>
+        <source>On the screen</source>
+        <translation>屏幕上</translation>
+    </message>
+    <message>
+        <source>What differs</source>
+        <translation>差异</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>备注</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionsWindow</name>
+    <message>
+        <source>Versions</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在读取…</translation>
+    </message>
+    <message>
+        <source>No versions are kept yet.</source>
+        <translation>还没有版本。</translation>
+    </message>
+    <message>
+        <source>Name and note…</source>
+        <translation>名称和备注…</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>恢复…</translation>
+    </message>
+    <message>
+        <source>Write to a file…</source>
+        <translation>写入文件…</translation>
+    </message>
+    <message>
+        <source>Compared with</source>
+        <translation>比较对象</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>反向比较</translation>
+    </message>
+    <message>
+        <source>Write the version to a file</source>
+        <translation>将版本写入文件</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>排期 (*.json)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>已写入 %1。</translation>
+    </message>
+    <message>
+        <source>Save, then restore</source>
+        <translation>保存后恢复</translation>
+    </message>
+    <message>
+        <source>Restore without saving</source>
+        <translation>不保存直接恢复</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>恢复</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 </TS>

@@ -94,6 +94,10 @@
         <source>&amp;Where used…</source>
         <translation>使用位置(&amp;W)…</translation>
     </message>
+    <message>
+        <source>&amp;Versions…</source>
+        <translation>版本(&amp;V)…</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2470,6 +2474,272 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>屆時將再有 %n 個計畫衝突。不會遺失任何內容，之後可隨意修改。</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>VersionWords</name>
+    <message>
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message>
+        <source>What is in effect</source>
+        <translation>生效內容</translation>
+    </message>
+    <message>
+        <source>What is saved</source>
+        <translation>已儲存的內容</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>new: %1</source>
+        <translation>新增：%1</translation>
+    </message>
+    <message>
+        <source>changed: %1</source>
+        <translation>變更：%1</translation>
+    </message>
+    <message>
+        <source>deleted: %1</source>
+        <translation>刪除：%1</translation>
+    </message>
+    <message>
+        <source>nothing of note</source>
+        <translation>無重要變更</translation>
+    </message>
+    <message>
+        <source>%1 (tasks %2)</source>
+        <comment>what a save changed, and in which tasks</comment>
+        <translation>%1（任務 %2）</translation>
+    </message>
+    <message>
+        <source>version %1 restored: %2</source>
+        <translation>還原版本 %1：%2</translation>
+    </message>
+    <message>
+        <source>Nothing differs.</source>
+        <translation>沒有差異。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n differences</source>
+        <translation>
+            <numerusform>%n 處差異</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Restore version %1? What is saved now stays as a version, so that it can be restored in turn.</source>
+        <translation>還原版本 %1？目前已儲存的內容將保留為一個版本，之後也可以還原。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of its programs are no longer in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>其中 %n 個節目已不在節目庫中，相應項目將失效：%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The schedule in the editor has changes that are not saved.</source>
+        <translation>編輯器中的排程有未儲存的變更。</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2</source>
+        <comment>a version, and when it was saved</comment>
+        <translation>版本 %1 – %2</translation>
+    </message>
+    <message>
+        <source>Version %1 – %2 – %3</source>
+        <comment>a version, when it was saved, and its name</comment>
+        <translation>版本 %1 – %2 – %3</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionModel</name>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>儲存時間</translation>
+    </message>
+    <message>
+        <source>By</source>
+        <translation>儲存者</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>變更</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>備註</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::DifferenceModel</name>
+    <message>
+        <source>Task</source>
+        <translation>任務</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>計畫</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>差異</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::StretchModel</name>
+    <message>
+        <source>From</source>
+        <translation>從</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>至</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::WeekPair</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>正在比較…</translation>
+    </message>
+    <message>
+        <source>Nothing differs on the screen in this week.</source>
+        <translation>本週螢幕上沒有差異。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n stretches of this week differ on the screen:</source>
+        <translation>
+            <numerusform>本週螢幕上有 %n 段不同：</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This week</source>
+        <translation>本週</translation>
+    </message>
+    <message>
+        <source>Previous week</source>
+        <translation>上一週</translation>
+    </message>
+    <message>
+        <source>Next week</source>
+        <translation>下一週</translation>
+    </message>
+    <message>
+        <source>What differs on the screen</source>
+        <translation>螢幕上的差異</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::ComparisonPanel</name>
+    <message>
+        <source>Comparing…</source>
+        <translation>正在比較…</translation>
+    </message>
+    <message>
+        <source>Nothing is in effect.</source>
+        <translation>沒有內容生效。</translation>
+    </message>
+    <message>
+        <source>%1 → %2: %3</source>
+        <comment>two states, and how much differs</comment>
+        <translation>%1 → %2：%3</translation>
+    </message>
+    <message>
+        <source>In words</source>
+        <translation>文字說明</translation>
+    </message>
+    <message>
+        <source>On the screen</source>
+        <translation>螢幕上</translation>
+    </message>
+    <message>
+        <source>What differs</source>
+        <translation>差異</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionNameDialog</name>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>備註</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::versions::VersionsWindow</name>
+    <message>
+        <source>Versions</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在讀取…</translation>
+    </message>
+    <message>
+        <source>No versions are kept yet.</source>
+        <translation>還沒有版本。</translation>
+    </message>
+    <message>
+        <source>Name and note…</source>
+        <translation>名稱和備註…</translation>
+    </message>
+    <message>
+        <source>Restore…</source>
+        <translation>還原…</translation>
+    </message>
+    <message>
+        <source>Write to a file…</source>
+        <translation>寫入檔案…</translation>
+    </message>
+    <message>
+        <source>Compared with</source>
+        <translation>比較對象</translation>
+    </message>
+    <message>
+        <source>The other way round</source>
+        <translation>反向比較</translation>
+    </message>
+    <message>
+        <source>Write the version to a file</source>
+        <translation>將版本寫入檔案</translation>
+    </message>
+    <message>
+        <source>Schedules (*.json)</source>
+        <translation>排程 (*.json)</translation>
+    </message>
+    <message>
+        <source>Written to %1.</source>
+        <translation>已寫入 %1。</translation>
+    </message>
+    <message>
+        <source>Save, then restore</source>
+        <translation>儲存後還原</translation>
+    </message>
+    <message>
+        <source>Restore without saving</source>
+        <translation>不儲存直接還原</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>還原</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 </TS>

@@ -67,6 +67,7 @@ EditorMenus::EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes)
     , m_undo(add(*m_schedule, QKeySequence(QStringLiteral("Ctrl+Z"))))
     , m_redo(add(*m_schedule, QKeySequence(QStringLiteral("Ctrl+Shift+Z"))))
     , m_bringBack(add(*m_schedule, {}))
+    , m_versions(add(*m_schedule, {}))
     , m_themes(new QActionGroup(this))
 {
     m_schedule->addSeparator();
@@ -137,6 +138,7 @@ void EditorMenus::retranslate()
     m_schedule->setTitle(tr("&Schedule"));
     m_editSchedule->setText(tr("&Edit schedule"));
     m_bringBack->setText(tr("&Bring back what was canceled"));
+    m_versions->setText(tr("&Versions…"));
     m_openDatabase->setText(tr("&Open database…"));
     m_importSchedule->setText(tr("&Read schedule from a file…"));
     m_exportSchedule->setText(tr("&Write schedule to a file…"));

@@ -38,6 +38,7 @@ public:
     QAction* stopSchedule() const { return m_stopSchedule; }
     QAction* asRun() const { return m_asRun; }
     QAction* bringBack() const { return m_bringBack; }
+    QAction* versions() const { return m_versions; }
 
     /// The name of the menu of programs, without the mark of its letter.
     QString programsTitle() const;
@@ -58,6 +59,7 @@ private:
     QAction* m_undo;
     QAction* m_redo;
     QAction* m_bringBack;
+    QAction* m_versions;
     QAction* m_openDatabase;
     QAction* m_importSchedule;
     QAction* m_exportSchedule;

@@ -26,6 +26,7 @@
 #include "undo/EditHistory.h"
 #include "undo/HistoryActions.h"
 #include "undo/HistoryDock.h"
+#include "versions/VersionsAction.h"
 #include "week/WeekPage.h"
 #include "week/WeekPanel.h"
 #include "week/moves/WeekEdits.h"
@@ -157,6 +158,12 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     setCentralWidget(week);
     m_history = new undo::EditHistory(*edited, m_editor, this);
     m_undo = new undo::HistoryActions(*m_menus, *m_history, this);
+    m_versions =
+        new versions::VersionsAction(*m_menus->versions(), m_editor, languages, themes, this);
+    connect(m_versions, &versions::VersionsAction::aboutToReplace, this,
+            &EditorWindow::takeOverTyping);
+    connect(m_versions, &versions::VersionsAction::replaced, this,
+            &EditorWindow::showReplacedSchedule);
     m_editor.addActions({m_menus->undo(), m_menus->redo()});
     allowEdits(*week->panel());
     addPanel(new undo::HistoryDock(*m_history, this), Qt::RightDockWidgetArea);
@@ -249,6 +256,7 @@ QString EditorWindow::openDatabase(const QString& path, const QString& demonstra
     updateTitle();
     m_catalogue->reload();
     showReplacedSchedule();
+    m_versions->readAgain();
     if (m_asRun != nullptr) {
         m_asRun->setStore(ScheduleHost::instance().path());
     }

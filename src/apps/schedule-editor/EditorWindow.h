@@ -16,6 +16,10 @@ class EditHistory;
 class HistoryActions;
 } // namespace undo
 
+namespace versions {
+class VersionsAction;
+} // namespace versions
+
 namespace week {
 class WeekPanel;
 } // namespace week
@@ -108,6 +112,7 @@ private:
     undo::EditHistory* m_history = nullptr;
     undo::HistoryActions* m_undo = nullptr;
     DraftKeeper* m_drafts;
+    versions::VersionsAction* m_versions = nullptr;
     AsRunWindow* m_asRun = nullptr; ///< Once it has been asked for.
 };
 

@@ -20,13 +20,16 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDialog>
 #include <QDockWidget>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTableView>
 
 #include <cerrno>
@@ -42,8 +45,22 @@ namespace {
 
 /// Longer than any import, in milliseconds.
 constexpr int kNever = 3600000;
+/// The longest that pictures are waited for that other threads make, in milliseconds.
+constexpr int kLongestWait = 5000;
+constexpr int kStep = 50;
 /// How old the draft is that is offered, in milliseconds.
 constexpr qint64 kDraftAge = 3 * 3600 * 1000LL;
+
+/// Lets events go on until something has come about, or it takes too long.
+template <typename Condition>
+void waitUntil(const Condition& condition)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition() && timer.elapsed() < kLongestWait) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, kStep);
+    }
+}
 
 } // namespace
 
@@ -62,6 +79,7 @@ void HostPictures::drawAll()
     drawPanels();
     drawEffect();
     drawWeeks();
+    drawVersions();
     drawImport();
     drawFileDialogs();
     drawPrompts();
@@ -133,6 +151,42 @@ void HostPictures::drawWeeks()
     m_files.save(&m_window, QStringLiteral("window-week"));
     m_files.save(page, QStringLiteral("week"));
     view->showNow();
+}
+
+/// Two saves more, of which the second changes what is on screen in every week.
+void HostPictures::drawVersions()
+{
+    ScheduleHost& host = ScheduleHost::instance();
+    const std::map<int, PlayTask> former = scheduleManage::getInstance().getgTaskMap();
+    std::map<int, PlayTask> edited = former;
+    edited.begin()->second.plans.back().endTime = "22:30:00";
+    host.replaceSchedule(edited);
+    edited.begin()->second.plans.front().startTime = "06:15:00";
+    host.replaceSchedule(edited);
+    m_window.findChild<EditorMenus*>()->versions()->trigger();
+    auto* const list = m_window.findChild<QDialog*>(QStringLiteral("versionsWindow"));
+    auto* const table = list->findChild<QTableView*>(QStringLiteral("versionTable"));
+    const auto* const found = list->findChild<QTableView*>(QStringLiteral("differenceTable"));
+    auto* const tabs = list->findChild<QTabWidget*>(QStringLiteral("versionTabs"));
+    const auto isThere = [&] { return found->model()->rowCount() > 0; };
+    waitUntil(isThere);
+    table->selectRow(2);
+    waitUntil(isThere);
+    settle();
+    m_files.save(list, QStringLiteral("versions"));
+    tabs->setCurrentIndex(1);
+    list->findChild<week::WeekView*>(QStringLiteral("formerWeek"))->stepWeeks(1);
+    const auto* const stretches = list->findChild<QTableView*>(QStringLiteral("stretchTable"));
+    waitUntil([stretches] { return stretches->model()->rowCount() > 0; });
+    settle();
+    m_files.save(list, QStringLiteral("versions-screen"));
+    m_files.saveDialog(m_window, QStringLiteral("prompt-restore"), [list] {
+        list->findChild<QPushButton*>(QStringLiteral("versionRestoreButton"))->click();
+    });
+    list->findChild<week::WeekView*>(QStringLiteral("formerWeek"))->showNow();
+    tabs->setCurrentIndex(0);
+    list->hide();
+    host.replaceSchedule(former);
 }
 
 void HostPictures::drawImport()

@@ -30,6 +30,7 @@ private:
     void drawPanels();
     void drawEffect();
     void drawWeeks();
+    void drawVersions();
     void drawImport();
     void drawFileDialogs();
     void drawPrompts();

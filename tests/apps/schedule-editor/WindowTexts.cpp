@@ -17,9 +17,10 @@ namespace {
 QString outsideOfBrackets(QString text)
 {
     static const QRegularExpression inBrackets(QStringLiteral("⟦[^⟦⟧]*⟧"));
-    // Names of programs and files, addresses, patterns of files, and keys.
-    static const QRegularExpression data(QStringLiteral(
-        "program \\d+|\\w+…|\\S*/\\S*|\\S+\\.(db|json|sqlite)\\b|\\b(F\\d+|[A-Z])\\b"));
+    // Names of programs and files, addresses, patterns of files, keys, desks, and halves of a day.
+    static const QRegularExpression data(
+        QStringLiteral("program \\d+|\\w+…|\\S*/\\S*|\\S+\\.(db|json|sqlite)\\b|"
+                       "\\b(F\\d+|[A-Z])\\b|\\S+@\\S+|\\b[AP]M\\b"));
     int before = -1;
     while (before != text.size()) {
         before = text.size();

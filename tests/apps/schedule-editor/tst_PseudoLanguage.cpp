@@ -1,3 +1,4 @@
+#include "EditorMenus.h"
 #include "HostFixture.h"
 #include "HostPrompts.h"
 #include "PseudoLanguage.h"
@@ -11,6 +12,7 @@
 
 #include <QAction>
 #include <QDateEdit>
+#include <QDialog>
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenu>
@@ -19,6 +21,8 @@
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTimer>
 
 using namespace trel::desktop;
@@ -116,6 +120,7 @@ private slots:
     void bracketsAreFound();
     void window();
     void menus();
+    void versions();
     void editor();
     void chooser();
     void menuOfTheChooser();
@@ -178,6 +183,34 @@ void tst_PseudoLanguage::window()
     QCoreApplication::processEvents();
     fixture.texts.lookAt(fixture.window, QStringLiteral("without programs"));
     verifyTexts(80);
+}
+
+void tst_PseudoLanguage::versions()
+{
+    PseudoFixture& fixture = *m_fixture;
+    PlayTask task = fixture.manager.getTask(1);
+    task.plans.pop_back();
+    fixture.manager.addTask(task);
+    QVERIFY(fixture.host.trySave());
+    fixture.window.findChild<EditorMenus*>()->versions()->trigger();
+    auto* const list = fixture.window.findChild<QDialog*>(QStringLiteral("versionsWindow"));
+    const auto* const table = list->findChild<QTableView*>(QStringLiteral("differenceTable"));
+    auto* const tabs = list->findChild<QTabWidget*>(QStringLiteral("versionTabs"));
+    QTRY_COMPARE(table->model()->rowCount(), 1);
+    fixture.texts.lookAt(*list, QStringLiteral("versions"));
+    tabs->setCurrentIndex(1);
+    QCoreApplication::processEvents();
+    fixture.texts.lookAt(*list, QStringLiteral("versions on the screen"));
+    fixture.lookAtDialog(QStringLiteral("name of a version"), [list] {
+        list->findChild<QPushButton*>(QStringLiteral("versionNameButton"))->click();
+    });
+    fixture.lookAtDialog(QStringLiteral("restoring"), [list] {
+        list->findChild<QPushButton*>(QStringLiteral("versionRestoreButton"))->click();
+    });
+    fixture.lookAtDialog(QStringLiteral("writing"), [list] {
+        list->findChild<QPushButton*>(QStringLiteral("versionWriteButton"))->click();
+    });
+    verifyTexts(40);
 }
 
 void tst_PseudoLanguage::menus()

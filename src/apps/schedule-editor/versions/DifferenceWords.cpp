@@ -224,11 +224,16 @@ bool DifferenceWords::isAboutPlan(const ScheduleDifference& difference)
 
 QString DifferenceWords::line(const ScheduleDifference& difference, const Programs& programs)
 {
-    const QString task = QString::number(difference.taskId);
     const QString text = what(difference, programs);
-    return isAboutPlan(difference) ? tr("Task %1, plan %2: %3", "where, and what differs")
-                                         .arg(task, QString::number(difference.planId), text)
-                                   : tr("Task %1: %2", "where, and what differs").arg(task, text);
+    return isAboutPlan(difference) ? ofPlan(difference.taskId, difference.planId, text)
+                                   : tr("Task %1: %2", "where, and what differs")
+                                         .arg(QString::number(difference.taskId), text);
+}
+
+QString DifferenceWords::ofPlan(int taskId, int planId, const QString& text)
+{
+    return tr("Task %1, plan %2: %3", "where, and what differs")
+        .arg(QString::number(taskId), QString::number(planId), text);
 }
 
 QStringList DifferenceWords::lines(const Tasks& former, const Tasks& later,

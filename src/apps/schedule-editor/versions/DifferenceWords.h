@@ -34,6 +34,8 @@ public:
     static QStringList lines(const Tasks& former, const Tasks& later, const Programs& programs,
                              int most);
 
+    /// "Task 1, plan 3: " and a text about the plan.
+    static QString ofPlan(int taskId, int planId, const QString& text);
     /// Whether a difference is about a plan or an entry of one.
     static bool isAboutPlan(const trel::mediadispatch::ScheduleDifference& difference);
     /// The programs of a list with their plays, "News ×2, Weather"; or that there are none.

@@ -48,7 +48,7 @@ const std::vector<HostMenu>& hostMenus()
         {QStringLiteral("the menu \"Schedule\""),
          {entry("EditorMenus", "&Edit schedule"), entry("undo::HistoryActions", "&Undo"),
           entry("undo::HistoryActions", "Re&do"),
-          entry("EditorMenus", "&Bring back what was canceled"),
+          entry("EditorMenus", "&Bring back what was canceled"), entry("EditorMenus", "&Versions…"),
           entry("EditorMenus", "&Open database…"),
           entry("EditorMenus", "&Read schedule from a file…"),
           entry("EditorMenus", "&Write schedule to a file…"),
