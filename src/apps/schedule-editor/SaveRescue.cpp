@@ -124,7 +124,7 @@ StoreResult SaveRescue::saveOver(const StoreResult& movedOn)
 
 StoreResult SaveRescue::takeOther()
 {
-    const StoreResult result = m_host.reload();
+    StoreResult result = m_host.reload();
     if (result) {
         m_drafts.giveUp();
     }

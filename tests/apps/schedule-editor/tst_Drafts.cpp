@@ -2,6 +2,7 @@
 #include "EditorMenus.h"
 #include "FileDialogAnswer.h"
 #include "HostFixture.h"
+#include "LayoutCount.h"
 #include "draft/DraftWords.h"
 #include "support/PromptAnswer.h"
 #include "support/SampleSchedule.h"
@@ -126,6 +127,7 @@ private slots:
     void theOfferShowsBothWeeks();
     void takenOverItIsInTheEditor();
     void takenOverIntoAnOpenEditor();
+    void manyTasksAreLaidOutOnce();
     void putIntoAFile();
     void dropped();
     void leftForLater();
@@ -271,6 +273,32 @@ void tst_Drafts::takenOverIntoAnOpenEditor()
     fixture.window.offerDrafts();
     QCOMPARE(fixture.shown(), QStringLiteral("3 cards of 1 3 9"));
     QCOMPARE(fixture.manager.getTask(1).startDate, std::string("2026.01.01"));
+}
+
+void tst_Drafts::manyTasksAreLaidOutOnce()
+{
+    constexpr int kTasks = 40;
+    DraftsFixture fixture;
+    QVERIFY(fixture.host.replaceSchedule(sampleSchedule(kTasks, 1, 1)));
+    fixture.window.showEditor();
+    for (auto& [id, task] : fixture.manager.getAllTask()) {
+        task.startDate = "2026.01.01";
+        fixture.manager.addTask(task);
+    }
+    fixture.killAndStart();
+    fixture.clock.setElapsed(10000);
+    fixture.window.showEditor();
+    QVERIFY(fixture.editor->isVisible());
+    const LayoutCount layouts(*fixture.editor);
+    const ChangesAnswer take(1);
+    fixture.window.offerDrafts();
+    QVERIFY2(layouts.count() < kTasks / 4, qPrintable(QString::number(layouts.count())));
+    const auto cards =
+        fixture.editor->findChildren<QWidget*>(QStringLiteral("PlanTaskWidget"));
+    QCOMPARE(cards.size(), kTasks);
+    for (const QWidget* card : cards) {
+        QVERIFY(card->isVisible());
+    }
 }
 
 void tst_Drafts::putIntoAFile()

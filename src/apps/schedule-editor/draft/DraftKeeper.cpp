@@ -11,6 +11,7 @@
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
+#include "undo/ListAtRest.h"
 #include "versions/DifferenceWords.h"
 
 #include <QAction>
@@ -170,6 +171,7 @@ bool DraftKeeper::show(const DraftTasks& tasks)
         return false;
     }
     scheduleManage& manager = scheduleManage::getInstance();
+    const undo::ListAtRest rest(m_editor, tasks.size());
     for (const auto& [id, task] : tasks) {
         if (task) {
             manager.addTask(*task);

@@ -6,11 +6,13 @@
 #include "trelprogramschedule/ScheduleHost.h"
 #include "undo/EditCommand.h"
 #include "undo/EditWords.h"
+#include "undo/ListAtRest.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QKeyEvent>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -250,22 +252,37 @@ bool EditHistory::begin()
 void EditHistory::undo()
 {
     if (begin()) {
-        m_stack.undo();
+        moveTo(index() - 1);
     }
 }
 
 void EditHistory::redo()
 {
     if (begin()) {
-        m_stack.redo();
+        moveTo(index() + 1);
     }
 }
 
 void EditHistory::goTo(int steps)
 {
     if (begin()) {
-        m_stack.setIndex(steps);
+        moveTo(steps);
     }
+}
+
+void EditHistory::moveTo(int steps)
+{
+    if (steps < 0 || steps > count()) {
+        return;
+    }
+    std::set<int> tasks;
+    for (int i = std::min(steps, index()); i < std::max(steps, index()); ++i) {
+        for (const TaskEdit& edit : step(i).edits()) {
+            tasks.insert(edit.taskId);
+        }
+    }
+    const ListAtRest rest(m_editor, tasks.size());
+    m_stack.setIndex(steps);
 }
 
 void EditHistory::setAtWork(bool isAtWork)

@@ -95,6 +95,7 @@ private:
     /// Takes in what is half typed. False when nothing can be taken back now.
     bool begin();
     void leaveKeysTo(QWidget* field);
+    void moveTo(int steps);
     void setAtWork(bool isAtWork);
     const EditCommand& step(int index) const;
 

@@ -1,4 +1,5 @@
 #include "../EditorRun.h"
+#include "../LayoutCount.h"
 #include "EditorMenus.h"
 #include "support/PlatformNotes.h"
 #include "support/PromptAnswer.h"
@@ -144,6 +145,7 @@ private slots:
     void goesBackBehindASave();
     void namesTheStepInTheMenu();
     void bringsADeletedTaskBack();
+    void takesManyTasksBackAtOnce();
     void bringsADeletedPlanBackWhole();
     void bringsBackWhatCancelDropped();
     void aNewStepEndsWhatWasTakenBack();
@@ -313,6 +315,35 @@ void tst_EditHistory::bringsADeletedTaskBack()
     QCOMPARE(desk.lines(), before);
     desk.redo().trigger();
     QCOMPARE(desk.working().count(1), std::size_t(0));
+}
+
+void tst_EditHistory::takesManyTasksBackAtOnce()
+{
+    constexpr int kTasks = 20;
+    const Desk desk;
+    const QStringList before = desk.lines();
+    PlayTask task = desk.manager.getTask(3);
+    for (int i = 0; i < kTasks; ++i) {
+        task.id = 20 + i;
+        desk.manager.addTask(task);
+        desk.editor->slotShowTask(task.id);
+    }
+    QTRY_COMPARE(desk.steps().size(), 2);
+    const QStringList after = desk.lines();
+    const QSize size = desk.editor->size();
+    click(desk.card(0).startTime(3));
+    QVERIFY(desk.card(0).startTime(3).hasFocus());
+    for (int round = 0; round < 2; ++round) {
+        const LayoutCount layouts(*desk.editor);
+        desk.pressUndo();
+        QCOMPARE(desk.lines(), before);
+        desk.pressRedo();
+        QCOMPARE(desk.lines(), after);
+        QVERIFY2(layouts.count() < kTasks / 2, qPrintable(QString::number(layouts.count())));
+    }
+    QVERIFY(desk.card(0).startTime(3).hasFocus());
+    QVERIFY(!desk.card(0).isFolded());
+    QCOMPARE(desk.editor->size(), size);
 }
 
 void tst_EditHistory::bringsADeletedPlanBackWhole()
