@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "common/DisplayText.h"
+#include "text/SharedOptions.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
 
 #include <algorithm>
@@ -81,8 +82,34 @@ private:
         } else if (word == QLatin1String("--version")) {
             m_wantsVersion = true;
         } else {
-            misuse(QStringLiteral("There is no option %1.").arg(inQuotes(name)));
+            misuse(QStringLiteral("There is no option %1.%2")
+                       .arg(inQuotes(name), optionSuggestion(name)));
         }
+    }
+
+    /// Of the options that the command has where it is known, and otherwise of all. A short word is
+    /// no slip of the fingers, and neither is a value behind an option that has none.
+    QString optionSuggestion(const QString& name) const
+    {
+        std::vector<std::string_view> candidates;
+        const auto add = [&candidates](const std::vector<CommandOption>& options) {
+            for (const CommandOption& option : options) {
+                candidates.push_back(option.name);
+            }
+        };
+        if (m_line.command != nullptr) {
+            add(optionsOf(*m_line.command));
+        } else {
+            add(generalOptions());
+            for (const Command& command : m_commands) {
+                add(command.options);
+            }
+        }
+        const bool isKnown =
+            std::any_of(candidates.begin(), candidates.end(),
+                        [&name](std::string_view known) { return named(known) == name; });
+        return name.startsWith(QLatin1String("--")) && !isKnown ? nearest(name, candidates)
+                                                                : QString();
     }
 
     /// The option of this name that some command has. Which one is meant may not be known yet.
@@ -162,14 +189,24 @@ private:
 
     QString suggestion(const QString& word) const
     {
+        std::vector<std::string_view> candidates;
+        for (const Command& command : m_commands) {
+            candidates.push_back(command.name);
+        }
+        return nearest(word, candidates);
+    }
+
+    /// A question for the candidate that is nearest to a word; empty where none is near.
+    static QString nearest(const QString& word, const std::vector<std::string_view>& candidates)
+    {
         constexpr int tooFar = 3;
         int least = tooFar;
         QString best;
-        for (const Command& command : m_commands) {
-            const int distance = editDistance(word, named(command.name));
+        for (const std::string_view candidate : candidates) {
+            const int distance = editDistance(word, named(candidate));
             if (distance < least) {
                 least = distance;
-                best = QStringLiteral(" Did you mean \"%1\"?").arg(named(command.name));
+                best = QStringLiteral(" Did you mean \"%1\"?").arg(named(candidate));
             }
         }
         return best;

@@ -111,6 +111,17 @@ void tst_CommandLine::read_data()
     row("take --overwrite=yes x", "misuse: There is no option \"--overwrite\".");
     row("take -x", "misuse: There is no option \"-x\".");
     row("take --json=yes x", "misuse: There is no option \"--json\".");
+    // The same for options, of the command where it is known.
+    row("take --jsno x", "misuse: There is no option \"--jsno\".");
+    row("list --jsno", "misuse: There is no option \"--jsno\". Did you mean \"--json\"?");
+    row("list --databas=a",
+        "misuse: There is no option \"--databas\". Did you mean \"--database\"?");
+    row("watch --luod", "misuse: There is no option \"--luod\". Did you mean \"--loud\"?");
+    row("--luod watch", "misuse: There is no option \"--luod\". Did you mean \"--loud\"?");
+    row("list --luod", "misuse: There is no option \"--luod\".");
+    row("--verzion", "misuse: There is no option \"--verzion\". Did you mean \"--version\"?");
+    row("list --j", "misuse: There is no option \"--j\".");
+    row("list -json", "misuse: There is no option \"-json\".");
     row("gather", "misuse: The command \"gather\" needs PATH....");
     row("gather a b c", "run gather <a> <b> <c>");
     row("gather a --json b", "run gather json <a> <b>");

@@ -28,6 +28,7 @@ private slots:
     void importReplacesTheWholeSchedule();
     void importMakesADatabase();
     void importTellsWhatIsOdd();
+    void importNamesDatesThatAreNone();
     void badFilesChangeNothing_data();
     void badFilesChangeNothing();
     void aPipeIsReadToItsEnd();
@@ -194,6 +195,22 @@ void tst_CtlExchange::importTellsWhatIsOdd()
                             "schedule; see \"schedulectl check\".")) +
             told(QStringLiteral("Plans refer to programs that the catalog does not have, so "
                                 "their entries are invalid: 5, 12.")));
+}
+
+void tst_CtlExchange::importNamesDatesThatAreNone()
+{
+    const CtlFixture fixture;
+    PlayTask task = januaryTask(7);
+    task.startDate = "2024.13.01";
+    task.endDate = "soon";
+    fixture.writeFile(kFile, scheduleToJson({{2, januaryTask(2)}, {7, task}}));
+    const CtlResult result = fixture.onDatabase({kImportSchedule, kFile});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.err,
+             told(QStringLiteral("Task 7, startDate: \"2024.13.01\" is not a date in the form "
+                                 "yyyy.MM.dd, so the task is never valid.")) +
+                 told(QStringLiteral("Task 7, endDate: \"soon\" is not a date in the form "
+                                     "yyyy.MM.dd, so the task is never valid.")));
 }
 
 void tst_CtlExchange::badFilesChangeNothing_data()

@@ -198,22 +198,22 @@ void tst_CtlSchedule::checkFindsNothing()
 {
     CtlResult result = m_fixture->onDatabase({kCheck});
     QCOMPARE(result.status, 0);
-    QCOMPARE(result.lines(),
-             QStringList{QStringLiteral("No overlaps and no collisions in 0 tasks with 0 plans.")});
+    QCOMPARE(result.lines(), QStringList{QStringLiteral("No problems in 0 tasks with 0 plans.")});
 
-    PlayTask second = januaryTask(2);
+    PlayTask second = januaryTask(2, {timePlan(1, "00:00:00", "23:59:59", "", 1)});
     second.startDate = "2024.02.01";
     second.endDate = "2024.02.10";
-    m_fixture->store({{1, januaryTask(1, {timePlan(1, "08:00:00", "09:00:00", "1", 1),
-                                          timePlan(2, "09:00:00", "10:00:00", "1", 1)})},
-                      {2, second}});
+    PlayPlan night = timePlan(2, "09:00:00", "10:00:00", "", 1);
+    night.endAction = FreezeCurrentFrame;
+    m_fixture->store(
+        {{1, januaryTask(1, {timePlan(1, "08:00:00", "09:00:00", "", 1), night})}, {2, second}});
     result = m_fixture->onDatabase({kCheck});
     QCOMPARE(result.status, 0);
     QCOMPARE(result.err, QString());
-    QCOMPARE(result.lines(),
-             QStringList{QStringLiteral("No overlaps and no collisions in 2 tasks with 2 plans.")});
+    QCOMPARE(result.lines(), QStringList{QStringLiteral("No problems in 2 tasks with 3 plans.")});
 }
 
+// In the words of the editor's list of problems.
 void tst_CtlSchedule::checkNamesPairsAndPlans()
 {
     CtlFixture::Schedule schedule = overlappingTasks();
@@ -223,17 +223,25 @@ void tst_CtlSchedule::checkNamesPairsAndPlans()
     const CtlResult result = m_fixture->onDatabase({kCheck});
     QCOMPARE(result.status, 1);
     QCOMPARE(result.err, QString());
-    QCOMPARE(result.lines(),
-             (QStringList{
-                 QStringLiteral("A save would be refused, because the periods of these tasks "
-                                "overlap:"),
-                 QStringLiteral("  task 1 (2024.01.01 \u2013 2024.01.31) and task 2 (2024.01.31 "
-                                "\u2013 2024.02.10)"),
-                 QString(),
-                 QStringLiteral("These plans collide with an earlier plan of their task:"),
-                 QStringLiteral("  Task  Row  Plan  Days     From      To        Collides with"),
-                 QStringLiteral("     1    2     5  Tue,Wed  08:30:00  09:30:00  row 1, plan 3"),
-             }));
+    const QStringList lines = result.lines();
+    QCOMPARE(
+        lines.mid(0, 6),
+        (QStringList{
+            QStringLiteral("A save would be refused:"),
+            QStringLiteral("  Task 2, as of 2024.01.31: The validity overlaps that of task 1 "
+                           "from 2024.01.31 to 2024.01.31. Change the dates of one of the two "
+                           "tasks. Until then nothing can be saved."),
+            QString(),
+            QStringLiteral("Errors:"),
+            QStringLiteral("  Task 1, row 2, as of 2024.01.02: Plan 5 is in conflict with plan "
+                           "3 in row 1 from 2024.01.02 on. Change the days or times of one of "
+                           "the plans."),
+            QString(),
+        }));
+    QCOMPARE(lines.value(6), QStringLiteral("Hints:"));
+    QVERIFY(lines.contains(QStringLiteral(
+        "  Task 1, as of 2024.01.01: No picture from 00:00:00 to 08:00:00 on: Mon, Tue. Add a "
+        "plan, or let the plan before it end with its last frame.")));
 }
 
 void tst_CtlSchedule::checkAsJson()
@@ -244,8 +252,35 @@ void tst_CtlSchedule::checkAsJson()
     m_fixture->store(schedule);
     const CtlResult result = m_fixture->onDatabase({kCheck, kJson});
     QCOMPARE(result.status, 1);
+    QJsonObject found = result.json();
+    const QJsonArray problems = found.take(QStringLiteral("problems")).toArray();
+    QCOMPARE(problems.first().toObject(),
+             (QJsonObject{
+                 {QStringLiteral("kind"), QStringLiteral("tasksOverlap")},
+                 {QStringLiteral("gravity"), QStringLiteral("refusal")},
+                 {QStringLiteral("task"), 2},
+                 {QStringLiteral("row"), QJsonValue(QJsonValue::Null)},
+                 {QStringLiteral("plan"), QJsonValue(QJsonValue::Null)},
+                 {QStringLiteral("otherTask"), 1},
+                 {QStringLiteral("otherRow"), QJsonValue(QJsonValue::Null)},
+                 {QStringLiteral("otherPlan"), QJsonValue(QJsonValue::Null)},
+                 {QStringLiteral("entry"), QJsonValue(QJsonValue::Null)},
+                 {QStringLiteral("program"), QJsonValue(QJsonValue::Null)},
+                 {QStringLiteral("firstDate"), QStringLiteral("2024.01.31")},
+                 {QStringLiteral("lastDate"), QStringLiteral("2024.01.31")},
+                 {QStringLiteral("wrong"),
+                  QStringLiteral("The validity overlaps that of task 1 from 2024.01.31 to "
+                                 "2024.01.31.")},
+                 {QStringLiteral("remedy"),
+                  QStringLiteral("Change the dates of one of the two tasks. Until then nothing can "
+                                 "be saved.")},
+             }));
+    QCOMPARE(problems.at(1).toObject().value(QStringLiteral("kind")).toString(),
+             QStringLiteral("planNeverPlays"));
+    QCOMPARE(problems.last().toObject().value(QStringLiteral("gravity")).toString(),
+             QStringLiteral("hint"));
     QCOMPARE(
-        result.json(),
+        found,
         (QJsonObject{
             {QStringLiteral("database"), m_fixture->database()},
             {QStringLiteral("saveWouldBeRefused"), true},
@@ -275,7 +310,7 @@ void tst_CtlSchedule::checkUsesTheEndsInForce()
                                           timePlan(2, "08:04:29", "08:10:00", "", 1)})}});
     const CtlResult late = m_fixture->onDatabase({kCheck});
     QCOMPARE(late.status, 1);
-    QCOMPARE(late.lines().size(), 3);
+    QVERIFY(late.text().contains(QStringLiteral("Plan 2 is in conflict with plan 1 in row 1")));
     m_fixture->store({{1, januaryTask(1, {runsOfClip(1, "08:00:00", 3, "09:00:00"),
                                           timePlan(2, "08:04:30", "08:10:00", "", 1)})}});
     QCOMPARE(m_fixture->onDatabase({kCheck}).status, 0);
@@ -290,7 +325,10 @@ void tst_CtlSchedule::remarksLeaveTheStatusAlone()
     QCOMPARE(result.status, 0);
     QCOMPARE(result.lines(),
              (QStringList{
-                 QStringLiteral("No overlaps and no collisions in 1 task with 0 plans."),
+                 QStringLiteral("Errors:"),
+                 QStringLiteral("  Task 4: The task is never valid: “2024.01.01” to “2023.12.31” "
+                                "is not a period. Choose a start date, and an end date that is not "
+                                "before it."),
                  QString(),
                  QStringLiteral("Remarks:"),
                  QStringLiteral("  task 4, endDate: \"2023.12.31\" lies before the start date"),

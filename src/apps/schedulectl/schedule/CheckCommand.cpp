@@ -37,16 +37,23 @@ Command checkCommand()
             0,
             0,
             true,
-            "Find what a save would refuse, and plans that collide",
-            R"(Looks at the saved schedule and lists
-  - the tasks whose periods overlap: the editor refuses to save them,
-  - the plans that collide with an earlier plan of their task,
+            "Find what is wrong with the schedule, and what to do",
+            R"(Looks at the saved schedule and lists what the editor's list of problems has,
+in the same words, and in the same order:
+  - what a save would be refused for: tasks whose periods overlap,
+  - errors: plans that are in conflict, never play or are never on screen,
+    entries that are invalid, files that are missing,
+  - warnings: lists that are cut off when the plan or the day ends, or that
+    would go on after midnight, entries that are never reached,
+  - hints: hours without a picture, and changes of the clocks within two
+    years that touch a plan,
   - remarks: dates and times that are not in their form, periods that end
     before they begin, days, modes and end actions that are none, lists that
     run less than once.
+Tasks that are over are looked at as well.
 
-The exit status is 0 when there are neither overlaps nor collisions, and 1
-otherwise. Remarks do not count.)",
+The exit status is 0 when there are neither overlaps nor conflicts, and 1
+otherwise. Nothing else counts.)",
             run};
 }
 

@@ -4,6 +4,7 @@
 #include "ScheduleReport.h"
 #include "common/DisplayText.h"
 #include "common/PatientFile.h"
+#include "service/DateText.h"
 #include "service/TaskPeriods.h"
 #include "text/Console.h"
 #include "trelprogramschedule/faults/FaultWords.h"
@@ -82,10 +83,28 @@ QString numbersText(const std::set<int>& numbers)
     return texts.join(QStringLiteral(", "));
 }
 
+/// Names the dates that are none, with their places: such a task is never valid.
+void tellDates(Console& console, const std::map<int, PlayTask>& tasks)
+{
+    const auto tellIfNone = [&console](int taskId, const char* field, const std::string& date) {
+        if (!dateFromText(date).isValid()) {
+            console.tell(QStringLiteral("Task %1, %2: %3 is not a date in the form %4, so the task "
+                                        "is never valid.")
+                             .arg(QString::number(taskId), QLatin1String(field),
+                                  inQuotes(QString::fromStdString(date)), kDateFormat));
+        }
+    };
+    for (const auto& [id, task] : tasks) {
+        tellIfNone(id, "startDate", task.startDate);
+        tellIfNone(id, "endDate", task.endDate);
+    }
+}
+
 /// Tells what the user should know about a schedule that was taken all the same.
 void tellOddities(Console& console, const std::map<int, PlayTask>& tasks,
                   const std::map<int, ProgramIten>& programs)
 {
+    tellDates(console, tasks);
     if (firstTaskOverlap(tasks)) {
         console.tell(QStringLiteral("Periods of tasks overlap, so the editor would refuse to save "
                                     "this schedule; see \"schedulectl check\"."));
@@ -146,6 +165,7 @@ database is made when it does not exist.
 The file is read as a whole or not at all: what is wrong in it is named with its
 place, and the database is left as it was. A schedule with overlapping tasks is
 taken, since it can be put right in the editor; "schedulectl check" finds them.
+Dates that are none are named with their task, and taken as well.
 Entries of programs that the catalog does not have become invalid, so import
 the programs first, in the order of their indexes.)",
             run};

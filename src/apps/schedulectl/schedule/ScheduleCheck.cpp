@@ -1,12 +1,14 @@
 #include "ScheduleCheck.h"
 
 #include "ScheduleWords.h"
+#include "clock/Clock.h"
 #include "common/DisplayText.h"
 #include "common/PlanFaultText.h"
 #include "service/DateText.h"
-#include "service/PlanConflicts.h"
+#include "service/PlanCollisions.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
+#include "trelprogramschedule/problems/ProblemSearch.h"
 
 #include <QDate>
 #include <QTime>
@@ -19,17 +21,6 @@ namespace trel::console {
 namespace {
 
 constexpr int kTaskItself = -1;
-
-/// The first claim before the given one that collides with it.
-int firstCollidingRow(const std::vector<PlanClaim>& claims, std::size_t row)
-{
-    for (std::size_t earlier = 0; earlier < row; ++earlier) {
-        if (collidingClaims({claims[earlier], claims[row]})[1]) {
-            return static_cast<int>(earlier);
-        }
-    }
-    return -1;
-}
 
 /// Whether a `weeks` text is what a card writes: numbers from 0 to 7 with commas between.
 bool isListOfDays(const std::string& weeks)
@@ -187,11 +178,11 @@ std::vector<PlanState> planStates(const std::vector<PlayPlan>& plans, const Cata
 {
     const std::vector<PlanClaim> claims =
         planClaims(plans, catalogue.programs, catalogue.hasNoDuration);
-    const std::vector<bool> colliding = collidingClaims(claims);
+    const std::vector<int> collisions = firstCollisions(claims);
     std::vector<PlanState> states;
     states.reserve(claims.size());
     for (std::size_t row = 0; row < claims.size(); ++row) {
-        states.push_back({claims[row].end, colliding[row] ? firstCollidingRow(claims, row) : -1});
+        states.push_back({claims[row].end, collisions[row]});
     }
     return states;
 }
@@ -211,6 +202,9 @@ ScheduleCheck checkSchedule(const std::map<int, PlayTask>& tasks, const Catalogu
         }
         remarks.lookAt(task);
     }
+    const Clock& clock = Clock::current();
+    check.problems =
+        scheduleProblems(tasks, catalogue.programs, QDate(), clock.today(), clock.zone());
     return check;
 }
 

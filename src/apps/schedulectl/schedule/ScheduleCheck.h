@@ -3,6 +3,7 @@
 #include "service/PlanTiming.h"
 #include "service/ScheduleRecords.h"
 #include "service/TaskPeriods.h"
+#include "trelprogramschedule/problems/ScheduleProblem.h"
 
 #include <QString>
 
@@ -48,7 +49,10 @@ struct ScheduleCheck
     std::vector<trel::mediadispatch::TaskOverlap> overlaps; ///< A save would be refused for these.
     std::vector<PlanCollision> collisions;
     std::vector<ScheduleRemark> remarks;
+    /// What the editor's list of problems finds, in its order, also of what is over.
+    std::vector<trel::mediadispatch::ScheduleProblem> problems;
 
+    /// Whether a save would be taken, and no plans collide.
     bool isClean() const { return overlaps.empty() && collisions.empty(); }
 };
 
@@ -64,6 +68,7 @@ std::vector<PlanState> planStates(const std::vector<trel::mediadispatch::PlayPla
                                   const Catalogue& catalogue);
 
 /// Looks at a whole schedule: what a save would refuse, which plans collide, and what else is odd.
+/// Changes of the clocks count from today on, in the zone of the clock.
 ScheduleCheck checkSchedule(const std::map<int, trel::mediadispatch::PlayTask>& tasks,
                             const Catalogue& catalogue);
 

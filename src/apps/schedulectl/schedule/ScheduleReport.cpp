@@ -2,6 +2,7 @@
 
 #include "ScheduleWords.h"
 #include "common/DisplayText.h"
+#include "common/ProblemText.h"
 #include "service/WeekDays.h"
 #include "text/TextTable.h"
 
@@ -113,49 +114,107 @@ QJsonArray plansJson(const PlayTask& task, const Catalogue& catalogue)
     return array;
 }
 
-QString taskText(const PlayTask& task)
+QString problemText(const ScheduleProblem& problem)
 {
-    return QStringLiteral("task %1 (%2)").arg(QString::number(task.id), periodText(task));
+    const QString date = ProblemText::date(problem);
+    return QStringLiteral("  %1%2: %3 %4\n")
+        .arg(ProblemText::place(problem),
+             date.isEmpty() ? QString() : QStringLiteral(", as of ") + date,
+             ProblemText::wrong(problem, QLocale::c()), ProblemText::remedy(problem));
 }
 
-QString overlapsText(const ScheduleCheck& check, const Tasks& tasks)
+/// Those of one gravity, below a title.
+QString problemsText(const ScheduleCheck& check, ProblemGravity gravity, const char* title)
 {
-    if (check.overlaps.empty()) {
-        return {};
+    QString text;
+    for (const ScheduleProblem& problem : check.problems) {
+        if (gravityOf(problem) == gravity) {
+            text += problemText(problem);
+        }
     }
-    QString text = QStringLiteral("A save would be refused, because the periods of these tasks "
-                                  "overlap:\n");
-    for (const auto& [first, second] : check.overlaps) {
-        text += QStringLiteral("  %1 and %2\n")
-                    .arg(taskText(tasks.at(first)), taskText(tasks.at(second)));
-    }
-    return text;
+    return text.isEmpty() ? text : QLatin1String(title) + QLatin1Char('\n') + text;
 }
 
-QString collisionsText(const ScheduleCheck& check, const Tasks& tasks)
+QString kindName(ProblemKind kind)
 {
-    if (check.collisions.empty()) {
-        return {};
+    switch (kind) {
+    case ProblemKind::TasksOverlap:
+        return QStringLiteral("tasksOverlap");
+    case ProblemKind::TaskNeverValid:
+        return QStringLiteral("taskNeverValid");
+    case ProblemKind::PlanNeverPlays:
+        return QStringLiteral("planNeverPlays");
+    case ProblemKind::PlanHasNoDate:
+        return QStringLiteral("planHasNoDate");
+    case ProblemKind::PlanNeverSeen:
+        return QStringLiteral("planNeverSeen");
+    case ProblemKind::PlansCollide:
+        return QStringLiteral("plansCollide");
+    case ProblemKind::InvalidEntry:
+        return QStringLiteral("invalidEntry");
+    case ProblemKind::MissingFile:
+        return QStringLiteral("missingFile");
+    case ProblemKind::EntryTakesNoTime:
+        return QStringLiteral("entryTakesNoTime");
+    case ProblemKind::NothingToPlay:
+        return QStringLiteral("nothingToPlay");
+    case ProblemKind::OverMidnight:
+        return QStringLiteral("overMidnight");
+    case ProblemKind::CutOff:
+        return QStringLiteral("cutOff");
+    case ProblemKind::NeverReached:
+        return QStringLiteral("neverReached");
+    case ProblemKind::NoPicture:
+        return QStringLiteral("noPicture");
+    case ProblemKind::ClockChange:
+        break;
     }
-    TextTable table({{QStringLiteral("Task"), TextTable::Align::Right},
-                     {QStringLiteral("Row"), TextTable::Align::Right},
-                     {QStringLiteral("Plan"), TextTable::Align::Right},
-                     {QStringLiteral("Days")},
-                     {QStringLiteral("From")},
-                     {QStringLiteral("To")},
-                     {QStringLiteral("Collides with")}});
-    for (const PlanCollision& collision : check.collisions) {
-        const PlayPlan& plan = planAt(tasks, collision.taskId, collision.row);
-        const PlayPlan& earlier = planAt(tasks, collision.taskId, collision.earlierRow);
-        table.addRow({QString::number(collision.taskId), QString::number(shownRow(collision.row)),
-                      QString::number(plan.id), daysText(plan.weeks), printable(plan.startTime),
-                      printable(collision.end),
-                      QStringLiteral("row %1, plan %2")
-                          .arg(shownRow(collision.earlierRow))
-                          .arg(earlier.id)});
+    return QStringLiteral("clockChange");
+}
+
+QString gravityName(ProblemGravity gravity)
+{
+    switch (gravity) {
+    case ProblemGravity::Refusal:
+        return QStringLiteral("refusal");
+    case ProblemGravity::Error:
+        return QStringLiteral("error");
+    case ProblemGravity::Warning:
+        return QStringLiteral("warning");
+    case ProblemGravity::Note:
+        break;
     }
-    return QStringLiteral("These plans collide with an earlier plan of their task:\n") +
-           table.text(kIndent);
+    return QStringLiteral("hint");
+}
+
+QJsonValue numberJson(int number)
+{
+    return number < 0 ? QJsonValue(QJsonValue::Null) : QJsonValue(number);
+}
+
+QJsonValue dateJson(const QDate& date)
+{
+    return date.isValid() ? QJsonValue(date.toString(kDateFormat)) : QJsonValue(QJsonValue::Null);
+}
+
+QJsonObject problemJson(const ScheduleProblem& problem)
+{
+    return {
+        {QStringLiteral("kind"), kindName(problem.kind)},
+        {QStringLiteral("gravity"), gravityName(gravityOf(problem))},
+        {QStringLiteral("task"), problem.taskId},
+        {QStringLiteral("row"), rowJson(problem.planRow)},
+        {QStringLiteral("plan"), numberJson(problem.planId)},
+        {QStringLiteral("otherTask"), numberJson(problem.otherTaskId)},
+        {QStringLiteral("otherRow"), rowJson(problem.otherRow)},
+        {QStringLiteral("otherPlan"), numberJson(problem.otherPlanId)},
+        {QStringLiteral("entry"), rowJson(problem.entry)},
+        {QStringLiteral("program"), numberJson(problem.progIndex)},
+        {QStringLiteral("firstDate"), dateJson(problem.first)},
+        {QStringLiteral("lastDate"), dateJson(problem.last)},
+        {QStringLiteral("wrong"), ProblemText::wrong(problem, QLocale::c())},
+        {QStringLiteral("remedy"), ProblemText::remedy(problem)},
+    };
 }
 
 QString remarksText(const ScheduleCheck& check, const Tasks& tasks)
@@ -208,12 +267,14 @@ QJsonArray tasksJson(const Tasks& tasks, const Catalogue& catalogue)
 
 QString checkText(const ScheduleCheck& check, const Tasks& tasks)
 {
-    QStringList parts = {overlapsText(check, tasks), collisionsText(check, tasks),
+    QStringList parts = {problemsText(check, ProblemGravity::Refusal, "A save would be refused:"),
+                         problemsText(check, ProblemGravity::Error, "Errors:"),
+                         problemsText(check, ProblemGravity::Warning, "Warnings:"),
+                         problemsText(check, ProblemGravity::Note, "Hints:"),
                          remarksText(check, tasks)};
     parts.removeAll(QString());
-    if (check.isClean()) {
-        parts.prepend(
-            QStringLiteral("No overlaps and no collisions in %1.\n").arg(sizeText(tasks)));
+    if (check.problems.empty()) {
+        parts.prepend(QStringLiteral("No problems in %1.\n").arg(sizeText(tasks)));
     }
     return parts.join(QLatin1Char('\n'));
 }
@@ -247,7 +308,12 @@ QJsonObject checkJson(const ScheduleCheck& check, const Tasks& tasks)
              remark.taken.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(remark.taken)},
         });
     }
+    QJsonArray problems;
+    for (const ScheduleProblem& problem : check.problems) {
+        problems.append(problemJson(problem));
+    }
     return {
+        {QStringLiteral("problems"), problems},
         {QStringLiteral("overlaps"), overlaps},
         {QStringLiteral("collisions"), collisions},
         {QStringLiteral("remarks"), remarks},
