@@ -98,6 +98,10 @@
         <source>&amp;Versions…</source>
         <translation>Vers&amp;ionen…</translation>
     </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>&amp;Vorschau</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2783,6 +2787,42 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProgramPreview</name>
+    <message>
+        <source>%1 – Preview</source>
+        <translation>%1 – Vorschau</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>position and length</comment>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>The file is not found.</source>
+        <translation>Die Datei wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>Sound has no picture.</source>
+        <translation>Ton hat kein Bild.</translation>
+    </message>
+    <message>
+        <source>A live source is seen on the screens alone.</source>
+        <translation>Eine Livequelle ist nur auf den Bildschirmen zu sehen.</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen…</translation>
+    </message>
+    <message>
+        <source>It has no picture that can be read.</source>
+        <translation>Es gibt kein Bild, das gelesen werden kann.</translation>
     </message>
 </context>
 </TS>

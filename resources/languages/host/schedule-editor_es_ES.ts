@@ -98,6 +98,10 @@
         <source>&amp;Versions…</source>
         <translation>&amp;Versiones…</translation>
     </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>&amp;Vista previa</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2783,6 +2787,42 @@ What do you want to do with your changes?</source>
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProgramPreview</name>
+    <message>
+        <source>%1 – Preview</source>
+        <translation>%1 – Vista previa</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>position and length</comment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>The file is not found.</source>
+        <translation>No se encuentra el archivo.</translation>
+    </message>
+    <message>
+        <source>Sound has no picture.</source>
+        <translation>El sonido no tiene imagen.</translation>
+    </message>
+    <message>
+        <source>A live source is seen on the screens alone.</source>
+        <translation>Una fuente en directo solo se ve en las pantallas.</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Leyendo…</translation>
+    </message>
+    <message>
+        <source>It has no picture that can be read.</source>
+        <translation>No tiene ninguna imagen que se pueda leer.</translation>
     </message>
 </context>
 </TS>

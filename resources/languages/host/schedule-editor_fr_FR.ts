@@ -98,6 +98,10 @@
         <source>&amp;Versions…</source>
         <translation>&amp;Versions…</translation>
     </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>&amp;Aperçu</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2783,6 +2787,42 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProgramPreview</name>
+    <message>
+        <source>%1 – Preview</source>
+        <translation>%1 – Aperçu</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>position and length</comment>
+        <translation>%1 sur %2</translation>
+    </message>
+    <message>
+        <source>The file is not found.</source>
+        <translation>Le fichier est introuvable.</translation>
+    </message>
+    <message>
+        <source>Sound has no picture.</source>
+        <translation>Le son n’a pas d’image.</translation>
+    </message>
+    <message>
+        <source>A live source is seen on the screens alone.</source>
+        <translation>Une source en direct n’est visible que sur les écrans.</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Chargement…</translation>
+    </message>
+    <message>
+        <source>It has no picture that can be read.</source>
+        <translation>Aucune image ne peut en être lue.</translation>
     </message>
 </context>
 </TS>

@@ -98,6 +98,10 @@
         <source>&amp;Versions…</source>
         <translation>バージョン(&amp;V)…</translation>
     </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>プレビュー(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2740,6 +2744,42 @@ What do you want to do with your changes?</source>
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProgramPreview</name>
+    <message>
+        <source>%1 – Preview</source>
+        <translation>%1 – プレビュー</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>position and length</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>The file is not found.</source>
+        <translation>ファイルが見つかりません。</translation>
+    </message>
+    <message>
+        <source>Sound has no picture.</source>
+        <translation>音声に映像はありません。</translation>
+    </message>
+    <message>
+        <source>A live source is seen on the screens alone.</source>
+        <translation>ライブは画面でのみ見られます。</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>読み込み中…</translation>
+    </message>
+    <message>
+        <source>It has no picture that can be read.</source>
+        <translation>読み込める映像がありません。</translation>
     </message>
 </context>
 </TS>

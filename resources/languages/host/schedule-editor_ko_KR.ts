@@ -98,6 +98,10 @@
         <source>&amp;Versions…</source>
         <translation>버전(&amp;V)…</translation>
     </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>미리 보기(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2740,6 +2744,42 @@ What do you want to do with your changes?</source>
     <message>
         <source>Cancel</source>
         <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProgramPreview</name>
+    <message>
+        <source>%1 – Preview</source>
+        <translation>%1 – 미리 보기</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>위치</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>position and length</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>The file is not found.</source>
+        <translation>파일을 찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Sound has no picture.</source>
+        <translation>소리에는 화면이 없습니다.</translation>
+    </message>
+    <message>
+        <source>A live source is seen on the screens alone.</source>
+        <translation>라이브는 화면에서만 볼 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>읽는 중…</translation>
+    </message>
+    <message>
+        <source>It has no picture that can be read.</source>
+        <translation>읽을 수 있는 화면이 없습니다.</translation>
     </message>
 </context>
 </TS>

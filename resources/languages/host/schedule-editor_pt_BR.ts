@@ -98,6 +98,10 @@
         <source>&amp;Versions…</source>
         <translation>&amp;Versões…</translation>
     </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>&amp;Visualizar</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2783,6 +2787,42 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProgramPreview</name>
+    <message>
+        <source>%1 – Preview</source>
+        <translation>%1 – Pré-visualização</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Posição</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>position and length</comment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>The file is not found.</source>
+        <translation>O arquivo não foi encontrado.</translation>
+    </message>
+    <message>
+        <source>Sound has no picture.</source>
+        <translation>O som não tem imagem.</translation>
+    </message>
+    <message>
+        <source>A live source is seen on the screens alone.</source>
+        <translation>Uma fonte ao vivo só é vista nas telas.</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Lendo…</translation>
+    </message>
+    <message>
+        <source>It has no picture that can be read.</source>
+        <translation>Não tem imagem que se possa ler.</translation>
     </message>
 </context>
 </TS>

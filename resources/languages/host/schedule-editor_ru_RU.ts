@@ -98,6 +98,10 @@
         <source>&amp;Versions…</source>
         <translation>Ве&amp;рсии…</translation>
     </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>П&amp;росмотр</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2826,6 +2830,42 @@ What do you want to do with your changes?</source>
     <message>
         <source>Cancel</source>
         <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProgramPreview</name>
+    <message>
+        <source>%1 – Preview</source>
+        <translation>%1 – Предпросмотр</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Позиция</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>position and length</comment>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
+        <source>The file is not found.</source>
+        <translation>Файл не найден.</translation>
+    </message>
+    <message>
+        <source>Sound has no picture.</source>
+        <translation>У звука нет изображения.</translation>
+    </message>
+    <message>
+        <source>A live source is seen on the screens alone.</source>
+        <translation>Прямой эфир виден только на экранах.</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Чтение…</translation>
+    </message>
+    <message>
+        <source>It has no picture that can be read.</source>
+        <translation>Нет изображения, которое можно прочитать.</translation>
     </message>
 </context>
 </TS>

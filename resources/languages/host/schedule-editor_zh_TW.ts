@@ -98,6 +98,10 @@
         <source>&amp;Versions…</source>
         <translation>版本(&amp;V)…</translation>
     </message>
+    <message>
+        <source>&amp;Preview</source>
+        <translation>預覽(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2740,6 +2744,42 @@ What do you want to do with your changes?</source>
     <message>
         <source>Cancel</source>
         <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ProgramPreview</name>
+    <message>
+        <source>%1 – Preview</source>
+        <translation>%1 – 預覽</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <comment>position and length</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>The file is not found.</source>
+        <translation>找不到檔案。</translation>
+    </message>
+    <message>
+        <source>Sound has no picture.</source>
+        <translation>音訊沒有畫面。</translation>
+    </message>
+    <message>
+        <source>A live source is seen on the screens alone.</source>
+        <translation>直播來源只在螢幕上可見。</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>正在讀取…</translation>
+    </message>
+    <message>
+        <source>It has no picture that can be read.</source>
+        <translation>沒有可以讀取的畫面。</translation>
     </message>
 </context>
 </TS>

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 extern "C" {
 #include <libavutil/display.h>
@@ -35,13 +36,46 @@ OwnedMedia<AVCodecContext> openDecoder(const AVStream& stream, const AVCodec* co
     return decoder;
 }
 
-/// Feeds the decoder until it gives a picture.
-OwnedMedia<AVFrame> decodeFirst(AVFormatContext& input, const AVStream& stream,
-                                AVCodecContext& decoder)
+/// The pictures that a decoder gives, up to the one that is wanted.
+class WantedFrame
 {
-    OwnedMedia<AVFrame> frame(av_frame_alloc());
+public:
+    /// From this time on, in the units of the stream; none for the very first.
+    explicit WantedFrame(std::int64_t from)
+        : m_from(from)
+    {}
+
+    bool isReady() const { return m_last && m_next; }
+    /// Whether the picture that is wanted has come.
+    bool take(AVCodecContext& decoder)
+    {
+        while (avcodec_receive_frame(&decoder, m_next.get()) == 0) {
+            std::swap(m_last, m_next);
+            m_isAny = true;
+            const std::int64_t time = m_last->best_effort_timestamp;
+            if (m_from == AV_NOPTS_VALUE || time == AV_NOPTS_VALUE || time >= m_from) {
+                return true;
+            }
+        }
+        return false;
+    }
+    /// The last one that came.
+    OwnedMedia<AVFrame> release() { return m_isAny ? std::move(m_last) : OwnedMedia<AVFrame>(); }
+
+private:
+    std::int64_t m_from;
+    OwnedMedia<AVFrame> m_last{av_frame_alloc()};
+    OwnedMedia<AVFrame> m_next{av_frame_alloc()};
+    bool m_isAny = false;
+};
+
+/// Feeds the decoder until it gives the picture that is wanted.
+OwnedMedia<AVFrame> decodeFrom(AVFormatContext& input, const AVStream& stream,
+                               AVCodecContext& decoder, std::int64_t from)
+{
+    WantedFrame wanted(from);
     const OwnedMedia<AVPacket> packet(av_packet_alloc());
-    if (!frame || !packet) {
+    if (!wanted.isReady() || !packet) {
         return {};
     }
     bool isAtEnd = false;
@@ -53,11 +87,27 @@ OwnedMedia<AVFrame> decodeFirst(AVFormatContext& input, const AVStream& stream,
             avcodec_send_packet(&decoder, packet.get());
         }
         av_packet_unref(packet.get());
-        if (avcodec_receive_frame(&decoder, frame.get()) == 0) {
-            return frame;
+        if (wanted.take(decoder)) {
+            break;
         }
     }
-    return {};
+    return wanted.release();
+}
+
+/// Goes to the last picture that can be decoded by itself and is not behind a position, and tells
+/// the time of the position in the units of the stream; none for the begin.
+std::int64_t seekTo(AVFormatContext& input, const AVStream& stream, std::int64_t positionMs)
+{
+    if (positionMs <= 0) {
+        return AV_NOPTS_VALUE;
+    }
+    const std::int64_t begin = stream.start_time == AV_NOPTS_VALUE ? 0 : stream.start_time;
+    const std::int64_t time =
+        begin + av_rescale_q(positionMs, AVRational{1, 1000}, stream.time_base);
+    // Where it cannot be done the film is gone through from its begin, for as long as that may
+    // take.
+    av_seek_frame(&input, stream.index, time, AVSEEK_FLAG_BACKWARD);
+    return time;
 }
 
 /// How far the picture is to be turned to stand upright, in degrees clockwise.
@@ -119,7 +169,8 @@ QImage imageOf(const AVFrame& frame, const QSize& size)
 
 } // namespace
 
-QImage firstPicture(const InputFile& file, const NameHint& hint, const QSize& bound)
+QImage firstPicture(const InputFile& file, const NameHint& hint, const QSize& bound,
+                    std::int64_t positionMs)
 {
     const MediaInput input(file, hint, MediaInput::Look::Usual);
     if (input.verdict() != trel::mediadispatch::wire::Verdict::Taken) {
@@ -136,7 +187,8 @@ QImage firstPicture(const InputFile& file, const NameHint& hint, const QSize& bo
     if (!decoder) {
         return {};
     }
-    const OwnedMedia<AVFrame> frame = decodeFirst(context, stream, *decoder);
+    const std::int64_t from = seekTo(context, stream, positionMs);
+    const OwnedMedia<AVFrame> frame = decodeFrom(context, stream, *decoder, from);
     if (!frame || frame->width <= 0 || frame->height <= 0) {
         return {};
     }

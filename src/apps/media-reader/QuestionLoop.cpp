@@ -128,8 +128,9 @@ QImage QuestionLoop::picture(const wire::Question& question, const InputFile& fi
                              const NameHint& hint) const
 {
     const QSize bound(static_cast<int>(question.width), static_cast<int>(question.height));
-    return readyToSend(question.wish == wire::Wish::ImagePicture ? imagePicture(file, hint, bound)
-                                                                 : firstPicture(file, hint, bound),
+    return readyToSend(question.wish == wire::Wish::ImagePicture
+                           ? imagePicture(file, hint, bound)
+                           : firstPicture(file, hint, bound, question.positionMs),
                        bound);
 }
 

@@ -85,6 +85,7 @@ EditorMenus::EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes)
     m_importFiles = add(*m_programs, QKeySequence(QStringLiteral("Ctrl+I")));
     m_importFolder = add(*m_programs, QKeySequence(QStringLiteral("Ctrl+Shift+I")));
     m_programs->addSeparator();
+    m_previewProgram = add(*m_programs, {});
     m_whereUsed = add(*m_programs, {});
     m_removePrograms = add(*m_programs, QKeySequence::Delete);
 
@@ -149,6 +150,7 @@ void EditorMenus::retranslate()
     m_programs->setTitle(tr("&Programs"));
     m_importFiles->setText(tr("&Import files…"));
     m_importFolder->setText(tr("Import &folder…"));
+    m_previewProgram->setText(tr("&Preview"));
     m_whereUsed->setText(tr("&Where used…"));
     m_removePrograms->setText(tr("&Remove from catalog"));
     m_view->setTitle(tr("&View"));

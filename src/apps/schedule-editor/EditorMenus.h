@@ -31,6 +31,7 @@ public:
     QAction* quit() const { return m_quit; }
     QAction* importFiles() const { return m_importFiles; }
     QAction* importFolder() const { return m_importFolder; }
+    QAction* previewProgram() const { return m_previewProgram; }
     QAction* whereUsed() const { return m_whereUsed; }
     QAction* removePrograms() const { return m_removePrograms; }
     QAction* skipPlay() const { return m_skipPlay; }
@@ -66,6 +67,7 @@ private:
     QAction* m_quit;
     QAction* m_importFiles;
     QAction* m_importFolder;
+    QAction* m_previewProgram;
     QAction* m_whereUsed;
     QAction* m_removePrograms;
     QAction* m_skipPlay;

@@ -89,8 +89,8 @@ int main()
         &listFromRow, &loadedVersion, &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId,
         &offeredPrograms, &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate,
         &programListText, &programText, &entryText, &differencesOfNote, &programVerdict,
-        &programsInUse, &tessark::trans::readLanguageFile, &readPicture, &readScheduleJson,
-        &removeFirstPlanWithId, &runsLessThanOnce, &setMediaReading, &scanMedia,
+        &programsInUse, &tessark::trans::readLanguageFile, &readFilmPicture, &readPicture,
+        &readScheduleJson, &removeFirstPlanWithId, &runsLessThanOnce, &setMediaReading, &scanMedia,
         &scheduleDifferences, &scheduleFromJson, &scheduleToJson, &shownAddress, &storeProblemName,
         &timeFromText, &timeToText, &totalText, &tessark::trans::translate, &usesOf, &weeksOverlap,
         &writeScheduleFile);

@@ -7,6 +7,7 @@
 #include "catalogue/CatalogueOrder.h"
 #include "catalogue/ProgramDelegate.h"
 #include "catalogue/ProgramLookup.h"
+#include "catalogue/ProgramPreview.h"
 #include "catalogue/ProgramTable.h"
 #include "catalogue/ProgramTableModel.h"
 #include "catalogue/Thumbnails.h"
@@ -93,7 +94,14 @@ void CataloguePanel::buildTable()
 
 void CataloguePanel::connectMenus()
 {
-    m_table->addActions({m_menus.whereUsed(), m_menus.importFiles(), m_menus.removePrograms()});
+    m_table->addActions({m_menus.previewProgram(), m_menus.whereUsed(), m_menus.importFiles(),
+                         m_menus.removePrograms()});
+    connect(m_menus.previewProgram(), &QAction::triggered, this, [this] {
+        if (const int program = m_table->currentProgram(); program >= 0) {
+            preview(program);
+        }
+    });
+    connect(m_table, &ProgramTable::previewAsked, this, &CataloguePanel::preview);
     connect(m_menus.removePrograms(), &QAction::triggered, this, &CataloguePanel::removeSelected);
     connect(m_menus.whereUsed(), &QAction::triggered, this, &CataloguePanel::showUses);
     connect(m_lookup, &ProgramLookup::answered, this, &CataloguePanel::askRemoval);
@@ -107,6 +115,7 @@ void CataloguePanel::enableActions()
     const bool isAnySelected = m_table->selectionModel()->hasSelection();
     m_menus.removePrograms()->setEnabled(isAnySelected);
     m_menus.whereUsed()->setEnabled(isAnySelected);
+    m_menus.previewProgram()->setEnabled(isAnySelected);
 }
 
 void CataloguePanel::connectOrder()
@@ -280,6 +289,17 @@ void CataloguePanel::showUses()
     m_uses->show();
     m_uses->raise();
     m_uses->activateWindow();
+}
+
+void CataloguePanel::preview(int program)
+{
+    if (m_preview == nullptr) {
+        m_preview = new ProgramPreview(window());
+    }
+    m_preview->setProgram(program);
+    m_preview->show();
+    m_preview->raise();
+    m_preview->activateWindow();
 }
 
 void CataloguePanel::changeEvent(QEvent* event)

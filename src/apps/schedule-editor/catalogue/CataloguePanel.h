@@ -12,6 +12,7 @@ class CatalogueFilter;
 class CatalogueOrder;
 class EditorMenus;
 class ProgramLookup;
+class ProgramPreview;
 class ProgramTable;
 class ProgramTableModel;
 class Thumbnails;
@@ -65,6 +66,7 @@ private:
     void removeSelected();
     void askRemoval(const LookupAnswer& answer);
     void showUses();
+    void preview(int program);
 
     EditorMenus& m_menus;
     ProgramTableModel* m_programs;
@@ -73,9 +75,10 @@ private:
     ProgramTable* m_table;
     QLabel* m_hint;
     CatalogueOrder* m_order;
-    ProgramLookup* m_lookup;      ///< For what is to be removed.
-    UsesWindow* m_uses = nullptr; ///< Once it has been asked for.
-    bool m_isWishNew = false;     ///< The rows to come are what the operator has asked for.
+    ProgramLookup* m_lookup;             ///< For what is to be removed.
+    UsesWindow* m_uses = nullptr;        ///< Once it has been asked for.
+    ProgramPreview* m_preview = nullptr; ///< Once it has been asked for.
+    bool m_isWishNew = false;            ///< The rows to come are what the operator has asked for.
 };
 
 } // namespace trel::desktop

@@ -81,18 +81,20 @@ PreviewPictures::~PreviewPictures()
     }
 }
 
-PreviewPictures::Answer PreviewPictures::picture(const ProgramIten& program, const QSize& room)
+PreviewPictures::Answer PreviewPictures::picture(const ProgramIten& program, const QSize& room,
+                                                 qint64 positionMs)
 {
     if (program.isNull || !hasPicture(program.kind)) {
         return {true, {}};
     }
     const QSize bound = boundFor(room);
     const QString path = QString::fromStdString(program.mediaPath);
-    const QString key = QStringLiteral("%1 %2").arg(bound.width()).arg(path);
+    const QString key = QStringLiteral("%1 %2 %3")
+                            .arg(QString::number(bound.width()), QString::number(positionMs), path);
     if (const QImage* known = m_known.object(key)) {
         return {true, *known};
     }
-    const Request request{key, path, program.kind, bound};
+    const Request request{key, path, program.kind, bound, positionMs};
     if (!m_running) {
         start(request);
     } else if (m_running->key == key && !m_isCancelled->load()) {
@@ -123,8 +125,8 @@ void PreviewPictures::start(const Request& request)
     m_running = request;
     m_isCancelled = std::make_shared<std::atomic<bool>>(false);
     const auto read = [receiver = m_receiver, request, isCancelled = m_isCancelled] {
-        const QImage image =
-            programPicture(request.path, request.kind, request.bound, *isCancelled);
+        const QImage image = programPicture(request.path, request.kind, request.bound, *isCancelled,
+                                            request.positionMs);
         const QMutexLocker lock(&receiver->mutex);
         if (PreviewPictures* pictures = receiver->pictures) {
             QMetaObject::invokeMethod(

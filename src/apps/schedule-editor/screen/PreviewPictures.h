@@ -32,7 +32,9 @@ public:
     };
     /// The picture in a size for this room, in dots of the device. It may be larger, up to twice,
     /// so that a room that grows a little does not have it read again.
-    Answer picture(const trel::mediadispatch::ProgramIten& program, const QSize& room);
+    /// Of a film it is the picture at a position, in milliseconds.
+    Answer picture(const trel::mediadispatch::ProgramIten& program, const QSize& room,
+                   qint64 positionMs = 0);
 
     /// Forgets every picture, as when files have changed.
     void clear();
@@ -48,6 +50,7 @@ private:
         QString path;
         trel::mediadispatch::ProgramKind kind = trel::mediadispatch::ProgramKind::Other;
         QSize bound;
+        qint64 positionMs = 0;
     };
     using Flag = std::shared_ptr<std::atomic<bool>>;
     struct Receiver;

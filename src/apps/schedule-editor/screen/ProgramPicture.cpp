@@ -12,10 +12,12 @@ bool hasPicture(ProgramKind kind)
 }
 
 QImage programPicture(const QString& path, ProgramKind kind, const QSize& bound,
-                      const std::atomic<bool>& isCancelled)
+                      const std::atomic<bool>& isCancelled, qint64 positionMs)
 {
     const MediaPicture picture =
-        hasPicture(kind) ? readPicture(path, kind, bound, isCancelled) : MediaPicture();
+        kind == ProgramKind::Video && positionMs > 0
+            ? readFilmPicture(path, positionMs, bound, isCancelled)
+            : (hasPicture(kind) ? readPicture(path, kind, bound, isCancelled) : MediaPicture());
     if (picture.size.isEmpty()) {
         return {};
     }

@@ -14,7 +14,7 @@
 namespace trel::mediadispatch::wire {
 
 /// Goes up with every change in this file.
-constexpr std::uint32_t kVersion = 1;
+constexpr std::uint32_t kVersion = 2;
 constexpr std::uint32_t kMagic = 0x7472656d;
 
 /// The number of the descriptor on which the program finds the service.
@@ -57,6 +57,8 @@ struct Question
     std::uint32_t height = 0;
     /// Small letters and digits, filled up with zeros; empty when the name has another suffix.
     char suffix[kSuffixLetters] = {};
+    /// How far into the film its picture is wanted, in milliseconds; 0 for its first.
+    std::uint32_t positionMs = 0;
 };
 
 enum class Verdict : std::uint8_t {
@@ -95,7 +97,7 @@ struct Answer
 };
 
 static_assert(std::is_trivially_copyable_v<Greeting> && sizeof(Greeting) == 16);
-static_assert(std::is_trivially_copyable_v<Question> && sizeof(Question) == 28);
+static_assert(std::is_trivially_copyable_v<Question> && sizeof(Question) == 32);
 static_assert(std::is_trivially_copyable_v<Answer> && sizeof(Answer) == 32);
 
 } // namespace trel::mediadispatch::wire

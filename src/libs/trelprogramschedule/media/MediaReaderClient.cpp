@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include <dlfcn.h>
 
@@ -192,7 +193,7 @@ MediaFacts MediaReaderClient::facts(const QString& path, bool isNamedAsMedia,
 }
 
 MediaPicture MediaReaderClient::picture(const QString& path, ProgramKind kind, const QSize& bound,
-                                        const Cancelled& isCancelled)
+                                        const Cancelled& isCancelled, qint64 positionMs)
 {
     const MediaFile file(path);
     if (file.descriptor() < 0) {
@@ -204,6 +205,8 @@ MediaPicture MediaReaderClient::picture(const QString& path, ProgramKind kind, c
     question.isNamedAsMedia = 1;
     question.width = sideOf(bound.width());
     question.height = sideOf(bound.height());
+    question.positionMs = static_cast<std::uint32_t>(
+        std::clamp<qint64>(positionMs, 0, std::numeric_limits<std::uint32_t>::max()));
     setSuffix(question, path);
     Reply reply = ask(question, file, isCancelled);
     if (reply.answer.verdict == wire::Verdict::Drawing && reply.dots.empty()) {

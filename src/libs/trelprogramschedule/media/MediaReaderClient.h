@@ -50,9 +50,9 @@ public:
     /// isCancelled says so.
     MediaFacts facts(const QString& path, bool isNamedAsMedia, const Cancelled& isCancelled);
 
-    /// As readPicture() in PictureRequest.h.
+    /// As readPicture() and readFilmPicture() in PictureRequest.h.
     MediaPicture picture(const QString& path, ProgramKind kind, const QSize& bound,
-                         const Cancelled& isCancelled);
+                         const Cancelled& isCancelled, qint64 positionMs = 0);
 
     /// Why no program runs; none when one does or was not needed yet. It is not tried again by this
     /// client.

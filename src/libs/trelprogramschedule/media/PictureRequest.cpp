@@ -15,4 +15,15 @@ MediaPicture readPicture(const QString& path, ProgramKind kind, const QSize& bou
     return client.picture(path, kind, bound, [&isCancelled] { return isCancelled.load(); });
 }
 
+MediaPicture readFilmPicture(const QString& path, qint64 positionMs, const QSize& bound,
+                             const std::atomic<bool>& isCancelled)
+{
+    if (isCancelled) {
+        return {};
+    }
+    MediaReaderClient client(MediaReaderClient::Purpose::Pictures, mediaReading());
+    return client.picture(
+        path, ProgramKind::Video, bound, [&isCancelled] { return isCancelled.load(); }, positionMs);
+}
+
 } // namespace trel::mediadispatch

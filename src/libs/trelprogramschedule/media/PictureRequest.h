@@ -4,6 +4,8 @@
 #include "trelprogramschedule/media/MediaPicture.h"
 #include "trelprogramschedule_export.h"
 
+#include <QtGlobal>
+
 #include <atomic>
 
 class QString;
@@ -19,5 +21,11 @@ namespace trel::mediadispatch {
 TRELPROGRAMSCHEDULE_EXPORT MediaPicture readPicture(const QString& path, ProgramKind kind,
                                                     const QSize& bound,
                                                     const std::atomic<bool>& isCancelled);
+
+/// As readPicture, of a film: its first picture from a position on, in milliseconds, or its last
+/// one where there is none so late. Positions before its begin are that of its first picture.
+TRELPROGRAMSCHEDULE_EXPORT MediaPicture readFilmPicture(const QString& path, qint64 positionMs,
+                                                        const QSize& bound,
+                                                        const std::atomic<bool>& isCancelled);
 
 } // namespace trel::mediadispatch
