@@ -2825,4 +2825,164 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Es gibt kein Bild, das gelesen werden kann.</translation>
     </message>
 </context>
+<context>
+    <name>KeyTable</name>
+    <message>
+        <source>Main window</source>
+        <translation>Hauptfenster</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Woche</translation>
+    </message>
+    <message>
+        <source>Go to the next task</source>
+        <translation>Zum nächsten Auftrag</translation>
+    </message>
+    <message>
+        <source>Go to the task before</source>
+        <translation>Zum vorigen Auftrag</translation>
+    </message>
+    <message>
+        <source>Fold or open the task</source>
+        <translation>Auftrag auf- oder zuklappen</translation>
+    </message>
+    <message>
+        <source>Add a task</source>
+        <translation>Auftrag hinzufügen</translation>
+    </message>
+    <message>
+        <source>Copy the task</source>
+        <translation>Auftrag kopieren</translation>
+    </message>
+    <message>
+        <source>Delete the task</source>
+        <translation>Auftrag löschen</translation>
+    </message>
+    <message>
+        <source>Add a plan</source>
+        <translation>Plan hinzufügen</translation>
+    </message>
+    <message>
+        <source>Copy the plan</source>
+        <translation>Plan kopieren</translation>
+    </message>
+    <message>
+        <source>Delete the plan</source>
+        <translation>Plan löschen</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan</source>
+        <translation>Programme des Plans wählen</translation>
+    </message>
+    <message>
+        <source>Save and close</source>
+        <translation>Speichern und schließen</translation>
+    </message>
+    <message>
+        <source>Save and start</source>
+        <translation>Speichern und starten</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Schließen, ohne zu speichern</translation>
+    </message>
+    <message>
+        <source>Select another plan</source>
+        <translation>Anderen Plan auswählen</translation>
+    </message>
+    <message>
+        <source>Open the selected plan in the editor</source>
+        <translation>Ausgewählten Plan im Editor öffnen</translation>
+    </message>
+    <message>
+        <source>Say what is on screen then, and why</source>
+        <translation>Sagen, was dann auf dem Bildschirm ist und warum</translation>
+    </message>
+    <message>
+        <source>Move the plan by a quarter of an hour</source>
+        <translation>Plan um eine Viertelstunde verschieben</translation>
+    </message>
+    <message>
+        <source>Move the plan to another day</source>
+        <translation>Plan auf einen anderen Tag verschieben</translation>
+    </message>
+    <message>
+        <source>Move the end of the plan</source>
+        <translation>Ende des Plans verschieben</translation>
+    </message>
+    <message>
+        <source>Move the begin of the plan</source>
+        <translation>Beginn des Plans verschieben</translation>
+    </message>
+    <message>
+        <source>Give up dragging</source>
+        <translation>Ziehen abbrechen</translation>
+    </message>
+    <message>
+        <source>Copy the plans of the day</source>
+        <translation>Pläne des Tages kopieren</translation>
+    </message>
+    <message>
+        <source>Show another week</source>
+        <translation>Andere Woche zeigen</translation>
+    </message>
+    <message>
+        <source>Show the present moment</source>
+        <translation>Die Gegenwart zeigen</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Größe ändern</translation>
+    </message>
+    <message>
+        <source>Fit the whole day</source>
+        <translation>Ganzen Tag einpassen</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::KeySheet</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::GuideWindow</name>
+    <message>
+        <source>The guide</source>
+        <translation>Die Anleitung</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Anleitung</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>&amp;Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>&amp;About this program</source>
+        <translation>Ü&amp;ber dieses Programm</translation>
+    </message>
+    <message>
+        <source>Schedules media programs on screens, edits the schedule and follows it.</source>
+        <translation>Plant Medienprogramme auf Bildschirmen, bearbeitet den Wiedergabeplan und verfolgt ihn.</translation>
+    </message>
+</context>
 </TS>

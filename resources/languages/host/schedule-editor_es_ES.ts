@@ -2825,4 +2825,164 @@ What do you want to do with your changes?</source>
         <translation>No tiene ninguna imagen que se pueda leer.</translation>
     </message>
 </context>
+<context>
+    <name>KeyTable</name>
+    <message>
+        <source>Main window</source>
+        <translation>Ventana principal</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Semana</translation>
+    </message>
+    <message>
+        <source>Go to the next task</source>
+        <translation>Ir a la tarea siguiente</translation>
+    </message>
+    <message>
+        <source>Go to the task before</source>
+        <translation>Ir a la tarea anterior</translation>
+    </message>
+    <message>
+        <source>Fold or open the task</source>
+        <translation>Plegar o abrir la tarea</translation>
+    </message>
+    <message>
+        <source>Add a task</source>
+        <translation>Añadir una tarea</translation>
+    </message>
+    <message>
+        <source>Copy the task</source>
+        <translation>Copiar la tarea</translation>
+    </message>
+    <message>
+        <source>Delete the task</source>
+        <translation>Eliminar la tarea</translation>
+    </message>
+    <message>
+        <source>Add a plan</source>
+        <translation>Añadir un plan</translation>
+    </message>
+    <message>
+        <source>Copy the plan</source>
+        <translation>Copiar el plan</translation>
+    </message>
+    <message>
+        <source>Delete the plan</source>
+        <translation>Eliminar el plan</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan</source>
+        <translation>Elegir los programas del plan</translation>
+    </message>
+    <message>
+        <source>Save and close</source>
+        <translation>Guardar y cerrar</translation>
+    </message>
+    <message>
+        <source>Save and start</source>
+        <translation>Guardar e iniciar</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Cerrar sin guardar</translation>
+    </message>
+    <message>
+        <source>Select another plan</source>
+        <translation>Seleccionar otro plan</translation>
+    </message>
+    <message>
+        <source>Open the selected plan in the editor</source>
+        <translation>Abrir el plan seleccionado en el editor</translation>
+    </message>
+    <message>
+        <source>Say what is on screen then, and why</source>
+        <translation>Decir qué hay entonces en pantalla y por qué</translation>
+    </message>
+    <message>
+        <source>Move the plan by a quarter of an hour</source>
+        <translation>Mover el plan un cuarto de hora</translation>
+    </message>
+    <message>
+        <source>Move the plan to another day</source>
+        <translation>Mover el plan a otro día</translation>
+    </message>
+    <message>
+        <source>Move the end of the plan</source>
+        <translation>Mover el final del plan</translation>
+    </message>
+    <message>
+        <source>Move the begin of the plan</source>
+        <translation>Mover el inicio del plan</translation>
+    </message>
+    <message>
+        <source>Give up dragging</source>
+        <translation>Abandonar el arrastre</translation>
+    </message>
+    <message>
+        <source>Copy the plans of the day</source>
+        <translation>Copiar los planes del día</translation>
+    </message>
+    <message>
+        <source>Show another week</source>
+        <translation>Mostrar otra semana</translation>
+    </message>
+    <message>
+        <source>Show the present moment</source>
+        <translation>Mostrar el momento actual</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Cambiar el tamaño</translation>
+    </message>
+    <message>
+        <source>Fit the whole day</source>
+        <translation>Ajustar al día entero</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::KeySheet</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::GuideWindow</name>
+    <message>
+        <source>The guide</source>
+        <translation>La guía</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Guía</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>Atajos de &amp;teclado</translation>
+    </message>
+    <message>
+        <source>&amp;About this program</source>
+        <translation>&amp;Acerca de este programa</translation>
+    </message>
+    <message>
+        <source>Schedules media programs on screens, edits the schedule and follows it.</source>
+        <translation>Programa contenidos multimedia en pantallas, edita la programación y la sigue.</translation>
+    </message>
+</context>
 </TS>

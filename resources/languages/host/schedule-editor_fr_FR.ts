@@ -2825,4 +2825,164 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Aucune image ne peut en être lue.</translation>
     </message>
 </context>
+<context>
+    <name>KeyTable</name>
+    <message>
+        <source>Main window</source>
+        <translation>Fenêtre principale</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Éditeur</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Semaine</translation>
+    </message>
+    <message>
+        <source>Go to the next task</source>
+        <translation>Aller à la tâche suivante</translation>
+    </message>
+    <message>
+        <source>Go to the task before</source>
+        <translation>Aller à la tâche précédente</translation>
+    </message>
+    <message>
+        <source>Fold or open the task</source>
+        <translation>Replier ou ouvrir la tâche</translation>
+    </message>
+    <message>
+        <source>Add a task</source>
+        <translation>Ajouter une tâche</translation>
+    </message>
+    <message>
+        <source>Copy the task</source>
+        <translation>Copier la tâche</translation>
+    </message>
+    <message>
+        <source>Delete the task</source>
+        <translation>Supprimer la tâche</translation>
+    </message>
+    <message>
+        <source>Add a plan</source>
+        <translation>Ajouter un créneau</translation>
+    </message>
+    <message>
+        <source>Copy the plan</source>
+        <translation>Copier le créneau</translation>
+    </message>
+    <message>
+        <source>Delete the plan</source>
+        <translation>Supprimer le créneau</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan</source>
+        <translation>Choisir les programmes du créneau</translation>
+    </message>
+    <message>
+        <source>Save and close</source>
+        <translation>Enregistrer et fermer</translation>
+    </message>
+    <message>
+        <source>Save and start</source>
+        <translation>Enregistrer et démarrer</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Fermer sans enregistrer</translation>
+    </message>
+    <message>
+        <source>Select another plan</source>
+        <translation>Sélectionner un autre créneau</translation>
+    </message>
+    <message>
+        <source>Open the selected plan in the editor</source>
+        <translation>Ouvrir le créneau sélectionné dans l’éditeur</translation>
+    </message>
+    <message>
+        <source>Say what is on screen then, and why</source>
+        <translation>Dire ce qui est alors à l’écran et pourquoi</translation>
+    </message>
+    <message>
+        <source>Move the plan by a quarter of an hour</source>
+        <translation>Déplacer le créneau d’un quart d’heure</translation>
+    </message>
+    <message>
+        <source>Move the plan to another day</source>
+        <translation>Déplacer le créneau à un autre jour</translation>
+    </message>
+    <message>
+        <source>Move the end of the plan</source>
+        <translation>Déplacer la fin du créneau</translation>
+    </message>
+    <message>
+        <source>Move the begin of the plan</source>
+        <translation>Déplacer le début du créneau</translation>
+    </message>
+    <message>
+        <source>Give up dragging</source>
+        <translation>Abandonner le glissement</translation>
+    </message>
+    <message>
+        <source>Copy the plans of the day</source>
+        <translation>Copier les créneaux du jour</translation>
+    </message>
+    <message>
+        <source>Show another week</source>
+        <translation>Afficher une autre semaine</translation>
+    </message>
+    <message>
+        <source>Show the present moment</source>
+        <translation>Afficher l’instant présent</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoomer</translation>
+    </message>
+    <message>
+        <source>Fit the whole day</source>
+        <translation>Ajuster à la journée entière</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::KeySheet</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::GuideWindow</name>
+    <message>
+        <source>The guide</source>
+        <translation>Le guide</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Guide</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>&amp;Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>&amp;About this program</source>
+        <translation>À &amp;propos de ce programme</translation>
+    </message>
+    <message>
+        <source>Schedules media programs on screens, edits the schedule and follows it.</source>
+        <translation>Programme des médias sur des écrans, modifie la programmation et la suit.</translation>
+    </message>
+</context>
 </TS>

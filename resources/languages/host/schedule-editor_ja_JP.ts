@@ -2782,4 +2782,164 @@ What do you want to do with your changes?</source>
         <translation>読み込める映像がありません。</translation>
     </message>
 </context>
+<context>
+    <name>KeyTable</name>
+    <message>
+        <source>Main window</source>
+        <translation>メインウィンドウ</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>エディター</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>週</translation>
+    </message>
+    <message>
+        <source>Go to the next task</source>
+        <translation>次のタスクへ移動</translation>
+    </message>
+    <message>
+        <source>Go to the task before</source>
+        <translation>前のタスクへ移動</translation>
+    </message>
+    <message>
+        <source>Fold or open the task</source>
+        <translation>タスクを折りたたむ・開く</translation>
+    </message>
+    <message>
+        <source>Add a task</source>
+        <translation>タスクを追加</translation>
+    </message>
+    <message>
+        <source>Copy the task</source>
+        <translation>タスクをコピー</translation>
+    </message>
+    <message>
+        <source>Delete the task</source>
+        <translation>タスクを削除</translation>
+    </message>
+    <message>
+        <source>Add a plan</source>
+        <translation>計画を追加</translation>
+    </message>
+    <message>
+        <source>Copy the plan</source>
+        <translation>計画をコピー</translation>
+    </message>
+    <message>
+        <source>Delete the plan</source>
+        <translation>計画を削除</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan</source>
+        <translation>計画の番組を選ぶ</translation>
+    </message>
+    <message>
+        <source>Save and close</source>
+        <translation>保存して閉じる</translation>
+    </message>
+    <message>
+        <source>Save and start</source>
+        <translation>保存して開始</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>保存せずに閉じる</translation>
+    </message>
+    <message>
+        <source>Select another plan</source>
+        <translation>別の計画を選択</translation>
+    </message>
+    <message>
+        <source>Open the selected plan in the editor</source>
+        <translation>選択した計画をエディターで開く</translation>
+    </message>
+    <message>
+        <source>Say what is on screen then, and why</source>
+        <translation>そのとき画面に出るものと理由を表示</translation>
+    </message>
+    <message>
+        <source>Move the plan by a quarter of an hour</source>
+        <translation>計画を15分移動</translation>
+    </message>
+    <message>
+        <source>Move the plan to another day</source>
+        <translation>計画を別の日に移動</translation>
+    </message>
+    <message>
+        <source>Move the end of the plan</source>
+        <translation>計画の終了を移動</translation>
+    </message>
+    <message>
+        <source>Move the begin of the plan</source>
+        <translation>計画の開始を移動</translation>
+    </message>
+    <message>
+        <source>Give up dragging</source>
+        <translation>ドラッグを中止</translation>
+    </message>
+    <message>
+        <source>Copy the plans of the day</source>
+        <translation>その日の計画をコピー</translation>
+    </message>
+    <message>
+        <source>Show another week</source>
+        <translation>別の週を表示</translation>
+    </message>
+    <message>
+        <source>Show the present moment</source>
+        <translation>現在を表示</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>拡大・縮小</translation>
+    </message>
+    <message>
+        <source>Fit the whole day</source>
+        <translation>1日全体に合わせる</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::KeySheet</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>キーボードショートカット</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::GuideWindow</name>
+    <message>
+        <source>The guide</source>
+        <translation>ガイド</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>ガイド(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>キーボードショートカット(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;About this program</source>
+        <translation>このアプリについて(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Schedules media programs on screens, edits the schedule and follows it.</source>
+        <translation>画面に出すメディアのスケジュールを作成・編集し、その進行を追います。</translation>
+    </message>
+</context>
 </TS>

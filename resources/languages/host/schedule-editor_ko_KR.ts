@@ -2782,4 +2782,164 @@ What do you want to do with your changes?</source>
         <translation>읽을 수 있는 화면이 없습니다.</translation>
     </message>
 </context>
+<context>
+    <name>KeyTable</name>
+    <message>
+        <source>Main window</source>
+        <translation>기본 창</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>편집기</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>주</translation>
+    </message>
+    <message>
+        <source>Go to the next task</source>
+        <translation>다음 작업으로 이동</translation>
+    </message>
+    <message>
+        <source>Go to the task before</source>
+        <translation>이전 작업으로 이동</translation>
+    </message>
+    <message>
+        <source>Fold or open the task</source>
+        <translation>작업 접기 또는 펼치기</translation>
+    </message>
+    <message>
+        <source>Add a task</source>
+        <translation>작업 추가</translation>
+    </message>
+    <message>
+        <source>Copy the task</source>
+        <translation>작업 복사</translation>
+    </message>
+    <message>
+        <source>Delete the task</source>
+        <translation>작업 삭제</translation>
+    </message>
+    <message>
+        <source>Add a plan</source>
+        <translation>계획 추가</translation>
+    </message>
+    <message>
+        <source>Copy the plan</source>
+        <translation>계획 복사</translation>
+    </message>
+    <message>
+        <source>Delete the plan</source>
+        <translation>계획 삭제</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan</source>
+        <translation>계획의 프로그램 선택</translation>
+    </message>
+    <message>
+        <source>Save and close</source>
+        <translation>저장하고 닫기</translation>
+    </message>
+    <message>
+        <source>Save and start</source>
+        <translation>저장하고 시작</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>저장하지 않고 닫기</translation>
+    </message>
+    <message>
+        <source>Select another plan</source>
+        <translation>다른 계획 선택</translation>
+    </message>
+    <message>
+        <source>Open the selected plan in the editor</source>
+        <translation>선택한 계획을 편집기에서 열기</translation>
+    </message>
+    <message>
+        <source>Say what is on screen then, and why</source>
+        <translation>그때 화면에 나오는 것과 이유 보기</translation>
+    </message>
+    <message>
+        <source>Move the plan by a quarter of an hour</source>
+        <translation>계획을 15분 옮기기</translation>
+    </message>
+    <message>
+        <source>Move the plan to another day</source>
+        <translation>계획을 다른 날로 옮기기</translation>
+    </message>
+    <message>
+        <source>Move the end of the plan</source>
+        <translation>계획의 끝 옮기기</translation>
+    </message>
+    <message>
+        <source>Move the begin of the plan</source>
+        <translation>계획의 시작 옮기기</translation>
+    </message>
+    <message>
+        <source>Give up dragging</source>
+        <translation>끌기 그만두기</translation>
+    </message>
+    <message>
+        <source>Copy the plans of the day</source>
+        <translation>그날의 계획 복사</translation>
+    </message>
+    <message>
+        <source>Show another week</source>
+        <translation>다른 주 보기</translation>
+    </message>
+    <message>
+        <source>Show the present moment</source>
+        <translation>현재 시각 보기</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>확대/축소</translation>
+    </message>
+    <message>
+        <source>Fit the whole day</source>
+        <translation>하루 전체 맞추기</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::KeySheet</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>키보드 단축키</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::GuideWindow</name>
+    <message>
+        <source>The guide</source>
+        <translation>안내서</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>도움말(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>안내서(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>키보드 단축키(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;About this program</source>
+        <translation>이 프로그램 정보(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Schedules media programs on screens, edits the schedule and follows it.</source>
+        <translation>화면에 나오는 미디어의 일정을 짜고 편집하며 진행을 따라갑니다.</translation>
+    </message>
+</context>
 </TS>

@@ -2825,4 +2825,164 @@ O que deseja fazer com as alterações?</translation>
         <translation>Não tem imagem que se possa ler.</translation>
     </message>
 </context>
+<context>
+    <name>KeyTable</name>
+    <message>
+        <source>Main window</source>
+        <translation>Janela principal</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Editor</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Semana</translation>
+    </message>
+    <message>
+        <source>Go to the next task</source>
+        <translation>Ir para a próxima tarefa</translation>
+    </message>
+    <message>
+        <source>Go to the task before</source>
+        <translation>Ir para a tarefa anterior</translation>
+    </message>
+    <message>
+        <source>Fold or open the task</source>
+        <translation>Recolher ou abrir a tarefa</translation>
+    </message>
+    <message>
+        <source>Add a task</source>
+        <translation>Adicionar uma tarefa</translation>
+    </message>
+    <message>
+        <source>Copy the task</source>
+        <translation>Copiar a tarefa</translation>
+    </message>
+    <message>
+        <source>Delete the task</source>
+        <translation>Excluir a tarefa</translation>
+    </message>
+    <message>
+        <source>Add a plan</source>
+        <translation>Adicionar um plano</translation>
+    </message>
+    <message>
+        <source>Copy the plan</source>
+        <translation>Copiar o plano</translation>
+    </message>
+    <message>
+        <source>Delete the plan</source>
+        <translation>Excluir o plano</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan</source>
+        <translation>Escolher os programas do plano</translation>
+    </message>
+    <message>
+        <source>Save and close</source>
+        <translation>Salvar e fechar</translation>
+    </message>
+    <message>
+        <source>Save and start</source>
+        <translation>Salvar e iniciar</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Fechar sem salvar</translation>
+    </message>
+    <message>
+        <source>Select another plan</source>
+        <translation>Selecionar outro plano</translation>
+    </message>
+    <message>
+        <source>Open the selected plan in the editor</source>
+        <translation>Abrir o plano selecionado no editor</translation>
+    </message>
+    <message>
+        <source>Say what is on screen then, and why</source>
+        <translation>Dizer o que está na tela nesse momento e por quê</translation>
+    </message>
+    <message>
+        <source>Move the plan by a quarter of an hour</source>
+        <translation>Mover o plano em um quarto de hora</translation>
+    </message>
+    <message>
+        <source>Move the plan to another day</source>
+        <translation>Mover o plano para outro dia</translation>
+    </message>
+    <message>
+        <source>Move the end of the plan</source>
+        <translation>Mover o fim do plano</translation>
+    </message>
+    <message>
+        <source>Move the begin of the plan</source>
+        <translation>Mover o início do plano</translation>
+    </message>
+    <message>
+        <source>Give up dragging</source>
+        <translation>Desistir de arrastar</translation>
+    </message>
+    <message>
+        <source>Copy the plans of the day</source>
+        <translation>Copiar os planos do dia</translation>
+    </message>
+    <message>
+        <source>Show another week</source>
+        <translation>Mostrar outra semana</translation>
+    </message>
+    <message>
+        <source>Show the present moment</source>
+        <translation>Mostrar o momento atual</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Alterar o zoom</translation>
+    </message>
+    <message>
+        <source>Fit the whole day</source>
+        <translation>Ajustar ao dia inteiro</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::KeySheet</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atalhos de teclado</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::GuideWindow</name>
+    <message>
+        <source>The guide</source>
+        <translation>O guia</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Aj&amp;uda</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Guia</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>A&amp;talhos de teclado</translation>
+    </message>
+    <message>
+        <source>&amp;About this program</source>
+        <translation>&amp;Sobre este programa</translation>
+    </message>
+    <message>
+        <source>Schedules media programs on screens, edits the schedule and follows it.</source>
+        <translation>Programa mídias em telas, edita a programação e a acompanha.</translation>
+    </message>
+</context>
 </TS>

@@ -2868,4 +2868,164 @@ What do you want to do with your changes?</source>
         <translation>Нет изображения, которое можно прочитать.</translation>
     </message>
 </context>
+<context>
+    <name>KeyTable</name>
+    <message>
+        <source>Main window</source>
+        <translation>Главное окно</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>Редактор</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Неделя</translation>
+    </message>
+    <message>
+        <source>Go to the next task</source>
+        <translation>К следующему заданию</translation>
+    </message>
+    <message>
+        <source>Go to the task before</source>
+        <translation>К предыдущему заданию</translation>
+    </message>
+    <message>
+        <source>Fold or open the task</source>
+        <translation>Свернуть или раскрыть задание</translation>
+    </message>
+    <message>
+        <source>Add a task</source>
+        <translation>Добавить задание</translation>
+    </message>
+    <message>
+        <source>Copy the task</source>
+        <translation>Копировать задание</translation>
+    </message>
+    <message>
+        <source>Delete the task</source>
+        <translation>Удалить задание</translation>
+    </message>
+    <message>
+        <source>Add a plan</source>
+        <translation>Добавить план</translation>
+    </message>
+    <message>
+        <source>Copy the plan</source>
+        <translation>Копировать план</translation>
+    </message>
+    <message>
+        <source>Delete the plan</source>
+        <translation>Удалить план</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan</source>
+        <translation>Выбрать программы плана</translation>
+    </message>
+    <message>
+        <source>Save and close</source>
+        <translation>Сохранить и закрыть</translation>
+    </message>
+    <message>
+        <source>Save and start</source>
+        <translation>Сохранить и запустить</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>Закрыть без сохранения</translation>
+    </message>
+    <message>
+        <source>Select another plan</source>
+        <translation>Выбрать другой план</translation>
+    </message>
+    <message>
+        <source>Open the selected plan in the editor</source>
+        <translation>Открыть выбранный план в редакторе</translation>
+    </message>
+    <message>
+        <source>Say what is on screen then, and why</source>
+        <translation>Сообщить, что тогда на экране и почему</translation>
+    </message>
+    <message>
+        <source>Move the plan by a quarter of an hour</source>
+        <translation>Сместить план на четверть часа</translation>
+    </message>
+    <message>
+        <source>Move the plan to another day</source>
+        <translation>Переместить план на другой день</translation>
+    </message>
+    <message>
+        <source>Move the end of the plan</source>
+        <translation>Сместить конец плана</translation>
+    </message>
+    <message>
+        <source>Move the begin of the plan</source>
+        <translation>Сместить начало плана</translation>
+    </message>
+    <message>
+        <source>Give up dragging</source>
+        <translation>Отменить перетаскивание</translation>
+    </message>
+    <message>
+        <source>Copy the plans of the day</source>
+        <translation>Копировать планы дня</translation>
+    </message>
+    <message>
+        <source>Show another week</source>
+        <translation>Показать другую неделю</translation>
+    </message>
+    <message>
+        <source>Show the present moment</source>
+        <translation>Показать текущий момент</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Масштаб</translation>
+    </message>
+    <message>
+        <source>Fit the whole day</source>
+        <translation>Вместить весь день</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::KeySheet</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Сочетания клавиш</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::GuideWindow</name>
+    <message>
+        <source>The guide</source>
+        <translation>Руководство</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Руководство</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>Со&amp;четания клавиш</translation>
+    </message>
+    <message>
+        <source>&amp;About this program</source>
+        <translation>&amp;О программе</translation>
+    </message>
+    <message>
+        <source>Schedules media programs on screens, edits the schedule and follows it.</source>
+        <translation>Составляет и редактирует расписание медиапрограмм на экранах и следит за ним.</translation>
+    </message>
+</context>
 </TS>

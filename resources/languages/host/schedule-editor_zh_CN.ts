@@ -2782,4 +2782,164 @@ What do you want to do with your changes?</source>
         <translation>没有可以读取的画面。</translation>
     </message>
 </context>
+<context>
+    <name>KeyTable</name>
+    <message>
+        <source>Main window</source>
+        <translation>主窗口</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>编辑器</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>周</translation>
+    </message>
+    <message>
+        <source>Go to the next task</source>
+        <translation>转到下一个任务</translation>
+    </message>
+    <message>
+        <source>Go to the task before</source>
+        <translation>转到上一个任务</translation>
+    </message>
+    <message>
+        <source>Fold or open the task</source>
+        <translation>折叠或展开任务</translation>
+    </message>
+    <message>
+        <source>Add a task</source>
+        <translation>添加任务</translation>
+    </message>
+    <message>
+        <source>Copy the task</source>
+        <translation>复制任务</translation>
+    </message>
+    <message>
+        <source>Delete the task</source>
+        <translation>删除任务</translation>
+    </message>
+    <message>
+        <source>Add a plan</source>
+        <translation>添加计划</translation>
+    </message>
+    <message>
+        <source>Copy the plan</source>
+        <translation>复制计划</translation>
+    </message>
+    <message>
+        <source>Delete the plan</source>
+        <translation>删除计划</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan</source>
+        <translation>选择计划的节目</translation>
+    </message>
+    <message>
+        <source>Save and close</source>
+        <translation>保存并关闭</translation>
+    </message>
+    <message>
+        <source>Save and start</source>
+        <translation>保存并启用</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>不保存并关闭</translation>
+    </message>
+    <message>
+        <source>Select another plan</source>
+        <translation>选择另一个计划</translation>
+    </message>
+    <message>
+        <source>Open the selected plan in the editor</source>
+        <translation>在编辑器中打开所选计划</translation>
+    </message>
+    <message>
+        <source>Say what is on screen then, and why</source>
+        <translation>说明届时屏幕上的内容及原因</translation>
+    </message>
+    <message>
+        <source>Move the plan by a quarter of an hour</source>
+        <translation>将计划移动一刻钟</translation>
+    </message>
+    <message>
+        <source>Move the plan to another day</source>
+        <translation>将计划移到另一天</translation>
+    </message>
+    <message>
+        <source>Move the end of the plan</source>
+        <translation>移动计划的结束</translation>
+    </message>
+    <message>
+        <source>Move the begin of the plan</source>
+        <translation>移动计划的开始</translation>
+    </message>
+    <message>
+        <source>Give up dragging</source>
+        <translation>放弃拖动</translation>
+    </message>
+    <message>
+        <source>Copy the plans of the day</source>
+        <translation>复制当天的计划</translation>
+    </message>
+    <message>
+        <source>Show another week</source>
+        <translation>显示另一周</translation>
+    </message>
+    <message>
+        <source>Show the present moment</source>
+        <translation>显示当前时刻</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>Fit the whole day</source>
+        <translation>适应整天</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::KeySheet</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::GuideWindow</name>
+    <message>
+        <source>The guide</source>
+        <translation>指南</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>帮助(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>指南(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>键盘快捷键(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;About this program</source>
+        <translation>关于本程序(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Schedules media programs on screens, edits the schedule and follows it.</source>
+        <translation>为屏幕上的媒体节目编排、编辑排期并跟踪其播出。</translation>
+    </message>
+</context>
 </TS>

@@ -2782,4 +2782,164 @@ What do you want to do with your changes?</source>
         <translation>沒有可以讀取的畫面。</translation>
     </message>
 </context>
+<context>
+    <name>KeyTable</name>
+    <message>
+        <source>Main window</source>
+        <translation>主視窗</translation>
+    </message>
+    <message>
+        <source>Editor</source>
+        <translation>編輯器</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>週</translation>
+    </message>
+    <message>
+        <source>Go to the next task</source>
+        <translation>前往下一個任務</translation>
+    </message>
+    <message>
+        <source>Go to the task before</source>
+        <translation>前往上一個任務</translation>
+    </message>
+    <message>
+        <source>Fold or open the task</source>
+        <translation>摺疊或展開任務</translation>
+    </message>
+    <message>
+        <source>Add a task</source>
+        <translation>新增任務</translation>
+    </message>
+    <message>
+        <source>Copy the task</source>
+        <translation>複製任務</translation>
+    </message>
+    <message>
+        <source>Delete the task</source>
+        <translation>刪除任務</translation>
+    </message>
+    <message>
+        <source>Add a plan</source>
+        <translation>新增計畫</translation>
+    </message>
+    <message>
+        <source>Copy the plan</source>
+        <translation>複製計畫</translation>
+    </message>
+    <message>
+        <source>Delete the plan</source>
+        <translation>刪除計畫</translation>
+    </message>
+    <message>
+        <source>Choose the programs of the plan</source>
+        <translation>選擇計畫的節目</translation>
+    </message>
+    <message>
+        <source>Save and close</source>
+        <translation>儲存並關閉</translation>
+    </message>
+    <message>
+        <source>Save and start</source>
+        <translation>儲存並啟用</translation>
+    </message>
+    <message>
+        <source>Close without saving</source>
+        <translation>不儲存並關閉</translation>
+    </message>
+    <message>
+        <source>Select another plan</source>
+        <translation>選取另一個計畫</translation>
+    </message>
+    <message>
+        <source>Open the selected plan in the editor</source>
+        <translation>在編輯器中開啟所選計畫</translation>
+    </message>
+    <message>
+        <source>Say what is on screen then, and why</source>
+        <translation>說明屆時螢幕上的內容及原因</translation>
+    </message>
+    <message>
+        <source>Move the plan by a quarter of an hour</source>
+        <translation>將計畫移動一刻鐘</translation>
+    </message>
+    <message>
+        <source>Move the plan to another day</source>
+        <translation>將計畫移到另一天</translation>
+    </message>
+    <message>
+        <source>Move the end of the plan</source>
+        <translation>移動計畫的結束</translation>
+    </message>
+    <message>
+        <source>Move the begin of the plan</source>
+        <translation>移動計畫的開始</translation>
+    </message>
+    <message>
+        <source>Give up dragging</source>
+        <translation>放棄拖曳</translation>
+    </message>
+    <message>
+        <source>Copy the plans of the day</source>
+        <translation>複製當天的計畫</translation>
+    </message>
+    <message>
+        <source>Show another week</source>
+        <translation>顯示另一週</translation>
+    </message>
+    <message>
+        <source>Show the present moment</source>
+        <translation>顯示目前時刻</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>縮放</translation>
+    </message>
+    <message>
+        <source>Fit the whole day</source>
+        <translation>符合整天</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::KeySheet</name>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>鍵盤快速鍵</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::GuideWindow</name>
+    <message>
+        <source>The guide</source>
+        <translation>指南</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::HelpMenu</name>
+    <message>
+        <source>&amp;Help</source>
+        <translation>說明(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>指南(&amp;G)</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard shortcuts</source>
+        <translation>鍵盤快速鍵(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;About this program</source>
+        <translation>關於本程式(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Schedules media programs on screens, edits the schedule and follows it.</source>
+        <translation>為螢幕上的媒體節目編排、編輯排程並追蹤其播出。</translation>
+    </message>
+</context>
 </TS>

@@ -15,6 +15,7 @@
 #include "draft/DraftKeeper.h"
 #include "effect/EffectActions.h"
 #include "follow/EditedSchedule.h"
+#include "help/HelpMenu.h"
 #include "problems/ProblemDock.h"
 #include "scheduleControlUI.h"
 #include "screen/NowNextPanel.h"
@@ -81,6 +82,7 @@ void nameButton(const QDockWidget& panel, const char* button, const char* name)
 EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Themes& themes)
     : m_editor(editor)
     , m_menus(new EditorMenus(*menuBar(), languages, themes))
+    , m_help(new HelpMenu(*this, editor))
     , m_catalogue(new CataloguePanel(*m_menus, this))
     , m_programs(new QDockWidget(this))
     , m_nowNext(new QDockWidget(this))
@@ -198,6 +200,7 @@ void EditorWindow::addPanel(QDockWidget* panel, Qt::DockWidgetArea area)
 void EditorWindow::retranslate()
 {
     m_menus->retranslate();
+    m_help->retranslate();
     m_undo->update();
     m_programs->setWindowTitle(tr("Catalog"));
     m_programs->toggleViewAction()->setText(tr("Catal&og"));

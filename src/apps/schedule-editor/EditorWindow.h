@@ -29,6 +29,7 @@ class CatalogueImport;
 class CataloguePanel;
 class DraftKeeper;
 class EditorMenus;
+class HelpMenu;
 class Languages;
 class PendingNotices;
 class Themes;
@@ -103,6 +104,7 @@ private:
 
     trel::mediadispatch::scheduleControlUI& m_editor;
     EditorMenus* m_menus;
+    HelpMenu* m_help;
     CataloguePanel* m_catalogue;
     QDockWidget* m_programs;
     QDockWidget* m_nowNext;

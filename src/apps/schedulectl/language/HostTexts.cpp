@@ -44,7 +44,11 @@ const std::vector<HostMenu>& hostMenus()
     static const std::vector<HostMenu> menus = {
         {QStringLiteral("the menu bar"),
          {entry("EditorMenus", "&Schedule"), entry("EditorMenus", "&Programs"),
-          entry("EditorMenus", "&View"), entry("EditorMenus", "&Language")}},
+          entry("EditorMenus", "&View"), entry("EditorMenus", "&Language"),
+          entry("HelpMenu", "&Help")}},
+        {QStringLiteral("the menu \"Help\""),
+         {entry("HelpMenu", "&Guide"), entry("HelpMenu", "&Keyboard shortcuts"),
+          entry("HelpMenu", "&About this program")}},
         {QStringLiteral("the menu \"Schedule\""),
          {entry("EditorMenus", "&Edit schedule"), entry("undo::HistoryActions", "&Undo"),
           entry("undo::HistoryActions", "Re&do"),

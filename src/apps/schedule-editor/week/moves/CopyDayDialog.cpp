@@ -16,7 +16,7 @@ using namespace trel::mediadispatch;
 namespace trel::desktop::week {
 
 CopyDayDialog::CopyDayDialog(const WeekLayout& week, const QDate& day, const EditTarget& target,
-                             QWidget* parent)
+                             const QLocale& locale, QWidget* parent)
     : QDialog(parent)
     , m_day(day)
     , m_tasks(target.tasks())
@@ -26,7 +26,8 @@ CopyDayDialog::CopyDayDialog(const WeekLayout& week, const QDate& day, const Edi
     , m_confirm(new QPushButton(tr("Copy"), this))
 {
     setObjectName(QStringLiteral("copyDay"));
-    setWindowTitle(MoveWords::copyDay(day, locale()));
+    setLocale(locale);
+    setWindowTitle(MoveWords::copyDay(day, locale));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(tr("Copy onto these days, whose own plans stay:"), this));
     addDays(week);
@@ -45,6 +46,7 @@ CopyDayDialog::CopyDayDialog(const WeekLayout& week, const QDate& day, const Edi
     layout->addLayout(row);
     m_confirm->setObjectName(QStringLiteral("copyDayConfirm"));
     m_confirm->setDefault(true);
+    m_confirm->setProperty("style", QStringLiteral("general"));
     cancel->setAutoDefault(false);
     connect(m_confirm, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -59,7 +61,7 @@ void CopyDayDialog::addDays(const WeekLayout& week)
         if (column.date == m_day) {
             continue;
         }
-        const QString date = locale().toString(column.date, QLocale::LongFormat);
+        const QString date = MoveWords::day(column.date, locale());
         const bool hasTask = m_week->inEffectOn(column.date).has_value();
         auto* box =
             new QCheckBox(hasTask ? date : tr("%1 (no task is valid)", "a day").arg(date), this);

@@ -26,7 +26,7 @@ class CopyDayDialog : public QDialog
 public:
     /// The target outlives the dialog. The day is one of the week.
     CopyDayDialog(const WeekLayout& week, const QDate& day, const EditTarget& target,
-                  QWidget* parent);
+                  const QLocale& locale, QWidget* parent);
     ~CopyDayDialog() override;
 
     /// What is to be filed for the days that are chosen.

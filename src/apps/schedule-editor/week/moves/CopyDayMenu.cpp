@@ -62,8 +62,7 @@ void CopyDayMenu::ask(const QDate& day)
         return;
     }
     const QPointer<CopyDayMenu> self(this);
-    CopyDayDialog dialog(m_view.layoutOfWeek(), day, m_target, m_view.window());
-    dialog.setLocale(m_view.locale());
+    CopyDayDialog dialog(m_view.layoutOfWeek(), day, m_target, m_view.locale(), m_view.window());
     if (dialog.exec() == QDialog::Accepted && self) {
         m_target.file(dialog.edits());
     }

@@ -1,5 +1,6 @@
 #include "week/moves/MoveWords.h"
 
+#include "BidiText.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
 #include "week/WeekLayout.h"
@@ -118,9 +119,15 @@ QString MoveWords::noTask()
     return tr("No task is valid on this day.");
 }
 
+QString MoveWords::day(const QDate& day, const QLocale& locale)
+{
+    return QStringLiteral("%1, %2").arg(locale.standaloneDayName(day.dayOfWeek()),
+                                        leftToRight(day.toString(kDateFormat)));
+}
+
 QString MoveWords::copyDay(const QDate& day, const QLocale& locale)
 {
-    return tr("Copy the plans of %1…", "a day").arg(locale.toString(day, QLocale::LongFormat));
+    return tr("Copy the plans of %1…", "a day").arg(MoveWords::day(day, locale));
 }
 
 QString MoveWords::noPlan()

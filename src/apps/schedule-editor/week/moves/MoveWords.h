@@ -31,7 +31,9 @@ public:
                               const std::vector<int>& rows, const Programs& programs);
     static QString noTask();
     static QString noPlan();
-    /// "Copy the plans of Monday, 4 March 2024…", for a menu and for what it opens.
+    /// "Monday, 2024.03.04", with the date as the editor writes it.
+    static QString day(const QDate& day, const QLocale& locale);
+    /// "Copy the plans of Monday, 2024.03.04…", for a menu and for what it opens.
     static QString copyDay(const QDate& day, const QLocale& locale);
 };
 

@@ -1,0 +1,83 @@
+#include "help/GuideWindow.h"
+
+#include <QDesktopServices>
+#include <QEvent>
+#include <QImage>
+#include <QTextBrowser>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace trel::desktop {
+
+namespace {
+
+constexpr int kMargin = 16;
+constexpr int kPictureWidth = 820;
+
+/// Shows pictures no wider than the window is at first.
+class GuideText : public QTextBrowser
+{
+public:
+    using QTextBrowser::QTextBrowser;
+
+    QVariant loadResource(int type, const QUrl& name) override
+    {
+        const QVariant resource = QTextBrowser::loadResource(type, name);
+        if (type != QTextDocument::ImageResource) {
+            return resource;
+        }
+        QImage picture = resource.value<QImage>();
+        if (picture.isNull()) {
+            picture.loadFromData(resource.toByteArray());
+        }
+        return picture.width() <= kPictureWidth
+                   ? picture
+                   : picture.scaledToWidth(kPictureWidth, Qt::SmoothTransformation);
+    }
+};
+
+} // namespace
+
+GuideWindow::GuideWindow(QWidget* parent)
+    : QWidget(parent, Qt::Window)
+    , m_text(new GuideText(this))
+{
+    setObjectName(QStringLiteral("guideWindow"));
+    m_text->setObjectName(QStringLiteral("guideText"));
+    // Links are followed here: those to the web leave the program.
+    m_text->setOpenLinks(false);
+    connect(m_text, &QTextBrowser::anchorClicked, this, &GuideWindow::follow);
+    m_text->document()->setDocumentMargin(kMargin);
+    m_text->setSource(QUrl(QStringLiteral("qrc:/guide/guide.md")));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_text);
+    resize(900, 700);
+    retranslate();
+}
+
+void GuideWindow::follow(const QUrl& link)
+{
+    const QUrl whole = m_text->source().resolved(link);
+    if (whole.scheme() == QLatin1String("qrc")) {
+        m_text->setSource(whole);
+    } else if (whole.scheme() == QLatin1String("https")) {
+        QDesktopServices::openUrl(whole);
+    }
+}
+
+void GuideWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
+void GuideWindow::retranslate()
+{
+    setWindowTitle(tr("The guide"));
+    m_text->setAccessibleName(windowTitle());
+}
+
+} // namespace trel::desktop

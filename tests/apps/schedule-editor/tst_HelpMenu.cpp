@@ -1,0 +1,257 @@
+#include "EditorMenus.h"
+#include "HostFixture.h"
+#include "common/VersionText.h"
+#include "help/GuideWindow.h"
+#include "help/HelpMenu.h"
+#include "help/KeySheet.h"
+#include "support/PlatformNotes.h"
+#include "support/PromptAnswer.h"
+#include "support/TestProgram.h"
+#include "week/WeekKeys.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QShortcut>
+#include <QTextBrowser>
+#include <QTreeWidget>
+
+using namespace trel::desktop;
+using namespace trel::mediadispatch;
+
+namespace {
+
+struct Desk : HostFixture
+{
+    Desk() { window.openDatabase(database); }
+
+    HelpMenu& help() const { return *window.findChild<HelpMenu*>(); }
+
+private:
+    NoPlatformNotes m_quiet;
+};
+
+void addKeys(const QList<QAction*>& actions, QStringList& keys)
+{
+    for (const QAction* action : actions) {
+        if (action->menu() != nullptr) {
+            addKeys(action->menu()->actions(), keys);
+        } else if (!action->shortcut().isEmpty()) {
+            keys.append(action->shortcut().toString(QKeySequence::NativeText));
+        }
+    }
+}
+
+QStringList keysOf(const KeySection& section)
+{
+    QStringList keys;
+    for (const KeyLine& line : section.lines) {
+        keys.append(line.keys);
+    }
+    return keys;
+}
+
+} // namespace
+
+/// The guide, the sheet of keys and what the program says of itself.
+class tst_HelpMenu : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isTheLastMenu();
+    void theGuideNeedsNoFiles();
+    void theGuideFollowsItsLinks();
+    void theSheetKnowsAllMenus();
+    void theSheetKnowsAllShortcutsOfTheEditor();
+    void theSheetKnowsTheKeysOfTheWeek();
+    void theSheetIsOnScreen();
+    void pictures_data();
+    void pictures();
+    void saysWhatItIs();
+    void speaksTheLanguageInUse();
+};
+
+void tst_HelpMenu::isTheLastMenu()
+{
+    const Desk desk;
+    const QList<QAction*> menus = desk.window.menuBar()->actions();
+    QCOMPARE(menus.last()->text(), QStringLiteral("&Help"));
+    QVERIFY(menus.last()->menu()->actions().contains(desk.help().guide()));
+    QCOMPARE(desk.help().guide()->shortcut(), QKeySequence(Qt::Key_F1));
+}
+
+void tst_HelpMenu::theGuideNeedsNoFiles()
+{
+    const Desk desk;
+    desk.help().guide()->trigger();
+    auto* const guide = desk.window.findChild<GuideWindow*>();
+    QVERIFY(guide->isVisible());
+    const auto* text = guide->findChild<QTextBrowser*>(QStringLiteral("guideText"));
+    QVERIFY(text->toPlainText().startsWith(QLatin1String("The guide")));
+    QFile source(QStringLiteral(":/guide/guide.md"));
+    QVERIFY(source.open(QIODevice::ReadOnly));
+    const QString markdown = QString::fromUtf8(source.readAll());
+    // Every picture and every document that it names is there.
+    QRegularExpressionMatchIterator links =
+        QRegularExpression(QStringLiteral("\\]\\(([^):]+)\\)")).globalMatch(markdown);
+    int count = 0;
+    while (links.hasNext()) {
+        const QString link = links.next().captured(1);
+        const bool isDrawn =
+            QFile::exists(QStringLiteral(LANGUAGE_SOURCE_DIR "/../../docs/") + link);
+        QVERIFY2(QFile::exists(QStringLiteral(":/guide/") + link) == isDrawn, qPrintable(link));
+        ++count;
+    }
+    QVERIFY(count > 5);
+    // One window, however often it is asked for.
+    desk.help().guide()->trigger();
+    QCOMPARE(desk.window.findChildren<GuideWindow*>().size(), 1);
+}
+
+void tst_HelpMenu::theGuideFollowsItsLinks()
+{
+    const Desk desk;
+    desk.help().guide()->trigger();
+    auto* const text = desk.window.findChild<GuideWindow*>()->findChild<QTextBrowser*>(
+        QStringLiteral("guideText"));
+    emit text->anchorClicked(QUrl(QStringLiteral("schedule-json.md")));
+    QCOMPARE(text->source(), QUrl(QStringLiteral("qrc:/guide/schedule-json.md")));
+    QVERIFY(!text->toPlainText().isEmpty());
+    // Nothing of the disk is shown.
+    emit text->anchorClicked(QUrl(QStringLiteral("file:///etc/hostname")));
+    QCOMPARE(text->source(), QUrl(QStringLiteral("qrc:/guide/schedule-json.md")));
+}
+
+void tst_HelpMenu::theSheetKnowsAllMenus()
+{
+    const Desk desk;
+    QStringList expected;
+    addKeys(desk.window.menuBar()->actions(), expected);
+    QVERIFY(expected.size() > 8);
+    const KeySection section = KeyTable::sections(*desk.window.menuBar(), *desk.editor).front();
+    QCOMPARE(keysOf(section), expected);
+    for (const KeyLine& line : section.lines) {
+        QVERIFY2(!line.text.isEmpty() && !line.text.contains(QLatin1Char('&')),
+                 qPrintable(line.text));
+    }
+}
+
+void tst_HelpMenu::theSheetKnowsAllShortcutsOfTheEditor()
+{
+    const Desk desk;
+    const QStringList known =
+        keysOf(KeyTable::sections(*desk.window.menuBar(), *desk.editor).at(1));
+    QStringList told = known;
+    const QList<QShortcut*> shortcuts = desk.editor->findChildren<QShortcut*>();
+    QVERIFY(shortcuts.size() > 10);
+    for (const QShortcut* shortcut : shortcuts) {
+        const QString keys = shortcut->key().toString(QKeySequence::NativeText);
+        // The second key that saves is on the number pad.
+        if (shortcut->key() != QKeySequence(QStringLiteral("Ctrl+Enter"))) {
+            QVERIFY2(told.removeOne(keys), qPrintable(keys));
+        }
+    }
+    QCOMPARE(told, QStringList());
+}
+
+void tst_HelpMenu::theSheetKnowsTheKeysOfTheWeek()
+{
+    const Desk desk;
+    const QStringList lines =
+        keysOf(KeyTable::sections(*desk.window.menuBar(), *desk.editor).at(2));
+    QSet<QString> told;
+    for (const QString& line : lines) {
+        const QStringList keys = line.split(QStringLiteral(", "));
+        told.unite(QSet<QString>(keys.begin(), keys.end()));
+    }
+    // Each key that means something by itself is told; those that mean the same twice are told
+    // once.
+    const QSet<int> twins{Qt::Key_Equal, Qt::Key_Enter};
+    int count = 0;
+    for (int key = Qt::Key_Space; key < Qt::Key_F35; ++key) {
+        for (const Qt::KeyboardModifier held : {Qt::NoModifier, Qt::ControlModifier}) {
+            const QKeyEvent event(QEvent::KeyPress, key, held);
+            const bool means = week::commandOf(event, Qt::LeftToRight) != week::WeekCommand::None;
+            const QKeyEvent plain(QEvent::KeyPress, key, Qt::NoModifier);
+            const bool meansPlain =
+                week::commandOf(plain, Qt::LeftToRight) != week::WeekCommand::None;
+            if (!means || twins.contains(key) || (held != Qt::NoModifier && meansPlain)) {
+                continue;
+            }
+            const QString name =
+                QKeySequence(static_cast<int>(held) + key).toString(QKeySequence::NativeText);
+            QVERIFY2(told.contains(name), qPrintable(name));
+            ++count;
+        }
+    }
+    QCOMPARE(count, 12);
+}
+
+void tst_HelpMenu::theSheetIsOnScreen()
+{
+    const Desk desk;
+    desk.help().keys()->trigger();
+    auto* const sheet = desk.window.findChild<KeySheet*>();
+    QVERIFY(sheet->isVisible());
+    const auto* list = sheet->findChild<QTreeWidget*>(QStringLiteral("keyList"));
+    QCOMPARE(list->topLevelItemCount(), 3);
+    QCOMPARE(list->topLevelItem(1)->text(0), QStringLiteral("Editor"));
+    QCOMPARE(list->topLevelItem(1)->childCount(), 13);
+    // A close ends it for good.
+    QTest::keyClick(sheet, Qt::Key_Escape);
+    QTRY_VERIFY(desk.window.findChild<KeySheet*>() == nullptr);
+}
+
+void tst_HelpMenu::pictures_data()
+{
+    QTest::addColumn<QString>("theme");
+    const QStringList themes = Themes::names();
+    for (const QString& theme : themes) {
+        QTest::newRow(qPrintable(theme)) << theme;
+    }
+}
+
+void tst_HelpMenu::pictures()
+{
+    QFETCH(QString, theme);
+    Desk desk;
+    desk.themes.select(theme);
+    desk.help().keys()->trigger();
+    desk.help().guide()->trigger();
+    QCoreApplication::processEvents();
+    QDir().mkpath(QStringLiteral(PICTURES));
+    const QString name = QStringLiteral(PICTURES "/help-%1-%2.png").arg(theme);
+    QVERIFY(desk.window.findChild<KeySheet*>()->grab().save(name.arg(QStringLiteral("keys"))));
+    QVERIFY(desk.window.findChild<GuideWindow*>()->grab().save(name.arg(QStringLiteral("guide"))));
+}
+
+void tst_HelpMenu::saysWhatItIs()
+{
+    const Desk desk;
+    PromptAnswer answer(1);
+    desk.help().about()->trigger();
+    QVERIFY2(answer.texts().front().contains(trel::hosts::versionText("schedule-editor")),
+             qPrintable(answer.texts().front()));
+}
+
+void tst_HelpMenu::speaksTheLanguageInUse()
+{
+    Desk desk;
+    desk.languages.select(QStringLiteral("de_DE"));
+    QCoreApplication::processEvents();
+    QCOMPARE(desk.help().guide()->text(), QStringLiteral("&Anleitung"));
+    const KeySection section = KeyTable::sections(*desk.window.menuBar(), *desk.editor).at(1);
+    QCOMPARE(section.lines.front().text.isEmpty(), false);
+    desk.languages.select(QStringLiteral("ja_JP"));
+    QCoreApplication::processEvents();
+    const auto first =
+        KeyTable::sections(*desk.window.menuBar(), *desk.editor).front().lines.front();
+    QVERIFY2(!first.text.contains(QLatin1Char('(')), qPrintable(first.text));
+}
+
+TREL_TEST(tst_HelpMenu, QApplication)
+#include "tst_HelpMenu.moc"
