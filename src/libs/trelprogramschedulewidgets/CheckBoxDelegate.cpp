@@ -54,6 +54,14 @@ void CheckBoxDelegate::drawMissingImages()
     m_drawsMissingImages = true;
 }
 
+void CheckBoxDelegate::toggle(QAbstractItemModel& model, const QModelIndex& index)
+{
+    const bool isChecked = !index.data(kCheckRole).toBool();
+    const int row = index.row();
+    model.setData(index, isChecked, kCheckRole);
+    emit signalChecked(m_type, row, isChecked);
+}
+
 bool CheckBoxDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
                                    const QStyleOptionViewItem& option, const QModelIndex& index)
 {
@@ -64,10 +72,7 @@ bool CheckBoxDelegate::editorEvent(QEvent* event, QAbstractItemModel* model,
         index.column() != kCheckColumn) {
         return true;
     }
-    const bool isChecked = !index.data(kCheckRole).toBool();
-    const int row = index.row();
-    model->setData(index, isChecked, kCheckRole);
-    emit signalChecked(m_type, row, isChecked);
+    toggle(*model, index);
     return true;
 }
 

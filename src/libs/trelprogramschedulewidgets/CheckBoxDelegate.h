@@ -26,6 +26,9 @@ public:
     /// loaded; else there is nothing in its place.
     void drawMissingImages();
 
+    /// Turns over the mark of a cell of its column, as a press on it does, with the signal.
+    void toggle(QAbstractItemModel& model, const QModelIndex& index);
+
 signals:
     /// The operator has pressed the mark of a row; check is its new state.
     void signalChecked(CheckType type, int row, bool check);

@@ -19,20 +19,6 @@ constexpr int kLabelRaise = 4;      // The labels sit a little above the middle.
 constexpr int kSeparatorMargin = 8; // Free space above and below a separator.
 constexpr int kSeparatorWidth = 2;
 
-QString sectionLabel(int section)
-{
-    switch (section) {
-    case 1:
-        return scheduleText("zhCheckNumber");
-    case 2:
-        return scheduleText("szProgramLstStr");
-    case 3:
-        return scheduleText("zhPlayCounts");
-    default:
-        return QString();
-    }
-}
-
 } // namespace
 
 SHeaderView::SHeaderView(CheckType type, Qt::Orientation orientation, QWidget* parent)
@@ -58,10 +44,24 @@ void SHeaderView::cutLongLabels()
     m_cutsLongLabels = true;
 }
 
+QString SHeaderView::label(int section)
+{
+    switch (section) {
+    case 1:
+        return scheduleText("zhCheckNumber");
+    case 2:
+        return scheduleText("szProgramLstStr");
+    case 3:
+        return scheduleText("zhPlayCounts");
+    default:
+        return QString();
+    }
+}
+
 QString SHeaderView::labelFor(int section, int width) const
 {
-    const QString label = sectionLabel(section);
-    return m_cutsLongLabels ? fontMetrics().elidedText(label, Qt::ElideRight, width) : label;
+    const QString whole = label(section);
+    return m_cutsLongLabels ? fontMetrics().elidedText(whole, Qt::ElideRight, width) : whole;
 }
 
 void SHeaderView::mousePressEvent(QMouseEvent* event)
@@ -101,9 +101,9 @@ bool SHeaderView::viewportEvent(QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         const auto& help = *static_cast<QHelpEvent*>(event);
         const int section = logicalIndexAt(help.pos());
-        const QString label = sectionLabel(section);
-        if (labelFor(section, sectionSize(section)) != label) {
-            widgets::showCutTip(help, *viewport(), label);
+        const QString whole = label(section);
+        if (labelFor(section, sectionSize(section)) != whole) {
+            widgets::showCutTip(help, *viewport(), whole);
             return true;
         }
     }

@@ -29,6 +29,9 @@ public:
     /// itself the style gets them whole.
     void cutLongLabels();
 
+    /// The label of a section in the language in use; empty where there is none.
+    static QString label(int section);
+
 signals:
     /// The operator has pressed the mark; ischeck is its new state.
     void signalSelectAll(CheckType type, bool ischeck);

@@ -2,6 +2,7 @@
 
 #include "MultiComboBox.h"
 #include "PlanTaskWidget.h"
+#include "ProgramChoose.h"
 #include "access/AccessibleButton.h"
 #include "access/AccessibleChoice.h"
 #include "access/AccessibleDay.h"
@@ -10,6 +11,7 @@
 #include "access/AccessibleField.h"
 #include "access/AccessibleFoldBar.h"
 #include "access/AccessiblePlanTable.h"
+#include "access/AccessibleProgramTable.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
@@ -52,6 +54,10 @@ QAccessibleInterface* interfaceOf(const QString& /*className*/, QObject* object)
     const MultiComboBox* const days = list ? boxOfDays(*list) : nullptr;
     if (days && isInCard(*days)) {
         return new AccessibleDayList(*list);
+    }
+    auto* const programs = qobject_cast<QTableView*>(object);
+    if (programs && qobject_cast<ProgramChoose*>(programs->parentWidget())) {
+        return new AccessibleProgramTable(*programs);
     }
     if (!widget || !isInCard(*widget)) {
         return nullptr;

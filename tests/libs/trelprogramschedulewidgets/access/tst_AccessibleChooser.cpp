@@ -1,0 +1,247 @@
+#include "ShownEditor.h"
+
+#include "support/ChooserAnswer.h"
+#include "support/ChooserWindow.h"
+#include "support/PlanTaskWidgetInspector.h"
+#include "support/TestProgram.h"
+
+#include <QAccessible>
+#include <QPushButton>
+#include <QTableView>
+#include <QtTest>
+
+using namespace trel::mediadispatch;
+
+namespace {
+
+QAccessibleInterface* spoken(QTableView* table)
+{
+    return QAccessible::queryAccessibleInterface(table);
+}
+
+/// A cell as one line: its role, what it says and what it holds.
+QString line(QAccessibleInterface* cell)
+{
+    const QString name = cell->text(QAccessible::Name);
+    switch (cell->role()) {
+    case QAccessible::CheckBox:
+        return QStringLiteral("%1 %2").arg(
+            cell->state().checked ? QStringLiteral("[x]") : QStringLiteral("[ ]"), name);
+    case QAccessible::SpinBox:
+        return QStringLiteral("%1 = %2").arg(name, cell->text(QAccessible::Value));
+    default:
+        return name;
+    }
+}
+
+QStringList lines(QTableView* table)
+{
+    QStringList all;
+    for (int i = 0; i < spoken(table)->childCount(); ++i) {
+        all.append(line(spoken(table)->child(i)));
+    }
+    return all;
+}
+
+void toggle(QAccessibleInterface* cell)
+{
+    QVERIFY(cell->actionInterface());
+    cell->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+}
+
+} // namespace
+
+/// What a screen reader finds in the tables of the chooser, and does with them.
+class tst_AccessibleChooser : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void cellsOfBothTables();
+    void columnsHaveTheirLabels();
+    void theWayUpIsTheWayDown();
+    void programsAreCheckedAndChosen();
+    void countsAreReadAndSet();
+    void whatIsNoCountChangesNothing();
+    void rowsThatHaveGoneAreNotValid();
+    void nothingIsWorkedBehindAnotherWindow();
+
+private:
+    /// Opens the chooser of the first plan, which holds the first program once.
+    void withChooser(const std::function<void(ChooserWindow&)>& steps);
+
+    std::unique_ptr<ShownEditor> m_editor;
+};
+
+void tst_AccessibleChooser::init()
+{
+    m_editor = std::make_unique<ShownEditor>();
+    RecordingService::instance().addProgram(2, "News", 30000.0);
+}
+
+void tst_AccessibleChooser::cleanup()
+{
+    m_editor.reset();
+}
+
+void tst_AccessibleChooser::withChooser(const std::function<void(ChooserWindow&)>& steps)
+{
+    const PlanTaskWidgetInspector rows(m_editor->card(0));
+    bool isDone = false;
+    const ChooserAnswer answer([&](ChooserWindow& chooser) {
+        steps(chooser);
+        isDone = true;
+        chooser.cancel();
+    });
+    rows.cell(0, ProgramsColumn)->findChild<QPushButton*>(QStringLiteral("pushButton"))->click();
+    QVERIFY(isDone);
+}
+
+void tst_AccessibleChooser::cellsOfBothTables()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QCOMPARE(spoken(chooser.programTable())->role(), QAccessible::Table);
+        QCOMPARE(lines(chooser.programTable()).join(u'|'),
+                 QStringLiteral("[ ] Film||Film|[ ] News||News"));
+        // The columns that tie a row to its records are not shown.
+        QCOMPARE(lines(chooser.planTable()).join(u'|'),
+                 QStringLiteral("[ ] Film|01|Film|Film, zhPlayCounts = 1"));
+    });
+}
+
+void tst_AccessibleChooser::columnsHaveTheirLabels()
+{
+    withChooser([](ChooserWindow& chooser) {
+        const QAccessibleTableInterface* const plan = spoken(chooser.planTable())->tableInterface();
+        QStringList labels;
+        for (int column = 0; column < plan->columnCount(); ++column) {
+            labels.append(plan->columnDescription(column));
+        }
+        QCOMPARE(labels.join(u'|'), QStringLiteral("|zhCheckNumber|szProgramLstStr|zhPlayCounts"));
+        QCOMPARE(plan->columnDescription(4), QString());
+        QCOMPARE(plan->columnDescription(-1), QString());
+        QCOMPARE(plan->rowDescription(0), QStringLiteral("Film"));
+        QCOMPARE(plan->rowCount(), 1);
+    });
+}
+
+void tst_AccessibleChooser::theWayUpIsTheWayDown()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QTableView* const view = chooser.programTable();
+        QAccessibleInterface* const table = spoken(view);
+        for (int i = 0; i < table->childCount(); ++i) {
+            QAccessibleInterface* const cell = table->child(i);
+            QVERIFY(cell->isValid());
+            QCOMPARE(cell->parent(), table);
+            QCOMPARE(table->indexOfChild(cell), i);
+            QCOMPARE(table->tableInterface()->cellAt(i / 3, i % 3), cell);
+            const QPoint place = cell->rect().center();
+            QCOMPARE(table->childAt(place.x(), place.y()), cell);
+        }
+        QVERIFY(!table->child(6));
+        QVERIFY(!table->child(-1));
+        QVERIFY(!table->tableInterface()->cellAt(0, 3));
+        QVERIFY(!table->childAt(-5000, -5000));
+        QCOMPARE(spoken(chooser.planTable())->indexOfChild(table->child(0)), -1);
+        view->setColumnHidden(1, true);
+        QCOMPARE(table->childCount(), 4);
+        QCOMPARE(line(table->child(2)), QStringLiteral("[ ] News"));
+    });
+}
+
+void tst_AccessibleChooser::programsAreCheckedAndChosen()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QAccessibleInterface* const news = spoken(chooser.programTable())->child(3);
+        QCOMPARE(news->text(QAccessible::Name), QStringLiteral("News"));
+        QVERIFY(news->state().checkable && !news->state().checked);
+        toggle(news);
+        QVERIFY(news->state().checked);
+        // It has its place in the order, as after a press.
+        QCOMPARE(chooser.programRows(),
+                 QStringList({QStringLiteral("[ ] Film"), QStringLiteral("[x]01 News")}));
+        toggle(news);
+        QVERIFY(!news->state().checked);
+        toggle(news);
+        chooser.choose();
+        QCOMPARE(lines(chooser.planTable()).join(u'|'),
+                 QStringLiteral("[ ] Film|01|Film|Film, zhPlayCounts = 1|"
+                                "[ ] News|02|News|News, zhPlayCounts = 1"));
+        // Only marks are turned over.
+        QVERIFY(!spoken(chooser.programTable())->child(5)->actionInterface());
+    });
+}
+
+void tst_AccessibleChooser::countsAreReadAndSet()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QAccessibleInterface* const cell = spoken(chooser.planTable())->child(3);
+        QAccessibleValueInterface* const count = cell->valueInterface();
+        QVERIFY(count);
+        QCOMPARE(count->currentValue().toInt(), 1);
+        QCOMPARE(count->minimumValue().toInt(), 1);
+        QCOMPARE(count->maximumValue().toInt(), 999);
+        const QString before = chooser.total();
+        count->setCurrentValue(3.0);
+        QTRY_COMPARE(count->currentValue().toInt(), 3);
+        QCOMPARE(before, QStringLiteral("00:01:00.000"));
+        QCOMPARE(chooser.total(), QStringLiteral("00:03:00.000"));
+        count->setCurrentValue(1e9);
+        QTRY_COMPARE(count->currentValue().toInt(), 999);
+        QVERIFY(!spoken(chooser.planTable())->child(2)->valueInterface());
+    });
+}
+
+void tst_AccessibleChooser::whatIsNoCountChangesNothing()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QAccessibleValueInterface* const count =
+            spoken(chooser.planTable())->child(3)->valueInterface();
+        count->setCurrentValue(3);
+        QTRY_COMPARE(count->currentValue().toInt(), 3);
+        count->setCurrentValue(QStringLiteral("many"));
+        count->setCurrentValue(qQNaN());
+        QCoreApplication::processEvents();
+        QCOMPARE(chooser.planRows(), QStringList(QStringLiteral("[ ]01 Film x3")));
+    });
+}
+
+void tst_AccessibleChooser::rowsThatHaveGoneAreNotValid()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QAccessibleInterface* const mark = spoken(chooser.planTable())->child(0);
+        toggle(mark);
+        chooser.remove();
+        QVERIFY(!mark->isValid());
+        QVERIFY(mark->state().invalid);
+        QCOMPARE(mark->text(QAccessible::Name), QString());
+        QCOMPARE(spoken(chooser.planTable())->indexOfChild(mark), -1);
+        mark->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QCOMPARE(chooser.planRows(), QStringList());
+    });
+}
+
+void tst_AccessibleChooser::nothingIsWorkedBehindAnotherWindow()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QDialog prompt(chooser.frame());
+        prompt.setModal(true);
+        prompt.show();
+        QAccessibleInterface* const mark = spoken(chooser.programTable())->child(0);
+        toggle(mark);
+        spoken(chooser.planTable())->child(3)->valueInterface()->setCurrentValue(5);
+        QCoreApplication::processEvents();
+        QVERIFY(!mark->state().checked);
+        QCOMPARE(chooser.planRows(), QStringList(QStringLiteral("[ ]01 Film x1")));
+        prompt.close();
+        toggle(mark);
+        QVERIFY(mark->state().checked);
+    });
+}
+
+TREL_TEST(tst_AccessibleChooser, QApplication)
+#include "tst_AccessibleChooser.moc"
