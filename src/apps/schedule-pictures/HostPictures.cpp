@@ -25,6 +25,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProgressDialog>
@@ -35,6 +36,7 @@
 #include <cerrno>
 #include <map>
 #include <optional>
+#include <vector>
 
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
@@ -163,15 +165,18 @@ void HostPictures::drawVersions()
     host.replaceSchedule(edited);
     edited.begin()->second.plans.front().startTime = "06:15:00";
     host.replaceSchedule(edited);
+    std::vector<ScheduleVersion> versions;
+    host.versions(versions);
+    host.nameVersion(versions.at(1).number, QStringLiteral("Advent"), QStringLiteral("agreed"));
     m_window.findChild<EditorMenus*>()->versions()->trigger();
     auto* const list = m_window.findChild<QDialog*>(QStringLiteral("versionsWindow"));
     auto* const table = list->findChild<QTableView*>(QStringLiteral("versionTable"));
     const auto* const found = list->findChild<QTableView*>(QStringLiteral("differenceTable"));
     auto* const tabs = list->findChild<QTabWidget*>(QStringLiteral("versionTabs"));
-    const auto isThere = [&] { return found->model()->rowCount() > 0; };
-    waitUntil(isThere);
+    const auto* const reading = list->findChild<QLabel*>(QStringLiteral("versionSummary"));
+    waitUntil([reading] { return !reading->isVisible(); });
     table->selectRow(2);
-    waitUntil(isThere);
+    waitUntil([found] { return found->model()->rowCount() > 0; });
     settle();
     m_files.save(list, QStringLiteral("versions"));
     tabs->setCurrentIndex(1);

@@ -78,8 +78,9 @@ void VersionsWindow::build()
     QHeaderView* columns = m_table->horizontalHeader();
     columns->resizeSection(VersionModel::NumberColumn, 60);
     columns->resizeSection(VersionModel::SavedColumn, 120);
-    columns->resizeSection(VersionModel::ByColumn, 110);
-    columns->resizeSection(VersionModel::ChangeColumn, 150);
+    columns->resizeSection(VersionModel::ByColumn, 100);
+    columns->resizeSection(VersionModel::ChangeColumn, 140);
+    columns->resizeSection(VersionModel::NameColumn, 80);
     m_summary->setObjectName(QStringLiteral("versionSummary"));
     m_summary->setTextFormat(Qt::PlainText);
     m_summary->setWordWrap(true);
