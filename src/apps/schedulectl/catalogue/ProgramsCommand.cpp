@@ -5,6 +5,7 @@
 #include "common/DisplayText.h"
 #include "schedule/ScheduleWords.h"
 #include "text/Console.h"
+#include "text/SharedOptions.h"
 #include "text/TextTable.h"
 
 using namespace trel::hosts;
@@ -47,7 +48,7 @@ ExitStatus run(const Invocation& invocation, Console& console)
         table.addRow({QString::number(index), printable(program.progName), kindText(program.kind),
                       programLength(program), programPath(program) + mark});
     }
-    console.write(table.text());
+    console.write(table.text(0, tableColumns(invocation)));
     return Done;
 }
 
@@ -63,7 +64,9 @@ Command programsCommand()
             "List the programs of the catalog",
             R"(Lists the programs with index, name, kind, length and file. A program whose file
 is no longer there is marked as gone.)",
-            run};
+            run,
+            true,
+            {wideOption()}};
 }
 
 } // namespace trel::console

@@ -34,7 +34,7 @@ QString stateText(const PlanState& state)
                : QStringLiteral("normal");
 }
 
-QString plansText(const PlayTask& task, const Catalogue& catalogue)
+QString plansText(const PlayTask& task, const Catalogue& catalogue, int columns)
 {
     TextTable table({{QStringLiteral("Row"), TextTable::Align::Right},
                      {QStringLiteral("Plan"), TextTable::Align::Right},
@@ -55,7 +55,7 @@ QString plansText(const PlayTask& task, const Catalogue& catalogue)
                       entriesText(plan.programs, catalogue.programs)});
         ++row;
     }
-    return table.isEmpty() ? QStringLiteral("  no plans\n") : table.text(kIndent);
+    return table.isEmpty() ? QStringLiteral("  no plans\n") : table.text(kIndent, columns);
 }
 
 QJsonArray entriesJson(const std::vector<struProgInfo>& entries, const Catalogue& catalogue)
@@ -237,7 +237,7 @@ QString remarksText(const ScheduleCheck& check, const Tasks& tasks)
 
 } // namespace
 
-QString tasksText(const Tasks& tasks, const Catalogue& catalogue)
+QString tasksText(const Tasks& tasks, const Catalogue& catalogue, int columns)
 {
     if (tasks.empty()) {
         return QStringLiteral("There are no tasks.\n");
@@ -246,7 +246,7 @@ QString tasksText(const Tasks& tasks, const Catalogue& catalogue)
     for (const auto& [id, task] : tasks) {
         text += text.isEmpty() ? QString() : QStringLiteral("\n");
         text += QStringLiteral("Task %1: %2\n").arg(QString::number(id), periodText(task));
-        text += plansText(task, catalogue);
+        text += plansText(task, catalogue, columns);
     }
     return text;
 }

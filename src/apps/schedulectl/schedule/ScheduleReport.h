@@ -13,8 +13,9 @@ namespace trel::console {
 /// A schedule and what a check found in it, for people and for programs. Rows count from 1 here, as
 /// people count them.
 
+/// At most so many columns wide where that is possible; 0 for any number.
 QString tasksText(const std::map<int, trel::mediadispatch::PlayTask>& tasks,
-                  const Catalogue& catalogue);
+                  const Catalogue& catalogue, int columns);
 QJsonArray tasksJson(const std::map<int, trel::mediadispatch::PlayTask>& tasks,
                      const Catalogue& catalogue);
 

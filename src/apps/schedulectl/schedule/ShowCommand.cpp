@@ -3,6 +3,7 @@
 #include "Database.h"
 #include "ScheduleReport.h"
 #include "text/Console.h"
+#include "text/SharedOptions.h"
 
 using namespace trel::mediadispatch;
 
@@ -22,7 +23,7 @@ ExitStatus run(const Invocation& invocation, Console& console)
         console.writeJson({{QStringLiteral("database"), database->path()},
                            {QStringLiteral("tasks"), tasksJson(tasks, catalogue)}});
     } else {
-        console.write(tasksText(tasks, catalogue));
+        console.write(tasksText(tasks, catalogue, tableColumns(invocation)));
     }
     return Done;
 }
@@ -40,7 +41,9 @@ Command showCommand()
             R"(Shows every task with its plans, as they were last saved. The end of a plan that
 plays a number of times is worked out from its programs. A plan that collides
 with an earlier plan of its task is marked.)",
-            run};
+            run,
+            true,
+            {wideOption()}};
 }
 
 } // namespace trel::console

@@ -6,6 +6,7 @@
 #include "schedule/ScheduleReport.h"
 #include "screen/StoredScreen.h"
 #include "text/Console.h"
+#include "text/SharedOptions.h"
 #include "text/TextTable.h"
 #include "trelprogramschedule/screens/PlayerStatusFolder.h"
 
@@ -74,7 +75,7 @@ QString faultsText(const PlayerStatus& status, Instant now, const MomentFormat& 
 }
 
 void write(const std::vector<PlayerStatus>& screens, Instant now, const MomentFormat& local,
-           Console& console)
+           Console& console, int columns)
 {
     TextTable table({{QStringLiteral("Screen")},
                      {QStringLiteral("Shows")},
@@ -90,7 +91,7 @@ void write(const std::vector<PlayerStatus>& screens, Instant now, const MomentFo
     if (table.isEmpty()) {
         console.writeLine(QStringLiteral("No player follows this database."));
     } else {
-        console.write(table.text());
+        console.write(table.text(0, columns));
     }
 }
 
@@ -141,7 +142,7 @@ ExitStatus run(const Invocation& invocation, Console& console)
         console.writeJson(QJsonObject{{QStringLiteral("database"), database->path()},
                                       {QStringLiteral("screens"), list}});
     } else {
-        write(screens, now, local, console);
+        write(screens, now, local, console, tableColumns(invocation));
     }
     return Done;
 }
@@ -163,7 +164,9 @@ middle and at worst), and what went wrong.
 A player tells of itself every ten seconds. One that was not heard for half a
 minute is marked with when it last was: it was killed, or its machine is off. A
 player that was told to end leaves the list.)",
-            run};
+            run,
+            true,
+            {wideOption()}};
 }
 
 } // namespace trel::console

@@ -19,10 +19,10 @@ namespace {
 
 constexpr int kUsualColumns = 80;
 
-int terminalColumns()
+int terminalColumns(int file)
 {
     winsize size = {};
-    const bool isKnown = ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
+    const bool isKnown = ioctl(file, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
     return isKnown ? size.ws_col : kUsualColumns;
 }
 
@@ -95,6 +95,11 @@ void Console::tellLine(const QString& line)
     writeBytes(stderr, escapedText(line).toUtf8() + '\n');
 }
 
+int Console::tableColumns()
+{
+    return isatty(STDOUT_FILENO) == 0 ? 0 : terminalColumns(STDOUT_FILENO);
+}
+
 void Console::showProgress(int done, int total, const QString& what)
 {
     if (isatty(STDERR_FILENO) == 0) {
@@ -103,7 +108,9 @@ void Console::showProgress(int done, int total, const QString& what)
     clearProgress();
     const QString place = QStringLiteral("[%1/%2] ").arg(done).arg(total);
     // The last column stays free, since some terminals break the line when it is filled.
-    writeBytes(stderr, (place + shortened(what, terminalColumns() - 1 - place.size())).toUtf8());
+    writeBytes(
+        stderr,
+        (place + shortened(what, terminalColumns(STDERR_FILENO) - 1 - place.size())).toUtf8());
     std::fflush(stderr);
     m_showsProgress = true;
 }

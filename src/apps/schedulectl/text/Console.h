@@ -39,6 +39,10 @@ public:
     /// Tells the user without the program's name in front.
     void tellLine(const QString& line);
 
+    /// How wide a table may be: as wide as the terminal that the results go to, and 0 for as wide
+    /// as it likes where they go elsewhere.
+    static int tableColumns();
+
     /// Shows how far a long work has come, in one line that the next call takes the place of. Does
     /// nothing unless a person watches the standard error.
     void showProgress(int done, int total, const QString& what);

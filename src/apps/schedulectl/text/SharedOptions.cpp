@@ -1,5 +1,7 @@
 #include "SharedOptions.h"
 
+#include "Console.h"
+
 namespace trel::console {
 
 CommandOption databaseOption()
@@ -10,6 +12,16 @@ CommandOption databaseOption()
 CommandOption jsonOption()
 {
     return {"--json", "", "Write the result as JSON."};
+}
+
+CommandOption wideOption()
+{
+    return {"--wide", "", "Show names whole where the terminal is too narrow."};
+}
+
+int tableColumns(const Invocation& invocation)
+{
+    return invocation.has("--wide") ? 0 : Console::tableColumns();
 }
 
 CommandOption helpOption()

@@ -11,6 +11,10 @@ namespace trel::console {
 /// Its meaning ends with a colon, behind which the path of the default database stands.
 CommandOption databaseOption();
 CommandOption jsonOption();
+/// That of the commands with a table of names.
+CommandOption wideOption();
+/// How wide a table of a command may be; 0 for as wide as it likes.
+int tableColumns(const Invocation& invocation);
 /// Also "-h".
 CommandOption helpOption();
 CommandOption versionOption();

@@ -29,10 +29,14 @@ public:
 
     /// All lines, each indented by so many blanks and ended by a line feed, without blanks at its
     /// end. An empty table has no lines.
-    QString text(int indent = 0) const;
+    ///
+    /// Where they would be wider than so many columns, the widest cells of columns that are aligned
+    /// to the left lose their middle, as far as that goes; 0 leaves them whole.
+    QString text(int indent = 0, int columns = 0) const;
 
 private:
     std::vector<int> widths() const;
+    void narrow(std::vector<int>& widths, int columns) const;
     QString line(const QStringList& cells, const std::vector<int>& widths) const;
     QStringList titles() const;
 

@@ -57,7 +57,8 @@ QString changeText(const ScheduleVersion& version)
     return text;
 }
 
-QString versionsText(const std::vector<ScheduleVersion>& versions, const MomentFormat& local)
+QString versionsText(const std::vector<ScheduleVersion>& versions, const MomentFormat& local,
+                     int columns)
 {
     TextTable table({{QStringLiteral("Number"), TextTable::Align::Right},
                      {QStringLiteral("Saved")},
@@ -69,7 +70,7 @@ QString versionsText(const std::vector<ScheduleVersion>& versions, const MomentF
                       version.saved == 0 ? QStringLiteral("not known") : local.text(version.saved),
                       printable(version.by), changeText(version), nameText(version)});
     }
-    return table.text();
+    return table.text(0, columns);
 }
 
 QJsonObject versionJson(const ScheduleVersion& version, const MomentFormat& local)

@@ -11,9 +11,10 @@
 
 namespace trel::console {
 
-/// A table, a line for each. Printable.
+/// A table, a line for each, at most so many columns wide where that is possible; 0 for any number.
+/// Printable.
 QString versionsText(const std::vector<trel::mediadispatch::ScheduleVersion>& versions,
-                     const trel::mediadispatch::MomentFormat& local);
+                     const trel::mediadispatch::MomentFormat& local, int columns);
 QJsonObject versionJson(const trel::mediadispatch::ScheduleVersion& version,
                         const trel::mediadispatch::MomentFormat& local);
 

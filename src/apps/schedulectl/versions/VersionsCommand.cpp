@@ -3,6 +3,7 @@
 #include "VersionReport.h"
 #include "effect/StoredEffectWork.h"
 #include "text/Console.h"
+#include "text/SharedOptions.h"
 
 #include <QJsonArray>
 
@@ -31,7 +32,7 @@ ExitStatus run(const Invocation& invocation, Console& console)
         } else if (versions.empty()) {
             console.writeLine(QStringLiteral("No versions are kept yet."));
         } else {
-            console.write(versionsText(versions, local));
+            console.write(versionsText(versions, local, tableColumns(invocation)));
         }
         return Done;
     };
@@ -52,7 +53,9 @@ Command versionsCommand()
 of each save, when and by which program it was made, which tasks it made others,
 and the name and the note that it was given. The last 200 are kept, and all that
 have a name; the others thin out with their age.)",
-            run};
+            run,
+            true,
+            {wideOption()}};
 }
 
 } // namespace trel::console

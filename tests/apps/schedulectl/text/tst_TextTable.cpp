@@ -21,6 +21,7 @@ private slots:
     void durations_data();
     void durations();
     void columnsAreAlignedByWhatIsSeen();
+    void namesAreCutToTheTerminal();
     void emptyTableHasNoLines();
 };
 
@@ -137,6 +138,32 @@ void tst_TextTable::columnsAreAlignedByWhatIsSeen()
              (QStringList{QStringLiteral("   Index  Name    File"),
                           QStringLiteral("       7  News    /n.mp4"),
                           QStringLiteral(" 1234567  \u65b0\u95fb\u8054"), QString()}));
+}
+
+void tst_TextTable::namesAreCutToTheTerminal()
+{
+    TextTable table({{QStringLiteral("Index"), TextTable::Align::Right},
+                     {QStringLiteral("Name")},
+                     {QStringLiteral("File")}});
+    table.addRow({QStringLiteral("1234567890123456"), QStringLiteral("Evening news of Friday"),
+                  QStringLiteral("/srv/media/evening/news-of-friday.mp4")});
+    table.addRow({QStringLiteral("7"), QStringLiteral("News"), QStringLiteral("/n.mp4")});
+    const QString whole = table.text(1);
+    QCOMPARE(table.text(1, 0), whole);
+    const int width = displayWidth(whole.section(QLatin1Char('\n'), 1, 1));
+    QCOMPARE(table.text(1, width), whole);
+
+    // The widest column gives way first, and numbers stay.
+    for (int columns = 50; columns < width; ++columns) {
+        const QStringList lines = table.text(1, columns).split(QLatin1Char('\n'));
+        QCOMPARE(displayWidth(lines[1]), columns);
+        QVERIFY(lines[1].contains(QStringLiteral(" 1234567890123456  Even")));
+        QVERIFY(lines[1].endsWith(QStringLiteral(".mp4")));
+        QVERIFY(lines[2].endsWith(QStringLiteral("/n.mp4")));
+    }
+    QVERIFY(table.text(1, width - 1).contains(QStringLiteral("Evening news of Friday")));
+    // What can still be told apart stays, however narrow the terminal.
+    QVERIFY(displayWidth(table.text(1, 5).section(QLatin1Char('\n'), 1, 1)) >= 40);
 }
 
 void tst_TextTable::emptyTableHasNoLines()
