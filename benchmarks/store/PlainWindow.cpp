@@ -1,10 +1,12 @@
 #include "PlainWindow.h"
 
 #include <QAbstractScrollArea>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
 #include <QMenuBar>
@@ -13,6 +15,7 @@
 #include <QStandardItemModel>
 #include <QStatusBar>
 #include <QTableView>
+#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -84,6 +87,7 @@ QPushButton* sign(const char* text, QWidget* parent)
 PlainWindow::PlainWindow(int programs)
 {
     addMenus();
+    addBar();
     addPanels(programs);
     setCentralWidget(middle());
     resize(1340, 700);
@@ -92,13 +96,56 @@ PlainWindow::PlainWindow(int programs)
 void PlainWindow::addMenus()
 {
     const std::initializer_list<std::pair<const char*, int>> menus = {
-        {"&Schedule", 10}, {"&Programs", 3}, {"&View", 8}, {"&Language", 10}};
+        {"&Schedule", 10}, {"&Programs", 3}, {"&View", 8}, {"&Language", 10}, {"&Help", 3}};
     for (const auto& [title, actions] : menus) {
         QMenu* menu = menuBar()->addMenu(QLatin1String(title));
         for (int i = 0; i < actions; ++i) {
             menu->addAction(QStringLiteral("Action %1").arg(i));
         }
     }
+}
+
+void PlainWindow::addBar()
+{
+    auto* bar = new QToolBar(this);
+    bar->setObjectName(QStringLiteral("bar"));
+    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    for (const char* text : {"Edit", "Import", "Undo", "", "Start", "Stop", "", "Search"}) {
+        if (*text == 0) {
+            bar->addSeparator();
+        } else {
+            bar->addAction(QLatin1String(text));
+        }
+    }
+    auto* state = new QWidget(bar);
+    state->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    auto* layout = new QHBoxLayout(state);
+    layout->addWidget(line("Saved: 12:00", state), 1);
+    layout->addWidget(new QWidget(state));
+    layout->addWidget(new QLabel(QStringLiteral("12:00:00"), state));
+    bar->addWidget(state);
+    addToolBar(bar);
+}
+
+QWidget* PlainWindow::filter(QWidget* parent)
+{
+    auto* filter = new QWidget(parent);
+    auto* search = new QLineEdit(filter);
+    search->setClearButtonEnabled(true);
+    auto* kinds = new QComboBox(filter);
+    kinds->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    for (const char* kind : {"All kinds", "Video", "Audio", "Image", "Live", "Other"}) {
+        kinds->addItem(QLatin1String(kind));
+    }
+    auto* words = new QHBoxLayout;
+    words->addWidget(search, 1);
+    words->addWidget(new QLabel(QStringLiteral("8 programs"), filter));
+    auto* layout = new QVBoxLayout(filter);
+    layout->addLayout(words);
+    layout->addLayout(row({kinds, new QCheckBox(QStringLiteral("Missing"), filter),
+                           new QCheckBox(QStringLiteral("Unused"), filter)},
+                          {}));
+    return filter;
 }
 
 QWidget* PlainWindow::catalogue(int programs)
@@ -118,6 +165,7 @@ QWidget* PlainWindow::catalogue(int programs)
     table->setColumnWidth(1, 260);
     auto* layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(filter(centre));
     layout->addWidget(hidden(new QLabel(QStringLiteral("No programs yet."), centre)), 1);
     layout->addWidget(table, 1);
     return centre;
@@ -146,7 +194,7 @@ void PlainWindow::addPanels(int programs)
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({list, now}, {250, 260}, Qt::Horizontal);
     resizeDocks({now, preview}, {450, 150}, Qt::Vertical);
-    resizeDocks({wrong}, {124}, Qt::Vertical);
+    resizeDocks({wrong}, {96}, Qt::Vertical);
 }
 
 QDockWidget* PlainWindow::addPanel(const QString& title, QWidget* content, Qt::DockWidgetArea area)
@@ -201,6 +249,7 @@ QWidget* PlainWindow::nowNext()
     layout->addWidget(reason);
     layout->addWidget(hidden(line("", panel)));
     layout->addWidget(hidden(nextPart));
+    layout->addWidget(hidden(new QWidget(panel)));
     layout->addStretch(1);
     auto* effect = new QWidget(panel);
     auto* effectLayout = new QVBoxLayout(effect);
@@ -276,6 +325,7 @@ QWidget* PlainWindow::week()
     auto* view = new QAbstractScrollArea(panel);
     new QWidget(view); // Dates above the days, and hours beside them.
     new QWidget(view);
+    hidden(new QWidget(view->viewport())); // Where a block that is moved is drawn.
 
     auto* controls = new QHBoxLayout;
     controls->setSpacing(4);

@@ -18,7 +18,9 @@ public:
 
 private:
     void addMenus();
+    void addBar();
     void addPanels(int programs);
+    QWidget* filter(QWidget* parent);
     QWidget* catalogue(int programs);
     QWidget* middle();
     QWidget* nowNext();

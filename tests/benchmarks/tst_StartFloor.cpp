@@ -4,6 +4,9 @@
 
 #include <QMap>
 
+#include <algorithm>
+#include <iterator>
+
 using namespace trel::mediadispatch;
 
 /// The floor of the start has to be the windows of the editor: no widget more, and none less.
@@ -70,7 +73,16 @@ void tst_StartFloor::itsWidgetsAreThoseOfTheEditor()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
 
-    QCOMPARE(widgets(), ofEditor);
+    const QStringList ofFloor = widgets();
+    const auto missing = [](const QStringList& lines, const QStringList& others) {
+        QStringList found;
+        std::copy_if(lines.begin(), lines.end(), std::back_inserter(found),
+                     [&others](const QString& line) { return !others.contains(line); });
+        return found.join(QLatin1String(", "));
+    };
+    QVERIFY2(ofFloor == ofEditor,
+             qPrintable(QStringLiteral("floor: %1\neditor: %2")
+                            .arg(missing(ofFloor, ofEditor), missing(ofEditor, ofFloor))));
 }
 
 QTEST_MAIN(tst_StartFloor)

@@ -2985,4 +2985,107 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Plant Medienprogramme auf Bildschirmen, bearbeitet den Wiedergabeplan und verfolgt ihn.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::air::AirLight</name>
+    <message>
+        <source>On air</source>
+        <translation>Auf Sendung</translation>
+    </message>
+    <message>
+        <source>Off air</source>
+        <translation>Nicht auf Sendung</translation>
+    </message>
+    <message>
+        <source>A schedule is in effect.</source>
+        <translation>Ein Wiedergabeplan ist in Kraft.</translation>
+    </message>
+    <message>
+        <source>No schedule is in effect.</source>
+        <translation>Kein Wiedergabeplan ist in Kraft.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirState</name>
+    <message>
+        <source>Time of day: %1</source>
+        <translation>Uhrzeit: %1</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Started: %1</source>
+        <translation>Gestartet: %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirBar</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>Symbolleiste</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search the catalog</source>
+        <translation>Im Katalog suchen</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ComingPrograms</name>
+    <message>
+        <source>Programs to come</source>
+        <translation>Folgende Programme</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::StartAction</name>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air</source>
+        <translation>Den Wiedergabeplan auf Sendung bringen</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air? What is not saved is saved first.</source>
+        <translation>Den Wiedergabeplan auf Sendung bringen? Was nicht gespeichert ist, wird vorher gespeichert.</translation>
+    </message>
+    <message>
+        <source>Open problems: %1</source>
+        <translation>Offene Probleme: %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
+        <translation>Die Aufträge %1 und %2 sind an denselben Tagen gültig. Erst wenn das nicht mehr so ist, kann der Wiedergabeplan auf Sendung gehen.</translation>
+    </message>
+</context>
 </TS>

@@ -2985,4 +2985,107 @@ What do you want to do with your changes?</source>
         <translation>Programa contenidos multimedia en pantallas, edita la programación y la sigue.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::air::AirLight</name>
+    <message>
+        <source>On air</source>
+        <translation>En emisión</translation>
+    </message>
+    <message>
+        <source>Off air</source>
+        <translation>Fuera de emisión</translation>
+    </message>
+    <message>
+        <source>A schedule is in effect.</source>
+        <translation>Hay una programación en vigor.</translation>
+    </message>
+    <message>
+        <source>No schedule is in effect.</source>
+        <translation>No hay ninguna programación en vigor.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirState</name>
+    <message>
+        <source>Time of day: %1</source>
+        <translation>Hora: %1</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Sin guardar</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Guardado: %1</translation>
+    </message>
+    <message>
+        <source>Started: %1</source>
+        <translation>Iniciado: %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirBar</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>Barra de herramientas</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Search the catalog</source>
+        <translation>Buscar en el catálogo</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ComingPrograms</name>
+    <message>
+        <source>Programs to come</source>
+        <translation>Próximos programas</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::StartAction</name>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air</source>
+        <translation>Poner la programación en emisión</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air? What is not saved is saved first.</source>
+        <translation>¿Poner la programación en emisión? Lo que no está guardado se guarda antes.</translation>
+    </message>
+    <message>
+        <source>Open problems: %1</source>
+        <translation>Problemas abiertos: %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
+        <translation>Las tareas %1 y %2 son válidas en los mismos días. La programación solo puede emitirse cuando ya no lo sean.</translation>
+    </message>
+</context>
 </TS>

@@ -2985,4 +2985,107 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Programme des médias sur des écrans, modifie la programmation et la suit.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::air::AirLight</name>
+    <message>
+        <source>On air</source>
+        <translation>À l’antenne</translation>
+    </message>
+    <message>
+        <source>Off air</source>
+        <translation>Hors antenne</translation>
+    </message>
+    <message>
+        <source>A schedule is in effect.</source>
+        <translation>Une programmation est en vigueur.</translation>
+    </message>
+    <message>
+        <source>No schedule is in effect.</source>
+        <translation>Aucune programmation n’est en vigueur.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirState</name>
+    <message>
+        <source>Time of day: %1</source>
+        <translation>Heure : %1</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Non enregistré</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Enregistré : %1</translation>
+    </message>
+    <message>
+        <source>Started: %1</source>
+        <translation>Démarré : %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirBar</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>Barre d’outils</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search the catalog</source>
+        <translation>Rechercher dans le catalogue</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ComingPrograms</name>
+    <message>
+        <source>Programs to come</source>
+        <translation>Programmes à venir</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::StartAction</name>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air</source>
+        <translation>Mettre la programmation à l’antenne</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air? What is not saved is saved first.</source>
+        <translation>Mettre la programmation à l’antenne ? Ce qui n’est pas enregistré l’est d’abord.</translation>
+    </message>
+    <message>
+        <source>Open problems: %1</source>
+        <translation>Problèmes ouverts : %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
+        <translation>Les tâches %1 et %2 sont valides les mêmes jours. La programmation ne peut passer à l’antenne que lorsqu’elles ne le sont plus.</translation>
+    </message>
+</context>
 </TS>

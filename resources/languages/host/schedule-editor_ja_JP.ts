@@ -2942,4 +2942,107 @@ What do you want to do with your changes?</source>
         <translation>画面に出すメディアのスケジュールを作成・編集し、その進行を追います。</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::air::AirLight</name>
+    <message>
+        <source>On air</source>
+        <translation>放送中</translation>
+    </message>
+    <message>
+        <source>Off air</source>
+        <translation>放送停止中</translation>
+    </message>
+    <message>
+        <source>A schedule is in effect.</source>
+        <translation>スケジュールが有効です。</translation>
+    </message>
+    <message>
+        <source>No schedule is in effect.</source>
+        <translation>有効なスケジュールはありません。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirState</name>
+    <message>
+        <source>Time of day: %1</source>
+        <translation>現在時刻：%1</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>保存：%1</translation>
+    </message>
+    <message>
+        <source>Started: %1</source>
+        <translation>運用開始：%1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirBar</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>ツールバー</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>取り込む</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search the catalog</source>
+        <translation>番組一覧を検索</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ComingPrograms</name>
+    <message>
+        <source>Programs to come</source>
+        <translation>この後の番組</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::StartAction</name>
+    <message>
+        <source>Start</source>
+        <translation>運用開始</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air</source>
+        <translation>スケジュールを放送に出す</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air? What is not saved is saved first.</source>
+        <translation>スケジュールを放送に出しますか？未保存の内容は先に保存されます。</translation>
+    </message>
+    <message>
+        <source>Open problems: %1</source>
+        <translation>未解決の問題：%1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
+        <translation>タスク%1と%2が同じ日に有効です。重ならないようにすると、スケジュールを放送に出せます。</translation>
+    </message>
+</context>
 </TS>

@@ -2942,4 +2942,107 @@ What do you want to do with your changes?</source>
         <translation>화면에 나오는 미디어의 일정을 짜고 편집하며 진행을 따라갑니다.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::air::AirLight</name>
+    <message>
+        <source>On air</source>
+        <translation>송출 중</translation>
+    </message>
+    <message>
+        <source>Off air</source>
+        <translation>송출 안 함</translation>
+    </message>
+    <message>
+        <source>A schedule is in effect.</source>
+        <translation>일정이 적용되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>No schedule is in effect.</source>
+        <translation>적용된 일정이 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirState</name>
+    <message>
+        <source>Time of day: %1</source>
+        <translation>현재 시각: %1</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>저장되지 않음</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>저장: %1</translation>
+    </message>
+    <message>
+        <source>Started: %1</source>
+        <translation>시작: %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirBar</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>도구 모음</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>편집</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>중지</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>검색</translation>
+    </message>
+    <message>
+        <source>Search the catalog</source>
+        <translation>프로그램 목록 검색</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ComingPrograms</name>
+    <message>
+        <source>Programs to come</source>
+        <translation>다음 프로그램들</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::StartAction</name>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air</source>
+        <translation>일정을 송출하기</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air? What is not saved is saved first.</source>
+        <translation>일정을 송출할까요? 저장되지 않은 내용은 먼저 저장됩니다.</translation>
+    </message>
+    <message>
+        <source>Open problems: %1</source>
+        <translation>해결되지 않은 문제: %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
+        <translation>작업 %1과(와) %2이(가) 같은 날에 유효합니다. 겹치지 않게 하면 일정을 송출할 수 있습니다.</translation>
+    </message>
+</context>
 </TS>

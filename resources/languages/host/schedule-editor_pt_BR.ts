@@ -2985,4 +2985,107 @@ O que deseja fazer com as alterações?</translation>
         <translation>Programa mídias em telas, edita a programação e a acompanha.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::air::AirLight</name>
+    <message>
+        <source>On air</source>
+        <translation>No ar</translation>
+    </message>
+    <message>
+        <source>Off air</source>
+        <translation>Fora do ar</translation>
+    </message>
+    <message>
+        <source>A schedule is in effect.</source>
+        <translation>Há uma programação em vigor.</translation>
+    </message>
+    <message>
+        <source>No schedule is in effect.</source>
+        <translation>Nenhuma programação em vigor.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirState</name>
+    <message>
+        <source>Time of day: %1</source>
+        <translation>Hora: %1</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Não salvo</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Salvo: %1</translation>
+    </message>
+    <message>
+        <source>Started: %1</source>
+        <translation>Iniciado: %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirBar</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>Barra de ferramentas</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Pesquisar</translation>
+    </message>
+    <message>
+        <source>Search the catalog</source>
+        <translation>Pesquisar no catálogo</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ComingPrograms</name>
+    <message>
+        <source>Programs to come</source>
+        <translation>Próximos programas</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::StartAction</name>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air</source>
+        <translation>Pôr a programação no ar</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air? What is not saved is saved first.</source>
+        <translation>Pôr a programação no ar? O que não está salvo é salvo antes.</translation>
+    </message>
+    <message>
+        <source>Open problems: %1</source>
+        <translation>Problemas em aberto: %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
+        <translation>As tarefas %1 e %2 são válidas nos mesmos dias. A programação só pode ir ao ar quando não forem mais.</translation>
+    </message>
+</context>
 </TS>

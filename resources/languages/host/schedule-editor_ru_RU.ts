@@ -3028,4 +3028,107 @@ What do you want to do with your changes?</source>
         <translation>Составляет и редактирует расписание медиапрограмм на экранах и следит за ним.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::air::AirLight</name>
+    <message>
+        <source>On air</source>
+        <translation>В эфире</translation>
+    </message>
+    <message>
+        <source>Off air</source>
+        <translation>Не в эфире</translation>
+    </message>
+    <message>
+        <source>A schedule is in effect.</source>
+        <translation>Расписание действует.</translation>
+    </message>
+    <message>
+        <source>No schedule is in effect.</source>
+        <translation>Ни одно расписание не действует.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirState</name>
+    <message>
+        <source>Time of day: %1</source>
+        <translation>Время: %1</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Не сохранено</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>Сохранено: %1</translation>
+    </message>
+    <message>
+        <source>Started: %1</source>
+        <translation>Запущено: %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirBar</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>Панель инструментов</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Остановить</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Поиск</translation>
+    </message>
+    <message>
+        <source>Search the catalog</source>
+        <translation>Поиск в каталоге</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ComingPrograms</name>
+    <message>
+        <source>Programs to come</source>
+        <translation>Следующие программы</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::StartAction</name>
+    <message>
+        <source>Start</source>
+        <translation>Запустить</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air</source>
+        <translation>Вывести расписание в эфир</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air? What is not saved is saved first.</source>
+        <translation>Вывести расписание в эфир? Несохранённое сначала будет сохранено.</translation>
+    </message>
+    <message>
+        <source>Open problems: %1</source>
+        <translation>Нерешённых проблем: %1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
+        <translation>Задания %1 и %2 действуют в одни и те же дни. Вывести расписание в эфир можно, когда это будет исправлено.</translation>
+    </message>
+</context>
 </TS>

@@ -2942,4 +2942,107 @@ What do you want to do with your changes?</source>
         <translation>为屏幕上的媒体节目编排、编辑排期并跟踪其播出。</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::air::AirLight</name>
+    <message>
+        <source>On air</source>
+        <translation>正在播出</translation>
+    </message>
+    <message>
+        <source>Off air</source>
+        <translation>未播出</translation>
+    </message>
+    <message>
+        <source>A schedule is in effect.</source>
+        <translation>已有排期生效。</translation>
+    </message>
+    <message>
+        <source>No schedule is in effect.</source>
+        <translation>没有排期生效。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirState</name>
+    <message>
+        <source>Time of day: %1</source>
+        <translation>当前时间：%1</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>未保存</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>已保存：%1</translation>
+    </message>
+    <message>
+        <source>Started: %1</source>
+        <translation>已启用：%1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirBar</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>工具栏</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>导入</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停用</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search the catalog</source>
+        <translation>搜索节目库</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ComingPrograms</name>
+    <message>
+        <source>Programs to come</source>
+        <translation>接下来的节目</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::StartAction</name>
+    <message>
+        <source>Start</source>
+        <translation>启用</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air</source>
+        <translation>启用排期并播出</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air? What is not saved is saved first.</source>
+        <translation>要启用排期并播出吗？未保存的内容会先保存。</translation>
+    </message>
+    <message>
+        <source>Open problems: %1</source>
+        <translation>未解决的问题：%1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
+        <translation>任务%1和任务%2在同一天有效。调整后才能启用排期并播出。</translation>
+    </message>
+</context>
 </TS>

@@ -2942,4 +2942,107 @@ What do you want to do with your changes?</source>
         <translation>為螢幕上的媒體節目編排、編輯排程並追蹤其播出。</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::air::AirLight</name>
+    <message>
+        <source>On air</source>
+        <translation>播出中</translation>
+    </message>
+    <message>
+        <source>Off air</source>
+        <translation>未播出</translation>
+    </message>
+    <message>
+        <source>A schedule is in effect.</source>
+        <translation>已有排程生效。</translation>
+    </message>
+    <message>
+        <source>No schedule is in effect.</source>
+        <translation>沒有排程生效。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirState</name>
+    <message>
+        <source>Time of day: %1</source>
+        <translation>目前時間：%1</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>未儲存</translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation>已儲存：%1</translation>
+    </message>
+    <message>
+        <source>Started: %1</source>
+        <translation>已啟用：%1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::AirBar</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>工具列</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編輯</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>匯入</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停用</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜尋</translation>
+    </message>
+    <message>
+        <source>Search the catalog</source>
+        <translation>搜尋節目庫</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ComingPrograms</name>
+    <message>
+        <source>Programs to come</source>
+        <translation>接下來的節目</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::air::StartAction</name>
+    <message>
+        <source>Start</source>
+        <translation>啟用</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air</source>
+        <translation>啟用排程並播出</translation>
+    </message>
+    <message>
+        <source>Put the schedule on air? What is not saved is saved first.</source>
+        <translation>要啟用排程並播出嗎？未儲存的內容會先儲存。</translation>
+    </message>
+    <message>
+        <source>Open problems: %1</source>
+        <translation>未解決的問題：%1</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
+        <translation>任務%1和任務%2在同一天有效。調整後才能啟用排程並播出。</translation>
+    </message>
+</context>
 </TS>

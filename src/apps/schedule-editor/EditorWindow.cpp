@@ -7,6 +7,9 @@
 #include "PendingNotices.h"
 #include "PlainTabTips.h"
 #include "ProblemWords.h"
+#include "air/AirBar.h"
+#include "air/AirState.h"
+#include "air/StartAction.h"
 #include "asrun/AsRunWindow.h"
 #include "catalogue/CatalogueImport.h"
 #include "catalogue/CataloguePanel.h"
@@ -16,6 +19,7 @@
 #include "effect/EffectActions.h"
 #include "follow/EditedSchedule.h"
 #include "help/HelpMenu.h"
+#include "look/Themes.h"
 #include "problems/ProblemDock.h"
 #include "scheduleControlUI.h"
 #include "screen/NowNextPanel.h"
@@ -142,7 +146,11 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     addPanel(m_programs, Qt::LeftDockWidgetArea);
     auto* follower = new ScreenFollower(ScheduleHost::instance().dispatch(), this);
     m_nowNext->setObjectName(QStringLiteral("nowNextDock"));
-    m_nowNext->setWidget(new NowNextPanel(*follower, m_nowNext));
+    auto* nowNext = new NowNextPanel(*follower, m_nowNext);
+    const auto takeColours = [nowNext, &themes] { nowNext->setColours(themes.colours()); };
+    connect(&themes, &Themes::changed, nowNext, takeColours);
+    takeColours();
+    m_nowNext->setWidget(nowNext);
     addPanel(m_nowNext, Qt::RightDockWidgetArea);
     auto* preview = new PreviewDock(*follower, this);
     addPanel(preview, Qt::RightDockWidgetArea);
@@ -153,6 +161,7 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     addPanel(m_clockChanges, Qt::BottomDockWidgetArea);
     auto* problems = new ProblemDock(*edited, m_editor, *statusBar(), this);
     addPanel(problems, Qt::BottomDockWidgetArea);
+    buildBar(*follower, *problems);
     // The problems tell of those changes that touch a plan soon.
     m_clockChanges->hide();
     auto* week = new week::WeekPage(*edited, languages, themes, this);
@@ -174,7 +183,7 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({m_programs, m_nowNext}, {250, 260}, Qt::Horizontal);
     resizeDocks({m_nowNext, preview}, {450, 150}, Qt::Vertical);
-    resizeDocks({problems}, {124}, Qt::Vertical);
+    resizeDocks({problems}, {96}, Qt::Vertical);
 }
 
 void EditorWindow::allowEdits(week::WeekPanel& panel)
@@ -189,6 +198,20 @@ void EditorWindow::allowEdits(week::WeekPanel& panel)
         activateWindow();
         statusBar()->showMessage(tr("The change is in the editor now, where it can be saved."));
     });
+}
+
+void EditorWindow::buildBar(ScreenFollower& follower, const ProblemDock& problems)
+{
+    auto* start = new air::StartAction(
+        m_editor, *m_notices, [&problems] { return problems.count(); }, this);
+    m_air = new air::AirState(follower, *m_drafts, this);
+    auto* bar = new air::AirBar(*m_menus, *start, m_air, this);
+    connect(bar->search(), &QAction::triggered, this, [this] {
+        m_programs->show();
+        m_programs->raise();
+        m_catalogue->focusSearch();
+    });
+    addToolBar(bar);
 }
 
 void EditorWindow::addPanel(QDockWidget* panel, Qt::DockWidgetArea area)
@@ -256,6 +279,7 @@ QString EditorWindow::openDatabase(const QString& path, const QString& demonstra
     }
     m_history->clear();
     m_drafts->begin();
+    m_air->reload();
     updateTitle();
     m_catalogue->reload();
     showReplacedSchedule();

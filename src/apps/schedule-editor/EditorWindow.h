@@ -11,6 +11,10 @@ class scheduleControlUI;
 
 namespace trel::desktop {
 
+namespace air {
+class AirState;
+}
+
 namespace undo {
 class EditHistory;
 class HistoryActions;
@@ -32,6 +36,8 @@ class EditorMenus;
 class HelpMenu;
 class Languages;
 class PendingNotices;
+class ProblemDock;
+class ScreenFollower;
 class Themes;
 
 /// The host's window: the catalogue of programs, the menus, and the way into the schedule editor.
@@ -87,6 +93,7 @@ private:
     void connectMenus();
     void buildPanels(const Languages& languages, const Themes& themes);
     void allowEdits(week::WeekPanel& panel);
+    void buildBar(ScreenFollower& follower, const ProblemDock& problems);
     /// Docks a panel, which becomes a child, and lets the view menu show and hide it.
     void addPanel(QDockWidget* panel, Qt::DockWidgetArea area);
     void retranslate();
@@ -111,6 +118,7 @@ private:
     QDockWidget* m_clockChanges;
     PendingNotices* m_notices;
     CatalogueImport* m_import;
+    air::AirState* m_air = nullptr;
     undo::EditHistory* m_history = nullptr;
     undo::HistoryActions* m_undo = nullptr;
     DraftKeeper* m_drafts;

@@ -2,6 +2,7 @@
 #include "LanguageFont.h"
 #include "PaintedTexts.h"
 #include "ProgramSheduleWidgetTranslateManager.h"
+#include "support/TestClock.h"
 #include "support/TestProgram.h"
 #include "trelwidgets/Dialog.h"
 #include "tstranslate/Translator.h"
@@ -412,6 +413,8 @@ void tst_HostLanguage::aSwitchLeavesNoTextOfTheOldOne()
     QFETCH(QString, before);
     const QString language = QString::fromLatin1(QTest::currentDataTag());
     QStringList switched;
+    // The window shows the time of day.
+    const TestClock clock(QDateTime(QDate(2026, 3, 11), QTime(12, 0)));
     {
         LanguageFixture fixture(before);
         const QStringList old = fixture.texts();

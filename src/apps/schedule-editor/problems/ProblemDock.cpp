@@ -7,6 +7,7 @@
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/problems/MidnightSplit.h"
+#include "trelwidgets/PlainToolTip.h"
 
 #include <QAction>
 #include <QEvent>
@@ -111,7 +112,7 @@ void ProblemDock::retranslate()
     m_panel->setListName(windowTitle());
     // The title becomes the text of the action, which has a letter besides.
     toggleViewAction()->setText(tr("Pro&blems"));
-    m_number->setToolTip(tr("Show what is wrong with the schedule"));
+    m_number->setToolTip(trel::widgets::plainToolTip(tr("Show what is wrong with the schedule")));
     tellNumber();
 }
 

@@ -3,6 +3,7 @@
 #include "effect/CutInLine.h"
 #include "effect/EffectLines.h"
 #include "screen/Badge.h"
+#include "screen/ComingPrograms.h"
 #include "screen/ElidedText.h"
 #include "screen/PlayBar.h"
 #include "screen/ScreenFollower.h"
@@ -100,6 +101,7 @@ NowNextPanel::NowNextPanel(ScreenFollower& follower, QWidget* parent)
     , m_nextProgram(named(new ElidedText(m_nextPart), "nextProgram"))
     , m_nextPlan(named(new ElidedText(m_nextPart), "nextPlan"))
     , m_nextTime(named(new ElidedText(m_nextPart), "nextTime"))
+    , m_coming(new ComingPrograms(follower, this))
     , m_cutIn(named(new CutInLine(follower, this), "nowCutIn"))
     , m_effect(named(new EffectLines(follower, this), "effectLines"))
 {
@@ -150,8 +152,14 @@ void NowNextPanel::build()
     layout->addWidget(m_reason);
     layout->addWidget(m_cutIn);
     layout->addWidget(m_nextPart);
+    layout->addWidget(m_coming);
     layout->addStretch(1);
     layout->addWidget(m_effect);
+}
+
+void NowNextPanel::setColours(const look::ThemeColours& colours)
+{
+    m_coming->setColours(colours);
 }
 
 void NowNextPanel::retranslate()

@@ -6,7 +6,12 @@ class QLabel;
 
 namespace trel::desktop {
 
+namespace look {
+struct ThemeColours;
+}
+
 class Badge;
+class ComingPrograms;
 class CutInLine;
 class EffectLines;
 class ElidedText;
@@ -22,6 +27,9 @@ class NowNextPanel : public QWidget
 public:
     /// The follower outlives the panel.
     NowNextPanel(ScreenFollower& follower, QWidget* parent);
+
+    /// Those of the theme, for the programs to come.
+    void setColours(const look::ThemeColours& colours);
 
 protected:
     bool event(QEvent* event) override;
@@ -55,6 +63,7 @@ private:
     ElidedText* m_nextProgram;
     ElidedText* m_nextPlan;
     ElidedText* m_nextTime;
+    ComingPrograms* m_coming;
     CutInLine* m_cutIn;
     EffectLines* m_effect;
 };

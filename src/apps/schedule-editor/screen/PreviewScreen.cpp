@@ -25,6 +25,7 @@ namespace {
 constexpr int kAcross = 16;
 constexpr int kDown = 9;
 
+const QColor kWhyText(0xb4, 0xbb, 0xc7);
 constexpr int kSmallestText = 11;
 constexpr int kLargestText = 34;
 /// The height of the widget over that of the band's text.
@@ -74,8 +75,10 @@ void PreviewScreen::describe()
 {
     const ScreenScene& now = m_follower.now();
     setAccessibleName(tr("Preview of the screen"));
-    setAccessibleDescription(ScreenWords::picture(now.state.picture) + QStringLiteral(": ") +
-                             ScreenWords::program(now));
+    const bool isBlack = now.state.picture == ScreenPicture::Black;
+    setAccessibleDescription(
+        ScreenWords::picture(now.state.picture) + QStringLiteral(": ") +
+        (isBlack ? ScreenWords::reason(now.state, &now.plan) : ScreenWords::program(now)));
 }
 
 void PreviewScreen::paintEvent(QPaintEvent* event)
@@ -86,6 +89,7 @@ void PreviewScreen::paintEvent(QPaintEvent* event)
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.fillRect(rect(), Qt::black);
     if (m_follower.now().state.picture == ScreenPicture::Black) {
+        paintWhy(painter);
         return;
     }
     paintPicture(painter);
@@ -93,6 +97,21 @@ void PreviewScreen::paintEvent(QPaintEvent* event)
     if (m_follower.now().state.picture == ScreenPicture::Frozen) {
         paintFrozen(painter);
     }
+}
+
+/// A black picture alone could be a fault as well.
+void PreviewScreen::paintWhy(QPainter& painter) const
+{
+    QFont letters = font();
+    letters.setPixelSize(std::clamp(height() / kTextShare, kSmallestText, kLargestText));
+    painter.setFont(letters);
+    painter.setPen(kWhyText);
+    const int margin = painter.fontMetrics().height();
+    const ScreenScene& now = m_follower.now();
+    painter.drawText(rect().adjusted(margin, margin / 2, -margin, -margin / 2),
+                     int(Qt::AlignCenter) | Qt::TextWordWrap,
+                     ScreenWords::picture(now.state.picture) + QLatin1Char('\n') +
+                         ScreenWords::reason(now.state, &now.plan));
 }
 
 void PreviewScreen::paintPicture(QPainter& painter)

@@ -10,8 +10,8 @@ namespace trel::desktop {
 class ScreenFollower;
 
 /// A small copy of the screen: the image on it or the first picture of the film, a drawing for what
-/// has no picture, and black where it is black. The program's name and position stand below in a
-/// band of their own; a frozen picture is marked.
+/// has no picture, and black with the reason where it is black. The program's name and position
+/// stand below in a band of their own; a frozen picture is marked.
 class PreviewScreen : public QWidget
 {
     Q_OBJECT
@@ -39,6 +39,7 @@ protected:
 private:
     void showChange();
     void describe();
+    void paintWhy(QPainter& painter) const;
     void paintPicture(QPainter& painter);
     void paintBand(QPainter& painter) const;
     void paintFrozen(QPainter& painter) const;

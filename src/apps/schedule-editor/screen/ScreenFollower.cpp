@@ -7,6 +7,7 @@
 #include "trelprogramschedule/dispatch/MomentFormat.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
 #include "trelprogramschedule/dispatch/ScreenTimeline.h"
+#include "trelprogramschedule/dispatch/SoughtPlay.h"
 
 #include <QEvent>
 #include <QWidget>
@@ -20,6 +21,10 @@ namespace trel::desktop {
 namespace {
 
 constexpr qint64 kSecond = 1000;
+constexpr std::size_t kComing = 3;
+constexpr qint64 kComingTime = 8 * 24 * 3600 * kSecond;
+/// Each costs a question; lists that alternate between few programs for long come to an end.
+constexpr int kMostComingSteps = 100;
 
 const ScreenInsertion* findAt(const ScreenInsertions& insertions, Instant moment)
 {
@@ -72,6 +77,38 @@ void ScreenFollower::update()
     if (isRunning() && until != kNever) {
         m_next = sceneOf(m_dispatch.timeline().at(until, m_dispatch.insertions()), until);
     }
+    findComing();
+}
+
+void ScreenFollower::findComing()
+{
+    m_coming.clear();
+    if (!isRunning()) {
+        return;
+    }
+    const Instant end = m_at + kComingTime;
+    std::set<int> known{m_now.state.progIndex};
+    int former = m_now.state.progIndex;
+    Instant from = m_now.state.until;
+    std::size_t again = 0; // Plays in a row of programs that are known.
+    for (int step = 0; step < kMostComingSteps && m_coming.size() < kComing && from < end; ++step) {
+        const std::optional<ScreenState> play = m_dispatch.timeline().nextPlay(
+            from, end, m_dispatch.insertions(), SoughtPlay{former, true});
+        if (!play) {
+            return;
+        }
+        ScreenScene scene = sceneOf(*play, play->since);
+        former = play->progIndex;
+        const bool isNew = known.insert(former).second;
+        again = isNew ? 0 : again + 1;
+        // Once round its list, a plan has shown all that it has.
+        const bool isThrough = again > scene.plan.programs.size();
+        from = std::max(from + 1, isThrough ? play->spanUntil : play->until);
+        again = isThrough ? 0 : again;
+        if (isNew) {
+            m_coming.push_back(std::move(scene));
+        }
+    }
 }
 
 ScreenScene ScreenFollower::sceneOf(const ScreenState& state, Instant moment) const
@@ -110,6 +147,11 @@ std::optional<qint64> ScreenFollower::timeTo(Instant moment) const
         return {};
     }
     return std::max<qint64>(0, moment - Clock::current().msecsSinceEpoch());
+}
+
+QDate ScreenFollower::today() const
+{
+    return local(Clock::current().msecsSinceEpoch()).date();
 }
 
 QDateTime ScreenFollower::local(Instant moment) const

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <set>
+#include <vector>
 
 namespace trel::mediadispatch {
 class ClockAlarm;
@@ -48,6 +49,9 @@ public:
     const ScreenScene& now() const { return m_now; }
     /// What comes after it; nothing when that stays for good.
     const std::optional<ScreenScene>& next() const { return m_next; }
+    /// The first plays to come of the three next programs, other than the one on screen and than
+    /// each other, within eight days. Their `since` is when they begin.
+    const std::vector<ScreenScene>& coming() const { return m_coming; }
 
     /// At this moment, in milliseconds: how far into the program the screen is, how long the play,
     /// or the picture, still lasts, and how long the plan has the screen. Nothing for what does not
@@ -57,6 +61,8 @@ public:
     std::optional<qint64> planRemaining() const { return timeTo(m_now.state.spanUntil); }
     std::optional<qint64> timeTo(trel::mediadispatch::Instant moment) const;
 
+    /// The date that the local clock shows now.
+    QDate today() const;
     /// What the local clock shows at a moment.
     QDateTime local(trel::mediadispatch::Instant moment) const;
     /// Its time of day in kTimeFormat, with the offset on days that may have a time twice.
@@ -76,6 +82,7 @@ protected:
 
 private:
     void update();
+    void findComing();
     ScreenScene sceneOf(const trel::mediadispatch::ScreenState& state,
                         trel::mediadispatch::Instant moment) const;
     void setVisible(QObject* viewer, bool isVisible);
@@ -86,6 +93,7 @@ private:
     std::unique_ptr<trel::mediadispatch::MomentFormat> m_clock; ///< That of the schedule in effect.
     ScreenScene m_now;
     std::optional<ScreenScene> m_next;
+    std::vector<ScreenScene> m_coming;
     trel::mediadispatch::Instant m_at = 0; ///< The moment that m_now is of.
     std::set<QObject*> m_visible;
     std::unique_ptr<trel::mediadispatch::ClockAlarm> m_alarm; ///< Only while somebody looks.

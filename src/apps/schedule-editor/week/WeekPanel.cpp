@@ -22,6 +22,10 @@ namespace {
 
 constexpr double kZoomStep = 1.5;
 constexpr int kSignWidth = 28;
+/// In less room the controls shrink, and the months are left to the calendar.
+constexpr int kRoomy = 680;
+constexpr int kLeastWidth = 540;
+constexpr int kLeastSource = 70;
 
 /// A sign is no name: the words are for those who cannot see it, or do not know it.
 void setWords(QWidget* widget, const QString& words)
@@ -52,6 +56,8 @@ WeekPanel::WeekPanel(follow::EditedSchedule& edited, QWidget* parent)
     m_source->addItem(QString(), static_cast<int>(WeekSource::Edited));
     m_source->addItem(QString(), static_cast<int>(WeekSource::InEffect));
     m_source->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    m_source->setMinimumWidth(kLeastSource);
+    setMinimumWidth(kLeastWidth);
     buildControls();
     connectControls();
     retranslate();
@@ -217,6 +223,13 @@ void WeekPanel::hideEvent(QHideEvent* event)
 {
     QWidget::hideEvent(event);
     m_feed.setWatched(false);
+}
+
+void WeekPanel::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_formerMonth->setVisible(width() >= kRoomy);
+    m_nextMonth->setVisible(width() >= kRoomy);
 }
 
 void WeekPanel::changeEvent(QEvent* event)

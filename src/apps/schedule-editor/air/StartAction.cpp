@@ -1,0 +1,85 @@
+#include "air/StartAction.h"
+
+#include "HostPrompts.h"
+#include "PendingNotices.h"
+#include "scheduleControlUI.h"
+#include "service/TaskPeriods.h"
+#include "service/scheduleManage.h"
+#include "trelwidgets/PlainToolTip.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QEvent>
+
+#include <utility>
+
+using namespace trel::mediadispatch;
+
+namespace trel::desktop::air {
+
+StartAction::StartAction(scheduleControlUI& editor, PendingNotices& notices, Count openProblems,
+                         QObject* parent)
+    : QObject(parent)
+    , m_editor(editor)
+    , m_notices(notices)
+    , m_openProblems(std::move(openProblems))
+    , m_action(new QAction(this))
+{
+    parent->installEventFilter(this);
+    connect(m_action, &QAction::triggered, this, &StartAction::ask);
+    retranslate();
+}
+
+void StartAction::retranslate()
+{
+    m_action->setText(tr("Start"));
+    m_action->setToolTip(trel::widgets::plainToolTip(tr("Put the schedule on air")));
+}
+
+bool StartAction::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+QString StartAction::question() const
+{
+    QStringList lines{tr("Put the schedule on air? What is not saved is saved first.")};
+    if (const int problems = m_openProblems(); problems > 0) {
+        lines.append(tr("Open problems: %1").arg(problems));
+    }
+    return lines.join(QLatin1String("\n\n"));
+}
+
+void StartAction::ask()
+{
+    if (prompts::confirm(question(), tr("Start"), tr("Cancel")) == 1) {
+        start();
+    }
+}
+
+void StartAction::start()
+{
+    if (m_editor.isVisible()) {
+        // The editor takes over what is half typed, and says itself what is in the way.
+        if (auto* button =
+                m_editor.findChild<QAbstractButton*>(QStringLiteral("pushButtonStart"))) {
+            button->click();
+        }
+        return;
+    }
+    const auto overlap = firstTaskOverlap(scheduleManage::getInstance().getAllTask());
+    if (overlap) {
+        m_notices.tell(tr("Tasks %1 and %2 are valid on the same days. The schedule can be put on "
+                          "air once they are not.")
+                           .arg(overlap->first)
+                           .arg(overlap->second));
+        return;
+    }
+    m_editor.slotStart();
+}
+
+} // namespace trel::desktop::air

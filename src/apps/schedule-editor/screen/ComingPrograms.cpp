@@ -1,0 +1,130 @@
+#include "screen/ComingPrograms.h"
+
+#include "BidiText.h"
+#include "look/ProgramColours.h"
+#include "screen/ScreenFollower.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
+
+namespace trel::desktop {
+
+namespace {
+
+constexpr int kSign = 10;
+constexpr int kSpace = 6;
+constexpr int kLineSpace = 3;
+
+} // namespace
+
+ComingPrograms::ComingPrograms(const ScreenFollower& follower, QWidget* parent)
+    : QWidget(parent)
+    , m_follower(follower)
+    , m_colours(look::darkColours())
+{
+    setObjectName(QStringLiteral("comingPrograms"));
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    connect(&m_follower, &ScreenFollower::changed, this, &ComingPrograms::showChange);
+    showChange();
+}
+
+void ComingPrograms::setColours(const look::ThemeColours& colours)
+{
+    m_colours = colours;
+    update();
+}
+
+QSize ComingPrograms::sizeHint() const
+{
+    const int lines = static_cast<int>(m_follower.coming().size()) + 1;
+    return {0, lines * (fontMetrics().height() + kLineSpace)};
+}
+
+QSize ComingPrograms::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+/// The time of day, with the date where it is another than the present one.
+QString ComingPrograms::momentText(int index) const
+{
+    const trel::mediadispatch::Instant since =
+        m_follower.coming()[static_cast<std::size_t>(index)].state.since;
+    const QDate date = m_follower.local(since).date();
+    const QString time = m_follower.timeText(since);
+    return leftToRight(date == m_follower.today()
+                           ? time
+                           : date.toString(trel::mediadispatch::kDateFormat) + QLatin1Char(' ') +
+                                 time);
+}
+
+QString ComingPrograms::nameOf(int index) const
+{
+    return isolated(QString::fromStdString(
+        m_follower.coming()[static_cast<std::size_t>(index)].program.progName));
+}
+
+void ComingPrograms::showChange()
+{
+    setAccessibleName(tr("Programs to come"));
+    QStringList lines;
+    const int count = static_cast<int>(m_follower.coming().size());
+    for (int index = 0; index < count; ++index) {
+        lines.append(momentText(index) + QLatin1Char(' ') + nameOf(index));
+    }
+    setAccessibleDescription(lines.join(QLatin1Char('\n')));
+    setVisible(count > 0);
+    updateGeometry();
+    update();
+}
+
+void ComingPrograms::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    QPainter painter(this);
+    painter.setLayoutDirection(layoutDirection());
+    const int height = fontMetrics().height();
+    const auto seen = [this](const QRect& part) {
+        return QStyle::visualRect(layoutDirection(), rect(), part);
+    };
+    const auto draw = [&](const QRect& room, const QColor& colour, const QString& text) {
+        painter.setPen(colour);
+        painter.drawText(seen(room),
+                         int(Qt::AlignVCenter) |
+                             int(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft)) |
+                             Qt::TextSingleLine,
+                         fontMetrics().elidedText(text, Qt::ElideRight, std::max(0, room.width())));
+    };
+    draw(QRect(0, 0, width(), height), palette().color(QPalette::PlaceholderText),
+         tr("Programs to come"));
+    const int count = static_cast<int>(m_follower.coming().size());
+    for (int index = 0; index < count; ++index) {
+        const int top = (index + 1) * (height + kLineSpace);
+        const int program = m_follower.coming()[static_cast<std::size_t>(index)].state.progIndex;
+        const look::ProgramColours colours = look::programColours(program, m_colours);
+        const QRect sign = seen(QRect(0, top + (height - kSign) / 2, kSign, kSign));
+        painter.fillRect(sign, colours.ground);
+        painter.setPen(colours.line);
+        painter.drawRect(sign.adjusted(0, 0, -1, -1));
+        const QString time = momentText(index);
+        const int timeWidth = fontMetrics().horizontalAdvance(time);
+        draw(QRect(kSign + kSpace, top, timeWidth + 1, height),
+             palette().color(QPalette::PlaceholderText), time);
+        const int left = kSign + timeWidth + 3 * kSpace;
+        draw(QRect(left, top, width() - left, height), palette().color(QPalette::WindowText),
+             nameOf(index));
+    }
+}
+
+void ComingPrograms::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::FontChange) {
+        showChange();
+    }
+}
+
+} // namespace trel::desktop

@@ -1,0 +1,142 @@
+#include "HostFixture.h"
+#include "support/TestProgram.h"
+#include "week/WeekPage.h"
+#include "week/WeekPanel.h"
+#include "week/WeekView.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QToolBar>
+
+using namespace trel::desktop;
+
+namespace {
+
+/// What a desktop leaves of a screen of 1366 by 768, and of one of 1024 by 768, beside its own bar
+/// and the frame of the window.
+constexpr QSize kUsual(1366, 706);
+constexpr QSize kSmall(1024, 706);
+
+void addLanguages()
+{
+    QTest::addColumn<QString>("language");
+    const QStringList files =
+        QDir(QStringLiteral(LANGUAGES)).entryList({QStringLiteral("??_??.qm")});
+    QCOMPARE(files.size(), 10);
+    for (const QString& file : files) {
+        QTest::newRow(qPrintable(file.left(5))) << file.left(5);
+    }
+}
+
+bool fits(const QSize& size, const QSize& room)
+{
+    return size.width() <= room.width() && size.height() <= room.height();
+}
+
+/// The controls around the week that are cut off or that lie over others.
+QStringList faultsOf(const QWidget& panel)
+{
+    QStringList faults;
+    QList<QWidget*> controls;
+    const QList<QWidget*> all = panel.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* widget : all) {
+        if (widget->isVisible()) {
+            controls.append(widget);
+        }
+    }
+    for (QWidget* widget : qAsConst(controls)) {
+        if (!panel.rect().contains(widget->geometry())) {
+            faults.append(widget->objectName() + QStringLiteral(" is cut off"));
+        }
+        const auto* button = qobject_cast<QAbstractButton*>(widget);
+        const bool isSign = button != nullptr && button->text().size() < 2;
+        if (button != nullptr && !isSign && button->width() < button->minimumSizeHint().width()) {
+            faults.append(widget->objectName() + QStringLiteral(" has no room for its text"));
+        }
+        for (QWidget* other : qAsConst(controls)) {
+            if (other != widget && other->geometry().intersects(widget->geometry())) {
+                faults.append(widget->objectName() + QStringLiteral(" lies over ") +
+                              other->objectName());
+            }
+        }
+    }
+    return faults;
+}
+
+struct Window : HostFixture
+{
+    explicit Window(const QString& language)
+    {
+        languages.select(language);
+        window.openDatabase(database, QStringLiteral(DEMONSTRATION));
+        window.show();
+        QCoreApplication::processEvents();
+    }
+
+    week::WeekPanel& panel() const { return *window.findChild<week::WeekPage*>()->panel(); }
+};
+
+} // namespace
+
+/// The window fits onto the screens that stations have.
+class tst_WindowSizes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void fitsAUsualScreen_data() { addLanguages(); }
+    void fitsAUsualScreen();
+    void fitsASmallScreen_data() { addLanguages(); }
+    void fitsASmallScreen();
+    void panelsCanBeRemembered();
+};
+
+void tst_WindowSizes::fitsAUsualScreen()
+{
+    QFETCH(QString, language);
+    const Window fixture(language);
+    QVERIFY(fits(fixture.window.size(), kUsual));
+    QCOMPARE(faultsOf(fixture.panel()), QStringList());
+    // Days that are wide enough for the hours of a plan, and hours high enough for a line.
+    const week::WeekView& view = *fixture.panel().view();
+    QVERIFY(view.viewport()->width() >= 7 * 90);
+    QVERIFY(view.isFit());
+    QVERIFY(view.viewport()->height() >= 260);
+}
+
+void tst_WindowSizes::fitsASmallScreen()
+{
+    QFETCH(QString, language);
+    Window fixture(language);
+    fixture.window.resize(kSmall);
+    QCoreApplication::processEvents();
+    QVERIFY2(fits(fixture.window.size(), kSmall),
+             qPrintable(QString::number(fixture.window.width())));
+    QCOMPARE(faultsOf(fixture.panel()), QStringList());
+    const QList<QDockWidget*> panels = fixture.window.findChildren<QDockWidget*>();
+    for (const QDockWidget* panel : panels) {
+        QVERIFY2(!panel->isVisible() || fixture.window.rect().contains(panel->geometry()),
+                 qPrintable(panel->objectName()));
+    }
+}
+
+void tst_WindowSizes::panelsCanBeRemembered()
+{
+    const Window fixture(QStringLiteral("en_US"));
+    QSet<QString> names;
+    const QList<QWidget*> widgets = fixture.window.findChildren<QWidget*>();
+    for (const QWidget* widget : widgets) {
+        if (qobject_cast<const QDockWidget*>(widget) || qobject_cast<const QToolBar*>(widget)) {
+            QVERIFY(!widget->objectName().isEmpty());
+            QVERIFY(!names.contains(widget->objectName()));
+            names.insert(widget->objectName());
+        }
+    }
+    QVERIFY(names.contains(QStringLiteral("catalogueDock")));
+    QVERIFY(names.contains(QStringLiteral("airBar")));
+}
+
+TREL_TEST(tst_WindowSizes, QApplication)
+#include "tst_WindowSizes.moc"
