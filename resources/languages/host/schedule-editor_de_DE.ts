@@ -3088,4 +3088,66 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Die Aufträge %1 und %2 sind an denselben Tagen gültig. Erst wenn das nicht mehr so ist, kann der Wiedergabeplan auf Sendung gehen.</translation>
     </message>
 </context>
+<context>
+    <name>DroppedMedia</name>
+    <message>
+        <source>None of this can be imported.</source>
+        <translation>Nichts davon kann importiert werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files or folders</source>
+        <translation>
+            <numerusform>%n Datei oder Ordner</numerusform>
+            <numerusform>%n Dateien oder Ordner</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n addresses</source>
+        <translation>
+            <numerusform>%n Adresse</numerusform>
+            <numerusform>%n Adressen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>files, and addresses</comment>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>Import %1</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>Importieren: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %1; %n cannot be imported</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>
+            <numerusform>Importieren: %1; %n kann nicht importiert werden</numerusform>
+            <numerusform>Importieren: %1; %n können nicht importiert werden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MediaFilters</name>
+    <message>
+        <source>All media</source>
+        <translation>Alle Medien</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Filme</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
 </TS>

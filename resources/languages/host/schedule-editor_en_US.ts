@@ -353,4 +353,29 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>DroppedMedia</name>
+    <message numerus="yes">
+        <source>%n files or folders</source>
+        <translation>
+            <numerusform>%n file or folder</numerusform>
+            <numerusform>%n files or folders</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n addresses</source>
+        <translation>
+            <numerusform>%n address</numerusform>
+            <numerusform>%n addresses</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %1; %n cannot be imported</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>
+            <numerusform>Import %1; %n cannot be imported</numerusform>
+            <numerusform>Import %1; %n cannot be imported</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

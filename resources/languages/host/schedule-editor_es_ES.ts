@@ -3088,4 +3088,66 @@ What do you want to do with your changes?</source>
         <translation>Las tareas %1 y %2 son válidas en los mismos días. La programación solo puede emitirse cuando ya no lo sean.</translation>
     </message>
 </context>
+<context>
+    <name>DroppedMedia</name>
+    <message>
+        <source>None of this can be imported.</source>
+        <translation>Nada de esto se puede importar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files or folders</source>
+        <translation>
+            <numerusform>%n archivo o carpeta</numerusform>
+            <numerusform>%n archivos o carpetas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n addresses</source>
+        <translation>
+            <numerusform>%n dirección</numerusform>
+            <numerusform>%n direcciones</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>files, and addresses</comment>
+        <translation>%1 y %2</translation>
+    </message>
+    <message>
+        <source>Import %1</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>Importar: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %1; %n cannot be imported</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>
+            <numerusform>Importar: %1; %n no se puede importar</numerusform>
+            <numerusform>Importar: %1; %n no se pueden importar</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MediaFilters</name>
+    <message>
+        <source>All media</source>
+        <translation>Todos los medios</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Imágenes</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Sonido</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos los archivos (*)</translation>
+    </message>
+</context>
 </TS>

@@ -3088,4 +3088,66 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Les tâches %1 et %2 sont valides les mêmes jours. La programmation ne peut passer à l’antenne que lorsqu’elles ne le sont plus.</translation>
     </message>
 </context>
+<context>
+    <name>DroppedMedia</name>
+    <message>
+        <source>None of this can be imported.</source>
+        <translation>Rien de cela ne peut être importé.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files or folders</source>
+        <translation>
+            <numerusform>%n fichier ou dossier</numerusform>
+            <numerusform>%n fichiers ou dossiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n addresses</source>
+        <translation>
+            <numerusform>%n adresse</numerusform>
+            <numerusform>%n adresses</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>files, and addresses</comment>
+        <translation>%1 et %2</translation>
+    </message>
+    <message>
+        <source>Import %1</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>Importer : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %1; %n cannot be imported</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>
+            <numerusform>Importer : %1 ; %n ne peut pas être importé</numerusform>
+            <numerusform>Importer : %1 ; %n ne peuvent pas être importés</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MediaFilters</name>
+    <message>
+        <source>All media</source>
+        <translation>Tous les médias</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Vidéos</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Son</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+</context>
 </TS>

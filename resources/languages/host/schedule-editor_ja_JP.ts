@@ -3045,4 +3045,63 @@ What do you want to do with your changes?</source>
         <translation>タスク%1と%2が同じ日に有効です。重ならないようにすると、スケジュールを放送に出せます。</translation>
     </message>
 </context>
+<context>
+    <name>DroppedMedia</name>
+    <message>
+        <source>None of this can be imported.</source>
+        <translation>取り込めるものはありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files or folders</source>
+        <translation>
+            <numerusform>ファイルまたはフォルダー %n 件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n addresses</source>
+        <translation>
+            <numerusform>アドレス %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>files, and addresses</comment>
+        <translation>%1と%2</translation>
+    </message>
+    <message>
+        <source>Import %1</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>取り込み: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %1; %n cannot be imported</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>
+            <numerusform>取り込み: %1 (%n 件は取り込めません)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MediaFilters</name>
+    <message>
+        <source>All media</source>
+        <translation>すべてのメディア</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>動画</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>音声</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>すべてのファイル (*)</translation>
+    </message>
+</context>
 </TS>

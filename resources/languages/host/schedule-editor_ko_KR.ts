@@ -3045,4 +3045,63 @@ What do you want to do with your changes?</source>
         <translation>작업 %1과(와) %2이(가) 같은 날에 유효합니다. 겹치지 않게 하면 일정을 송출할 수 있습니다.</translation>
     </message>
 </context>
+<context>
+    <name>DroppedMedia</name>
+    <message>
+        <source>None of this can be imported.</source>
+        <translation>가져올 수 있는 것이 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files or folders</source>
+        <translation>
+            <numerusform>파일 또는 폴더 %n개</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n addresses</source>
+        <translation>
+            <numerusform>주소 %n개</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>files, and addresses</comment>
+        <translation>%1 및 %2</translation>
+    </message>
+    <message>
+        <source>Import %1</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>가져오기: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %1; %n cannot be imported</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>
+            <numerusform>가져오기: %1(%n개는 가져올 수 없음)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MediaFilters</name>
+    <message>
+        <source>All media</source>
+        <translation>모든 미디어</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>동영상</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>이미지</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>소리</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>모든 파일 (*)</translation>
+    </message>
+</context>
 </TS>

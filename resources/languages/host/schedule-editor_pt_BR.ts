@@ -3088,4 +3088,66 @@ O que deseja fazer com as alterações?</translation>
         <translation>As tarefas %1 e %2 são válidas nos mesmos dias. A programação só pode ir ao ar quando não forem mais.</translation>
     </message>
 </context>
+<context>
+    <name>DroppedMedia</name>
+    <message>
+        <source>None of this can be imported.</source>
+        <translation>Nada disto pode ser importado.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files or folders</source>
+        <translation>
+            <numerusform>%n arquivo ou pasta</numerusform>
+            <numerusform>%n arquivos ou pastas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n addresses</source>
+        <translation>
+            <numerusform>%n endereço</numerusform>
+            <numerusform>%n endereços</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>files, and addresses</comment>
+        <translation>%1 e %2</translation>
+    </message>
+    <message>
+        <source>Import %1</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>Importar: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %1; %n cannot be imported</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>
+            <numerusform>Importar: %1; %n não pode ser importado</numerusform>
+            <numerusform>Importar: %1; %n não podem ser importados</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MediaFilters</name>
+    <message>
+        <source>All media</source>
+        <translation>Todas as mídias</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Vídeos</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Imagens</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Som</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Todos os arquivos (*)</translation>
+    </message>
+</context>
 </TS>

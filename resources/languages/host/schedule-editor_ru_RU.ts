@@ -3131,4 +3131,69 @@ What do you want to do with your changes?</source>
         <translation>Задания %1 и %2 действуют в одни и те же дни. Вывести расписание в эфир можно, когда это будет исправлено.</translation>
     </message>
 </context>
+<context>
+    <name>DroppedMedia</name>
+    <message>
+        <source>None of this can be imported.</source>
+        <translation>Ничего из этого импортировать нельзя.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files or folders</source>
+        <translation>
+            <numerusform>%n файл или папка</numerusform>
+            <numerusform>%n файла или папки</numerusform>
+            <numerusform>%n файлов или папок</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n addresses</source>
+        <translation>
+            <numerusform>%n адрес</numerusform>
+            <numerusform>%n адреса</numerusform>
+            <numerusform>%n адресов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <comment>files, and addresses</comment>
+        <translation>%1 и %2</translation>
+    </message>
+    <message>
+        <source>Import %1</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>Импорт: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>Import %1; %n cannot be imported</source>
+        <comment>files, or addresses, or both</comment>
+        <translation>
+            <numerusform>Импорт: %1; %n нельзя импортировать</numerusform>
+            <numerusform>Импорт: %1; %n нельзя импортировать</numerusform>
+            <numerusform>Импорт: %1; %n нельзя импортировать</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MediaFilters</name>
+    <message>
+        <source>All media</source>
+        <translation>Все медиафайлы</translation>
+    </message>
+    <message>
+        <source>Films</source>
+        <translation>Видео</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Изображения</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Звук</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Все файлы (*)</translation>
+    </message>
+</context>
 </TS>

@@ -13,6 +13,7 @@
 #include "asrun/AsRunWindow.h"
 #include "catalogue/CatalogueImport.h"
 #include "catalogue/CataloguePanel.h"
+#include "catalogue/MediaDrop.h"
 #include "clock/ClockChangePanel.h"
 #include "common/PatientFile.h"
 #include "draft/DraftKeeper.h"
@@ -42,14 +43,11 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QStatusBar>
 #include <QTimer>
-#include <QUrl>
 
 #include <chrono>
 
@@ -61,17 +59,6 @@ namespace {
 
 /// Leaves room for the frame of the window and for a bar of the desktop on a screen of 1366 by 768.
 constexpr QSize kFirstSize(1340, 700);
-
-/// What of a drop can be imported: files, folders and addresses of streams.
-QStringList droppedMedia(const QMimeData* data)
-{
-    QStringList paths;
-    const QList<QUrl> urls = data->urls();
-    for (const QUrl& url : urls) {
-        paths.append(url.isLocalFile() ? url.toLocalFile() : url.toString());
-    }
-    return paths;
-}
 
 /// Names a button of the toolkit in the toolkit's own words.
 void nameButton(const QDockWidget& panel, const char* button, const char* name)
@@ -96,9 +83,10 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     , m_drafts(new DraftKeeper(m_editor, *m_menus->bringBack(), *m_notices, themes, this))
 {
     setObjectName(QStringLiteral("editorWindow"));
-    setAcceptDrops(true);
-    m_editor.setAcceptDrops(true);
-    m_editor.installEventFilter(this);
+    auto* drop = new MediaDrop(this);
+    drop->watch(*this);
+    drop->watch(m_editor);
+    connect(drop, &MediaDrop::dropped, this, &EditorWindow::importMedia);
 
     connectMenus();
     new EffectActions(*m_menus, *m_notices, this);
@@ -447,19 +435,6 @@ void EditorWindow::closeEvent(QCloseEvent* event)
     }
 }
 
-void EditorWindow::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (event->mimeData()->hasUrls()) {
-        event->acceptProposedAction();
-    }
-}
-
-void EditorWindow::dropEvent(QDropEvent* event)
-{
-    importMedia(droppedMedia(event->mimeData()));
-    event->acceptProposedAction();
-}
-
 void EditorWindow::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
@@ -488,19 +463,6 @@ void EditorWindow::enableUpdates()
     for (QDockWidget* panel : panels) {
         panel->setUpdatesEnabled(true);
     }
-}
-
-bool EditorWindow::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == &m_editor && event->type() == QEvent::DragEnter) {
-        dragEnterEvent(static_cast<QDragEnterEvent*>(event));
-        return true;
-    }
-    if (watched == &m_editor && event->type() == QEvent::Drop) {
-        dropEvent(static_cast<QDropEvent*>(event));
-        return true;
-    }
-    return QMainWindow::eventFilter(watched, event);
 }
 
 } // namespace trel::desktop

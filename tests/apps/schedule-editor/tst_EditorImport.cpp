@@ -30,6 +30,7 @@ private slots:
     void whatCannotBeTakenIsToldInAPrompt();
     void whatCannotBeTakenIsToldAfterAnotherPrompt();
     void theProgressIsGoneWhenThePromptComes();
+    void theProgressDoesNotComeBackOverThePrompt();
     void passwordsOfAddressesAreNotShown_data();
     void passwordsOfAddressesAreNotShown();
     void cancellingTakesNothingIn();
@@ -191,6 +192,40 @@ void tst_EditorImport::theProgressIsGoneWhenThePromptComes()
     });
     QTRY_VERIFY(isSeen);
     QVERIFY(isAlone);
+}
+
+/// The toolkit shows the progress of what takes long by a timer, and so it might while the prompt
+/// stands.
+void tst_EditorImport::theProgressDoesNotComeBackOverThePrompt()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    fixture.window.show();
+    bool hasRung = false;
+    bool isBack = false;
+    waitForImport(fixture.window, [&] {
+        fixture.window.importMedia({fixture.folder.filePath(QStringLiteral("nothing.mp4"))});
+        const QPointer<QProgressDialog> progress = fixture.window.findChild<QProgressDialog*>();
+        auto* const timer = progress->findChild<QTimer*>();
+        QVERIFY(timer != nullptr);
+        auto* look = new QTimer(&fixture.window);
+        connect(look, &QTimer::timeout, look, [&hasRung, &isBack, look, progress, timer] {
+            QWidget* modal = QApplication::activeModalWidget();
+            if (modal == nullptr || modal == progress || hasRung) {
+                return;
+            }
+            look->stop();
+            timer->setInterval(0);
+            timer->start();
+            QTRY_VERIFY(!timer->isActive());
+            hasRung = true;
+            isBack = progress->isVisible();
+            modal->close();
+        });
+        look->start(1);
+    });
+    QTRY_VERIFY(hasRung);
+    QVERIFY(!isBack);
 }
 
 void tst_EditorImport::passwordsOfAddressesAreNotShown_data()

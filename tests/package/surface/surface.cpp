@@ -86,14 +86,14 @@ int main()
         &faultOfVersionTexts, &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm,
         &holdsAsInvalid, &lostPrograms, &markLostEntries, &insertedPlan, &insertionScope,
         &isInvalidReadBack, &tessark::trans::isLanguageFile, &joinWeeks, &lastPlanWithId,
-        &listFromRow, &loadedVersion, &mediaReading, &namesAnyDay, &nextClockChanges, &nextPlanId,
-        &offeredPrograms, &parseWeeks, &planAt, &planClaims, &planFault, &plannedEnd, &planTemplate,
-        &programListText, &programText, &entryText, &differencesOfNote, &programVerdict,
-        &programsInUse, &tessark::trans::readLanguageFile, &readFilmPicture, &readPicture,
-        &readScheduleJson, &removeFirstPlanWithId, &runsLessThanOnce, &setMediaReading, &scanMedia,
-        &scheduleDifferences, &scheduleFromJson, &scheduleToJson, &shownAddress, &storeProblemName,
-        &timeFromText, &timeToText, &totalText, &tessark::trans::translate, &usesOf, &weeksOverlap,
-        &writeScheduleFile);
+        &listFromRow, &loadedVersion, &mediaReading, &mediaSuffixes, &namesAnyDay,
+        &nextClockChanges, &nextPlanId, &offeredPrograms, &parseWeeks, &planAt, &planClaims,
+        &planFault, &plannedEnd, &planTemplate, &programListText, &programText, &entryText,
+        &differencesOfNote, &programVerdict, &programsInUse, &tessark::trans::readLanguageFile,
+        &readFilmPicture, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
+        &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleDifferences, &scheduleFromJson,
+        &scheduleToJson, &shownAddress, &storeProblemName, &timeFromText, &timeToText, &totalText,
+        &tessark::trans::translate, &usesOf, &weeksOverlap, &writeScheduleFile);
     static_assert(TREL_VERSION >= TREL_VERSION_CHECK(0, 2, 0));
     std::cout << "Version: " << loadedVersion()
               << (std::string(loadedVersion()) == TREL_VERSION_STRING ? ", as compiled\n" : "\n");

@@ -3,13 +3,14 @@
 #include "PendingNotices.h"
 #include "ProblemWords.h"
 #include "catalogue/ImportJob.h"
+#include "catalogue/ImportProgress.h"
+#include "catalogue/MediaFilters.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
-#include <QProgressDialog>
 
 #include <algorithm>
 #include <utility>
@@ -41,7 +42,7 @@ CatalogueImport::CatalogueImport(PendingNotices& notices, QWidget& window)
 
 void CatalogueImport::chooseFiles()
 {
-    run(QFileDialog::getOpenFileNames(&m_window, tr("Import files")));
+    run(QFileDialog::getOpenFileNames(&m_window, tr("Import files"), QString(), mediaFilters()));
 }
 
 void CatalogueImport::chooseFolder()
@@ -65,8 +66,7 @@ void CatalogueImport::run(const QStringList& paths)
 
 void CatalogueImport::showProgress()
 {
-    m_progress = new QProgressDialog(&m_window);
-    m_progress->setObjectName(QStringLiteral("importProgress"));
+    m_progress = new ImportProgress(&m_window);
     auto* shown = new QLabel(m_progress);
     shown->setTextFormat(Qt::PlainText); // Names of files are no markup.
     m_progress->setLabel(shown);
@@ -103,7 +103,7 @@ void CatalogueImport::followJob()
 void CatalogueImport::finish()
 {
     // A prompt would take it for the window that it stands over.
-    m_progress->hide();
+    m_progress->end();
     m_progress->deleteLater();
     m_progress = nullptr;
     m_job->deleteLater();

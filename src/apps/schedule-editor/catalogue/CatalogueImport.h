@@ -3,8 +3,6 @@
 #include <QObject>
 #include <QStringList>
 
-class QProgressDialog;
-
 namespace trel::mediadispatch {
 struct ImportScan;
 } // namespace trel::mediadispatch
@@ -12,6 +10,7 @@ struct ImportScan;
 namespace trel::desktop {
 
 class ImportJob;
+class ImportProgress;
 class PendingNotices;
 
 /// The import of media into the catalogue: asks for files, shows progress with a way to cancel, and
@@ -48,7 +47,7 @@ private:
     QWidget& m_window;
     PendingNotices& m_notices;
     ImportJob* m_job = nullptr;
-    QProgressDialog* m_progress = nullptr;
+    ImportProgress* m_progress = nullptr;
 };
 
 } // namespace trel::desktop

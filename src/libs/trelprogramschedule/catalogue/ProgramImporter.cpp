@@ -19,16 +19,24 @@ namespace trel::mediadispatch {
 
 namespace {
 
+constexpr char kFilms[] = "3gp asf avi dv f4v flv h264 h265 hevc m1v m2ts m2v m4v mkv mov mp4 mpe "
+                          "mpeg mpg mts mxf ogv ts "
+                          "vob webm wmv";
+constexpr char kImages[] =
+    "apng avif bmp gif heic heif ico jp2 jpe jpeg jpg png svg tga tif tiff webp";
+constexpr char kSounds[] = "aac ac3 aif aiff amr flac m4a mka mp2 mp3 oga ogg opus wav wma";
+
+QStringList wordsOf(const char* text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '));
+}
+
 /// What a name alone tells about a file found in a folder: with one of these suffixes it is meant
 /// to be media, and is worth a word when it cannot be read.
-const QSet<QString>& mediaSuffixes()
+const QSet<QString>& allSuffixes()
 {
     static const QSet<QString> suffixes = [] {
-        const QString names = QStringLiteral(
-            "3gp aac ac3 aif aiff amr apng asf avi avif bmp dv f4v flac flv gif h264 h265 heic "
-            "heif hevc ico jp2 jpe jpeg jpg m1v m2ts m2v m4a m4v mka mkv mov mp2 mp3 mp4 mpe mpeg "
-            "mpg mts mxf oga ogg ogv opus png svg tga tif tiff ts vob wav webm webp wma wmv");
-        const QStringList list = names.split(QLatin1Char(' '));
+        const QStringList list = wordsOf(kFilms) + wordsOf(kImages) + wordsOf(kSounds);
         return QSet<QString>(list.begin(), list.end());
     }();
     return suffixes;
@@ -36,7 +44,7 @@ const QSet<QString>& mediaSuffixes()
 
 bool isNamedAsMedia(const QString& path)
 {
-    return mediaSuffixes().contains(QFileInfo(path).suffix().toLower());
+    return allSuffixes().contains(QFileInfo(path).suffix().toLower());
 }
 
 /// A local path, or the address of a live source, as somebody gave it.
@@ -272,6 +280,22 @@ void addTo(Walk& walk, const QStringList& paths)
 }
 
 } // namespace
+
+QStringList mediaSuffixes(ProgramKind kind)
+{
+    switch (kind) {
+    case ProgramKind::Video:
+        return wordsOf(kFilms);
+    case ProgramKind::Audio:
+        return wordsOf(kSounds);
+    case ProgramKind::Image:
+        return wordsOf(kImages);
+    case ProgramKind::Live:
+    case ProgramKind::Other:
+        break;
+    }
+    return {};
+}
 
 ImportScan scanMedia(const QStringList& paths, const ImportProgress& progress,
                      const ImportSearch& search, const ImportCancelled& isCancelled)

@@ -48,6 +48,10 @@ using ImportSearch = std::function<bool(int found)>;
 /// Asked many times a second while a file is read; true ends the scan in the middle of it.
 using ImportCancelled = std::function<bool()>;
 
+/// The suffixes, in small letters, by which films, images or sound are known; in no order that
+/// means anything. Empty for other kinds. Files of other names can be media as well.
+TRELPROGRAMSCHEDULE_EXPORT QStringList mediaSuffixes(ProgramKind kind);
+
 /// Looks at files, folders with everything below them, and addresses of live sources, and reads
 /// the lengths of media files. Files in folders that are no media are passed over; a file named
 /// itself that is none is a refusal. Touches no store and may run on any thread.
