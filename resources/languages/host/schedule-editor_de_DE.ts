@@ -2381,6 +2381,15 @@ Was soll mit Ihren Änderungen geschehen?</translation>
             <numerusform>… und %n weitere Pläne.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>every day</source>
+        <translation>täglich</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <comment>from day to day</comment>
+        <translation>%1–%2</translation>
+    </message>
 </context>
 <context>
     <name>MoveWords</name>

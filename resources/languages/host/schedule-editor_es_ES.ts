@@ -2381,6 +2381,15 @@ What do you want to do with your changes?</source>
             <numerusform>… y %n planes más.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>every day</source>
+        <translation>todos los días</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <comment>from day to day</comment>
+        <translation>%1-%2</translation>
+    </message>
 </context>
 <context>
     <name>MoveWords</name>

@@ -2381,6 +2381,15 @@ Que faire de vos modifications&#xa0;?</translation>
             <numerusform>… et %n autres créneaux.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>every day</source>
+        <translation>tous les jours</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <comment>from day to day</comment>
+        <translation>%1-%2</translation>
+    </message>
 </context>
 <context>
     <name>MoveWords</name>

@@ -2346,6 +2346,15 @@ What do you want to do with your changes?</source>
             <numerusform>…ほか %n 件の計画。</numerusform>
         </translation>
     </message>
+    <message>
+        <source>every day</source>
+        <translation>毎日</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <comment>from day to day</comment>
+        <translation>%1～%2</translation>
+    </message>
 </context>
 <context>
     <name>MoveWords</name>

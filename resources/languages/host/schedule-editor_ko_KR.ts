@@ -2346,6 +2346,15 @@ What do you want to do with your changes?</source>
             <numerusform>… 외 계획 %n개.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>every day</source>
+        <translation>매일</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <comment>from day to day</comment>
+        <translation>%1~%2</translation>
+    </message>
 </context>
 <context>
     <name>MoveWords</name>

@@ -2381,6 +2381,15 @@ O que deseja fazer com as alterações?</translation>
             <numerusform>… e mais %n planos.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>every day</source>
+        <translation>todos os dias</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <comment>from day to day</comment>
+        <translation>%1 a %2</translation>
+    </message>
 </context>
 <context>
     <name>MoveWords</name>

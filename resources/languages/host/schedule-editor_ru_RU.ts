@@ -2416,6 +2416,15 @@ What do you want to do with your changes?</source>
             <numerusform>… и ещё %n планов.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>every day</source>
+        <translation>каждый день</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <comment>from day to day</comment>
+        <translation>%1–%2</translation>
+    </message>
 </context>
 <context>
     <name>MoveWords</name>

@@ -2346,6 +2346,15 @@ What do you want to do with your changes?</source>
             <numerusform>……以及另外 %n 个计划。</numerusform>
         </translation>
     </message>
+    <message>
+        <source>every day</source>
+        <translation>每天</translation>
+    </message>
+    <message>
+        <source>%1–%2</source>
+        <comment>from day to day</comment>
+        <translation>%1至%2</translation>
+    </message>
 </context>
 <context>
     <name>MoveWords</name>

@@ -261,7 +261,7 @@ void CataloguePanel::askRemoval(const LookupAnswer& answer)
     const int count = static_cast<int>(answer.programs.size());
     QStringList lines{
         tr("Remove %n programs from the catalog? The files are not deleted.", nullptr, count)};
-    const QStringList broken = UseWords::removal(answer);
+    const QStringList broken = UseWords::removal(answer, locale());
     if (!broken.isEmpty()) {
         lines.append(QString());
         lines.append(broken);

@@ -1,9 +1,11 @@
 #include "catalogue/UseWords.h"
 
+#include "service/WeekDays.h"
 #include "trelprogramschedule/dispatch/MomentFormat.h"
-#include "undo/EditWords.h"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 
 using namespace trel::mediadispatch;
 
@@ -31,12 +33,39 @@ QString UseWords::span(const PlayPlan& plan)
     return tr("%1 – %2", "from and to").arg(shown(plan.startTime), shown(plan.endTime));
 }
 
-QString UseWords::plan(const ProgramUse& use, const PlayTask& task)
+QString UseWords::days(const PlayPlan& plan, const QLocale& locale)
+{
+    std::vector<int> numbers;
+    const bool isEvery = parseWeeks(plan.weeks, numbers);
+    const std::set<int> days(numbers.begin(), numbers.end());
+    if (isEvery || days.size() == Sunday) {
+        return tr("every day");
+    }
+    QStringList names;
+    for (auto first = days.begin(); first != days.end();) {
+        auto last = first;
+        for (auto next = std::next(last); next != days.end() && *next == *last + 1; ++next) {
+            last = next;
+        }
+        // Two days in a row read better one by one.
+        if (*last - *first < 2) {
+            last = first;
+        }
+        const QString from = locale.dayName(*first, QLocale::ShortFormat);
+        names.append(first == last ? from
+                                   : tr("%1–%2", "from day to day")
+                                         .arg(from, locale.dayName(*last, QLocale::ShortFormat)));
+        first = std::next(last);
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+QString UseWords::plan(const ProgramUse& use, const PlayTask& task, const QLocale& locale)
 {
     const PlayPlan& plan = task.plans[use.row];
     const QString where = tr("Task %1 (%2), plan %3, %4 %5", "with dates, days and times");
     return where.arg(QString::number(use.taskId), validity(task), QString::number(use.row + 1),
-                     undo::EditWords::days(plan.weeks), span(plan));
+                     days(plan, locale), span(plan));
 }
 
 QString UseWords::next(const LookupAnswer& answer)
@@ -57,7 +86,7 @@ QString UseWords::next(const LookupAnswer& answer)
              QString::number(state.planRow + 1));
 }
 
-QStringList UseWords::removal(const LookupAnswer& answer)
+QStringList UseWords::removal(const LookupAnswer& answer, const QLocale& locale)
 {
     if (answer.uses.empty()) {
         return {};
@@ -67,7 +96,7 @@ QStringList UseWords::removal(const LookupAnswer& answer)
     const std::size_t told = std::min(kMostPlans, answer.uses.size());
     for (std::size_t i = 0; i < told; ++i) {
         const ProgramUse& use = answer.uses[i];
-        const QString line = plan(use, answer.tasks.at(use.taskId));
+        const QString line = plan(use, answer.tasks.at(use.taskId), locale);
         lines.append(use.isAll ? tr("%1: nothing else is left of it").arg(line) : line);
     }
     if (told < answer.uses.size()) {

@@ -2,7 +2,6 @@
 
 #include "catalogue/UseWords.h"
 #include "trelwidgets/PlainToolTip.h"
-#include "undo/EditWords.h"
 
 using namespace trel::mediadispatch;
 
@@ -19,8 +18,9 @@ void UsesModel::show(const LookupAnswer& answer)
     endResetModel();
 }
 
-void UsesModel::retranslate()
+void UsesModel::retranslate(const QLocale& locale)
 {
+    m_locale = locale;
     emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
     if (!m_answer.uses.empty()) {
         emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
@@ -54,7 +54,7 @@ QVariant UsesModel::text(const ProgramUse& use, int column) const
     case PlanColumn:
         return static_cast<int>(use.row) + 1;
     case DaysColumn:
-        return undo::EditWords::days(plan.weeks);
+        return UseWords::days(plan, m_locale);
     case TimeColumn:
         return UseWords::span(plan);
     default:
@@ -72,7 +72,8 @@ QVariant UsesModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return text(use, index.column());
     case Qt::ToolTipRole:
-        return trel::widgets::plainToolTip(UseWords::plan(use, m_answer.tasks.at(use.taskId)));
+        return trel::widgets::plainToolTip(
+            UseWords::plan(use, m_answer.tasks.at(use.taskId), m_locale));
     default:
         return QVariant();
     }

@@ -3,6 +3,7 @@
 #include "catalogue/ProgramLookup.h"
 
 #include <QAbstractTableModel>
+#include <QLocale>
 
 namespace trel::desktop {
 
@@ -17,7 +18,8 @@ public:
     explicit UsesModel(QObject* parent = nullptr);
 
     void show(const LookupAnswer& answer);
-    void retranslate();
+    /// Days have their names in this language.
+    void retranslate(const QLocale& locale);
     /// The plan of a row that there is.
     const trel::mediadispatch::ProgramUse& use(int row) const;
 
@@ -31,6 +33,7 @@ private:
     QVariant text(const trel::mediadispatch::ProgramUse& use, int column) const;
 
     LookupAnswer m_answer;
+    QLocale m_locale;
 };
 
 } // namespace trel::desktop

@@ -117,7 +117,7 @@ void UsesWindow::askPlan(const QModelIndex& index)
 void UsesWindow::changeEvent(QEvent* event)
 {
     QDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange) {
         retranslate();
     }
 }
@@ -138,7 +138,7 @@ void UsesWindow::retranslate()
 {
     setWindowTitle(tr("Where used"));
     m_table->setAccessibleName(tr("Where used"));
-    m_model->retranslate();
+    m_model->retranslate(locale());
     tell();
 }
 

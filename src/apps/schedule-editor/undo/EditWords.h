@@ -20,11 +20,10 @@ public:
     /// "Task 1, plan 3: end 14:00:00 → 15:00:00". The edits may not be empty, and the field is
     /// theirs.
     static QString name(const EditedField& field, const TaskEdits& edits);
-    /// The days of a plan, by the names of the language: "every day", or "Mon Wed".
-    static QString days(const std::string& weeks);
 
 private:
     static QString planName(const EditedField& field, const TaskEdit& edit);
+    static QString days(const std::string& weeks);
 };
 
 } // namespace trel::desktop::undo

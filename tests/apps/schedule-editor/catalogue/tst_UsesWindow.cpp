@@ -2,6 +2,7 @@
 
 #include "HostFixture.h"
 #include "catalogue/ProgramLookup.h"
+#include "catalogue/UseWords.h"
 #include "clock/Clock.h"
 #include "support/PromptAnswer.h"
 #include "support/TestClock.h"
@@ -44,7 +45,7 @@ std::map<int, PlayTask> sampleTasks()
     january.startDate = "2024.01.01";
     january.endDate = "2024.01.31";
     january.plans = {plan(3, "08:00:00", "09:00:00", {2}), plan(4, "10:00:00", "11:00:00", {1, 2})};
-    january.plans[1].weeks = "1,3";
+    january.plans[1].weeks = "3,1,1";
     PlayTask february = january;
     february.id = 2;
     february.startDate = "2024.02.01";
@@ -67,6 +68,8 @@ private slots:
     void followsTheEdits();
     void whatIsInEffectDecidesAboutTheScreen();
     void aPlanIsAskedForByMouseAndKey();
+    void daysHaveTheirNames_data();
+    void daysHaveTheirNames();
     void aProgramInNoPlan();
     void aLongScheduleIsLookedThroughElsewhere();
     void aRemovalSaysWhatItBreaks();
@@ -151,7 +154,7 @@ void tst_UsesWindow::showsPlansAndTheNextTime()
     showUses(0);
     QVERIFY(window().isVisible());
     QCOMPARE(text("usesSummary"), QStringLiteral("“Brand film” is played by 2 plans."));
-    QCOMPARE(rows(), (QStringList{QStringLiteral("1|2024.01.01 – 2024.01.31|2|Mon Wed|10:00:00 – "
+    QCOMPARE(rows(), (QStringList{QStringLiteral("1|2024.01.01 – 2024.01.31|2|Mon, Wed|10:00:00 – "
                                                  "11:00:00"),
                                   QStringLiteral("2|2024.02.01 – 2024.02.29|1|every day|20:00:00 – "
                                                  "21:00:00")}));
@@ -205,6 +208,27 @@ void tst_UsesWindow::aPlanIsAskedForByMouseAndKey()
     QCOMPARE(asked[1], (QVariantList{1, 4}));
 }
 
+void tst_UsesWindow::daysHaveTheirNames_data()
+{
+    QTest::addColumn<QString>("weeks");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("empty") << QString() << QStringLiteral("every day");
+    QTest::newRow("every") << QStringLiteral("0") << QStringLiteral("every day");
+    QTest::newRow("all") << QStringLiteral("1,2,3,4,5,6,7") << QStringLiteral("every day");
+    QTest::newRow("one") << QStringLiteral("7") << QStringLiteral("Sun");
+    QTest::newRow("two") << QStringLiteral("6,7") << QStringLiteral("Sat, Sun");
+    QTest::newRow("a week") << QStringLiteral("1,2,3,4,5") << QStringLiteral("Mon–Fri");
+    QTest::newRow("parts") << QStringLiteral("1,2,3,5,7") << QStringLiteral("Mon–Wed, Fri, Sun");
+}
+
+void tst_UsesWindow::daysHaveTheirNames()
+{
+    QFETCH(QString, weeks);
+    PlayPlan plan;
+    plan.weeks = weeks.toStdString();
+    QTEST(UseWords::days(plan, QLocale(QStringLiteral("en_US"))), "words");
+}
+
 void tst_UsesWindow::aProgramInNoPlan()
 {
     showUses(4);
@@ -251,7 +275,7 @@ void tst_UsesWindow::aRemovalSaysWhatItBreaks()
                  QStringLiteral("Entries become invalid in 3 plans:"),
                  QStringLiteral("Task 1 (2024.01.01 – 2024.01.31), plan 1, every day 08:00:00 – "
                                 "09:00:00: nothing else is left of it"),
-                 QStringLiteral("Task 1 (2024.01.01 – 2024.01.31), plan 2, Mon Wed 10:00:00 – "
+                 QStringLiteral("Task 1 (2024.01.01 – 2024.01.31), plan 2, Mon, Wed 10:00:00 – "
                                 "11:00:00"),
                  QStringLiteral("Task 2 (2024.02.01 – 2024.02.29), plan 1, every day 20:00:00 – "
                                 "21:00:00"),
