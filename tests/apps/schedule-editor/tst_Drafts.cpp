@@ -293,8 +293,7 @@ void tst_Drafts::manyTasksAreLaidOutOnce()
     const ChangesAnswer take(1);
     fixture.window.offerDrafts();
     QVERIFY2(layouts.count() < kTasks / 4, qPrintable(QString::number(layouts.count())));
-    const auto cards =
-        fixture.editor->findChildren<QWidget*>(QStringLiteral("PlanTaskWidget"));
+    const auto cards = fixture.editor->findChildren<QWidget*>(QStringLiteral("PlanTaskWidget"));
     QCOMPARE(cards.size(), kTasks);
     for (const QWidget* card : cards) {
         QVERIFY(card->isVisible());
