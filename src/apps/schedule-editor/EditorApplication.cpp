@@ -10,6 +10,7 @@
 #include "common/ZoneError.h"
 #include "look/ThemeImages.h"
 #include "look/Themes.h"
+#include "memory/RememberedWindow.h"
 #include "scheduleControlUI.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
@@ -191,6 +192,7 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
         QObject::connect(&window, &EditorWindow::importEnded, &application, reportAndLeave);
     }
     if (!unattended) {
+        new RememberedWindow(settings, window);
         window.show();
     }
     const int result = QApplication::exec();

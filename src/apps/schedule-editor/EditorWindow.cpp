@@ -1,5 +1,6 @@
 #include "EditorWindow.h"
 
+#include "DatabaseArgument.h"
 #include "Demonstration.h"
 #include "EditorMenus.h"
 #include "HostPrompts.h"
@@ -66,6 +67,13 @@ void nameButton(const QDockWidget& panel, const char* button, const char* name)
     if (auto* found = panel.findChild<QAbstractButton*>(QLatin1String(button))) {
         found->setAccessibleName(QDockWidget::staticMetaObject.tr(name, nullptr));
     }
+}
+
+/// Whether a file can be read and is no database. One of no bytes becomes a schedule.
+bool isForeignFile(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.isFile() && file.isReadable() && file.size() > 0 && !isDatabaseFile(path);
 }
 
 } // namespace
@@ -318,14 +326,26 @@ void EditorWindow::showAsRun()
 
 void EditorWindow::chooseDatabase()
 {
-    const QString file = QFileDialog::getOpenFileName(
-        this, tr("Open database"), QString(), tr("Schedules (*.db *.sqlite);;All files (*)"));
-    if (file.isEmpty() || !maySettle()) {
+    const QString former = ScheduleHost::instance().path();
+    const QString file =
+        QFileDialog::getOpenFileName(this, tr("Open database"), QFileInfo(former).path(),
+                                     tr("Schedules (*.db *.sqlite);;All files (*)"));
+    if (file.isEmpty()) {
+        return;
+    }
+    if (isForeignFile(file)) {
+        // What is open is not even asked about.
+        tell(problems::sentence(StoreResult{StoreProblem::NotADatabase, file, {}}));
+        return;
+    }
+    if (!maySettle()) {
         return;
     }
     if (const QString error = openDatabase(file); !error.isEmpty()) {
+        if (!former.isEmpty()) {
+            openDatabase(former);
+        }
         tell(error);
-        return;
     }
     m_drafts->offer();
 }

@@ -1,3 +1,4 @@
+#include "FileDialogAnswer.h"
 #include "HostFixture.h"
 #include "card/PlanColumns.h"
 #include "support/PromptAnswer.h"
@@ -43,6 +44,8 @@ private slots:
     void theTitlesNameTheDatabase();
     void aFileThatIsNoDatabaseIsRefusedInWords();
     void anotherDatabaseTakesThePlaceInAnOpenEditor();
+    void aWrongFileLeavesThePresentScheduleOpen_data();
+    void aWrongFileLeavesThePresentScheduleOpen();
     void theLanguageChangesEverywhereAtOnce();
     void anotherLanguageClearsTheStatus();
     void theLanguageInUseIsMarked();
@@ -141,6 +144,54 @@ void tst_EditorWindow::anotherDatabaseTakesThePlaceInAnOpenEditor()
     fixture.window.openDatabase(fixture.folder.filePath(QStringLiteral("other.db")));
 
     QCOMPARE(cards(), 0);
+}
+
+void tst_EditorWindow::aWrongFileLeavesThePresentScheduleOpen_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<bool>("isAsked");
+    QTest::newRow("a text") << QByteArray("{}") << false;
+    // Only when it is opened.
+    QTest::newRow("a damaged database")
+        << QByteArray("SQLite format 3", 16).append(200, 'x') << true;
+}
+
+void tst_EditorWindow::aWrongFileLeavesThePresentScheduleOpen()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const bool, isAsked);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database, QStringLiteral(DEMONSTRATION));
+    fixture.window.show();
+    fixture.showEditor();
+    PlayTask task = fixture.manager.getTask(3);
+    task.id = 7;
+    fixture.manager.addTask(task);
+    fixture.editor->slotShowTask(7);
+    const auto cards = [&fixture] {
+        return fixture.editor->findChildren<QWidget*>(QStringLiteral("PlanTaskWidget")).size();
+    };
+    QCOMPARE(cards(), 4);
+    QFile file(fixture.folder.filePath(QStringLiteral("wrong.db")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    file.close();
+    answerFileDialog(file.fileName());
+    PromptAnswer answer;
+    if (isAsked) {
+        answer.expect(1); // Save.
+    }
+    answer.expect(1);
+
+    action(fixture.window, QStringLiteral("Open database…"))->trigger();
+
+    QCOMPARE(answer.count(), isAsked ? 2 : 1);
+    QVERIFY2(answer.texts().last().contains(QStringLiteral("wrong.db")),
+             qPrintable(answer.texts().last()));
+    QCOMPARE(fixture.host.path(), fixture.database);
+    QCOMPARE(fixture.host.hasUnsavedChanges(), !isAsked);
+    QCOMPARE(cards(), 4);
+    QCOMPARE(fixture.manager.getAllTask().size(), std::size_t(4));
 }
 
 void tst_EditorWindow::theLanguageChangesEverywhereAtOnce()

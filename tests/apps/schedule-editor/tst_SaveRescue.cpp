@@ -286,6 +286,16 @@ void tst_SaveRescue::goingOnClosesNothing()
         QVERIFY(!fixture.window.close());
         QVERIFY(fixture.window.isVisible());
     }
+    {
+        // Nor does another database take its place.
+        QFile other(fixture.folder.filePath(QStringLiteral("other.db")));
+        QVERIFY(other.open(QIODevice::WriteOnly));
+        const ReadOnlyFile refused(fixture.database);
+        answerFileDialog(other.fileName());
+        const PromptAnswer answers({1, answer});
+        fixture.window.findChild<EditorMenus*>()->openDatabase()->trigger();
+        QCOMPARE(fixture.host.path(), fixture.database);
+    }
     QVERIFY(fixture.editor->isVisible());
     QCOMPARE(fixture.manager.getAllTask().size(), std::size_t(4));
     // From then on everything closes again.

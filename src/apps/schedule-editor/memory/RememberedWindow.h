@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QObject>
+
+class QMainWindow;
+class QSettings;
+class QTableView;
+
+namespace trel::desktop {
+
+namespace week {
+class WeekView;
+}
+
+/// What the operator has made of the window, from one start of the program to the next: its size
+/// and place, where its panels are, the widths of the columns of its tables, and how high an hour
+/// of its week is. Each is remembered by the name of its widget. A value that is damaged, or of
+/// another program, is as good as none.
+class RememberedWindow : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Gives the window what is remembered; to be made before it is shown, when all parts stand in
+    /// it. What they are like is written down when the window closes and when the program ends.
+    /// Both outlive it.
+    RememberedWindow(QSettings& settings, QMainWindow& window);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void restore();
+    void restoreColumns(QTableView& table) const;
+    void restoreZoom(week::WeekView& view) const;
+    void save();
+
+    QSettings& m_settings;
+    QMainWindow& m_window;
+};
+
+} // namespace trel::desktop

@@ -1,0 +1,133 @@
+#include "../HostFixture.h"
+#include "memory/RememberedWindow.h"
+#include "support/PlatformNotes.h"
+#include "support/TestProgram.h"
+#include "week/WeekView.h"
+
+#include <QApplication>
+#include <QDockWidget>
+#include <QHeaderView>
+#include <QSettings>
+
+using namespace trel::desktop;
+
+namespace {
+
+/// The window of a start of the program, with the settings of the folder.
+struct Start : HostFixture
+{
+    explicit Start(const QString& file)
+        : settings(file, QSettings::IniFormat)
+    {
+        window.openDatabase(database, QStringLiteral(DEMONSTRATION));
+    }
+
+    void run()
+    {
+        new RememberedWindow(settings, window);
+        window.show();
+        QCoreApplication::processEvents();
+    }
+    QDockWidget& history() const
+    {
+        return *window.findChild<QDockWidget*>(QStringLiteral("historyDock"));
+    }
+    QHeaderView& columns() const
+    {
+        return *window.findChild<QTableView*>(QStringLiteral("programTable"))->horizontalHeader();
+    }
+    week::WeekView& week() const { return *window.findChild<week::WeekView*>(); }
+    /// All that is remembered, as a line.
+    QString line() const
+    {
+        return QStringLiteral("%1x%2, history %3, %4 px, %5 an hour")
+            .arg(window.width())
+            .arg(window.height())
+            .arg(history().isHidden() ? QStringLiteral("hidden") : QStringLiteral("shown"))
+            .arg(columns().sectionSize(0))
+            .arg(week().isFit() ? 0 : qRound(week().hourHeight()));
+    }
+
+    QSettings settings;
+    NoPlatformNotes quiet;
+};
+
+} // namespace
+
+/// The window is as the operator has left it.
+class tst_RememberedWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isAsItWasLeft();
+    void ignoresWhatIsNoneOfItsOwn_data();
+    void ignoresWhatIsNoneOfItsOwn();
+};
+
+void tst_RememberedWindow::isAsItWasLeft()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("settings.ini"));
+    QString left;
+    {
+        Start start(file);
+        start.run();
+        start.window.resize(1100, 720);
+        start.history().show();
+        start.columns().resizeSection(0, 133);
+        start.week().zoom(4);
+        QCoreApplication::processEvents();
+        left = start.line();
+        QVERIFY2(left.contains(QStringLiteral("history shown, 133 px")), qPrintable(left));
+        QVERIFY(start.window.close());
+    }
+    Start next(file);
+    QVERIFY(next.line() != left);
+    next.run();
+    QCOMPARE(next.line(), left);
+    next.week().zoomToFit();
+    QVERIFY(next.window.close());
+    Start last(file);
+    last.run();
+    QVERIFY(last.week().isFit());
+}
+
+void tst_RememberedWindow::ignoresWhatIsNoneOfItsOwn_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("text") << QVariant(QStringLiteral("a letter"));
+    QTest::newRow("bytes") << QVariant(QByteArray(300, '\x7f'));
+    QTest::newRow("a number") << QVariant(1e300);
+    QTest::newRow("not a number") << QVariant(QStringLiteral("nan"));
+    QTest::newRow("few widths") << QVariant(QStringList{QStringLiteral("80")});
+    QTest::newRow("wild widths") << QVariant(
+        QStringList{QStringLiteral("-1"), QStringLiteral("99999999"), QStringLiteral("0"),
+                    QStringLiteral("x"), QStringLiteral("20"), QString()});
+}
+
+void tst_RememberedWindow::ignoresWhatIsNoneOfItsOwn()
+{
+    QFETCH(const QVariant, value);
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("settings.ini"));
+    QString plain;
+    QStringList keys;
+    {
+        Start start(file);
+        start.run();
+        plain = start.line();
+        QVERIFY(start.window.close());
+        keys = start.settings.allKeys();
+        QVERIFY2(keys.size() >= 4, qPrintable(keys.join(QLatin1Char(' '))));
+    }
+    Start next(file);
+    for (const QString& key : keys) {
+        next.settings.setValue(key, value);
+    }
+    next.run();
+    QCOMPARE(next.line(), plain);
+}
+
+TREL_TEST(tst_RememberedWindow, QApplication)
+#include "tst_RememberedWindow.moc"
