@@ -27,6 +27,7 @@ private slots:
     void timelineOverTheNightsOfChange_data();
     void timelineOverTheNightsOfChange();
     void whyNamesTheRules();
+    void whyTellsOfAWholeDay();
     void whyAsJson();
     void whyTakesNamesAndParts_data();
     void whyTakesNamesAndParts();
@@ -190,7 +191,7 @@ void tst_CtlScreen::misreadMomentsAreMisuse_data()
     QTest::newRow("now") << split("now --at 2024-01-32T08:00")
                          << QStringLiteral("\"2024-01-32T08:00\" is no moment: at character 9 "
                                            "there should be a day from 01 to 31.");
-    QTest::newRow("a date alone") << split("why News --at 2024-01-31")
+    QTest::newRow("a date alone") << split("now --at 2024-01-31")
                                   << QStringLiteral("\"2024-01-31\" is no moment: at character 11 "
                                                     "there should be a blank or \"T\" and a time "
                                                     "of day.");
@@ -358,6 +359,44 @@ void tst_CtlScreen::whyNamesTheRules()
                 .contains(QStringLiteral(
                     "plan 7: Entry 2 is never reached: entry 1, rtsp://host/live, has no "
                     "length of its own and holds the screen until 13:00:00.")));
+}
+
+void tst_CtlScreen::whyTellsOfAWholeDay()
+{
+    const auto why = [](const char* program, const char* date) {
+        return QStringList{QStringLiteral("why"), QLatin1String(program), kAt, QLatin1String(date)};
+    };
+    const CtlResult news = ask(why("News", "2024-01-03"));
+    QCOMPARE(news.status, 0);
+    QCOMPARE(news.err, QString());
+    QCOMPARE(news.lines(),
+             (QStringList{
+                 QStringLiteral("Program 1, News, is on screen on 2024-01-03:"),
+                 QStringLiteral("  08:00:00 \u2013 08:58:30, 20 plays: task 1, row 1, plan 1"),
+                 QStringLiteral("It is not shown by:"),
+                 QStringLiteral("  task 1, row 3, plan 7, at 12:00:00: Entry 2 is never reached: "
+                                "entry 1, rtsp://host/live, has no length of its own and holds the "
+                                "screen until 13:00:00."),
+             }));
+    QCOMPARE(ask(why("Weather", "2024-01-03")).lines(),
+             (QStringList{
+                 QStringLiteral("Program 2, Weather, is on screen on 2024-01-03:"),
+                 QStringLiteral("  08:01:30 \u2013 09:00:00, 40 plays: task 1, row 1, plan 1"),
+                 QStringLiteral("  09:00:00 \u2013 10:00:00, 80 plays: task 1, row 2, plan 4"),
+             }));
+    QCOMPARE(ask(why("rtsp", "2024-01-06")).lines(),
+             (QStringList{
+                 QStringLiteral("Program 3, rtsp://host/live, is not on screen on 2024-01-06."),
+                 QStringLiteral("It is not shown by:"),
+                 QStringLiteral("  task 1, row 3, plan 7: The plan does not run on Sat, only on "
+                                "Mon,Tue,Wed,Thu,Fri."),
+             }));
+    const QJsonObject json = ask(why("News", "2024-01-03") << kJson).json();
+    QCOMPARE(json[QStringLiteral("date")].toString(), QStringLiteral("2024-01-03"));
+    QCOMPARE(json[QStringLiteral("onScreen")].toArray().size(), 1);
+    QCOMPARE(json[QStringLiteral("onScreen")][0][QStringLiteral("plays")].toInt(), 20);
+    QCOMPARE(json[QStringLiteral("plans")][0][QStringLiteral("rule")].toString(),
+             QStringLiteral("neverReached"));
 }
 
 void tst_CtlScreen::whyAsJson()

@@ -209,6 +209,13 @@ QString standingText(const VerdictSubject& subject, const ScreenReport& words)
                : QString();
 }
 
+/// The midnight at which a day ends counts as its own.
+QString endText(Instant moment, const ProgramDay& day, const MomentFormat& local)
+{
+    return local.shownAt(moment).date() == day.date ? local.text(moment, day.from)
+                                                    : QStringLiteral("24:00:00");
+}
+
 QJsonObject planJson(const PlanVerdict& plan, const VerdictSubject& subject,
                      const ScreenReport& words)
 {
@@ -246,6 +253,77 @@ QJsonObject programJson(const VerdictSubject& subject, const ScreenReport& words
 }
 
 } // namespace
+
+QString dayText(const ProgramDay& day, const ScreenReport& words)
+{
+    const MomentFormat& local = words.source().local;
+    const QString program =
+        QStringLiteral("Program %1, %2, ").arg(QString::number(day.progIndex), printable(day.name));
+    const QString date = day.date.toString(Qt::ISODate);
+    const ProgramVerdict none;
+    const VerdictSubject standing{day.progIndex, day.name, 0, none};
+    QString text = program + (day.stretches.empty() ? QStringLiteral("is not on screen on %1.\n")
+                                                    : QStringLiteral("is on screen on %1:\n"))
+                                 .arg(date);
+    for (const ProgramDay::Stretch& stretch : day.stretches) {
+        text += QStringLiteral("  %1 \u2013 %2, %3: %4%5\n")
+                    .arg(local.text(stretch.from, day.from), endText(stretch.to, day, local),
+                         counted(stretch.plays, QStringLiteral("play")),
+                         stretch.isInserted ? QStringLiteral("insertion for ") : QString(),
+                         ScreenReport::planText(stretch.taskId, stretch.planRow, stretch.planId));
+    }
+    text += standingText(standing, words);
+    if (!day.isInAnyPlan) {
+        return text + QStringLiteral("It is not in any plan.\n");
+    }
+    if (!day.reasons.empty()) {
+        text += QStringLiteral("It is not shown by:\n");
+    }
+    for (const ProgramDay::Reason& reason : day.reasons) {
+        const ProgramVerdict verdict{reason.screen, {}};
+        const VerdictSubject subject{day.progIndex, day.name, reason.moment, verdict};
+        text += QStringLiteral("  %1%2: %3\n")
+                    .arg(ScreenReport::planText(reason.verdict.taskId, reason.verdict.planRow,
+                                                reason.verdict.planId),
+                         reason.isForTheDay
+                             ? QString()
+                             : QStringLiteral(", at %1").arg(local.text(reason.moment, day.from)),
+                         PlanSentence(reason.verdict, subject, words).text());
+    }
+    return text;
+}
+
+QJsonObject dayJson(const ProgramDay& day, const ScreenReport& words)
+{
+    QJsonArray stretches;
+    for (const ProgramDay::Stretch& stretch : day.stretches) {
+        stretches.append(QJsonObject{
+            {QStringLiteral("since"), words.jsonMoment(stretch.from)},
+            {QStringLiteral("until"), words.jsonMoment(stretch.to)},
+            {QStringLiteral("plays"), stretch.plays},
+            {QStringLiteral("task"), stretch.taskId},
+            {QStringLiteral("row"), jsonCount(stretch.planRow)},
+            {QStringLiteral("plan"), stretch.planId},
+            {QStringLiteral("isInsertion"), stretch.isInserted},
+        });
+    }
+    QJsonArray plans;
+    for (const ProgramDay::Reason& reason : day.reasons) {
+        const ProgramVerdict verdict{reason.screen, {}};
+        const VerdictSubject subject{day.progIndex, day.name, reason.moment, verdict};
+        QJsonObject plan = planJson(reason.verdict, subject, words);
+        plan.insert(QStringLiteral("moment"), reason.isForTheDay ? QJsonValue(QJsonValue::Null)
+                                                                 : words.jsonMoment(reason.moment));
+        plans.append(plan);
+    }
+    const ProgramVerdict none;
+    return {
+        {QStringLiteral("date"), day.date.toString(Qt::ISODate)},
+        {QStringLiteral("program"), programJson({day.progIndex, day.name, 0, none}, words)},
+        {QStringLiteral("onScreen"), stretches},
+        {QStringLiteral("plans"), plans},
+    };
+}
 
 QString verdictText(const VerdictSubject& subject, const ScreenReport& words)
 {

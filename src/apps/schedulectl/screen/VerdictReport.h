@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ProgramDay.h"
 #include "ScreenReport.h"
 #include "trelprogramschedule/dispatch/ProgramVerdict.h"
 
@@ -21,5 +22,9 @@ struct VerdictSubject
 
 QString verdictText(const VerdictSubject& subject, const ScreenReport& words);
 QJsonObject verdictJson(const VerdictSubject& subject, const ScreenReport& words);
+
+/// The same of a whole day.
+QString dayText(const ProgramDay& day, const ScreenReport& words);
+QJsonObject dayJson(const ProgramDay& day, const ScreenReport& words);
 
 } // namespace trel::console
