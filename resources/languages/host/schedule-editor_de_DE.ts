@@ -102,6 +102,14 @@
         <source>&amp;Preview</source>
         <translation>&amp;Vorschau</translation>
     </message>
+    <message>
+        <source>&amp;New database…</source>
+        <translation>Neue &amp;Datenbank…</translation>
+    </message>
+    <message>
+        <source>O&amp;pen recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -199,6 +207,14 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
     <message>
         <source>The change is in the editor now, where it can be saved.</source>
         <translation>Die Änderung steht jetzt im Editor und kann dort gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Neue Datenbank</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already. It is not written over.</source>
+        <translation>Die Datei %1 gibt es schon. Sie wird nicht überschrieben.</translation>
     </message>
 </context>
 <context>

@@ -102,6 +102,14 @@
         <source>&amp;Preview</source>
         <translation>&amp;Vista previa</translation>
     </message>
+    <message>
+        <source>&amp;New database…</source>
+        <translation>&amp;Nueva base de datos…</translation>
+    </message>
+    <message>
+        <source>O&amp;pen recent</source>
+        <translation>Abrir recien&amp;tes</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -199,6 +207,14 @@ Cierre esta pregunta para seguir editando.</translation>
     <message>
         <source>The change is in the editor now, where it can be saved.</source>
         <translation>El cambio está ahora en el editor, donde se puede guardar.</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Nueva base de datos</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already. It is not written over.</source>
+        <translation>El archivo %1 ya existe. No se sobrescribe.</translation>
     </message>
 </context>
 <context>

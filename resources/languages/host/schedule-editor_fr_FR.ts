@@ -102,6 +102,14 @@
         <source>&amp;Preview</source>
         <translation>&amp;Aperçu</translation>
     </message>
+    <message>
+        <source>&amp;New database…</source>
+        <translation>Nouvelle &amp;base de données…</translation>
+    </message>
+    <message>
+        <source>O&amp;pen recent</source>
+        <translation>Bases ré&amp;centes</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -199,6 +207,14 @@ Fermez cette question pour continuer à modifier.</translation>
     <message>
         <source>The change is in the editor now, where it can be saved.</source>
         <translation>La modification est maintenant dans l’éditeur, où elle peut être enregistrée.</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Nouvelle base de données</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already. It is not written over.</source>
+        <translation>Le fichier %1 existe déjà. Il n’est pas remplacé.</translation>
     </message>
 </context>
 <context>

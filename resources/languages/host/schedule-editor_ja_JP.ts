@@ -102,6 +102,14 @@
         <source>&amp;Preview</source>
         <translation>プレビュー(&amp;P)</translation>
     </message>
+    <message>
+        <source>&amp;New database…</source>
+        <translation>新しいデータベース(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>O&amp;pen recent</source>
+        <translation>最近使ったデータベース(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -198,6 +206,14 @@ Close this question to keep editing.</source>
     <message>
         <source>The change is in the editor now, where it can be saved.</source>
         <translation>変更はエディターに入り、そこで保存できます。</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>新しいデータベース</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already. It is not written over.</source>
+        <translation>ファイル %1 はすでにあります。上書きはされません。</translation>
     </message>
 </context>
 <context>

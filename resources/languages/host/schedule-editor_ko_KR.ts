@@ -102,6 +102,14 @@
         <source>&amp;Preview</source>
         <translation>미리 보기(&amp;P)</translation>
     </message>
+    <message>
+        <source>&amp;New database…</source>
+        <translation>새 데이터베이스(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>O&amp;pen recent</source>
+        <translation>최근 데이터베이스(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -198,6 +206,14 @@ Close this question to keep editing.</source>
     <message>
         <source>The change is in the editor now, where it can be saved.</source>
         <translation>변경 내용은 이제 편집기에 있으며 거기서 저장할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>새 데이터베이스</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already. It is not written over.</source>
+        <translation>파일 %1이(가) 이미 있습니다. 덮어쓰지 않습니다.</translation>
     </message>
 </context>
 <context>

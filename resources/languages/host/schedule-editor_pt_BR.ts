@@ -102,6 +102,14 @@
         <source>&amp;Preview</source>
         <translation>&amp;Visualizar</translation>
     </message>
+    <message>
+        <source>&amp;New database…</source>
+        <translation>&amp;Novo banco de dados…</translation>
+    </message>
+    <message>
+        <source>O&amp;pen recent</source>
+        <translation>Abrir recen&amp;te</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -199,6 +207,14 @@ Feche esta pergunta para continuar editando.</translation>
     <message>
         <source>The change is in the editor now, where it can be saved.</source>
         <translation>A alteração está agora no editor, onde pode ser salva.</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Novo banco de dados</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already. It is not written over.</source>
+        <translation>O arquivo %1 já existe. Ele não é substituído.</translation>
     </message>
 </context>
 <context>

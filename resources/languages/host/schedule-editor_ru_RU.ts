@@ -102,6 +102,14 @@
         <source>&amp;Preview</source>
         <translation>П&amp;росмотр</translation>
     </message>
+    <message>
+        <source>&amp;New database…</source>
+        <translation>Созд&amp;ать базу данных…</translation>
+    </message>
+    <message>
+        <source>O&amp;pen recent</source>
+        <translation>Не&amp;давние базы данных</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -200,6 +208,14 @@ Close this question to keep editing.</source>
     <message>
         <source>The change is in the editor now, where it can be saved.</source>
         <translation>Изменение теперь в редакторе, где его можно сохранить.</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>Новая база данных</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already. It is not written over.</source>
+        <translation>Файл %1 уже есть. Он не перезаписывается.</translation>
     </message>
 </context>
 <context>

@@ -102,6 +102,14 @@
         <source>&amp;Preview</source>
         <translation>预览(&amp;P)</translation>
     </message>
+    <message>
+        <source>&amp;New database…</source>
+        <translation>新建数据库(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>O&amp;pen recent</source>
+        <translation>最近使用的数据库(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -198,6 +206,14 @@ Close this question to keep editing.</source>
     <message>
         <source>The change is in the editor now, where it can be saved.</source>
         <translation>更改现已在编辑器中，可在那里保存。</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>新建数据库</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already. It is not written over.</source>
+        <translation>文件 %1 已存在，不会被覆盖。</translation>
     </message>
 </context>
 <context>

@@ -102,6 +102,14 @@
         <source>&amp;Preview</source>
         <translation>預覽(&amp;P)</translation>
     </message>
+    <message>
+        <source>&amp;New database…</source>
+        <translation>新增資料庫(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>O&amp;pen recent</source>
+        <translation>最近使用的資料庫(&amp;P)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -198,6 +206,14 @@ Close this question to keep editing.</source>
     <message>
         <source>The change is in the editor now, where it can be saved.</source>
         <translation>變更現已在編輯器中，可在那裡儲存。</translation>
+    </message>
+    <message>
+        <source>New database</source>
+        <translation>新增資料庫</translation>
+    </message>
+    <message>
+        <source>The file %1 exists already. It is not written over.</source>
+        <translation>檔案 %1 已存在，不會被覆寫。</translation>
     </message>
 </context>
 <context>

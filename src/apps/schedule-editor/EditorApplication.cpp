@@ -10,6 +10,7 @@
 #include "common/ZoneError.h"
 #include "look/ThemeImages.h"
 #include "look/Themes.h"
+#include "memory/RecentDatabases.h"
 #include "memory/RememberedWindow.h"
 #include "scheduleControlUI.h"
 #include "service/scheduleManage.h"
@@ -158,6 +159,11 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     const SaveRescue rescue(ScheduleHost::instance(), window.drafts(), &window);
     const hosts::StopSignals stop;
     QObject::connect(&stop, &hosts::StopSignals::stopped, &application, &QCoreApplication::quit);
+    RecentDatabases recent(settings, window.recentDatabases());
+    QObject::connect(&recent, &RecentDatabases::chosen, &window, &EditorWindow::openChosen);
+    if (!unattended) {
+        QObject::connect(&window, &EditorWindow::databaseOpened, &recent, &RecentDatabases::add);
+    }
     const QString database =
         options.database.isEmpty() ? hosts::makeDefaultDatabaseFolder() : options.database;
     const QString error = window.openDatabase(database, options.demonstration);

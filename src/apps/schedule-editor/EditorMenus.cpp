@@ -71,7 +71,10 @@ EditorMenus::EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes)
     , m_themes(new QActionGroup(this))
 {
     m_schedule->addSeparator();
+    m_newDatabase = add(*m_schedule, QKeySequence::New);
     m_openDatabase = add(*m_schedule, QKeySequence::Open);
+    m_recentDatabases = m_schedule->addMenu(QString());
+    m_recentDatabases->setEnabled(false);
     m_importSchedule = add(*m_schedule, {});
     m_exportSchedule = add(*m_schedule, {});
     m_schedule->addSeparator();
@@ -140,6 +143,8 @@ void EditorMenus::retranslate()
     m_editSchedule->setText(tr("&Edit schedule"));
     m_bringBack->setText(tr("&Bring back what was canceled"));
     m_versions->setText(tr("&Versions…"));
+    m_newDatabase->setText(tr("&New database…"));
+    m_recentDatabases->setTitle(tr("O&pen recent"));
     m_openDatabase->setText(tr("&Open database…"));
     m_importSchedule->setText(tr("&Read schedule from a file…"));
     m_exportSchedule->setText(tr("&Write schedule to a file…"));

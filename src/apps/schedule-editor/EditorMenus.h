@@ -26,6 +26,9 @@ public:
     QAction* undo() const { return m_undo; }
     QAction* redo() const { return m_redo; }
     QAction* openDatabase() const { return m_openDatabase; }
+    QAction* newDatabase() const { return m_newDatabase; }
+    /// The way to those that were open before.
+    QMenu* recentDatabases() const { return m_recentDatabases; }
     QAction* importSchedule() const { return m_importSchedule; }
     QAction* exportSchedule() const { return m_exportSchedule; }
     QAction* quit() const { return m_quit; }
@@ -62,6 +65,8 @@ private:
     QAction* m_bringBack;
     QAction* m_versions;
     QAction* m_openDatabase;
+    QAction* m_newDatabase;
+    QMenu* m_recentDatabases;
     QAction* m_importSchedule;
     QAction* m_exportSchedule;
     QAction* m_quit;

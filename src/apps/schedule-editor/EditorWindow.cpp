@@ -46,6 +46,7 @@
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTimer>
@@ -122,6 +123,7 @@ void EditorWindow::connectMenus()
     };
     run(m_menus->editSchedule(), &EditorWindow::showEditor);
     run(m_menus->openDatabase(), &EditorWindow::chooseDatabase);
+    run(m_menus->newDatabase(), &EditorWindow::makeDatabase);
     run(m_menus->importSchedule(), &EditorWindow::importSchedule);
     run(m_menus->exportSchedule(), &EditorWindow::exportSchedule);
     run(m_menus->quit(), &EditorWindow::close);
@@ -283,6 +285,9 @@ QString EditorWindow::openDatabase(const QString& path, const QString& demonstra
     if (m_asRun != nullptr) {
         m_asRun->setStore(ScheduleHost::instance().path());
     }
+    if (ScheduleHost::instance().isOpen()) {
+        emit databaseOpened(ScheduleHost::instance().path());
+    }
     return error;
 }
 
@@ -326,13 +331,38 @@ void EditorWindow::showAsRun()
 
 void EditorWindow::chooseDatabase()
 {
-    const QString former = ScheduleHost::instance().path();
-    const QString file =
-        QFileDialog::getOpenFileName(this, tr("Open database"), QFileInfo(former).path(),
-                                     tr("Schedules (*.db *.sqlite);;All files (*)"));
+    const QString file = QFileDialog::getOpenFileName(
+        this, tr("Open database"), QFileInfo(ScheduleHost::instance().path()).path(),
+        tr("Schedules (*.db *.sqlite);;All files (*)"));
+    if (!file.isEmpty()) {
+        openChosen(file);
+    }
+}
+
+void EditorWindow::makeDatabase()
+{
+    const QString file = prompts::saveFileName(this, tr("New database"),
+                                               tr("Schedules (*.db *.sqlite);;All files (*)"),
+                                               QStringLiteral("db"), prompts::Existing::IsTold);
     if (file.isEmpty()) {
         return;
     }
+    if (QFileInfo::exists(file)) {
+        tell(tr("The file %1 exists already. It is not written over.")
+                 .arg(QFileInfo(file).fileName()));
+        return;
+    }
+    openChosen(file);
+}
+
+QMenu& EditorWindow::recentDatabases() const
+{
+    return *m_menus->recentDatabases();
+}
+
+void EditorWindow::openChosen(const QString& file)
+{
+    const QString former = ScheduleHost::instance().path();
     if (isForeignFile(file)) {
         // What is open is not even asked about.
         tell(problems::sentence(StoreResult{StoreProblem::NotADatabase, file, {}}));

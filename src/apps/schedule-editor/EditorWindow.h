@@ -4,6 +4,7 @@
 #include <QStringList>
 
 class QDockWidget;
+class QMenu;
 
 namespace trel::mediadispatch {
 class scheduleControlUI;
@@ -58,6 +59,12 @@ public:
     /// what went wrong.
     QString openDatabase(const QString& path, const QString& demonstration = QString());
 
+    /// Opens what the operator has chosen, once it is settled what becomes of unsaved changes. What
+    /// cannot be opened leaves the present one open.
+    void openChosen(const QString& path);
+    /// The menu of the databases that were open before, to be filled.
+    QMenu& recentDatabases() const;
+
     /// Imports media; shows progress, with a way to cancel, and reports what could not be taken,
     /// once no other prompt stands.
     /// While an import runs, another one is not begun.
@@ -78,6 +85,8 @@ public:
     void showPlan(int taskId, int planId);
 
 signals:
+    /// A database is open.
+    void databaseOpened(const QString& path);
     /// An import that was begun has ended, in whatever way.
     void importEnded();
 
@@ -98,6 +107,7 @@ private:
     void enableUpdates();
 
     void chooseDatabase();
+    void makeDatabase();
     void exportSchedule();
     void importSchedule();
     void showReplacedSchedule();

@@ -29,11 +29,12 @@ int confirm(const QString& text, const QString& first, const QString& second, co
 }
 
 QString saveFileName(QWidget* parent, const QString& title, const QString& filter,
-                     const QString& suffix)
+                     const QString& suffix, Existing existing)
 {
     QFileDialog dialog(parent, title, QString(), filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, existing == Existing::IsTold);
     if (dialog.exec() != QDialog::Accepted) {
         return QString();
     }

@@ -16,10 +16,14 @@ void notice(const QString& text);
 int confirm(const QString& text, const QString& first, const QString& second,
             const QString& third = QString());
 
+/// What becomes of a file that exists when its name is chosen: the operator is asked whether it may
+/// be written over, or the caller tells that it may not.
+enum class Existing { IsAskedAbout, IsTold };
+
 /// Asks for a file to write; empty when the operator thinks better of it. The suffix is added to a
 /// name without one.
 QString saveFileName(QWidget* parent, const QString& title, const QString& filter,
-                     const QString& suffix);
+                     const QString& suffix, Existing existing = Existing::IsAskedAbout);
 
 } // namespace prompts
 
