@@ -2679,7 +2679,7 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     </message>
 </context>
 <context>
-    <name>trel::desktop::versions::WeekPair</name>
+    <name>trel::desktop::versions::ComparedWeeks</name>
     <message>
         <source>Comparing…</source>
         <translation>Wird verglichen…</translation>
@@ -2694,18 +2694,6 @@ Was soll mit Ihren Änderungen geschehen?</translation>
             <numerusform>%n Abschnitt dieser Woche unterscheidet sich auf dem Bildschirm:</numerusform>
             <numerusform>%n Abschnitte dieser Woche unterscheiden sich auf dem Bildschirm:</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>This week</source>
-        <translation>Diese Woche</translation>
-    </message>
-    <message>
-        <source>Previous week</source>
-        <translation>Vorherige Woche</translation>
-    </message>
-    <message>
-        <source>Next week</source>
-        <translation>Folgende Woche</translation>
     </message>
     <message>
         <source>What differs on the screen</source>

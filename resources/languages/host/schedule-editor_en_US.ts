@@ -344,7 +344,7 @@
     </message>
 </context>
 <context>
-    <name>trel::desktop::versions::WeekPair</name>
+    <name>trel::desktop::versions::ComparedWeeks</name>
     <message numerus="yes">
         <source>%n stretches of this week differ on the screen:</source>
         <translation>

@@ -2679,7 +2679,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>trel::desktop::versions::WeekPair</name>
+    <name>trel::desktop::versions::ComparedWeeks</name>
     <message>
         <source>Comparing…</source>
         <translation>Comparando…</translation>
@@ -2694,18 +2694,6 @@ What do you want to do with your changes?</source>
             <numerusform>%n tramo de esta semana difiere en pantalla:</numerusform>
             <numerusform>%n tramos de esta semana difieren en pantalla:</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>This week</source>
-        <translation>Esta semana</translation>
-    </message>
-    <message>
-        <source>Previous week</source>
-        <translation>Semana anterior</translation>
-    </message>
-    <message>
-        <source>Next week</source>
-        <translation>Semana siguiente</translation>
     </message>
     <message>
         <source>What differs on the screen</source>

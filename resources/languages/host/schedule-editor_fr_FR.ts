@@ -2679,7 +2679,7 @@ Que faire de vos modifications&#xa0;?</translation>
     </message>
 </context>
 <context>
-    <name>trel::desktop::versions::WeekPair</name>
+    <name>trel::desktop::versions::ComparedWeeks</name>
     <message>
         <source>Comparing…</source>
         <translation>Comparaison…</translation>
@@ -2694,18 +2694,6 @@ Que faire de vos modifications&#xa0;?</translation>
             <numerusform>%n intervalle de cette semaine diffère à l’écran :</numerusform>
             <numerusform>%n intervalles de cette semaine diffèrent à l’écran :</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>This week</source>
-        <translation>Cette semaine</translation>
-    </message>
-    <message>
-        <source>Previous week</source>
-        <translation>Semaine précédente</translation>
-    </message>
-    <message>
-        <source>Next week</source>
-        <translation>Semaine suivante</translation>
     </message>
     <message>
         <source>What differs on the screen</source>

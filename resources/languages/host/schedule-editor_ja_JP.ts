@@ -2637,7 +2637,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>trel::desktop::versions::WeekPair</name>
+    <name>trel::desktop::versions::ComparedWeeks</name>
     <message>
         <source>Comparing…</source>
         <translation>比較中…</translation>
@@ -2651,18 +2651,6 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>この週の画面で %n 区間が異なります：</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>This week</source>
-        <translation>今週</translation>
-    </message>
-    <message>
-        <source>Previous week</source>
-        <translation>前の週</translation>
-    </message>
-    <message>
-        <source>Next week</source>
-        <translation>次の週</translation>
     </message>
     <message>
         <source>What differs on the screen</source>

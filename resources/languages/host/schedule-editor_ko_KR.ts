@@ -2637,7 +2637,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>trel::desktop::versions::WeekPair</name>
+    <name>trel::desktop::versions::ComparedWeeks</name>
     <message>
         <source>Comparing…</source>
         <translation>비교 중…</translation>
@@ -2651,18 +2651,6 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>이 주의 화면에서 %n개 구간이 다릅니다.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>This week</source>
-        <translation>이번 주</translation>
-    </message>
-    <message>
-        <source>Previous week</source>
-        <translation>이전 주</translation>
-    </message>
-    <message>
-        <source>Next week</source>
-        <translation>다음 주</translation>
     </message>
     <message>
         <source>What differs on the screen</source>

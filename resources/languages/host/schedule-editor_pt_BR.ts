@@ -2679,7 +2679,7 @@ O que deseja fazer com as alterações?</translation>
     </message>
 </context>
 <context>
-    <name>trel::desktop::versions::WeekPair</name>
+    <name>trel::desktop::versions::ComparedWeeks</name>
     <message>
         <source>Comparing…</source>
         <translation>Comparando…</translation>
@@ -2694,18 +2694,6 @@ O que deseja fazer com as alterações?</translation>
             <numerusform>%n trecho desta semana difere na tela:</numerusform>
             <numerusform>%n trechos desta semana diferem na tela:</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>This week</source>
-        <translation>Esta semana</translation>
-    </message>
-    <message>
-        <source>Previous week</source>
-        <translation>Semana anterior</translation>
-    </message>
-    <message>
-        <source>Next week</source>
-        <translation>Próxima semana</translation>
     </message>
     <message>
         <source>What differs on the screen</source>

@@ -2721,7 +2721,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>trel::desktop::versions::WeekPair</name>
+    <name>trel::desktop::versions::ComparedWeeks</name>
     <message>
         <source>Comparing…</source>
         <translation>Сравнение…</translation>
@@ -2737,18 +2737,6 @@ What do you want to do with your changes?</source>
             <numerusform>На экране различаются %n отрезка этой недели:</numerusform>
             <numerusform>На экране различаются %n отрезков этой недели:</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>This week</source>
-        <translation>Эта неделя</translation>
-    </message>
-    <message>
-        <source>Previous week</source>
-        <translation>Предыдущая неделя</translation>
-    </message>
-    <message>
-        <source>Next week</source>
-        <translation>Следующая неделя</translation>
     </message>
     <message>
         <source>What differs on the screen</source>

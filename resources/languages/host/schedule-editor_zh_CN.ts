@@ -2637,7 +2637,7 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
-    <name>trel::desktop::versions::WeekPair</name>
+    <name>trel::desktop::versions::ComparedWeeks</name>
     <message>
         <source>Comparing…</source>
         <translation>正在比较…</translation>
@@ -2651,18 +2651,6 @@ What do you want to do with your changes?</source>
         <translation>
             <numerusform>本周屏幕上有 %n 段不同：</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>This week</source>
-        <translation>本周</translation>
-    </message>
-    <message>
-        <source>Previous week</source>
-        <translation>上一周</translation>
-    </message>
-    <message>
-        <source>Next week</source>
-        <translation>下一周</translation>
     </message>
     <message>
         <source>What differs on the screen</source>

@@ -83,7 +83,7 @@ void ChangesDialog::addAnswers()
 void ChangesDialog::showWeeks(bool areShown)
 {
     if (m_weeks == nullptr && areShown) {
-        m_weeks = new WeekPair(m_question.former, m_question.later, m_colours, locale(), this);
+        m_weeks = new ChangedWeeks(m_question.former, m_question.later, m_colours, locale(), this);
         m_layout->insertWidget(m_layout->count() - 1, m_weeks, 3);
         const QSize room = screen()->availableGeometry().size();
         resize(size().expandedTo({1000, 640}).boundedTo(room));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "changes/WeekPair.h"
+#include "changes/ChangedWeeks.h"
 
 #include <QDialog>
 #include <QStringList>
@@ -16,11 +16,11 @@ constexpr int kMostLines = 500;
 /// What is asked about changes of the schedule.
 struct ChangesQuestion
 {
-    QString text;           ///< Plain text, of some lines.
-    QString listTitle;      ///< What the list says.
-    QStringList lines;      ///< What differs, a line each.
-    WeekPair::State former; ///< The two states that can be looked at.
-    WeekPair::State later;
+    QString text;               ///< Plain text, of some lines.
+    QString listTitle;          ///< What the list says.
+    QStringList lines;          ///< What differs, a line each.
+    ChangedWeeks::State former; ///< The two states that can be looked at.
+    ChangedWeeks::State later;
     QStringList answers; ///< On the buttons. Enter chooses the first one.
 };
 
@@ -48,7 +48,7 @@ private:
     const look::ThemeColours m_colours;
     QVBoxLayout* m_layout;
     QPushButton* m_look;
-    WeekPair* m_weeks = nullptr; ///< Once they have been asked for.
+    ChangedWeeks* m_weeks = nullptr; ///< Once they have been asked for.
 };
 
 } // namespace trel::desktop::changes

@@ -2,16 +2,12 @@
 
 #include "follow/NewestWork.h"
 #include "follow/ScheduleEdits.h"
-#include "look/ThemeColours.h"
 #include "service/ScheduleRecords.h"
 
-#include <QDate>
-#include <QWidget>
+#include <QObject>
 
 #include <map>
 #include <memory>
-
-class QLabel;
 
 namespace trel::desktop::week {
 class WeekView;
@@ -20,29 +16,24 @@ class WeekWork;
 
 namespace trel::desktop::changes {
 
-/// The picture of a week of a schedule that does not change, under its name. A picture that takes
+/// Keeps the picture of a week filled with a schedule that does not change. A picture that takes
 /// long is made in another thread.
-class FixedWeek : public QWidget
+class FixedWeek : public QObject
 {
     Q_OBJECT
 
 public:
-    FixedWeek(const QString& name, const look::ThemeColours& colours, QWidget* parent);
+    /// The view is the parent. The tasks are shown with the programs of today.
+    FixedWeek(week::WeekView& view, const std::map<int, mediadispatch::PlayTask>& tasks);
     ~FixedWeek() override;
-
-    week::WeekView* view() const { return m_view; }
-    /// Shows this schedule from now on, with the programs of today.
-    void setTasks(const std::map<int, mediadispatch::PlayTask>& tasks);
 
 private:
     void order(const follow::ScheduleEdits& edits);
 
-    QLabel* m_name;
-    week::WeekView* m_view;
+    week::WeekView& m_view;
     std::shared_ptr<week::WeekWork> m_pictures;
     follow::NewestWork m_work;
-    bool m_hasTasks = false;
-    bool m_isShort = true; ///< A picture is made within a frame.
+    bool m_isShort; ///< A picture is made within a frame.
 };
 
 } // namespace trel::desktop::changes

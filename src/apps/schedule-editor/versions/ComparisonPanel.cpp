@@ -1,10 +1,10 @@
 #include "versions/ComparisonPanel.h"
 
 #include "ProblemWords.h"
+#include "versions/ComparedWeeks.h"
 #include "versions/DifferenceModel.h"
 #include "versions/VersionTables.h"
 #include "versions/VersionWords.h"
-#include "versions/WeekPair.h"
 
 #include <QLabel>
 #include <QTabWidget>
@@ -20,7 +20,7 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     , m_tabs(new QTabWidget(this))
     , m_model(new DifferenceModel(this))
     , m_table(new QTableView(this))
-    , m_weeks(new WeekPair(this))
+    , m_weeks(new ComparedWeeks(this))
 {
     m_headline->setObjectName(QStringLiteral("versionHeadline"));
     m_headline->setTextFormat(Qt::PlainText);

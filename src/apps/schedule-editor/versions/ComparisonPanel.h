@@ -14,7 +14,7 @@ class QTableView;
 namespace trel::desktop::versions {
 
 class DifferenceModel;
-class WeekPair;
+class ComparedWeeks;
 
 /// In what two states differ: in words, and on the screen.
 class ComparisonPanel : public QWidget
@@ -48,7 +48,7 @@ private:
     QTabWidget* m_tabs;
     DifferenceModel* m_model;
     QTableView* m_table;
-    WeekPair* m_weeks;
+    ComparedWeeks* m_weeks;
     Without m_without = Without::Nothing;
     std::shared_ptr<const StateComparison> m_comparison;
 };

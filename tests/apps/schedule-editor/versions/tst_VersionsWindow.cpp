@@ -282,14 +282,14 @@ void tst_VersionsWindow::bothWeeksGoInStep()
     QCoreApplication::processEvents();
     QCOMPARE(former.firstDay(), later.firstDay());
     const QDate first = former.firstDay();
-    desk.click("versionWeekNext");
+    desk.click("pairNext");
     QCOMPARE(former.firstDay(), first.addDays(7));
     QCOMPARE(later.firstDay(), first.addDays(7));
     later.stepWeeks(-3);
     QCOMPARE(former.firstDay(), first.addDays(-14));
     desk.choose(2);
     QCOMPARE(later.firstDay(), first.addDays(-14));
-    desk.click("versionWeekNow");
+    desk.click("pairToday");
     QCOMPARE(later.firstDay(), first);
 
     later.zoom(3);

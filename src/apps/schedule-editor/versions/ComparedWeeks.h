@@ -8,13 +8,11 @@
 
 #include <memory>
 
-class QBoxLayout;
 class QLabel;
-class QPushButton;
 class QTableView;
 
 namespace trel::desktop::week {
-class WeekView;
+class WeekPair;
 }
 
 namespace trel::desktop::versions {
@@ -22,14 +20,14 @@ namespace trel::desktop::versions {
 class StretchModel;
 
 /// The same week of two states side by side, and below in which stretches of time it differs on the
-/// screen. Both pictures show the same week, hours of the same height and the same place.
-class WeekPair : public QWidget
+/// screen.
+class ComparedWeeks : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit WeekPair(QWidget* parent = nullptr);
-    ~WeekPair() override;
+    explicit ComparedWeeks(QWidget* parent = nullptr);
+    ~ComparedWeeks() override;
 
     /// Null for none.
     void setComparison(const std::shared_ptr<const StateComparison>& comparison);
@@ -40,21 +38,12 @@ public:
     void setLanguage(const QLocale& locale);
 
 private:
-    QPushButton* addButton(const char* name, const QString& sign);
-    QBoxLayout* side(QLabel* title, week::WeekView* view);
     void build();
     void findStretches();
     void tellStretches();
-    void updateTitles();
+    void updateNames();
 
-    week::WeekView* m_former;
-    week::WeekView* m_later;
-    QLabel* m_formerTitle;
-    QLabel* m_laterTitle;
-    QPushButton* m_back;
-    QPushButton* m_now;
-    QPushButton* m_next;
-    QLabel* m_week;
+    week::WeekPair* m_weeks;
     StretchModel* m_model;
     QTableView* m_table;
     QLabel* m_summary;

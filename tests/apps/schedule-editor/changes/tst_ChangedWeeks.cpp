@@ -1,4 +1,4 @@
-#include "changes/WeekPair.h"
+#include "changes/ChangedWeeks.h"
 #include "support/TestProgram.h"
 
 #include <QApplication>
@@ -43,7 +43,7 @@ const PlayTask kReversed = task(7, "2026.03.31", "2026.03.01");
 Q_DECLARE_METATYPE(std::vector<trel::mediadispatch::PlayTask>)
 
 /// Two states of a schedule beside each other begin where something differs.
-class tst_WeekPair : public QObject
+class tst_ChangedWeeks : public QObject
 {
     Q_OBJECT
 
@@ -52,7 +52,7 @@ private slots:
     void beginsWhereSomethingDiffers();
 };
 
-void tst_WeekPair::beginsWhereSomethingDiffers_data()
+void tst_ChangedWeeks::beginsWhereSomethingDiffers_data()
 {
     using Tasks = std::vector<PlayTask>;
     QTest::addColumn<Tasks>("former");
@@ -71,12 +71,12 @@ void tst_WeekPair::beginsWhereSomethingDiffers_data()
     QTest::newRow("what is never valid") << Tasks{} << Tasks{kNoDates, kReversed} << today;
 }
 
-void tst_WeekPair::beginsWhereSomethingDiffers()
+void tst_ChangedWeeks::beginsWhereSomethingDiffers()
 {
     QFETCH(const std::vector<PlayTask>, former);
     QFETCH(const std::vector<PlayTask>, later);
     QTEST(changes::nearestChangedDay(tasks(former), tasks(later), QDate(2026, 3, 4)), "day");
 }
 
-TREL_TEST(tst_WeekPair, QApplication)
-#include "tst_WeekPair.moc"
+TREL_TEST(tst_ChangedWeeks, QApplication)
+#include "tst_ChangedWeeks.moc"

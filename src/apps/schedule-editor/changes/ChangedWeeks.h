@@ -1,21 +1,14 @@
 #pragma once
 
-#include "look/ThemeColours.h"
 #include "service/ScheduleRecords.h"
-
-#include <QWidget>
+#include "week/WeekPair.h"
 
 #include <map>
 
-class QLabel;
-class QPushButton;
-
 namespace trel::desktop::changes {
 
-class FixedWeek;
-
 /// Two states of a schedule, side by side: the same week of both.
-class WeekPair : public QWidget
+class ChangedWeeks : public week::WeekPair
 {
     Q_OBJECT
 
@@ -29,21 +22,8 @@ public:
 
     /// Begins with a week in which a task that differs is valid: this one, or the nearest that
     /// comes, or else the last that was. The language is that of the locale.
-    WeekPair(const State& former, const State& later, const look::ThemeColours& colours,
-             const QLocale& locale, QWidget* parent = nullptr);
-
-private:
-    QPushButton* addButton(const char* name, const QString& text, const QString& words);
-    void connectControls();
-    void showWeekOf(const QDate& day);
-    void updateTitle();
-
-    QPushButton* m_before;
-    QPushButton* m_today;
-    QPushButton* m_next;
-    QLabel* m_title;
-    FixedWeek* m_former;
-    FixedWeek* m_later;
+    ChangedWeeks(const State& former, const State& later, const look::ThemeColours& colours,
+                 const QLocale& locale, QWidget* parent = nullptr);
 };
 
 /// The day nearest to one, itself first and then those that come, on which a task is valid that is
