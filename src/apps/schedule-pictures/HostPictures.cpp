@@ -25,6 +25,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -149,6 +150,10 @@ void HostPictures::drawWeeks()
     auto* view = page->findChild<week::WeekView*>();
     // The first whole week of the demonstration.
     view->stepWeeks(1);
+    settle();
+    // With a block that is explained.
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+    QCoreApplication::sendEvent(view, &down);
     settle();
     m_files.save(&m_window, QStringLiteral("window-week"));
     m_files.save(page, QStringLiteral("week"));

@@ -1,6 +1,7 @@
 #include "week/CalendarPopup.h"
 
 #include <QCalendarWidget>
+#include <QLocale>
 #include <QScreen>
 #include <QVBoxLayout>
 
