@@ -5,6 +5,7 @@
 #include "trelprogramschedule/problems/TaskProblems.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <set>
 #include <unordered_set>
@@ -23,8 +24,8 @@ constexpr int kYearsOfClocks = 2;
 bool countsAlike(const ProgramIten& a, const ProgramIten& b)
 {
     // Two lengths that are no number are none.
-    const bool isLengthSame = a.durationMs == b.durationMs ||
-                              (a.durationMs != a.durationMs && b.durationMs != b.durationMs);
+    const bool isLengthSame =
+        a.durationMs == b.durationMs || (std::isnan(a.durationMs) && std::isnan(b.durationMs));
     return isLengthSame && a.kind == b.kind && a.isNull == b.isNull && a.progName == b.progName;
 }
 
