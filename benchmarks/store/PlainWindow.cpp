@@ -102,6 +102,9 @@ void PlainWindow::addMenus()
         for (int i = 0; i < actions; ++i) {
             menu->addAction(QStringLiteral("Action %1").arg(i));
         }
+        if (menuBar()->actions().size() == 1) {
+            menu->addMenu(QStringLiteral("Recent"));
+        }
     }
 }
 
