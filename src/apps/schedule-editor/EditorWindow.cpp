@@ -413,11 +413,11 @@ void EditorWindow::importSchedule()
         tell(problems::unreadable(name, schedule));
         return;
     }
-    const int answer =
-        prompts::confirm(tr("Replace the whole schedule with the %n tasks in this file?", nullptr,
-                            static_cast<int>(schedule.tasks.size())),
-                         tr("Replace"), tr("Cancel"));
-    if (answer != 1) {
+    const bool isMeant =
+        prompts::confirmLoss(tr("Replace the whole schedule with the %n tasks in this file?",
+                                nullptr, static_cast<int>(schedule.tasks.size())),
+                             tr("Replace"), tr("Cancel"));
+    if (!isMeant) {
         return;
     }
     if (const StoreResult result = ScheduleHost::instance().replaceSchedule(schedule.tasks);

@@ -28,6 +28,17 @@ int confirm(const QString& text, const QString& first, const QString& second, co
     return prompt->run().button;
 }
 
+bool confirmLoss(const QString& text, const QString& first, const QString& second)
+{
+    constexpr int kFirst = 1;
+    constexpr int kSecond = 2;
+    auto* prompt = new TipDialog(TipDialog::Confirmation);
+    prompt->setTipText(text);
+    prompt->setBtnText(first, second, QString());
+    prompt->setEnterButton(kSecond);
+    return prompt->run().button == kFirst;
+}
+
 QString saveFileName(QWidget* parent, const QString& title, const QString& filter,
                      const QString& suffix, Existing existing)
 {

@@ -16,6 +16,10 @@ void notice(const QString& text);
 int confirm(const QString& text, const QString& first, const QString& second,
             const QString& third = QString());
 
+/// Asks before something is taken away; true when the first button was pressed. Enter presses the
+/// second one.
+bool confirmLoss(const QString& text, const QString& first, const QString& second);
+
 /// What becomes of a file that exists when its name is chosen: the operator is asked whether it may
 /// be written over, or the caller tells that it may not.
 enum class Existing { IsAskedAbout, IsTold };

@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace trel::widgets {
 
@@ -134,12 +135,17 @@ public:
 
     void chooseDefault()
     {
-        for (QPushButton* button : buttons) {
-            if (!button->isHidden()) {
-                button->setDefault(true);
-                button->setFocus();
-                return;
-            }
+        std::array<QPushButton*, kButtonCount> order = buttons;
+        const auto wanted = static_cast<std::size_t>(enterButton - 1);
+        if (wanted < order.size() && !order[wanted]->isHidden()) {
+            std::swap(order[0], order[wanted]);
+        }
+        const auto found = std::find_if(order.begin(), order.end(), [](const QPushButton* button) {
+            return !button->isHidden();
+        });
+        if (found != order.end()) {
+            (*found)->setDefault(true);
+            (*found)->setFocus();
         }
     }
 
@@ -171,6 +177,7 @@ public:
     QLabel* icon;
     QLabel* text;
     std::array<QPushButton*, kButtonCount> buttons{};
+    int enterButton = 1;
     /// Shared with run(), which needs it when the dialog has died in the meantime.
     std::shared_ptr<int> pressed = std::make_shared<int>(0);
 
@@ -235,6 +242,11 @@ void TipDialog::setBtnText(const QString& first, const QString& second, const QS
         d->buttons[i]->setText(texts[i]);
         d->buttons[i]->setVisible(!texts[i].isEmpty());
     }
+}
+
+void TipDialog::setEnterButton(int number)
+{
+    d->enterButton = number;
 }
 
 PromptBoxTriggerInfo TipDialog::run()

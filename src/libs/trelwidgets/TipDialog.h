@@ -17,7 +17,8 @@ struct PromptBoxTriggerInfo
 /// A prompt with a text and up to three buttons, modal to the application.
 ///
 /// Made on the heap, run once, and gone afterwards: run() frees the dialog before it returns.
-/// Return and Enter press the first button, or the one that the operator has reached with Tab.
+/// Return and Enter press the first button, or the one of setEnterButton(), or that which the
+/// operator has reached with Tab.
 /// Escape and the close control answer with none. A key that was already held down when the prompt
 /// appeared answers nothing.
 ///
@@ -47,6 +48,9 @@ public:
     void setTipText(const QString& text);
     /// The texts of the buttons, in order; a button with an empty text is not shown.
     void setBtnText(const QString& first, const QString& second, const QString& third);
+    /// Which button, from 1, has the focus at first, so that Return and Enter press it. For prompts
+    /// whose first button takes something away. One that is not shown leaves it with the first.
+    void setEnterButton(int number);
     /// Shows the prompt, blocks until it is answered and deletes it. The prompt may also die while
     /// it runs, with its parent, and then counts as not answered.
     PromptBoxTriggerInfo run();

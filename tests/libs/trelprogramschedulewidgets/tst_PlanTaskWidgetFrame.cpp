@@ -218,7 +218,7 @@ void tst_PlanTaskWidgetFrame::deleteAsks_data()
     QTest::addColumn<int>("answer");
     QTest::addColumn<bool>("isDeleted");
     QTest::newRow("confirm") << 1 << true;
-    QTest::newRow("Enter") << int(PromptAnswer::Enter) << true;
+    QTest::newRow("Enter") << int(PromptAnswer::Enter) << false;
     QTest::newRow("cancel") << 2 << false;
     QTest::newRow("Escape") << int(PromptAnswer::Escape) << false;
     QTest::newRow("close") << int(PromptAnswer::Close) << false;

@@ -64,6 +64,8 @@ private slots:
     void endsWithTheApplication();
     void enterPressesWhatTabHasReached();
     void enterPressesTheFirstShownButton();
+    void enterPressesTheButtonThatWasChosen_data();
+    void enterPressesTheButtonThatWasChosen();
     void heldKeyAnswersNothing();
     void withoutButtonsEscapeEndsIt();
     void runsInsideAnotherPrompt();
@@ -197,6 +199,26 @@ void TestTipDialog::enterPressesTheFirstShownButton()
     TipDialog* prompt = makePrompt();
     prompt->setBtnText(QString(), QStringLiteral("Second"), QStringLiteral("Third"));
     QCOMPARE(prompt->run().button, 2);
+}
+
+void TestTipDialog::enterPressesTheButtonThatWasChosen_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("second") << 2 << 2;
+    QTest::newRow("third, which is not shown") << 3 << 1;
+    QTest::newRow("none") << 0 << 1;
+    QTest::newRow("one too many") << 4 << 1;
+}
+
+void TestTipDialog::enterPressesTheButtonThatWasChosen()
+{
+    QFETCH(int, number);
+    PromptAnswer answer(PromptAnswer::Enter);
+    TipDialog* prompt = makePrompt();
+    prompt->setBtnText(QStringLiteral("First"), QStringLiteral("Second"), QString());
+    prompt->setEnterButton(number);
+    QTEST(prompt->run().button, "expected");
 }
 
 void TestTipDialog::heldKeyAnswersNothing()

@@ -266,7 +266,7 @@ void CataloguePanel::askRemoval(const LookupAnswer& answer)
         lines.append(QString());
         lines.append(broken);
     }
-    if (prompts::confirm(lines.join(QLatin1Char('\n')), tr("Remove"), tr("Cancel")) != 1) {
+    if (!prompts::confirmLoss(lines.join(QLatin1Char('\n')), tr("Remove"), tr("Cancel"))) {
         return;
     }
     const StoreResult result = ScheduleHost::instance().removePrograms(answer.programs);

@@ -51,10 +51,11 @@ void EffectActions::update()
 
 void EffectActions::stop()
 {
-    const int answer = prompts::confirm(tr("Stop the schedule that is in effect? The screen stays "
-                                           "black until a schedule is started again."),
-                                        tr("Stop"), tr("Cancel"));
-    if (answer == 1) {
+    const bool isMeant =
+        prompts::confirmLoss(tr("Stop the schedule that is in effect? The screen stays "
+                                "black until a schedule is started again."),
+                             tr("Stop"), tr("Cancel"));
+    if (isMeant) {
         tell(ScheduleHost::instance().stopSchedule());
     }
 }

@@ -336,6 +336,9 @@ void EditorStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
         painter->setPen(
             palette.color(enabled ? palette.currentColorGroup() : QPalette::Disabled, textRole));
     }
+    if (isStateLabel(painted)) {
+        painter->setPen(isOfCollision(*painted) ? m_colours.stateCollision : m_colours.stateFree);
+    }
     painter->drawText(place, flags, text);
     painter->restore();
 }

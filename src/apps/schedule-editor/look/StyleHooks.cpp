@@ -128,6 +128,11 @@ bool isStateLabel(const QWidget* widget)
            widget->parentWidget() != nullptr && isPlanTable(widget->parentWidget()->parentWidget());
 }
 
+bool isOfCollision(const QWidget& label)
+{
+    return label.property("state").toString() == QLatin1String("collision");
+}
+
 bool isProgramField(const QWidget* widget)
 {
     return styleOf(widget) == QLatin1String("BG3");

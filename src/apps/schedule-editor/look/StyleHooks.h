@@ -32,6 +32,8 @@ bool isChooserHeader(const QWidget* widget);
 bool isCatalogue(const QWidget* widget);
 /// The word of a plan's state.
 bool isStateLabel(const QWidget* widget);
+/// Of such a label: whether its plan collides.
+bool isOfCollision(const QWidget& label);
 /// The outer frame of a program field.
 bool isProgramField(const QWidget* widget);
 /// A frame that only holds the halves of a program field together.

@@ -121,6 +121,8 @@ ThemeColours darkColours()
 
     colours.state = QColor(0x05, 0x05, 0x06);
     colours.stateLine = QColor(0x2c, 0x31, 0x3b);
+    colours.stateFree = QColor(0x4f, 0xc7, 0x6c);
+    colours.stateCollision = QColor(0xff, 0x6b, 0x63);
     setLists(colours);
     setDarkWeek(colours);
     return colours;
@@ -173,6 +175,8 @@ ThemeColours lightColours()
 
     colours.state = Qt::white;
     colours.stateLine = QColor(0xd8, 0xdc, 0xe4);
+    colours.stateFree = QColor(0x15, 0x73, 0x31);
+    colours.stateCollision = QColor(0xc4, 0x1c, 0x1c);
     setLists(colours);
     setLightWeek(colours);
     return colours;

@@ -52,10 +52,12 @@ struct ThemeColours
     QColor line;     ///< Between rows, and around what floats.
     QColor floating; ///< Menus and open lists.
 
-    /// Under the state of a plan. Its pure red and half green both stay legible only on a ground
-    /// that is nearly black or nearly white.
+    /// Under the state of a plan, and its words. The card gives these a pure red and a half green,
+    /// one of which is hard to read on any ground.
     QColor state;
     QColor stateLine;
+    QColor stateFree;
+    QColor stateCollision;
 
     /// The lists of the chooser. Their numbers, their marked rows and the words of their headers
     /// have colours of their own, light ones, so that these lists are dark under every theme.

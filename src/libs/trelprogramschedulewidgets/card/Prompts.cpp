@@ -24,6 +24,9 @@ bool askConfirmation(const QString& text)
     auto* const prompt = new TipDialog(TipDialog::Confirmation, nullptr);
     prompt->setTipText(text);
     prompt->setBtnText(scheduleText("zhFixAct"), scheduleText("zhCancelAct"), QString());
+    // What is asked about is gone afterwards: a key that was meant for something else leaves it.
+    constexpr int secondButton = 2;
+    prompt->setEnterButton(secondButton);
     return prompt->run().button == firstButton;
 }
 
