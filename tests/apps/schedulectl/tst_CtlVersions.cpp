@@ -200,6 +200,8 @@ void tst_CtlVersions::refusesWhatIsNone_data()
     row("diff 1 77", 1);
     row("diff yesterday", 2);
     row("diff 99999999999999999999", 2);
+    row("diff 1 2 --on-screen --from 2024-01-02 --to 2024-01-02", 2);
+    row("diff 1 2 --on-screen --from 2024-01-01 --to 2025-01-02", 2);
 }
 
 void tst_CtlVersions::refusesWhatIsNone()
