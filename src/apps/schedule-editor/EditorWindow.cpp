@@ -107,7 +107,10 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     ScheduleHost::instance().watchFiles();
     ScheduleHost::instance().followStore();
     // The panels write dates as the language does; they take the locale over.
-    const auto takeLocale = [this, &languages] { setLocale(QLocale(languages.current())); };
+    const auto takeLocale = [this, &languages] {
+        setLocale(QLocale(languages.current()));
+        m_history->setLanguage(locale());
+    };
     connect(&languages, &Languages::changed, this, takeLocale);
     takeLocale();
     connect(&languages, &Languages::changed, this, &EditorWindow::updateTitle);

@@ -97,7 +97,13 @@ const EditCommand& EditHistory::step(int index) const
 QString EditHistory::name(int step) const
 {
     const EditCommand& command = this->step(step);
-    return EditWords::name(command.field(), command.edits());
+    return EditWords::name(command.field(), command.edits(), m_locale);
+}
+
+void EditHistory::setLanguage(const QLocale& locale)
+{
+    m_locale = locale;
+    emit changed();
 }
 
 int EditHistory::stateNumber(int steps) const

@@ -3,6 +3,7 @@
 #include "follow/ScheduleEdits.h"
 #include "undo/TaskEdit.h"
 
+#include <QLocale>
 #include <QObject>
 #include <QPointer>
 #include <QUndoStack>
@@ -54,6 +55,8 @@ public:
     /// How many steps there are, and how many of them are done.
     int count() const { return m_stack.count(); }
     int index() const { return m_stack.index(); }
+    /// From now on the days in the names of steps are those of this language.
+    void setLanguage(const QLocale& locale);
     /// A step by its place, from 0.
     QString name(int step) const;
     /// Whether what is saved, now or at some time since, is what stood after so many steps.
@@ -101,6 +104,7 @@ private:
 
     mediadispatch::scheduleControlUI& m_editor;
     QUndoStack m_stack;
+    QLocale m_locale;
     /// The working set after the last step that is known.
     std::map<int, follow::SharedTask> m_known;
     std::set<int> m_due;         ///< Tasks that have been put, but not shown.

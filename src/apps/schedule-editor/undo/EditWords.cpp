@@ -3,7 +3,6 @@
 #include "service/WeekDays.h"
 #include "undo/EditedField.h"
 
-#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -34,7 +33,7 @@ PlayPlan planOf(const follow::SharedTask& task, int row)
 
 } // namespace
 
-QString EditWords::name(const EditedField& field, const TaskEdits& edits)
+QString EditWords::name(const EditedField& field, const TaskEdits& edits, const QLocale& locale)
 {
     const TaskEdit& edit = edits.front();
     const QString task = QString::number(field.taskId);
@@ -56,11 +55,11 @@ QString EditWords::name(const EditedField& field, const TaskEdits& edits)
         return tr("Task %1: last day %2 → %3")
             .arg(task, text(edit.before->endDate), text(edit.after->endDate));
     default:
-        return planName(field, edit);
+        return planName(field, edit, locale);
     }
 }
 
-QString EditWords::planName(const EditedField& field, const TaskEdit& edit)
+QString EditWords::planName(const EditedField& field, const TaskEdit& edit, const QLocale& locale)
 {
     const PlayPlan before = planOf(edit.before, field.planRow);
     const PlayPlan after = planOf(edit.after, field.planRow);
@@ -85,7 +84,8 @@ QString EditWords::planName(const EditedField& field, const TaskEdit& edit)
         return change(tr("Task %1, plan %2: start %3 → %4"), text(before.startTime),
                       text(after.startTime));
     case EditKind::Days:
-        return change(tr("Task %1, plan %2: days %3 → %4"), days(before.weeks), days(after.weeks));
+        return change(tr("Task %1, plan %2: days %3 → %4"), days(before.weeks, locale),
+                      days(after.weeks, locale));
     case EditKind::Runs:
         return change(tr("Task %1, plan %2: runs %3 → %4"), QString::number(before.times),
                       QString::number(after.times));
@@ -103,7 +103,7 @@ QString EditWords::planName(const EditedField& field, const TaskEdit& edit)
     }
 }
 
-QString EditWords::days(const std::string& weeks)
+QString EditWords::days(const std::string& weeks, const QLocale& locale)
 {
     std::vector<int> numbers;
     if (parseWeeks(weeks, numbers)) {
@@ -113,7 +113,7 @@ QString EditWords::days(const std::string& weeks)
     QStringList names;
     for (const int number : numbers) {
         // Numbered as in the language's own week, from Monday.
-        names.append(QLocale().dayName(number, QLocale::ShortFormat));
+        names.append(locale.dayName(number, QLocale::ShortFormat));
     }
     return names.join(QLatin1Char(' '));
 }

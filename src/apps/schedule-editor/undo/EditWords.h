@@ -3,6 +3,7 @@
 #include "undo/TaskEdit.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QString>
 
 #include <string>
@@ -18,12 +19,12 @@ class EditWords
 
 public:
     /// "Task 1, plan 3: end 14:00:00 → 15:00:00". The edits may not be empty, and the field is
-    /// theirs.
-    static QString name(const EditedField& field, const TaskEdits& edits);
+    /// theirs. Days are named as in the locale.
+    static QString name(const EditedField& field, const TaskEdits& edits, const QLocale& locale);
 
 private:
-    static QString planName(const EditedField& field, const TaskEdit& edit);
-    static QString days(const std::string& weeks);
+    static QString planName(const EditedField& field, const TaskEdit& edit, const QLocale& locale);
+    static QString days(const std::string& weeks, const QLocale& locale);
 };
 
 } // namespace trel::desktop::undo

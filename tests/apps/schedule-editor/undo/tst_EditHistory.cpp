@@ -544,6 +544,15 @@ void tst_EditHistory::speaksTheLanguageInUse()
     desk.languages.select(QStringLiteral("de_DE"));
     QCOMPARE(desk.lastStep(), QStringLiteral("Auftrag 1, Plan 4: Ende 18:00:00 → 17:00:00"));
     QTRY_VERIFY(desk.undo().text().endsWith(desk.lastStep()));
+
+    QComboBox& days = desk.card(0).weeks(3);
+    const QStringList chosen{days.itemText(Monday), days.itemText(Friday)};
+    QVERIFY(QMetaObject::invokeMethod(&days, "signalSelectedText", Q_ARG(QStringList, chosen)));
+    QTRY_VERIFY2(desk.lastStep().endsWith(QStringLiteral("→ Mo. Fr.")),
+                 qPrintable(desk.lastStep()));
+    desk.languages.select(QStringLiteral("fr_FR"));
+    QTRY_VERIFY2(desk.lastStep().endsWith(QStringLiteral("→ lun. ven.")),
+                 qPrintable(desk.lastStep()));
 }
 
 void tst_EditHistory::aRandomWalk_data()

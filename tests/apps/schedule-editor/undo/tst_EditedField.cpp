@@ -152,7 +152,7 @@ void tst_EditedField::ofOneTask()
     const TaskEdits edits = edited(change);
     QVERIFY(!isSameToOperator(edits.front().before, edits.front().after));
     const EditedField field = editedField(edits);
-    QCOMPARE(EditWords::name(field, edits), name);
+    QCOMPARE(EditWords::name(field, edits, QLocale::c()), name);
     QCOMPARE(field.isOneField(), isOneField);
     QVERIFY(field == editedField(edits));
 }
@@ -161,14 +161,15 @@ void tst_EditedField::ofWholeTasks()
 {
     const auto known = std::make_shared<const PlayTask>(task());
     const auto name = [](const TaskEdits& edits) {
-        return EditWords::name(editedField(edits), edits);
+        return EditWords::name(editedField(edits), edits, QLocale::c());
     };
     QCOMPARE(name({{7, nullptr, known}}), QStringLiteral("Task 7 added"));
     QCOMPARE(name({{7, known, nullptr}}), QStringLiteral("Task 7 deleted"));
     const TaskEdits both = {{7, known, nullptr}, {8, nullptr, known}};
     QCOMPARE(editedField(both).kind, EditKind::Tasks);
     QVERIFY(!editedField(both).isOneField());
-    QCOMPARE(EditWords::name({EditKind::ReadAgain}, both), QStringLiteral("Back to what is saved"));
+    QCOMPARE(EditWords::name({EditKind::ReadAgain}, both, QLocale::c()),
+             QStringLiteral("Back to what is saved"));
 }
 
 void tst_EditedField::whatFollowsIsNoEdit()
