@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QMainWindow>
+#include <QScreen>
 #include <QSettings>
 #include <QTableView>
 
@@ -68,7 +69,9 @@ bool RememberedWindow::eventFilter(QObject* watched, QEvent* event)
 
 void RememberedWindow::restore()
 {
-    m_window.restoreGeometry(m_settings.value(kGeometry).toByteArray());
+    if (!m_window.restoreGeometry(m_settings.value(kGeometry).toByteArray())) {
+        m_window.resize(m_window.size().boundedTo(m_window.screen()->availableGeometry().size()));
+    }
     m_window.restoreState(m_settings.value(kPanels).toByteArray(), kPanelsVersion);
     const QList<QTableView*> tables = tablesOf(m_window);
     for (QTableView* table : tables) {

@@ -15,7 +15,7 @@ class WeekView;
 /// What the operator has made of the window, from one start of the program to the next: its size
 /// and place, where its panels are, the widths of the columns of its tables, and how high an hour
 /// of its week is. Each is remembered by the name of its widget. A value that is damaged, or of
-/// another program, is as good as none.
+/// another program, is as good as none; without a size the window is no larger than the screen.
 class RememberedWindow : public QObject
 {
     Q_OBJECT

@@ -61,6 +61,7 @@ class tst_RememberedWindow : public QObject
 
 private slots:
     void isAsItWasLeft();
+    void beginsNoLargerThanTheScreen();
     void ignoresWhatIsNoneOfItsOwn_data();
     void ignoresWhatIsNoneOfItsOwn();
 };
@@ -91,6 +92,19 @@ void tst_RememberedWindow::isAsItWasLeft()
     Start last(file);
     last.run();
     QVERIFY(last.week().isFit());
+}
+
+void tst_RememberedWindow::beginsNoLargerThanTheScreen()
+{
+    const QTemporaryDir folder;
+    Start start(folder.filePath(QStringLiteral("settings.ini")));
+    const QSize screen = start.window.screen()->availableGeometry().size();
+    // The first size of the window needs a larger screen than that of this test.
+    QVERIFY(start.window.width() > screen.width());
+    start.run();
+    QVERIFY(QTest::qWaitForWindowExposed(&start.window));
+    QCOMPARE(start.window.width(), qMax(screen.width(), start.window.minimumSizeHint().width()));
+    QVERIFY(start.window.height() <= screen.height());
 }
 
 void tst_RememberedWindow::ignoresWhatIsNoneOfItsOwn_data()
