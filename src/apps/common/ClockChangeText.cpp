@@ -41,7 +41,7 @@ QString ClockChangeText::wordsFor(ClockChangeEffect effect)
 QString ClockChangeText::sentence(const ClockChange& change, int taskId, const TouchedPlan& plan,
                                   const QString& date)
 {
-    const QString sentence = wordsFor(plan.effect)
+    QString sentence = wordsFor(plan.effect)
                                  .arg(date, timeOfDay(change.begin), timeOfDay(change.end))
                                  .arg(plan.planId)
                                  .arg(taskId);

@@ -18,6 +18,7 @@ constexpr std::size_t kFewTexts = 1000;
 std::array<int, 5> kindRanks(const QLocale& locale)
 {
     std::vector<QString> words;
+    words.reserve(5);
     for (int kind = 0; kind < 5; ++kind) {
         words.push_back(programwords::kind(static_cast<ProgramKind>(kind)));
     }

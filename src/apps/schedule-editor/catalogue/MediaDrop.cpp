@@ -4,6 +4,7 @@
 
 #include <QDragEnterEvent>
 #include <QLabel>
+#include <QMimeData>
 
 namespace trel::desktop {
 

@@ -156,6 +156,7 @@ QMimeData* ProgramTableModel::mimeData(const QModelIndexList& indexes) const
         rows.insert(index.row());
     }
     std::vector<int> programs;
+    programs.reserve(rows.size());
     for (const int row : rows) {
         programs.push_back(program(row).progIndex);
     }

@@ -336,7 +336,7 @@ void EditorStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
         painter->setPen(
             palette.color(enabled ? palette.currentColorGroup() : QPalette::Disabled, textRole));
     }
-    if (isStateLabel(painted)) {
+    if (painted != nullptr && isStateLabel(painted)) {
         painter->setPen(isOfCollision(*painted) ? m_colours.stateCollision : m_colours.stateFree);
     }
     painter->drawText(place, flags, text);
