@@ -42,9 +42,9 @@ QString ClockChangeText::sentence(const ClockChange& change, int taskId, const T
                                   const QString& date)
 {
     QString sentence = wordsFor(plan.effect)
-                                 .arg(date, timeOfDay(change.begin), timeOfDay(change.end))
-                                 .arg(plan.planId)
-                                 .arg(taskId);
+                           .arg(date, timeOfDay(change.begin), timeOfDay(change.end))
+                           .arg(plan.planId)
+                           .arg(taskId);
     switch (plan.effect) {
     case ClockChangeEffect::BeginsLate:
         return sentence.arg(timeOfDay(change.end));

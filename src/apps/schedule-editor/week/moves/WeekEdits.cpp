@@ -57,17 +57,20 @@ void WeekEdits::file(const undo::TaskEdits& edits)
     }
     // While the editor reads its list it handles events, which a mouse or a drag that is still
     // being handled does not stand.
-    QTimer::singleShot(0, this, [this, edits] {
-        m_editor.slotShow();
-        if (!m_editor.isVisible()) {
-            emit refused(tr("The editor is not ready yet. Please try again."));
-            return;
-        }
-        const QPointer<WeekEdits> self(this);
-        if (fileInEditor(edits) && self) {
-            emit editorShown();
-        }
-    });
+    QTimer::singleShot(0, this, [this, edits] { fileInShownEditor(edits); });
+}
+
+void WeekEdits::fileInShownEditor(const undo::TaskEdits& edits)
+{
+    m_editor.slotShow();
+    if (!m_editor.isVisible()) {
+        emit refused(tr("The editor is not ready yet. Please try again."));
+        return;
+    }
+    const QPointer<WeekEdits> self(this);
+    if (fileInEditor(edits) && self) {
+        emit editorShown();
+    }
 }
 
 bool WeekEdits::fileInEditor(const undo::TaskEdits& edits)

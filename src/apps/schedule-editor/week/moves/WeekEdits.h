@@ -47,6 +47,8 @@ signals:
 private:
     /// False where nothing was filed.
     bool fileInEditor(const undo::TaskEdits& edits);
+    /// Shows the editor first.
+    void fileInShownEditor(const undo::TaskEdits& edits);
 
     undo::EditHistory& m_history;
     trel::mediadispatch::scheduleControlUI& m_editor;
