@@ -32,11 +32,11 @@ private slots:
     void aMissingDatabaseIsRefused();
 
 private:
-    CtlResult ask(const char* words) const
+    CtlResult ask(const QString& words) const
     {
-        return m_fixture->onDatabase(
-            QString::fromLatin1(words).split(QLatin1Char(' '), Qt::SkipEmptyParts));
+        return m_fixture->onDatabase(words.split(QLatin1Char(' '), Qt::SkipEmptyParts));
     }
+    CtlResult ask(const char* words) const { return ask(QString::fromLatin1(words)); }
 
     QSharedPointer<CtlFixture> m_fixture;
 };
@@ -58,6 +58,14 @@ std::map<int, PlayTask> alwaysOn(const std::vector<struProgInfo>& programs)
 QJsonObject effectOf(const CtlResult& result)
 {
     return result.json()[QStringLiteral("effect")].toObject();
+}
+
+/// From yesterday to tomorrow, whatever midnight does meanwhile.
+QString timelineOfTheseDays()
+{
+    const QDate today = QDate::currentDate();
+    return QStringLiteral("timeline --from %1 --to %2 --json")
+        .arg(today.addDays(-1).toString(Qt::ISODate), today.addDays(2).toString(Qt::ISODate));
 }
 
 } // namespace
@@ -120,7 +128,7 @@ void tst_CtlEffect::readersShowWhatIsInEffect()
     QVERIFY(now.text().contains(QStringLiteral(", News\n")));
     QCOMPARE(ask("why Spot --json").json()[QStringLiteral("plays")], QJsonValue(true));
     QCOMPARE(ask("why News --json").json()[QStringLiteral("plays")], QJsonValue(false));
-    const CtlResult timeline = ask("timeline --from 2020-01-01 --to 2199-01-01 --json");
+    const CtlResult timeline = ask(timelineOfTheseDays());
     QVERIFY(timeline.out.contains("\"insertionPlays\""));
     QVERIFY(!effectOf(timeline).isEmpty());
 }
@@ -136,7 +144,7 @@ void tst_CtlEffect::savedIsShownWhenAskedFor()
     QVERIFY(saved.text().contains(QStringLiteral("In effect     nothing; this is what is saved")));
     QVERIFY(ask("now --saved --json").json()[QStringLiteral("effect")].isNull());
     QCOMPARE(ask("why Spot --saved --json").json()[QStringLiteral("plays")], QJsonValue(false));
-    QVERIFY(!ask("timeline --from 2020-01-01 --to 2199-01-01 --saved --json")
+    QVERIFY(!ask(timelineOfTheseDays() + QStringLiteral(" --saved"))
                  .out.contains("\"insertionPlays\""));
 }
 

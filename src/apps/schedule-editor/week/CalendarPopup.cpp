@@ -1,6 +1,9 @@
 #include "week/CalendarPopup.h"
 
 #include <QCalendarWidget>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLocale>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -47,6 +50,17 @@ void CalendarPopup::showBelow(const QWidget& widget)
     move(corner);
     show();
     m_calendar->setFocus();
+}
+
+/// A date that is typed half way is dropped first: the toolkit's calendar frees what it holds of it
+/// only when the typing ends, and Escape ends it.
+void CalendarPopup::closeEvent(QCloseEvent* event)
+{
+    if (auto* days = m_calendar->findChild<QWidget*>(QStringLiteral("qt_calendar_calendarview"))) {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(days, &escape);
+    }
+    QFrame::closeEvent(event);
 }
 
 } // namespace trel::desktop::week

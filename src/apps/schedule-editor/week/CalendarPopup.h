@@ -24,6 +24,9 @@ public:
 signals:
     void chosen(const QDate& day);
 
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
 private:
     QCalendarWidget* m_calendar;
 };
