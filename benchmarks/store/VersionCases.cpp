@@ -5,8 +5,8 @@
 #include "trelprogramschedule/TaskSets.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/store/ScheduleDatabase.h"
-#include "trelprogramschedule/store/StoreConnection.h"
 #include "trelprogramschedule/store/StoreTaskWriter.h"
+#include "trelprogramschedule/store/sqlite/SqliteConnection.h"
 
 #include <QTemporaryDir>
 
@@ -87,7 +87,7 @@ public:
     double forgetting()
     {
         open();
-        const StoreConnection connection(path(), StoreConnection::Access::ReadWrite);
+        const SqliteConnection connection(path(), SqliteConnection::Access::ReadWrite);
         connection.run(QStringLiteral("PRAGMA foreign_keys = ON"));
         connection.run(QStringLiteral("PRAGMA synchronous = FULL"));
         const double cost = edited([&](const TaskMap&, const TaskEdits& edits) {

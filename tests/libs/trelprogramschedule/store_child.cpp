@@ -4,7 +4,7 @@
 #include "DiskLimit.h"
 #include "ScheduleHost.h"
 #include "service/scheduleManage.h"
-#include "store/StoreConnection.h"
+#include "store/sqlite/SqliteConnection.h"
 #include "support/FaultyDisk.h"
 #include "support/SampleSchedule.h"
 #include "trelprogramschedule/faults/FaultWords.h"
@@ -40,7 +40,7 @@ void say(const char* what, const StoreResult& result)
 /// Keeps the file to itself until its input ends.
 int hold(const QString& path)
 {
-    const StoreConnection connection(path, StoreConnection::Access::ReadWrite);
+    const SqliteConnection connection(path, SqliteConnection::Access::ReadWrite);
     connection.run(QStringLiteral("BEGIN EXCLUSIVE"));
     connection.run(QStringLiteral("UPDATE store SET schedule_revision = schedule_revision + 1"));
     say(QStringLiteral("ready"));
@@ -96,7 +96,7 @@ int saveOn(const QString& path, int generation, qint64 thousandths)
 /// What another program finds in the store.
 std::size_t tasksInFile(const QString& path)
 {
-    const StoreConnection connection(path, StoreConnection::Access::ReadOnly);
+    const SqliteConnection connection(path, SqliteConnection::Access::ReadOnly);
     return connection.value(QStringLiteral("SELECT count(*) FROM task")).toUInt();
 }
 

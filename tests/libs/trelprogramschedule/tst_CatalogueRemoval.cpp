@@ -1,7 +1,7 @@
 #include "SignalCounts.h"
 #include "StoreFixture.h"
 #include "store/ScheduleDatabase.h"
-#include "store/StoreConnection.h"
+#include "store/sqlite/SqliteConnection.h"
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>
@@ -163,7 +163,7 @@ void tst_CatalogueRemoval::theScheduleStaysUnread()
     store.save(sampleSchedule(2, 2, 2));
     store.host.close();
     {
-        const StoreConnection connection(store.path, StoreConnection::Access::ReadWrite);
+        const SqliteConnection connection(store.path, SqliteConnection::Access::ReadWrite);
         connection.run(QStringLiteral("UPDATE plan_value SET position = position + 1000"));
         connection.run(QStringLiteral("UPDATE entry SET position = position + 1000"));
     }

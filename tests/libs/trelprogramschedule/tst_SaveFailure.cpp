@@ -2,7 +2,7 @@
 #include "StoreFixture.h"
 #include "faults/FaultWords.h"
 #include "store/ScheduleDatabase.h"
-#include "store/StoreConnection.h"
+#include "store/sqlite/SqliteConnection.h"
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>
@@ -119,7 +119,7 @@ StoreResult tst_SaveFailure::failedSave()
 void tst_SaveFailure::locked()
 {
     {
-        const StoreConnection other(m_store->path, StoreConnection::Access::ReadWrite);
+        const SqliteConnection other(m_store->path, SqliteConnection::Access::ReadWrite);
         const StoreTransaction writing(other, StoreTransaction::Purpose::Write);
         const StoreResult reason = failedSave();
         QCOMPARE(reason.problem, StoreProblem::Locked);
@@ -136,7 +136,7 @@ void tst_SaveFailure::locked()
 void tst_SaveFailure::triedAgainWhileSaveRuns()
 {
     auto other =
-        std::make_unique<StoreConnection>(m_store->path, StoreConnection::Access::ReadWrite);
+        std::make_unique<SqliteConnection>(m_store->path, SqliteConnection::Access::ReadWrite);
     auto writing = std::make_unique<StoreTransaction>(*other, StoreTransaction::Purpose::Write);
     int asked = 0;
     QObject context;
@@ -187,7 +187,7 @@ void tst_SaveFailure::fileMarkedReadOnly()
 void tst_SaveFailure::tableGone()
 {
     {
-        const StoreConnection other(m_store->path, StoreConnection::Access::ReadWrite);
+        const SqliteConnection other(m_store->path, SqliteConnection::Access::ReadWrite);
         other.run(QStringLiteral("DROP TABLE plan_value"));
     }
     const StoreResult reason = failedSave();
@@ -196,7 +196,7 @@ void tst_SaveFailure::tableGone()
              qPrintable(englishText(reason)));
     QVERIFY(m_store->manager.getAllTask() == m_working);
     // Also what was written before the failure is undone.
-    const StoreConnection other(m_store->path, StoreConnection::Access::ReadWrite);
+    const SqliteConnection other(m_store->path, SqliteConnection::Access::ReadWrite);
     QCOMPARE(other.value(QStringLiteral("SELECT count(*) FROM task")).toInt(), 3);
 }
 

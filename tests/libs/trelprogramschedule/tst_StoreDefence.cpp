@@ -1,9 +1,9 @@
 #include "ScheduleLimits.h"
 #include "StoreFixture.h"
 #include "faults/FaultWords.h"
-#include "store/StoreConnection.h"
 #include "store/StoreDeadline.h"
-#include "store/StoreGuard.h"
+#include "store/sqlite/SqliteConnection.h"
+#include "store/sqlite/StoreGuard.h"
 #include "support/FolderSnapshot.h"
 #include "support/TestProgram.h"
 
@@ -155,7 +155,7 @@ void tst_StoreDefence::connectionsAreGuarded()
 {
     StoreFixture store;
     store.host.close();
-    const StoreConnection connection(store.path, StoreConnection::Access::ReadWrite);
+    const SqliteConnection connection(store.path, SqliteConnection::Access::ReadWrite);
     connection.run(QStringLiteral("PRAGMA writable_schema = ON"));
     QVERIFY(!refusalOf(connection, QStringLiteral("DELETE FROM sqlite_schema")).isEmpty());
     QVERIFY(!refusalOf(connection, QStringLiteral("ATTACH ':memory:' AS other")).isEmpty());
@@ -279,7 +279,7 @@ void tst_StoreDefence::readingHasADeadline()
 {
     StoreFixture store;
     store.host.close();
-    const StoreConnection connection(store.path, StoreConnection::Access::ReadOnly);
+    const SqliteConnection connection(store.path, SqliteConnection::Access::ReadOnly);
     const QString endless =
         QStringLiteral("WITH RECURSIVE number(n) AS (SELECT 1 UNION ALL"
                        " SELECT n + 1 FROM number) SELECT count(*) FROM number");

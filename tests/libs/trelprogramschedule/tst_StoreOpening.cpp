@@ -1,8 +1,8 @@
 #include "StoreChild.h"
 #include "StoreFixture.h"
 #include "faults/FaultWords.h"
-#include "store/StoreConnection.h"
 #include "store/StoreSchema.h"
+#include "store/sqlite/SqliteConnection.h"
 #include "support/FolderSnapshot.h"
 #include "support/TestProgram.h"
 
@@ -43,7 +43,7 @@ void makeStore(const QString& path)
 
 void runIn(const QString& path, const QString& statement)
 {
-    const StoreConnection connection(path, StoreConnection::Access::ReadWrite);
+    const SqliteConnection connection(path, SqliteConnection::Access::ReadWrite);
     connection.run(statement);
 }
 
@@ -53,7 +53,7 @@ void runAndStop(const QString& path, const QString& statement)
 {
     const QString place = path + QStringLiteral(".live");
     QVERIFY(QFile::rename(path, place));
-    const StoreConnection connection(place, StoreConnection::Access::ReadWrite);
+    const SqliteConnection connection(place, SqliteConnection::Access::ReadWrite);
     connection.run(statement);
     for (const QString& suffix : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")}) {
         QVERIFY(QFile::copy(place + suffix, path + suffix));
@@ -121,7 +121,7 @@ void tst_StoreOpening::refusals_data()
     });
     row("folder", StoreProblem::NotADatabase, [](const QString& path) { QDir().mkpath(path); });
     row("foreign", StoreProblem::Foreign, [](const QString& path) {
-        const StoreConnection connection(path, StoreConnection::Access::Create);
+        const SqliteConnection connection(path, SqliteConnection::Access::Create);
         connection.run(QStringLiteral("CREATE TABLE task (id INTEGER PRIMARY KEY)"));
     });
     row("foreign with a log", StoreProblem::Foreign, [](const QString& path) {
@@ -305,7 +305,7 @@ void tst_StoreOpening::createsInOneStep()
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files),
              QStringList{QStringLiteral("schedule.db")});
 
-    const StoreConnection connection(path, StoreConnection::Access::ReadWrite);
+    const SqliteConnection connection(path, SqliteConnection::Access::ReadWrite);
     QCOMPARE(connection.value(QStringLiteral("PRAGMA journal_mode")).toString(),
              QStringLiteral("wal"));
     QCOMPARE(connection.value(QStringLiteral("PRAGMA user_version")).toInt(),
@@ -370,7 +370,7 @@ void tst_StoreOpening::takesUpTheLogAgain()
     runIn(path, QStringLiteral("PRAGMA journal_mode = DELETE"));
     QVERIFY(ScheduleHost::instance().open(path));
     ScheduleHost::instance().close();
-    const StoreConnection connection(path, StoreConnection::Access::ReadWrite);
+    const SqliteConnection connection(path, SqliteConnection::Access::ReadWrite);
     QCOMPARE(connection.value(QStringLiteral("PRAGMA journal_mode")).toString(),
              QStringLiteral("wal"));
 }

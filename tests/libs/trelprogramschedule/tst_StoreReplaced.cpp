@@ -2,7 +2,8 @@
 #include "StoreFixture.h"
 #include "faults/FaultWords.h"
 #include "store/ScheduleDatabase.h"
-#include "store/StoreConnection.h"
+#include "store/sqlite/SqliteConnection.h"
+#include "store/sqlite/StoreFile.h"
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>
@@ -211,7 +212,7 @@ void tst_StoreReplaced::damagedAndMended()
 void tst_StoreReplaced::formerFileInUse()
 {
     auto other =
-        std::make_unique<StoreConnection>(m_store->path, StoreConnection::Access::ReadOnly);
+        std::make_unique<SqliteConnection>(m_store->path, SqliteConnection::Access::ReadOnly);
     auto reading = std::make_unique<StoreTransaction>(*other, StoreTransaction::Purpose::Read);
     QCOMPARE(other->value(QStringLiteral("SELECT count(*) FROM task")).toInt(), 3);
     replace(m_other);
@@ -226,7 +227,7 @@ void tst_StoreReplaced::formerFileInUse()
 /// Somebody else has the former file open, and goes on writing into it.
 void tst_StoreReplaced::whoStaysWithTheFormerFileDoesNoHarm()
 {
-    const StoreConnection other(m_store->path, StoreConnection::Access::ReadWrite);
+    const SqliteConnection other(m_store->path, SqliteConnection::Access::ReadWrite);
     QCOMPARE(other.value(QStringLiteral("SELECT count(*) FROM task")).toInt(), 3);
     const StoreFile file(m_store->path);
     const StoreFile::Identity formerLog = file.logIdentity();
@@ -255,7 +256,7 @@ void tst_StoreReplaced::closedWhileGone()
 void tst_StoreReplaced::tellsOfACommitOnItsWay()
 {
     QVERIFY(!m_store->host.isBeingWritten());
-    const StoreConnection other(m_store->path, StoreConnection::Access::ReadWrite);
+    const SqliteConnection other(m_store->path, SqliteConnection::Access::ReadWrite);
     {
         StoreTransaction writing(other, StoreTransaction::Purpose::Write);
         other.run(QStringLiteral("UPDATE store SET schedule_revision = schedule_revision + 1"));

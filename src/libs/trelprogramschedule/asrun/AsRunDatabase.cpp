@@ -6,15 +6,15 @@
 #include "AsRunRows.h"
 #include "AsRunSchedule.h"
 #include "AsRunSchema.h"
-#include "store/StoreConnection.h"
-#include "store/StoreFile.h"
+#include "store/StoreAttempt.h"
 #include "store/StoreRefusals.h"
+#include "store/sqlite/SqliteConnection.h"
+#include "store/sqlite/StoreFile.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
-#include <new>
 
 namespace trel::mediadispatch {
 
@@ -22,19 +22,6 @@ namespace {
 
 /// So many records are read at once: few enough to keep no player from writing for long.
 constexpr std::size_t kMostAtOnce = 4096;
-
-template <typename Action>
-StoreResult attempt(const QString& path, const Action& action)
-{
-    try {
-        action();
-        return {};
-    } catch (const StoreError& error) {
-        return error.result;
-    } catch (const std::bad_alloc&) {
-        return {StoreProblem::Other, path, {FaultCode::NoMemory, {}}};
-    }
-}
 
 constexpr char kScreenColumns[] =
     "SELECT id, name, last_number, last_hash, anchor_number, anchor_hash, anchor_schedule"
@@ -53,7 +40,7 @@ StoreResult create(const StoreFile& file)
         return refusalOfSystem(errno, file.path());
     }
     StoreResult result = attempt(file.path(), [&file] {
-        const StoreConnection connection(file.draftPath(), StoreConnection::Access::Create);
+        const SqliteConnection connection(file.draftPath(), SqliteConnection::Access::Create);
         AsRunSchema::make(connection);
     });
     if (result && !file.fillFromDraft() && file.isVacant()) {
@@ -104,7 +91,7 @@ public:
 
     StoreFile m_file;
     StoreOpenMode m_mode;
-    StoreConnection m_connection;
+    SqliteConnection m_connection;
     StoreFile::Identity m_identity;
     AsRunHasher m_hasher;
     std::unique_ptr<AsRunRows> m_rows; ///< Before the connection goes.
@@ -114,8 +101,8 @@ AsRunDatabase::Private::Private(const StoreFile& file, StoreOpenMode mode)
     : m_file(file)
     , m_mode(mode)
     , m_connection(file.path(), mode == StoreOpenMode::ReadOnly
-                                    ? StoreConnection::Access::ReadOnly
-                                    : StoreConnection::Access::ReadWrite)
+                                    ? SqliteConnection::Access::ReadOnly
+                                    : SqliteConnection::Access::ReadWrite)
     , m_identity(file.identity())
 {
     {

@@ -84,15 +84,14 @@ void AsRunSchema::make(const StoreConnection& connection)
     for (const QString& statement : statements()) {
         connection.run(statement);
     }
-    connection.run(QStringLiteral("PRAGMA user_version = %1").arg(kVersion));
-    connection.run(QStringLiteral("PRAGMA application_id = %1").arg(kApplicationId));
+    connection.seal(kApplicationId, kVersion);
     transaction.commit();
 }
 
 void AsRunSchema::check(const StoreConnection& connection, const QString& path)
 {
-    static const StoreElements expected = StoreElements::made(statements());
-    StoreElements::of(connection).check(expected, path);
+    static const StoreElements expected = connection.elementsMadeBy(statements());
+    connection.elements().check(expected, path);
 }
 
 } // namespace trel::mediadispatch

@@ -3,10 +3,10 @@
 #include "AsRunContents.h"
 #include "AsRunSchedule.h"
 #include "AsRunSpoolRecord.h"
-#include "store/StoreConnection.h"
 #include "store/StoreElements.h"
 #include "store/StoreRefusals.h"
 #include "store/StoreStatement.h"
+#include "store/sqlite/SqliteConnection.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -56,7 +56,7 @@ QStringList statements()
     };
 }
 
-void make(const StoreConnection& connection)
+void make(const SqliteConnection& connection)
 {
     StoreTransaction transaction(connection, StoreTransaction::Purpose::Write);
     for (const QString& statement : statements()) {
@@ -65,29 +65,24 @@ void make(const StoreConnection& connection)
     StoreStatement row(connection, QString(), "INSERT INTO spool VALUES (1, ?, 1, x'', x'')");
     row.bindBytes(1, QUuid::createUuid().toRfc4122());
     row.run();
-    connection.run(QStringLiteral("PRAGMA user_version = %1").arg(kVersion));
-    connection.run(QStringLiteral("PRAGMA application_id = %1").arg(kApplicationId));
+    connection.seal(kApplicationId, kVersion);
     transaction.commit();
 }
 
-void check(const StoreConnection& connection, const QString& path)
+void check(const SqliteConnection& connection, const QString& path)
 {
-    if (connection.value(QStringLiteral("PRAGMA application_id")).toLongLong() != kApplicationId) {
+    if (connection.applicationId() != kApplicationId) {
         throw StoreError{refusal(StoreProblem::Foreign, path)};
     }
-    if (connection.value(QStringLiteral("PRAGMA user_version")).toInt() > kVersion) {
+    if (connection.schemaVersion() > kVersion) {
         throw StoreError{refusal(StoreProblem::NewerSchema, path)};
     }
-    static const StoreElements expected = StoreElements::made(statements());
-    StoreElements::of(connection).check(expected, path);
-    const QString finding =
-        connection.value(QStringLiteral("PRAGMA quick_check(1)")).toString().simplified();
-    if (finding != QLatin1String("ok")) {
-        throw StoreError{refusalOfFinding(finding, path)};
-    }
+    static const StoreElements expected = SqliteConnection::elementsOf(statements());
+    connection.elements().check(expected, path);
+    connection.expectSound(path);
 }
 
-bool isNew(const StoreConnection& connection)
+bool isNew(const SqliteConnection& connection)
 {
     return connection.value(QStringLiteral("SELECT count(*) FROM sqlite_schema")).toInt() == 0;
 }
@@ -128,24 +123,24 @@ StoreResult attempt(const QString& path, const Action& action)
 class AsRunSpool::Private
 {
 public:
-    Private(const QString& path, StoreConnection::Access access);
+    Private(const QString& path, SqliteConnection::Access access);
 
     std::optional<AsRunRecord> recordOf(const QByteArray& bytes) const;
     void forget(const QByteArray& schedule) const;
 
     QString m_path;
-    StoreConnection m_connection;
+    SqliteConnection m_connection;
     QByteArray m_source;
     qint64 m_next = 1;
     std::optional<AsRunRecord> m_last;
     std::optional<AsRunRecord> m_onScreen;
 };
 
-AsRunSpool::Private::Private(const QString& path, StoreConnection::Access access)
+AsRunSpool::Private::Private(const QString& path, SqliteConnection::Access access)
     : m_path(path)
     , m_connection(path, access)
 {
-    if (access != StoreConnection::Access::Memory) {
+    if (access != SqliteConnection::Access::Memory) {
         // One process alone has it, and one write to the disk for each commit is enough then.
         m_connection.run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE"));
         m_connection.run(QStringLiteral("PRAGMA journal_mode = WAL"));
@@ -198,7 +193,7 @@ StoreResult AsRunSpool::open(const QString& path)
     StoreResult result = makeFile(path);
     if (result) {
         result = attempt(path, [&] {
-            m_d = std::make_unique<Private>(path, StoreConnection::Access::ReadWrite);
+            m_d = std::make_unique<Private>(path, SqliteConnection::Access::ReadWrite);
         });
     }
     return result;
@@ -208,7 +203,7 @@ StoreResult AsRunSpool::openInMemory()
 {
     close();
     return attempt(QString(), [&] {
-        m_d = std::make_unique<Private>(QString(), StoreConnection::Access::Memory);
+        m_d = std::make_unique<Private>(QString(), SqliteConnection::Access::Memory);
     });
 }
 

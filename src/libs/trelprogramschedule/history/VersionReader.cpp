@@ -4,12 +4,12 @@
 #include "TaskSets.h"
 #include "catalogue/ProgramCatalogue.h"
 #include "store/StoreCatalogue.h"
-#include "store/StoreConnection.h"
 #include "store/StoreContents.h"
 #include "store/StoreDeadline.h"
 #include "store/StoreSchema.h"
 #include "store/StoreTaskReader.h"
 #include "store/StoreVersions.h"
+#include "store/sqlite/SqliteConnection.h"
 
 #include <chrono>
 #include <new>
@@ -33,7 +33,7 @@ VersionReader::VersionReader(QString path)
 template <typename Reading>
 StoreResult VersionReader::read(const Reading& reading) const
 try {
-    const StoreConnection connection(m_path, StoreConnection::Access::ReadOnly);
+    const SqliteConnection connection(m_path, SqliteConnection::Access::ReadOnly);
     const StoreDeadline deadline(connection, kReadingTime);
     StoreTransaction transaction(connection, StoreTransaction::Purpose::Read);
     // Another file may have taken the place of the one that was opened.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "StoreContents.h"
-#include "StoreFile.h"
 #include "StoreResult.h"
 #include "StoredEffect.h"
 #include "TaskSets.h"
@@ -17,6 +16,7 @@
 namespace trel::mediadispatch {
 
 class StoreConnection;
+class StoreEngine;
 struct MediaSource;
 
 /// Which parts to read.
@@ -26,7 +26,7 @@ enum class StorePart {
     Both,
 };
 
-/// The store on disk: the one class that speaks to the database.
+/// The store: the one class that speaks to its database, by way of the engine that keeps it.
 ///
 /// Every change is one transaction, synchronised to the disk before the call returns. A call that
 /// fails leaves the file as it was and the object usable. One connection, which lives from open to
@@ -43,9 +43,9 @@ public:
     /// beside it. No file of the process may be open on the same path.
     StoreResult open(const QString& path, StoreOpenMode mode, StorePart part = StorePart::Both);
     void close();
-    bool isOpen() const { return m_connection != nullptr; }
+    bool isOpen() const;
     /// Where the file is, behind any links; empty when none is open.
-    QString path() const { return m_file.path(); }
+    QString path() const;
 
     /// Whether the file that was opened still stands at its path.
     bool isInPlace() const;
@@ -94,12 +94,10 @@ public:
     StoreResult countPlansWith(const std::vector<int>& progIndexes, int& count) const;
 
 private:
-    StoreResult judge() const;
-    StoreResult create() const;
-    StoreResult judgeLog() const;
-    StoreResult look(StorePart part);
-    StoreResult lookOnce(StorePart part, StoreConnection& connection);
-    StoreResult connect();
+    const StoreConnection& connection() const;
+    /// Reads the parts that are looked for, while the store is opened.
+    void look(const StoreConnection& connection);
+    void forgetSeen();
     template <typename Reading>
     StoreResult readWith(const Reading& reading);
     template <typename Change>
@@ -107,27 +105,21 @@ private:
     void readParts(StorePart part, const StoreConnection& connection,
                    StoreContents& contents) const;
     bool takeSeen(StorePart part, StoreContents& contents);
-    StoreResult leave();
-    StoreResult judgeInPlace() const;
+    StoreResult judgeChange() const;
     /// Throws where that is refused.
-    void expectInPlace() const;
+    void expectChange() const;
 
-    /// What a look at the file has read of it, and was not asked for yet.
+    /// What a look at the store has read of it, and was not asked for yet.
     struct Seen
     {
         StorePart part;
         StoreContents contents;
     };
 
-    StoreFile m_file;
-    StoreOpenMode m_mode = StoreOpenMode::MustExist;
-    bool m_isUnnoticed = false; ///< The file is read as if no other program could write it.
-    StoreFile::Stamp m_stamp;   ///< What the file was when it was last looked at.
+    StorePart m_looksFor = StorePart::Both;
     std::optional<Seen> m_seen;
     std::optional<StoredEffect> m_seenEffect; ///< The same of what is in effect.
-    StoreFile::Identity m_identity;
-    StoreFile::Identity m_logIdentity;
-    std::unique_ptr<StoreConnection> m_connection;
+    std::unique_ptr<StoreEngine> m_engine;
 };
 
 } // namespace trel::mediadispatch

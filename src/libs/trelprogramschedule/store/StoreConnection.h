@@ -5,10 +5,17 @@
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QString>
+#include <QStringList>
 
-struct sqlite3;
+#include <memory>
+
+class QSqlError;
 
 namespace trel::mediadispatch {
+
+class StoreDeadline;
+class StoreElements;
+class StoreRows;
 
 /// What the members of StoreConnection throw; it never leaves the class that uses them.
 struct StoreError
@@ -18,21 +25,19 @@ struct StoreError
         0; ///< The database's own, with all that it tells; 0 where it is not an error of its.
 };
 
-/// One connection to a database file, open from construction to destruction. All queries on
-/// it must have gone before it goes. Members throw StoreError where the database refuses.
+/// What a transaction is for.
+enum class StorePurpose {
+    Read,  ///< One state of the store for all queries.
+    Write, ///< No other connection writes until the end.
+};
+
+/// One connection to a database, with what is the same in all engines; an engine derives from it
+/// what is its own. Open from construction to destruction. All queries on it must have gone before
+/// it goes. Members throw StoreError where the database refuses.
 class StoreConnection
 {
 public:
-    enum class Access {
-        Create,
-        ReadWrite, ///< The file must exist.
-        ReadOnly,  ///< Shares the file with other programs.
-        Untouched, ///< Takes no lock and makes no file; no other program may have the file open.
-        Memory,    ///< No file at all; the path is only for messages.
-    };
-
-    StoreConnection(const QString& path, Access access);
-    ~StoreConnection();
+    virtual ~StoreConnection();
     Q_DISABLE_COPY(StoreConnection)
 
     void run(const QString& statement) const;
@@ -41,66 +46,79 @@ public:
     /// A query that is ready to be run, as often as it takes.
     QSqlQuery prepare(const QString& statement) const;
     /// A query that has been run.
-    QSqlQuery query(const QString& statement) const;
+    virtual QSqlQuery query(const QString& statement) const;
     /// Runs a prepared query with the values that are bound to it.
     void exec(QSqlQuery& query) const;
     /// Goes to the next row; false behind the last.
     bool next(QSqlQuery& query) const;
 
-    /// The handle behind the connection; null where it could not be opened.
-    sqlite3* handle() const { return m_handle; }
+    /// What StoreStatement works with. The path is for messages.
+    virtual std::unique_ptr<StoreRows> rows(const QString& path, const char* sql) const = 0;
 
-private:
+    /// The number by which a database says whose it is.
+    virtual qint64 applicationId() const = 0;
+    /// Which schema the database says that it has; 0 for a new one.
+    virtual int schemaVersion() const = 0;
+    /// Writes both of these.
+    virtual void seal(qint64 applicationId, int schemaVersion) const = 0;
+    /// What the database defines.
+    virtual StoreElements elements() const = 0;
+    /// What an engine of this kind makes of statements in an empty database. An engine writes
+    /// definitions in its own way, so that a fresh one is asked.
+    virtual StoreElements elementsMadeBy(const QStringList& statements) const = 0;
+    /// Has the database check itself, and throws what it finds.
+    virtual void expectSound(const QString& path) const = 0;
+
+protected:
+    StoreConnection(QString path, const QSqlDatabase& database);
+
+    const QString& path() const { return m_path; }
+    QSqlDatabase& database() { return m_database; }
+    const QSqlDatabase& database() const { return m_database; }
+
+    /// Throws where nothing can be asked of the database.
+    virtual void expectOpen() const = 0;
+    /// A statement that was written for all engines, as this one takes it.
+    virtual QString worded(const QString& statement) const;
+    /// Whether a query keeps none of its rows. Where one is read while another is run, that must
+    /// not hurt the first.
+    virtual bool readsForwardOnly() const { return true; }
+    /// Throws what has become of a query.
     [[noreturn]] void refuse(const QSqlQuery& query) const;
 
-    friend class StoreHaste;
+private:
+    friend class StoreDeadline;
     friend class StoreTransaction;
 
-    void setPatience(int milliseconds) const;
-    /// Takes away what a commit that failed has left behind the end of the log; false when it is
-    /// not certain that it has gone from the disk.
-    bool clearFailedCommit() const;
-    bool spoilLogEnd() const;
+    /// What an error of the database amounts to.
+    virtual StoreError errorOf(const QSqlError& error) const = 0;
+    /// Holds its statements to a deadline from now on; to none for null.
+    virtual void setDeadline(StoreDeadline* deadline) const = 0;
+    virtual void begin(StorePurpose purpose) const = 0;
+    /// Where it throws StoreError, the transaction has been undone.
+    virtual void commit() const = 0;
+    /// Throws nothing, as it is called on the way out.
+    virtual void rollBack() const = 0;
 
     QString m_path;
     QSqlDatabase m_database;
-    sqlite3* m_handle = nullptr;
-    int m_systemError = 0; ///< Why it could not be opened, as errno; 0 where that is not known.
-};
-
-/// While it lives, the connection waits for no other program and refuses with Locked at once.
-class StoreHaste
-{
-public:
-    explicit StoreHaste(const StoreConnection& connection);
-    ~StoreHaste();
-    Q_DISABLE_COPY(StoreHaste)
-
-private:
-    const StoreConnection& m_connection;
 };
 
 /// A transaction that is undone unless it is committed.
 class StoreTransaction
 {
 public:
-    enum class Purpose {
-        Read,  ///< One state of the store for all queries.
-        Write, ///< No other connection writes until the end.
-    };
+    using Purpose = StorePurpose;
 
     StoreTransaction(const StoreConnection& connection, Purpose purpose);
     ~StoreTransaction();
     Q_DISABLE_COPY(StoreTransaction)
 
-    /// Where this throws, nothing is changed, and nothing of it can come back when the log is read
-    /// again, after a power cut either; the one exception is Unclear.
+    /// Where this throws, nothing is changed, and nothing of it can come back when the database is
+    /// read again, after a power cut either; the one exception is Unclear.
     void commit();
 
 private:
-    bool hasCommitted() const;
-    void rollBack();
-
     const StoreConnection& m_connection;
     bool m_hasEnded = false;
 };

@@ -18,9 +18,9 @@ public:
     ~StoreDeadline();
     Q_DISABLE_COPY(StoreDeadline)
 
-private:
-    static int hasPassed(void* deadline);
+    bool hasPassed() const { return m_timer.hasExpired(m_time.count()); }
 
+private:
     const StoreConnection& m_connection;
     std::chrono::milliseconds m_time;
     QElapsedTimer m_timer;

@@ -3,15 +3,10 @@
 #include "StoreConnection.h"
 #include "StoreRefusals.h"
 
-#include <QSqlQuery>
-#include <QVariant>
-
 namespace trel::mediadispatch {
 
 namespace {
 
-/// More than any schema has, so that one that has more shows.
-constexpr int kMostElements = 1000;
 /// What a message shows of a name that somebody else has chosen.
 constexpr int kLongestName = 60;
 
@@ -22,26 +17,10 @@ Fault partFault(FaultCode code, const std::pair<QString, QString>& element)
 
 } // namespace
 
-StoreElements StoreElements::of(const StoreConnection& connection)
+void StoreElements::add(const QString& kind, const QString& name, const QString& table,
+                        const QString& definition)
 {
-    QSqlQuery row = connection.query(
-        QStringLiteral("SELECT type, name, tbl_name, sql FROM sqlite_schema LIMIT %1")
-            .arg(kMostElements));
-    StoreElements elements;
-    while (connection.next(row)) {
-        elements.m_elements.insert({{row.value(0).toString(), row.value(1).toString()},
-                                    {row.value(2).toString(), row.value(3).toString()}});
-    }
-    return elements;
-}
-
-StoreElements StoreElements::made(const QStringList& statements)
-{
-    const StoreConnection fresh(QString(), StoreConnection::Access::Memory);
-    for (const QString& statement : statements) {
-        fresh.run(statement);
-    }
-    return of(fresh);
+    m_elements.insert({{kind, name}, {table, definition}});
 }
 
 void StoreElements::check(const StoreElements& expected, const QString& path) const

@@ -1,23 +1,22 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 
 #include <map>
 #include <utility>
 
 namespace trel::mediadispatch {
 
-class StoreConnection;
-
 /// What a database defines: its tables, its indices and whatever else one can hold.
 class StoreElements
 {
 public:
-    static StoreElements of(const StoreConnection& connection);
-    /// What statements make of an empty database. The database writes definitions in its own way,
-    /// so that a fresh one is asked.
-    static StoreElements made(const QStringList& statements);
+    /// Adds one by its kind and name, with the table that it belongs to and its definition as the
+    /// database writes it.
+    void add(const QString& kind, const QString& name, const QString& table,
+             const QString& definition);
+
+    bool isEmpty() const { return m_elements.empty(); }
 
     /// Throws StoreError unless these are exactly the expected ones, to the letter.
     void check(const StoreElements& expected, const QString& path) const;

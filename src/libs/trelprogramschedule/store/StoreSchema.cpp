@@ -6,6 +6,8 @@
 #include <QVariant>
 
 #include <map>
+#include <typeindex>
+#include <utility>
 
 namespace trel::mediadispatch {
 
@@ -198,11 +200,6 @@ const std::vector<StoreSchema::Step>& StoreSchema::steps()
     return steps;
 }
 
-int StoreSchema::versionOf(const StoreConnection& connection)
-{
-    return connection.value(QStringLiteral("PRAGMA user_version")).toInt();
-}
-
 int StoreSchema::newestVersion()
 {
     return steps().back().version;
@@ -210,23 +207,25 @@ int StoreSchema::newestVersion()
 
 bool StoreSchema::isNewest(const StoreConnection& connection)
 {
-    return versionOf(connection) == newestVersion();
+    return connection.schemaVersion() == newestVersion();
 }
 
 bool StoreSchema::hasEffect(const StoreConnection& connection)
 {
-    return versionOf(connection) >= kEffectVersion;
+    return connection.schemaVersion() >= kEffectVersion;
 }
 
 bool StoreSchema::hasHistory(const StoreConnection& connection)
 {
-    return versionOf(connection) >= kHistoryVersion;
+    return connection.schemaVersion() >= kHistoryVersion;
 }
 
-const StoreElements& StoreSchema::elementsOfVersion(int version)
+const StoreElements& StoreSchema::expectedElements(const StoreConnection& connection)
 {
-    static std::map<int, StoreElements> known;
-    if (const auto place = known.find(version); place != known.end()) {
+    const int version = connection.schemaVersion();
+    const std::pair engineAndVersion(std::type_index(typeid(connection)), version);
+    static std::map<std::pair<std::type_index, int>, StoreElements> known;
+    if (const auto place = known.find(engineAndVersion); place != known.end()) {
         return place->second;
     }
     QStringList statements;
@@ -235,47 +234,42 @@ const StoreElements& StoreSchema::elementsOfVersion(int version)
     }
     // Kept when it is whole: with what a lack of memory has cut short, every store would be
     // refused.
-    return known.emplace(version, StoreElements::made(statements)).first->second;
+    return known.emplace(engineAndVersion, connection.elementsMadeBy(statements)).first->second;
 }
 
 void StoreSchema::checkElements(const StoreConnection& connection, const QString& path)
 {
-    StoreElements::of(connection).check(elementsOfVersion(versionOf(connection)), path);
+    connection.elements().check(expectedElements(connection), path);
 }
 
 void StoreSchema::migrate(const StoreConnection& connection)
 {
     for (const Step& step : steps()) {
-        if (versionOf(connection) >= step.version) {
+        if (connection.schemaVersion() >= step.version) {
             continue;
         }
         StoreTransaction transaction(connection, StoreTransaction::Purpose::Write);
-        if (versionOf(connection) >= step.version) {
+        if (connection.schemaVersion() >= step.version) {
             continue; // Another program has taken the step meanwhile.
         }
         for (const QString& statement : step.statements) {
             connection.run(statement);
         }
-        connection.run(QStringLiteral("PRAGMA user_version = %1").arg(step.version));
-        connection.run(QStringLiteral("PRAGMA application_id = %1").arg(kApplicationId));
+        connection.seal(kApplicationId, step.version);
         transaction.commit();
     }
 }
 
 void StoreSchema::check(const StoreConnection& connection, const QString& path)
 {
-    if (connection.value(QStringLiteral("PRAGMA application_id")).toLongLong() != kApplicationId) {
+    if (connection.applicationId() != kApplicationId) {
         throw StoreError{refusal(StoreProblem::Foreign, path)};
     }
-    if (versionOf(connection) > newestVersion()) {
+    if (connection.schemaVersion() > newestVersion()) {
         throw StoreError{refusal(StoreProblem::NewerSchema, path)};
     }
     checkElements(connection, path);
-    const QString finding =
-        connection.value(QStringLiteral("PRAGMA quick_check(1)")).toString().simplified();
-    if (finding != QLatin1String("ok")) {
-        throw StoreError{refusalOfFinding(finding, path)};
-    }
+    connection.expectSound(path);
     if (connection.value(QStringLiteral("SELECT count(*) FROM store")).toInt() != 1) {
         throw StoreError{refusal(StoreProblem::Damaged, path, {FaultCode::StateMissing, {}})};
     }

@@ -41,8 +41,8 @@ private:
     };
 
     static const std::vector<Step>& steps();
-    static const StoreElements& elementsOfVersion(int version);
-    static int versionOf(const StoreConnection& connection);
+    /// What a database of the version that this one says it has holds.
+    static const StoreElements& expectedElements(const StoreConnection& connection);
 };
 
 } // namespace trel::mediadispatch

@@ -3,7 +3,7 @@
 #include "catalogue/ProgramCatalogue.h"
 #include "faults/FaultWords.h"
 #include "store/ScheduleDatabase.h"
-#include "store/StoreConnection.h"
+#include "store/sqlite/SqliteConnection.h"
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>
@@ -127,7 +127,7 @@ void tst_ProgramCatalogue::indexesRunOut()
     StoreFixture store;
     store.host.close();
     {
-        const StoreConnection connection(store.path, StoreConnection::Access::ReadWrite);
+        const SqliteConnection connection(store.path, SqliteConnection::Access::ReadWrite);
         connection.run(QStringLiteral("UPDATE store SET next_prog_index = 65533"));
     }
     store.open();

@@ -1,8 +1,8 @@
 #include "OtherProgram.h"
 #include "SignalCounts.h"
 #include "dispatch/DispatchFixture.h"
-#include "store/StoreConnection.h"
 #include "store/StoreSchema.h"
+#include "store/sqlite/SqliteConnection.h"
 #include "support/FolderSnapshot.h"
 #include "support/TestProgram.h"
 #include "json/ScheduleJson.h"
@@ -464,7 +464,7 @@ void tst_StoredEffect::versionOneIsTakenOver()
     QCOMPARE(host.started()->saved, 1);
     QVERIFY(host.dispatch().tasks() == host.workingSet());
     host.close();
-    const StoreConnection connection(path, StoreConnection::Access::ReadWrite);
+    const SqliteConnection connection(path, SqliteConnection::Access::ReadWrite);
     QVERIFY(StoreSchema::isNewest(connection));
     StoreSchema::checkElements(connection, path);
 }
@@ -491,7 +491,7 @@ void tst_StoredEffect::aDamagedVersionOneStaysAsItIs()
     const QString path = folder.filePath(QStringLiteral("store.db"));
     QVERIFY(QFile::copy(versionOne(), path));
     {
-        const StoreConnection connection(path, StoreConnection::Access::ReadWrite);
+        const SqliteConnection connection(path, SqliteConnection::Access::ReadWrite);
         connection.run(QStringLiteral("UPDATE plan SET position = position + 100"));
     }
     const FolderSnapshot before(folder.path());
@@ -524,7 +524,7 @@ void tst_StoredEffect::whatDoesNotFitIsDamage()
     fixture.insertDelayed(fixture.inserted("08:00:00-08:00:30 A"));
     fixture.host.close();
     {
-        const StoreConnection connection(fixture.path, StoreConnection::Access::ReadWrite);
+        const SqliteConnection connection(fixture.path, SqliteConnection::Access::ReadWrite);
         connection.run(statement);
     }
     const FolderSnapshot before(fixture.folder.path());

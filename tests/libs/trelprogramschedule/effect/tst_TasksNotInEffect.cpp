@@ -1,6 +1,6 @@
 #include "OtherProgram.h"
 #include "StoreFixture.h"
-#include "store/StoreConnection.h"
+#include "store/sqlite/SqliteConnection.h"
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>
@@ -37,7 +37,7 @@ private:
     /// A change that no revision tells of.
     static void run(const StoreFixture& store, const char* statement)
     {
-        const StoreConnection connection(store.path, StoreConnection::Access::ReadWrite);
+        const SqliteConnection connection(store.path, SqliteConnection::Access::ReadWrite);
         connection.run(QString::fromLatin1(statement));
     }
 };

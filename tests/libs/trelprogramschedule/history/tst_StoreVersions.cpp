@@ -1,7 +1,7 @@
 #include "libs/trelprogramschedule/StoreFixture.h"
 #include "store/ScheduleDatabase.h"
-#include "store/StoreConnection.h"
 #include "store/StoreSchema.h"
+#include "store/sqlite/SqliteConnection.h"
 #include "support/FaultyDisk.h"
 #include "support/FolderSnapshot.h"
 #include "support/RandomEdits.h"
@@ -409,7 +409,7 @@ void tst_StoreVersions::formerSchemasAreTakenOver()
     QVERIFY(host.open(path));
     QCOMPARE(contentOf(host, 1), expected);
     host.close();
-    const StoreConnection connection(path, StoreConnection::Access::ReadWrite);
+    const SqliteConnection connection(path, SqliteConnection::Access::ReadWrite);
     QVERIFY(StoreSchema::isNewest(connection));
     StoreSchema::checkElements(connection, path);
 }
@@ -472,7 +472,7 @@ void tst_StoreVersions::damageIsToldAndInNobodysWay()
     QVERIFY(store.host.replaceSchedule(sampleSchedule(2, 2, 2)));
     store.host.close();
     {
-        const StoreConnection connection(store.path, StoreConnection::Access::ReadWrite);
+        const SqliteConnection connection(store.path, SqliteConnection::Access::ReadWrite);
         connection.run(QStringLiteral("PRAGMA foreign_keys = ON"));
         connection.run(QString::fromLatin1(statement));
     }

@@ -1,4 +1,5 @@
 #include "store/StoreRefusals.h"
+#include "store/sqlite/SqliteRefusals.h"
 #include "support/TestProgram.h"
 
 #include <QSqlError>

@@ -1,6 +1,6 @@
 #include "libs/trelprogramschedule/StoreChild.h"
 #include "libs/trelprogramschedule/StoreFixture.h"
-#include "store/StoreFile.h"
+#include "store/sqlite/StoreFile.h"
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "StoreContents.h"
+#include "store/StoreContents.h"
 
 #include <QByteArray>
 #include <QFile>

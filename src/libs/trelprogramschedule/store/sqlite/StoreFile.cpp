@@ -1,7 +1,7 @@
 #include "StoreFile.h"
 
 #include "DraftFile.h"
-#include "StoreRefusals.h"
+#include "store/StoreRefusals.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "store/StoreLog.h"
+#include "store/sqlite/StoreLog.h"
 #include "support/TestProgram.h"
 
 #include <QTemporaryDir>
