@@ -4,7 +4,6 @@
 #include "KeystrokeCases.h"
 #include "StartCases.h"
 #include "StoreCases.h"
-#include "VersionCases.h"
 #include "WaitCases.h"
 
 #include <QApplication>
@@ -17,7 +16,6 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     bench::initialize(argc, argv);
     bench::addStoreCases();
-    bench::addVersionCases();
     bench::addStartCases();
     bench::addWaitCases();
     bench::addEditorWaits();

@@ -21,16 +21,22 @@ bool haveSameLists(const PlayTask& a, const PlayTask& b)
         [](const PlayPlan& one, const PlayPlan& other) { return haveSameLists(one, other); });
 }
 
+/// Of two states that have the same lists; the last of the former tasks is the one.
 void addFieldEdits(TaskEdits& edits, const PlayTask& before, const PlayTask& after)
 {
-    if (before.startDate != after.startDate || before.endDate != after.endDate) {
+    FormerTask& former = edits.former.back();
+    former.keepsLists = true;
+    former.keepsDates = before.startDate == after.startDate && before.endDate == after.endDate;
+    if (!former.keepsDates) {
         edits.dated.push_back(&after);
     }
+    const std::size_t sameUntilHere = edits.plans.size();
     for (std::size_t i = 0; i < after.plans.size(); ++i) {
         if (before.plans[i] != after.plans[i]) {
             edits.plans.push_back({after.id, static_cast<int>(i), &after.plans[i]});
         }
     }
+    former.keepsFields = edits.plans.size() == sameUntilHere;
 }
 
 /// Adds what turns one task of a set into the one of the same id in another set.
@@ -46,11 +52,13 @@ void addEdit(TaskEdits& edits, const TaskMap& from, const TaskMap& to, int taskI
         return;
     }
     if (!isSame && (before != from.end() || after != to.end())) {
-        edits.former.push_back({taskId, before == from.end() ? nullptr : &before->second, false});
+        FormerTask& former = edits.former.emplace_back();
+        former.taskId = taskId;
+        former.task = before == from.end() ? nullptr : &before->second;
+        former.after = after == to.end() ? nullptr : &after->second;
     }
     if (before != from.end() && after != to.end() && !isUnwritten) {
         if (held.marked.count(taskId) == 0 && haveSameLists(before->second, after->second)) {
-            edits.former.back().keepsLists = true;
             addFieldEdits(edits, before->second, after->second);
             return;
         }

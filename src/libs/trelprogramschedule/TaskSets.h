@@ -23,7 +23,11 @@ struct FormerTask
 {
     int taskId = -1;
     const PlayTask* task = nullptr;
-    bool keepsLists = false; ///< Known to have the same lists afterwards.
+    const PlayTask* after = nullptr; ///< As it is going to be; null for one that goes.
+    /// The lists are known to stay the same, and the others are told below; else nothing is known.
+    bool keepsLists = false;
+    bool keepsDates = false;
+    bool keepsFields = false; ///< Of the plans.
 };
 
 /// What turns a stored set into another: the tasks to take out first, and those to put in then. A

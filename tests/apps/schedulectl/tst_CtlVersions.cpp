@@ -125,6 +125,21 @@ void tst_CtlVersions::tellsWhatDiffersInJson()
     QCOMPARE(one[QStringLiteral("after")].toString(), QStringLiteral("10:00:00"));
     QCOMPARE(one[QStringLiteral("row")].toInt(), 1);
     QCOMPARE(one[QStringLiteral("planId")].toInt(), 4);
+    QCOMPARE(one[QStringLiteral("text")].toString(),
+             QStringLiteral("task 1, plan 4: end 09:00:00 \u2192 10:00:00"));
+    QVERIFY(ask("diff 3 saved --json").json()[QStringLiteral("differences")].toArray().isEmpty());
+
+    auto tasks = daily("10:00:00", {{1, false, "News", 2}, {2, false, "Spot", 1}});
+    tasks.at(1).plans[0].hasNoDuration = !tasks.at(1).plans[0].hasNoDuration;
+    m_fixture->store(tasks);
+    const QJsonArray truths =
+        ask("diff 3 4 --json").json()[QStringLiteral("differences")].toArray();
+    QCOMPARE(truths.size(), 1);
+    const QJsonObject truth = truths.at(0).toObject();
+    QCOMPARE(truth[QStringLiteral("field")].toString(), QStringLiteral("hasNoDuration"));
+    const bool isAfter = tasks.at(1).plans[0].hasNoDuration;
+    QCOMPARE(truth[QStringLiteral("before")], QJsonValue(!isAfter));
+    QCOMPARE(truth[QStringLiteral("after")], QJsonValue(isAfter));
 }
 
 void tst_CtlVersions::comparesWithWhatIsInEffect()
@@ -166,6 +181,12 @@ void tst_CtlVersions::restoresAndUndoes()
     QVERIFY(ask("versions").lines().at(1).contains(QLatin1String("version 1 restored")));
     const QJsonObject json = ask("restore 3 --json").json();
     QCOMPARE(json[QStringLiteral("save")].toInt(), 5);
+    QCOMPARE(json[QStringLiteral("restored")], QJsonValue(3));
+    QCOMPARE(json[QStringLiteral("lostPrograms")], QJsonValue(0));
+    const QJsonArray versions = ask("versions --json").json()[QStringLiteral("versions")].toArray();
+    QCOMPARE(versions.at(0).toObject()[QStringLiteral("restored")], QJsonValue(3));
+    QCOMPARE(versions.at(1).toObject()[QStringLiteral("restored")], QJsonValue(1));
+    QVERIFY(versions.at(2).toObject()[QStringLiteral("restored")].isNull());
     QCOMPARE(m_fixture->exported(), last);
 }
 
@@ -182,6 +203,9 @@ void tst_CtlVersions::refusesToRestoreWithoutPrograms()
     QCOMPARE(ask("restore 2").status, 0);
     QCOMPARE(ask("restore 3 --despite-lost-programs").status, 0);
     QVERIFY(m_fixture->exported().contains("\"isInvalid\": true"));
+    QCOMPARE(ask("restore 2").status, 0);
+    const QJsonObject lost = ask("restore 3 --despite-lost-programs --json").json();
+    QCOMPARE(lost[QStringLiteral("lostPrograms")], QJsonValue(1));
 }
 
 void tst_CtlVersions::refusesWhatIsNone_data()

@@ -14,6 +14,8 @@ namespace {
 class Writer
 {
 public:
+    explicit Writer(std::size_t expected) { m_bytes.reserve(static_cast<int>(expected)); }
+
     void count(std::size_t value) { bits(value); }
     void number(std::int64_t value)
     {
@@ -225,7 +227,9 @@ bool isSame(TaskAspect aspect, const PlayTask& a, const PlayTask& b)
 
 QByteArray aspectBytes(TaskAspect aspect, const PlayTask& task)
 {
-    Writer writer;
+    constexpr std::size_t sizeOfDates = 32;
+    constexpr std::size_t sizeOfPlan = 64;
+    Writer writer(aspect == TaskAspect::Dates ? sizeOfDates : sizeOfPlan * (task.plans.size() + 1));
     if (aspect == TaskAspect::Dates) {
         writer.text(task.startDate);
         writer.text(task.endDate);

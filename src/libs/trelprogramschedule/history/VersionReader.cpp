@@ -28,17 +28,22 @@ VersionReader::VersionReader(QString path)
     : m_path(std::move(path))
 {}
 
+void VersionReader::endWhen(std::function<bool()> isNeedless)
+{
+    m_isNeedless = std::move(isNeedless);
+}
+
 /// Never opens the file by any other way than the database's: closing it would let go of the locks
 /// that this process has on it.
 template <typename Reading>
 StoreResult VersionReader::read(const Reading& reading) const
 try {
     const SqliteConnection connection(m_path, SqliteConnection::Access::ReadOnly);
-    const StoreDeadline deadline(connection, kReadingTime);
+    const StoreDeadline deadline(connection, kReadingTime, m_isNeedless);
     StoreTransaction transaction(connection, StoreTransaction::Purpose::Read);
     // Another file may have taken the place of the one that was opened.
     StoreSchema::checkElements(connection, m_path);
-    reading(connection);
+    reading(connection, deadline);
     transaction.commit();
     return {};
 } catch (const StoreError& error) {
@@ -49,16 +54,17 @@ try {
 
 StoreResult VersionReader::versions(std::vector<ScheduleVersion>& versions) const
 {
-    return read([&](const StoreConnection& connection) {
+    return read([&](const StoreConnection& connection, const StoreDeadline&) {
         versions = StoreVersions(connection, m_path).list();
     });
 }
 
 StoreResult VersionReader::tasks(qint64 number, std::map<int, PlayTask>& tasks) const
 {
-    return read([&](const StoreConnection& connection) {
-        TaskMap found = number == kNoVersion ? StoreTaskReader(connection, m_path).read()
-                                             : StoreVersions(connection, m_path).read(number);
+    return read([&](const StoreConnection& connection, const StoreDeadline& deadline) {
+        TaskMap found = number == kNoVersion
+                            ? StoreTaskReader(connection, m_path).read()
+                            : StoreVersions(connection, m_path).read(number, &deadline);
         StoreContents contents;
         StoreCatalogue(connection, m_path).read(contents);
         ProgramCatalogue catalogue;

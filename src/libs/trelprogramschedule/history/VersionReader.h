@@ -8,6 +8,7 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <functional>
 #include <map>
 #include <vector>
 
@@ -23,6 +24,11 @@ public:
     /// closed meanwhile, reading is refused or goes on.
     explicit VersionReader(QString path);
 
+    /// What is being read may become needless: once the function returns true, a call that reads
+    /// tasks ends within some milliseconds and is refused. It is asked in the thread that reads;
+    /// none is never asked.
+    void endWhen(std::function<bool()> isNeedless);
+
     /// As ScheduleHost::versions.
     StoreResult versions(std::vector<ScheduleVersion>& versions) const;
     /// As ScheduleHost::versionTasks; kNoVersion stands for what is saved.
@@ -33,6 +39,7 @@ private:
     StoreResult read(const Reading& reading) const;
 
     QString m_path;
+    std::function<bool()> m_isNeedless;
 };
 
 } // namespace trel::mediadispatch

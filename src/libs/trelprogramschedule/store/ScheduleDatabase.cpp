@@ -9,6 +9,7 @@
 #include "StoreRevisions.h"
 #include "StoreTaskReader.h"
 #include "StoreTaskWriter.h"
+#include "StoreVersionWriter.h"
 #include "StoreVersions.h"
 #include "ThisProgram.h"
 #include "catalogue/ProgramImporter.h"
@@ -198,9 +199,8 @@ StoreResult ScheduleDatabase::writeTasks(const TaskMap& tasks, const TaskEdits& 
         if (edits.isEmpty()) {
             return;
         }
-        StoreVersions(connection(), path())
-            .keep(revision, edits, tasks,
-                  {Clock::current().msecsSinceEpoch(), thisProgram(), restored});
+        StoreVersionWriter(connection(), path())
+            .keep(revision, edits, {Clock::current().msecsSinceEpoch(), thisProgram(), restored});
         StoreTaskWriter(connection()).write(edits);
         connection().run(
             QStringLiteral("UPDATE store SET schedule_revision = schedule_revision + 1"));

@@ -2,80 +2,22 @@
 
 #include "ScheduleLimits.h"
 #include "StoreConnection.h"
+#include "StoreDeadline.h"
 #include "StoreRefusals.h"
 #include "StoreSchema.h"
 #include "StoreStatement.h"
 #include "StoreTaskReader.h"
-#include "history/FormerPieces.h"
 #include "history/FormerTasks.h"
-#include "history/VersionThinning.h"
 
 #include <QStringList>
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
-#include <set>
 #include <utility>
 
 namespace trel::mediadispatch {
 
 namespace {
-
-/// To look through all versions with every save would cost more than a version itself.
-constexpr qint64 kSavesToThinning = 16;
-
-/// Whether more than marks of collision tells two states of a task apart.
-bool isOther(const PlayTask& before, const PlayTask& after)
-{
-    if (!isSame(TaskAspect::Dates, before, after) || !isSame(TaskAspect::Lists, before, after)) {
-        return true;
-    }
-    const auto isSamePlan = [](const PlayPlan& one, PlayPlan other) {
-        other.isConflict = one.isConflict;
-        return one == other;
-    };
-    return !std::equal(before.plans.begin(), before.plans.end(), after.plans.begin(),
-                       after.plans.end(), isSamePlan);
-}
-
-/// Which number of a change counts a task; null for none.
-int* countOf(VersionChange& change, const FormerTask& former, const TaskMap& tasks)
-{
-    const auto after = tasks.find(former.taskId);
-    if (former.task == nullptr) {
-        return &change.added;
-    }
-    if (after == tasks.end()) {
-        return &change.removed;
-    }
-    return isOther(*former.task, after->second) ? &change.changed : nullptr;
-}
-
-VersionChange changeOf(const TaskEdits& edits, const TaskMap& tasks)
-{
-    VersionChange change;
-    for (const FormerTask& former : edits.former) {
-        int* const count = countOf(change, former, tasks);
-        if (count == nullptr) {
-            continue;
-        }
-        ++*count;
-        if (change.taskIds.size() < kMostVersionTasks) {
-            change.taskIds.push_back(former.taskId);
-        }
-    }
-    return change;
-}
-
-QString idsText(const std::vector<int>& ids)
-{
-    QStringList words;
-    for (const int id : ids) {
-        words.append(QString::number(id));
-    }
-    return words.join(QLatin1Char(','));
-}
 
 std::vector<int> idsIn(const QString& text)
 {
@@ -125,7 +67,7 @@ std::vector<ScheduleVersion> StoreVersions::list() const
     return versions;
 }
 
-TaskMap StoreVersions::read(qint64 number) const
+TaskMap StoreVersions::read(qint64 number, const StoreDeadline* deadline) const
 {
     if (!StoreSchema::hasHistory(m_connection) || !contains(number)) {
         refuse(FaultCode::VersionUnknown, number);
@@ -136,6 +78,9 @@ TaskMap StoreVersions::read(qint64 number) const
                        " AND number < (SELECT schedule_revision FROM store) ORDER BY number");
     row.bind(1, number);
     while (row.next()) {
+        if (deadline != nullptr) {
+            deadline->expectTime(m_path);
+        }
         const PieceReader read = pieces(row.number(0));
         const bool isSound =
             read.isWhole() &&
@@ -174,87 +119,6 @@ bool StoreVersions::contains(qint64 number) const
     return row.next();
 }
 
-void StoreVersions::keep(qint64 former, const TaskEdits& edits, const TaskMap& tasks,
-                         const SaveMark& mark) const
-{
-    prepare(former);
-    keepTasks(former, edits, tasks);
-    enter(former + 1, changeOf(edits, tasks), mark);
-    if ((former + 1) % kSavesToThinning == 0) {
-        thinOut(mark.saved);
-    }
-}
-
-void StoreVersions::prepare(qint64 former) const
-{
-    {
-        StoreStatement sound(m_connection, m_path,
-                             "SELECT (SELECT max(number) FROM version) IS ?1"
-                             " AND NOT EXISTS (SELECT 1 FROM version_part WHERE version >= ?1)");
-        sound.bind(1, former);
-        if (sound.next() && sound.number(0) != 0) {
-            return;
-        }
-    }
-    for (const char* sql :
-         {"DELETE FROM version_part WHERE version >= ?", "DELETE FROM version WHERE number > ?",
-          "INSERT OR IGNORE INTO version VALUES (?, 0, '', 0, 0, 0, '', -1, '',"
-          " '')"}) {
-        StoreStatement statement(m_connection, m_path, sql);
-        statement.bind(1, former);
-        statement.run();
-    }
-}
-
-void StoreVersions::keepTasks(qint64 number, const TaskEdits& edits, const TaskMap& tasks) const
-{
-    PieceWriter writer;
-    for (const FormerTask& former : edits.former) {
-        if (former.task == nullptr) {
-            // Tells that there was none.
-            writer.add({former.taskId, TaskAspect::Dates, QByteArray()});
-            continue;
-        }
-        const auto after = tasks.find(former.taskId);
-        for (const TaskAspect aspect : kTaskAspects) {
-            const bool isKnownSame = former.keepsLists && aspect == TaskAspect::Lists;
-            if (!isKnownSame &&
-                (after == tasks.end() || !isSame(aspect, *former.task, after->second))) {
-                writer.add({former.taskId, aspect, aspectBytes(aspect, *former.task)});
-            }
-        }
-    }
-    writeParts(number, writer.take());
-}
-
-void StoreVersions::writeParts(qint64 number, const std::vector<QByteArray>& parts) const
-{
-    StoreStatement row(m_connection, m_path, "INSERT INTO version_part VALUES (?, ?, ?)");
-    row.bind(1, number);
-    qint64 place = 0;
-    for (const QByteArray& part : parts) {
-        row.bind(2, place++);
-        row.bindBytes(3, part);
-        row.run();
-    }
-}
-
-void StoreVersions::enter(qint64 number, const VersionChange& change, const SaveMark& mark) const
-{
-    StoreStatement row(m_connection, m_path,
-                       "INSERT INTO version VALUES (?, ?, ?, ?, ?, ?, ?, ?, '', '')");
-    int place = 0;
-    row.bind(++place, number);
-    row.bind(++place, mark.saved);
-    row.bindText(++place, mark.by);
-    row.bind(++place, change.added);
-    row.bind(++place, change.changed);
-    row.bind(++place, change.removed);
-    row.bindText(++place, idsText(change.taskIds));
-    row.bind(++place, mark.restored);
-    row.run();
-}
-
 void StoreVersions::name(qint64 number, const QString& name, const QString& note) const
 {
     if (!contains(number)) {
@@ -268,57 +132,6 @@ void StoreVersions::name(qint64 number, const QString& name, const QString& note
     row.run();
     // Part of every change; a log that does not belong to the file is known by it.
     m_connection.run(QStringLiteral("UPDATE store SET version_revision = version_revision + 1"));
-}
-
-void StoreVersions::thinOut(Instant now) const
-{
-    std::vector<VersionAge> versions;
-    StoreStatement row(m_connection, m_path,
-                       "SELECT number, saved_ms, name <> '' FROM version ORDER BY number DESC");
-    while (row.next()) {
-        versions.push_back({row.number(0), row.number(1), row.number(2) != 0});
-    }
-    std::set<qint64> left;
-    for (const VersionAge& version : versions) {
-        left.insert(version.number);
-    }
-    for (const qint64 number : versionsToDrop(versions, now)) {
-        const auto place = left.find(number);
-        drop(number, place == left.begin() ? kNoVersion : *std::prev(place));
-        left.erase(place);
-    }
-}
-
-/// The version before takes over what it shares with the one that goes.
-void StoreVersions::drop(qint64 number, qint64 before) const
-{
-    if (before != kNoVersion) {
-        const PieceReader going = pieces(number);
-        const PieceReader staying = pieces(before);
-        if (!going.isWhole() || !staying.isWhole()) {
-            // It stays, or the damage would not show any more.
-            return;
-        }
-        std::set<std::pair<int, TaskAspect>> own;
-        PieceWriter writer;
-        for (const FormerPiece& piece : staying.pieces()) {
-            own.insert({piece.taskId, piece.aspect});
-            writer.add(piece);
-        }
-        for (const FormerPiece& piece : going.pieces()) {
-            if (own.count({piece.taskId, piece.aspect}) == 0) {
-                writer.add(piece);
-            }
-        }
-        StoreStatement remove(m_connection, m_path, "DELETE FROM version_part WHERE version = ?");
-        remove.bind(1, before);
-        remove.run();
-        writeParts(before, writer.take());
-    }
-    // Its parts go along.
-    StoreStatement remove(m_connection, m_path, "DELETE FROM version WHERE number = ?");
-    remove.bind(1, number);
-    remove.run();
 }
 
 void StoreVersions::refuse(FaultCode code, qint64 number) const

@@ -120,6 +120,8 @@ private slots:
     void savesAreKeptWholeOrNotAtAll_data();
     void savesAreKeptWholeOrNotAtAll();
     void aSaveOfOneTaskKeepsOneTask();
+    void aSaveLeavesNothingOpen();
+    void damageStaysWhenVersionsGo();
 };
 
 void tst_StoreVersions::eachSaveMakesOne()
@@ -565,6 +567,66 @@ void tst_StoreVersions::aSaveOfOneTaskKeepsOneTask()
         QVERIFY2(versions.at(2).bytes < 260, qPrintable(QString::number(versions.at(2).bytes)));
         QVERIFY2(versions.at(1).bytes < 500, qPrintable(QString::number(versions.at(1).bytes)));
     }
+}
+
+/// The statements that stay ready from one save to the next hold nothing: the log can be worked
+/// into the file, and the store be left.
+void tst_StoreVersions::aSaveLeavesNothingOpen()
+{
+    StoreFixture store;
+    store.save(sampleSchedule(2, 1, 1));
+    store.save(sampleSchedule(2, 1, 1, 5));
+    {
+        const SqliteConnection other(store.path, SqliteConnection::Access::ReadWrite);
+        QCOMPARE(other.value(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)")).toInt(), 0);
+    }
+    store.save(sampleSchedule(3, 1, 1));
+    QCOMPARE(versionsOf(store.host).size(), std::size_t(4));
+    const QString second = store.folder.filePath(QStringLiteral("second.db"));
+    QVERIFY(store.host.open(second));
+    store.save(sampleSchedule(1, 1, 1));
+    QCOMPARE(versionsOf(store.host).size(), std::size_t(2));
+    QVERIFY(store.host.open(store.path));
+    QCOMPARE(versionsOf(store.host).size(), std::size_t(4));
+}
+
+/// Of versions that go together, those from the damaged one on stay, so that it is still told.
+void tst_StoreVersions::damageStaysWhenVersionsGo()
+{
+    TestClock clock(start());
+    StoreFixture store;
+    for (int save = 1; save <= 207; ++save) {
+        QVERIFY(store.host.replaceSchedule(sampleSchedule(1 + save % 3, 1, 1, save)));
+        clock.advance(1000);
+    }
+    QVERIFY(store.host.nameVersion(1, QStringLiteral("kept"), QString()));
+    const QByteArray first = contentOf(store.host, 1);
+    const auto setPart = [&store](int part) {
+        store.host.close();
+        {
+            const SqliteConnection connection(store.path, SqliteConnection::Access::ReadWrite);
+            connection.run(
+                QStringLiteral("UPDATE version_part SET part = %1 WHERE version = 4").arg(part));
+        }
+        store.open();
+    };
+    setPart(7);
+    // The 208th looks through them: from 2 on as many go as are more than 200.
+    QVERIFY(store.host.replaceSchedule(sampleSchedule(1, 1, 1, 208)));
+    QStringList left;
+    for (const ScheduleVersion& version : versionsOf(store.host)) {
+        if (version.number < 9) {
+            left.append(QString::number(version.number));
+        }
+    }
+    QCOMPARE(left.join(QLatin1Char(' ')), QStringLiteral("8 7 6 5 4 1"));
+    QCOMPARE(contentOf(store.host, 5), textOf(sampleSchedule(1 + 5 % 3, 1, 1, 5)));
+    QCOMPARE(contentOf(store.host, 4), QByteArray("versionDamaged"));
+    QCOMPARE(contentOf(store.host, 1), QByteArray("versionDamaged"));
+    // Mended, those that have gone are found to have left what the first one needs.
+    setPart(0);
+    QCOMPARE(contentOf(store.host, 1), first);
+    QCOMPARE(first, textOf(sampleSchedule(1 + 1 % 3, 1, 1, 1)));
 }
 
 TREL_TEST(tst_StoreVersions, QCoreApplication)

@@ -48,6 +48,7 @@ private slots:
     void takesTheCatalogueOfNow();
     void leavesTheLocksOfTheService();
     void refusesWhatIsNone();
+    void endsWhenItIsNeedless();
 };
 
 void tst_VersionReader::readsWhatTheServiceReads()
@@ -147,6 +148,37 @@ void tst_VersionReader::refusesWhatIsNone()
     result = VersionReader(other.fileName()).tasks(kNoVersion, tasks);
     QVERIFY(!result);
     QCOMPARE(tasks.size(), std::size_t(1));
+}
+
+/// Within what is saved as well as between the versions behind it.
+void tst_VersionReader::endsWhenItIsNeedless()
+{
+    constexpr int many = 1500;
+    StoreFixture store;
+    for (int save = 1; save <= 8; ++save) {
+        QVERIFY(store.host.replaceSchedule(sampleSchedule(many, 2, 2, save)));
+    }
+    for (const qint64 number : {qint64(1), kNoVersion}) {
+        int looks = 0;
+        int most = -1;
+        VersionReader reader(store.path);
+        reader.endWhen([&] { return ++looks == most; });
+        Tasks whole;
+        QVERIFY(reader.tasks(number, whole));
+        QCOMPARE(whole.size(), std::size_t(many));
+        const int all = looks;
+        // A look for each version, and some within a long statement.
+        QVERIFY2(all > (number == kNoVersion ? 1 : 8), qPrintable(QString::number(all)));
+        for (most = 1; most <= all; ++most) {
+            looks = 0;
+            Tasks tasks = {{9, PlayTask()}};
+            const StoreResult result = reader.tasks(number, tasks);
+            QVERIFY(!result);
+            QCOMPARE(int(result.cause.code), int(FaultCode::ReadTooSlow));
+            QCOMPARE(looks, most);
+            QCOMPARE(tasks.size(), std::size_t(1));
+        }
+    }
 }
 
 TREL_TEST(tst_VersionReader, QCoreApplication)

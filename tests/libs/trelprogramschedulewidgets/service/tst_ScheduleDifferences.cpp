@@ -6,6 +6,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <initializer_list>
 #include <random>
 
 using namespace trel::mediadispatch;
@@ -215,6 +216,8 @@ private slots:
     void appliedTheyMakeTheLaterOne();
     void asFewAsCanBe();
     void tellValuesOfBothSides();
+    void tellEveryFieldAsItIs_data();
+    void tellEveryFieldAsItIs();
 };
 
 void tst_ScheduleDifferences::whatIsSameHasNone()
@@ -297,6 +300,70 @@ void tst_ScheduleDifferences::tellValuesOfBothSides()
     const auto ofNote = differencesOfNote({{2, task}}, {{2, later}});
     QCOMPARE(ofNote.size(), std::size_t(1));
     QCOMPARE(int(ofNote[0].field), int(DifferenceField::EndTime));
+}
+
+/// A change of one field is one difference: of that field, with both values and in that place.
+void tst_ScheduleDifferences::tellEveryFieldAsItIs_data()
+{
+    QTest::addColumn<int>("field");
+    for (int field = int(DifferenceField::StartDate); field < kDifferenceFields; ++field) {
+        QTest::newRow(qPrintable(QString::number(field))) << field;
+    }
+}
+
+void tst_ScheduleDifferences::tellEveryFieldAsItIs()
+{
+    QFETCH(int, field);
+    const PlayTask former = everyFieldTask(3);
+    constexpr std::size_t row = 0;
+    constexpr std::size_t place = 1;
+    ScheduleDifference change;
+    change.field = DifferenceField(field);
+    const auto is = [&change](std::initializer_list<DifferenceField> fields) {
+        return std::count(fields.begin(), fields.end(), change.field) > 0;
+    };
+    const bool isOfTask = is({DifferenceField::StartDate, DifferenceField::EndDate});
+    const bool isOfEntry =
+        is({DifferenceField::ProgName, DifferenceField::PlayCount, DifferenceField::IsInvalid});
+    if (isOfTask ||
+        is({DifferenceField::StartTime, DifferenceField::EndTime, DifferenceField::Weeks,
+            DifferenceField::ServiceTime, DifferenceField::ProgName})) {
+        change.after = std::string("another text");
+    } else if (change.field == DifferenceField::ServiceList) {
+        change.after = std::vector<std::int64_t>{1, 2};
+    } else {
+        // Truth values of the first plan and its second entry are all true.
+        const bool isTruth = is({DifferenceField::HasNoDuration, DifferenceField::IsConflict,
+                                 DifferenceField::ServiceFlagA, DifferenceField::ServiceFlagB,
+                                 DifferenceField::IsInvalid});
+        change.after = std::int64_t(isTruth ? 0 : 5);
+    }
+    PlayTask later = former;
+    setField(change, later, later.plans[row], later.plans[row].programs[place]);
+    QVERIFY(!(later == former));
+
+    const Differences found = scheduleDifferences({{3, former}}, {{3, later}});
+    QCOMPARE(found.size(), std::size_t(1));
+    const ScheduleDifference& one = found.front();
+    QCOMPARE(int(one.field), field);
+    QCOMPARE(int(one.kind), int(isOfTask    ? DifferenceKind::TaskField
+                                : isOfEntry ? DifferenceKind::EntryField
+                                            : DifferenceKind::PlanField));
+    QVERIFY(one.after == change.after);
+    QVERIFY(one.before != one.after);
+    QCOMPARE(one.taskId, 3);
+    QCOMPARE(one.row, isOfTask ? -1 : int(row));
+    QCOMPARE(one.place, isOfEntry ? int(place) : -1);
+    // The value before is that which leads back.
+    PlayTask back = later;
+    ScheduleDifference reverse = one;
+    reverse.after = one.before;
+    setField(reverse, back, back.plans[row], back.plans[row].programs[place]);
+    QVERIFY(back == former);
+    const bool isWorkedOut = change.field == DifferenceField::IsConflict;
+    QCOMPARE(isWorkedOutAfresh(one), isWorkedOut);
+    QCOMPARE(differencesOfNote({{3, former}}, {{3, later}}).size(),
+             std::size_t(isWorkedOut ? 0 : 1));
 }
 
 TREL_TEST(tst_ScheduleDifferences, QCoreApplication)
