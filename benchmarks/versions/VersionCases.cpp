@@ -50,7 +50,7 @@ using Edit = std::function<void(TaskMap& tasks, int number)>;
 
 std::string endTime(int number)
 {
-    return "23:00:" + std::to_string(10 + number % 50);
+    return "23:00:" + std::to_string(10 + number % 47);
 }
 
 void moveOneEnd(TaskMap& tasks, int number)
@@ -66,7 +66,7 @@ void changeOneList(TaskMap& tasks, int number)
 void moveAllDates(TaskMap& tasks, int number)
 {
     for (auto& [id, task] : tasks) {
-        task.endDate = "20" + std::to_string(30 + number % 60) + ".01.01";
+        task.endDate = "20" + std::to_string(30 + number % 59) + ".01.01";
     }
 }
 
