@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>Hi&amp;gh contrast</source>
+        <translation>Hoher Kon&amp;trast</translation>
+    </message>
+    <message>
         <source>&amp;As-run of a day…</source>
         <translation>&amp;Sendeprotokoll eines Tages…</translation>
     </message>
@@ -113,6 +117,10 @@
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
+    <message>
+        <source>Import: %1 percent</source>
+        <translation>Import: %1 Prozent</translation>
+    </message>
     <message>
         <source>Now and next</source>
         <translation>Jetzt und danach</translation>
@@ -309,6 +317,14 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
 </context>
 <context>
     <name>HostPrompts</name>
+    <message>
+        <source>Question</source>
+        <translation>Frage</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
     <message>
         <source>OK</source>
         <translation>OK</translation>
@@ -1146,6 +1162,11 @@ Was soll mit Ihren Änderungen geschehen?</translation>
 </context>
 <context>
     <name>Week</name>
+    <message>
+        <source>%1, task %2. %3</source>
+        <comment>day, its task, and a plan with its times and programs</comment>
+        <translation>%1, Auftrag %2. %3</translation>
+    </message>
     <message>
         <source>On screen: %1, at %2</source>
         <translation>Auf dem Bildschirm: %1, bei %2</translation>
@@ -3161,6 +3182,13 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>All files (*)</source>
         <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ScreenNews</name>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Eingespielt: %1</translation>
     </message>
 </context>
 </TS>

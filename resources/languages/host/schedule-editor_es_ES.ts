@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>Hi&amp;gh contrast</source>
+        <translation>Alto con&amp;traste</translation>
+    </message>
+    <message>
         <source>&amp;As-run of a day…</source>
         <translation>&amp;Registro de emisión de un día…</translation>
     </message>
@@ -113,6 +117,10 @@
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
+    <message>
+        <source>Import: %1 percent</source>
+        <translation>Importación: %1 por ciento</translation>
+    </message>
     <message>
         <source>Now and next</source>
         <translation>Ahora y a continuación</translation>
@@ -309,6 +317,14 @@ Cierre esta pregunta para seguir editando.</translation>
 </context>
 <context>
     <name>HostPrompts</name>
+    <message>
+        <source>Question</source>
+        <translation>Pregunta</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensaje</translation>
+    </message>
     <message>
         <source>OK</source>
         <translation>Aceptar</translation>
@@ -1146,6 +1162,11 @@ What do you want to do with your changes?</source>
 </context>
 <context>
     <name>Week</name>
+    <message>
+        <source>%1, task %2. %3</source>
+        <comment>day, its task, and a plan with its times and programs</comment>
+        <translation>%1, tarea %2. %3</translation>
+    </message>
     <message>
         <source>On screen: %1, at %2</source>
         <translation>En pantalla: %1, en %2</translation>
@@ -3161,6 +3182,13 @@ What do you want to do with your changes?</source>
     <message>
         <source>All files (*)</source>
         <translation>Todos los archivos (*)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ScreenNews</name>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Insertado: %1</translation>
     </message>
 </context>
 </TS>

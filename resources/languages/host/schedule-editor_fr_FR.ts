@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>Hi&amp;gh contrast</source>
+        <translation>Con&amp;traste élevé</translation>
+    </message>
+    <message>
         <source>&amp;As-run of a day…</source>
         <translation>&amp;Relevé de diffusion d’un jour…</translation>
     </message>
@@ -113,6 +117,10 @@
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
+    <message>
+        <source>Import: %1 percent</source>
+        <translation>Importation : %1 pour cent</translation>
+    </message>
     <message>
         <source>Now and next</source>
         <translation>Maintenant et ensuite</translation>
@@ -309,6 +317,14 @@ Fermez cette question pour continuer à modifier.</translation>
 </context>
 <context>
     <name>HostPrompts</name>
+    <message>
+        <source>Question</source>
+        <translation>Question</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
     <message>
         <source>OK</source>
         <translation>OK</translation>
@@ -1146,6 +1162,11 @@ Que faire de vos modifications&#xa0;?</translation>
 </context>
 <context>
     <name>Week</name>
+    <message>
+        <source>%1, task %2. %3</source>
+        <comment>day, its task, and a plan with its times and programs</comment>
+        <translation>%1, tâche %2. %3</translation>
+    </message>
     <message>
         <source>On screen: %1, at %2</source>
         <translation>À l’écran&#xa0;: %1, à %2</translation>
@@ -3161,6 +3182,13 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>All files (*)</source>
         <translation>Tous les fichiers (*)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ScreenNews</name>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Inséré : %1</translation>
     </message>
 </context>
 </TS>

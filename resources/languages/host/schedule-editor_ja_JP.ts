@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>Hi&amp;gh contrast</source>
+        <translation>ハイコントラスト(&amp;G)</translation>
+    </message>
+    <message>
         <source>&amp;As-run of a day…</source>
         <translation>一日の放送実績(&amp;A)…</translation>
     </message>
@@ -113,6 +117,10 @@
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
+    <message>
+        <source>Import: %1 percent</source>
+        <translation>取り込み：%1 パーセント</translation>
+    </message>
     <message>
         <source>Now and next</source>
         <translation>現在と次</translation>
@@ -303,6 +311,14 @@ Close this question to keep editing.</source>
 </context>
 <context>
     <name>HostPrompts</name>
+    <message>
+        <source>Question</source>
+        <translation>確認</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>メッセージ</translation>
+    </message>
     <message>
         <source>OK</source>
         <translation>OK</translation>
@@ -1125,6 +1141,11 @@ What do you want to do with your changes?</source>
 </context>
 <context>
     <name>Week</name>
+    <message>
+        <source>%1, task %2. %3</source>
+        <comment>day, its task, and a plan with its times and programs</comment>
+        <translation>%1、タスク %2。%3</translation>
+    </message>
     <message>
         <source>On screen: %1, at %2</source>
         <translation>画面：%1、%2 経過</translation>
@@ -3115,6 +3136,13 @@ What do you want to do with your changes?</source>
     <message>
         <source>All files (*)</source>
         <translation>すべてのファイル (*)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ScreenNews</name>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>割り込み：%1</translation>
     </message>
 </context>
 </TS>

@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>Hi&amp;gh contrast</source>
+        <translation>Alto co&amp;ntraste</translation>
+    </message>
+    <message>
         <source>&amp;As-run of a day…</source>
         <translation>&amp;Registro de exibição de um dia…</translation>
     </message>
@@ -113,6 +117,10 @@
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
+    <message>
+        <source>Import: %1 percent</source>
+        <translation>Importação: %1 por cento</translation>
+    </message>
     <message>
         <source>Now and next</source>
         <translation>Agora e a seguir</translation>
@@ -309,6 +317,14 @@ Feche esta pergunta para continuar editando.</translation>
 </context>
 <context>
     <name>HostPrompts</name>
+    <message>
+        <source>Question</source>
+        <translation>Pergunta</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensagem</translation>
+    </message>
     <message>
         <source>OK</source>
         <translation>OK</translation>
@@ -1146,6 +1162,11 @@ O que deseja fazer com as alterações?</translation>
 </context>
 <context>
     <name>Week</name>
+    <message>
+        <source>%1, task %2. %3</source>
+        <comment>day, its task, and a plan with its times and programs</comment>
+        <translation>%1, tarefa %2. %3</translation>
+    </message>
     <message>
         <source>On screen: %1, at %2</source>
         <translation>Na tela: %1, em %2</translation>
@@ -3161,6 +3182,13 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>All files (*)</source>
         <translation>Todos os arquivos (*)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ScreenNews</name>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Inserido: %1</translation>
     </message>
 </context>
 </TS>

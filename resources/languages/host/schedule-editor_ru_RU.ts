@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>Hi&amp;gh contrast</source>
+        <translation>Высокая контр&amp;астность</translation>
+    </message>
+    <message>
         <source>&amp;As-run of a day…</source>
         <translation>&amp;Отчёт о показе за день…</translation>
     </message>
@@ -113,6 +117,10 @@
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
+    <message>
+        <source>Import: %1 percent</source>
+        <translation>Импорт: %1 процентов</translation>
+    </message>
     <message>
         <source>Now and next</source>
         <translation>Сейчас и далее</translation>
@@ -315,6 +323,14 @@ Close this question to keep editing.</source>
 </context>
 <context>
     <name>HostPrompts</name>
+    <message>
+        <source>Question</source>
+        <translation>Вопрос</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Сообщение</translation>
+    </message>
     <message>
         <source>OK</source>
         <translation>ОК</translation>
@@ -1167,6 +1183,11 @@ What do you want to do with your changes?</source>
 </context>
 <context>
     <name>Week</name>
+    <message>
+        <source>%1, task %2. %3</source>
+        <comment>day, its task, and a plan with its times and programs</comment>
+        <translation>%1, задание %2. %3</translation>
+    </message>
     <message>
         <source>On screen: %1, at %2</source>
         <translation>На экране: %1, прошло %2</translation>
@@ -3207,6 +3228,13 @@ What do you want to do with your changes?</source>
     <message>
         <source>All files (*)</source>
         <translation>Все файлы (*)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ScreenNews</name>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>Вставка: %1</translation>
     </message>
 </context>
 </TS>

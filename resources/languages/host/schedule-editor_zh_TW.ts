@@ -15,6 +15,10 @@
 <context>
     <name>trel::desktop::EditorMenus</name>
     <message>
+        <source>Hi&amp;gh contrast</source>
+        <translation>高對比(&amp;G)</translation>
+    </message>
+    <message>
         <source>&amp;As-run of a day…</source>
         <translation>單日播出記錄(&amp;A)…</translation>
     </message>
@@ -113,6 +117,10 @@
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
+    <message>
+        <source>Import: %1 percent</source>
+        <translation>匯入：百分之 %1</translation>
+    </message>
     <message>
         <source>Now and next</source>
         <translation>目前與接下來</translation>
@@ -303,6 +311,14 @@ Close this question to keep editing.</source>
 </context>
 <context>
     <name>HostPrompts</name>
+    <message>
+        <source>Question</source>
+        <translation>詢問</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>訊息</translation>
+    </message>
     <message>
         <source>OK</source>
         <translation>確定</translation>
@@ -1111,7 +1127,7 @@ What do you want to do with your changes?</source>
     </message>
     <message>
         <source>Cut in: %1</source>
-        <translation>插播：%1</translation>
+        <translation>已插播：%1</translation>
     </message>
     <message>
         <source>Original list: %1</source>
@@ -1125,6 +1141,11 @@ What do you want to do with your changes?</source>
 </context>
 <context>
     <name>Week</name>
+    <message>
+        <source>%1, task %2. %3</source>
+        <comment>day, its task, and a plan with its times and programs</comment>
+        <translation>%1，任務 %2。%3</translation>
+    </message>
     <message>
         <source>On screen: %1, at %2</source>
         <translation>螢幕：%1，已播 %2</translation>
@@ -1195,7 +1216,7 @@ What do you want to do with your changes?</source>
     </message>
     <message>
         <source>Cut in: %1</source>
-        <translation>插播：%1</translation>
+        <translation>已插播：%1</translation>
     </message>
     <message>
         <source>Skipped</source>
@@ -3115,6 +3136,13 @@ What do you want to do with your changes?</source>
     <message>
         <source>All files (*)</source>
         <translation>所有檔案 (*)</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::ScreenNews</name>
+    <message>
+        <source>Cut in: %1</source>
+        <translation>已插播：%1</translation>
     </message>
 </context>
 </TS>

@@ -162,6 +162,7 @@ void EditorMenus::retranslate()
     m_asRun->setText(tr("&As-run of a day…"));
     m_themes->actions().at(0)->setText(tr("&Dark theme"));
     m_themes->actions().at(1)->setText(tr("&Light theme"));
+    m_themes->actions().at(2)->setText(tr("Hi&gh contrast"));
     m_language->setTitle(tr("&Language"));
 }
 

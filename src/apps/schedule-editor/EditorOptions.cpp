@@ -46,9 +46,10 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
     const QCommandLineOption language(QStringLiteral("language"),
                                       QStringLiteral("Start in this language, such as en_US."),
                                       QStringLiteral("NAME"));
-    const QCommandLineOption theme(QStringLiteral("theme"),
-                                   QStringLiteral("Start in this theme, dark or light."),
-                                   QStringLiteral("NAME"));
+    const QCommandLineOption theme(
+        QStringLiteral("theme"),
+        QStringLiteral("Start in this theme: dark, light or high-contrast."),
+        QStringLiteral("NAME"));
     parser.addOptions({database, demonstration, screenshot, edit, language, theme});
     parser.addPositionalArgument(QStringLiteral("DATABASE"),
                                  QStringLiteral("A schedule to open, as with --database."),

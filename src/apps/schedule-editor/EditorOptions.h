@@ -13,7 +13,7 @@ struct EditorOptions
     QString screenshot;  ///< Where to write a picture of the editor before ending; empty for none.
     bool edit = false;   ///< Open the editor at once.
     QString language;    ///< Empty for the language last chosen.
-    QString theme;       ///< "dark" or "light"; empty for the theme last chosen.
+    QString theme;       ///< "dark", "light", "high-contrast"; empty for that last chosen.
     QStringList imports; ///< Media to import at the start; never a database.
 };
 

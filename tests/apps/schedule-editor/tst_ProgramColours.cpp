@@ -26,6 +26,9 @@ std::vector<int> manyIndexes()
 ThemeColours theme()
 {
     const QString name = QString::fromLatin1(QTest::currentDataTag());
+    if (name == QLatin1String("high-contrast")) {
+        return contrastColours();
+    }
     return name == QLatin1String("dark") ? darkColours() : lightColours();
 }
 

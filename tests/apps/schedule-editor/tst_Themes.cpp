@@ -136,7 +136,7 @@ void tst_Themes::theMenuSwitchesAndMarks()
             actions.append(entry);
         }
     }
-    QCOMPARE(actions.size(), 2);
+    QCOMPARE(actions.size(), 3);
     QVERIFY(actions[0]->isChecked());
 
     actions[1]->trigger();
@@ -147,6 +147,10 @@ void tst_Themes::theMenuSwitchesAndMarks()
 
     m_host->themes.select(QStringLiteral("light"));
     QCOMPARE(changed.count(), 1);
+
+    actions[2]->trigger();
+    QCOMPARE(m_host->themes.current(), QStringLiteral("high-contrast"));
+    QVERIFY(actions[2]->isChecked());
 }
 
 void tst_Themes::anUnknownNameChoosesTheDefault()

@@ -434,6 +434,9 @@ int EditorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
     case SH_EtchDisabledText:
     case SH_DitherDisabledText:
     case SH_UnderlineShortcut:
+    // Nothing moves of itself: what a system says of motion does not always reach the toolkit.
+    case SH_Widget_Animate:
+    case SH_Widget_Animation_Duration:
         return 0;
     case SH_ItemView_ShowDecorationSelected:
         return 1;

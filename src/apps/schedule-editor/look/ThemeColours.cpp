@@ -64,6 +64,32 @@ void setLightWeek(ThemeColours& colours)
     colours.weekNowText = Qt::white;
 }
 
+void setContrastWeek(ThemeColours& colours)
+{
+    colours.weekGround = Qt::black;
+    colours.weekLine = QColor(0x8a, 0x8a, 0x8a);
+    colours.weekToday = QColor(0x0a, 0x4f, 0xb0);
+    colours.weekBlock = QColor(0x00, 0x3a, 0x7a);
+    colours.weekBlockLine = Qt::white;
+    colours.weekBlockText = Qt::white;
+    colours.weekHidden = QColor(0x1a, 0x1a, 0x1a);
+    colours.weekHiddenPattern = QColor(0x4a, 0x4a, 0x4a);
+    colours.weekHiddenText = Qt::white;
+    colours.weekCollision = QColor(0xff, 0xb0, 0x00);
+    colours.weekBlack = Qt::black;
+    colours.weekBlackText = Qt::white;
+    colours.weekFrozen = QColor(0x00, 0x3b, 0x3b);
+    colours.weekFrozenPattern = QColor(0x00, 0x5a, 0x5a);
+    colours.weekFrozenText = QColor(0xd8, 0xff, 0xff);
+    colours.weekInserted = QColor(0x5a, 0x2a, 0x96);
+    colours.weekInsertedText = Qt::white;
+    colours.weekClock = QColor(0x4a, 0x3a, 0x00);
+    colours.weekClockPattern = QColor(0x6a, 0x54, 0x00);
+    colours.weekClockText = QColor(0xff, 0xf0, 0xb0);
+    colours.weekNow = QColor(0xff, 0x60, 0x60);
+    colours.weekNowText = Qt::black;
+}
+
 void setDisabledTexts(QPalette& palette, const QColor& colour)
 {
     for (const QPalette::ColorRole role :
@@ -85,12 +111,12 @@ ThemeColours darkColours()
     colours.titleHover = QColor(0x30, 0x36, 0x42);
     colours.text = QColor(0xe7, 0xea, 0xef);
     colours.faintText = QColor(0xa2, 0xa9, 0xb6);
-    colours.disabledText = QColor(0x94, 0x9c, 0xaa);
+    colours.disabledText = QColor(0x98, 0xa0, 0xae);
     colours.errorText = QColor(0xff, 0x92, 0x8c);
 
     colours.field = QColor(0x14, 0x16, 0x1b);
-    colours.fieldLine = QColor(0x3d, 0x44, 0x51);
-    colours.fieldLineHover = QColor(0x66, 0x70, 0x82);
+    colours.fieldLine = QColor(0x6b, 0x72, 0x80);
+    colours.fieldLineHover = QColor(0x8e, 0x97, 0xa8);
     colours.disabledField = QColor(0x1f, 0x23, 0x2a);
     colours.disabledLine = QColor(0x2f, 0x35, 0x40);
 
@@ -109,8 +135,8 @@ ThemeColours darkColours()
     colours.icon = QColor(0xc3, 0xc9, 0xd3);
     colours.iconHover = Qt::white;
     colours.iconGround = QColor(0x3a, 0x41, 0x4e);
-    colours.scrollThumb = QColor(0x4a, 0x52, 0x60);
-    colours.scrollThumbHover = QColor(0x68, 0x72, 0x84);
+    colours.scrollThumb = QColor(0x6b, 0x74, 0x84);
+    colours.scrollThumbHover = QColor(0x8e, 0x97, 0xa8);
 
     colours.alternateRow = QColor(0x18, 0x1b, 0x20);
     colours.hoveredRow = QColor(0x24, 0x28, 0x30);
@@ -139,12 +165,12 @@ ThemeColours lightColours()
     colours.titleHover = QColor(0xe5, 0xe9, 0xf0);
     colours.text = QColor(0x1b, 0x1f, 0x27);
     colours.faintText = QColor(0x57, 0x5f, 0x6d);
-    colours.disabledText = QColor(0x5f, 0x67, 0x75);
+    colours.disabledText = QColor(0x5d, 0x65, 0x73);
     colours.errorText = QColor(0xb3, 0x26, 0x1e);
 
     colours.field = Qt::white;
-    colours.fieldLine = QColor(0xbd, 0xc4, 0xd0);
-    colours.fieldLineHover = QColor(0x86, 0x90, 0xa2);
+    colours.fieldLine = QColor(0x7d, 0x85, 0x94);
+    colours.fieldLineHover = QColor(0x5f, 0x68, 0x78);
     colours.disabledField = QColor(0xf0, 0xf1, 0xf4);
     colours.disabledLine = QColor(0xdc, 0xdf, 0xe6);
 
@@ -163,8 +189,8 @@ ThemeColours lightColours()
     colours.icon = QColor(0x48, 0x50, 0x5e);
     colours.iconHover = QColor(0x10, 0x14, 0x1a);
     colours.iconGround = QColor(0xd9, 0xde, 0xe8);
-    colours.scrollThumb = QColor(0xb4, 0xbb, 0xc8);
-    colours.scrollThumbHover = QColor(0x8d, 0x97, 0xa8);
+    colours.scrollThumb = QColor(0x7d, 0x85, 0x94);
+    colours.scrollThumbHover = QColor(0x5f, 0x68, 0x78);
 
     colours.alternateRow = QColor(0xf7, 0xf8, 0xfa);
     colours.hoveredRow = QColor(0xed, 0xf1, 0xf8);
@@ -179,6 +205,68 @@ ThemeColours lightColours()
     colours.stateCollision = QColor(0xc4, 0x1c, 0x1c);
     setLists(colours);
     setLightWeek(colours);
+    return colours;
+}
+
+ThemeColours contrastColours()
+{
+    ThemeColours colours;
+    const QColor raised(0x1a, 0x1a, 0x1a);
+    const QColor hovered(0x2e, 0x2e, 0x2e);
+    const QColor cyan(0x1a, 0xeb, 0xff);
+    // Around lists, where the focus stands in its place: far from black, and from yellow.
+    const QColor edge(0x7c, 0x7c, 0x7c);
+    colours.window = Qt::black;
+    colours.well = Qt::black;
+    colours.card = Qt::black;
+    colours.cardLine = edge;
+    colours.title = raised;
+    colours.titleHover = hovered;
+    colours.text = Qt::white;
+    colours.faintText = QColor(0xe0, 0xe0, 0xe0);
+    colours.disabledText = QColor(0xc8, 0xc8, 0xc8);
+    colours.errorText = QColor(0xff, 0xa8, 0xa2);
+
+    colours.field = Qt::black;
+    colours.fieldLine = Qt::white;
+    colours.fieldLineHover = cyan;
+    colours.disabledField = raised;
+    colours.disabledLine = QColor(0x8c, 0x8c, 0x8c);
+
+    colours.button = Qt::black;
+    colours.buttonHover = hovered;
+    colours.buttonPressed = QColor(0x40, 0x40, 0x40);
+    colours.accent = cyan;
+    colours.accentHover = QColor(0x70, 0xf3, 0xff);
+    colours.accentPressed = QColor(0x00, 0xc8, 0xdc);
+    colours.accentText = Qt::black;
+    colours.accentLine = cyan;
+    colours.tint = QColor(0x00, 0x22, 0x2a);
+    colours.tintHover = QColor(0x00, 0x38, 0x44);
+    colours.focus = QColor(0xff, 0xe1, 0x00);
+
+    colours.icon = Qt::white;
+    colours.iconHover = Qt::black;
+    colours.iconGround = Qt::white;
+    colours.scrollThumb = QColor(0xc8, 0xc8, 0xc8);
+    colours.scrollThumbHover = Qt::white;
+
+    colours.alternateRow = QColor(0x0d, 0x0d, 0x0d);
+    colours.hoveredRow = hovered;
+    colours.selectedRow = QColor(0x0a, 0x4f, 0xb0);
+    colours.header = raised;
+    colours.line = edge;
+    colours.floating = Qt::black;
+
+    colours.state = Qt::black;
+    colours.stateLine = Qt::white;
+    colours.stateFree = QColor(0x6b, 0xff, 0x8b);
+    colours.stateCollision = QColor(0xff, 0x8f, 0x88);
+    setLists(colours);
+    colours.list = Qt::black;
+    colours.listLine = colours.line;
+    colours.listText = Qt::white;
+    setContrastWeek(colours);
     return colours;
 }
 

@@ -6,7 +6,8 @@
 namespace trel::desktop::look {
 
 /// The colours of one theme. Every text reaches a contrast of 4.5 to 1 on each ground that it is
-/// painted on, in every state of its widget.
+/// painted on, in every state of its widget; edges of fields and buttons, thumbs and signs one of 3
+/// to 1 on what is around them.
 struct ThemeColours
 {
     QColor window;
@@ -94,6 +95,8 @@ struct ThemeColours
 
 ThemeColours darkColours();
 ThemeColours lightColours();
+/// For those who see little: light on black, with edges as light as the texts.
+ThemeColours contrastColours();
 
 /// What widgets without a look of their own are painted in.
 QPalette windowPalette(const ThemeColours& colours);

@@ -9,9 +9,13 @@ namespace {
 
 const QLatin1String kDark("dark");
 const QLatin1String kLight("light");
+const QLatin1String kContrast("high-contrast");
 
 look::ThemeColours coloursOf(const QString& name)
 {
+    if (name == kContrast) {
+        return look::contrastColours();
+    }
     return name == kLight ? look::lightColours() : look::darkColours();
 }
 
@@ -49,7 +53,7 @@ Themes::Themes(QApplication& application)
 
 QStringList Themes::names()
 {
-    return {kDark, kLight};
+    return {kDark, kLight, kContrast};
 }
 
 look::ThemeColours Themes::colours() const

@@ -68,7 +68,8 @@ const std::vector<HostMenu>& hostMenus()
           entry("PreviewDock", "&Full-screen preview"), entry("EditorWindow", "&Clock changes"),
           entry("ProblemDock", "Pro&blems"), entry("EditorWindow", "Catal&og"),
           entry("undo::HistoryDock", "&History"), entry("EditorMenus", "&As-run of a day…"),
-          entry("EditorMenus", "&Dark theme"), entry("EditorMenus", "&Light theme")}},
+          entry("EditorMenus", "&Dark theme"), entry("EditorMenus", "&Light theme"),
+          entry("EditorMenus", "Hi&gh contrast")}},
     };
     return menus;
 }
