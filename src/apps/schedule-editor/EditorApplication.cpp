@@ -5,6 +5,7 @@
 #include "Languages.h"
 #include "SaveRescue.h"
 #include "ScheduleSummary.h"
+#include "access/AccessibleParts.h"
 #include "common/DefaultDatabase.h"
 #include "common/StopSignals.h"
 #include "common/ZoneError.h"
@@ -123,6 +124,8 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     QGuiApplication::setDesktopFileName(QStringLiteral("schedule-editor"));
     QGuiApplication::setWindowIcon(look::imageIcon(QStringLiteral("schedule-editor"), QColor()));
     Themes themes(application);
+    // Before there is anything that a screen reader asks for.
+    access::installAccessibleParts();
 
     const bool unattended = isOffScreen() || !options.screenshot.isEmpty();
     if (isOffScreen()) {

@@ -8,6 +8,7 @@
 #include "PendingNotices.h"
 #include "PlainTabTips.h"
 #include "ProblemWords.h"
+#include "access/Announcer.h"
 #include "air/AirBar.h"
 #include "air/AirState.h"
 #include "air/StartAction.h"
@@ -27,6 +28,7 @@
 #include "screen/NowNextPanel.h"
 #include "screen/PreviewDock.h"
 #include "screen/ScreenFollower.h"
+#include "screen/ScreenNews.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
@@ -85,6 +87,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     , m_help(new HelpMenu(*this, editor))
     , m_catalogue(new CataloguePanel(*m_menus, this))
     , m_programs(new QDockWidget(this))
+    , m_announcer(new access::Announcer(this))
     , m_nowNext(new QDockWidget(this))
     , m_clockChanges(new QDockWidget(this))
     , m_notices(new PendingNotices(*this))
@@ -103,6 +106,9 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     buildPanels(languages, themes);
     retranslate();
     resize(kFirstSize);
+    // Some are made sick by what moves of itself, and what a system says of that does not always
+    // reach the toolkit.
+    setAnimated(false);
 
     ScheduleHost::instance().watchFiles();
     ScheduleHost::instance().followStore();
@@ -138,6 +144,9 @@ void EditorWindow::connectMenus()
     connect(m_import, &CatalogueImport::ended, this, &EditorWindow::importEnded);
     connect(m_import, &CatalogueImport::told, this,
             [this](const QString& line) { statusBar()->showMessage(line); });
+    connect(m_import, &CatalogueImport::told, m_announcer, &access::Announcer::say);
+    connect(m_import, &CatalogueImport::tenthDone, this,
+            [this](int tenth) { m_announcer->say(tr("Import: %1 percent").arg(tenth * 10)); });
 }
 
 void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
@@ -146,6 +155,8 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     m_programs->setWidget(m_catalogue);
     addPanel(m_programs, Qt::LeftDockWidgetArea);
     auto* follower = new ScreenFollower(ScheduleHost::instance().dispatch(), this);
+    auto* news = new ScreenNews(*follower, this);
+    connect(news, &ScreenNews::told, m_announcer, &access::Announcer::say);
     m_nowNext->setObjectName(QStringLiteral("nowNextDock"));
     auto* nowNext = new NowNextPanel(*follower, m_nowNext);
     const auto takeColours = [nowNext, &themes] { nowNext->setColours(themes.colours()); };
@@ -191,8 +202,10 @@ void EditorWindow::allowEdits(week::WeekPanel& panel)
 {
     auto* edits = new week::WeekEdits(*m_history, m_editor, this);
     panel.allowEdits(*edits);
-    connect(edits, &week::WeekEdits::refused, this,
-            [this](const QString& why) { statusBar()->showMessage(why); });
+    connect(edits, &week::WeekEdits::refused, this, [this](const QString& why) {
+        statusBar()->showMessage(why);
+        m_announcer->say(why);
+    });
     // The operator goes on in the picture; that the editor has opened is said.
     connect(edits, &week::WeekEdits::editorShown, this, [this] {
         raise();

@@ -12,6 +12,10 @@ class scheduleControlUI;
 
 namespace trel::desktop {
 
+namespace access {
+class Announcer;
+} // namespace access
+
 namespace air {
 class AirState;
 }
@@ -121,6 +125,7 @@ private:
     HelpMenu* m_help;
     CataloguePanel* m_catalogue;
     QDockWidget* m_programs;
+    access::Announcer* m_announcer;
     QDockWidget* m_nowNext;
     QDockWidget* m_clockChanges;
     PendingNotices* m_notices;

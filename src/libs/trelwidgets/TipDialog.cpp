@@ -232,6 +232,8 @@ TipDialog::~TipDialog() = default;
 void TipDialog::setTipText(const QString& text)
 {
     d->text->setText(text);
+    // What a screen reader says besides the title when the prompt opens.
+    setAccessibleDescription(text);
     d->fitText();
 }
 

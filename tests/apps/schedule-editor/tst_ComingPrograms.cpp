@@ -170,8 +170,8 @@ void tst_ComingPrograms::theBlackPictureSaysWhy()
     Window fixture;
     fixture.themes.select(theme);
     auto* preview = fixture.window.findChild<PreviewScreen*>();
-    QVERIFY2(preview->accessibleDescription().contains(QStringLiteral("Choose Start")),
-             qPrintable(preview->accessibleDescription()));
+    QVERIFY2(preview->accessibleName().contains(QStringLiteral("Choose Start")),
+             qPrintable(preview->accessibleName()));
     const QImage picture = pictureOf(preview);
     QCOMPARE(faultOf(picture, preview->rect(), QStringLiteral("why it is black")), QString());
     QVERIFY(shareOf(picture, Qt::black) < 0.99);

@@ -97,7 +97,18 @@ void CatalogueImport::followJob()
                 progress->setMaximum(total);
                 progress->setValue(done);
             });
+    m_tenths = 0;
+    connect(m_job, &ImportJob::progressed, this, &CatalogueImport::countTenths);
     connect(m_job, &ImportJob::finished, this, &CatalogueImport::finish);
+}
+
+void CatalogueImport::countTenths(int done, int total)
+{
+    const int tenths = total > 0 ? static_cast<int>(qint64(done) * 10 / total) : 0;
+    if (tenths > m_tenths) {
+        m_tenths = tenths;
+        emit tenthDone(tenths);
+    }
 }
 
 void CatalogueImport::finish()

@@ -35,6 +35,8 @@ public:
 signals:
     /// What came of an import, in one line.
     void told(const QString& line);
+    /// Another tenth of the files has been looked at: from 1 to 10.
+    void tenthDone(int tenth);
     /// An import that was begun has ended, in whatever way.
     void ended();
 
@@ -42,12 +44,14 @@ private:
     void showProgress();
     void followJob();
     void finish();
+    void countTenths(int done, int total);
     void report(const trel::mediadispatch::ImportScan& scan, int added, int updated);
 
     QWidget& m_window;
     PendingNotices& m_notices;
     ImportJob* m_job = nullptr;
     ImportProgress* m_progress = nullptr;
+    int m_tenths = 0; ///< Told of.
 };
 
 } // namespace trel::desktop

@@ -97,7 +97,7 @@ void CataloguePanel::connectMenus()
     m_table->addActions({m_menus.previewProgram(), m_menus.whereUsed(), m_menus.importFiles(),
                          m_menus.removePrograms()});
     connect(m_menus.previewProgram(), &QAction::triggered, this, [this] {
-        if (const int program = m_table->currentProgram(); program >= 0) {
+        if (const int program = m_table->meantProgram(); program >= 0) {
             preview(program);
         }
     });
@@ -277,7 +277,7 @@ void CataloguePanel::askRemoval(const LookupAnswer& answer)
 
 void CataloguePanel::showUses()
 {
-    const int program = m_table->currentProgram();
+    const int program = m_table->meantProgram();
     if (program < 0) {
         return;
     }

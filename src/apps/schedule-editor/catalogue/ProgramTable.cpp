@@ -59,6 +59,13 @@ std::vector<int> ProgramTable::selectedPrograms() const
     return rows;
 }
 
+int ProgramTable::meantProgram() const
+{
+    const int current = currentProgram();
+    const std::vector<int> selected = current < 0 ? selectedPrograms() : std::vector<int>();
+    return selected.empty() ? current : selected.front();
+}
+
 int ProgramTable::currentProgram() const
 {
     return currentIndex().isValid() ? m_model.program(currentIndex().row()).progIndex : -1;

@@ -31,6 +31,9 @@ public:
     std::vector<int> selectedPrograms() const;
     /// The program that the keyboard is at; -1 for none.
     int currentProgram() const;
+    /// What an entry of the menus means by the program: the current one, or the first that is
+    /// selected where no row is current, as a screen reader may select one. -1 without any.
+    int meantProgram() const;
     /// Selects those of these programs that there are rows of, and nothing else. The keyboard goes
     /// to `current` where there is a row of it.
     void selectPrograms(std::vector<int> programs, int current);

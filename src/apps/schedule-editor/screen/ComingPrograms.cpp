@@ -67,13 +67,33 @@ QString ComingPrograms::nameOf(int index) const
         m_follower.coming()[static_cast<std::size_t>(index)].program.progName));
 }
 
+int ComingPrograms::topOf(int index) const
+{
+    return (index + 1) * (fontMetrics().height() + kLineSpace);
+}
+
+int ComingPrograms::spokenCount() const
+{
+    return static_cast<int>(m_follower.coming().size());
+}
+
+QString ComingPrograms::spokenName(int index) const
+{
+    return momentText(index) + QLatin1Char(' ') + nameOf(index);
+}
+
+QRect ComingPrograms::spokenPlace(int index) const
+{
+    return {0, topOf(index), width(), fontMetrics().height()};
+}
+
 void ComingPrograms::showChange()
 {
     setAccessibleName(tr("Programs to come"));
     QStringList lines;
-    const int count = static_cast<int>(m_follower.coming().size());
+    const int count = spokenCount();
     for (int index = 0; index < count; ++index) {
-        lines.append(momentText(index) + QLatin1Char(' ') + nameOf(index));
+        lines.append(spokenName(index));
     }
     setAccessibleDescription(lines.join(QLatin1Char('\n')));
     setVisible(count > 0);
@@ -102,7 +122,7 @@ void ComingPrograms::paintEvent(QPaintEvent* event)
          tr("Programs to come"));
     const int count = static_cast<int>(m_follower.coming().size());
     for (int index = 0; index < count; ++index) {
-        const int top = (index + 1) * (height + kLineSpace);
+        const int top = topOf(index);
         const int program = m_follower.coming()[static_cast<std::size_t>(index)].state.progIndex;
         const look::ProgramColours colours = look::programColours(program, m_colours);
         const QRect sign = seen(QRect(0, top + (height - kSign) / 2, kSign, kSign));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "access/SpokenParts.h"
 #include "look/ThemeColours.h"
 
 #include <QWidget>
@@ -10,7 +11,7 @@ class ScreenFollower;
 
 /// The programs that come next, a line each with its time and its colour: those of the follower's
 /// coming(). Takes no room while there are none.
-class ComingPrograms : public QWidget
+class ComingPrograms : public QWidget, public access::SpokenParts
 {
     Q_OBJECT
 
@@ -19,6 +20,11 @@ public:
     ComingPrograms(const ScreenFollower& follower, QWidget* parent);
 
     void setColours(const look::ThemeColours& colours);
+
+    /// A line each.
+    int spokenCount() const override;
+    QString spokenName(int index) const override;
+    QRect spokenPlace(int index) const override;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -30,6 +36,7 @@ protected:
 private:
     void showChange();
     QString momentText(int index) const;
+    int topOf(int index) const;
     QString nameOf(int index) const;
 
     const ScreenFollower& m_follower;

@@ -169,11 +169,12 @@ void NowNextPanel::retranslate()
     m_nextTitle->setText(tr("Next"));
     m_nextInserted->setText(tr("Cut in"));
     setAccessibleName(tr("Now and next"));
-    m_picture->setAccessibleName(tr("What the screen shows"));
-    m_program->setAccessibleName(tr("Program on screen"));
+    // What a label shows is its name; what it is about comes behind it.
+    m_picture->setAccessibleDescription(tr("What the screen shows"));
+    m_program->setAccessibleDescription(tr("Program on screen"));
     m_bar->setAccessibleName(tr("Position in the program"));
-    m_reason->setAccessibleName(tr("Why this is on screen"));
-    m_nextProgram->setAccessibleName(tr("Next program"));
+    m_reason->setAccessibleDescription(tr("Why this is on screen"));
+    m_nextProgram->setAccessibleDescription(tr("Next program"));
     showScreen();
     showNext();
 }

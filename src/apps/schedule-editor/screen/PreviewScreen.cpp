@@ -73,12 +73,9 @@ void PreviewScreen::showChange()
 
 void PreviewScreen::describe()
 {
-    const ScreenScene& now = m_follower.now();
-    setAccessibleName(tr("Preview of the screen"));
-    const bool isBlack = now.state.picture == ScreenPicture::Black;
-    setAccessibleDescription(
-        ScreenWords::picture(now.state.picture) + QStringLiteral(": ") +
-        (isBlack ? ScreenWords::reason(now.state, &now.plan) : ScreenWords::program(now)));
+    // What is shown comes first for those who hear it, too.
+    setAccessibleName(ScreenWords::shown(m_follower.now()));
+    setAccessibleDescription(tr("Preview of the screen"));
 }
 
 void PreviewScreen::paintEvent(QPaintEvent* event)

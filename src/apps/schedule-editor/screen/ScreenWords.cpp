@@ -58,6 +58,13 @@ QString ScreenWords::program(ScreenPicture picture, const QString& name)
     return tr("Black screen");
 }
 
+QString ScreenWords::shown(const ScreenScene& scene)
+{
+    const bool isBlack = scene.state.picture == ScreenPicture::Black;
+    return picture(scene.state.picture) + QStringLiteral(": ") +
+           (isBlack ? reason(scene.state, &scene.plan) : program(scene));
+}
+
 QString ScreenWords::entry(const ScreenScene& scene)
 {
     const int entry = scene.state.entry;

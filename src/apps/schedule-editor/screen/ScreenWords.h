@@ -28,6 +28,8 @@ public:
     /// The program's name, or what is there instead of one.
     static QString program(const ScreenScene& scene);
     static QString program(trel::mediadispatch::ScreenPicture picture, const QString& name);
+    /// What is to be seen: the picture with its program, or with why it is black.
+    static QString shown(const ScreenScene& scene);
     /// "Entry 2 of 5, play 1 of 3"; empty where no entry is on screen.
     static QString entry(const ScreenScene& scene);
     /// "Task 1, plan 2"; empty where no plan has or had the screen.

@@ -159,6 +159,16 @@ void WeekLegend::paintEvent(QPaintEvent* event)
     }
 }
 
+QString WeekLegend::spokenName(int index) const
+{
+    return m_programs[static_cast<std::size_t>(index)].name;
+}
+
+QRect WeekLegend::spokenPlace(int /*index*/) const
+{
+    return rect();
+}
+
 void WeekLegend::describe()
 {
     QStringList names;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "access/SpokenParts.h"
 #include "look/ThemeColours.h"
 
 #include <QString>
@@ -13,7 +14,7 @@ struct WeekLayout;
 
 /// What the colours and the patterns of a week mean: its programs, each in its colour, and the
 /// signs of the picture. What has no room is counted, and stands in the tool tip.
-class WeekLegend : public QWidget
+class WeekLegend : public QWidget, public access::SpokenParts
 {
     Q_OBJECT
 
@@ -23,6 +24,11 @@ public:
     /// Takes the programs of a week, in the order in which they first occur. Copies what it needs.
     void setLayoutOfWeek(const WeekLayout& layout);
     void setColours(const look::ThemeColours& colours);
+
+    /// The programs of the week, whether or not they have room.
+    int spokenCount() const override { return static_cast<int>(m_programs.size()); }
+    QString spokenName(int index) const override;
+    QRect spokenPlace(int index) const override;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

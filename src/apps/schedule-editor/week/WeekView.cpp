@@ -1,11 +1,13 @@
 #include "week/WeekView.h"
 
 #include "PlainLines.h"
+#include "access/AccessibleParts.h"
 #include "clock/Clock.h"
 #include "week/DayPainting.h"
 #include "week/FramePainting.h"
 #include "week/WeekReasons.h"
 #include "week/WeekStrip.h"
+#include "week/WeekWords.h"
 
 #include <QGestureEvent>
 #include <QHelpEvent>
@@ -288,6 +290,7 @@ void WeekView::select(const std::optional<BlockRef>& block)
             locale().toString(block->date, QLocale::LongFormat), blockText(*hit(*block)->target()));
     }
     setAccessibleDescription(description);
+    access::tellCurrentPart(*this);
     viewport()->update();
     emit explanationChanged();
 }
@@ -332,6 +335,69 @@ QString WeekView::explanation() const
 {
     const std::optional<WeekHit> place = m_selected ? hit(*m_selected) : std::nullopt;
     return place ? reasonText(*m_schedule, *m_layout, *place, locale()) : QString();
+}
+
+int WeekView::spokenCount() const
+{
+    std::size_t count = 0;
+    for (const WeekColumn& column : m_layout->days) {
+        count += column.blocks.size();
+    }
+    return static_cast<int>(count);
+}
+
+BlockRef WeekView::blockAt(int index) const
+{
+    auto left = static_cast<std::size_t>(index);
+    auto column = m_layout->days.begin();
+    while (left >= column->blocks.size()) {
+        left -= column->blocks.size();
+        ++column;
+    }
+    return {column->date, column->blocks[left].row};
+}
+
+QString WeekView::spokenName(int index) const
+{
+    const BlockRef ref = blockAt(index);
+    const WeekColumn& column = m_layout->days[static_cast<std::size_t>(*m_layout->dayOf(ref.date))];
+    return Words::tr("%1, task %2. %3", "day, its task, and a plan with its times and programs")
+        .arg(locale().toString(column.date, QLocale::LongFormat),
+             QString::number(column.task.value_or(-1)), blockText(*column.blockOf(ref.row)));
+}
+
+QString WeekView::spokenDescription(int index) const
+{
+    return reasonText(*m_schedule, *m_layout, *hit(blockAt(index)), locale());
+}
+
+QRect WeekView::spokenPlace(int index) const
+{
+    const QRect shown = visualRect(blockAt(index)) & viewport()->rect();
+    return shown.isEmpty() ? QRect() : shown.translated(viewport()->pos());
+}
+
+int WeekView::spokenCurrent() const
+{
+    if (!m_selected) {
+        return -1;
+    }
+    int before = 0;
+    for (const WeekColumn& column : m_layout->days) {
+        const WeekBlock* const found =
+            column.date == m_selected->date ? column.blockOf(m_selected->row) : nullptr;
+        if (found != nullptr) {
+            return before + static_cast<int>(found - column.blocks.data());
+        }
+        before += static_cast<int>(column.blocks.size());
+    }
+    return -1;
+}
+
+void WeekView::pressSpoken(int index)
+{
+    select(blockAt(index));
+    activateSelected();
 }
 
 void WeekView::showTip(const QPoint& place, const WeekHit& hit)

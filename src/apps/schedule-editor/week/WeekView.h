@@ -1,5 +1,6 @@
 #pragma once
 
+#include "access/SpokenParts.h"
 #include "look/ThemeColours.h"
 #include "week/BlockSteps.h"
 #include "week/MinuteTimer.h"
@@ -24,7 +25,7 @@ class WeekStrip;
 /// Arrows move the selected block, Enter and a double click activate it, Space shows its tool tip;
 /// plus, minus and 0 change the height of an hour, as do the wheel with Ctrl and a pinch; Home
 /// leads to the present moment, and Page Up and Page Down with Ctrl to another week.
-class WeekView : public QAbstractScrollArea
+class WeekView : public QAbstractScrollArea, public access::SpokenParts
 {
     Q_OBJECT
 
@@ -70,6 +71,17 @@ public:
     /// Selects a block of this week as soon as a picture has it, with the next one at the earliest.
     void selectWhenThere(const BlockRef& block) { m_awaited = block; }
 
+    /// The blocks of the week, day by day and on each day as they begin: with their day, their task
+    /// and what stands in them, and besides why they are on screen or not.
+    int spokenCount() const override;
+    QString spokenName(int index) const override;
+    QString spokenDescription(int index) const override;
+    QRect spokenPlace(int index) const override;
+    int spokenCurrent() const override;
+    bool canPressSpoken() const override { return true; }
+    /// Selects the block and activates it.
+    void pressSpoken(int index) override;
+
 signals:
     /// The operator wants to get to a plan.
     void activated(int taskId, int planRow);
@@ -105,6 +117,8 @@ private:
     /// The first moment of a block; nothing when it does not stand in this week.
     std::optional<WeekHit> hit(const BlockRef& block) const;
 
+    /// The block at a place among all of the week; the place is one of those.
+    BlockRef blockAt(int index) const;
     void select(const std::optional<BlockRef>& block);
     void selectAwaited();
     void step(BlockStep step);

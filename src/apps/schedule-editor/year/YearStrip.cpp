@@ -2,6 +2,7 @@
 
 #include "BidiText.h"
 #include "PlainLines.h"
+#include "access/AccessibleParts.h"
 #include "clock/Clock.h"
 #include "follow/EditedSchedule.h"
 #include "service/DateText.h"
@@ -34,6 +35,18 @@ constexpr int kMostTold = 8;
 QString text(const QDate& day)
 {
     return leftToRight(day.toString(kDateFormat));
+}
+
+QString gapText(const YearStretch& gap)
+{
+    return YearStrip::tr("Gap: no task is valid from %1 to %2.")
+        .arg(text(gap.first), text(gap.last));
+}
+
+QString overlapText(const YearStretch& overlap)
+{
+    return YearStrip::tr("Overlap: several tasks are valid from %1 to %2.")
+        .arg(text(overlap.first), text(overlap.last));
 }
 
 } // namespace
@@ -69,6 +82,7 @@ void YearStrip::showWeek(const QDate& first)
     if (first.year() != m_layout.year && last.year() != m_layout.year) {
         layOut(first.addDays(kDaysOfWeek / 2).year());
     }
+    access::tellCurrentPart(*this);
     update();
 }
 
@@ -256,22 +270,78 @@ QString YearStrip::tip(const QDate& day) const
     const YearStretch* const gap = YearLayout::find(m_layout.gaps, day);
     const YearStretch* const overlap = YearLayout::find(m_layout.overlaps, day);
     if (gap != nullptr) {
-        lines.append(
-            tr("Gap: no task is valid from %1 to %2.").arg(text(gap->first), text(gap->last)));
+        lines.append(gapText(*gap));
     }
     if (overlap != nullptr) {
-        lines.append(tr("Overlap: several tasks are valid from %1 to %2.")
-                         .arg(text(overlap->first), text(overlap->last)));
+        lines.append(overlapText(*overlap));
     }
     for (const YearSpan& span : m_layout.spans) {
         if (span.first <= day && day <= span.last && lines.size() <= kMostTold) {
-            const Validity& validity = m_validities.at(span.taskId);
-            lines.append(
-                tr("Task %1 is valid from %2 to %3.")
-                    .arg(QString::number(span.taskId), text(validity.first), text(validity.last)));
+            lines.append(taskText(span));
         }
     }
     return lines.join(QLatin1Char('\n'));
+}
+
+QString YearStrip::taskText(const YearSpan& span) const
+{
+    const Validity& validity = m_validities.at(span.taskId);
+    return tr("Task %1 is valid from %2 to %3.")
+        .arg(QString::number(span.taskId), text(validity.first), text(validity.last));
+}
+
+int YearStrip::spokenCount() const
+{
+    return static_cast<int>(m_layout.spans.size() + m_layout.gaps.size() +
+                            m_layout.overlaps.size());
+}
+
+const YearStretch& YearStrip::stretchAt(int index, bool& isGap) const
+{
+    const std::size_t place = static_cast<std::size_t>(index) - m_layout.spans.size();
+    isGap = place < m_layout.gaps.size();
+    return isGap ? m_layout.gaps[place] : m_layout.overlaps[place - m_layout.gaps.size()];
+}
+
+QString YearStrip::spokenName(int index) const
+{
+    if (static_cast<std::size_t>(index) < m_layout.spans.size()) {
+        return taskText(m_layout.spans[static_cast<std::size_t>(index)]);
+    }
+    bool isGap = false;
+    const YearStretch& stretch = stretchAt(index, isGap);
+    return isGap ? gapText(stretch) : overlapText(stretch);
+}
+
+QRect YearStrip::spokenPlace(int index) const
+{
+    if (static_cast<std::size_t>(index) < m_layout.spans.size()) {
+        return lane(m_layout.spans[static_cast<std::size_t>(index)]);
+    }
+    bool isGap = false;
+    const YearStretch& stretch = stretchAt(index, isGap);
+    return placeOf(stretch.first, stretch.last);
+}
+
+int YearStrip::spokenCurrent() const
+{
+    const QDate last = m_week.addDays(kDaysOfWeek - 1);
+    const auto found =
+        std::find_if(m_layout.spans.begin(), m_layout.spans.end(), [&](const YearSpan& span) {
+            return span.first <= last && m_week <= span.last;
+        });
+    return found == m_layout.spans.end() ? -1 : static_cast<int>(found - m_layout.spans.begin());
+}
+
+void YearStrip::pressSpoken(int index)
+{
+    if (static_cast<std::size_t>(index) < m_layout.spans.size()) {
+        emit dayChosen(m_layout.spans[static_cast<std::size_t>(index)].first);
+        return;
+    }
+    bool isGap = false;
+    const YearStretch& stretch = stretchAt(index, isGap);
+    emit dayChosen(std::max(stretch.first, QDate(m_layout.year, 1, 1)));
 }
 
 void YearStrip::describe()
@@ -279,12 +349,10 @@ void YearStrip::describe()
     setAccessibleName(tr("Validity of the tasks in %1").arg(m_layout.year));
     QStringList told;
     for (const YearStretch& gap : m_layout.gaps) {
-        told.append(
-            tr("Gap: no task is valid from %1 to %2.").arg(text(gap.first), text(gap.last)));
+        told.append(gapText(gap));
     }
     for (const YearStretch& overlap : m_layout.overlaps) {
-        told.append(tr("Overlap: several tasks are valid from %1 to %2.")
-                        .arg(text(overlap.first), text(overlap.last)));
+        told.append(overlapText(overlap));
     }
     setAccessibleDescription(told.mid(0, kMostTold).join(QLatin1Char(' ')));
 }

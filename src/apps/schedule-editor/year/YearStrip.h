@@ -1,5 +1,6 @@
 #pragma once
 
+#include "access/SpokenParts.h"
 #include "look/ThemeColours.h"
 #include "year/YearLayout.h"
 
@@ -19,7 +20,7 @@ namespace trel::desktop::year {
 ///
 /// It follows the edits while it can be seen. An edit that moves no validity costs nothing but the
 /// tasks that it touches.
-class YearStrip : public QWidget
+class YearStrip : public QWidget, public access::SpokenParts
 {
     Q_OBJECT
 
@@ -36,6 +37,16 @@ public:
     QDate dayAt(const QPoint& place) const;
     /// Where a stretch of days of the year stands.
     QRect placeOf(const QDate& first, const QDate& last) const;
+
+    /// The tasks of the year, then the gaps between them and the days with several.
+    int spokenCount() const override;
+    QString spokenName(int index) const override;
+    QRect spokenPlace(int index) const override;
+    /// The first task that is valid on a day of the week on show.
+    int spokenCurrent() const override;
+    bool canPressSpoken() const override { return true; }
+    /// Leads to the first day.
+    void pressSpoken(int index) override;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -62,6 +73,9 @@ private:
     QString tip(const QDate& day) const;
     QRect days() const;
     QRect lane(const YearSpan& span) const;
+    QString taskText(const YearSpan& span) const;
+    /// The gap or the overlap that is told at a place behind the tasks.
+    const YearStretch& stretchAt(int index, bool& isGap) const;
 
     void paintMonths(QPainter& painter) const;
     void paintSpans(QPainter& painter) const;
