@@ -134,6 +134,9 @@ void tst_AccessibleParts::arrowsTellOfTheBlockTheyReach()
         QVERIFY(reached >= 0);
         const QAccessibleInterface* const block = spoken(week()).child(reached);
         QVERIFY(block->state().focused && block->state().selected);
+        const QString day = week().locale().toString(week().selected()->date, QLocale::LongFormat);
+        QVERIFY2(block->text(QAccessible::Name).startsWith(day),
+                 qPrintable(block->text(QAccessible::Name)));
         QCOMPARE(spoken(week()).focusChild(), block);
     }
 }
