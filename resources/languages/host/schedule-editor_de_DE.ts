@@ -185,6 +185,18 @@
         <translation>Abbrechen</translation>
     </message>
     <message>
+        <source>Changes in the editor that are not saved go with it (tasks %1). Undo brings them back.</source>
+        <translation>Nicht gespeicherte Änderungen im Editor werden mit ersetzt (Aufträge %1). „Rückgängig“ holt sie zurück.</translation>
+    </message>
+    <message>
+        <source>Save, then replace</source>
+        <translation>Speichern, dann ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace without saving</source>
+        <translation>Ohne Speichern ersetzen</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>Speichern</translation>
     </message>
@@ -1849,6 +1861,22 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>Back to what is saved</source>
         <translation>Zurück zum gespeicherten Stand</translation>
+    </message>
+    <message>
+        <source>Saved by another program: tasks %1</source>
+        <translation>Von einer anderen Anwendung gespeichert: Aufträge %1</translation>
+    </message>
+    <message>
+        <source>This takes back what another program has saved as well (tasks %1). Nothing is overwritten before you save, and what was saved there stays among the versions.</source>
+        <translation>Damit wird auch zurückgenommen, was eine andere Anwendung gespeichert hat (Aufträge %1). Bis Sie speichern, wird nichts überschrieben, und das dort Gespeicherte bleibt unter den Versionen.</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Leave it</source>
+        <translation>So lassen</translation>
     </message>
     <message numerus="yes">
         <source>%n tasks edited</source>

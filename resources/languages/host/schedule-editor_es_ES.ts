@@ -185,6 +185,18 @@
         <translation>Cancelar</translation>
     </message>
     <message>
+        <source>Changes in the editor that are not saved go with it (tasks %1). Undo brings them back.</source>
+        <translation>También se sustituyen los cambios del editor que no están guardados (tareas %1). «Deshacer» los recupera.</translation>
+    </message>
+    <message>
+        <source>Save, then replace</source>
+        <translation>Guardar y después sustituir</translation>
+    </message>
+    <message>
+        <source>Replace without saving</source>
+        <translation>Sustituir sin guardar</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>Guardar</translation>
     </message>
@@ -1849,6 +1861,22 @@ What do you want to do with your changes?</source>
     <message>
         <source>Back to what is saved</source>
         <translation>Vuelta a lo guardado</translation>
+    </message>
+    <message>
+        <source>Saved by another program: tasks %1</source>
+        <translation>Guardado por otra aplicación: tareas %1</translation>
+    </message>
+    <message>
+        <source>This takes back what another program has saved as well (tasks %1). Nothing is overwritten before you save, and what was saved there stays among the versions.</source>
+        <translation>Esto deshace también lo que ha guardado otra aplicación (tareas %1). No se sobrescribe nada hasta que usted guarde, y lo que se guardó allí queda entre las versiones.</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Deshacerlo</translation>
+    </message>
+    <message>
+        <source>Leave it</source>
+        <translation>Dejarlo</translation>
     </message>
     <message numerus="yes">
         <source>%n tasks edited</source>

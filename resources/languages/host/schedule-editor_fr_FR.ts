@@ -185,6 +185,18 @@
         <translation>Annuler</translation>
     </message>
     <message>
+        <source>Changes in the editor that are not saved go with it (tasks %1). Undo brings them back.</source>
+        <translation>Les modifications non enregistrées de l’éditeur sont remplacées aussi (tâches %1). «&#xa0;Annuler&#xa0;» les récupère.</translation>
+    </message>
+    <message>
+        <source>Save, then replace</source>
+        <translation>Enregistrer, puis remplacer</translation>
+    </message>
+    <message>
+        <source>Replace without saving</source>
+        <translation>Remplacer sans enregistrer</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>Enregistrer</translation>
     </message>
@@ -1849,6 +1861,22 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>Back to what is saved</source>
         <translation>Retour à ce qui est enregistré</translation>
+    </message>
+    <message>
+        <source>Saved by another program: tasks %1</source>
+        <translation>Enregistré par une autre application&#xa0;: tâches %1</translation>
+    </message>
+    <message>
+        <source>This takes back what another program has saved as well (tasks %1). Nothing is overwritten before you save, and what was saved there stays among the versions.</source>
+        <translation>Cela annule aussi ce qu’une autre application a enregistré (tâches %1). Rien n’est écrasé tant que vous n’enregistrez pas, et ce qui a été enregistré là-bas reste parmi les versions.</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>L’annuler</translation>
+    </message>
+    <message>
+        <source>Leave it</source>
+        <translation>Le laisser</translation>
     </message>
     <message numerus="yes">
         <source>%n tasks edited</source>

@@ -184,6 +184,18 @@
         <translation>キャンセル</translation>
     </message>
     <message>
+        <source>Changes in the editor that are not saved go with it (tasks %1). Undo brings them back.</source>
+        <translation>エディターで保存されていない変更（タスク %1）も置き換えられます。「元に戻す」で復元できます。</translation>
+    </message>
+    <message>
+        <source>Save, then replace</source>
+        <translation>保存してから置き換え</translation>
+    </message>
+    <message>
+        <source>Replace without saving</source>
+        <translation>保存せずに置き換え</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>保存</translation>
     </message>
@@ -1825,6 +1837,22 @@ What do you want to do with your changes?</source>
     <message>
         <source>Back to what is saved</source>
         <translation>保存済みの状態に戻した</translation>
+    </message>
+    <message>
+        <source>Saved by another program: tasks %1</source>
+        <translation>別のアプリが保存：タスク %1</translation>
+    </message>
+    <message>
+        <source>This takes back what another program has saved as well (tasks %1). Nothing is overwritten before you save, and what was saved there stays among the versions.</source>
+        <translation>別のアプリが保存した内容（タスク %1）も取り消されます。保存するまで何も上書きされず、相手が保存した内容はバージョンとして残ります。</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>取り消す</translation>
+    </message>
+    <message>
+        <source>Leave it</source>
+        <translation>そのままにする</translation>
     </message>
     <message numerus="yes">
         <source>%n tasks edited</source>

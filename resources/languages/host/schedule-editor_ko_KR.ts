@@ -184,6 +184,18 @@
         <translation>취소</translation>
     </message>
     <message>
+        <source>Changes in the editor that are not saved go with it (tasks %1). Undo brings them back.</source>
+        <translation>편집기에서 저장되지 않은 변경 내용(작업 %1)도 함께 바뀝니다. “실행 취소”로 되살릴 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Save, then replace</source>
+        <translation>저장 후 바꾸기</translation>
+    </message>
+    <message>
+        <source>Replace without saving</source>
+        <translation>저장하지 않고 바꾸기</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>저장</translation>
     </message>
@@ -1825,6 +1837,22 @@ What do you want to do with your changes?</source>
     <message>
         <source>Back to what is saved</source>
         <translation>저장된 상태로 되돌림</translation>
+    </message>
+    <message>
+        <source>Saved by another program: tasks %1</source>
+        <translation>다른 앱이 저장함: 작업 %1</translation>
+    </message>
+    <message>
+        <source>This takes back what another program has saved as well (tasks %1). Nothing is overwritten before you save, and what was saved there stays among the versions.</source>
+        <translation>다른 앱이 저장한 내용(작업 %1)도 취소됩니다. 저장하기 전에는 아무것도 덮어쓰지 않으며, 그쪽에서 저장한 내용은 버전에 남습니다.</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>취소하기</translation>
+    </message>
+    <message>
+        <source>Leave it</source>
+        <translation>그대로 두기</translation>
     </message>
     <message numerus="yes">
         <source>%n tasks edited</source>

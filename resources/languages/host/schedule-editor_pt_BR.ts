@@ -185,6 +185,18 @@
         <translation>Cancelar</translation>
     </message>
     <message>
+        <source>Changes in the editor that are not saved go with it (tasks %1). Undo brings them back.</source>
+        <translation>As alterações não salvas no editor também são substituídas (tarefas %1). “Desfazer” as traz de volta.</translation>
+    </message>
+    <message>
+        <source>Save, then replace</source>
+        <translation>Salvar e depois substituir</translation>
+    </message>
+    <message>
+        <source>Replace without saving</source>
+        <translation>Substituir sem salvar</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>Salvar</translation>
     </message>
@@ -1849,6 +1861,22 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>Back to what is saved</source>
         <translation>De volta ao que está salvo</translation>
+    </message>
+    <message>
+        <source>Saved by another program: tasks %1</source>
+        <translation>Salvo por outro aplicativo: tarefas %1</translation>
+    </message>
+    <message>
+        <source>This takes back what another program has saved as well (tasks %1). Nothing is overwritten before you save, and what was saved there stays among the versions.</source>
+        <translation>Isso também desfaz o que outro aplicativo salvou (tarefas %1). Nada é sobrescrito antes de você salvar, e o que foi salvo lá fica entre as versões.</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Leave it</source>
+        <translation>Deixar como está</translation>
     </message>
     <message numerus="yes">
         <source>%n tasks edited</source>

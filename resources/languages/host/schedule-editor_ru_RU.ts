@@ -186,6 +186,18 @@
         <translation>Отмена</translation>
     </message>
     <message>
+        <source>Changes in the editor that are not saved go with it (tasks %1). Undo brings them back.</source>
+        <translation>Несохранённые изменения в редакторе тоже будут заменены (задания %1). «Отменить» вернёт их.</translation>
+    </message>
+    <message>
+        <source>Save, then replace</source>
+        <translation>Сохранить и заменить</translation>
+    </message>
+    <message>
+        <source>Replace without saving</source>
+        <translation>Заменить без сохранения</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>Сохранить</translation>
     </message>
@@ -1873,6 +1885,22 @@ What do you want to do with your changes?</source>
     <message>
         <source>Back to what is saved</source>
         <translation>Возврат к сохранённому</translation>
+    </message>
+    <message>
+        <source>Saved by another program: tasks %1</source>
+        <translation>Сохранено другим приложением: задания %1</translation>
+    </message>
+    <message>
+        <source>This takes back what another program has saved as well (tasks %1). Nothing is overwritten before you save, and what was saved there stays among the versions.</source>
+        <translation>При этом отменяется и то, что сохранило другое приложение (задания %1). Пока вы не сохраните, ничего не перезаписывается, а сохранённое там остаётся среди версий.</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>Отменить это</translation>
+    </message>
+    <message>
+        <source>Leave it</source>
+        <translation>Оставить</translation>
     </message>
     <message numerus="yes">
         <source>%n tasks edited</source>

@@ -184,6 +184,18 @@
         <translation>取消</translation>
     </message>
     <message>
+        <source>Changes in the editor that are not saved go with it (tasks %1). Undo brings them back.</source>
+        <translation>编辑器中未保存的更改（任务 %1）也会被替换。“撤销”可以恢复它们。</translation>
+    </message>
+    <message>
+        <source>Save, then replace</source>
+        <translation>保存后替换</translation>
+    </message>
+    <message>
+        <source>Replace without saving</source>
+        <translation>不保存直接替换</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>保存</translation>
     </message>
@@ -1825,6 +1837,22 @@ What do you want to do with your changes?</source>
     <message>
         <source>Back to what is saved</source>
         <translation>恢复为已保存的内容</translation>
+    </message>
+    <message>
+        <source>Saved by another program: tasks %1</source>
+        <translation>由其他软件保存：任务 %1</translation>
+    </message>
+    <message>
+        <source>This takes back what another program has saved as well (tasks %1). Nothing is overwritten before you save, and what was saved there stays among the versions.</source>
+        <translation>这也会撤销其他软件保存的内容（任务 %1）。在您保存之前不会覆盖任何内容，对方保存的内容会留在版本中。</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Leave it</source>
+        <translation>保持不变</translation>
     </message>
     <message numerus="yes">
         <source>%n tasks edited</source>

@@ -184,6 +184,18 @@
         <translation>取消</translation>
     </message>
     <message>
+        <source>Changes in the editor that are not saved go with it (tasks %1). Undo brings them back.</source>
+        <translation>編輯器中未儲存的變更（任務 %1）也會被取代。「復原」可以恢復它們。</translation>
+    </message>
+    <message>
+        <source>Save, then replace</source>
+        <translation>儲存後取代</translation>
+    </message>
+    <message>
+        <source>Replace without saving</source>
+        <translation>不儲存直接取代</translation>
+    </message>
+    <message>
         <source>Save</source>
         <translation>儲存</translation>
     </message>
@@ -1825,6 +1837,22 @@ What do you want to do with your changes?</source>
     <message>
         <source>Back to what is saved</source>
         <translation>恢復為已儲存的內容</translation>
+    </message>
+    <message>
+        <source>Saved by another program: tasks %1</source>
+        <translation>由其他軟體儲存：任務 %1</translation>
+    </message>
+    <message>
+        <source>This takes back what another program has saved as well (tasks %1). Nothing is overwritten before you save, and what was saved there stays among the versions.</source>
+        <translation>這也會復原其他軟體儲存的內容（任務 %1）。在您儲存之前不會覆寫任何內容，對方儲存的內容會留在版本中。</translation>
+    </message>
+    <message>
+        <source>Take it back</source>
+        <translation>復原</translation>
+    </message>
+    <message>
+        <source>Leave it</source>
+        <translation>保持不變</translation>
     </message>
     <message numerus="yes">
         <source>%n tasks edited</source>

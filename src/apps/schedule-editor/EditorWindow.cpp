@@ -29,10 +29,12 @@
 #include "screen/PreviewDock.h"
 #include "screen/ScreenFollower.h"
 #include "screen/ScreenNews.h"
+#include "service/ScheduleDifferences.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 #include "undo/EditHistory.h"
+#include "undo/EditWords.h"
 #include "undo/HistoryActions.h"
 #include "undo/HistoryDock.h"
 #include "versions/VersionsAction.h"
@@ -54,6 +56,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <set>
 
 using namespace trel::mediadispatch;
 
@@ -429,11 +432,7 @@ void EditorWindow::importSchedule()
         tell(problems::unreadable(name, schedule));
         return;
     }
-    const bool isMeant =
-        prompts::confirmLoss(tr("Replace the whole schedule with the %n tasks in this file?",
-                                nullptr, static_cast<int>(schedule.tasks.size())),
-                             tr("Replace"), tr("Cancel"));
-    if (!isMeant) {
+    if (!mayReplace(static_cast<int>(schedule.tasks.size()))) {
         return;
     }
     if (const StoreResult result = ScheduleHost::instance().replaceSchedule(schedule.tasks);
@@ -442,6 +441,38 @@ void EditorWindow::importSchedule()
         return;
     }
     showReplacedSchedule();
+}
+
+bool EditorWindow::mayReplace(int tasks)
+{
+    // What is being typed is a change that is not saved, too.
+    takeOverTyping();
+    const ScheduleHost& host = ScheduleHost::instance();
+    const QString question =
+        tr("Replace the whole schedule with the %n tasks in this file?", nullptr, tasks);
+    if (!m_editor.isVisible() || !host.hasUnsavedChanges()) {
+        return prompts::confirmLoss(question, tr("Replace"), tr("Cancel"));
+    }
+    std::set<int> edited;
+    for (const ScheduleDifference& one : differencesOfNote(m_drafts->saved(), host.workingSet())) {
+        edited.insert(one.taskId);
+    }
+    const QString store = host.path();
+    const int answer = prompts::confirm(
+        question + QStringLiteral("\n\n") +
+            tr("Changes in the editor that are not saved go with it (tasks %1). Undo brings them "
+               "back.")
+                .arg(undo::EditWords::ids(edited)),
+        tr("Save, then replace"), tr("Replace without saving"), tr("Cancel"));
+    // While the question stood, anything may have happened.
+    if ((answer != 1 && answer != 2) || host.path() != store) {
+        return false;
+    }
+    if (answer == 1) {
+        // Through the service, so that a failure takes the same way as any other.
+        scheduleManage::getInstance().save();
+    }
+    return answer == 2 || !host.hasUnsavedChanges();
 }
 
 void EditorWindow::importMedia(const QStringList& paths)

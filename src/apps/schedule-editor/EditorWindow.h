@@ -114,6 +114,8 @@ private:
     void makeDatabase();
     void exportSchedule();
     void importSchedule();
+    /// Asks before so many tasks out of a file take the place of all, and of what is not saved.
+    bool mayReplace(int tasks);
     void showReplacedSchedule();
     void showAsRun();
     void takeOverTyping();

@@ -1,5 +1,6 @@
 #include "undo/EditHistory.h"
 
+#include "HostPrompts.h"
 #include "follow/EditedSchedule.h"
 #include "scheduleControlUI.h"
 #include "service/scheduleManage.h"
@@ -29,6 +30,21 @@ follow::SharedTask workingTask(int taskId)
     return task == tasks.end() ? nullptr : std::make_shared<const PlayTask>(task->second);
 }
 
+/// Entries go bad when their program leaves the catalog, which is no save.
+follow::SharedTask withSoundEntries(const follow::SharedTask& task)
+{
+    if (!task) {
+        return nullptr;
+    }
+    auto sound = std::make_shared<PlayTask>(*task);
+    for (PlayPlan& plan : sound->plans) {
+        for (struProgInfo& entry : plan.programs) {
+            entry.isInvalid = false;
+        }
+    }
+    return sound;
+}
+
 /// The keys of the menu, which a field would take for its own text.
 bool isOfHistory(const QKeyEvent& event)
 {
@@ -44,6 +60,7 @@ EditHistory::EditHistory(follow::EditedSchedule& edited, scheduleControlUI& edit
     , m_editor(editor)
 {
     m_known = edited.everything().tasks;
+    m_lastSaved = m_known;
     connect(&edited, &follow::EditedSchedule::edited, this, &EditHistory::take);
     connect(&ScheduleHost::instance(), &ScheduleHost::storedSetChanged, this,
             &EditHistory::markSaved);
@@ -81,6 +98,7 @@ void EditHistory::clear()
     for (const auto& [id, task] : ScheduleHost::instance().workingSet()) {
         m_known.emplace_hint(m_known.end(), id, std::make_shared<const PlayTask>(task));
     }
+    m_lastSaved = m_known;
     m_saved = {0};
     m_opened.clear();
     m_openedNow.reset();
@@ -168,7 +186,7 @@ void EditHistory::add(TaskEdits edits)
     if (edits.empty()) {
         return;
     }
-    const EditedField field = m_isReadAgain ? EditedField{EditKind::ReadAgain} : editedField(edits);
+    const EditedField field = m_isReadAgain ? fieldOfReading(edits) : editedField(edits);
     const auto put = [this, catalogue = m_catalogue](int taskId, const follow::SharedTask& task) {
         this->put(taskId, task, catalogue);
     };
@@ -185,12 +203,26 @@ void EditHistory::add(TaskEdits edits)
     }
 }
 
+EditedField EditHistory::fieldOfReading(const TaskEdits& edits) const
+{
+    const bool isOwn = std::all_of(edits.begin(), edits.end(), [this](const TaskEdit& edit) {
+        const auto saved = m_lastSaved.find(edit.taskId);
+        return isSameToOperator(
+            withSoundEntries(edit.after),
+            withSoundEntries(saved == m_lastSaved.end() ? nullptr : saved->second));
+    });
+    EditedField field;
+    field.kind = isOwn ? EditKind::ReadAgain : EditKind::SavedElsewhere;
+    return field;
+}
+
 void EditHistory::markSaved()
 {
     catchUp();
     if (ScheduleHost::instance().hasUnsavedChanges()) {
         return;
     }
+    m_lastSaved = m_known;
     m_saved.insert(stateNumber(index()));
     emit changed();
 }
@@ -258,29 +290,54 @@ bool EditHistory::begin()
 void EditHistory::undo()
 {
     if (begin()) {
-        moveTo(index() - 1);
+        walkTo(index() - 1);
     }
 }
 
 void EditHistory::redo()
 {
     if (begin()) {
-        moveTo(index() + 1);
+        walkTo(index() + 1);
     }
 }
 
 void EditHistory::goTo(int steps)
 {
     if (begin()) {
-        moveTo(steps);
+        walkTo(steps);
     }
 }
 
-void EditHistory::moveTo(int steps)
+void EditHistory::walkTo(int steps)
 {
     if (steps < 0 || steps > count()) {
         return;
     }
+    const QPointer<EditHistory> self(this);
+    const int state = stateNumber(index());
+    // While a question stands, anything may happen.
+    if (mayWalkTo(steps) && self && m_isAtWork && stateNumber(index()) == state) {
+        moveTo(steps);
+    }
+}
+
+bool EditHistory::mayWalkTo(int steps) const
+{
+    std::set<int> tasks;
+    for (int i = steps; i < index(); ++i) {
+        if (step(i).field().kind != EditKind::SavedElsewhere) {
+            continue;
+        }
+        for (const TaskEdit& edit : step(i).edits()) {
+            tasks.insert(edit.taskId);
+        }
+    }
+    return tasks.empty() || prompts::confirmLoss(EditWords::takingBackOfOther(tasks),
+                                                 EditWords::takeBack(), EditWords::leave());
+}
+
+void EditHistory::moveTo(int steps)
+{
     std::set<int> tasks;
     for (int i = std::min(steps, index()); i < std::max(steps, index()); ++i) {
         for (const TaskEdit& edit : step(i).edits()) {

@@ -27,6 +27,7 @@ class EditedSchedule;
 namespace undo {
 
 class EditCommand;
+struct EditedField;
 
 /// Every step of the operator that reached the working set since the store was opened, to be taken
 /// back and done again. That the editor was opened, a save, and a list that is read again and drops
@@ -36,6 +37,10 @@ class EditCommand;
 /// hidden, as its edits go when it is next shown, nor while a prompt stands over it. What is half
 /// typed is a step of its own, which is taken back first. There is no limit: a step costs the
 /// memory of the tasks that it changed.
+///
+/// What another program has saved, and the list has read, is a step as well, since the steps before
+/// it lead to what was there then. Whoever goes back behind it takes it out of the schedule, and is
+/// asked first.
 class EditHistory : public QObject
 {
     Q_OBJECT
@@ -91,12 +96,18 @@ private:
     /// Takes in what has not been told yet.
     void catchUp();
     void add(TaskEdits edits);
+    /// The saved schedule was read, and so many tasks are others.
+    EditedField fieldOfReading(const TaskEdits& edits) const;
     void markSaved();
     void markOpened();
     /// What tells the state after so many steps from all others; 0 is the start.
     int stateNumber(int steps) const;
     /// Takes in what is half typed. False when nothing can be taken back now.
     bool begin();
+    /// Goes there if the operator means it.
+    void walkTo(int steps);
+    /// False where what another program has saved would be taken back, and is not to be.
+    bool mayWalkTo(int steps) const;
     void leaveKeysTo(QWidget* field);
     void moveTo(int steps);
     void setAtWork(bool isAtWork);
@@ -107,6 +118,8 @@ private:
     QLocale m_locale;
     /// The working set after the last step that is known.
     std::map<int, follow::SharedTask> m_known;
+    /// What was saved last, as far as this program has saved or read it.
+    std::map<int, follow::SharedTask> m_lastSaved;
     std::set<int> m_due;         ///< Tasks that have been put, but not shown.
     std::set<int> m_saved = {0}; ///< The numbers of the states that were saved.
     std::set<int> m_opened;      ///< Those that the editor was opened with.

@@ -1,11 +1,13 @@
 #include "undo/EditWords.h"
 
+#include "screen/ScreenWords.h"
 #include "service/WeekDays.h"
 #include "undo/EditedField.h"
 
 #include <QStringList>
 
 #include <algorithm>
+#include <set>
 #include <vector>
 
 using namespace trel::mediadispatch;
@@ -24,6 +26,15 @@ QString span(const PlayPlan& plan)
     return QStringLiteral("%1 – %2").arg(text(plan.startTime), text(plan.endTime));
 }
 
+std::set<int> tasksOf(const TaskEdits& edits)
+{
+    std::set<int> tasks;
+    for (const TaskEdit& edit : edits) {
+        tasks.insert(edit.taskId);
+    }
+    return tasks;
+}
+
 /// The plan of the field where the task has it; else an empty one.
 PlayPlan planOf(const follow::SharedTask& task, int row)
 {
@@ -40,6 +51,8 @@ QString EditWords::name(const EditedField& field, const TaskEdits& edits, const 
     switch (field.kind) {
     case EditKind::ReadAgain:
         return tr("Back to what is saved");
+    case EditKind::SavedElsewhere:
+        return tr("Saved by another program: tasks %1").arg(ids(tasksOf(edits)));
     case EditKind::Tasks:
         return tr("%n tasks edited", nullptr, static_cast<int>(edits.size()));
     case EditKind::TaskAdded:
@@ -57,6 +70,37 @@ QString EditWords::name(const EditedField& field, const TaskEdits& edits, const 
     default:
         return planName(field, edit, locale);
     }
+}
+
+QString EditWords::ids(const std::set<int>& tasks)
+{
+    constexpr int most = 8;
+    QStringList words;
+    for (const int id : tasks) {
+        if (words.size() == most) {
+            words.append(QStringLiteral("…"));
+            break;
+        }
+        words.append(QString::number(id));
+    }
+    return ScreenWords::joined(words);
+}
+
+QString EditWords::takingBackOfOther(const std::set<int>& tasks)
+{
+    return tr("This takes back what another program has saved as well (tasks %1). Nothing is "
+              "overwritten before you save, and what was saved there stays among the versions.")
+        .arg(ids(tasks));
+}
+
+QString EditWords::takeBack()
+{
+    return tr("Take it back");
+}
+
+QString EditWords::leave()
+{
+    return tr("Leave it");
 }
 
 QString EditWords::planName(const EditedField& field, const TaskEdit& edit, const QLocale& locale)

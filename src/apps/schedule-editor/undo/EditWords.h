@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QString>
 
+#include <set>
 #include <string>
 
 namespace trel::desktop::undo {
@@ -21,6 +22,14 @@ public:
     /// "Task 1, plan 3: end 14:00:00 → 15:00:00". The edits may not be empty, and the field is
     /// theirs. Days are named as in the locale.
     static QString name(const EditedField& field, const TaskEdits& edits, const QLocale& locale);
+    /// "1, 2, 3"; of many the first ones.
+    static QString ids(const std::set<int>& tasks);
+
+    /// The question whether what another program has saved in these tasks is to be taken back, and
+    /// its answers.
+    static QString takingBackOfOther(const std::set<int>& tasks);
+    static QString takeBack();
+    static QString leave();
 
 private:
     static QString planName(const EditedField& field, const TaskEdit& edit, const QLocale& locale);

@@ -22,8 +22,9 @@ enum class EditKind {
     Runs,
     EndAction,
     End,
-    Carried, ///< What the service carries and nobody sees.
-    Moved,   ///< Both times, as when a block of the week is dragged.
+    Carried,        ///< What the service carries and nobody sees.
+    Moved,          ///< Both times, as when a block of the week is dragged.
+    SavedElsewhere, ///< As ReadAgain, with what another program has saved meanwhile.
 };
 
 struct EditedField

@@ -9,13 +9,16 @@ namespace trel::desktop::versions {
 
 namespace {
 
-StoreResult readState(const ComparisonQuestion& question, ComparedState& state)
+StoreResult readState(const ComparisonQuestion& question, const follow::Cancellation& cancellation,
+                      ComparedState& state)
 {
+    VersionReader reader(question.store);
+    reader.endWhen([&cancellation] { return cancellation.isCancelled(); });
     switch (state.state.kind) {
     case ScheduleState::Version:
-        return VersionReader(question.store).tasks(state.state.number, state.tasks);
+        return reader.tasks(state.state.number, state.tasks);
     case ScheduleState::Saved:
-        return VersionReader(question.store).tasks(kNoVersion, state.tasks);
+        return reader.tasks(kNoVersion, state.tasks);
     case ScheduleState::InEffect:
         break;
     }
@@ -50,7 +53,7 @@ std::shared_ptr<const StateComparison> compareStates(const ComparisonQuestion& q
         if (!made->result || cancellation.isCancelled()) {
             return made;
         }
-        made->result = readState(question, *state);
+        made->result = readState(question, cancellation, *state);
     }
     if (!made->result) {
         return made;

@@ -82,6 +82,9 @@ void VersionsWindow::build()
     columns->resizeSection(VersionModel::ByColumn, 100);
     columns->resizeSection(VersionModel::ChangeColumn, 140);
     columns->resizeSection(VersionModel::NameColumn, 80);
+    // The last one only grows by itself, and would leave a bar to scroll by where others need more.
+    columns->setStretchLastSection(false);
+    columns->setSectionResizeMode(VersionModel::NoteColumn, QHeaderView::Stretch);
     m_summary->setObjectName(QStringLiteral("versionSummary"));
     m_summary->setTextFormat(Qt::PlainText);
     m_summary->setWordWrap(true);

@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QListView>
+#include <QProcess>
 #include <QTimer>
 
 #include <algorithm>
@@ -66,6 +67,20 @@ public:
     void pressRedo() const { press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
 
     std::map<int, PlayTask> working() const { return manager.getAllTask(); }
+
+    /// Another program takes the first task out of what is saved.
+    void saveElsewhere() const
+    {
+        const QString file = folder.filePath(QStringLiteral("theirs.json"));
+        std::map<int, PlayTask> theirs = manager.getgTaskMap();
+        theirs.erase(theirs.begin());
+        QVERIFY(!writeScheduleFile(file, theirs));
+        QProcess other;
+        other.start(QStringLiteral(SCHEDULECTL), {QStringLiteral("import-schedule"), file,
+                                                  QStringLiteral("--database"), database});
+        QVERIFY(other.waitForFinished());
+        QCOMPARE(other.exitCode(), 0);
+    }
 
 private:
     const EditorMenus& menus() const { return *window.findChild<EditorMenus*>(); }
@@ -157,6 +172,9 @@ private slots:
     void anotherStoreHasAHistoryOfItsOwn();
     void anotherLengthIsNoStep();
     void speaksTheLanguageInUse();
+    void whatAnotherProgramSavedIsAStep();
+    void asksBeforeItTakesBackWhatAnotherSaved();
+    void aProgramThatHasGoneIsNoSave();
     void aRandomWalk_data();
     void aRandomWalk();
 };
@@ -553,6 +571,77 @@ void tst_EditHistory::speaksTheLanguageInUse()
     desk.languages.select(QStringLiteral("fr_FR"));
     QTRY_VERIFY2(desk.lastStep().endsWith(QStringLiteral("→ lun. ven.")),
                  qPrintable(desk.lastStep()));
+}
+
+// Another program takes the first task out, and the list is read again.
+void tst_EditHistory::whatAnotherProgramSavedIsAStep()
+{
+    const Desk desk;
+    desk.card(1).toggleFold();
+    desk.card(0).type(desk.card(0).endTime(3), "17:00:00");
+    desk.saveElsewhere();
+    desk.editor->clearAndInitialize();
+    QCOMPARE(desk.lastStep(), QStringLiteral("Saved by another program: tasks 1 (saved)"));
+    QCOMPARE(desk.working().count(1), std::size_t(0));
+    // What is dropped of one's own is the step that it has been.
+    const int second = desk.working().begin()->first;
+    PlayTask edited = desk.working().at(second);
+    edited.endDate = "2031.01.01";
+    desk.manager.addTask(edited);
+    desk.editor->clearAndInitialize();
+    QCOMPARE(desk.lastStep(), QStringLiteral("Back to what is saved (saved)"));
+}
+
+void tst_EditHistory::asksBeforeItTakesBackWhatAnotherSaved()
+{
+    const Desk desk;
+    desk.card(0).type(desk.card(0).endTime(3), "17:00:00");
+    desk.EditorRun::press("pushButtonStart");
+    const QByteArray own = recordsOf(desk.working());
+    desk.saveElsewhere();
+    desk.editor->clearAndInitialize();
+    const QByteArray theirs = recordsOf(desk.working());
+    const int steps = desk.steps().size();
+    {
+        // Enter leaves it, as closing the question does.
+        PromptAnswer answer({PromptAnswer::Enter, PromptAnswer::Escape, 2});
+        for (int count = 0; count < 3; ++count) {
+            desk.undo().trigger();
+            QCOMPARE(recordsOf(desk.working()), theirs);
+        }
+        QCOMPARE(answer.buttons().first(), QStringLiteral("Take it back|Leave it"));
+        QVERIFY2(answer.texts().first().contains(QLatin1String("(tasks 1)")),
+                 qPrintable(answer.texts().first()));
+        QCOMPARE(desk.steps().filter(QStringLiteral("(undone)")), QStringList());
+    }
+    {
+        const PromptAnswer answer(1);
+        desk.undo().trigger();
+        QCOMPARE(recordsOf(desk.working()), own);
+    }
+    // It stays saved until somebody saves; behind it, and forth again, nothing is asked.
+    QVERIFY(desk.host.hasUnsavedChanges());
+    const PromptAnswer none;
+    desk.undo().trigger();
+    QCOMPARE(desk.working().at(1).plans.at(3).endTime, std::string("18:00:00"));
+    desk.redo().trigger();
+    desk.redo().trigger();
+    QCOMPARE(recordsOf(desk.working()), theirs);
+    QVERIFY(!desk.host.hasUnsavedChanges());
+    QCOMPARE(desk.steps().size(), steps);
+}
+
+void tst_EditHistory::aProgramThatHasGoneIsNoSave()
+{
+    const Desk desk;
+    const int program = desk.working().at(1).plans.front().programs.front().progIndex;
+    QVERIFY(desk.host.removeProgram(program));
+    desk.card(0).type(desk.card(0).endTime(3), "17:00:00");
+    desk.editor->clearAndInitialize();
+    QVERIFY2(desk.steps().filter(QStringLiteral("another program")).isEmpty(),
+             qPrintable(desk.steps().join(QLatin1Char('\n'))));
+    const PromptAnswer none;
+    desk.pressUndo();
 }
 
 void tst_EditHistory::aRandomWalk_data()
