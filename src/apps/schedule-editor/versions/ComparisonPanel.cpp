@@ -76,6 +76,24 @@ void ComparisonPanel::tellHeadline()
     }
 }
 
+std::shared_ptr<const StateComparison> ComparisonPanel::comparison() const
+{
+    return m_comparison;
+}
+
+const week::WeekSchedule::Tasks* ComparisonPanel::tasksOf(qint64 version) const
+{
+    if (m_comparison == nullptr || !m_comparison->result) {
+        return nullptr;
+    }
+    for (const ComparedState* one : {&m_comparison->former, &m_comparison->later}) {
+        if (one->state == ScheduleState{ScheduleState::Version, version}) {
+            return &one->tasks;
+        }
+    }
+    return nullptr;
+}
+
 QDate ComparisonPanel::firstDay() const
 {
     return m_weeks->firstDay();

@@ -34,6 +34,12 @@ public:
     /// Shows one, or why it could not be made. Never null.
     void setComparison(std::shared_ptr<const StateComparison> comparison);
 
+    /// What is shown, or was not made; null while there is none.
+    std::shared_ptr<const StateComparison> comparison() const;
+    /// The tasks of a version that is one of the two states. Null where it is not; valid until
+    /// another comparison is shown.
+    const week::WeekSchedule::Tasks* tasksOf(qint64 version) const;
+
     /// The first day of the week that is shown.
     QDate firstDay() const;
     void setColours(const look::ThemeColours& colours);

@@ -20,6 +20,8 @@ inline void prepareTable(QTableView& table, QAbstractItemModel* model)
     table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table.horizontalHeader()->setStretchLastSection(true);
     table.horizontalHeader()->setHighlightSections(false);
+    // To measure every row of a long list would keep the windows waiting.
+    table.horizontalHeader()->setResizeContentsPrecision(0);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 

@@ -299,12 +299,14 @@ void VersionsWindow::compare()
     if (m_swap->isChecked()) {
         std::swap(question.former, question.later);
     }
+    auto former = m_panel->comparison();
     m_panel->clear(ComparisonPanel::Without::OnItsWay);
-    m_comparing.start(
-        [this, question](const follow::Cancellation& cancellation) -> follow::NewestWork::Outcome {
-            const auto made = compareStates(question, cancellation);
-            return [this, made] { m_panel->setComparison(made); };
-        });
+    // What was shown goes in the other thread: to free thousands of plans takes its time.
+    m_comparing.start([this, question, former = std::move(former)](
+                          const follow::Cancellation& cancellation) -> follow::NewestWork::Outcome {
+        const auto made = compareStates(question, cancellation);
+        return [this, made] { m_panel->setComparison(made); };
+    });
 }
 
 void VersionsWindow::tellList()
@@ -341,6 +343,20 @@ void VersionsWindow::nameChosen()
     readAgain();
 }
 
+bool VersionsWindow::readVersion(qint64 number, std::map<int, PlayTask>& tasks) const
+{
+    if (const auto* const read = m_panel->tasksOf(number)) {
+        tasks = *read;
+        return true;
+    }
+    // It is still on its way in the other thread, or could not be read.
+    const StoreResult result = ScheduleHost::instance().versionTasks(number, tasks);
+    if (!result) {
+        prompts::notice(problems::sentence(result));
+    }
+    return bool(result);
+}
+
 void VersionsWindow::restoreChosen()
 {
     const std::optional<qint64> number = chosen();
@@ -350,8 +366,7 @@ void VersionsWindow::restoreChosen()
     ScheduleHost& host = ScheduleHost::instance();
     emit aboutToReplace();
     std::map<int, PlayTask> tasks;
-    if (const StoreResult result = host.versionTasks(*number, tasks); !result) {
-        prompts::notice(problems::sentence(result));
+    if (!readVersion(*number, tasks)) {
         return;
     }
     // An editor that is hidden has nothing that is not saved.
@@ -388,8 +403,7 @@ void VersionsWindow::writeChosen()
         return;
     }
     std::map<int, PlayTask> tasks;
-    if (const StoreResult result = ScheduleHost::instance().versionTasks(*number, tasks); !result) {
-        prompts::notice(problems::sentence(result));
+    if (!readVersion(*number, tasks)) {
         return;
     }
     const QString file = prompts::saveFileName(this, tr("Write the version to a file"),

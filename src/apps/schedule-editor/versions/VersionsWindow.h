@@ -2,12 +2,14 @@
 
 #include "follow/NewestWork.h"
 #include "look/ThemeColours.h"
+#include "service/ScheduleRecords.h"
 #include "trelprogramschedule/history/ScheduleVersion.h"
 #include "trelprogramschedule/store/StoreResult.h"
 #include "versions/ScheduleState.h"
 
 #include <QDialog>
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -68,6 +70,9 @@ private:
     ScheduleState other() const;
     void compare();
     void tellList();
+    /// The tasks of a version, as they are shown or read anew; false, with a notice, where they
+    /// cannot be read.
+    bool readVersion(qint64 number, std::map<int, mediadispatch::PlayTask>& tasks) const;
 
     void nameChosen();
     void restoreChosen();
