@@ -94,36 +94,42 @@ public:
     explicit SavedStore(Edit edit)
         : m_edit(std::move(edit))
         , m_folder(folderTemplate())
-        , m_tasks(sampleTasks(kTasks, kPlansOfTask))
     {
+        const TaskMap tasks = sampleTasks(kTasks, kPlansOfTask);
         expect(m_database.open(path(), StoreOpenMode::CreateIfMissing));
-        expect(m_database.writeTasks(m_tasks, editsBetween({}, m_tasks), m_revision));
+        expect(m_database.writeTasks(tasks, editsBetween({}, tasks), m_revision));
+        m_sets.setStored(tasks);
+        m_sets.resetWorking();
     }
 
-    /// What so many saves take.
+    /// What so many saves take, each with all that belongs to it: to find out what was edited, to
+    /// write that, and to take it for what is saved from then on.
     template <typename Save>
     double edited(int saves, const Save& save)
     {
         double cost = 0;
         for (int number = 1; number <= saves; ++number) {
-            TaskMap after = m_tasks;
-            m_edit(after, ++m_edits);
-            const TaskEdits edits = editsBetween(m_tasks, after);
-            cost += processorSeconds([&] { save(after, edits, m_revision); });
-            m_tasks = std::move(after);
+            TaskMap tasks = m_sets.working();
+            m_edit(tasks, ++m_edits);
+            for (const auto& [id, task] : tasks) {
+                m_sets.putTask(task);
+            }
+            cost += processorSeconds([&] {
+                save(m_sets.working(), m_sets.edits(), m_revision);
+                m_sets.commitWorking();
+            });
         }
         return cost;
     }
 
     QString path() const { return m_folder.filePath(QStringLiteral("schedule.db")); }
     ScheduleDatabase& database() { return m_database; }
-    const TaskMap& tasks() const { return m_tasks; }
 
 private:
     Edit m_edit;
     QTemporaryDir m_folder;
     ScheduleDatabase m_database;
-    TaskMap m_tasks;
+    TaskSets m_sets;
     int m_edits = 0;
     qint64 m_revision = 0;
 };

@@ -16,6 +16,8 @@
 #include "clock/Clock.h"
 #include "sqlite/SqliteStore.h"
 
+#include <QVariant>
+
 #include <functional>
 #include <new>
 #include <utility>
@@ -193,7 +195,10 @@ StoreResult ScheduleDatabase::writeTasks(const TaskMap& tasks, const TaskEdits& 
         StoreTransaction transaction(connection(), edits.isEmpty()
                                                        ? StoreTransaction::Purpose::Read
                                                        : StoreTransaction::Purpose::Write);
-        if (revisionOf(connection()).schedule != revision) {
+        // The others are in the way of no save.
+        if (connection()
+                .value(QStringLiteral("SELECT schedule_revision FROM store"))
+                .toLongLong() != revision) {
             throw StoreError{refusal(StoreProblem::MovedOn, path())};
         }
         if (edits.isEmpty()) {
