@@ -15,30 +15,30 @@ namespace {
 
 struct Field
 {
-    DifferenceField field;
     const char* name; ///< As in the JSON form of a schedule.
+    DifferenceField field;
     bool isTruth;
 };
 
 constexpr Field kFields[] = {
-    {DifferenceField::StartDate, "startDate", false},
-    {DifferenceField::EndDate, "endDate", false},
-    {DifferenceField::Mode, "mode", false},
-    {DifferenceField::StartTime, "startTime", false},
-    {DifferenceField::EndTime, "endTime", false},
-    {DifferenceField::Times, "times", false},
-    {DifferenceField::EndAction, "endAction", false},
-    {DifferenceField::Weeks, "weeks", false},
-    {DifferenceField::HasNoDuration, "hasNoDuration", true},
-    {DifferenceField::IsConflict, "isConflict", true},
-    {DifferenceField::ServiceCount, "serviceCount", false},
-    {DifferenceField::ServiceList, "serviceList", false},
-    {DifferenceField::ServiceTime, "serviceTime", false},
-    {DifferenceField::ServiceFlagA, "serviceFlagA", true},
-    {DifferenceField::ServiceFlagB, "serviceFlagB", true},
-    {DifferenceField::ProgName, "progName", false},
-    {DifferenceField::PlayCount, "playCount", false},
-    {DifferenceField::IsInvalid, "isInvalid", true},
+    {"startDate", DifferenceField::StartDate, false},
+    {"endDate", DifferenceField::EndDate, false},
+    {"mode", DifferenceField::Mode, false},
+    {"startTime", DifferenceField::StartTime, false},
+    {"endTime", DifferenceField::EndTime, false},
+    {"times", DifferenceField::Times, false},
+    {"endAction", DifferenceField::EndAction, false},
+    {"weeks", DifferenceField::Weeks, false},
+    {"hasNoDuration", DifferenceField::HasNoDuration, true},
+    {"isConflict", DifferenceField::IsConflict, true},
+    {"serviceCount", DifferenceField::ServiceCount, false},
+    {"serviceList", DifferenceField::ServiceList, false},
+    {"serviceTime", DifferenceField::ServiceTime, false},
+    {"serviceFlagA", DifferenceField::ServiceFlagA, true},
+    {"serviceFlagB", DifferenceField::ServiceFlagB, true},
+    {"progName", DifferenceField::ProgName, false},
+    {"playCount", DifferenceField::PlayCount, false},
+    {"isInvalid", DifferenceField::IsInvalid, true},
 };
 
 ScheduleDifference changed(DifferenceField field, DifferenceValue before, DifferenceValue after)
