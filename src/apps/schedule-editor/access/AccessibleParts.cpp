@@ -64,7 +64,13 @@ void tellCurrentPart(QWidget& widget)
 {
     const auto* const parts = dynamic_cast<const SpokenParts*>(&widget);
     const int current = parts != nullptr ? parts->spokenCurrent() : -1;
-    if (current < 0 || !widget.hasFocus()) {
+    if (current < 0 || !widget.hasFocus() || !QAccessible::isActive()) {
+        return;
+    }
+    // The toolkit looks the part up by its number unasked: a widget that is told of by the toolkit
+    // itself, as where nobody has installed the parts, has fewer of them than it paints.
+    const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(&widget);
+    if (told == nullptr || current >= told->childCount()) {
         return;
     }
     QAccessibleEvent event(&widget, QAccessible::Focus);
