@@ -114,6 +114,14 @@
         <source>O&amp;pen recent</source>
         <translation>&amp;Zuletzt geöffnet</translation>
     </message>
+    <message>
+        <source>St&amp;art the schedule…</source>
+        <translation>Wieder&amp;gabeplan starten…</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>&amp;Suchen</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2339,6 +2347,10 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <source>Why the selected block is on screen, or why not</source>
         <translation>Warum der gewählte Block auf dem Bildschirm ist oder nicht</translation>
     </message>
+    <message>
+        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
+        <translation>In dieser Woche gilt kein Auftrag. Wählen Sie „Bearbeiten“, um einen hinzuzufügen, und ziehen Sie dann Programme aus dem Katalog auf die Woche.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::year::YearStrip</name>
@@ -3149,6 +3161,14 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
         <translation>Die Aufträge %1 und %2 sind an denselben Tagen gültig. Erst wenn das nicht mehr so ist, kann der Wiedergabeplan auf Sendung gehen.</translation>
     </message>
+    <message>
+        <source>The schedule is on air.</source>
+        <translation>Der Wiedergabeplan ist auf Sendung.</translation>
+    </message>
+    <message>
+        <source>The schedule is on air. Open problems: %1</source>
+        <translation>Der Wiedergabeplan ist auf Sendung. Offene Probleme: %1</translation>
+    </message>
 </context>
 <context>
     <name>DroppedMedia</name>
@@ -3217,6 +3237,41 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     <message>
         <source>Cut in: %1</source>
         <translation>Eingespielt: %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekMenu</name>
+    <message>
+        <source>&amp;Week</source>
+        <translation>Wo&amp;che</translation>
+    </message>
+    <message>
+        <source>&amp;Today</source>
+        <translation>&amp;Heute</translation>
+    </message>
+    <message>
+        <source>&amp;Previous week</source>
+        <translation>&amp;Vorherige Woche</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>&amp;Folgende Woche</translation>
+    </message>
+    <message>
+        <source>&amp;Choose a day…</source>
+        <translation>&amp;Tag wählen…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::DayDrag</name>
+    <message>
+        <source>Drag a day onto another one to copy its plans there.</source>
+        <translation>Einen Tag auf einen anderen ziehen, um seine Pläne dorthin zu kopieren.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1 onto %2</source>
+        <comment>two days</comment>
+        <translation>Pläne vom %1 auf %2 kopieren</translation>
     </message>
 </context>
 </TS>

@@ -114,6 +114,14 @@
         <source>O&amp;pen recent</source>
         <translation>Abrir recien&amp;tes</translation>
     </message>
+    <message>
+        <source>St&amp;art the schedule…</source>
+        <translation>&amp;Iniciar la programación…</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>&amp;Buscar</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2339,6 +2347,10 @@ What do you want to do with your changes?</source>
         <source>Why the selected block is on screen, or why not</source>
         <translation>Por qué el bloque seleccionado está en pantalla o por qué no</translation>
     </message>
+    <message>
+        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
+        <translation>Ninguna tarea es válida esta semana. Elija «Editar» para añadir una y arrastre después programas del catálogo a la semana.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::year::YearStrip</name>
@@ -3149,6 +3161,14 @@ What do you want to do with your changes?</source>
         <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
         <translation>Las tareas %1 y %2 son válidas en los mismos días. La programación solo puede emitirse cuando ya no lo sean.</translation>
     </message>
+    <message>
+        <source>The schedule is on air.</source>
+        <translation>La programación está en emisión.</translation>
+    </message>
+    <message>
+        <source>The schedule is on air. Open problems: %1</source>
+        <translation>La programación está en emisión. Problemas abiertos: %1</translation>
+    </message>
 </context>
 <context>
     <name>DroppedMedia</name>
@@ -3217,6 +3237,41 @@ What do you want to do with your changes?</source>
     <message>
         <source>Cut in: %1</source>
         <translation>Insertado: %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekMenu</name>
+    <message>
+        <source>&amp;Week</source>
+        <translation>&amp;Semana</translation>
+    </message>
+    <message>
+        <source>&amp;Today</source>
+        <translation>&amp;Hoy</translation>
+    </message>
+    <message>
+        <source>&amp;Previous week</source>
+        <translation>Semana &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>Semana &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>&amp;Choose a day…</source>
+        <translation>&amp;Elegir un día…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::DayDrag</name>
+    <message>
+        <source>Drag a day onto another one to copy its plans there.</source>
+        <translation>Arrastre un día sobre otro para copiar allí sus planes.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1 onto %2</source>
+        <comment>two days</comment>
+        <translation>Copiar los planes de %1 a %2</translation>
     </message>
 </context>
 </TS>

@@ -114,6 +114,14 @@
         <source>O&amp;pen recent</source>
         <translation>Bases ré&amp;centes</translation>
     </message>
+    <message>
+        <source>St&amp;art the schedule…</source>
+        <translation>Démarrer la &amp;programmation…</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>R&amp;echercher</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2339,6 +2347,10 @@ Que faire de vos modifications&#xa0;?</translation>
         <source>Why the selected block is on screen, or why not</source>
         <translation>Pourquoi le bloc sélectionné est à l’écran, ou pourquoi non</translation>
     </message>
+    <message>
+        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
+        <translation>Aucune tâche n’est valide cette semaine. Choisissez « Modifier » pour en ajouter une, puis faites glisser des programmes du catalogue sur la semaine.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::year::YearStrip</name>
@@ -3149,6 +3161,14 @@ Que faire de vos modifications&#xa0;?</translation>
         <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
         <translation>Les tâches %1 et %2 sont valides les mêmes jours. La programmation ne peut passer à l’antenne que lorsqu’elles ne le sont plus.</translation>
     </message>
+    <message>
+        <source>The schedule is on air.</source>
+        <translation>La programmation est à l’antenne.</translation>
+    </message>
+    <message>
+        <source>The schedule is on air. Open problems: %1</source>
+        <translation>La programmation est à l’antenne. Problèmes ouverts : %1</translation>
+    </message>
 </context>
 <context>
     <name>DroppedMedia</name>
@@ -3217,6 +3237,41 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>Cut in: %1</source>
         <translation>Inséré : %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekMenu</name>
+    <message>
+        <source>&amp;Week</source>
+        <translation>&amp;Semaine</translation>
+    </message>
+    <message>
+        <source>&amp;Today</source>
+        <translation>&amp;Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>&amp;Previous week</source>
+        <translation>Semaine &amp;précédente</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>Semaine &amp;suivante</translation>
+    </message>
+    <message>
+        <source>&amp;Choose a day…</source>
+        <translation>&amp;Choisir un jour…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::DayDrag</name>
+    <message>
+        <source>Drag a day onto another one to copy its plans there.</source>
+        <translation>Faites glisser un jour sur un autre pour y copier ses créneaux.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1 onto %2</source>
+        <comment>two days</comment>
+        <translation>Copier les créneaux du %1 vers %2</translation>
     </message>
 </context>
 </TS>

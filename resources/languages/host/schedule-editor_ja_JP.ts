@@ -114,6 +114,14 @@
         <source>O&amp;pen recent</source>
         <translation>最近使ったデータベース(&amp;P)</translation>
     </message>
+    <message>
+        <source>St&amp;art the schedule…</source>
+        <translation>スケジュールの運用を開始(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>検索(&amp;S)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2307,6 +2315,10 @@ What do you want to do with your changes?</source>
         <source>Why the selected block is on screen, or why not</source>
         <translation>選択したブロックが画面に出る理由または出ない理由</translation>
     </message>
+    <message>
+        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
+        <translation>この週に有効なタスクはありません。「編集」を選択してタスクを追加し、番組一覧から番組を週へドラッグしてください。</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::year::YearStrip</name>
@@ -3106,6 +3118,14 @@ What do you want to do with your changes?</source>
         <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
         <translation>タスク%1と%2が同じ日に有効です。重ならないようにすると、スケジュールを放送に出せます。</translation>
     </message>
+    <message>
+        <source>The schedule is on air.</source>
+        <translation>スケジュールを放送中です。</translation>
+    </message>
+    <message>
+        <source>The schedule is on air. Open problems: %1</source>
+        <translation>スケジュールを放送中です。未解決の問題：%1</translation>
+    </message>
 </context>
 <context>
     <name>DroppedMedia</name>
@@ -3171,6 +3191,41 @@ What do you want to do with your changes?</source>
     <message>
         <source>Cut in: %1</source>
         <translation>割り込み：%1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekMenu</name>
+    <message>
+        <source>&amp;Week</source>
+        <translation>週(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Today</source>
+        <translation>今日(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous week</source>
+        <translation>前の週(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>次の週(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Choose a day…</source>
+        <translation>日を選択(&amp;C)…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::DayDrag</name>
+    <message>
+        <source>Drag a day onto another one to copy its plans there.</source>
+        <translation>日を別の日へドラッグすると、その日の計画がコピーされます。</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1 onto %2</source>
+        <comment>two days</comment>
+        <translation>%1の計画を%2へコピー</translation>
     </message>
 </context>
 </TS>

@@ -114,6 +114,14 @@
         <source>O&amp;pen recent</source>
         <translation>최근 데이터베이스(&amp;P)</translation>
     </message>
+    <message>
+        <source>St&amp;art the schedule…</source>
+        <translation>일정 적용 시작(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>검색(&amp;S)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2307,6 +2315,10 @@ What do you want to do with your changes?</source>
         <source>Why the selected block is on screen, or why not</source>
         <translation>선택한 블록이 화면에 나오거나 나오지 않는 이유</translation>
     </message>
+    <message>
+        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
+        <translation>이번 주에 유효한 작업이 없습니다. ‘편집’을 선택해 작업을 추가한 다음 목록의 프로그램을 주로 끌어다 놓으세요.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::year::YearStrip</name>
@@ -3106,6 +3118,14 @@ What do you want to do with your changes?</source>
         <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
         <translation>작업 %1과(와) %2이(가) 같은 날에 유효합니다. 겹치지 않게 하면 일정을 송출할 수 있습니다.</translation>
     </message>
+    <message>
+        <source>The schedule is on air.</source>
+        <translation>일정을 송출하고 있습니다.</translation>
+    </message>
+    <message>
+        <source>The schedule is on air. Open problems: %1</source>
+        <translation>일정을 송출하고 있습니다. 해결되지 않은 문제: %1</translation>
+    </message>
 </context>
 <context>
     <name>DroppedMedia</name>
@@ -3171,6 +3191,41 @@ What do you want to do with your changes?</source>
     <message>
         <source>Cut in: %1</source>
         <translation>삽입됨: %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekMenu</name>
+    <message>
+        <source>&amp;Week</source>
+        <translation>주(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Today</source>
+        <translation>오늘(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous week</source>
+        <translation>이전 주(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>다음 주(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Choose a day…</source>
+        <translation>날짜 선택(&amp;C)…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::DayDrag</name>
+    <message>
+        <source>Drag a day onto another one to copy its plans there.</source>
+        <translation>날짜를 다른 날짜로 끌면 그날의 계획이 복사됩니다.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1 onto %2</source>
+        <comment>two days</comment>
+        <translation>%1의 계획을 %2(으)로 복사</translation>
     </message>
 </context>
 </TS>

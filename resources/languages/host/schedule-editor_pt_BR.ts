@@ -114,6 +114,14 @@
         <source>O&amp;pen recent</source>
         <translation>Abrir recen&amp;te</translation>
     </message>
+    <message>
+        <source>St&amp;art the schedule…</source>
+        <translation>&amp;Iniciar a programação…</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>Pesqui&amp;sar</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2339,6 +2347,10 @@ O que deseja fazer com as alterações?</translation>
         <source>Why the selected block is on screen, or why not</source>
         <translation>Por que o bloco selecionado está na tela ou por que não</translation>
     </message>
+    <message>
+        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
+        <translation>Nenhuma tarefa vale nesta semana. Escolha “Editar” para adicionar uma e depois arraste programas do catálogo para a semana.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::year::YearStrip</name>
@@ -3149,6 +3161,14 @@ O que deseja fazer com as alterações?</translation>
         <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
         <translation>As tarefas %1 e %2 são válidas nos mesmos dias. A programação só pode ir ao ar quando não forem mais.</translation>
     </message>
+    <message>
+        <source>The schedule is on air.</source>
+        <translation>A programação está no ar.</translation>
+    </message>
+    <message>
+        <source>The schedule is on air. Open problems: %1</source>
+        <translation>A programação está no ar. Problemas em aberto: %1</translation>
+    </message>
 </context>
 <context>
     <name>DroppedMedia</name>
@@ -3217,6 +3237,41 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>Cut in: %1</source>
         <translation>Inserido: %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekMenu</name>
+    <message>
+        <source>&amp;Week</source>
+        <translation>&amp;Semana</translation>
+    </message>
+    <message>
+        <source>&amp;Today</source>
+        <translation>&amp;Hoje</translation>
+    </message>
+    <message>
+        <source>&amp;Previous week</source>
+        <translation>Semana &amp;anterior</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>Semana &amp;seguinte</translation>
+    </message>
+    <message>
+        <source>&amp;Choose a day…</source>
+        <translation>&amp;Escolher um dia…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::DayDrag</name>
+    <message>
+        <source>Drag a day onto another one to copy its plans there.</source>
+        <translation>Arraste um dia sobre outro para copiar os planos dele.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1 onto %2</source>
+        <comment>two days</comment>
+        <translation>Copiar os planos de %1 para %2</translation>
     </message>
 </context>
 </TS>

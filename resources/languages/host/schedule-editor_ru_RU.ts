@@ -114,6 +114,14 @@
         <source>O&amp;pen recent</source>
         <translation>Не&amp;давние базы данных</translation>
     </message>
+    <message>
+        <source>St&amp;art the schedule…</source>
+        <translation>Зап&amp;устить расписание…</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>П&amp;оиск</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2371,6 +2379,10 @@ What do you want to do with your changes?</source>
         <source>Why the selected block is on screen, or why not</source>
         <translation>Почему выбранный блок на экране или почему нет</translation>
     </message>
+    <message>
+        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
+        <translation>На этой неделе не действует ни одно задание. Выберите «Изменить», чтобы добавить задание, затем перетащите программы из каталога на неделю.</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::year::YearStrip</name>
@@ -3192,6 +3204,14 @@ What do you want to do with your changes?</source>
         <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
         <translation>Задания %1 и %2 действуют в одни и те же дни. Вывести расписание в эфир можно, когда это будет исправлено.</translation>
     </message>
+    <message>
+        <source>The schedule is on air.</source>
+        <translation>Расписание в эфире.</translation>
+    </message>
+    <message>
+        <source>The schedule is on air. Open problems: %1</source>
+        <translation>Расписание в эфире. Нерешённых проблем: %1</translation>
+    </message>
 </context>
 <context>
     <name>DroppedMedia</name>
@@ -3263,6 +3283,41 @@ What do you want to do with your changes?</source>
     <message>
         <source>Cut in: %1</source>
         <translation>Вставка: %1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekMenu</name>
+    <message>
+        <source>&amp;Week</source>
+        <translation>&amp;Неделя</translation>
+    </message>
+    <message>
+        <source>&amp;Today</source>
+        <translation>&amp;Сегодня</translation>
+    </message>
+    <message>
+        <source>&amp;Previous week</source>
+        <translation>&amp;Предыдущая неделя</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>С&amp;ледующая неделя</translation>
+    </message>
+    <message>
+        <source>&amp;Choose a day…</source>
+        <translation>&amp;Выбрать день…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::DayDrag</name>
+    <message>
+        <source>Drag a day onto another one to copy its plans there.</source>
+        <translation>Перетащите день на другой, чтобы скопировать туда его планы.</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1 onto %2</source>
+        <comment>two days</comment>
+        <translation>Копировать планы: %1 → %2</translation>
     </message>
 </context>
 </TS>

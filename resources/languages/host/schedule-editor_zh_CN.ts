@@ -114,6 +114,14 @@
         <source>O&amp;pen recent</source>
         <translation>最近使用的数据库(&amp;P)</translation>
     </message>
+    <message>
+        <source>St&amp;art the schedule…</source>
+        <translation>启用排期(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>搜索(&amp;S)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2307,6 +2315,10 @@ What do you want to do with your changes?</source>
         <source>Why the selected block is on screen, or why not</source>
         <translation>所选区块为何在屏幕上或为何不在</translation>
     </message>
+    <message>
+        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
+        <translation>本周没有有效的任务。请选择“编辑”添加任务，然后将节目从节目库拖到周视图中。</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::year::YearStrip</name>
@@ -3106,6 +3118,14 @@ What do you want to do with your changes?</source>
         <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
         <translation>任务%1和任务%2在同一天有效。调整后才能启用排期并播出。</translation>
     </message>
+    <message>
+        <source>The schedule is on air.</source>
+        <translation>排期已启用并在播出。</translation>
+    </message>
+    <message>
+        <source>The schedule is on air. Open problems: %1</source>
+        <translation>排期已启用并在播出。未解决的问题：%1</translation>
+    </message>
 </context>
 <context>
     <name>DroppedMedia</name>
@@ -3171,6 +3191,41 @@ What do you want to do with your changes?</source>
     <message>
         <source>Cut in: %1</source>
         <translation>已插播：%1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekMenu</name>
+    <message>
+        <source>&amp;Week</source>
+        <translation>周(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Today</source>
+        <translation>今天(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous week</source>
+        <translation>上一周(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>下一周(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Choose a day…</source>
+        <translation>选择日期(&amp;C)…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::DayDrag</name>
+    <message>
+        <source>Drag a day onto another one to copy its plans there.</source>
+        <translation>将一天拖到另一天，即可把其计划复制过去。</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1 onto %2</source>
+        <comment>two days</comment>
+        <translation>将 %1 的计划复制到 %2</translation>
     </message>
 </context>
 </TS>

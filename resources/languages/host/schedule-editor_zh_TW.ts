@@ -114,6 +114,14 @@
         <source>O&amp;pen recent</source>
         <translation>最近使用的資料庫(&amp;P)</translation>
     </message>
+    <message>
+        <source>St&amp;art the schedule…</source>
+        <translation>啟用排程(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation>搜尋(&amp;S)</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::EditorWindow</name>
@@ -2307,6 +2315,10 @@ What do you want to do with your changes?</source>
         <source>Why the selected block is on screen, or why not</source>
         <translation>所選區塊為何在螢幕上或為何不在</translation>
     </message>
+    <message>
+        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
+        <translation>本週沒有有效的任務。請選擇「編輯」新增任務，然後將節目從節目庫拖到週檢視中。</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::year::YearStrip</name>
@@ -3106,6 +3118,14 @@ What do you want to do with your changes?</source>
         <source>Tasks %1 and %2 are valid on the same days. The schedule can be put on air once they are not.</source>
         <translation>任務%1和任務%2在同一天有效。調整後才能啟用排程並播出。</translation>
     </message>
+    <message>
+        <source>The schedule is on air.</source>
+        <translation>排程已啟用並在播出。</translation>
+    </message>
+    <message>
+        <source>The schedule is on air. Open problems: %1</source>
+        <translation>排程已啟用並在播出。未解決的問題：%1</translation>
+    </message>
 </context>
 <context>
     <name>DroppedMedia</name>
@@ -3171,6 +3191,41 @@ What do you want to do with your changes?</source>
     <message>
         <source>Cut in: %1</source>
         <translation>已插播：%1</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::WeekMenu</name>
+    <message>
+        <source>&amp;Week</source>
+        <translation>週(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Today</source>
+        <translation>今天(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Previous week</source>
+        <translation>上一週(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Next week</source>
+        <translation>下一週(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Choose a day…</source>
+        <translation>選擇日期(&amp;C)…</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::week::DayDrag</name>
+    <message>
+        <source>Drag a day onto another one to copy its plans there.</source>
+        <translation>將一天拖到另一天，即可把其計畫複製過去。</translation>
+    </message>
+    <message>
+        <source>Copy the plans of %1 onto %2</source>
+        <comment>two days</comment>
+        <translation>將 %1 的計畫複製到 %2</translation>
     </message>
 </context>
 </TS>

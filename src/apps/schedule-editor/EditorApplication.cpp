@@ -71,6 +71,17 @@ QString languageFolder()
                            QStringLiteral("/../share/trelprogramschedulewidgets/languages"));
 }
 
+/// What was not asked for by name is what was open last; for a run without windows, and for one
+/// that fills a new database, the user's own.
+QString databaseToOpen(const EditorOptions& options, const QString& last)
+{
+    if (!options.database.isEmpty()) {
+        return options.database;
+    }
+    return last.isEmpty() || !options.demonstration.isEmpty() ? hosts::makeDefaultDatabaseFolder()
+                                                              : last;
+}
+
 /// A file for the picture of a run that was given none: in the user's own data, under a name that
 /// cannot be guessed, readable by its owner alone. Empty where none can be made.
 QString freshPictureFile()
@@ -167,9 +178,8 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     if (!unattended) {
         QObject::connect(&window, &EditorWindow::databaseOpened, &recent, &RecentDatabases::add);
     }
-    const QString database =
-        options.database.isEmpty() ? hosts::makeDefaultDatabaseFolder() : options.database;
-    const QString error = window.openDatabase(database, options.demonstration);
+    const QString error = window.openDatabase(
+        databaseToOpen(options, unattended ? QString() : recent.last()), options.demonstration);
     if (unattended && !error.isEmpty()) {
         QTextStream(stderr) << error << Qt::endl;
         return 1;

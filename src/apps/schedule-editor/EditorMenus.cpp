@@ -78,17 +78,20 @@ EditorMenus::EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes)
     m_importSchedule = add(*m_schedule, {});
     m_exportSchedule = add(*m_schedule, {});
     m_schedule->addSeparator();
+    // As in the editor. Both ask first.
+    m_startSchedule = add(*m_schedule, QKeySequence(Qt::Key_F5));
+    m_stopSchedule = add(*m_schedule, QKeySequence(QStringLiteral("Shift+F5")));
     // Without keys: a slip of the hand would be on screen at once.
     m_skipPlay = add(*m_schedule, {});
     m_cancelInsertion = add(*m_schedule, {});
-    m_stopSchedule = add(*m_schedule, {});
     m_schedule->addSeparator();
     m_quit = add(*m_schedule, QKeySequence::Quit);
 
     m_importFiles = add(*m_programs, QKeySequence(QStringLiteral("Ctrl+I")));
     m_importFolder = add(*m_programs, QKeySequence(QStringLiteral("Ctrl+Shift+I")));
     m_programs->addSeparator();
-    m_previewProgram = add(*m_programs, {});
+    m_searchPrograms = add(*m_programs, QKeySequence::Find);
+    m_previewProgram = add(*m_programs, QKeySequence(Qt::Key_F4));
     m_whereUsed = add(*m_programs, {});
     m_removePrograms = add(*m_programs, QKeySequence::Delete);
 
@@ -127,6 +130,11 @@ void EditorMenus::buildLanguages(Languages& languages)
             [&languages](const QAction* action) { languages.select(action->data().toString()); });
 }
 
+QAction* EditorMenus::viewMenu() const
+{
+    return m_view->menuAction();
+}
+
 QString EditorMenus::programsTitle() const
 {
     return m_programs->title().remove(QLatin1Char('&'));
@@ -150,11 +158,13 @@ void EditorMenus::retranslate()
     m_exportSchedule->setText(tr("&Write schedule to a file…"));
     m_skipPlay->setText(tr("S&kip to the next play"));
     m_cancelInsertion->setText(tr("&Cancel what is cut in"));
+    m_startSchedule->setText(tr("St&art the schedule…"));
     m_stopSchedule->setText(tr("S&top the schedule…"));
     m_quit->setText(tr("&Quit"));
     m_programs->setTitle(tr("&Programs"));
     m_importFiles->setText(tr("&Import files…"));
     m_importFolder->setText(tr("Import &folder…"));
+    m_searchPrograms->setText(tr("&Search"));
     m_previewProgram->setText(tr("&Preview"));
     m_whereUsed->setText(tr("&Where used…"));
     m_removePrograms->setText(tr("&Remove from catalog"));

@@ -34,15 +34,20 @@ public:
     QAction* quit() const { return m_quit; }
     QAction* importFiles() const { return m_importFiles; }
     QAction* importFolder() const { return m_importFolder; }
+    QAction* searchPrograms() const { return m_searchPrograms; }
     QAction* previewProgram() const { return m_previewProgram; }
     QAction* whereUsed() const { return m_whereUsed; }
     QAction* removePrograms() const { return m_removePrograms; }
     QAction* skipPlay() const { return m_skipPlay; }
     QAction* cancelInsertion() const { return m_cancelInsertion; }
+    QAction* startSchedule() const { return m_startSchedule; }
     QAction* stopSchedule() const { return m_stopSchedule; }
     QAction* asRun() const { return m_asRun; }
     QAction* bringBack() const { return m_bringBack; }
     QAction* versions() const { return m_versions; }
+
+    /// What the menu of the view is in the bar, for what stands in front of it.
+    QAction* viewMenu() const;
 
     /// The name of the menu of programs, without the mark of its letter.
     QString programsTitle() const;
@@ -72,11 +77,13 @@ private:
     QAction* m_quit;
     QAction* m_importFiles;
     QAction* m_importFolder;
+    QAction* m_searchPrograms;
     QAction* m_previewProgram;
     QAction* m_whereUsed;
     QAction* m_removePrograms;
     QAction* m_skipPlay;
     QAction* m_cancelInsertion;
+    QAction* m_startSchedule;
     QAction* m_stopSchedule;
     QAction* m_belowPanels; ///< Parts them from what is no part of the window.
     QAction* m_asRun;

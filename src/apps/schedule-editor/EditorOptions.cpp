@@ -30,7 +30,8 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
     const QCommandLineOption version = parser.addVersionOption();
     const QCommandLineOption database(
         {QStringLiteral("d"), QStringLiteral("database")},
-        QStringLiteral("Open the schedule in FILE instead of your own; made if it is missing."),
+        QStringLiteral("Open the schedule in FILE instead of the one that was open last, or of "
+                       "your own at first; made if it is missing."),
         QStringLiteral("FILE"));
     const QCommandLineOption demonstration(
         QStringLiteral("demonstration"),

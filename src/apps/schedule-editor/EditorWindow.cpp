@@ -23,6 +23,7 @@
 #include "follow/EditedSchedule.h"
 #include "help/HelpMenu.h"
 #include "look/Themes.h"
+#include "memory/LastFolders.h"
 #include "problems/ProblemDock.h"
 #include "scheduleControlUI.h"
 #include "screen/NowNextPanel.h"
@@ -38,6 +39,7 @@
 #include "undo/HistoryActions.h"
 #include "undo/HistoryDock.h"
 #include "versions/VersionsAction.h"
+#include "week/WeekMenu.h"
 #include "week/WeekPage.h"
 #include "week/WeekPanel.h"
 #include "week/moves/WeekEdits.h"
@@ -48,7 +50,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
@@ -98,6 +99,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     , m_drafts(new DraftKeeper(m_editor, *m_menus->bringBack(), *m_notices, themes, this))
 {
     setObjectName(QStringLiteral("editorWindow"));
+    new LastFolders(*this);
     auto* drop = new MediaDrop(this);
     drop->watch(*this);
     drop->watch(m_editor);
@@ -162,7 +164,10 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     connect(news, &ScreenNews::told, m_announcer, &access::Announcer::say);
     m_nowNext->setObjectName(QStringLiteral("nowNextDock"));
     auto* nowNext = new NowNextPanel(*follower, m_nowNext);
-    const auto takeColours = [nowNext, &themes] { nowNext->setColours(themes.colours()); };
+    const auto takeColours = [this, nowNext, &themes] {
+        nowNext->setColours(themes.colours());
+        m_catalogue->setColours(themes.colours());
+    };
     connect(&themes, &Themes::changed, nowNext, takeColours);
     takeColours();
     m_nowNext->setWidget(nowNext);
@@ -182,6 +187,7 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     auto* week = new week::WeekPage(*edited, languages, themes, this);
     connect(week, &week::WeekPage::activated, this, &EditorWindow::showPlan);
     setCentralWidget(week);
+    m_week = new week::WeekMenu(*menuBar(), *m_menus->viewMenu(), *week->panel());
     m_history = new undo::EditHistory(*edited, m_editor, this);
     m_undo = new undo::HistoryActions(*m_menus, *m_history, this);
     m_versions =
@@ -220,15 +226,17 @@ void EditorWindow::allowEdits(week::WeekPanel& panel)
 void EditorWindow::buildBar(ScreenFollower& follower, const ProblemDock& problems)
 {
     auto* start = new air::StartAction(
-        m_editor, *m_notices, [&problems] { return problems.count(); }, this);
+        *m_menus->startSchedule(), m_editor, *m_notices, [&problems] { return problems.count(); },
+        this);
+    connect(start, &air::StartAction::told, this,
+            [this](const QString& line) { statusBar()->showMessage(line); });
     m_air = new air::AirState(follower, *m_drafts, this);
-    auto* bar = new air::AirBar(*m_menus, *start, m_air, this);
-    connect(bar->search(), &QAction::triggered, this, [this] {
+    connect(m_menus->searchPrograms(), &QAction::triggered, this, [this] {
         m_programs->show();
         m_programs->raise();
         m_catalogue->focusSearch();
     });
-    addToolBar(bar);
+    addToolBar(new air::AirBar(*m_menus, m_air, this));
 }
 
 void EditorWindow::addPanel(QDockWidget* panel, Qt::DockWidgetArea area)
@@ -241,6 +249,7 @@ void EditorWindow::retranslate()
 {
     m_menus->retranslate();
     m_help->retranslate();
+    m_week->retranslate();
     m_undo->update();
     m_programs->setWindowTitle(tr("Catalog"));
     m_programs->toggleViewAction()->setText(tr("Catal&og"));
@@ -350,9 +359,9 @@ void EditorWindow::showAsRun()
 
 void EditorWindow::chooseDatabase()
 {
-    const QString file = QFileDialog::getOpenFileName(
-        this, tr("Open database"), QFileInfo(ScheduleHost::instance().path()).path(),
-        tr("Schedules (*.db *.sqlite);;All files (*)"));
+    const QString file = prompts::openFileName(this, prompts::kDatabases, tr("Open database"),
+                                               tr("Schedules (*.db *.sqlite);;All files (*)"),
+                                               QFileInfo(ScheduleHost::instance().path()).path());
     if (!file.isEmpty()) {
         openChosen(file);
     }
@@ -415,8 +424,8 @@ void EditorWindow::exportSchedule()
 
 void EditorWindow::importSchedule()
 {
-    const QString name = QFileDialog::getOpenFileName(this, tr("Read a schedule from a file"),
-                                                      QString(), tr("Schedules (*.json)"));
+    const QString name = prompts::openFileName(
+        this, prompts::kSchedules, tr("Read a schedule from a file"), tr("Schedules (*.json)"));
     if (name.isEmpty()) {
         return;
     }

@@ -30,6 +30,7 @@ class VersionsAction;
 } // namespace versions
 
 namespace week {
+class WeekMenu;
 class WeekPanel;
 } // namespace week
 
@@ -125,6 +126,7 @@ private:
     trel::mediadispatch::scheduleControlUI& m_editor;
     EditorMenus* m_menus;
     HelpMenu* m_help;
+    week::WeekMenu* m_week = nullptr;
     CataloguePanel* m_catalogue;
     QDockWidget* m_programs;
     access::Announcer* m_announcer;

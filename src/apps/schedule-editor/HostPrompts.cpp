@@ -1,5 +1,6 @@
 #include "HostPrompts.h"
 
+#include "memory/LastFolders.h"
 #include "trelwidgets/TipDialog.h"
 
 #include <QCoreApplication>
@@ -24,6 +25,20 @@ TipDialog* promptOf(TipDialog::TipType type, const QString& text)
         sign->setAccessibleName(prompt->windowTitle());
     }
     return prompt;
+}
+
+QString folderOf(const QWidget* parent, const QString& kind)
+{
+    const LastFolders* const folders = LastFolders::of(parent);
+    return folders == nullptr ? QString() : folders->folder(kind);
+}
+
+void remember(const QWidget* parent, const QString& kind, const QString& path)
+{
+    LastFolders* const folders = LastFolders::of(parent);
+    if (folders != nullptr && !path.isEmpty()) {
+        folders->remember(kind, path);
+    }
 }
 
 } // namespace
@@ -54,17 +69,46 @@ bool confirmLoss(const QString& text, const QString& first, const QString& secon
     return prompt->run().button == kFirst;
 }
 
+QString openFileName(QWidget* parent, const char* kind, const QString& title, const QString& filter,
+                     const QString& folder)
+{
+    const QString remembered = folderOf(parent, QLatin1String(kind));
+    QString file = QFileDialog::getOpenFileName(parent, title,
+                                                remembered.isEmpty() ? folder : remembered, filter);
+    remember(parent, QLatin1String(kind), file);
+    return file;
+}
+
+QStringList openFileNames(QWidget* parent, const char* kind, const QString& title,
+                          const QString& filter)
+{
+    QStringList files =
+        QFileDialog::getOpenFileNames(parent, title, folderOf(parent, QLatin1String(kind)), filter);
+    remember(parent, QLatin1String(kind), files.value(0));
+    return files;
+}
+
+QString openFolder(QWidget* parent, const char* kind, const QString& title)
+{
+    QString folder =
+        QFileDialog::getExistingDirectory(parent, title, folderOf(parent, QLatin1String(kind)));
+    remember(parent, QLatin1String(kind), folder);
+    return folder;
+}
+
 QString saveFileName(QWidget* parent, const QString& title, const QString& filter,
                      const QString& suffix, Existing existing)
 {
-    QFileDialog dialog(parent, title, QString(), filter);
+    QFileDialog dialog(parent, title, folderOf(parent, suffix), filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, existing == Existing::IsTold);
     if (dialog.exec() != QDialog::Accepted) {
         return QString();
     }
-    return dialog.selectedFiles().value(0);
+    QString file = dialog.selectedFiles().value(0);
+    remember(parent, suffix, file);
+    return file;
 }
 
 } // namespace prompts

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -24,8 +25,23 @@ bool confirmLoss(const QString& text, const QString& first, const QString& secon
 /// be written over, or the caller tells that it may not.
 enum class Existing { IsAskedAbout, IsTold };
 
+/// The kinds of files whose folders are remembered, beside those that files are written with, which
+/// have the name of their suffix.
+inline constexpr char kDatabases[] = "db";
+inline constexpr char kSchedules[] = "json";
+inline constexpr char kMedia[] = "media";
+
+/// Ask for a file to read, for several of them, or for a folder; empty when the operator thinks
+/// better of it. A dialog begins where the last one of its kind ended, or else in a folder that is
+/// given.
+QString openFileName(QWidget* parent, const char* kind, const QString& title, const QString& filter,
+                     const QString& folder = QString());
+QStringList openFileNames(QWidget* parent, const char* kind, const QString& title,
+                          const QString& filter);
+QString openFolder(QWidget* parent, const char* kind, const QString& title);
+
 /// Asks for a file to write; empty when the operator thinks better of it. The suffix is added to a
-/// name without one.
+/// name without one, and is the kind of the file.
 QString saveFileName(QWidget* parent, const QString& title, const QString& filter,
                      const QString& suffix, Existing existing = Existing::IsAskedAbout);
 

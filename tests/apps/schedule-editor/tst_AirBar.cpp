@@ -1,4 +1,5 @@
 #include "BidiText.h"
+#include "EditorMenus.h"
 #include "HostFixture.h"
 #include "LookSupport.h"
 #include "air/AirBar.h"
@@ -15,6 +16,7 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
+#include <QStatusBar>
 #include <QToolButton>
 
 using namespace trel::desktop;
@@ -76,6 +78,8 @@ private slots:
     void startOfTheOpenEditorSavesWhatIsTyped();
     void aCancelStartsNothing();
     void theQuestionNamesOpenProblems();
+    void theEditorsOwnStartIsToldWithOpenProblems();
+    void theMenuAsksAsTheBarDoes();
     void tellsWhatIsUnsaved();
     void tellsWhenItWasSavedAndStarted();
     void theClockGoesOn();
@@ -184,6 +188,63 @@ void tst_AirBar::theQuestionNamesOpenProblems()
         qPrintable(answer.texts().last()));
 }
 
+void tst_AirBar::theEditorsOwnStartIsToldWithOpenProblems()
+{
+    Window fixture;
+    fixture.manager.addTask(taskOf(1));
+    fixture.manager.save();
+    fixture.showEditor();
+    const auto start = [&] {
+        QTest::mouseClick(
+            fixture.editor->findChild<QAbstractButton*>(QStringLiteral("pushButtonStart")),
+            Qt::LeftButton);
+    };
+    const auto* problems = fixture.window.findChild<ProblemDock*>();
+    const QStatusBar& bar = *fixture.window.statusBar();
+    {
+        // It is the editor's: it asks nothing, and starts nothing that it refuses.
+        fixture.manager.addTask(taskOf(2));
+        const PromptAnswer refusal(1);
+        start();
+        QCOMPARE(refusal.count(), 1);
+        QCOMPARE(bar.currentMessage(), QString());
+    }
+    PlayTask task = taskOf(1);
+    task.plans.push_back(timePlan(2, "08:00:00", "09:00:00"));
+    fixture.manager.deleteTask(2);
+    fixture.manager.addTask(task);
+    QTRY_VERIFY(problems->count() > 0);
+    start();
+    QVERIFY(fixture.light.isOn());
+    QCOMPARE(bar.currentMessage(),
+             QStringLiteral("The schedule is on air. Open problems: %1").arg(problems->count()));
+}
+
+void tst_AirBar::theMenuAsksAsTheBarDoes()
+{
+    Window fixture;
+    fixture.manager.addTask(taskOf(1));
+    QAction& start = *fixture.window.findChild<EditorMenus*>()->startSchedule();
+    QVERIFY(fixture.bar.actions().contains(&start));
+    QCOMPARE(start.text(), QStringLiteral("St&art the schedule…"));
+    const auto press = [&](Qt::KeyboardModifiers held) {
+        // Behind a prompt, off screen no window is at work.
+        QApplication::setActiveWindow(&fixture.window);
+        QTest::keyClick(&fixture.window, Qt::Key_F5, held);
+    };
+    const PromptAnswer answers({2, 1, PromptAnswer::Enter, 1});
+    press({});
+    QVERIFY(!fixture.light.isOn());
+    press({});
+    QVERIFY(fixture.light.isOn());
+    // Enter takes nothing off the screen.
+    press(Qt::ShiftModifier);
+    QVERIFY(fixture.light.isOn());
+    press(Qt::ShiftModifier);
+    QTRY_VERIFY(!fixture.light.isOn());
+    QCOMPARE(answers.count(), 4);
+}
+
 void tst_AirBar::tellsWhatIsUnsaved()
 {
     Window fixture;
@@ -233,7 +294,7 @@ void tst_AirBar::searchLeadsToTheCatalogue()
     QTRY_COMPARE(QApplication::activeWindow(), &fixture.window);
     auto* panel = fixture.window.findChild<QDockWidget*>(QStringLiteral("catalogueDock"));
     panel->hide();
-    fixture.window.findChild<AirBar*>()->search()->trigger();
+    fixture.window.findChild<EditorMenus*>()->searchPrograms()->trigger();
     QVERIFY(panel->isVisible());
     QVERIFY(fixture.window.findChild<QLineEdit*>(QStringLiteral("programSearch"))->hasFocus());
 }

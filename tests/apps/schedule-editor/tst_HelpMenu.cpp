@@ -8,6 +8,8 @@
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
 #include "week/WeekKeys.h"
+#include "week/WeekMenu.h"
+#include "week/moves/MoveKeys.h"
 
 #include <QAction>
 #include <QApplication>
@@ -68,6 +70,7 @@ private slots:
     void theSheetKnowsAllMenus();
     void theSheetKnowsAllShortcutsOfTheEditor();
     void theSheetKnowsTheKeysOfTheWeek();
+    void whatIsDoneDailyHasKeys();
     void theSheetIsOnScreen();
     void pictures_data();
     void pictures();
@@ -189,6 +192,39 @@ void tst_HelpMenu::theSheetKnowsTheKeysOfTheWeek()
         }
     }
     QCOMPARE(count, 12);
+    // And each that moves a block, by itself and in its line.
+    for (const week::MoveKey& key : week::moveKeys()) {
+        const QString name = QKeySequence(key.keys).toString(QKeySequence::NativeText);
+        QVERIFY2(told.contains(name), qPrintable(name));
+    }
+    QVERIFY2(lines.contains(QStringLiteral("Ctrl+Up, Ctrl+Down")),
+             qPrintable(lines.join(QLatin1Char('\n'))));
+    QVERIFY2(lines.contains(QStringLiteral("Up, Down, Left, Right")),
+             qPrintable(lines.join(QLatin1Char('\n'))));
+}
+
+/// What is done daily stands in a menu and has a key.
+void tst_HelpMenu::whatIsDoneDailyHasKeys()
+{
+    const Desk desk;
+    const auto& menus = *desk.window.findChild<EditorMenus*>();
+    const auto& week = *desk.window.findChild<week::WeekMenu*>();
+    const std::vector<std::pair<QAction*, const char*>> daily = {
+        {menus.startSchedule(), "F5"},   {menus.stopSchedule(), "Shift+F5"},
+        {menus.undo(), "Ctrl+Z"},        {menus.searchPrograms(), "Ctrl+F"},
+        {menus.importFiles(), "Ctrl+I"}, {menus.editSchedule(), "Ctrl+E"},
+        {menus.previewProgram(), "F4"},  {week.today(), "Alt+Home"},
+        {week.former(), "Alt+PgUp"},     {week.next(), "Alt+PgDown"},
+        {week.choose(), "Ctrl+G"},
+    };
+    QStringList keys;
+    addKeys(desk.window.menuBar()->actions(), keys);
+    for (const auto& [action, key] : daily) {
+        QCOMPARE(action->shortcut(), QKeySequence(QLatin1String(key)));
+        QCOMPARE(keys.count(action->shortcut().toString(QKeySequence::NativeText)), 1);
+    }
+    // No key does two things in the window.
+    QCOMPARE(QSet<QString>(keys.begin(), keys.end()).size(), keys.size());
 }
 
 void tst_HelpMenu::theSheetIsOnScreen()

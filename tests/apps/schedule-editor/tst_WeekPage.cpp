@@ -12,6 +12,7 @@
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 using namespace trel::desktop;
@@ -58,6 +59,7 @@ private slots:
     void aMinimizedEditorComesBack();
     void aClickSaysWhy();
     void theCalendarLeadsToADay();
+    void theMenuLeadsThroughTheWeeks();
     void theLegendNamesThePrograms();
     void theLegendCanBeRead_data() { addThemes(); }
     void theLegendCanBeRead();
@@ -235,6 +237,24 @@ void tst_WeekPage::theCalendarLeadsToADay()
     QTest::keyClick(calendar->findChild<QTableView*>(), Qt::Key_Return);
     QCOMPARE(fixture.view.firstDay(), QDate(2031, 5, 12));
     QTRY_VERIFY(fixture.page.findChild<QCalendarWidget*>() == nullptr);
+}
+
+void tst_WeekPage::theMenuLeadsThroughTheWeeks()
+{
+    Window fixture;
+    const QDate today = fixture.view.firstDay();
+    // From wherever the keyboard is in the window.
+    auto* const search = fixture.window.findChild<QLineEdit*>(QStringLiteral("programSearch"));
+    search->setFocus();
+    QTest::keyClick(search, Qt::Key_PageDown, Qt::AltModifier);
+    QTest::keyClick(search, Qt::Key_PageDown, Qt::AltModifier);
+    QCOMPARE(fixture.view.firstDay(), today.addDays(14));
+    QTest::keyClick(search, Qt::Key_PageUp, Qt::AltModifier);
+    QCOMPARE(fixture.view.firstDay(), today.addDays(7));
+    QTest::keyClick(search, Qt::Key_Home, Qt::AltModifier);
+    QCOMPARE(fixture.view.firstDay(), today);
+    QTest::keyClick(search, Qt::Key_G, Qt::ControlModifier);
+    QVERIFY(fixture.window.findChild<QCalendarWidget*>()->isVisible());
 }
 
 void tst_WeekPage::theLegendNamesThePrograms()

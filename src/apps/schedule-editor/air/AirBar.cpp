@@ -1,7 +1,6 @@
 #include "air/AirBar.h"
 
 #include "EditorMenus.h"
-#include "air/StartAction.h"
 #include "trelwidgets/PlainToolTip.h"
 
 #include <QAction>
@@ -9,22 +8,20 @@
 
 namespace trel::desktop::air {
 
-AirBar::AirBar(const EditorMenus& menus, const StartAction& start, QWidget* state, QWidget* parent)
+AirBar::AirBar(const EditorMenus& menus, QWidget* state, QWidget* parent)
     : QToolBar(parent)
     , m_menus(menus)
-    , m_search(new QAction(this))
 {
     setObjectName(QStringLiteral("airBar"));
     setToolButtonStyle(Qt::ToolButtonTextOnly);
-    m_search->setShortcut(QKeySequence::Find);
     addAction(menus.editSchedule());
     addAction(menus.importFiles());
     addAction(menus.undo());
     addSeparator();
-    addAction(start.action());
+    addAction(menus.startSchedule());
     addAction(menus.stopSchedule());
     addSeparator();
-    addAction(m_search);
+    addAction(menus.searchPrograms());
     state->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     addWidget(state);
     retranslate();
@@ -39,8 +36,8 @@ void AirBar::retranslate()
     m_menus.importFiles()->setIconText(tr("Import"));
     m_menus.undo()->setIconText(tr("Undo"));
     m_menus.stopSchedule()->setIconText(tr("Stop"));
-    m_search->setText(tr("Search"));
-    m_search->setToolTip(trel::widgets::plainToolTip(tr("Search the catalog")));
+    m_menus.searchPrograms()->setIconText(tr("Search"));
+    m_menus.searchPrograms()->setToolTip(trel::widgets::plainToolTip(tr("Search the catalog")));
 }
 
 void AirBar::changeEvent(QEvent* event)

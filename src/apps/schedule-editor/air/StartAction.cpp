@@ -5,6 +5,7 @@
 #include "scheduleControlUI.h"
 #include "service/TaskPeriods.h"
 #include "service/scheduleManage.h"
+#include "trelprogramschedule/ScheduleHost.h"
 #include "trelwidgets/PlainToolTip.h"
 
 #include <QAbstractButton>
@@ -18,23 +19,33 @@ using namespace trel::mediadispatch;
 
 namespace trel::desktop::air {
 
-StartAction::StartAction(scheduleControlUI& editor, PendingNotices& notices, Count openProblems,
-                         QObject* parent)
+namespace {
+
+QAbstractButton* buttonOf(const scheduleControlUI& editor)
+{
+    return editor.findChild<QAbstractButton*>(QStringLiteral("pushButtonStart"));
+}
+
+} // namespace
+
+StartAction::StartAction(QAction& action, scheduleControlUI& editor, PendingNotices& notices,
+                         Count openProblems, QObject* parent)
     : QObject(parent)
+    , m_action(action)
     , m_editor(editor)
     , m_notices(notices)
     , m_openProblems(std::move(openProblems))
-    , m_action(new QAction(this))
 {
     parent->installEventFilter(this);
-    connect(m_action, &QAction::triggered, this, &StartAction::ask);
+    connect(&m_action, &QAction::triggered, this, &StartAction::ask);
+    followEditor();
     retranslate();
 }
 
 void StartAction::retranslate()
 {
-    m_action->setText(tr("Start"));
-    m_action->setToolTip(trel::widgets::plainToolTip(tr("Put the schedule on air")));
+    m_action.setIconText(tr("Start"));
+    m_action.setToolTip(trel::widgets::plainToolTip(tr("Put the schedule on air")));
 }
 
 bool StartAction::eventFilter(QObject* watched, QEvent* event)
@@ -61,12 +72,38 @@ void StartAction::ask()
     }
 }
 
+void StartAction::followEditor()
+{
+    const QAbstractButton* const button = buttonOf(m_editor);
+    if (button == nullptr) {
+        return;
+    }
+    connect(button, &QAbstractButton::pressed, this,
+            [this] { m_before = ScheduleHost::instance().started(); });
+    // The editor has heard of it first, and has started by now what it starts.
+    connect(button, &QAbstractButton::clicked, this, &StartAction::tellOfStart);
+}
+
+void StartAction::tellOfStart()
+{
+    const auto now = ScheduleHost::instance().started();
+    if (now && !(m_before && *now == *m_before)) {
+        emit told(sentence());
+    }
+}
+
+QString StartAction::sentence() const
+{
+    const int problems = m_openProblems();
+    return problems == 0 ? tr("The schedule is on air.")
+                         : tr("The schedule is on air. Open problems: %1").arg(problems);
+}
+
 void StartAction::start()
 {
     if (m_editor.isVisible()) {
         // The editor takes over what is half typed, and says itself what is in the way.
-        if (auto* button =
-                m_editor.findChild<QAbstractButton*>(QStringLiteral("pushButtonStart"))) {
+        if (QAbstractButton* const button = buttonOf(m_editor)) {
             button->click();
         }
         return;
@@ -79,7 +116,9 @@ void StartAction::start()
                            .arg(overlap->second));
         return;
     }
+    m_before = ScheduleHost::instance().started();
     m_editor.slotStart();
+    tellOfStart();
 }
 
 } // namespace trel::desktop::air

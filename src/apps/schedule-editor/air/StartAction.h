@@ -1,8 +1,11 @@
 #pragma once
 
+#include "trelprogramschedule/effect/EffectStart.h"
+
 #include <QObject>
 
 #include <functional>
+#include <optional>
 
 class QAction;
 
@@ -28,10 +31,13 @@ public:
     using Count = std::function<int()>;
 
     /// All of these outlive it. The question names the number of problems; none is named for 0.
-    StartAction(trel::mediadispatch::scheduleControlUI& editor, PendingNotices& notices,
-                Count openProblems, QObject* parent);
+    StartAction(QAction& action, trel::mediadispatch::scheduleControlUI& editor,
+                PendingNotices& notices, Count openProblems, QObject* parent);
 
-    QAction* action() const { return m_action; }
+signals:
+    /// The schedule has been put on air here, by the editor's own button as well, which asks
+    /// nothing: a sentence that names the number of problems.
+    void told(const QString& line);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -39,13 +45,17 @@ protected:
 private:
     void retranslate();
     void ask();
+    void followEditor();
+    void tellOfStart();
     void start();
+    QString sentence() const;
     QString question() const;
 
+    QAction& m_action;
     trel::mediadispatch::scheduleControlUI& m_editor;
     PendingNotices& m_notices;
     Count m_openProblems;
-    QAction* m_action;
+    std::optional<trel::mediadispatch::EffectStart> m_before; ///< What was on air then.
 };
 
 } // namespace air

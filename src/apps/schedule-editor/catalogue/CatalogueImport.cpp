@@ -1,5 +1,6 @@
 #include "catalogue/CatalogueImport.h"
 
+#include "HostPrompts.h"
 #include "PendingNotices.h"
 #include "ProblemWords.h"
 #include "catalogue/ImportJob.h"
@@ -8,7 +9,6 @@
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 
@@ -42,12 +42,12 @@ CatalogueImport::CatalogueImport(PendingNotices& notices, QWidget& window)
 
 void CatalogueImport::chooseFiles()
 {
-    run(QFileDialog::getOpenFileNames(&m_window, tr("Import files"), QString(), mediaFilters()));
+    run(prompts::openFileNames(&m_window, prompts::kMedia, tr("Import files"), mediaFilters()));
 }
 
 void CatalogueImport::chooseFolder()
 {
-    const QString folder = QFileDialog::getExistingDirectory(&m_window, tr("Import folder"));
+    const QString folder = prompts::openFolder(&m_window, prompts::kMedia, tr("Import folder"));
     if (!folder.isEmpty()) {
         run({folder});
     }

@@ -45,6 +45,7 @@ CataloguePanel::CataloguePanel(EditorMenus& menus, QWidget* parent)
     , m_pictures(new Thumbnails(this))
     , m_filter(new CatalogueFilter(this))
     , m_table(new ProgramTable(*m_programs, this))
+    , m_names(new ProgramDelegate(*m_programs, *m_pictures, m_table))
     , m_hint(new QLabel(this))
     , m_order(new CatalogueOrder(this))
     , m_lookup(new ProgramLookup(this))
@@ -84,8 +85,7 @@ void CataloguePanel::buildTable()
     columns->resizeSection(ProgramTableModel::KindColumn, 66);
     columns->resizeSection(ProgramTableModel::LengthColumn, 82);
     columns->resizeSection(ProgramTableModel::IndexColumn, 80);
-    m_table->setItemDelegateForColumn(ProgramTableModel::NameColumn,
-                                      new ProgramDelegate(*m_programs, *m_pictures, m_table));
+    m_table->setItemDelegateForColumn(ProgramTableModel::NameColumn, m_names);
     m_table->verticalHeader()->setDefaultSectionSize(Thumbnails::frame().height() + kAbovePicture);
     connect(m_table, &ProgramTable::sightChanged, this, &CataloguePanel::readPictures);
     connect(m_pictures, &Thumbnails::ready, m_table->viewport(), qOverload<>(&QWidget::update));
@@ -204,6 +204,12 @@ void CataloguePanel::readPictures()
         programs.push_back(m_programs->program(row));
     }
     m_pictures->wish(programs);
+}
+
+void CataloguePanel::setColours(const look::ThemeColours& colours)
+{
+    m_names->setColours(colours);
+    m_table->viewport()->update();
 }
 
 void CataloguePanel::focusSearch()

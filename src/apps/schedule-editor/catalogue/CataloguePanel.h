@@ -8,9 +8,14 @@ class QLabel;
 
 namespace trel::desktop {
 
+namespace look {
+struct ThemeColours;
+}
+
 class CatalogueFilter;
 class CatalogueOrder;
 class EditorMenus;
+class ProgramDelegate;
 class ProgramLookup;
 class ProgramPreview;
 class ProgramTable;
@@ -35,6 +40,9 @@ public:
     /// Takes over the catalogue as it stands in the service now. The panel does so by itself
     /// whenever the host says that it has changed.
     void reload();
+
+    /// The colors by which programs are known in the week.
+    void setColours(const look::ThemeColours& colours);
 
     /// Lets the operator type what to search for. The panel has to be shown.
     void focusSearch();
@@ -73,6 +81,7 @@ private:
     Thumbnails* m_pictures;
     CatalogueFilter* m_filter;
     ProgramTable* m_table;
+    ProgramDelegate* m_names;
     QLabel* m_hint;
     CatalogueOrder* m_order;
     ProgramLookup* m_lookup;             ///< For what is to be removed.

@@ -15,11 +15,6 @@ QString native(const QKeySequence& keys)
     return keys.toString(QKeySequence::NativeText);
 }
 
-QString native(const char* keys)
-{
-    return native(QKeySequence(QLatin1String(keys)));
-}
-
 /// The text of a menu entry without the mark of its letter, and without a letter in brackets.
 QString plain(QString text)
 {
@@ -41,13 +36,15 @@ void addActions(KeySection& section, const QList<QAction*>& actions)
     }
 }
 
-QString joined(std::initializer_list<const char*> keys)
+/// Keys that do the same stand in one line.
+void addKey(KeySection& section, int keys, const QString& text)
 {
-    QStringList texts;
-    for (const char* key : keys) {
-        texts.append(native(key));
+    const QString told = native(QKeySequence(keys));
+    if (!section.lines.empty() && section.lines.back().text == text) {
+        section.lines.back().keys += QStringLiteral(", ") + told;
+    } else {
+        section.lines.push_back({told, text});
     }
-    return texts.join(QStringLiteral(", "));
 }
 
 } // namespace
@@ -102,22 +99,65 @@ QString KeyTable::ofShortcut(const QString& keys)
     return {};
 }
 
+QString KeyTable::ofCommand(week::WeekCommand command)
+{
+    using week::WeekCommand;
+    switch (command) {
+    case WeekCommand::None:
+        break;
+    case WeekCommand::Earlier:
+    case WeekCommand::Later:
+    case WeekCommand::DayBefore:
+    case WeekCommand::DayAfter:
+        return tr("Select another plan");
+    case WeekCommand::Activate:
+        return tr("Open the selected plan in the editor");
+    case WeekCommand::Explain:
+        return tr("Say what is on screen then, and why");
+    case WeekCommand::WeekBefore:
+    case WeekCommand::WeekAfter:
+        return tr("Show another week");
+    case WeekCommand::Now:
+        return tr("Show the present moment");
+    case WeekCommand::ZoomIn:
+    case WeekCommand::ZoomOut:
+        return tr("Zoom");
+    case WeekCommand::ZoomToFit:
+        return tr("Fit the whole day");
+    }
+    return {};
+}
+
+QString KeyTable::ofMove(const week::MoveKey& move)
+{
+    switch (move.part) {
+    case week::PlanMove::Begin:
+        return tr("Move the begin of the plan");
+    case week::PlanMove::End:
+        return tr("Move the end of the plan");
+    case week::PlanMove::Whole:
+        break;
+    }
+    return move.days == 0 ? tr("Move the plan by a quarter of an hour")
+                          : tr("Move the plan to another day");
+}
+
 KeySection KeyTable::ofWeek()
 {
-    return {tr("Week"),
-            {{joined({"Up", "Down", "Left", "Right"}), tr("Select another plan")},
-             {native("Return"), tr("Open the selected plan in the editor")},
-             {native("Space"), tr("Say what is on screen then, and why")},
-             {joined({"Ctrl+Up", "Ctrl+Down"}), tr("Move the plan by a quarter of an hour")},
-             {joined({"Ctrl+Left", "Ctrl+Right"}), tr("Move the plan to another day")},
-             {joined({"Ctrl+Shift+Up", "Ctrl+Shift+Down"}), tr("Move the end of the plan")},
-             {joined({"Alt+Shift+Up", "Alt+Shift+Down"}), tr("Move the begin of the plan")},
-             {native("Esc"), tr("Give up dragging")},
-             {native("Menu"), tr("Copy the plans of the day")},
-             {joined({"Ctrl+PgUp", "Ctrl+PgDown"}), tr("Show another week")},
-             {native("Home"), tr("Show the present moment")},
-             {joined({"+", "-"}), tr("Zoom")},
-             {native("0"), tr("Fit the whole day")}}};
+    KeySection section{tr("Week"), {}};
+    for (const week::WeekKey& key : week::weekKeys()) {
+        if (!key.isTwin) {
+            const int control = key.needsControl ? static_cast<int>(Qt::CTRL) : 0;
+            addKey(section, control + key.key, ofCommand(key.command));
+        }
+    }
+    for (const week::MoveKey& key : week::moveKeys()) {
+        addKey(section, key.keys, ofMove(key));
+    }
+    addKey(section, week::kGiveUpKey, tr("Give up dragging"));
+    // The platform decides what asks for a context menu; this key does on most keyboards.
+    addKey(section, Qt::Key_Menu, tr("Copy the plans of the day"));
+    return section;
 }
 
 } // namespace trel::desktop

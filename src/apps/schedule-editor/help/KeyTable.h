@@ -1,5 +1,8 @@
 #pragma once
 
+#include "week/WeekKeys.h"
+#include "week/moves/MoveKeys.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -25,7 +28,7 @@ struct KeySection
 };
 
 /// All keys of the host's windows, in the language in use. Those of the menus and of the editor are
-/// read off the actions and shortcuts that are there.
+/// read off the actions and shortcuts that are there, those of the week off what handles them.
 class KeyTable
 {
     Q_DECLARE_TR_FUNCTIONS(KeyTable)
@@ -38,6 +41,8 @@ private:
     static KeySection ofEditor(const QWidget& editor);
     static KeySection ofWeek();
     static QString ofShortcut(const QString& keys);
+    static QString ofCommand(week::WeekCommand command);
+    static QString ofMove(const week::MoveKey& move);
 };
 
 } // namespace trel::desktop

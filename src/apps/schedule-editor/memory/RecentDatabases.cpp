@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QDir>
+#include <QFileInfo>
 #include <QFontMetrics>
 #include <QMenu>
 #include <QSettings>
@@ -48,6 +49,12 @@ QStringList RecentDatabases::paths() const
         }
     }
     return paths;
+}
+
+QString RecentDatabases::last() const
+{
+    const QString path = paths().value(0);
+    return QFileInfo(path).isFile() ? path : QString();
 }
 
 void RecentDatabases::add(const QString& path)

@@ -18,6 +18,8 @@ public:
     /// outlive it.
     RecentDatabases(QSettings& settings, QMenu& menu, QObject* parent = nullptr);
 
+    /// The one that was open last, if its file is still there; empty otherwise.
+    QString last() const;
     /// A database has been opened: puts it on top.
     void add(const QString& path);
 

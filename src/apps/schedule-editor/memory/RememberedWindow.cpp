@@ -1,5 +1,6 @@
 #include "memory/RememberedWindow.h"
 
+#include "memory/LastFolders.h"
 #include "week/WeekGeometry.h"
 #include "week/WeekView.h"
 
@@ -22,6 +23,7 @@ namespace {
 const QLatin1String kGeometry("window/geometry");
 const QLatin1String kPanels("window/panels");
 const QLatin1String kHour("week/hour");
+const QLatin1String kFolders("folders");
 
 /// Of the panels: with others than these, what was remembered is not taken.
 constexpr int kPanelsVersion = 1;
@@ -80,6 +82,19 @@ void RememberedWindow::restore()
     if (auto* const view = m_window.findChild<week::WeekView*>()) {
         restoreZoom(*view);
     }
+    if (LastFolders* const folders = LastFolders::of(&m_window)) {
+        restoreFolders(*folders);
+    }
+}
+
+void RememberedWindow::restoreFolders(LastFolders& folders) const
+{
+    m_settings.beginGroup(kFolders);
+    const QStringList kinds = m_settings.childKeys();
+    for (const QString& kind : kinds) {
+        folders.remember(kind, m_settings.value(kind).toString());
+    }
+    m_settings.endGroup();
 }
 
 void RememberedWindow::restoreColumns(QTableView& table) const
@@ -131,6 +146,13 @@ void RememberedWindow::save()
     if (const auto* const view = m_window.findChild<week::WeekView*>()) {
         // A whole day is as high as the window.
         m_settings.setValue(kHour, view->isFit() ? QVariant(0) : QVariant(view->hourHeight()));
+    }
+    if (const LastFolders* const folders = LastFolders::of(&m_window)) {
+        m_settings.beginGroup(kFolders);
+        for (auto folder = folders->all().begin(); folder != folders->all().end(); ++folder) {
+            m_settings.setValue(folder.key(), folder.value());
+        }
+        m_settings.endGroup();
     }
 }
 

@@ -8,14 +8,17 @@ class QTableView;
 
 namespace trel::desktop {
 
+class LastFolders;
+
 namespace week {
 class WeekView;
 }
 
 /// What the operator has made of the window, from one start of the program to the next: its size
-/// and place, where its panels are, the widths of the columns of its tables, and how high an hour
-/// of its week is. Each is remembered by the name of its widget. A value that is damaged, or of
-/// another program, is as good as none; without a size the window is no larger than the screen.
+/// and place, where its panels are, the widths of the columns of its tables, how high an hour of
+/// its week is, and the folders of the files that were chosen last. Each is remembered by the name
+/// of its widget. A value that is damaged, or of another program, is as good as none; without a
+/// size the window is no larger than the screen.
 class RememberedWindow : public QObject
 {
     Q_OBJECT
@@ -32,6 +35,7 @@ private:
     void restore();
     void restoreColumns(QTableView& table) const;
     void restoreZoom(week::WeekView& view) const;
+    void restoreFolders(LastFolders& folders) const;
     void save();
 
     QSettings& m_settings;

@@ -25,6 +25,8 @@ namespace {
 constexpr qint64 kDay = 86'400'000;
 constexpr int kProgramPixels = 16;
 constexpr int kReasonLines = 2;
+/// A plan with its times is longer than the panel is wide in most languages.
+constexpr int kPlanLines = 2;
 
 /// A label that one reads past while the others are read.
 template <typename Label>
@@ -93,13 +95,13 @@ NowNextPanel::NowNextPanel(ScreenFollower& follower, QWidget* parent)
     , m_gone(named(plainLabel(this), "nowGone"))
     , m_toCome(named(plainLabel(this), "nowToCome"))
     , m_entry(named(new ElidedText(this), "nowEntry"))
-    , m_plan(named(new ElidedText(this), "nowPlan"))
+    , m_plan(named(new ElidedText(this, kPlanLines), "nowPlan"))
     , m_reason(named(faint(new ElidedText(this, kReasonLines)), "nowReason"))
     , m_nextPart(new QWidget(this))
     , m_nextTitle(named(faint(plainLabel(m_nextPart)), "nextTitle"))
     , m_nextInserted(named(new Badge(m_nextPart), "nextInserted"))
     , m_nextProgram(named(new ElidedText(m_nextPart), "nextProgram"))
-    , m_nextPlan(named(new ElidedText(m_nextPart), "nextPlan"))
+    , m_nextPlan(named(new ElidedText(m_nextPart, kPlanLines), "nextPlan"))
     , m_nextTime(named(new ElidedText(m_nextPart), "nextTime"))
     , m_coming(new ComingPrograms(follower, this))
     , m_cutIn(named(new CutInLine(follower, this), "nowCutIn"))

@@ -2,42 +2,59 @@
 
 #include <QKeyEvent>
 
+#include <algorithm>
+
 namespace trel::desktop::week {
+
+namespace {
+
+WeekCommand mirrored(WeekCommand command)
+{
+    switch (command) {
+    case WeekCommand::DayBefore:
+        return WeekCommand::DayAfter;
+    case WeekCommand::DayAfter:
+        return WeekCommand::DayBefore;
+    default:
+        return command;
+    }
+}
+
+} // namespace
+
+const std::vector<WeekKey>& weekKeys()
+{
+    static const std::vector<WeekKey> keys = {
+        {Qt::Key_Up, false, WeekCommand::Earlier, false},
+        {Qt::Key_Down, false, WeekCommand::Later, false},
+        {Qt::Key_Left, false, WeekCommand::DayBefore, false},
+        {Qt::Key_Right, false, WeekCommand::DayAfter, false},
+        {Qt::Key_Return, false, WeekCommand::Activate, false},
+        {Qt::Key_Enter, false, WeekCommand::Activate, true},
+        {Qt::Key_Space, false, WeekCommand::Explain, false},
+        {Qt::Key_PageUp, true, WeekCommand::WeekBefore, false},
+        {Qt::Key_PageDown, true, WeekCommand::WeekAfter, false},
+        {Qt::Key_Home, false, WeekCommand::Now, false},
+        {Qt::Key_Plus, false, WeekCommand::ZoomIn, false},
+        // The key of the plus, on many keyboards.
+        {Qt::Key_Equal, false, WeekCommand::ZoomIn, true},
+        {Qt::Key_Minus, false, WeekCommand::ZoomOut, false},
+        {Qt::Key_0, false, WeekCommand::ZoomToFit, false},
+    };
+    return keys;
+}
 
 WeekCommand commandOf(const QKeyEvent& event, Qt::LayoutDirection direction)
 {
-    const bool isMirrored = direction == Qt::RightToLeft;
     const bool hasControl = (event.modifiers() & Qt::ControlModifier) != 0;
-    switch (event.key()) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal: // The key of the plus, on many keyboards.
-        return WeekCommand::ZoomIn;
-    case Qt::Key_Minus:
-        return WeekCommand::ZoomOut;
-    case Qt::Key_0:
-        return WeekCommand::ZoomToFit;
-    case Qt::Key_Up:
-        return WeekCommand::Earlier;
-    case Qt::Key_Down:
-        return WeekCommand::Later;
-    case Qt::Key_Left:
-        return isMirrored ? WeekCommand::DayAfter : WeekCommand::DayBefore;
-    case Qt::Key_Right:
-        return isMirrored ? WeekCommand::DayBefore : WeekCommand::DayAfter;
-    case Qt::Key_PageUp:
-        return hasControl ? WeekCommand::WeekBefore : WeekCommand::None;
-    case Qt::Key_PageDown:
-        return hasControl ? WeekCommand::WeekAfter : WeekCommand::None;
-    case Qt::Key_Home:
-        return WeekCommand::Now;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return WeekCommand::Activate;
-    case Qt::Key_Space:
-        return WeekCommand::Explain;
-    default:
+    const std::vector<WeekKey>& keys = weekKeys();
+    const auto found = std::find_if(keys.begin(), keys.end(), [&](const WeekKey& key) {
+        return key.key == event.key() && (hasControl || !key.needsControl);
+    });
+    if (found == keys.end()) {
         return WeekCommand::None;
     }
+    return direction == Qt::RightToLeft ? mirrored(found->command) : found->command;
 }
 
 } // namespace trel::desktop::week

@@ -12,6 +12,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace trel::desktop::week {
 
 namespace {
@@ -81,8 +83,17 @@ void WeekPage::explain()
 {
     const QString why = m_panel->view()->explanation();
     m_reason->setForegroundRole(why.isEmpty() ? QPalette::PlaceholderText : QPalette::WindowText);
-    m_reason->setText(why.isEmpty() ? tr("Click a block to see why it is on screen, or why not.")
-                                    : why);
+    m_reason->setText(why.isEmpty() ? advice() : why);
+}
+
+QString WeekPage::advice() const
+{
+    const std::vector<WeekColumn>& days = m_panel->view()->layoutOfWeek().days;
+    const bool hasTask = std::any_of(days.begin(), days.end(),
+                                     [](const WeekColumn& day) { return day.task.has_value(); });
+    return hasTask ? tr("Click a block to see why it is on screen, or why not.")
+                   : tr("No task is valid in this week. Choose “Edit” to add one, then drag "
+                        "programs from the catalog onto the week.");
 }
 
 void WeekPage::retranslate()

@@ -47,6 +47,8 @@ private:
     void build();
     void retranslate();
     void explain();
+    /// What to do while no block is selected.
+    QString advice() const;
     void takeFont();
 
     year::YearStrip* m_year;

@@ -6,6 +6,7 @@
 #include "week/CalendarPopup.h"
 #include "week/WeekView.h"
 #include "week/moves/CopyDayMenu.h"
+#include "week/moves/DayDrag.h"
 #include "week/moves/WeekMover.h"
 
 #include <QComboBox>
@@ -130,6 +131,7 @@ void WeekPanel::setColours(const look::ThemeColours& colours)
     m_view->setColours(colours);
     if (m_mover != nullptr) {
         m_mover->setColours(colours);
+        m_dayDrag->setColours(colours);
     }
 }
 
@@ -137,10 +139,13 @@ void WeekPanel::allowEdits(EditTarget& target)
 {
     m_mover = new WeekMover(*m_view, target);
     m_mover->setColours(m_view->colours());
+    m_dayDrag = new DayDrag(*m_view, target);
+    m_dayDrag->setColours(m_view->colours());
     auto* copies = new CopyDayMenu(*m_view, target);
     const auto follow = [this, copies] {
         const bool isEdited = m_feed.source() == WeekSource::Edited;
         m_mover->setEnabled(isEdited);
+        m_dayDrag->setEnabled(isEdited);
         copies->setEnabled(isEdited);
     };
     connect(m_source, QOverload<int>::of(&QComboBox::currentIndexChanged), m_mover, follow);

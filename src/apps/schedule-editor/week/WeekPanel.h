@@ -10,6 +10,7 @@ class QPushButton;
 
 namespace trel::desktop::week {
 
+class DayDrag;
 class EditTarget;
 class WeekMover;
 class WeekView;
@@ -27,9 +28,11 @@ public:
     void setColours(const look::ThemeColours& colours);
     /// The language of dates, and the country whose weeks they are.
     void setLanguage(const QLocale& locale);
-    /// Lets the operator move blocks of the schedule as edited. Without this the picture is only
-    /// looked at. To be called once; the target outlives the panel.
+    /// Lets the operator move blocks of the schedule as edited, and copy its days. Without this the
+    /// picture is only looked at. To be called once; the target outlives the panel.
     void allowEdits(EditTarget& target);
+    /// Lets the operator choose a day, whose week is shown then.
+    void showCalendar();
 
 signals:
     /// The operator wants to get to a plan, by its id.
@@ -48,13 +51,13 @@ private:
     void retranslate();
     void activate(int taskId, int planRow);
     void stepMonths(int months);
-    void showCalendar();
     void updateTitle();
     void updateButtons();
 
     WeekFeed m_feed;
     WeekView* m_view;
     WeekMover* m_mover = nullptr;
+    DayDrag* m_dayDrag = nullptr;
     QPushButton* m_formerMonth;
     QPushButton* m_former;
     QPushButton* m_today;

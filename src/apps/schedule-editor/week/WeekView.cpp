@@ -179,6 +179,11 @@ std::optional<WeekHit> WeekView::hit(const BlockRef& block) const
     return found == nullptr ? std::nullopt : std::optional(hitOf(*m_layout, *day, *found));
 }
 
+QWidget* WeekView::dates() const
+{
+    return m_dates;
+}
+
 QRect WeekView::visualRect(const BlockRef& block) const
 {
     const std::optional<WeekHit> place = hit(block);

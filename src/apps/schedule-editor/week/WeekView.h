@@ -66,6 +66,8 @@ public:
     /// Where days and hours stand in the whole picture, of which the viewport shows a part.
     const WeekGeometry& geometryOfWeek() const { return m_area->geometry(); }
     QPoint offset() const { return m_area->offset(); }
+    /// The strip of dates above the viewport, as wide as that.
+    QWidget* dates() const;
     /// What stands at a place of the viewport.
     WeekHit hit(const QPoint& place) const;
     /// Selects a block of this week as soon as a picture has it, with the next one at the earliest.

@@ -1,7 +1,9 @@
 #include "catalogue/CataloguePanel.h"
 
 #include "HostFixture.h"
+#include "catalogue/ProgramDelegate.h"
 #include "catalogue/ProgramTableModel.h"
+#include "look/ProgramColours.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 
@@ -30,6 +32,7 @@ private slots:
     void aClickOnAHeaderSorts();
     void theSelectionStaysWithThePrograms();
     void keysLeadFromTheSearchToTheTable();
+    void programsHaveTheColoursOfTheWeek();
     void theStateComesBack();
     void aStateOfOthersChangesNothing();
     void numbersAreWrittenAsTheLanguageDoes();
@@ -199,6 +202,29 @@ void tst_CataloguePanel::keysLeadFromTheSearchToTheTable()
     panel().focusSearch();
     QVERIFY(search().hasFocus());
     QCOMPARE(search().selectedText(), QStringLiteral("we"));
+}
+
+void tst_CataloguePanel::programsHaveTheColoursOfTheWeek()
+{
+    const QStringList names = Themes::names();
+    for (const QString& name : names) {
+        m_fixture->themes.select(name);
+        table().selectRow(1);
+        const QImage seen = table().viewport()->grab().toImage();
+        const qreal dots = seen.devicePixelRatio();
+        for (int row = 0; row < table().model()->rowCount(); ++row) {
+            QStyleOptionViewItem option;
+            option.rect = table().visualRect(table().model()->index(row, 0));
+            option.direction = table().layoutDirection();
+            if (!table().viewport()->rect().contains(option.rect.center())) {
+                break;
+            }
+            const QPoint place = ProgramDelegate::edge(option).center() * dots;
+            const int program = shown()[static_cast<std::size_t>(row)];
+            QCOMPARE(seen.pixelColor(place).rgb(),
+                     look::programColours(program, m_fixture->themes.colours()).line.rgb());
+        }
+    }
 }
 
 void tst_CataloguePanel::theStateComesBack()

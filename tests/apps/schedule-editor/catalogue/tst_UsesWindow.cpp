@@ -73,6 +73,7 @@ private slots:
     void aProgramInNoPlan();
     void aLongScheduleIsLookedThroughElsewhere();
     void aRemovalSaysWhatItBreaks();
+    void enterRemovesNothing();
     void aRemovalOfTheUnusedSaysNothingElse();
     void manyPlansAreToldByTheirNumber();
 
@@ -253,14 +254,19 @@ void tst_UsesWindow::aLongScheduleIsLookedThroughElsewhere()
         ++answers;
     });
     lookup.ask({4});
-    lookup.ask({3, 1});
-    QCOMPARE(answers, 0);
-    QTRY_COMPARE(answers, 1);
-    QCOMPARE(answer.programs, (std::vector<int>{3, 1}));
-    QCOMPARE(answer.uses.size(), std::size_t(602));
-    QVERIFY(answer.next.has_value());
-    // 12:00:00 on the next day comes before the Monday of the first program.
-    QCOMPARE(answer.next->progIndex, 3);
+    // Whichever is looked for first.
+    const std::vector<std::vector<int>> orders{{1, 3}, {3, 1}};
+    for (const std::vector<int>& programs : orders) {
+        answers = 0;
+        lookup.ask(programs);
+        QCOMPARE(answers, 0);
+        QTRY_COMPARE(answers, 1);
+        QCOMPARE(answer.programs, programs);
+        QCOMPARE(answer.uses.size(), std::size_t(602));
+        QVERIFY(answer.next.has_value());
+        // 12:00:00 on the next day comes before the Monday of the first program.
+        QCOMPARE(answer.next->progIndex, 3);
+    }
 }
 
 void tst_UsesWindow::aRemovalSaysWhatItBreaks()
@@ -281,6 +287,15 @@ void tst_UsesWindow::aRemovalSaysWhatItBreaks()
                                 "21:00:00"),
                  QStringLiteral("Next on screen: 2024.01.05 08:00:00, task 1, plan 1."),
              }));
+    QCOMPARE(m_fixture->manager.getPrograms().size(), std::size_t(8));
+}
+
+void tst_UsesWindow::enterRemovesNothing()
+{
+    table().selectRow(1);
+    const PromptAnswer answer(PromptAnswer::Enter);
+    action("Remove from catalog").trigger();
+    QCOMPARE(answer.count(), 1);
     QCOMPARE(m_fixture->manager.getPrograms().size(), std::size_t(8));
 }
 

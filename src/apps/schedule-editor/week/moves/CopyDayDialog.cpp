@@ -93,16 +93,10 @@ undo::TaskEdits CopyDayDialog::edits() const
     return edits;
 }
 
-QString CopyDayDialog::summary(const DayCopy& copy) const
+QString CopyDayDialog::outcome(const DayCopy& copy)
 {
     if (copy.plans == 0) {
         return tr("There is no plan on that day.");
-    }
-    const bool isAny = std::any_of(m_days.begin(), m_days.end(),
-                                   [](const auto& day) { return day.second->isChecked(); });
-    if (!isAny) {
-        return tr("%n plans play on that day. Choose the days to copy them onto.", nullptr,
-                  copy.plans);
     }
     if (copy.tasks.empty()) {
         return tr("All of them play on these days already.");
@@ -112,6 +106,17 @@ QString CopyDayDialog::summary(const DayCopy& copy) const
                : tr("%n more plans will conflict then. Nothing is lost by that: change what you "
                     "want afterwards.",
                     nullptr, copy.collisions);
+}
+
+QString CopyDayDialog::summary(const DayCopy& copy) const
+{
+    const bool isAny = std::any_of(m_days.begin(), m_days.end(),
+                                   [](const auto& day) { return day.second->isChecked(); });
+    if (!isAny && copy.plans > 0) {
+        return tr("%n plans play on that day. Choose the days to copy them onto.", nullptr,
+                  copy.plans);
+    }
+    return outcome(copy);
 }
 
 void CopyDayDialog::update()

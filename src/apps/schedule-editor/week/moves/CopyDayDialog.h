@@ -32,6 +32,9 @@ public:
     /// What is to be filed for the days that are chosen.
     undo::TaskEdits edits() const;
 
+    /// What a copy onto days that were chosen comes to, in the language in use.
+    static QString outcome(const DayCopy& copy);
+
 private:
     void addDays(const WeekLayout& week);
     void update();

@@ -1,13 +1,14 @@
 #include "week/moves/WeekMover.h"
 
 #include "catalogue/ProgramDrag.h"
-#include "service/PlanTiming.h"
 #include "service/WeekDays.h"
 #include "trelwidgets/PlainToolTip.h"
 #include "week/WeekView.h"
+#include "week/moves/MoveKeys.h"
 #include "week/moves/MoveOverlay.h"
 #include "week/moves/MoveWords.h"
 #include "week/moves/NewPlans.h"
+#include "week/moves/PlanPlaces.h"
 
 #include <QApplication>
 #include <QDropEvent>
@@ -32,7 +33,6 @@ constexpr int kEdge = 5;
 constexpr int kLeastStretched = 4 * kEdge;
 constexpr int kScrollZone = 24;
 constexpr int kScrollMSecs = 40;
-constexpr int kLeastGhost = 3;
 
 QString joined(const QStringList& lines)
 {
@@ -45,12 +45,6 @@ int secondAt(const WeekGeometry& geometry, int y)
 {
     // Unlike that of the picture, not kept within the day.
     return static_cast<int>(std::lround(y * 3600.0 / geometry.hourHeight()));
-}
-
-std::string endInForce(const PlayPlan& plan, const Programs& programs)
-{
-    return plan.mode == FrequencyMode ? plannedEnd(plan, programs, noDurationIn(programs))
-                                      : plan.endTime;
 }
 
 } // namespace
@@ -291,20 +285,12 @@ void WeekMover::showOutcome(const Drag& drag, const QPoint& place)
 std::vector<QRect> WeekMover::places(int taskId, const PlayPlan& plan) const
 {
     const std::shared_ptr<const Programs> programs = m_target.programs();
-    PlayPlan inForce = plan;
-    inForce.endTime = endInForce(plan, *programs);
-    const std::optional<int> begin = beginOf(inForce);
-    const std::optional<int> end = endOf(inForce);
     std::vector<QRect> places;
-    if (!begin || !end) {
-        return places;
-    }
-    const WeekGeometry& geometry = m_view.geometryOfWeek();
     for (const int day : columnsOf(taskId, plan)) {
-        QRect place = geometry.inside(day);
-        place.setTop(geometry.top(*begin));
-        place.setHeight(std::max(geometry.top(*end) - place.top(), kLeastGhost));
-        places.push_back(place.translated(-m_view.offset()));
+        const QRect place = placeOfPlan(m_view, day, plan, *programs);
+        if (!place.isEmpty()) {
+            places.push_back(place);
+        }
     }
     return places;
 }
@@ -402,7 +388,7 @@ bool WeekMover::filterKeys(QKeyEvent& event)
     if (isDragging()) {
         if (isOverride) {
             event.accept();
-        } else if (event.key() == Qt::Key_Escape) {
+        } else if (event.key() == kGiveUpKey) {
             cancel();
         }
         // Nothing else is done with the keys meanwhile.
@@ -413,20 +399,8 @@ bool WeekMover::filterKeys(QKeyEvent& event)
 
 bool WeekMover::moveByKey(const QKeyEvent& event)
 {
-    const Qt::KeyboardModifiers held = event.modifiers() & ~Qt::KeypadModifier;
-    const int down = event.key() == Qt::Key_Down ? 1 : event.key() == Qt::Key_Up ? -1 : 0;
-    const int right = event.key() == Qt::Key_Right ? 1 : event.key() == Qt::Key_Left ? -1 : 0;
-    const int later = m_view.layoutDirection() == Qt::RightToLeft ? -right : right;
-    if (held == Qt::ControlModifier && (down != 0 || later != 0)) {
-        return moveBy(PlanMove::Whole, down, later);
-    }
-    if (held == (Qt::ControlModifier | Qt::ShiftModifier) && down != 0) {
-        return moveBy(PlanMove::End, down, 0);
-    }
-    if (held == (Qt::AltModifier | Qt::ShiftModifier) && down != 0) {
-        return moveBy(PlanMove::Begin, down, 0);
-    }
-    return false;
+    const std::optional<MoveKey> move = moveOf(event, m_view.layoutDirection());
+    return move && moveBy(move->part, move->quarters, move->days);
 }
 
 bool WeekMover::moveBy(PlanMove::Part part, int quarters, int days)

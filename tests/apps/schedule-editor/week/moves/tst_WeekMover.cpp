@@ -1,4 +1,5 @@
 #include "../WeekFixture.h"
+#include "RecordingTarget.h"
 #include "catalogue/ProgramDrag.h"
 #include "look/ThemeColours.h"
 #include "support/TestProgram.h"
@@ -20,59 +21,6 @@ using namespace weekfixture;
 namespace {
 
 const QDate kWednesday(2024, 3, 6);
-
-/// Keeps what is filed, and shows it as the host would.
-class RecordingTarget : public EditTarget
-{
-public:
-    explicit RecordingTarget(WeekView& view)
-        : m_view(view)
-    {}
-
-    void set(std::vector<PlayPlan> plans)
-    {
-        for (PlayPlan& plan : plans) {
-            if (plan.programs.empty()) {
-                plan.programs = {entry(1), entry(2)};
-            }
-        }
-        all = {{1, taskWithPlans(std::move(plans))}};
-        show();
-    }
-
-    void show()
-    {
-        m_view.setSchedule(
-            std::make_shared<WeekSchedule>(all, catalogue(), ScreenInsertions(), berlin()));
-    }
-
-    follow::SharedTask task(int taskId) const override
-    {
-        const auto found = all.find(taskId);
-        return found == all.end() ? nullptr : std::make_shared<const PlayTask>(found->second);
-    }
-    std::map<int, PlayTask> tasks() const override { return all; }
-    int tasksValidOn(const QDate&) const override { return static_cast<int>(all.size()); }
-    std::shared_ptr<const Programs> programs() const override
-    {
-        return std::make_shared<const Programs>(catalogue());
-    }
-    void file(const undo::TaskEdits& edits) override
-    {
-        filed.push_back(edits);
-        for (const undo::TaskEdit& edit : edits) {
-            QVERIFY(*edit.before == all[edit.taskId]);
-            all[edit.taskId] = *edit.after;
-        }
-        show();
-    }
-
-    std::map<int, PlayTask> all;
-    std::vector<undo::TaskEdits> filed;
-
-private:
-    WeekView& m_view;
-};
 
 } // namespace
 
