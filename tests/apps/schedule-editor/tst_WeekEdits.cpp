@@ -304,7 +304,7 @@ void tst_WeekEdits::pictures()
                           pixels == 0 ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, {});
         QCoreApplication::sendEvent(desk.view.viewport(), &event);
     }
-    const auto* overlay = desk.view.findChild<MoveOverlay*>();
+    const auto* overlay = desk.view.findChild<MoveOverlay*>(QStringLiteral("weekMove"));
     QVERIFY(overlay->isVisible());
     QVERIFY(!overlay->shown().collisions.empty());
     desk.picture(desk.panel, QStringLiteral("dragging-") + theme);

@@ -96,7 +96,10 @@ private:
         const PlayPlan& plan = m_target->all[1].plans.at(std::size_t(row));
         return QString::fromStdString(plan.startTime + ' ' + plan.endTime + ' ' + plan.weeks);
     }
-    const MoveOverlay& overlay() const { return *view().findChild<MoveOverlay*>(); }
+    const MoveOverlay& overlay() const
+    {
+        return *view().findChild<MoveOverlay*>(QStringLiteral("weekMove"));
+    }
     QStringList said() const { return overlay().shown().text.split(QLatin1Char('\n')); }
     bool offer(QEvent::Type type, const QPoint& place, const QMimeData& data) const;
 
