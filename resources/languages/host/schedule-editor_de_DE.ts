@@ -2348,8 +2348,8 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Warum der gewählte Block auf dem Bildschirm ist oder nicht</translation>
     </message>
     <message>
-        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
-        <translation>In dieser Woche gilt kein Auftrag. Wählen Sie „Bearbeiten“, um einen hinzuzufügen, und ziehen Sie dann Programme aus dem Katalog auf die Woche.</translation>
+        <source>No task is valid in this week. Add one with “Edit”, then drag programs here.</source>
+        <translation>In dieser Woche gilt kein Auftrag. Fügen Sie mit „Bearbeiten“ einen hinzu, und ziehen Sie dann Programme hierher.</translation>
     </message>
 </context>
 <context>

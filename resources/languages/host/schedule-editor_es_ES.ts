@@ -2348,8 +2348,8 @@ What do you want to do with your changes?</source>
         <translation>Por qué el bloque seleccionado está en pantalla o por qué no</translation>
     </message>
     <message>
-        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
-        <translation>Ninguna tarea es válida esta semana. Elija «Editar» para añadir una y arrastre después programas del catálogo a la semana.</translation>
+        <source>No task is valid in this week. Add one with “Edit”, then drag programs here.</source>
+        <translation>Ninguna tarea es válida esta semana. Añada una con «Editar» y arrastre después programas aquí.</translation>
     </message>
 </context>
 <context>

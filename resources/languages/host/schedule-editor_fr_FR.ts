@@ -2348,8 +2348,8 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Pourquoi le bloc sélectionné est à l’écran, ou pourquoi non</translation>
     </message>
     <message>
-        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
-        <translation>Aucune tâche n’est valide cette semaine. Choisissez « Modifier » pour en ajouter une, puis faites glisser des programmes du catalogue sur la semaine.</translation>
+        <source>No task is valid in this week. Add one with “Edit”, then drag programs here.</source>
+        <translation>Aucune tâche n’est valide cette semaine. Ajoutez-en une avec « Modifier », puis faites glisser des programmes ici.</translation>
     </message>
 </context>
 <context>

@@ -2316,8 +2316,8 @@ What do you want to do with your changes?</source>
         <translation>選択したブロックが画面に出る理由または出ない理由</translation>
     </message>
     <message>
-        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
-        <translation>この週に有効なタスクはありません。「編集」を選択してタスクを追加し、番組一覧から番組を週へドラッグしてください。</translation>
+        <source>No task is valid in this week. Add one with “Edit”, then drag programs here.</source>
+        <translation>この週に有効なタスクはありません。「編集」でタスクを追加し、番組をここへドラッグしてください。</translation>
     </message>
 </context>
 <context>

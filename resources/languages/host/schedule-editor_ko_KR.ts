@@ -2316,8 +2316,8 @@ What do you want to do with your changes?</source>
         <translation>선택한 블록이 화면에 나오거나 나오지 않는 이유</translation>
     </message>
     <message>
-        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
-        <translation>이번 주에 유효한 작업이 없습니다. ‘편집’을 선택해 작업을 추가한 다음 목록의 프로그램을 주로 끌어다 놓으세요.</translation>
+        <source>No task is valid in this week. Add one with “Edit”, then drag programs here.</source>
+        <translation>이번 주에 유효한 작업이 없습니다. ‘편집’으로 작업을 추가한 다음 프로그램을 여기로 끌어다 놓으세요.</translation>
     </message>
 </context>
 <context>

@@ -2348,8 +2348,8 @@ O que deseja fazer com as alterações?</translation>
         <translation>Por que o bloco selecionado está na tela ou por que não</translation>
     </message>
     <message>
-        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
-        <translation>Nenhuma tarefa vale nesta semana. Escolha “Editar” para adicionar uma e depois arraste programas do catálogo para a semana.</translation>
+        <source>No task is valid in this week. Add one with “Edit”, then drag programs here.</source>
+        <translation>Nenhuma tarefa vale nesta semana. Adicione uma com “Editar” e depois arraste programas para cá.</translation>
     </message>
 </context>
 <context>

@@ -2380,8 +2380,8 @@ What do you want to do with your changes?</source>
         <translation>Почему выбранный блок на экране или почему нет</translation>
     </message>
     <message>
-        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
-        <translation>На этой неделе не действует ни одно задание. Выберите «Изменить», чтобы добавить задание, затем перетащите программы из каталога на неделю.</translation>
+        <source>No task is valid in this week. Add one with “Edit”, then drag programs here.</source>
+        <translation>На этой неделе не действует ни одно задание. Добавьте его кнопкой «Изменить», затем перетащите программы сюда.</translation>
     </message>
 </context>
 <context>

@@ -2316,8 +2316,8 @@ What do you want to do with your changes?</source>
         <translation>所选区块为何在屏幕上或为何不在</translation>
     </message>
     <message>
-        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
-        <translation>本周没有有效的任务。请选择“编辑”添加任务，然后将节目从节目库拖到周视图中。</translation>
+        <source>No task is valid in this week. Add one with “Edit”, then drag programs here.</source>
+        <translation>本周没有有效的任务。请用“编辑”添加任务，然后将节目拖到此处。</translation>
     </message>
 </context>
 <context>

@@ -2316,8 +2316,8 @@ What do you want to do with your changes?</source>
         <translation>所選區塊為何在螢幕上或為何不在</translation>
     </message>
     <message>
-        <source>No task is valid in this week. Choose “Edit” to add one, then drag programs from the catalog onto the week.</source>
-        <translation>本週沒有有效的任務。請選擇「編輯」新增任務，然後將節目從節目庫拖到週檢視中。</translation>
+        <source>No task is valid in this week. Add one with “Edit”, then drag programs here.</source>
+        <translation>本週沒有有效的任務。請用「編輯」新增任務，然後將節目拖到此處。</translation>
     </message>
 </context>
 <context>

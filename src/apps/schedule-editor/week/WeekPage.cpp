@@ -92,8 +92,8 @@ QString WeekPage::advice() const
     const bool hasTask = std::any_of(days.begin(), days.end(),
                                      [](const WeekColumn& day) { return day.task.has_value(); });
     return hasTask ? tr("Click a block to see why it is on screen, or why not.")
-                   : tr("No task is valid in this week. Choose “Edit” to add one, then drag "
-                        "programs from the catalog onto the week.");
+                   : tr("No task is valid in this week. Add one with “Edit”, then drag programs "
+                        "here.");
 }
 
 void WeekPage::retranslate()

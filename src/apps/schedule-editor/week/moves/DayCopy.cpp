@@ -92,4 +92,16 @@ DayCopy copyDay(const WeekTasks& tasks, const QDate& from, const std::vector<QDa
     return copy;
 }
 
+std::vector<int> newRows(const PlayTask& before, const PlayTask& after, int weekday)
+{
+    std::vector<int> rows;
+    for (std::size_t row = 0; row < after.plans.size(); ++row) {
+        const bool wasThere = row < before.plans.size() && playsOn(before.plans[row], weekday);
+        if (!wasThere && playsOn(after.plans[row], weekday)) {
+            rows.push_back(static_cast<int>(row));
+        }
+    }
+    return rows;
+}
+
 } // namespace trel::desktop::week

@@ -30,4 +30,8 @@ struct DayCopy
 DayCopy copyDay(const WeekTasks& tasks, const QDate& from, const std::vector<QDate>& onto,
                 const Programs& programs, const trel::mediadispatch::NoDurationTest& hasNoDuration);
 
+/// The rows of a task that play on a day of the week, and did not before something was copied.
+std::vector<int> newRows(const trel::mediadispatch::PlayTask& before,
+                         const trel::mediadispatch::PlayTask& after, int weekday);
+
 } // namespace trel::desktop::week

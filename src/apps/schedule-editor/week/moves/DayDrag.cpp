@@ -1,6 +1,6 @@
 #include "week/moves/DayDrag.h"
 
-#include "service/WeekDays.h"
+#include "service/PlanCollisions.h"
 #include "trelwidgets/PlainToolTip.h"
 #include "week/WeekTasks.h"
 #include "week/WeekView.h"
@@ -17,34 +17,12 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 
 using namespace trel::mediadispatch;
 
 namespace trel::desktop::week {
-
-namespace {
-
-bool playsOn(const PlayPlan& plan, int weekday)
-{
-    std::vector<int> numbers;
-    return parseWeeks(plan.weeks, numbers) ||
-           std::find(numbers.begin(), numbers.end(), weekday) != numbers.end();
-}
-
-/// The rows that play on a day of the week only since they were copied there.
-std::vector<int> newRows(const PlayTask& before, const PlayTask& after, int weekday)
-{
-    std::vector<int> rows;
-    for (std::size_t row = 0; row < after.plans.size(); ++row) {
-        const bool wasThere = row < before.plans.size() && playsOn(before.plans[row], weekday);
-        if (!wasThere && playsOn(after.plans[row], weekday)) {
-            rows.push_back(static_cast<int>(row));
-        }
-    }
-    return rows;
-}
-
-} // namespace
 
 DayDrag::DayDrag(WeekView& view, EditTarget& target)
     : QObject(&view)
@@ -181,15 +159,17 @@ void DayDrag::follow(const QPoint& place)
 {
     Drag& drag = *m_drag;
     const QDate onto = dayAt(place);
-    if (onto != drag.onto) {
+    const QPoint offset = m_view.offset();
+    if (onto != drag.onto || offset != drag.offset) {
         drag.onto = onto;
+        drag.offset = offset;
         drag.copy = onto == drag.from ? DayCopy()
                                       : copyDay(*drag.week, drag.from, {onto}, *drag.programs,
                                                 noDurationIn(*drag.programs));
+        drag.picture = onto == drag.from ? MovePicture() : picture();
     }
-    MovePicture shown = onto == drag.from ? MovePicture() : picture();
-    shown.place = QPoint(place.x(), 0);
-    m_overlay->show(shown);
+    drag.picture.place = QPoint(place.x(), 0);
+    m_overlay->show(drag.picture);
 }
 
 MovePicture DayDrag::picture() const
@@ -221,21 +201,21 @@ void DayDrag::addPlans(MovePicture& picture, int taskId, std::vector<int>& colli
     }
     const WeekColumn& column = m_view.layoutOfWeek().days[static_cast<std::size_t>(*day)];
     const PlayTask& after = drag.copy.tasks.at(taskId);
-    const std::vector<int> rows = newRows(drag.tasks.at(taskId), after, drag.onto.dayOfWeek());
-    for (const int row : rows) {
-        const PlayPlan& plan = after.plans[static_cast<std::size_t>(row)];
-        picture.ghosts.push_back(placeOfPlan(m_view, *day, plan, *drag.programs));
-        const std::vector<int> others =
-            collidingRows(after, row, plan, *drag.programs, noDurationIn(*drag.programs));
-        collisions.insert(collisions.end(), others.begin(), others.end());
+    const std::vector<PlanClaim> claims =
+        planClaims(after.plans, *drag.programs, noDurationIn(*drag.programs));
+    std::set<int> found;
+    for (const int row : newRows(drag.tasks.at(taskId), after, drag.onto.dayOfWeek())) {
+        const QRect ghost =
+            placeOfPlan(m_view, *day, after.plans[static_cast<std::size_t>(row)], *drag.programs);
+        if (!ghost.isEmpty()) {
+            picture.ghosts.push_back(ghost);
+        }
+        const std::vector<int> others = collisionsOf(claims, row);
+        found.insert(others.begin(), others.end());
     }
-    std::sort(collisions.begin(), collisions.end());
-    collisions.erase(std::unique(collisions.begin(), collisions.end()), collisions.end());
     // Those that stand there already.
-    const auto isThere = [&column](int row) { return column.blockOf(row) != nullptr; };
-    collisions.erase(std::remove_if(collisions.begin(), collisions.end(),
-                                    [&isThere](int row) { return !isThere(row); }),
-                     collisions.end());
+    std::copy_if(found.begin(), found.end(), std::back_inserter(collisions),
+                 [&column](int row) { return column.blockOf(row) != nullptr; });
     for (const int row : collisions) {
         picture.collisions.push_back(m_view.visualRect({drag.onto, row}));
     }

@@ -3,6 +3,7 @@
 #include "look/ThemeColours.h"
 #include "week/moves/DayCopy.h"
 #include "week/moves/EditTarget.h"
+#include "week/moves/MoveOverlay.h"
 
 #include <QObject>
 #include <QPoint>
@@ -15,10 +16,8 @@ class QMouseEvent;
 
 namespace trel::desktop::week {
 
-class MoveOverlay;
 class WeekTasks;
 class WeekView;
-struct MovePicture;
 
 /// Lets the operator take a day by its date above the picture and drop it on another one, whose own
 /// plans stay: the plans of the day are copied there. Shows all the while what would come of it,
@@ -51,8 +50,11 @@ private:
         std::map<int, trel::mediadispatch::PlayTask> tasks;
         std::unique_ptr<WeekTasks> week;
         std::shared_ptr<const Programs> programs;
+        /// Where it has come to, and what that leads to.
         QDate onto;
+        QPoint offset; ///< Of the viewport.
         DayCopy copy;
+        MovePicture picture;
     };
 
     bool filterDates(QEvent& event);
