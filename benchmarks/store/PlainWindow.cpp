@@ -90,6 +90,7 @@ PlainWindow::PlainWindow(int programs)
     addBar();
     addPanels(programs);
     setCentralWidget(middle());
+    (new QWidget(this))->resize(0, 0); // Speaks to screen readers.
     resize(1340, 700);
 }
 
@@ -329,7 +330,8 @@ QWidget* PlainWindow::week()
     auto* view = new QAbstractScrollArea(panel);
     new QWidget(view); // Dates above the days, and hours beside them.
     new QWidget(view);
-    hidden(new QWidget(view->viewport())); // Where a block that is moved is drawn.
+    hidden(new QWidget(view->viewport())); // Where a block that is moved is drawn,
+    hidden(new QWidget(view->viewport())); // and the plans of a day.
 
     auto* controls = new QHBoxLayout;
     controls->setSpacing(4);
