@@ -1,5 +1,6 @@
 #include "SaveRescue.h"
 
+#include "DateWords.h"
 #include "HostPrompts.h"
 #include "KeptEdits.h"
 #include "ProblemWords.h"
@@ -79,8 +80,7 @@ SaveRescue::Answer SaveRescue::askAboutOther(const ScheduleVersion& other,
                                              const std::map<int, PlayTask>& tasks) const
 {
     const QString store = QFileInfo(m_host.path()).fileName();
-    const QString saved = m_window->locale().toString(QDateTime::fromMSecsSinceEpoch(other.saved),
-                                                      QLocale::ShortFormat);
+    const QString saved = dateAndTimeText(QDateTime::fromMSecsSinceEpoch(other.saved));
     changes::ChangesQuestion question;
     question.text =
         (other.by.isEmpty()

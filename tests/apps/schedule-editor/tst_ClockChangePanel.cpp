@@ -65,14 +65,18 @@ void tst_ClockChangePanel::saysWhatBecomesOfAPlan()
 
     QTRY_COMPARE(
         lines(panel),
-        QStringList({QStringLiteral("3/28/27: 02:00:00–03:00:00 is skipped; plan 3 of task 1 "
-                                    "starts at 03:00:00 in the middle of its list."),
-                     QStringLiteral("3/28/27: 02:00:00–03:00:00 is skipped; plan 5 of task 1 "
-                                    "is cut off at 02:00:00."),
-                     QStringLiteral("10/31/27: 02:00:00–03:00:00 occurs twice; plan 3 of task 1 "
-                                    "starts twice at 02:30:00."),
-                     QStringLiteral("10/31/27: 02:00:00–03:00:00 occurs twice; plan 5 of task 1 "
-                                    "ends twice at 02:30:00.")}));
+        QStringList({QStringLiteral(
+                         "\u20662027.03.28\u2069: 02:00:00–03:00:00 is skipped; plan 3 of task 1 "
+                         "starts at 03:00:00 in the middle of its list."),
+                     QStringLiteral(
+                         "\u20662027.03.28\u2069: 02:00:00–03:00:00 is skipped; plan 5 of task 1 "
+                         "is cut off at 02:00:00."),
+                     QStringLiteral(
+                         "\u20662027.10.31\u2069: 02:00:00–03:00:00 occurs twice; plan 3 of task 1 "
+                         "starts twice at 02:30:00."),
+                     QStringLiteral(
+                         "\u20662027.10.31\u2069: 02:00:00–03:00:00 occurs twice; plan 5 of task 1 "
+                         "ends twice at 02:30:00.")}));
 }
 
 void tst_ClockChangePanel::followsEditsOnceATurn()
@@ -88,9 +92,10 @@ void tst_ClockChangePanel::followsEditsOnceATurn()
         fixture.manager.addTask(taskOf2027({}));
     }
     QCOMPARE(reset.count(), 0);
-    QTRY_COMPARE(lines(panel).value(0),
-                 QStringLiteral("3/28/27: 02:00:00–03:00:00 is skipped; no plan of task 1 is "
-                                "affected."));
+    QTRY_COMPARE(
+        lines(panel).value(0),
+        QStringLiteral("\u20662027.03.28\u2069: 02:00:00–03:00:00 is skipped; no plan of task 1 is "
+                       "affected."));
     QCOMPARE(reset.count(), 1);
     QCOMPARE(panel.count(), 2);
 }

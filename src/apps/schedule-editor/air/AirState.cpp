@@ -1,6 +1,7 @@
 #include "air/AirState.h"
 
 #include "BidiText.h"
+#include "DateWords.h"
 #include "air/AirLight.h"
 #include "clock/Clock.h"
 #include "draft/DraftKeeper.h"
@@ -92,12 +93,10 @@ void AirState::reload()
 /// The time of day, with the date where it is another than today's.
 QString AirState::momentText(qint64 moment) const
 {
-    const QTimeZone zone = Clock::current().zone();
-    const QDateTime then = QDateTime::fromMSecsSinceEpoch(moment, zone);
-    const bool isToday = then.date() == Clock::current().today();
-    const QString time = then.toString(QStringLiteral("hh:mm"));
-    return leftToRight(isToday ? time
-                               : then.date().toString(kDateFormat) + QLatin1Char(' ') + time);
+    const QDateTime then = QDateTime::fromMSecsSinceEpoch(moment, Clock::current().zone());
+    return then.date() == Clock::current().today()
+               ? leftToRight(then.toString(QStringLiteral("hh:mm")))
+               : dateAndTimeText(then);
 }
 
 void AirState::showSaved()

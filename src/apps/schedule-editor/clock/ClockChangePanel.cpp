@@ -1,5 +1,6 @@
 #include "clock/ClockChangePanel.h"
 
+#include "DateWords.h"
 #include "clock/Clock.h"
 #include "common/ClockChangeText.h"
 #include "follow/EditedSchedule.h"
@@ -133,7 +134,7 @@ void ClockChangePanel::insertSentence(int row, const QString& sentence, bool isF
 
 void ClockChangePanel::insertChange(int row, const TaskClockChange& change)
 {
-    const QString date = locale().toString(change.change.date, QLocale::ShortFormat);
+    const QString date = dateText(change.change.date);
     for (const TouchedPlan& plan : change.plans) {
         insertSentence(row++, ClockChangeText::sentence(change.change, change.taskId, plan, date),
                        false);

@@ -207,8 +207,7 @@ void DraftKeeper::offer()
 changes::ChangesQuestion DraftKeeper::questionOf(const LeftDraft& left) const
 {
     changes::ChangesQuestion question;
-    question.text =
-        DraftWords::offer(left, saved(), m_window->locale(), Clock::current().msecsSinceEpoch());
+    question.text = DraftWords::offer(left, saved(), Clock::current().msecsSinceEpoch());
     question.listTitle = DraftWords::whatDiffers();
     question.former = {DraftWords::asSaved(), saved()};
     question.later = {DraftWords::withChanges(), scheduleOf(left)};

@@ -1,5 +1,6 @@
 #include "draft/DraftWords.h"
 
+#include "DateWords.h"
 #include "ProblemWords.h"
 
 #include <QDateTime>
@@ -40,8 +41,7 @@ QString age(qint64 msecs)
 
 } // namespace
 
-QString DraftWords::offer(const LeftDraft& left, const std::map<int, PlayTask>& saved,
-                          const QLocale& locale, qint64 now)
+QString DraftWords::offer(const LeftDraft& left, const std::map<int, PlayTask>& saved, qint64 now)
 {
     QStringList added;
     QStringList changed;
@@ -50,8 +50,7 @@ QString DraftWords::offer(const LeftDraft& left, const std::map<int, PlayTask>& 
         QStringList& ids = !task ? removed : saved.count(id) > 0 ? changed : added;
         ids.append(QString::number(id));
     }
-    const QString edited =
-        locale.toString(QDateTime::fromMSecsSinceEpoch(left.draft.edited), QLocale::ShortFormat);
+    const QString edited = dateAndTimeText(QDateTime::fromMSecsSinceEpoch(left.draft.edited));
     // A clock that was set back since would make it come from days to come.
     QStringList lines = {
         left.draft.edited > now

@@ -17,8 +17,7 @@ public:
     /// How old they are at a moment, in milliseconds since 1970, UTC, and which tasks they touch,
     /// given what is saved, and what is wrong with them.
     static QString offer(const trel::mediadispatch::LeftDraft& left,
-                         const std::map<int, trel::mediadispatch::PlayTask>& saved,
-                         const QLocale& locale, qint64 now);
+                         const std::map<int, trel::mediadispatch::PlayTask>& saved, qint64 now);
     /// Why nothing of them can be offered.
     static QString unreadable(const trel::mediadispatch::LeftDraft& left);
     /// That edits are not kept at the moment, and why.

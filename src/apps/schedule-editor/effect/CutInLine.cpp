@@ -1,5 +1,6 @@
 #include "effect/CutInLine.h"
 
+#include "DateWords.h"
 #include "clock/Clock.h"
 #include "effect/CutIn.h"
 #include "effect/EffectWords.h"
@@ -54,7 +55,7 @@ QString CutInLine::momentText(qint64 moment) const
     const QString time = m_follower.timeText(moment);
     return date == m_follower.local(Clock::current().msecsSinceEpoch()).date()
                ? time
-               : EffectWords::timeOn(time, locale().toString(date, QLocale::ShortFormat));
+               : EffectWords::timeOn(time, dateText(date));
 }
 
 void CutInLine::changeEvent(QEvent* event)

@@ -1,5 +1,6 @@
 #include "effect/EffectLines.h"
 
+#include "DateWords.h"
 #include "effect/EffectWords.h"
 #include "screen/ElidedText.h"
 #include "screen/ScreenFollower.h"
@@ -63,8 +64,8 @@ void EffectLines::showStart()
         return;
     }
     const QDate date = m_follower.local(started->since).date();
-    const QString text = EffectWords::since(locale().toString(date, QLocale::ShortFormat),
-                                            m_follower.timeText(started->since), started->saved);
+    const QString text =
+        EffectWords::since(dateText(date), m_follower.timeText(started->since), started->saved);
     m_since->setText(text);
     m_since->setLongText(started->by.isEmpty()
                              ? QString()

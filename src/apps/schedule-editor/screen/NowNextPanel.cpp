@@ -1,5 +1,6 @@
 #include "screen/NowNextPanel.h"
 
+#include "DateWords.h"
 #include "effect/CutInLine.h"
 #include "effect/EffectLines.h"
 #include "screen/Badge.h"
@@ -246,7 +247,7 @@ void NowNextPanel::showNextTime()
         setOptional(m_nextTime, QString());
         return;
     }
-    const QString date = locale().toString(m_follower.local(until).date(), QLocale::ShortFormat);
+    const QString date = dateText(m_follower.local(until).date());
     const QString time = m_follower.timeText(until);
     m_nextTime->setVisible(true);
     m_nextTime->setText(*toCome < kDay ? tr("at %1, in %2").arg(time, ScreenWords::toCome(*toCome))

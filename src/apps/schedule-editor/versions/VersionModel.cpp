@@ -32,9 +32,8 @@ int VersionModel::rowOf(qint64 number) const
     return found == m_versions.end() ? -1 : static_cast<int>(found - m_versions.begin());
 }
 
-void VersionModel::retranslate(const QLocale& locale)
+void VersionModel::retranslate()
 {
-    m_locale = locale;
     emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
     if (!m_versions.empty()) {
         emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
@@ -66,7 +65,7 @@ QString VersionModel::text(const ScheduleVersion& version, int column) const
     case NumberColumn:
         return QString::number(version.number);
     case SavedColumn:
-        return VersionWords::saved(version, m_locale, m_zone);
+        return VersionWords::saved(version, m_zone);
     case ByColumn:
         return hosts::printable(version.by);
     case ChangeColumn:

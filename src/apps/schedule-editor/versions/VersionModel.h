@@ -3,7 +3,6 @@
 #include "trelprogramschedule/history/ScheduleVersion.h"
 
 #include <QAbstractTableModel>
-#include <QLocale>
 #include <QTimeZone>
 
 #include <vector>
@@ -35,8 +34,8 @@ public:
     const QTimeZone& zone() const { return m_zone; }
     /// The row of a version by its number; -1 where it is not there.
     int rowOf(qint64 number) const;
-    /// Takes texts from the language again, and dates as the locale writes them.
-    void retranslate(const QLocale& locale);
+    /// Takes texts from the language again.
+    void retranslate();
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -48,7 +47,6 @@ private:
 
     std::vector<trel::mediadispatch::ScheduleVersion> m_versions;
     QTimeZone m_zone;
-    QLocale m_locale;
 };
 
 } // namespace trel::desktop::versions

@@ -1,5 +1,6 @@
 #include "versions/VersionWords.h"
 
+#include "DateWords.h"
 #include "common/DisplayText.h"
 #include "screen/ScreenWords.h"
 #include "versions/DifferenceWords.h"
@@ -32,12 +33,11 @@ QString VersionWords::state(const ScheduleState& state)
     return tr("What is saved");
 }
 
-QString VersionWords::saved(const ScheduleVersion& version, const QLocale& locale,
-                            const QTimeZone& zone)
+QString VersionWords::saved(const ScheduleVersion& version, const QTimeZone& zone)
 {
-    return version.saved == 0 ? tr("not known")
-                              : locale.toString(QDateTime::fromMSecsSinceEpoch(version.saved, zone),
-                                                QLocale::ShortFormat);
+    return version.saved == 0
+               ? tr("not known")
+               : dateAndTimeText(QDateTime::fromMSecsSinceEpoch(version.saved, zone));
 }
 
 QString VersionWords::change(const ScheduleVersion& version)
@@ -69,11 +69,10 @@ QString VersionWords::change(const ScheduleVersion& version)
                : tr("version %1 restored: %2").arg(QString::number(version.restored), text);
 }
 
-QString VersionWords::choice(const ScheduleVersion& version, const QLocale& locale,
-                             const QTimeZone& zone)
+QString VersionWords::choice(const ScheduleVersion& version, const QTimeZone& zone)
 {
     const QString number = QString::number(version.number);
-    const QString moment = saved(version, locale, zone);
+    const QString moment = saved(version, zone);
     return version.name.isEmpty()
                ? tr("Version %1 – %2", "a version, and when it was saved").arg(number, moment)
                : tr("Version %1 – %2 – %3", "a version, when it was saved, and its name")

@@ -4,7 +4,6 @@
 #include "versions/ScheduleState.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QString>
 #include <QTimeZone>
 
@@ -23,13 +22,13 @@ public:
     static QString state(const ScheduleState& state);
     static QString version(qint64 number) { return tr("Version %1").arg(number); }
     /// When it was saved, by the clock of the zone.
-    static QString saved(const trel::mediadispatch::ScheduleVersion& version, const QLocale& locale,
+    static QString saved(const trel::mediadispatch::ScheduleVersion& version,
                          const QTimeZone& zone);
     /// "new: 1, changed: 2 (tasks 1, 4, 7)"
     static QString change(const trel::mediadispatch::ScheduleVersion& version);
     /// What distinguishes a version in a list of choices: its number, when, and its name.
     static QString choice(const trel::mediadispatch::ScheduleVersion& version,
-                          const QLocale& locale, const QTimeZone& zone);
+                          const QTimeZone& zone);
     /// How many differences there are.
     static QString count(int differences);
     /// The question before a version is brought back, given the programs that it needs and the

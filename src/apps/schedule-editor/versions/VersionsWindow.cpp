@@ -246,7 +246,7 @@ void VersionsWindow::fillStates()
     }
     for (const ScheduleVersion& version : m_model->versions()) {
         add({ScheduleState::Version, version.number},
-            VersionWords::choice(version, locale(), m_model->zone()));
+            VersionWords::choice(version, m_model->zone()));
     }
     for (int row = 0; row < m_other->count(); ++row) {
         if (m_other->itemData(row).toInt() == former.kind &&
@@ -435,7 +435,7 @@ void VersionsWindow::setLanguage(const QLocale& locale)
     m_swap->setToolTip(trel::widgets::plainToolTip(tr("The other way round")));
     m_swap->setAccessibleName(tr("The other way round"));
     m_table->setAccessibleName(tr("Versions"));
-    m_model->retranslate(locale);
+    m_model->retranslate();
     fillStates();
     m_panel->setLanguage(locale);
     tellList();

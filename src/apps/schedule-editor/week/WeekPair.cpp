@@ -1,5 +1,6 @@
 #include "week/WeekPair.h"
 
+#include "DateWords.h"
 #include "trelwidgets/PlainToolTip.h"
 #include "week/WeekPanel.h"
 #include "week/WeekStep.h"
@@ -125,9 +126,8 @@ void WeekPair::showWeekOf(const QDate& day)
 
 void WeekPair::updateTitle()
 {
-    m_title->setText(QStringLiteral("%1 – %2").arg(
-        locale().toString(firstDay(), QLocale::ShortFormat),
-        locale().toString(firstDay().addDays(kDays - 1), QLocale::ShortFormat)));
+    m_title->setText(QStringLiteral("%1 – %2").arg(dateText(firstDay()),
+                                                   dateText(firstDay().addDays(kDays - 1))));
 }
 
 } // namespace trel::desktop::week

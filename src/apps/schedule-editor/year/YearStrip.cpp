@@ -1,6 +1,6 @@
 #include "year/YearStrip.h"
 
-#include "BidiText.h"
+#include "DateWords.h"
 #include "PlainLines.h"
 #include "access/AccessibleParts.h"
 #include "clock/Clock.h"
@@ -32,21 +32,16 @@ constexpr int kMarkHeight = 4;
 /// More of them fill no tool tip and nobody's ears.
 constexpr int kMostTold = 8;
 
-QString text(const QDate& day)
-{
-    return leftToRight(day.toString(kDateFormat));
-}
-
 QString gapText(const YearStretch& gap)
 {
     return YearStrip::tr("Gap: no task is valid from %1 to %2.")
-        .arg(text(gap.first), text(gap.last));
+        .arg(dateText(gap.first), dateText(gap.last));
 }
 
 QString overlapText(const YearStretch& overlap)
 {
     return YearStrip::tr("Overlap: several tasks are valid from %1 to %2.")
-        .arg(text(overlap.first), text(overlap.last));
+        .arg(dateText(overlap.first), dateText(overlap.last));
 }
 
 } // namespace
@@ -287,7 +282,7 @@ QString YearStrip::taskText(const YearSpan& span) const
 {
     const Validity& validity = m_validities.at(span.taskId);
     return tr("Task %1 is valid from %2 to %3.")
-        .arg(QString::number(span.taskId), text(validity.first), text(validity.last));
+        .arg(QString::number(span.taskId), dateText(validity.first), dateText(validity.last));
 }
 
 int YearStrip::spokenCount() const

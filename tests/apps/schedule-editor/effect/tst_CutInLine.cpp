@@ -168,7 +168,7 @@ void tst_CutInLine::whatComesBack_data()
         "“Opening” was cut off at 08:00:03; “Opening” comes at 08:00:09.");
     // A picture stays until a plan next takes the screen.
     row("another day", "07:00:00-08:00:20 A C", "07:00:00-07:30:00 C", true,
-        "“Poster” was cut off at 08:00:03; “Opening” comes at 07:00:00 on 3/5/24.");
+        "“Poster” was cut off at 08:00:03; “Opening” comes at 07:00:00 on \u20662024.03.05\u2069.");
     row("nothing to play", "08:00:00-08:00:30 A", "08:00:00-08:00:30 !D", false,
         "“Opening” was cut off at 08:00:03; a black screen comes at 08:00:30.");
     row("never", "08:00:00-08:00:20 A on=1", "07:00:00-07:30:00 C", true,

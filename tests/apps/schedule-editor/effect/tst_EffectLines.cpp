@@ -38,12 +38,12 @@ void tst_EffectLines::aStartIsShown()
     EffectFixture fixture;
     fixture.start();
     QCOMPARE(fixture.text("effectSince"),
-             QStringLiteral("In effect since 3/4/24 at 08:00:03 (save 1)"));
+             QStringLiteral("In effect since \u20662024.03.04\u2069 at 08:00:03 (save 1)"));
     fixture.clock.advance(2000);
     fixture.save(QStringLiteral("1 2024.03.04-2024.03.10 / 08:00:00-09:00:00 D"));
     fixture.start();
     QCOMPARE(fixture.text("effectSince"),
-             QStringLiteral("In effect since 3/4/24 at 08:00:05 (save 2)"));
+             QStringLiteral("In effect since \u20662024.03.04\u2069 at 08:00:05 (save 2)"));
     QVERIFY(fixture.host.stopSchedule());
     QCOMPARE(fixture.text("effectSince"), QStringLiteral("-"));
 }
@@ -140,8 +140,9 @@ void tst_EffectLines::otherProgramsAreFollowed()
     EffectFixture fixture;
     OtherProgram other(fixture.database);
     other.start(fixture.clock.msecsSinceEpoch() - 3000);
-    QTRY_COMPARE_WITH_TIMEOUT(fixture.text("effectSince"),
-                              QStringLiteral("In effect since 3/4/24 at 08:00:00 (save 1)"), 2000);
+    QTRY_COMPARE_WITH_TIMEOUT(
+        fixture.text("effectSince"),
+        QStringLiteral("In effect since \u20662024.03.04\u2069 at 08:00:00 (save 1)"), 2000);
     QCOMPARE(fixture.text("nowProgram"), QStringLiteral("Opening"));
     QVERIFY(fixture.toolTip("effectSince").endsWith(QLatin1String("Started by other@elsewhere.")));
     other.save(scheduleFromText(QStringLiteral("4 2024.03.04-2024.03.10 / 08:00:00-09:00:00 D")));

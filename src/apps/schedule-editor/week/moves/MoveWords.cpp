@@ -1,6 +1,6 @@
 #include "week/moves/MoveWords.h"
 
-#include "BidiText.h"
+#include "DateWords.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
 #include "week/WeekLayout.h"
@@ -121,8 +121,7 @@ QString MoveWords::noTask()
 
 QString MoveWords::day(const QDate& day, const QLocale& locale)
 {
-    return QStringLiteral("%1, %2").arg(locale.standaloneDayName(day.dayOfWeek()),
-                                        leftToRight(day.toString(kDateFormat)));
+    return QStringLiteral("%1, %2").arg(locale.standaloneDayName(day.dayOfWeek()), dateText(day));
 }
 
 QString MoveWords::copyDay(const QDate& day, const QLocale& locale)
