@@ -12,9 +12,11 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
 #include <QStatusBar>
 #include <QTextDocument>
 #include <QToolTip>
+#include <QVector>
 
 #include <algorithm>
 
@@ -113,9 +115,11 @@ QStringList tipsOverAll()
 {
     constexpr int kStep = 24;
     QStringList tips;
-    const QWidgetList widgets = QApplication::allWidgets();
-    for (QWidget* widget : widgets) {
-        if (!widget->isVisible() || widget->inherits("QTipLabel")) {
+    // A tool tip is a widget as well, and one that is hidden goes by itself after a while.
+    const QWidgetList all = QApplication::allWidgets();
+    const QVector<QPointer<QWidget>> widgets(all.begin(), all.end());
+    for (const QPointer<QWidget>& widget : widgets) {
+        if (widget.isNull() || !widget->isVisible() || widget->inherits("QTipLabel")) {
             continue;
         }
         for (int y = qMin(kStep, widget->height()) / 2; y < widget->height(); y += kStep) {
