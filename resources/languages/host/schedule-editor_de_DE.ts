@@ -3017,6 +3017,42 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <source>Fit the whole day</source>
         <translation>Ganzen Tag einpassen</translation>
     </message>
+    <message>
+        <source>Programs of a plan</source>
+        <translation>Programme eines Plans</translation>
+    </message>
+    <message>
+        <source>Go to another program</source>
+        <translation>Zu einem anderen Programm gehen</translation>
+    </message>
+    <message>
+        <source>Tick the program, or untick it</source>
+        <translation>Programm ankreuzen oder nicht</translation>
+    </message>
+    <message>
+        <source>Tick all programs, or none</source>
+        <translation>Alle Programme ankreuzen oder keines</translation>
+    </message>
+    <message>
+        <source>Add the ticked programs, or this one</source>
+        <translation>Angekreuzte Programme hinzufügen, sonst dieses</translation>
+    </message>
+    <message>
+        <source>Take the ticked programs out, or this one</source>
+        <translation>Angekreuzte Programme löschen, sonst dieses</translation>
+    </message>
+    <message>
+        <source>Move the program up or down</source>
+        <translation>Programm nach oben oder unten verschieben</translation>
+    </message>
+    <message>
+        <source>Change how often the program is played</source>
+        <translation>Ändern, wie oft das Programm läuft</translation>
+    </message>
+    <message>
+        <source>Take over the list of programs</source>
+        <translation>Liste der Programme übernehmen</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::KeySheet</name>

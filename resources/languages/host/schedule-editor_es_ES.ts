@@ -3017,6 +3017,42 @@ What do you want to do with your changes?</source>
         <source>Fit the whole day</source>
         <translation>Ajustar al día entero</translation>
     </message>
+    <message>
+        <source>Programs of a plan</source>
+        <translation>Programas de un plan</translation>
+    </message>
+    <message>
+        <source>Go to another program</source>
+        <translation>Ir a otro programa</translation>
+    </message>
+    <message>
+        <source>Tick the program, or untick it</source>
+        <translation>Marcar o desmarcar el programa</translation>
+    </message>
+    <message>
+        <source>Tick all programs, or none</source>
+        <translation>Marcar todos los programas o ninguno</translation>
+    </message>
+    <message>
+        <source>Add the ticked programs, or this one</source>
+        <translation>Añadir los programas marcados, si no este</translation>
+    </message>
+    <message>
+        <source>Take the ticked programs out, or this one</source>
+        <translation>Eliminar los programas marcados, si no este</translation>
+    </message>
+    <message>
+        <source>Move the program up or down</source>
+        <translation>Mover el programa hacia arriba o abajo</translation>
+    </message>
+    <message>
+        <source>Change how often the program is played</source>
+        <translation>Cambiar las veces que se reproduce el programa</translation>
+    </message>
+    <message>
+        <source>Take over the list of programs</source>
+        <translation>Aceptar la lista de programas</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::KeySheet</name>

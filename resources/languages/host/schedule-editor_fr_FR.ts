@@ -3017,6 +3017,42 @@ Que faire de vos modifications&#xa0;?</translation>
         <source>Fit the whole day</source>
         <translation>Ajuster à la journée entière</translation>
     </message>
+    <message>
+        <source>Programs of a plan</source>
+        <translation>Programmes d’un créneau</translation>
+    </message>
+    <message>
+        <source>Go to another program</source>
+        <translation>Aller à un autre programme</translation>
+    </message>
+    <message>
+        <source>Tick the program, or untick it</source>
+        <translation>Cocher ou décocher le programme</translation>
+    </message>
+    <message>
+        <source>Tick all programs, or none</source>
+        <translation>Cocher tous les programmes ou aucun</translation>
+    </message>
+    <message>
+        <source>Add the ticked programs, or this one</source>
+        <translation>Ajouter les programmes cochés, sinon celui-ci</translation>
+    </message>
+    <message>
+        <source>Take the ticked programs out, or this one</source>
+        <translation>Supprimer les programmes cochés, sinon celui-ci</translation>
+    </message>
+    <message>
+        <source>Move the program up or down</source>
+        <translation>Déplacer le programme vers le haut ou le bas</translation>
+    </message>
+    <message>
+        <source>Change how often the program is played</source>
+        <translation>Changer le nombre de diffusions du programme</translation>
+    </message>
+    <message>
+        <source>Take over the list of programs</source>
+        <translation>Valider la liste des programmes</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::KeySheet</name>

@@ -2974,6 +2974,42 @@ What do you want to do with your changes?</source>
         <source>Fit the whole day</source>
         <translation>1日全体に合わせる</translation>
     </message>
+    <message>
+        <source>Programs of a plan</source>
+        <translation>1 つの計画の番組</translation>
+    </message>
+    <message>
+        <source>Go to another program</source>
+        <translation>別の番組へ移る</translation>
+    </message>
+    <message>
+        <source>Tick the program, or untick it</source>
+        <translation>番組のチェックを付ける・外す</translation>
+    </message>
+    <message>
+        <source>Tick all programs, or none</source>
+        <translation>すべての番組のチェックを付ける・外す</translation>
+    </message>
+    <message>
+        <source>Add the ticked programs, or this one</source>
+        <translation>チェックした番組を追加（なければこの番組）</translation>
+    </message>
+    <message>
+        <source>Take the ticked programs out, or this one</source>
+        <translation>チェックした番組を削除（なければこの番組）</translation>
+    </message>
+    <message>
+        <source>Move the program up or down</source>
+        <translation>番組を上または下へ移動</translation>
+    </message>
+    <message>
+        <source>Change how often the program is played</source>
+        <translation>番組の再生回数を変更</translation>
+    </message>
+    <message>
+        <source>Take over the list of programs</source>
+        <translation>番組のリストを確定</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::KeySheet</name>

@@ -2974,6 +2974,42 @@ What do you want to do with your changes?</source>
         <source>Fit the whole day</source>
         <translation>하루 전체 맞추기</translation>
     </message>
+    <message>
+        <source>Programs of a plan</source>
+        <translation>한 계획의 프로그램</translation>
+    </message>
+    <message>
+        <source>Go to another program</source>
+        <translation>다른 프로그램으로 이동</translation>
+    </message>
+    <message>
+        <source>Tick the program, or untick it</source>
+        <translation>프로그램 선택 표시 또는 해제</translation>
+    </message>
+    <message>
+        <source>Tick all programs, or none</source>
+        <translation>모든 프로그램 선택 표시 또는 해제</translation>
+    </message>
+    <message>
+        <source>Add the ticked programs, or this one</source>
+        <translation>선택 표시한 프로그램 추가, 없으면 이 프로그램</translation>
+    </message>
+    <message>
+        <source>Take the ticked programs out, or this one</source>
+        <translation>선택 표시한 프로그램 삭제, 없으면 이 프로그램</translation>
+    </message>
+    <message>
+        <source>Move the program up or down</source>
+        <translation>프로그램을 위나 아래로 옮기기</translation>
+    </message>
+    <message>
+        <source>Change how often the program is played</source>
+        <translation>프로그램의 재생 횟수 변경</translation>
+    </message>
+    <message>
+        <source>Take over the list of programs</source>
+        <translation>프로그램 목록 확정</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::KeySheet</name>

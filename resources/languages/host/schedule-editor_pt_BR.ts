@@ -3017,6 +3017,42 @@ O que deseja fazer com as alterações?</translation>
         <source>Fit the whole day</source>
         <translation>Ajustar ao dia inteiro</translation>
     </message>
+    <message>
+        <source>Programs of a plan</source>
+        <translation>Programas de um plano</translation>
+    </message>
+    <message>
+        <source>Go to another program</source>
+        <translation>Ir para outro programa</translation>
+    </message>
+    <message>
+        <source>Tick the program, or untick it</source>
+        <translation>Marcar ou desmarcar o programa</translation>
+    </message>
+    <message>
+        <source>Tick all programs, or none</source>
+        <translation>Marcar todos os programas ou nenhum</translation>
+    </message>
+    <message>
+        <source>Add the ticked programs, or this one</source>
+        <translation>Adicionar os programas marcados, senão este</translation>
+    </message>
+    <message>
+        <source>Take the ticked programs out, or this one</source>
+        <translation>Excluir os programas marcados, senão este</translation>
+    </message>
+    <message>
+        <source>Move the program up or down</source>
+        <translation>Mover o programa para cima ou para baixo</translation>
+    </message>
+    <message>
+        <source>Change how often the program is played</source>
+        <translation>Mudar o número de exibições do programa</translation>
+    </message>
+    <message>
+        <source>Take over the list of programs</source>
+        <translation>Aceitar a lista de programas</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::KeySheet</name>

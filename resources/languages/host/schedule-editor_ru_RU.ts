@@ -3060,6 +3060,42 @@ What do you want to do with your changes?</source>
         <source>Fit the whole day</source>
         <translation>Вместить весь день</translation>
     </message>
+    <message>
+        <source>Programs of a plan</source>
+        <translation>Программы одного плана</translation>
+    </message>
+    <message>
+        <source>Go to another program</source>
+        <translation>Перейти к другой программе</translation>
+    </message>
+    <message>
+        <source>Tick the program, or untick it</source>
+        <translation>Отметить программу или снять отметку</translation>
+    </message>
+    <message>
+        <source>Tick all programs, or none</source>
+        <translation>Отметить все программы или ни одной</translation>
+    </message>
+    <message>
+        <source>Add the ticked programs, or this one</source>
+        <translation>Добавить отмеченные программы, иначе эту</translation>
+    </message>
+    <message>
+        <source>Take the ticked programs out, or this one</source>
+        <translation>Удалить отмеченные программы, иначе эту</translation>
+    </message>
+    <message>
+        <source>Move the program up or down</source>
+        <translation>Сместить программу вверх или вниз</translation>
+    </message>
+    <message>
+        <source>Change how often the program is played</source>
+        <translation>Изменить число показов программы</translation>
+    </message>
+    <message>
+        <source>Take over the list of programs</source>
+        <translation>Принять список программ</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::KeySheet</name>

@@ -2974,6 +2974,42 @@ What do you want to do with your changes?</source>
         <source>Fit the whole day</source>
         <translation>适应整天</translation>
     </message>
+    <message>
+        <source>Programs of a plan</source>
+        <translation>一个计划的节目</translation>
+    </message>
+    <message>
+        <source>Go to another program</source>
+        <translation>转到另一个节目</translation>
+    </message>
+    <message>
+        <source>Tick the program, or untick it</source>
+        <translation>勾选或取消勾选节目</translation>
+    </message>
+    <message>
+        <source>Tick all programs, or none</source>
+        <translation>勾选所有节目或全部取消</translation>
+    </message>
+    <message>
+        <source>Add the ticked programs, or this one</source>
+        <translation>添加勾选的节目，没有勾选时添加此节目</translation>
+    </message>
+    <message>
+        <source>Take the ticked programs out, or this one</source>
+        <translation>删除勾选的节目，没有勾选时删除此节目</translation>
+    </message>
+    <message>
+        <source>Move the program up or down</source>
+        <translation>上移或下移节目</translation>
+    </message>
+    <message>
+        <source>Change how often the program is played</source>
+        <translation>更改节目的播放次数</translation>
+    </message>
+    <message>
+        <source>Take over the list of programs</source>
+        <translation>采用节目列表</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::KeySheet</name>

@@ -2974,6 +2974,42 @@ What do you want to do with your changes?</source>
         <source>Fit the whole day</source>
         <translation>符合整天</translation>
     </message>
+    <message>
+        <source>Programs of a plan</source>
+        <translation>一個計畫的節目</translation>
+    </message>
+    <message>
+        <source>Go to another program</source>
+        <translation>移至另一個節目</translation>
+    </message>
+    <message>
+        <source>Tick the program, or untick it</source>
+        <translation>勾選或取消勾選節目</translation>
+    </message>
+    <message>
+        <source>Tick all programs, or none</source>
+        <translation>勾選所有節目或全部取消</translation>
+    </message>
+    <message>
+        <source>Add the ticked programs, or this one</source>
+        <translation>新增勾選的節目，沒有勾選時新增此節目</translation>
+    </message>
+    <message>
+        <source>Take the ticked programs out, or this one</source>
+        <translation>刪除勾選的節目，沒有勾選時刪除此節目</translation>
+    </message>
+    <message>
+        <source>Move the program up or down</source>
+        <translation>上移或下移節目</translation>
+    </message>
+    <message>
+        <source>Change how often the program is played</source>
+        <translation>變更節目的播放次數</translation>
+    </message>
+    <message>
+        <source>Take over the list of programs</source>
+        <translation>採用節目清單</translation>
+    </message>
 </context>
 <context>
     <name>trel::desktop::KeySheet</name>

@@ -71,6 +71,7 @@ private slots:
     void theSheetKnowsAllShortcutsOfTheEditor();
     void theSheetKnowsTheKeysOfTheWeek();
     void whatIsDoneDailyHasKeys();
+    void theSheetKnowsTheKeysOfTheChooser();
     void theSheetIsOnScreen();
     void pictures_data();
     void pictures();
@@ -234,7 +235,7 @@ void tst_HelpMenu::theSheetIsOnScreen()
     auto* const sheet = desk.window.findChild<KeySheet*>();
     QVERIFY(sheet->isVisible());
     const auto* list = sheet->findChild<QTreeWidget*>(QStringLiteral("keyList"));
-    QCOMPARE(list->topLevelItemCount(), 3);
+    QCOMPARE(list->topLevelItemCount(), 4);
     QCOMPARE(list->topLevelItem(1)->text(0), QStringLiteral("Editor"));
     QCOMPARE(list->topLevelItem(1)->childCount(), 13);
     // A close ends it for good.
@@ -272,6 +273,18 @@ void tst_HelpMenu::saysWhatItIs()
     desk.help().about()->trigger();
     QVERIFY2(answer.texts().front().contains(trel::hosts::versionText("schedule-editor")),
              qPrintable(answer.texts().front()));
+}
+
+void tst_HelpMenu::theSheetKnowsTheKeysOfTheChooser()
+{
+    const Desk desk;
+    const KeySection section = KeyTable::sections(*desk.window.menuBar(), *desk.editor).at(3);
+    const QStringList keys = keysOf(section);
+    QCOMPARE(keys.join(u'|'),
+             QStringLiteral("Up, Down|Space|Ctrl+A|Return|Del|Alt+Up, Alt+Down|F2|Ctrl+Return"));
+    for (const KeyLine& line : section.lines) {
+        QVERIFY(!line.text.isEmpty());
+    }
 }
 
 void tst_HelpMenu::speaksTheLanguageInUse()

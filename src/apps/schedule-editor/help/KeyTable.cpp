@@ -51,7 +51,7 @@ void addKey(KeySection& section, int keys, const QString& text)
 
 std::vector<KeySection> KeyTable::sections(const QMenuBar& menus, const QWidget& editor)
 {
-    return {ofMenus(menus), ofEditor(editor), ofWeek()};
+    return {ofMenus(menus), ofEditor(editor), ofWeek(), ofPrograms()};
 }
 
 KeySection KeyTable::ofMenus(const QMenuBar& menus)
@@ -157,6 +157,26 @@ KeySection KeyTable::ofWeek()
     addKey(section, week::kGiveUpKey, tr("Give up dragging"));
     // The platform decides what asks for a context menu; this key does on most keyboards.
     addKey(section, Qt::Key_Menu, tr("Copy the plans of the day"));
+    return section;
+}
+
+// The list of programs is made when it is opened, so that there are no shortcuts to read.
+KeySection KeyTable::ofPrograms()
+{
+    KeySection section{tr("Programs of a plan"), {}};
+    const QString walk = tr("Go to another program");
+    addKey(section, Qt::Key_Up, walk);
+    addKey(section, Qt::Key_Down, walk);
+    addKey(section, Qt::Key_Space, tr("Tick the program, or untick it"));
+    addKey(section, static_cast<int>(Qt::CTRL) + Qt::Key_A, tr("Tick all programs, or none"));
+    addKey(section, Qt::Key_Return, tr("Add the ticked programs, or this one"));
+    addKey(section, Qt::Key_Delete, tr("Take the ticked programs out, or this one"));
+    const QString move = tr("Move the program up or down");
+    addKey(section, static_cast<int>(Qt::ALT) + Qt::Key_Up, move);
+    addKey(section, static_cast<int>(Qt::ALT) + Qt::Key_Down, move);
+    addKey(section, Qt::Key_F2, tr("Change how often the program is played"));
+    addKey(section, static_cast<int>(Qt::CTRL) + Qt::Key_Return,
+           tr("Take over the list of programs"));
     return section;
 }
 

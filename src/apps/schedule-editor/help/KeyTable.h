@@ -40,6 +40,7 @@ private:
     static KeySection ofMenus(const QMenuBar& menus);
     static KeySection ofEditor(const QWidget& editor);
     static KeySection ofWeek();
+    static KeySection ofPrograms();
     static QString ofShortcut(const QString& keys);
     static QString ofCommand(week::WeekCommand command);
     static QString ofMove(const week::MoveKey& move);
