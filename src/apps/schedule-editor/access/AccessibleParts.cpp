@@ -67,10 +67,10 @@ void tellCurrentPart(QWidget& widget)
     if (current < 0 || !widget.hasFocus() || !QAccessible::isActive()) {
         return;
     }
-    // The toolkit looks the part up by its number unasked: a widget that is told of by the toolkit
-    // itself, as where nobody has installed the parts, has fewer of them than it paints.
-    const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(&widget);
-    if (told == nullptr || current >= told->childCount()) {
+    // The toolkit's own interface of a widget looks for a child at any place, some without a check.
+    // It stands where the factory has not been installed, or was only after somebody had asked.
+    auto* const told = QAccessible::queryAccessibleInterface(&widget);
+    if (dynamic_cast<AccessiblePicture*>(told) == nullptr) {
         return;
     }
     QAccessibleEvent event(&widget, QAccessible::Focus);

@@ -14,7 +14,8 @@ namespace trel::desktop::access {
 void installAccessibleParts();
 
 /// Tells a screen reader that the keys have reached another part of a widget with parts. Without a
-/// screen reader, or while the widget has not got the focus, it does nothing.
+/// screen reader, before installAccessibleParts(), or while the widget has not got the focus, it
+/// does nothing.
 void tellCurrentPart(QWidget& widget);
 
 } // namespace trel::desktop::access
