@@ -175,9 +175,11 @@ class Walk:
 
     def close(self, window):
         if "modal" in window.states():
+            # The window may be gone as soon as the key has been pressed.
+            name = window.name()
             window.focus()
             bus.press_key(ESCAPE)
-            bus.wait_for(lambda: window not in self.windows(), f"the end of “{window.name()}”")
+            bus.wait_for(lambda: window not in self.windows(), f"the end of “{name}”")
 
     def tour(self):
         """Through every window, each of which is closed again."""

@@ -6,6 +6,7 @@
 #include "trelwidgets/PlainToolTip.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QCompleter>
 #include <QCoreApplication>
 #include <QDebug>
@@ -158,6 +159,7 @@ void MultiComboBox::showPopup()
     prepareList();
     fitPopupToLabels();
     QComboBox::showPopup();
+    tellCurrent();
 }
 
 void MultiComboBox::hidePopup()
@@ -296,6 +298,35 @@ void MultiComboBox::toggle(const QModelIndex& entry)
     excludeOthers(entry.row());
     view()->model()->setData(entry, !entry.data(Qt::CheckStateRole).toBool(), Qt::CheckStateRole);
     showText(m_pendingText);
+    tellMark(entry.row());
+}
+
+QAccessibleInterface* MultiComboBox::spokenEntry(int entry) const
+{
+    QAccessibleInterface* const list =
+        QAccessible::isActive() ? QAccessible::queryAccessibleInterface(view()) : nullptr;
+    return list ? list->child(entry) : nullptr;
+}
+
+void MultiComboBox::tellMark(int entry) const
+{
+    if (QAccessibleInterface* const marked = spokenEntry(entry)) {
+        QAccessible::State changed;
+        changed.checked = true;
+        QAccessibleStateChangeEvent event(marked, changed);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+// The toolkit tells of the entry while the list is not there yet, and of the list last.
+void MultiComboBox::tellCurrent() const
+{
+    QAccessibleInterface* const current =
+        isPopupOpen() ? spokenEntry(view()->currentIndex().row()) : nullptr;
+    if (current) {
+        QAccessibleEvent event(current, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void MultiComboBox::toggleEntry(int entry)

@@ -10,6 +10,8 @@
 
 #include <vector>
 
+class QAccessibleInterface;
+
 namespace trel::mediadispatch {
 
 class BoolCheckDelegate;
@@ -94,6 +96,12 @@ private:
     bool isChecked(int entry) const;
     void setChecked(int entry, bool checked);
     void toggle(const QModelIndex& entry);
+    /// What a screen reader takes for an entry; null while there is none that listens.
+    QAccessibleInterface* spokenEntry(int entry) const;
+    /// Tells it that an entry is checked now, or not.
+    void tellMark(int entry) const;
+    /// Tells it which entry of the open list is current.
+    void tellCurrent() const;
     void excludeOthers(int toggledEntry);
     QStringList checkedLabels() const;
     void showLabels(const QStringList& labels);

@@ -102,6 +102,7 @@ PlanList::PlanList(QWidget* parent)
     m_process = new initProcess(this);
     // In front of the cards, which all answer it.
     connect(this, &PlanList::sigTranslation, this, [this] { AnswerCatalogue::beginRound(*this); });
+    connect(this, &PlanList::sigTranslation, m_process, &initProcess::translate);
 }
 
 PlanList::~PlanList()

@@ -222,6 +222,16 @@ int PlanTaskWidget::rowOfPlan(int planId) const
     return found == m_rowByPlanId.end() ? -1 : found->second;
 }
 
+std::optional<int> PlanTaskWidget::planInTheWay(int row) const
+{
+    if (row < 0 || row >= static_cast<int>(m_task.plans.size())) {
+        return std::nullopt;
+    }
+    const int place = firstCollision(m_task.plans, row);
+    return place < 0 ? std::nullopt
+                     : std::optional<int>(m_task.plans[static_cast<std::size_t>(place)].id);
+}
+
 void PlanTaskWidget::slotFold(bool isFold)
 {
     const EditorInUse inUse;
@@ -534,6 +544,7 @@ void PlanTaskWidget::showStates(const std::unordered_set<int>& colliding)
         return;
     }
     const PlanStateLook look;
+    std::vector<QLabel*> changed;
     auto planId = m_planIdByRow.cbegin();
     for (const auto& state : m_conflictLabels) {
         // Labels stand in the order of their rows, so that it mostly is the next entry.
@@ -544,10 +555,13 @@ void PlanTaskWidget::showStates(const std::unordered_set<int>& colliding)
             continue;
         }
         if (state.widget) {
-            look.show(*state.widget, colliding.count(planId->second) > 0);
+            if (look.show(*state.widget, colliding.count(planId->second) > 0)) {
+                changed.push_back(state.widget);
+            }
         }
         ++planId;
     }
+    tellStates(changed);
 }
 
 void PlanTaskWidget::slotReflushConflict(int)

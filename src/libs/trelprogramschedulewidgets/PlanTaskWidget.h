@@ -8,6 +8,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_set>
 #include <vector>
@@ -67,6 +68,9 @@ public:
     bool isFolded() const;
     /// The row of the first plan with an id; -1 when there is none. Builds no rows.
     int rowOfPlan(int planId) const;
+    /// The id of the first plan above a row that the plan of the row collides with; nothing when
+    /// there is none, or no such row.
+    std::optional<int> planInTheWay(int row) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;

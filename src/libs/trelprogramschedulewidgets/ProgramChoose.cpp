@@ -8,11 +8,13 @@
 #include "chooser/CheckOrder.h"
 #include "chooser/ChooserCells.h"
 #include "chooser/ChooserForm.h"
+#include "chooser/ChooserKeyboard.h"
 #include "chooser/ChooserRows.h"
 #include "chooser/ChooserTables.h"
 #include "chooser/InsertMenu.h"
 #include "chooser/OfferChecks.h"
 #include "chooser/ProgramInsertion.h"
+#include "chooser/RowCursor.h"
 #include "service/InvalidEntries.h"
 #include "service/PlanInsertion.h"
 #include "service/ProgramOffers.h"
@@ -162,6 +164,8 @@ void ProgramChoose::connectAll()
     // The view listens as well, since before, and has put the editor away by then.
     connect(spinBox, &SpinBoxDelegate::closeEditor, this, &ProgramChoose::showTotalOfTable);
     ui->confirmByKey();
+    m_keyboard = std::make_unique<ChooserKeyboard>(*ui, *m_programHeader, *m_planHeader);
+    connect(m_keyboard.get(), &ChooserKeyboard::moveWanted, this, &ProgramChoose::moveRow);
 }
 
 // Filling the tables
@@ -228,6 +232,7 @@ void ProgramChoose::slotChecked(CheckType type, int row, bool check)
         setRowChecked(*m_planModel, row, check);
         m_planHeader->setChecked(m_planModel->rowCount() == countCheckedPlanRows());
     }
+    tellMark(type, row);
 }
 
 void ProgramChoose::slotSelectAll(CheckType type, bool ischeck)
@@ -239,6 +244,20 @@ void ProgramChoose::slotSelectAll(CheckType type, bool ischeck)
             setRowChecked(*m_planModel, row, ischeck);
         }
         m_planHeader->setChecked(ischeck);
+    }
+    const RowCursor* const cursor = RowCursor::of(*tableOf(type));
+    tellMark(type, cursor ? cursor->row() : kNoRow);
+}
+
+QTableView* ProgramChoose::tableOf(CheckType type) const
+{
+    return type == ProgramListCheck ? ui->tableViewProgramList : ui->tableViewChoonse;
+}
+
+void ProgramChoose::tellMark(CheckType type, int row) const
+{
+    if (const RowCursor* const cursor = RowCursor::of(*tableOf(type))) {
+        cursor->tellMark(row);
     }
 }
 
@@ -279,6 +298,10 @@ void ProgramChoose::slotChose()
     updateTotalDuration(kNoRow, kNoRow);
     renumberPlanRows();
     enableConfirming();
+    const RowCursor* const cursor = RowCursor::of(*ui->tableViewChoonse);
+    if (cursor && !rows.empty()) {
+        cursor->announce(m_planModel->rowCount() - 1);
+    }
 }
 
 void ProgramChoose::slotDelete()
@@ -334,6 +357,17 @@ void ProgramChoose::moveRows(bool up, bool byChecks)
     ui->tableViewChoonse->viewport()->update();
     m_planChanged = true;
     renumberPlanRows();
+}
+
+// By a key, which means the row of the cursor as the menu means the one that it was opened on.
+void ProgramChoose::moveRow(int row, bool up)
+{
+    takeOverOpenCount();
+    m_contextRow = row;
+    moveRows(up, false);
+    m_keyboard->follow(moveTarget({row}, up, m_planModel->rowCount()));
+    ui->hideTip();
+    updateTotalDuration(kNoRow, kNoRow);
 }
 
 void ProgramChoose::renumberPlanRows()
@@ -497,6 +531,7 @@ void ProgramChoose::insertProgram(bool delayed)
 
 int ProgramChoose::execChoose()
 {
+    m_keyboard->begin();
     m_dialog->exec();
     return m_result;
 }

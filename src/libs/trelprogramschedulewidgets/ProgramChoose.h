@@ -10,6 +10,8 @@
 #include <memory>
 #include <vector>
 
+class QTableView;
+
 namespace trel::widgets {
 class Dialog;
 }
@@ -17,6 +19,7 @@ class Dialog;
 namespace trel::mediadispatch {
 
 class ChooserForm;
+class ChooserKeyboard;
 class CustomTableModel;
 class OfferChecks;
 class SHeaderView;
@@ -102,9 +105,12 @@ private:
     void loadPlan();
     void appendPlanRows(const std::vector<ChoiceRow>& rows);
 
+    QTableView* tableOf(CheckType type) const;
+    void tellMark(CheckType type, int row) const;
     void updateCheckOrder(int row, bool check);
     int countCheckedPlanRows() const;
     void moveRows(bool up, bool byChecks);
+    void moveRow(int row, bool up);
     void renumberPlanRows();
     double updateTotalDuration(int editedRow, int editedCount);
     void syncSelectedPrograms();
@@ -136,6 +142,7 @@ private:
     SHeaderView* m_programHeader = nullptr;
     SHeaderView* m_planHeader = nullptr;
     std::unique_ptr<OfferChecks> m_offerChecks; ///< Works on m_checkedCount and m_checkOrder.
+    std::unique_ptr<ChooserKeyboard> m_keyboard;
 };
 
 } // namespace trel::mediadispatch

@@ -34,6 +34,13 @@ void SHeaderView::setChecked(bool checked)
     updateSection(kCheckSection);
 }
 
+void SHeaderView::toggle()
+{
+    m_checked = !m_checked;
+    viewport()->update();
+    emit signalSelectAll(m_type, m_checked);
+}
+
 void SHeaderView::drawMissingImages()
 {
     m_drawsMissingImages = true;

@@ -21,6 +21,10 @@ public:
 
     /// Sets the mark, to keep it in step with the marks of the rows. Emits nothing.
     void setChecked(bool checked);
+    /// Whether the mark is set.
+    bool isChecked() const { return m_checked; }
+    /// Turns the mark over as a press on it does.
+    void toggle();
 
     /// From here on a drawn box, with a tick or without, stands in for an image that cannot be
     /// loaded; else there is nothing in its place.

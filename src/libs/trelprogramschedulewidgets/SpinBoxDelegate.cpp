@@ -1,8 +1,11 @@
 #include "SpinBoxDelegate.h"
 
+#include "SHeaderView.h"
+#include "chooser/ChooserColumns.h"
 #include "toolkit/FocusedWheel.h"
 
 #include <QSpinBox>
+#include <QStringBuilder>
 
 namespace trel::mediadispatch {
 
@@ -25,6 +28,8 @@ QWidget* SpinBoxDelegate::createEditor(QWidget* parent, const QStyleOptionViewIt
     box->setFixedSize(kBoxSize);
     box->setRange(kLeastCount, kMostCount);
     box->setFrame(false);
+    box->setAccessibleName(index.siblingAtColumn(ChoiceNameColumn).data().toString() %
+                           QLatin1String(", ") % SHeaderView::label(ChoiceCountColumn));
     connect(
         box, QOverload<int>::of(&QSpinBox::valueChanged), this,
         [this, cell = QPersistentModelIndex(index)](int value) { emit valueChanged(cell, value); });

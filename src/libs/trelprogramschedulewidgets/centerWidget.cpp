@@ -257,6 +257,7 @@ void centerWidget::slotTranslation()
     m_ui->pushButtonStart->setText(scheduleText("zhEnable"));
     m_ui->pushButtonAddTask->setText(scheduleText("zhSchedulePlayStrAdd"));
     m_hintLabel->setText(scheduleText("zhNoPlayTask"));
+    m_ui->scrollArea->setAccessibleName(scheduleText("zhSchedulePlayStr"));
     nameKeys();
     emit signalTranslation();
 }

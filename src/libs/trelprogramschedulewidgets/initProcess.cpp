@@ -1,5 +1,6 @@
 #include "initProcess.h"
 
+#include "ScheduleText.h"
 #include "trelwidgets/Sign.h"
 
 #include <QLabel>
@@ -24,10 +25,16 @@ initProcess::initProcess(QWidget* parent)
     setWindowOpacity(kWindowOpacity);
     setWindowFlags(Qt::Dialog | Qt::WindowStaysOnTopHint | Qt::CustomizeWindowHint);
     setContentsMargins(0, 0, 0, 0);
+    translate();
     // Comes into force only if an embedding program makes the label a window.
     m_label->setWindowOpacity(kLabelOpacity);
     m_label->setMovie(m_movie.get());
     m_movie->start();
+}
+
+void initProcess::translate()
+{
+    setAccessibleName(scheduleText("zhScheduleLoading"));
 }
 
 void initProcess::paintEvent(QPaintEvent* event)

@@ -20,6 +20,9 @@ class initProcess : public QDialog
 public:
     explicit initProcess(QWidget* parent = nullptr);
 
+    /// Takes the name that a screen reader says from the language of the moment.
+    void translate();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

@@ -9,6 +9,17 @@ namespace trel::mediadispatch {
 
 namespace {
 
+/// Opens the list, or closes it.
+void turnList(QComboBox& box)
+{
+    const auto* const list = box.findChild<QAbstractItemView*>();
+    if (list && list->isVisible()) {
+        box.hidePopup();
+    } else {
+        box.showPopup();
+    }
+}
+
 void chooseBeside(QComboBox& box, int step)
 {
     const int entry = box.currentIndex() + step;
@@ -22,6 +33,12 @@ void chooseBeside(QComboBox& box, int step)
 AccessibleChoice::AccessibleChoice(QComboBox& box)
     : AccessibleEditor(box, QAccessible::ComboBox)
 {}
+
+void* AccessibleChoice::interface_cast(QAccessible::InterfaceType type)
+{
+    return type == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface*>(this)
+                                              : AccessibleEditor::interface_cast(type);
+}
 
 int AccessibleChoice::childCount() const
 {
@@ -40,9 +57,16 @@ int AccessibleChoice::indexOfChild(const QAccessibleInterface* child) const
 
 QString AccessibleChoice::text(QAccessible::Text kind) const
 {
-    if (kind != QAccessible::Value) {
-        return AccessibleEditor::text(kind);
+    if (kind == QAccessible::Value) {
+        return shownText();
     }
+    const QString own = AccessibleEditor::text(kind);
+    // A value that has no room in the box is its tool tip as well, and is said once.
+    return kind == QAccessible::Description && own == shownText() ? QString() : own;
+}
+
+QString AccessibleChoice::shownText() const
+{
     const auto* const days = qobject_cast<const MultiComboBox*>(&box());
     return days ? days->shownText() : box().currentText();
 }
@@ -76,7 +100,7 @@ void AccessibleChoice::doAction(const QString& action)
         return;
     }
     if (action == showMenuAction()) {
-        later([](QWidget& editor) { static_cast<QComboBox&>(editor).showPopup(); });
+        later([](QWidget& editor) { turnList(static_cast<QComboBox&>(editor)); });
     } else if (action == increaseAction() || action == decreaseAction()) {
         const int step = action == increaseAction() ? 1 : -1;
         later([step](QWidget& editor) { chooseBeside(static_cast<QComboBox&>(editor), step); });

@@ -2,10 +2,12 @@
 
 #include "PlanStandardItemModel.h"
 #include "access/AccessiblePlanTable.h"
+#include "access/CollisionText.h"
 #include "card/PlanCells.h"
 #include "card/PlanColumns.h"
 
 #include <QLabel>
+#include <QPushButton>
 #include <QStringBuilder>
 #include <QTableView>
 #include <QTimer>
@@ -45,14 +47,21 @@ QAccessibleInterface* AccessibleEditor::parent() const
 
 QString AccessibleEditor::text(QAccessible::Text kind) const
 {
-    const QTableView* const table = kind == QAccessible::Name ? planTableAbove(*widget()) : nullptr;
-    if (!table) {
+    const QTableView* const table = planTableAbove(*widget());
+    if (table && kind == QAccessible::Description && role() == QAccessible::StaticText) {
+        return collisionText(*table, cellOf(*table, widget()));
+    }
+    if (!table || kind != QAccessible::Name) {
         return QAccessibleWidget::text(kind);
     }
     QString name = widget()->accessibleName();
     if (const auto* const label = qobject_cast<const QLabel*>(widget())) {
         const QModelIndex cell = cellOf(*table, label).siblingAtColumn(TitleColumn);
         name = cell.data().toString().trimmed() % QLatin1Char(' ') % label->text();
+    }
+    const auto* const button = qobject_cast<const QPushButton*>(widget());
+    if (button && name.isEmpty()) {
+        name = button->text().trimmed();
     }
     return table->accessibleName() % QLatin1String(", ") % name;
 }

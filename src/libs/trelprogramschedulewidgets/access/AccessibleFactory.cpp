@@ -7,11 +7,17 @@
 #include "access/AccessibleChoice.h"
 #include "access/AccessibleDay.h"
 #include "access/AccessibleDayList.h"
+#include "access/AccessibleDialog.h"
 #include "access/AccessibleEditor.h"
 #include "access/AccessibleField.h"
 #include "access/AccessibleFoldBar.h"
 #include "access/AccessiblePlanTable.h"
 #include "access/AccessibleProgramTable.h"
+#include "centerWidget.h"
+#include "chooser/RowCursor.h"
+
+#include "trelwidgets/Dialog.h"
+#include "trelwidgets/TipDialog.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
@@ -19,6 +25,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTableView>
 
 namespace trel::mediadispatch {
@@ -40,24 +47,82 @@ bool isInCard(const QWidget& widget)
     return false;
 }
 
+bool isTitleButton(const QPushButton& button)
+{
+    const QString name = button.objectName();
+    return name == QLatin1String("ButtonMin") || name == QLatin1String("ButtonScale") ||
+           name == QLatin1String("ButtonClose");
+}
+
 bool isInRow(const QWidget& widget)
 {
     return planTableAbove(widget) != nullptr;
+}
+
+/// Whether a button is one of the panel or the chooser, or of the title bar over one of them.
+bool isOfEditor(const QPushButton& button)
+{
+    for (const QWidget* above = button.parentWidget(); above; above = above->parentWidget()) {
+        if (qobject_cast<const centerWidget*>(above) || qobject_cast<const ProgramChoose*>(above)) {
+            return true;
+        }
+        if (above->isWindow()) {
+            return isTitleButton(button) && (above->findChild<const centerWidget*>() ||
+                                             above->findChild<const ProgramChoose*>());
+        }
+    }
+    return false;
+}
+
+/// Whether an area is the one of the cards. It may not hold them yet.
+bool isOfCards(const QScrollArea& area)
+{
+    for (const QWidget* above = area.parentWidget(); above; above = above->parentWidget()) {
+        if (qobject_cast<const centerWidget*>(above)) {
+            return !isInCard(area);
+        }
+    }
+    return false;
+}
+
+QAccessibleInterface* interfaceOfFrame(QObject* object)
+{
+    auto* const dialog = qobject_cast<QDialog*>(object);
+    if (qobject_cast<ProgramChoose*>(dialog)) {
+        // The window around it is the dialog.
+        return new QAccessibleWidget(dialog, QAccessible::Grouping);
+    }
+    if (qobject_cast<widgets::Dialog*>(dialog) || qobject_cast<widgets::TipDialog*>(dialog)) {
+        return new AccessibleDialog(*dialog);
+    }
+    auto* const area = qobject_cast<QScrollArea*>(object);
+    return area && isOfCards(*area) ? new QAccessibleWidget(area, QAccessible::Grouping) : nullptr;
 }
 
 // A class is asked for before those that it is derived from. The answer looks at the object itself
 // and is the same for all of them.
 QAccessibleInterface* interfaceOf(const QString& /*className*/, QObject* object)
 {
+    if (QAccessibleInterface* const frame = interfaceOfFrame(object)) {
+        return frame;
+    }
     auto* const widget = qobject_cast<QWidget*>(object);
     auto* const list = qobject_cast<QAbstractItemView*>(object);
     const MultiComboBox* const days = list ? boxOfDays(*list) : nullptr;
     if (days && isInCard(*days)) {
         return new AccessibleDayList(*list);
     }
+    if (const auto* const cursor = qobject_cast<RowCursor*>(object)) {
+        // It has the focus in the place of its table, and speaks for it.
+        return new AccessibleProgramTable(cursor->table());
+    }
     auto* const programs = qobject_cast<QTableView*>(object);
     if (programs && qobject_cast<ProgramChoose*>(programs->parentWidget())) {
         return new AccessibleProgramTable(*programs);
+    }
+    auto* const button = qobject_cast<QPushButton*>(object);
+    if (button && !button->isCheckable() && isOfEditor(*button)) {
+        return new AccessibleButton(*button);
     }
     if (!widget || !isInCard(*widget)) {
         return nullptr;
@@ -71,12 +136,9 @@ QAccessibleInterface* interfaceOf(const QString& /*className*/, QObject* object)
     if (auto* const box = qobject_cast<QComboBox*>(widget)) {
         return new AccessibleChoice(*box);
     }
-    auto* const button = qobject_cast<QPushButton*>(widget);
-    if (button && isInRow(*button)) {
-        return new AccessibleButton(*button);
-    }
-    if (button && button->isCheckable()) {
-        return new AccessibleFoldBar(*button);
+    if (button) {
+        return button->isCheckable() ? new AccessibleFoldBar(*button)
+                                     : new AccessibleButton(*button);
     }
     if (qobject_cast<QLabel*>(widget) && isInRow(*widget)) {
         return new AccessibleEditor(*widget, QAccessible::StaticText);

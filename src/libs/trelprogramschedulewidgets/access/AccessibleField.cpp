@@ -1,6 +1,8 @@
 #include "access/AccessibleField.h"
 
 #include <QDateEdit>
+#include <QLineEdit>
+#include <QPointer>
 #include <QSpinBox>
 #include <QTimeEdit>
 
@@ -69,12 +71,91 @@ void* AccessibleField::interface_cast(QAccessible::InterfaceType type)
     if (type == QAccessible::ValueInterface) {
         return static_cast<QAccessibleValueInterface*>(this);
     }
+    if (type == QAccessible::EditableTextInterface && !field().isReadOnly()) {
+        return static_cast<QAccessibleEditableTextInterface*>(this);
+    }
+    if (type == QAccessible::TextInterface) {
+        return static_cast<QAccessibleTextInterface*>(this);
+    }
     return AccessibleEditor::interface_cast(type);
 }
 
 QString AccessibleField::text(QAccessible::Text kind) const
 {
     return kind == QAccessible::Value ? field().text() : AccessibleEditor::text(kind);
+}
+
+QString AccessibleField::shownText() const
+{
+    return field().text();
+}
+
+int AccessibleField::cursorPosition() const
+{
+    return line() ? line()->cursorPosition() : 0;
+}
+
+void AccessibleField::setCursorPosition(int position)
+{
+    if (line()) {
+        line()->setCursorPosition(position);
+    }
+}
+
+void AccessibleField::selection(int selectionIndex, int* startOffset, int* endOffset) const
+{
+    AccessibleText::selection(selectionIndex, startOffset, endOffset);
+    if (selectionIndex == 0 && selectionCount() > 0) {
+        *startOffset = line()->selectionStart();
+        *endOffset = line()->selectionEnd();
+    }
+}
+
+int AccessibleField::selectionCount() const
+{
+    return line() && line()->hasSelectedText() ? 1 : 0;
+}
+
+void AccessibleField::setSelection(int selectionIndex, int startOffset, int endOffset)
+{
+    if (line() && selectionIndex == 0) {
+        line()->setSelection(startOffset, endOffset - startOffset);
+    }
+}
+
+void AccessibleField::setText(QAccessible::Text kind, const QString& text)
+{
+    if (kind == QAccessible::Value && line()) {
+        replaceText(0, line()->text().size(), text);
+    }
+}
+
+void AccessibleField::deleteText(int startOffset, int endOffset)
+{
+    replaceText(startOffset, endOffset, QString());
+}
+
+void AccessibleField::insertText(int offset, const QString& text)
+{
+    replaceText(offset, offset, text);
+}
+
+void AccessibleField::replaceText(int startOffset, int endOffset, const QString& text)
+{
+    const QPointer<QLineEdit> line(this->line());
+    later([line, startOffset, endOffset, text](QWidget& editor) {
+        const QPointer<QAbstractSpinBox> field(static_cast<QAbstractSpinBox*>(&editor));
+        if (!line || field->isReadOnly()) {
+            return;
+        }
+        QString whole = line->text();
+        const int start = std::clamp(startOffset, 0, whole.size());
+        whole.replace(start, std::clamp(endOffset, start, whole.size()) - start, text);
+        line->setText(whole);
+        if (field) {
+            field->interpretText();
+        }
+    });
 }
 
 QAccessible::State AccessibleField::state() const
@@ -136,6 +217,11 @@ void AccessibleField::doAction(const QString& action)
         return;
     }
     later([step](QWidget& editor) { static_cast<QAbstractSpinBox&>(editor).stepBy(step); });
+}
+
+QLineEdit* AccessibleField::line() const
+{
+    return field().findChild<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 QAbstractSpinBox& AccessibleField::field() const

@@ -23,20 +23,44 @@ AccessibleFoldBar::AccessibleFoldBar(QPushButton& bar)
     : AccessibleButton(bar)
 {}
 
-// The blanks at the end of what is shown keep the arrow off it.
-QString AccessibleFoldBar::text(QAccessible::Text kind) const
-{
-    return kind == QAccessible::Name ? static_cast<QPushButton*>(object())->text().trimmed()
-                                     : AccessibleButton::text(kind);
-}
-
 QAccessible::State AccessibleFoldBar::state() const
 {
     QAccessible::State state = AccessibleButton::state();
+    state.focusable = true;
     state.expandable = true;
     state.collapsed = isFolded(*widget());
     state.expanded = !state.collapsed;
     return state;
+}
+
+QStringList AccessibleFoldBar::actionNames() const
+{
+    return QStringList{pressAction(), setFocusAction()};
+}
+
+QAccessibleInterface* AccessibleFoldBar::child(int index) const
+{
+    return shownChildren().value(index);
+}
+
+int AccessibleFoldBar::indexOfChild(const QAccessibleInterface* child) const
+{
+    return shownChildren().indexOf(const_cast<QAccessibleInterface*>(child));
+}
+
+QList<QAccessibleInterface*> AccessibleFoldBar::shownChildren() const
+{
+    QList<QAccessibleInterface*> shown;
+    const int count = AccessibleButton::childCount();
+    for (int i = 0; i < count; ++i) {
+        QAccessibleInterface* const child = AccessibleButton::child(i);
+        const bool isPicture = child && child->role() == QAccessible::StaticText &&
+                               child->text(QAccessible::Name).trimmed().isEmpty();
+        if (child && !isPicture) {
+            shown.append(child);
+        }
+    }
+    return shown;
 }
 
 } // namespace trel::mediadispatch

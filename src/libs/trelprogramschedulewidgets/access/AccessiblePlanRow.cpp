@@ -1,5 +1,6 @@
 #include "access/AccessiblePlanRow.h"
 
+#include "access/CollisionText.h"
 #include "card/PlanCells.h"
 #include "card/PlanColumns.h"
 
@@ -64,6 +65,9 @@ QAccessibleInterface* AccessiblePlanRow::childAt(int x, int y) const
 
 QString AccessiblePlanRow::text(QAccessible::Text kind) const
 {
+    if (kind == QAccessible::Description && isValid()) {
+        return collisionText(*m_table, cell(TitleColumn));
+    }
     if (kind != QAccessible::Name || !isValid()) {
         return QString();
     }

@@ -8,7 +8,7 @@
 namespace trel::mediadispatch {
 
 AccessiblePlanTable::AccessiblePlanTable(QTableView& table)
-    : QAccessibleWidget(&table, QAccessible::Table)
+    : AccessibleTable(table)
 {}
 
 AccessiblePlanTable::~AccessiblePlanTable()
@@ -18,14 +18,6 @@ AccessiblePlanTable::~AccessiblePlanTable()
             QAccessible::deleteAccessibleInterface(row);
         }
     }
-}
-
-void* AccessiblePlanTable::interface_cast(QAccessible::InterfaceType type)
-{
-    if (type == QAccessible::TableInterface) {
-        return static_cast<QAccessibleTableInterface*>(this);
-    }
-    return QAccessibleWidget::interface_cast(type);
 }
 
 int AccessiblePlanTable::childCount() const
@@ -88,11 +80,6 @@ QString AccessiblePlanTable::rowDescription(int row) const
 {
     const QAccessibleInterface* const plan = child(row);
     return plan ? plan->text(QAccessible::Name) : QString();
-}
-
-QTableView& AccessiblePlanTable::table() const
-{
-    return *static_cast<QTableView*>(object());
 }
 
 } // namespace trel::mediadispatch

@@ -4,6 +4,7 @@
 #include "SHeaderView.h"
 #include "card/PlanCells.h"
 #include "chooser/ChooserColumns.h"
+#include "chooser/RowCursor.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -42,6 +43,9 @@ void* AccessibleProgramCell::interface_cast(QAccessible::InterfaceType type)
     if (type == QAccessible::ValueInterface && isCount()) {
         return static_cast<QAccessibleValueInterface*>(this);
     }
+    if (type == QAccessible::TableCellInterface) {
+        return static_cast<QAccessibleTableCellInterface*>(this);
+    }
     return nullptr;
 }
 
@@ -55,6 +59,9 @@ QString AccessibleProgramCell::text(QAccessible::Text kind) const
     QString own = cell(m_column).data().toString();
     if (kind == QAccessible::Value && isCount()) {
         return own;
+    }
+    if (kind == QAccessible::Description && isMark()) {
+        return place();
     }
     if (kind != QAccessible::Name || !isValid()) {
         return QString();
@@ -86,6 +93,9 @@ QAccessible::State AccessibleProgramCell::state() const
     state.invisible = !m_table || !m_table->isVisible();
     state.checkable = isMark();
     state.checked = isMark() && cell(m_column).data(kCheckRole).toBool();
+    const RowCursor* const cursor = m_table && isMark() ? RowCursor::of(*m_table) : nullptr;
+    state.focusable = cursor != nullptr;
+    state.focused = cursor && cursor->hasFocus() && cursor->row() == m_row;
     if (isValid() && !state.invisible) {
         state.offscreen =
             !m_table->visualRect(cell(m_column)).intersects(m_table->viewport()->rect());
@@ -95,7 +105,7 @@ QAccessible::State AccessibleProgramCell::state() const
 
 QStringList AccessibleProgramCell::actionNames() const
 {
-    return isMark() ? QStringList(toggleAction()) : QStringList();
+    return isMark() ? QStringList{toggleAction(), setFocusAction()} : QStringList();
 }
 
 void AccessibleProgramCell::doAction(const QString& action)
@@ -103,10 +113,33 @@ void AccessibleProgramCell::doAction(const QString& action)
     if (!actionNames().contains(action) || !canBeWorked()) {
         return;
     }
-    if (auto* const marks =
-            qobject_cast<CheckBoxDelegate*>(m_table->itemDelegateForColumn(m_column))) {
+    RowCursor* const cursor = RowCursor::of(*m_table);
+    if (action == setFocusAction()) {
+        if (cursor) {
+            cursor->setRow(m_row);
+            cursor->setFocus();
+        }
+    } else if (auto* const marks =
+                   qobject_cast<CheckBoxDelegate*>(m_table->itemDelegateForColumn(m_column))) {
         marks->toggle(*m_table->model(), cell(m_column));
     }
+}
+
+QList<QAccessibleInterface*> AccessibleProgramCell::columnHeaderCells() const
+{
+    // The headings are the first children of the table.
+    const QAccessibleInterface* const table = parent();
+    QAccessibleInterface* const heading = table ? table->child(columnIndex()) : nullptr;
+    return heading ? QList<QAccessibleInterface*>{heading} : QList<QAccessibleInterface*>();
+}
+
+int AccessibleProgramCell::columnIndex() const
+{
+    int index = 0;
+    for (int column = 0; m_table && column < m_column; ++column) {
+        index += m_table->isColumnHidden(column) ? 0 : 1;
+    }
+    return index;
 }
 
 QVariant AccessibleProgramCell::currentValue() const
@@ -154,6 +187,17 @@ bool AccessibleProgramCell::isMark() const
 bool AccessibleProgramCell::isCount() const
 {
     return m_column == ChoiceCountColumn;
+}
+
+/// The number beside the mark, and behind it the play count where there is one.
+QString AccessibleProgramCell::place() const
+{
+    const QString number = cell(OfferOrderColumn).data().toString();
+    const QString count = cell(ChoiceCountColumn).data().toString();
+    return count.isEmpty()
+               ? number
+               : QString(number % QLatin1String(", ") % SHeaderView::label(ChoiceCountColumn) %
+                         QLatin1Char(' ') % count);
 }
 
 bool AccessibleProgramCell::canBeWorked() const

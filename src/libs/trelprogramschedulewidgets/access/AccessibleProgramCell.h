@@ -7,10 +7,12 @@
 namespace trel::mediadispatch {
 
 /// A cell in a table of the chooser, for screen readers. The mark of a row is a check box that is
-/// named by the program; a play count is a number from 1 to 999 that can be set; the others are
-/// their text. It stands for a place in the table, and is not valid while there is nothing.
+/// named by the program, and says its place among the checked ones or in the plan; a play count is
+/// a number from 1 to 999 that can be set; the others are their text. It stands for a place in the
+/// table, and is not valid while there is nothing.
 class AccessibleProgramCell : public QAccessibleInterface,
                               public QAccessibleActionInterface,
+                              public QAccessibleTableCellInterface,
                               public QAccessibleValueInterface
 {
 public:
@@ -34,8 +36,17 @@ public:
     QAccessible::Role role() const override;
     QAccessible::State state() const override;
 
+    int columnExtent() const override { return 1; }
+    QList<QAccessibleInterface*> columnHeaderCells() const override;
+    int columnIndex() const override;
+    int rowExtent() const override { return 1; }
+    QList<QAccessibleInterface*> rowHeaderCells() const override { return {}; }
+    int rowIndex() const override { return m_row; }
+    bool isSelected() const override { return false; }
+    QAccessibleInterface* table() const override { return parent(); }
+
     QStringList actionNames() const override;
-    /// Toggling does what a press on the mark does.
+    /// Toggling does what a press on the mark does; the focus goes to the row.
     void doAction(const QString& action) override;
     QStringList keyBindingsForAction(const QString& /*action*/) const override { return {}; }
 
@@ -51,6 +62,7 @@ private:
     bool isMark() const;
     bool isCount() const;
     bool canBeWorked() const;
+    QString place() const;
 
     QPointer<QTableView> m_table;
     int m_row;

@@ -1,9 +1,11 @@
 #include "ConflictPass.h"
 
 #include "ScheduleText.h"
+#include "service/PlanCollisions.h"
 #include "service/PlanConflicts.h"
 #include "service/scheduleManage.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QVariant>
 
@@ -15,7 +17,8 @@ namespace {
 
 constexpr char kState[] = "state";
 
-std::vector<bool> collisions(const std::vector<PlayPlan>& plans, const CatalogueSource& catalogue)
+std::vector<PlanClaim> claimsOf(const std::vector<PlayPlan>& plans,
+                                const CatalogueSource& catalogue)
 {
     auto& service = scheduleManage::getInstance();
     const bool needsCatalogue = std::any_of(plans.begin(), plans.end(), [](const PlayPlan& plan) {
@@ -25,8 +28,7 @@ std::vector<bool> collisions(const std::vector<PlayPlan>& plans, const Catalogue
     const auto hasNoDuration = [&service](int progIndex) {
         return service.isNoDurationType(progIndex);
     };
-    return collidingClaims(
-        planClaims(plans, needsCatalogue ? catalogue() : nothing, hasNoDuration));
+    return planClaims(plans, needsCatalogue ? catalogue() : nothing, hasNoDuration);
 }
 
 } // namespace
@@ -42,7 +44,7 @@ std::unordered_set<int> markConflicts(PlayTask& task)
 
 std::unordered_set<int> markConflicts(PlayTask& task, const CatalogueSource& catalogue)
 {
-    const std::vector<bool> collides = collisions(task.plans, catalogue);
+    const std::vector<bool> collides = collidingClaims(claimsOf(task.plans, catalogue));
     std::unordered_set<int> colliding;
     for (std::size_t i = 0; i < task.plans.size(); ++i) {
         task.plans[i].isConflict = collides[i];
@@ -53,6 +55,34 @@ std::unordered_set<int> markConflicts(PlayTask& task, const CatalogueSource& cat
     return colliding;
 }
 
+int firstCollision(const std::vector<PlayPlan>& plans, int place)
+{
+    std::map<int, ProgramIten> fetched;
+    const std::vector<int> others =
+        collisionsOf(claimsOf(plans,
+                              [&fetched]() -> const std::map<int, ProgramIten>& {
+                                  fetched = scheduleManage::getInstance().getPrograms();
+                                  return fetched;
+                              }),
+                     place);
+    return !others.empty() && others.front() < place ? others.front() : -1;
+}
+
+void tellStates(const std::vector<QLabel*>& labels)
+{
+    if (!QAccessible::isActive()) {
+        return;
+    }
+    for (QLabel* const label : labels) {
+        QAccessibleEvent changed(label, QAccessible::DescriptionChanged);
+        QAccessible::updateAccessibility(&changed);
+    }
+    if (!labels.empty() && labels.front()->isVisible()) {
+        QAccessibleEvent alert(labels.front(), QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+}
+
 PlanStateLook::PlanStateLook()
     : m_normal{QStringLiteral("color:green; padding-left: 1px;"), scheduleText("zhnormalStr"),
                QStringLiteral("free")}
@@ -60,9 +90,11 @@ PlanStateLook::PlanStateLook()
                   QStringLiteral("collision")}
 {}
 
-void PlanStateLook::show(QLabel& label, bool collides) const
+bool PlanStateLook::show(QLabel& label, bool collides) const
 {
     const State& state = collides ? m_colliding : m_normal;
+    const State& other = collides ? m_normal : m_colliding;
+    const bool isOther = label.styleSheet() == other.styleSheet;
     if (label.styleSheet() != state.styleSheet) {
         // First, for with the label's own sheet that of the application is looked at again.
         label.setProperty(kState, state.hook);
@@ -71,6 +103,7 @@ void PlanStateLook::show(QLabel& label, bool collides) const
     if (label.text() != state.text) {
         label.setText(state.text);
     }
+    return isOther;
 }
 
 } // namespace trel::mediadispatch

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <unordered_set>
+#include <vector>
 
 class QLabel;
 
@@ -20,6 +21,14 @@ std::unordered_set<int> markConflicts(PlayTask& task);
 using CatalogueSource = std::function<const std::map<int, ProgramIten>&()>;
 std::unordered_set<int> markConflicts(PlayTask& task, const CatalogueSource& catalogue);
 
+/// The place of the first plan above one that it collides with; -1 when there is none. For the one
+/// plan that is asked about; a place that does not exist is a fault of the caller.
+int firstCollision(const std::vector<PlayPlan>& plans, int place);
+
+/// Tells a screen reader of the labels whose state has come or gone: of each that it has changed,
+/// and of the first that it is to be said.
+void tellStates(const std::vector<QLabel*>& labels);
+
 /// What the state labels of the rows show, in the language of the moment. Made once for the labels
 /// of all rows: they share its texts, and to look up a text costs more than the label itself.
 class PlanStateLook
@@ -28,8 +37,8 @@ public:
     PlanStateLook();
 
     /// Shows in the label of a row whether its plan collides with an earlier one. Costs next to
-    /// nothing when the label shows it already.
-    void show(QLabel& label, bool collides) const;
+    /// nothing when the label shows it already. True when it has shown the other state until now.
+    bool show(QLabel& label, bool collides) const;
 
 private:
     struct State

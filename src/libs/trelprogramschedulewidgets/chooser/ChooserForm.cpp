@@ -14,6 +14,7 @@ void ChooserForm::translate()
     tipLab->setText(scheduleText("zhOnlyOne"));
     pushButtonDelete->setText(scheduleText("szDeleteStr"));
     label_timeWord->setText(scheduleText("zhTotalDuration"));
+    label_timeWord->setAccessibleName(scheduleText("zhTotalDuration").trimmed());
     overTimeTip->setText(scheduleText("zhOverTimeTips"));
     okBtn->setText(scheduleText("zhFixAct"));
     cancelBtn->setText(scheduleText("zhCancelAct"));

@@ -34,10 +34,17 @@ QString line(QAccessibleInterface* cell)
     }
 }
 
+QAccessibleInterface* at(QTableView* table, int row, int column)
+{
+    return spoken(table)->tableInterface()->cellAt(row, column);
+}
+
+/// All cells below the headings.
 QStringList lines(QTableView* table)
 {
     QStringList all;
-    for (int i = 0; i < spoken(table)->childCount(); ++i) {
+    const int columns = spoken(table)->tableInterface()->columnCount();
+    for (int i = columns; i < spoken(table)->childCount(); ++i) {
         all.append(line(spoken(table)->child(i)));
     }
     return all;
@@ -62,6 +69,10 @@ private slots:
 
     void cellsOfBothTables();
     void columnsHaveTheirLabels();
+    void headingsStandOverTheirCells();
+    void theMarkOfTheHeadingChecksAll();
+    void theRowOfTheKeysHasTheFocus();
+    void marksSayTheirPlace();
     void theWayUpIsTheWayDown();
     void programsAreCheckedAndChosen();
     void countsAreReadAndSet();
@@ -128,6 +139,82 @@ void tst_AccessibleChooser::columnsHaveTheirLabels()
     });
 }
 
+void tst_AccessibleChooser::headingsStandOverTheirCells()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QAccessibleInterface* const plan = spoken(chooser.planTable());
+        for (int column = 0; column < 4; ++column) {
+            QAccessibleInterface* const heading = plan->child(column);
+            QCOMPARE(heading->role(),
+                     column == 0 ? QAccessible::CheckBox : QAccessible::ColumnHeader);
+            QCOMPARE(heading->text(QAccessible::Name),
+                     column == 0 ? chooser.planTable()->accessibleName()
+                                 : plan->tableInterface()->columnDescription(column));
+            const auto* const below = at(chooser.planTable(), 0, column)->tableCellInterface();
+            QCOMPARE(below->columnHeaderCells(), QList<QAccessibleInterface*>{heading});
+            QCOMPARE(below->rowIndex(), 0);
+            QCOMPARE(below->columnIndex(), column);
+            QCOMPARE(below->table(), plan);
+        }
+        QVERIFY(!plan->child(1)->actionInterface());
+    });
+}
+
+void tst_AccessibleChooser::theMarkOfTheHeadingChecksAll()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QAccessibleInterface* const mark = spoken(chooser.programTable())->child(0);
+        QVERIFY(mark->state().checkable && !mark->state().checked);
+        toggle(mark);
+        QVERIFY(mark->state().checked);
+        QCOMPARE(chooser.programRows(),
+                 QStringList({QStringLiteral("[x]01 Film"), QStringLiteral("[x]02 News")}));
+        toggle(at(chooser.programTable(), 0, 0));
+        QVERIFY(!mark->state().checked);
+        QDialog prompt(chooser.frame());
+        prompt.setModal(true);
+        prompt.show();
+        toggle(mark);
+        QVERIFY(!mark->state().checked);
+        prompt.close();
+    });
+}
+
+void tst_AccessibleChooser::theRowOfTheKeysHasTheFocus()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QTRY_COMPARE(QApplication::activeWindow(), chooser.frame());
+        QAccessibleInterface* const news = at(chooser.programTable(), 1, 0);
+        QAccessibleInterface* const film = at(chooser.programTable(), 0, 0);
+        QVERIFY(film->state().focusable && film->state().focused && !news->state().focused);
+        QCOMPARE(spoken(chooser.programTable())->focusChild(), film);
+        news->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+        QVERIFY(news->state().focused && !film->state().focused);
+        // What has the focus in place of the table speaks as the table.
+        QAccessibleInterface* const inPlace =
+            QAccessible::queryAccessibleInterface(QApplication::focusWidget());
+        QCOMPARE(inPlace->role(), QAccessible::Table);
+        QCOMPARE(inPlace->text(QAccessible::Name), chooser.programTable()->accessibleName());
+        spoken(chooser.planTable())
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::setFocusAction());
+        QVERIFY(at(chooser.planTable(), 0, 0)->state().focused);
+        QVERIFY(!news->state().focused);
+    });
+}
+
+void tst_AccessibleChooser::marksSayTheirPlace()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QAccessibleInterface* const news = at(chooser.programTable(), 1, 0);
+        QCOMPARE(news->text(QAccessible::Description), QString());
+        toggle(news);
+        QCOMPARE(news->text(QAccessible::Description), QStringLiteral("01"));
+        QCOMPARE(at(chooser.planTable(), 0, 0)->text(QAccessible::Description),
+                 QStringLiteral("01, zhPlayCounts 1"));
+    });
+}
+
 void tst_AccessibleChooser::theWayUpIsTheWayDown()
 {
     withChooser([](ChooserWindow& chooser) {
@@ -138,25 +225,29 @@ void tst_AccessibleChooser::theWayUpIsTheWayDown()
             QVERIFY(cell->isValid());
             QCOMPARE(cell->parent(), table);
             QCOMPARE(table->indexOfChild(cell), i);
-            QCOMPARE(table->tableInterface()->cellAt(i / 3, i % 3), cell);
+            if (i >= 3) {
+                QCOMPARE(table->tableInterface()->cellAt(i / 3 - 1, i % 3), cell);
+            }
             const QPoint place = cell->rect().center();
             QCOMPARE(table->childAt(place.x(), place.y()), cell);
         }
-        QVERIFY(!table->child(6));
+        QVERIFY(!table->child(9));
+        QVERIFY(!table->tableInterface()->cellAt(2, 0));
         QVERIFY(!table->child(-1));
         QVERIFY(!table->tableInterface()->cellAt(0, 3));
         QVERIFY(!table->childAt(-5000, -5000));
         QCOMPARE(spoken(chooser.planTable())->indexOfChild(table->child(0)), -1);
         view->setColumnHidden(1, true);
-        QCOMPARE(table->childCount(), 4);
-        QCOMPARE(line(table->child(2)), QStringLiteral("[ ] News"));
+        QCOMPARE(table->childCount(), 6);
+        QCOMPARE(line(table->child(4)), QStringLiteral("[ ] News"));
+        QCOMPARE(table->child(5)->tableCellInterface()->columnIndex(), 1);
     });
 }
 
 void tst_AccessibleChooser::programsAreCheckedAndChosen()
 {
     withChooser([](ChooserWindow& chooser) {
-        QAccessibleInterface* const news = spoken(chooser.programTable())->child(3);
+        QAccessibleInterface* const news = at(chooser.programTable(), 1, 0);
         QCOMPARE(news->text(QAccessible::Name), QStringLiteral("News"));
         QVERIFY(news->state().checkable && !news->state().checked);
         toggle(news);
@@ -172,14 +263,14 @@ void tst_AccessibleChooser::programsAreCheckedAndChosen()
                  QStringLiteral("[ ] Film|01|Film|Film, zhPlayCounts = 1|"
                                 "[ ] News|02|News|News, zhPlayCounts = 1"));
         // Only marks are turned over.
-        QVERIFY(!spoken(chooser.programTable())->child(5)->actionInterface());
+        QVERIFY(!at(chooser.programTable(), 1, 2)->actionInterface());
     });
 }
 
 void tst_AccessibleChooser::countsAreReadAndSet()
 {
     withChooser([](ChooserWindow& chooser) {
-        QAccessibleInterface* const cell = spoken(chooser.planTable())->child(3);
+        QAccessibleInterface* const cell = at(chooser.planTable(), 0, 3);
         QAccessibleValueInterface* const count = cell->valueInterface();
         QVERIFY(count);
         QCOMPARE(count->currentValue().toInt(), 1);
@@ -192,15 +283,14 @@ void tst_AccessibleChooser::countsAreReadAndSet()
         QCOMPARE(chooser.total(), QStringLiteral("00:03:00.000"));
         count->setCurrentValue(1e9);
         QTRY_COMPARE(count->currentValue().toInt(), 999);
-        QVERIFY(!spoken(chooser.planTable())->child(2)->valueInterface());
+        QVERIFY(!at(chooser.planTable(), 0, 2)->valueInterface());
     });
 }
 
 void tst_AccessibleChooser::whatIsNoCountChangesNothing()
 {
     withChooser([](ChooserWindow& chooser) {
-        QAccessibleValueInterface* const count =
-            spoken(chooser.planTable())->child(3)->valueInterface();
+        QAccessibleValueInterface* const count = at(chooser.planTable(), 0, 3)->valueInterface();
         count->setCurrentValue(3);
         QTRY_COMPARE(count->currentValue().toInt(), 3);
         count->setCurrentValue(QStringLiteral("many"));
@@ -213,7 +303,7 @@ void tst_AccessibleChooser::whatIsNoCountChangesNothing()
 void tst_AccessibleChooser::rowsThatHaveGoneAreNotValid()
 {
     withChooser([](ChooserWindow& chooser) {
-        QAccessibleInterface* const mark = spoken(chooser.planTable())->child(0);
+        QAccessibleInterface* const mark = at(chooser.planTable(), 0, 0);
         toggle(mark);
         chooser.remove();
         QVERIFY(!mark->isValid());
@@ -231,9 +321,9 @@ void tst_AccessibleChooser::nothingIsWorkedBehindAnotherWindow()
         QDialog prompt(chooser.frame());
         prompt.setModal(true);
         prompt.show();
-        QAccessibleInterface* const mark = spoken(chooser.programTable())->child(0);
+        QAccessibleInterface* const mark = at(chooser.programTable(), 0, 0);
         toggle(mark);
-        spoken(chooser.planTable())->child(3)->valueInterface()->setCurrentValue(5);
+        at(chooser.planTable(), 0, 3)->valueInterface()->setCurrentValue(5);
         QCoreApplication::processEvents();
         QVERIFY(!mark->state().checked);
         QCOMPARE(chooser.planRows(), QStringList(QStringLiteral("[ ]01 Film x1")));

@@ -1,6 +1,8 @@
 #include "ShownEditor.h"
 
 #include "MultiComboBox.h"
+#include "access/SpeechRecord.h"
+#include "card/PlanColumns.h"
 #include "support/PlanTaskWidgetInspector.h"
 #include "support/PromptAnswer.h"
 #include "support/TestClock.h"
@@ -9,11 +11,14 @@
 
 #include <QAccessible>
 #include <QDateEdit>
+#include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSpinBox>
 #include <QTableView>
 #include <QTimeEdit>
+#include <QTimer>
 #include <QtTest>
 
 using namespace trel::mediadispatch;
@@ -79,6 +84,19 @@ private slots:
     void nothingBehindAPromptIsWorked();
     void disabledEditorsAreNotWorked();
     void boxesAreWorked();
+    void boxesHaveTheirValueAsText();
+    void fieldsAreReadAndEditedAsText();
+    void aTextThatIsNoValueIsPutBack();
+    void aRefusedTextDoesNotKeepTheCallerWaiting();
+    void textBehindAPromptIsNotEdited();
+    void collisionsNameTheOtherPlan();
+    void collisionsAreToldAsTheyComeAndGo();
+    void programsAreTold();
+    void buttonsBehindAPromptAreNotPressed();
+    void everyButtonHasAName();
+    void descriptionsRepeatNothing();
+    void promptsHaveATitleOfTheirOwn();
+    void barsTakeTheFocus();
     void theListOfABoxComesWhenItIsOpened();
     void daysSayWhetherTheyAreChecked();
     void daysAreChecked();
@@ -343,6 +361,216 @@ void tst_AccessibleRows::boxesAreWorked()
                  .contains(QAccessibleActionInterface::increaseAction()));
 }
 
+void tst_AccessibleRows::boxesHaveTheirValueAsText()
+{
+    const QAccessibleTextInterface* const text = spoken(rows().mode(2))->textInterface();
+    QVERIFY(text);
+    const QString mode = rows().mode(2).currentText();
+    QCOMPARE(text->characterCount(), mode.size());
+    QCOMPARE(text->text(0, mode.size()), mode);
+    QCOMPARE(text->text(2, 4), mode.mid(2, 2));
+    QCOMPARE(text->text(-5, 10000), mode);
+    QCOMPARE(text->text(4, 2), QString());
+    QVERIFY(!spoken(rows().mode(2))->editableTextInterface());
+}
+
+void tst_AccessibleRows::fieldsAreReadAndEditedAsText()
+{
+    QAccessibleInterface* const start = spoken(rows().startTime(0));
+    QVERIFY(start->textInterface() && start->editableTextInterface());
+    QCOMPARE(start->textInterface()->text(0, 8), QStringLiteral("08:00:00"));
+    start->editableTextInterface()->replaceText(0, 8, QStringLiteral("08:15:30"));
+    QTRY_COMPARE(rows().startTime(0).time(), QTime(8, 15, 30));
+    start->setText(QAccessible::Value, QStringLiteral("07:00:00"));
+    QTRY_COMPARE(rows().task().plans.front().startTime, std::string("07:00:00"));
+    QAccessibleInterface* const times = spoken(rows().times(2));
+    times->editableTextInterface()->insertText(1, QStringLiteral("5"));
+    QTRY_COMPARE(rows().times(2).value(), 25);
+    times->editableTextInterface()->deleteText(0, 1);
+    QTRY_COMPARE(rows().times(2).value(), 5);
+    // What nobody can type cannot be written.
+    spoken(rows().endTime(2))
+        ->editableTextInterface()
+        ->replaceText(0, 8, QStringLiteral("23:00:00"));
+    QCoreApplication::processEvents();
+    QVERIFY(rows().endTime(2).time() != QTime(23, 0));
+}
+
+void tst_AccessibleRows::aTextThatIsNoValueIsPutBack()
+{
+    QAccessibleInterface* const start = spoken(rows().startTime(0));
+    start->editableTextInterface()->replaceText(0, 8, QStringLiteral("noon"));
+    start->editableTextInterface()->replaceText(-3, 900, QStringLiteral("99:99:99"));
+    QCoreApplication::processEvents();
+    QCOMPARE(rows().startTime(0).time(), QTime(8, 0));
+    QCOMPARE(value(start), QStringLiteral("08:00:00"));
+}
+
+void tst_AccessibleRows::aRefusedTextDoesNotKeepTheCallerWaiting()
+{
+    const PromptAnswer answer(1);
+    QAccessibleInterface* const start = spoken(rows().startTime(0));
+    start->editableTextInterface()->replaceText(0, 8, QStringLiteral("23:00:00"));
+    QCOMPARE(answer.count(), 0);
+    QTRY_COMPARE(answer.count(), 1);
+    QTRY_COMPARE(rows().startTime(0).time(), QTime(8, 0));
+}
+
+void tst_AccessibleRows::textBehindAPromptIsNotEdited()
+{
+    QDialog prompt(&m_editor->dialog());
+    prompt.setModal(true);
+    prompt.show();
+    QAccessibleEditableTextInterface* const times =
+        spoken(rows().times(2))->editableTextInterface();
+    times->replaceText(0, 1, QStringLiteral("9"));
+    QTest::qWait(0);
+    QCoreApplication::processEvents();
+    QCOMPARE(rows().times(2).value(), 2);
+    prompt.close();
+    times->replaceText(0, 1, QStringLiteral("9"));
+    QTRY_COMPARE(rows().times(2).value(), 9);
+}
+
+void tst_AccessibleRows::collisionsNameTheOtherPlan()
+{
+    const auto described = [this](int row) {
+        const QString ofRow = table()->child(row)->text(QAccessible::Description);
+        [&] { QCOMPARE(spoken(rows().state(row))->text(QAccessible::Description), ofRow); }();
+        return ofRow;
+    };
+    QCOMPARE(described(0), QString());
+    QCOMPARE(described(1), QStringLiteral("zhconflictStr: zhPlayTaskStr1, zhPlanTimeStr1"));
+    QCOMPARE(described(2), QString());
+    // Of two that stand above it, the first.
+    rows().endTime(2).setEnabled(true);
+    rows().startTime(2).setTime(QTime(8, 40));
+    QCOMPARE(described(2), QStringLiteral("zhconflictStr: zhPlayTaskStr1, zhPlanTimeStr1"));
+    rows().startTime(2).setTime(QTime(9, 10));
+    QCOMPARE(described(2), QStringLiteral("zhconflictStr: zhPlayTaskStr1, zhPlanTimeStr2"));
+    QVERIFY(!card().planInTheWay(-1) && !card().planInTheWay(3));
+}
+
+void tst_AccessibleRows::collisionsAreToldAsTheyComeAndGo()
+{
+    SpeechRecord record(QStringLiteral("collisions"));
+    const auto alerts = [&record] {
+        return record.news().filter(QStringLiteral("!")).join(QLatin1Char('|'));
+    };
+    rows().startTime(1).setTime(QTime(9, 15));
+    QCOMPARE(alerts(), QStringLiteral("  ! zhPlayTaskStr1, zhPlanTimeStr2: zhnormalStr, label"));
+    rows().startTime(1).setTime(QTime(9, 10));
+    QCOMPARE(alerts(), QString());
+    rows().startTime(1).setTime(QTime(8, 10));
+    QCOMPARE(alerts(), QStringLiteral("  ! zhPlayTaskStr1, zhPlanTimeStr2: zhconflictStr, label "
+                                      "(zhconflictStr: zhPlayTaskStr1, zhPlanTimeStr1)"));
+    // Several at a time are one message, and a change of words none.
+    rows().startTime(2).setTime(QTime(8, 5));
+    QVERIFY(!alerts().isEmpty());
+    rows().endTime(0).setTime(QTime(8, 0));
+    rows().endTime(1).setTime(QTime(8, 10));
+    alerts();
+    rows().endTime(0).setTime(QTime(9, 0));
+    card().slotTranslation();
+    QVERIFY(!alerts().contains(QLatin1Char('|')));
+    card().setFolded(true);
+    rows().endTime(0).setTime(QTime(8, 0));
+    QCOMPARE(alerts(), QString());
+}
+
+void tst_AccessibleRows::programsAreTold()
+{
+    QAccessibleInterface* const choose = table()->child(0)->child(0);
+    QCOMPARE(choose->text(QAccessible::Description), QStringLiteral("Film (F2)"));
+    auto* const model = rows().table().model();
+    const QString long1 = QString(300, QLatin1Char('x')) + QStringLiteral(" (missing)");
+    model->setData(model->index(0, ProgramsColumn), long1, ProgramTextRole);
+    QCOMPARE(choose->text(QAccessible::Description), long1 + QStringLiteral(" (F2)"));
+}
+
+void tst_AccessibleRows::buttonsBehindAPromptAreNotPressed()
+{
+    const auto button = [this](const char* name) {
+        return spoken(*m_editor->dialog().findChild<QPushButton*>(QLatin1String(name)));
+    };
+    QDialog prompt(&m_editor->dialog());
+    prompt.setModal(true);
+    prompt.show();
+    const char* const names[] = {"pushButtonAddTask", "pushButtonClose", "ButtonClose",
+                                 "pbtCreatCopy"};
+    for (const char* name : names) {
+        act(button(name), QAccessibleActionInterface::pressAction());
+    }
+    QTest::qWait(0);
+    QCoreApplication::processEvents();
+    QVERIFY(m_editor->dialog().isVisible());
+    QCOMPARE(m_editor->panel().planList()->cards().size(), 2);
+    prompt.close();
+    // After a refresh no task is added for a second.
+    const TestClock later(QDateTime(QDate(2024, 3, 10), QTime(12, 1)));
+    act(button("pushButtonAddTask"), QAccessibleActionInterface::pressAction());
+    QCOMPARE(m_editor->panel().planList()->cards().size(), 2);
+    QTRY_COMPARE(m_editor->panel().planList()->cards().size(), 3);
+    act(button("ButtonClose"), QAccessibleActionInterface::pressAction());
+    QTRY_VERIFY(!m_editor->dialog().isVisible());
+}
+
+void tst_AccessibleRows::everyButtonHasAName()
+{
+    const auto buttons = m_editor->dialog().findChildren<QPushButton*>();
+    QVERIFY(buttons.size() > 20);
+    for (QPushButton* const button : buttons) {
+        QVERIFY2(!name(spoken(*button)).isEmpty(), qPrintable(button->objectName()));
+        QCOMPARE(name(spoken(*button)), name(spoken(*button)).trimmed());
+    }
+    m_editor->panel().slotTranslation();
+    QCOMPARE(name(spoken(*m_editor->panel().findChild<QScrollArea*>())),
+             QStringLiteral("zhSchedulePlayStr"));
+}
+
+void tst_AccessibleRows::descriptionsRepeatNothing()
+{
+    m_editor->panel().slotTranslation();
+    const auto described = [this](const char* button) {
+        return spoken(*m_editor->dialog().findChild<QPushButton*>(QLatin1String(button)))
+            ->text(QAccessible::Description);
+    };
+    QCOMPARE(described("pushButtonAddTask"), QStringLiteral("Ctrl+Shift+N"));
+    QCOMPARE(described("pushButtonAdd"), QStringLiteral("Ctrl+N"));
+    rows().weeks(0).setToolTip(rows().weeks(0).shownText());
+    QCOMPARE(spoken(rows().weeks(0))->text(QAccessible::Description), QString());
+    rows().weeks(0).setToolTip(QStringLiteral("more"));
+    QCOMPARE(spoken(rows().weeks(0))->text(QAccessible::Description), QStringLiteral("more"));
+}
+
+void tst_AccessibleRows::promptsHaveATitleOfTheirOwn()
+{
+    QString title;
+    QString told;
+    const PromptAnswer answer(1);
+    QTimer::singleShot(0, &m_editor->dialog(), [&title, &told] {
+        const QWidget* const prompt = QApplication::activeModalWidget();
+        title = prompt->windowTitle();
+        told = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(prompt))
+                   ->text(QAccessible::Description);
+    });
+    rows().startTime(0).setTime(QTime(23, 0));
+    QCOMPARE(answer.count(), 1);
+    QCOMPARE(title, QStringLiteral("zhtitleTip"));
+    QCOMPARE(told, answer.texts().front());
+}
+
+void tst_AccessibleRows::barsTakeTheFocus()
+{
+    auto* const bar = card().findChild<QPushButton*>(QStringLiteral("title"));
+    QVERIFY(spoken(*bar)->state().focusable && !spoken(*bar)->state().checkable);
+    m_editor->dialog().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&m_editor->dialog()));
+    act(spoken(*bar), QAccessibleActionInterface::setFocusAction());
+    QVERIFY(bar->hasFocus() && spoken(*bar)->state().focused);
+    QCOMPARE(bar->focusPolicy(), Qt::NoFocus);
+}
+
 void tst_AccessibleRows::theListOfABoxComesWhenItIsOpened()
 {
     QAccessibleInterface* const days = spoken(rows().weeks(0));
@@ -397,7 +625,15 @@ void tst_AccessibleRows::daysAreChecked()
     QTRY_COMPARE(spoken(box)->childCount(), 1);
     QAccessibleInterface* const list = spoken(box)->child(0);
     QVERIFY(list->child(EveryDay)->state().checked);
-    act(list->child(3), QAccessibleActionInterface::toggleAction());
+    {
+        SpeechRecord record(QStringLiteral("days"));
+        QAccessibleEvent focus(list->child(3), QAccessible::Focus);
+        QAccessible::updateAccessibility(&focus);
+        record.news();
+        act(list->child(3), QAccessibleActionInterface::toggleAction());
+        QCOMPARE(record.news().join(u'|'),
+                 QStringLiteral("  %1, list item, checked").arg(box.itemText(3)));
+    }
     act(list->child(4), QAccessibleActionInterface::toggleAction());
     act(list->child(5), QAccessibleActionInterface::toggleAction());
     act(list->child(4), QAccessibleActionInterface::toggleAction());
