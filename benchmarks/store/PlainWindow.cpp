@@ -195,6 +195,15 @@ void PlainWindow::addPanels(int programs)
     number->setAutoRaise(true);
     statusBar()->addPermanentWidget(number);
     hidden(addPanel(QStringLiteral("History"), new QListView, Qt::RightDockWidgetArea));
+    auto* screens = new QTableView;
+    screens->setModel(new QStandardItemModel(0, 4, this));
+    screens->verticalHeader()->hide();
+    tabifyDockWidget(
+        wrong, hidden(addPanel(QStringLiteral("Players"), screens, Qt::BottomDockWidgetArea)));
+    auto* players = new QToolButton(statusBar());
+    players->setAutoRaise(true);
+    statusBar()->addPermanentWidget(players);
+    players->hide();
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({list, now}, {250, 260}, Qt::Horizontal);

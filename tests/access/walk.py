@@ -31,9 +31,9 @@ LISTED = {"cell", "list item", "tree item", "row header", "label", "filler", "pa
 EDITOR = (0, 0)
 SELECTION = (1, 5)
 KEPT = {
-    "panels": [(3, 0), (3, 1), (3, 2), (3, 4), (3, 5), (3, 6)],
+    "panels": [(3, 0), (3, 1), (3, 2), (3, 4), (3, 5), (3, 6), (3, 7)],
     "no windows": [EDITOR, (0, 1), (0, 2), (0, 8), (0, 17), (1, 3), (2, 0), (2, 1), (2, 2), (2, 3)] +
-                  [(3, 10), (3, 11), (3, 12)] + [(4, language) for language in range(10)],
+                  [(3, 11), (3, 12), (3, 13)] + [(4, language) for language in range(10)],
 }
 
 
@@ -222,10 +222,14 @@ class Walk:
 
     def select_program(self):
         """Selects the first program of the catalogue, without which some entries are not offered."""
-        table = self.find(self.window, is_shown_table)
-        cell = self.find(table, lambda thing: thing.role() == "cell")
-        cell.act("Toggle")
+        # There are no players, whose table is empty.
+        table = self.find(self.window, lambda thing: is_shown_table(thing) and self.find(thing, is_cell))
+        self.find(table, is_cell).act("Toggle")
         bus.wait_for(lambda: "enabled" in self.menus()[SELECTION].states(), "the entries of a program")
+
+
+def is_cell(thing):
+    return thing.role() == "cell"
 
 
 def is_button(thing):

@@ -3310,4 +3310,73 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Pläne vom %1 auf %2 kopieren</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::players::PlayersDock</name>
+    <message>
+        <source>Players</source>
+        <translation>Player</translation>
+    </message>
+    <message>
+        <source>Pla&amp;yers</source>
+        <translation>Pl&amp;ayer</translation>
+    </message>
+    <message>
+        <source>Show what the players show</source>
+        <translation>Zeigt, was auf den Bildschirmen der Player läuft</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::players::PlayerModel</name>
+    <message>
+        <source>Screen</source>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>Shows</source>
+        <translation>Zeigt</translation>
+    </message>
+    <message>
+        <source>Heard</source>
+        <comment>when a player told of itself</comment>
+        <translation>Gehört</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>Störungen</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerWords</name>
+    <message>
+        <source>Stands still in: %1</source>
+        <translation>Steht still bei: %1</translation>
+    </message>
+    <message>
+        <source>Has no picture for: %1</source>
+        <translation>Hat kein Bild für: %1</translation>
+    </message>
+    <message>
+        <source>Not since %1</source>
+        <comment>a moment</comment>
+        <translation>Nicht seit %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no faults</comment>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2: %3</source>
+        <comment>a number, a moment, a sentence</comment>
+        <translation>%1, die letzte um %2: %3</translation>
+    </message>
+    <message>
+        <source>Players: %1</source>
+        <translation>Player: %1</translation>
+    </message>
+    <message>
+        <source>Players: %1, silent: %2</source>
+        <translation>Player: %1, stumm: %2</translation>
+    </message>
+</context>
 </TS>

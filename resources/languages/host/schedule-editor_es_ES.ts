@@ -3310,4 +3310,73 @@ What do you want to do with your changes?</source>
         <translation>Copiar los planes de %1 a %2</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::players::PlayersDock</name>
+    <message>
+        <source>Players</source>
+        <translation>Reproductores</translation>
+    </message>
+    <message>
+        <source>Pla&amp;yers</source>
+        <translation>R&amp;eproductores</translation>
+    </message>
+    <message>
+        <source>Show what the players show</source>
+        <translation>Muestra lo que ponen los reproductores</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::players::PlayerModel</name>
+    <message>
+        <source>Screen</source>
+        <translation>Pantalla</translation>
+    </message>
+    <message>
+        <source>Shows</source>
+        <translation>Muestra</translation>
+    </message>
+    <message>
+        <source>Heard</source>
+        <comment>when a player told of itself</comment>
+        <translation>Señal</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>Fallos</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerWords</name>
+    <message>
+        <source>Stands still in: %1</source>
+        <translation>Detenido en: %1</translation>
+    </message>
+    <message>
+        <source>Has no picture for: %1</source>
+        <translation>Sin imagen para: %1</translation>
+    </message>
+    <message>
+        <source>Not since %1</source>
+        <comment>a moment</comment>
+        <translation>Sin señal desde: %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no faults</comment>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2: %3</source>
+        <comment>a number, a moment, a sentence</comment>
+        <translation>%1, el último a las %2: %3</translation>
+    </message>
+    <message>
+        <source>Players: %1</source>
+        <translation>Reproductores: %1</translation>
+    </message>
+    <message>
+        <source>Players: %1, silent: %2</source>
+        <translation>Reproductores: %1, sin señal: %2</translation>
+    </message>
+</context>
 </TS>

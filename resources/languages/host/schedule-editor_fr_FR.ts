@@ -3310,4 +3310,73 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Copier les créneaux du %1 vers %2</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::players::PlayersDock</name>
+    <message>
+        <source>Players</source>
+        <translation>Lecteurs</translation>
+    </message>
+    <message>
+        <source>Pla&amp;yers</source>
+        <translation>&amp;Lecteurs</translation>
+    </message>
+    <message>
+        <source>Show what the players show</source>
+        <translation>Affiche ce que montrent les lecteurs</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::players::PlayerModel</name>
+    <message>
+        <source>Screen</source>
+        <translation>Écran</translation>
+    </message>
+    <message>
+        <source>Shows</source>
+        <translation>Affiche</translation>
+    </message>
+    <message>
+        <source>Heard</source>
+        <comment>when a player told of itself</comment>
+        <translation>Signal</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>Défauts</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerWords</name>
+    <message>
+        <source>Stands still in: %1</source>
+        <translation>Figé sur : %1</translation>
+    </message>
+    <message>
+        <source>Has no picture for: %1</source>
+        <translation>Pas d’image pour : %1</translation>
+    </message>
+    <message>
+        <source>Not since %1</source>
+        <comment>a moment</comment>
+        <translation>Aucun depuis %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no faults</comment>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2: %3</source>
+        <comment>a number, a moment, a sentence</comment>
+        <translation>%1, le dernier à %2 : %3</translation>
+    </message>
+    <message>
+        <source>Players: %1</source>
+        <translation>Lecteurs : %1</translation>
+    </message>
+    <message>
+        <source>Players: %1, silent: %2</source>
+        <translation>Lecteurs : %1, muets : %2</translation>
+    </message>
+</context>
 </TS>

@@ -3264,4 +3264,73 @@ What do you want to do with your changes?</source>
         <translation>%1の計画を%2へコピー</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::players::PlayersDock</name>
+    <message>
+        <source>Players</source>
+        <translation>プレーヤー</translation>
+    </message>
+    <message>
+        <source>Pla&amp;yers</source>
+        <translation>プレーヤー(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Show what the players show</source>
+        <translation>プレーヤーの表示内容を示します</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::players::PlayerModel</name>
+    <message>
+        <source>Screen</source>
+        <translation>スクリーン</translation>
+    </message>
+    <message>
+        <source>Shows</source>
+        <translation>表示内容</translation>
+    </message>
+    <message>
+        <source>Heard</source>
+        <comment>when a player told of itself</comment>
+        <translation>応答</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>障害</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerWords</name>
+    <message>
+        <source>Stands still in: %1</source>
+        <translation>停止中：%1</translation>
+    </message>
+    <message>
+        <source>Has no picture for: %1</source>
+        <translation>画像なし：%1</translation>
+    </message>
+    <message>
+        <source>Not since %1</source>
+        <comment>a moment</comment>
+        <translation>%1から応答なし</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no faults</comment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2: %3</source>
+        <comment>a number, a moment, a sentence</comment>
+        <translation>%1、最後は%2：%3</translation>
+    </message>
+    <message>
+        <source>Players: %1</source>
+        <translation>プレーヤー：%1</translation>
+    </message>
+    <message>
+        <source>Players: %1, silent: %2</source>
+        <translation>プレーヤー：%1、応答なし：%2</translation>
+    </message>
+</context>
 </TS>

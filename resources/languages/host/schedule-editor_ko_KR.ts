@@ -3264,4 +3264,73 @@ What do you want to do with your changes?</source>
         <translation>%1의 계획을 %2(으)로 복사</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::players::PlayersDock</name>
+    <message>
+        <source>Players</source>
+        <translation>플레이어</translation>
+    </message>
+    <message>
+        <source>Pla&amp;yers</source>
+        <translation>플레이어(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Show what the players show</source>
+        <translation>플레이어가 보여 주는 내용을 표시합니다</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::players::PlayerModel</name>
+    <message>
+        <source>Screen</source>
+        <translation>화면</translation>
+    </message>
+    <message>
+        <source>Shows</source>
+        <translation>표시 내용</translation>
+    </message>
+    <message>
+        <source>Heard</source>
+        <comment>when a player told of itself</comment>
+        <translation>응답</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>장애</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerWords</name>
+    <message>
+        <source>Stands still in: %1</source>
+        <translation>멈춰 있음: %1</translation>
+    </message>
+    <message>
+        <source>Has no picture for: %1</source>
+        <translation>그림 없음: %1</translation>
+    </message>
+    <message>
+        <source>Not since %1</source>
+        <comment>a moment</comment>
+        <translation>%1 이후 응답 없음</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no faults</comment>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2: %3</source>
+        <comment>a number, a moment, a sentence</comment>
+        <translation>%1, 마지막 %2: %3</translation>
+    </message>
+    <message>
+        <source>Players: %1</source>
+        <translation>플레이어: %1</translation>
+    </message>
+    <message>
+        <source>Players: %1, silent: %2</source>
+        <translation>플레이어: %1, 응답 없음: %2</translation>
+    </message>
+</context>
 </TS>

@@ -3310,4 +3310,73 @@ O que deseja fazer com as alterações?</translation>
         <translation>Copiar os planos de %1 para %2</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::players::PlayersDock</name>
+    <message>
+        <source>Players</source>
+        <translation>Players</translation>
+    </message>
+    <message>
+        <source>Pla&amp;yers</source>
+        <translation>P&amp;layers</translation>
+    </message>
+    <message>
+        <source>Show what the players show</source>
+        <translation>Mostra o que os players exibem</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::players::PlayerModel</name>
+    <message>
+        <source>Screen</source>
+        <translation>Tela</translation>
+    </message>
+    <message>
+        <source>Shows</source>
+        <translation>Mostra</translation>
+    </message>
+    <message>
+        <source>Heard</source>
+        <comment>when a player told of itself</comment>
+        <translation>Sinal</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>Falhas</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerWords</name>
+    <message>
+        <source>Stands still in: %1</source>
+        <translation>Parado em: %1</translation>
+    </message>
+    <message>
+        <source>Has no picture for: %1</source>
+        <translation>Sem imagem para: %1</translation>
+    </message>
+    <message>
+        <source>Not since %1</source>
+        <comment>a moment</comment>
+        <translation>Sem sinal desde %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no faults</comment>
+        <translation>Nenhuma</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2: %3</source>
+        <comment>a number, a moment, a sentence</comment>
+        <translation>%1, a última às %2: %3</translation>
+    </message>
+    <message>
+        <source>Players: %1</source>
+        <translation>Players: %1</translation>
+    </message>
+    <message>
+        <source>Players: %1, silent: %2</source>
+        <translation>Players: %1, sem sinal: %2</translation>
+    </message>
+</context>
 </TS>

@@ -3356,4 +3356,73 @@ What do you want to do with your changes?</source>
         <translation>Копировать планы: %1 → %2</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::players::PlayersDock</name>
+    <message>
+        <source>Players</source>
+        <translation>Плееры</translation>
+    </message>
+    <message>
+        <source>Pla&amp;yers</source>
+        <translation>Пл&amp;ееры</translation>
+    </message>
+    <message>
+        <source>Show what the players show</source>
+        <translation>Показать, что показывают плееры</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::players::PlayerModel</name>
+    <message>
+        <source>Screen</source>
+        <translation>Экран</translation>
+    </message>
+    <message>
+        <source>Shows</source>
+        <translation>Показывает</translation>
+    </message>
+    <message>
+        <source>Heard</source>
+        <comment>when a player told of itself</comment>
+        <translation>Отклик</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>Сбои</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerWords</name>
+    <message>
+        <source>Stands still in: %1</source>
+        <translation>Остановился на: %1</translation>
+    </message>
+    <message>
+        <source>Has no picture for: %1</source>
+        <translation>Нет изображения для: %1</translation>
+    </message>
+    <message>
+        <source>Not since %1</source>
+        <comment>a moment</comment>
+        <translation>Нет с %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no faults</comment>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2: %3</source>
+        <comment>a number, a moment, a sentence</comment>
+        <translation>%1, последний в %2: %3</translation>
+    </message>
+    <message>
+        <source>Players: %1</source>
+        <translation>Плееры: %1</translation>
+    </message>
+    <message>
+        <source>Players: %1, silent: %2</source>
+        <translation>Плееры: %1, молчат: %2</translation>
+    </message>
+</context>
 </TS>

@@ -3264,4 +3264,73 @@ What do you want to do with your changes?</source>
         <translation>将 %1 的计划复制到 %2</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::players::PlayersDock</name>
+    <message>
+        <source>Players</source>
+        <translation>播放器</translation>
+    </message>
+    <message>
+        <source>Pla&amp;yers</source>
+        <translation>播放器(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>Show what the players show</source>
+        <translation>显示各播放器的画面内容</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::players::PlayerModel</name>
+    <message>
+        <source>Screen</source>
+        <translation>屏幕</translation>
+    </message>
+    <message>
+        <source>Shows</source>
+        <translation>显示内容</translation>
+    </message>
+    <message>
+        <source>Heard</source>
+        <comment>when a player told of itself</comment>
+        <translation>响应</translation>
+    </message>
+    <message>
+        <source>Faults</source>
+        <translation>故障</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerWords</name>
+    <message>
+        <source>Stands still in: %1</source>
+        <translation>停在：%1</translation>
+    </message>
+    <message>
+        <source>Has no picture for: %1</source>
+        <translation>没有画面：%1</translation>
+    </message>
+    <message>
+        <source>Not since %1</source>
+        <comment>a moment</comment>
+        <translation>自 %1 起无响应</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <comment>no faults</comment>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>%1, the last at %2: %3</source>
+        <comment>a number, a moment, a sentence</comment>
+        <translation>%1，最近一次 %2：%3</translation>
+    </message>
+    <message>
+        <source>Players: %1</source>
+        <translation>播放器：%1</translation>
+    </message>
+    <message>
+        <source>Players: %1, silent: %2</source>
+        <translation>播放器：%1，无响应：%2</translation>
+    </message>
+</context>
 </TS>

@@ -24,6 +24,7 @@
 #include "help/HelpMenu.h"
 #include "look/Themes.h"
 #include "memory/LastFolders.h"
+#include "players/PlayersDock.h"
 #include "problems/ProblemDock.h"
 #include "scheduleControlUI.h"
 #include "screen/NowNextPanel.h"
@@ -199,6 +200,11 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     m_editor.addActions({m_menus->undo(), m_menus->redo()});
     allowEdits(*week->panel());
     addPanel(new undo::HistoryDock(*m_history, this), Qt::RightDockWidgetArea);
+    auto* players = new players::PlayersDock(*follower, *statusBar(), this);
+    connect(this, &EditorWindow::databaseOpened, players, &players::PlayersDock::look);
+    addPanel(players, Qt::BottomDockWidgetArea);
+    players->hide();
+    tabifyDockWidget(problems, players);
     // The catalog and what is on screen stand beside the list of changes, not above it.
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);

@@ -172,7 +172,7 @@ void tst_PseudoLanguage::window()
     };
     QTRY_VERIFY(isShown("effectSince") && isShown("effectDiffering") && isShown("nowCutIn"));
     const QList<QDockWidget*> panels = fixture.window.findChildren<QDockWidget*>();
-    QCOMPARE(panels.size(), 6);
+    QCOMPARE(panels.size(), 7);
     for (QDockWidget* panel : panels) {
         panel->show();
         panel->raise();

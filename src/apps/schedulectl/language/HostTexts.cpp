@@ -71,9 +71,9 @@ const std::vector<HostMenu>& hostMenus()
          {entry("EditorWindow", "&Now and next"), entry("PreviewDock", "&Preview"),
           entry("PreviewDock", "&Full-screen preview"), entry("EditorWindow", "&Clock changes"),
           entry("ProblemDock", "Pro&blems"), entry("EditorWindow", "Catal&og"),
-          entry("undo::HistoryDock", "&History"), entry("EditorMenus", "&As-run of a day…"),
-          entry("EditorMenus", "&Dark theme"), entry("EditorMenus", "&Light theme"),
-          entry("EditorMenus", "Hi&gh contrast")}},
+          entry("undo::HistoryDock", "&History"), entry("players::PlayersDock", "Pla&yers"),
+          entry("EditorMenus", "&As-run of a day…"), entry("EditorMenus", "&Dark theme"),
+          entry("EditorMenus", "&Light theme"), entry("EditorMenus", "Hi&gh contrast")}},
     };
     return menus;
 }

@@ -20,15 +20,6 @@ namespace trel::console {
 
 namespace {
 
-/// A player tells of itself every ten seconds; one that has missed two rounds is gone, or stands
-/// still.
-constexpr Instant kSilence = 30000; // milliseconds
-
-bool isSilent(const PlayerStatus& status, Instant now)
-{
-    return now - status.heard > kSilence;
-}
-
 QString shownText(const PlayerStatus& status)
 {
     const QString name = printable(status.program);

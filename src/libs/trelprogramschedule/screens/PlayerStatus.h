@@ -33,6 +33,14 @@ struct PlayerStatus
     Instant lastFaultAt = 0;
 };
 
+/// Whether a player has not been heard for half a minute at a moment. It tells of itself every ten
+/// seconds, so that it has missed two rounds: it is gone, or stands still.
+inline bool isSilent(const PlayerStatus& status, Instant now)
+{
+    constexpr Instant kSilence = 30000; // milliseconds
+    return now - status.heard > kSilence;
+}
+
 } // namespace trel::mediadispatch
 
 Q_DECLARE_METATYPE(trel::mediadispatch::PlayerStatus)

@@ -1,0 +1,136 @@
+#include "players/PlayersDock.h"
+
+#include "players/PlayerModel.h"
+#include "players/PlayerWords.h"
+#include "screen/ScreenFollower.h"
+#include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/screens/PlayerStatusFolder.h"
+#include "trelwidgets/PlainToolTip.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QHeaderView>
+#include <QStatusBar>
+#include <QTableView>
+#include <QToolButton>
+
+#include <utility>
+
+using namespace trel::mediadispatch;
+
+namespace trel::desktop::players {
+
+namespace {
+
+/// Half of the time after which a player tells of itself again.
+constexpr int kSeconds = 5;
+
+} // namespace
+
+PlayersDock::PlayersDock(ScreenFollower& follower, QStatusBar& bar, QWidget* parent)
+    : QDockWidget(parent)
+    , m_model(new PlayerModel(follower, this))
+    , m_table(new QTableView(this))
+    , m_number(new QToolButton(&bar))
+{
+    setObjectName(QStringLiteral("playersDock"));
+    buildTable();
+    setWidget(m_table);
+    m_number->setObjectName(QStringLiteral("playerNumber"));
+    m_number->setAutoRaise(true);
+    m_number->setFocusPolicy(Qt::TabFocus);
+    bar.addPermanentWidget(m_number);
+    m_number->hide();
+    hide();
+    connect(m_number, &QToolButton::clicked, this, &PlayersDock::reveal);
+    connect(&follower, &ScreenFollower::ticked, this, &PlayersDock::tick);
+    retranslate();
+}
+
+PlayersDock::~PlayersDock() = default;
+
+void PlayersDock::buildTable()
+{
+    m_table->setObjectName(QStringLiteral("playerTable"));
+    m_table->setModel(m_model);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setTabKeyNavigation(false);
+    m_table->setAlternatingRowColors(true);
+    m_table->setShowGrid(false);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    QHeaderView* const columns = m_table->horizontalHeader();
+    columns->setHighlightSections(false);
+    columns->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    columns->setStretchLastSection(true);
+    columns->resizeSection(PlayerModel::ScreenColumn, 120);
+    columns->resizeSection(PlayerModel::ShownColumn, 240);
+    columns->resizeSection(PlayerModel::HeardColumn, 180);
+}
+
+void PlayersDock::look()
+{
+    m_seconds = 0;
+    const QString store = ScheduleHost::instance().path();
+    if (store.isEmpty()) {
+        take(store, {});
+        return;
+    }
+    m_reading.start([this, store](const follow::Cancellation&) -> follow::NewestWork::Outcome {
+        return [this, store, players = PlayerStatusFolder(store).read()] { take(store, players); };
+    });
+}
+
+void PlayersDock::tick()
+{
+    // A player that tells nothing becomes silent.
+    tellNumber();
+    // The folder of a server that does not answer is asked once.
+    if (++m_seconds >= kSeconds && !m_reading.isBusy()) {
+        look();
+    }
+}
+
+void PlayersDock::take(const QString& store, std::vector<PlayerStatus> players)
+{
+    // Those of another database that has been closed meanwhile are of no use.
+    if (store == ScheduleHost::instance().path()) {
+        m_model->setPlayers(std::move(players));
+        tellNumber();
+    }
+}
+
+void PlayersDock::tellNumber()
+{
+    m_number->setText(PlayerWords::number(m_model->rowCount(), m_model->silent()));
+    m_number->setVisible(m_model->rowCount() > 0);
+}
+
+void PlayersDock::reveal()
+{
+    show();
+    raise();
+    m_table->setFocus();
+}
+
+void PlayersDock::retranslate()
+{
+    setWindowTitle(tr("Players"));
+    m_table->setAccessibleName(windowTitle());
+    // The title becomes the text of the action, which has a letter besides.
+    toggleViewAction()->setText(tr("Pla&yers"));
+    m_number->setToolTip(trel::widgets::plainToolTip(tr("Show what the players show")));
+    m_model->retranslate();
+    tellNumber();
+}
+
+void PlayersDock::changeEvent(QEvent* event)
+{
+    QDockWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+    }
+}
+
+} // namespace trel::desktop::players

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "follow/NewestWork.h"
+#include "trelprogramschedule/screens/PlayerStatus.h"
+
+#include <QDockWidget>
+
+#include <vector>
+
+class QStatusBar;
+class QTableView;
+class QToolButton;
+
+namespace trel::desktop {
+
+class ScreenFollower;
+
+namespace players {
+
+class PlayerModel;
+
+/// The players that follow the database and what each of them shows, as a part of the host's
+/// window. Hidden at first; once there are any, their number stands in the status bar, and a click
+/// on it shows the list.
+///
+/// Players tell of themselves in files beside the database, which may lie on a server that does not
+/// answer: they are read every few seconds, as long as the screen is followed, in another thread.
+class PlayersDock : public QDockWidget
+{
+    Q_OBJECT
+
+public:
+    /// Both outlive the dock.
+    PlayersDock(ScreenFollower& follower, QStatusBar& bar, QWidget* parent);
+    ~PlayersDock() override;
+
+    /// Looks again at once. To be called when another database has been opened.
+    void look();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void buildTable();
+    void tick();
+    void take(const QString& store, std::vector<trel::mediadispatch::PlayerStatus> players);
+    void tellNumber();
+    void reveal();
+    void retranslate();
+
+    PlayerModel* m_model;
+    QTableView* m_table;
+    QToolButton* m_number;
+    follow::NewestWork m_reading;
+    int m_seconds = 0; ///< Since they were looked at.
+};
+
+} // namespace players
+} // namespace trel::desktop
