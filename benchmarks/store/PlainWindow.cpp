@@ -142,12 +142,10 @@ QWidget* PlainWindow::filter(QWidget* parent)
     for (const char* kind : {"All kinds", "Video", "Audio", "Image", "Live", "Other"}) {
         kinds->addItem(QLatin1String(kind));
     }
-    auto* words = new QHBoxLayout;
-    words->addWidget(search, 1);
-    words->addWidget(new QLabel(QStringLiteral("8 programs"), filter));
     auto* layout = new QVBoxLayout(filter);
-    layout->addLayout(words);
-    layout->addLayout(row({kinds, new QCheckBox(QStringLiteral("Missing"), filter),
+    layout->addWidget(search);
+    layout->addLayout(row({kinds}, {new QLabel(QStringLiteral("8 programs"), filter)}));
+    layout->addLayout(row({new QCheckBox(QStringLiteral("Missing"), filter),
                            new QCheckBox(QStringLiteral("Unused"), filter)},
                           {}));
     return filter;

@@ -63,18 +63,20 @@ void CatalogueFilter::build()
     m_count->setObjectName(QStringLiteral("programCount"));
     m_count->setTextFormat(Qt::PlainText);
 
-    auto* words = new QHBoxLayout;
-    words->addWidget(m_search, 1);
-    words->addWidget(m_count);
+    // The panel is too narrow for more in a line in most languages.
+    auto* kinds = new QHBoxLayout;
+    kinds->addWidget(m_kinds);
+    kinds->addStretch();
+    kinds->addWidget(m_count);
     auto* choices = new QHBoxLayout;
-    choices->addWidget(m_kinds);
     choices->addWidget(m_missing);
     choices->addWidget(m_unused);
     choices->addStretch();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->setSpacing(6);
-    layout->addLayout(words);
+    layout->addWidget(m_search);
+    layout->addLayout(kinds);
     layout->addLayout(choices);
 }
 

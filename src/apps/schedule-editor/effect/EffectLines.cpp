@@ -23,13 +23,15 @@ constexpr std::size_t kShownInLine = 20;
 constexpr std::size_t kShownInToolTip = 500;
 /// When a store that could not be read is read again.
 constexpr std::chrono::seconds kAgain{1};
+/// With the date and the time it is longer than the panel is wide in most languages.
+constexpr int kSinceLines = 2;
 
 } // namespace
 
 EffectLines::EffectLines(const ScreenFollower& follower, QWidget* parent)
     : QWidget(parent)
     , m_follower(follower)
-    , m_since(new ElidedText(this))
+    , m_since(new ElidedText(this, kSinceLines))
     , m_differing(new ElidedText(this))
 {
     m_since->setObjectName(QStringLiteral("effectSince"));
