@@ -465,6 +465,22 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
         <source>It does not say which state it is in.</source>
         <translation>Sie enthält keine Angabe zu ihrem Zustand.</translation>
     </message>
+    <message>
+        <source>It was created by an older version of this application. Set up the server again.</source>
+        <translation>Es wurde mit einer älteren Version dieser Anwendung angelegt. Richten Sie den Server neu ein.</translation>
+    </message>
+    <message>
+        <source>The address contains a password. Passwords belong in a password file.</source>
+        <translation>Die Adresse enthält ein Passwort. Passwörter gehören in eine Passwortdatei.</translation>
+    </message>
+    <message>
+        <source>The address of a schedule on a server has this form: %1</source>
+        <translation>Die Adresse eines Wiedergabeplans auf einem Server hat diese Form: %1</translation>
+    </message>
+    <message>
+        <source>The name of the schedule in the address is missing, too long or not readable.</source>
+        <translation>Der Name des Wiedergabeplans in der Adresse fehlt, ist zu lang oder nicht lesbar.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>

@@ -465,6 +465,22 @@ Cierre esta pregunta para seguir editando.</translation>
         <source>It does not say which state it is in.</source>
         <translation>No indica en qué estado se encuentra.</translation>
     </message>
+    <message>
+        <source>It was created by an older version of this application. Set up the server again.</source>
+        <translation>Se creó con una versión anterior de esta aplicación. Vuelva a configurar el servidor.</translation>
+    </message>
+    <message>
+        <source>The address contains a password. Passwords belong in a password file.</source>
+        <translation>La dirección contiene una contraseña. Las contraseñas deben estar en un archivo de contraseñas.</translation>
+    </message>
+    <message>
+        <source>The address of a schedule on a server has this form: %1</source>
+        <translation>La dirección de una programación en un servidor tiene esta forma: %1</translation>
+    </message>
+    <message>
+        <source>The name of the schedule in the address is missing, too long or not readable.</source>
+        <translation>El nombre de la programación en la dirección falta, es demasiado largo o no se puede leer.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>

@@ -465,6 +465,22 @@ Fermez cette question pour continuer à modifier.</translation>
         <source>It does not say which state it is in.</source>
         <translation>Il n’indique pas son état.</translation>
     </message>
+    <message>
+        <source>It was created by an older version of this application. Set up the server again.</source>
+        <translation>Elle a été créée par une version plus ancienne de cette application. Configurez de nouveau le serveur.</translation>
+    </message>
+    <message>
+        <source>The address contains a password. Passwords belong in a password file.</source>
+        <translation>L’adresse contient un mot de passe. Les mots de passe doivent se trouver dans un fichier de mots de passe.</translation>
+    </message>
+    <message>
+        <source>The address of a schedule on a server has this form: %1</source>
+        <translation>L’adresse d’une programmation sur un serveur a cette forme&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The name of the schedule in the address is missing, too long or not readable.</source>
+        <translation>Le nom de la programmation dans l’adresse manque, est trop long ou illisible.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>

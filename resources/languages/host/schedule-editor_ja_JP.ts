@@ -456,6 +456,22 @@ Close this question to keep editing.</source>
         <source>It does not say which state it is in.</source>
         <translation>状態の記録がありません。</translation>
     </message>
+    <message>
+        <source>It was created by an older version of this application. Set up the server again.</source>
+        <translation>このアプリケーションの古いバージョンで作成されました。サーバーを設定し直してください。</translation>
+    </message>
+    <message>
+        <source>The address contains a password. Passwords belong in a password file.</source>
+        <translation>アドレスにパスワードが含まれています。パスワードはパスワードファイルに入れてください。</translation>
+    </message>
+    <message>
+        <source>The address of a schedule on a server has this form: %1</source>
+        <translation>サーバー上のスケジュールのアドレスは次の形式です：%1</translation>
+    </message>
+    <message>
+        <source>The name of the schedule in the address is missing, too long or not readable.</source>
+        <translation>アドレスのスケジュール名がないか、長すぎるか、読み取れません。</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>

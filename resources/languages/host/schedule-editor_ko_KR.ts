@@ -456,6 +456,22 @@ Close this question to keep editing.</source>
         <source>It does not say which state it is in.</source>
         <translation>상태 정보가 없습니다.</translation>
     </message>
+    <message>
+        <source>It was created by an older version of this application. Set up the server again.</source>
+        <translation>이 애플리케이션의 이전 버전에서 만들어졌습니다. 서버를 다시 설정하십시오.</translation>
+    </message>
+    <message>
+        <source>The address contains a password. Passwords belong in a password file.</source>
+        <translation>주소에 암호가 들어 있습니다. 암호는 암호 파일에 넣으십시오.</translation>
+    </message>
+    <message>
+        <source>The address of a schedule on a server has this form: %1</source>
+        <translation>서버에 있는 일정의 주소는 다음과 같은 형식입니다: %1</translation>
+    </message>
+    <message>
+        <source>The name of the schedule in the address is missing, too long or not readable.</source>
+        <translation>주소에 있는 일정의 이름이 없거나 너무 길거나 읽을 수 없습니다.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>

@@ -465,6 +465,22 @@ Feche esta pergunta para continuar editando.</translation>
         <source>It does not say which state it is in.</source>
         <translation>Não indica em que estado se encontra.</translation>
     </message>
+    <message>
+        <source>It was created by an older version of this application. Set up the server again.</source>
+        <translation>Foi criado por uma versão mais antiga deste aplicativo. Configure o servidor novamente.</translation>
+    </message>
+    <message>
+        <source>The address contains a password. Passwords belong in a password file.</source>
+        <translation>O endereço contém uma senha. Senhas devem ficar em um arquivo de senhas.</translation>
+    </message>
+    <message>
+        <source>The address of a schedule on a server has this form: %1</source>
+        <translation>O endereço de uma programação em um servidor tem esta forma: %1</translation>
+    </message>
+    <message>
+        <source>The name of the schedule in the address is missing, too long or not readable.</source>
+        <translation>O nome da programação no endereço está ausente, é longo demais ou não é legível.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>

@@ -474,6 +474,22 @@ Close this question to keep editing.</source>
         <source>It does not say which state it is in.</source>
         <translation>В нём не указано его состояние.</translation>
     </message>
+    <message>
+        <source>It was created by an older version of this application. Set up the server again.</source>
+        <translation>Она создана более старой версией этого приложения. Настройте сервер заново.</translation>
+    </message>
+    <message>
+        <source>The address contains a password. Passwords belong in a password file.</source>
+        <translation>Адрес содержит пароль. Пароли хранятся в файле паролей.</translation>
+    </message>
+    <message>
+        <source>The address of a schedule on a server has this form: %1</source>
+        <translation>Адрес расписания на сервере имеет такой вид: %1</translation>
+    </message>
+    <message>
+        <source>The name of the schedule in the address is missing, too long or not readable.</source>
+        <translation>Имя расписания в адресе отсутствует, слишком длинное или нечитаемое.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>

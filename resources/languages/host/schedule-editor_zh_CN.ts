@@ -456,6 +456,22 @@ Close this question to keep editing.</source>
         <source>It does not say which state it is in.</source>
         <translation>其中未记录自身的状态。</translation>
     </message>
+    <message>
+        <source>It was created by an older version of this application. Set up the server again.</source>
+        <translation>它由此应用程序的较早版本创建。请重新设置服务器。</translation>
+    </message>
+    <message>
+        <source>The address contains a password. Passwords belong in a password file.</source>
+        <translation>地址中包含密码。密码应放在密码文件中。</translation>
+    </message>
+    <message>
+        <source>The address of a schedule on a server has this form: %1</source>
+        <translation>服务器上的排期地址格式如下：%1</translation>
+    </message>
+    <message>
+        <source>The name of the schedule in the address is missing, too long or not readable.</source>
+        <translation>地址中的排期名称缺失、过长或无法读取。</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>

@@ -456,6 +456,22 @@ Close this question to keep editing.</source>
         <source>It does not say which state it is in.</source>
         <translation>其中未記錄自身的狀態。</translation>
     </message>
+    <message>
+        <source>It was created by an older version of this application. Set up the server again.</source>
+        <translation>它由此應用程式的較早版本建立。請重新設定伺服器。</translation>
+    </message>
+    <message>
+        <source>The address contains a password. Passwords belong in a password file.</source>
+        <translation>位址中包含密碼。密碼應放在密碼檔案中。</translation>
+    </message>
+    <message>
+        <source>The address of a schedule on a server has this form: %1</source>
+        <translation>伺服器上的排程位址格式如下：%1</translation>
+    </message>
+    <message>
+        <source>The name of the schedule in the address is missing, too long or not readable.</source>
+        <translation>位址中的排程名稱缺漏、過長或無法讀取。</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>

@@ -65,6 +65,15 @@ constexpr Pattern kFaults[] = {
     {QT_TRANSLATE_NOOP("ProblemWords", "It contains “%1”, which does not belong there.")},
     {QT_TRANSLATE_NOOP("ProblemWords", "“%1” has been changed.")},
     {QT_TRANSLATE_NOOP("ProblemWords", "It does not say which state it is in.")},
+    {QT_TRANSLATE_NOOP("ProblemWords",
+                       "It was created by an older version of this application. Set up the server "
+                       "again.")},
+    {QT_TRANSLATE_NOOP("ProblemWords",
+                       "The address contains a password. Passwords belong in a password file.")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "The address of a schedule on a server has this form: %1")},
+    {QT_TRANSLATE_NOOP(
+        "ProblemWords",
+        "The name of the schedule in the address is missing, too long or not readable.")},
 
     {QT_TRANSLATE_N_NOOP("ProblemWords", "There are more than %n tasks."), 0},
     {QT_TRANSLATE_N_NOOP("ProblemWords", "There are more than %n plans."), 0},

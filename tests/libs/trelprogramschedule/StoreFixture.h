@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ScheduleHost.h"
+#include "libs/trelprogramschedule/StorePlaces.h"
 #include "service/scheduleManage.h"
 #include "support/SampleSchedule.h"
 #include "trelprogramschedule/faults/FaultWords.h"
@@ -8,15 +9,15 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// A fresh store in a folder of its own, open in the process's one service until the end of the
-/// test function.
+/// A fresh store in a folder of its own, or on the server that the environment names, open in the
+/// process's one service until the end of the test function.
 class StoreFixture
 {
 public:
     StoreFixture()
         : host(trel::mediadispatch::ScheduleHost::instance())
         , manager(trel::mediadispatch::scheduleManage::getInstance())
-        , path(folder.filePath(QStringLiteral("schedule.db")))
+        , path(newPlace(folder))
     {
         open();
     }

@@ -1,7 +1,6 @@
 #include "SignalCounts.h"
 #include "StoreFixture.h"
 #include "store/ScheduleDatabase.h"
-#include "store/sqlite/SqliteConnection.h"
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>
@@ -163,9 +162,9 @@ void tst_CatalogueRemoval::theScheduleStaysUnread()
     store.save(sampleSchedule(2, 2, 2));
     store.host.close();
     {
-        const SqliteConnection connection(store.path, SqliteConnection::Access::ReadWrite);
-        connection.run(QStringLiteral("UPDATE plan_value SET position = position + 1000"));
-        connection.run(QStringLiteral("UPDATE entry SET position = position + 1000"));
+        const auto connection = connectionTo(store.path);
+        connection->run(QStringLiteral("UPDATE plan_value SET position = position + 1000"));
+        connection->run(QStringLiteral("UPDATE entry SET position = position + 1000"));
     }
     QCOMPARE(store.host.open(store.path).problem, StoreProblem::Damaged);
 

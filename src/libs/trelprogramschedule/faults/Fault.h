@@ -40,6 +40,10 @@ enum class FaultCode {
     PartUnknown, ///< The same of what it holds and should not.
     PartAltered, ///< The same of what it has in another form.
     StateMissing,
+    SchemaOlder,       ///< A server is brought up to a newer schema by its setup alone.
+    AddressPassword,   ///< Of a store on a server; the password is not told.
+    AddressUnfit,      ///< The form of an address.
+    ScheduleNameUnfit, ///< The name of a schedule on a server is missing, too long or hidden.
 
     // what a schedule may hold at most
     TooManyTasks,       ///< The most of them.

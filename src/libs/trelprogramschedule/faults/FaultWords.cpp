@@ -49,6 +49,11 @@ constexpr Words kWords[] = {
     {"partUnknown", "it holds the %2 \"%1\""},
     {"partAltered", "its %2 \"%1\" is another one"},
     {"stateMissing", "it does not say which state it is in"},
+    {"schemaOlder", "it was made by an older version of this program; set up the server again"},
+    {"addressPassword", "the address contains a password; passwords belong in a password file"},
+    {"addressUnfit", "the address of a schedule on a server has the form %1"},
+    {"scheduleNameUnfit", "the name of the schedule in the address is missing, too long or not "
+                          "readable"},
 
     {"tooManyTasks", "there are more than %1 tasks"},
     {"tooManyPlans", "there are more than %1 plans"},

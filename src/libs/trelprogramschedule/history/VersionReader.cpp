@@ -6,12 +6,13 @@
 #include "store/StoreCatalogue.h"
 #include "store/StoreContents.h"
 #include "store/StoreDeadline.h"
+#include "store/StoreEngines.h"
 #include "store/StoreSchema.h"
 #include "store/StoreTaskReader.h"
 #include "store/StoreVersions.h"
-#include "store/sqlite/SqliteConnection.h"
 
 #include <chrono>
+#include <memory>
 #include <new>
 #include <utility>
 
@@ -38,7 +39,8 @@ void VersionReader::endWhen(std::function<bool()> isNeedless)
 template <typename Reading>
 StoreResult VersionReader::read(const Reading& reading) const
 try {
-    const SqliteConnection connection(m_path, SqliteConnection::Access::ReadOnly);
+    const std::unique_ptr<StoreConnection> reader = readerFor(m_path);
+    const StoreConnection& connection = *reader;
     const StoreDeadline deadline(connection, kReadingTime, m_isNeedless);
     StoreTransaction transaction(connection, StoreTransaction::Purpose::Read);
     // Another file may have taken the place of the one that was opened.

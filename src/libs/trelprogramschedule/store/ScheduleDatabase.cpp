@@ -4,7 +4,7 @@
 #include "StoreAttempt.h"
 #include "StoreCatalogue.h"
 #include "StoreEffect.h"
-#include "StoreEngine.h"
+#include "StoreEngines.h"
 #include "StoreRefusals.h"
 #include "StoreRevisions.h"
 #include "StoreTaskReader.h"
@@ -14,7 +14,6 @@
 #include "ThisProgram.h"
 #include "catalogue/ProgramImporter.h"
 #include "clock/Clock.h"
-#include "sqlite/SqliteStore.h"
 
 #include <QVariant>
 
@@ -46,9 +45,13 @@ StoreResult ScheduleDatabase::open(const QString& path, StoreOpenMode mode, Stor
 try {
     close();
     m_looksFor = part;
-    m_engine = std::make_unique<SqliteStore>(
-        path, mode, [this](const StoreConnection& connection) { look(connection); });
-    StoreResult result = m_engine->open();
+    StoreResult result = attempt(path, [&] {
+        m_engine =
+            engineFor(path, mode, [this](const StoreConnection& connection) { look(connection); });
+    });
+    if (result) {
+        result = m_engine->open();
+    }
     if (!result) {
         close();
     }
@@ -354,8 +357,11 @@ StoreResult ScheduleDatabase::countPlansWith(const std::vector<int>& progIndexes
     if (!isOpen()) {
         return refusal(StoreProblem::NotOpen, QString());
     }
-    return attempt(path(),
-                   [&] { count = StoreTaskReader::countPlansWith(connection(), progIndexes); });
+    return attempt(path(), [&] {
+        StoreTransaction transaction(connection(), StoreTransaction::Purpose::Read);
+        count = StoreTaskReader::countPlansWith(connection(), progIndexes);
+        transaction.commit();
+    });
 }
 
 } // namespace trel::mediadispatch

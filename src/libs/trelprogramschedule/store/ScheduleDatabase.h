@@ -30,7 +30,8 @@ enum class StorePart {
 ///
 /// Every change is one transaction, synchronised to the disk before the call returns. A call that
 /// fails leaves the file as it was and the object usable. One connection, which lives from open to
-/// close; an object belongs to one thread, and needs a QCoreApplication.
+/// close; an object belongs to one thread, and needs a QCoreApplication. What is said of the file
+/// is true of the schedule on a server as well, where the path is an address; see StorePlace.
 class ScheduleDatabase
 {
 public:

@@ -52,13 +52,13 @@ StoreCatalogue::StoreCatalogue(const StoreConnection& connection, QString path)
     : m_connection(connection)
     , m_path(std::move(path))
     , m_nextIndex(connection.value(QStringLiteral("SELECT next_prog_index FROM store")).toInt())
-    , m_find(connection.prepare(
-          QStringLiteral("SELECT prog_index FROM program WHERE media_path = ? AND removed = 0")))
-    , m_update(connection.prepare(QStringLiteral(
-          "UPDATE program SET name = ?, duration_ms = ?, kind = ? WHERE prog_index = ?")))
+    , m_find(connection.prepare(QStringLiteral(
+          "SELECT prog_index FROM program WHERE media_path = CAST(? AS TEXT) AND removed = 0")))
+    , m_update(connection.prepare(QStringLiteral("UPDATE program SET name = CAST(? AS TEXT), "
+                                                 "duration_ms = ?, kind = ? WHERE prog_index = ?")))
     , m_insert(connection.prepare(
           QStringLiteral("INSERT INTO program (prog_index, name, media_path, duration_ms, kind)"
-                         " VALUES (?, ?, ?, ?, ?)")))
+                         " VALUES (?, CAST(? AS TEXT), CAST(? AS TEXT), ?, ?)")))
 {}
 
 void StoreCatalogue::read(StoreContents& contents) const
@@ -94,12 +94,12 @@ void StoreCatalogue::put(const MediaSource& source, ImportResult& result)
     expectToFit(source);
     const int kind = static_cast<int>(source.kind);
     const double duration = storedDuration(source.durationMs);
-    bindFrom(0, m_find, present(source.path));
+    bindFrom(0, m_find, bytes(source.path));
     m_connection.exec(m_find);
     if (m_connection.next(m_find)) {
         const int index = m_find.value(0).toInt();
         m_find.finish();
-        bindFrom(0, m_update, present(source.name), duration, kind, index);
+        bindFrom(0, m_update, bytes(source.name), duration, kind, index);
         m_connection.exec(m_update);
         const bool isOfThisImport = !m_done.insert(index).second;
         if (!isOfThisImport) {
@@ -108,7 +108,7 @@ void StoreCatalogue::put(const MediaSource& source, ImportResult& result)
         return;
     }
     const int index = giveOutIndex();
-    bindFrom(0, m_insert, index, present(source.name), present(source.path), duration, kind);
+    bindFrom(0, m_insert, index, bytes(source.name), bytes(source.path), duration, kind);
     m_connection.exec(m_insert);
     m_done.insert(index);
     result.added.push_back(index);

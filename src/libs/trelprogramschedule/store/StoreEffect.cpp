@@ -72,7 +72,7 @@ StoredEffect StoreEffect::read() const
         QStringLiteral("SELECT since_ms, schedule_revision, started_by FROM effect"));
     if (m_connection.next(row)) {
         effect.start = EffectStart{row.value(0).toLongLong(), row.value(1).toLongLong(),
-                                   row.value(2).toString()};
+                                   QString::fromUtf8(row.value(2).toByteArray())};
         effect.tasks = StoreTaskReader(m_connection, m_path, kTasks).read();
         effect.insertions = readInsertions();
     }
@@ -95,7 +95,7 @@ ScreenInsertions StoreEffect::readInsertions() const
         read.ends = row.value(3).toLongLong();
         read.taskId = row.value(4).toInt();
         read.planId = row.value(5).toInt();
-        read.askedBy = row.value(6).toString();
+        read.askedBy = QString::fromUtf8(row.value(6).toByteArray());
         owners.try_emplace(static_cast<int>(read.number));
     }
     owners = StoreTaskReader(m_connection, m_path, kInsertions).readPlansOf(std::move(owners));
@@ -119,8 +119,8 @@ void StoreEffect::start(const EffectStart& start) const
     clear();
     QSqlQuery row = m_connection.prepare(
         QStringLiteral("INSERT INTO effect (one, since_ms, schedule_revision, started_by)"
-                       " VALUES (1, ?, ?, ?)"));
-    bindFrom(0, row, start.since, start.saved, present(start.by));
+                       " VALUES (1, ?, ?, CAST(? AS TEXT))"));
+    bindFrom(0, row, start.since, start.saved, bytes(start.by));
     m_connection.exec(row);
     for (auto table = std::rbegin(kTables); table != std::rend(kTables); ++table) {
         m_connection.run(
@@ -152,14 +152,14 @@ void StoreEffect::putInsertions(ScreenInsertions& insertions) const
     m_connection.run(QStringLiteral("DELETE FROM insertion"));
     QSqlQuery row = m_connection.prepare(
         QStringLiteral("INSERT INTO insertion (number, requested_ms, begins_ms, ends_ms, task_id,"
-                       " plan_id, asked_by) VALUES (?, ?, ?, ?, ?, ?, ?)"));
+                       " plan_id, asked_by) VALUES (?, ?, ?, ?, ?, ?, CAST(? AS TEXT))"));
     StorePlanWriter plans(m_connection, kInsertions);
     for (ScreenInsertion& insertion : insertions) {
         if (insertion.number == 0) {
             insertion.number = change;
         }
         bindFrom(0, row, insertion.number, insertion.requested, insertion.begins, insertion.ends,
-                 insertion.taskId, insertion.planId, present(insertion.askedBy));
+                 insertion.taskId, insertion.planId, bytes(insertion.askedBy));
         m_connection.exec(row);
         plans.insert(insertion.number, plansOf(insertion));
     }

@@ -42,8 +42,9 @@ void StorePlanWriter::insert(qint64 owner, const std::vector<PlayPlan>& plans)
 void StorePlanWriter::insertPlan(const PlayPlan& plan)
 {
     bindFrom(2, m_plan, plan.id, plan.mode, bytes(plan.startTime), bytes(plan.endTime), plan.times,
-             plan.serviceCount, plan.endAction, plan.isConflict, bytes(plan.weeks),
-             bytes(plan.serviceTime), plan.hasNoDuration, plan.serviceFlagA, plan.serviceFlagB);
+             plan.serviceCount, plan.endAction, number(plan.isConflict), bytes(plan.weeks),
+             bytes(plan.serviceTime), number(plan.hasNoDuration), number(plan.serviceFlagA),
+             number(plan.serviceFlagB));
     m_connection.exec(m_plan);
 }
 
@@ -60,8 +61,8 @@ void StorePlanWriter::insertEntries(const PlayPlan& plan)
 {
     int place = 0;
     for (const struProgInfo& entry : plan.programs) {
-        bindFrom(2, m_entry, place++, entry.progIndex, entry.isInvalid, bytes(entry.progName),
-                 entry.playCount);
+        bindFrom(2, m_entry, place++, entry.progIndex, number(entry.isInvalid),
+                 bytes(entry.progName), entry.playCount);
         m_connection.exec(m_entry);
     }
 }

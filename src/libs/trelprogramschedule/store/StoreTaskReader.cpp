@@ -37,6 +37,9 @@ TaskMap StoreTaskReader::readPlansOf(TaskMap owners)
 int StoreTaskReader::countPlansWith(const StoreConnection& connection,
                                     const std::vector<int>& progIndexes)
 {
+    if (progIndexes.empty()) {
+        return 0; // Not every engine knows an empty list.
+    }
     QStringList indexes;
     indexes.reserve(static_cast<int>(progIndexes.size()));
     for (const int index : progIndexes) {
@@ -44,7 +47,7 @@ int StoreTaskReader::countPlansWith(const StoreConnection& connection,
     }
     return connection
         .value(QStringLiteral("SELECT count(*) FROM (SELECT DISTINCT task_id, plan_position"
-                              " FROM entry WHERE is_invalid = 0 AND prog_index IN (%1))")
+                              " FROM entry WHERE is_invalid = 0 AND prog_index IN (%1)) AS plans")
                    .arg(indexes.join(QLatin1Char(','))))
         .toInt();
 }

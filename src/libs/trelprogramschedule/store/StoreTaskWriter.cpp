@@ -78,9 +78,9 @@ void StoreTaskWriter::updatePlan(const PlanEdit& edit)
 {
     const PlayPlan& plan = *edit.plan;
     bindFrom(0, m_planFields, plan.id, plan.mode, bytes(plan.startTime), bytes(plan.endTime),
-             plan.times, plan.serviceCount, plan.endAction, plan.isConflict, bytes(plan.weeks),
-             bytes(plan.serviceTime), plan.hasNoDuration, plan.serviceFlagA, plan.serviceFlagB,
-             edit.taskId, edit.position);
+             plan.times, plan.serviceCount, plan.endAction, number(plan.isConflict),
+             bytes(plan.weeks), bytes(plan.serviceTime), number(plan.hasNoDuration),
+             number(plan.serviceFlagA), number(plan.serviceFlagB), edit.taskId, edit.position);
     m_connection.exec(m_planFields);
 }
 

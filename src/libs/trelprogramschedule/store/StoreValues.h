@@ -24,10 +24,16 @@ inline QByteArray bytes(const std::string& text)
     return QByteArray::fromRawData(text.data(), static_cast<int>(text.size()));
 }
 
-/// The text for a column that takes no null.
-inline QString present(const QString& text)
+/// The same of another text; never null.
+inline QByteArray bytes(const QString& text)
 {
-    return text.isNull() ? QLatin1String("") : text;
+    return text.isEmpty() ? QByteArray("") : text.toUtf8();
+}
+
+/// What is true or not, for a column of numbers.
+inline int number(bool isTrue)
+{
+    return isTrue ? 1 : 0;
 }
 
 /// The UTF-8 text of a column, read as text or as its bytes.

@@ -120,8 +120,8 @@ StoreVersionWriter::StoreVersionWriter(const StoreConnection& connection, QStrin
     : m_connection(connection)
     , m_path(std::move(path))
     , m_sound(connection, m_path,
-              "SELECT (SELECT max(number) FROM version) IS ?1"
-              " AND NOT EXISTS (SELECT 1 FROM version_part WHERE version >= ?1)")
+              "SELECT coalesce((SELECT max(number) FROM version), -1) = ?"
+              " AND NOT EXISTS (SELECT 1 FROM version_part WHERE version >= ?)")
     , m_part(connection, m_path, "INSERT INTO version_part VALUES (?, ?, ?)")
     , m_version(connection, m_path, "INSERT INTO version VALUES (?, ?, ?, ?, ?, ?, ?, ?, '', '')")
 {}
@@ -141,6 +141,7 @@ void StoreVersionWriter::keep(qint64 former, const TaskEdits& edits, const SaveM
 bool StoreVersionWriter::isSound(qint64 former)
 {
     m_sound.bind(1, former);
+    m_sound.bind(2, former);
     const bool isSound = m_sound.next() && m_sound.number(0) != 0;
     m_sound.reset();
     return isSound;
@@ -150,8 +151,8 @@ void StoreVersionWriter::prepare(qint64 former)
 {
     for (const char* sql :
          {"DELETE FROM version_part WHERE version >= ?", "DELETE FROM version WHERE number > ?",
-          "INSERT OR IGNORE INTO version VALUES (?, 0, '', 0, 0, 0, '', -1, '',"
-          " '')"}) {
+          "INSERT INTO version VALUES (?, 0, '', 0, 0, 0, '', -1, '', '')"
+          " ON CONFLICT DO NOTHING"}) {
         StoreStatement statement(m_connection, m_path, sql);
         statement.bind(1, former);
         statement.run();

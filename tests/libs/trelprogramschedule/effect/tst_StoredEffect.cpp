@@ -524,8 +524,7 @@ void tst_StoredEffect::whatDoesNotFitIsDamage()
     fixture.insertDelayed(fixture.inserted("08:00:00-08:00:30 A"));
     fixture.host.close();
     {
-        const SqliteConnection connection(fixture.path, SqliteConnection::Access::ReadWrite);
-        connection.run(statement);
+        connectionTo(fixture.path)->run(statement);
     }
     const FolderSnapshot before(fixture.folder.path());
     QVERIFY(fixture.host.open(fixture.path).problem == StoreProblem::Damaged);

@@ -1,6 +1,5 @@
 #include "OtherProgram.h"
 #include "StoreFixture.h"
-#include "store/sqlite/SqliteConnection.h"
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>
@@ -37,8 +36,8 @@ private:
     /// A change that no revision tells of.
     static void run(const StoreFixture& store, const char* statement)
     {
-        const SqliteConnection connection(store.path, SqliteConnection::Access::ReadWrite);
-        connection.run(QString::fromLatin1(statement));
+        const auto connection = connectionTo(store.path);
+        connection->run(QString::fromLatin1(statement));
     }
 };
 

@@ -230,8 +230,10 @@ void tst_StoreVersions::everyStateComesBack()
     std::map<qint64, QByteArray> states{{0, textOf({})}};
     std::set<qint64> named;
     TaskMap tasks;
+    // On a server each statement has its way there and back.
+    const qint64 saves = storeServer().isEmpty() ? 420 : 70;
     qint64 number = 0;
-    while (number < 420) {
+    while (number < saves) {
         const TaskMap before = tasks;
         for (int edits = 1 + int(random() % 3); edits > 0; --edits) {
             editAtRandom(tasks, random);
@@ -259,14 +261,14 @@ void tst_StoreVersions::everyStateComesBack()
     for (const ScheduleVersion& version : versionsOf(store.host)) {
         left.insert(version.number);
     }
-    for (qint64 last = number; last >= number - 200; --last) {
+    for (qint64 last = number; last >= qMax(number - 200, qint64(0)); --last) {
         QVERIFY(left.count(last) > 0);
     }
     for (const qint64 one : named) {
         QVERIFY(left.count(one) > 0);
     }
     QVERIFY2(left.size() < 330, qPrintable(QString::number(left.size())));
-    QVERIFY(named.size() > 5);
+    QVERIFY(qint64(named.size()) > saves / 84);
 }
 
 void tst_StoreVersions::whatIsBroughtBackCanBeUndone()
@@ -328,13 +330,15 @@ void tst_StoreVersions::aTaskOfAnySizeIsKept()
     StoreFixture store;
     std::mt19937 random(kSeed);
     PlayTask task = everyFieldTask(1);
-    for (int count = 0; count < 200000; ++count) {
+    // On a server a value may have any size, and each row has its way there and back.
+    const int values = storeServer().isEmpty() ? 200000 : 10000;
+    for (int count = 0; count < values; ++count) {
         task.plans.front().serviceList.push_back(std::int64_t(random()) << 32 |
                                                  std::int64_t(random()));
     }
     QVERIFY(store.host.replaceSchedule({{1, task}}));
     QVERIFY(store.host.replaceSchedule({}));
-    QVERIFY(versionsOf(store.host).at(1).bytes > 1024 * 1024);
+    QVERIFY(versionsOf(store.host).at(1).bytes > qint64(values) * 6);
     store.restart();
     TaskMap tasks;
     QVERIFY(store.host.versionTasks(1, tasks));
@@ -468,15 +472,24 @@ void tst_StoreVersions::damageIsToldAndInNobodysWay()
 {
     QFETCH(QByteArray, statement);
     QFETCH(QByteArray, read);
+    if (!storeServer().isEmpty() && statement.contains("zeroblob")) {
+        QSKIP("Files alone have these words.");
+    }
     StoreFixture store;
     // The one task that goes stands in a version alone.
     QVERIFY(store.host.replaceSchedule(sampleSchedule(3, 2, 2)));
     QVERIFY(store.host.replaceSchedule(sampleSchedule(2, 2, 2)));
     store.host.close();
     {
-        const SqliteConnection connection(store.path, SqliteConnection::Access::ReadWrite);
-        connection.run(QStringLiteral("PRAGMA foreign_keys = ON"));
-        connection.run(QString::fromLatin1(statement));
+        const auto connection = connectionTo(store.path);
+        QString words = QString::fromLatin1(statement);
+        if (storeServer().isEmpty()) {
+            connection->run(QStringLiteral("PRAGMA foreign_keys = ON"));
+        } else {
+            connection->run(QStringLiteral("SET session_replication_role = DEFAULT"));
+            words.replace(QRegularExpression(QStringLiteral("\\bx'")), QStringLiteral("'\\x"));
+        }
+        connection->run(words);
     }
     store.open();
     QCOMPARE(store.host.workingSet().size(), std::size_t(2));
@@ -511,6 +524,9 @@ void tst_StoreVersions::savesAreKeptWholeOrNotAtAll_data()
 /// From opening to closing, every call of the kind in turn.
 void tst_StoreVersions::savesAreKeptWholeOrNotAtAll()
 {
+    if (!storeServer().isEmpty()) {
+        QSKIP("The calls that fail are those of files.");
+    }
     QFETCH(int, call);
     QFETCH(bool, isForGood);
     const auto lasting = isForGood ? FaultyDisk::Lasting::ForGood : FaultyDisk::Lasting::Once;
@@ -573,6 +589,9 @@ void tst_StoreVersions::aSaveOfOneTaskKeepsOneTask()
 /// into the file, and the store be left.
 void tst_StoreVersions::aSaveLeavesNothingOpen()
 {
+    if (!storeServer().isEmpty()) {
+        QSKIP("The log is one of files.");
+    }
     StoreFixture store;
     store.save(sampleSchedule(2, 1, 1));
     store.save(sampleSchedule(2, 1, 1, 5));
@@ -604,9 +623,9 @@ void tst_StoreVersions::damageStaysWhenVersionsGo()
     const auto setPart = [&store](int part) {
         store.host.close();
         {
-            const SqliteConnection connection(store.path, SqliteConnection::Access::ReadWrite);
-            connection.run(
-                QStringLiteral("UPDATE version_part SET part = %1 WHERE version = 4").arg(part));
+            connectionTo(store.path)
+                ->run(QStringLiteral("UPDATE version_part SET part = %1 WHERE version = 4")
+                          .arg(part));
         }
         store.open();
     };

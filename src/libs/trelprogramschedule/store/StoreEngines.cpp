@@ -1,0 +1,82 @@
+#include "StoreEngines.h"
+
+#include "StoreAttempt.h"
+#include "StorePlace.h"
+#include "StoreRefusals.h"
+#include "postgres/PostgresConnection.h"
+#include "postgres/PostgresSetup.h"
+#include "postgres/PostgresStore.h"
+#include "sqlite/SqliteConnection.h"
+#include "sqlite/SqliteStore.h"
+
+#include <utility>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+Fault causeOf(StorePlace::Flaw flaw)
+{
+    switch (flaw) {
+    case StorePlace::Flaw::Password:
+        return {FaultCode::AddressPassword, {}};
+    case StorePlace::Flaw::Name:
+        return {FaultCode::ScheduleNameUnfit, {}};
+    default:
+        return faultOf(FaultCode::AddressUnfit,
+                       QStringLiteral("postgresql://[user@]host[:port]/database?schedule=NAME"));
+    }
+}
+
+void expectFlawless(const StorePlace& place)
+{
+    if (place.flaw() != StorePlace::Flaw::None || !place.isOnServer()) {
+        throw StoreError{refusal(StoreProblem::Other, StorePlace::scheme(), causeOf(place.flaw()))};
+    }
+}
+
+} // namespace
+
+std::unique_ptr<StoreEngine> engineFor(const QString& place, StoreOpenMode mode,
+                                       StoreEngine::Look look)
+{
+    if (!StorePlace::isAddress(place)) {
+        return std::make_unique<SqliteStore>(place, mode, std::move(look));
+    }
+    const StorePlace server(place);
+    expectFlawless(server);
+    return std::make_unique<PostgresStore>(server, mode, std::move(look));
+}
+
+std::unique_ptr<StoreConnection> readerFor(const QString& place)
+{
+    if (!StorePlace::isAddress(place)) {
+        return std::make_unique<SqliteConnection>(place, SqliteConnection::Access::ReadOnly);
+    }
+    const StorePlace server(place);
+    expectFlawless(server);
+    return std::make_unique<PostgresConnection>(server, PostgresConnection::Access::ReadOnly);
+}
+
+StoreResult setUpStore(const QString& address)
+{
+    return attempt(StorePlace::scheme(), [&address] {
+        const StorePlace server(address);
+        expectFlawless(server);
+        if (StoreResult made = PostgresSetup::run(server); !made) {
+            throw StoreError{std::move(made)};
+        }
+    });
+}
+
+QString deskRole()
+{
+    return PostgresSetup::deskRole();
+}
+
+QString screenRole()
+{
+    return PostgresSetup::screenRole();
+}
+
+} // namespace trel::mediadispatch

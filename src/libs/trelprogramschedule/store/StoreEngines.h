@@ -1,0 +1,26 @@
+#pragma once
+
+#include "StoreEngine.h"
+#include "trelprogramschedule_export.h"
+
+#include <memory>
+
+namespace trel::mediadispatch {
+
+/// The engine that keeps the store at a place. Throws StoreError where the place has a flaw; what
+/// is thrown does not repeat the place then, since there may be a password in it.
+std::unique_ptr<StoreEngine> engineFor(const QString& place, StoreOpenMode mode,
+                                       StoreEngine::Look look);
+
+/// A connection that reads the store at a place beside the one that is open on it. Throws the same.
+std::unique_ptr<StoreConnection> readerFor(const QString& place);
+
+/// Makes what a store at an address needs on its server, or brings it up to this program; see
+/// PostgresSetup. A place that is no address, or has a flaw, is refused with Other, and not
+/// repeated.
+TRELPROGRAMSCHEDULE_EXPORT StoreResult setUpStore(const QString& address);
+/// The roles of a server whose members write all schedules there, and read them.
+TRELPROGRAMSCHEDULE_EXPORT QString deskRole();
+TRELPROGRAMSCHEDULE_EXPORT QString screenRole();
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,383 @@
+#include "PostgresConnection.h"
+
+#include "PostgresRefusals.h"
+#include "PostgresRows.h"
+#include "PostgresWords.h"
+#include "store/StoreDeadline.h"
+#include "store/StoreDriver.h"
+#include "store/StoreElements.h"
+#include "store/StoreRefusals.h"
+
+#include <QSqlError>
+#include <QStringList>
+#include <QVariant>
+
+#include <utility>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+/// What the client library makes sure of: a server that does not answer, or has gone from the
+/// network, is given up after seconds and not after minutes.
+const QString kOptions =
+    QStringLiteral("connect_timeout=5;keepalives_idle=5;keepalives_interval=2;keepalives_count=3;"
+                   "tcp_user_timeout=10000;application_name=trel-schedule");
+
+/// In front of the name of a schedule, so that its schema meets no other.
+const QString kSchemaPrefix = QStringLiteral("trel_schedule_");
+
+/// What says whose a schema is, and which version of it.
+const QString kMakeSeal =
+    QStringLiteral("CREATE TABLE seal (one INTEGER PRIMARY KEY CHECK (one = 1),"
+                   " application INTEGER NOT NULL, version INTEGER NOT NULL)");
+
+/// More than any schema has, so that one that has more shows.
+constexpr int kMostElements = 1000;
+
+/// All that a schema can hold which has to do with reading and writing its tables. The number of
+/// the schema is put in for the place. Names of the schema itself are taken out of definitions.
+constexpr char kElements[] =
+    "WITH home AS (SELECT oid, nspname FROM pg_catalog.pg_namespace WHERE oid = %1),"
+    " own AS (SELECT c.* FROM pg_catalog.pg_class c JOIN home ON home.oid = c.relnamespace)"
+    " SELECT 'table', relname::text, relname::text, relkind::text ||"
+    "  CASE WHEN relpersistence = 'u' THEN ' unlogged' ELSE '' END ||"
+    "  CASE WHEN relrowsecurity THEN ' secured' ELSE '' END ||"
+    "  (SELECT coalesce(string_agg(' ' || attname || ' ' || format_type(atttypid, atttypmod) ||"
+    "    CASE WHEN attnotnull THEN ' NOT NULL' ELSE '' END ||"
+    "    coalesce(' DEFAULT ' || (SELECT pg_get_expr(adbin, adrelid)"
+    "     FROM pg_catalog.pg_attrdef WHERE adrelid = attrelid AND adnum = attnum), ''), ','"
+    "    ORDER BY attnum), '')"
+    "   FROM pg_catalog.pg_attribute WHERE attrelid = own.oid AND attnum > 0 AND NOT attisdropped)"
+    "  FROM own WHERE relkind <> 'i'"
+    " UNION ALL SELECT 'index', own.relname::text, indrelid::regclass::text,"
+    "  replace(replace(pg_get_indexdef(own.oid), quote_ident(home.nspname) || '.', ''),"
+    "   'pg_temp.', '')"
+    "  FROM own JOIN pg_catalog.pg_index ON indexrelid = own.oid, home"
+    " UNION ALL SELECT 'constraint', own.relname || ' ' || conname, own.relname::text,"
+    "  pg_get_constraintdef(k.oid) || CASE WHEN convalidated THEN '' ELSE ' unchecked' END"
+    "  FROM pg_catalog.pg_constraint k JOIN own ON own.oid = conrelid"
+    " UNION ALL SELECT 'trigger', own.relname || ' ' || tgname, own.relname::text, ''"
+    "  FROM pg_catalog.pg_trigger t JOIN own ON own.oid = tgrelid WHERE NOT tgisinternal"
+    " UNION ALL SELECT 'rule', own.relname || ' ' || rulename, own.relname::text, ''"
+    "  FROM pg_catalog.pg_rewrite JOIN own ON own.oid = ev_class"
+    " UNION ALL SELECT 'policy', own.relname || ' ' || polname, own.relname::text, ''"
+    "  FROM pg_catalog.pg_policy JOIN own ON own.oid = polrelid"
+    " UNION ALL SELECT 'child', inhrelid::regclass::text, own.relname::text, ''"
+    "  FROM pg_catalog.pg_inherits JOIN own ON own.oid = inhparent"
+    " UNION ALL SELECT 'function', p.oid::regprocedure::text, '', ''"
+    "  FROM pg_catalog.pg_proc p JOIN home ON home.oid = pronamespace"
+    " LIMIT %2";
+
+} // namespace
+
+PostgresConnection::PostgresConnection(const StorePlace& place, Access access)
+    : StoreConnection(place.text(), unlistedConnection(QStringLiteral("QPSQL")))
+    , m_place(place)
+    , m_access(access)
+{
+    database().setHostName(place.host());
+    database().setPort(place.port());
+    database().setUserName(place.user());
+    database().setDatabaseName(place.database());
+    database().setConnectOptions(kOptions);
+    connect();
+}
+
+PostgresConnection::~PostgresConnection() = default;
+
+QString PostgresConnection::schemaName() const
+{
+    return kSchemaPrefix + m_place.schedule();
+}
+
+void PostgresConnection::connect() const
+{
+    QSqlDatabase connection = database();
+    connection.close();
+    if (!connection.open()) {
+        return;
+    }
+    const QStringList settings = {
+        QStringLiteral("SET search_path = %1, pg_temp").arg(postgresName(schemaName())),
+        QStringLiteral("SET statement_timeout = '30s'"),
+        QStringLiteral("SET lock_timeout = '2s'"),
+        QStringLiteral("SET idle_in_transaction_session_timeout = '60s'"),
+        // A change is on the disk of the server before it is told to be done.
+        QStringLiteral("SET synchronous_commit = on"),
+        QStringLiteral("SET standard_conforming_strings = on"),
+        QStringLiteral("SET bytea_output = hex"),
+        // Rows that somebody hides are an error, not a smaller schedule.
+        QStringLiteral("SET row_security = off"),
+    };
+    QSqlQuery query(connection);
+    for (const QString& setting : settings) {
+        if (!query.exec(setting)) {
+            connection.close();
+            return;
+        }
+    }
+}
+
+bool PostgresConnection::isAlive() const
+{
+    return database().isOpen();
+}
+
+void PostgresConnection::expectOpen() const
+{
+    if (!database().isValid()) {
+        throw StoreError{refusal(
+            StoreProblem::Other, path(),
+            faultOf(FaultCode::Database, 0, QStringLiteral("the driver QPSQL is not installed")))};
+    }
+    if (!isAlive()) {
+        throw errorOf(database().lastError());
+    }
+    expectTime();
+}
+
+void PostgresConnection::expectTime() const
+{
+    if (m_deadline != nullptr) {
+        m_deadline->expectTime(path());
+    }
+}
+
+StoreError PostgresConnection::errorOf(const QSqlError& error) const
+{
+    // After an error the server takes no more of a transaction, not even that a statement is
+    // forgotten, which the driver asks for when a query goes.
+    rollBack();
+    return {refusalOfServer(error, path())};
+}
+
+void PostgresConnection::setDeadline(StoreDeadline* deadline) const
+{
+    m_deadline = deadline;
+}
+
+QString PostgresConnection::worded(const QString& statement) const
+{
+    return postgresWords(statement);
+}
+
+QSqlQuery PostgresConnection::query(const QString& statement) const
+{
+    expectOpen();
+    QSqlQuery query(database());
+    if (!query.exec(worded(statement))) {
+        refuse(query);
+    }
+    return query;
+}
+
+std::unique_ptr<StoreRows> PostgresConnection::rows(const QString& path, const char* sql) const
+{
+    Q_UNUSED(path)
+    return std::make_unique<PostgresRows>(*this, QString::fromLatin1(sql));
+}
+
+void PostgresConnection::begin(StorePurpose purpose) const
+{
+    if (!isAlive()) {
+        reconnect();
+        beginOnce(purpose);
+        return;
+    }
+    try {
+        beginOnce(purpose);
+    } catch (const StoreError&) {
+        // That a connection has gone shows with the next statement.
+        if (isAlive()) {
+            throw;
+        }
+        reconnect();
+        beginOnce(purpose);
+    }
+}
+
+void PostgresConnection::reconnect() const
+{
+    connect();
+    if (m_version == kNotAsked) {
+        return;
+    }
+    const int known = std::exchange(m_version, kNotAsked);
+    try {
+        const int found = schemaVersion();
+        m_version = known;
+        if (found != known) {
+            // Whatever is begun next has to be refused as well.
+            QSqlDatabase(database()).close();
+            throw StoreError{refusal(StoreProblem::NewerSchema, path())};
+        }
+    } catch (const StoreError&) {
+        m_version = known;
+        throw;
+    }
+}
+
+void PostgresConnection::beginOnce(StorePurpose purpose) const
+{
+    const bool isWriting = purpose == StorePurpose::Write && m_access != Access::ReadOnly;
+    run(isWriting ? QStringLiteral("BEGIN ISOLATION LEVEL READ COMMITTED READ WRITE")
+                  : QStringLiteral("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY"));
+    m_isInTransaction = true;
+    m_isWriting = isWriting;
+    // Who writes holds the one row that tells the state; who sets up, the name.
+    if (isWriting && m_access == Access::SetUp) {
+        run(QStringLiteral("SELECT pg_advisory_xact_lock(hashtext(%1))")
+                .arg(postgresText(schemaName())));
+    } else if (isWriting) {
+        run(QStringLiteral("SELECT one FROM store FOR UPDATE"));
+    }
+}
+
+void PostgresConnection::commit() const
+{
+    if (!m_isInTransaction) {
+        // Whoever goes on behind an error must not take what is left for the whole.
+        throw StoreError{refusal(
+            StoreProblem::Other, path(),
+            faultOf(FaultCode::Database, 0, QStringLiteral("the transaction has been undone")))};
+    }
+    // What is done is not given up for want of time.
+    m_deadline = nullptr;
+    const QString id = m_isWriting ? transactionId() : QString();
+    try {
+        run(QStringLiteral("COMMIT"));
+        m_isInTransaction = false;
+    } catch (const StoreError&) {
+        const Fate fate = isAlive() ? Fate::Undone : fateOf(id);
+        if (fate == Fate::Undone) {
+            throw;
+        }
+        if (fate == Fate::Unknown) {
+            throw StoreError{refusal(StoreProblem::Unclear, path(), {FaultCode::DiskError, {}})};
+        }
+    }
+}
+
+/// Empty for a transaction that has changed nothing.
+QString PostgresConnection::transactionId() const
+{
+    return value(QStringLiteral("SELECT pg_current_xact_id_if_assigned()::text")).toString();
+}
+
+/// Asks the server, as soon as it is there again. What it was still at work with is waited for at
+/// the row that it holds.
+PostgresConnection::Fate PostgresConnection::fateOf(const QString& transactionId) const
+{
+    if (transactionId.isEmpty()) {
+        return Fate::Undone;
+    }
+    connect();
+    try {
+        beginOnce(StorePurpose::Write);
+        const QString status =
+            value(QStringLiteral("SELECT pg_xact_status('%1'::xid8)").arg(transactionId))
+                .toString();
+        rollBack();
+        return status == QLatin1String("committed") ? Fate::Committed
+               : status == QLatin1String("aborted") ? Fate::Undone
+                                                    : Fate::Unknown;
+    } catch (const StoreError&) {
+        return Fate::Unknown;
+    }
+}
+
+void PostgresConnection::rollBack() const
+{
+    if (std::exchange(m_isInTransaction, false) && isAlive()) {
+        QSqlQuery(database()).exec(QStringLiteral("ROLLBACK"));
+    }
+}
+
+bool PostgresConnection::hasSchema() const
+{
+    return value(QStringLiteral("SELECT count(*) FROM pg_catalog.pg_namespace WHERE nspname = %1")
+                     .arg(postgresText(schemaName())))
+               .toInt() == 1;
+}
+
+bool PostgresConnection::hasSeal() const
+{
+    return value(QStringLiteral("SELECT count(*) FROM pg_catalog.pg_class c"
+                                " JOIN pg_catalog.pg_namespace n ON n.oid = c.relnamespace"
+                                " WHERE n.nspname = %1 AND c.relname = 'seal'"
+                                " AND c.relkind = 'r'")
+                     .arg(postgresText(schemaName())))
+               .toInt() == 1;
+}
+
+qint64 PostgresConnection::applicationId() const
+{
+    return value(QStringLiteral("SELECT application FROM seal")).toLongLong();
+}
+
+int PostgresConnection::schemaVersion() const
+{
+    if (m_version == kNotAsked) {
+        const int version = m_access == Access::SetUp && !hasSeal()
+                                ? 0
+                                : value(QStringLiteral("SELECT version FROM seal")).toInt();
+        if (m_access == Access::SetUp) {
+            return version;
+        }
+        m_version = version;
+    }
+    return m_version;
+}
+
+void PostgresConnection::seal(qint64 applicationId, int schemaVersion) const
+{
+    if (!hasSeal()) {
+        run(kMakeSeal);
+    }
+    run(QStringLiteral("INSERT INTO seal VALUES (1, %1, %2) ON CONFLICT (one) DO UPDATE"
+                       " SET application = %1, version = %2")
+            .arg(applicationId)
+            .arg(schemaVersion));
+    m_version = kNotAsked;
+}
+
+StoreElements PostgresConnection::elements() const
+{
+    return elementsIn(value(QStringLiteral("SELECT oid::text FROM pg_catalog.pg_namespace"
+                                           " WHERE nspname = %1")
+                                .arg(postgresText(schemaName())))
+                          .toString());
+}
+
+StoreElements PostgresConnection::elementsIn(const QString& schemaId) const
+{
+    QSqlQuery row = query(QString::fromLatin1(kElements).arg(schemaId).arg(kMostElements));
+    StoreElements elements;
+    while (next(row)) {
+        elements.add(row.value(0).toString(), row.value(1).toString(), row.value(2).toString(),
+                     row.value(3).toString());
+    }
+    return elements;
+}
+
+StoreElements PostgresConnection::elementsMadeBy(const QStringList& statements) const
+{
+    const PostgresConnection fresh(m_place, Access::SetUp);
+    StoreTransaction transaction(fresh, StorePurpose::Write);
+    fresh.run(QStringLiteral("SET LOCAL search_path = pg_temp"));
+    fresh.run(kMakeSeal);
+    for (const QString& statement : statements) {
+        fresh.run(statement);
+    }
+    // Never committed, so that nothing of it stays.
+    return fresh.elementsIn(
+        fresh.value(QStringLiteral("SELECT pg_my_temp_schema()::text")).toString());
+}
+
+void PostgresConnection::expectSound(const QString& path) const
+{
+    Q_UNUSED(path)
+}
+
+} // namespace trel::mediadispatch

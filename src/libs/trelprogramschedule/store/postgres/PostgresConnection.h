@@ -1,0 +1,87 @@
+#pragma once
+
+#include "store/StoreConnection.h"
+#include "store/StorePlace.h"
+
+namespace trel::mediadispatch {
+
+/// One connection to the schedule that a place on a server names. Each schedule has a schema of the
+/// server's for itself; see decision 12.
+///
+/// Where the server has gone and is back, the next transaction connects once more. No statement
+/// takes longer than some seconds, no lock is waited for longer than two, and a server that is
+/// silent is given up.
+class PostgresConnection final : public StoreConnection
+{
+public:
+    enum class Access {
+        SetUp,     ///< The schema may be missing, and is made by the caller.
+        ReadWrite, ///< A transaction that writes keeps all others that write out.
+        ReadOnly,  ///< Nothing can be written, also where there is a right to.
+    };
+
+    /// Connects. A failure shows in the first statement.
+    PostgresConnection(const StorePlace& place, Access access);
+    ~PostgresConnection() override;
+    Q_DISABLE_COPY(PostgresConnection)
+
+    /// The name of the schema for the schedule.
+    QString schemaName() const;
+    /// Whether there is such a schema on the server, and whether it says what it is.
+    bool hasSchema() const;
+    bool hasSeal() const;
+
+    /// Without preparing it, which the server does for some kinds of statements alone. A deadline
+    /// is looked at before each statement; the server ends one that takes long by itself.
+    QSqlQuery query(const QString& statement) const override;
+    std::unique_ptr<StoreRows> rows(const QString& path, const char* sql) const override;
+    qint64 applicationId() const override;
+    /// Asked once. Whoever sets up asks each time, as others may do the same meanwhile.
+    int schemaVersion() const override;
+    void seal(qint64 applicationId, int schemaVersion) const override;
+    StoreElements elements() const override;
+    /// On a connection of its own, in a place of the server's that goes with it.
+    StoreElements elementsMadeBy(const QStringList& statements) const override;
+    /// The server checks its pages itself, as it reads them.
+    void expectSound(const QString& path) const override;
+
+protected:
+    QString worded(const QString& statement) const override;
+    /// Statements are read while others are run.
+    bool readsForwardOnly() const override { return false; }
+
+private:
+    /// What has become of a transaction of which no answer came.
+    enum class Fate { Committed, Undone, Unknown };
+
+    void expectOpen() const override;
+    /// The transaction that it happens in is undone.
+    StoreError errorOf(const QSqlError& error) const override;
+    void setDeadline(StoreDeadline* deadline) const override;
+    void begin(StorePurpose purpose) const override;
+    void commit() const override;
+    void rollBack() const override;
+
+    bool isAlive() const;
+    /// Throws StoreError where the time of a deadline has run out.
+    void expectTime() const;
+    void connect() const;
+    /// Connects once more, to a schema of the version that was found before.
+    void reconnect() const;
+    void beginOnce(StorePurpose purpose) const;
+    QString transactionId() const;
+    Fate fateOf(const QString& transactionId) const;
+    StoreElements elementsIn(const QString& schemaId) const;
+
+    StorePlace m_place;
+    Access m_access;
+    mutable int m_version = kNotAsked; ///< That the seal told, when it was first asked.
+
+    mutable bool m_isInTransaction = false;
+    mutable bool m_isWriting = false;
+    mutable StoreDeadline* m_deadline = nullptr;
+
+    static constexpr int kNotAsked = -1;
+};
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,70 @@
+#include "PostgresWords.h"
+
+#include <QRegularExpression>
+
+#include <iterator>
+
+namespace trel::mediadispatch {
+
+namespace {
+
+struct Replacement
+{
+    const char* pattern;
+    const char* words;
+};
+
+constexpr Replacement kInDefinitions[] = {
+    {" STRICT(, WITHOUT ROWID)?", ""},
+    {"\\bINTEGER\\b", "bigint"},
+    {"\\bREAL\\b", "double precision"},
+    {"\\b(TEXT|BLOB)\\b", "bytea"},
+    {"\\(media_path\\)", "(sha256(media_path))"},
+};
+
+constexpr Replacement kElsewhere[] = {
+    {"\\bmedia_path = CAST\\(\\? AS TEXT\\)", "sha256(media_path) = sha256(?)"},
+    {"\\bCAST\\((\\?|\\w+) AS (TEXT|BLOB)\\)", "\\1"},
+};
+
+bool isDefinition(const QString& statement)
+{
+    return statement.startsWith(QLatin1String("CREATE ")) ||
+           statement.startsWith(QLatin1String("ALTER "));
+}
+
+template <std::size_t Count>
+QString replaced(QString statement, const Replacement (&replacements)[Count])
+{
+    for (const Replacement& replacement : replacements) {
+        statement.replace(QRegularExpression(QLatin1String(replacement.pattern)),
+                          QLatin1String(replacement.words));
+    }
+    return statement;
+}
+
+QString quoted(QString text, QLatin1Char mark)
+{
+    text.replace(mark, QString(2, mark));
+    return mark + text + mark;
+}
+
+} // namespace
+
+QString postgresWords(const QString& statement)
+{
+    return isDefinition(statement) ? replaced(statement, kInDefinitions)
+                                   : replaced(statement, kElsewhere);
+}
+
+QString postgresName(const QString& name)
+{
+    return quoted(name, QLatin1Char('"'));
+}
+
+QString postgresText(const QString& text)
+{
+    return quoted(text, QLatin1Char('\''));
+}
+
+} // namespace trel::mediadispatch

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace trel::mediadispatch {
+
+/// A statement that was written for all engines, as this one takes it.
+///
+/// Texts are kept as their bytes, since a text of the server can hold neither a zero nor what is no
+/// proper UTF-8. Numbers have 64 bits. An index over a text is over its digest, since the server
+/// takes no long keys.
+QString postgresWords(const QString& statement);
+
+/// A name in a statement.
+QString postgresName(const QString& name);
+
+/// A text in a statement.
+QString postgresText(const QString& text);
+
+} // namespace trel::mediadispatch
