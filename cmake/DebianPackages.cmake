@@ -103,7 +103,8 @@ trel_package(service ${service_package}
   SUMMARY "schedule service of media screens"
   DESCRIPTION "${about} This library stores schedules in SQLite, keeps one of them in effect, and tells what \
 is on screen at any moment. With it comes the confined program that reads media files."
-  DEPENDS libqt5sql5-sqlite tzdata)
+  DEPENDS libqt5sql5-sqlite tzdata
+  SUGGESTS libqt5sql5-psql)
 trel_package(widgets ${widgets_package}
   SECTION libs
   SUMMARY "editor for the schedules of media screens, as a library"

@@ -2,6 +2,7 @@
 
 #include "DatabaseArgument.h"
 #include "common/DisplayText.h"
+#include "trelprogramschedule/store/StorePlace.h"
 
 #include <QCommandLineParser>
 
@@ -70,6 +71,12 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
         return ended(EditorOptionsResult::Next::Version, {});
     }
 
+    if (mediadispatch::StorePlace::isAddress(parser.value(database))) {
+        // Not repeated, since there may be a password in it.
+        return ended(
+            EditorOptionsResult::Next::Misuse,
+            QStringLiteral("--database takes a file, not a schedule on a server.\nTry --help."));
+    }
     EditorOptionsResult result;
     result.options.database = parser.value(database);
     result.options.demonstration = parser.value(demonstration);

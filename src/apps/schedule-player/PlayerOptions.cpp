@@ -2,6 +2,7 @@
 
 #include "common/DisplayText.h"
 #include "trelprogramschedule/screens/PlayerStatusFolder.h"
+#include "trelprogramschedule/store/StorePlace.h"
 
 #include <QCommandLineParser>
 #include <QSysInfo>
@@ -97,6 +98,10 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
     }
     if (parser.isSet(window) && parser.isSet(monitor)) {
         return misuse(QStringLiteral("--on goes with --full-screen; a window can be moved."));
+    }
+    if (mediadispatch::StorePlace::isAddress(parser.value(database))) {
+        // Not repeated, since there may be a password in it.
+        return misuse(QStringLiteral("--database takes a file, not a schedule on a server."));
     }
     bool isNumber = false;
     const int turned = parser.value(rotate).toInt(&isNumber);

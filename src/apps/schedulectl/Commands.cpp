@@ -29,6 +29,7 @@ const std::vector<Command>& allCommands()
         exportCommand(),
         importScheduleCommand(),
         checkLanguageCommand(),
+        serverSetupCommand(),
     };
     return commands;
 }

@@ -32,6 +32,7 @@ Command restoreCommand();
 Command exportCommand();
 Command importScheduleCommand();
 Command checkLanguageCommand();
+Command serverSetupCommand();
 
 /// Every command, in the order of the general help.
 const std::vector<Command>& allCommands();

@@ -5,11 +5,13 @@
 #include "text/Console.h"
 #include "text/FaultReport.h"
 #include "trelprogramschedule/faults/FaultWords.h"
+#include "trelprogramschedule/store/StorePlace.h"
 
 namespace trel::console {
 
 using trel::mediadispatch::ScheduleHost;
 using trel::mediadispatch::scheduleManage;
+using trel::mediadispatch::StorePlace;
 using trel::mediadispatch::StoreProblem;
 using trel::mediadispatch::StoreResult;
 
@@ -64,6 +66,9 @@ Database::~Database()
 
 QString Database::error() const
 {
+    if (m_result.problem == StoreProblem::FileMissing && StorePlace::isAddress(m_result.path)) {
+        return englishText(m_result) + QStringLiteral(" \"schedulectl server-setup\" makes one.");
+    }
     const bool isMissing = m_result.problem == StoreProblem::FileMissing ||
                            m_result.problem == StoreProblem::FolderMissing;
     return isMissing && m_access != Access::Write

@@ -127,6 +127,9 @@ void tst_EditorOptions::misuse_data()
         << QStringList{QStringLiteral("--frob")} << QStringLiteral("frob");
     QTest::newRow("missing value")
         << QStringList{QStringLiteral("--database")} << QStringLiteral("database");
+    QTest::newRow("server") << QStringList{QStringLiteral("--database"),
+                                           QStringLiteral("postgresql://me@desk/a?schedule=b")}
+                            << QStringLiteral("takes a file");
 }
 
 void tst_EditorOptions::misuse()
