@@ -96,6 +96,14 @@ class Thing:
     def value(self):
         return self._get("Value", "CurrentValue")
 
+    def set_text(self, text):
+        """Writes a text in the place of all that stands in a field."""
+        self._call("EditableText", "SetTextContents", GLib.Variant("(s)", (text,)))
+
+    def set_value(self, value):
+        call(self.owner, self.path, "org.freedesktop.DBus.Properties", "Set",
+             GLib.Variant("(ssv)", (ATSPI + "Value", "CurrentValue", GLib.Variant("d", value))))
+
     def act(self, name):
         """Begins an action. The answer is not waited for: it comes when the window that opens is closed."""
         number = self.actions().index(name)
