@@ -72,6 +72,7 @@ private slots:
     void aCommitWithoutAnAnswerIsAskedFor();
     void aServerThatIsAwayIsToldOf();
     void whoKeepsOthersOutIsNotWaitedForLong();
+    void aSaveThatIsUnderWayIsWaitedFor();
     void versionsAreReadBesideIt();
     void noPasswordIsToldOf();
 
@@ -504,6 +505,33 @@ void tst_PostgresStore::whoKeepsOthersOutIsNotWaitedForLong()
     DONE(desk.readRevision(stored));
     m_server->endAside();
     DONE(desk.writeTasks(tasks, editsFor(tasks), revision));
+}
+
+// It is done only while somebody waits for it, so that both have begun from the same revision.
+void tst_PostgresStore::aSaveThatIsUnderWayIsWaitedFor()
+{
+    ScheduleDatabase desk;
+    OPEN(desk, address(), StoreOpenMode::MustExist);
+    m_server->beginAside(
+        QStringLiteral("BEGIN; UPDATE %1.store SET schedule_revision = schedule_revision + 1;"
+                       " SELECT 'held';"
+                       " DO $$BEGIN FOR time IN 1..3000 LOOP PERFORM pg_stat_clear_snapshot();"
+                       " IF EXISTS (SELECT 1 FROM pg_stat_activity WHERE wait_event_type = 'Lock')"
+                       " THEN RETURN; END IF;"
+                       " PERFORM pg_sleep(0.01); END LOOP; RAISE 'none'; END$$;"
+                       " COMMIT; SELECT 'done'")
+            .arg(kSchema));
+    QCOMPARE(m_server->lineAside(), QStringLiteral("held"));
+    const TaskMap tasks = sampleSchedule(2, 2, 2);
+    qint64 revision = 0;
+    const StoreResult result = desk.writeTasks(tasks, editsFor(tasks), revision);
+    QCOMPARE(m_server->lineAside(), QStringLiteral("done"));
+    m_server->endAside();
+    QVERIFY2(result.problem == StoreProblem::MovedOn, qPrintable(englishText(result)));
+    StoreContents contents;
+    DONE(desk.read(StorePart::Schedule, contents));
+    QVERIFY(contents.tasks.empty());
+    QCOMPARE(contents.revision.schedule, 1);
 }
 
 void tst_PostgresStore::versionsAreReadBesideIt()
