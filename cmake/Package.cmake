@@ -94,6 +94,7 @@ install_headers(trelprogramschedule src/libs
   trelprogramschedule/faults/FaultWords.h
   trelprogramschedule/history/ScheduleVersion.h
   trelprogramschedule/json/ScheduleJson.h
+  trelprogramschedule/merge/ScheduleMerge.h
   trelprogramschedule/catalogue/ShownAddress.h
   trelprogramschedule/store/StoreResult.h
   trelprogramschedule/dispatch/ClockChanges.h

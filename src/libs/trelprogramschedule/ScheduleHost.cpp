@@ -199,6 +199,16 @@ StoreResult ScheduleHost::restoreVersion(qint64 number)
     return service().restoreVersion(number);
 }
 
+StoreResult ScheduleHost::readNewestSave(ScheduleVersion& version, std::map<int, PlayTask>& tasks)
+{
+    return service().readNewestSave(version, tasks);
+}
+
+StoreResult ScheduleHost::mergeWith(qint64 number, const std::map<int, PlayTask>& merged)
+{
+    return service().mergeWith(number, merged);
+}
+
 const std::map<int, PlayTask>& ScheduleHost::workingSet() const
 {
     return service().state().tasks.working();

@@ -189,12 +189,29 @@ public:
     /// becomes a version itself. The working set is lost. Where nothing differs nothing is written.
     StoreResult restoreVersion(qint64 number);
 
+    // The way out of a save that was refused with StoreProblem::MovedOn, for a host that puts both
+    // together with ScheduleMerge: read what was saved elsewhere, take over what comes of it, and
+    // try the save again. Where a third program has saved by then, that is refused with MovedOn
+    // once more, and the same way leads on from what was taken over.
+
+    /// Reads the newest save, with its number, beside what is edited here and what was read before,
+    /// which both stay. The catalogue is read again, so that the programs of the save are known.
+    /// Both are left as they are where the result is a refusal: with VersionUnknown as the cause in
+    /// a store that has no versions.
+    StoreResult readNewestSave(ScheduleVersion& version, std::map<int, PlayTask>& tasks);
+    /// From now on the working set is this one, edited from the save of that number: what was read
+    /// before and what was edited is forgotten, and nothing is written. Marks and ends follow from
+    /// the catalogue, as with restoreTask. The editor is to be shown the tasks that are others than
+    /// before, with scheduleControlUI::slotShowTask. Refused as versionTasks, and changes nothing
+    /// then.
+    StoreResult mergeWith(qint64 number, const std::map<int, PlayTask>& merged);
+
 Q_SIGNALS:
     /// scheduleManage::save could not commit. Emitted while save still runs, so that a receiver can
     /// still ask the operator, call trySave again or write the working set elsewhere.
     void saveFailed(const trel::mediadispatch::StoreResult& reason);
     /// The stored set was replaced by save, replaceSchedule or reload, and is another than before.
-    /// After the latter two a host refreshes the editor.
+    /// After the latter two a host refreshes the editor. Comes with mergeWith as well.
     void storedSetChanged();
     /// The working set may be another than before: a task was edited, or the whole set read or
     /// replaced. Comes from the event loop, once for everything since its last turn.

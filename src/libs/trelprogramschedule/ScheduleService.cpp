@@ -383,6 +383,47 @@ StoreResult ScheduleService::restoreVersion(qint64 number)
     return result ? replace(tasks, number) : result;
 }
 
+StoreResult ScheduleService::readNewestSave(ScheduleVersion& version, TaskMap& tasks)
+{
+    // Without the programs that came with it, its entries would be taken for lost ones.
+    StoreResult result = readCatalogue();
+    std::vector<ScheduleVersion> versions;
+    if (result) {
+        result = readVersions(versions);
+    }
+    if (!result) {
+        return result;
+    }
+    const ScheduleVersion newest = versions.empty() ? ScheduleVersion() : versions.front();
+    result = readVersion(versions.empty() ? kNoVersion : newest.number, tasks);
+    if (result) {
+        version = newest;
+    }
+    return result;
+}
+
+StoreResult ScheduleService::mergeWith(qint64 number, const TaskMap& merged)
+{
+    TaskMap stored;
+    StoreResult result = m_database.readVersion(number, stored);
+    if (!result) {
+        return result;
+    }
+    TaskMap working = filedByTheirIds(merged);
+    for (auto& [id, task] : working) {
+        bringUpToDate(task, m_state.catalogue);
+    }
+    m_state.tasks.setStored(std::move(stored));
+    m_revision.schedule = number;
+    m_isMarkingDue = true;
+    markLostEntries();
+    m_state.tasks.setWorking(working);
+    updateEnds();
+    noteWorkingSet();
+    emit storedSetChanged();
+    return result;
+}
+
 StoreResult ScheduleService::reload()
 {
     const ProgramMap programs = m_state.catalogue.programs();

@@ -99,6 +99,10 @@ public:
     StoreResult nameVersion(qint64 number, const QString& name, const QString& note);
     /// See ScheduleHost::restoreVersion.
     StoreResult restoreVersion(qint64 number);
+    /// See ScheduleHost::readNewestSave.
+    StoreResult readNewestSave(ScheduleVersion& version, TaskMap& tasks);
+    /// See ScheduleHost::mergeWith.
+    StoreResult mergeWith(qint64 number, const TaskMap& merged);
     /// Reads catalogue and stored set again; the working set stays.
     StoreResult reload();
     /// Takes over what other editors have changed in the store and has the files looked at.

@@ -148,6 +148,18 @@ void TaskSets::setStored(TaskMap tasks)
     m_touched = idsOfBoth(m_stored, m_working);
 }
 
+void TaskSets::setWorking(const TaskMap& tasks)
+{
+    for (const int id : idsOfBoth(m_working, tasks)) {
+        const auto task = tasks.find(id);
+        if (task == tasks.end()) {
+            removeTask(id);
+        } else {
+            putTask(task->second);
+        }
+    }
+}
+
 void TaskSets::resetWorking()
 {
     for (const int id : m_touched) {

@@ -85,6 +85,8 @@ public:
     /// a task of the working set is another one.
     template <typename Update>
     bool updateTasks(const Update& update);
+    /// Replaces the working set; the stored set stays.
+    void setWorking(const TaskMap& tasks);
     /// Makes the working set match the stored set.
     void resetWorking();
     /// Makes the stored set match the working set.

@@ -36,6 +36,7 @@
 #include <trelprogramschedule/json/ScheduleJson.h>
 #include <trelprogramschedule/media/MediaReading.h>
 #include <trelprogramschedule/media/PictureRequest.h>
+#include <trelprogramschedule/merge/ScheduleMerge.h>
 #include <trelwidgets/ComboBox.h>
 #include <trelwidgets/Dialog.h>
 #include <trelwidgets/TipDialog.h>
@@ -75,8 +76,8 @@ int main()
         hasMetaObject<trel::widgets::ComboBox>() && hasMetaObject<trel::widgets::Dialog>() &&
         hasMetaObject<trel::widgets::TipDialog>() &&
         areThere(&ClockChangeSearch::setTask, &ProgramSheduleWidgetTranslateManager::instance,
-                 &ProgramVerdict::plays, &Clock::current, &ClockAlarm::set, &ScreenTimeline::at,
-                 &tessark::trans::Translator::load);
+                 &ProgramVerdict::plays, &Clock::current, &ClockAlarm::set, &ScheduleMerge::merged,
+                 &ScreenTimeline::at, &tessark::trans::Translator::load);
     const bool areFunctionsThere = areThere(
         &addDuration, &allTaskOverlaps, &buryInvalidEntry, &clockChanges, &clockChangesOfTask,
         &claimsCollide, &collidingClaims, &collisionsOf, &firstCollisions, &completeNewPlan,
