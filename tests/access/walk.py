@@ -1,4 +1,4 @@
-"""Usage: walk.py EDITOR DEMONSTRATION [--run LANGUAGE:THEME]... [--known FILE] [--tree]
+"""Usage: walk.py EDITOR SCHEDULECTL DEMONSTRATION [--run LANGUAGE:THEME]... [--known FILE] [--tree]
 
 Opens every window of the schedule editor through the accessibility bus and lists what a screen reader
 could not tell: a control without a role, a name, an action or a value; a name that is nothing but the
@@ -7,6 +7,7 @@ there is anything. With --tree it prints what it walks through as well.
 """
 
 import argparse
+import json
 import os
 import re
 import subprocess
@@ -32,8 +33,9 @@ EDITOR = (0, 0)
 SELECTION = (1, 5)
 KEPT = {
     "panels": [(3, 0), (3, 1), (3, 2), (3, 4), (3, 5), (3, 6), (3, 7)],
-    "no windows": [EDITOR, (0, 1), (0, 2), (0, 8), (0, 17), (1, 3), (2, 0), (2, 1), (2, 2), (2, 3)] +
-                  [(3, 11), (3, 12), (3, 13)] + [(4, language) for language in range(10)],
+    "no windows": [EDITOR, (0, 1), (0, 2), (0, 3), (0, 8), (0, 17), (1, 3)] +
+                  [(2, 0), (2, 1), (2, 2), (2, 3), (3, 11), (3, 12), (3, 13)] +
+                  [(4, language) for language in range(10)],
 }
 
 
@@ -56,11 +58,12 @@ class Walk:
         self.run = f"{language} {theme}"
         self.findings = findings
         self.prints = options.tree
+        self.schedulectl = options.schedulectl
         self.folder = tempfile.TemporaryDirectory()
-        database = os.path.join(self.folder.name, "walk.db")
+        self.database = os.path.join(self.folder.name, "walk.db")
         environment = {name: value for name, value in os.environ.items() if name != "AT_SPI_BUS_ADDRESS"}
         self.editor = subprocess.Popen(
-            [options.editor, "--database", database, "--demonstration", options.demonstration,
+            [options.editor, "--database", self.database, "--demonstration", options.demonstration,
              "--language", language, "--theme", theme], env=environment)
         self.program = bus.wait_for(bus.application, "the editor")
         self.window = bus.wait_for(lambda: next(iter(self.windows()), None), "the first window")
@@ -186,6 +189,7 @@ class Walk:
         self.show_panels()
         self.walk(self.window, "window")
         self.walk_editor()
+        self.walk_refused_save()
         self.select_program()
         asking = set(self.menus()) - {place for names in KEPT.values() for place in names}
         for place in sorted(asking):
@@ -200,20 +204,68 @@ class Walk:
                 panel.act("Press")
                 bus.wait_for(lambda: "checked" in self.menus()[place].states(), "a panel")
 
-    def walk_editor(self):
+    def open_editor(self):
         known = self.windows()
-        editor = bus.wait_for(lambda: self.asked_for(EDITOR, known), "the editor")
+        return bus.wait_for(lambda: self.asked_for(EDITOR, known), "the editor")
+
+    def open_by(self, button, what):
+        """The window that a button or an entry opens."""
+        known = self.windows()
+        button.act("Press")
+        return bus.wait_for(lambda: self.opened(known), what)
+
+    def leave_by(self, button, what):
+        known = self.windows()
+        button.act("Press")
+        bus.wait_for(lambda: len(self.windows()) < len(known), f"the end of {what}")
+
+    def buttons(self, top):
+        return [thing for thing in self.all(top) if is_button(thing)]
+
+    def walk_refused_save(self):
+        """Both this desk and another one change a task, and the other one saves first."""
+        editor = self.open_editor()
+        fold = bus.wait_for(lambda: self.find(editor, is_fold_bar), "the bar of a card")
+        fold.act(fold.actions()[0])
+        table = bus.wait_for(lambda: self.find(editor, is_shown_table), "the table of a card")
+        # The second button of a plan copies it.
+        before = len(self.buttons(table))
+        self.buttons(table)[1].act("Press")
+        bus.wait_for(lambda: len(self.buttons(table)) > before, "a copy of the plan")
+        self.save_elsewhere()
+        question = self.open_by(self.buttons(editor)[-1], "the question about the other save")
+        self.walk(question, "refused save")
+        # Behind the one that goes on.
+        choices = self.open_by(self.buttons(question)[1], "the tasks that both have changed")
+        self.walk(choices, "tasks changed at both desks")
+        # The first one of each leads back.
+        question = self.open_by(self.buttons(choices)[0], "the question once more")
+        self.leave_by(self.buttons(question)[0], "the question")
+        self.leave_by(self.buttons(editor)[-3], "the editor")
+
+    def save_elsewhere(self):
+        file = os.path.join(self.folder.name, "theirs.json")
+        subprocess.run([self.schedulectl, "export", file, "--database", self.database], check=True,
+                       stdout=subprocess.DEVNULL)
+        with open(file, encoding="utf-8") as former:
+            schedule = json.load(former)
+        # A day before all others, so that it saves whatever else is valid when.
+        schedule["tasks"][0]["startDate"] = "2020.01.01"
+        with open(file, "w", encoding="utf-8") as later:
+            json.dump(schedule, later)
+        subprocess.run([self.schedulectl, "import-schedule", file, "--database", self.database],
+                       check=True, stdout=subprocess.DEVNULL)
+
+    def walk_editor(self):
+        editor = self.open_editor()
         fold = bus.wait_for(lambda: self.find(editor, is_fold_bar), "the bar of a card")
         self.walk(editor, "editor, cards folded")
         fold.act(fold.actions()[0])
         table = bus.wait_for(lambda: self.find(editor, is_shown_table), "the table of a card")
         self.walk(editor, "editor")
         self.open(self.find(table, is_button), "chooser")
-        known = self.windows()
         # The last but two of its buttons leaves it, and nothing is changed.
-        buttons = [thing for thing in self.all(editor) if is_button(thing)]
-        buttons[-3].act("Press")
-        bus.wait_for(lambda: len(self.windows()) < len(known), "the end of the editor")
+        self.leave_by(self.buttons(editor)[-3], "the editor")
 
     def all(self, top):
         for child in top.children():
@@ -257,6 +309,7 @@ def without(known, findings):
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("editor")
+    parser.add_argument("schedulectl")
     parser.add_argument("demonstration")
     parser.add_argument("--run", action="append", help="LANGUAGE:THEME")
     parser.add_argument("--known", help="a file with an expression a line, of findings that are passed over")

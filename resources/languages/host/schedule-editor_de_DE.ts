@@ -3395,4 +3395,92 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Player: %1, stumm: %2</translation>
     </message>
 </context>
+<context>
+    <name>MergeWords</name>
+    <message numerus="yes">
+        <source>%n tasks were changed at both desks: if you merge, you choose for each of them which one stays. Everything else of both is kept.</source>
+        <translation>
+            <numerusform>%n Auftrag wurde an beiden Plätzen geändert: Beim Zusammenführen wählen Sie, welcher bleibt. Alles andere von beiden bleibt erhalten.</numerusform>
+            <numerusform>%n Aufträge wurden an beiden Plätzen geändert: Beim Zusammenführen wählen Sie für jeden, welcher bleibt. Alles andere von beiden bleibt erhalten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task was changed at both desks: what both have changed can be saved together.</source>
+        <translation>Kein Auftrag wurde an beiden Plätzen geändert: Die Änderungen von beiden lassen sich zusammen speichern.</translation>
+    </message>
+    <message>
+        <source>Merge…</source>
+        <translation>Zusammenführen…</translation>
+    </message>
+    <message>
+        <source>Merged, your new task %1 becomes task %2: another task %1 was added there.</source>
+        <translation>Zusammengeführt wird aus Ihrem neuen Auftrag %1 der Auftrag %2: Dort kam ein anderer Auftrag %1 hinzu.</translation>
+    </message>
+    <message>
+        <source>Merge and save</source>
+        <translation>Zusammenführen und speichern</translation>
+    </message>
+    <message>
+        <source>Merge and go on editing</source>
+        <translation>Zusammenführen und bearbeiten</translation>
+    </message>
+    <message>
+        <source>Merged, tasks %1 and %2 would be valid on the same days. That cannot be saved: they stay in the editor until you have changed their dates.</source>
+        <translation>Zusammengeführt würden Auftrag %1 und Auftrag %2 an denselben Tagen gelten. Das lässt sich nicht speichern: Beide bleiben im Editor, bis Sie einen anderen Zeitraum eintragen.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::merge::ConflictsDialog</name>
+    <message>
+        <source>These tasks were changed here and at the other desk. Choose for each of them which one stays.</source>
+        <translation>Diese Aufträge wurden hier und am anderen Platz geändert. Wählen Sie für jeden, welcher bleibt.</translation>
+    </message>
+    <message>
+        <source>Mine, as it is edited here</source>
+        <translation>Meiner, wie hier bearbeitet</translation>
+    </message>
+    <message>
+        <source>Theirs, as it was saved there</source>
+        <translation>Der andere, wie dort gespeichert</translation>
+    </message>
+    <message>
+        <source>Tasks that were changed at both desks</source>
+        <translation>An beiden Plätzen geänderte Aufträge</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>What stays</source>
+        <translation>Was bleibt</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>not chosen yet</source>
+        <translation>noch nicht gewählt</translation>
+    </message>
+    <message>
+        <source>mine</source>
+        <translation>meiner</translation>
+    </message>
+    <message>
+        <source>theirs</source>
+        <translation>der andere</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are still to be chosen.</source>
+        <translation>
+            <numerusform>%n Auftrag ist noch zu wählen.</numerusform>
+            <numerusform>%n Aufträge sind noch zu wählen.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything else of both is kept.</source>
+        <translation>Alles andere von beiden bleibt erhalten.</translation>
+    </message>
+</context>
 </TS>

@@ -378,4 +378,24 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>MergeWords</name>
+    <message numerus="yes">
+        <source>%n tasks were changed at both desks: if you merge, you choose for each of them which one stays. Everything else of both is kept.</source>
+        <translation>
+            <numerusform>%n task was changed at both desks: if you merge, you choose which one stays. Everything else of both is kept.</numerusform>
+            <numerusform>%n tasks were changed at both desks: if you merge, you choose for each of them which one stays. Everything else of both is kept.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::merge::ConflictsDialog</name>
+    <message numerus="yes">
+        <source>%n tasks are still to be chosen.</source>
+        <translation>
+            <numerusform>%n task is still to be chosen.</numerusform>
+            <numerusform>%n tasks are still to be chosen.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

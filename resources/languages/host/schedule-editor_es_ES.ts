@@ -3395,4 +3395,92 @@ What do you want to do with your changes?</source>
         <translation>Reproductores: %1, sin señal: %2</translation>
     </message>
 </context>
+<context>
+    <name>MergeWords</name>
+    <message numerus="yes">
+        <source>%n tasks were changed at both desks: if you merge, you choose for each of them which one stays. Everything else of both is kept.</source>
+        <translation>
+            <numerusform>%n tarea se cambió en los dos puestos: al combinar, usted elige cuál queda. Todo lo demás de ambos se conserva.</numerusform>
+            <numerusform>%n tareas se cambiaron en los dos puestos: al combinar, usted elige para cada una cuál queda. Todo lo demás de ambos se conserva.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task was changed at both desks: what both have changed can be saved together.</source>
+        <translation>Ninguna tarea se cambió en los dos puestos: los cambios de ambos se pueden guardar juntos.</translation>
+    </message>
+    <message>
+        <source>Merge…</source>
+        <translation>Combinar…</translation>
+    </message>
+    <message>
+        <source>Merged, your new task %1 becomes task %2: another task %1 was added there.</source>
+        <translation>Al combinar, su nueva tarea %1 pasa a ser la tarea %2: allí se añadió otra tarea %1.</translation>
+    </message>
+    <message>
+        <source>Merge and save</source>
+        <translation>Combinar y guardar</translation>
+    </message>
+    <message>
+        <source>Merge and go on editing</source>
+        <translation>Combinar y seguir editando</translation>
+    </message>
+    <message>
+        <source>Merged, tasks %1 and %2 would be valid on the same days. That cannot be saved: they stay in the editor until you have changed their dates.</source>
+        <translation>Al combinar, las tareas %1 y %2 serían válidas los mismos días. Eso no se puede guardar: quedan en el editor hasta que cambie sus fechas.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::merge::ConflictsDialog</name>
+    <message>
+        <source>These tasks were changed here and at the other desk. Choose for each of them which one stays.</source>
+        <translation>Estas tareas se cambiaron aquí y en el otro puesto. Elija para cada una cuál queda.</translation>
+    </message>
+    <message>
+        <source>Mine, as it is edited here</source>
+        <translation>La mía, como se edita aquí</translation>
+    </message>
+    <message>
+        <source>Theirs, as it was saved there</source>
+        <translation>La otra, como se guardó allí</translation>
+    </message>
+    <message>
+        <source>Tasks that were changed at both desks</source>
+        <translation>Tareas cambiadas en los dos puestos</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Tarea</translation>
+    </message>
+    <message>
+        <source>What stays</source>
+        <translation>Qué queda</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Volver</translation>
+    </message>
+    <message>
+        <source>not chosen yet</source>
+        <translation>sin elegir</translation>
+    </message>
+    <message>
+        <source>mine</source>
+        <translation>la mía</translation>
+    </message>
+    <message>
+        <source>theirs</source>
+        <translation>la otra</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are still to be chosen.</source>
+        <translation>
+            <numerusform>Falta elegir %n tarea.</numerusform>
+            <numerusform>Falta elegir %n tareas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything else of both is kept.</source>
+        <translation>Todo lo demás de ambos se conserva.</translation>
+    </message>
+</context>
 </TS>

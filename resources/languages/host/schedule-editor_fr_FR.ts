@@ -3395,4 +3395,92 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Lecteurs : %1, muets : %2</translation>
     </message>
 </context>
+<context>
+    <name>MergeWords</name>
+    <message numerus="yes">
+        <source>%n tasks were changed at both desks: if you merge, you choose for each of them which one stays. Everything else of both is kept.</source>
+        <translation>
+            <numerusform>%n tâche a été modifiée aux deux postes : à la fusion, vous choisissez laquelle reste. Tout le reste des deux est conservé.</numerusform>
+            <numerusform>%n tâches ont été modifiées aux deux postes : à la fusion, vous choisissez pour chacune laquelle reste. Tout le reste des deux est conservé.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task was changed at both desks: what both have changed can be saved together.</source>
+        <translation>Aucune tâche n’a été modifiée aux deux postes : les modifications des deux peuvent être enregistrées ensemble.</translation>
+    </message>
+    <message>
+        <source>Merge…</source>
+        <translation>Fusionner…</translation>
+    </message>
+    <message>
+        <source>Merged, your new task %1 becomes task %2: another task %1 was added there.</source>
+        <translation>À la fusion, votre nouvelle tâche %1 devient la tâche %2 : une autre tâche %1 a été ajoutée là-bas.</translation>
+    </message>
+    <message>
+        <source>Merge and save</source>
+        <translation>Fusionner et enregistrer</translation>
+    </message>
+    <message>
+        <source>Merge and go on editing</source>
+        <translation>Fusionner et continuer à modifier</translation>
+    </message>
+    <message>
+        <source>Merged, tasks %1 and %2 would be valid on the same days. That cannot be saved: they stay in the editor until you have changed their dates.</source>
+        <translation>Fusionnées, les tâches %1 et %2 seraient valables les mêmes jours. Cela ne peut pas être enregistré : elles restent dans l’éditeur jusqu’à ce que vous ayez changé leurs dates.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::merge::ConflictsDialog</name>
+    <message>
+        <source>These tasks were changed here and at the other desk. Choose for each of them which one stays.</source>
+        <translation>Ces tâches ont été modifiées ici et à l’autre poste. Choisissez pour chacune laquelle reste.</translation>
+    </message>
+    <message>
+        <source>Mine, as it is edited here</source>
+        <translation>La mienne, comme modifiée ici</translation>
+    </message>
+    <message>
+        <source>Theirs, as it was saved there</source>
+        <translation>L’autre, comme enregistrée là-bas</translation>
+    </message>
+    <message>
+        <source>Tasks that were changed at both desks</source>
+        <translation>Tâches modifiées aux deux postes</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Tâche</translation>
+    </message>
+    <message>
+        <source>What stays</source>
+        <translation>Ce qui reste</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>not chosen yet</source>
+        <translation>pas encore choisie</translation>
+    </message>
+    <message>
+        <source>mine</source>
+        <translation>la mienne</translation>
+    </message>
+    <message>
+        <source>theirs</source>
+        <translation>l’autre</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are still to be chosen.</source>
+        <translation>
+            <numerusform>%n tâche reste à choisir.</numerusform>
+            <numerusform>%n tâches restent à choisir.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything else of both is kept.</source>
+        <translation>Tout le reste des deux est conservé.</translation>
+    </message>
+</context>
 </TS>

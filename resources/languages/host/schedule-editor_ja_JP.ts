@@ -3349,4 +3349,90 @@ What do you want to do with your changes?</source>
         <translation>プレーヤー：%1、応答なし：%2</translation>
     </message>
 </context>
+<context>
+    <name>MergeWords</name>
+    <message numerus="yes">
+        <source>%n tasks were changed at both desks: if you merge, you choose for each of them which one stays. Everything else of both is kept.</source>
+        <translation>
+            <numerusform>%n 件のタスクが両方の席で変更されました。統合すると、それぞれどちらを残すかを選びます。両方のそれ以外の変更はすべて残ります。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task was changed at both desks: what both have changed can be saved together.</source>
+        <translation>両方の席で変更されたタスクはありません。両方の変更をまとめて保存できます。</translation>
+    </message>
+    <message>
+        <source>Merge…</source>
+        <translation>統合…</translation>
+    </message>
+    <message>
+        <source>Merged, your new task %1 becomes task %2: another task %1 was added there.</source>
+        <translation>統合すると、新しいタスク %1 はタスク %2 になります。相手側で別のタスク %1 が追加されたためです。</translation>
+    </message>
+    <message>
+        <source>Merge and save</source>
+        <translation>統合して保存</translation>
+    </message>
+    <message>
+        <source>Merge and go on editing</source>
+        <translation>統合して編集を続ける</translation>
+    </message>
+    <message>
+        <source>Merged, tasks %1 and %2 would be valid on the same days. That cannot be saved: they stay in the editor until you have changed their dates.</source>
+        <translation>統合すると、タスク %1 とタスク %2 の有効期間が同じ日に重なります。このままでは保存できません。日付を変更するまで、編集画面に残ります。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::merge::ConflictsDialog</name>
+    <message>
+        <source>These tasks were changed here and at the other desk. Choose for each of them which one stays.</source>
+        <translation>これらのタスクは、ここと相手側の両方で変更されました。それぞれどちらを残すかを選んでください。</translation>
+    </message>
+    <message>
+        <source>Mine, as it is edited here</source>
+        <translation>自分のもの（ここで編集した内容）</translation>
+    </message>
+    <message>
+        <source>Theirs, as it was saved there</source>
+        <translation>相手のもの（相手側で保存した内容）</translation>
+    </message>
+    <message>
+        <source>Tasks that were changed at both desks</source>
+        <translation>両方の席で変更されたタスク</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>タスク</translation>
+    </message>
+    <message>
+        <source>What stays</source>
+        <translation>残すもの</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>not chosen yet</source>
+        <translation>未選択</translation>
+    </message>
+    <message>
+        <source>mine</source>
+        <translation>自分のもの</translation>
+    </message>
+    <message>
+        <source>theirs</source>
+        <translation>相手のもの</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are still to be chosen.</source>
+        <translation>
+            <numerusform>あと %n 件のタスクを選んでください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything else of both is kept.</source>
+        <translation>両方のそれ以外の変更はすべて残ります。</translation>
+    </message>
+</context>
 </TS>

@@ -3349,4 +3349,90 @@ What do you want to do with your changes?</source>
         <translation>플레이어: %1, 응답 없음: %2</translation>
     </message>
 </context>
+<context>
+    <name>MergeWords</name>
+    <message numerus="yes">
+        <source>%n tasks were changed at both desks: if you merge, you choose for each of them which one stays. Everything else of both is kept.</source>
+        <translation>
+            <numerusform>작업 %n개가 양쪽 자리에서 변경되었습니다. 병합할 때 각각 어느 쪽을 남길지 선택합니다. 양쪽의 나머지 변경은 모두 유지됩니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task was changed at both desks: what both have changed can be saved together.</source>
+        <translation>양쪽 자리에서 모두 변경된 작업이 없습니다. 양쪽의 변경을 함께 저장할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Merge…</source>
+        <translation>병합…</translation>
+    </message>
+    <message>
+        <source>Merged, your new task %1 becomes task %2: another task %1 was added there.</source>
+        <translation>병합하면 새 작업 %1은(는) 작업 %2이(가) 됩니다. 다른 쪽에서 다른 작업 %1이(가) 추가되었습니다.</translation>
+    </message>
+    <message>
+        <source>Merge and save</source>
+        <translation>병합하고 저장</translation>
+    </message>
+    <message>
+        <source>Merge and go on editing</source>
+        <translation>병합하고 계속 편집</translation>
+    </message>
+    <message>
+        <source>Merged, tasks %1 and %2 would be valid on the same days. That cannot be saved: they stay in the editor until you have changed their dates.</source>
+        <translation>병합하면 작업 %1과(와) 작업 %2의 유효 기간이 같은 날에 겹칩니다. 이대로는 저장할 수 없습니다. 날짜를 바꿀 때까지 편집기에 남습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::merge::ConflictsDialog</name>
+    <message>
+        <source>These tasks were changed here and at the other desk. Choose for each of them which one stays.</source>
+        <translation>이 작업들은 여기와 다른 자리에서 모두 변경되었습니다. 각각 어느 쪽을 남길지 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>Mine, as it is edited here</source>
+        <translation>내 것(여기서 편집한 상태)</translation>
+    </message>
+    <message>
+        <source>Theirs, as it was saved there</source>
+        <translation>상대 것(다른 쪽에서 저장한 상태)</translation>
+    </message>
+    <message>
+        <source>Tasks that were changed at both desks</source>
+        <translation>양쪽 자리에서 변경된 작업</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>작업</translation>
+    </message>
+    <message>
+        <source>What stays</source>
+        <translation>남길 쪽</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>not chosen yet</source>
+        <translation>선택 안 함</translation>
+    </message>
+    <message>
+        <source>mine</source>
+        <translation>내 것</translation>
+    </message>
+    <message>
+        <source>theirs</source>
+        <translation>상대 것</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are still to be chosen.</source>
+        <translation>
+            <numerusform>작업 %n개를 더 선택해야 합니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything else of both is kept.</source>
+        <translation>양쪽의 나머지 변경은 모두 유지됩니다.</translation>
+    </message>
+</context>
 </TS>

@@ -3395,4 +3395,92 @@ O que deseja fazer com as alterações?</translation>
         <translation>Players: %1, sem sinal: %2</translation>
     </message>
 </context>
+<context>
+    <name>MergeWords</name>
+    <message numerus="yes">
+        <source>%n tasks were changed at both desks: if you merge, you choose for each of them which one stays. Everything else of both is kept.</source>
+        <translation>
+            <numerusform>%n tarefa foi alterada nos dois postos: ao mesclar, você escolhe qual fica. Todo o resto dos dois é mantido.</numerusform>
+            <numerusform>%n tarefas foram alteradas nos dois postos: ao mesclar, você escolhe para cada uma qual fica. Todo o resto dos dois é mantido.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task was changed at both desks: what both have changed can be saved together.</source>
+        <translation>Nenhuma tarefa foi alterada nos dois postos: as alterações dos dois podem ser salvas juntas.</translation>
+    </message>
+    <message>
+        <source>Merge…</source>
+        <translation>Mesclar…</translation>
+    </message>
+    <message>
+        <source>Merged, your new task %1 becomes task %2: another task %1 was added there.</source>
+        <translation>Ao mesclar, sua nova tarefa %1 passa a ser a tarefa %2: outra tarefa %1 foi adicionada lá.</translation>
+    </message>
+    <message>
+        <source>Merge and save</source>
+        <translation>Mesclar e salvar</translation>
+    </message>
+    <message>
+        <source>Merge and go on editing</source>
+        <translation>Mesclar e continuar editando</translation>
+    </message>
+    <message>
+        <source>Merged, tasks %1 and %2 would be valid on the same days. That cannot be saved: they stay in the editor until you have changed their dates.</source>
+        <translation>Mescladas, as tarefas %1 e %2 seriam válidas nos mesmos dias. Isso não pode ser salvo: elas ficam no editor até que você altere as datas.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::merge::ConflictsDialog</name>
+    <message>
+        <source>These tasks were changed here and at the other desk. Choose for each of them which one stays.</source>
+        <translation>Estas tarefas foram alteradas aqui e no outro posto. Escolha para cada uma qual fica.</translation>
+    </message>
+    <message>
+        <source>Mine, as it is edited here</source>
+        <translation>A minha, como editada aqui</translation>
+    </message>
+    <message>
+        <source>Theirs, as it was saved there</source>
+        <translation>A outra, como salva lá</translation>
+    </message>
+    <message>
+        <source>Tasks that were changed at both desks</source>
+        <translation>Tarefas alteradas nos dois postos</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Tarefa</translation>
+    </message>
+    <message>
+        <source>What stays</source>
+        <translation>O que fica</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>not chosen yet</source>
+        <translation>ainda não escolhida</translation>
+    </message>
+    <message>
+        <source>mine</source>
+        <translation>a minha</translation>
+    </message>
+    <message>
+        <source>theirs</source>
+        <translation>a outra</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are still to be chosen.</source>
+        <translation>
+            <numerusform>Falta escolher %n tarefa.</numerusform>
+            <numerusform>Falta escolher %n tarefas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything else of both is kept.</source>
+        <translation>Todo o resto dos dois é mantido.</translation>
+    </message>
+</context>
 </TS>

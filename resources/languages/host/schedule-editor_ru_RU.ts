@@ -3441,4 +3441,94 @@ What do you want to do with your changes?</source>
         <translation>Плееры: %1, молчат: %2</translation>
     </message>
 </context>
+<context>
+    <name>MergeWords</name>
+    <message numerus="yes">
+        <source>%n tasks were changed at both desks: if you merge, you choose for each of them which one stays. Everything else of both is kept.</source>
+        <translation>
+            <numerusform>%n задание изменено на обоих рабочих местах: при объединении вы выбираете, какое останется. Всё остальное с обоих мест сохраняется.</numerusform>
+            <numerusform>%n задания изменены на обоих рабочих местах: при объединении вы для каждого выбираете, какое останется. Всё остальное с обоих мест сохраняется.</numerusform>
+            <numerusform>%n заданий изменено на обоих рабочих местах: при объединении вы для каждого выбираете, какое останется. Всё остальное с обоих мест сохраняется.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task was changed at both desks: what both have changed can be saved together.</source>
+        <translation>Ни одно задание не изменено на обоих рабочих местах: изменения с обоих можно сохранить вместе.</translation>
+    </message>
+    <message>
+        <source>Merge…</source>
+        <translation>Объединить…</translation>
+    </message>
+    <message>
+        <source>Merged, your new task %1 becomes task %2: another task %1 was added there.</source>
+        <translation>При объединении ваше новое задание %1 станет заданием %2: там добавлено другое задание %1.</translation>
+    </message>
+    <message>
+        <source>Merge and save</source>
+        <translation>Объединить и сохранить</translation>
+    </message>
+    <message>
+        <source>Merge and go on editing</source>
+        <translation>Объединить и править дальше</translation>
+    </message>
+    <message>
+        <source>Merged, tasks %1 and %2 would be valid on the same days. That cannot be saved: they stay in the editor until you have changed their dates.</source>
+        <translation>При объединении задания %1 и %2 действовали бы в одни и те же дни. Так сохранить нельзя: они останутся в редакторе, пока вы не измените их даты.</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::merge::ConflictsDialog</name>
+    <message>
+        <source>These tasks were changed here and at the other desk. Choose for each of them which one stays.</source>
+        <translation>Эти задания изменены здесь и на другом рабочем месте. Выберите для каждого, какое останется.</translation>
+    </message>
+    <message>
+        <source>Mine, as it is edited here</source>
+        <translation>Моё, как изменено здесь</translation>
+    </message>
+    <message>
+        <source>Theirs, as it was saved there</source>
+        <translation>Чужое, как сохранено там</translation>
+    </message>
+    <message>
+        <source>Tasks that were changed at both desks</source>
+        <translation>Задания, изменённые на обоих рабочих местах</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Задание</translation>
+    </message>
+    <message>
+        <source>What stays</source>
+        <translation>Что останется</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>not chosen yet</source>
+        <translation>ещё не выбрано</translation>
+    </message>
+    <message>
+        <source>mine</source>
+        <translation>моё</translation>
+    </message>
+    <message>
+        <source>theirs</source>
+        <translation>чужое</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are still to be chosen.</source>
+        <translation>
+            <numerusform>Осталось выбрать %n задание.</numerusform>
+            <numerusform>Осталось выбрать %n задания.</numerusform>
+            <numerusform>Осталось выбрать %n заданий.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything else of both is kept.</source>
+        <translation>Всё остальное с обоих мест сохраняется.</translation>
+    </message>
+</context>
 </TS>

@@ -3349,4 +3349,90 @@ What do you want to do with your changes?</source>
         <translation>播放器：%1，无响应：%2</translation>
     </message>
 </context>
+<context>
+    <name>MergeWords</name>
+    <message numerus="yes">
+        <source>%n tasks were changed at both desks: if you merge, you choose for each of them which one stays. Everything else of both is kept.</source>
+        <translation>
+            <numerusform>%n 个任务在两边都被更改：合并时，由您为每个任务选择保留哪一个。双方的其他更改全部保留。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task was changed at both desks: what both have changed can be saved together.</source>
+        <translation>没有任务在两边都被更改：双方的更改可以一起保存。</translation>
+    </message>
+    <message>
+        <source>Merge…</source>
+        <translation>合并…</translation>
+    </message>
+    <message>
+        <source>Merged, your new task %1 becomes task %2: another task %1 was added there.</source>
+        <translation>合并后，您新建的任务 %1 将成为任务 %2：对方添加了另一个任务 %1。</translation>
+    </message>
+    <message>
+        <source>Merge and save</source>
+        <translation>合并并保存</translation>
+    </message>
+    <message>
+        <source>Merge and go on editing</source>
+        <translation>合并并继续编辑</translation>
+    </message>
+    <message>
+        <source>Merged, tasks %1 and %2 would be valid on the same days. That cannot be saved: they stay in the editor until you have changed their dates.</source>
+        <translation>合并后，任务 %1 和任务 %2 会在相同的日期有效，因此无法保存：在您更改日期之前，它们留在编辑器中。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::merge::ConflictsDialog</name>
+    <message>
+        <source>These tasks were changed here and at the other desk. Choose for each of them which one stays.</source>
+        <translation>这些任务在此处和对方那里都被更改。请为每个任务选择保留哪一个。</translation>
+    </message>
+    <message>
+        <source>Mine, as it is edited here</source>
+        <translation>我的（此处编辑的内容）</translation>
+    </message>
+    <message>
+        <source>Theirs, as it was saved there</source>
+        <translation>对方的（对方保存的内容）</translation>
+    </message>
+    <message>
+        <source>Tasks that were changed at both desks</source>
+        <translation>在两边都被更改的任务</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>What stays</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>not chosen yet</source>
+        <translation>尚未选择</translation>
+    </message>
+    <message>
+        <source>mine</source>
+        <translation>我的</translation>
+    </message>
+    <message>
+        <source>theirs</source>
+        <translation>对方的</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are still to be chosen.</source>
+        <translation>
+            <numerusform>还有 %n 个任务需要选择。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything else of both is kept.</source>
+        <translation>双方的其他更改全部保留。</translation>
+    </message>
+</context>
 </TS>

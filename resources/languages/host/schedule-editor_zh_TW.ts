@@ -3349,4 +3349,90 @@ What do you want to do with your changes?</source>
         <translation>播放器：%1，無回應：%2</translation>
     </message>
 </context>
+<context>
+    <name>MergeWords</name>
+    <message numerus="yes">
+        <source>%n tasks were changed at both desks: if you merge, you choose for each of them which one stays. Everything else of both is kept.</source>
+        <translation>
+            <numerusform>%n 個任務在兩邊都被變更：合併時，由您為每個任務選擇保留哪一個。雙方的其他變更全部保留。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>No task was changed at both desks: what both have changed can be saved together.</source>
+        <translation>沒有任務在兩邊都被變更：雙方的變更可以一起儲存。</translation>
+    </message>
+    <message>
+        <source>Merge…</source>
+        <translation>合併…</translation>
+    </message>
+    <message>
+        <source>Merged, your new task %1 becomes task %2: another task %1 was added there.</source>
+        <translation>合併後，您新增的任務 %1 將成為任務 %2：對方新增了另一個任務 %1。</translation>
+    </message>
+    <message>
+        <source>Merge and save</source>
+        <translation>合併並儲存</translation>
+    </message>
+    <message>
+        <source>Merge and go on editing</source>
+        <translation>合併並繼續編輯</translation>
+    </message>
+    <message>
+        <source>Merged, tasks %1 and %2 would be valid on the same days. That cannot be saved: they stay in the editor until you have changed their dates.</source>
+        <translation>合併後，任務 %1 和任務 %2 會在相同的日期有效，因此無法儲存：在您變更日期之前，它們留在編輯器中。</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::merge::ConflictsDialog</name>
+    <message>
+        <source>These tasks were changed here and at the other desk. Choose for each of them which one stays.</source>
+        <translation>這些任務在此處和對方那裡都被變更。請為每個任務選擇保留哪一個。</translation>
+    </message>
+    <message>
+        <source>Mine, as it is edited here</source>
+        <translation>我的（此處編輯的內容）</translation>
+    </message>
+    <message>
+        <source>Theirs, as it was saved there</source>
+        <translation>對方的（對方儲存的內容）</translation>
+    </message>
+    <message>
+        <source>Tasks that were changed at both desks</source>
+        <translation>在兩邊都被變更的任務</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>任務</translation>
+    </message>
+    <message>
+        <source>What stays</source>
+        <translation>保留</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>not chosen yet</source>
+        <translation>尚未選擇</translation>
+    </message>
+    <message>
+        <source>mine</source>
+        <translation>我的</translation>
+    </message>
+    <message>
+        <source>theirs</source>
+        <translation>對方的</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n tasks are still to be chosen.</source>
+        <translation>
+            <numerusform>還有 %n 個任務需要選擇。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything else of both is kept.</source>
+        <translation>雙方的其他變更全部保留。</translation>
+    </message>
+</context>
 </TS>

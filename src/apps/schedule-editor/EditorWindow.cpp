@@ -190,6 +190,9 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     setCentralWidget(week);
     m_week = new week::WeekMenu(*menuBar(), *m_menus->viewMenu(), *week->panel());
     m_history = new undo::EditHistory(*edited, m_editor, this);
+    connect(m_drafts, &DraftKeeper::aboutToMerge, m_history, &undo::EditHistory::beginMerge);
+    connect(m_drafts, &DraftKeeper::merged, m_history,
+            [this] { m_history->endMerge(m_drafts->saved()); });
     m_undo = new undo::HistoryActions(*m_menus, *m_history, this);
     m_versions =
         new versions::VersionsAction(*m_menus->versions(), m_editor, languages, themes, this);
@@ -421,7 +424,13 @@ void EditorWindow::exportSchedule()
     if (file.isEmpty()) {
         return;
     }
-    if (const Fault fault = writeScheduleFile(file, scheduleManage::getInstance().getgTaskMap())) {
+    // Beside what is edited, which is still held against what it was edited from.
+    ScheduleVersion version;
+    std::map<int, PlayTask> saved;
+    if (!ScheduleHost::instance().readNewestSave(version, saved)) {
+        saved = m_drafts->saved();
+    }
+    if (const Fault fault = writeScheduleFile(file, saved)) {
         tell(problems::unwritable(file, fault));
         return;
     }

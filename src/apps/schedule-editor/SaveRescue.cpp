@@ -6,6 +6,9 @@
 #include "ProblemWords.h"
 #include "changes/ChangesDialog.h"
 #include "draft/DraftKeeper.h"
+#include "merge/ConflictsDialog.h"
+#include "merge/MergeWords.h"
+#include "service/TaskPeriods.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
@@ -50,14 +53,17 @@ SaveRescue::SaveRescue(ScheduleHost& host, DraftKeeper& drafts, QWidget* window)
 
 SaveRescue::Answer SaveRescue::ask(const StoreResult& reason)
 {
-    std::vector<ScheduleVersion> versions;
+    ScheduleVersion other;
     std::map<int, PlayTask> tasks;
-    if (reason.problem != StoreProblem::MovedOn || !m_host.versions(versions) || versions.empty() ||
-        !m_host.versionTasks(versions.front().number, tasks)) {
+    if (reason.problem != StoreProblem::MovedOn || !m_host.readNewestSave(other, tasks)) {
         return askPlainly(reason);
     }
-    m_other = versions.front().number;
-    return askAboutOther(versions.front(), tasks);
+    if (other.number != m_other.number) {
+        m_choices.clear();
+    }
+    m_other = other;
+    m_merge.emplace(m_drafts.saved(), std::move(tasks), m_host.workingSet());
+    return askAboutOther();
 }
 
 SaveRescue::Answer SaveRescue::askPlainly(const StoreResult& reason) const
@@ -76,50 +82,60 @@ SaveRescue::Answer SaveRescue::askPlainly(const StoreResult& reason) const
     }
 }
 
-SaveRescue::Answer SaveRescue::askAboutOther(const ScheduleVersion& other,
-                                             const std::map<int, PlayTask>& tasks) const
+SaveRescue::Answer SaveRescue::askAboutOther() const
 {
     const QString store = QFileInfo(m_host.path()).fileName();
-    const QString saved = dateAndTimeText(QDateTime::fromMSecsSinceEpoch(other.saved));
+    const QString saved = dateAndTimeText(QDateTime::fromMSecsSinceEpoch(m_other.saved));
     changes::ChangesQuestion question;
     question.text =
-        (other.by.isEmpty()
+        (m_other.by.isEmpty()
              ? tr("While you were editing, %1 was saved by another program. Your changes are not "
                   "saved.")
                    .arg(store)
              : tr("While you were editing, %1 was saved by %2, on %3. Your changes are not saved.",
                   "the database, a program, and the time")
-                   .arg(store, other.by, saved)) +
-        QStringLiteral("\n\n") +
+                   .arg(store, m_other.by, saved)) +
+        QStringLiteral("\n\n") + merge::MergeWords::outlook(*m_merge) + QStringLiteral("\n\n") +
         tr("If you keep yours, what was saved there stays among the versions. If you take theirs, "
            "yours can be brought back until the next save.");
     question.listTitle = tr("What was changed there:");
-    question.lines = versions::DifferenceWords::lines(m_drafts.saved(), tasks, *m_host.catalogue(),
-                                                      changes::kMostLines);
+    question.lines = versions::DifferenceWords::lines(m_merge->base(), m_merge->theirs(),
+                                                      *m_host.catalogue(), changes::kMostLines);
     if (question.lines.isEmpty()) {
         question.lines.append(tr("Nothing that you would see."));
     }
-    question.former = {tr("As it was saved there"), tasks};
-    question.later = {tr("With your changes"), m_host.workingSet()};
-    question.answers =
-        QStringList{goOnEditing(), tr("Keep mine"), tr("Take theirs"), tr("Write mine to a file")};
-    constexpr std::array answers = {Answer::GoOn, Answer::GoOn, Answer::SaveOver, Answer::TakeOther,
-                                    Answer::WriteFile};
+    question.lines += merge::MergeWords::renumbered(*m_merge).mid(0, changes::kMostLines);
+    question.former = {tr("As it was saved there"), m_merge->theirs()};
+    question.later = {tr("With your changes"), m_merge->mine()};
+    question.answers = QStringList{goOnEditing(), merge::MergeWords::answer(*m_merge),
+                                   tr("Keep mine"), tr("Take theirs"), tr("Write mine to a file")};
+    constexpr std::array answers = {Answer::GoOn,     Answer::GoOn,      Answer::Merge,
+                                    Answer::SaveOver, Answer::TakeOther, Answer::WriteFile};
     return answers.at(static_cast<std::size_t>(m_drafts.ask(question)));
 }
 
-StoreResult SaveRescue::saveOver(const StoreResult& movedOn)
+std::optional<StoreResult> SaveRescue::merge(const StoreResult& movedOn)
 {
-    if (StoreResult result = m_host.reload(); !result) {
+    if (!m_merge->conflicts().empty()) {
+        merge::ConflictsDialog dialog(*m_merge, *m_host.catalogue(), m_choices, m_window);
+        const bool isChosen = dialog.ask();
+        m_choices = dialog.choices();
+        if (!isChosen) {
+            return movedOn;
+        }
+    }
+    StoreResult result = m_drafts.mergeWith(m_other.number, m_merge->merged(m_choices));
+    if (!result) {
         return result;
     }
-    std::vector<ScheduleVersion> versions;
-    if (StoreResult result = m_host.versions(versions); !result) {
-        return result;
-    }
-    // Nobody saves over what nobody was told of.
-    const bool isTold = !versions.empty() && versions.front().number == m_other;
-    return isTold ? m_host.trySave() : movedOn;
+    return firstTaskOverlap(m_host.workingSet()) ? std::nullopt : std::optional(m_host.trySave());
+}
+
+StoreResult SaveRescue::saveOver()
+{
+    // Nobody saves over what nobody was told of: where a third program has saved, it is refused.
+    StoreResult result = m_drafts.mergeWith(m_other.number, m_host.workingSet());
+    return result ? m_host.trySave() : result;
 }
 
 StoreResult SaveRescue::takeOther()
@@ -149,6 +165,8 @@ bool SaveRescue::writeFile()
 void SaveRescue::rescue(const StoreResult& reason)
 {
     m_isAsking = true;
+    // Until it is asked the next time, the tasks may have been edited.
+    m_choices.clear();
     askUntilDone(reason);
     m_isAsking = false;
     if (std::exchange(m_isLeft, false)) {
@@ -169,8 +187,15 @@ void SaveRescue::askUntilDone(const StoreResult& reason)
         case Answer::TryAgain:
             outcome = m_host.trySave();
             break;
+        case Answer::Merge:
+            if (auto merged = merge(outcome)) {
+                outcome = *std::move(merged);
+                break;
+            }
+            goOn();
+            return;
         case Answer::SaveOver:
-            outcome = saveOver(reason);
+            outcome = saveOver();
             break;
         case Answer::TakeOther:
             outcome = takeOther();
@@ -181,14 +206,19 @@ void SaveRescue::askUntilDone(const StoreResult& reason)
             }
             break;
         case Answer::GoOn:
-            if (isLeaving()) {
-                keep();
-            } else {
-                m_drafts.goOnEditing();
-                emit goesOn();
-            }
+            goOn();
             return;
         }
+    }
+}
+
+void SaveRescue::goOn()
+{
+    if (isLeaving()) {
+        keep();
+    } else {
+        m_drafts.goOnEditing();
+        emit goesOn();
     }
 }
 

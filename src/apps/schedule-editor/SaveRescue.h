@@ -1,10 +1,11 @@
 #pragma once
 
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/merge/ScheduleMerge.h"
 
 #include <QObject>
 
-#include <map>
+#include <optional>
 
 class QWidget;
 
@@ -19,9 +20,12 @@ class DraftKeeper;
 /// which is what closing the question does as well; then nothing closes. The question comes back
 /// until one of the three has been done.
 ///
-/// Where another program has saved meanwhile, the question tells what that one has changed, and it
-/// can be saved over, or taken for what was edited. What is saved over stays among the versions,
-/// and what was edited can be brought back until the next save.
+/// Where another program has saved meanwhile, the question tells what that one has changed. Both
+/// can be merged and saved; of a task that was changed at both desks the operator chooses which of
+/// the two stays, and what cannot be saved as it comes out stays in the editor. Or the other save
+/// is saved over, or taken for what was edited. What is saved over stays among the versions, and
+/// what was edited can be brought back until the next save. A save of a third program leads to the
+/// same question once more, about what that one has changed.
 ///
 /// When the program is to end while it asks, because it quits, the window is closed or the session
 /// ends, the edits are kept in a file and nothing is asked any more.
@@ -47,7 +51,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    enum class Answer { TryAgain, SaveOver, TakeOther, WriteFile, GoOn };
+    enum class Answer { TryAgain, Merge, SaveOver, TakeOther, WriteFile, GoOn };
 
     void rescue(const trel::mediadispatch::StoreResult& reason);
     void askUntilDone(const trel::mediadispatch::StoreResult& reason);
@@ -55,12 +59,16 @@ private:
     void leave();
     bool isLeaving() const;
     void keep();
+    void goOn();
     Answer ask(const trel::mediadispatch::StoreResult& reason);
     Answer askPlainly(const trel::mediadispatch::StoreResult& reason) const;
     /// What to do about what another program has saved.
-    Answer askAboutOther(const trel::mediadispatch::ScheduleVersion& other,
-                         const std::map<int, trel::mediadispatch::PlayTask>& tasks) const;
-    trel::mediadispatch::StoreResult saveOver(const trel::mediadispatch::StoreResult& movedOn);
+    Answer askAboutOther() const;
+    /// Saves what comes of both. Another question where the operator thinks better of it, and no
+    /// outcome where it has to be put right before it can be saved.
+    std::optional<trel::mediadispatch::StoreResult>
+    merge(const trel::mediadispatch::StoreResult& movedOn);
+    trel::mediadispatch::StoreResult saveOver();
     trel::mediadispatch::StoreResult takeOther();
     /// True when the schedule stands in a file of the operator's choice.
     bool writeFile();
@@ -68,7 +76,11 @@ private:
     trel::mediadispatch::ScheduleHost& m_host;
     DraftKeeper& m_drafts;
     QWidget* m_window;
-    qint64 m_other = trel::mediadispatch::kNoVersion; ///< The save that the operator was told of.
+    trel::mediadispatch::ScheduleVersion m_other; ///< The save that the operator was told of.
+    /// What comes of it and of what is edited.
+    std::optional<trel::mediadispatch::ScheduleMerge> m_merge;
+    /// What was chosen when it was asked about that save before.
+    trel::mediadispatch::ScheduleMerge::Choices m_choices;
     bool m_isAsking = false;
     bool m_isLeft = false;
 };

@@ -322,7 +322,8 @@ void tst_SaveRescue::anotherDesksSaveIsTold()
     QCOMPARE(answer.lists().first(),
              QStringLiteral("Task 3: deleted, was valid from 2027.01.16 to 2027.01.28, 1 plan"));
     QCOMPARE(answer.buttons().first(),
-             QStringLiteral("Go on editing|Keep mine|Take theirs|Write mine to a file"));
+             QStringLiteral("Go on editing|Merge and save|Keep mine|Take theirs|Write mine to a "
+                            "file"));
     QVERIFY(fixture.editor->isVisible());
     QCOMPARE(fixture.ids(fixture.manager.getAllTask()), QStringLiteral("1 2 3 7"));
     QCoreApplication::processEvents();
@@ -338,7 +339,7 @@ void tst_SaveRescue::mineIsSavedOverTheirs()
     const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
     fixture.edit();
     fixture.saveElsewhere();
-    const ChangesAnswer keep(2);
+    const ChangesAnswer keep(3);
 
     fixture.editor->slotSave();
 
@@ -359,7 +360,7 @@ void tst_SaveRescue::nobodySavesOverWhatNobodyWasToldOf()
     const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
     fixture.edit();
     fixture.saveElsewhere();
-    ChangesAnswer keep({2, 2});
+    ChangesAnswer keep({3, 3});
     keep.onEach = [&fixture, &keep](QDialog&) {
         if (keep.count() == 1) {
             fixture.restoreElsewhere();
@@ -380,7 +381,7 @@ void tst_SaveRescue::theirsIsTaken()
     fixture.edit();
     fixture.saveElsewhere();
     {
-        const ChangesAnswer take(3);
+        const ChangesAnswer take(4);
         fixture.editor->slotStart();
     }
     QVERIFY(fixture.editor->isVisible());
@@ -403,7 +404,7 @@ void tst_SaveRescue::mineGoesIntoAFile()
     fixture.saveElsewhere();
     const QString file = fixture.folder.filePath(QStringLiteral("mine.json"));
     answerFileDialog(file);
-    const ChangesAnswer write(4);
+    const ChangesAnswer write(5);
 
     fixture.editor->slotSave();
 

@@ -20,6 +20,7 @@
 #include <QSysInfo>
 #include <QWidget>
 
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -123,6 +124,38 @@ void DraftKeeper::readAgain()
     } else {
         // The cards of the former schedule would answer what is told of the other one.
         emit m_editor.sigclearPlanList();
+    }
+}
+
+StoreResult DraftKeeper::mergeWith(qint64 number, const std::map<int, PlayTask>& merged)
+{
+    ScheduleHost& host = ScheduleHost::instance();
+    const std::map<int, PlayTask> former = host.workingSet();
+    emit aboutToMerge();
+    StoreResult result = host.mergeWith(number, merged);
+    emit this->merged();
+    if (result) {
+        showOthers(former);
+    }
+    return result;
+}
+
+void DraftKeeper::showOthers(const std::map<int, PlayTask>& former)
+{
+    const std::map<int, PlayTask>& now = ScheduleHost::instance().workingSet();
+    std::set<int> others;
+    for (const auto* tasks : {&former, &now}) {
+        for (const auto& [id, task] : *tasks) {
+            const auto before = former.find(id);
+            const auto after = now.find(id);
+            if (before == former.end() || after == now.end() || before->second != after->second) {
+                others.insert(id);
+            }
+        }
+    }
+    const undo::ListAtRest rest(m_editor, others.size());
+    for (const int id : others) {
+        m_editor.slotShowTask(id);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "trelprogramschedule/draft/DraftJournal.h"
+#include "trelprogramschedule/store/StoreResult.h"
 
 #include <QObject>
 
@@ -56,6 +57,9 @@ public:
     int ask(const changes::ChangesQuestion& question) const;
     /// The changes go, for what is saved, once the event loop runs, and can be brought back.
     void giveUp();
+    /// In the midst of a save: as ScheduleHost::mergeWith(), and the editor shows what comes of it.
+    trel::mediadispatch::StoreResult
+    mergeWith(qint64 number, const std::map<int, trel::mediadispatch::PlayTask>& merged);
     /// In the midst of a save: neither the editor nor the window closes because of it.
     void goOnEditing();
     /// Whether that was called in this turn of the event loop.
@@ -66,6 +70,9 @@ public:
 signals:
     /// What isUnsaved() tells is another.
     void unsavedChanged();
+    /// What becomes of the working set between these two is a merge with another save.
+    void aboutToMerge();
+    void merged();
 
 private:
     void tellUnsaved();
@@ -81,6 +88,8 @@ private:
     std::map<int, trel::mediadispatch::PlayTask>
     scheduleOf(const trel::mediadispatch::LeftDraft& left) const;
     void readAgain();
+    /// Has the editor show the tasks that are others than in a former working set.
+    void showOthers(const std::map<int, trel::mediadispatch::PlayTask>& former);
     /// Puts tasks into the working set, and shows it.
     bool show(const trel::mediadispatch::DraftTasks& tasks);
 

@@ -218,6 +218,9 @@ void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     case PE_IndicatorItemViewItemCheck:
         paintCheckMark(*painter, m_colours, *option);
         return;
+    case PE_IndicatorRadioButton:
+        paintRadioMark(*painter, m_colours, *option);
+        return;
     default:
         break;
     }

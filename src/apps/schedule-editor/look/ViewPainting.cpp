@@ -82,6 +82,21 @@ void paintCheckMark(QPainter& painter, const ThemeColours& colours, const QStyle
     }
 }
 
+void paintRadioMark(QPainter& painter, const ThemeColours& colours, const QStyleOption& option)
+{
+    constexpr int kSide = 13;
+    constexpr int kRim = 4;
+    QRect ring(0, 0, kSide, kSide);
+    ring.moveCenter(option.rect.center());
+    const bool isChecked = (option.state & QStyle::State_On) != 0;
+    paintBox(painter, ring, isChecked ? colours.accent : colours.field,
+             isChecked ? colours.accent : colours.fieldLineHover, kSide / 2.0);
+    if (isChecked) {
+        const QRect dot = ring.adjusted(kRim, kRim, -kRim, -kRim);
+        paintBox(painter, dot, colours.accentText, Qt::transparent, dot.width() / 2.0);
+    }
+}
+
 void paintScrollBar(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,
                     const QRect& thumb, bool isOverlay)
 {

@@ -20,6 +20,8 @@ void paintCaption(QPainter& painter, const QStyleOptionViewItem& option);
 /// In the colours of the header's own palette.
 void paintHeaderSection(QPainter& painter, const QStyleOption& option);
 void paintCheckMark(QPainter& painter, const ThemeColours& colours, const QStyleOption& option);
+/// The mark of one of several that exclude each other.
+void paintRadioMark(QPainter& painter, const ThemeColours& colours, const QStyleOption& option);
 
 /// A bar that lies over what it moves keeps to its very edge.
 void paintScrollBar(QPainter& painter, const ThemeColours& colours, const QStyleOption& option,

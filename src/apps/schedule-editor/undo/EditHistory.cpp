@@ -30,6 +30,15 @@ follow::SharedTask workingTask(int taskId)
     return task == tasks.end() ? nullptr : std::make_shared<const PlayTask>(task->second);
 }
 
+std::map<int, follow::SharedTask> shared(const std::map<int, PlayTask>& tasks)
+{
+    std::map<int, follow::SharedTask> made;
+    for (const auto& [id, task] : tasks) {
+        made.emplace_hint(made.end(), id, std::make_shared<const PlayTask>(task));
+    }
+    return made;
+}
+
 /// Entries go bad when their program leaves the catalog, which is no save.
 follow::SharedTask withSoundEntries(const follow::SharedTask& task)
 {
@@ -94,10 +103,7 @@ EditHistory::~EditHistory()
 
 void EditHistory::clear()
 {
-    m_known.clear();
-    for (const auto& [id, task] : ScheduleHost::instance().workingSet()) {
-        m_known.emplace_hint(m_known.end(), id, std::make_shared<const PlayTask>(task));
-    }
+    m_known = shared(ScheduleHost::instance().workingSet());
     m_lastSaved = m_known;
     m_saved = {0};
     m_opened.clear();
@@ -186,7 +192,7 @@ void EditHistory::add(TaskEdits edits)
     if (edits.empty()) {
         return;
     }
-    const EditedField field = m_isReadAgain ? fieldOfReading(edits) : editedField(edits);
+    const EditedField field = fieldOf(edits);
     const auto put = [this, catalogue = m_catalogue](int taskId, const follow::SharedTask& task) {
         this->put(taskId, task, catalogue);
     };
@@ -203,6 +209,16 @@ void EditHistory::add(TaskEdits edits)
     }
 }
 
+EditedField EditHistory::fieldOf(const TaskEdits& edits) const
+{
+    if (m_isMerged) {
+        EditedField field;
+        field.kind = EditKind::SavedElsewhere;
+        return field;
+    }
+    return m_isReadAgain ? fieldOfReading(edits) : editedField(edits);
+}
+
 EditedField EditHistory::fieldOfReading(const TaskEdits& edits) const
 {
     const bool isOwn = std::all_of(edits.begin(), edits.end(), [this](const TaskEdit& edit) {
@@ -214,6 +230,20 @@ EditedField EditHistory::fieldOfReading(const TaskEdits& edits) const
     EditedField field;
     field.kind = isOwn ? EditKind::ReadAgain : EditKind::SavedElsewhere;
     return field;
+}
+
+void EditHistory::beginMerge()
+{
+    catchUp();
+    m_isMerged = true;
+}
+
+void EditHistory::endMerge(const std::map<int, PlayTask>& saved)
+{
+    catchUp();
+    m_isMerged = false;
+    // Or what is read again later would be taken for a save of another program once more.
+    m_lastSaved = shared(saved);
 }
 
 void EditHistory::markSaved()

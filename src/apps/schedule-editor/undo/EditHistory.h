@@ -38,9 +38,9 @@ struct EditedField;
 /// typed is a step of its own, which is taken back first. There is no limit: a step costs the
 /// memory of the tasks that it changed.
 ///
-/// What another program has saved, and the list has read, is a step as well, since the steps before
-/// it lead to what was there then. Whoever goes back behind it takes it out of the schedule, and is
-/// asked first.
+/// What another program has saved, and the list has read or a save was merged with, is a step as
+/// well, since the steps before it lead to what was there then. Whoever goes back behind it takes
+/// it out of the schedule, and is asked first.
 class EditHistory : public QObject
 {
     Q_OBJECT
@@ -80,6 +80,12 @@ public:
     /// is a step of its own. False while nothing can be edited, as with undo().
     bool settle() { return begin(); }
 
+    /// What becomes of the working set between these two is one step: what another program has
+    /// saved comes to the edits. The schedule as that one has saved it is what was saved last from
+    /// now on.
+    void beginMerge();
+    void endMerge(const std::map<int, mediadispatch::PlayTask>& saved);
+
 signals:
     /// Steps have come or gone, or others of them are done.
     void changed();
@@ -96,6 +102,8 @@ private:
     /// Takes in what has not been told yet.
     void catchUp();
     void add(TaskEdits edits);
+    /// What a step is called after that changes these tasks.
+    EditedField fieldOf(const TaskEdits& edits) const;
     /// The saved schedule was read, and so many tasks are others.
     EditedField fieldOfReading(const TaskEdits& edits) const;
     void markSaved();
@@ -129,6 +137,7 @@ private:
     int m_catalogue = 0; ///< Counts the changes of the catalog.
     bool m_isAtWork = false;
     bool m_isReadAgain = false; ///< What comes now is the saved schedule.
+    bool m_isMerged = false;    ///< What comes now was merged with another save.
     QPointer<QWidget> m_field;  ///< Whose keys are watched.
 };
 

@@ -24,7 +24,7 @@ enum class EditKind {
     End,
     Carried,        ///< What the service carries and nobody sees.
     Moved,          ///< Both times, as when a block of the week is dragged.
-    SavedElsewhere, ///< As ReadAgain, with what another program has saved meanwhile.
+    SavedElsewhere, ///< What another program has saved meanwhile, read or merged with the edits.
 };
 
 struct EditedField
