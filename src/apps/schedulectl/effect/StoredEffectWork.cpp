@@ -3,7 +3,6 @@
 #include "clock/Clock.h"
 #include "text/Console.h"
 #include "text/FaultReport.h"
-#include "trelprogramschedule/faults/FaultWords.h"
 
 using namespace trel::mediadispatch;
 
@@ -24,7 +23,7 @@ ExitStatus tellOutcome(const StoreResult& result, const Invocation& invocation, 
     if (result) {
         return Done;
     }
-    console.tell(englishText(result));
+    console.tell(refusalText(result));
     if (invocation.json) {
         console.writeJson(refusalJson(result));
     }

@@ -7,6 +7,7 @@
 #include "service/DateText.h"
 #include "service/TaskPeriods.h"
 #include "text/Console.h"
+#include "text/FaultReport.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 
@@ -139,7 +140,7 @@ ExitStatus run(const Invocation& invocation, Console& console)
     const QString before = sizeText(database->tasks());
     const StoreResult result = database->host().replaceSchedule(schedule.tasks);
     if (!result) {
-        console.tell(englishText(result));
+        console.tell(refusalText(result));
         return Refused;
     }
     tellOddities(console, schedule.tasks, database->programs());

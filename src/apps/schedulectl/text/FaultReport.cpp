@@ -24,4 +24,14 @@ QJsonObject refusalJson(const StoreResult& result)
     return {{QStringLiteral("error"), error}};
 }
 
+QString refusalText(const StoreResult& result)
+{
+    // A command reads the store anew each time, so that nothing has to be merged.
+    return result.problem == StoreProblem::MovedOn
+               ? englishText(result) +
+                     QStringLiteral(" Nothing was written. Look at what is saved now, and run the "
+                                    "command again to replace that.")
+               : englishText(result);
+}
+
 } // namespace trel::console
