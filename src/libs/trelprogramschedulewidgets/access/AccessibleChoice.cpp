@@ -74,7 +74,9 @@ QString AccessibleChoice::shownText() const
 QAccessible::State AccessibleChoice::state() const
 {
     QAccessible::State state = AccessibleEditor::state();
-    const bool isOpen = list() && list()->isVisible();
+    // The box has the focus back while its list goes, which is still visible then.
+    const QWidget* const shown = list();
+    const bool isOpen = shown && shown->isVisible() && !shown->window()->isHidden();
     state.expandable = true;
     state.expanded = isOpen;
     state.collapsed = !isOpen;

@@ -31,6 +31,7 @@ QString roleWord(QAccessible::Role role)
         {QAccessible::Pane, "pane"},
         {QAccessible::LayeredPane, "pane"},
         {QAccessible::Client, "pane"},
+        {QAccessible::Grouping, "group"},
     };
     const auto found = words.find(role);
     return found == words.end() ? QStringLiteral("role %1").arg(int(role))

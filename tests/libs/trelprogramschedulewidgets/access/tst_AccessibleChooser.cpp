@@ -14,9 +14,9 @@ using namespace trel::mediadispatch;
 
 namespace {
 
-QAccessibleInterface* spoken(QTableView* table)
+QAccessibleInterface* spoken(QWidget* widget)
 {
-    return QAccessible::queryAccessibleInterface(table);
+    return QAccessible::queryAccessibleInterface(widget);
 }
 
 /// A cell as one line: its role, what it says and what it holds.
@@ -67,6 +67,7 @@ private slots:
     void init();
     void cleanup();
 
+    void theWindowAroundItIsTheDialog();
     void cellsOfBothTables();
     void columnsHaveTheirLabels();
     void headingsStandOverTheirCells();
@@ -109,6 +110,17 @@ void tst_AccessibleChooser::withChooser(const std::function<void(ChooserWindow&)
     });
     rows.cell(0, ProgramsColumn)->findChild<QPushButton*>(QStringLiteral("pushButton"))->click();
     QVERIFY(isDone);
+}
+
+void tst_AccessibleChooser::theWindowAroundItIsTheDialog()
+{
+    withChooser([this](ChooserWindow& chooser) {
+        QVERIFY(spoken(chooser.frame())->state().modal);
+        QCOMPARE(spoken(chooser.frame())->role(), QAccessible::Dialog);
+        // It is a dialog in a dialog, and has no title of its own.
+        QCOMPARE(spoken(chooser.chooser())->role(), QAccessible::Grouping);
+        QVERIFY(!spoken(&m_editor->dialog())->state().modal);
+    });
 }
 
 void tst_AccessibleChooser::cellsOfBothTables()

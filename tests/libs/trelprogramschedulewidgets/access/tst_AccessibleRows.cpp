@@ -97,6 +97,7 @@ private slots:
     void descriptionsRepeatNothing();
     void promptsHaveATitleOfTheirOwn();
     void barsTakeTheFocus();
+    void barsHaveButtonsAloneBelowThem();
     void theListOfABoxComesWhenItIsOpened();
     void daysSayWhetherTheyAreChecked();
     void daysAreChecked();
@@ -569,6 +570,19 @@ void tst_AccessibleRows::barsTakeTheFocus()
     act(spoken(*bar), QAccessibleActionInterface::setFocusAction());
     QVERIFY(bar->hasFocus() && spoken(*bar)->state().focused);
     QCOMPARE(bar->focusPolicy(), Qt::NoFocus);
+}
+
+void tst_AccessibleRows::barsHaveButtonsAloneBelowThem()
+{
+    QAccessibleInterface* const bar =
+        spoken(*card().findChild<QPushButton*>(QStringLiteral("title")));
+    // Those of the card. The arrow is a picture, and the state of the bar says what it shows.
+    QCOMPARE(bar->childCount(), 2);
+    for (int i = 0; i < bar->childCount(); ++i) {
+        QCOMPARE(bar->child(i)->role(), QAccessible::Button);
+        QCOMPARE(bar->indexOfChild(bar->child(i)), i);
+    }
+    QVERIFY(bar->child(2) == nullptr && bar->child(-1) == nullptr);
 }
 
 void tst_AccessibleRows::theListOfABoxComesWhenItIsOpened()

@@ -145,6 +145,8 @@ void tst_FirstTaskByKeys::isMade()
     keys.press("Down", 2);
     keys.press("Space");
     keys.press("Escape");
+    const QString days = record.news().last();
+    QVERIFY2(days.endsWith(QLatin1String(", collapsed")), qPrintable(days));
     keys.press("Ctrl+Return");
 
     QCOMPARE(FirstTask::saved(), QStringList(FirstTask::wanted()));
