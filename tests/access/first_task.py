@@ -1,4 +1,4 @@
-"""Usage: first_task.py EDITOR CONSOLE DEMONSTRATION
+"""Usage: first_task.py EDITOR SCHEDULECTL DEMONSTRATION
 
 Makes the first task of an operator through the accessibility bus alone, without a key and without the
 mouse: a task, two dates, a plan with two programs, its time and its days. Prints what a screen reader says
@@ -8,7 +8,6 @@ nothing else changed. Ends with 1 where it is not so.
 
 import argparse
 import json
-import os
 import subprocess
 import sys
 
@@ -150,9 +149,9 @@ def line(task):
     return f"{task['startDate']}-{task['endDate']} " + "; ".join(plans)
 
 
-def saved(console, database):
+def saved(schedulectl, database):
     """The tasks as the console host finds them in the database, each as a line, by their numbers."""
-    answer = subprocess.run([console, "--database", database, "--json", "show"],
+    answer = subprocess.run([schedulectl, "--database", database, "--json", "show"],
                             check=True, capture_output=True, text=True)
     return {task["id"]: line(task) for task in json.loads(answer.stdout)["tasks"]}
 
@@ -160,17 +159,16 @@ def saved(console, database):
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("editor")
-    parser.add_argument("console")
+    parser.add_argument("schedulectl")
     parser.add_argument("demonstration")
     options = parser.parse_args()
     options.tree = False
     tour = walk.Walk(options, "en_US", "dark", walk.Findings())
-    database = os.path.join(tour.folder.name, "walk.db")
     tasks = FirstTask(tour)
     tasks.open_editor()
-    before = saved(options.console, database)
+    before = saved(options.schedulectl, tour.database)
     tasks.make()
-    after = saved(options.console, database)
+    after = saved(options.schedulectl, tour.database)
     tour.end()
     print(after.get(TASK))
     return 0 if after == {**before, TASK: WANTED} and len(before) == TASK - 1 else 1
