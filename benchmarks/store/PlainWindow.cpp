@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStandardItemModel>
 #include <QStatusBar>
 #include <QTableView>
@@ -184,7 +185,10 @@ void PlainWindow::addPanels(int programs)
     picture->setSizePolicy(policy);
     picture->setMinimumSize(160, 90);
 
-    QDockWidget* now = addPanel(QStringLiteral("Now and next"), nowNext(), Qt::RightDockWidgetArea);
+    auto* scrolled = new QScrollArea;
+    scrolled->setWidgetResizable(true);
+    scrolled->setWidget(nowNext());
+    QDockWidget* now = addPanel(QStringLiteral("Now and next"), scrolled, Qt::RightDockWidgetArea);
     QDockWidget* preview = addPanel(QStringLiteral("Preview"), picture, Qt::RightDockWidgetArea);
     hidden(addPanel(QStringLiteral("Clock changes"), clockChanges(), Qt::BottomDockWidgetArea));
     QDockWidget* wrong = addPanel(QStringLiteral("Problems"), problems(), Qt::BottomDockWidgetArea);
@@ -205,7 +209,7 @@ void PlainWindow::addPanels(int programs)
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({list, now}, {250, 260}, Qt::Horizontal);
-    resizeDocks({now, preview}, {450, 150}, Qt::Vertical);
+    resizeDocks({now, preview}, {480, 120}, Qt::Vertical);
     resizeDocks({wrong}, {96}, Qt::Vertical);
 }
 

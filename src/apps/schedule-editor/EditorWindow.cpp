@@ -54,6 +54,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -68,6 +69,19 @@ namespace {
 
 /// Leaves room for the frame of the window and for a bar of the desktop on a screen of 1366 by 768.
 constexpr QSize kFirstSize(1340, 700);
+
+/// A panel that never makes the window higher than the screen, whatever it has to say.
+QScrollArea* scrolled(QWidget& panel)
+{
+    auto* area = new QScrollArea(panel.parentWidget());
+    area->setObjectName(panel.objectName() + QStringLiteral("Area"));
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidgetResizable(true);
+    area->setWidget(&panel);
+    return area;
+}
 
 /// Names a button of the toolkit in the toolkit's own words.
 void nameButton(const QDockWidget& panel, const char* button, const char* name)
@@ -171,7 +185,7 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     };
     connect(&themes, &Themes::changed, nowNext, takeColours);
     takeColours();
-    m_nowNext->setWidget(nowNext);
+    m_nowNext->setWidget(scrolled(*nowNext));
     addPanel(m_nowNext, Qt::RightDockWidgetArea);
     auto* preview = new PreviewDock(*follower, this);
     addPanel(preview, Qt::RightDockWidgetArea);
@@ -212,7 +226,7 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({m_programs, m_nowNext}, {250, 260}, Qt::Horizontal);
-    resizeDocks({m_nowNext, preview}, {450, 150}, Qt::Vertical);
+    resizeDocks({m_nowNext, preview}, {480, 120}, Qt::Vertical);
     resizeDocks({problems}, {96}, Qt::Vertical);
 }
 

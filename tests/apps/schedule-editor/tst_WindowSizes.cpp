@@ -1,4 +1,5 @@
 #include "HostFixture.h"
+#include "support/TestClock.h"
 #include "support/TestProgram.h"
 #include "week/WeekPage.h"
 #include "week/WeekPanel.h"
@@ -65,7 +66,13 @@ QStringList faultsOf(const QWidget& panel)
     return faults;
 }
 
-struct Window : HostFixture
+/// The time, before anything asks for it: a plan of the demonstration plays.
+struct AtNoon
+{
+    TestClock clock{QDateTime(QDate(2026, 3, 11), QTime(12, 30))};
+};
+
+struct Window : AtNoon, HostFixture
 {
     explicit Window(const QString& language)
     {
@@ -90,6 +97,8 @@ private slots:
     void fitsAUsualScreen();
     void fitsASmallScreen_data() { addLanguages(); }
     void fitsASmallScreen();
+    void fitsWhileItIsOnAir_data() { addLanguages(); }
+    void fitsWhileItIsOnAir();
     void panelsCanBeRemembered();
 };
 
@@ -120,6 +129,22 @@ void tst_WindowSizes::fitsASmallScreen()
         QVERIFY2(!panel->isVisible() || fixture.window.rect().contains(panel->geometry()),
                  qPrintable(panel->objectName()));
     }
+}
+
+/// Then it has most to say.
+void tst_WindowSizes::fitsWhileItIsOnAir()
+{
+    QFETCH(QString, language);
+    Window fixture(language);
+    fixture.manager.slotOpen();
+    QTRY_VERIFY(fixture.window.findChild<QWidget*>(QStringLiteral("effectLines"))->isVisible());
+    QCoreApplication::processEvents();
+    fixture.window.resize(kSmall);
+    QCoreApplication::processEvents();
+    QVERIFY2(
+        fits(fixture.window.size(), kSmall),
+        qPrintable(
+            QStringLiteral("%1 by %2").arg(fixture.window.width()).arg(fixture.window.height())));
 }
 
 void tst_WindowSizes::panelsCanBeRemembered()

@@ -26,6 +26,8 @@ namespace {
 constexpr qint64 kDay = 86'400'000;
 constexpr int kProgramPixels = 16;
 constexpr int kReasonLines = 2;
+/// All of it fits onto a screen of 768 lines.
+constexpr int kSpace = 2;
 /// A plan with its times is longer than the panel is wide in most languages.
 constexpr int kPlanLines = 2;
 
@@ -135,8 +137,8 @@ void NowNextPanel::build()
     line->setFrameShadow(QFrame::Plain);
 
     auto* next = new QVBoxLayout(m_nextPart);
-    next->setContentsMargins(0, 4, 0, 0);
-    next->setSpacing(4);
+    next->setContentsMargins(0, kSpace, 0, 0);
+    next->setSpacing(kSpace);
     next->addWidget(line);
     next->addLayout(row({m_nextTitle}, {m_nextInserted}));
     next->addWidget(m_nextProgram);
@@ -144,8 +146,8 @@ void NowNextPanel::build()
     next->addWidget(m_nextTime);
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 8, 12, 10);
-    layout->setSpacing(4);
+    layout->setContentsMargins(12, 6, 12, 6);
+    layout->setSpacing(kSpace);
     layout->addLayout(row({m_nowTitle}, {m_inserted, m_picture}));
     layout->addWidget(m_program);
     layout->addWidget(m_bar);
