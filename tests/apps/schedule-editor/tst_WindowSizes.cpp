@@ -12,6 +12,7 @@
 #include <QToolBar>
 
 using namespace trel::desktop;
+using namespace trel::mediadispatch;
 
 namespace {
 
@@ -131,13 +132,24 @@ void tst_WindowSizes::fitsASmallScreen()
     }
 }
 
-/// Then it has most to say.
+/// It has most to say when something is cut in, and when what is saved differs.
 void tst_WindowSizes::fitsWhileItIsOnAir()
 {
     QFETCH(QString, language);
     Window fixture(language);
     fixture.manager.slotOpen();
-    QTRY_VERIFY(fixture.window.findChild<QWidget*>(QStringLiteral("effectLines"))->isVisible());
+    PlayTask task = fixture.manager.getTask(1);
+    PlayPlan inserted = task.plans[0];
+    inserted.serviceFlagA = true;
+    inserted.serviceFlagB = true;
+    task.plans[0].weeks = "2";
+    fixture.manager.addTask(task);
+    QVERIFY(fixture.host.trySave());
+    QVERIFY(fixture.host.insertPlan(1, inserted.id, inserted, false));
+    const auto isShown = [&fixture](const char* name) {
+        return !fixture.window.findChild<QWidget*>(QLatin1String(name))->isHidden();
+    };
+    QTRY_VERIFY(isShown("effectDiffering") && isShown("nowCutIn"));
     QCoreApplication::processEvents();
     fixture.window.resize(kSmall);
     QCoreApplication::processEvents();
