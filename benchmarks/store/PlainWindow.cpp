@@ -192,6 +192,9 @@ void PlainWindow::addPanels(int programs)
     QDockWidget* preview = addPanel(QStringLiteral("Preview"), picture, Qt::RightDockWidgetArea);
     hidden(addPanel(QStringLiteral("Clock changes"), clockChanges(), Qt::BottomDockWidgetArea));
     QDockWidget* wrong = addPanel(QStringLiteral("Problems"), problems(), Qt::BottomDockWidgetArea);
+    auto* desks = new QLabel(statusBar());
+    desks->hide();
+    statusBar()->addPermanentWidget(desks);
     auto* number = new QToolButton(statusBar());
     number->setText(QStringLiteral("No open problems"));
     number->setAutoRaise(true);

@@ -3483,4 +3483,24 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Alles andere von beiden bleibt erhalten.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::DeskNotice</name>
+    <message>
+        <source>Also edited at %1 since %2</source>
+        <comment>a desk, and a time</comment>
+        <translation>Auch bearbeitet an %1 seit %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Also edited at %n other desks</source>
+        <translation>
+            <numerusform>Auch an %n anderem Platz bearbeitet</numerusform>
+            <numerusform>Auch an %n anderen Plätzen bearbeitet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: since %2, last changed at %3, tasks %4</source>
+        <comment>a desk, times, and numbers</comment>
+        <translation>%1: seit %2, zuletzt geändert um %3, Aufträge %4</translation>
+    </message>
+</context>
 </TS>

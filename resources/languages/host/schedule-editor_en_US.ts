@@ -398,4 +398,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::DeskNotice</name>
+    <message numerus="yes">
+        <source>Also edited at %n other desks</source>
+        <translation>
+            <numerusform>Also edited at %n other desk</numerusform>
+            <numerusform>Also edited at %n other desks</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -3483,4 +3483,24 @@ What do you want to do with your changes?</source>
         <translation>Todo lo demás de ambos se conserva.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::DeskNotice</name>
+    <message>
+        <source>Also edited at %1 since %2</source>
+        <comment>a desk, and a time</comment>
+        <translation>También se edita en %1 desde %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Also edited at %n other desks</source>
+        <translation>
+            <numerusform>También se edita en %n puesto más</numerusform>
+            <numerusform>También se edita en %n puestos más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: since %2, last changed at %3, tasks %4</source>
+        <comment>a desk, times, and numbers</comment>
+        <translation>%1: desde %2, último cambio a las %3, tareas %4</translation>
+    </message>
+</context>
 </TS>

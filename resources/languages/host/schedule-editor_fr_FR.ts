@@ -3483,4 +3483,24 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Tout le reste des deux est conservé.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::DeskNotice</name>
+    <message>
+        <source>Also edited at %1 since %2</source>
+        <comment>a desk, and a time</comment>
+        <translation>Aussi modifiée à %1 depuis %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Also edited at %n other desks</source>
+        <translation>
+            <numerusform>Aussi modifiée à %n autre poste</numerusform>
+            <numerusform>Aussi modifiée à %n autres postes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: since %2, last changed at %3, tasks %4</source>
+        <comment>a desk, times, and numbers</comment>
+        <translation>%1 : depuis %2, dernière modification à %3, tâches %4</translation>
+    </message>
+</context>
 </TS>

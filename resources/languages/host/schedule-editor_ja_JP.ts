@@ -3435,4 +3435,23 @@ What do you want to do with your changes?</source>
         <translation>両方のそれ以外の変更はすべて残ります。</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::DeskNotice</name>
+    <message>
+        <source>Also edited at %1 since %2</source>
+        <comment>a desk, and a time</comment>
+        <translation>%1 でも編集中（%2 から）</translation>
+    </message>
+    <message numerus="yes">
+        <source>Also edited at %n other desks</source>
+        <translation>
+            <numerusform>ほかの %n 席でも編集中</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: since %2, last changed at %3, tasks %4</source>
+        <comment>a desk, times, and numbers</comment>
+        <translation>%1：%2 から、最終変更 %3、タスク %4</translation>
+    </message>
+</context>
 </TS>

@@ -3435,4 +3435,23 @@ What do you want to do with your changes?</source>
         <translation>양쪽의 나머지 변경은 모두 유지됩니다.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::DeskNotice</name>
+    <message>
+        <source>Also edited at %1 since %2</source>
+        <comment>a desk, and a time</comment>
+        <translation>%1에서도 편집 중(%2부터)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Also edited at %n other desks</source>
+        <translation>
+            <numerusform>다른 자리 %n곳에서도 편집 중</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: since %2, last changed at %3, tasks %4</source>
+        <comment>a desk, times, and numbers</comment>
+        <translation>%1: %2부터, 마지막 변경 %3, 작업 %4</translation>
+    </message>
+</context>
 </TS>

@@ -3483,4 +3483,24 @@ O que deseja fazer com as alterações?</translation>
         <translation>Todo o resto dos dois é mantido.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::DeskNotice</name>
+    <message>
+        <source>Also edited at %1 since %2</source>
+        <comment>a desk, and a time</comment>
+        <translation>Também editada em %1 desde %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Also edited at %n other desks</source>
+        <translation>
+            <numerusform>Também editada em mais %n posto</numerusform>
+            <numerusform>Também editada em mais %n postos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: since %2, last changed at %3, tasks %4</source>
+        <comment>a desk, times, and numbers</comment>
+        <translation>%1: desde %2, última alteração às %3, tarefas %4</translation>
+    </message>
+</context>
 </TS>

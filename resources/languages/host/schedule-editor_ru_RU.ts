@@ -3531,4 +3531,25 @@ What do you want to do with your changes?</source>
         <translation>Всё остальное с обоих мест сохраняется.</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::DeskNotice</name>
+    <message>
+        <source>Also edited at %1 since %2</source>
+        <comment>a desk, and a time</comment>
+        <translation>Правят также на %1 с %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Also edited at %n other desks</source>
+        <translation>
+            <numerusform>Правят также ещё на %n рабочем месте</numerusform>
+            <numerusform>Правят также ещё на %n рабочих местах</numerusform>
+            <numerusform>Правят также ещё на %n рабочих местах</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: since %2, last changed at %3, tasks %4</source>
+        <comment>a desk, times, and numbers</comment>
+        <translation>%1: с %2, последнее изменение в %3, задания %4</translation>
+    </message>
+</context>
 </TS>

@@ -3435,4 +3435,23 @@ What do you want to do with your changes?</source>
         <translation>双方的其他更改全部保留。</translation>
     </message>
 </context>
+<context>
+    <name>trel::desktop::DeskNotice</name>
+    <message>
+        <source>Also edited at %1 since %2</source>
+        <comment>a desk, and a time</comment>
+        <translation>%1 也在编辑（自 %2 起）</translation>
+    </message>
+    <message numerus="yes">
+        <source>Also edited at %n other desks</source>
+        <translation>
+            <numerusform>另有 %n 处也在编辑</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: since %2, last changed at %3, tasks %4</source>
+        <comment>a desk, times, and numbers</comment>
+        <translation>%1：自 %2 起，最后更改 %3，任务 %4</translation>
+    </message>
+</context>
 </TS>

@@ -18,6 +18,7 @@
 #include "catalogue/MediaDrop.h"
 #include "clock/ClockChangePanel.h"
 #include "common/PatientFile.h"
+#include "desks/DeskNotice.h"
 #include "draft/DraftKeeper.h"
 #include "effect/EffectActions.h"
 #include "follow/EditedSchedule.h"
@@ -123,6 +124,7 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     connectMenus();
     new EffectActions(*m_menus, *m_notices, this);
     new PlainTabTips(*this);
+    statusBar()->addPermanentWidget(new DeskNotice(m_drafts->desks(), statusBar()));
     buildPanels(languages, themes);
     retranslate();
     resize(kFirstSize);

@@ -10,6 +10,7 @@
 #include "scheduleControlUI.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/desks/DeskWatch.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
 #include "undo/ListAtRest.h"
 #include "versions/DifferenceWords.h"
@@ -54,6 +55,7 @@ DraftKeeper::DraftKeeper(scheduleControlUI& editor, QAction& bringBack, PendingN
     , m_themes(themes)
     , m_window(window)
     , m_journal(new DraftJournal(deskName(), this))
+    , m_desks(new DeskWatch(deskName(), this))
 {
     const ScheduleHost& host = ScheduleHost::instance();
     m_editor.installEventFilter(this);
@@ -75,6 +77,7 @@ DraftKeeper::DraftKeeper(scheduleControlUI& editor, QAction& bringBack, PendingN
 void DraftKeeper::begin()
 {
     m_journal->begin();
+    m_desks->begin(ScheduleHost::instance().path());
 }
 
 bool DraftKeeper::keep()
@@ -185,6 +188,7 @@ bool DraftKeeper::eventFilter(QObject* watched, QEvent* event)
 void DraftKeeper::tellUnsaved()
 {
     const bool isNow = isUnsaved();
+    m_desks->tellEdited(m_journal->unsavedTasks());
     if (std::exchange(m_wasUnsaved, isNow) != isNow) {
         emit unsavedChanged();
     }

@@ -11,6 +11,7 @@ class QAction;
 class QWidget;
 
 namespace trel::mediadispatch {
+class DeskWatch;
 class scheduleControlUI;
 } // namespace trel::mediadispatch
 
@@ -23,8 +24,8 @@ struct ChangesQuestion;
 class PendingNotices;
 class Themes;
 
-/// Looks after what is edited and not saved: has it written down while it is edited, offers what a
-/// former program has left, and brings back what was canceled.
+/// Looks after what is edited and not saved: has it written down while it is edited, tells other
+/// desks of it, offers what a former program has left, and brings back what was canceled.
 class DraftKeeper : public QObject
 {
     Q_OBJECT
@@ -49,6 +50,8 @@ public:
 
     /// There are changes that are neither saved nor canceled.
     bool isUnsaved() const;
+    /// What other desks have open for editing; they are told of this one.
+    const trel::mediadispatch::DeskWatch& desks() const { return *m_desks; }
     /// What was saved last, as far as this program has read it; valid until something is saved or
     /// read.
     const std::map<int, trel::mediadispatch::PlayTask>& saved() const;
@@ -99,6 +102,7 @@ private:
     const Themes& m_themes;
     QWidget* m_window;
     trel::mediadispatch::DraftJournal* m_journal;
+    trel::mediadispatch::DeskWatch* m_desks;
     bool m_wasUnsaved = false;
     bool m_isGoingOn = false;
 };

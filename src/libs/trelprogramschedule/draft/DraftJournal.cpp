@@ -132,6 +132,15 @@ void DraftJournal::adoptCanceled(const DraftTasks& tasks)
     setCanceled(tasks);
 }
 
+std::vector<int> DraftJournal::unsavedTasks() const
+{
+    std::vector<int> ids;
+    for (const auto& [id, task] : m_unsaved) {
+        ids.push_back(id);
+    }
+    return ids;
+}
+
 void DraftJournal::setCanceled(DraftTasks tasks)
 {
     const bool isOther = !m_canceled.empty() || !tasks.empty();

@@ -51,6 +51,8 @@ public:
     /// Whether anything that is recorded is unsaved, and was not canceled. Asked with every edit it
     /// costs nothing.
     bool isUnsaved() const { return !m_unsaved.empty(); }
+    /// The ids of the tasks that it is in, ascending.
+    std::vector<int> unsavedTasks() const;
     /// What was canceled since the last save.
     const DraftTasks& canceled() const { return m_canceled; }
     /// Hands it out to be filed in the working set, and counts it as unsaved from now on.
