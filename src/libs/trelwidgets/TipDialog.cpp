@@ -113,6 +113,8 @@ public:
     {
         const QStyle::StandardPixmap image =
             type == Confirmation ? QStyle::SP_MessageBoxQuestion : QStyle::SP_MessageBoxWarning;
+        // A picture needs a name, and the title says which kind of prompt it stands for.
+        icon->setAccessibleName(q->windowTitle());
         const int side = q->style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, q);
         icon->setPixmap(q->style()
                             ->standardIcon(image, nullptr, q)

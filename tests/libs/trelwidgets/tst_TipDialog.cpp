@@ -147,6 +147,7 @@ void TestTipDialog::tellsTheKindApart()
     bool hasPicture = false;
     runAnd(prompt, [prompt, &hasPicture] {
         const auto* icon = prompt->findChild<QLabel*>(QStringLiteral("dialogTipIcon"));
+        QCOMPARE(icon->accessibleName(), prompt->windowTitle());
         hasPicture = icon->pixmap(Qt::ReturnByValue).width() >= 16;
     });
     QVERIFY(hasPicture);
