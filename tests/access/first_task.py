@@ -112,7 +112,7 @@ class FirstTask:
             self.press("Add play task")
             try:
                 bus.wait_for(lambda: self.tour.find(
-                    self.editor, lambda thing: self.fits(thing, "push button", task)), task, 3)
+                    self.editor, lambda thing: self.fits(thing, "push button", task)), task, 8)
                 return
             except AssertionError:
                 continue

@@ -1,4 +1,5 @@
 #include "HostFixture.h"
+#include "screen/NowNextPanel.h"
 #include "screen/ProgramPicture.h"
 #include "support/MediaLibraries.h"
 #include "support/TestProgram.h"
@@ -108,7 +109,7 @@ void tst_EditorStart::aPanelTakenOutMeanwhileIsPaintedToo()
     HostFixture fixture;
     auto* panel = fixture.window.findChild<QDockWidget*>(QStringLiteral("nowNextDock"));
     QVERIFY(panel != nullptr);
-    PaintCounter paints(*panel->widget());
+    PaintCounter paints(*panel->findChild<NowNextPanel*>());
 
     fixture.window.show();
     panel->setFloating(true);

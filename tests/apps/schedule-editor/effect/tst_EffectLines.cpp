@@ -160,8 +160,9 @@ void tst_EffectLines::theyAreInTheLanguageInUse()
     fixture.start();
     fixture.save(QStringLiteral("2 2024.03.04-2024.03.10 / 08:00:00-09:00:00 D"));
     fixture.languages.select(QStringLiteral("de_DE"));
-    QTRY_COMPARE(fixture.text("effectSince"),
-                 QStringLiteral("In Kraft seit dem 04.03.24 um 08:00:03 (Speicherung 1)"));
+    QTRY_COMPARE(
+        fixture.text("effectSince"),
+        QStringLiteral("In Kraft seit dem \u20662024.03.04\u2069 um 08:00:03 (Speicherung 1)"));
     QCOMPARE(fixture.text("effectDiffering"),
              QString::fromUtf8("Der gespeicherte Stand weicht in 2 Aufträgen ab: 1, 2"));
 }
