@@ -342,7 +342,7 @@ void ProgramChoose::moveRows(bool up, bool byChecks)
     std::vector<int> rows;
     if (byChecks) {
         rows = checkedRows(*m_planModel);
-    } else if (m_contextRow >= 0) {
+    } else if (m_contextRow >= 0 && m_contextRow < m_planModel->rowCount()) {
         rows.push_back(m_contextRow);
     }
     auto* model = qobject_cast<QStandardItemModel*>(ui->tableViewChoonse->model());
@@ -359,12 +359,14 @@ void ProgramChoose::moveRows(bool up, bool byChecks)
     renumberPlanRows();
 }
 
-// By a key, which means the row of the cursor as the menu means the one that it was opened on.
+// By a key, which means the row of the cursor as the menu means the one that it was opened on. That
+// one stays the row of the menu.
 void ProgramChoose::moveRow(int row, bool up)
 {
     takeOverOpenCount();
-    m_contextRow = row;
+    const int rowOfMenu = std::exchange(m_contextRow, row);
     moveRows(up, false);
+    m_contextRow = rowOfMenu;
     m_keyboard->follow(moveTarget({row}, up, m_planModel->rowCount()));
     ui->hideTip();
     updateTotalDuration(kNoRow, kNoRow);

@@ -1,6 +1,8 @@
 #include "InUseFixture.h"
 #include "support/TestProgram.h"
 
+#include "chooser/RowCursor.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QPointer>
@@ -69,6 +71,8 @@ private slots:
     void leavingAfterATakeOverKeepsTheCount();
     void theWarningGoesWithTheCount();
     void cancellingTakesNothingOver();
+    void aMoveByKeyLeavesTheRowOfTheMenu();
+    void theMenuOfARowThatHasGoneMovesNothing();
 };
 
 void tst_ProgramChooseCounts::aMoveTakesTheCountAlong()
@@ -251,6 +255,38 @@ void tst_ProgramChooseCounts::cancellingTakesNothingOver()
     QCOMPARE(outcome.result, 2);
     QCOMPARE(line(outcome.programs), QStringLiteral("1 A x2, 2 B x1, 3 C x1"));
     QCOMPARE(fixture.service.count(QStringLiteral("addPlan")), 0);
+}
+
+void tst_ProgramChooseCounts::aMoveByKeyLeavesTheRowOfTheMenu()
+{
+    InUseFixture fixture(abc());
+    fixture.openExisting([](ChooserWindow& chooser) {
+        openMenu(chooser, 2);
+        QTest::keyClick(RowCursor::of(*chooser.planTable()), Qt::Key_Down, Qt::AltModifier);
+        QCOMPARE(joined(chooser.planRows()), QStringLiteral("[ ]01 B x1|[ ]02 A x2|[ ]03 C x1"));
+        trigger(chooser, UpLine);
+        QCOMPARE(joined(chooser.planRows()), QStringLiteral("[ ]01 B x1|[ ]02 C x1|[ ]03 A x2"));
+        chooser.cancel();
+    });
+}
+
+void tst_ProgramChooseCounts::theMenuOfARowThatHasGoneMovesNothing()
+{
+    InUseFixture fixture(abc());
+    fixture.openExisting([](ChooserWindow& chooser) {
+        openMenu(chooser, 2);
+        chooser.checkPlan(2);
+        chooser.remove();
+        for (const MenuLine menuLine : {UpLine, DownLine}) {
+            trigger(chooser, menuLine);
+            QCOMPARE(joined(chooser.planRows()), QStringLiteral("[ ]01 A x2|[ ]02 B x1"));
+        }
+        chooser.checkAllPlan();
+        chooser.remove();
+        trigger(chooser, DownLine);
+        QCOMPARE(chooser.planRows(), QStringList());
+        chooser.cancel();
+    });
 }
 
 TREL_TEST(tst_ProgramChooseCounts, QApplication)

@@ -3,6 +3,7 @@
 #include "support/ActiveAccessibility.h"
 #include "support/TestProgram.h"
 
+#include "SHeaderView.h"
 #include "access/AccessibleFactory.h"
 #include "chooser/RowCursor.h"
 
@@ -77,6 +78,7 @@ private slots:
     void altArrowsMoveTheRow();
     void countsAreTyped();
     void countsAreOpened();
+    void aCountOpensInSight();
     void escapeLeavesTheCountAlone();
     void escapeLeavesTheChooser();
     void anEmptyTableIsPassedThrough();
@@ -175,6 +177,13 @@ void tst_ProgramChooseRowKeys::rowsOutOfSightAreScrolledTo()
         press("End");
         QCOMPARE(offers(chooser).row(), 59);
         QVERIFY(isInSight(59) && !isInSight(0));
+        // Those that mean nothing here do not reach the table either.
+        for (const char* keys : {"Right", "Ctrl+Home", "Ctrl+Up", "Left", "Alt+M"}) {
+            press(keys);
+            QVERIFY2(isInSight(59), keys);
+        }
+        QCOMPARE(offers(chooser).row(), 59);
+        QCOMPARE(table->currentIndex(), QModelIndex());
         press("Home");
         QVERIFY(isInSight(0));
         chooser.cancel();
@@ -185,6 +194,7 @@ void tst_ProgramChooseRowKeys::lettersGoToTheNextName()
 {
     ChooserFixture fixture;
     fixture.service.addProgram(7, "bats", 1.0);
+    fixture.service.addProgram(8, "24 h", 1.0);
     fixture.openNew([](ChooserWindow& chooser) {
         activate(chooser);
         press("B");
@@ -195,6 +205,8 @@ void tst_ProgramChooseRowKeys::lettersGoToTheNextName()
         QCOMPARE(offers(chooser).row(), 1);
         press("X");
         QCOMPARE(offers(chooser).row(), 1);
+        press("2");
+        QCOMPARE(offers(chooser).row(), 7);
         chooser.cancel();
     });
 }
@@ -320,6 +332,15 @@ void tst_ProgramChooseRowKeys::deleteRemovesTheRowWhenNothingIsChecked()
         press("Alt+Up");
         press("F2");
         QCOMPARE(chooser.planRows(), QStringList());
+        // The mark that the last row had for the press is not the one of the header.
+        const auto* const header =
+            qobject_cast<SHeaderView*>(chooser.planTable()->horizontalHeader());
+        QVERIFY(!header->isChecked());
+        offers(chooser).setFocus();
+        press("Return");
+        choices(chooser).setFocus();
+        press("Ctrl+A");
+        QCOMPARE(chooser.planRows(), QStringList(QStringLiteral("[x]01 A x1")));
         chooser.cancel();
     });
 }
@@ -384,6 +405,23 @@ void tst_ProgramChooseRowKeys::countsAreOpened()
             chooser.cancel();
         });
     }
+}
+
+void tst_ProgramChooseRowKeys::aCountOpensInSight()
+{
+    ChooserFixture fixture;
+    fixture.setPrograms(std::vector<struProgInfo>(60, entry(1, "A")));
+    fixture.openExisting([](ChooserWindow& chooser) {
+        activate(chooser);
+        choices(chooser).setFocus();
+        QScrollBar* const bar = chooser.planTable()->verticalScrollBar();
+        bar->setValue(bar->maximum());
+        press("F2");
+        const QWidget* const box = qobject_cast<QSpinBox*>(QApplication::focusWidget());
+        QVERIFY(box);
+        QVERIFY(chooser.planTable()->viewport()->rect().contains(box->geometry()));
+        chooser.cancel();
+    });
 }
 
 void tst_ProgramChooseRowKeys::escapeLeavesTheCountAlone()

@@ -15,7 +15,8 @@ namespace trel::mediadispatch {
 namespace {
 
 /// Presses a button for the checked rows, or for the row of the cursor when none is checked: its
-/// mark is set meanwhile, and taken away where the row is still there.
+/// mark is set meanwhile, and taken away where the row is still there. Where it has gone, the mark
+/// of the header stays what it was: the last row would leave it set over an empty table.
 void pressForRows(RowCursor& cursor, QPushButton& button, bool isRowKept)
 {
     QTableView& table = cursor.table();
@@ -27,12 +28,16 @@ void pressForRows(RowCursor& cursor, QPushButton& button, bool isRowKept)
         button.click();
         return;
     }
-    const QModelIndex mark = table.model()->index(row, ChoiceCheckColumn);
+    auto* const header = qobject_cast<SHeaderView*>(table.horizontalHeader());
+    const bool areAllChecked = header && header->isChecked();
+    const QPersistentModelIndex mark = table.model()->index(row, ChoiceCheckColumn);
     cursor.setTellsMarks(false);
     marks->toggle(*table.model(), mark);
     button.click();
     if (isRowKept) {
         marks->toggle(*table.model(), mark);
+    } else if (header && !mark.isValid()) {
+        header->setChecked(areAllChecked);
     }
     cursor.setTellsMarks(true);
 }
@@ -96,6 +101,8 @@ void ChooserKeyboard::openCount(const QString& typed)
 {
     QTableView& table = *m_form.tableViewChoonse;
     const QModelIndex cell = table.model()->index(m_choices.row(), ChoiceCountColumn);
+    // A box opens where its cell is, in sight or not.
+    table.scrollTo(cell);
     table.edit(cell);
     auto* const box = qobject_cast<QSpinBox*>(table.indexWidget(cell));
     if (box && !typed.isEmpty()) {

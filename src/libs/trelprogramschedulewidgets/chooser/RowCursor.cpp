@@ -5,6 +5,7 @@
 #include "SHeaderView.h"
 
 #include <QAccessible>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
@@ -96,8 +97,16 @@ void RowCursor::keyPressEvent(QKeyEvent* event)
     event->accept();
     if (!goByKey(*event) && !markByKey(*event) && !commandByKey(*event) &&
         !(isPlain(*event) && goToName(event->text()))) {
-        QWidget::keyPressEvent(event);
+        passOn(*event);
     }
+}
+
+// Past the table: it would go to another cell of its own by the key, and scroll, with nothing that
+// shows it and the row of the keys left out of sight.
+void RowCursor::passOn(QKeyEvent& key) const
+{
+    QCoreApplication::sendEvent(m_table.parentWidget(), &key);
+    key.accept();
 }
 
 bool RowCursor::goByKey(const QKeyEvent& key)
@@ -159,7 +168,8 @@ bool RowCursor::commandByKey(const QKeyEvent& key)
     if (!isPlain(key)) {
         return false;
     }
-    const bool isDigit = key.key() >= Qt::Key_1 && key.key() <= Qt::Key_9;
+    const bool isDigit = key.key() >= Qt::Key_1 && key.key() <= Qt::Key_9 &&
+                         m_table.model()->columnCount() > ChoiceCountColumn;
     if (isDigit || key.key() == Qt::Key_F2) {
         emit commandGiven(RowCommand::Count, isDigit ? key.text() : QString());
         return true;

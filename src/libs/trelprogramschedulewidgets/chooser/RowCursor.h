@@ -24,7 +24,8 @@ enum class RowCommand {
 ///
 /// The up and down keys, those for pages and Home and End go to another row, and a letter to the
 /// next one whose program begins with it. Space turns the mark of the row over and Control with A
-/// that of the header, each as a press does.
+/// that of the header, each as a press does. A digit begins a count where the table has counts, and
+/// a name where it has none. Keys that mean nothing here go to what is around the table.
 ///
 /// A row that the pointer presses is gone to as well.
 ///
@@ -67,6 +68,7 @@ protected:
 
 private:
     void place(int row);
+    void passOn(QKeyEvent& key) const;
     void scrollToRow();
     bool goByKey(const QKeyEvent& key);
     bool markByKey(const QKeyEvent& key);
