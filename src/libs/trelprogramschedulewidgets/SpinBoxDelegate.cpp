@@ -1,18 +1,14 @@
 #include "SpinBoxDelegate.h"
 
-#include "SHeaderView.h"
-#include "chooser/ChooserColumns.h"
+#include "chooser/CountCell.h"
 #include "toolkit/FocusedWheel.h"
 
 #include <QSpinBox>
-#include <QStringBuilder>
 
 namespace trel::mediadispatch {
 
 namespace {
 
-constexpr int kLeastCount = 1;
-constexpr int kMostCount = 999;
 constexpr QSize kBoxSize(80, 30);
 
 } // namespace
@@ -28,8 +24,7 @@ QWidget* SpinBoxDelegate::createEditor(QWidget* parent, const QStyleOptionViewIt
     box->setFixedSize(kBoxSize);
     box->setRange(kLeastCount, kMostCount);
     box->setFrame(false);
-    box->setAccessibleName(index.siblingAtColumn(ChoiceNameColumn).data().toString() %
-                           QLatin1String(", ") % SHeaderView::label(ChoiceCountColumn));
+    box->setAccessibleName(countName(index));
     connect(
         box, QOverload<int>::of(&QSpinBox::valueChanged), this,
         [this, cell = QPersistentModelIndex(index)](int value) { emit valueChanged(cell, value); });

@@ -27,8 +27,8 @@ public:
 
 signals:
     /// The box of a cell has another value, at every step and before the model has it; also when
-    /// the box takes over a value of the model. index is the cell where it stands now; rows above
-    /// it may have gone since its box was made.
+    /// the box takes over a value of the model, and when a screen reader has set one. index is the
+    /// cell where it stands now; rows above it may have gone since its box was made.
     void valueChanged(QModelIndex index, int value) const;
 };
 

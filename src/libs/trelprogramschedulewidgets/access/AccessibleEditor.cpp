@@ -10,7 +10,6 @@
 #include <QPushButton>
 #include <QStringBuilder>
 #include <QTableView>
-#include <QTimer>
 
 #include <utility>
 
@@ -69,11 +68,14 @@ QString AccessibleEditor::text(QAccessible::Text kind) const
 void AccessibleEditor::later(std::function<void(QWidget&)> work) const
 {
     QWidget* const editor = widget();
-    QTimer::singleShot(0, editor, [editor, work = std::move(work)] {
-        if (editor->isEnabled() && editor->isVisible() && !isBehindPrompt(*editor->window())) {
-            work(*editor);
-        }
-    });
+    QMetaObject::invokeMethod(
+        editor,
+        [editor, work = std::move(work)] {
+            if (editor->isEnabled() && editor->isVisible() && !isBehindPrompt(*editor->window())) {
+                work(*editor);
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 } // namespace trel::mediadispatch

@@ -13,6 +13,7 @@
 #include "access/AccessibleFoldBar.h"
 #include "access/AccessiblePlanTable.h"
 #include "access/AccessibleProgramTable.h"
+#include "access/AccessibleRowCursor.h"
 #include "centerWidget.h"
 #include "chooser/RowCursor.h"
 
@@ -112,9 +113,8 @@ QAccessibleInterface* interfaceOf(const QString& /*className*/, QObject* object)
     if (days && isInCard(*days)) {
         return new AccessibleDayList(*list);
     }
-    if (const auto* const cursor = qobject_cast<RowCursor*>(object)) {
-        // It has the focus in the place of its table, and speaks for it.
-        return new AccessibleProgramTable(cursor->table());
+    if (auto* const cursor = qobject_cast<RowCursor*>(object)) {
+        return new AccessibleRowCursor(*cursor);
     }
     auto* const programs = qobject_cast<QTableView*>(object);
     if (programs && qobject_cast<ProgramChoose*>(programs->parentWidget())) {

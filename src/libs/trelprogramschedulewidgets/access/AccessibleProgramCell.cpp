@@ -2,27 +2,18 @@
 
 #include "CheckBoxDelegate.h"
 #include "SHeaderView.h"
+#include "SpinBoxDelegate.h"
 #include "card/PlanCells.h"
 #include "chooser/ChooserColumns.h"
+#include "chooser/CountCell.h"
 #include "chooser/RowCursor.h"
 
-#include <QCoreApplication>
-#include <QKeyEvent>
-#include <QSpinBox>
 #include <QStringBuilder>
 
 #include <algorithm>
 #include <cmath>
 
 namespace trel::mediadispatch {
-
-namespace {
-
-// As in the boxes of play counts.
-constexpr int kLeastCount = 1;
-constexpr int kMostCount = 999;
-
-} // namespace
 
 AccessibleProgramCell::AccessibleProgramCell(QTableView& table, int row, int column)
     : m_table(&table)
@@ -66,9 +57,8 @@ QString AccessibleProgramCell::text(QAccessible::Text kind) const
     if (kind != QAccessible::Name || !isValid()) {
         return QString();
     }
-    const QString program = cell(OfferNameColumn).data().toString();
-    return isMark()    ? program
-           : isCount() ? QString(program % QLatin1String(", ") % SHeaderView::label(m_column))
+    return isMark()    ? cell(OfferNameColumn).data().toString()
+           : isCount() ? countName(cell(m_column))
                        : own;
 }
 
@@ -147,7 +137,8 @@ QVariant AccessibleProgramCell::currentValue() const
     return cell(m_column).data().toInt();
 }
 
-// Through the box of the cell, which tells the chooser of the new total on its way.
+// Without a box: that would take the focus, and another one that is open would keep it from
+// opening. The chooser shows its total by what the delegate tells.
 void AccessibleProgramCell::setCurrentValue(const QVariant& value)
 {
     bool isNumber = false;
@@ -155,12 +146,13 @@ void AccessibleProgramCell::setCurrentValue(const QVariant& value)
     if (!isNumber || std::isnan(number) || !isCount() || !canBeWorked()) {
         return;
     }
-    m_table->edit(cell(m_column));
-    if (auto* const box = qobject_cast<QSpinBox*>(m_table->indexWidget(cell(m_column)))) {
-        box->setValue(
-            static_cast<int>(std::clamp(number, double(box->minimum()), double(box->maximum()))));
-        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-        QCoreApplication::sendEvent(box, &enter);
+    const auto* const counts =
+        qobject_cast<const SpinBoxDelegate*>(m_table->itemDelegateForColumn(m_column));
+    if (counts) {
+        const auto count =
+            static_cast<int>(std::clamp(number, double(kLeastCount), double(kMostCount)));
+        m_table->model()->setData(cell(m_column), count, Qt::EditRole);
+        emit counts->valueChanged(cell(m_column), count);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QLayout>
+#include <QMenu>
 #include <QPushButton>
 #include <QTableView>
 
@@ -30,6 +31,11 @@ QWidget* editorIn(const QTableView& table, const QModelIndex& cell)
 
 bool isBehindPrompt(const QWidget& window)
 {
+    // A menu that is open is waited for as well, though it is not modal.
+    const auto* const menu = qobject_cast<const QMenu*>(QApplication::activePopupWidget());
+    if (menu && menu != &window) {
+        return true;
+    }
     const QWidget* const modal = QApplication::activeModalWidget();
     return modal && modal != &window && !modal->isAncestorOf(&window) &&
            (modal->windowModality() == Qt::ApplicationModal || modal->parentWidget() == &window);

@@ -14,9 +14,9 @@ QModelIndex cellOf(const QTableView& table, const QWidget* inside);
 /// program field opens the chooser. Null when the cell has no editor.
 QWidget* editorIn(const QTableView& table, const QModelIndex& cell);
 
-/// Whether a prompt stands over a window. What comes from elsewhere than its own events, such as a
-/// key or a screen reader, would reach what is behind the prompt all the same, and bring the next
-/// one over the first.
+/// Whether a prompt stands over a window, or a menu is open anywhere. What comes from elsewhere
+/// than its own events, such as a key or a screen reader, would reach what is behind the prompt all
+/// the same, and bring the next one over the first, or take away what the menu is about.
 bool isBehindPrompt(const QWidget& window);
 
 } // namespace trel::mediadispatch

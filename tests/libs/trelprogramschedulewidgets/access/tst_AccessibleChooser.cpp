@@ -7,7 +7,9 @@
 
 #include <QAccessible>
 #include <QDialog>
+#include <QMenu>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTableView>
 #include <QtTest>
 
@@ -74,13 +76,16 @@ private slots:
     void headingsStandOverTheirCells();
     void theMarkOfTheHeadingChecksAll();
     void theRowOfTheKeysHasTheFocus();
+    void whatHasTheFocusIsNoOtherTable();
     void marksSayTheirPlace();
     void theWayUpIsTheWayDown();
     void programsAreCheckedAndChosen();
     void countsAreReadAndSet();
+    void countsAreSetBesideOneAnother();
     void whatIsNoCountChangesNothing();
     void rowsThatHaveGoneAreNotValid();
     void nothingIsWorkedBehindAnotherWindow();
+    void nothingIsWorkedBehindAMenu();
     void buttonsOfOtherWindowsAreTheToolkits();
 
 private:
@@ -209,11 +214,32 @@ void tst_AccessibleChooser::theRowOfTheKeysHasTheFocus()
             QAccessible::queryAccessibleInterface(QApplication::focusWidget());
         QCOMPARE(inPlace->role(), QAccessible::Table);
         QCOMPARE(inPlace->text(QAccessible::Name), chooser.programTable()->accessibleName());
+        QCOMPARE(inPlace->focusChild(), news);
+        QCOMPARE(inPlace->parent(), spoken(chooser.programTable()));
         spoken(chooser.planTable())
             ->actionInterface()
             ->doAction(QAccessibleActionInterface::setFocusAction());
         QVERIFY(at(chooser.planTable(), 0, 0)->state().focused);
         QVERIFY(!news->state().focused);
+    });
+}
+
+void tst_AccessibleChooser::whatHasTheFocusIsNoOtherTable()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QTRY_COMPARE(QApplication::activeWindow(), chooser.frame());
+        QTableView* const view = chooser.programTable();
+        QWidget* const cursor = QApplication::focusWidget();
+        QVERIFY(view->isAncestorOf(cursor));
+        const QAccessible::Id table = QAccessible::uniqueId(spoken(view));
+        const QAccessible::Id mark = QAccessible::uniqueId(at(view, 0, 0));
+        QCOMPARE(spoken(cursor), spoken(cursor));
+        QVERIFY(spoken(cursor) != spoken(view));
+        QCOMPARE(QAccessible::uniqueId(spoken(view)), table);
+        QCOMPARE(QAccessible::uniqueId(at(view, 0, 0)), mark);
+        // The rows are told once, below the table.
+        QCOMPARE(spoken(cursor)->childCount(), 0);
+        QVERIFY(!spoken(cursor)->tableInterface());
     });
 }
 
@@ -301,6 +327,31 @@ void tst_AccessibleChooser::countsAreReadAndSet()
     });
 }
 
+void tst_AccessibleChooser::countsAreSetBesideOneAnother()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QTRY_COMPARE(QApplication::activeWindow(), chooser.frame());
+        toggle(at(chooser.programTable(), 1, 0));
+        chooser.choose();
+        QSpinBox* const box = chooser.openCount(0);
+        QPushButton* const cancel = chooser.button("cancelBtn");
+        box->setFocus();
+        at(chooser.planTable(), 0, 3)->valueInterface()->setCurrentValue(3);
+        at(chooser.planTable(), 1, 3)->valueInterface()->setCurrentValue(4);
+        QCOMPARE(lines(chooser.planTable()).join(u'|'),
+                 QStringLiteral("[ ] Film|01|Film|Film, zhPlayCounts = 3|"
+                                "[ ] News|02|News|News, zhPlayCounts = 4"));
+        QCOMPARE(chooser.total(), QStringLiteral("00:05:00.000"));
+        // A box that is open shows what has been set.
+        QCOMPARE(box->value(), 3);
+        QCOMPARE(QApplication::focusWidget(), box);
+        cancel->setFocus();
+        at(chooser.planTable(), 1, 3)->valueInterface()->setCurrentValue(5);
+        QCOMPARE(QApplication::focusWidget(), cancel);
+        QCOMPARE(chooser.planRows().back(), QStringLiteral("[ ]02 News x5"));
+    });
+}
+
 void tst_AccessibleChooser::whatIsNoCountChangesNothing()
 {
     withChooser([](ChooserWindow& chooser) {
@@ -344,6 +395,31 @@ void tst_AccessibleChooser::nothingIsWorkedBehindAnotherWindow()
         prompt.close();
         toggle(mark);
         QVERIFY(mark->state().checked);
+    });
+}
+
+void tst_AccessibleChooser::nothingIsWorkedBehindAMenu()
+{
+    withChooser([](ChooserWindow& chooser) {
+        QPushButton* const button = chooser.button("pushButtonDelete");
+        const auto pressDelete = [button] {
+            spoken(button)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            // It comes with what is posted: no timer is waited for.
+            QCoreApplication::sendPostedEvents(button, QEvent::MetaCall);
+        };
+        QAccessibleInterface* const mark = at(chooser.planTable(), 0, 0);
+        toggle(mark);
+        QMenu menu;
+        menu.addAction(QStringLiteral("Other"));
+        menu.popup(chooser.planTable()->mapToGlobal(QPoint(9, 9)));
+        QTRY_COMPARE(QApplication::activePopupWidget(), &menu);
+        toggle(mark);
+        QVERIFY(mark->state().checked);
+        pressDelete();
+        QCOMPARE(chooser.planRows(), QStringList(QStringLiteral("[x]01 Film x1")));
+        menu.close();
+        pressDelete();
+        QCOMPARE(chooser.planRows(), QStringList());
     });
 }
 
