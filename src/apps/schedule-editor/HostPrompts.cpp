@@ -13,7 +13,8 @@ using trel::widgets::TipDialog;
 namespace {
 
 /// Frees itself after its run. It has a title of its own: with that of the window behind it, nobody
-/// who only hears the title would know that there is another window. Its sign says the same.
+/// who only hears the title would know that there is another window. It names the picture of
+/// the prompt as well.
 TipDialog* promptOf(TipDialog::TipType type, const QString& text)
 {
     auto* prompt = new TipDialog(type);
@@ -21,9 +22,6 @@ TipDialog* promptOf(TipDialog::TipType type, const QString& text)
     prompt->setWindowTitle(type == TipDialog::Notice
                                ? QCoreApplication::translate("HostPrompts", "Message")
                                : QCoreApplication::translate("HostPrompts", "Question"));
-    if (auto* sign = prompt->findChild<QWidget*>(QStringLiteral("dialogTipIcon"))) {
-        sign->setAccessibleName(prompt->windowTitle());
-    }
     return prompt;
 }
 

@@ -113,8 +113,6 @@ public:
     {
         const QStyle::StandardPixmap image =
             type == Confirmation ? QStyle::SP_MessageBoxQuestion : QStyle::SP_MessageBoxWarning;
-        // A picture needs a name, and the title says which kind of prompt it stands for.
-        icon->setAccessibleName(q->windowTitle());
         const int side = q->style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, q);
         icon->setPixmap(q->style()
                             ->standardIcon(image, nullptr, q)
@@ -164,6 +162,10 @@ public:
         placed.moveLeft(qMax(placed.left(), area.left()));
         q->move(placed.topLeft());
     }
+
+    /// A picture needs a name, and a title that the prompt was given says what it stands for. That
+    /// of the window below says nothing of the picture.
+    void nameIcon() { icon->setAccessibleName(q->windowTitle()); }
 
     void takeTitleFrom(const QWidget* below)
     {
@@ -258,6 +260,7 @@ PromptBoxTriggerInfo TipDialog::run()
     const QPointer<TipDialog> self(this);
     const std::shared_ptr<int> pressed = d->pressed;
     QWidget* below = windowBelow(*this);
+    d->nameIcon();
     d->takeTitleFrom(below);
     d->showIcon();
     d->fitText();
