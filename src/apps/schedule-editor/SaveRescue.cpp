@@ -142,7 +142,10 @@ StoreResult SaveRescue::takeOther()
 {
     StoreResult result = m_host.reload();
     if (result) {
-        m_drafts.giveUp();
+        // A third program may have saved since it was asked. What the others have changed is no
+        // edit of mine, though the working set has it otherwise.
+        const ScheduleMerge taken(m_merge->base(), m_drafts.saved(), m_merge->mine());
+        m_drafts.giveUp(taken.edits());
     }
     return result;
 }

@@ -115,6 +115,7 @@ private slots:
     void mineIsSavedOverTheirs();
     void nobodySavesOverWhatNobodyWasToldOf();
     void theirsIsTaken();
+    void mineComesBackBesideTheirs();
     void mineGoesIntoAFile();
     void quittingKeepsTheEdits_data();
     void quittingKeepsTheEdits();
@@ -145,9 +146,13 @@ private:
         /// Another program takes out the last task of the stored set.
         void saveElsewhere() const
         {
-            const QString file = folder.filePath(QStringLiteral("theirs.json"));
             std::map<int, PlayTask> theirs = window.drafts().saved();
             theirs.erase(std::prev(theirs.end()));
+            saveElsewhere(theirs);
+        }
+        void saveElsewhere(const std::map<int, PlayTask>& theirs) const
+        {
+            const QString file = folder.filePath(QStringLiteral("theirs.json"));
             QVERIFY(!writeScheduleFile(file, theirs));
             control({QStringLiteral("import-schedule"), file});
         }
@@ -393,7 +398,45 @@ void tst_SaveRescue::theirsIsTaken()
     QAction* const back = fixture.window.findChild<EditorMenus*>()->bringBack();
     QVERIFY(back->isEnabled());
     back->trigger();
-    QCOMPARE(fixture.ids(fixture.manager.getAllTask()), QStringLiteral("1 2 3 7"));
+    QCOMPARE(fixture.ids(fixture.manager.getAllTask()), QStringLiteral("1 2 7"));
+}
+
+// What the other desk has made stays, whatever is brought back.
+void tst_SaveRescue::mineComesBackBesideTheirs()
+{
+    Edited fixture;
+    const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
+    fixture.window.show();
+    fixture.edit();
+    std::map<int, PlayTask> theirs = fixture.window.drafts().saved();
+    theirs.at(1).endDate = "2029.12.31";
+    for (const int id : {7, 9}) {
+        PlayTask task;
+        task.id = id;
+        task.startDate = task.endDate = "2031.01.0" + std::to_string(id);
+        theirs[id] = task;
+    }
+    fixture.saveElsewhere(theirs);
+    fixture.manager.deleteTask(2);
+    {
+        const ChangesAnswer take(4);
+        fixture.editor->slotSave();
+    }
+    QVERIFY(!fixture.editor->isVisible());
+    QTRY_VERIFY(!fixture.host.hasUnsavedChanges());
+    QCoreApplication::processEvents();
+    QVERIFY(!fixture.window.drafts().isUnsaved());
+    QAction* const back = fixture.window.findChild<EditorMenus*>()->bringBack();
+    QVERIFY(back->isEnabled());
+    fixture.showEditor();
+    back->trigger();
+    // What both have added under one id are two tasks.
+    const std::map<int, PlayTask> tasks = fixture.manager.getAllTask();
+    QCOMPARE(fixture.ids(tasks), QStringLiteral("1 3 7 9 10"));
+    QCOMPARE(tasks.at(1).endDate, theirs.at(1).endDate);
+    QCOMPARE(tasks.at(7).startDate, theirs.at(7).startDate);
+    QCOMPARE(tasks.at(10).startDate, std::string("2030.01.01"));
+    QCOMPARE(tasks.at(10).id, 10);
 }
 
 void tst_SaveRescue::mineGoesIntoAFile()

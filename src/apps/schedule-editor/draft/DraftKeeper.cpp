@@ -112,9 +112,9 @@ int DraftKeeper::ask(const changes::ChangesQuestion& question) const
     return dialog.ask();
 }
 
-void DraftKeeper::giveUp()
+void DraftKeeper::giveUp(const DraftTasks& tasks)
 {
-    m_journal->cancel();
+    m_journal->giveUp(tasks);
     tellUnsaved();
     // The list is in the midst of a save.
     QMetaObject::invokeMethod(this, &DraftKeeper::readAgain, Qt::QueuedConnection);
@@ -125,9 +125,16 @@ void DraftKeeper::readAgain()
     if (m_editor.isVisible()) {
         m_editor.clearAndInitialize();
     } else {
-        // The cards of the former schedule would answer what is told of the other one.
-        emit m_editor.sigclearPlanList();
+        readAgainHidden();
     }
+}
+
+void DraftKeeper::readAgainHidden()
+{
+    // The cards of the former schedule would answer what is told of the other one. They come when
+    // the editor is shown.
+    emit m_editor.sigclearPlanList();
+    scheduleManage::getInstance().updateUItask();
 }
 
 StoreResult DraftKeeper::mergeWith(qint64 number, const std::map<int, PlayTask>& merged)

@@ -58,8 +58,9 @@ public:
 
     /// Asks about changes, over the window; see changes::ChangesDialog::ask().
     int ask(const changes::ChangesQuestion& question) const;
-    /// The changes go, for what is saved, once the event loop runs, and can be brought back.
-    void giveUp();
+    /// What is edited goes, for another save that has been read, once the event loop runs. These of
+    /// the changes, as edits of that save, can be brought back.
+    void giveUp(const trel::mediadispatch::DraftTasks& tasks);
     /// In the midst of a save: as ScheduleHost::mergeWith(), and the editor shows what comes of it.
     trel::mediadispatch::StoreResult
     mergeWith(qint64 number, const std::map<int, trel::mediadispatch::PlayTask>& merged);
@@ -91,6 +92,7 @@ private:
     std::map<int, trel::mediadispatch::PlayTask>
     scheduleOf(const trel::mediadispatch::LeftDraft& left) const;
     void readAgain();
+    void readAgainHidden();
     /// Has the editor show the tasks that are others than in a former working set.
     void showOthers(const std::map<int, trel::mediadispatch::PlayTask>& former);
     /// Puts tasks into the working set, and shows it.

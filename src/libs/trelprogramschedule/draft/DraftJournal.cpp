@@ -30,10 +30,17 @@ std::shared_ptr<const PlayTask> shared(const std::optional<PlayTask>& task)
     return task ? std::make_shared<const PlayTask>(*task) : nullptr;
 }
 
-std::optional<PlayTask> workingTask(int taskId)
+/// Null where there is none.
+const PlayTask* workingTask(int taskId)
 {
     const auto task = sets().working().find(taskId);
-    return task == sets().working().end() ? std::nullopt : std::optional(task->second);
+    return task == sets().working().end() ? nullptr : &task->second;
+}
+
+/// Null stands for no task.
+bool isSame(const std::shared_ptr<const PlayTask>& known, const PlayTask* task)
+{
+    return task == nullptr ? !known : known && *known == *task;
 }
 
 } // namespace
@@ -65,7 +72,7 @@ void DraftJournal::end()
 {
     m_store.clear();
     m_unsaved.clear();
-    m_isInPlace = false;
+    m_inPlace.clear();
     setCanceled({});
     if (m_writer) {
         // Writes what is left.
@@ -76,7 +83,7 @@ void DraftJournal::end()
 void DraftJournal::drop()
 {
     m_unsaved.clear();
-    m_isInPlace = false;
+    m_inPlace.clear();
     setCanceled({});
     if (m_writer) {
         m_writer->take({{Kind::Clear}});
@@ -86,17 +93,37 @@ void DraftJournal::drop()
 
 void DraftJournal::cancel()
 {
-    if (!isRecording() || m_isInPlace || !sets().isEdited()) {
+    if (!isRecording() || !m_inPlace.empty() || !sets().isEdited()) {
         return;
     }
     Edits edits;
     addEverything(edits);
     edits.push_back({Kind::Cancel});
     DraftTasks canceled;
-    for (const auto& [id, task] : std::exchange(m_unsaved, {})) {
+    for (const auto& [id, task] : m_unsaved) {
         canceled.emplace(id, task ? std::optional(*task) : std::nullopt);
     }
-    m_isInPlace = true;
+    m_inPlace = std::exchange(m_unsaved, {});
+    hand(std::move(edits));
+    setCanceled(std::move(canceled));
+}
+
+void DraftJournal::giveUp(const DraftTasks& tasks)
+{
+    if (!isRecording()) {
+        return;
+    }
+    m_unsaved.clear();
+    m_inPlace.clear();
+    for (const int id : otherTasks(sets().stored(), sets().working())) {
+        const PlayTask* const task = workingTask(id);
+        m_inPlace.emplace(id, task == nullptr ? nullptr : std::make_shared<const PlayTask>(*task));
+    }
+    DraftTasks canceled = tasks.empty() ? m_canceled : tasks;
+    Edits edits = {{Kind::Clear}};
+    for (const auto& [id, task] : canceled) {
+        edits.push_back({Kind::Restore, id, shared(task)});
+    }
     hand(std::move(edits));
     setCanceled(std::move(canceled));
 }
@@ -111,7 +138,7 @@ DraftTasks DraftJournal::takeCanceled()
     for (const auto& [id, task] : m_unsaved) {
         edits.push_back({Kind::Task, id, task});
     }
-    m_isInPlace = false;
+    m_inPlace.clear();
     if (isRecording()) {
         hand(std::move(edits));
     }
@@ -198,7 +225,7 @@ void DraftJournal::noteSave()
         addEverything(edits);
     } else {
         m_unsaved.clear();
-        m_isInPlace = false;
+        m_inPlace.clear();
         setCanceled({});
         edits.push_back({Kind::Clear});
     }
@@ -224,24 +251,24 @@ void DraftJournal::addEverything(Edits& edits)
 void DraftJournal::addEdit(Edits& edits, int taskId)
 {
     if (!isOtherTask(sets().stored(), sets().working(), taskId)) {
-        m_isInPlace = m_isInPlace && m_canceled.count(taskId) == 0;
+        m_inPlace.erase(taskId);
         if (m_unsaved.erase(taskId) > 0) {
             edits.push_back({Kind::Return, taskId});
         }
         return;
     }
-    const auto working = sets().working().find(taskId);
-    const PlayTask* const task = working == sets().working().end() ? nullptr : &working->second;
+    const PlayTask* const task = workingTask(taskId);
     const auto known = m_unsaved.find(taskId);
-    if (known != m_unsaved.end() &&
-        (task == nullptr ? !known->second : known->second && *known->second == *task)) {
-        return;
-    }
-    const auto canceled = m_isInPlace ? m_canceled.find(taskId) : m_canceled.end();
-    if (canceled != m_canceled.end() && canceled->second == workingTask(taskId)) {
+    if ((known != m_unsaved.end() && isSame(known->second, task)) || isInPlace(taskId)) {
         return;
     }
     put(edits, taskId, task == nullptr ? nullptr : std::make_shared<const PlayTask>(*task));
+}
+
+bool DraftJournal::isInPlace(int taskId) const
+{
+    const auto known = m_inPlace.find(taskId);
+    return known != m_inPlace.end() && isSame(known->second, workingTask(taskId));
 }
 
 void DraftJournal::put(Edits& edits, int taskId, SharedTask task)

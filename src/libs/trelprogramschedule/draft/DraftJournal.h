@@ -48,6 +48,12 @@ public:
     /// place of what was canceled before. Where nothing is unsaved, nothing happens.
     void cancel();
 
+    /// What is edited was given up for another save, which has been read. It stays in the working
+    /// set until that is read again, but nothing of it is unsaved any more. These tasks, as edits
+    /// of that save, count as canceled in the place of what was canceled before; where there are
+    /// none, that stays.
+    void giveUp(const DraftTasks& tasks);
+
     /// Whether anything that is recorded is unsaved, and was not canceled. Asked with every edit it
     /// costs nothing.
     bool isUnsaved() const { return !m_unsaved.empty(); }
@@ -92,6 +98,7 @@ private:
     void addEdit(Edits& edits, int taskId);
     void addEverything(Edits& edits);
     void put(Edits& edits, int taskId, SharedTask task);
+    bool isInPlace(int taskId) const;
     void hand(Edits edits);
     void setCanceled(DraftTasks tasks);
     void hear(const Fault& fault);
@@ -101,7 +108,9 @@ private:
     QString m_store;       ///< Empty while nothing is recorded.
     SharedTasks m_unsaved; ///< As it was handed over; null for a task that is taken out.
     DraftTasks m_canceled;
-    bool m_isInPlace = false; ///< What was canceled is still the working set.
+    /// What was canceled or given up and is in the working set until that is read again; null for a
+    /// task that is taken out.
+    SharedTasks m_inPlace;
     bool m_hasFailed = false;
     std::unique_ptr<DraftWriter> m_writer; ///< Made with the first edit.
 };

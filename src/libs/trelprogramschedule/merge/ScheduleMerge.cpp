@@ -138,4 +138,22 @@ Tasks ScheduleMerge::merged(const Choices& choices) const
     return merged;
 }
 
+std::map<int, std::optional<PlayTask>> ScheduleMerge::edits() const
+{
+    std::map<int, std::optional<PlayTask>> edits;
+    for (const int id : idsOf(m_base, {}, m_mine)) {
+        const PlayTask* const mine = find(m_mine, id);
+        if (isSame(mine, find(m_base, id)) || isSame(mine, find(m_theirs, id))) {
+            continue;
+        }
+        const auto renumbered = m_renumbered.find(id);
+        if (renumbered == m_renumbered.end()) {
+            edits.emplace(id, mine == nullptr ? std::nullopt : std::optional(*mine));
+        } else {
+            edits.emplace(renumbered->second, m_settled.at(renumbered->second));
+        }
+    }
+    return edits;
+}
+
 } // namespace trel::mediadispatch

@@ -4,6 +4,7 @@
 #include "trelprogramschedule_export.h"
 
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace trel::mediadispatch {
@@ -62,6 +63,11 @@ public:
     const Tasks& theirs() const { return m_theirs; }
     /// What is edited here, as it was given.
     const Tasks& mine() const { return m_mine; }
+
+    /// What is edited here, as edits of theirs: by their ids the tasks that theirs does not have
+    /// so, and none for one that was deleted. With them theirs becomes what merged() gives where
+    /// mine is chosen for every conflict.
+    std::map<int, std::optional<PlayTask>> edits() const;
 
 private:
     void mergeTask(int taskId);

@@ -35,6 +35,23 @@ void write(const QString& path, const QByteArray& content)
     QCOMPARE(file.write(content), qint64(content.size()));
 }
 
+/// As another program saves: task 3 begins on another day.
+void saveElsewhere(const QString& path)
+{
+    {
+        QSqlDatabase other =
+            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("other"));
+        other.setDatabaseName(path);
+        QVERIFY(other.open());
+        QSqlQuery query(other);
+        QVERIFY(
+            query.exec(QStringLiteral("UPDATE task SET start_date = '2029.01.01' WHERE id = 3")));
+        QVERIFY(query.exec(
+            QStringLiteral("UPDATE store SET schedule_revision = schedule_revision + 1")));
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("other"));
+}
+
 } // namespace
 
 /// What is edited stands in a file beside the store until it is saved.
@@ -62,6 +79,7 @@ private slots:
     void anotherSaveIsTold();
     void whatIsSavedIsNotOffered();
     void anotherStoredSetIsWhatIsEdited();
+    void editsAreGivenUpForAnotherSave();
     void damagedAndForeignFilesAreTold();
     void aLongSessionStaysSmall();
     void aFileThatIsTakenAwayIsMadeAgain();
@@ -394,25 +412,54 @@ void tst_DraftJournal::anotherStoredSetIsWhatIsEdited()
     fixture.edit(1, "2030.01.01");
     QVERIFY(fixture.journal->flush());
     const QByteArray before = contentOf(fixture.store.folder.filePath(draftName()));
-    {
-        // As another program saves.
-        QSqlDatabase other =
-            QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("other"));
-        other.setDatabaseName(fixture.store.path);
-        QVERIFY(other.open());
-        QSqlQuery query(other);
-        QVERIFY(
-            query.exec(QStringLiteral("UPDATE task SET start_date = '2029.01.01' WHERE id = 3")));
-        QVERIFY(query.exec(
-            QStringLiteral("UPDATE store SET schedule_revision = schedule_revision + 1")));
-    }
-    QSqlDatabase::removeDatabase(QStringLiteral("other"));
+    saveElsewhere(fixture.store.path);
     QVERIFY(fixture.store.host.reload());
     QVERIFY(fixture.journal->flush());
     const Draft draft = readDraft(contentOf(fixture.store.folder.filePath(draftName())));
     QCOMPARE(draft.saved, readDraft(before).saved + 1);
     // The working set still has the task as it was before.
     QCOMPARE(DraftFixture::lineOf(draft), QStringLiteral("1 3"));
+}
+
+void tst_DraftJournal::editsAreGivenUpForAnotherSave()
+{
+    DraftFixture fixture;
+    const QString path = fixture.store.folder.filePath(draftName());
+    fixture.edit(1, "2030.01.01");
+    const PlayTask mine = fixture.store.host.workingSet().at(1);
+    QVERIFY(fixture.journal->flush());
+    saveElsewhere(fixture.store.path);
+    QVERIFY(fixture.store.host.reload());
+    // Its number has been given out there.
+    PlayTask renumbered = mine;
+    renumbered.id = 11;
+    fixture.journal->giveUp({{11, renumbered}});
+    const auto isGivenUp = [&] {
+        return !fixture.journal->isUnsaved() && fixture.journal->flush() &&
+               DraftFixture::idsOf(fixture.journal->canceled()) == QLatin1String("11") &&
+               DraftFixture::lineOf(readDraft(contentOf(path))) == QLatin1String("|11");
+    };
+    QVERIFY(isGivenUp());
+    // It is in the working set still: neither what is told of that, nor the end of the editor, nor
+    // that it is read again makes an edit of it.
+    QCoreApplication::processEvents();
+    QVERIFY(isGivenUp());
+    fixture.journal->cancel();
+    QVERIFY(isGivenUp());
+    fixture.store.manager.updateUItask();
+    QCoreApplication::processEvents();
+    QVERIFY(isGivenUp());
+    // Then the same edit is one of that save, and can be canceled itself.
+    fixture.store.manager.addTask(mine);
+    QCoreApplication::processEvents();
+    QCOMPARE(fixture.journal->unsavedTasks(), std::vector<int>{1});
+    fixture.journal->giveUp({});
+    QCOMPARE(DraftFixture::idsOf(fixture.journal->canceled()), QStringLiteral("11"));
+    fixture.store.manager.updateUItask();
+    fixture.edit(2, "2030.01.01");
+    QCoreApplication::processEvents();
+    fixture.journal->cancel();
+    QCOMPARE(DraftFixture::idsOf(fixture.journal->canceled()), QStringLiteral("2"));
 }
 
 void tst_DraftJournal::damagedAndForeignFilesAreTold()

@@ -159,6 +159,7 @@ private slots:
     void whatIsWorkedOutIsNoChange_data();
     void whatIsWorkedOutIsNoChange();
     void whatIsNotChosenIsAsSaved();
+    void editsMakeTheirsMine();
 };
 
 void tst_ScheduleMerge::followsTheRule()
@@ -303,6 +304,35 @@ void tst_ScheduleMerge::whatIsNotChosenIsAsSaved()
              QStringLiteral("1:mine 2:mine"));
     QCOMPARE(ids(merge.merged({{1, MergeSide::Theirs}, {3, MergeSide::Mine}})),
              QStringLiteral("1:theirs"));
+}
+
+void tst_ScheduleMerge::editsMakeTheirsMine()
+{
+    std::mt19937 random(kSeed + 2);
+    for (int i = 0; i < kCases; ++i) {
+        const Tasks base = sampleSchedule(int(random() % 6), 2, 2);
+        Tasks theirs = base;
+        Tasks mine = base;
+        editSome(theirs, random);
+        editSome(mine, random);
+        const ScheduleMerge merge(base, theirs, mine);
+        ScheduleMerge::Choices choices;
+        for (const int id : merge.conflicts()) {
+            choices[id] = MergeSide::Mine;
+        }
+        Tasks edited = theirs;
+        for (const auto& [id, task] : merge.edits()) {
+            // None that changes nothing.
+            QVERIFY(task ? edited.count(id) == 0 || made(edited.at(id)) != made(*task)
+                         : edited.count(id) > 0);
+            if (task) {
+                edited.insert_or_assign(id, *task);
+            } else {
+                edited.erase(id);
+            }
+        }
+        QVERIFY2(edited == merge.merged(choices), qPrintable(QString::number(i)));
+    }
 }
 
 TREL_TEST(tst_ScheduleMerge, QCoreApplication)
