@@ -251,8 +251,8 @@ void EditorWindow::allowEdits(week::WeekPanel& panel)
 void EditorWindow::buildBar(ScreenFollower& follower, const ProblemDock& problems)
 {
     auto* start = new air::StartAction(
-        *m_menus->startSchedule(), m_editor, *m_notices, [&problems] { return problems.count(); },
-        this);
+        *m_menus->startSchedule(), m_editor, *m_drafts, *m_notices,
+        [&problems] { return problems.count(); }, this);
     connect(start, &air::StartAction::told, this,
             [this](const QString& line) { statusBar()->showMessage(line); });
     m_air = new air::AirState(follower, *m_drafts, this);

@@ -5,6 +5,7 @@
 #include "air/AirBar.h"
 #include "air/AirLight.h"
 #include "air/StartAction.h"
+#include "draft/DraftKeeper.h"
 #include "problems/ProblemDock.h"
 #include "screen/ElidedText.h"
 #include "support/PlanRecords.h"
@@ -77,6 +78,7 @@ private slots:
     void startIsRefusedWhileTasksShareADay();
     void startOfTheOpenEditorSavesWhatIsTyped();
     void aCancelStartsNothing();
+    void whatWasCanceledIsNotStarted();
     void theQuestionNamesOpenProblems();
     void theEditorsOwnStartIsToldWithOpenProblems();
     void theMenuAsksAsTheBarDoes();
@@ -169,6 +171,42 @@ void tst_AirBar::aCancelStartsNothing()
     fixture.press("Start");
     QVERIFY(!fixture.light.isOn());
     QVERIFY(fixture.host.hasUnsavedChanges());
+}
+
+// The working set keeps it until the editor is shown again.
+void tst_AirBar::whatWasCanceledIsNotStarted()
+{
+    Window fixture;
+    fixture.manager.addTask(taskOf(1));
+    fixture.manager.save();
+    fixture.showEditor();
+    PlayTask canceled = taskOf(2);
+    canceled.startDate = canceled.endDate = "2100.01.01";
+    fixture.manager.addTask(canceled);
+    fixture.editor->slotCancel();
+    const auto ids = [](const std::map<int, PlayTask>& tasks) {
+        QString ids;
+        for (const auto& [id, task] : tasks) {
+            ids += QString::number(id);
+        }
+        return ids;
+    };
+    {
+        const PromptAnswer answer(1);
+        fixture.press("Start");
+    }
+    QVERIFY(fixture.light.isOn());
+    QCOMPARE(ids(fixture.window.drafts().saved()), QStringLiteral("1"));
+    std::set<int> notInEffect;
+    QVERIFY(fixture.host.tasksNotInEffect(notInEffect));
+    QVERIFY(notInEffect.empty());
+    QCoreApplication::processEvents();
+    QVERIFY(!fixture.window.drafts().isUnsaved());
+    QAction* const back = fixture.window.findChild<EditorMenus*>()->bringBack();
+    QVERIFY(back->isEnabled());
+    fixture.showEditor();
+    back->trigger();
+    QCOMPARE(ids(fixture.manager.getAllTask()), QStringLiteral("12"));
 }
 
 void tst_AirBar::theQuestionNamesOpenProblems()

@@ -2,6 +2,7 @@
 
 #include "HostPrompts.h"
 #include "PendingNotices.h"
+#include "draft/DraftKeeper.h"
 #include "scheduleControlUI.h"
 #include "service/TaskPeriods.h"
 #include "service/scheduleManage.h"
@@ -28,11 +29,12 @@ QAbstractButton* buttonOf(const scheduleControlUI& editor)
 
 } // namespace
 
-StartAction::StartAction(QAction& action, scheduleControlUI& editor, PendingNotices& notices,
-                         Count openProblems, QObject* parent)
+StartAction::StartAction(QAction& action, scheduleControlUI& editor, DraftKeeper& drafts,
+                         PendingNotices& notices, Count openProblems, QObject* parent)
     : QObject(parent)
     , m_action(action)
     , m_editor(editor)
+    , m_drafts(drafts)
     , m_notices(notices)
     , m_openProblems(std::move(openProblems))
 {
@@ -108,6 +110,7 @@ void StartAction::start()
         }
         return;
     }
+    m_drafts.takeCanceledOut();
     const auto overlap = firstTaskOverlap(scheduleManage::getInstance().getAllTask());
     if (overlap) {
         m_notices.tell(tr("Tasks %1 and %2 are valid on the same days. The schedule can be put on "

@@ -15,13 +15,14 @@ class scheduleControlUI;
 
 namespace trel::desktop {
 
+class DraftKeeper;
 class PendingNotices;
 
 namespace air {
 
 /// Puts the schedule on air from the window: asks first, saves what is unsaved, and starts what is
-/// saved then, by the rules of the editor's own button. While two tasks share a day it says so
-/// instead.
+/// saved then, by the rules of the editor's own button. What was canceled is not saved, and can
+/// still be brought back then. While two tasks share a day it says so instead.
 class StartAction : public QObject
 {
     Q_OBJECT
@@ -32,7 +33,7 @@ public:
 
     /// All of these outlive it. The question names the number of problems; none is named for 0.
     StartAction(QAction& action, trel::mediadispatch::scheduleControlUI& editor,
-                PendingNotices& notices, Count openProblems, QObject* parent);
+                DraftKeeper& drafts, PendingNotices& notices, Count openProblems, QObject* parent);
 
 signals:
     /// The schedule has been put on air here, by the editor's own button as well, which asks
@@ -53,6 +54,7 @@ private:
 
     QAction& m_action;
     trel::mediadispatch::scheduleControlUI& m_editor;
+    DraftKeeper& m_drafts;
     PendingNotices& m_notices;
     Count m_openProblems;
     std::optional<trel::mediadispatch::EffectStart> m_before; ///< What was on air then.

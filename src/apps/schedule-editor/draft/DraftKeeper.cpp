@@ -137,6 +137,13 @@ void DraftKeeper::readAgainHidden()
     scheduleManage::getInstance().updateUItask();
 }
 
+void DraftKeeper::takeCanceledOut()
+{
+    if (!m_editor.isVisible() && !isUnsaved() && ScheduleHost::instance().hasUnsavedChanges()) {
+        readAgainHidden();
+    }
+}
+
 StoreResult DraftKeeper::mergeWith(qint64 number, const std::map<int, PlayTask>& merged)
 {
     ScheduleHost& host = ScheduleHost::instance();

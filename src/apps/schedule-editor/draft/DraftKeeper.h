@@ -61,6 +61,9 @@ public:
     /// What is edited goes, for another save that has been read, once the event loop runs. These of
     /// the changes, as edits of that save, can be brought back.
     void giveUp(const trel::mediadispatch::DraftTasks& tasks);
+    /// The working set keeps what was canceled until the editor is shown again. While it is hidden
+    /// and nothing else is unsaved, this takes it out before.
+    void takeCanceledOut();
     /// In the midst of a save: as ScheduleHost::mergeWith(), and the editor shows what comes of it.
     trel::mediadispatch::StoreResult
     mergeWith(qint64 number, const std::map<int, trel::mediadispatch::PlayTask>& merged);
