@@ -6,6 +6,7 @@
 #include <QVariant>
 
 #include <map>
+#include <mutex>
 #include <typeindex>
 #include <utility>
 
@@ -224,17 +225,24 @@ const StoreElements& StoreSchema::expectedElements(const StoreConnection& connec
 {
     const int version = connection.schemaVersion();
     const std::pair engineAndVersion(std::type_index(typeid(connection)), version);
+    // Stores are opened in more than one thread. What has been put in stays where it is.
+    static std::mutex mutex;
     static std::map<std::pair<std::type_index, int>, StoreElements> known;
-    if (const auto place = known.find(engineAndVersion); place != known.end()) {
-        return place->second;
+    {
+        const std::lock_guard lock(mutex);
+        if (const auto place = known.find(engineAndVersion); place != known.end()) {
+            return place->second;
+        }
     }
     QStringList statements;
     for (const Step& step : steps()) {
         statements += step.version <= version ? step.statements : QStringList();
     }
     // Kept when it is whole: with what a lack of memory has cut short, every store would be
-    // refused.
-    return known.emplace(engineAndVersion, connection.elementsMadeBy(statements)).first->second;
+    // refused. A server can take its time for it, for which nobody else waits.
+    StoreElements made = connection.elementsMadeBy(statements);
+    const std::lock_guard lock(mutex);
+    return known.emplace(engineAndVersion, std::move(made)).first->second;
 }
 
 void StoreSchema::checkElements(const StoreConnection& connection, const QString& path)
