@@ -34,13 +34,31 @@ bool isDefinition(const QString& statement)
 }
 
 template <std::size_t Count>
-QString replaced(QString statement, const Replacement (&replacements)[Count])
+QString replacedIn(QString words, const Replacement (&replacements)[Count])
 {
     for (const Replacement& replacement : replacements) {
-        statement.replace(QRegularExpression(QLatin1String(replacement.pattern)),
-                          QLatin1String(replacement.words));
+        words.replace(QRegularExpression(QLatin1String(replacement.pattern)),
+                      QLatin1String(replacement.words));
     }
-    return statement;
+    return words;
+}
+
+/// Names and texts in quotes stay as they are, since a schedule can have any name. A mark that
+/// stands twice ends one and begins the next.
+template <std::size_t Count>
+QString replaced(const QString& statement, const Replacement (&replacements)[Count])
+{
+    static const QRegularExpression inQuotes(QStringLiteral("\"[^\"]*\"|'[^']*'"));
+    QString words;
+    int end = 0;
+    QRegularExpressionMatchIterator places = inQuotes.globalMatch(statement);
+    while (places.hasNext()) {
+        const QRegularExpressionMatch place = places.next();
+        words += replacedIn(statement.mid(end, place.capturedStart() - end), replacements);
+        words += place.captured();
+        end = place.capturedEnd();
+    }
+    return words + replacedIn(statement.mid(end), replacements);
 }
 
 QString quoted(QString text, QLatin1Char mark)

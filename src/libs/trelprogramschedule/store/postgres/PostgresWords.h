@@ -8,7 +8,7 @@ namespace trel::mediadispatch {
 ///
 /// Texts are kept as their bytes, since a text of the server can hold neither a zero nor what is no
 /// proper UTF-8. Numbers have 64 bits. An index over a text is over its digest, since the server
-/// takes no long keys.
+/// takes no long keys. What stands in quotes is left as it is.
 QString postgresWords(const QString& statement);
 
 /// A name in a statement.

@@ -58,6 +58,7 @@ private slots:
 
     void keepsAllThatAFileKeeps();
     void oneServerHasManySchedules();
+    void aNameMayHoldWordsOfAStatement();
     void aSaveThatComesSecondIsRefused();
     void aRefusedSaveChangesNothing();
     void isRefusedInWords_data();
@@ -173,6 +174,20 @@ void tst_PostgresStore::oneServerHasManySchedules()
     QVERIFY(contents.tasks.empty());
     DONE(there.read(StorePart::Both, contents));
     QVERIFY(contents.tasks == tasks);
+}
+
+void tst_PostgresStore::aNameMayHoldWordsOfAStatement()
+{
+    const QString place = m_server->address(QStringLiteral("Studio TEXT, BLOB STRICT"));
+    DONE(PostgresSetup::run(StorePlace(place)));
+    ScheduleDatabase desk;
+    OPEN(desk, place, StoreOpenMode::MustExist);
+    const TaskMap tasks = sampleSchedule(2, 1, 1);
+    qint64 revision = 0;
+    DONE(desk.writeTasks(tasks, editsFor(tasks), revision));
+    QCOMPARE(m_server->run(QStringLiteral("SELECT nspname FROM pg_namespace"
+                                          " WHERE nspname LIKE 'trel_schedule_Studio%'")),
+             QStringLiteral("trel_schedule_Studio TEXT, BLOB STRICT"));
 }
 
 void tst_PostgresStore::aSaveThatComesSecondIsRefused()

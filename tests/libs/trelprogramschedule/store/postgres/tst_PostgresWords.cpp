@@ -33,6 +33,12 @@ void tst_PostgresWords::statements_data()
     row("SELECT CAST(name AS BLOB), b FROM a", "SELECT name, b FROM a");
     row("SELECT a WHERE media_path = CAST(? AS TEXT)",
         "SELECT a WHERE sha256(media_path) = sha256(?)");
+    row("CREATE SCHEMA \"a TEXT STRICT\"", "CREATE SCHEMA \"a TEXT STRICT\"");
+    row("CREATE SCHEMA \"a\"\"'REAL\"", "CREATE SCHEMA \"a\"\"'REAL\"");
+    row("CREATE TABLE \"BLOB\" (a TEXT DEFAULT ' \"BLOB', b BLOB) STRICT",
+        "CREATE TABLE \"BLOB\" (a bytea DEFAULT ' \"BLOB', b bytea)");
+    row("SELECT 'CAST(a AS TEXT)', CAST(b AS TEXT) FROM \"CAST(c AS BLOB)\"",
+        "SELECT 'CAST(a AS TEXT)', b FROM \"CAST(c AS BLOB)\"");
     row("SELECT ' INTEGER STRICT'", "SELECT ' INTEGER STRICT'");
 }
 
