@@ -95,6 +95,7 @@ void PostgresConnection::connect() const
 {
     QSqlDatabase connection = database();
     connection.close();
+    m_failure = QSqlError();
     if (!connection.open()) {
         return;
     }
@@ -113,6 +114,8 @@ void PostgresConnection::connect() const
     QSqlQuery query(connection);
     for (const QString& setting : settings) {
         if (!query.exec(setting)) {
+            // Closing forgets it.
+            m_failure = query.lastError();
             connection.close();
             return;
         }
@@ -132,7 +135,7 @@ void PostgresConnection::expectOpen() const
             faultOf(FaultCode::Database, 0, QStringLiteral("the driver QPSQL is not installed")))};
     }
     if (!isAlive()) {
-        throw errorOf(database().lastError());
+        throw errorOf(m_failure.isValid() ? m_failure : database().lastError());
     }
     expectTime();
 }

@@ -3,6 +3,8 @@
 #include "store/StoreConnection.h"
 #include "store/StorePlace.h"
 
+#include <QSqlError>
+
 namespace trel::mediadispatch {
 
 /// One connection to the schedule that a place on a server names. Each schedule has a schema of the
@@ -76,6 +78,7 @@ private:
     StorePlace m_place;
     Access m_access;
     mutable int m_version = kNotAsked; ///< That the seal told, when it was first asked.
+    mutable QSqlError m_failure;       ///< Why a connection that had been made was given up.
 
     mutable bool m_isInTransaction = false;
     mutable bool m_isWriting = false;

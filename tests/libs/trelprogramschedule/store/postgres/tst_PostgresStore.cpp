@@ -72,6 +72,7 @@ private slots:
     void aCommitThatIsCutShortIsUndone();
     void aCommitWithoutAnAnswerIsAskedFor();
     void aServerThatIsAwayIsToldOf();
+    void aDatabaseThatCannotNameItIsToldOf();
     void whoKeepsOthersOutIsNotWaitedForLong();
     void aSaveThatIsUnderWayIsWaitedFor();
     void versionsAreReadBesideIt();
@@ -504,6 +505,25 @@ void tst_PostgresStore::aServerThatIsAwayIsToldOf()
     QVERIFY(!other.open(address(), StoreOpenMode::ReadOnly));
     QVERIFY(m_server->start());
     DONE(desk.writeTasks(tasks, editsFor(tasks), revision));
+}
+
+// The connection is made, but a setting of it is refused.
+void tst_PostgresStore::aDatabaseThatCannotNameItIsToldOf()
+{
+    QVERIFY(!m_server
+                 ->run(QStringLiteral("CREATE DATABASE latin TEMPLATE template0"
+                                      " ENCODING 'LATIN1' LOCALE 'C'"))
+                 .isNull());
+    QString place = m_server->address(QString::fromUtf8("\u5317\u5385"));
+    place.replace(QLatin1String("/postgres?"), QLatin1String("/latin?"));
+    ScheduleDatabase desk;
+    const StoreResult opened = desk.open(place, StoreOpenMode::MustExist);
+    const StoreResult setUp = PostgresSetup::run(StorePlace(place));
+    for (const StoreResult& refused : {opened, setUp}) {
+        const QString text = englishText(refused);
+        QVERIFY2(refused.problem == StoreProblem::Other, qPrintable(text));
+        QVERIFY2(text.contains(QLatin1String("LATIN1")), qPrintable(text));
+    }
 }
 
 void tst_PostgresStore::whoKeepsOthersOutIsNotWaitedForLong()
