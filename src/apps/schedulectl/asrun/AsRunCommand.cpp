@@ -5,12 +5,12 @@
 #include "clock/Clock.h"
 #include "common/DefaultDatabase.h"
 #include "common/DisplayText.h"
+#include "screen/PlayerRecords.h"
 #include "screen/StoredScreen.h"
 #include "text/Console.h"
 #include "text/FaultReport.h"
 #include "trelprogramschedule/asrun/AsRunDatabase.h"
 #include "trelprogramschedule/faults/FaultWords.h"
-#include "trelprogramschedule/store/StorePlace.h"
 
 #include <QJsonArray>
 
@@ -61,7 +61,6 @@ private:
     AsRunList::Form form() const;
     QJsonObject head() const;
     ExitStatus refuse(const StoreResult& result);
-    ExitStatus refuseServer(const QString& store);
     bool misuse(const QString& sentence);
 
     const Invocation& m_invocation;
@@ -151,17 +150,6 @@ ExitStatus AsRunWork::refuse(const StoreResult& result)
     return Refused;
 }
 
-ExitStatus AsRunWork::refuseServer(const QString& store)
-{
-    m_console.tell(
-        QStringLiteral("Players keep what was on screen beside a file; for a schedule on "
-                       "a server there are none of these records."));
-    if (m_invocation.json) {
-        m_console.writeJson(refusalJson({StoreProblem::FileMissing, StorePlace(store).text(), {}}));
-    }
-    return Refused;
-}
-
 bool AsRunWork::chooseScreens()
 {
     if (m_query.screen.isEmpty()) {
@@ -190,11 +178,11 @@ ExitStatus AsRunWork::run()
     if (!understand()) {
         return Misused;
     }
+    if (refusesServer(m_invocation, m_console, QStringLiteral("Players keep what was on screen"))) {
+        return Refused;
+    }
     const QString store =
         m_invocation.database.isEmpty() ? defaultDatabasePath() : m_invocation.database;
-    if (StorePlace::isAddress(store)) {
-        return refuseServer(store);
-    }
     const bool isChange = m_invocation.has("--keep");
     StoreResult result =
         m_database.open(AsRunDatabase::pathFor(store),

@@ -4,6 +4,7 @@
 #include "clock/Clock.h"
 #include "common/DisplayText.h"
 #include "schedule/ScheduleReport.h"
+#include "screen/PlayerRecords.h"
 #include "screen/StoredScreen.h"
 #include "text/Console.h"
 #include "text/SharedOptions.h"
@@ -113,6 +114,9 @@ QJsonObject screenJson(const PlayerStatus& status, Instant now, const ScreenRepo
 
 ExitStatus run(const Invocation& invocation, Console& console)
 {
+    if (refusesServer(invocation, console, QStringLiteral("Players tell of themselves"))) {
+        return Refused;
+    }
     const auto database =
         openDatabase(invocation, Database::Access::Read, console, Database::Part::Catalogue);
     if (!database) {

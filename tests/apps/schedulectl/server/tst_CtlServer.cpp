@@ -31,7 +31,8 @@ private slots:
     void tellsWhoIsTooOldOrTooNew();
     void tellsThatThereIsNone();
     void screensOnlyRead();
-    void hasNoAsRun();
+    void hasNothingThatPlayersWrite_data();
+    void hasNothingThatPlayersWrite();
 
 private:
     QString address(const QString& user = {}) const
@@ -154,7 +155,8 @@ void tst_CtlServer::showsNoPassword_data()
     for (const char* words :
          {"server-setup %1", "server-setup --json %1", "--database %1 show",
           "--database %1 show --json", "--database %1 as-run", "--database %1 as-run --json",
-          "--database %1 import clip.wav", "show %1", "server-setup %1 %1"}) {
+          "--database %1 screens", "--database %1 screens --json", "--database %1 import clip.wav",
+          "show %1", "server-setup %1 %1"}) {
         QTest::newRow(words) << QString::fromLatin1(words);
     }
 }
@@ -204,7 +206,7 @@ void tst_CtlServer::worksOnItAsOnAFile()
     QCOMPARE(ask("show --json").json()[QStringLiteral("database")].toString(), address());
     for (const char* words :
          {"start", "effect", "insert News", "cancel-insertion", "stop", "name-version 1 Spring",
-          "versions", "diff 0", "restore 0", "screens", "remove-program 1"}) {
+          "versions", "diff 0", "restore 0", "remove-program 1"}) {
         const CtlResult done = ask(words);
         QVERIFY2(done.status == 0,
                  qPrintable(QLatin1String(words) + QLatin1String(": ") + done.err));
@@ -266,12 +268,27 @@ void tst_CtlServer::screensOnlyRead()
     QCOMPARE(made.status, 1);
 }
 
-void tst_CtlServer::hasNoAsRun()
+void tst_CtlServer::hasNothingThatPlayersWrite_data()
 {
+    QTest::addColumn<QString>("command");
+    QTest::newRow("as-run") << QStringLiteral("as-run");
+    QTest::newRow("screens") << QStringLiteral("screens");
+}
+
+void tst_CtlServer::hasNothingThatPlayersWrite()
+{
+    QFETCH(QString, command);
     QCOMPARE(setUp().status, 0);
-    const CtlResult result = ask("as-run");
+    const CtlResult result = ask(command);
     QCOMPARE(result.status, 1);
     QVERIFY2(result.err.contains(QLatin1String("a server there are none")), qPrintable(result.err));
+    QVERIFY(result.out.isEmpty());
+    const CtlResult forMachines = ask(command + QStringLiteral(" --json"));
+    QCOMPARE(forMachines.status, 1);
+    QCOMPARE(forMachines.err, result.err);
+    const QJsonObject error = forMachines.json()[QStringLiteral("error")].toObject();
+    QCOMPARE(error[QStringLiteral("code")].toString(), QStringLiteral("fileMissing"));
+    QCOMPARE(error[QStringLiteral("path")].toString(), address());
     QVERIFY(m_fixture->files().isEmpty());
 }
 
