@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <array>
+
 class QWidget;
 
 namespace trel::desktop {
@@ -30,6 +32,8 @@ enum class Existing { IsAskedAbout, IsTold };
 inline constexpr char kDatabases[] = "db";
 inline constexpr char kSchedules[] = "json";
 inline constexpr char kMedia[] = "media";
+/// All of them; of no other one a folder is known at the next start.
+inline constexpr std::array<const char*, 3> kKinds = {kDatabases, kSchedules, kMedia};
 
 /// Ask for a file to read, for several of them, or for a folder; empty when the operator thinks
 /// better of it. A dialog begins where the last one of its kind ended, or else in a folder that is

@@ -11,6 +11,11 @@ namespace {
 /// No file system takes longer ones.
 constexpr int kLongestPath = 4096;
 
+bool isPath(const QString& text)
+{
+    return text.size() <= kLongestPath && QDir::isAbsolutePath(text);
+}
+
 } // namespace
 
 LastFolders::LastFolders(QWidget& window)
@@ -35,9 +40,16 @@ QString LastFolders::folder(const QString& kind) const
 
 void LastFolders::remember(const QString& kind, const QString& path)
 {
-    if (path.size() <= kLongestPath && QDir::isAbsolutePath(path)) {
+    if (isPath(path)) {
         const QFileInfo file(path);
         m_folders.insert(kind, file.isDir() ? path : file.path());
+    }
+}
+
+void LastFolders::restore(const QString& kind, const QString& folder)
+{
+    if (isPath(folder)) {
+        m_folders.insert(kind, folder);
     }
 }
 

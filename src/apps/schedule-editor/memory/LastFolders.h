@@ -26,6 +26,9 @@ public:
     /// A file of a kind was chosen, or a folder of such files. One that is no absolute path is left
     /// out.
     void remember(const QString& kind, const QString& path);
+    /// A folder that was remembered before, of a kind, as it was written down: it is not looked at,
+    /// as its drive may be away for now, or answer late. One that is no absolute path is left out.
+    void restore(const QString& kind, const QString& folder);
 
     /// All that is remembered, by kinds.
     const QMap<QString, QString>& all() const { return m_folders; }

@@ -1,5 +1,6 @@
 #include "memory/RememberedWindow.h"
 
+#include "HostPrompts.h"
 #include "memory/LastFolders.h"
 #include "week/WeekGeometry.h"
 #include "week/WeekView.h"
@@ -90,9 +91,9 @@ void RememberedWindow::restore()
 void RememberedWindow::restoreFolders(LastFolders& folders) const
 {
     m_settings.beginGroup(kFolders);
-    const QStringList kinds = m_settings.childKeys();
-    for (const QString& kind : kinds) {
-        folders.remember(kind, m_settings.value(kind).toString());
+    for (const char* const name : prompts::kKinds) {
+        const QString kind = QLatin1String(name);
+        folders.restore(kind, m_settings.value(kind).toString());
     }
     m_settings.endGroup();
 }

@@ -65,6 +65,7 @@ private slots:
     void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     void eachKindHasItsOwn();
     void isThereAtTheNextStart();
+    void staysWhileItsDriveIsAway();
     void whatHasGoneIsNoPlace();
     void takesNoPathThatIsNone();
 };
@@ -108,6 +109,32 @@ void tst_LastFolders::isThereAtTheNextStart()
     QCOMPARE(next.beginOf(*next.menus().openDatabase()), folder);
 }
 
+void tst_LastFolders::staysWhileItsDriveIsAway()
+{
+    const QTemporaryDir settings;
+    const QString file = settings.filePath(QStringLiteral("settings.ini"));
+    const QTemporaryDir kept;
+    const QString folder = QFileInfo(kept.path()).canonicalFilePath() + QStringLiteral("/a/b");
+    QVERIFY(QDir().mkpath(folder));
+    {
+        Start start(file);
+        answerFileDialog(folder + QStringLiteral("/week.json"));
+        start.menus().exportSchedule()->trigger();
+        QVERIFY(QFileInfo::exists(folder + QStringLiteral("/week.json")));
+        QVERIFY(start.window.close());
+    }
+    QVERIFY(QDir(folder).removeRecursively());
+    for (int i = 0; i < 2; ++i) {
+        Start without(file);
+        const QString begin = without.beginOf(*without.menus().importSchedule());
+        QVERIFY2(!begin.startsWith(kept.path()), qPrintable(begin));
+        QVERIFY(without.window.close());
+    }
+    QVERIFY(QDir().mkpath(folder));
+    const Start next(file);
+    QCOMPARE(next.beginOf(*next.menus().importSchedule()), folder);
+}
+
 void tst_LastFolders::whatHasGoneIsNoPlace()
 {
     QWidget window;
@@ -131,7 +158,13 @@ void tst_LastFolders::takesNoPathThatIsNone()
     folders.remember(QStringLiteral("json"), QStringLiteral("week.json"));
     folders.remember(QStringLiteral("json"), QString());
     folders.remember(QStringLiteral("json"), QLatin1Char('/') + QString(5000, QLatin1Char('x')));
+    folders.restore(QStringLiteral("json"), QStringLiteral("weeks"));
+    folders.restore(QStringLiteral("json"), QLatin1Char('/') + QString(5000, QLatin1Char('x')));
     QVERIFY(folders.all().isEmpty());
+    // One that was remembered is not looked at before it is asked for.
+    folders.restore(QStringLiteral("json"), QStringLiteral("/no/such/folder"));
+    QCOMPARE(folders.all().value(QStringLiteral("json")), QStringLiteral("/no/such/folder"));
+    QCOMPARE(folders.folder(QStringLiteral("json")), QString());
     QWidget other;
     QVERIFY(LastFolders::of(&other) == nullptr);
 }
