@@ -443,7 +443,13 @@ void EditorWindow::exportSchedule()
     // Beside what is edited, which is still held against what it was edited from.
     ScheduleVersion version;
     std::map<int, PlayTask> saved;
-    if (!ScheduleHost::instance().readNewestSave(version, saved)) {
+    if (const StoreResult read = ScheduleHost::instance().readNewestSave(version, saved); !read) {
+        if (read.cause.code != FaultCode::VersionUnknown) {
+            // What was read before may be another save than the newest.
+            tell(problems::sentence(read));
+            return;
+        }
+        // Nobody has saved yet.
         saved = m_drafts->saved();
     }
     if (const Fault fault = writeScheduleFile(file, saved)) {

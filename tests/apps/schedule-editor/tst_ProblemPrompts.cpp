@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QSqlDatabase>
 #include <QSqlQuery>
+#include <QStatusBar>
 
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
@@ -185,6 +186,17 @@ const Case kCases[] = {
      },
      "link.json kann nicht geschrieben werden. Die Datei oder ein Ordner ihres Pfads existiert "
      "nicht."},
+    {"a schedule that cannot be read for a file",
+     [](PromptFixture& fixture) {
+         fixture.edit();
+         QVERIFY(fixture.host.trySave());
+         OtherProgram(fixture.database).run("DROP TABLE plan_value");
+         fixture.choose(kWrite, fixture.path("saved.json"));
+         // What was read before is not taken for what is saved.
+         QVERIFY(!QFile::exists(fixture.path("saved.json")));
+         QCOMPARE(fixture.window.statusBar()->currentMessage(), QString());
+     },
+     "screen.db ist beschädigt. Die Datenbank meldet den Fehler 1."},
     {"media that are none",
      [](PromptFixture& fixture) {
          fixture.import({fixture.write("a.mp4", "text"), fixture.write("b.mp4", ""),
