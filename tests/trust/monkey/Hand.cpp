@@ -101,6 +101,15 @@ void type(const QString& text)
     }
 }
 
+void dropTypedDate()
+{
+    const QWidget* const popup = QApplication::activePopupWidget();
+    const QWidget* const place = popup ? popup->focusWidget() : QApplication::focusWidget();
+    if (place && place->objectName() == QLatin1String("qt_calendar_calendarview")) {
+        pressKey(Qt::Key_Escape, Qt::NoModifier);
+    }
+}
+
 void drop(QWidget& widget, QPoint place, const QStringList& files)
 {
     QWindow* const window = widget.window()->windowHandle();

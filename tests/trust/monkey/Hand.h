@@ -23,6 +23,9 @@ void turnWheel(QWidget& widget, QPoint place, int delta);
 /// To the window with the focus; without one nothing happens.
 void pressKey(int key, Qt::KeyboardModifiers modifiers, const QString& text = {});
 void type(const QString& text);
+/// Drops a date that is typed half way into a calendar of the toolkit: it frees what it holds of it
+/// only when the typing ends, and never where the calendar goes before.
+void dropTypedDate();
 
 /// Drags files over a place and lets them go there.
 void drop(QWidget& widget, QPoint place, const QStringList& files);

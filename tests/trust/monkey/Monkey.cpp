@@ -403,6 +403,9 @@ void Monkey::pressKey(Dice& dice)
                          QKeySequence(static_cast<int>(key.modifiers) + key.key)
                              .toString(QKeySequence::PortableText));
     hand::pressKey(key.key, key.modifiers, QLatin1String(key.text));
+    if (*key.text != '\0') {
+        hand::dropTypedDate();
+    }
 }
 
 void Monkey::typeNumber(Dice& dice)
@@ -414,6 +417,7 @@ void Monkey::typeNumber(Dice& dice)
     }
     FlightRecorder::note(QStringLiteral("type ") + number);
     hand::type(number);
+    hand::dropTypedDate();
 }
 
 void Monkey::turnWheel(Dice& dice)
