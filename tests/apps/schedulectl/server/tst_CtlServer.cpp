@@ -30,6 +30,7 @@ private slots:
     void worksOnItAsOnAFile();
     void tellsWhoIsTooOldOrTooNew();
     void tellsThatThereIsNone();
+    void aSetupUnderWayKeepsNobodyFromOpening();
     void screensOnlyRead();
     void hasNothingThatPlayersWrite_data();
     void hasNothingThatPlayersWrite();
@@ -246,6 +247,26 @@ void tst_CtlServer::tellsThatThereIsNone()
                  qPrintable(result.err));
     }
     QVERIFY(m_fixture->files().isEmpty());
+}
+
+// By a process of its own, which knows nothing yet of what a schedule has to hold.
+void tst_CtlServer::aSetupUnderWayKeepsNobodyFromOpening()
+{
+    QCOMPARE(setUp().status, 0);
+    m_server->beginAside(
+        QStringLiteral("BEGIN; SELECT pg_advisory_xact_lock(hashtext('trel_schedule_North hall'));"
+                       " SELECT 'held'"));
+    QCOMPARE(m_server->lineAside(), QString());
+    QCOMPARE(m_server->lineAside(), QStringLiteral("held"));
+    const CtlResult reader = ask("show");
+    const CtlResult writer = ask("start");
+    const CtlResult setter = setUp();
+    m_server->endAside();
+    QVERIFY2(reader.status == 0, qPrintable(reader.err));
+    QVERIFY2(writer.status == 0, qPrintable(writer.err));
+    // The lock is the one of the setup.
+    QCOMPARE(setter.status, 1);
+    QCOMPARE(setUp().status, 0);
 }
 
 void tst_CtlServer::screensOnlyRead()

@@ -232,7 +232,7 @@ void PostgresConnection::beginOnce(StorePurpose purpose) const
     if (isWriting && m_access == Access::SetUp) {
         run(QStringLiteral("SELECT pg_advisory_xact_lock(hashtext(%1))")
                 .arg(postgresText(schemaName())));
-    } else if (isWriting) {
+    } else if (isWriting && m_access == Access::ReadWrite) {
         run(QStringLiteral("SELECT one FROM store FOR UPDATE"));
     }
 }
@@ -366,7 +366,7 @@ StoreElements PostgresConnection::elementsIn(const QString& schemaId) const
 
 StoreElements PostgresConnection::elementsMadeBy(const QStringList& statements) const
 {
-    const PostgresConnection fresh(m_place, Access::SetUp);
+    const PostgresConnection fresh(m_place, Access::Scratch);
     StoreTransaction transaction(fresh, StorePurpose::Write);
     fresh.run(QStringLiteral("SET LOCAL search_path = pg_temp"));
     fresh.run(kMakeSeal);

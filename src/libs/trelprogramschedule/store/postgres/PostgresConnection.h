@@ -22,6 +22,7 @@ public:
         ReadOnly,  ///< Nothing can be written, also where there is a right to.
     };
 
+        Scratch,   ///< For what is undone in any case: keeps nobody out, and waits for nobody.
     /// Connects. A failure shows in the first statement.
     PostgresConnection(const StorePlace& place, Access access);
     ~PostgresConnection() override;
