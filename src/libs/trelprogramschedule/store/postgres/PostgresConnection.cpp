@@ -183,6 +183,14 @@ std::unique_ptr<StoreRows> PostgresConnection::rows(const QString& path, const c
 
 void PostgresConnection::begin(StorePurpose purpose) const
 {
+    beginAlive(purpose);
+    if (m_isWriting && m_access == Access::ReadWrite) {
+        expectSameVersion();
+    }
+}
+
+void PostgresConnection::beginAlive(StorePurpose purpose) const
+{
     if (!isAlive()) {
         reconnect();
         beginOnce(purpose);
@@ -213,12 +221,34 @@ void PostgresConnection::reconnect() const
         if (found != known) {
             // Whatever is begun next has to be refused as well.
             QSqlDatabase(database()).close();
-            throw StoreError{refusal(StoreProblem::NewerSchema, path())};
+            throw otherVersion(found);
         }
     } catch (const StoreError&) {
         m_version = known;
         throw;
     }
+}
+
+void PostgresConnection::expectSameVersion() const
+{
+    if (m_version == kNotAsked) {
+        return;
+    }
+    try {
+        const int found = value(QStringLiteral("SELECT version FROM seal")).toInt();
+        if (found != m_version) {
+            throw otherVersion(found);
+        }
+    } catch (const StoreError&) {
+        rollBack();
+        throw;
+    }
+}
+
+StoreError PostgresConnection::otherVersion(int found) const
+{
+    return {found < m_version ? refusal(StoreProblem::Altered, path(), {FaultCode::SchemaOlder, {}})
+                              : refusal(StoreProblem::NewerSchema, path())};
 }
 
 void PostgresConnection::beginOnce(StorePurpose purpose) const

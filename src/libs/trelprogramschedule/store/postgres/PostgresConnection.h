@@ -10,9 +10,11 @@ namespace trel::mediadispatch {
 /// One connection to the schedule that a place on a server names. Each schedule has a schema of the
 /// server's for itself; see decision 12.
 ///
-/// Where the server has gone and is back, the next transaction connects once more. No statement
-/// takes longer than some seconds, no lock is waited for longer than two, and a server that is
-/// silent is given up.
+/// Where the server has gone and is back, the next transaction connects once more. A statement
+/// takes half a minute at most and no lock is waited for longer than two seconds, by what the
+/// server itself measures. A server whose machine is off, or away from the network, is given up
+/// after some ten seconds. One that stands still while its machine answers for it is waited for,
+/// since the client library then knows no end of waiting.
 class PostgresConnection final : public StoreConnection
 {
 public:
@@ -20,9 +22,9 @@ public:
         SetUp,     ///< The schema may be missing, and is made by the caller.
         ReadWrite, ///< A transaction that writes keeps all others that write out.
         ReadOnly,  ///< Nothing can be written, also where there is a right to.
+        Scratch,   ///< For what is undone in any case: keeps nobody out, and waits for nobody.
     };
 
-        Scratch,   ///< For what is undone in any case: keeps nobody out, and waits for nobody.
     /// Connects. A failure shows in the first statement.
     PostgresConnection(const StorePlace& place, Access access);
     ~PostgresConnection() override;
@@ -69,6 +71,12 @@ private:
     /// Throws StoreError where the time of a deadline has run out.
     void expectTime() const;
     void connect() const;
+    /// Begins, on another connection where the former has gone.
+    void beginAlive(StorePurpose purpose) const;
+    /// Throws where the seal tells another version than it did: whoever set the schedule up
+    /// meanwhile did so for other programs. The transaction is undone then.
+    void expectSameVersion() const;
+    StoreError otherVersion(int found) const;
     /// Connects once more, to a schema of the version that was found before.
     void reconnect() const;
     void beginOnce(StorePurpose purpose) const;

@@ -69,6 +69,7 @@ private slots:
     void desksWriteAndScreensRead();
     void aRestartOfTheServerIsOutlived();
     void aConnectionThatWasCutIsMadeAgain();
+    void aSchemaOfAnotherVersionIsNotWritten();
     void aCommitThatIsCutShortIsUndone();
     void aCommitWithoutAnAnswerIsAskedFor();
     void aServerThatIsAwayIsToldOf();
@@ -430,6 +431,30 @@ void tst_PostgresStore::aConnectionThatWasCutIsMadeAgain()
     QCOMPARE(m_server->run(cut), QStringLiteral("t"));
     QCOMPARE(desk.writeTasks(tasks, editsFor(tasks), revision).problem, StoreProblem::NewerSchema);
     QCOMPARE(revision, 3);
+}
+
+// Somebody has set it up for other programs, while the connection stayed.
+void tst_PostgresStore::aSchemaOfAnotherVersionIsNotWritten()
+{
+    ScheduleDatabase desk;
+    OPEN(desk, address(), StoreOpenMode::MustExist);
+    const TaskMap tasks = sampleSchedule(2, 2, 2);
+    qint64 revision = 0;
+    const QString change = QStringLiteral("UPDATE %1.seal SET version = version + %2");
+    QVERIFY(!m_server->run(change.arg(kSchema, QStringLiteral("1"))).isNull());
+    QCOMPARE(desk.writeTasks(tasks, editsFor(tasks), revision).problem, StoreProblem::NewerSchema);
+    QVERIFY(!m_server->run(change.arg(kSchema, QStringLiteral("-2"))).isNull());
+    const StoreResult older = desk.writeTasks(tasks, editsFor(tasks), revision);
+    QCOMPARE(older.problem, StoreProblem::Altered);
+    QCOMPARE(older.cause.code, FaultCode::SchemaOlder);
+    QCOMPARE(revision, 0);
+    QCOMPARE(m_server->run(QStringLiteral("SELECT count(*) FROM %1.task").arg(kSchema)),
+             QStringLiteral("0"));
+    // Nobody is kept out by what was refused.
+    ScheduleDatabase other;
+    QVERIFY(!m_server->run(change.arg(kSchema, QStringLiteral("1"))).isNull());
+    OPEN(other, address(), StoreOpenMode::MustExist);
+    DONE(desk.writeTasks(tasks, editsFor(tasks), revision));
 }
 
 void tst_PostgresStore::aCommitThatIsCutShortIsUndone()
