@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QHeaderView>
+#include <QScreen>
 #include <QSettings>
 
 using namespace trel::desktop;
