@@ -1,10 +1,13 @@
 #include "DateWords.h"
 
 #include "BidiText.h"
+#include "clock/Clock.h"
 #include "service/ScheduleRecords.h"
 
 #include <QDateTime>
 
+using trel::mediadispatch::Clock;
+using trel::mediadispatch::Instant;
 using trel::mediadispatch::kDateFormat;
 
 namespace trel::desktop {
@@ -17,6 +20,18 @@ QString dateText(const QDate& date)
 QString dateAndTimeText(const QDateTime& moment)
 {
     return leftToRight(moment.toString(kDateFormat + QLatin1String(" hh:mm")));
+}
+
+QString momentText(const QString& time, const QDate& date, const QDate& today)
+{
+    return leftToRight(date == today ? time : date.toString(kDateFormat) + QLatin1Char(' ') + time);
+}
+
+QString momentText(Instant moment)
+{
+    const QDateTime then = QDateTime::fromMSecsSinceEpoch(moment, Clock::current().zone());
+    return momentText(then.toString(QStringLiteral("hh:mm")), then.date(),
+                      Clock::current().today());
 }
 
 } // namespace trel::desktop

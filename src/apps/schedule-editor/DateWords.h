@@ -1,5 +1,7 @@
 #pragma once
 
+#include "trelprogramschedule/dispatch/ScreenState.h"
+
 #include <QString>
 
 class QDate;
@@ -12,5 +14,12 @@ QString dateText(const QDate& date);
 
 /// A moment by its own clock, to the minute, with such a date.
 QString dateAndTimeText(const QDateTime& moment);
+
+/// A time of day, with the date in front of it where that is another than the present one; read
+/// from the left.
+QString momentText(const QString& time, const QDate& date, const QDate& today);
+
+/// The same of a moment by the clock of this desk, to the minute.
+QString momentText(trel::mediadispatch::Instant moment);
 
 } // namespace trel::desktop

@@ -1,5 +1,6 @@
 #include "DateWords.h"
 
+#include "support/TestClock.h"
 #include "support/TestProgram.h"
 
 #include <QApplication>
@@ -18,6 +19,7 @@ private slots:
     void cleanup() { QLocale::setDefault(QLocale::c()); }
     void areTheSameInAllLanguages_data();
     void areTheSameInAllLanguages();
+    void aDateStandsWhereItIsAnother();
 };
 
 void tst_DateWords::areTheSameInAllLanguages_data()
@@ -35,6 +37,20 @@ void tst_DateWords::areTheSameInAllLanguages()
     const QDateTime moment(QDate(2026, 3, 8), QTime(9, 5, 59));
     QCOMPARE(dateText(moment.date()), QStringLiteral("\u20662026.03.08\u2069"));
     QCOMPARE(dateAndTimeText(moment), QStringLiteral("\u20662026.03.08 09:05\u2069"));
+}
+
+void tst_DateWords::aDateStandsWhereItIsAnother()
+{
+    const QDate today(2026, 3, 8);
+    const QString time = QStringLiteral("09:05:59+01");
+    QCOMPARE(momentText(time, today, today), QStringLiteral("\u206609:05:59+01\u2069"));
+    QCOMPARE(momentText(time, today.addDays(-1), today),
+             QStringLiteral("\u20662026.03.07 09:05:59+01\u2069"));
+    // By the clock of this desk.
+    const TestClock clock(QDateTime(today, QTime(9, 5, 59)));
+    const trel::mediadispatch::Instant now = clock.msecsSinceEpoch();
+    QCOMPARE(momentText(now), QStringLiteral("\u206609:05\u2069"));
+    QCOMPARE(momentText(now + 86400000), QStringLiteral("\u20662026.03.09 09:05\u2069"));
 }
 
 TREL_TEST(tst_DateWords, QApplication)

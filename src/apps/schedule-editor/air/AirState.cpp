@@ -1,6 +1,5 @@
 #include "air/AirState.h"
 
-#include "BidiText.h"
 #include "DateWords.h"
 #include "air/AirLight.h"
 #include "clock/Clock.h"
@@ -88,15 +87,6 @@ void AirState::reload()
         m_savedAt = versions.front().saved;
     }
     showSaved();
-}
-
-/// The time of day, with the date where it is another than today's.
-QString AirState::momentText(qint64 moment) const
-{
-    const QDateTime then = QDateTime::fromMSecsSinceEpoch(moment, Clock::current().zone());
-    return then.date() == Clock::current().today()
-               ? leftToRight(then.toString(QStringLiteral("hh:mm")))
-               : dateAndTimeText(then);
 }
 
 void AirState::showSaved()

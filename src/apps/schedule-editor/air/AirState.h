@@ -35,7 +35,6 @@ private:
     void showTime();
     void showLight();
     void showSaved();
-    QString momentText(qint64 moment) const;
 
     ScreenFollower& m_follower;
     const DraftKeeper& m_drafts;

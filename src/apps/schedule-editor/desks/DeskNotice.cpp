@@ -1,13 +1,10 @@
 #include "desks/DeskNotice.h"
 
-#include "BidiText.h"
-#include "clock/Clock.h"
+#include "DateWords.h"
 #include "common/DisplayText.h"
-#include "service/ScheduleRecords.h"
 #include "trelprogramschedule/desks/DeskWatch.h"
 #include "trelwidgets/PlainToolTip.h"
 
-#include <QDateTime>
 #include <QEvent>
 #include <QStringList>
 
@@ -23,16 +20,6 @@ namespace {
 constexpr int kMostColumns = 40;
 /// So many desks, and tasks of each, are told one by one.
 constexpr std::size_t kMostTold = 12;
-
-/// The time of day, with the date where it is another than today's.
-QString momentText(Instant moment)
-{
-    const QDateTime then = QDateTime::fromMSecsSinceEpoch(moment, Clock::current().zone());
-    const QString time = then.toString(QStringLiteral("hh:mm"));
-    return leftToRight(then.date() == Clock::current().today()
-                           ? time
-                           : then.date().toString(kDateFormat) + QLatin1Char(' ') + time);
-}
 
 QString deskText(const DeskNote& note)
 {

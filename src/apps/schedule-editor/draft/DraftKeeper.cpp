@@ -202,7 +202,12 @@ bool DraftKeeper::eventFilter(QObject* watched, QEvent* event)
 void DraftKeeper::tellUnsaved()
 {
     const bool isNow = isUnsaved();
-    m_desks->tellEdited(m_journal->unsavedTasks());
+    // Also called where the editor is shown or hidden, which changes nothing.
+    std::pair told(m_journal->edits(), m_journal->unsavedTasks());
+    if (told != m_told) {
+        m_told = std::move(told);
+        m_desks->tellEdited(m_told.second);
+    }
     if (std::exchange(m_wasUnsaved, isNow) != isNow) {
         emit unsavedChanged();
     }

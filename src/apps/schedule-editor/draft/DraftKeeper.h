@@ -6,6 +6,8 @@
 #include <QObject>
 
 #include <map>
+#include <utility>
+#include <vector>
 
 class QAction;
 class QWidget;
@@ -108,6 +110,8 @@ private:
     QWidget* m_window;
     trel::mediadispatch::DraftJournal* m_journal;
     trel::mediadispatch::DeskWatch* m_desks;
+    /// What the other desks were told last: how much was edited until then, and in which tasks.
+    std::pair<int, std::vector<int>> m_told;
     bool m_wasUnsaved = false;
     bool m_isGoingOn = false;
 };

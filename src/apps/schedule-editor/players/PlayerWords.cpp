@@ -12,12 +12,9 @@ namespace trel::desktop::players {
 
 namespace {
 
-/// The time of day, with the date where it is another than the present one.
-QString momentText(Instant moment, const ScreenFollower& clock)
+QString textOf(Instant moment, const ScreenFollower& clock)
 {
-    const QDate date = clock.local(moment).date();
-    const QString time = clock.timeText(moment);
-    return date == clock.today() ? time : dateText(date) + QLatin1Char(' ') + time;
+    return momentText(clock.timeText(moment), clock.local(moment).date(), clock.today());
 }
 
 } // namespace
@@ -34,7 +31,7 @@ QString PlayerWords::shown(const PlayerStatus& status)
 
 QString PlayerWords::heard(const PlayerStatus& status, Instant now, const ScreenFollower& clock)
 {
-    const QString moment = momentText(status.heard, clock);
+    const QString moment = textOf(status.heard, clock);
     return isSilent(status, now) ? tr("Not since %1", "a moment").arg(moment) : moment;
 }
 
@@ -43,7 +40,7 @@ QString PlayerWords::faults(const PlayerStatus& status, const ScreenFollower& cl
     return status.faults == 0
                ? tr("None", "no faults")
                : tr("%1, the last at %2: %3", "a number, a moment, a sentence")
-                     .arg(QString::number(status.faults), momentText(status.lastFaultAt, clock),
+                     .arg(QString::number(status.faults), textOf(status.lastFaultAt, clock),
                           printable(status.lastFault));
 }
 

@@ -1,6 +1,7 @@
 #include "screen/ComingPrograms.h"
 
 #include "BidiText.h"
+#include "DateWords.h"
 #include "look/ProgramColours.h"
 #include "screen/ScreenFollower.h"
 
@@ -48,17 +49,12 @@ QSize ComingPrograms::minimumSizeHint() const
     return sizeHint();
 }
 
-/// The time of day, with the date where it is another than the present one.
-QString ComingPrograms::momentText(int index) const
+QString ComingPrograms::momentOf(int index) const
 {
     const trel::mediadispatch::Instant since =
         m_follower.coming()[static_cast<std::size_t>(index)].state.since;
-    const QDate date = m_follower.local(since).date();
-    const QString time = m_follower.timeText(since);
-    return leftToRight(date == m_follower.today()
-                           ? time
-                           : date.toString(trel::mediadispatch::kDateFormat) + QLatin1Char(' ') +
-                                 time);
+    return momentText(m_follower.timeText(since), m_follower.local(since).date(),
+                      m_follower.today());
 }
 
 QString ComingPrograms::nameOf(int index) const
@@ -79,7 +75,7 @@ int ComingPrograms::spokenCount() const
 
 QString ComingPrograms::spokenName(int index) const
 {
-    return momentText(index) + QLatin1Char(' ') + nameOf(index);
+    return momentOf(index) + QLatin1Char(' ') + nameOf(index);
 }
 
 QRect ComingPrograms::spokenPlace(int index) const
@@ -129,7 +125,7 @@ void ComingPrograms::paintEvent(QPaintEvent* event)
         painter.fillRect(sign, colours.ground);
         painter.setPen(colours.line);
         painter.drawRect(sign.adjusted(0, 0, -1, -1));
-        const QString time = momentText(index);
+        const QString time = momentOf(index);
         const int timeWidth = fontMetrics().horizontalAdvance(time);
         draw(QRect(kSign + kSpace, top, timeWidth + 1, height),
              palette().color(QPalette::PlaceholderText), time);

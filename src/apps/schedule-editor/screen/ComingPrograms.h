@@ -35,7 +35,7 @@ protected:
 
 private:
     void showChange();
-    QString momentText(int index) const;
+    QString momentOf(int index) const;
     int topOf(int index) const;
     QString nameOf(int index) const;
 

@@ -134,6 +134,7 @@ DraftTasks DraftJournal::takeCanceled()
     Edits edits = {{Kind::Clear}};
     for (const auto& [id, task] : tasks) {
         m_unsaved.insert_or_assign(id, shared(task));
+        ++m_edits;
     }
     for (const auto& [id, task] : m_unsaved) {
         edits.push_back({Kind::Task, id, task});
@@ -275,6 +276,7 @@ void DraftJournal::put(Edits& edits, int taskId, SharedTask task)
 {
     edits.push_back({Kind::Task, taskId, task});
     m_unsaved.insert_or_assign(taskId, std::move(task));
+    ++m_edits;
 }
 
 void DraftJournal::hand(Edits edits)

@@ -59,6 +59,9 @@ public:
     bool isUnsaved() const { return !m_unsaved.empty(); }
     /// The ids of the tasks that it is in, ascending.
     std::vector<int> unsavedTasks() const;
+    /// How often a task has become unsaved, or an unsaved one another: the same number while
+    /// nothing was edited, whatever was shown, hidden or read meanwhile.
+    int edits() const { return m_edits; }
     /// What was canceled since the last save.
     const DraftTasks& canceled() const { return m_canceled; }
     /// Hands it out to be filed in the working set, and counts it as unsaved from now on.
@@ -111,6 +114,7 @@ private:
     /// What was canceled or given up and is in the working set until that is read again; null for a
     /// task that is taken out.
     SharedTasks m_inPlace;
+    int m_edits = 0;
     bool m_hasFailed = false;
     std::unique_ptr<DraftWriter> m_writer; ///< Made with the first edit.
 };

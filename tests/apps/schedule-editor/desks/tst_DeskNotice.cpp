@@ -6,6 +6,9 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QShowEvent>
+
+#include <algorithm>
 
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
@@ -32,6 +35,7 @@ class tst_DeskNotice : public QObject
 private slots:
     void tellsOfOthers();
     void othersAreTold();
+    void onlyChangesAreNews();
 };
 
 void tst_DeskNotice::tellsOfOthers()
@@ -97,6 +101,48 @@ void tst_DeskNotice::othersAreTold()
     // What is canceled is not open any more.
     fixture.editor->close();
     QTRY_VERIFY(bert.others().empty());
+}
+
+void tst_DeskNotice::onlyChangesAreNews()
+{
+    TestClock clock(QDateTime(QDate(2026, 11, 23), QTime(14, 3)));
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database, QStringLiteral(DEMONSTRATION));
+    fixture.showEditor();
+    DeskWatch bert(QStringLiteral("bert@hall"), nullptr, kQuick);
+    bert.begin(fixture.host.path());
+    const Instant first = clock.msecsSinceEpoch();
+    fixture.manager.addTask(makeTask(9, "2040.01.01", "2040.01.02"));
+    QTRY_COMPARE(bert.others().size(), std::size_t(1));
+    clock.set(QDateTime(QDate(2026, 11, 23), QTime(14, 9)));
+    const Instant second = clock.msecsSinceEpoch();
+    // What is shown once more is no change. What is told is told in turn.
+    QShowEvent shown;
+    QCoreApplication::sendEvent(fixture.editor.get(), &shown);
+    fixture.manager.addTask(makeTask(10, "2041.01.01", "2041.01.02"));
+    QTRY_COMPARE(bert.others().front().taskIds.size(), std::size_t(2));
+    QCOMPARE(bert.others().front().changed, second);
+    clock.set(QDateTime(QDate(2026, 11, 23), QTime(14, 20)));
+    QCoreApplication::sendEvent(fixture.editor.get(), &shown);
+    // The same tasks with another date are one.
+    DeskWatch carl(QStringLiteral("carl@office"), nullptr, kQuick);
+    carl.begin(fixture.host.path());
+    carl.tellEdited({3});
+    QTRY_COMPARE(bert.others().size(), std::size_t(2));
+    for (const DeskNote& note : bert.others()) {
+        if (!note.desk.startsWith(QLatin1String("carl"))) {
+            QCOMPARE(note.changed, second);
+            QCOMPARE(note.since, first);
+        }
+    }
+    fixture.manager.addTask(makeTask(10, "2041.01.01", "2041.01.03"));
+    const auto isMoved = [&bert, &clock] {
+        const auto& notes = bert.others();
+        return std::any_of(notes.begin(), notes.end(), [&clock](const DeskNote& note) {
+            return note.taskIds.size() == 2 && note.changed == clock.msecsSinceEpoch();
+        });
+    };
+    QTRY_VERIFY(isMoved());
 }
 
 TREL_TEST(tst_DeskNotice, QApplication)

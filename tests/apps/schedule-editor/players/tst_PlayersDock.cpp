@@ -102,10 +102,11 @@ void tst_PlayersDock::eachPlayerHasALine()
     // They are looked at every few seconds.
     fixture.clock.advance(6000);
     QTRY_COMPARE(fixture.told(), QStringLiteral("Players: 2"));
-    QCOMPARE(fixture.line(0), QStringLiteral("bar | Last frame of Lunch menu | 09:20:00 | "
-                                             "2, the last at \u20662026.03.10\u2069 09:20:00: "
-                                             "There is no such file."));
-    QCOMPARE(fixture.line(1), QStringLiteral("lobby | City news | 09:20:00 | None"));
+    QCOMPARE(fixture.line(0),
+             QStringLiteral("bar | Last frame of Lunch menu | \u206609:20:00\u2069 | "
+                            "2, the last at \u20662026.03.10 09:20:00\u2069: "
+                            "There is no such file."));
+    QCOMPARE(fixture.line(1), QStringLiteral("lobby | City news | \u206609:20:00\u2069 | None"));
     // Nothing opens by itself.
     QVERIFY(fixture.dock->isHidden());
 }
@@ -137,7 +138,8 @@ void tst_PlayersDock::aPlayerFallsSilent()
     QCOMPARE(fixture.told(), QStringLiteral("Players: 1"));
     fixture.clock.advance(1000);
     QCOMPARE(fixture.told(), QStringLiteral("Players: 1, silent: 1"));
-    QCOMPARE(fixture.line(0), QStringLiteral("lobby | News | Not since 09:20:00 | None"));
+    QCOMPARE(fixture.line(0),
+             QStringLiteral("lobby | News | Not since \u206609:20:00\u2069 | None"));
     // One that ends leaves the list.
     PlayerStatusFolder(fixture.database).remove(QStringLiteral("lobby"));
     fixture.dock->look();
@@ -167,7 +169,7 @@ void tst_PlayersDock::theSelectionStays()
     fixture.table->selectRow(1);
     fixture.tell(fixture.status("lobby", "Weather"));
     fixture.dock->look();
-    QTRY_COMPARE(fixture.line(1), QStringLiteral("lobby | Weather | 09:20:00 | None"));
+    QTRY_COMPARE(fixture.line(1), QStringLiteral("lobby | Weather | \u206609:20:00\u2069 | None"));
     QCOMPARE(fixture.table->currentIndex().row(), 1);
 }
 
