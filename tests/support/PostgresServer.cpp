@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QStringList>
 #include <QUrl>
 
@@ -164,12 +165,42 @@ void PostgresServer::kill()
     end(SIGQUIT);
 }
 
+void PostgresServer::pause()
+{
+    // The first one, which makes the others, before them.
+    ::kill(static_cast<pid_t>(m_process.processId()), SIGSTOP);
+    signalAll(SIGSTOP);
+}
+
+void PostgresServer::resume()
+{
+    signalAll(SIGCONT);
+}
+
+void PostgresServer::signalAll(int signal) const
+{
+    const qint64 first = m_process.processId();
+    QFile children(QStringLiteral("/proc/%1/task/%1/children").arg(first));
+    if (!children.open(QIODevice::ReadOnly)) {
+        qWarning("The processes of the server are not known.");
+        return;
+    }
+    const QList<QByteArray> numbers = children.readAll().simplified().split(' ');
+    for (const QByteArray& number : numbers) {
+        if (const pid_t child = number.toInt(); child > 0) {
+            ::kill(child, signal);
+        }
+    }
+    ::kill(static_cast<pid_t>(first), signal);
+}
+
 void PostgresServer::end(int signal)
 {
     m_isReady = false;
     if (m_process.state() == QProcess::NotRunning) {
         return;
     }
+    resume();
     ::kill(static_cast<pid_t>(m_process.processId()), signal);
     if (!m_process.waitForFinished(kPatience)) {
         m_process.kill();

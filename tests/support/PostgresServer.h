@@ -23,7 +23,11 @@ public:
     void stop();
     /// Ends it as a power cut would.
     void kill();
+    /// Stops all of its processes where they are, while its machine goes on answering for them.
+    void pause();
+    void resume();
 
+    int port() const { return m_port; }
     /// The address of a schedule for a user, who need not be there; for the one who may do
     /// everything when none is given.
     QString address(const QString& schedule, const QString& user = {}) const;
@@ -44,6 +48,7 @@ private:
     QStringList asAnother(const QString& program, const QStringList& arguments) const;
     QStringList clientArguments() const;
     void end(int signal);
+    void signalAll(int signal) const;
 
     QTemporaryDir m_folder;
     QProcess m_process;

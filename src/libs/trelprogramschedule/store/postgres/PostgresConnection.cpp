@@ -10,6 +10,7 @@
 
 #include <QSqlError>
 #include <QStringList>
+#include <QUuid>
 #include <QVariant>
 
 #include <utility>
@@ -31,6 +32,13 @@ const QString kSchemaPrefix = QStringLiteral("trel_schedule_");
 const QString kMakeSeal =
     QStringLiteral("CREATE TABLE seal (one INTEGER PRIMARY KEY CHECK (one = 1),"
                    " application INTEGER NOT NULL, version INTEGER NOT NULL)");
+
+/// What tells of each change of the last day that it was done, by a token that it alone has. The
+/// numbers that the server gives to transactions would not do: one that a crash has undone is given
+/// out anew.
+const QString kMakeWritten =
+    QStringLiteral("CREATE TABLE written (token uuid PRIMARY KEY,"
+                   " moment timestamp with time zone NOT NULL DEFAULT now())");
 
 /// More than any schema has, so that one that has more shows.
 constexpr int kMostElements = 1000;
@@ -277,12 +285,12 @@ void PostgresConnection::commit() const
     }
     // What is done is not given up for want of time.
     m_deadline = nullptr;
-    const QString id = m_isWriting ? transactionId() : QString();
+    const QString token = m_isWriting ? leaveToken() : QString();
     try {
         run(QStringLiteral("COMMIT"));
         m_isInTransaction = false;
     } catch (const StoreError&) {
-        const Fate fate = isAlive() ? Fate::Undone : fateOf(id);
+        const Fate fate = isAlive() || !m_isWriting ? Fate::Undone : fateOf(token);
         if (fate == Fate::Undone) {
             throw;
         }
@@ -292,29 +300,35 @@ void PostgresConnection::commit() const
     }
 }
 
-/// Empty for a transaction that has changed nothing.
-QString PostgresConnection::transactionId() const
+/// Empty where there may be no place for it yet.
+QString PostgresConnection::leaveToken() const
 {
-    return value(QStringLiteral("SELECT pg_current_xact_id_if_assigned()::text")).toString();
+    if (m_access != Access::ReadWrite) {
+        return {};
+    }
+    QString token = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    run(QStringLiteral("WITH old AS"
+                       " (DELETE FROM written WHERE moment < now() - interval '1 day')"
+                       " INSERT INTO written (token) VALUES ('%1')")
+            .arg(token));
+    return token;
 }
 
 /// Asks the server, as soon as it is there again. What it was still at work with is waited for at
 /// the row that it holds.
-PostgresConnection::Fate PostgresConnection::fateOf(const QString& transactionId) const
+PostgresConnection::Fate PostgresConnection::fateOf(const QString& token) const
 {
-    if (transactionId.isEmpty()) {
-        return Fate::Undone;
+    if (token.isEmpty()) {
+        return Fate::Unknown;
     }
     connect();
     try {
         beginOnce(StorePurpose::Write);
-        const QString status =
-            value(QStringLiteral("SELECT pg_xact_status('%1'::xid8)").arg(transactionId))
-                .toString();
+        const bool isDone =
+            value(QStringLiteral("SELECT count(*) FROM written WHERE token = '%1'").arg(token))
+                .toInt() != 0;
         rollBack();
-        return status == QLatin1String("committed") ? Fate::Committed
-               : status == QLatin1String("aborted") ? Fate::Undone
-                                                    : Fate::Unknown;
+        return isDone ? Fate::Committed : Fate::Undone;
     } catch (const StoreError&) {
         return Fate::Unknown;
     }
@@ -367,6 +381,7 @@ void PostgresConnection::seal(qint64 applicationId, int schemaVersion) const
 {
     if (!hasSeal()) {
         run(kMakeSeal);
+        run(kMakeWritten);
     }
     run(QStringLiteral("INSERT INTO seal VALUES (1, %1, %2) ON CONFLICT (one) DO UPDATE"
                        " SET application = %1, version = %2")
@@ -400,6 +415,7 @@ StoreElements PostgresConnection::elementsMadeBy(const QStringList& statements) 
     StoreTransaction transaction(fresh, StorePurpose::Write);
     fresh.run(QStringLiteral("SET LOCAL search_path = pg_temp"));
     fresh.run(kMakeSeal);
+    fresh.run(kMakeWritten);
     for (const QString& statement : statements) {
         fresh.run(statement);
     }

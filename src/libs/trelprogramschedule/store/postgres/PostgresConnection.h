@@ -80,8 +80,9 @@ private:
     /// Connects once more, to a schema of the version that was found before.
     void reconnect() const;
     void beginOnce(StorePurpose purpose) const;
-    QString transactionId() const;
-    Fate fateOf(const QString& transactionId) const;
+    /// Part of a change: by this it is known to be done, where the answer is lost.
+    QString leaveToken() const;
+    Fate fateOf(const QString& token) const;
     StoreElements elementsIn(const QString& schemaId) const;
 
     StorePlace m_place;

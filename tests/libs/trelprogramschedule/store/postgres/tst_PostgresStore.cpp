@@ -6,13 +6,16 @@
 #include "store/postgres/PostgresSetup.h"
 #include "support/PostgresServer.h"
 #include "support/SampleSchedule.h"
+#include "support/ServerRelay.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/history/VersionReader.h"
 
 #include <QCoreApplication>
+#include <QSemaphore>
 #include <QtTest>
 
 #include <memory>
+#include <thread>
 
 using namespace trel::mediadispatch;
 
@@ -72,6 +75,7 @@ private slots:
     void aSchemaOfAnotherVersionIsNotWritten();
     void aCommitThatIsCutShortIsUndone();
     void aCommitWithoutAnAnswerIsAskedFor();
+    void aNumberThatCameAgainIsNotTakenForIt();
     void aServerThatIsAwayIsToldOf();
     void aDatabaseThatCannotNameItIsToldOf();
     void whoKeepsOthersOutIsNotWaitedForLong();
@@ -511,6 +515,83 @@ void tst_PostgresStore::aCommitWithoutAnAnswerIsAskedFor()
     DONE(desk.read(StorePart::Schedule, contents));
     QVERIFY(contents.tasks == tasks);
     QCOMPARE(contents.revision.schedule, 1);
+}
+
+// The server crashes before it has committed, and gives the number of the transaction to another
+// one, which it commits, before it can be asked.
+void tst_PostgresStore::aNumberThatCameAgainIsNotTakenForIt()
+{
+    // What is not committed stays in memory, so that nothing of it outlives the crash.
+    for (const char* setting : {"wal_level = minimal", "max_wal_senders = 0",
+                                "wal_writer_delay = '10s'", "autovacuum = off"}) {
+        QVERIFY(!m_server->run(QStringLiteral("ALTER SYSTEM SET ") + QLatin1String(setting))
+                     .isNull());
+    }
+    const auto undo = qScopeGuard([this] {
+        m_server->run(QStringLiteral("ALTER SYSTEM RESET ALL"));
+        m_server->stop();
+        m_server->start();
+    });
+    const auto number = [this](const char* statement) {
+        return m_server->run(QLatin1String(statement)).toLongLong();
+    };
+    const TaskMap tasks = sampleSchedule(1, 1, 1);
+    bool isSameAgain = false;
+    // On a busy machine some of it may come to the disk nevertheless.
+    constexpr int trials = 5;
+    for (int trial = 0; trial < trials && !isSameAgain; ++trial) {
+        m_server->stop();
+        QVERIFY(m_server->start());
+        ServerRelay relay(m_server->port());
+        QVERIFY(relay.port() != 0);
+        QString place = address();
+        place.replace(QString::number(m_server->port()), QString::number(relay.port()));
+        QSemaphore opened;
+        QSemaphore begun;
+        StoreResult result;
+        StoreContents contents;
+        std::thread desk([&] {
+            ScheduleDatabase database;
+            result = database.open(place, StoreOpenMode::MustExist);
+            opened.release();
+            begun.acquire();
+            qint64 revision = 0;
+            if (result) {
+                result = database.writeTasks(tasks, editsFor(tasks), revision);
+            }
+        });
+        const auto join = qScopeGuard([&] {
+            begun.release();
+            relay.cut();
+            desk.join();
+        });
+        opened.acquire();
+        // With its end, since READ COMMITTED begins with it as well.
+        relay.holdAt(QByteArray("COMMIT", sizeof "COMMIT"));
+        begun.release();
+        QVERIFY(relay.waitUntilHeld());
+        const qint64 former =
+            number("SELECT max(backend_xid::text::bigint) FROM pg_stat_activity");
+        QVERIFY(former > 0);
+        m_server->kill();
+        QVERIFY(m_server->start());
+        const qint64 first = number("SELECT pg_current_xact_id()");
+        for (qint64 next = first; next <= former; next = number("SELECT pg_current_xact_id()")) {
+            QVERIFY(next > 0);
+        }
+        isSameAgain = first <= former;
+        relay.cut();
+        begun.release();
+        desk.join();
+        desk = std::thread([] {});
+        QVERIFY2(result.problem == StoreProblem::Other, qPrintable(englishText(result)));
+        ScheduleDatabase screen;
+        OPEN(screen, address(), StoreOpenMode::ReadOnly);
+        DONE(screen.read(StorePart::Schedule, contents));
+        QVERIFY(contents.tasks.empty());
+        QCOMPARE(contents.revision.schedule, 0);
+    }
+    QVERIFY(isSameAgain);
 }
 
 void tst_PostgresStore::aServerThatIsAwayIsToldOf()
