@@ -481,6 +481,14 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
         <source>The name of the schedule in the address is missing, too long or not readable.</source>
         <translation>Der Name des Wiedergabeplans in der Adresse fehlt, ist zu lang oder nicht lesbar.</translation>
     </message>
+    <message>
+        <source>The connection was lost before the server answered.</source>
+        <translation>Die Verbindung brach ab, bevor der Server antwortete.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Der Server antwortet nicht.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>
@@ -804,6 +812,10 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
     <message>
         <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
         <translation>%1 wurde möglicherweise nicht geschrieben. %2 Die Änderung ist derzeit nicht in der Datei zu sehen, kann aber nach einem Neustart des Computers vorhanden sein. Speichern Sie den Wiedergabeplan auf einem anderen Datenträger, und prüfen Sie den bisherigen, bevor Sie fortfahren.</translation>
+    </message>
+    <message>
+        <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
+        <translation>Es ist nicht sicher, ob %1 geschrieben wurde. %2 Sehen Sie nach, ob die Änderung vorhanden ist, sobald der Server wieder erreichbar ist, bevor Sie fortfahren.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

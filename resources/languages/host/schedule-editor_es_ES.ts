@@ -481,6 +481,14 @@ Cierre esta pregunta para seguir editando.</translation>
         <source>The name of the schedule in the address is missing, too long or not readable.</source>
         <translation>El nombre de la programación en la dirección falta, es demasiado largo o no se puede leer.</translation>
     </message>
+    <message>
+        <source>The connection was lost before the server answered.</source>
+        <translation>La conexión se perdió antes de que el servidor respondiera.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>El servidor no responde.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>
@@ -804,6 +812,10 @@ Cierre esta pregunta para seguir editando.</translation>
     <message>
         <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
         <translation>Es posible que %1 no se haya escrito. %2 El cambio no se ve ahora en el archivo, pero puede aparecer tras reiniciar el equipo. Guarde la programación en otro disco y compruebe el disco actual antes de continuar.</translation>
+    </message>
+    <message>
+        <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
+        <translation>No es seguro que %1 se haya escrito. %2 Cuando vuelva a tener acceso al servidor, compruebe si el cambio está ahí antes de continuar.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

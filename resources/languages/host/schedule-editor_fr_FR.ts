@@ -481,6 +481,14 @@ Fermez cette question pour continuer à modifier.</translation>
         <source>The name of the schedule in the address is missing, too long or not readable.</source>
         <translation>Le nom de la programmation dans l’adresse manque, est trop long ou illisible.</translation>
     </message>
+    <message>
+        <source>The connection was lost before the server answered.</source>
+        <translation>La connexion a été perdue avant la réponse du serveur.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Le serveur ne répond pas.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>
@@ -804,6 +812,10 @@ Fermez cette question pour continuer à modifier.</translation>
     <message>
         <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
         <translation>%1 n’a peut-être pas été écrit. %2 La modification n’est pas visible dans le fichier pour l’instant, mais peut y figurer après un redémarrage de l’ordinateur. Enregistrez la programmation sur un autre disque et vérifiez le disque actuel avant de continuer.</translation>
+    </message>
+    <message>
+        <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
+        <translation>Il n’est pas certain que %1 ait été écrit. %2 Dès que le serveur est de nouveau joignable, vérifiez si la modification s’y trouve avant de continuer.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

@@ -472,6 +472,14 @@ Close this question to keep editing.</source>
         <source>The name of the schedule in the address is missing, too long or not readable.</source>
         <translation>アドレスのスケジュール名がないか、長すぎるか、読み取れません。</translation>
     </message>
+    <message>
+        <source>The connection was lost before the server answered.</source>
+        <translation>サーバーが応答する前に接続が切れました。</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>サーバーが応答しません。</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>
@@ -783,6 +791,10 @@ Close this question to keep editing.</source>
     <message>
         <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
         <translation>%1 に書き込まれていない可能性があります。%2現在この変更はファイルにありませんが、コンピューターの再起動後に現れることがあります。スケジュールを別のディスクに書き出し、現在のディスクを確認してから続行してください。</translation>
+    </message>
+    <message>
+        <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
+        <translation>%1 に書き込まれたかどうかは確かではありません。%2サーバーに再び接続できるようになったら、変更が反映されているか確認してから続行してください。</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

@@ -472,6 +472,14 @@ Close this question to keep editing.</source>
         <source>The name of the schedule in the address is missing, too long or not readable.</source>
         <translation>주소에 있는 일정의 이름이 없거나 너무 길거나 읽을 수 없습니다.</translation>
     </message>
+    <message>
+        <source>The connection was lost before the server answered.</source>
+        <translation>서버가 응답하기 전에 연결이 끊어졌습니다.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>서버가 응답하지 않습니다.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>
@@ -783,6 +791,10 @@ Close this question to keep editing.</source>
     <message>
         <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
         <translation>%1에 쓰이지 않았을 수 있습니다. %2 지금은 파일에서 변경 내용이 보이지 않지만 컴퓨터를 다시 시작한 후 나타날 수 있습니다. 일정을 다른 디스크에 쓰고, 계속하기 전에 현재 디스크를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
+        <translation>%1에 쓰였는지 확실하지 않습니다. %2 서버에 다시 연결할 수 있게 되면 변경 내용이 있는지 확인한 후 계속하십시오.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

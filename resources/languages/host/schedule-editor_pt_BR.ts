@@ -481,6 +481,14 @@ Feche esta pergunta para continuar editando.</translation>
         <source>The name of the schedule in the address is missing, too long or not readable.</source>
         <translation>O nome da programação no endereço está ausente, é longo demais ou não é legível.</translation>
     </message>
+    <message>
+        <source>The connection was lost before the server answered.</source>
+        <translation>A conexão foi perdida antes de o servidor responder.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>O servidor não responde.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>
@@ -804,6 +812,10 @@ Feche esta pergunta para continuar editando.</translation>
     <message>
         <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
         <translation>Talvez %1 não tenha sido gravado. %2 A alteração não está visível no arquivo agora, mas pode aparecer depois que o computador for reiniciado. Grave a programação em outro disco e verifique o disco atual antes de continuar.</translation>
+    </message>
+    <message>
+        <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
+        <translation>Não é certo que %1 tenha sido gravado. %2 Quando o servidor puder ser acessado novamente, verifique se a alteração está lá antes de continuar.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

@@ -490,6 +490,14 @@ Close this question to keep editing.</source>
         <source>The name of the schedule in the address is missing, too long or not readable.</source>
         <translation>Имя расписания в адресе отсутствует, слишком длинное или нечитаемое.</translation>
     </message>
+    <message>
+        <source>The connection was lost before the server answered.</source>
+        <translation>Соединение прервалось до ответа сервера.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Сервер не отвечает.</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>
@@ -825,6 +833,10 @@ Close this question to keep editing.</source>
     <message>
         <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
         <translation>Возможно, файл %1 не записан. %2 Сейчас изменения в файле не видно, но оно может появиться после перезагрузки компьютера. Запишите расписание на другой диск и проверьте текущий, прежде чем продолжать.</translation>
+    </message>
+    <message>
+        <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
+        <translation>Неизвестно, записано ли %1. %2 Когда сервер снова станет доступен, проверьте, есть ли там изменение, прежде чем продолжать.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

@@ -472,6 +472,14 @@ Close this question to keep editing.</source>
         <source>The name of the schedule in the address is missing, too long or not readable.</source>
         <translation>地址中的排期名称缺失、过长或无法读取。</translation>
     </message>
+    <message>
+        <source>The connection was lost before the server answered.</source>
+        <translation>在服务器响应之前连接已断开。</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>服务器没有响应。</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>
@@ -783,6 +791,10 @@ Close this question to keep editing.</source>
     <message>
         <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
         <translation>%1 可能未写入。%2目前文件中看不到该更改，但重启计算机后可能出现。请将排期写入其他磁盘，并在继续之前检查当前磁盘。</translation>
+    </message>
+    <message>
+        <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
+        <translation>无法确定 %1 是否已写入。%2服务器恢复连接后，请先查看更改是否存在，再继续操作。</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

@@ -472,6 +472,14 @@ Close this question to keep editing.</source>
         <source>The name of the schedule in the address is missing, too long or not readable.</source>
         <translation>位址中的排程名稱缺漏、過長或無法讀取。</translation>
     </message>
+    <message>
+        <source>The connection was lost before the server answered.</source>
+        <translation>在伺服器回應之前連線已中斷。</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>伺服器沒有回應。</translation>
+    </message>
     <message numerus="yes">
         <source>There are more than %n tasks.</source>
         <translation>
@@ -783,6 +791,10 @@ Close this question to keep editing.</source>
     <message>
         <source>%1 may not have been written. %2 The change is not visible in the file now, but may be there after a restart of the computer. Write the schedule to another disk, and check the current one before you go on.</source>
         <translation>%1 可能未寫入。%2目前檔案中看不到該變更，但電腦重新開機後可能出現。請將排程寫入其他磁碟，並在繼續之前檢查目前的磁碟。</translation>
+    </message>
+    <message>
+        <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
+        <translation>無法確定 %1 是否已寫入。%2伺服器恢復連線後，請先查看變更是否存在，再繼續操作。</translation>
     </message>
     <message>
         <source>You do not have permission.</source>

@@ -74,6 +74,8 @@ constexpr Pattern kFaults[] = {
     {QT_TRANSLATE_NOOP(
         "ProblemWords",
         "The name of the schedule in the address is missing, too long or not readable.")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "The connection was lost before the server answered.")},
+    {QT_TRANSLATE_NOOP("ProblemWords", "The server does not answer.")},
 
     {QT_TRANSLATE_N_NOOP("ProblemWords", "There are more than %n tasks."), 0},
     {QT_TRANSLATE_N_NOOP("ProblemWords", "There are more than %n plans."), 0},
@@ -185,6 +187,19 @@ constexpr Pattern kStoreProblemTexts[] = {
         "another disk, and check the current one before you go on.")},
 };
 static_assert(std::size(kStoreProblemTexts) == kStoreProblems);
+
+/// Of a change on a server of which no answer came: another disk would help nobody there.
+constexpr char kUnanswered[] = QT_TRANSLATE_NOOP(
+    "ProblemWords",
+    "It is not certain whether %1 has been written. %2 Once the server can be reached again, see "
+    "whether the change is there before you go on.");
+
+const char* patternOf(const StoreResult& result)
+{
+    return result.cause.code == FaultCode::AnswerLost
+               ? kUnanswered
+               : kStoreProblemTexts[static_cast<int>(result.problem)].text;
+}
 
 QString translated(const char* text, int number = -1)
 {
@@ -312,7 +327,7 @@ QString sentence(const Fault& fault)
 
 QString sentence(const StoreResult& result)
 {
-    return filled(translated(kStoreProblemTexts[static_cast<int>(result.problem)].text),
+    return filled(translated(patternOf(result)),
                   {QDir::toNativeSeparators(result.path), sentence(result.cause)});
 }
 

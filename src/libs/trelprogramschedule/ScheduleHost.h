@@ -27,10 +27,11 @@ struct MediaSource;
 /// refused does not come back with a later opening either. The one exception is
 /// StoreProblem::Unclear, when a disk fails in the middle of a change and does not confirm that it
 /// has gone: then the store is read without it, but after a power cut it may be there, and only
-/// another disk is safe. A file that another program holds is waited for, two seconds at most. Two
-/// hosts may have the same file open: each sees the other's saves and imports when its list is next
-/// refreshed or on reload, and is refused a save that would undo what it has not seen
-/// (StoreProblem::MovedOn).
+/// another disk is safe. On a server it is when the answer to a change is lost, and the server
+/// cannot be asked what became of it: the change is there as a whole or not at all. A file that
+/// another program holds is waited for, two seconds at most. Two hosts may have the same file open:
+/// each sees the other's saves and imports when its list is next refreshed or on reload, and is
+/// refused a save that would undo what it has not seen (StoreProblem::MovedOn).
 // The destructor is private: only instance() makes or ends the one instance.
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class TRELPROGRAMSCHEDULE_EXPORT ScheduleHost : public QObject

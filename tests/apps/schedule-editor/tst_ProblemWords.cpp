@@ -30,6 +30,8 @@ QStringList sentences()
         texts.append(problems::sentence(StoreResult{
             static_cast<StoreProblem>(number), QStringLiteral("/17"), {FaultCode::NoMemory, {}}}));
     }
+    texts.append(problems::sentence(
+        StoreResult{StoreProblem::Unclear, QStringLiteral("/17"), {FaultCode::AnswerLost, {}}}));
     for (const int error : {EACCES, ENOENT, EROFS, ENAMETOOLONG, EMFILE, EBUSY, 17}) {
         texts.append(problems::sentence(faultOf(FaultCode::System, error)));
     }
@@ -53,6 +55,7 @@ private slots:
     void everyReasonHasWordsInEveryLanguage();
     void numbersHaveTheirPlural_data();
     void numbersHaveTheirPlural();
+    void anAnswerThatIsLostIsNoMatterOfDisks();
     void whatLooksLikeAPlaceStaysAsItIs();
     void aPlaceInAFileIsNamed();
     void nothingHasNoWords();
@@ -108,6 +111,23 @@ void tst_ProblemWords::numbersHaveTheirPlural()
     fixture.languages.select(QLatin1String(QTest::currentDataTag()));
     QCOMPARE(problems::sentence(faultOf(FaultCode::TooManyTasks, 1)), one);
     QCOMPARE(problems::sentence(faultOf(FaultCode::TooManyTasks, 5)), many);
+}
+
+void tst_ProblemWords::anAnswerThatIsLostIsNoMatterOfDisks()
+{
+    HostFixture fixture;
+    const StoreResult onServer{
+        StoreProblem::Unclear, QStringLiteral("postgresql:%2"), {FaultCode::AnswerLost, {}}};
+    QCOMPARE(
+        problems::sentence(onServer),
+        QStringLiteral("It is not certain whether postgresql:%2 has been written. The "
+                       "connection was lost before the server answered. Once the server can be "
+                       "reached again, see whether the change is there before you go on."));
+    const StoreResult onDisk{
+        StoreProblem::Unclear, QStringLiteral("/a.db"), {FaultCode::DiskError, {}}};
+    QVERIFY(problems::sentence(onDisk).contains(QLatin1String("another disk")));
+    fixture.languages.select(QStringLiteral("de_DE"));
+    QVERIFY(problems::sentence(onServer).contains(QLatin1String("Server")));
 }
 
 void tst_ProblemWords::whatLooksLikeAPlaceStaysAsItIs()

@@ -44,6 +44,8 @@ enum class FaultCode {
     AddressPassword,   ///< Of a store on a server; the password is not told.
     AddressUnfit,      ///< The form of an address.
     ScheduleNameUnfit, ///< The name of a schedule on a server is missing, too long or hidden.
+    AnswerLost,        ///< The way to the server was cut before it told what became of a change.
+    ServerSilent,      ///< The server did not answer for longer than it takes for anything.
 
     // what a schedule may hold at most
     TooManyTasks,       ///< The most of them.

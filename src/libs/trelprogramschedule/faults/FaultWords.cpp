@@ -54,6 +54,8 @@ constexpr Words kWords[] = {
     {"addressUnfit", "the address of a schedule on a server has the form %1"},
     {"scheduleNameUnfit", "the name of the schedule in the address is missing, too long or not "
                           "readable"},
+    {"answerLost", "the connection was lost before the server answered"},
+    {"serverSilent", "the server does not answer"},
 
     {"tooManyTasks", "there are more than %1 tasks"},
     {"tooManyPlans", "there are more than %1 plans"},
@@ -151,6 +153,18 @@ constexpr Words kStoreWords[] = {
 };
 static_assert(std::size(kStoreWords) == kStoreProblems);
 
+/// Of a change on a server of which no answer came: another disk would help nobody there.
+constexpr char kUnanswered[] =
+    "%1 may have been written, or not: %2. Once the server can be reached again, see whether the "
+    "change is there before you go on.";
+
+const char* patternOf(const StoreResult& result)
+{
+    return result.cause.code == FaultCode::AnswerLost
+               ? kUnanswered
+               : kStoreWords[static_cast<int>(result.problem)].english;
+}
+
 const Words& wordsOf(FaultCode code)
 {
     return kWords[static_cast<int>(code)];
@@ -244,7 +258,7 @@ QString englishSentence(const Fault& fault)
 
 QString englishText(const StoreResult& result)
 {
-    return filled(kStoreWords[static_cast<int>(result.problem)].english,
+    return filled(patternOf(result),
                   {QDir::toNativeSeparators(result.path), englishClause(result.cause)});
 }
 

@@ -38,7 +38,8 @@ enum class StoreProblem {
     Altered,  ///< The database holds what no store of this program holds.
     TooLarge, ///< The contents go beyond what a store takes.
     Unclear,  ///< A change was refused by a disk that does not confirm either that it has gone. The
-              ///< store is read without it, yet after a power cut it may be there, whole.
+              ///< store is read without it, yet after a power cut it may be there, whole. Of a
+              ///< change on a server the answer was lost: it may be there now, whole.
 };
 
 /// How many problems there are; they count from 0.

@@ -26,6 +26,7 @@ private slots:
     void everyCodeHasANameOfItsOwn();
     void everyCodeHasWords();
     void everyStoreProblemHasANameAndWords();
+    void anAnswerThatIsLostIsNoMatterOfDisks();
     void whatLooksLikeAPlaceStaysAsItIs();
     void aClauseBecomesASentence();
     void theErrorOfTheSystemIsWorded();
@@ -73,6 +74,19 @@ void tst_FaultWords::everyStoreProblemHasANameAndWords()
     }
     QCOMPARE(names.size(), kStoreProblems - 1);
     QVERIFY(!names.contains(QString()));
+}
+
+void tst_FaultWords::anAnswerThatIsLostIsNoMatterOfDisks()
+{
+    const StoreResult onServer{
+        StoreProblem::Unclear, QStringLiteral("postgresql:%2"), {FaultCode::AnswerLost, {}}};
+    QCOMPARE(englishText(onServer),
+             QStringLiteral("postgresql:%2 may have been written, or not: the connection was lost "
+                            "before the server answered. Once the server can be reached again, see "
+                            "whether the change is there before you go on."));
+    const StoreResult onDisk{
+        StoreProblem::Unclear, QStringLiteral("/a.db"), {FaultCode::DiskError, {}}};
+    QVERIFY(englishText(onDisk).contains(QLatin1String("another disk")));
 }
 
 void tst_FaultWords::whatLooksLikeAPlaceStaysAsItIs()

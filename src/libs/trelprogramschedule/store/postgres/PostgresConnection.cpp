@@ -295,7 +295,7 @@ void PostgresConnection::commit() const
             throw;
         }
         if (fate == Fate::Unknown) {
-            throw StoreError{refusal(StoreProblem::Unclear, path(), {FaultCode::DiskError, {}})};
+            throw StoreError{refusal(StoreProblem::Unclear, path(), {FaultCode::AnswerLost, {}})};
         }
     }
 }

@@ -34,6 +34,57 @@ TaskEdits editsFor(const TaskMap& tasks)
     return edits;
 }
 
+/// A desk in a thread of its own, whose first save a relay keeps from being committed.
+class SaveAside
+{
+public:
+    SaveAside(const QString& place, const TaskMap& tasks)
+        : m_thread([this, place, tasks] {
+            ScheduleDatabase database;
+            m_result = database.open(place, StoreOpenMode::MustExist);
+            m_opened.release();
+            m_begun.acquire();
+            qint64 revision = 0;
+            if (m_result) {
+                m_result = database.writeTasks(tasks, editsFor(tasks), revision);
+            }
+        })
+    {}
+    ~SaveAside()
+    {
+        if (m_thread.joinable()) {
+            m_begun.release();
+            if (m_relay != nullptr) {
+                m_relay->cut();
+            }
+            m_thread.join();
+        }
+    }
+    Q_DISABLE_COPY(SaveAside)
+
+    void save(ServerRelay& relay)
+    {
+        m_relay = &relay;
+        m_opened.acquire();
+        // With its end, since READ COMMITTED begins with it as well.
+        relay.holdAt(QByteArray("COMMIT", sizeof "COMMIT"));
+        m_begun.release();
+    }
+    /// Waits for the end, which comes when the relay has cut the connection.
+    StoreResult result()
+    {
+        m_thread.join();
+        return m_result;
+    }
+
+private:
+    StoreResult m_result;
+    QSemaphore m_opened;
+    QSemaphore m_begun;
+    ServerRelay* m_relay = nullptr;
+    std::thread m_thread;
+};
+
 } // namespace
 
 #define OPEN(database, ...)                                                                        \
@@ -76,6 +127,7 @@ private slots:
     void aCommitThatIsCutShortIsUndone();
     void aCommitWithoutAnAnswerIsAskedFor();
     void aNumberThatCameAgainIsNotTakenForIt();
+    void anAnswerThatIsLostIsToldOf();
     void aServerThatIsAwayIsToldOf();
     void aDatabaseThatCannotNameItIsToldOf();
     void whoKeepsOthersOutIsNotWaitedForLong();
@@ -87,6 +139,11 @@ private:
     QString address(const QString& user = {}) const
     {
         return m_server->address(QStringLiteral("hall"), user);
+    }
+
+    QString addressBy(const ServerRelay& relay) const
+    {
+        return address().replace(QString::number(m_server->port()), QString::number(relay.port()));
     }
 
     std::unique_ptr<PostgresServer> m_server;
@@ -544,31 +601,8 @@ void tst_PostgresStore::aNumberThatCameAgainIsNotTakenForIt()
         QVERIFY(m_server->start());
         ServerRelay relay(m_server->port());
         QVERIFY(relay.port() != 0);
-        QString place = address();
-        place.replace(QString::number(m_server->port()), QString::number(relay.port()));
-        QSemaphore opened;
-        QSemaphore begun;
-        StoreResult result;
-        StoreContents contents;
-        std::thread desk([&] {
-            ScheduleDatabase database;
-            result = database.open(place, StoreOpenMode::MustExist);
-            opened.release();
-            begun.acquire();
-            qint64 revision = 0;
-            if (result) {
-                result = database.writeTasks(tasks, editsFor(tasks), revision);
-            }
-        });
-        const auto join = qScopeGuard([&] {
-            begun.release();
-            relay.cut();
-            desk.join();
-        });
-        opened.acquire();
-        // With its end, since READ COMMITTED begins with it as well.
-        relay.holdAt(QByteArray("COMMIT", sizeof "COMMIT"));
-        begun.release();
+        SaveAside desk(addressBy(relay), tasks);
+        desk.save(relay);
         QVERIFY(relay.waitUntilHeld());
         const qint64 former =
             number("SELECT max(backend_xid::text::bigint) FROM pg_stat_activity");
@@ -581,17 +615,30 @@ void tst_PostgresStore::aNumberThatCameAgainIsNotTakenForIt()
         }
         isSameAgain = first <= former;
         relay.cut();
-        begun.release();
-        desk.join();
-        desk = std::thread([] {});
+        const StoreResult result = desk.result();
         QVERIFY2(result.problem == StoreProblem::Other, qPrintable(englishText(result)));
         ScheduleDatabase screen;
         OPEN(screen, address(), StoreOpenMode::ReadOnly);
+        StoreContents contents;
         DONE(screen.read(StorePart::Schedule, contents));
         QVERIFY(contents.tasks.empty());
         QCOMPARE(contents.revision.schedule, 0);
     }
     QVERIFY(isSameAgain);
+}
+
+// The connection goes while the server is to commit, and nobody can be asked then.
+void tst_PostgresStore::anAnswerThatIsLostIsToldOf()
+{
+    ServerRelay relay(m_server->port());
+    SaveAside desk(addressBy(relay), sampleSchedule(1, 1, 1));
+    desk.save(relay);
+    QVERIFY(relay.waitUntilHeld());
+    m_server->stop();
+    relay.cut();
+    const StoreResult result = desk.result();
+    QCOMPARE(result.problem, StoreProblem::Unclear);
+    QCOMPARE(result.cause.code, FaultCode::AnswerLost);
 }
 
 void tst_PostgresStore::aServerThatIsAwayIsToldOf()
