@@ -28,10 +28,12 @@ const QString kOptions =
 /// In front of the name of a schedule, so that its schema meets no other.
 const QString kSchemaPrefix = QStringLiteral("trel_schedule_");
 
-/// What says whose a schema is, and which version of it.
+/// What says whose a schema is, and which version of it. The id is that of the schedule: another
+/// one that is set up in its place has another.
 const QString kMakeSeal =
     QStringLiteral("CREATE TABLE seal (one INTEGER PRIMARY KEY CHECK (one = 1),"
-                   " application INTEGER NOT NULL, version INTEGER NOT NULL)");
+                   " application INTEGER NOT NULL, version INTEGER NOT NULL,"
+                   " id uuid NOT NULL DEFAULT gen_random_uuid())");
 
 /// What tells of each change of the last day that it was done, by a token that it alone has. The
 /// numbers that the server gives to transactions would not do: one that a crash has undone is given
@@ -193,7 +195,7 @@ void PostgresConnection::begin(StorePurpose purpose) const
 {
     beginAlive(purpose);
     if (m_isWriting && m_access == Access::ReadWrite) {
-        expectSameVersion();
+        expectSameSchedule();
     }
 }
 
@@ -237,19 +239,49 @@ void PostgresConnection::reconnect() const
     }
 }
 
-void PostgresConnection::expectSameVersion() const
+void PostgresConnection::expectSameSchedule() const
 {
     if (m_version == kNotAsked) {
         return;
     }
     try {
-        const int found = value(QStringLiteral("SELECT version FROM seal")).toInt();
-        if (found != m_version) {
-            throw otherVersion(found);
+        const Seal found = readSeal();
+        if (found.version != m_version) {
+            throw otherVersion(found.version);
+        }
+        if (!m_identity.isEmpty() && found.identity != m_identity) {
+            throw StoreError{refusal(StoreProblem::Other, path(), {FaultCode::FileReplaced, {}})};
         }
     } catch (const StoreError&) {
         rollBack();
         throw;
+    }
+}
+
+/// What was read back from a copy has the id of the original, yet is another schema.
+PostgresConnection::Seal PostgresConnection::readSeal() const
+{
+    QSqlQuery row = query(QStringLiteral("SELECT version, oid::text || ' ' || id::text FROM seal,"
+                                         " pg_catalog.pg_namespace WHERE nspname = %1")
+                              .arg(postgresText(schemaName())));
+    if (!next(row)) {
+        throw StoreError{refusal(StoreProblem::Damaged, path(), {FaultCode::RowMissing, {}})};
+    }
+    return {row.value(0).toInt(), row.value(1).toString()};
+}
+
+void PostgresConnection::rememberSchedule() const
+{
+    m_identity = readSeal().identity;
+}
+
+bool PostgresConnection::isSameSchedule() const
+{
+    try {
+        return readSeal().identity == m_identity;
+    } catch (const StoreError& error) {
+        // Of a server that is away nothing is known. What is not there is no longer the same.
+        return error.result.problem != StoreProblem::Damaged;
     }
 }
 
@@ -383,8 +415,8 @@ void PostgresConnection::seal(qint64 applicationId, int schemaVersion) const
         run(kMakeSeal);
         run(kMakeWritten);
     }
-    run(QStringLiteral("INSERT INTO seal VALUES (1, %1, %2) ON CONFLICT (one) DO UPDATE"
-                       " SET application = %1, version = %2")
+    run(QStringLiteral("INSERT INTO seal (one, application, version) VALUES (1, %1, %2)"
+                       " ON CONFLICT (one) DO UPDATE SET application = %1, version = %2")
             .arg(applicationId)
             .arg(schemaVersion));
     m_version = kNotAsked;

@@ -36,6 +36,12 @@ public:
     bool hasSchema() const;
     bool hasSeal() const;
 
+    /// The schedule that is there now is the one to stay with: what would be written to another one
+    /// that takes its place, new or restored from a copy, is refused from then on.
+    void rememberSchedule() const;
+    /// Whether the schedule that is remembered is still there. True as long as it cannot be asked.
+    bool isSameSchedule() const;
+
     /// Without preparing it, which the server does for some kinds of statements alone. A deadline
     /// is looked at before each statement; the server ends one that takes long by itself.
     QSqlQuery query(const QString& statement) const override;
@@ -59,6 +65,13 @@ private:
     /// What has become of a transaction of which no answer came.
     enum class Fate { Committed, Undone, Unknown };
 
+    /// What a schema says of itself.
+    struct Seal
+    {
+        int version = 0;
+        QString identity; ///< No other schedule has it, nor the same one when it was restored.
+    };
+
     void expectOpen() const override;
     /// The transaction that it happens in is undone.
     StoreError errorOf(const QSqlError& error) const override;
@@ -73,9 +86,11 @@ private:
     void connect() const;
     /// Begins, on another connection where the former has gone.
     void beginAlive(StorePurpose purpose) const;
-    /// Throws where the seal tells another version than it did: whoever set the schedule up
-    /// meanwhile did so for other programs. The transaction is undone then.
-    void expectSameVersion() const;
+    /// Throws where the seal tells another version than it did, since whoever set the schedule up
+    /// meanwhile did so for other programs, or where another schedule has taken the place of the
+    /// one that is remembered. The transaction is undone then.
+    void expectSameSchedule() const;
+    Seal readSeal() const;
     StoreError otherVersion(int found) const;
     /// Connects once more, to a schema of the version that was found before.
     void reconnect() const;
@@ -88,6 +103,7 @@ private:
     StorePlace m_place;
     Access m_access;
     mutable int m_version = kNotAsked; ///< That the seal told, when it was first asked.
+    mutable QString m_identity;        ///< Of the schedule to stay with; empty for any.
     mutable QSqlError m_failure;       ///< Why a connection that had been made was given up.
 
     mutable bool m_isInTransaction = false;

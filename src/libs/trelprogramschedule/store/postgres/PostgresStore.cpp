@@ -25,6 +25,7 @@ StoreResult PostgresStore::open()
                                                        : PostgresConnection::Access::ReadWrite);
         StoreTransaction transaction(*connection, StoreTransaction::Purpose::Read);
         expectFit(*connection);
+        connection->rememberSchedule();
         m_look(*connection);
         transaction.commit();
         if (m_mode != StoreOpenMode::ReadOnly) {
@@ -58,6 +59,11 @@ void PostgresStore::expectFit(const PostgresConnection& connection) const
 const StoreConnection* PostgresStore::connection() const
 {
     return m_connection.get();
+}
+
+bool PostgresStore::isInPlace() const
+{
+    return m_connection != nullptr && m_connection->isSameSchedule();
 }
 
 StoreResult PostgresStore::judgeChange() const

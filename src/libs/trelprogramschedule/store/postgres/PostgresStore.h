@@ -24,7 +24,8 @@ public:
     /// The same as open: what is at a place on a server is found there whenever it is asked for.
     StoreResult reopen() override;
     const StoreConnection* connection() const override;
-    bool isInPlace() const override { return m_connection != nullptr; }
+    /// Asks the server. A schedule that was set up anew or restored is another one.
+    bool isInPlace() const override;
     /// False: the server tells of no change before it can be read.
     bool isBeingWritten() const override { return false; }
     StoreResult judgeChange() const override;

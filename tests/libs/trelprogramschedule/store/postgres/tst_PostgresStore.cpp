@@ -8,6 +8,7 @@
 #include "support/SampleSchedule.h"
 #include "support/ServerRelay.h"
 #include "support/TestProgram.h"
+#include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/history/VersionReader.h"
 
 #include <QCoreApplication>
@@ -124,6 +125,9 @@ private slots:
     void aRestartOfTheServerIsOutlived();
     void aConnectionThatWasCutIsMadeAgain();
     void aSchemaOfAnotherVersionIsNotWritten();
+    void anotherScheduleInItsPlaceIsNoticed_data();
+    void anotherScheduleInItsPlaceIsNoticed();
+    void aHostIsToldOfIt();
     void aCommitThatIsCutShortIsUndone();
     void aCommitWithoutAnAnswerIsAskedFor();
     void aNumberThatCameAgainIsNotTakenForIt();
@@ -516,6 +520,82 @@ void tst_PostgresStore::aSchemaOfAnotherVersionIsNotWritten()
     QVERIFY(!m_server->run(change.arg(kSchema, QStringLiteral("1"))).isNull());
     OPEN(other, address(), StoreOpenMode::MustExist);
     DONE(desk.writeTasks(tasks, editsFor(tasks), revision));
+}
+
+void tst_PostgresStore::anotherScheduleInItsPlaceIsNoticed_data()
+{
+    QTest::addColumn<bool>("isMadeAnew");
+    QTest::addColumn<bool>("isRestored");
+    QTest::newRow("set up anew") << true << false;
+    QTest::newRow("restored from a copy") << true << true;
+    // Another server at the same address may have given its schema the same number.
+    QTest::newRow("of the same number") << false << false;
+}
+
+// It has the same revision, so that nothing else would tell them apart.
+void tst_PostgresStore::anotherScheduleInItsPlaceIsNoticed()
+{
+    QFETCH(bool, isMadeAnew);
+    QFETCH(bool, isRestored);
+    ScheduleDatabase desk;
+    ScheduleDatabase screen;
+    OPEN(desk, address(), StoreOpenMode::MustExist);
+    OPEN(screen, address(), StoreOpenMode::ReadOnly);
+    QVERIFY(desk.isInPlace());
+    const QString id = m_server->run(QStringLiteral("SELECT id FROM %1.seal").arg(kSchema));
+    const QString setId = QStringLiteral("UPDATE %1.seal SET id = %2");
+    if (isMadeAnew) {
+        QVERIFY(!m_server->run(QStringLiteral("DROP SCHEMA %1 CASCADE").arg(kSchema)).isNull());
+        QVERIFY(!desk.isInPlace());
+        QVERIFY(!screen.isInPlace());
+        DONE(PostgresSetup::run(StorePlace(address())));
+    } else {
+        QVERIFY(
+            !m_server->run(setId.arg(kSchema, QStringLiteral("gen_random_uuid()"))).isNull());
+    }
+    if (isRestored) {
+        QVERIFY(!m_server->run(setId.arg(kSchema, QStringLiteral("'%1'").arg(id))).isNull());
+    }
+    QVERIFY(!desk.isInPlace());
+    QVERIFY(!screen.isInPlace());
+    const TaskMap tasks = sampleSchedule(2, 2, 2);
+    qint64 revision = 0;
+    const StoreResult refused = desk.writeTasks(tasks, editsFor(tasks), revision);
+    QCOMPARE(refused.cause.code, FaultCode::FileReplaced);
+    QCOMPARE(m_server->run(QStringLiteral("SELECT count(*) FROM %1.task").arg(kSchema)),
+             QStringLiteral("0"));
+    DONE(desk.reopen());
+    QVERIFY(desk.isInPlace());
+    DONE(desk.writeTasks(tasks, editsFor(tasks), revision));
+    // To set it up once more makes it no other one. Of a server that is away nothing is known.
+    DONE(PostgresSetup::run(StorePlace(address())));
+    QVERIFY(desk.isInPlace());
+    m_server->stop();
+    QVERIFY(desk.isInPlace());
+}
+
+void tst_PostgresStore::aHostIsToldOfIt()
+{
+    ScheduleHost& host = ScheduleHost::instance();
+    const auto close = qScopeGuard([&host] {
+        host.followStore(false);
+        host.close();
+    });
+    DONE(host.open(address()));
+    const TaskMap tasks = sampleSchedule(2, 2, 2);
+    DONE(host.replaceSchedule(tasks));
+    QSignalSpy changed(&host, &ScheduleHost::changedElsewhere);
+    QVERIFY(changed.isValid());
+    host.followStore();
+    QVERIFY(!m_server->run(QStringLiteral("DROP SCHEMA %1 CASCADE").arg(kSchema)).isNull());
+    DONE(PostgresSetup::run(StorePlace(address())));
+    QTRY_VERIFY(!changed.isEmpty());
+    DONE(host.reload());
+    QVERIFY(host.workingSet() == tasks);
+    QVERIFY(host.hasUnsavedChanges());
+    DONE(host.trySave());
+    QCOMPARE(m_server->run(QStringLiteral("SELECT count(*) FROM %1.task").arg(kSchema)),
+             QStringLiteral("2"));
 }
 
 void tst_PostgresStore::aCommitThatIsCutShortIsUndone()
