@@ -38,7 +38,10 @@ QSqlQuery StoreConnection::prepare(const QString& statement) const
     expectOpen();
     QSqlQuery query(m_database);
     query.setForwardOnly(readsForwardOnly());
-    if (!query.prepare(worded(statement))) {
+    beginAsking();
+    const bool isDone = query.prepare(worded(statement));
+    endAsking();
+    if (!isDone) {
         refuse(query);
     }
     return query;
@@ -53,7 +56,10 @@ QSqlQuery StoreConnection::query(const QString& statement) const
 
 void StoreConnection::exec(QSqlQuery& query) const
 {
-    if (!query.exec()) {
+    beginAsking();
+    const bool isDone = query.exec();
+    endAsking();
+    if (!isDone) {
         refuse(query);
     }
 }
@@ -90,6 +96,7 @@ StoreTransaction::~StoreTransaction()
     if (!m_hasEnded) {
         m_connection.rollBack();
     }
+    m_connection.leave();
 }
 
 void StoreTransaction::commit()

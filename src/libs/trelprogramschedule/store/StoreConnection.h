@@ -78,6 +78,9 @@ protected:
 
     /// Throws where nothing can be asked of the database.
     virtual void expectOpen() const = 0;
+    /// Stand around each time that something is asked of the database.
+    virtual void beginAsking() const {}
+    virtual void endAsking() const {}
     /// A statement that was written for all engines, as this one takes it.
     virtual QString worded(const QString& statement) const;
     /// Whether a query keeps none of its rows. Where one is read while another is run, that must
@@ -99,6 +102,8 @@ private:
     virtual void commit() const = 0;
     /// Throws nothing, as it is called on the way out.
     virtual void rollBack() const = 0;
+    /// The transaction has ended, and so have the queries that were made within it.
+    virtual void leave() const {}
 
     QString m_path;
     QSqlDatabase m_database;

@@ -1,5 +1,6 @@
 #include "PostgresConnection.h"
 
+#include "PostgresPatience.h"
 #include "PostgresRefusals.h"
 #include "PostgresRows.h"
 #include "PostgresWords.h"
@@ -8,11 +9,13 @@
 #include "store/StoreElements.h"
 #include "store/StoreRefusals.h"
 
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QStringList>
 #include <QUuid>
 #include <QVariant>
 
+#include <new>
 #include <utility>
 
 namespace trel::mediadispatch {
@@ -81,10 +84,12 @@ constexpr char kElements[] =
 
 } // namespace
 
-PostgresConnection::PostgresConnection(const StorePlace& place, Access access)
+PostgresConnection::PostgresConnection(const StorePlace& place, Access access,
+                                       std::chrono::milliseconds patience)
     : StoreConnection(place.text(), unlistedConnection(QStringLiteral("QPSQL")))
     , m_place(place)
     , m_access(access)
+    , m_patience(std::make_unique<PostgresPatience>(patience))
 {
     database().setHostName(place.host());
     database().setPort(place.port());
@@ -105,10 +110,12 @@ void PostgresConnection::connect() const
 {
     QSqlDatabase connection = database();
     connection.close();
+    m_patience->leave();
     m_failure = QSqlError();
     if (!connection.open()) {
         return;
     }
+    m_patience->watch(*connection.driver());
     const QStringList settings = {
         QStringLiteral("SET search_path = %1, pg_temp").arg(postgresName(schemaName())),
         QStringLiteral("SET statement_timeout = '30s'"),
@@ -122,14 +129,34 @@ void PostgresConnection::connect() const
         QStringLiteral("SET row_security = off"),
     };
     QSqlQuery query(connection);
+    m_patience->begin();
     for (const QString& setting : settings) {
         if (!query.exec(setting)) {
             // Closing forgets it.
             m_failure = query.lastError();
             connection.close();
-            return;
+            break;
         }
     }
+    m_patience->end();
+}
+
+void PostgresConnection::beginAsking() const
+{
+    m_patience->begin();
+}
+
+void PostgresConnection::endAsking() const
+{
+    if (!m_isInUse) {
+        m_patience->end();
+    }
+}
+
+void PostgresConnection::leave() const
+{
+    m_isInUse = false;
+    endAsking();
 }
 
 bool PostgresConnection::isAlive() const
@@ -162,7 +189,9 @@ StoreError PostgresConnection::errorOf(const QSqlError& error) const
     // After an error the server takes no more of a transaction, not even that a statement is
     // forgotten, which the driver asks for when a query goes.
     rollBack();
-    return {refusalOfServer(error, path())};
+    return {m_patience->hasCut()
+                ? refusal(StoreProblem::Other, path(), {FaultCode::ServerSilent, {}})
+                : refusalOfServer(error, path())};
 }
 
 void PostgresConnection::setDeadline(StoreDeadline* deadline) const
@@ -179,7 +208,10 @@ QSqlQuery PostgresConnection::query(const QString& statement) const
 {
     expectOpen();
     QSqlQuery query(database());
-    if (!query.exec(worded(statement))) {
+    beginAsking();
+    const bool isDone = query.exec(worded(statement));
+    endAsking();
+    if (!isDone) {
         refuse(query);
     }
     return query;
@@ -193,9 +225,15 @@ std::unique_ptr<StoreRows> PostgresConnection::rows(const QString& path, const c
 
 void PostgresConnection::begin(StorePurpose purpose) const
 {
-    beginAlive(purpose);
-    if (m_isWriting && m_access == Access::ReadWrite) {
-        expectSameSchedule();
+    m_isInUse = true;
+    try {
+        beginAlive(purpose);
+        if (m_isWriting && m_access == Access::ReadWrite) {
+            expectSameSchedule();
+        }
+    } catch (const StoreError&) {
+        leave();
+        throw;
     }
 }
 
@@ -369,7 +407,13 @@ PostgresConnection::Fate PostgresConnection::fateOf(const QString& token) const
 void PostgresConnection::rollBack() const
 {
     if (std::exchange(m_isInTransaction, false) && isAlive()) {
-        QSqlQuery(database()).exec(QStringLiteral("ROLLBACK"));
+        try {
+            beginAsking();
+            QSqlQuery(database()).exec(QStringLiteral("ROLLBACK"));
+        } catch (const std::bad_alloc&) {
+            // What is not undone now is undone with the connection.
+            QSqlDatabase(database()).close();
+        }
     }
 }
 

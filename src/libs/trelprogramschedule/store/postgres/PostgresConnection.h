@@ -5,7 +5,12 @@
 
 #include <QSqlError>
 
+#include <chrono>
+#include <memory>
+
 namespace trel::mediadispatch {
+
+class PostgresPatience;
 
 /// One connection to the schedule that a place on a server names. Each schedule has a schema of the
 /// server's for itself; see decision 12.
@@ -13,8 +18,8 @@ namespace trel::mediadispatch {
 /// Where the server has gone and is back, the next transaction connects once more. A statement
 /// takes half a minute at most and no lock is waited for longer than two seconds, by what the
 /// server itself measures. A server whose machine is off, or away from the network, is given up
-/// after some ten seconds. One that stands still while its machine answers for it is waited for,
-/// since the client library then knows no end of waiting.
+/// after some ten seconds, one that stands still while its machine answers for it after forty, and
+/// one that does not take a new connection after five.
 class PostgresConnection final : public StoreConnection
 {
 public:
@@ -25,8 +30,12 @@ public:
         Scratch,   ///< For what is undone in any case: keeps nobody out, and waits for nobody.
     };
 
+    /// How long the answer to one statement is waited for: longer than the server works at it.
+    static constexpr std::chrono::milliseconds kPatience{40000};
+
     /// Connects. A failure shows in the first statement.
-    PostgresConnection(const StorePlace& place, Access access);
+    PostgresConnection(const StorePlace& place, Access access,
+                       std::chrono::milliseconds patience = kPatience);
     ~PostgresConnection() override;
     Q_DISABLE_COPY(PostgresConnection)
 
@@ -60,6 +69,9 @@ protected:
     QString worded(const QString& statement) const override;
     /// Statements are read while others are run.
     bool readsForwardOnly() const override { return false; }
+    void beginAsking() const override;
+    /// Until a transaction is left the wait goes on, for what the driver asks when a query goes.
+    void endAsking() const override;
 
 private:
     /// What has become of a transaction of which no answer came.
@@ -79,6 +91,7 @@ private:
     void begin(StorePurpose purpose) const override;
     void commit() const override;
     void rollBack() const override;
+    void leave() const override;
 
     bool isAlive() const;
     /// Throws StoreError where the time of a deadline has run out.
@@ -102,10 +115,12 @@ private:
 
     StorePlace m_place;
     Access m_access;
+    std::unique_ptr<PostgresPatience> m_patience;
     mutable int m_version = kNotAsked; ///< That the seal told, when it was first asked.
     mutable QString m_identity;        ///< Of the schedule to stay with; empty for any.
     mutable QSqlError m_failure;       ///< Why a connection that had been made was given up.
 
+    mutable bool m_isInUse = false; ///< From the begin of a transaction until it is left.
     mutable bool m_isInTransaction = false;
     mutable bool m_isWriting = false;
     mutable StoreDeadline* m_deadline = nullptr;

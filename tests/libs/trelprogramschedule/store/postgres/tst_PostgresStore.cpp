@@ -2,7 +2,9 @@
 #include "catalogue/ProgramImporter.h"
 #include "faults/FaultWords.h"
 #include "store/ScheduleDatabase.h"
+#include "store/StoreAttempt.h"
 #include "store/StorePlace.h"
+#include "store/postgres/PostgresConnection.h"
 #include "store/postgres/PostgresSetup.h"
 #include "support/PostgresServer.h"
 #include "support/SampleSchedule.h"
@@ -13,8 +15,10 @@
 
 #include <QCoreApplication>
 #include <QSemaphore>
+#include <QSqlQuery>
 #include <QtTest>
 
+#include <chrono>
 #include <memory>
 #include <thread>
 
@@ -23,6 +27,9 @@ using namespace trel::mediadispatch;
 namespace {
 
 const QString kSchema = QStringLiteral("trel_schedule_hall");
+
+/// Of a connection for what is known to have no answer.
+constexpr std::chrono::milliseconds kShortPatience{3000};
 
 /// All tasks as new ones.
 TaskEdits editsFor(const TaskMap& tasks)
@@ -132,6 +139,9 @@ private slots:
     void aCommitWithoutAnAnswerIsAskedFor();
     void aNumberThatCameAgainIsNotTakenForIt();
     void anAnswerThatIsLostIsToldOf();
+    void aServerThatStandsStillIsGivenUp();
+    void aCommitThatIsNotAnsweredIsUnclear();
+    void aServerThatTakesNobodyIsGivenUp();
     void aServerThatIsAwayIsToldOf();
     void aDatabaseThatCannotNameItIsToldOf();
     void whoKeepsOthersOutIsNotWaitedForLong();
@@ -719,6 +729,73 @@ void tst_PostgresStore::anAnswerThatIsLostIsToldOf()
     const StoreResult result = desk.result();
     QCOMPARE(result.problem, StoreProblem::Unclear);
     QCOMPARE(result.cause.code, FaultCode::AnswerLost);
+}
+
+// Its machine goes on confirming what it is sent, so that no time limit of the way there helps.
+void tst_PostgresStore::aServerThatStandsStillIsGivenUp()
+{
+    const PostgresConnection desk(StorePlace(address()), PostgresConnection::Access::ReadWrite,
+                                  kShortPatience);
+    QCOMPARE(desk.value(QStringLiteral("SELECT 7")).toInt(), 7);
+    m_server->pause();
+    const StoreResult alone = attempt(QString(), [&desk] { desk.run(QStringLiteral("SELECT 1")); });
+    m_server->resume();
+    QCOMPARE(alone.problem, StoreProblem::Other);
+    QCOMPARE(alone.cause.code, FaultCode::ServerSilent);
+    const StoreResult within = attempt(QString(), [&] {
+        StoreTransaction transaction(desk, StoreTransaction::Purpose::Read);
+        QSqlQuery query = desk.prepare(QStringLiteral("SELECT 2"));
+        desk.exec(query);
+        m_server->pause();
+        // The driver asks for something when a query goes.
+        query = QSqlQuery();
+        desk.run(QStringLiteral("SELECT 1"));
+    });
+    m_server->resume();
+    QCOMPARE(within.cause.code, FaultCode::ServerSilent);
+    // Once it goes on, so does the next transaction. Each of its statements has the whole time.
+    DONE(attempt(QString(), [&desk] {
+        StoreTransaction transaction(desk, StoreTransaction::Purpose::Read);
+        const auto sleep =
+            QStringLiteral("SELECT pg_sleep(%1)").arg(0.6 * kShortPatience.count() / 1000);
+        desk.run(sleep);
+        desk.run(sleep);
+        transaction.commit();
+    }));
+}
+
+// The server waits for another one that is to have a copy.
+void tst_PostgresStore::aCommitThatIsNotAnsweredIsUnclear()
+{
+    const QString setCopies = QStringLiteral("ALTER SYSTEM SET synchronous_standby_names = '%1'");
+    QVERIFY(!m_server->run(setCopies.arg(QStringLiteral("missing"))).isNull());
+    const auto undo = qScopeGuard([&] {
+        m_server->run(setCopies.arg(QString()));
+        m_server->run(QStringLiteral("SELECT pg_reload_conf()"));
+    });
+    m_server->stop();
+    QVERIFY(m_server->start());
+    const PostgresConnection desk(StorePlace(address()), PostgresConnection::Access::ReadWrite,
+                                  kShortPatience);
+    const StoreResult result = attempt(QString(), [&desk] {
+        StoreTransaction transaction(desk, StoreTransaction::Purpose::Write);
+        desk.run(QStringLiteral("UPDATE store SET schedule_revision = 7"));
+        transaction.commit();
+    });
+    QCOMPARE(result.problem, StoreProblem::Unclear);
+    QCOMPARE(result.cause.code, FaultCode::AnswerLost);
+}
+
+// Nobody answers whoever connects, though the machine takes the connection.
+void tst_PostgresStore::aServerThatTakesNobodyIsGivenUp()
+{
+    m_server->pause();
+    const auto resume = qScopeGuard([this] { m_server->resume(); });
+    ScheduleDatabase desk;
+    const StoreResult result = desk.open(address(), StoreOpenMode::MustExist);
+    const QString text = englishText(result);
+    QVERIFY2(result.problem == StoreProblem::Other, qPrintable(text));
+    QVERIFY2(text.contains(QLatin1String("timeout")), qPrintable(text));
 }
 
 void tst_PostgresStore::aServerThatIsAwayIsToldOf()
