@@ -82,6 +82,12 @@ bool ServerRelay::waitUntilHeld()
     return m_changed.wait_for(lock, kPatience, [this] { return m_isHeld; });
 }
 
+int ServerRelay::pieces() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_pieces;
+}
+
 void ServerRelay::cut()
 {
     {
@@ -165,6 +171,7 @@ bool ServerRelay::pass(Line& line, bool isToServer)
         }
         return false;
     }
+    m_pieces += isToServer ? 1 : 0;
     if (isToServer && !m_words.isEmpty() &&
         QByteArray::fromRawData(bytes.data(), static_cast<int>(size)).contains(m_words)) {
         m_words.clear();

@@ -15,6 +15,7 @@ namespace trel::mediadispatch {
 
 class StoreDeadline;
 class StoreElements;
+class StoreInserts;
 class StoreRows;
 
 /// What the members of StoreConnection throw; it never leaves the class that uses them.
@@ -52,6 +53,10 @@ public:
     /// Goes to the next row; false behind the last.
     bool next(QSqlQuery& query) const;
 
+    /// What puts rows into a table, by a statement of the form INSERT INTO table (columns) VALUES
+    /// (?, ...). Where they refer to rows of others, which outlive them, those are put in before.
+    virtual std::unique_ptr<StoreInserts> inserts(const QString& statement,
+                                                  StoreInserts* before = nullptr) const = 0;
     /// What StoreStatement works with. The path is for messages.
     virtual std::unique_ptr<StoreRows> rows(const QString& path, const char* sql) const = 0;
 

@@ -163,6 +163,7 @@ void StoreEffect::putInsertions(ScreenInsertions& insertions) const
         m_connection.exec(row);
         plans.insert(insertion.number, plansOf(insertion));
     }
+    plans.finish();
     countUp();
 }
 

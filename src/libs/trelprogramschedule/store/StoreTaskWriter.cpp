@@ -20,9 +20,9 @@ StoreTaskWriter::StoreTaskWriter(const StoreConnection& connection)
           " is_conflict = ?, weeks = CAST(? AS TEXT), service_time = CAST(? AS TEXT),"
           " has_no_duration = ?, service_flag_a = ?, service_flag_b = ?"
           " WHERE task_id = ? AND position = ?")))
-    , m_task(connection.prepare(QStringLiteral("INSERT INTO task (id, start_date, end_date)"
-                                               " VALUES (?, CAST(? AS TEXT), CAST(? AS TEXT))")))
-    , m_plans(connection)
+    , m_tasks(connection.inserts(QStringLiteral("INSERT INTO task (id, start_date, end_date)"
+                                                " VALUES (?, CAST(? AS TEXT), CAST(? AS TEXT))")))
+    , m_plans(connection, QString(), m_tasks.get())
 {}
 
 void StoreTaskWriter::write(const TaskEdits& edits)
@@ -34,9 +34,7 @@ void StoreTaskWriter::write(const TaskEdits& edits)
             remove(taskId);
         }
     }
-    for (const PlayTask* task : edits.written) {
-        insert(*task);
-    }
+    insert(edits.written);
     for (const PlayTask* task : edits.dated) {
         updateDates(*task);
     }
@@ -61,11 +59,14 @@ void StoreTaskWriter::remove(int taskId)
     }
 }
 
-void StoreTaskWriter::insert(const PlayTask& task)
+void StoreTaskWriter::insert(const std::vector<const PlayTask*>& tasks)
 {
-    bindFrom(0, m_task, task.id, bytes(task.startDate), bytes(task.endDate));
-    m_connection.exec(m_task);
-    m_plans.insert(task.id, task.plans);
+    for (const PlayTask* task : tasks) {
+        m_tasks->put({task->id, bytes(task->startDate), bytes(task->endDate)});
+        m_plans.insert(task->id, task->plans);
+    }
+    m_tasks->finish();
+    m_plans.finish();
 }
 
 void StoreTaskWriter::updateDates(const PlayTask& task)

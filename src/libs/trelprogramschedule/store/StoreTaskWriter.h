@@ -9,7 +9,8 @@ namespace trel::mediadispatch {
 
 class StoreConnection;
 
-/// Writes tasks row by row, with each statement prepared once. Members throw StoreError.
+/// Writes tasks, with each statement prepared once, and new rows as the engine does it best.
+/// Members throw StoreError.
 class StoreTaskWriter
 {
 public:
@@ -20,7 +21,7 @@ public:
 private:
     void removeAll() const;
     void remove(int taskId);
-    void insert(const PlayTask& task);
+    void insert(const std::vector<const PlayTask*>& tasks);
     void updateDates(const PlayTask& task);
     void updatePlan(const PlanEdit& edit);
 
@@ -31,7 +32,7 @@ private:
     QSqlQuery m_removeTask;
     QSqlQuery m_dates;
     QSqlQuery m_planFields;
-    QSqlQuery m_task;
+    std::unique_ptr<StoreInserts> m_tasks;
     StorePlanWriter m_plans;
 };
 

@@ -1,6 +1,7 @@
 #include "store/StoreSchema.h"
 
 #include "store/StoreConnection.h"
+#include "store/StoreInserts.h"
 #include "store/StoreRows.h"
 #include "support/TestProgram.h"
 
@@ -27,6 +28,13 @@ public:
         , m_onMake(std::move(onMake))
     {}
 
+    std::unique_ptr<StoreInserts> inserts(const QString& statement,
+                                          StoreInserts* before) const override
+    {
+        Q_UNUSED(statement)
+        Q_UNUSED(before)
+        return nullptr;
+    }
     std::unique_ptr<StoreRows> rows(const QString& path, const char* sql) const override
     {
         Q_UNUSED(path)

@@ -1,5 +1,6 @@
 #include "PostgresConnection.h"
 
+#include "PostgresInserts.h"
 #include "PostgresPatience.h"
 #include "PostgresRefusals.h"
 #include "PostgresRows.h"
@@ -206,10 +207,22 @@ QString PostgresConnection::worded(const QString& statement) const
 
 QSqlQuery PostgresConnection::query(const QString& statement) const
 {
+    return sent(worded(statement));
+}
+
+std::unique_ptr<StoreInserts> PostgresConnection::inserts(const QString& statement,
+                                                          StoreInserts* before) const
+{
+    return std::make_unique<PostgresInserts>([this](const QString& words) { sent(words); },
+                                             worded(statement), before);
+}
+
+QSqlQuery PostgresConnection::sent(const QString& words) const
+{
     expectOpen();
     QSqlQuery query(database());
     beginAsking();
-    const bool isDone = query.exec(worded(statement));
+    const bool isDone = query.exec(words);
     endAsking();
     if (!isDone) {
         refuse(query);

@@ -54,6 +54,8 @@ public:
     /// Without preparing it, which the server does for some kinds of statements alone. A deadline
     /// is looked at before each statement; the server ends one that takes long by itself.
     QSqlQuery query(const QString& statement) const override;
+    std::unique_ptr<StoreInserts> inserts(const QString& statement,
+                                          StoreInserts* before = nullptr) const override;
     std::unique_ptr<StoreRows> rows(const QString& path, const char* sql) const override;
     qint64 applicationId() const override;
     /// Asked once. Whoever sets up asks each time, as others may do the same meanwhile.
@@ -84,6 +86,8 @@ private:
         QString identity; ///< No other schedule has it, nor the same one when it was restored.
     };
 
+    /// Runs a statement that is in the words of this engine already.
+    QSqlQuery sent(const QString& words) const;
     void expectOpen() const override;
     /// The transaction that it happens in is undone.
     StoreError errorOf(const QSqlError& error) const override;

@@ -7,6 +7,7 @@
 #include "store/StoreDriver.h"
 #include "store/StoreElements.h"
 #include "store/StoreRefusals.h"
+#include "store/StoreSingleInserts.h"
 
 #include <QSqlError>
 #include <QUrl>
@@ -82,6 +83,14 @@ SqliteConnection::SqliteConnection(const QString& path, Access access)
 }
 
 SqliteConnection::~SqliteConnection() = default;
+
+std::unique_ptr<StoreInserts> SqliteConnection::inserts(const QString& statement,
+                                                        StoreInserts* before) const
+{
+    // Each row is in its table as soon as it is put there.
+    Q_UNUSED(before)
+    return std::make_unique<StoreSingleInserts>(*this, statement);
+}
 
 std::unique_ptr<StoreRows> SqliteConnection::rows(const QString& path, const char* sql) const
 {

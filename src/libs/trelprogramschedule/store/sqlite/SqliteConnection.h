@@ -25,6 +25,8 @@ public:
     /// See StoreConnection::elementsMadeBy, for which no connection is needed here.
     static StoreElements elementsOf(const QStringList& statements);
 
+    std::unique_ptr<StoreInserts> inserts(const QString& statement,
+                                          StoreInserts* before = nullptr) const override;
     std::unique_ptr<StoreRows> rows(const QString& path, const char* sql) const override;
     qint64 applicationId() const override;
     int schemaVersion() const override;

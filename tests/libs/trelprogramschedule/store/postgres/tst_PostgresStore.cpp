@@ -14,11 +14,13 @@
 #include "trelprogramschedule/history/VersionReader.h"
 
 #include <QCoreApplication>
+#include <QScopeGuard>
 #include <QSemaphore>
 #include <QSqlQuery>
 #include <QtTest>
 
 #include <chrono>
+#include <limits>
 #include <memory>
 #include <thread>
 
@@ -97,8 +99,8 @@ private:
 
 #define OPEN(database, ...)                                                                        \
     do {                                                                                           \
-        const StoreResult result = (database).open(__VA_ARGS__);                                   \
-        QVERIFY2(result, qPrintable(englishText(result)));                                         \
+        const StoreResult opening = (database).open(__VA_ARGS__);                                  \
+        QVERIFY2(opening, qPrintable(englishText(opening)));                                       \
     } while (false)
 
 #define DONE(result)                                                                               \
@@ -119,6 +121,7 @@ private slots:
     void cleanup();
 
     void keepsAllThatAFileKeeps();
+    void manyRowsGoTogether();
     void oneServerHasManySchedules();
     void aNameMayHoldWordsOfAStatement();
     void aSaveThatComesSecondIsRefused();
@@ -233,6 +236,43 @@ void tst_PostgresStore::keepsAllThatAFileKeeps()
     QCOMPARE(read.start->saved, 1);
     QCOMPARE(read.insertions.size(), std::size_t(1));
     QVERIFY(read.insertions[0].plan == insertions[0].plan);
+}
+
+// In more than one statement each, whose rows refer to those of others.
+void tst_PostgresStore::manyRowsGoTogether()
+{
+    TaskMap tasks = sampleSchedule(10, 30, 20);
+    int rows = 0;
+    for (auto& [id, task] : tasks) {
+        for (PlayPlan& plan : task.plans) {
+            plan.serviceList.assign(20, std::numeric_limits<std::int64_t>::min() + id);
+            plan.programs.front().progName += std::string("'\\\0\xff%1?", 7);
+            rows += 1 + int(plan.serviceList.size()) + int(plan.programs.size());
+        }
+    }
+    // Longer than a statement usually gets.
+    tasks.begin()->second.plans.back().programs.back().progName = std::string(65536, 'x');
+    ServerRelay relay(m_server->port());
+    ScheduleDatabase desk;
+    OPEN(desk, addressBy(relay), StoreOpenMode::MustExist);
+    const int before = relay.pieces();
+    qint64 revision = 0;
+    DONE(desk.writeTasks(tasks, editsFor(tasks), revision));
+    const int pieces = relay.pieces() - before;
+    QVERIFY2(pieces < rows / 20, qPrintable(QStringLiteral("%1 for %2").arg(pieces).arg(rows)));
+    ScheduleDatabase screen;
+    OPEN(screen, address(), StoreOpenMode::ReadOnly);
+    StoreContents contents;
+    DONE(screen.read(StorePart::Schedule, contents));
+    QVERIFY(contents.tasks == tasks);
+    // What comes second is refused as a whole.
+    TaskMap others = tasks;
+    others.begin()->second.plans.front().id = 77;
+    TaskEdits twice = editsFor(others);
+    twice.written.push_back(&others.begin()->second);
+    QVERIFY(!desk.writeTasks(others, twice, revision));
+    DONE(screen.read(StorePart::Schedule, contents));
+    QVERIFY(contents.tasks == tasks);
 }
 
 void tst_PostgresStore::oneServerHasManySchedules()
