@@ -28,8 +28,8 @@ public:
     void holdAt(const QByteArray& words);
     /// Waits until somebody is kept; false when nobody has come in a minute.
     bool waitUntilHeld();
-    /// In how many pieces clients have sent what they did: one for each statement, and some more for
-    /// long ones.
+    /// In how many pieces clients have sent what they did: one for each statement, and some more
+    /// for long ones.
     int pieces() const;
     /// Ends the connections that are there, on both sides. Those that come then pass.
     void cut();
@@ -54,7 +54,7 @@ private:
     int m_port = 0;
     int m_listener = -1;
     int m_pipe[2] = {-1, -1};
-    std::vector<Line> m_lines; ///< Of the thread.
+    std::vector<Line> m_lines;  ///< Of the thread.
     mutable std::mutex m_mutex; ///< Of what follows.
     std::condition_variable m_changed;
     QByteArray m_words;

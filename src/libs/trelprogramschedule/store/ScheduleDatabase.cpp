@@ -228,9 +228,7 @@ ImportResult ScheduleDatabase::addPrograms(const std::vector<MediaSource>& sourc
         }
         StoreTransaction transaction(connection(), StoreTransaction::Purpose::Write);
         StoreCatalogue catalogue(connection(), path());
-        for (const MediaSource& source : sources) {
-            catalogue.put(source, result);
-        }
+        catalogue.put(sources, result);
         catalogue.finish();
         std::vector<int> indexes = result.added;
         indexes.insert(indexes.end(), result.updated.begin(), result.updated.end());

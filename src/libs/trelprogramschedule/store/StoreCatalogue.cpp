@@ -6,6 +6,9 @@
 #include "StoreValues.h"
 #include "catalogue/ProgramImporter.h"
 
+#include <QStringList>
+
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -15,6 +18,9 @@ namespace {
 
 /// Indexes stay below this, well away from those that refer to nothing.
 constexpr int kIndexLimit = 65535;
+
+/// Programs that are asked for with one statement.
+constexpr std::size_t kMostAtOnce = 200;
 
 /// A length as it can be stored: what is no number is not known.
 double storedDuration(double durationMs)
@@ -52,11 +58,9 @@ StoreCatalogue::StoreCatalogue(const StoreConnection& connection, QString path)
     : m_connection(connection)
     , m_path(std::move(path))
     , m_nextIndex(connection.value(QStringLiteral("SELECT next_prog_index FROM store")).toInt())
-    , m_find(connection.prepare(QStringLiteral(
-          "SELECT prog_index FROM program WHERE media_path = CAST(? AS TEXT) AND removed = 0")))
     , m_update(connection.prepare(QStringLiteral("UPDATE program SET name = CAST(? AS TEXT), "
                                                  "duration_ms = ?, kind = ? WHERE prog_index = ?")))
-    , m_insert(connection.prepare(
+    , m_inserts(connection.inserts(
           QStringLiteral("INSERT INTO program (prog_index, name, media_path, duration_ms, kind)"
                          " VALUES (?, CAST(? AS TEXT), CAST(? AS TEXT), ?, ?)")))
 {}
@@ -77,39 +81,72 @@ void StoreCatalogue::read(StoreContents& contents) const
 
 void StoreCatalogue::read(const std::vector<int>& indexes, StoreContents& contents) const
 {
-    QSqlQuery row = m_connection.prepare(
-        QStringLiteral("SELECT prog_index, name, media_path, duration_ms, kind, removed"
-                       " FROM program WHERE prog_index = ?"));
-    for (const int index : indexes) {
-        bindFrom(0, row, index);
-        m_connection.exec(row);
+    for (std::size_t from = 0; from < indexes.size(); from += kMostAtOnce) {
+        QStringList numbers;
+        for (std::size_t i = from; i < std::min(indexes.size(), from + kMostAtOnce); ++i) {
+            numbers.append(QString::number(indexes[i]));
+        }
+        QSqlQuery row = m_connection.query(
+            QStringLiteral("SELECT prog_index, name, media_path, duration_ms, kind, removed"
+                           " FROM program WHERE prog_index IN (%1) ORDER BY prog_index")
+                .arg(numbers.join(QLatin1Char(','))));
         while (m_connection.next(row)) {
             takeRow(row, contents);
         }
     }
 }
 
-void StoreCatalogue::put(const MediaSource& source, ImportResult& result)
+void StoreCatalogue::put(const std::vector<MediaSource>& sources, ImportResult& result)
 {
-    expectToFit(source);
+    find(sources);
+    for (const MediaSource& source : sources) {
+        putOne(source, result);
+    }
+    m_inserts->finish();
+}
+
+void StoreCatalogue::find(const std::vector<MediaSource>& sources)
+{
+    for (std::size_t from = 0; from < sources.size(); from += kMostAtOnce) {
+        const std::size_t end = std::min(sources.size(), from + kMostAtOnce);
+        QStringList terms;
+        for (std::size_t i = from; i < end; ++i) {
+            terms.append(QStringLiteral("media_path = CAST(? AS TEXT)"));
+        }
+        QSqlQuery row = m_connection.prepare(
+            QStringLiteral("SELECT prog_index, media_path FROM program WHERE removed = 0 AND (%1)")
+                .arg(terms.join(QLatin1String(" OR "))));
+        for (std::size_t i = from; i < end; ++i) {
+            expectToFit(sources[i]);
+            bindFrom(static_cast<int>(i - from), row, bytes(sources[i].path));
+        }
+        m_connection.exec(row);
+        while (m_connection.next(row)) {
+            m_known.emplace(row.value(1).toByteArray(), row.value(0).toInt());
+        }
+    }
+}
+
+void StoreCatalogue::putOne(const MediaSource& source, ImportResult& result)
+{
     const int kind = static_cast<int>(source.kind);
     const double duration = storedDuration(source.durationMs);
-    bindFrom(0, m_find, bytes(source.path));
-    m_connection.exec(m_find);
-    if (m_connection.next(m_find)) {
-        const int index = m_find.value(0).toInt();
-        m_find.finish();
-        bindFrom(0, m_update, bytes(source.name), duration, kind, index);
-        m_connection.exec(m_update);
+    if (const auto known = m_known.find(bytes(source.path)); known != m_known.end()) {
+        const int index = known->second;
         const bool isOfThisImport = !m_done.insert(index).second;
-        if (!isOfThisImport) {
+        if (isOfThisImport) {
+            // It may be on its way into the table.
+            m_inserts->finish();
+        } else {
             result.updated.push_back(index);
         }
+        bindFrom(0, m_update, bytes(source.name), duration, kind, index);
+        m_connection.exec(m_update);
         return;
     }
     const int index = giveOutIndex();
-    bindFrom(0, m_insert, index, bytes(source.name), bytes(source.path), duration, kind);
-    m_connection.exec(m_insert);
+    m_inserts->put({index, bytes(source.name), bytes(source.path), duration, kind});
+    m_known.emplace(bytes(source.path), index);
     m_done.insert(index);
     result.added.push_back(index);
 }

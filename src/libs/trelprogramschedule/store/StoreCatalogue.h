@@ -1,10 +1,15 @@
 #pragma once
 
 #include "StoreContents.h"
+#include "StoreInserts.h"
 #include "StoreResult.h"
 
+#include <QByteArray>
 #include <QSqlQuery>
+#include <QString>
 
+#include <map>
+#include <memory>
 #include <set>
 #include <vector>
 
@@ -22,24 +27,27 @@ public:
     void read(StoreContents& contents) const;
     /// Reads some programs; an index that is not in the catalogue is passed over.
     void read(const std::vector<int>& indexes, StoreContents& contents) const;
-    /// Updates the program of the same path or makes a new one.
-    void put(const MediaSource& source, ImportResult& result);
+    /// Updates the programs of the same paths or makes new ones; a path may come twice.
+    void put(const std::vector<MediaSource>& sources, ImportResult& result);
     /// False when there is none of these programs.
     bool remove(const std::vector<int>& progIndexes);
     /// Keeps what was changed as a new revision.
     void finish() const;
 
 private:
+    /// Finds the programs that are there already.
+    void find(const std::vector<MediaSource>& sources);
+    void putOne(const MediaSource& source, ImportResult& result);
     void expectToFit(const MediaSource& source) const;
     int giveOutIndex();
 
     const StoreConnection& m_connection;
     QString m_path;
     int m_nextIndex;
-    std::set<int> m_done; ///< What was put so far; a path may come twice.
-    QSqlQuery m_find;
+    std::map<QByteArray, int> m_known; ///< Of the paths that are put, the indexes.
+    std::set<int> m_done;              ///< What was put so far; a path may come twice.
     QSqlQuery m_update;
-    QSqlQuery m_insert;
+    std::unique_ptr<StoreInserts> m_inserts;
 };
 
 } // namespace trel::mediadispatch

@@ -122,6 +122,7 @@ private slots:
 
     void keepsAllThatAFileKeeps();
     void manyRowsGoTogether();
+    void manyProgramsGoTogether();
     void oneServerHasManySchedules();
     void aNameMayHoldWordsOfAStatement();
     void aSaveThatComesSecondIsRefused();
@@ -273,6 +274,37 @@ void tst_PostgresStore::manyRowsGoTogether()
     QVERIFY(!desk.writeTasks(others, twice, revision));
     DONE(screen.read(StorePart::Schedule, contents));
     QVERIFY(contents.tasks == tasks);
+}
+
+void tst_PostgresStore::manyProgramsGoTogether()
+{
+    ServerRelay relay(m_server->port());
+    ScheduleDatabase desk;
+    OPEN(desk, addressBy(relay), StoreOpenMode::MustExist);
+    StoreContents imported;
+    DONE(desk.addPrograms(samplePrograms(3), imported).store);
+    // The first ones are known, the last one comes twice and has another name then.
+    std::vector<MediaSource> sources = samplePrograms(2000);
+    sources.push_back(sources.back());
+    sources.back().name = QStringLiteral("another name");
+    const int before = relay.pieces();
+    imported = StoreContents();
+    const ImportResult result = desk.addPrograms(sources, imported);
+    DONE(result.store);
+    const int pieces = relay.pieces() - before;
+    QVERIFY2(pieces < 200, qPrintable(QString::number(pieces)));
+    QCOMPARE(result.updated, (std::vector<int>{1, 2, 3}));
+    QCOMPARE(result.added.size(), std::size_t(1997));
+    QCOMPARE(result.added.front(), 4);
+    QCOMPARE(result.added.back(), 2000);
+    QCOMPARE(imported.programs.size(), std::size_t(2000));
+    ScheduleDatabase screen;
+    OPEN(screen, address(), StoreOpenMode::ReadOnly, StorePart::Catalogue);
+    StoreContents contents;
+    DONE(screen.read(StorePart::Catalogue, contents));
+    QCOMPARE(contents.programs.size(), std::size_t(2000));
+    QCOMPARE(contents.programs[1999].progName, std::string("program 1999"));
+    QCOMPARE(contents.programs[2000].progName, std::string("another name"));
 }
 
 void tst_PostgresStore::oneServerHasManySchedules()
@@ -600,8 +632,7 @@ void tst_PostgresStore::anotherScheduleInItsPlaceIsNoticed()
         QVERIFY(!screen.isInPlace());
         DONE(PostgresSetup::run(StorePlace(address())));
     } else {
-        QVERIFY(
-            !m_server->run(setId.arg(kSchema, QStringLiteral("gen_random_uuid()"))).isNull());
+        QVERIFY(!m_server->run(setId.arg(kSchema, QStringLiteral("gen_random_uuid()"))).isNull());
     }
     if (isRestored) {
         QVERIFY(!m_server->run(setId.arg(kSchema, QStringLiteral("'%1'").arg(id))).isNull());
@@ -711,8 +742,8 @@ void tst_PostgresStore::aNumberThatCameAgainIsNotTakenForIt()
     // What is not committed stays in memory, so that nothing of it outlives the crash.
     for (const char* setting : {"wal_level = minimal", "max_wal_senders = 0",
                                 "wal_writer_delay = '10s'", "autovacuum = off"}) {
-        QVERIFY(!m_server->run(QStringLiteral("ALTER SYSTEM SET ") + QLatin1String(setting))
-                     .isNull());
+        QVERIFY(
+            !m_server->run(QStringLiteral("ALTER SYSTEM SET ") + QLatin1String(setting)).isNull());
     }
     const auto undo = qScopeGuard([this] {
         m_server->run(QStringLiteral("ALTER SYSTEM RESET ALL"));
@@ -734,8 +765,7 @@ void tst_PostgresStore::aNumberThatCameAgainIsNotTakenForIt()
         SaveAside desk(addressBy(relay), tasks);
         desk.save(relay);
         QVERIFY(relay.waitUntilHeld());
-        const qint64 former =
-            number("SELECT max(backend_xid::text::bigint) FROM pg_stat_activity");
+        const qint64 former = number("SELECT max(backend_xid::text::bigint) FROM pg_stat_activity");
         QVERIFY(former > 0);
         m_server->kill();
         QVERIFY(m_server->start());
