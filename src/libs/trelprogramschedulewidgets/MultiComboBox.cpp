@@ -295,10 +295,25 @@ void MultiComboBox::setChecked(int entry, bool checked)
 
 void MultiComboBox::toggle(const QModelIndex& entry)
 {
+    const QVector<bool> before = marks();
     excludeOthers(entry.row());
     view()->model()->setData(entry, !entry.data(Qt::CheckStateRole).toBool(), Qt::CheckStateRole);
     showText(m_pendingText);
-    tellMark(entry.row());
+    // One entry may have taken the marks of the others.
+    for (int i = 0; i < before.size(); ++i) {
+        if (isChecked(i) != before.at(i)) {
+            tellMark(i);
+        }
+    }
+}
+
+QVector<bool> MultiComboBox::marks() const
+{
+    QVector<bool> all;
+    for (int i = 0; i < count(); ++i) {
+        all.append(isChecked(i));
+    }
+    return all;
 }
 
 QAccessibleInterface* MultiComboBox::spokenEntry(int entry) const

@@ -96,6 +96,8 @@ private:
     bool isChecked(int entry) const;
     void setChecked(int entry, bool checked);
     void toggle(const QModelIndex& entry);
+    /// Whether they are checked, by entry.
+    QVector<bool> marks() const;
     /// What a screen reader takes for an entry; null while there is none that listens.
     QAccessibleInterface* spokenEntry(int entry) const;
     /// Tells it that an entry is checked now, or not.

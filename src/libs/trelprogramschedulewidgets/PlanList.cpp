@@ -12,6 +12,7 @@
 #include "service/scheduleManage.h"
 #include "toolkit/NewWidgets.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QItemSelectionModel>
 #include <QScrollArea>
@@ -495,6 +496,16 @@ void PlanList::showPlan(PlanTaskWidget& card, int row)
     }
 }
 
+void PlanList::tellSelection(PlanTaskWidget& card, int row)
+{
+    QAccessibleInterface* const table =
+        QAccessible::isActive() ? QAccessible::queryAccessibleInterface(tableOf(card)) : nullptr;
+    if (QAccessibleInterface* const plan = table ? table->child(row) : nullptr) {
+        QAccessibleEvent event(plan, QAccessible::Selection);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
 void PlanList::mark(PlanTaskWidget& card, int row)
 {
     if (m_marked && m_marked != &card) {
@@ -505,4 +516,5 @@ void PlanList::mark(PlanTaskWidget& card, int row)
     // Not made the current one: a cell that becomes current is edited.
     table.selectionModel()->select(table.model()->index(row, 0),
                                    QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    tellSelection(card, row);
 }

@@ -116,6 +116,7 @@ private:
     void dropCard(int taskId);
     void showPlan(PlanTaskWidget& card, int row);
     void mark(PlanTaskWidget& card, int row);
+    static void tellSelection(PlanTaskWidget& card, int row);
     void takeOutOfLayout(PlanTaskWidget& card);
     void destroyCard(int taskId);
     void forgetDestroyedCard(int taskId, const QObject* card);

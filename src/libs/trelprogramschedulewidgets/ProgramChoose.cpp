@@ -65,6 +65,24 @@ double lengthOf(int progIndex)
     return service().getDurationByIndex(progIndex);
 }
 
+/// Of the rows that are about to get this mark, the one to be told: that of the keys, unless it has
+/// the mark already. The others are told by the mark of the header.
+int rowToTell(const QTableView& table, bool isChecked)
+{
+    const RowCursor* const cursor = RowCursor::of(table);
+    return cursor && isRowChecked(*table.model(), cursor->row()) != isChecked ? cursor->row()
+                                                                              : kNoRow;
+}
+
+/// Tells a screen reader of the mark of a row, and of that of the header where it is another.
+void tellMarks(const QTableView& table, int row)
+{
+    if (RowCursor* const cursor = RowCursor::of(table)) {
+        cursor->tellMark(row);
+        cursor->tellHeader();
+    }
+}
+
 SpinBoxDelegate* countDelegate(const QTableView& planTable)
 {
     return qobject_cast<SpinBoxDelegate*>(planTable.itemDelegateForColumn(ChoiceCountColumn));
@@ -228,36 +246,27 @@ void ProgramChoose::slotChecked(CheckType type, int row, bool check)
     if (type == ProgramListCheck) {
         setRowChecked(*m_programModel, row, check);
         updateCheckOrder(row, check);
+        tellMarks(*ui->tableViewProgramList, row);
     } else if (type == PlanListCheck) {
         setRowChecked(*m_planModel, row, check);
         m_planHeader->setChecked(m_planModel->rowCount() == countCheckedPlanRows());
+        tellMarks(*ui->tableViewChoonse, row);
     }
-    tellMark(type, row);
 }
 
 void ProgramChoose::slotSelectAll(CheckType type, bool ischeck)
 {
     if (type == ProgramListCheck) {
+        const int changed = rowToTell(*ui->tableViewProgramList, ischeck);
         m_offerChecks->setAllChecked(ischeck);
+        tellMarks(*ui->tableViewProgramList, changed);
     } else if (type == PlanListCheck) {
+        const int changed = rowToTell(*ui->tableViewChoonse, ischeck);
         for (int row = 0; row < m_planModel->rowCount(); ++row) {
             setRowChecked(*m_planModel, row, ischeck);
         }
         m_planHeader->setChecked(ischeck);
-    }
-    const RowCursor* const cursor = RowCursor::of(*tableOf(type));
-    tellMark(type, cursor ? cursor->row() : kNoRow);
-}
-
-QTableView* ProgramChoose::tableOf(CheckType type) const
-{
-    return type == ProgramListCheck ? ui->tableViewProgramList : ui->tableViewChoonse;
-}
-
-void ProgramChoose::tellMark(CheckType type, int row) const
-{
-    if (const RowCursor* const cursor = RowCursor::of(*tableOf(type))) {
-        cursor->tellMark(row);
+        tellMarks(*ui->tableViewChoonse, changed);
     }
 }
 

@@ -105,8 +105,6 @@ private:
     void loadPlan();
     void appendPlanRows(const std::vector<ChoiceRow>& rows);
 
-    QTableView* tableOf(CheckType type) const;
-    void tellMark(CheckType type, int row) const;
     void updateCheckOrder(int row, bool check);
     int countCheckedPlanRows() const;
     void moveRows(bool up, bool byChecks);

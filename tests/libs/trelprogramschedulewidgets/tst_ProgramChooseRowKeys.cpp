@@ -85,6 +85,8 @@ private slots:
     void aPressTakesTheRowAlong();
     void theRowIsFramedWhileItHasTheKeys();
     void marksAreToldAsTheyChange();
+    void marksOfTheHeaderAreTold();
+    void aPressTellsTheRow();
 };
 
 void tst_ProgramChooseRowKeys::theTablesTakeNoFocusAndSelectNothing()
@@ -546,6 +548,67 @@ void tst_ProgramChooseRowKeys::marksAreToldAsTheyChange()
         QCoreApplication::processEvents();
         QCOMPARE(heard.mid(1),
                  (QStringList{QStringLiteral("focus szProgramLstStr"), QStringLiteral("focus B")}));
+        QAccessible::installUpdateHandler(former);
+        chooser.cancel();
+    });
+}
+
+void tst_ProgramChooseRowKeys::marksOfTheHeaderAreTold()
+{
+    installAccessibleFactory();
+    ChooserFixture fixture;
+    fixture.setPrograms({entry(1, "A")});
+    fixture.openExisting([](ChooserWindow& chooser) {
+        activate(chooser);
+        QCoreApplication::processEvents();
+        const ActiveAccessibility active;
+        const auto former = QAccessible::installUpdateHandler(listen);
+        const auto told = [](const char* keys) {
+            heard.clear();
+            press(keys);
+            return heard.join(u'|');
+        };
+        QCOMPARE(told("Ctrl+A"), QStringLiteral("A checked|szProgramLstStr checked"));
+        QCOMPARE(told("Space"), QStringLiteral("A not checked|szProgramLstStr not checked"));
+        QCOMPARE(told("Space"), QStringLiteral("A checked|szProgramLstStr checked"));
+        press("Space");
+        press("Down");
+        // The row of the keys has its mark already.
+        QCOMPARE(told("Ctrl+A"), QStringLiteral("szProgramLstStr checked"));
+        QCOMPARE(told("Ctrl+A"), QStringLiteral("B not checked|szProgramLstStr not checked"));
+        heard.clear();
+        auto* const dialog = qobject_cast<ProgramChoose*>(chooser.chooser());
+        dialog->slotChecked(static_cast<CheckType>(2), 0, true);
+        dialog->slotSelectAll(static_cast<CheckType>(2), true);
+        QCOMPARE(heard, QStringList());
+        // The mark that the only row has for the press is not told, nor that of the header.
+        choices(chooser).setFocus();
+        QCoreApplication::processEvents();
+        QCOMPARE(told("Del"), QString());
+        QAccessible::installUpdateHandler(former);
+        chooser.cancel();
+    });
+}
+
+void tst_ProgramChooseRowKeys::aPressTellsTheRow()
+{
+    installAccessibleFactory();
+    ChooserFixture fixture;
+    fixture.openNew([](ChooserWindow& chooser) {
+        activate(chooser);
+        QCoreApplication::processEvents();
+        const ActiveAccessibility active;
+        const auto former = QAccessible::installUpdateHandler(listen);
+        const QTableView* const table = chooser.programTable();
+        const auto pressName = [table](int row) {
+            heard.clear();
+            QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
+                              table->visualRect(table->model()->index(row, 2)).center());
+            return heard.join(u'|');
+        };
+        // It is the row of the keys already.
+        QCOMPARE(pressName(0), QString());
+        QCOMPARE(pressName(2), QStringLiteral("focus C"));
         QAccessible::installUpdateHandler(former);
         chooser.cancel();
     });

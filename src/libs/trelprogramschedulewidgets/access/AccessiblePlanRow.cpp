@@ -91,6 +91,8 @@ QAccessible::State AccessiblePlanRow::state() const
     state.invalid = !isValid();
     state.invisible = !m_table || !m_table->isVisible();
     state.disabled = !m_table || !m_table->isEnabled();
+    state.selectable = isValid();
+    state.selected = isValid() && m_table->selectionModel()->isRowSelected(m_number, QModelIndex());
     if (isValid() && !state.invisible) {
         const QRect row = m_table->visualRect(cell(TitleColumn));
         state.offscreen = !row.intersects(m_table->viewport()->rect());

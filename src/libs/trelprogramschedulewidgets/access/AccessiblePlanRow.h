@@ -8,7 +8,8 @@
 namespace trel::mediadispatch {
 
 /// A row of a plan table, for screen readers: it is named by task and plan, and its children are
-/// its editors. Its description says with which plan it collides. It stands for a place in the
+/// its editors. Its description says with which plan it collides. It is selected where the operator
+/// was led to it. It stands for a place in the
 /// table, whichever plan is there, and is not valid while there is none.
 class AccessiblePlanRow : public QAccessibleInterface
 {

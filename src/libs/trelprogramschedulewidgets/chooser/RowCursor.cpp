@@ -27,6 +27,15 @@ bool isWith(const QKeyEvent& key, Qt::KeyboardModifier modifier)
     return (key.modifiers() & ~Qt::KeypadModifier) == modifier;
 }
 
+/// Tells a screen reader that a check box has another mark.
+void tellChecked(QAccessibleInterface& box)
+{
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(&box, changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 bool isOneLetter(const QString& text)
 {
     return text.size() == 1 && text.front().isPrint() && !text.front().isSpace();
@@ -85,8 +94,9 @@ bool RowCursor::eventFilter(QObject* watched, QEvent* event)
         setGeometry(m_table.viewport()->geometry());
     } else if (event->type() == QEvent::MouseButtonPress) {
         const QModelIndex pressed = m_table.indexAt(static_cast<QMouseEvent*>(event)->pos());
-        if (pressed.isValid()) {
+        if (pressed.isValid() && pressed.row() != row()) {
             place(pressed.row());
+            tellRow();
         }
     }
     return QWidget::eventFilter(watched, event);
@@ -255,10 +265,21 @@ void RowCursor::tellMark(int row) const
 {
     QAccessibleInterface* const mark = QAccessible::isActive() ? markOf(row) : nullptr;
     if (mark && m_tellsMarks) {
-        QAccessible::State changed;
-        changed.checked = true;
-        QAccessibleStateChangeEvent event(mark, changed);
-        QAccessible::updateAccessibility(&event);
+        tellChecked(*mark);
+    }
+}
+
+void RowCursor::tellHeader()
+{
+    if (!m_tellsMarks || m_header.isChecked() == m_isHeaderTold) {
+        return;
+    }
+    m_isHeaderTold = m_header.isChecked();
+    const QAccessibleInterface* const table = QAccessible::isActive() ? spokenTable() : nullptr;
+    // The headings are the first children of the table, and that of the marks the first of them.
+    QAccessibleInterface* const mark = table ? table->child(OfferCheckColumn) : nullptr;
+    if (mark) {
+        tellChecked(*mark);
     }
 }
 
@@ -271,9 +292,14 @@ void RowCursor::announce(int row) const
     }
 }
 
+QAccessibleInterface* RowCursor::spokenTable() const
+{
+    return QAccessible::queryAccessibleInterface(&m_table);
+}
+
 QAccessibleInterface* RowCursor::markOf(int row) const
 {
-    QAccessibleInterface* const table = QAccessible::queryAccessibleInterface(&m_table);
+    QAccessibleInterface* const table = spokenTable();
     const auto* const cells = table ? table->tableInterface() : nullptr;
     return cells ? cells->cellAt(row, OfferCheckColumn) : nullptr;
 }

@@ -49,7 +49,9 @@ public:
 
     /// Tells a screen reader that the mark of a row has changed.
     void tellMark(int row) const;
-    /// Whether it does. Marks that come and go within one step are not told.
+    /// As tellMark, of the mark of the header, if it is another one than was told last.
+    void tellHeader();
+    /// Whether they do. Marks that come and go within one step are not told.
     void setTellsMarks(bool tells) { m_tellsMarks = tells; }
     /// Has a screen reader say a row that the keys do not stand in.
     void announce(int row) const;
@@ -77,12 +79,14 @@ private:
     int rowsOfPage() const;
     QRect frame() const;
     void tellRow() const;
+    QAccessibleInterface* spokenTable() const;
     QAccessibleInterface* markOf(int row) const;
 
     QTableView& m_table;
     SHeaderView& m_header;
     int m_row = 0;
     bool m_tellsMarks = true;
+    bool m_isHeaderTold = false; ///< The mark of the header as it was told last.
 };
 
 } // namespace trel::mediadispatch
