@@ -227,7 +227,11 @@ std::optional<int> PlanTaskWidget::planInTheWay(int row) const
     if (row < 0 || row >= static_cast<int>(m_task.plans.size())) {
         return std::nullopt;
     }
-    const int place = firstCollision(m_task.plans, row);
+    // One who goes through the rows asks for each of them.
+    if (m_firstCollisions.size() != m_task.plans.size()) {
+        m_firstCollisions = firstCollisions(m_task.plans);
+    }
+    const int place = m_firstCollisions[static_cast<std::size_t>(row)];
     return place < 0 ? std::nullopt
                      : std::optional<int>(m_task.plans[static_cast<std::size_t>(place)].id);
 }
@@ -425,6 +429,7 @@ void PlanTaskWidget::slotAddProgram(int row)
     }
     service().setqstrSelectedProgram(text.toStdString());
     m_task = service().getTask(m_task.id);
+    m_firstCollisions.clear();
 
     const PlayPlan* const plan = planOfRow(row);
     if (plan && plan->mode == FrequencyMode && recomputeEnd(row, service().getPrograms())) {
@@ -531,6 +536,7 @@ void PlanTaskWidget::refreshConflicts()
 
 void PlanTaskWidget::refreshConflicts(AnswerCatalogue& catalogue)
 {
+    m_firstCollisions.clear();
     showStates(markConflicts(
         m_task, [&]() -> const std::map<int, ProgramIten>& { return catalogue.programs(); }));
     m_ui->tableView->QWidget::update();

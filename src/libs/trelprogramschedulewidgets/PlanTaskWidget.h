@@ -229,6 +229,9 @@ private:
     std::unique_ptr<QObject> m_editorWatch = std::make_unique<QObject>();
     /// The rows until they are built, and null from then on.
     std::unique_ptr<FoldedRows> m_foldedRows;
+    /// For each plan the place of the first above it that it collides with, or -1. Worked out when
+    /// it is asked for; empty until then, and again with every change.
+    mutable std::vector<int> m_firstCollisions;
 };
 
 } // namespace trel::mediadispatch

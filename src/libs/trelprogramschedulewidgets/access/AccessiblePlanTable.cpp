@@ -3,6 +3,7 @@
 #include "access/AccessiblePlanRow.h"
 #include "card/PlanColumns.h"
 
+#include <QStandardItemModel>
 #include <QTableView>
 
 namespace trel::mediadispatch {
@@ -20,9 +21,13 @@ AccessiblePlanTable::~AccessiblePlanTable()
     }
 }
 
+// Past the model of a folded card, which puts all rows in, with their editors, for any that asks
+// how many there are. Nobody sees them before it is unfolded, and a walk through all cards would
+// build the whole schedule.
 int AccessiblePlanTable::childCount() const
 {
-    return table().model() ? table().model()->rowCount() : 0;
+    const auto* const model = qobject_cast<const QStandardItemModel*>(table().model());
+    return model ? model->QStandardItemModel::rowCount() : 0;
 }
 
 QAccessibleInterface* AccessiblePlanTable::child(int index) const

@@ -7,7 +7,8 @@
 namespace trel::mediadispatch {
 
 /// The plan table of a card as a screen reader finds it: a row for each plan, and in it the
-/// editors, from left to right. Captions are no cells: each names the column behind it.
+/// editors, from left to right. Captions are no cells: each names the column behind it. The table
+/// of a card that has never been unfolded is empty.
 class AccessiblePlanTable : public AccessibleTable
 {
 public:

@@ -55,17 +55,13 @@ std::unordered_set<int> markConflicts(PlayTask& task, const CatalogueSource& cat
     return colliding;
 }
 
-int firstCollision(const std::vector<PlayPlan>& plans, int place)
+std::vector<int> firstCollisions(const std::vector<PlayPlan>& plans)
 {
     std::map<int, ProgramIten> fetched;
-    const std::vector<int> others =
-        collisionsOf(claimsOf(plans,
-                              [&fetched]() -> const std::map<int, ProgramIten>& {
-                                  fetched = scheduleManage::getInstance().getPrograms();
-                                  return fetched;
-                              }),
-                     place);
-    return !others.empty() && others.front() < place ? others.front() : -1;
+    return firstCollisions(claimsOf(plans, [&fetched]() -> const std::map<int, ProgramIten>& {
+        fetched = scheduleManage::getInstance().getPrograms();
+        return fetched;
+    }));
 }
 
 void tellStates(const std::vector<QLabel*>& labels)

@@ -21,9 +21,9 @@ std::unordered_set<int> markConflicts(PlayTask& task);
 using CatalogueSource = std::function<const std::map<int, ProgramIten>&()>;
 std::unordered_set<int> markConflicts(PlayTask& task, const CatalogueSource& catalogue);
 
-/// The place of the first plan above one that it collides with; -1 when there is none. For the one
-/// plan that is asked about; a place that does not exist is a fault of the caller.
-int firstCollision(const std::vector<PlayPlan>& plans, int place);
+/// For each plan, in order, the place of the first one above it that it collides with; -1 where
+/// there is none. Fetches the service's catalogue if an end follows from it.
+std::vector<int> firstCollisions(const std::vector<PlayPlan>& plans);
 
 /// Tells a screen reader of the labels whose state has come or gone: of each that it has changed,
 /// and of the first that it is to be said.

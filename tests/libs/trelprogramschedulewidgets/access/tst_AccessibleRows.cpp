@@ -91,6 +91,7 @@ private slots:
     void textBehindAPromptIsNotEdited();
     void collisionsNameTheOtherPlan();
     void collisionsAreToldAsTheyComeAndGo();
+    void collisionsAreWorkedOutOnce();
     void programsAreTold();
     void buttonsBehindAPromptAreNotPressed();
     void everyButtonHasAName();
@@ -105,6 +106,7 @@ private slots:
     void barsSayWhetherTheyAreOpen();
     void rowsFollowTheirTable();
     void foldedRowsAreNotShown();
+    void askingBuildsNoRows();
     void othersAreLeftToTheToolkit();
 
 private:
@@ -479,6 +481,27 @@ void tst_AccessibleRows::collisionsAreToldAsTheyComeAndGo()
     QCOMPARE(alerts(), QString());
 }
 
+void tst_AccessibleRows::collisionsAreWorkedOutOnce()
+{
+    RecordingService& service = RecordingService::instance();
+    const auto said = [this] {
+        QStringList texts;
+        for (int row = 0; row < 3; ++row) {
+            texts.append(table()->child(row)->text(QAccessible::Description).right(1));
+        }
+        return texts.join(u'|');
+    };
+    service.clearLog();
+    QCOMPARE(said(), QStringLiteral("|1|"));
+    QCOMPARE(said(), QStringLiteral("|1|"));
+    QCOMPARE(service.count(QStringLiteral("getPrograms")), 1);
+    // What is changed is worked out again.
+    rows().startTime(0).setTime(QTime(8, 50));
+    rows().endTime(0).setTime(QTime(8, 55));
+    rows().startTime(1).setTime(QTime(9, 0));
+    QCOMPARE(said(), QStringLiteral("||"));
+}
+
 void tst_AccessibleRows::programsAreTold()
 {
     QAccessibleInterface* const choose = table()->child(0)->child(0);
@@ -647,6 +670,15 @@ void tst_AccessibleRows::daysAreChecked()
         act(list->child(3), QAccessibleActionInterface::toggleAction());
         QCOMPARE(record.news().join(u'|'),
                  QStringLiteral("  %1, list item, checked").arg(box.itemText(3)));
+        // The mark that another one took is told as well, and it is no more than that.
+        QAccessibleEvent everyDay(list->child(EveryDay), QAccessible::Focus);
+        QAccessible::updateAccessibility(&everyDay);
+        record.news();
+        act(list->child(EveryDay), QAccessibleActionInterface::toggleAction());
+        record.news();
+        act(list->child(3), QAccessibleActionInterface::toggleAction());
+        QCOMPARE(record.news().join(u'|'),
+                 QStringLiteral("  %1, list item, not checked").arg(box.itemText(EveryDay)));
     }
     act(list->child(4), QAccessibleActionInterface::toggleAction());
     act(list->child(5), QAccessibleActionInterface::toggleAction());
@@ -718,6 +750,20 @@ void tst_AccessibleRows::foldedRowsAreNotShown()
     card().setFolded(true);
     QVERIFY(row->state().invisible);
     QVERIFY(row->child(2)->state().invisible);
+}
+
+void tst_AccessibleRows::askingBuildsNoRows()
+{
+    PlanTaskWidget& folded = m_editor->card(1);
+    const PlanTaskWidgetInspector inside(folded);
+    QAccessibleInterface* const plans = spoken(*folded.findChild<QTableView*>());
+    QCOMPARE(plans->childCount(), 0);
+    QCOMPARE(plans->tableInterface()->rowCount(), 0);
+    QVERIFY(!plans->child(0));
+    QVERIFY(folded.findChildren<MultiComboBox*>().isEmpty());
+    folded.setFolded(false);
+    QCOMPARE(plans->childCount(), 3);
+    QVERIFY(plans->child(2)->isValid());
 }
 
 void tst_AccessibleRows::othersAreLeftToTheToolkit()
