@@ -15,8 +15,6 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
-#include <algorithm>
-#include <map>
 #include <memory>
 
 namespace trel::mediadispatch {
@@ -44,15 +42,6 @@ scheduleControlUI* editorInTheWay(const scheduleControlUI* of)
 {
     scheduleControlUI* const last = editorInWork();
     return last != of && last != nullptr && last->isVisible() ? last : nullptr;
-}
-
-bool isStored(int taskId, int planId)
-{
-    const std::map<int, PlayTask> stored = scheduleManage::getInstance().getgTaskMap();
-    const auto task = stored.find(taskId);
-    return task != stored.end() &&
-           std::any_of(task->second.plans.begin(), task->second.plans.end(),
-                       [planId](const PlayPlan& plan) { return plan.id == planId; });
 }
 
 } // namespace
@@ -244,10 +233,7 @@ void scheduleControlUI::slotShowPlan(int taskId, int planId)
         }
         bringToFront();
     } else {
-        // The cards will be those of the stored set.
-        if (isLocked() || !isStored(taskId, planId)) {
-            return;
-        }
+        // The cards will be those of the stored set, which is read by the list alone.
         slotShow();
     }
     if (self && isVisible() && list) {

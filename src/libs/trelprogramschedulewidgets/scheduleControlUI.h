@@ -96,9 +96,9 @@ public Q_SLOTS:
     ///
     /// A hidden editor is shown for it as by slotShow(): it reads the stored schedule again, and it
     /// stays hidden in the second in which slotShow() shows nothing. A visible one is raised, and
-    /// brought back if it is minimized; it keeps what is not saved. Does nothing, and shows
-    /// nothing, when a visible editor has no such row, or the stored schedule no such plan for a
-    /// hidden one. Of plans that share an id it is the first.
+    /// brought back if it is minimized; it keeps what is not saved. Does nothing when a visible
+    /// editor has no such row. A hidden one is shown all the same when the stored schedule has no
+    /// such plan, and leads to none. Of plans that share an id it is the first.
     ///
     /// Works while a prompt stands over the editor, and behind it. While the list is being read
     /// again it waits until that is done; of several such calls the last one counts. To be called

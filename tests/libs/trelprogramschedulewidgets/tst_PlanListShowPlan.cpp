@@ -3,12 +3,14 @@
 
 #include "PlanTaskWidget.h"
 #include "card/PlanColumns.h"
+#include "support/ActiveAccessibility.h"
 #include "support/PlanRecords.h"
 #include "support/PlanTaskWidgetInspector.h"
 #include "support/RecordingService.h"
 #include "support/TestProgram.h"
 #include "trelwidgets/TipDialog.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QItemSelectionModel>
 #include <QPointer>
@@ -97,6 +99,29 @@ private:
 
 } // namespace
 
+namespace {
+
+QStringList selections;
+
+void takeSelection(QAccessibleEvent* event)
+{
+    const bool isSelection = event->type() == QAccessible::Selection ||
+                             event->type() == QAccessible::SelectionAdd ||
+                             event->type() == QAccessible::SelectionRemove ||
+                             event->type() == QAccessible::SelectionWithin;
+    const QAccessibleInterface* const from = isSelection ? event->accessibleInterface() : nullptr;
+    if (from && qobject_cast<QTableView*>(event->object())) {
+        selections.append(QStringLiteral("of the table"));
+    } else if (from) {
+        selections.append(
+            (from->role() == QAccessible::Row ? QStringLiteral("row ") : QStringLiteral("other ")) +
+            from->text(QAccessible::Name) +
+            (from->state().selected ? QStringLiteral(" selected") : QString()));
+    }
+}
+
+} // namespace
+
 /// A host leads the operator to one plan.
 class tst_PlanListShowPlan : public QObject
 {
@@ -117,6 +142,9 @@ private slots:
     void changesNothingInTheService();
     void ignoresWhatIsUnknown_data();
     void ignoresWhatIsUnknown();
+    void asksNoMoreThanAShow_data();
+    void asksNoMoreThanAShow();
+    void tellsTheRow();
     void bringsAMinimisedEditorBack();
     void takesOverWhatIsTyped();
     void worksWhileAPromptStands();
@@ -283,9 +311,6 @@ void tst_PlanListShowPlan::ignoresWhatIsUnknown()
     QFETCH(const int, taskId);
     QFETCH(const int, planId);
     Editor editor;
-    editor.dialog().slotShowPlan(taskId, planId);
-    QVERIFY(!editor.dialog().isVisible());
-    QCOMPARE(editor.updates().count(), 0);
     editor.show();
     editor.dialog().setWindowState(Qt::WindowMinimized);
     editor.dialog().slotShowPlan(taskId, planId);
@@ -294,6 +319,38 @@ void tst_PlanListShowPlan::ignoresWhatIsUnknown()
     for (int id = 1; id <= kTasks; ++id) {
         QVERIFY(editor.card(id).isFolded());
     }
+}
+
+// Only a list that is read anew reads the stored set, and once: it may be large.
+void tst_PlanListShowPlan::asksNoMoreThanAShow_data()
+{
+    QTest::addColumn<int>("planId");
+    QTest::newRow("known") << 13;
+    QTest::newRow("unknown") << 9;
+}
+
+void tst_PlanListShowPlan::asksNoMoreThanAShow()
+{
+    QFETCH(const int, planId);
+    Editor editor;
+    editor.dialog().slotShowPlan(4, planId);
+    QVERIFY(editor.dialog().isVisible());
+    QCOMPARE(editor.updates().count(), 1);
+    QCOMPARE(service().count(QStringLiteral("getgTaskMap")), 1);
+    QCOMPARE(editor.marked(), planId == 13 ? QStringList(QStringLiteral("4 3")) : QStringList());
+}
+
+void tst_PlanListShowPlan::tellsTheRow()
+{
+    Editor editor;
+    editor.show();
+    const ActiveAccessibility active;
+    selections.clear();
+    const auto former = QAccessible::installUpdateHandler(takeSelection);
+    editor.dialog().slotShowPlan(4, 13);
+    QAccessible::installUpdateHandler(former);
+    QCOMPARE(selections,
+             QStringList(QStringLiteral("row zhPlayTaskStr4, zhPlanTimeStr13: selected")));
 }
 
 void tst_PlanListShowPlan::bringsAMinimisedEditorBack()
