@@ -1,9 +1,11 @@
 #pragma once
 
 #include "toolkit/CutLine.h"
+#include "toolkit/TypedValue.h"
 #include "trelwidgets/CutTip.h"
 
 #include <QDateEdit>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QWheelEvent>
 
@@ -48,6 +50,13 @@ protected:
             return true;
         }
         return Field::event(event);
+    }
+
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const TypedValue typed(*this, *event);
+        Field::keyPressEvent(event);
+        typed.tell();
     }
 
     void wheelEvent(QWheelEvent* event) override

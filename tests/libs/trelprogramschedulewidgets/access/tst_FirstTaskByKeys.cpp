@@ -104,6 +104,9 @@ void tst_FirstTaskByKeys::isMade()
     // The end first: a start may not come after it.
     keys.tabTo(scheduleText("zhToStr"));
     keys.type("20240430");
+    // Said as a whole once the last digit stands there.
+    QVERIFY2(record.news().last().endsWith(QLatin1String(", 2024.04.30")),
+             qPrintable(record.lines().last()));
     keys.press("Shift+Tab");
     while (!Keyboard::focusedName().endsWith(scheduleText("zhFromStr"))) {
         keys.press("Shift+Tab");
@@ -128,6 +131,8 @@ void tst_FirstTaskByKeys::isMade()
 
     keys.tabTo(scheduleText("zhToStr"));
     keys.type("113000");
+    QVERIFY2(record.news().last().endsWith(QLatin1String(", 11:30:00")),
+             qPrintable(record.lines().last()));
     keys.press("Shift+Tab");
     while (!Keyboard::focusedName().endsWith(scheduleText("zhFromStr"))) {
         keys.press("Shift+Tab");
