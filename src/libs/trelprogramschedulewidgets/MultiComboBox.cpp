@@ -11,9 +11,11 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFontMetrics>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QStyle>
 #include <QWheelEvent>
 
@@ -158,6 +160,7 @@ void MultiComboBox::showPopup()
     restoreCheckMarks();
     prepareList();
     fitPopupToLabels();
+    goToEntry();
     QComboBox::showPopup();
     tellCurrent();
 }
@@ -333,7 +336,7 @@ void MultiComboBox::tellMark(int entry) const
     }
 }
 
-// The toolkit tells of the entry while the list is not there yet, and of the list last.
+// The toolkit tells of the list when it opens, and of no entry in it.
 void MultiComboBox::tellCurrent() const
 {
     QAccessibleInterface* const current =
@@ -425,6 +428,17 @@ void MultiComboBox::fitPopupToLabels()
 {
     const int scrollBarWidth = view()->verticalScrollBar()->sizeHint().width();
     view()->setMinimumWidth(view()->sizeHintForColumn(modelColumn()) + scrollBarWidth);
+}
+
+// The toolkit makes the entry the current one while the list is not there yet, and tells a screen
+// reader of it.
+void MultiComboBox::goToEntry()
+{
+    const QModelIndex entry = entryIndex(currentIndex());
+    if (entry.isValid()) {
+        const QSignalBlocker quiet(view()->selectionModel());
+        view()->selectionModel()->setCurrentIndex(entry, QItemSelectionModel::ClearAndSelect);
+    }
 }
 
 void MultiComboBox::commit()

@@ -112,6 +112,7 @@ private:
     void watchList(const QEvent& event);
     void prepareList();
     void fitPopupToLabels();
+    void goToEntry();
     void commit();
 
     QString m_separator;
