@@ -567,7 +567,7 @@ void PlanTaskWidget::showStates(const std::unordered_set<int>& colliding)
         }
         ++planId;
     }
-    tellStates(changed);
+    tellStates(*this, changed);
 }
 
 void PlanTaskWidget::slotReflushConflict(int)

@@ -43,7 +43,7 @@ QAccessibleInterface* interfaceOf(const QString& className, QObject* object)
         return new QAccessibleWidget(widget, QAccessible::Graphic);
     }
     if (className == QLatin1String("trel::desktop::access::Announcer")) {
-        return new QAccessibleWidget(widget, QAccessible::AlertMessage);
+        return new QAccessibleWidget(widget, QAccessible::Notification);
     }
     if (className == QLatin1String("trel::desktop::air::AirLight")) {
         return new QAccessibleWidget(widget, QAccessible::StaticText);

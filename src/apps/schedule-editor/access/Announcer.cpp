@@ -12,6 +12,8 @@ Announcer::Announcer(QWidget* window)
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(0, 0, 0, 0);
+    // With its window it would show up without a word.
+    hide();
 }
 
 void Announcer::say(const QString& text)
@@ -21,8 +23,15 @@ void Announcer::say(const QString& text)
     }
     m_said = text;
     setAccessibleName(text);
-    QAccessibleEvent event(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+    if (isHidden()) {
+        // The toolkit tells of what comes up.
+        show();
+        return;
+    }
+    QAccessibleEvent shown(this, QAccessible::ObjectShow);
+    QAccessible::updateAccessibility(&shown);
 }
 
 void Announcer::changeEvent(QEvent* event)

@@ -14,6 +14,7 @@
 #include "access/AccessiblePlanTable.h"
 #include "access/AccessibleProgramTable.h"
 #include "access/AccessibleRowCursor.h"
+#include "access/SpokenNote.h"
 #include "centerWidget.h"
 #include "chooser/RowCursor.h"
 
@@ -112,6 +113,9 @@ QAccessibleInterface* interfaceOf(const QString& /*className*/, QObject* object)
     const MultiComboBox* const days = list ? boxOfDays(*list) : nullptr;
     if (days && isInCard(*days)) {
         return new AccessibleDayList(*list);
+    }
+    if (qobject_cast<SpokenNote*>(object)) {
+        return new QAccessibleWidget(widget, QAccessible::Notification);
     }
     if (auto* const cursor = qobject_cast<RowCursor*>(object)) {
         return new AccessibleRowCursor(*cursor);

@@ -1,6 +1,7 @@
 #include "ConflictPass.h"
 
 #include "ScheduleText.h"
+#include "access/SpokenNote.h"
 #include "service/PlanCollisions.h"
 #include "service/PlanConflicts.h"
 #include "service/scheduleManage.h"
@@ -64,7 +65,7 @@ std::vector<int> firstCollisions(const std::vector<PlayPlan>& plans)
     }));
 }
 
-void tellStates(const std::vector<QLabel*>& labels)
+void tellStates(QWidget& card, const std::vector<QLabel*>& labels)
 {
     if (!QAccessible::isActive()) {
         return;
@@ -76,6 +77,9 @@ void tellStates(const std::vector<QLabel*>& labels)
     if (!labels.empty() && labels.front()->isVisible()) {
         QAccessibleEvent alert(labels.front(), QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);
+        if (const QAccessibleInterface* const state = alert.accessibleInterface()) {
+            SpokenNote::say(card, *state);
+        }
     }
 }
 

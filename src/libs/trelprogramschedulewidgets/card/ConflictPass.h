@@ -10,6 +10,7 @@
 #include <vector>
 
 class QLabel;
+class QWidget;
 
 namespace trel::mediadispatch {
 
@@ -25,9 +26,9 @@ std::unordered_set<int> markConflicts(PlayTask& task, const CatalogueSource& cat
 /// there is none. Fetches the service's catalogue if an end follows from it.
 std::vector<int> firstCollisions(const std::vector<PlayPlan>& plans);
 
-/// Tells a screen reader of the labels whose state has come or gone: of each that it has changed,
-/// and of the first that it is to be said.
-void tellStates(const std::vector<QLabel*>& labels);
+/// Tells a screen reader of the labels of a card whose state has come or gone: of each that it has
+/// changed, and of the first that it is to be said.
+void tellStates(QWidget& card, const std::vector<QLabel*>& labels);
 
 /// What the state labels of the rows show, in the language of the moment. Made once for the labels
 /// of all rows: they share its texts, and to look up a text costs more than the label itself.

@@ -3,6 +3,7 @@
 #include "CheckBoxDelegate.h"
 #include "ChooserColumns.h"
 #include "SHeaderView.h"
+#include "access/SpokenNote.h"
 
 #include <QAccessible>
 #include <QCoreApplication>
@@ -289,6 +290,7 @@ void RowCursor::announce(int row) const
     if (mark) {
         QAccessibleEvent event(mark, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
+        SpokenNote::say(*m_table.parentWidget(), *mark);
     }
 }
 

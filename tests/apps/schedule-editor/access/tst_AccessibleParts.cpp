@@ -6,6 +6,7 @@
 #include "screen/NowNextPanel.h"
 #include "screen/PreviewScreen.h"
 #include "screen/ScreenNews.h"
+#include "support/ActiveAccessibility.h"
 #include "support/PlanRecords.h"
 #include "support/TestClock.h"
 #include "support/TestProgram.h"
@@ -63,6 +64,38 @@ QAccessibleInterface& spoken(QWidget& widget)
 {
     return *QAccessible::queryAccessibleInterface(&widget);
 }
+
+/// What is said by the window beside its focus, while this lives.
+class Heard
+{
+public:
+    Heard()
+        : m_former(QAccessible::installUpdateHandler(hear))
+    {
+        s_lines.clear();
+    }
+    ~Heard() { QAccessible::installUpdateHandler(m_former); }
+    Q_DISABLE_COPY(Heard)
+
+    static QStringList lines() { return s_lines; }
+
+private:
+    static void hear(QAccessibleEvent* event)
+    {
+        const bool isAlert = event->type() == QAccessible::Alert;
+        const QAccessibleInterface* const what = isAlert || event->type() == QAccessible::ObjectShow
+                                                     ? event->accessibleInterface()
+                                                     : nullptr;
+        if (what != nullptr && what->role() == QAccessible::Notification) {
+            s_lines.append((isAlert ? QStringLiteral("alert ") : QStringLiteral("shown ")) +
+                           what->text(QAccessible::Name));
+        }
+    }
+
+    inline static QStringList s_lines;
+    const ActiveAccessibility m_active;
+    const QAccessible::UpdateHandler m_former;
+};
 
 /// The factory does not know this one by its name, so that the toolkit answers for it.
 class UnknownParts : public QScrollArea, public access::SpokenParts
@@ -278,6 +311,7 @@ void tst_AccessibleParts::aChangeOfTheScreenIsSaidOnce()
     startPlays();
     const auto* const announcer = m_host->window.findChild<access::Announcer*>();
     const QSignalSpy news(m_host->window.findChild<ScreenNews*>(), &ScreenNews::told);
+    const Heard heard;
     // The same program, second by second.
     for (int second = 0; second < 19; ++second) {
         m_clock->advance(1000);
@@ -287,6 +321,13 @@ void tst_AccessibleParts::aChangeOfTheScreenIsSaidOnce()
     QCOMPARE(news.size(), 1);
     QVERIFY(news.first().first().toString().startsWith(QStringLiteral("Playing: ")));
     QCOMPARE(announcer->accessibleName(), news.first().first().toString());
+    // As an alert, and as a notification for those who hear of no alerts.
+    const QString said = announcer->accessibleName();
+    QCOMPARE(heard.lines(),
+             QStringList({QStringLiteral("alert ") + said, QStringLiteral("shown ") + said}));
+    m_clock->advance(3600000);
+    QCOMPARE(news.size(), 2);
+    QCOMPARE(heard.lines().size(), 4);
 }
 
 void tst_AccessibleParts::anImportIsToldOfByTenths()

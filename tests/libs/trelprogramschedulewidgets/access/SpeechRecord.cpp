@@ -128,6 +128,9 @@ void SpeechRecord::take(const QAccessibleEvent& event)
         say(m_focused);
     } else if (event.type() == QAccessible::Alert) {
         say(QStringLiteral("! ") + said(*what));
+    } else if (event.type() == QAccessible::ObjectShow &&
+               what->role() == QAccessible::Notification) {
+        say(QStringLiteral("* ") + what->text(QAccessible::Name));
     } else if (isChange(event.type()) && isOfFocus && said(*what) != m_focused) {
         m_focused = said(*what);
         say(m_focused);

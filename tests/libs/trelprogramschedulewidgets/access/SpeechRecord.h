@@ -8,7 +8,7 @@
 
 /// What a screen reader would say while this lives, taken from what the windows tell it: what gets
 /// the focus with its role, value, state and description, what changes in it, which window comes
-/// up, and what is to be said at once. One at a time.
+/// up, what is to be said at once (!), and what shows up as a notification (*). One at a time.
 ///
 /// Where the environment variable TREL_SPEECH_RECORD names a file, the record is appended to it.
 class SpeechRecord

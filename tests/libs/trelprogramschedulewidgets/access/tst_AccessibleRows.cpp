@@ -457,16 +457,23 @@ void tst_AccessibleRows::collisionsNameTheOtherPlan()
 void tst_AccessibleRows::collisionsAreToldAsTheyComeAndGo()
 {
     SpeechRecord record(QStringLiteral("collisions"));
-    const auto alerts = [&record] {
-        return record.news().filter(QStringLiteral("!")).join(QLatin1Char('|'));
+    QStringList notes;
+    const auto alerts = [&record, &notes] {
+        const QStringList news = record.news();
+        notes = news.filter(QStringLiteral("  * "));
+        return news.filter(QStringLiteral("!")).join(QLatin1Char('|'));
     };
     rows().startTime(1).setTime(QTime(9, 15));
     QCOMPARE(alerts(), QStringLiteral("  ! zhPlayTaskStr1, zhPlanTimeStr2: zhnormalStr, label"));
+    QCOMPARE(notes, QStringList(QStringLiteral("  * zhPlayTaskStr1, zhPlanTimeStr2: zhnormalStr")));
     rows().startTime(1).setTime(QTime(9, 10));
     QCOMPARE(alerts(), QString());
     rows().startTime(1).setTime(QTime(8, 10));
     QCOMPARE(alerts(), QStringLiteral("  ! zhPlayTaskStr1, zhPlanTimeStr2: zhconflictStr, label "
                                       "(zhconflictStr: zhPlayTaskStr1, zhPlanTimeStr1)"));
+    // Once more for those who hear of no alerts.
+    QCOMPARE(notes, QStringList(QStringLiteral("  * zhPlayTaskStr1, zhPlanTimeStr2: zhconflictStr, "
+                                               "zhconflictStr: zhPlayTaskStr1, zhPlanTimeStr1")));
     // Several at a time are one message, and a change of words none.
     rows().startTime(2).setTime(QTime(8, 5));
     QVERIFY(!alerts().isEmpty());
