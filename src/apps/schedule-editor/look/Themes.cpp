@@ -38,6 +38,13 @@ void setFont()
     QApplication::setFont(font);
 }
 
+/// Some are made sick by what moves of itself, and what a system says of that does not always reach
+/// the toolkit, which has effects for menus, lists and tool tips beside those of the style.
+void keepStill()
+{
+    QApplication::setEffectEnabled(Qt::UI_General, false);
+}
+
 } // namespace
 
 Themes::Themes(QApplication& application)
@@ -47,6 +54,7 @@ Themes::Themes(QApplication& application)
 {
     application.setStyle(m_style);
     setFont();
+    keepStill();
     takeColours();
     m_recolouring.run();
 }

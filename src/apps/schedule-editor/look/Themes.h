@@ -17,7 +17,8 @@ class Themes : public QObject
     Q_OBJECT
 
 public:
-    /// Gives the application its style, its font and the default theme.
+    /// Gives the application its style, its font and the default theme, and takes the effects of
+    /// the toolkit away: nothing moves of itself.
     explicit Themes(QApplication& application);
 
     /// The names by which themes are chosen and remembered; the default comes first.
