@@ -249,7 +249,7 @@ void tst_FocusLook::controlsOfPrompts()
 {
     QString faults;
     int prompts = 0;
-    const auto look = [&faults, &prompts](QWidget* prompt) {
+    const auto look = [this, &faults, &prompts](QWidget* prompt) {
         ++prompts;
         faults += becomesActive(prompt) ? QString() : QStringLiteral("not active\n");
         // The button that Return presses has it from the start.
@@ -259,6 +259,10 @@ void tst_FocusLook::controlsOfPrompts()
         }
         faults += focusFaultsIn(prompt, 1);
         first->setFocus();
+        const QImage picture = pictureOf(first);
+        if (picture.pixelColor(picture.width() / 2, 0) != m_host->themes.colours().focus) {
+            faults += QStringLiteral("no edge in the color of the focus\n");
+        }
         keepPicture(prompt, prompts == 1 ? "question" : "notice");
         prompt->close();
     };

@@ -136,6 +136,8 @@ void tst_ThemeColours::edgesAndSignsStandOut()
                                           {"icon", t.icon, t.window},
                                           {"icon in a card", t.icon, t.title},
                                           {"icon under the pointer", t.iconHover, t.iconGround},
+                                          {"disabled icon", t.iconDisabled, t.disabledField},
+                                          {"disabled step", t.iconDisabled, t.field},
                                           {"thumb", t.scrollThumb, t.window},
                                           {"thumb in a field", t.scrollThumb, t.field},
                                           {"edge of the accent", t.accentLine, t.window},

@@ -59,7 +59,7 @@ void paintCaptionButton(QPainter& painter, const ThemeColours& colours, const QS
     QColor line;
     if (kind == ButtonKind::General) {
         ground = pick(option, colours.accent, colours.accentHover, colours.accentPressed);
-        line = ground;
+        line = hasFocus ? colours.focus : ground;
     } else if (kind == ButtonKind::Wide) {
         ground = pick(option, colours.tint, colours.tintHover, colours.tintHover);
         line = colours.accentLine;

@@ -2,6 +2,7 @@
 
 #include "BoxPainting.h"
 #include "ButtonPainting.h"
+#include "EdgePainting.h"
 #include "FieldPainting.h"
 #include "StyleHooks.h"
 #include "ThemeImages.h"
@@ -114,6 +115,14 @@ bool hidesOwnText(const QWidget* widget)
     return isLineOfChoices(widget) && widget->palette().color(QPalette::Text).alpha() == 0;
 }
 
+/// A line between two groups of a menu, without a title for the second one.
+bool isPlainSeparator(const QStyleOption& option)
+{
+    const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(&option);
+    return item != nullptr && item->menuItemType == QStyleOptionMenuItem::Separator &&
+           item->text.isEmpty();
+}
+
 /// The widget that a painter was opened on, if it is one.
 const QWidget* paintedWidget(const QPainter& painter)
 {
@@ -221,6 +230,9 @@ void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     case PE_IndicatorRadioButton:
         paintRadioMark(*painter, m_colours, *option);
         return;
+    case PE_FrameMenu:
+        paintMenuFrame(*painter, m_colours, option->rect);
+        return;
     default:
         break;
     }
@@ -272,6 +284,19 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
         painter->setFont(titleFont(*painter, widget));
         QProxyStyle::drawControl(element, option, painter, widget);
         painter->restore();
+        return;
+    case CE_MenuItem:
+        if (isPlainSeparator(*option)) {
+            paintMenuSeparator(*painter, m_colours, option->rect);
+            return;
+        }
+        break;
+    case CE_TabBarTabShape:
+        QProxyStyle::drawControl(element, option, painter, widget);
+        if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option);
+            tab != nullptr && (tab->state & State_Selected) != 0) {
+            paintTabInFront(*painter, m_colours, *tab);
+        }
         return;
     case CE_TabBarTabLabel:
         if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option)) {
@@ -391,6 +416,7 @@ int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         return isPlanTable(widget) || isInsideProgramField(widget) ? 0 : 1;
     case PM_SpinBoxFrameWidth:
     case PM_ComboBoxFrameWidth:
+    case PM_MenuPanelWidth:
         return 1;
     case PM_ScrollBarExtent:
         return kScrollBarExtent;

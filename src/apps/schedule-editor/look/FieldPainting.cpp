@@ -38,9 +38,8 @@ void paintStep(QPainter& painter, const ThemeColours& colours, const QStyleOptio
     if (isHovered) {
         paintBox(painter, rect, colours.iconGround, Qt::transparent, kRadius - 1);
     }
-    const QColor colour = isPossible
-                              ? (isHovered ? colours.iconHover : colours.icon)
-                              : (isEnabled(option) ? colours.fieldLineHover : colours.fieldLine);
+    const QColor colour =
+        isPossible ? (isHovered ? colours.iconHover : colours.icon) : colours.iconDisabled;
     const bool isUp = part == QStyle::SC_SpinBoxUp;
     paintImage(painter, rect, isUp ? QStringLiteral("spin-up") : QStringLiteral("spin-down"),
                colour);
@@ -105,7 +104,7 @@ void paintComboBox(QPainter& painter, const ThemeColours& colours,
 {
     paintField(painter, colours, option);
     paintImage(painter, arrow, QStringLiteral("combo-arrow"),
-               isEnabled(option) ? colours.icon : colours.fieldLineHover);
+               isEnabled(option) ? colours.icon : colours.iconDisabled);
 }
 
 void paintComboBoxLabel(QPainter& painter, const ThemeColours& colours,

@@ -134,6 +134,7 @@ ThemeColours darkColours()
 
     colours.icon = QColor(0xc3, 0xc9, 0xd3);
     colours.iconHover = Qt::white;
+    colours.iconDisabled = colours.fieldLine;
     colours.iconGround = QColor(0x3a, 0x41, 0x4e);
     colours.scrollThumb = QColor(0x6b, 0x74, 0x84);
     colours.scrollThumbHover = QColor(0x8e, 0x97, 0xa8);
@@ -188,6 +189,7 @@ ThemeColours lightColours()
 
     colours.icon = QColor(0x48, 0x50, 0x5e);
     colours.iconHover = QColor(0x10, 0x14, 0x1a);
+    colours.iconDisabled = colours.fieldLine;
     colours.iconGround = QColor(0xd9, 0xde, 0xe8);
     colours.scrollThumb = QColor(0x7d, 0x85, 0x94);
     colours.scrollThumbHover = QColor(0x5f, 0x68, 0x78);
@@ -247,6 +249,7 @@ ThemeColours contrastColours()
 
     colours.icon = Qt::white;
     colours.iconHover = Qt::black;
+    colours.iconDisabled = colours.disabledLine;
     colours.iconGround = Qt::white;
     colours.scrollThumb = QColor(0xc8, 0xc8, 0xc8);
     colours.scrollThumbHover = Qt::white;

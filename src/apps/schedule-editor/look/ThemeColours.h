@@ -42,6 +42,7 @@ struct ThemeColours
 
     QColor icon;
     QColor iconHover;
+    QColor iconDisabled;
     QColor iconGround; ///< Under the image of a button that the pointer is on.
     QColor scrollThumb;
     QColor scrollThumbHover;

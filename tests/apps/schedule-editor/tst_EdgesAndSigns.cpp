@@ -1,0 +1,145 @@
+#include "LookSupport.h"
+#include "look/Themes.h"
+#include "support/TestProgram.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QMenu>
+#include <QSpinBox>
+#include <QTabBar>
+#include <QtTest>
+
+#include <memory>
+
+using namespace trel::desktop;
+
+/// What tells parts of a window from each other, on the pixels, under every theme.
+class tst_EdgesAndSigns : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void theTabInFrontIsMarked_data() { addThemes(); }
+    void theTabInFrontIsMarked();
+    void aMenuHasAnEdge_data() { addThemes(); }
+    void aMenuHasAnEdge();
+    void groupsOfAMenuAreApart_data() { addThemes(); }
+    void groupsOfAMenuAreApart();
+    void disabledArrowsAreWeaker_data() { addThemes(); }
+    void disabledArrowsAreWeaker();
+
+private:
+    std::unique_ptr<Themes> m_themes;
+};
+
+namespace {
+
+QImage drawn(QWidget& widget)
+{
+    widget.resize(widget.sizeHint());
+    return widget.grab().toImage();
+}
+
+/// How much the arrows at the end of a field stand out.
+double arrowsOf(QWidget& field)
+{
+    constexpr int kRoom = 16;
+    const QImage picture = drawn(field);
+    return lookAt(picture, QRect(picture.width() - kRoom, 3, kRoom - 3, picture.height() - 6))
+        .contrast;
+}
+
+} // namespace
+
+void tst_EdgesAndSigns::init()
+{
+    QFETCH(QString, theme);
+    m_themes = std::make_unique<Themes>(*qApp);
+    m_themes->select(theme);
+}
+
+void tst_EdgesAndSigns::cleanup()
+{
+    m_themes.reset();
+}
+
+void tst_EdgesAndSigns::theTabInFrontIsMarked()
+{
+    const QColor mark = m_themes->colours().accentLine;
+    for (const QTabBar::Shape shape : {QTabBar::RoundedNorth, QTabBar::RoundedSouth,
+                                       QTabBar::RoundedWest, QTabBar::RoundedEast}) {
+        QTabBar bar;
+        bar.setShape(shape);
+        bar.addTab(QStringLiteral("In words"));
+        bar.addTab(QStringLiteral("On the screen"));
+        bar.setCurrentIndex(1);
+        const QImage picture = drawn(bar);
+        const auto edgeOf = [&](int tab) {
+            const QRect rect = bar.tabRect(tab);
+            switch (shape) {
+            case QTabBar::RoundedNorth:
+                return picture.pixelColor(rect.center().x(), rect.top() + 1);
+            case QTabBar::RoundedSouth:
+                return picture.pixelColor(rect.center().x(), rect.bottom() - 1);
+            case QTabBar::RoundedWest:
+                return picture.pixelColor(rect.left() + 1, rect.center().y());
+            default:
+                return picture.pixelColor(rect.right() - 1, rect.center().y());
+            }
+        };
+        QCOMPARE(edgeOf(1), mark);
+        QVERIFY(edgeOf(0) != mark);
+        QVERIFY(contrast(mark, m_themes->colours().window) >= 3.0);
+    }
+}
+
+void tst_EdgesAndSigns::aMenuHasAnEdge()
+{
+    QMenu menu;
+    menu.addAction(QStringLiteral("Versions…"));
+    const QImage picture = drawn(menu);
+    const QColor line = m_themes->colours().line;
+    const QPoint middle = picture.rect().center();
+    QCOMPARE(picture.pixelColor(0, middle.y()), line);
+    QCOMPARE(picture.pixelColor(picture.width() - 1, middle.y()), line);
+    QCOMPARE(picture.pixelColor(middle.x(), 0), line);
+    QCOMPARE(picture.pixelColor(middle.x(), picture.height() - 1), line);
+}
+
+void tst_EdgesAndSigns::groupsOfAMenuAreApart()
+{
+    QMenu menu;
+    menu.addAction(QStringLiteral("Versions…"));
+    QAction* const separator = menu.addSeparator();
+    menu.addAction(QStringLiteral("New database…"));
+    const QImage picture = drawn(menu);
+    const QRect between = menu.actionGeometry(separator);
+    QCOMPARE(picture.pixelColor(between.center()), m_themes->colours().line);
+    // It ends before the edge does.
+    QVERIFY(picture.pixelColor(between.left() + 1, between.center().y()) !=
+            m_themes->colours().line);
+}
+
+void tst_EdgesAndSigns::disabledArrowsAreWeaker()
+{
+    QComboBox box;
+    box.addItem(QStringLiteral("Time"));
+    QSpinBox count;
+    count.setRange(1, 1);
+    QSpinBox free;
+    for (QWidget* const field : std::initializer_list<QWidget*>{&box, &free}) {
+        const double enabled = arrowsOf(*field);
+        field->setEnabled(false);
+        const double disabled = arrowsOf(*field);
+        QVERIFY2(disabled > 1.5 && disabled < 0.5 * enabled, qPrintable(QString::number(disabled)));
+        field->setEnabled(true);
+    }
+    // A step that is not possible looks the same.
+    QVERIFY(arrowsOf(count) < 0.5 * arrowsOf(free));
+}
+
+TREL_TEST(tst_EdgesAndSigns, QApplication)
+#include "tst_EdgesAndSigns.moc"
