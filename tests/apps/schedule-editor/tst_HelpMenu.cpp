@@ -114,6 +114,8 @@ void tst_HelpMenu::theGuideNeedsNoFiles()
     // One window, however often it is asked for.
     desk.help().guide()->trigger();
     QCOMPARE(desk.window.findChildren<GuideWindow*>().size(), 1);
+    QTest::keyClick(guide->findChild<QTextBrowser*>(), Qt::Key_Escape);
+    QVERIFY(!guide->isVisible());
 }
 
 void tst_HelpMenu::theGuideFollowsItsLinks()

@@ -150,6 +150,14 @@ bool CatalogueFilter::restoreState(const QByteArray& state)
 
 bool CatalogueFilter::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_search && event->type() == QEvent::ShortcutOverride) {
+        // On X11 the line would take it to go to its end, as the key for that does.
+        const auto* const key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_E && key->modifiers() == Qt::ControlModifier) {
+            event->ignore();
+            return true;
+        }
+    }
     if (watched == m_search && event->type() == QEvent::KeyPress) {
         switch (static_cast<QKeyEvent*>(event)->key()) {
         case Qt::Key_Down:
