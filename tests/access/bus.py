@@ -11,7 +11,7 @@ ATSPI = "org.a11y.atspi."
 ANSWER_MSECS = 20000
 
 # The places of the states in the two words that a program answers with.
-STATES = {"checked": 4, "editable": 7, "collapsed": 5, "enabled": 8, "expandable": 9,
+STATES = {"active": 1, "checked": 4, "editable": 7, "collapsed": 5, "enabled": 8, "expandable": 9,
           "expanded": 10, "focusable": 11, "focused": 12, "modal": 16,
           "selected": 23, "sensitive": 24, "showing": 25, "visible": 30, "checkable": 41}
 
@@ -122,11 +122,29 @@ class Thing:
         return hash((self.owner, self.path))
 
 
-def press_key(symbol):
-    """Presses and releases a key of the keyboard, by its symbol of the X Window System."""
-    call(REGISTRY, "/org/a11y/atspi/registry/deviceeventcontroller",
-         ATSPI + "DeviceEventController", "GenerateKeyboardEvent",
-         GLib.Variant("(isu)", (symbol, "", 3)))
+class Ear:
+    """Hears what programs tell, as a screen reader does. It has to be there before a program is started, which
+    tells nothing while nobody listens."""
+
+    def __init__(self):
+        self._heard = []
+        for kind in ("object:", "window:"):
+            call(REGISTRY, "/org/a11y/atspi/registry", REGISTRY, "RegisterEvent", GLib.Variant("(s)", (kind,)))
+        for kind in ("Object", "Window"):
+            _connection.signal_subscribe(None, f"{ATSPI}Event.{kind}", None, None, None,
+                                         Gio.DBusSignalFlags.NONE, self._hear)
+
+    def _hear(self, _connection, owner, path, _interface, signal, arguments):
+        what, value = arguments.unpack()[:2]
+        self._heard.append((Thing(owner, path), signal, what, value))
+
+    def news(self):
+        """What was told since, each as the thing, the kind of event, what of it, and the number that goes with it."""
+        context = GLib.MainContext.default()
+        while context.iteration(False):
+            pass
+        heard, self._heard = self._heard, []
+        return heard
 
 
 def application():

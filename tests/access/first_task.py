@@ -13,28 +13,12 @@ import sys
 
 import bus
 import walk
+from speech import said
 
 # The demonstration has three.
 TASK = 4
 PROGRAMS = ("Weather", "City news")
 WANTED = "2099.04.01-2099.04.30 10:00:00-11:30:00 days [1, 3] Weather, City news"
-
-
-def said(thing):
-    """A control as a screen reader says it."""
-    states = thing.states()
-    role = thing.role()
-    words = [thing.name(), role]
-    if role in ("check box", "list item"):
-        words.append("checked" if "checked" in states else "not checked")
-    if "expandable" in states:
-        words.append("expanded" if "expanded" in states else "collapsed")
-    if "Text" in thing.interfaces() and thing.text() and thing.text() != thing.name():
-        words.append(thing.text())
-    if "sensitive" not in states:
-        words.append("unavailable")
-    description = thing.description()
-    return ", ".join(words) + (f" ({description})" if description else "")
 
 
 class FirstTask:
@@ -122,6 +106,7 @@ class FirstTask:
         self.editor = bus.wait_for(lambda: self.tour.asked_for(walk.EDITOR, known), "the editor")
 
     def make(self):
+        self.open_editor()
         # The tasks that there are come one after the other.
         self.wanted("push button", f"Play task {TASK - 1}")
         task = f"Play task {TASK}"
@@ -156,22 +141,30 @@ def saved(schedulectl, database):
     return {task["id"]: line(task) for task in json.loads(answer.stdout)["tasks"]}
 
 
-def main():
-    parser = argparse.ArgumentParser()
+def arguments(usage):
+    parser = argparse.ArgumentParser(description=usage)
     parser.add_argument("editor")
     parser.add_argument("schedulectl")
     parser.add_argument("demonstration")
     options = parser.parse_args()
     options.tree = False
-    tour = walk.Walk(options, "en_US", "dark", walk.Findings())
-    tasks = FirstTask(tour)
-    tasks.open_editor()
+    return options
+
+
+def check(options, tour, make):
+    """Makes the task and ends the program. Returns 0 where the task has come into the database, and nothing else."""
     before = saved(options.schedulectl, tour.database)
-    tasks.make()
+    make()
     after = saved(options.schedulectl, tour.database)
     tour.end()
     print(after.get(TASK))
     return 0 if after == {**before, TASK: WANTED} and len(before) == TASK - 1 else 1
+
+
+def main():
+    options = arguments(__doc__)
+    tour = walk.Walk(options, "en_US", "dark", walk.Findings())
+    return check(options, tour, FirstTask(tour).make)
 
 
 if __name__ == "__main__":
