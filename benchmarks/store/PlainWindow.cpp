@@ -91,7 +91,8 @@ PlainWindow::PlainWindow(int programs)
     addBar();
     addPanels(programs);
     setCentralWidget(middle());
-    (new QWidget(this))->resize(0, 0); // Speaks to screen readers.
+    // Speaks to screen readers, once there is something to say.
+    hidden(new QWidget(this))->resize(0, 0);
     resize(1340, 700);
 }
 
