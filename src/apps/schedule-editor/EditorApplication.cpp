@@ -9,6 +9,8 @@
 #include "common/DefaultDatabase.h"
 #include "common/StopSignals.h"
 #include "common/ZoneError.h"
+#include "fit/ScrolledEditor.h"
+#include "fit/WindowsOnScreen.h"
 #include "look/ThemeImages.h"
 #include "look/Themes.h"
 #include "memory/RecentDatabases.h"
@@ -146,6 +148,10 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
     scheduleControlUI editor;
     editor.setCheckBoxImagePath(QStringLiteral(":/qss/img/checked.png"),
                                 QStringLiteral(":/qss/img/unchecked.png"));
+    if (!unattended) {
+        new fit::WindowsOnScreen(application);
+        new fit::ScrolledEditor(editor);
+    }
     Languages languages(languageFolder(), editor);
     QSettings settings;
     languages.select(languages.startLanguage(options.language.isEmpty()

@@ -9,6 +9,9 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTableView>
 #include <QToolBar>
 
 using namespace trel::desktop;
@@ -20,6 +23,8 @@ namespace {
 /// and the frame of the window.
 constexpr QSize kUsual(1366, 706);
 constexpr QSize kSmall(1024, 706);
+/// Less than what is on screen takes when it has most to say.
+constexpr int kLow = 540;
 
 void addLanguages()
 {
@@ -157,6 +162,16 @@ void tst_WindowSizes::fitsWhileItIsOnAir()
         fits(fixture.window.size(), kSmall),
         qPrintable(
             QStringLiteral("%1 by %2").arg(fixture.window.width()).arg(fixture.window.height())));
+    // With less room still, it scrolls: nothing that it says makes the window higher.
+    fixture.window.resize(kSmall.width(), kLow);
+    QCoreApplication::processEvents();
+    QVERIFY2(fixture.window.height() <= kLow, qPrintable(QString::number(fixture.window.height())));
+    const auto* area = fixture.window.findChild<QScrollArea*>(QStringLiteral("nowNextPanelArea"));
+    QVERIFY(area != nullptr);
+    const QScrollBar& bar = *area->verticalScrollBar();
+    QVERIFY(bar.isVisible());
+    QVERIFY(area->viewport()->height() + bar.maximum() >=
+            area->widget()->minimumSizeHint().height());
 }
 
 void tst_WindowSizes::panelsCanBeRemembered()

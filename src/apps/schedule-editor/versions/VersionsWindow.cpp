@@ -59,7 +59,7 @@ VersionsWindow::VersionsWindow(scheduleControlUI& editor, QWidget* parent)
     build();
     connectControls();
     followStore();
-    resize(1340, 720);
+    resize(1340, 700);
 }
 
 VersionsWindow::~VersionsWindow() = default;

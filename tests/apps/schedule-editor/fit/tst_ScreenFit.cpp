@@ -1,0 +1,194 @@
+#include "../HostFixture.h"
+#include "../HostWindows.h"
+#include "fit/ScrolledEditor.h"
+#include "fit/WindowsOnScreen.h"
+#include "memory/RememberedWindow.h"
+#include "support/TestProgram.h"
+
+#include "card/PlanColumns.h"
+
+#include <QApplication>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTimer>
+
+using namespace trel::desktop;
+using namespace trel::mediadispatch;
+
+namespace {
+
+/// Wide enough for the editor as a whole.
+constexpr int kRoomy = 1366;
+
+QRect screenArea()
+{
+    return QGuiApplication::primaryScreen()->availableGeometry();
+}
+
+QString text(const QRect& place)
+{
+    return QStringLiteral("%1 by %2 at %3, %4")
+        .arg(place.width())
+        .arg(place.height())
+        .arg(place.x())
+        .arg(place.y());
+}
+
+/// Whether no edge of what a widget stands in cuts it off.
+bool isWhole(const QWidget& widget)
+{
+    QRect place = widget.rect();
+    for (const QWidget* at = &widget; !at->isWindow(); at = at->parentWidget()) {
+        place.translate(at->pos());
+        if (!at->parentWidget()->rect().contains(place)) {
+            return false;
+        }
+    }
+    return widget.isVisible();
+}
+
+/// The program's windows, kept on the screen as the program keeps them.
+struct Station : HostFixture
+{
+    Station()
+        : settings(folder.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat)
+        , onScreen(*qApp)
+    {
+        new fit::ScrolledEditor(*editor);
+        new RememberedWindow(settings, window);
+        window.openDatabase(database, QStringLiteral(DEMONSTRATION));
+        window.show();
+        exposed(window);
+    }
+
+    static void exposed(QWidget& shown)
+    {
+        QVERIFY(QTest::qWaitForWindowExposed(&shown));
+        QCoreApplication::processEvents();
+    }
+
+    QSettings settings;
+    fit::WindowsOnScreen onScreen;
+};
+
+} // namespace
+
+/// The windows on the screen that the test runs with, which is as large as those of stations are,
+/// at each of the usual scales.
+class tst_ScreenFit : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void isTheScreenThatIsMeant();
+    void theWindowIsWhole();
+    void theEditorIsWholeOrScrolls();
+    void otherWindowsAreWhole_data() { addHostWindows(); }
+    void otherWindowsAreWhole();
+    void theChooserIsWhole();
+    void aPromptIsWhole();
+};
+
+void tst_ScreenFit::isTheScreenThatIsMeant()
+{
+    const QScreen& screen = *QGuiApplication::primaryScreen();
+    QCOMPARE(QStringLiteral("%1x%2 at %3")
+                 .arg(screen.size().width())
+                 .arg(screen.size().height())
+                 .arg(qRound(screen.devicePixelRatio() * 100)),
+             qEnvironmentVariable("TREL_SCREEN"));
+}
+
+void tst_ScreenFit::theWindowIsWhole()
+{
+    const Station station;
+    const EditorWindow& window = station.window;
+    QVERIFY2(screenArea().contains(window.geometry()), qPrintable(text(window.geometry())));
+    QList<QWidget*> parts{window.menuBar(), window.statusBar(), window.centralWidget()};
+    const QList<QDockWidget*> panels = window.findChildren<QDockWidget*>();
+    for (QDockWidget* panel : panels) {
+        if (panel->isVisible()) {
+            parts.append(panel);
+        }
+    }
+    QVERIFY(parts.size() >= 7);
+    for (const QWidget* part : qAsConst(parts)) {
+        QVERIFY2(isWhole(*part), qPrintable(part->objectName() + text(part->geometry())));
+    }
+}
+
+void tst_ScreenFit::theEditorIsWholeOrScrolls()
+{
+    Station station;
+    station.showEditor();
+    Station::exposed(*station.editor);
+    QVERIFY2(screenArea().contains(station.editor->geometry()),
+             qPrintable(text(station.editor->geometry())));
+    const auto* panel = station.editor->findChild<QWidget*>(QStringLiteral("centerWidget"));
+    const auto* save = panel->findChild<QPushButton*>(QStringLiteral("pushButtonSave"));
+    const auto* area = station.editor->findChild<QScrollArea*>(QStringLiteral("editorArea"));
+    QCOMPARE(panel->size(), QSize(1140, 600));
+    if (screenArea().width() >= kRoomy) {
+        QVERIFY(area == nullptr);
+        QVERIFY(isWhole(*panel));
+        return;
+    }
+    QVERIFY(area != nullptr);
+    QVERIFY(area->horizontalScrollBar()->isVisible());
+    // Upwards there is room for all of it, the scroll bar included.
+    QVERIFY(!area->verticalScrollBar()->isVisible());
+    QCOMPARE(area->viewport()->width() + area->horizontalScrollBar()->maximum(), panel->width());
+    QVERIFY(!isWhole(*save));
+    area->horizontalScrollBar()->setValue(area->horizontalScrollBar()->maximum());
+    QVERIFY(isWhole(*save));
+}
+
+void tst_ScreenFit::otherWindowsAreWhole()
+{
+    QFETCH(QString, name);
+    const Station station;
+    QWidget* const shown = openHostWindow(station.window, name);
+    QVERIFY(shown != nullptr && shown->isWindow());
+    QVERIFY2(screenArea().contains(shown->geometry()), qPrintable(text(shown->geometry())));
+    // Nothing in it is cut off for that.
+    const QSize least = shown->minimumSizeHint();
+    QVERIFY(shown->width() >= least.width() && shown->height() >= least.height());
+}
+
+void tst_ScreenFit::theChooserIsWhole()
+{
+    Station station;
+    station.showDemonstration();
+    QRect place;
+    QTimer::singleShot(0, station.editor.get(), [&place] {
+        QWidget* chooser = QApplication::activeModalWidget();
+        place = chooser->geometry();
+        chooser->close();
+    });
+    station.cell(0, ProgramsColumn)->findChild<QPushButton*>(QStringLiteral("pushButton"))->click();
+    QCOMPARE(place.size(), QSize(610, 470));
+    QVERIFY2(screenArea().contains(place), qPrintable(text(place)));
+}
+
+void tst_ScreenFit::aPromptIsWhole()
+{
+    Station station;
+    QRect place;
+    QTimer::singleShot(0, &station.window, [&place] {
+        QWidget* prompt = QApplication::activeModalWidget();
+        place = prompt->geometry();
+        prompt->close();
+    });
+    // Far longer than those that there are.
+    station.window.tell(QStringLiteral("One of very many sentences. ").repeated(60));
+    QVERIFY2(screenArea().contains(place) && place.isValid(), qPrintable(text(place)));
+}
+
+TREL_TEST(tst_ScreenFit, QApplication)
+#include "tst_ScreenFit.moc"
