@@ -69,7 +69,9 @@ ConflictsDialog::ConflictsDialog(const ScheduleMerge& merge, const Programs& pro
     layout->addLayout(sides, 1);
     layout->addWidget(m_outlook);
     buildButtons(*layout);
-    m_table->selectRow(0);
+    // selectRow() looks for a column at the left edge, where there may be none when one reads from
+    // the right.
+    m_table->setCurrentCell(0, TaskColumn);
     tellOutlook();
     resize(760, 480);
 }

@@ -218,7 +218,9 @@ void VersionsWindow::takeVersions(const StoreResult& result, std::vector<Schedul
 void VersionsWindow::choose(qint64 number)
 {
     const int row = m_model->rowOf(number);
-    m_table->selectRow(row);
+    // Checked with Qt 5.15.8: selectRow() looks for a column at the left edge, where there may be
+    // none when one reads from the right.
+    m_table->setCurrentIndex(m_model->index(row, 0));
     m_table->scrollTo(m_model->index(row, 0));
 }
 
