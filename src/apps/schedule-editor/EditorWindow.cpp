@@ -504,12 +504,13 @@ bool EditorWindow::mayReplace(int tasks)
         edited.insert(one.taskId);
     }
     const QString store = host.path();
+    constexpr int kCancel = 3;
     const int answer = prompts::confirm(
         question + QStringLiteral("\n\n") +
             tr("Changes in the editor that are not saved go with it (tasks %1). Undo brings them "
                "back.")
                 .arg(undo::EditWords::ids(edited)),
-        tr("Save, then replace"), tr("Replace without saving"), tr("Cancel"));
+        tr("Save, then replace"), tr("Replace without saving"), tr("Cancel"), kCancel);
     // While the question stood, anything may have happened.
     if ((answer != 1 && answer != 2) || host.path() != store) {
         return false;

@@ -50,10 +50,12 @@ void notice(const QString& text)
     prompt->run();
 }
 
-int confirm(const QString& text, const QString& first, const QString& second, const QString& third)
+int confirm(const QString& text, const QString& first, const QString& second, const QString& third,
+            int enterButton)
 {
     TipDialog* const prompt = promptOf(TipDialog::Confirmation, text);
     prompt->setBtnText(first, second, third);
+    prompt->setEnterButton(enterButton);
     return prompt->run().button;
 }
 
@@ -61,10 +63,7 @@ bool confirmLoss(const QString& text, const QString& first, const QString& secon
 {
     constexpr int kFirst = 1;
     constexpr int kSecond = 2;
-    TipDialog* const prompt = promptOf(TipDialog::Confirmation, text);
-    prompt->setBtnText(first, second, QString());
-    prompt->setEnterButton(kSecond);
-    return prompt->run().button == kFirst;
+    return confirm(text, first, second, QString(), kSecond) == kFirst;
 }
 
 QString openFileName(QWidget* parent, const char* kind, const QString& title, const QString& filter,

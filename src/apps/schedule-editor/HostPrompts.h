@@ -15,9 +15,10 @@ namespace prompts {
 /// Tells the operator something.
 void notice(const QString& text);
 
-/// Asks; the result is 1, 2 or 3 for the buttons in order, and 0 for any other way out.
+/// Asks; the result is 1, 2 or 3 for the buttons in order, and 0 for any other way out. Enter
+/// presses the button with the given number, which takes nothing away.
 int confirm(const QString& text, const QString& first, const QString& second,
-            const QString& third = QString());
+            const QString& third = QString(), int enterButton = 1);
 
 /// Asks before something is taken away; true when the first button was pressed. Enter presses the
 /// second one.

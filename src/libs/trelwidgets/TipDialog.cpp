@@ -211,8 +211,15 @@ private:
         auto* row = new QHBoxLayout;
         row->setSpacing(8);
         row->addStretch();
-        for (QPushButton* button : buttons) {
-            row->addWidget(button);
+        // The first one ends the row, where the editor and the chooser have what they are for. Tab
+        // goes along the row.
+        QWidget* former = nullptr;
+        for (auto button = buttons.rbegin(); button != buttons.rend(); ++button) {
+            row->addWidget(*button);
+            if (former != nullptr) {
+                QWidget::setTabOrder(former, *button);
+            }
+            former = *button;
         }
 
         auto* layout = new QVBoxLayout(frame->client());

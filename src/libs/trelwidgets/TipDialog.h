@@ -17,6 +17,8 @@ struct PromptBoxTriggerInfo
 /// A prompt with a text and up to three buttons, modal to the application.
 ///
 /// Made on the heap, run once, and gone afterwards: run() frees the dialog before it returns.
+/// The first button ends the row, on the right where one reads from the left, and the others stand
+/// before it, the last one first.
 /// Return and Enter press the first button, or the one of setEnterButton(), or that which the
 /// operator has reached with Tab.
 /// Escape and the close control answer with none. A key that was already held down when the prompt

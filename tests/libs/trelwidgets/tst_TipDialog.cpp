@@ -9,8 +9,10 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
+#include <QVector>
 #include <QtTest>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -67,6 +69,9 @@ private slots:
     void freesItselfBeforeRunReturns();
     void outlivesNoParent();
     void endsWithTheApplication();
+    void theFirstButtonEndsTheRow_data();
+    void theFirstButtonEndsTheRow();
+    void tabGoesAlongTheRow();
     void enterPressesWhatTabHasReached();
     void enterPressesTheFirstShownButton();
     void enterPressesTheButtonThatWasChosen_data();
@@ -186,6 +191,53 @@ void TestTipDialog::endsWithTheApplication()
     QCoreApplication::exec();
     QCOMPARE(answered, 0);
     QVERIFY(prompt.isNull());
+}
+
+void TestTipDialog::theFirstButtonEndsTheRow_data()
+{
+    QTest::addColumn<bool>("isRightToLeft");
+    QTest::newRow("from the left") << false;
+    QTest::newRow("from the right") << true;
+}
+
+void TestTipDialog::theFirstButtonEndsTheRow()
+{
+    QFETCH(bool, isRightToLeft);
+    TipDialog* prompt = makePrompt();
+    prompt->setLayoutDirection(isRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    prompt->setBtnText(QStringLiteral("Yes"), QStringLiteral("No"), QStringLiteral("Never"));
+    QVector<int> places;
+    runAnd(prompt, [prompt, &places] {
+        for (const int number : {3, 2, 1}) {
+            const auto* button =
+                prompt->findChild<QWidget*>(QStringLiteral("tipButton%1").arg(number));
+            places.append(button->x());
+        }
+        prompt->close();
+    });
+    QVector<int> sorted = places;
+    std::sort(sorted.begin(), sorted.end());
+    if (isRightToLeft) {
+        std::reverse(sorted.begin(), sorted.end());
+    }
+    QCOMPARE(places, sorted);
+    QVERIFY(places.first() != places.last());
+}
+
+void TestTipDialog::tabGoesAlongTheRow()
+{
+    TipDialog* prompt = makePrompt();
+    prompt->setBtnText(QStringLiteral("Yes"), QStringLiteral("No"), QStringLiteral("Never"));
+    QStringList reached;
+    runAnd(prompt, [prompt, &reached] {
+        for (int press = 0; press < 4; ++press) {
+            reached.append(prompt->focusWidget()->objectName());
+            QTest::keyClick(prompt->focusWidget(), Qt::Key_Tab);
+        }
+        prompt->close();
+    });
+    QCOMPARE(reached, (QStringList{QStringLiteral("tipButton1"), QStringLiteral("tipButton3"),
+                                   QStringLiteral("tipButton2"), QStringLiteral("tipButton1")}));
 }
 
 void TestTipDialog::enterPressesWhatTabHasReached()

@@ -8,6 +8,8 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include <vector>
+
 namespace trel::desktop::changes {
 
 namespace {
@@ -59,6 +61,8 @@ void ChangesDialog::build()
     m_look->setText(tr("Look at it in the week"));
     m_look->setCheckable(true);
     m_look->setAutoDefault(false);
+    // It stands below the list.
+    setTabOrder(lines, m_look);
     connect(m_look, &QPushButton::toggled, this, &ChangesDialog::showWeeks);
 }
 
@@ -67,17 +71,27 @@ void ChangesDialog::addAnswers()
     auto* row = new QHBoxLayout;
     row->addWidget(m_look);
     row->addStretch();
+    // As in the prompts: the first one ends the row, and Tab goes along it.
+    const int first = row->count();
+    std::vector<QPushButton*> buttons;
     for (int i = 0; i < m_question.answers.size(); ++i) {
         auto* button = new QPushButton(m_question.answers.at(i), this);
         button->setObjectName(QStringLiteral("answer%1").arg(i + 1));
         connect(button, &QPushButton::clicked, this, [this, i] { done(i + 1); });
-        row->addWidget(button);
-        if (i == 0) {
-            button->setDefault(true);
-            button->setFocus();
-        }
+        row->insertWidget(first, button);
+        buttons.push_back(button);
     }
     m_layout->addLayout(row);
+    QWidget* former = m_look;
+    for (auto button = buttons.rbegin(); button != buttons.rend(); ++button) {
+        setTabOrder(former, *button);
+        former = *button;
+    }
+    if (!buttons.empty()) {
+        buttons.front()->setProperty("style", QStringLiteral("general"));
+        buttons.front()->setDefault(true);
+        buttons.front()->setFocus();
+    }
 }
 
 void ChangesDialog::showWeeks(bool areShown)

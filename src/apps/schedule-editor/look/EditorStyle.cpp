@@ -10,10 +10,13 @@
 
 #include <QAbstractScrollArea>
 #include <QCoreApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QStyleOption>
 #include <QTableView>
@@ -25,6 +28,7 @@ namespace {
 /// How far the table of a card stays away from the edges of the card, so that their lines are seen.
 constexpr int kTableInset = 1;
 constexpr int kHintPixels = 15;
+constexpr int kBesideText = 10; ///< In the buttons of dialogs.
 constexpr int kListHeaderMargin = 7;
 constexpr int kListTextDrop = 1;
 constexpr int kCatalogueMargin = 6; ///< Beside the texts of the host's table.
@@ -87,6 +91,16 @@ void setTextColour(QWidget* label, const QColor& colour)
     QPalette palette = label->palette();
     palette.setColor(QPalette::WindowText, colour);
     label->setPalette(palette);
+}
+
+/// A button of a dialog that is as wide as its text. Those in the bars of panels have no room to
+/// spare.
+bool isAnswer(const QWidget* widget)
+{
+    const auto* button = qobject_cast<const QPushButton*>(widget);
+    return button != nullptr && !button->text().isEmpty() &&
+           button->minimumWidth() != button->maximumWidth() &&
+           qobject_cast<const QDialog*>(button->window()) != nullptr;
 }
 
 /// The ground of a plan's state, on which its word stands in the middle.
@@ -408,6 +422,15 @@ QRect EditorStyle::subControlRect(ComplexControl control, const QStyleOptionComp
     return visualRect(option->direction, option->rect, rect);
 }
 
+QSize EditorStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                    const QSize& contents, const QWidget* widget) const
+{
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    return type == CT_PushButton && isAnswer(widget)
+               ? size.expandedTo({contents.width() + 2 * kBesideText, 0})
+               : size;
+}
+
 int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                              const QWidget* widget) const
 {
@@ -469,6 +492,8 @@ int EditorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
         return 0;
     case SH_ItemView_ShowDecorationSelected:
         return 1;
+    case SH_DialogButtonLayout: // As in editor and prompts: what is meant ends the row.
+        return QDialogButtonBox::GnomeLayout;
     default:
         return QProxyStyle::styleHint(hint, option, widget, returnData);
     }

@@ -130,6 +130,7 @@ void ConflictsDialog::buildButtons(QBoxLayout& layout)
     m_mergeButton = new QPushButton(this);
     m_mergeButton->setObjectName(QStringLiteral("mergeChosen"));
     m_mergeButton->setAutoDefault(false);
+    m_mergeButton->setProperty("style", QStringLiteral("general"));
     connect(m_mergeButton, &QPushButton::clicked, this, &QDialog::accept);
     auto* row = new QHBoxLayout;
     row->addStretch();

@@ -37,6 +37,7 @@ VersionNameDialog::VersionNameDialog(const ScheduleVersion& version, QWidget* pa
     for (QLabel* label : {m_nameLabel, m_noteLabel, m_fault}) {
         label->setTextFormat(Qt::PlainText);
     }
+    m_buttons->button(QDialogButtonBox::Ok)->setProperty("style", QStringLiteral("general"));
     m_nameLabel->setBuddy(m_name);
     m_noteLabel->setBuddy(m_note);
 
@@ -47,6 +48,8 @@ VersionNameDialog::VersionNameDialog(const ScheduleVersion& version, QWidget* pa
     layout->addLayout(fields);
     layout->addWidget(m_fault);
     layout->addWidget(m_buttons);
+    setTabOrder(m_buttons->button(QDialogButtonBox::Cancel),
+                m_buttons->button(QDialogButtonBox::Ok));
 
     connect(m_buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

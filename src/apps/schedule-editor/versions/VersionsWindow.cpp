@@ -376,9 +376,12 @@ void VersionsWindow::restoreChosen()
     const QString store = host.path();
     const QString question =
         VersionWords::restoring(*number, lostPrograms(tasks, *host.catalogue()), isUnsaved);
-    const int answer = isUnsaved ? prompts::confirm(question, tr("Save, then restore"),
-                                                    tr("Restore without saving"), tr("Cancel"))
-                                 : prompts::confirm(question, tr("Restore"), tr("Cancel"));
+    // Tasks that came later are gone then, so Enter cancels.
+    const int cancel = isUnsaved ? 3 : 2;
+    const int answer =
+        isUnsaved ? prompts::confirm(question, tr("Save, then restore"),
+                                     tr("Restore without saving"), tr("Cancel"), cancel)
+                  : prompts::confirm(question, tr("Restore"), tr("Cancel"), QString(), cancel);
     const bool isMeant = answer == 1 || (isUnsaved && answer == 2);
     // While the question stood, anything may have happened.
     if (!isMeant || host.path() != store) {

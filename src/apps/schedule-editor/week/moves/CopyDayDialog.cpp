@@ -23,7 +23,6 @@ CopyDayDialog::CopyDayDialog(const WeekLayout& week, const QDate& day, const Edi
     , m_week(std::make_unique<WeekTasks>(m_tasks))
     , m_programs(target.programs())
     , m_summary(new QLabel(this))
-    , m_confirm(new QPushButton(tr("Copy"), this))
 {
     setObjectName(QStringLiteral("copyDay"));
     setLocale(locale);
@@ -37,19 +36,7 @@ CopyDayDialog::CopyDayDialog(const WeekLayout& week, const QDate& day, const Edi
     m_summary->setMinimumSize(360, m_summary->fontMetrics().lineSpacing() * 3);
     m_summary->setAlignment(Qt::AlignLeading | Qt::AlignTop);
     layout->addWidget(m_summary, 1);
-    // As in the prompts: what is meant first, and the way out behind it.
-    auto* row = new QHBoxLayout;
-    row->addStretch();
-    row->addWidget(m_confirm);
-    auto* cancel = new QPushButton(tr("Cancel"), this);
-    row->addWidget(cancel);
-    layout->addLayout(row);
-    m_confirm->setObjectName(QStringLiteral("copyDayConfirm"));
-    m_confirm->setDefault(true);
-    m_confirm->setProperty("style", QStringLiteral("general"));
-    cancel->setAutoDefault(false);
-    connect(m_confirm, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    addButtons(*layout);
     update();
 }
 
@@ -70,6 +57,25 @@ void CopyDayDialog::addDays(const WeekLayout& week)
         m_days.emplace_back(column.date, box);
         layout()->addWidget(box);
     }
+}
+
+void CopyDayDialog::addButtons(QVBoxLayout& layout)
+{
+    // As in the prompts: what is meant ends the row. They come last, so that Tab comes to them
+    // last.
+    auto* cancel = new QPushButton(tr("Cancel"), this);
+    m_confirm = new QPushButton(tr("Copy"), this);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(cancel);
+    row->addWidget(m_confirm);
+    layout.addLayout(row);
+    m_confirm->setObjectName(QStringLiteral("copyDayConfirm"));
+    m_confirm->setDefault(true);
+    m_confirm->setProperty("style", QStringLiteral("general"));
+    cancel->setAutoDefault(false);
+    connect(m_confirm, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 DayCopy CopyDayDialog::copy() const

@@ -11,6 +11,7 @@
 class QCheckBox;
 class QLabel;
 class QPushButton;
+class QVBoxLayout;
 
 namespace trel::desktop::week {
 
@@ -37,6 +38,7 @@ public:
 
 private:
     void addDays(const WeekLayout& week);
+    void addButtons(QVBoxLayout& layout);
     void update();
     DayCopy copy() const;
     QString summary(const DayCopy& copy) const;
@@ -47,7 +49,7 @@ private:
     std::shared_ptr<const Programs> m_programs;
     std::vector<std::pair<QDate, QCheckBox*>> m_days;
     QLabel* m_summary;
-    QPushButton* m_confirm;
+    QPushButton* m_confirm = nullptr;
 };
 
 } // namespace trel::desktop::week
