@@ -41,6 +41,8 @@ private slots:
     void textsOfTheHost();
     void textsOfMenus_data() { addThemes(); }
     void textsOfMenus();
+    void bordersOfMenus_data() { addThemes(); }
+    void bordersOfMenus();
 
 private:
     void spoilPlan(int planId) const;
@@ -251,6 +253,25 @@ void tst_Contrast::textsOfMenus()
         }
     }
     QVERIFY2(faults.isEmpty(), qPrintable(faults));
+}
+
+void tst_Contrast::bordersOfMenus()
+{
+    QMenu menu;
+    menu.addAction(QStringLiteral("Move up"));
+    menu.ensurePolished();
+    menu.resize(menu.sizeHint());
+    const QImage picture = menu.grab().toImage();
+    const int middle = picture.height() / 2;
+    const QColor window = m_host->themes.colours().window;
+    const QColor ground = lookAt(picture, picture.rect()).ground;
+    for (const QPoint& place :
+         {QPoint(0, middle), QPoint(picture.width() - 1, middle), QPoint(picture.width() / 2, 0),
+          QPoint(picture.width() / 2, picture.height() - 1)}) {
+        const QColor edge(picture.pixel(place));
+        QVERIFY2(contrast(edge, window) >= 3.0, qPrintable(edge.name()));
+        QVERIFY2(contrast(edge, ground) >= 3.0, qPrintable(edge.name()));
+    }
 }
 
 TREL_TEST(tst_Contrast, QApplication)

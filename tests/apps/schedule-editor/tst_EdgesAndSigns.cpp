@@ -101,7 +101,7 @@ void tst_EdgesAndSigns::aMenuHasAnEdge()
     QMenu menu;
     menu.addAction(QStringLiteral("Versions…"));
     const QImage picture = drawn(menu);
-    const QColor line = m_themes->colours().line;
+    const QColor line = m_themes->colours().fieldLine;
     const QPoint middle = picture.rect().center();
     QCOMPARE(picture.pixelColor(0, middle.y()), line);
     QCOMPARE(picture.pixelColor(picture.width() - 1, middle.y()), line);

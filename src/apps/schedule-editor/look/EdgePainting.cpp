@@ -16,7 +16,7 @@ constexpr int kMarkWidth = 3;
 
 void paintMenuFrame(QPainter& painter, const ThemeColours& colours, const QRect& rect)
 {
-    paintBox(painter, rect, Qt::transparent, colours.line, 0);
+    paintBox(painter, rect, Qt::transparent, colours.fieldLine, 0);
 }
 
 void paintMenuSeparator(QPainter& painter, const ThemeColours& colours, const QRect& rect)

@@ -536,7 +536,10 @@ void EditorStyle::paintFrame(const QStyleOption& option, QPainter& painter,
         return;
     }
     const bool hasFocus = (option.state & State_HasFocus) != 0;
-    const QColor& line = isChooserList(widget) ? m_colours.listLine : m_colours.cardLine;
+    const bool isOpenList = widget != nullptr && widget->windowType() == Qt::Popup;
+    const QColor& line = isChooserList(widget) ? m_colours.listLine
+                         : isOpenList          ? m_colours.fieldLine
+                                               : m_colours.cardLine;
     paintBox(painter, option.rect, isWell(widget) ? m_colours.well : QColor(Qt::transparent),
              hasFocus ? m_colours.focus : line, 0);
 }
