@@ -229,9 +229,12 @@ void tst_Terms::textsNameWhatTheySpeakOf()
                          : messages.value(context + QStringLiteral(": ") + source).forms.value(0);
     };
     const QString reason = text(QStringLiteral("ScreenWords"),
-                                QStringLiteral("Choose Start in the schedule editor to put the "
-                                               "saved schedule into effect."));
+                                QStringLiteral("Choose Start to put the saved schedule into "
+                                               "effect."));
     QVERIFY2(reason.contains(start), qPrintable(reason));
+    // The window has a button of its own for it, of the same name.
+    QCOMPARE(text(QStringLiteral("trel::desktop::air::StartAction"), QStringLiteral("Start")),
+             start);
     QString entry =
         text(QStringLiteral("trel::desktop::EditorMenus"), QStringLiteral("&Import files…"));
     entry.remove(QRegularExpression(QStringLiteral("\\(&.\\)|&|…")));

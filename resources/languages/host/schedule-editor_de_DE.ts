@@ -1159,8 +1159,8 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Auftrag %1, Plan %2</translation>
     </message>
     <message>
-        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
-        <translation>Die Schaltfläche „Starten“ im Wiedergabeplan-Editor setzt den gespeicherten Wiedergabeplan in Kraft.</translation>
+        <source>Choose Start to put the saved schedule into effect.</source>
+        <translation>„Starten“ setzt den gespeicherten Wiedergabeplan in Kraft.</translation>
     </message>
     <message>
         <source>No plan has started yet.</source>

@@ -1159,8 +1159,8 @@ What do you want to do with your changes?</source>
         <translation>Tarea %1, plan %2</translation>
     </message>
     <message>
-        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
-        <translation>El botón «Iniciar» del editor pone en vigor la programación guardada.</translation>
+        <source>Choose Start to put the saved schedule into effect.</source>
+        <translation>El botón «Iniciar» pone en vigor la programación guardada.</translation>
     </message>
     <message>
         <source>No plan has started yet.</source>

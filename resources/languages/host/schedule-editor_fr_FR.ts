@@ -1159,8 +1159,8 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Tâche %1, créneau %2</translation>
     </message>
     <message>
-        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
-        <translation>Le bouton «&#xa0;Démarrer&#xa0;» de l’éditeur met en vigueur la programmation enregistrée.</translation>
+        <source>Choose Start to put the saved schedule into effect.</source>
+        <translation>Le bouton «&#xa0;Démarrer&#xa0;» met en vigueur la programmation enregistrée.</translation>
     </message>
     <message>
         <source>No plan has started yet.</source>

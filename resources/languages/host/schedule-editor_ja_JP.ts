@@ -1138,8 +1138,8 @@ What do you want to do with your changes?</source>
         <translation>タスク %1、計画 %2</translation>
     </message>
     <message>
-        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
-        <translation>エディターの「運用開始」を押すと、保存したスケジュールが有効になります。</translation>
+        <source>Choose Start to put the saved schedule into effect.</source>
+        <translation>「運用開始」を押すと、保存したスケジュールが有効になります。</translation>
     </message>
     <message>
         <source>No plan has started yet.</source>

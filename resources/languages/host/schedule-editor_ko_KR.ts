@@ -1138,8 +1138,8 @@ What do you want to do with your changes?</source>
         <translation>작업 %1, 계획 %2</translation>
     </message>
     <message>
-        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
-        <translation>편집기에서 ‘시작’을 누르면 저장된 일정이 적용됩니다.</translation>
+        <source>Choose Start to put the saved schedule into effect.</source>
+        <translation>‘시작’을 누르면 저장된 일정이 적용됩니다.</translation>
     </message>
     <message>
         <source>No plan has started yet.</source>

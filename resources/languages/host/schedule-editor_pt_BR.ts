@@ -1159,8 +1159,8 @@ O que deseja fazer com as alterações?</translation>
         <translation>Tarefa %1, plano %2</translation>
     </message>
     <message>
-        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
-        <translation>O botão “Iniciar” do editor põe em vigor a programação salva.</translation>
+        <source>Choose Start to put the saved schedule into effect.</source>
+        <translation>O botão “Iniciar” põe em vigor a programação salva.</translation>
     </message>
     <message>
         <source>No plan has started yet.</source>

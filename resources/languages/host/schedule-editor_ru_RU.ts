@@ -1180,8 +1180,8 @@ What do you want to do with your changes?</source>
         <translation>Задание %1, план %2</translation>
     </message>
     <message>
-        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
-        <translation>Кнопка «Запустить» в редакторе вводит сохранённое расписание в действие.</translation>
+        <source>Choose Start to put the saved schedule into effect.</source>
+        <translation>Кнопка «Запустить» вводит сохранённое расписание в действие.</translation>
     </message>
     <message>
         <source>No plan has started yet.</source>

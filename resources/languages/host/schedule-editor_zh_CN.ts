@@ -1138,8 +1138,8 @@ What do you want to do with your changes?</source>
         <translation>任务 %1，计划 %2</translation>
     </message>
     <message>
-        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
-        <translation>点击编辑器中的“启用”，已保存的排期即可生效。</translation>
+        <source>Choose Start to put the saved schedule into effect.</source>
+        <translation>点击“启用”，已保存的排期即可生效。</translation>
     </message>
     <message>
         <source>No plan has started yet.</source>

@@ -1138,8 +1138,8 @@ What do you want to do with your changes?</source>
         <translation>任務 %1，計畫 %2</translation>
     </message>
     <message>
-        <source>Choose Start in the schedule editor to put the saved schedule into effect.</source>
-        <translation>按一下編輯器中的「啟用」，已儲存的排程即會生效。</translation>
+        <source>Choose Start to put the saved schedule into effect.</source>
+        <translation>按一下「啟用」，已儲存的排程即會生效。</translation>
     </message>
     <message>
         <source>No plan has started yet.</source>

@@ -93,7 +93,7 @@ QString ScreenWords::reason(const ScreenState& state, const PlayPlan* plan)
     };
     switch (state.reason) {
     case ScreenReason::NothingInEffect:
-        return tr("Choose Start in the schedule editor to put the saved schedule into effect.");
+        return tr("Choose Start to put the saved schedule into effect.");
     case ScreenReason::NoPlanYet:
         return tr("No plan has started yet.");
     case ScreenReason::PlanPlays:
