@@ -17,6 +17,11 @@ QString dateText(const QDate& date)
     return leftToRight(date.toString(kDateFormat));
 }
 
+QString dayText(const QDate& date)
+{
+    return leftToRight(date.toString(QStringLiteral("MM.dd")));
+}
+
 QString dateAndTimeText(const QDateTime& moment)
 {
     return leftToRight(moment.toString(kDateFormat + QLatin1String(" hh:mm")));

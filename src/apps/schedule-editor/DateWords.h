@@ -12,6 +12,9 @@ namespace trel::desktop {
 /// A date as the editor writes it: the same in all languages, and read from the left.
 QString dateText(const QDate& date);
 
+/// A date without its year, which stands elsewhere, written the same way.
+QString dayText(const QDate& date);
+
 /// A moment by its own clock, to the minute, with such a date.
 QString dateAndTimeText(const QDateTime& moment);
 

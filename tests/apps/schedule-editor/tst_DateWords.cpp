@@ -36,6 +36,7 @@ void tst_DateWords::areTheSameInAllLanguages()
     QLocale::setDefault(QLocale(language));
     const QDateTime moment(QDate(2026, 3, 8), QTime(9, 5, 59));
     QCOMPARE(dateText(moment.date()), QStringLiteral("\u20662026.03.08\u2069"));
+    QCOMPARE(dayText(moment.date()), QStringLiteral("\u206603.08\u2069"));
     QCOMPARE(dateAndTimeText(moment), QStringLiteral("\u20662026.03.08 09:05\u2069"));
 }
 

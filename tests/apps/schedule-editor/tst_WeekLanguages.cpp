@@ -20,6 +20,17 @@ using namespace weekfixture;
 
 namespace {
 
+/// What stands above and beside the days.
+QStringList textsOfStrips(const week::WeekView& view)
+{
+    PaintedTexts device(view.size());
+    const QList<week::WeekStrip*> strips = view.findChildren<week::WeekStrip*>();
+    for (week::WeekStrip* strip : strips) {
+        strip->render(&device);
+    }
+    return device.texts();
+}
+
 /// The week in the host's window with everything that it has words for. Programs are called by
 /// signs, so that every letter is a word of the host or a part of a date.
 struct WeekTexts : HostFixture
@@ -77,11 +88,7 @@ struct WeekTexts : HostFixture
     {
         PaintedTexts device(view.size());
         view.viewport()->render(&device);
-        const QList<week::WeekStrip*> strips = view.findChildren<week::WeekStrip*>();
-        for (week::WeekStrip* strip : strips) {
-            strip->render(&device);
-        }
-        return device.texts();
+        return device.texts() + textsOfStrips(view);
     }
 
     /// What the tool tips say, all over the picture.
@@ -137,8 +144,15 @@ class tst_WeekLanguages : public QObject
 
 private slots:
     void everyWordIsTranslated();
-    void wordsFitTheirColumns_data();
+    void wordsFitTheirColumns_data() { addLanguages(); }
     void wordsFitTheirColumns();
+    void datesAreThoseOfTheEditor_data() { addLanguages(); }
+    void datesAreThoseOfTheEditor();
+    void narrowDaysKeepTheirDates();
+    void nothingIsHalfBehindThePresentTime();
+
+private:
+    static void addLanguages();
 };
 
 void tst_WeekLanguages::everyWordIsTranslated()
@@ -169,7 +183,7 @@ void tst_WeekLanguages::everyWordIsTranslated()
     }
 }
 
-void tst_WeekLanguages::wordsFitTheirColumns_data()
+void tst_WeekLanguages::addLanguages()
 {
     QTest::addColumn<bool>("unused");
     const QStringList files =
@@ -196,6 +210,49 @@ void tst_WeekLanguages::wordsFitTheirColumns()
     }
     cut.removeDuplicates();
     QVERIFY2(cut.isEmpty(), qPrintable(cut.join(QLatin1Char('\n'))));
+}
+
+void tst_WeekLanguages::datesAreThoseOfTheEditor()
+{
+    WeekTexts fixture;
+    fixture.languages.select(QLatin1String(QTest::currentDataTag()));
+    fixture.showWeekOf(kWeeks[0]);
+    const QStringList painted = fixture.painted();
+    const QString name = fixture.view.locale().dayName(Qt::Wednesday, QLocale::ShortFormat);
+    const QString head = name + QStringLiteral(" \u206603.06\u2069");
+    QVERIFY2(painted.contains(head), qPrintable(painted.join(QLatin1Char('\n'))));
+}
+
+void tst_WeekLanguages::narrowDaysKeepTheirDates()
+{
+    const QLocale former;
+    ShownWeek shown;
+    // The narrowest columns that there are, and letters that are large for them.
+    shown.view.resize(380, 560);
+    QFont large = shown.view.font();
+    large.setPixelSize(19);
+    shown.view.setFont(large);
+    QCoreApplication::processEvents();
+    const QStringList painted = textsOfStrips(shown.view);
+    QLocale::setDefault(former);
+    for (int day = 4; day <= 10; ++day) {
+        const QString date = QStringLiteral("\u206603.%1\u2069").arg(day, 2, 10, QLatin1Char('0'));
+        QVERIFY2(painted.contains(date), qPrintable(painted.join(QLatin1Char('\n'))));
+    }
+}
+
+void tst_WeekLanguages::nothingIsHalfBehindThePresentTime()
+{
+    const QLocale former;
+    ShownWeek shown;
+    // Behind an hour that is written at every zoom.
+    shown.clock.set(wednesdayAtNine().addSecs(3 * 3600 + 5 * 60));
+    shown.view.setSchedule(scheduleOf(mixedPlans()));
+    const QStringList painted = textsOfStrips(shown.view);
+    QLocale::setDefault(former);
+    QVERIFY2(painted.contains(QStringLiteral("12:05")) && painted.contains(QStringLiteral("18:00")),
+             qPrintable(painted.join(QLatin1Char('\n'))));
+    QVERIFY(!painted.contains(QStringLiteral("12:00")));
 }
 
 TREL_TEST(tst_WeekLanguages, QApplication)

@@ -1,6 +1,8 @@
 #include "versions/StretchModel.h"
 
+#include "BidiText.h"
 #include "screen/ScreenWords.h"
+#include "service/ScheduleRecords.h"
 #include "trelwidgets/PlainToolTip.h"
 #include "versions/DifferenceWords.h"
 #include "versions/VersionWords.h"
@@ -60,14 +62,29 @@ QString StretchModel::text(const ScreenDifference& stretch, int column) const
 {
     switch (column) {
     case FromColumn:
-        return m_local.text(stretch.from);
+        return momentText(stretch.from);
     case ToColumn:
-        return m_local.text(stretch.to, stretch.from);
+        return isSameDay(stretch) ? m_local.text(stretch.to, stretch.from) : momentText(stretch.to);
     case FormerColumn:
         return screenText(m_comparison->former, stretch.former);
     default:
         return screenText(m_comparison->later, stretch.later);
     }
+}
+
+bool StretchModel::isSameDay(const ScreenDifference& stretch) const
+{
+    return isDated(stretch.from) && isDated(stretch.to) &&
+           m_local.shownAt(stretch.from).date() == m_local.shownAt(stretch.to).date();
+}
+
+QString StretchModel::momentText(Instant moment) const
+{
+    // Beside itself a moment has its time alone.
+    const QString time = m_local.text(moment, moment);
+    return isDated(moment) ? leftToRight(m_local.shownAt(moment).date().toString(kDateFormat) +
+                                         QLatin1Char(' ') + time)
+                           : time;
 }
 
 QString StretchModel::screenText(const ComparedState& state, const ScreenState& screen) const

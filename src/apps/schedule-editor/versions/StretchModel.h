@@ -36,6 +36,9 @@ public:
 
 private:
     QString text(const trel::mediadispatch::ScreenDifference& stretch, int column) const;
+    bool isSameDay(const trel::mediadispatch::ScreenDifference& stretch) const;
+    /// With the date as the editor writes it.
+    QString momentText(trel::mediadispatch::Instant moment) const;
     QString screenText(const ComparedState& state,
                        const trel::mediadispatch::ScreenState& screen) const;
 

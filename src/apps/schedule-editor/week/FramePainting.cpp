@@ -1,11 +1,11 @@
 #include "week/FramePainting.h"
 
+#include "DateWords.h"
 #include "look/ThemeColours.h"
 #include "week/WeekScene.h"
 #include "week/WeekWords.h"
 
 #include <QPainter>
-#include <QRegularExpression>
 #include <QStyle>
 
 #include <algorithm>
@@ -16,15 +16,24 @@ namespace {
 
 constexpr int kSpace = 4;
 
-/// The date without its year, in the order of the language.
-QString dateOf(const QLocale& locale, const QDate& date)
+/// The name of a day and its date, or in less room the date alone.
+QString headOf(const QDate& date, const QLocale& locale, const QFontMetrics& metrics, int width)
 {
-    QString format = locale.dateFormat(QLocale::ShortFormat);
-    // Whatever the years stand between goes with them.
-    format.remove(QRegularExpression(QStringLiteral("[^dM]*y+[^dM]*$")));
-    format.remove(QRegularExpression(QStringLiteral("^[^dM]*y+[^dM]*")));
-    return locale.dayName(date.dayOfWeek(), QLocale::ShortFormat) + QLatin1Char(' ') +
-           locale.toString(date, format);
+    const QString day = dayText(date);
+    const QString whole =
+        locale.dayName(date.dayOfWeek(), QLocale::ShortFormat) + QLatin1Char(' ') + day;
+    return metrics.horizontalAdvance(whole) <= width ? whole : day;
+}
+
+/// Where the present time stands among the hours; invalid in another week.
+QRect presentTag(const WeekScene& scene, const QRect& strip, int lineHeight)
+{
+    const qint64 day = scene.layout.first().daysTo(scene.now.date);
+    if (day < 0 || day >= kDays) {
+        return {};
+    }
+    const int y = scene.geometry.top(scene.now.second);
+    return {strip.left(), std::max(y - lineHeight / 2 - 1, 0), strip.width(), lineHeight + 2};
 }
 
 } // namespace
@@ -56,7 +65,9 @@ void paintDates(QPainter& painter, const WeekScene& scene, const QRect& strip)
         }
         QRect text = place.adjusted(kSpace + 1, kSpace, -kSpace, 0);
         painter.setFont(bold);
-        drawLabel(painter, text, dateOf(scene.locale, column.date), colours.text);
+        drawLabel(painter, text,
+                  headOf(column.date, scene.locale, painter.fontMetrics(), text.width()),
+                  colours.text);
         painter.setFont(plain);
         text.translate(0, lineHeight + kSpace / 2);
         text.setBottom(place.bottom());
@@ -78,6 +89,12 @@ void paintHours(QPainter& painter, const WeekScene& scene, const QRect& strip)
     const int lineHeight = painter.fontMetrics().height();
     const int step = labelStep(scene.geometry.hourHeight(), lineHeight) * 60;
     const int first = scene.geometry.secondAt(strip.top() - lineHeight) / step;
+    const QRect tag = presentTag(scene, strip, lineHeight);
+    const auto write = [&painter](const QRect& place, const QColor& colour, int second) {
+        painter.setPen(colour);
+        painter.drawText(place.adjusted(0, 0, -kSpace, 0),
+                         Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute, shortTime(second));
+    };
     for (int second = first * step; second < kDaySeconds; second += step) {
         const int y = scene.geometry.top(second);
         if (y - lineHeight > strip.bottom()) {
@@ -85,20 +102,15 @@ void paintHours(QPainter& painter, const WeekScene& scene, const QRect& strip)
         }
         // Midnight stands below its line, as there is nothing above.
         const int top = second == 0 ? 0 : y - lineHeight / 2;
-        painter.setPen(colours.faintText);
-        painter.drawText(QRect(strip.left(), top, strip.width() - kSpace, lineHeight),
-                         Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute, shortTime(second));
+        const QRect place(strip.left(), top, strip.width(), lineHeight);
+        // Half of an hour above or below the present time could not be read.
+        if (!place.intersects(tag)) {
+            write(place, colours.faintText, second);
+        }
     }
-    const qint64 day = scene.layout.first().daysTo(scene.now.date);
-    if (day >= 0 && day < kDays) {
-        const int y = scene.geometry.top(scene.now.second);
-        const QRect tag(strip.left(), std::max(y - lineHeight / 2 - 1, 0), strip.width(),
-                        lineHeight + 2);
+    if (tag.isValid()) {
         painter.fillRect(tag, colours.weekNow);
-        painter.setPen(colours.weekNowText);
-        painter.drawText(tag.adjusted(0, 0, -kSpace, 0),
-                         Qt::AlignRight | Qt::AlignVCenter | Qt::AlignAbsolute,
-                         shortTime(scene.now.second / 60 * 60));
+        write(tag, colours.weekNowText, scene.now.second / 60 * 60);
     }
 }
 

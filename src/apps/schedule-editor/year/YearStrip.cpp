@@ -174,7 +174,9 @@ void YearStrip::paintMonths(QPainter& painter) const
     for (int month = 1; month <= kMonths; ++month) {
         const QDate first(m_layout.year, month, 1);
         const QRect place = placeOf(first, first.addMonths(1).addDays(-1));
-        const QRect name(place.left() + kSpace, 0, place.width() - kSpace, height);
+        const QRect name =
+            QStyle::visualRect(layoutDirection(), place,
+                               QRect(place.left() + kSpace, 0, place.width() - kSpace, height));
         painter.setPen(m_colours.faintText);
         painter.drawText(
             name, int(Qt::AlignVCenter) | int(Qt::AlignLeading),

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -269,6 +270,12 @@ void tst_VersionsWindow::tellsWhatDiffersOnTheScreen()
              qPrintable(desk.stretches()[0]));
     QCOMPARE(desk.label("stretchSummary"),
              QStringLiteral("7 stretches of this week differ on the screen:"));
+    // Dates as everywhere, and once where both ends are on one day.
+    const QString line = linesOf(desk.part<QTableView>("stretchTable")).first();
+    const QRegularExpression dated(
+        QStringLiteral("^\\x{2066}\\d{4}\\.\\d\\d\\.\\d\\d "
+                       "\\d\\d:\\d\\d:\\d\\d\\x{2069}\\|\\d\\d:\\d\\d:\\d\\d\\|"));
+    QVERIFY2(dated.match(line).hasMatch(), qPrintable(line));
     desk.other().setCurrentIndex(0);
     desk.table().selectRow(0);
     QTRY_COMPARE(desk.label("stretchSummary"),
