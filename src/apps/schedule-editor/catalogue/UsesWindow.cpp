@@ -26,6 +26,8 @@ UsesWindow::UsesWindow(QWidget* parent)
 {
     setObjectName(QStringLiteral("usesWindow"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    // Days are named as in the window that it belongs to, and not as the system has them.
+    setAttribute(Qt::WA_WindowPropagation);
     build();
     retranslate();
     resize(560, 340);

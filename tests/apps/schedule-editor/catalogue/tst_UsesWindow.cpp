@@ -70,6 +70,7 @@ private slots:
     void aPlanIsAskedForByMouseAndKey();
     void daysHaveTheirNames_data();
     void daysHaveTheirNames();
+    void daysFollowTheLanguage();
     void aProgramInNoPlan();
     void aLongScheduleIsLookedThroughElsewhere();
     void aRemovalSaysWhatItBreaks();
@@ -228,6 +229,18 @@ void tst_UsesWindow::daysHaveTheirNames()
     PlayPlan plan;
     plan.weeks = weeks.toStdString();
     QTEST(UseWords::days(plan, QLocale(QStringLiteral("en_US"))), "words");
+}
+
+void tst_UsesWindow::daysFollowTheLanguage()
+{
+    showUses(0);
+    QVERIFY(rows().first().contains(QStringLiteral("|Mon, Wed|")));
+    m_fixture->languages.select(QStringLiteral("de_DE"));
+    const QLocale german(QLocale::German, QLocale::Germany);
+    const QString days = QStringLiteral("|%1, %2|")
+                             .arg(german.dayName(Qt::Monday, QLocale::ShortFormat),
+                                  german.dayName(Qt::Wednesday, QLocale::ShortFormat));
+    QTRY_VERIFY2(rows().first().contains(days), qPrintable(rows().first()));
 }
 
 void tst_UsesWindow::aProgramInNoPlan()
