@@ -93,7 +93,7 @@ PlainWindow::PlainWindow(int programs)
     setCentralWidget(middle());
     // Speaks to screen readers, once there is something to say.
     hidden(new QWidget(this))->resize(0, 0);
-    resize(1340, 700);
+    resize(1350, 700);
 }
 
 void PlainWindow::addMenus()
@@ -212,7 +212,7 @@ void PlainWindow::addPanels(int programs)
     players->hide();
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    resizeDocks({list, now}, {250, 260}, Qt::Horizontal);
+    resizeDocks({list, now}, {275, 260}, Qt::Horizontal);
     resizeDocks({now, preview}, {480, 120}, Qt::Vertical);
     resizeDocks({wrong}, {96}, Qt::Vertical);
 }

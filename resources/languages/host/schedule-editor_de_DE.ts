@@ -3349,6 +3349,10 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Pl&amp;ayer</translation>
     </message>
     <message>
+        <source>No player follows this database. Start schedule-player with it where the screen is.</source>
+        <translation>Kein Player folgt dieser Datenbank. Starten Sie schedule-player mit ihr am Computer des Bildschirms.</translation>
+    </message>
+    <message>
         <source>Show what the players show</source>
         <translation>Zeigt, was auf den Bildschirmen der Player läuft</translation>
     </message>

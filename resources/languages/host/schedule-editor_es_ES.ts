@@ -3349,6 +3349,10 @@ What do you want to do with your changes?</source>
         <translation>R&amp;eproductores</translation>
     </message>
     <message>
+        <source>No player follows this database. Start schedule-player with it where the screen is.</source>
+        <translation>Ningún reproductor sigue esta base de datos. Inicie schedule-player con ella en el equipo de la pantalla.</translation>
+    </message>
+    <message>
         <source>Show what the players show</source>
         <translation>Muestra lo que ponen los reproductores</translation>
     </message>

@@ -3349,6 +3349,10 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>&amp;Lecteurs</translation>
     </message>
     <message>
+        <source>No player follows this database. Start schedule-player with it where the screen is.</source>
+        <translation>Aucun lecteur ne suit cette base de données. Lancez schedule-player avec elle sur l’ordinateur de l’écran.</translation>
+    </message>
+    <message>
         <source>Show what the players show</source>
         <translation>Affiche ce que montrent les lecteurs</translation>
     </message>

@@ -3303,6 +3303,10 @@ What do you want to do with your changes?</source>
         <translation>プレーヤー(&amp;Y)</translation>
     </message>
     <message>
+        <source>No player follows this database. Start schedule-player with it where the screen is.</source>
+        <translation>このデータベースに従うプレーヤーはありません。画面側のコンピューターで、これを指定して schedule-player を起動してください。</translation>
+    </message>
+    <message>
         <source>Show what the players show</source>
         <translation>プレーヤーの表示内容を示します</translation>
     </message>

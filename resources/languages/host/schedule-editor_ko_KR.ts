@@ -3303,6 +3303,10 @@ What do you want to do with your changes?</source>
         <translation>플레이어(&amp;Y)</translation>
     </message>
     <message>
+        <source>No player follows this database. Start schedule-player with it where the screen is.</source>
+        <translation>이 데이터베이스를 따르는 플레이어가 없습니다. 화면이 있는 컴퓨터에서 이 데이터베이스로 schedule-player를 실행하세요.</translation>
+    </message>
+    <message>
         <source>Show what the players show</source>
         <translation>플레이어가 보여 주는 내용을 표시합니다</translation>
     </message>

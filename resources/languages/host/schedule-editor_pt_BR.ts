@@ -3349,6 +3349,10 @@ O que deseja fazer com as alterações?</translation>
         <translation>P&amp;layers</translation>
     </message>
     <message>
+        <source>No player follows this database. Start schedule-player with it where the screen is.</source>
+        <translation>Nenhum player segue este banco de dados. Inicie o schedule-player com ele no computador da tela.</translation>
+    </message>
+    <message>
         <source>Show what the players show</source>
         <translation>Mostra o que os players exibem</translation>
     </message>

@@ -3395,6 +3395,10 @@ What do you want to do with your changes?</source>
         <translation>Пл&amp;ееры</translation>
     </message>
     <message>
+        <source>No player follows this database. Start schedule-player with it where the screen is.</source>
+        <translation>Ни один плеер не следует этой базе данных. Запустите с ней schedule-player на компьютере у экрана.</translation>
+    </message>
+    <message>
         <source>Show what the players show</source>
         <translation>Показать, что показывают плееры</translation>
     </message>

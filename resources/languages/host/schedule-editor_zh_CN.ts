@@ -3303,6 +3303,10 @@ What do you want to do with your changes?</source>
         <translation>播放器(&amp;Y)</translation>
     </message>
     <message>
+        <source>No player follows this database. Start schedule-player with it where the screen is.</source>
+        <translation>没有播放器跟随此数据库。请在连接屏幕的计算机上，用此数据库运行 schedule-player。</translation>
+    </message>
+    <message>
         <source>Show what the players show</source>
         <translation>显示各播放器的画面内容</translation>
     </message>

@@ -3303,6 +3303,10 @@ What do you want to do with your changes?</source>
         <translation>播放器(&amp;Y)</translation>
     </message>
     <message>
+        <source>No player follows this database. Start schedule-player with it where the screen is.</source>
+        <translation>沒有播放器跟隨此資料庫。請在連接螢幕的電腦上，用此資料庫執行 schedule-player。</translation>
+    </message>
+    <message>
         <source>Show what the players show</source>
         <translation>顯示各播放器的畫面內容</translation>
     </message>

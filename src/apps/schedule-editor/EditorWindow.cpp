@@ -69,7 +69,7 @@ namespace trel::desktop {
 namespace {
 
 /// Leaves room for the frame of the window and for a bar of the desktop on a screen of 1366 by 768.
-constexpr QSize kFirstSize(1340, 700);
+constexpr QSize kFirstSize(1350, 700);
 
 /// A panel that never makes the window higher than the screen, whatever it has to say.
 QScrollArea* scrolled(QWidget& panel)
@@ -227,7 +227,7 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     // The catalog and what is on screen stand beside the list of changes, not above it.
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
-    resizeDocks({m_programs, m_nowNext}, {250, 260}, Qt::Horizontal);
+    resizeDocks({m_programs, m_nowNext}, {275, 260}, Qt::Horizontal);
     resizeDocks({m_nowNext, preview}, {480, 120}, Qt::Vertical);
     resizeDocks({problems}, {96}, Qt::Vertical);
 }

@@ -1,4 +1,5 @@
 #include "HostFixture.h"
+#include "catalogue/ProgramTableModel.h"
 #include "support/TestClock.h"
 #include "support/TestProgram.h"
 #include "week/WeekPage.h"
@@ -119,6 +120,12 @@ void tst_WindowSizes::fitsAUsualScreen()
     QVERIFY(view.viewport()->width() >= 7 * 90);
     QVERIFY(view.isFit());
     QVERIFY(view.viewport()->height() >= 260);
+    // The folder of a program stands beside its name, as a whole.
+    const auto* programs = fixture.window.findChild<QTableView*>(QStringLiteral("programTable"));
+    const int folder = ProgramTableModel::FolderColumn;
+    QVERIFY(programs->columnWidth(folder) >= 110);
+    QVERIFY(programs->columnViewportPosition(folder) + programs->columnWidth(folder) <=
+            programs->viewport()->width());
 }
 
 void tst_WindowSizes::fitsASmallScreen()

@@ -35,6 +35,7 @@ namespace {
 constexpr qint32 kStateVersion = 1;
 /// Above and below a picture, in its row.
 constexpr int kAbovePicture = 6;
+constexpr int kAroundHint = 12;
 
 } // namespace
 
@@ -55,6 +56,7 @@ CataloguePanel::CataloguePanel(EditorMenus& menus, QWidget* parent)
     m_hint->setTextFormat(Qt::PlainText);
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setWordWrap(true);
+    m_hint->setMargin(kAroundHint);
     buildTable();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -80,8 +82,9 @@ void CataloguePanel::buildTable()
     columns->setSectionsMovable(true);
     columns->setSortIndicator(ProgramTableModel::IndexColumn, Qt::AscendingOrder);
     columns->setSortIndicatorShown(true);
-    columns->resizeSection(ProgramTableModel::NameColumn, 190);
-    columns->resizeSection(ProgramTableModel::FolderColumn, 110);
+    // Name and folder fill the panel as it first opens; the others are scrolled to.
+    columns->resizeSection(ProgramTableModel::NameColumn, 158);
+    columns->resizeSection(ProgramTableModel::FolderColumn, 114);
     columns->resizeSection(ProgramTableModel::KindColumn, 66);
     columns->resizeSection(ProgramTableModel::LengthColumn, 82);
     columns->resizeSection(ProgramTableModel::IndexColumn, 80);

@@ -10,9 +10,12 @@
 #include <QAction>
 #include <QEvent>
 #include <QHeaderView>
+#include <QLabel>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QTableView>
 #include <QToolButton>
+#include <QVBoxLayout>
 
 #include <utility>
 
@@ -24,6 +27,7 @@ namespace {
 
 /// Half of the time after which a player tells of itself again.
 constexpr int kSeconds = 5;
+constexpr int kAroundHint = 4;
 
 } // namespace
 
@@ -31,11 +35,29 @@ PlayersDock::PlayersDock(ScreenFollower& follower, QStatusBar& bar, QWidget* par
     : QDockWidget(parent)
     , m_model(new PlayerModel(follower, this))
     , m_table(new QTableView(this))
+    , m_hint(new QLabel(this))
+    , m_hintArea(new QScrollArea(this))
     , m_number(new QToolButton(&bar))
 {
     setObjectName(QStringLiteral("playersDock"));
     buildTable();
-    setWidget(m_table);
+    m_hint->setObjectName(QStringLiteral("playerHint"));
+    m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setWordWrap(true);
+    m_hint->setMargin(kAroundHint);
+    auto* content = new QWidget(this);
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    // Low as the panel is, all of it can be read.
+    m_hintArea->setFrameShape(QFrame::NoFrame);
+    m_hintArea->setFocusPolicy(Qt::NoFocus);
+    m_hintArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_hintArea->setWidgetResizable(true);
+    m_hintArea->setWidget(m_hint);
+    layout->addWidget(m_hintArea);
+    layout->addWidget(m_table);
+    setWidget(content);
     m_number->setObjectName(QStringLiteral("playerNumber"));
     m_number->setAutoRaise(true);
     m_number->setFocusPolicy(Qt::TabFocus);
@@ -97,8 +119,16 @@ void PlayersDock::take(const QString& store, std::vector<PlayerStatus> players)
     // Those of another database that has been closed meanwhile are of no use.
     if (store == ScheduleHost::instance().path()) {
         m_model->setPlayers(std::move(players));
-        tellNumber();
+        showPlayers();
     }
+}
+
+void PlayersDock::showPlayers()
+{
+    const bool areThere = m_model->rowCount() > 0;
+    m_hintArea->setVisible(!areThere);
+    m_table->setVisible(areThere);
+    tellNumber();
 }
 
 void PlayersDock::tellNumber()
@@ -121,8 +151,10 @@ void PlayersDock::retranslate()
     // The title becomes the text of the action, which has a letter besides.
     toggleViewAction()->setText(tr("Pla&yers"));
     m_number->setToolTip(trel::widgets::plainToolTip(tr("Show what the players show")));
+    m_hint->setText(tr("No player follows this database. Start schedule-player with it where the "
+                       "screen is."));
     m_model->retranslate();
-    tellNumber();
+    showPlayers();
 }
 
 void PlayersDock::changeEvent(QEvent* event)

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+class QLabel;
+class QScrollArea;
 class QStatusBar;
 class QTableView;
 class QToolButton;
@@ -20,8 +22,8 @@ namespace players {
 class PlayerModel;
 
 /// The players that follow the database and what each of them shows, as a part of the host's
-/// window. Hidden at first; once there are any, their number stands in the status bar, and a click
-/// on it shows the list.
+/// window; where there are none, what to do about it. Hidden at first; once there are any, their
+/// number stands in the status bar, and a click on it shows the list.
 ///
 /// Players tell of themselves in files beside the database, which may lie on a server that does not
 /// answer: they are read every few seconds, as long as the screen is followed, in another thread.
@@ -44,12 +46,15 @@ private:
     void buildTable();
     void tick();
     void take(const QString& store, std::vector<trel::mediadispatch::PlayerStatus> players);
+    void showPlayers();
     void tellNumber();
     void reveal();
     void retranslate();
 
     PlayerModel* m_model;
     QTableView* m_table;
+    QLabel* m_hint;
+    QScrollArea* m_hintArea; ///< In the place of the table as long as it is empty.
     QToolButton* m_number;
     follow::NewestWork m_reading;
     int m_seconds = 0; ///< Since they were looked at.

@@ -6,6 +6,7 @@
 #include "trelprogramschedule/screens/PlayerStatusFolder.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QTableView>
 #include <QToolButton>
 
@@ -70,6 +71,7 @@ class tst_PlayersDock : public QObject
 
 private slots:
     void nothingIsSaidWithoutPlayers();
+    void withoutPlayersItSaysWhatToDo();
     void eachPlayerHasALine();
     void whatStandsInIsTold();
     void aPlayerFallsSilent();
@@ -87,6 +89,28 @@ void tst_PlayersDock::nothingIsSaidWithoutPlayers()
     fixture.tell(fixture.status("lobby", "News"));
     QCOMPARE(fixture.told(), QString());
     QVERIFY(fixture.dock->isHidden());
+}
+
+void tst_PlayersDock::withoutPlayersItSaysWhatToDo()
+{
+    PlayersFixture fixture;
+    fixture.dock->show();
+    const auto* hint = fixture.dock->findChild<QLabel*>(QStringLiteral("playerHint"));
+    QVERIFY(hint->isVisible());
+    QVERIFY(!fixture.table->isVisible());
+    QVERIFY2(hint->text().startsWith(QStringLiteral("No player follows this database.")) &&
+                 hint->text().contains(QStringLiteral("schedule-player")),
+             qPrintable(hint->text()));
+    fixture.languages.select(QStringLiteral("de_DE"));
+    QTRY_VERIFY2(hint->text().startsWith(QStringLiteral("Kein Player")), qPrintable(hint->text()));
+    fixture.tell(fixture.status("lobby", "News"));
+    fixture.dock->look();
+    QTRY_VERIFY(fixture.table->isVisible());
+    QVERIFY(!hint->isVisible());
+    PlayerStatusFolder(fixture.database).remove(QStringLiteral("lobby"));
+    fixture.dock->look();
+    QTRY_VERIFY(hint->isVisible());
+    QVERIFY(!fixture.table->isVisible());
 }
 
 void tst_PlayersDock::eachPlayerHasALine()
