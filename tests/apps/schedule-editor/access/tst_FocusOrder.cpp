@@ -1,4 +1,6 @@
+#include "FocusWalk.h"
 #include "HostFixture.h"
+#include "HostWindows.h"
 #include "support/TestProgram.h"
 
 #include <QApplication>
@@ -16,31 +18,11 @@ class tst_FocusOrder : public QObject
 private slots:
     void tabReachesEverythingOnce();
     void backTabGoesTheSameWayBack();
-
-private:
-    static QList<QWidget*> walk(QWidget& window, Qt::Key key);
+    void tabReachesAllOfTheOtherWindows_data() { addHostWindows(); }
+    void tabReachesAllOfTheOtherWindows();
 };
 
 namespace {
-
-/// More than the window has.
-constexpr int kMostSteps = 120;
-
-bool takesTab(const QWidget* widget)
-{
-    return (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && widget->isEnabled() &&
-           widget->isVisible() && widget->focusProxy() == nullptr;
-}
-
-QStringList namesOf(const QList<QWidget*>& widgets)
-{
-    QStringList names;
-    for (const QWidget* const widget : widgets) {
-        names.append(QLatin1String(widget->metaObject()->className()) + QLatin1Char(' ') +
-                     widget->objectName());
-    }
-    return names;
-}
 
 /// The panel that a widget is in, or the middle of the window.
 QString placeOf(const QWidget* widget)
@@ -65,38 +47,16 @@ struct ShownWindow : HostFixture
 
 } // namespace
 
-QList<QWidget*> tst_FocusOrder::walk(QWidget& window, Qt::Key key)
-{
-    QList<QWidget*> reached;
-    for (int step = 0; step < kMostSteps; ++step) {
-        QTest::keyClick(QApplication::focusWidget(), key,
-                        key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
-        QWidget* const now = QApplication::focusWidget();
-        if (now == nullptr || now->window() != &window || reached.contains(now)) {
-            break;
-        }
-        reached.append(now);
-    }
-    return reached;
-}
-
 void tst_FocusOrder::tabReachesEverythingOnce()
 {
     ShownWindow shown;
     QTRY_VERIFY(QApplication::activeWindow() == &shown.window);
     auto* const search = shown.window.findChild<QWidget*>(QStringLiteral("programSearch"));
     search->setFocus();
-    const QList<QWidget*> reached = walk(shown.window, Qt::Key_Tab);
+    const QList<QWidget*> reached = walkFocus(shown.window, Qt::Key_Tab);
     // Around, and back to where it began.
     QCOMPARE(reached.last(), search);
-    QStringList missed;
-    const QList<QWidget*> widgets = shown.window.findChildren<QWidget*>();
-    for (QWidget* const widget : widgets) {
-        if (widget->window() == &shown.window && takesTab(widget) && !reached.contains(widget)) {
-            missed.append(namesOf({widget}));
-        }
-    }
-    QCOMPARE(missed, QStringList());
+    QCOMPARE(missedIn(shown.window, reached), QStringList());
     // A panel is left only when all of it has been walked through.
     QStringList places;
     for (const QWidget* const widget : reached) {
@@ -117,15 +77,30 @@ void tst_FocusOrder::backTabGoesTheSameWayBack()
     QTRY_VERIFY(QApplication::activeWindow() == &shown.window);
     auto* const search = shown.window.findChild<QWidget*>(QStringLiteral("programSearch"));
     search->setFocus();
-    QList<QWidget*> onward = walk(shown.window, Qt::Key_Tab);
+    QList<QWidget*> onward = walkFocus(shown.window, Qt::Key_Tab);
     search->setFocus();
-    QList<QWidget*> back = walk(shown.window, Qt::Key_Backtab);
+    QList<QWidget*> back = walkFocus(shown.window, Qt::Key_Backtab);
     QVERIFY(onward.size() > 5);
     // Both end where they began.
     onward.removeLast();
     back.removeLast();
     std::reverse(back.begin(), back.end());
     QCOMPARE(namesOf(back), namesOf(onward));
+}
+
+void tst_FocusOrder::tabReachesAllOfTheOtherWindows()
+{
+    QFETCH(QString, name);
+    const ShownWindow shown;
+    QWidget* const window = openHostWindow(shown.window, name);
+    QVERIFY(window != nullptr);
+    window->activateWindow();
+    QTRY_VERIFY(QApplication::activeWindow() == window);
+    QTRY_VERIFY(QApplication::focusWidget() != nullptr);
+    QWidget* const first = QApplication::focusWidget();
+    const QList<QWidget*> reached = walkFocus(*window, Qt::Key_Tab);
+    QCOMPARE(missedIn(*window, reached), QStringList());
+    QVERIFY2(reached.contains(first), qPrintable(namesOf(reached).join(QLatin1Char('\n'))));
 }
 
 TREL_TEST(tst_FocusOrder, QApplication)
