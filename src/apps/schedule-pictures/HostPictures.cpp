@@ -51,6 +51,8 @@ constexpr int kNever = 3600000;
 /// The longest that pictures are waited for that other threads make, in milliseconds.
 constexpr int kLongestWait = 5000;
 constexpr int kStep = 50;
+/// When such a window has its content, in milliseconds.
+constexpr int kFilled = 300;
 /// How old the draft is that is offered, in milliseconds.
 constexpr qint64 kDraftAge = 3 * 3600 * 1000LL;
 
@@ -83,6 +85,7 @@ void HostPictures::drawAll()
     drawEffect();
     drawWeeks();
     drawVersions();
+    drawOtherWindows();
     drawImport();
     drawFileDialogs();
     drawPrompts();
@@ -180,7 +183,7 @@ void HostPictures::drawVersions()
     auto* const tabs = list->findChild<QTabWidget*>(QStringLiteral("versionTabs"));
     const auto* const reading = list->findChild<QLabel*>(QStringLiteral("versionSummary"));
     waitUntil([reading] { return !reading->isVisible(); });
-    table->selectRow(2);
+    table->setCurrentIndex(table->model()->index(2, 0));
     waitUntil([found] { return found->model()->rowCount() > 0; });
     settle();
     m_files.save(list, QStringLiteral("versions"));
@@ -197,6 +200,33 @@ void HostPictures::drawVersions()
     tabs->setCurrentIndex(0);
     list->hide();
     host.replaceSchedule(former);
+}
+
+void HostPictures::drawOtherWindows()
+{
+    const EditorMenus& menus = *m_window.findChild<EditorMenus*>();
+    auto* const programs = m_window.findChild<QTableView*>(QStringLiteral("programTable"));
+    programs->setCurrentIndex(programs->model()->index(1, 0));
+    drawOther(*menus.whereUsed(), QStringLiteral("usesWindow"));
+    drawOther(*menus.previewProgram(), QStringLiteral("programPreview"));
+    drawOther(*menus.asRun(), QStringLiteral("asRunWindow"));
+    programs->clearSelection();
+    const QList<QAction*> help = m_window.menuBar()->actions().last()->menu()->actions();
+    drawOther(*help.at(0), QStringLiteral("guideWindow"));
+    drawOther(*help.at(1), QStringLiteral("keySheet"));
+}
+
+/// A window that other threads fill, by the name of its object.
+void HostPictures::drawOther(QAction& entry, const QString& name)
+{
+    entry.trigger();
+    auto* const shown = m_window.findChild<QWidget*>(name);
+    QElapsedTimer timer;
+    timer.start();
+    waitUntil([&timer] { return timer.hasExpired(kFilled); });
+    m_files.save(shown, name);
+    shown->close();
+    settle();
 }
 
 void HostPictures::drawImport()

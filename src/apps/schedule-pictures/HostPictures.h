@@ -1,5 +1,6 @@
 #pragma once
 
+class QAction;
 class QString;
 
 namespace trel::desktop {
@@ -31,6 +32,8 @@ private:
     void drawEffect();
     void drawWeeks();
     void drawVersions();
+    void drawOtherWindows();
+    void drawOther(QAction& entry, const QString& name);
     void drawImport();
     void drawFileDialogs();
     void drawPrompts();

@@ -17,16 +17,18 @@ using namespace trel::mediadispatch;
 using namespace trel::desktop;
 using namespace trel::pictures;
 
-/// schedule-pictures FOLDER DEMONSTRATION: draws every window of host and editor, in every language
-/// and theme, into the folder.
+/// schedule-pictures FOLDER DEMONSTRATION [LANGUAGE...]: draws every window of host and editor, in
+/// these languages or in all of them, and in every theme, into the folder. The toolkit's own option
+/// -reverse draws them for those who read from the right.
 int main(int argc, char** argv)
 {
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 3 || !QDir().mkpath(arguments[1])) {
-        QTextStream(stderr) << "Usage: schedule-pictures FOLDER DEMONSTRATION" << Qt::endl;
+    if (arguments.size() < 3 || !QDir().mkpath(arguments[1])) {
+        QTextStream(stderr) << "Usage: schedule-pictures FOLDER DEMONSTRATION [LANGUAGE...]"
+                            << Qt::endl;
         return 2;
     }
     QGuiApplication::setWindowIcon(QIcon(QStringLiteral(":/qss/img/schedule-editor.svg")));
@@ -46,7 +48,11 @@ int main(int argc, char** argv)
     bool isComplete = error.isEmpty();
     editor.show();
     QApplication::setActiveWindow(&editor);
+    const QStringList wanted = arguments.mid(3);
     for (const QString& language : languages.names()) {
+        if (!wanted.isEmpty() && !wanted.contains(language)) {
+            continue;
+        }
         languages.select(language);
         for (const QString& theme : Themes::names()) {
             themes.select(theme);
