@@ -32,6 +32,21 @@ Widget* hidden(Widget* widget)
     return widget;
 }
 
+/// What to do where there are no players, above their list.
+QWidget* playersAndHint()
+{
+    auto* panel = new QWidget;
+    auto* layout = new QVBoxLayout(panel);
+    auto* area = new QScrollArea(panel);
+    area->setWidget(new QLabel(area));
+    layout->addWidget(area);
+    auto* screens = new QTableView(panel);
+    screens->setModel(new QStandardItemModel(0, 4, screens));
+    screens->verticalHeader()->hide();
+    layout->addWidget(hidden(screens));
+    return panel;
+}
+
 QLabel* line(const char* text, QWidget* parent)
 {
     auto* label = new QLabel(QLatin1String(text), parent);
@@ -201,11 +216,8 @@ void PlainWindow::addPanels(int programs)
     number->setAutoRaise(true);
     statusBar()->addPermanentWidget(number);
     hidden(addPanel(QStringLiteral("History"), new QListView, Qt::RightDockWidgetArea));
-    auto* screens = new QTableView;
-    screens->setModel(new QStandardItemModel(0, 4, this));
-    screens->verticalHeader()->hide();
-    tabifyDockWidget(
-        wrong, hidden(addPanel(QStringLiteral("Players"), screens, Qt::BottomDockWidgetArea)));
+    tabifyDockWidget(wrong, hidden(addPanel(QStringLiteral("Players"), playersAndHint(),
+                                            Qt::BottomDockWidgetArea)));
     auto* players = new QToolButton(statusBar());
     players->setAutoRaise(true);
     statusBar()->addPermanentWidget(players);
