@@ -21,7 +21,7 @@ TipDialog* promptOf(TipDialog::TipType type, const QString& text)
     prompt->setTipText(text);
     prompt->setWindowTitle(type == TipDialog::Notice
                                ? QCoreApplication::translate("HostPrompts", "Message")
-                               : QCoreApplication::translate("HostPrompts", "Question"));
+                               : prompts::questionTitle());
     return prompt;
 }
 
@@ -42,6 +42,11 @@ void remember(const QWidget* parent, const QString& kind, const QString& path)
 } // namespace
 
 namespace prompts {
+
+QString questionTitle()
+{
+    return QCoreApplication::translate("HostPrompts", "Question");
+}
 
 void notice(const QString& text)
 {

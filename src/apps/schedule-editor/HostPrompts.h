@@ -12,6 +12,9 @@ namespace trel::desktop {
 /// The few questions that the host asks, in the editor's own prompt. All block until answered.
 namespace prompts {
 
+/// The title of a question that is asked in a window of its own.
+QString questionTitle();
+
 /// Tells the operator something.
 void notice(const QString& text);
 

@@ -314,7 +314,7 @@ QStringList tightIn(const QWidget& window)
 } // namespace
 
 /// All questions of host and editor: what is asked about is done by the button that ends the row
-/// and stands out, and Enter takes nothing away.
+/// and stands out, Enter takes nothing away, and each has a title of its own.
 class tst_PromptButtons : public QObject
 {
     Q_OBJECT
@@ -363,7 +363,9 @@ void tst_PromptButtons::whatIsMeantEndsTheRow()
     QStringList prominent;
     QStringList tight;
     bool isFilled = false;
+    QString title;
     const FirstQuestion question([&](QWidget& window) {
+        title = window.windowTitle();
         const char* const name = kCases[index].primary;
         const QWidget* const primary =
             name != nullptr ? window.findChild<QWidget*>(QLatin1String(name))
@@ -385,6 +387,9 @@ void tst_PromptButtons::whatIsMeantEndsTheRow()
     QCOMPARE(prominent, QStringList{wanted});
     QCOMPARE(tight, QStringList());
     QVERIFY(isFilled);
+    // Who hears the title alone knows that there is another window.
+    QVERIFY(!title.isEmpty());
+    QVERIFY(title != fixture.window.windowTitle() && title != fixture.editor->windowTitle());
 }
 
 void tst_PromptButtons::addCases(bool (*isWanted)(const Case&))

@@ -1,5 +1,7 @@
 #include "changes/ChangesDialog.h"
 
+#include "HostPrompts.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
@@ -37,7 +39,7 @@ ChangesDialog::ChangesDialog(const ChangesQuestion& question, const look::ThemeC
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowModality(Qt::ApplicationModal);
     setLocale(window->locale());
-    setWindowTitle(window->windowTitle());
+    setWindowTitle(prompts::questionTitle());
     build();
     addAnswers();
     resize(720, 420);

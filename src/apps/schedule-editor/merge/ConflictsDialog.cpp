@@ -49,7 +49,7 @@ ConflictsDialog::ConflictsDialog(const ScheduleMerge& merge, const Programs& pro
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     setWindowModality(Qt::ApplicationModal);
     setLocale(window->locale());
-    setWindowTitle(window->windowTitle());
+    setWindowTitle(tr("Tasks that were changed at both desks"));
     // In the order in which Tab leads through them, and in which they are read.
     auto* text = new QLabel(tr("These tasks were changed here and at the other desk. Choose for "
                                "each of them which one stays."),
@@ -81,7 +81,7 @@ void ConflictsDialog::buildTable()
     const auto rows = static_cast<int>(m_merge.conflicts().size());
     m_table = new QTableWidget(this);
     m_table->setObjectName(QStringLiteral("conflictTable"));
-    m_table->setAccessibleName(tr("Tasks that were changed at both desks"));
+    m_table->setAccessibleName(windowTitle());
     m_table->setRowCount(rows);
     m_table->setColumnCount(ColumnCount);
     m_table->setHorizontalHeaderLabels({tr("Task"), tr("What stays")});
