@@ -9,6 +9,7 @@
 #include "ViewPainting.h"
 
 #include <QAbstractScrollArea>
+#include <QCalendarWidget>
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -20,6 +21,8 @@
 #include <QScrollBar>
 #include <QStyleOption>
 #include <QTableView>
+#include <QTextCharFormat>
+#include <QToolButton>
 
 namespace trel::desktop::look {
 
@@ -86,6 +89,14 @@ void polishLabel(QWidget& label)
     }
 }
 
+/// The toolkit writes the weekend in a red that is hard to read on most grounds.
+void polishCalendar(QCalendarWidget& calendar)
+{
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
+        calendar.setWeekdayTextFormat(day, QTextCharFormat());
+    }
+}
+
 void setTextColour(QWidget* label, const QColor& colour)
 {
     QPalette palette = label->palette();
@@ -101,6 +112,15 @@ bool isAnswer(const QWidget* widget)
     return button != nullptr && !button->text().isEmpty() &&
            button->minimumWidth() != button->maximumWidth() &&
            qobject_cast<const QDialog*>(button->window()) != nullptr;
+}
+
+constexpr char kFormerMonth[] = "qt_calendar_prevmonth";
+constexpr char kNextMonth[] = "qt_calendar_nextmonth";
+
+bool isCalendarArrow(const QWidget* widget)
+{
+    return qobject_cast<const QToolButton*>(widget) != nullptr &&
+           (isNamed(widget, kFormerMonth) || isNamed(widget, kNextMonth));
 }
 
 /// The ground of a plan's state, on which its word stands in the middle.
@@ -168,6 +188,8 @@ void EditorStyle::recolour(QWidget* widget) const
         recolourLabel(widget);
     } else if (isLineOfChoices(widget)) {
         hideOwnText(*widget);
+    } else if (isCalendarArrow(widget)) {
+        recolourCalendarArrow(widget);
     }
 }
 
@@ -179,6 +201,15 @@ void EditorStyle::recolourLabel(QWidget* label) const
     } else if (style == QLatin1String("grayHint")) {
         setTextColour(label, m_colours.faintText);
     }
+}
+
+/// It lies on the bar of the calendar, which has the ground of a selection.
+void EditorStyle::recolourCalendarArrow(QWidget* button) const
+{
+    const bool leadsBack = isNamed(button, kFormerMonth);
+    const bool pointsLeft = leadsBack == (button->layoutDirection() == Qt::LeftToRight);
+    static_cast<QToolButton*>(button)->setIcon(imageIcon(
+        pointsLeft ? QStringLiteral("previous") : QStringLiteral("next"), m_colours.accentText));
 }
 
 void EditorStyle::polish(QWidget* widget)
@@ -194,6 +225,8 @@ void EditorStyle::polish(QWidget* widget)
         bar->setAttribute(Qt::WA_OpaquePaintEvent, false);
     } else if (qobject_cast<QFrame*>(widget) != nullptr && isProgramField(widget)) {
         widget->setAttribute(Qt::WA_Hover);
+    } else if (auto* calendar = qobject_cast<QCalendarWidget*>(widget)) {
+        polishCalendar(*calendar);
     }
 }
 
