@@ -104,7 +104,8 @@ void type(const QString& text)
 void dropTypedDate()
 {
     const QWidget* const popup = QApplication::activePopupWidget();
-    const QWidget* const place = popup ? popup->focusWidget() : QApplication::focusWidget();
+    // Where keys go: a calendar that has closed keeps them until another window becomes active.
+    const QObject* const place = popup ? popup->focusWidget() : QGuiApplication::focusObject();
     if (place && place->objectName() == QLatin1String("qt_calendar_calendarview")) {
         pressKey(Qt::Key_Escape, Qt::NoModifier);
     }
