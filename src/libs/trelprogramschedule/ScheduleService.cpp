@@ -227,7 +227,8 @@ StoreResult ScheduleService::read(StorePart part)
         m_isMarkingDue = true;
         markLostEntries();
     }
-    if (result) {
+    // Where only the catalogue is read, ends move if it is another one, and the cards are told.
+    if (result && part != StorePart::Catalogue) {
         updateEnds();
     }
     return result;
@@ -284,12 +285,18 @@ void ScheduleService::tellEverybody(const CatalogueChange& change)
     m_state.inEffect.updatePrograms();
     emit programsChanged();
     // A program that is new has no length that changed, but a plan may have waited for it.
-    if (std::exchange(m_areEndsUntold, false) || change.lengths) {
+    m_areEndsUntold |= change.lengths;
+    tellEnds();
+    emit catalogueChanged();
+}
+
+void ScheduleService::tellEnds()
+{
+    if (std::exchange(m_areEndsUntold, false)) {
         // A card that works out its ends again works out its collisions with them: a second signal
         // for these would only have everything done twice.
         emit lengthsChanged();
     }
-    emit catalogueChanged();
 }
 
 StoreResult ScheduleService::readCatalogue()
@@ -443,6 +450,7 @@ StoreResult ScheduleService::reload()
         return result;
     }
     announce(catalogueChange(programs, m_state.catalogue.programs()));
+    tellEnds();
     if (m_state.tasks.stored() != tasks) {
         emit storedSetChanged();
         emit tasksReplaced();

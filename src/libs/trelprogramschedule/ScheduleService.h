@@ -162,6 +162,8 @@ private:
     /// Tells everybody how the catalogue has changed, and has other files watched.
     void announce(const CatalogueChange& change);
     void tellEverybody(const CatalogueChange& change);
+    /// Tells that ends have changed, unless it is told already.
+    void tellEnds();
     /// Takes over what other programs have put into effect, ended, or cut in.
     StoreResult followEffect();
     /// The same, and tells when another program has saved.

@@ -88,6 +88,8 @@ private slots:
     void aStartSeesWhatChangedMeanwhile();
     void aRefreshSeesWhatAnotherProgramDid();
     void aReloadTellsWhatAnotherProgramDid();
+    void aReloadTellsOfStaleEnds();
+    void aLookAtTheNewestSaveMovesNothing();
     void aPlanThatWaitedForItsProgram();
     void aProgramWithoutLengthFillsTheDay();
     void aProgramThatIsTakenOut();
@@ -224,6 +226,36 @@ void tst_PlanEnds::aReloadTellsWhatAnotherProgramDid()
     QVERIFY(signalCounts.take().contains(QLatin1String("ends, ")));
     QCOMPARE(store.workingEnds(), kNewEnds);
     QCOMPARE(store.storedEnds(), kNewEnds);
+}
+
+// A copied plan has the end of another one until it is worked out anew.
+void tst_PlanEnds::aReloadTellsOfStaleEnds()
+{
+    FilmStore store;
+    PlayTask stale = store.manager.getTask(1);
+    stale.plans[0].endTime = "09:00:00";
+    store.manager.addTask(stale);
+    SignalCounts signalCounts;
+    QVERIFY(store.host.reload());
+    QCOMPARE(signalCounts.take(), QStringLiteral("ends"));
+    QCOMPARE(store.workingEnds(), kFormerEnds);
+    QVERIFY(store.host.reload());
+    QCOMPARE(signalCounts.take(), QString());
+}
+
+void tst_PlanEnds::aLookAtTheNewestSaveMovesNothing()
+{
+    FilmStore store;
+    PlayTask stale = store.manager.getTask(1);
+    stale.plans[0].endTime = "09:00:00";
+    store.manager.addTask(stale);
+    SignalCounts signalCounts;
+    ScheduleVersion version;
+    std::map<int, PlayTask> saved;
+    QVERIFY(store.host.readNewestSave(version, saved));
+    QCOMPARE(ends(saved.at(1)), kFormerEnds);
+    QCOMPARE(signalCounts.take(), QString());
+    QCOMPARE(store.workingEnds(), QStringLiteral("09:00:00 11:00:00"));
 }
 
 // A schedule may come before its programs.
