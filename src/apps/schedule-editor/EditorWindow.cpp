@@ -55,6 +55,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QTimer>
@@ -364,10 +365,13 @@ void EditorWindow::showEditor()
 
 void EditorWindow::showPlan(int taskId, int planId)
 {
+    const QPointer<EditorWindow> self(this);
     m_editor.slotShowPlan(taskId, planId);
-    if (!m_editor.isVisible()) {
-        // What is in effect may have plans that were taken out since.
-        showEditor();
+    // What is in effect may have plans that were taken out since; the editor comes to the front all
+    // the same. It stays closed when everything was closed while it read its list.
+    if (self && m_editor.isVisible()) {
+        m_editor.raise();
+        m_editor.activateWindow();
     }
 }
 

@@ -1,6 +1,7 @@
 #include "EditorMenus.h"
 #include "EditorRun.h"
 #include "support/PlatformNotes.h"
+#include "support/TestClock.h"
 #include "support/TestProgram.h"
 #include "undo/HistoryModel.h"
 #include "week/WeekPanel.h"
@@ -108,6 +109,7 @@ class tst_WeekEdits : public QObject
 private slots:
     void isAStepLikeAnyOther();
     void outlivesAHiddenEditor();
+    void opensNothingBehindAClosedWindow();
     void neverEditsWhatWasCanceled();
     void takesOverWhatIsHalfTyped();
     void onlyWhatIsEdited();
@@ -160,6 +162,20 @@ void tst_WeekEdits::outlivesAHiddenEditor()
     // From here on it lasts as long as any other edit.
     QVERIFY(desk.host.trySave());
     QCOMPARE(desk.manager.getgTaskMap().at(1).plans.at(3).startTime, std::string("14:30:00"));
+}
+
+void tst_WeekEdits::opensNothingBehindAClosedWindow()
+{
+    Desk desk;
+    desk.press("pushButtonClose");
+    TestClock clock(QDateTime::currentDateTime());
+    clock.setElapsed(2000);
+    const QString before = desk.times(3);
+    desk.drag(3, 4);
+    QVERIFY(desk.window.close());
+    QCoreApplication::processEvents();
+    QVERIFY(!desk.editor->isVisible());
+    QCOMPARE(desk.times(3), before);
 }
 
 void tst_WeekEdits::neverEditsWhatWasCanceled()

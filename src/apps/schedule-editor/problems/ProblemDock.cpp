@@ -69,11 +69,9 @@ void ProblemDock::leadTo(int taskId, int planId)
     }
     const QPointer<ProblemDock> self(this);
     m_editor.slotShowPlan(taskId, planId);
-    // Of a task without plans there is no row.
-    if (self && !m_editor.isVisible()) {
-        m_editor.slotShow();
-    }
-    if (self) {
+    // Of a task without plans there is no row, but the editor comes to the front. It stays closed
+    // when everything was closed while it read its list.
+    if (self && m_editor.isVisible()) {
         m_editor.raise();
         m_editor.activateWindow();
     }

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QPushButton>
 #include <QTableView>
+#include <QTimer>
 #include <QToolButton>
 
 using namespace trel::desktop;
@@ -55,7 +56,7 @@ struct ProblemFixture : HostFixture
         return -1;
     }
 
-    const TestClock clock;
+    TestClock clock;
     ProblemDock* dock = nullptr;
     QTableView* table = nullptr;
     QToolButton* number = nullptr;
@@ -72,6 +73,7 @@ private slots:
     void followsEveryEdit();
     void theNumberShowsTheList();
     void leadsToTheRow();
+    void opensNothingBehindAClosedWindow();
     void splitsInTwo();
     void speaksTheLanguageInUse();
 };
@@ -133,6 +135,27 @@ void tst_ProblemDock::leadsToTheRow()
         fixture.table->model()->index(fixture.rowOf(QStringLiteral("No picture")), 0));
     QTest::keyClick(fixture.table, Qt::Key_Return);
     QTRY_VERIFY(fixture.firstTable()->selectionModel()->isRowSelected(0, {}));
+}
+
+void tst_ProblemDock::opensNothingBehindAClosedWindow()
+{
+    ProblemFixture fixture;
+    fixture.clock.setElapsed(2000);
+    fixture.manager.addTask(taskOf2027({timePlan(3, "08:00:00", "12:00:00")}));
+    QVERIFY(fixture.host.trySave());
+    fixture.editor->close();
+    QTRY_VERIFY(fixture.rowOf(QStringLiteral("No picture")) >= 0);
+    fixture.table->setCurrentIndex(
+        fixture.table->model()->index(fixture.rowOf(QStringLiteral("No picture")), 0));
+    // Events are handled while the list is read; an operator may close everything then.
+    bool wasShown = false;
+    QTimer::singleShot(0, &fixture.window, [&] {
+        wasShown = fixture.editor->isVisible();
+        QVERIFY(fixture.window.close());
+    });
+    QTest::keyClick(fixture.table, Qt::Key_Return);
+    QVERIFY(wasShown);
+    QVERIFY(!fixture.editor->isVisible());
 }
 
 void tst_ProblemDock::splitsInTwo()

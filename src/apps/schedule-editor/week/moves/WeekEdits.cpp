@@ -9,6 +9,7 @@
 
 #include <QPointer>
 #include <QTimer>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -16,10 +17,11 @@ using namespace trel::mediadispatch;
 
 namespace trel::desktop::week {
 
-WeekEdits::WeekEdits(undo::EditHistory& history, scheduleControlUI& editor, QObject* parent)
-    : QObject(parent)
+WeekEdits::WeekEdits(undo::EditHistory& history, scheduleControlUI& editor, QWidget* window)
+    : QObject(window)
     , m_history(history)
     , m_editor(editor)
+    , m_window(*window)
 {}
 
 follow::SharedTask WeekEdits::task(int taskId) const
@@ -62,6 +64,10 @@ void WeekEdits::file(const undo::TaskEdits& edits)
 
 void WeekEdits::fileInShownEditor(const undo::TaskEdits& edits)
 {
+    // Closed meanwhile; the editor alone would keep the program.
+    if (!m_window.isVisible()) {
+        return;
+    }
     m_editor.slotShow();
     if (!m_editor.isVisible()) {
         emit refused(tr("The editor is not ready yet. Please try again."));

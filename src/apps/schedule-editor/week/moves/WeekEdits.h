@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+class QWidget;
+
 namespace trel::mediadispatch {
 class scheduleControlUI;
 } // namespace trel::mediadispatch
@@ -27,9 +29,10 @@ class WeekEdits : public QObject, public EditTarget
     Q_OBJECT
 
 public:
-    /// Both outlive it.
+    /// Both outlive it. The window is that of the picture, and owns it; once it is closed, edits
+    /// that would have to show the editor are dropped.
     WeekEdits(undo::EditHistory& history, trel::mediadispatch::scheduleControlUI& editor,
-              QObject* parent);
+              QWidget* window);
 
     follow::SharedTask task(int taskId) const override;
     std::map<int, trel::mediadispatch::PlayTask> tasks() const override;
@@ -52,6 +55,7 @@ private:
 
     undo::EditHistory& m_history;
     trel::mediadispatch::scheduleControlUI& m_editor;
+    const QWidget& m_window;
 };
 
 } // namespace week
