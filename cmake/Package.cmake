@@ -87,6 +87,7 @@ install_headers(schedulecontract src/libs/trelprogramschedulewidgets
 install(FILES ${CMAKE_BINARY_DIR}/exports/service/Version.h
   DESTINATION ${include_dir}/service COMPONENT development)
 install_headers(trelprogramschedule src/libs
+  trelprogramschedule/catalogue/ProgramContent.h
   trelprogramschedule/catalogue/ProgramImporter.h
   trelprogramschedule/ScheduleHost.h
   trelprogramschedule/effect/EffectStart.h

@@ -557,6 +557,11 @@ void ScheduleService::takePrograms(StoreContents contents)
     announce(change);
 }
 
+StoreResult ScheduleService::readContents(ProgramContents& contents)
+{
+    return m_database.readContents(contents);
+}
+
 StoreResult ScheduleService::removePrograms(const std::vector<int>& progIndexes)
 {
     StoreRevision now;

@@ -120,6 +120,8 @@ public:
     void restoreTask(PlayTask task);
 
     ImportResult addPrograms(const std::vector<MediaSource>& sources);
+    /// See readStoredContents().
+    StoreResult readContents(ProgramContents& contents);
     /// Takes programs out, all in one transaction and with one announcement.
     StoreResult removePrograms(const std::vector<int>& progIndexes);
 

@@ -2,6 +2,7 @@
 #include "catalogue/ImportJob.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
+#include "trelprogramschedule/catalogue/StoredContents.h"
 
 #include <QApplication>
 #include <QDragEnterEvent>
@@ -12,6 +13,11 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTimer>
+
+#include <array>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
@@ -24,6 +30,7 @@ class tst_EditorImport : public QObject
 private slots:
     void aFolderBecomesPrograms();
     void importingAgainUpdates();
+    void contentIsReadOnce();
     void dropping_data();
     void dropping();
     void aDragWithoutFilesIsNotTaken();
@@ -74,6 +81,38 @@ void tst_EditorImport::importingAgainUpdates()
 
     QCOMPARE(fixture.window.statusBar()->currentMessage(),
              QStringLiteral("Imported: 0 new, 8 updated."));
+}
+
+// A file with size and time of change of before has the hash of before: nobody has read it.
+void tst_EditorImport::contentIsReadOnce()
+{
+    HostFixture fixture;
+    fixture.window.openDatabase(fixture.database);
+    const QString file =
+        fixture.copyMedia(QStringLiteral("media")) + QStringLiteral("/Opening.mp4");
+    const auto import = [&] {
+        waitForImport(fixture.window, [&] { fixture.window.importMedia({file}); });
+        return storedFileContents()[file];
+    };
+    const ProgramContent first = import();
+    QVERIFY(first.isKnown());
+    QCOMPARE(first.size, QFileInfo(file).size());
+
+    struct stat before = {};
+    QCOMPARE(::stat(QFile::encodeName(file).constData(), &before), 0);
+    QFile changed(file);
+    QVERIFY(changed.open(QIODevice::ReadWrite) && changed.seek(first.size - 1));
+    QVERIFY(changed.putChar('x'));
+    changed.close();
+    const std::array<timespec, 2> times = {before.st_atim, before.st_mtim};
+    QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(file).constData(), times.data(), 0), 0);
+    QCOMPARE(import().sha256, first.sha256);
+
+    const std::array<timespec, 2> later = {before.st_atim, {before.st_mtim.tv_sec + 1, 0}};
+    QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(file).constData(), later.data(), 0), 0);
+    const ProgramContent last = import();
+    QVERIFY(last.isKnown());
+    QVERIFY(last.sha256 != first.sha256);
 }
 
 void tst_EditorImport::dropping_data()

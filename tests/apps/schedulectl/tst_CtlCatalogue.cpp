@@ -4,11 +4,17 @@
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QJsonArray>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QtTest>
+
+#include <array>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 
 using namespace trel::mediadispatch;
 
@@ -29,6 +35,8 @@ private slots:
     void emptyCatalogueIsSaid();
     void programsAsJson();
     void goneFileIsMarked();
+    void changedFileIsTold();
+    void contentIsReadOnce();
     void oddNamesStayReadable();
     void removedProgramLeavesInvalidEntries();
     void removeRefusals();
@@ -41,6 +49,11 @@ private:
 };
 
 namespace {
+
+QByteArray hashOf(const QByteArray& file)
+{
+    return QCryptographicHash::hash(file, QCryptographicHash::Sha256).toHex();
+}
 
 QJsonObject first(const QJsonObject& object, const QString& member)
 {
@@ -249,6 +262,12 @@ void tst_CtlCatalogue::programsAsJson()
     QCOMPARE(programs[0][QStringLiteral("durationMs")].toDouble(), 100.0);
     QCOMPARE(programs[1][QStringLiteral("kind")].toString(), QStringLiteral("live"));
     QVERIFY(programs[1][QStringLiteral("durationMs")].isNull());
+    const QByteArray file = fixture.fileContent(QStringLiteral("one.wav"));
+    QCOMPARE(programs[0][QStringLiteral("size")].toInt(), file.size());
+    QCOMPARE(programs[0][QStringLiteral("sha256")].toString().toLatin1(), hashOf(file));
+    // Nothing is known of what is no file.
+    QVERIFY(programs[1][QStringLiteral("size")].isNull());
+    QVERIFY(programs[1][QStringLiteral("sha256")].isNull());
 }
 
 void tst_CtlCatalogue::goneFileIsMarked()
@@ -260,6 +279,64 @@ void tst_CtlCatalogue::goneFileIsMarked()
         fixture.onDatabase({kPrograms}).lines().last().endsWith(QStringLiteral("/one.wav (gone)")));
     const QJsonObject program = first(fixture.onDatabase({kPrograms, kJson}).json(), kPrograms);
     QCOMPARE(program[QStringLiteral("isGone")].toBool(), true);
+}
+
+void tst_CtlCatalogue::changedFileIsTold()
+{
+    const CtlFixture fixture;
+    const QString name = QStringLiteral("two.wav");
+    importClips(fixture, {QStringLiteral("one.wav"), name, QStringLiteral("three.wav")});
+    QVERIFY(QFile::remove(fixture.path(QStringLiteral("three.wav"))));
+    const QStringList check = {QStringLiteral("check")};
+    const QString good = fixture.onDatabase(check).text();
+    QVERIFY2(!good.contains(QStringLiteral("Changed files")), qPrintable(good));
+    // Of the same size, and with another sound.
+    QByteArray changed = fixture.fileContent(name);
+    changed[changed.size() - 1] = static_cast<char>(changed.back() ^ 1);
+    fixture.writeFile(name, changed);
+    const CtlResult told = fixture.onDatabase(check);
+    QCOMPARE(told.status, 0);
+    QCOMPARE(told.text(), good + QStringLiteral("\nChanged files:\n  Program 2, \"two\": %1 holds"
+                                                " something else than when it was imported. If"
+                                                " that is meant to play, import it again.\n")
+                                     .arg(fixture.path(name)));
+    const QJsonArray files = fixture.onDatabase(check + QStringList{kJson})
+                                 .json()[QStringLiteral("changedFiles")]
+                                 .toArray();
+    QCOMPARE(files.size(), 1);
+    QCOMPARE(files[0].toObject()[QStringLiteral("index")].toInt(), 2);
+    QCOMPARE(fixture.onDatabase({kImport, name}).status, 0);
+    QCOMPARE(fixture.onDatabase(check).text(), good);
+    const QJsonArray programs = fixture.onDatabase({kPrograms, kJson}).json()[kPrograms].toArray();
+    QCOMPARE(programs[1].toObject()[QStringLiteral("sha256")].toString().toLatin1(),
+             hashOf(changed));
+}
+
+// Of a file with size and time of before, the hash of before: nobody has read it.
+void tst_CtlCatalogue::contentIsReadOnce()
+{
+    const CtlFixture fixture;
+    const QString name = QStringLiteral("one.wav");
+    importClips(fixture, {name});
+    const QByteArray file = QFile::encodeName(fixture.path(name));
+    const QByteArray former = fixture.fileContent(name);
+    struct stat before = {};
+    QCOMPARE(::stat(file.constData(), &before), 0);
+    QByteArray changed = former;
+    changed[changed.size() - 1] = static_cast<char>(changed.back() ^ 1);
+    fixture.writeFile(name, changed);
+    const std::array<timespec, 2> times = {before.st_atim, before.st_mtim};
+    QCOMPARE(::utimensat(AT_FDCWD, file.constData(), times.data(), 0), 0);
+    const auto hash = [&fixture] {
+        const QJsonObject json = fixture.onDatabase({kPrograms, kJson}).json();
+        return first(json, kPrograms)[QStringLiteral("sha256")].toString().toLatin1();
+    };
+    QCOMPARE(fixture.onDatabase({kImport, name}).status, 0);
+    QCOMPARE(hash(), hashOf(former));
+    // Written once more, it has another time.
+    fixture.writeFile(name, changed);
+    QCOMPARE(fixture.onDatabase({kImport, name}).status, 0);
+    QCOMPARE(hash(), hashOf(changed));
 }
 
 void tst_CtlCatalogue::oddNamesStayReadable()

@@ -284,6 +284,7 @@ void tst_CtlSchedule::checkAsJson()
         (QJsonObject{
             {QStringLiteral("database"), m_fixture->database()},
             {QStringLiteral("saveWouldBeRefused"), true},
+            {QStringLiteral("changedFiles"), QJsonArray()},
             {QStringLiteral("overlaps"),
              QJsonArray{QJsonObject{{QStringLiteral("tasks"), QJsonArray{1, 2}}}}},
             // As a byte string "8:30" comes behind every time of the day, so the plan is inverted.

@@ -25,6 +25,7 @@
 #include <service/WeekDays.h>
 #include <service/scheduleManage.h>
 #include <trelprogramschedule/ScheduleHost.h>
+#include <trelprogramschedule/catalogue/ProgramContent.h>
 #include <trelprogramschedule/catalogue/ProgramImporter.h>
 #include <trelprogramschedule/catalogue/ShownAddress.h>
 #include <trelprogramschedule/dispatch/ClockChanges.h>

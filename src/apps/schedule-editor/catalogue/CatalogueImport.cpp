@@ -8,6 +8,7 @@
 #include "catalogue/MediaFilters.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
+#include "trelprogramschedule/catalogue/StoredContents.h"
 
 #include <QFileInfo>
 #include <QLabel>
@@ -58,7 +59,7 @@ void CatalogueImport::run(const QStringList& paths)
     if (paths.isEmpty() || m_job != nullptr) {
         return;
     }
-    m_job = new ImportJob(paths, this);
+    m_job = new ImportJob(paths, this, storedFileContents());
     showProgress();
     followJob();
     m_job->start();

@@ -53,19 +53,19 @@ struct ImportJob::Work
     ImportScan scan;
 };
 
-ImportJob::ImportJob(const QStringList& paths, QObject* parent)
+ImportJob::ImportJob(const QStringList& paths, QObject* parent, const FileContents& known)
     : QObject(parent)
     , m_work(std::make_shared<Work>())
 {
     m_work->job = this;
-    m_thread.reset(QThread::create([work = m_work, paths] {
+    m_thread.reset(QThread::create([work = m_work, paths, known] {
         work->scan = scanMedia(
             paths,
             [&work](int done, int total, const QString& path) {
                 return work->progress(done, total, path);
             },
             [&work](int found) { return work->search(found); },
-            [&work] { return work->isCancelled.load(); });
+            [&work] { return work->isCancelled.load(); }, known);
     }));
     connect(this, &ImportJob::searched, this, [this] { m_work->isTelling = false; });
     connect(m_thread.get(), &QThread::finished, this, &ImportJob::finish);

@@ -18,7 +18,9 @@ class ImportJob : public QObject
     Q_OBJECT
 
 public:
-    explicit ImportJob(const QStringList& paths, QObject* parent = nullptr);
+    /// Files are not read for their hash once more that are as they are known.
+    explicit ImportJob(const QStringList& paths, QObject* parent = nullptr,
+                       const trel::mediadispatch::FileContents& known = {});
     ~ImportJob() override;
 
     void start();

@@ -9,6 +9,7 @@
 #include "text/TextTable.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 #include "trelprogramschedule/catalogue/ShownAddress.h"
+#include "trelprogramschedule/catalogue/StoredContents.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 
 using namespace trel::hosts;
@@ -71,11 +72,13 @@ ExitStatus run(const Invocation& invocation, Console& console)
     if (!database) {
         return Refused;
     }
-    const ImportScan scan =
-        scanMedia(invocation.arguments, [&console](int done, int total, const QString& path) {
+    const ImportScan scan = scanMedia(
+        invocation.arguments,
+        [&console](int done, int total, const QString& path) {
             console.showProgress(done + 1, total, shownAddress(path));
             return true;
-        });
+        },
+        {}, {}, storedFileContents());
     for (const ImportRefusal& refusal : scan.refusals) {
         console.tell(QStringLiteral("%1: %2").arg(printable(shownAddress(refusal.path)),
                                                   englishSentence(refusal.fault)));
@@ -114,6 +117,8 @@ Command importCommand()
 which every media file is taken with everything below it, or the address of a
 live source such as rtsp://host/stream. A file that is in the catalog already
 is read again and keeps its index, so importing a folder twice is harmless.
+Size and SHA-256 of each file are kept with its program; what has the size and
+the time of change that it had then is not read for them again.
 The database is made when it does not exist.
 
 What cannot become a program is refused: it is listed on the standard error with

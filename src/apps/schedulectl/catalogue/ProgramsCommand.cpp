@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include "Database.h"
+#include "KnownContents.h"
 #include "ProgramReport.h"
 #include "common/DisplayText.h"
 #include "schedule/ScheduleWords.h"
@@ -17,6 +18,19 @@ namespace {
 
 using Programs = std::map<int, ProgramIten>;
 
+/// A program with what is known of its file.
+QJsonObject programJson(const ProgramIten& program, const ProgramContents& contents)
+{
+    QJsonObject object = console::programJson(program);
+    const auto content = contents.find(program.progIndex);
+    const bool isKnown = content != contents.end();
+    object.insert(QStringLiteral("size"),
+                  isKnown ? QJsonValue(content->second.size) : QJsonValue());
+    object.insert(QStringLiteral("sha256"),
+                  isKnown ? QJsonValue(QString::fromLatin1(content->second.sha256)) : QJsonValue());
+    return object;
+}
+
 ExitStatus run(const Invocation& invocation, Console& console)
 {
     const auto database =
@@ -26,9 +40,13 @@ ExitStatus run(const Invocation& invocation, Console& console)
     }
     const Programs programs = database->programs();
     if (invocation.json) {
+        const auto contents = knownContents(invocation, console);
+        if (!contents) {
+            return Refused;
+        }
         QJsonArray array;
         for (const auto& [index, program] : programs) {
-            array.append(programJson(program));
+            array.append(programJson(program, *contents));
         }
         console.writeJson(
             {{QStringLiteral("database"), database->path()}, {QStringLiteral("programs"), array}});

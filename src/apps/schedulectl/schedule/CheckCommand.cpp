@@ -1,8 +1,12 @@
 #include "Commands.h"
 
+#include "ContentCheck.h"
 #include "Database.h"
 #include "ScheduleReport.h"
+#include "catalogue/KnownContents.h"
+#include "catalogue/ProgramReport.h"
 #include "text/Console.h"
+#include "trelprogramschedule/catalogue/ShownAddress.h"
 
 using namespace trel::mediadispatch;
 
@@ -17,13 +21,25 @@ ExitStatus run(const Invocation& invocation, Console& console)
         return Refused;
     }
     const auto tasks = database->tasks();
-    const ScheduleCheck check = checkSchedule(tasks, database->catalogue());
+    const Catalogue catalogue = database->catalogue();
+    const ScheduleCheck check = checkSchedule(tasks, catalogue);
+    const auto contents = knownContents(invocation, console);
+    if (!contents) {
+        return Refused;
+    }
+    const std::vector<int> changed = changedContents(
+        catalogue.programs, *contents, [&](int done, int total, const QString& path) {
+            console.showProgress(done + 1, total, shownAddress(path));
+        });
     if (invocation.json) {
         QJsonObject object = checkJson(check, tasks);
         object.insert(QStringLiteral("database"), database->path());
+        object.insert(QStringLiteral("changedFiles"), programsJson(changed, catalogue.programs));
         console.writeJson(object);
     } else {
+        const QString inFiles = changedContentsText(changed, catalogue.programs);
         console.write(checkText(check, tasks));
+        console.write(inFiles.isEmpty() ? inFiles : QLatin1Char('\n') + inFiles);
     }
     return check.isClean() ? Done : Refused;
 }
@@ -51,6 +67,10 @@ in the same words, and in the same order:
     before they begin, days, modes and end actions that are none, lists that
     run less than once.
 Tasks that are over are looked at as well.
+
+Behind that it lists the programs whose files hold something else than when they
+were imported, by size and SHA-256. A file is read for this only where its time
+of change is another one.
 
 The exit status is 0 when there are neither overlaps nor conflicts, and 1
 otherwise. Nothing else counts.)",

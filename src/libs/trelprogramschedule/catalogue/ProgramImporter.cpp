@@ -1,5 +1,6 @@
 #include "ProgramImporter.h"
 
+#include "ContentReader.h"
 #include "ShownAddress.h"
 #include "media/MediaReaderClient.h"
 
@@ -221,7 +222,7 @@ void scanAddress(const QString& address, ImportScan& scan)
         scan.refusals.push_back({address, {FaultCode::RemoteFile, {}}});
         return;
     }
-    scan.sources.push_back({shownAddress(address), address, 0.0, ProgramKind::Live});
+    scan.sources.push_back({shownAddress(address), address, 0.0, ProgramKind::Live, {}});
 }
 
 /// The base name; all of it where there is nothing in front of the suffix.
@@ -233,7 +234,7 @@ QString shownName(const QFileInfo& info)
 
 /// Looks at one file. False when that was cancelled, and nothing came of it.
 bool scanFile(const Candidate& candidate, MediaReaderClient& reader,
-              const ImportCancelled& isCancelled, ImportScan& scan)
+              const ImportCancelled& isCancelled, const FileContents& known, ImportScan& scan)
 {
     const QFileInfo info(candidate.path);
     const bool isMediaByName = isNamedAsMedia(candidate.path);
@@ -244,10 +245,15 @@ bool scanFile(const Candidate& candidate, MediaReaderClient& reader,
     }
     const MediaFacts facts = reader.facts(candidate.path, isMediaByName, isCancelled);
     if (!facts.fault) {
-        if (facts.kind != ProgramKind::Other) {
-            scan.sources.push_back({shownName(info), candidate.path, facts.durationMs, facts.kind});
+        if (facts.kind == ProgramKind::Other) {
+            return false;
         }
-        return facts.kind != ProgramKind::Other;
+        const auto before = known.find(candidate.path);
+        const ProgramContent content = readContent(
+            candidate.path, before == known.end() ? ProgramContent() : before->second, isCancelled);
+        scan.sources.push_back(
+            {shownName(info), candidate.path, facts.durationMs, facts.kind, content});
+        return !isCancelled || !isCancelled();
     }
     if (candidate.isNamed || isMediaByName) {
         scan.refusals.push_back({candidate.path, facts.fault});
@@ -298,7 +304,8 @@ QStringList mediaSuffixes(ProgramKind kind)
 }
 
 ImportScan scanMedia(const QStringList& paths, const ImportProgress& progress,
-                     const ImportSearch& search, const ImportCancelled& isCancelled)
+                     const ImportSearch& search, const ImportCancelled& isCancelled,
+                     const FileContents& known)
 {
     ImportScan scan;
     Walk walk(search);
@@ -318,7 +325,7 @@ ImportScan scanMedia(const QStringList& paths, const ImportProgress& progress,
         }
         if (isAddress(candidate.path)) {
             scanAddress(candidate.path, scan);
-        } else if (!scanFile(candidate, reader, isCancelled, scan)) {
+        } else if (!scanFile(candidate, reader, isCancelled, known, scan)) {
             scan.cancelled = true;
             return scan;
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "service/ScheduleRecords.h"
+#include "trelprogramschedule/catalogue/ProgramContent.h"
 #include "trelprogramschedule/faults/Fault.h"
 #include "trelprogramschedule_export.h"
 
@@ -20,6 +21,7 @@ struct MediaSource
     QString path;                          ///< Absolute and clean, or the address of a live source.
     double durationMs = 0.0;               ///< 0 for images and live sources.
     ProgramKind kind = ProgramKind::Other; ///< What it is made of.
+    ProgramContent content = {};           ///< What the file holds; not known of a live source.
 };
 
 /// A path that could not become a program.
@@ -61,9 +63,14 @@ TRELPROGRAMSCHEDULE_EXPORT QStringList mediaSuffixes(ProgramKind kind);
 /// Files are read by a program of its own, as mediaReading() says, so that whatever a file holds
 /// costs no more than that file, which is refused. A name that is not UTF-8, which no program could
 /// be found by later, is a refusal as well, wherever it is found.
+///
+/// All bytes of what becomes a program are read for its hash, in constant memory, unless its size
+/// and its time of change are those that are known. A file that is changed meanwhile, or cannot be
+/// read to its end, becomes a program whose content is not known.
 TRELPROGRAMSCHEDULE_EXPORT ImportScan scanMedia(const QStringList& paths,
                                                 const ImportProgress& progress = {},
                                                 const ImportSearch& search = {},
-                                                const ImportCancelled& isCancelled = {});
+                                                const ImportCancelled& isCancelled = {},
+                                                const FileContents& known = {});
 
 } // namespace trel::mediadispatch

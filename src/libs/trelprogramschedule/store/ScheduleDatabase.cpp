@@ -5,6 +5,7 @@
 #include "StoreCatalogue.h"
 #include "StoreEffect.h"
 #include "StoreEngines.h"
+#include "StoreProgramContents.h"
 #include "StoreRefusals.h"
 #include "StoreRevisions.h"
 #include "StoreTaskReader.h"
@@ -260,6 +261,11 @@ StoreResult ScheduleDatabase::removePrograms(const std::vector<int>& progIndexes
             transaction.commit();
         }
     });
+}
+
+StoreResult ScheduleDatabase::readContents(ProgramContents& contents)
+{
+    return readWith([&] { contents = StoreProgramContents(connection()).read(); });
 }
 
 StoreResult ScheduleDatabase::readEffect(StoredEffect& effect)

@@ -4,6 +4,7 @@
 #include "StoreResult.h"
 #include "StoredEffect.h"
 #include "TaskSets.h"
+#include "catalogue/ProgramContent.h"
 #include "trelprogramschedule/history/ScheduleVersion.h"
 
 #include <QString>
@@ -73,6 +74,8 @@ public:
     /// Takes programs out, all of them or none; an index that is not in the catalogue changes
     /// nothing. Gives the revisions after that.
     StoreResult removePrograms(const std::vector<int>& progIndexes, StoreRevision& revision);
+    /// Reads what is known of the files of programs; nothing in a store of a former schema.
+    StoreResult readContents(ProgramContents& contents);
     /// Reads what is in effect.
     StoreResult readEffect(StoredEffect& effect);
     /// Puts the saved tasks into effect, as they are in the store now, and gives what is in effect

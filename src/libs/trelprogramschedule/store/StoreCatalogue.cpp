@@ -2,6 +2,7 @@
 
 #include "ScheduleLimits.h"
 #include "StoreConnection.h"
+#include "StoreProgramContents.h"
 #include "StoreRefusals.h"
 #include "StoreValues.h"
 #include "catalogue/ProgramImporter.h"
@@ -103,6 +104,7 @@ void StoreCatalogue::put(const std::vector<MediaSource>& sources, ImportResult& 
         putOne(source, result);
     }
     m_inserts->finish();
+    StoreProgramContents(m_connection).put(m_contents);
 }
 
 void StoreCatalogue::find(const std::vector<MediaSource>& sources)
@@ -142,12 +144,14 @@ void StoreCatalogue::putOne(const MediaSource& source, ImportResult& result)
         }
         bindFrom(0, m_update, bytes(source.name), duration, kind, index);
         m_connection.exec(m_update);
+        m_contents[index] = source.content;
         return;
     }
     const int index = giveOutIndex();
     m_inserts->put({index, bytes(source.name), bytes(source.path), duration, kind});
     m_known.emplace(bytes(source.path), index);
     m_done.insert(index);
+    m_contents[index] = source.content;
     result.added.push_back(index);
 }
 

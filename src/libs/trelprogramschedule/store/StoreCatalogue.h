@@ -3,6 +3,7 @@
 #include "StoreContents.h"
 #include "StoreInserts.h"
 #include "StoreResult.h"
+#include "catalogue/ProgramContent.h"
 
 #include <QByteArray>
 #include <QSqlQuery>
@@ -27,7 +28,8 @@ public:
     void read(StoreContents& contents) const;
     /// Reads some programs; an index that is not in the catalogue is passed over.
     void read(const std::vector<int>& indexes, StoreContents& contents) const;
-    /// Updates the programs of the same paths or makes new ones; a path may come twice.
+    /// Updates the programs of the same paths or makes new ones, with what their files hold; a path
+    /// may come twice.
     void put(const std::vector<MediaSource>& sources, ImportResult& result);
     /// False when there is none of these programs.
     bool remove(const std::vector<int>& progIndexes);
@@ -46,6 +48,7 @@ private:
     int m_nextIndex;
     std::map<QByteArray, int> m_known; ///< Of the paths that are put, the indexes.
     std::set<int> m_done;              ///< What was put so far; a path may come twice.
+    ProgramContents m_contents;        ///< Of what was put, also of what holds nothing known.
     QSqlQuery m_update;
     std::unique_ptr<StoreInserts> m_inserts;
 };

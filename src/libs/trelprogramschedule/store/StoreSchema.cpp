@@ -18,6 +18,8 @@ namespace {
 constexpr int kEffectVersion = 2;
 /// The first version that has tables for former states of what is saved.
 constexpr int kHistoryVersion = 3;
+/// The first version that has a table for what the files of programs hold.
+constexpr int kContentVersion = 4;
 
 /// Tables for the plans of what another table holds under the name of its key.
 QStringList planStatements(const QString& prefix, const QString& owner)
@@ -131,6 +133,17 @@ QStringList historyStatements()
                        " '' FROM store")};
 }
 
+/// What the files of programs held when they were read.
+QStringList contentStatements()
+{
+    // No row where it is not known, as of all programs at first.
+    return {QStringLiteral("CREATE TABLE program_content ("
+                           " prog_index INTEGER PRIMARY KEY REFERENCES program,"
+                           " size_bytes INTEGER NOT NULL,"
+                           " modified_ns INTEGER NOT NULL,"
+                           " sha256 TEXT NOT NULL) STRICT")};
+}
+
 } // namespace
 
 const std::vector<StoreSchema::Step>& StoreSchema::steps()
@@ -197,6 +210,7 @@ const std::vector<StoreSchema::Step>& StoreSchema::steps()
                          " ON DELETE CASCADE) STRICT, WITHOUT ROWID")}},
         {kEffectVersion, effectStatements()},
         {kHistoryVersion, historyStatements()},
+        {kContentVersion, contentStatements()},
     };
     return steps;
 }
@@ -219,6 +233,11 @@ bool StoreSchema::hasEffect(const StoreConnection& connection)
 bool StoreSchema::hasHistory(const StoreConnection& connection)
 {
     return connection.schemaVersion() >= kHistoryVersion;
+}
+
+bool StoreSchema::hasContents(const StoreConnection& connection)
+{
+    return connection.schemaVersion() >= kContentVersion;
 }
 
 const StoreElements& StoreSchema::expectedElements(const StoreConnection& connection)

@@ -24,6 +24,8 @@ public:
     static bool hasEffect(const StoreConnection& connection);
     /// Whether there are tables for former states of what is saved.
     static bool hasHistory(const StoreConnection& connection);
+    /// Whether there is a table for what the files of programs hold.
+    static bool hasContents(const StoreConnection& connection);
     /// Takes a database, an empty one too, to the newest version, each step in one transaction.
     /// What is no empty one has to have passed checkElements.
     static void migrate(const StoreConnection& connection);

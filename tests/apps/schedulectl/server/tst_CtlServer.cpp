@@ -224,12 +224,14 @@ void tst_CtlServer::tellsWhoIsTooOldOrTooNew()
         QCOMPARE(result.status, 1);
         QVERIFY2(result.err.contains(QLatin1String("newer version")), qPrintable(result.err));
     }
-    QVERIFY(!m_server
-                 ->run(QStringLiteral("SET search_path = %1; DROP TABLE version_part, version;"
-                                      "ALTER TABLE store DROP version_revision;"
-                                      "UPDATE seal SET version = 2")
-                           .arg(kSchema))
-                 .isNull());
+    QVERIFY(
+        !m_server
+             ->run(QStringLiteral(
+                       "SET search_path = %1; DROP TABLE program_content, version_part, version;"
+                       "ALTER TABLE store DROP version_revision;"
+                       "UPDATE seal SET version = 2")
+                       .arg(kSchema))
+             .isNull());
     const CtlResult result = ask("show");
     QCOMPARE(result.status, 1);
     QVERIFY2(result.err.contains(QLatin1String("set up the server again")), qPrintable(result.err));

@@ -4,6 +4,7 @@
 #include "support/TestProgram.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -91,6 +92,8 @@ private slots:
     void refusedAddresses();
     void relativePathsAndFileAddresses();
     void progressAndCancel();
+    void contentsComeWithTheSources();
+    void cancelledWhileContentIsRead();
     void searchTellsEveryEntry();
     void searchIsCancelledAtAnyEntry();
     void runsOnOtherThreads();
@@ -374,6 +377,52 @@ void tst_ProgramImporter::progressAndCancel()
     QVERIFY(stopped.cancelled);
     QCOMPARE(stopped.sources.size(), std::size_t(2));
     QCOMPARE(calls.size(), 3);
+}
+
+void tst_ProgramImporter::contentsComeWithTheSources()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("one.wav"));
+    QVERIFY(media::makeWav(file, 100));
+    QFile read(file);
+    QVERIFY(read.open(QIODevice::ReadOnly));
+    const QByteArray hash =
+        QCryptographicHash::hash(read.readAll(), QCryptographicHash::Sha256).toHex();
+    const QStringList paths = {file, QStringLiteral("rtsp://camera/1")};
+    const ImportScan scan = scanMedia(paths);
+    QCOMPARE(scan.sources.size(), std::size_t(2));
+    QCOMPARE(scan.sources[0].content.size, QFileInfo(file).size());
+    QCOMPARE(scan.sources[0].content.sha256, hash);
+    QVERIFY(!scan.sources[1].content.isKnown());
+
+    // What is known of another path does not count.
+    ProgramContent known = scan.sources[0].content;
+    known.sha256 = QByteArray(64, 'a');
+    QCOMPARE(scanMedia(paths, {}, {}, {}, {{file, known}}).sources[0].content.sha256, known.sha256);
+    QCOMPARE(
+        scanMedia(paths, {}, {}, {}, {{file + QLatin1Char('x'), known}}).sources[0].content.sha256,
+        hash);
+}
+
+void tst_ProgramImporter::cancelledWhileContentIsRead()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("one.wav"));
+    QVERIFY(media::makeWav(file, 100));
+    constexpr int parts = 4;
+    QFile large(file);
+    QVERIFY(large.open(QIODevice::Append));
+    QCOMPARE(large.write(QByteArray(parts * 1024 * 1024, 'a')), qint64(parts) * 1024 * 1024);
+    large.close();
+    // How often is asked before the bytes are read is a matter of time.
+    int asked = 0;
+    bool wasCancelled = true;
+    for (int last = 1; wasCancelled; ++last) {
+        asked = 0;
+        wasCancelled = scanMedia({file}, {}, {}, [&] { return ++asked >= last; }).cancelled;
+        QCOMPARE(wasCancelled, asked >= last);
+    }
+    QVERIFY2(asked > parts, qPrintable(QString::number(asked)));
 }
 
 void tst_ProgramImporter::searchTellsEveryEntry()

@@ -392,6 +392,7 @@ void tst_StoreVersions::formerSchemasAreTakenOver_data()
     QTest::addColumn<bool>("isInEffect");
     QTest::newRow("1") << QFINDTESTDATA("../stores/store-1.db") << false;
     QTest::newRow("2") << QFINDTESTDATA("../stores/store-2.db") << true;
+    QTest::newRow("3") << QFINDTESTDATA("../stores/store-3.db") << true;
 }
 
 void tst_StoreVersions::formerSchemasAreTakenOver()

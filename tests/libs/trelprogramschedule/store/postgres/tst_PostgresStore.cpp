@@ -396,7 +396,8 @@ void tst_PostgresStore::isRefusedInWords_data()
     row("newer", "UPDATE seal SET version = version + 1", StoreProblem::NewerSchema,
         "newer version");
     row("older",
-        "DROP TABLE version_part, version; ALTER TABLE store DROP version_revision;"
+        "DROP TABLE program_content, version_part, version; ALTER TABLE store DROP "
+        "version_revision;"
         "UPDATE seal SET version = 2",
         StoreProblem::Altered, "set up the server again");
     row("no seal", "DELETE FROM seal", StoreProblem::Damaged, "row that must be there");
@@ -487,12 +488,14 @@ void tst_PostgresStore::setUpBringsAnOlderSchemaUp()
     qint64 revision = 0;
     DONE(desk.writeTasks(tasks, editsFor(tasks), revision));
     desk.close();
-    QVERIFY(!m_server
-                 ->run(QStringLiteral("SET search_path = %1; DROP TABLE version_part, version;"
-                                      "ALTER TABLE store DROP version_revision;"
-                                      "UPDATE seal SET version = 2")
-                           .arg(kSchema))
-                 .isNull());
+    QVERIFY(
+        !m_server
+             ->run(QStringLiteral(
+                       "SET search_path = %1; DROP TABLE program_content, version_part, version;"
+                       "ALTER TABLE store DROP version_revision;"
+                       "UPDATE seal SET version = 2")
+                       .arg(kSchema))
+             .isNull());
     DONE(PostgresSetup::run(StorePlace(address())));
     OPEN(desk, address(), StoreOpenMode::MustExist);
     StoreContents contents;
