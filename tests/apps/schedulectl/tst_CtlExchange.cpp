@@ -29,6 +29,7 @@ private slots:
     void importMakesADatabase();
     void importTellsWhatIsOdd();
     void importNamesDatesThatAreNone();
+    void importWarnsOfOtherNames();
     void badFilesChangeNothing_data();
     void badFilesChangeNothing();
     void aPipeIsReadToItsEnd();
@@ -211,6 +212,24 @@ void tst_CtlExchange::importNamesDatesThatAreNone()
                                  "yyyy.MM.dd, so the task is never valid.")) +
                  told(QStringLiteral("Task 7, endDate: \"soon\" is not a date in the form "
                                      "yyyy.MM.dd, so the task is never valid.")));
+}
+
+void tst_CtlExchange::importWarnsOfOtherNames()
+{
+    const CtlFixture fixture;
+    for (const char* clip : {"News", "Weather"}) {
+        const QString name = QLatin1String(clip) + QStringLiteral(".wav");
+        fixture.writeClip(name, 100);
+        QCOMPARE(fixture.onDatabase({QStringLiteral("import"), name}).status, 0);
+    }
+    PlayPlan plan = timePlan(1, "08:00:00", "09:00:00", "", 1);
+    plan.programs = {{1, false, "News", 1}, {2, false, "Sports", 1}};
+    fixture.writeFile(kFile, scheduleToJson({{1, januaryTask(1, {plan})}}));
+    const CtlResult result = fixture.onDatabase({kImportSchedule, kFile});
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.err, told(QStringLiteral("Program 2 is \"Sports\" in this schedule, and"
+                                             " \"Weather\" in the catalog: what plays is the"
+                                             " latter.")));
 }
 
 void tst_CtlExchange::badFilesChangeNothing_data()

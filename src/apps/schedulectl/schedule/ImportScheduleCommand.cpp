@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include "Database.h"
+#include "OtherNames.h"
 #include "ScheduleReport.h"
 #include "common/DisplayText.h"
 #include "common/PatientFile.h"
@@ -117,6 +118,9 @@ void tellOddities(Console& console, const std::map<int, PlayTask>& tasks,
                            "entries are invalid: %1.")
                 .arg(numbersText(missing)));
     }
+    for (const QString& text : otherNamesTexts(otherNames(tasks, programs))) {
+        console.tell(text);
+    }
 }
 
 ExitStatus run(const Invocation& invocation, Console& console)
@@ -168,7 +172,8 @@ place, and the database is left as it was. A schedule with overlapping tasks is
 taken, since it can be put right in the editor; "schedulectl check" finds them.
 Dates that are none are named with their task, and taken as well.
 Entries of programs that the catalog does not have become invalid, so import
-the programs first, in the order of their indexes.)",
+the programs first, in the order of their indexes. Programs that have another
+name in the catalog than in FILE are named: the index counts.)",
             run};
 }
 
