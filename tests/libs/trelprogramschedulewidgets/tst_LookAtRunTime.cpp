@@ -444,7 +444,7 @@ void tst_LookAtRunTime::stylesMayComeAndGo()
     editor.put(windows);
     const QImage other = editor.picture();
     QVERIFY(other != first);
-    for (int round = 0; round < 10; ++round) {
+    for (int round = 0; round < 4; ++round) {
         // States change in between, under the one as under the other.
         bar(editor.card(0)).setChecked(true);
         emit editor.list().sigGetMapCount(3);
