@@ -1848,8 +1848,8 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>Protokolliert bis %1.</translation>
     </message>
     <message>
-        <source>Only the first %L1 lines of the day are shown.</source>
-        <translation>Nur die ersten %L1 Zeilen des Tages werden gezeigt.</translation>
+        <source>Only the first %1 lines of the day are shown.</source>
+        <translation>Nur die ersten %1 Zeilen des Tages werden gezeigt.</translation>
     </message>
     <message>
         <source>No record tells why</source>

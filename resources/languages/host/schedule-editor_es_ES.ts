@@ -1848,8 +1848,8 @@ What do you want to do with your changes?</source>
         <translation>Registrado hasta las %1.</translation>
     </message>
     <message>
-        <source>Only the first %L1 lines of the day are shown.</source>
-        <translation>Solo se muestran las primeras %L1 líneas del día.</translation>
+        <source>Only the first %1 lines of the day are shown.</source>
+        <translation>Solo se muestran las primeras %1 líneas del día.</translation>
     </message>
     <message>
         <source>No record tells why</source>

@@ -1848,8 +1848,8 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>Consigné jusqu’à %1.</translation>
     </message>
     <message>
-        <source>Only the first %L1 lines of the day are shown.</source>
-        <translation>Seules les %L1 premières lignes du jour sont affichées.</translation>
+        <source>Only the first %1 lines of the day are shown.</source>
+        <translation>Seules les %1 premières lignes du jour sont affichées.</translation>
     </message>
     <message>
         <source>No record tells why</source>

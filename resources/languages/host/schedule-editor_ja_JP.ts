@@ -1824,8 +1824,8 @@ What do you want to do with your changes?</source>
         <translation>%1 まで記録されています。</translation>
     </message>
     <message>
-        <source>Only the first %L1 lines of the day are shown.</source>
-        <translation>この日の最初の %L1 行だけを表示しています。</translation>
+        <source>Only the first %1 lines of the day are shown.</source>
+        <translation>この日の最初の %1 行だけを表示しています。</translation>
     </message>
     <message>
         <source>No record tells why</source>

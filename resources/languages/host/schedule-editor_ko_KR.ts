@@ -1824,8 +1824,8 @@ What do you want to do with your changes?</source>
         <translation>%1까지 기록되었습니다.</translation>
     </message>
     <message>
-        <source>Only the first %L1 lines of the day are shown.</source>
-        <translation>이 날의 처음 %L1줄만 표시됩니다.</translation>
+        <source>Only the first %1 lines of the day are shown.</source>
+        <translation>이 날의 처음 %1줄만 표시됩니다.</translation>
     </message>
     <message>
         <source>No record tells why</source>

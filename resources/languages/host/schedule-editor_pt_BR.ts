@@ -1848,8 +1848,8 @@ O que deseja fazer com as alterações?</translation>
         <translation>Registrado até %1.</translation>
     </message>
     <message>
-        <source>Only the first %L1 lines of the day are shown.</source>
-        <translation>Apenas as primeiras %L1 linhas do dia são exibidas.</translation>
+        <source>Only the first %1 lines of the day are shown.</source>
+        <translation>Apenas as primeiras %1 linhas do dia são exibidas.</translation>
     </message>
     <message>
         <source>No record tells why</source>

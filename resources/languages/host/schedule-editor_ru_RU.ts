@@ -1872,8 +1872,8 @@ What do you want to do with your changes?</source>
         <translation>Записано до %1.</translation>
     </message>
     <message>
-        <source>Only the first %L1 lines of the day are shown.</source>
-        <translation>Показаны только первые %L1 строк дня.</translation>
+        <source>Only the first %1 lines of the day are shown.</source>
+        <translation>Показаны только первые %1 строк дня.</translation>
     </message>
     <message>
         <source>No record tells why</source>

@@ -1824,8 +1824,8 @@ What do you want to do with your changes?</source>
         <translation>记录到 %1 为止。</translation>
     </message>
     <message>
-        <source>Only the first %L1 lines of the day are shown.</source>
-        <translation>只显示当天的前 %L1 行。</translation>
+        <source>Only the first %1 lines of the day are shown.</source>
+        <translation>只显示当天的前 %1 行。</translation>
     </message>
     <message>
         <source>No record tells why</source>

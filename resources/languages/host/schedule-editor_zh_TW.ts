@@ -1824,8 +1824,8 @@ What do you want to do with your changes?</source>
         <translation>記錄到 %1 為止。</translation>
     </message>
     <message>
-        <source>Only the first %L1 lines of the day are shown.</source>
-        <translation>只顯示當天的前 %L1 列。</translation>
+        <source>Only the first %1 lines of the day are shown.</source>
+        <translation>只顯示當天的前 %1 列。</translation>
     </message>
     <message>
         <source>No record tells why</source>

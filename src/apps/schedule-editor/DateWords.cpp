@@ -5,6 +5,7 @@
 #include "service/ScheduleRecords.h"
 
 #include <QDateTime>
+#include <QLocale>
 
 using trel::mediadispatch::Clock;
 using trel::mediadispatch::Instant;
@@ -20,6 +21,11 @@ QString dateText(const QDate& date)
 QString dayText(const QDate& date)
 {
     return leftToRight(date.toString(QStringLiteral("MM.dd")));
+}
+
+QString weekdayText(const QDate& date, const QLocale& locale)
+{
+    return QStringLiteral("%1, %2").arg(locale.standaloneDayName(date.dayOfWeek()), dateText(date));
 }
 
 QString dateAndTimeText(const QDateTime& moment)

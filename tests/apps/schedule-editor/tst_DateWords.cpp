@@ -19,6 +19,8 @@ private slots:
     void cleanup() { QLocale::setDefault(QLocale::c()); }
     void areTheSameInAllLanguages_data();
     void areTheSameInAllLanguages();
+    void aDayHasItsNameInTheLanguage_data();
+    void aDayHasItsNameInTheLanguage();
     void aDateStandsWhereItIsAnother();
 };
 
@@ -38,6 +40,20 @@ void tst_DateWords::areTheSameInAllLanguages()
     QCOMPARE(dateText(moment.date()), QStringLiteral("\u20662026.03.08\u2069"));
     QCOMPARE(dayText(moment.date()), QStringLiteral("\u206603.08\u2069"));
     QCOMPARE(dateAndTimeText(moment), QStringLiteral("\u20662026.03.08 09:05\u2069"));
+}
+
+void tst_DateWords::aDayHasItsNameInTheLanguage_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("en_US") << QStringLiteral("Monday, \u20662026.11.30\u2069");
+    QTest::newRow("de_DE") << QStringLiteral("Montag, \u20662026.11.30\u2069");
+    QTest::newRow("zh_CN") << QStringLiteral("星期一, \u20662026.11.30\u2069");
+}
+
+void tst_DateWords::aDayHasItsNameInTheLanguage()
+{
+    const QLocale locale(QString::fromLatin1(QTest::currentDataTag()));
+    QTEST(weekdayText(QDate(2026, 11, 30), locale), "text");
 }
 
 void tst_DateWords::aDateStandsWhereItIsAnother()

@@ -42,8 +42,9 @@ void AsRunModel::choose()
     }
 }
 
-void AsRunModel::retranslate()
+void AsRunModel::retranslate(const QLocale& locale)
 {
+    m_locale = locale;
     emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
     if (!m_rows.empty()) {
         emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
@@ -82,7 +83,7 @@ QString AsRunModel::text(const AsRunLine& line, int column) const
     case ShownColumn:
         return AsRunText::shown(line);
     default:
-        return AsRunText::remark(line);
+        return AsRunText::remark(line, m_locale);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "trelprogramschedule/dispatch/MomentFormat.h"
 
 #include <QAbstractTableModel>
+#include <QLocale>
 
 #include <vector>
 
@@ -23,7 +24,8 @@ public:
     void setDay(std::vector<AsRunLine> lines, const QDate& date, const QTimeZone& zone);
     /// Leaves out what was as planned.
     void setOnlyDeviations(bool isOnly);
-    void retranslate();
+    /// Numbers are written as this language has them.
+    void retranslate(const QLocale& locale);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -39,6 +41,7 @@ private:
     QDate m_date;
     mediadispatch::MomentFormat m_local;
     bool m_isOnlyDeviations = false;
+    QLocale m_locale;
 };
 
 } // namespace trel::desktop

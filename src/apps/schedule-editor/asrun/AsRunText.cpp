@@ -75,7 +75,7 @@ QString AsRunText::outcome(AsRunOutcome outcome)
     return QString();
 }
 
-QString AsRunText::remark(const AsRunLine& line)
+QString AsRunText::remark(const AsRunLine& line, const QLocale& locale)
 {
     if (!line.isExplained) {
         return tr("No record tells why");
@@ -86,9 +86,9 @@ QString AsRunText::remark(const AsRunLine& line)
     QStringList parts;
     if (line.isLate()) {
         constexpr double kPerSecond = 1000.0;
-        parts.append(tr("%1 s late")
-                         .arg(QLocale().toString(static_cast<double>(line.record.late) / kPerSecond,
-                                                 'f', 1)));
+        parts.append(
+            tr("%1 s late")
+                .arg(locale.toString(static_cast<double>(line.record.late) / kPerSecond, 'f', 1)));
     }
     if (const QString text = outcome(line.record.outcome); !text.isEmpty()) {
         parts.append(text);
@@ -99,7 +99,7 @@ QString AsRunText::remark(const AsRunLine& line)
     return parts.join(QStringLiteral(" · "));
 }
 
-QString AsRunText::summary(const AsRunDay& day)
+QString AsRunText::summary(const AsRunDay& day, const QLocale& locale)
 {
     if (!day.result) {
         return tr("The records cannot be read: %1").arg(problems::sentence(day.result));
@@ -114,7 +114,8 @@ QString AsRunText::summary(const AsRunDay& day)
         verdict(day),
         tr("Recorded until %1.").arg(moment(day.until, day.date, MomentFormat(day.zone)))};
     if (day.isCut) {
-        sentences.append(tr("Only the first %L1 lines of the day are shown.").arg(kMostAsRunLines));
+        sentences.append(tr("Only the first %1 lines of the day are shown.")
+                             .arg(locale.toString(static_cast<qulonglong>(kMostAsRunLines))));
     }
     return sentences.join(QLatin1Char(' '));
 }

@@ -6,6 +6,7 @@
 #include <QString>
 
 class QDate;
+class QLocale;
 
 namespace trel::mediadispatch {
 enum class AsRunOutcome;
@@ -27,14 +28,15 @@ public:
     static QString planned(const AsRunLine& line);
     /// The same of what was on, or what stood there in its place.
     static QString shown(const AsRunLine& line);
-    /// Why the screen was not as planned; empty where it was.
-    static QString remark(const AsRunLine& line);
+    /// Why the screen was not as planned; empty where it was. Numbers are written as the language
+    /// has them.
+    static QString remark(const AsRunLine& line, const QLocale& locale);
     /// In local time: with the date where it is not the day, and with the offset where the clock
     /// changes that day.
     static QString moment(mediadispatch::Instant moment, const QDate& day,
                           const mediadispatch::MomentFormat& local);
     /// What there is to say of the whole day.
-    static QString summary(const AsRunDay& day);
+    static QString summary(const AsRunDay& day, const QLocale& locale);
 
 private:
     static QString verdict(const AsRunDay& day);

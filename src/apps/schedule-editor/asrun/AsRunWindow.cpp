@@ -52,6 +52,8 @@ AsRunWindow::AsRunWindow(QWidget* parent)
 {
     setObjectName(QStringLiteral("asRunWindow"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    // Numbers are written as in the window that it belongs to, and not as the system has them.
+    setAttribute(Qt::WA_WindowPropagation);
     build();
     connectControls();
     retranslate();
@@ -163,7 +165,7 @@ void AsRunWindow::take(AsRunDay day)
 
 void AsRunWindow::tellSummary()
 {
-    m_summary->setText(m_day ? AsRunText::summary(*m_day) : tr("Reading…"));
+    m_summary->setText(m_day ? AsRunText::summary(*m_day, locale()) : tr("Reading…"));
 }
 
 void AsRunWindow::offer(const AsRunDay& day)
@@ -183,7 +185,7 @@ void AsRunWindow::offer(const AsRunDay& day)
 void AsRunWindow::changeEvent(QEvent* event)
 {
     QDialog::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange) {
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange) {
         retranslate();
     }
 }
@@ -201,7 +203,7 @@ void AsRunWindow::retranslate()
     };
     setWords(m_former, tr("Previous day"));
     setWords(m_next, tr("Next day"));
-    m_model->retranslate();
+    m_model->retranslate(locale());
     tellSummary();
 }
 

@@ -1,5 +1,6 @@
 #include "catalogue/UseWords.h"
 
+#include "BidiText.h"
 #include "service/WeekDays.h"
 #include "trelprogramschedule/dispatch/MomentFormat.h"
 
@@ -25,12 +26,14 @@ QString shown(const std::string& text)
 
 QString UseWords::validity(const PlayTask& task)
 {
-    return tr("%1 – %2", "from and to").arg(shown(task.startDate), shown(task.endDate));
+    return leftToRight(
+        tr("%1 – %2", "from and to").arg(shown(task.startDate), shown(task.endDate)));
 }
 
 QString UseWords::span(const PlayPlan& plan)
 {
-    return tr("%1 – %2", "from and to").arg(shown(plan.startTime), shown(plan.endTime));
+    return leftToRight(
+        tr("%1 – %2", "from and to").arg(shown(plan.startTime), shown(plan.endTime)));
 }
 
 QString UseWords::days(const PlayPlan& plan, const QLocale& locale)
@@ -82,7 +85,7 @@ QString UseWords::next(const LookupAnswer& answer)
     const MomentFormat local(answer.zone);
     const QString when = local.shownAt(state.since).toString(QStringLiteral("yyyy.MM.dd hh:mm:ss"));
     return tr("Next on screen: %1, task %2, plan %3.")
-        .arg(when + local.offsetMark(state.since), QString::number(state.taskId),
+        .arg(leftToRight(when + local.offsetMark(state.since)), QString::number(state.taskId),
              QString::number(state.planRow + 1));
 }
 

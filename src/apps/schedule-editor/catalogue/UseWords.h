@@ -14,7 +14,7 @@ class UseWords
     Q_DECLARE_TR_FUNCTIONS(UseWords)
 
 public:
-    /// "2024.01.01 – 2024.01.31"
+    /// "2024.01.01 – 2024.01.31", read from the left, as all that follows has it.
     static QString validity(const trel::mediadispatch::PlayTask& task);
     /// "08:00:00 – 09:00:00"
     static QString span(const trel::mediadispatch::PlayPlan& plan);

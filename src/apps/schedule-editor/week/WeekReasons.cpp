@@ -1,5 +1,6 @@
 #include "week/WeekReasons.h"
 
+#include "DateWords.h"
 #include "common/PlanFaultText.h"
 #include "screen/ScreenWords.h"
 #include "trelprogramschedule/dispatch/MomentFormat.h"
@@ -37,7 +38,7 @@ QString neverText(const WeekBlock& block)
                                           shortened(block.end));
 }
 
-/// "Wednesday, 6 March 2024, 08:00", with the offset on days that may have a time twice.
+/// "Wednesday, 2024.03.06, 08:00", with the offset on days that may have a time twice.
 QString momentText(const WeekSchedule& schedule, const WeekLayout& layout, const WeekHit& hit,
                    const QLocale& locale)
 {
@@ -48,7 +49,7 @@ QString momentText(const WeekSchedule& schedule, const WeekLayout& layout, const
                              : MomentFormat(schedule.zone())
                                    .offsetMark(layout.clock.instant(hit.day, hit.second, hit.pass));
     return Words::tr("%1, %2", "day and time of day")
-        .arg(locale.toString(date, QLocale::LongFormat), shortTime(hit.second) + mark);
+        .arg(weekdayText(date, locale), shortTime(hit.second) + mark);
 }
 
 QString changeText(const ClockChange& change)

@@ -1,5 +1,6 @@
 #include "week/WeekView.h"
 
+#include "DateWords.h"
 #include "PlainLines.h"
 #include "access/AccessibleParts.h"
 #include "clock/Clock.h"
@@ -291,8 +292,8 @@ void WeekView::select(const std::optional<BlockRef>& block)
     m_selected = block;
     QString description;
     if (block) {
-        description = QStringLiteral("%1. %2").arg(
-            locale().toString(block->date, QLocale::LongFormat), blockText(*hit(*block)->target()));
+        description = QStringLiteral("%1. %2").arg(weekdayText(block->date, locale()),
+                                                   blockText(*hit(*block)->target()));
     }
     setAccessibleDescription(description);
     access::tellCurrentPart(*this);
@@ -367,8 +368,8 @@ QString WeekView::spokenName(int index) const
     const BlockRef ref = blockAt(index);
     const WeekColumn& column = m_layout->days[static_cast<std::size_t>(*m_layout->dayOf(ref.date))];
     return Words::tr("%1, task %2. %3", "day, its task, and a plan with its times and programs")
-        .arg(locale().toString(column.date, QLocale::LongFormat),
-             QString::number(column.task.value_or(-1)), blockText(*column.blockOf(ref.row)));
+        .arg(weekdayText(column.date, locale()), QString::number(column.task.value_or(-1)),
+             blockText(*column.blockOf(ref.row)));
 }
 
 QString WeekView::spokenDescription(int index) const

@@ -263,7 +263,7 @@ void YearStrip::paintEvent(QPaintEvent* event)
 
 QString YearStrip::tip(const QDate& day) const
 {
-    QStringList lines{locale().toString(day, QLocale::LongFormat)};
+    QStringList lines{weekdayText(day, locale())};
     const YearStretch* const gap = YearLayout::find(m_layout.gaps, day);
     const YearStretch* const overlap = YearLayout::find(m_layout.overlaps, day);
     if (gap != nullptr) {

@@ -1,6 +1,8 @@
 #include "asrun/AsRunWindow.h"
 
 #include "../effect/EffectFixture.h"
+#include "asrun/AsRunModel.h"
+#include "asrun/AsRunText.h"
 #include "libs/trelprogramschedule/asrun/AsRunTampering.h"
 #include "libs/trelprogramschedule/asrun/SimulatedPlayer.h"
 #include "support/TestProgram.h"
@@ -10,8 +12,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableView>
 
 using namespace trel::desktop;
@@ -109,6 +113,18 @@ struct Played : EffectFixture
 
 } // namespace
 
+/// Has the toolkit write numbers in another language than the program's, as a system does.
+class ForeignSystem
+{
+public:
+    explicit ForeignSystem(const QString& language) { QLocale::setDefault(QLocale(language)); }
+    ~ForeignSystem() { QLocale::setDefault(m_former); }
+    Q_DISABLE_COPY(ForeignSystem)
+
+private:
+    const QLocale m_former;
+};
+
 /// A day of a screen beside its plan, in the host's window.
 class tst_AsRunWindow : public QObject
 {
@@ -125,6 +141,10 @@ private slots:
     void stepsThroughDaysAndScreens();
     void refusesAForeignFile();
     void speaksTheLanguage();
+    void numbersFollowTheLanguage_data();
+    void numbersFollowTheLanguage();
+    void isSeenWithContent_data();
+    void isSeenWithContent();
     void followsTheDatabase();
 };
 
@@ -269,6 +289,89 @@ void tst_AsRunWindow::speaksTheLanguage()
              qPrintable(fixture.summary()));
     const QAbstractItemModel& model = *fixture.part<QTableView>("asRunTable").model();
     QCOMPARE(model.headerData(2, Qt::Horizontal).toString(), QStringLiteral("Geplant"));
+}
+
+void tst_AsRunWindow::numbersFollowTheLanguage_data()
+{
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<QString>("late");
+    QTest::addColumn<QString>("most");
+    QTest::newRow("en_US") << QStringLiteral("de_DE") << QStringLiteral("1.3 s late")
+                           << QStringLiteral("Only the first 100,000 lines of the day are shown.");
+    QTest::newRow("de_DE") << QStringLiteral("en_US") << QStringLiteral("1,3 s zu spät")
+                           << QStringLiteral(
+                                  "Nur die ersten 100.000 Zeilen des Tages werden gezeigt.");
+}
+
+void tst_AsRunWindow::numbersFollowTheLanguage()
+{
+    QFETCH(QString, system);
+    QFETCH(QString, most);
+    const ForeignSystem foreign(system);
+    Played fixture;
+    fixture.record("08:00:10").late = 1300;
+    fixture.keep();
+    fixture.ask();
+    // One of the two is a change of the language while the window is shown.
+    fixture.languages.select(QStringLiteral("de_DE"));
+    fixture.languages.select(QString::fromLatin1(QTest::currentDataTag()));
+    QCoreApplication::processEvents();
+    const QAbstractItemModel& model = *fixture.part<QTableView>("asRunTable").model();
+    QTEST(model.index(2, AsRunModel::RemarkColumn).data().toString(), "late");
+    AsRunDay day;
+    day.isRecorded = true;
+    day.isCut = true;
+    day.until = 1;
+    day.zone = QTimeZone::utc();
+    const QString summary = AsRunText::summary(day, fixture.asRun().locale());
+    QVERIFY2(summary.endsWith(most), qPrintable(summary));
+}
+
+void tst_AsRunWindow::isSeenWithContent_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("theme");
+    const QStringList themes = Themes::names();
+    for (const char* language : {"en_US", "de_DE", "zh_CN"}) {
+        for (const QString& theme : themes) {
+            QTest::addRow("%s, %s", language, qPrintable(theme))
+                << QString::fromLatin1(language) << theme;
+        }
+    }
+}
+
+/// Leaves a picture of a day with all kinds of lines.
+void tst_AsRunWindow::isSeenWithContent()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, theme);
+    Played fixture;
+    fixture.record("08:00:00").late = 1300;
+    AsRunRecord& missing = fixture.record("08:00:10");
+    missing.shown = AsRunShown::StandBy;
+    missing.why = QStringLiteral("/srv/media/Summer sale.mp4: no such file");
+    fixture.record("08:00:14").outcome = AsRunOutcome::CutByKill;
+    fixture.keep();
+    fixture.ask();
+    fixture.themes.select(theme);
+    fixture.languages.select(language);
+    QCoreApplication::processEvents();
+    const auto& table = fixture.part<QTableView>("asRunTable");
+    const QHeaderView& columns = *table.horizontalHeader();
+    for (int column = 0; column < columns.count(); ++column) {
+        QVERIFY2(columns.sectionSizeHint(column) <= columns.sectionSize(column),
+                 qPrintable(QString::number(column)));
+    }
+    // When it was is read whole.
+    for (const int column : {AsRunModel::FromColumn, AsRunModel::ToColumn}) {
+        const QString moment = table.model()->index(1, column).data().toString();
+        QVERIFY(table.fontMetrics().horizontalAdvance(moment) < columns.sectionSize(column));
+    }
+    QCOMPARE(table.horizontalScrollBar()->maximum(), 0);
+    QVERIFY(QDir().mkpath(QStringLiteral(PICTURES)));
+    QVERIFY(fixture.asRun().grab().save(
+        QStringLiteral(PICTURES "/as-run-%1-%2.png").arg(language, theme)));
+    fixture.themes.select(Themes::names().first());
 }
 
 void tst_AsRunWindow::followsTheDatabase()

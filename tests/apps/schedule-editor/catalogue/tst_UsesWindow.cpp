@@ -3,6 +3,7 @@
 #include "HostFixture.h"
 #include "catalogue/ProgramLookup.h"
 #include "catalogue/UseWords.h"
+#include "catalogue/UsesModel.h"
 #include "clock/Clock.h"
 #include "support/PromptAnswer.h"
 #include "support/TestClock.h"
@@ -11,6 +12,7 @@
 #include <QAction>
 #include <QDialog>
 #include <QLabel>
+#include <QTextLayout>
 
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
@@ -54,6 +56,28 @@ std::map<int, PlayTask> sampleTasks()
     return {{1, january}, {2, february}};
 }
 
+/// Without the marks that have a part of a text read from the left.
+QString unmarked(QString text)
+{
+    return text.remove(QChar(0x2066)).remove(QChar(0x2069));
+}
+
+/// From where to where a part of a line is drawn, by the places of its two ends, in a line that is
+/// read from the right.
+bool isReadFromTheLeft(const QString& line, const QString& part)
+{
+    QTextOption option;
+    option.setTextDirection(Qt::RightToLeft);
+    QTextLayout layout(line);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    const QTextLine drawn = layout.createLine();
+    layout.endLayout();
+    const int begin = line.indexOf(part);
+    const int end = begin + part.size() - 1;
+    return begin >= 0 && drawn.cursorToX(begin) < drawn.cursorToX(end);
+}
+
 } // namespace
 
 /// Where programs are used, in a window of its own and before a removal.
@@ -67,6 +91,7 @@ private slots:
     void showsPlansAndTheNextTime();
     void followsTheEdits();
     void whatIsInEffectDecidesAboutTheScreen();
+    void datesAndTimesAreReadFromTheLeft();
     void aPlanIsAskedForByMouseAndKey();
     void daysHaveTheirNames_data();
     void daysHaveTheirNames();
@@ -99,7 +124,7 @@ private:
     }
     QString text(const char* label) const
     {
-        return window().findChild<QLabel*>(QLatin1String(label))->text();
+        return unmarked(window().findChild<QLabel*>(QLatin1String(label))->text());
     }
     /// The rows, each in one line.
     QStringList rows() const
@@ -109,7 +134,7 @@ private:
         for (int row = 0; row < model->rowCount(); ++row) {
             QStringList cells;
             for (int column = 0; column < model->columnCount(); ++column) {
-                cells.append(model->index(row, column).data().toString());
+                cells.append(unmarked(model->index(row, column).data().toString()));
             }
             lines.append(cells.join(QLatin1Char('|')));
         }
@@ -126,7 +151,7 @@ private:
     }
     static QStringList removalLines(const PromptAnswer& answer)
     {
-        return answer.texts().value(0).split(QLatin1Char('\n'));
+        return unmarked(answer.texts().value(0)).split(QLatin1Char('\n'));
     }
 
     std::unique_ptr<TestClock> m_clock;
@@ -192,6 +217,25 @@ void tst_UsesWindow::whatIsInEffectDecidesAboutTheScreen()
     QVERIFY(m_fixture->host.stopSchedule());
     QTRY_COMPARE(text("usesNext"),
                  QStringLiteral("Not on screen any more, as the schedule is edited."));
+}
+
+void tst_UsesWindow::datesAndTimesAreReadFromTheLeft()
+{
+    const QString validity = QStringLiteral("2024.01.01 – 2024.01.31");
+    const QString span = QStringLiteral("10:00:00 – 11:00:00");
+    QVERIFY(!isReadFromTheLeft(validity, validity));
+    showUses(0);
+    const QAbstractItemModel& model = *uses().model();
+    QVERIFY(isReadFromTheLeft(model.index(0, UsesModel::ValidColumn).data().toString(), validity));
+    QVERIFY(isReadFromTheLeft(model.index(0, UsesModel::TimeColumn).data().toString(), span));
+    QVERIFY(isReadFromTheLeft(window().findChild<QLabel*>(QStringLiteral("usesNext"))->text(),
+                              QStringLiteral("2024.01.08 10:00:00")));
+
+    const PromptAnswer answer(2);
+    action("Remove from catalog").trigger();
+    const QString line = answer.texts().value(0).section(QLatin1Char('\n'), 3, 3);
+    QVERIFY(isReadFromTheLeft(line, validity));
+    QVERIFY(isReadFromTheLeft(line, span));
 }
 
 void tst_UsesWindow::aPlanIsAskedForByMouseAndKey()

@@ -21,6 +21,8 @@ private slots:
     void aListThatRunsLessThanOnce();
     void aListThatIsOverBeforeThePlan();
     void theEveningThatComesTwice();
+    void theDateIsWrittenAsInTheEditor_data();
+    void theDateIsWrittenAsInTheEditor();
 
 private:
     static QStringList reasons(const WeekSchedule& schedule, const WeekLayout& layout,
@@ -109,6 +111,24 @@ void tst_WeekReasons::theEveningThatComesTwice()
     hit = {};
     hit.second = (23 * 60 + 30) * 60;
     QVERIFY(reasons(schedule, layout, hit).first().endsWith(QStringLiteral(", 23:30")));
+}
+
+void tst_WeekReasons::theDateIsWrittenAsInTheEditor_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::newRow("en_US") << QStringLiteral("Wednesday, \u20662024.03.06\u2069, 08:00");
+    QTest::newRow("de_DE") << QStringLiteral("Mittwoch, \u20662024.03.06\u2069, 08:00");
+    QTest::newRow("zh_CN") << QStringLiteral("星期三, \u20662024.03.06\u2069, 08:00");
+}
+
+void tst_WeekReasons::theDateIsWrittenAsInTheEditor()
+{
+    const auto schedule = scheduleOf({timePlan(1, "08:00:00", "09:00:00")});
+    const WeekLayout layout = schedule->layout(QDate(2024, 3, 4));
+    const QString text =
+        reasonText(*schedule, layout, hitOf(layout, 2, layout.days[2].blocks.front()),
+                   QLocale(QString::fromLatin1(QTest::currentDataTag())));
+    QTEST(text.section(QLatin1Char('\n'), 0, 0), "line");
 }
 
 TREL_TEST(tst_WeekReasons, QApplication)

@@ -1,5 +1,6 @@
 #include "week/moves/CopyDayDialog.h"
 
+#include "DateWords.h"
 #include "week/WeekLayout.h"
 #include "week/WeekTasks.h"
 #include "week/moves/MoveWords.h"
@@ -48,7 +49,7 @@ void CopyDayDialog::addDays(const WeekLayout& week)
         if (column.date == m_day) {
             continue;
         }
-        const QString date = MoveWords::day(column.date, locale());
+        const QString date = weekdayText(column.date, locale());
         const bool hasTask = m_week->inEffectOn(column.date).has_value();
         auto* box =
             new QCheckBox(hasTask ? date : tr("%1 (no task is valid)", "a day").arg(date), this);

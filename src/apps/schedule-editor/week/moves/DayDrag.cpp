@@ -1,5 +1,6 @@
 #include "week/moves/DayDrag.h"
 
+#include "DateWords.h"
 #include "service/PlanCollisions.h"
 #include "trelwidgets/PlainToolTip.h"
 #include "week/WeekTasks.h"
@@ -177,11 +178,10 @@ MovePicture DayDrag::picture() const
     const Drag& drag = *m_drag;
     MovePicture picture;
     picture.isRefused = drag.copy.tasks.empty();
-    QStringList lines{tr("Copy the plans of %1 onto %2", "two days")
-                          .arg(MoveWords::day(drag.from, m_view.locale()),
-                               MoveWords::day(drag.onto, m_view.locale())),
-                      drag.copy.withoutTask.empty() ? CopyDayDialog::outcome(drag.copy)
-                                                    : MoveWords::noTask()};
+    QStringList lines{
+        tr("Copy the plans of %1 onto %2", "two days")
+            .arg(weekdayText(drag.from, m_view.locale()), weekdayText(drag.onto, m_view.locale())),
+        drag.copy.withoutTask.empty() ? CopyDayDialog::outcome(drag.copy) : MoveWords::noTask()};
     for (const auto& [id, task] : drag.copy.tasks) {
         std::vector<int> collisions;
         addPlans(picture, id, collisions);

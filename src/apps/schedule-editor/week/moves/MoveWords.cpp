@@ -119,14 +119,9 @@ QString MoveWords::noTask()
     return tr("No task is valid on this day.");
 }
 
-QString MoveWords::day(const QDate& day, const QLocale& locale)
-{
-    return QStringLiteral("%1, %2").arg(locale.standaloneDayName(day.dayOfWeek()), dateText(day));
-}
-
 QString MoveWords::copyDay(const QDate& day, const QLocale& locale)
 {
-    return tr("Copy the plans of %1…", "a day").arg(MoveWords::day(day, locale));
+    return tr("Copy the plans of %1…", "a day").arg(weekdayText(day, locale));
 }
 
 QString MoveWords::noPlan()

@@ -31,8 +31,6 @@ public:
                               const std::vector<int>& rows, const Programs& programs);
     static QString noTask();
     static QString noPlan();
-    /// "Monday, 2024.03.04", with the date as the editor writes it.
-    static QString day(const QDate& day, const QLocale& locale);
     /// "Copy the plans of Monday, 2024.03.04…", for a menu and for what it opens.
     static QString copyDay(const QDate& day, const QLocale& locale);
 };
