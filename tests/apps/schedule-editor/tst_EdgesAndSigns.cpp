@@ -1,10 +1,13 @@
 #include "LookSupport.h"
 #include "look/Themes.h"
+#include "screen/PlayBar.h"
 #include "support/TestProgram.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QMenu>
+#include <QRadioButton>
 #include <QSpinBox>
 #include <QTabBar>
 #include <QtTest>
@@ -30,6 +33,10 @@ private slots:
     void groupsOfAMenuAreApart();
     void disabledArrowsAreWeaker_data() { addThemes(); }
     void disabledArrowsAreWeaker();
+    void whatIsDoneOfAPlayStandsOut_data() { addThemes(); }
+    void whatIsDoneOfAPlayStandsOut();
+    void choicesAreLevelWithTheirTexts_data() { addThemes(); }
+    void choicesAreLevelWithTheirTexts();
 
 private:
     std::unique_ptr<Themes> m_themes;
@@ -50,6 +57,44 @@ double arrowsOf(QWidget& field)
     const QImage picture = drawn(field);
     return lookAt(picture, QRect(picture.width() - kRoom, 3, kRoom - 3, picture.height() - 6))
         .contrast;
+}
+
+/// The middle of what is drawn between two columns, in the pixels of the widget. What is no ground
+/// stands out.
+double middleOf(const QImage& picture, int from, int to, double ratio)
+{
+    const QColor ground = lookAt(picture, picture.rect()).ground;
+    int top = picture.height();
+    int bottom = -1;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = from; x < to; ++x) {
+            if (contrast(picture.pixelColor(x, y), ground) > 1.5) {
+                top = qMin(top, y);
+                bottom = qMax(bottom, y);
+            }
+        }
+    }
+    return (top + bottom + 1) / 2.0 / ratio;
+}
+
+/// How far the middle of the mark of a choice is below that of the letters beside it.
+double dropOf(QAbstractButton& choice, double ratio)
+{
+    constexpr int kMark = 16;
+    // Low letters and high ones: most texts have both.
+    double letters = 0;
+    double mark = 0;
+    for (const char* text : {"xxxx", "HHHH"}) {
+        choice.setText(QLatin1String(text));
+        choice.resize(choice.sizeHint());
+        QImage picture(choice.size() * ratio, QImage::Format_RGB32);
+        picture.setDevicePixelRatio(ratio);
+        choice.render(&picture);
+        const int end = qRound(kMark * ratio);
+        letters += middleOf(picture, end, picture.width(), ratio) / 2;
+        mark = middleOf(picture, 0, end, ratio);
+    }
+    return mark - letters;
 }
 
 } // namespace
@@ -139,6 +184,38 @@ void tst_EdgesAndSigns::disabledArrowsAreWeaker()
     }
     // A step that is not possible looks the same.
     QVERIFY(arrowsOf(count) < 0.5 * arrowsOf(free));
+}
+
+void tst_EdgesAndSigns::whatIsDoneOfAPlayStandsOut()
+{
+    QWidget window;
+    window.resize(240, 40);
+    PlayBar bar(&window);
+    bar.setGeometry(20, 10, 200, bar.sizeHint().height());
+    bar.setPlay(1, 2);
+    const QImage picture = window.grab().toImage();
+    const int middle = bar.geometry().center().y();
+    const QColor done = picture.pixelColor(70, middle);
+    const QColor track = picture.pixelColor(170, middle);
+    QVERIFY2(contrast(done, track) >= 3.0, qPrintable(done.name() + track.name()));
+    const QColor edge = picture.pixelColor(170, bar.geometry().top());
+    QVERIFY2(contrast(edge, picture.pixelColor(170, 2)) >= 3.0, qPrintable(edge.name()));
+}
+
+void tst_EdgesAndSigns::choicesAreLevelWithTheirTexts()
+{
+    QCheckBox box;
+    QRadioButton circle;
+    for (QAbstractButton* const choice : std::initializer_list<QAbstractButton*>{&box, &circle}) {
+        for (const double ratio : {1.0, 2.0}) {
+            const double drop = dropOf(*choice, ratio);
+            QVERIFY2(qAbs(drop) <= 0.75, qPrintable(QString::number(drop)));
+        }
+        // Without a text it stands in the middle.
+        choice->setText(QString());
+        choice->resize(30, 31);
+        QVERIFY(qAbs(middleOf(choice->grab().toImage(), 0, 16, 1.0) - 15.5) <= 1.0);
+    }
 }
 
 TREL_TEST(tst_EdgesAndSigns, QApplication)

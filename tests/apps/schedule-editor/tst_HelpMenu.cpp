@@ -1,5 +1,6 @@
 #include "EditorMenus.h"
 #include "HostFixture.h"
+#include "LookSupport.h"
 #include "common/VersionText.h"
 #include "help/GuideWindow.h"
 #include "help/HelpMenu.h"
@@ -17,7 +18,9 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollBar>
 #include <QShortcut>
+#include <QTextBlock>
 #include <QTextBrowser>
 #include <QTreeWidget>
 
@@ -67,6 +70,8 @@ private slots:
     void isTheLastMenu();
     void theGuideNeedsNoFiles();
     void theGuideFollowsItsLinks();
+    void linksCanBeRead_data() { addThemes(); }
+    void linksCanBeRead();
     void theSheetKnowsAllMenus();
     void theSheetKnowsAllShortcutsOfTheEditor();
     void theSheetKnowsTheKeysOfTheWeek();
@@ -130,6 +135,40 @@ void tst_HelpMenu::theGuideFollowsItsLinks()
     // Nothing of the disk is shown.
     emit text->anchorClicked(QUrl(QStringLiteral("file:///etc/hostname")));
     QCOMPARE(text->source(), QUrl(QStringLiteral("qrc:/guide/schedule-json.md")));
+}
+
+/// Of a guide that is open while the theme changes.
+void tst_HelpMenu::linksCanBeRead()
+{
+    QFETCH(QString, theme);
+    Desk desk;
+    for (const QString& name : Themes::names()) {
+        if (name != theme) {
+            desk.themes.select(name);
+        }
+    }
+    desk.help().guide()->trigger();
+    const auto& text = *desk.window.findChild<GuideWindow*>()->findChild<QTextBrowser*>();
+    QScrollBar& bar = *text.verticalScrollBar();
+    bar.setValue(bar.maximum() / 2);
+    const int place = bar.value();
+    desk.themes.select(theme);
+    QCoreApplication::processEvents();
+    QCOMPARE(bar.value(), place);
+    QVERIFY(place > 0);
+    const QColor ground = text.palette().color(QPalette::Base);
+    int links = 0;
+    for (QTextBlock block = text.document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); part != block.end(); ++part) {
+            const QTextCharFormat format = part.fragment().charFormat();
+            if (format.isAnchor() && !format.isImageFormat()) {
+                const QColor colour = format.foreground().color();
+                QVERIFY2(contrast(colour, ground) >= kLeastContrast, qPrintable(colour.name()));
+                ++links;
+            }
+        }
+    }
+    QVERIFY(links > 0);
 }
 
 void tst_HelpMenu::theSheetKnowsAllMenus()

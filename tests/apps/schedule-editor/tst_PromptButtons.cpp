@@ -1,3 +1,4 @@
+#include "CutTexts.h"
 #include "EditorMenus.h"
 #include "FileDialogAnswer.h"
 #include "HostFixture.h"
@@ -20,6 +21,7 @@
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QPlainTextEdit>
+#include <QProcess>
 #include <QPushButton>
 #include <QTableView>
 #include <QTimer>
@@ -69,6 +71,17 @@ struct PromptFixture : HostFixture
         const QStringList files =
             QDir(folder.path()).entryList({QStringLiteral("*.unsaved-*")}, QDir::Files);
         return files.isEmpty() ? QString() : folder.filePath(files.first());
+    }
+
+    /// Another desk empties the schedule, and saves it.
+    void saveElsewhere() const
+    {
+        const QString file = folder.filePath(QStringLiteral("theirs.json"));
+        QVERIFY(!writeScheduleFile(file, {}));
+        QCOMPARE(QProcess::execute(QStringLiteral(SCHEDULECTL),
+                                   {QStringLiteral("import-schedule"), file,
+                                    QStringLiteral("--database"), database}),
+                 0);
     }
 
     /// Reads a schedule without tasks from a file.
@@ -184,6 +197,13 @@ const Case kCases[] = {
          QVERIFY(QFile::setPermissions(fixture.database, QFile::ReadOwner));
          fixture.manager.save();
          QVERIFY(QFile::setPermissions(fixture.database, former));
+     }},
+    {"another desk has saved", "answer1",
+     [](PromptFixture& fixture) {
+         const SaveRescue rescue(fixture.host, fixture.window.drafts(), &fixture.window);
+         fixture.edit();
+         fixture.saveElsewhere();
+         fixture.manager.save();
      }},
     {"a version is restored", "tipButton1",
      [](PromptFixture& fixture) { fixture.withVersion("versionRestoreButton"); }},
@@ -311,10 +331,64 @@ QStringList tightIn(const QWidget& window)
     return texts;
 }
 
+QStringList otherLanguages()
+{
+    QStringList languages =
+        QDir(QStringLiteral(LANGUAGES)).entryList({QStringLiteral("??_??.qm")}, QDir::Files);
+    for (QString& language : languages) {
+        language.chop(3);
+    }
+    languages.removeOne(QStringLiteral("en_US"));
+    return languages;
+}
+
+/// The title of a question and what stands on its buttons, in the order of their names.
+QStringList captionsOf(const QWidget& window)
+{
+    QStringList captions{window.windowTitle()};
+    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
+    for (const QPushButton* button : buttons) {
+        if (button->isVisible() && !button->text().isEmpty()) {
+            captions.append(button->text());
+        }
+    }
+    return captions;
+}
+
+/// What a language says in the same letters.
+bool isSameAsInEnglish(const QString& language, const QString& caption)
+{
+    const QStringList same{QStringLiteral("fr_FR Question"), QStringLiteral("de_DE Version 0"),
+                           QStringLiteral("fr_FR Version 0")};
+    return caption == QLatin1String("OK") || same.contains(language + QLatin1Char(' ') + caption);
+}
+
+/// Asks in a language, and closes the question. The faults are texts without room.
+void askIn(PromptFixture& fixture, const QString& language, const Case& asked,
+           QStringList& captions, QStringList& faults)
+{
+    fixture.languages.select(language);
+    QCoreApplication::processEvents();
+    const FirstQuestion question([&](QWidget& window) {
+        captions = captionsOf(window);
+        faults = cutIn(window) + tightIn(window);
+        constexpr int kButtonsOfTitle = 60;
+        if (window.fontMetrics().horizontalAdvance(captions.first()) + kButtonsOfTitle >
+            window.width()) {
+            faults.append(captions.first());
+        }
+        window.close();
+    });
+    asked.provoke(fixture);
+    QTRY_VERIFY(question.isMet());
+    QTRY_VERIFY(question.isClosed());
+}
+
 } // namespace
 
 /// All questions of host and editor: what is asked about is done by the button that ends the row
-/// and stands out, Enter takes nothing away, and each has a title of its own.
+/// and stands out, Enter takes nothing away, each has a title of its own, and its captions are
+/// there as a whole in every language.
 class tst_PromptButtons : public QObject
 {
     Q_OBJECT
@@ -331,6 +405,11 @@ private slots:
         addCases([](const Case& /*any*/) { return true; });
     }
     void enterTakesNothingAway();
+    void captionsFollowTheLanguage_data()
+    {
+        addCases([](const Case& /*any*/) { return true; });
+    }
+    void captionsFollowTheLanguage();
 
 private:
     static void addCases(bool (*isWanted)(const Case&));
@@ -464,6 +543,29 @@ void tst_PromptButtons::enterTakesNothingAway()
     const QStringList after = fixture.things();
     for (const QString& thing : qAsConst(before)) {
         QVERIFY2(after.contains(thing), qPrintable(thing));
+    }
+}
+
+void tst_PromptButtons::captionsFollowTheLanguage()
+{
+    QFETCH(int, index);
+    QStringList english;
+    QStringList faults;
+    PromptFixture fixture;
+    askIn(fixture, QStringLiteral("en_US"), kCases[index], english, faults);
+    QVERIFY(english.size() > 2);
+    QCOMPARE(faults, QStringList());
+    const QStringList languages = otherLanguages();
+    QCOMPARE(languages.size(), 9);
+    for (const QString& language : languages) {
+        QStringList captions;
+        askIn(fixture, language, kCases[index], captions, faults);
+        QVERIFY2(faults.isEmpty(), qPrintable(language + QLatin1Char(' ') + faults.join(u'|')));
+        QCOMPARE(captions.size(), english.size());
+        for (const QString& caption : qAsConst(captions)) {
+            QVERIFY2(!english.contains(caption) || isSameAsInEnglish(language, caption),
+                     qPrintable(language + QLatin1Char(' ') + caption));
+        }
     }
 }
 

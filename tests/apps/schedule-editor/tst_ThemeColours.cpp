@@ -83,6 +83,9 @@ void tst_ThemeColours::textsCanBeRead()
     for (const QColor& ground : {t.window, t.card}) {
         pairs.push_back({"error", t.errorText, ground});
     }
+    for (const QColor& ground : {t.window, t.card, t.field, t.floating}) {
+        pairs.push_back({"link", t.linkText, ground});
+    }
     for (const QColor& ground : {t.accent, t.accentHover, t.accentPressed}) {
         pairs.push_back({"text on the accent", t.accentText, ground});
     }
@@ -114,13 +117,15 @@ void tst_ThemeColours::palettesCanBeRead()
                                   QPalette::ColorRole ground) {
                 return Pair{what, palette.color(group, over), palette.color(group, ground)};
             };
-            faults +=
-                faultsOfPairs({pair("window", QPalette::WindowText, QPalette::Window),
-                               pair("base", QPalette::Text, QPalette::Base),
-                               pair("button", QPalette::ButtonText, QPalette::Button),
-                               pair("selection", QPalette::HighlightedText, QPalette::Highlight),
-                               pair("tip", QPalette::ToolTipText, QPalette::ToolTipBase)},
-                              kLeastContrast);
+            faults += faultsOfPairs(
+                {pair("window", QPalette::WindowText, QPalette::Window),
+                 pair("base", QPalette::Text, QPalette::Base),
+                 pair("link", QPalette::Link, QPalette::Base),
+                 pair("link that was followed", QPalette::LinkVisited, QPalette::Base),
+                 pair("button", QPalette::ButtonText, QPalette::Button),
+                 pair("selection", QPalette::HighlightedText, QPalette::Highlight),
+                 pair("tip", QPalette::ToolTipText, QPalette::ToolTipBase)},
+                kLeastContrast);
         }
     }
     QVERIFY2(faults.isEmpty(), qPrintable(faults));
@@ -143,6 +148,7 @@ void tst_ThemeColours::edgesAndSignsStandOut()
                                           {"edge of the accent", t.accentLine, t.window},
                                           {"accent", t.accent, t.window},
                                           {"tick", t.accentText, t.accent},
+                                          {"done", t.accent, t.field},
                                           {"edge of a block", t.weekBlockLine, t.weekGround},
                                           {"conflict", t.weekCollision, t.weekGround},
                                           {"now", t.weekNow, t.weekGround}},

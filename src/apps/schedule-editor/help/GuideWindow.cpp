@@ -4,9 +4,13 @@
 #include <QEvent>
 #include <QImage>
 #include <QKeyEvent>
+#include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextCursor>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <vector>
 
 namespace trel::desktop {
 
@@ -72,6 +76,32 @@ void GuideWindow::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
+    }
+    if (event->type() == QEvent::PaletteChange) {
+        recolourLinks();
+    }
+}
+
+/// A text has the colour of its links from when it is read. To read it again would take the time
+/// that its pictures take.
+void GuideWindow::recolourLinks()
+{
+    std::vector<QTextCursor> links;
+    for (QTextBlock block = m_text->document()->begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); part != block.end(); ++part) {
+            const QTextFragment fragment = part.fragment();
+            if (fragment.charFormat().isAnchor()) {
+                QTextCursor& link = links.emplace_back(m_text->document());
+                link.setPosition(fragment.position());
+                link.setPosition(fragment.position() + fragment.length(), QTextCursor::KeepAnchor);
+            }
+        }
+    }
+    QTextCharFormat colour;
+    // The text takes the palette over only after this.
+    colour.setForeground(palette().link());
+    for (QTextCursor& link : links) {
+        link.mergeCharFormat(colour);
     }
 }
 

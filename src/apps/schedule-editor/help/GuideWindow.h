@@ -23,6 +23,7 @@ protected:
 
 private:
     void follow(const QUrl& link);
+    void recolourLinks();
     void retranslate();
 
     QTextBrowser* m_text;

@@ -8,6 +8,7 @@
 #include "ThemeImages.h"
 #include "ViewPainting.h"
 
+#include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QCalendarWidget>
 #include <QCoreApplication>
@@ -112,6 +113,25 @@ bool isAnswer(const QWidget* widget)
     return button != nullptr && !button->text().isEmpty() &&
            button->minimumWidth() != button->maximumWidth() &&
            qobject_cast<const QDialog*>(button->window()) != nullptr;
+}
+
+/// The mark of a choice as it is asked for, but where the letters beside it are. A font leaves more
+/// room above them than below, so that they stand lower than the middle of their line. The base
+/// style does not ask a proxy for the place.
+QStyleOption levelWithText(const QStyleOption& option, const QWidget* widget)
+{
+    QStyleOption mark(option);
+    const auto* choice = qobject_cast<const QAbstractButton*>(widget);
+    if (choice == nullptr || choice->text().isEmpty()) {
+        return mark;
+    }
+    const QFontMetrics& font = option.fontMetrics;
+    const double line = (choice->height() - font.height()) / 2.0;
+    // Between the middle of the high letters and that of the low ones.
+    const double letters = line + font.ascent() - (font.capHeight() + font.xHeight()) / 4.0;
+    const int drop = qRound(letters - (mark.rect.center().y() + 0.5));
+    mark.rect.translate(0, qBound(0, drop, choice->height() - 1 - mark.rect.bottom()));
+    return mark;
 }
 
 constexpr char kFormerMonth[] = "qt_calendar_prevmonth";
@@ -271,11 +291,13 @@ void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         paintRow(*painter, m_colours, *option, widget);
         return;
     case PE_IndicatorCheckBox:
+        paintCheckMark(*painter, m_colours, levelWithText(*option, widget));
+        return;
     case PE_IndicatorItemViewItemCheck:
         paintCheckMark(*painter, m_colours, *option);
         return;
     case PE_IndicatorRadioButton:
-        paintRadioMark(*painter, m_colours, *option);
+        paintRadioMark(*painter, m_colours, levelWithText(*option, widget));
         return;
     case PE_FrameMenu:
         paintMenuFrame(*painter, m_colours, option->rect);

@@ -113,6 +113,7 @@ ThemeColours darkColours()
     colours.faintText = QColor(0xa2, 0xa9, 0xb6);
     colours.disabledText = QColor(0x98, 0xa0, 0xae);
     colours.errorText = QColor(0xff, 0x92, 0x8c);
+    colours.linkText = QColor(0x5b, 0x9b, 0xf8);
 
     colours.field = QColor(0x14, 0x16, 0x1b);
     colours.fieldLine = QColor(0x6b, 0x72, 0x80);
@@ -168,6 +169,7 @@ ThemeColours lightColours()
     colours.faintText = QColor(0x57, 0x5f, 0x6d);
     colours.disabledText = QColor(0x5d, 0x65, 0x73);
     colours.errorText = QColor(0xb3, 0x26, 0x1e);
+    colours.linkText = QColor(0x24, 0x63, 0xcb);
 
     colours.field = Qt::white;
     colours.fieldLine = QColor(0x7d, 0x85, 0x94);
@@ -228,6 +230,7 @@ ThemeColours contrastColours()
     colours.faintText = QColor(0xe0, 0xe0, 0xe0);
     colours.disabledText = QColor(0xc8, 0xc8, 0xc8);
     colours.errorText = QColor(0xff, 0xa8, 0xa2);
+    colours.linkText = cyan;
 
     colours.field = Qt::black;
     colours.fieldLine = Qt::white;
@@ -287,7 +290,8 @@ QPalette windowPalette(const ThemeColours& colours)
     palette.setColor(QPalette::Button, colours.button);
     palette.setColor(QPalette::ButtonText, colours.text);
     palette.setColor(QPalette::BrightText, colours.accentText);
-    palette.setColor(QPalette::Link, colours.accentLine);
+    palette.setColor(QPalette::Link, colours.linkText);
+    palette.setColor(QPalette::LinkVisited, colours.linkText);
     palette.setColor(QPalette::Highlight, colours.accent);
     palette.setColor(QPalette::HighlightedText, colours.accentText);
     palette.setColor(QPalette::Light, colours.buttonHover);
@@ -309,7 +313,8 @@ QPalette listPalette(const ThemeColours& colours)
     palette.setColor(QPalette::Button, colours.listHeader);
     palette.setColor(QPalette::Mid, colours.listLine);
     for (const QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::Link,
+          QPalette::LinkVisited}) {
         palette.setColor(role, colours.listText);
     }
     return palette;

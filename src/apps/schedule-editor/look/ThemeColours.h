@@ -20,6 +20,7 @@ struct ThemeColours
     QColor faintText; ///< Hints.
     QColor disabledText;
     QColor errorText;
+    QColor linkText;
 
     QColor field;
     QColor fieldLine;

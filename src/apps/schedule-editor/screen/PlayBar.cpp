@@ -1,5 +1,7 @@
 #include "screen/PlayBar.h"
 
+#include "look/BoxPainting.h"
+
 #include <QPainter>
 #include <QStyle>
 
@@ -34,18 +36,17 @@ void PlayBar::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
     const qreal radius = height() / 2.0;
-    painter.setBrush(palette().color(QPalette::Mid));
-    painter.drawRoundedRect(rect(), radius, radius);
+    look::paintBox(painter, rect(), palette().color(QPalette::Base),
+                   palette().color(QPalette::Dark), radius);
     if (value() <= minimum()) {
         return;
     }
     QRect done = rect();
     done.setWidth(qMax(height(), width() * value() / maximum()));
-    painter.setBrush(palette().color(QPalette::Highlight));
-    painter.drawRoundedRect(QStyle::visualRect(layoutDirection(), rect(), done), radius, radius);
+    const QColor highlight = palette().color(QPalette::Highlight);
+    look::paintBox(painter, QStyle::visualRect(layoutDirection(), rect(), done), highlight,
+                   highlight, radius);
 }
 
 } // namespace trel::desktop

@@ -3,7 +3,9 @@
 #include "fit/ScrolledEditor.h"
 #include "fit/WindowsOnScreen.h"
 #include "memory/RememberedWindow.h"
+#include "merge/ConflictsDialog.h"
 #include "support/TestProgram.h"
+#include "trelprogramschedule/merge/ScheduleMerge.h"
 
 #include "card/PlanColumns.h"
 
@@ -25,6 +27,7 @@ namespace {
 
 /// Wide enough for the editor as a whole.
 constexpr int kRoomy = 1366;
+constexpr int kHighEnough = 640;
 
 QRect screenArea()
 {
@@ -93,6 +96,7 @@ private slots:
     void otherWindowsAreWhole();
     void theChooserIsWhole();
     void aPromptIsWhole();
+    void conflictsAreWhole();
 };
 
 void tst_ScreenFit::isTheScreenThatIsMeant()
@@ -141,11 +145,12 @@ void tst_ScreenFit::theEditorIsWholeOrScrolls()
     }
     QVERIFY(area != nullptr);
     QVERIFY(area->horizontalScrollBar()->isVisible());
-    // Upwards there is room for all of it, the scroll bar included.
-    QVERIFY(!area->verticalScrollBar()->isVisible());
+    // Where there is room upwards for all of it, the scroll bar included, there is no other.
+    QCOMPARE(area->verticalScrollBar()->isVisible(), screenArea().height() < kHighEnough);
     QCOMPARE(area->viewport()->width() + area->horizontalScrollBar()->maximum(), panel->width());
     QVERIFY(!isWhole(*save));
     area->horizontalScrollBar()->setValue(area->horizontalScrollBar()->maximum());
+    area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
     QVERIFY(isWhole(*save));
 }
 
@@ -186,8 +191,30 @@ void tst_ScreenFit::aPromptIsWhole()
         prompt->close();
     });
     // Far longer than those that there are.
-    station.window.tell(QStringLiteral("One of very many sentences. ").repeated(60));
+    station.window.tell(QStringLiteral("One of very many sentences. ").repeated(50));
     QVERIFY2(screenArea().contains(place) && place.isValid(), qPrintable(text(place)));
+}
+
+void tst_ScreenFit::conflictsAreWhole()
+{
+    Station station;
+    const ScheduleMerge::Tasks base = station.manager.getAllTask();
+    ScheduleMerge::Tasks mine = base;
+    ScheduleMerge::Tasks theirs = base;
+    for (const auto& [id, task] : base) {
+        mine[id].endDate = "2050.01.01";
+        theirs[id].endDate = "2051.01.01";
+    }
+    const ScheduleMerge merge(base, theirs, mine);
+    merge::ConflictsDialog dialog(merge, *station.host.catalogue(), {}, &station.window);
+    dialog.show();
+    Station::exposed(dialog);
+    QVERIFY2(screenArea().contains(dialog.geometry()), qPrintable(text(dialog.geometry())));
+    for (const char* name : {"conflictTable", "takeMine", "takeTheirs", "linesOfMine",
+                             "linesOfTheirs", "mergeOutlook", "backToQuestion", "mergeChosen"}) {
+        const auto* const part = dialog.findChild<QWidget*>(QLatin1String(name));
+        QVERIFY2(isWhole(*part) && part->height() >= part->minimumSizeHint().height(), name);
+    }
 }
 
 TREL_TEST(tst_ScreenFit, QApplication)

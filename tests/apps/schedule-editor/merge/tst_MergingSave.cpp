@@ -161,6 +161,15 @@ private:
     QPointer<QWidget> m_last;
 };
 
+/// All windows that open while it lives are read from the right.
+class FromTheRight
+{
+public:
+    FromTheRight() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
+    ~FromTheRight() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+    Q_DISABLE_COPY(FromTheRight)
+};
+
 void press(QDialog& dialog, const char* name)
 {
     auto* const button = dialog.findChild<QAbstractButton*>(QLatin1String(name));
@@ -217,6 +226,7 @@ private slots:
     void oneOfTwoIsChosen_data();
     void oneOfTwoIsChosen();
     void choosesForAllThatAreSelected();
+    void choosesWhereOneReadsFromTheRight();
     void goingBackLosesNoChoice();
     void goingOnForgetsTheChoices();
     void whatOverlapsStaysInTheEditor();
@@ -391,6 +401,51 @@ void tst_MergingSave::choosesForAllThatAreSelected()
                          table->item(row, 1)->text());
         }
         QCOMPARE(cells.join(QLatin1Char('|')), QStringLiteral("1 mine|2 theirs|3 theirs"));
+        press(dialog, "mergeChosen");
+    }};
+
+    desks.editor->slotSave();
+
+    QCOMPARE(difference(desks.stored(), expected), QString());
+}
+
+void tst_MergingSave::choosesWhereOneReadsFromTheRight()
+{
+    TwoDesks desks;
+    const SaveRescue rescue(desks.host, desks.window.drafts(), &desks.window);
+    Tasks theirs = desks.saved();
+    for (const int id : {1, 2}) {
+        desks.edit(withEndAction(theirs[id]));
+        theirs[id] = withRow(theirs[id], "2");
+    }
+    Tasks expected = theirs;
+    expected[1] = desks.host.workingSet().at(1);
+    desks.saveElsewhere(theirs);
+    const FromTheRight direction;
+    const ChangesAnswer answer(kMerge);
+    ConflictsAnswer choose{[](merge::ConflictsDialog& dialog) {
+        const auto take = [&dialog](const char* name) {
+            auto* const choice = dialog.findChild<QRadioButton*>(QLatin1String(name));
+            QTest::mouseClick(choice, Qt::LeftButton, {},
+                              QPoint(choice->width() - 8, choice->height() / 2));
+        };
+        auto* const table = dialog.findChild<QTableWidget*>(QStringLiteral("conflictTable"));
+        // The first task is chosen, and what stands first stands on the right.
+        QCOMPARE(table->selectionModel()->selectedRows().value(0).row(), 0);
+        QVERIFY(!text(dialog, "linesOfMine").isEmpty());
+        QVERIFY(dialog.findChild<QWidget*>(QStringLiteral("linesOfMine"))->x() >
+                dialog.findChild<QWidget*>(QStringLiteral("linesOfTheirs"))->x());
+        QVERIFY(dialog.findChild<QWidget*>(QStringLiteral("mergeChosen"))->x() <
+                dialog.findChild<QWidget*>(QStringLiteral("backToQuestion"))->x());
+        take("takeMine");
+        QCOMPARE(table->item(0, 1)->text(), QStringLiteral("mine"));
+        const QRect second = table->visualItemRect(table->item(1, 1));
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, second.center());
+        QCOMPARE(table->selectionModel()->selectedRows().value(0).row(), 1);
+        QVERIFY(!isEnabled(dialog, "mergeChosen"));
+        take("takeTheirs");
+        QCOMPARE(table->item(1, 1)->text(), QStringLiteral("theirs"));
+        QCOMPARE(table->item(0, 1)->text(), QStringLiteral("mine"));
         press(dialog, "mergeChosen");
     }};
 
