@@ -62,6 +62,7 @@ private slots:
     void isFoundByPath();
     void isOneChange();
     void whatHasNoFormIsNotKept();
+    void whatHasNoFormIsPassedOver();
     void withoutAStore();
     void aFormerSchemaKnowsNothing();
 };
@@ -187,6 +188,24 @@ void tst_ProgramContents::whatHasNoFormIsNotKept()
                               source("c", {3, 0, "abc"})})
                 .store);
     QCOMPARE(known(), QString());
+    const QString rows = QStringLiteral("SELECT count(*) FROM program_content");
+    QCOMPARE(connectionTo(store.path)->value(rows).toInt(), 0);
+}
+
+// As another program may have written it.
+void tst_ProgramContents::whatHasNoFormIsPassedOver()
+{
+    StoreFixture store;
+    QVERIFY(store.host
+                .addPrograms({source("a", content('a')), source("b", content('b')),
+                              source("c", content('c'))})
+                .store);
+    const auto connection = connectionTo(store.path);
+    connection->run(
+        QStringLiteral("UPDATE program_content SET size_bytes = -1 WHERE prog_index = 1"));
+    connection->run(QStringLiteral("UPDATE program_content SET sha256 = (SELECT name FROM program"
+                                   " WHERE prog_index = 2) WHERE prog_index = 2"));
+    QCOMPARE(known(), QStringLiteral("3: 3 cc"));
 }
 
 void tst_ProgramContents::withoutAStore()
