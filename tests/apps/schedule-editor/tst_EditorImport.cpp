@@ -281,7 +281,20 @@ void tst_EditorImport::passwordsOfAddressesAreNotShown_data()
                              << "user@host" << QString()
                              << QStringList{QStringLiteral(
                                     "Some files could not be imported:\n"
-                                    "user@host: Addresses of this kind cannot be played.")};
+                                    "tape://user@host: Addresses of this kind cannot be played.")};
+    // The last part of an address says nothing; of a very long one its beginning is told.
+    QTest::newRow("refused, with a path")
+        << "tape://studio/4"
+        << "4" << QString()
+        << QStringList{QStringLiteral("Some files could not be imported:\n"
+                                      "tape://studio/4: Addresses of this kind cannot be "
+                                      "played.")};
+    const QString path(2000, QLatin1Char('x'));
+    QTest::newRow("refused, very long")
+        << QString(QStringLiteral("tape://studio/") + path) << path << QString()
+        << QStringList{QStringLiteral("Some files could not be imported:\ntape://studio/") +
+                       path.left(186) +
+                       QStringLiteral("…: Addresses of this kind cannot be played.")};
 }
 
 void tst_EditorImport::passwordsOfAddressesAreNotShown()

@@ -5,6 +5,7 @@
 #include "clock/Clock.h"
 #include "trelwidgets/PlainToolTip.h"
 
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
@@ -192,6 +193,12 @@ void AsRunWindow::changeEvent(QEvent* event)
 
 void AsRunWindow::retranslate()
 {
+    // A calendar keeps the first day of the week that it began with. There is none while the window
+    // is being built.
+    if (QCalendarWidget* const calendar = m_date->calendarWidget()) {
+        calendar->setLocale(locale());
+        calendar->setFirstDayOfWeek(locale().firstDayOfWeek());
+    }
     setWindowTitle(tr("As-run"));
     m_screenLabel->setText(tr("Screen"));
     m_dayLabel->setText(tr("Day"));

@@ -28,6 +28,17 @@ QString shownName(const QString& path)
     return QFileInfo(shownAddress(path)).fileName();
 }
 
+/// What is told of one that was refused: of an address all, since its last part alone says nothing.
+QString refusedName(const QString& path)
+{
+    constexpr int kLongest = 200;
+    const QString address = shownAddress(path);
+    if (!address.contains(QLatin1String("://"))) {
+        return shownName(path);
+    }
+    return address.size() > kLongest ? address.left(kLongest) + QChar(0x2026) : address;
+}
+
 void showSearch(QProgressDialog& progress, int found)
 {
     progress.setLabelText(CatalogueImport::tr("Looking for files: %n found", nullptr, found));
@@ -145,9 +156,9 @@ void CatalogueImport::report(const ImportScan& scan, int added, int updated)
     constexpr std::size_t kShown = 8;
     QStringList lines;
     for (std::size_t i = 0; i < std::min(kShown, scan.refusals.size()); ++i) {
-        lines.append(
-            tr("%1: %2", "file and reason")
-                .arg(shownName(scan.refusals[i].path), problems::sentence(scan.refusals[i].fault)));
+        lines.append(tr("%1: %2", "file and reason")
+                         .arg(refusedName(scan.refusals[i].path),
+                              problems::sentence(scan.refusals[i].fault)));
     }
     if (scan.refusals.size() > kShown) {
         lines.append(

@@ -86,7 +86,10 @@ void ConflictsDialog::buildTable()
     m_table->setColumnCount(ColumnCount);
     m_table->setHorizontalHeaderLabels({tr("Task"), tr("What stays")});
     m_table->verticalHeader()->hide();
+    // As in every table of the host.
     m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setTabKeyNavigation(false);

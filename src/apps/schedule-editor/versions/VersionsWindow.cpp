@@ -77,7 +77,7 @@ void VersionsWindow::build()
     m_table->setObjectName(QStringLiteral("versionTable"));
     prepareTable(*m_table, m_model);
     QHeaderView* columns = m_table->horizontalHeader();
-    columns->resizeSection(VersionModel::NumberColumn, 60);
+    columns->resizeSection(VersionModel::NumberColumn, 68);
     columns->resizeSection(VersionModel::SavedColumn, 120);
     columns->resizeSection(VersionModel::ByColumn, 100);
     columns->resizeSection(VersionModel::ChangeColumn, 140);
@@ -124,7 +124,8 @@ void VersionsWindow::build()
     halves->addWidget(list);
     halves->addWidget(comparison);
     halves->setStretchFactor(1, 1);
-    halves->setSizes({540, 780});
+    // The title of the last column is whole in every language.
+    halves->setSizes({610, 710});
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(halves);
 }

@@ -9,6 +9,7 @@
 #include "trelprogramschedule/asrun/AsRunDatabase.h"
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
@@ -145,6 +146,8 @@ private slots:
     void numbersFollowTheLanguage();
     void isSeenWithContent_data();
     void isSeenWithContent();
+    void calendarSpeaksTheLanguage_data();
+    void calendarSpeaksTheLanguage();
     void followsTheDatabase();
 };
 
@@ -372,6 +375,37 @@ void tst_AsRunWindow::isSeenWithContent()
     QVERIFY(fixture.asRun().grab().save(
         QStringLiteral(PICTURES "/as-run-%1-%2.png").arg(language, theme)));
     fixture.themes.select(Themes::names().first());
+}
+
+void tst_AsRunWindow::calendarSpeaksTheLanguage_data()
+{
+    QTest::addColumn<Qt::DayOfWeek>("firstDay");
+    QTest::newRow("en_US") << Qt::Sunday;
+    QTest::newRow("de_DE") << Qt::Monday;
+    QTest::newRow("ru_RU") << Qt::Monday;
+}
+
+void tst_AsRunWindow::calendarSpeaksTheLanguage()
+{
+    QFETCH(Qt::DayOfWeek, firstDay);
+    const QString language = QString::fromLatin1(QTest::currentDataTag());
+    Played fixture;
+    fixture.ask();
+    for (const QString& chosen : {QStringLiteral("pt_BR"), language}) {
+        fixture.languages.select(chosen);
+        QTRY_COMPARE(fixture.part<QDateEdit>("asRunDate").locale().name(), chosen);
+    }
+    // The calendar comes when it is asked for, as a window over the field.
+    auto& date = fixture.part<QDateEdit>("asRunDate");
+    const QPoint arrow(date.width() - 5, date.height() / 2);
+    QTest::mousePress(&date, Qt::LeftButton, {}, arrow);
+    QTest::mouseRelease(&date, Qt::LeftButton, {}, arrow);
+    QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+    const auto* const calendar = QApplication::activePopupWidget()->findChild<QCalendarWidget*>();
+    QVERIFY(calendar != nullptr);
+    QCOMPARE(calendar->locale().name(), language);
+    QCOMPARE(calendar->firstDayOfWeek(), firstDay);
+    QApplication::activePopupWidget()->close();
 }
 
 void tst_AsRunWindow::followsTheDatabase()

@@ -14,6 +14,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QHeaderView>
 #include <QListView>
 #include <QProcess>
 #include <QRadioButton>
@@ -355,6 +356,11 @@ void tst_MergingSave::oneOfTwoIsChosen()
                                                 : QStringLiteral("Task 1: first day ")),
                  qPrintable(text(dialog, "linesOfTheirs")));
         QVERIFY(!isEnabled(dialog, "mergeChosen"));
+        // The titles stand above what they name, and none is set off.
+        const QHeaderView& titles =
+            *dialog.findChild<QTableWidget*>(QStringLiteral("conflictTable"))->horizontalHeader();
+        QCOMPARE(titles.defaultAlignment(), Qt::AlignLeft | Qt::AlignVCenter);
+        QVERIFY(!titles.highlightSections());
         QCOMPARE(outlook(dialog), QStringLiteral("1 task is still to be chosen."));
         press(dialog, choice.toLatin1().constData());
         QCOMPARE(outlook(dialog), QStringLiteral("Everything else of both is kept."));

@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
@@ -183,6 +184,7 @@ private slots:
     void followsOtherPrograms();
     void supersededWorkDoesNotShow();
     void speaksTheLanguageInUse();
+    void titlesAreWholeInEveryLanguage();
     void showsAllTextsPlain();
     void followsTheStoreThatIsOpen();
     void tellsWhatCannotBeRead();
@@ -569,6 +571,30 @@ void tst_VersionsWindow::speaksTheLanguageInUse()
     QTRY_COMPARE(desk.stretches().size(), 14);
     QVERIFY(desk.stretches()[0].contains(QLatin1String("Auftrag 1, Plan 4")));
     desk.languages.select(QStringLiteral("en_US"));
+}
+
+void tst_VersionsWindow::titlesAreWholeInEveryLanguage()
+{
+    Desk desk;
+    desk.open();
+    const QHeaderView& header = *desk.table().horizontalHeader();
+    const int last = header.count() - 1;
+    // With more rows than there is room for.
+    const int bar = desk.table().style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    for (const QString& language : desk.languages.names()) {
+        desk.languages.select(language);
+        QTRY_COMPARE(desk.list().locale().name(), language);
+        QCoreApplication::processEvents();
+        for (int column = 0; column <= last; ++column) {
+            const int room = header.sectionSize(column) - (column == last ? bar : 0);
+            QVERIFY2(room >= header.sectionSizeHint(column),
+                     qPrintable(QStringLiteral("%1: %2 needs %3, has %4")
+                                    .arg(language)
+                                    .arg(column)
+                                    .arg(header.sectionSizeHint(column))
+                                    .arg(room)));
+        }
+    }
 }
 
 void tst_VersionsWindow::showsAllTextsPlain()
