@@ -4,8 +4,10 @@
 #include "EditorWindow.h"
 #include "HostPrompts.h"
 #include "PictureFiles.h"
+#include "PopupPictures.h"
 #include "ProblemWords.h"
 #include "SaveRescue.h"
+#include "StationPictures.h"
 #include "changes/ChangesDialog.h"
 #include "clock/Clock.h"
 #include "draft/DraftKeeper.h"
@@ -48,24 +50,10 @@ namespace {
 
 /// Longer than any import, in milliseconds.
 constexpr int kNever = 3600000;
-/// The longest that pictures are waited for that other threads make, in milliseconds.
-constexpr int kLongestWait = 5000;
-constexpr int kStep = 50;
 /// When such a window has its content, in milliseconds.
 constexpr int kFilled = 300;
 /// How old the draft is that is offered, in milliseconds.
 constexpr qint64 kDraftAge = 3 * 3600 * 1000LL;
-
-/// Lets events go on until something has come about, or it takes too long.
-template <typename Condition>
-void waitUntil(const Condition& condition)
-{
-    QElapsedTimer timer;
-    timer.start();
-    while (!condition() && timer.elapsed() < kLongestWait) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, kStep);
-    }
-}
 
 } // namespace
 
@@ -90,6 +78,8 @@ void HostPictures::drawAll()
     drawFileDialogs();
     drawPrompts();
     drawProblems();
+    StationPictures(m_window, m_editor, m_files).drawAll();
+    PopupPictures(m_window, m_editor, m_files).drawAll();
     drawEmpty();
     m_window.hide();
     QApplication::setActiveWindow(&m_editor);

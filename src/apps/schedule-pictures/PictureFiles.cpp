@@ -14,6 +14,9 @@ namespace {
 constexpr int kFirstLook = 200;
 /// How long one is waited for, in milliseconds.
 constexpr int kPatience = 10000;
+/// The longest that is waited for what other threads make, in milliseconds.
+constexpr int kLongestWait = 5000;
+constexpr int kStep = 50;
 
 QWidget* openWindow()
 {
@@ -28,6 +31,15 @@ void settle()
     for (int i = 0; i < 3; ++i) {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+void waitUntil(const std::function<bool()>& condition)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition() && timer.elapsed() < kLongestWait) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, kStep);
     }
 }
 
@@ -66,6 +78,10 @@ void PictureFiles::saveDialog(QWidget& window, const QString& name,
         save(dialog, name);
         isDrawn = true;
         dialog->close();
+        // And what it was asked over.
+        for (QWidget* below = openWindow(); below != nullptr && below->close();) {
+            below = openWindow();
+        }
     });
     look.start();
     open();

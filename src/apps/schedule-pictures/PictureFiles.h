@@ -11,6 +11,8 @@ namespace trel::pictures {
 
 /// Lets deferred deletions, and layouts that follow one another, happen.
 void settle();
+/// Lets events go on until something has come about, or it takes too long.
+void waitUntil(const std::function<bool()>& condition);
 
 /// Files of pictures of windows.
 class PictureFiles
