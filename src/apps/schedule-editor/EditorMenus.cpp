@@ -74,7 +74,8 @@ EditorMenus::EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes)
     m_newDatabase = add(*m_schedule, QKeySequence::New);
     m_openDatabase = add(*m_schedule, QKeySequence::Open);
     m_recentDatabases = m_schedule->addMenu(QString());
-    m_recentDatabases->setEnabled(false);
+    // The entry, and not the menu, whose own entries would stay out of reach.
+    m_recentDatabases->menuAction()->setEnabled(false);
     m_importSchedule = add(*m_schedule, {});
     m_exportSchedule = add(*m_schedule, {});
     m_schedule->addSeparator();

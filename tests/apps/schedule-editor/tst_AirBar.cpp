@@ -17,6 +17,7 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QStatusBar>
 #include <QToolButton>
 
@@ -49,7 +50,7 @@ struct Window : HostFixture
     {
         const QList<QToolButton*> buttons = bar.findChildren<QToolButton*>();
         for (QToolButton* button : buttons) {
-            if (button->text() == QLatin1String(text)) {
+            if (button->text() == QString::fromUtf8(text)) {
                 return *button;
             }
         }
@@ -87,6 +88,7 @@ private slots:
     void theClockGoesOn();
     void searchLeadsToTheCatalogue();
     void speaksTheLanguageInUse();
+    void tipsShowNoLetters();
     void canBeRead_data() { addThemes(); }
     void canBeRead();
 };
@@ -346,6 +348,28 @@ void tst_AirBar::speaksTheLanguageInUse()
         fixture.button(text);
     }
     QCOMPARE(fixture.light.accessibleName(), QStringLiteral("Nicht auf Sendung"));
+}
+
+/// Of the menus, which some languages have in brackets.
+void tst_AirBar::tipsShowNoLetters()
+{
+    Window fixture;
+    const QRegularExpression letter(QStringLiteral("\\([A-Z]\\)|&"));
+    const QList<QToolButton*> buttons = fixture.bar.findChildren<QToolButton*>();
+    for (const QString& language : fixture.languages.names()) {
+        fixture.languages.select(language);
+        QCoreApplication::processEvents();
+        for (const QToolButton* button : buttons) {
+            QVERIFY2(!button->toolTip().contains(letter),
+                     qPrintable(language + QStringLiteral(": ") + button->toolTip()));
+        }
+    }
+    fixture.languages.select(QStringLiteral("zh_CN"));
+    QCoreApplication::processEvents();
+    QCOMPARE(fixture.button("编辑").toolTip(), QStringLiteral("编辑排期"));
+    fixture.languages.select(QStringLiteral("en_US"));
+    QCoreApplication::processEvents();
+    QCOMPARE(fixture.button("Edit").toolTip(), QStringLiteral("Edit schedule"));
 }
 
 void tst_AirBar::canBeRead()

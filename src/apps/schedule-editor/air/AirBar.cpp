@@ -1,6 +1,7 @@
 #include "air/AirBar.h"
 
 #include "EditorMenus.h"
+#include "help/EntryText.h"
 #include "trelwidgets/PlainToolTip.h"
 
 #include <QAction>
@@ -25,6 +26,21 @@ AirBar::AirBar(const EditorMenus& menus, QWidget* state, QWidget* parent)
     state->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     addWidget(state);
     retranslate();
+    for (QAction* action :
+         {menus.editSchedule(), menus.importFiles(), menus.undo(), menus.stopSchedule()}) {
+        tellInWhole(*action);
+    }
+}
+
+/// A tip says what the entry of the menu says. Left to itself, the toolkit would show the letters
+/// that some languages have in brackets.
+void AirBar::tellInWhole(QAction& action)
+{
+    const auto tell = [&action] {
+        action.setToolTip(trel::widgets::plainToolTip(withoutLetter(action.text())));
+    };
+    connect(&action, &QAction::changed, this, tell);
+    tell();
 }
 
 /// Shorter than in the menus, which say what is edited and imported.

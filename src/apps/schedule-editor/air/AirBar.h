@@ -23,6 +23,7 @@ protected:
 
 private:
     void retranslate();
+    void tellInWhole(QAction& action);
 
     const EditorMenus& m_menus;
 };

@@ -1,5 +1,7 @@
 #include "help/KeyTable.h"
 
+#include "help/EntryText.h"
+
 #include <QAction>
 #include <QKeySequence>
 #include <QMenu>
@@ -15,23 +17,13 @@ QString native(const QKeySequence& keys)
     return keys.toString(QKeySequence::NativeText);
 }
 
-/// The text of a menu entry without the mark of its letter, and without a letter in brackets.
-QString plain(QString text)
-{
-    const int bracket = text.indexOf(QLatin1String("(&"));
-    if (bracket > 0) {
-        text.remove(bracket, text.indexOf(QLatin1Char(')'), bracket) - bracket + 1);
-    }
-    return text.remove(QLatin1Char('&')).trimmed();
-}
-
 void addActions(KeySection& section, const QList<QAction*>& actions)
 {
     for (const QAction* action : actions) {
         if (action->menu() != nullptr) {
             addActions(section, action->menu()->actions());
         } else if (!action->shortcut().isEmpty()) {
-            section.lines.push_back({native(action->shortcut()), plain(action->text())});
+            section.lines.push_back({native(action->shortcut()), withoutLetter(action->text())});
         }
     }
 }
