@@ -13,7 +13,7 @@ namespace trel::mediadispatch {
 class PostgresPatience;
 
 /// One connection to the schedule that a place on a server names. Each schedule has a schema of the
-/// server's for itself; see decision 12.
+/// server's for itself; see decision 13.
 ///
 /// Where the server has gone and is back, the next transaction connects once more. A statement
 /// takes half a minute at most and no lock is waited for longer than two seconds, by what the

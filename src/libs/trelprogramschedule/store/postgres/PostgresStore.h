@@ -9,7 +9,7 @@ namespace trel::mediadispatch {
 
 class PostgresConnection;
 
-/// A store on a server; see decision 12. It is never made by opening it, nor brought up to a newer
+/// A store on a server; see decision 13. It is never made by opening it, nor brought up to a newer
 /// schema: PostgresSetup does both.
 class PostgresStore final : public StoreEngine
 {
