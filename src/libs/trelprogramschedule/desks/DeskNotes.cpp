@@ -1,5 +1,6 @@
 #include "DeskNotes.h"
 
+#include "DeskNoteForm.h"
 #include "draft/DraftLock.h"
 
 #include <QCryptographicHash>
@@ -29,7 +30,6 @@ const QLatin1String kFormat("trel-desk");
 constexpr int kVersion = 1;
 /// Of each file, so that a note takes the place of a former one in one piece.
 constexpr int kBytes = 4096;
-constexpr int kLongestDesk = 100;
 /// Names of files have 255 bytes at most, and the store's is one of them already.
 constexpr int kLongestDeskName = 100;
 /// More programs than edit one store, so that a folder full of other things does no harm.
@@ -65,20 +65,12 @@ QByteArray bytesOf(const DeskNote& note)
     return QJsonDocument(object).toJson(QJsonDocument::Compact).leftJustified(kBytes, ' ');
 }
 
-bool isShown(QChar character)
-{
-    const QChar::Category category = character.category();
-    return category != QChar::Other_Control && category != QChar::Other_Format &&
-           category != QChar::Separator_Line && category != QChar::Separator_Paragraph;
-}
-
 std::optional<DeskNote> noteOf(const QByteArray& bytes)
 {
     const QJsonObject object = QJsonDocument::fromJson(bytes.trimmed()).object();
     const QString desk = object.value(QLatin1String("desk")).toString();
     if (object.value(QLatin1String("format")).toString() != kFormat ||
-        object.value(QLatin1String("version")).toInt() != kVersion || desk.isEmpty() ||
-        desk.size() > kLongestDesk || !std::all_of(desk.begin(), desk.end(), isShown)) {
+        object.value(QLatin1String("version")).toInt() != kVersion || !isDeskName(desk)) {
         return std::nullopt;
     }
     DeskNote note;
@@ -182,6 +174,11 @@ void DeskNotes::withdraw()
         m_lock->remove();
         m_lock.reset();
     }
+}
+
+bool DeskNotes::renew()
+{
+    return m_lock && m_lock->isInPlace();
 }
 
 std::vector<DeskNote> DeskNotes::others() const

@@ -2,7 +2,6 @@
 
 #include "DeskWorker.h"
 #include "clock/Clock.h"
-#include "store/StorePlace.h"
 
 #include <QMetaObject>
 
@@ -31,8 +30,7 @@ DeskWatch::~DeskWatch()
 
 void DeskWatch::begin(const QString& store)
 {
-    // A server has no folder to put a note into.
-    m_store = StorePlace::isAddress(store) ? QString() : store;
+    m_store = store;
     m_since = 0;
     if (!m_thread.isRunning()) {
         if (m_store.isEmpty()) {

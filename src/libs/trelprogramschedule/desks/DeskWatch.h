@@ -39,7 +39,7 @@ public:
     ~DeskWatch() override;
 
     /// The store in this file is open from now on, and nothing of it is edited; an empty path for
-    /// none. Of a store on a server nothing is told and nothing known.
+    /// none. The same of a store at an address.
     void begin(const QString& store);
     /// These tasks are changed and not saved; none when all is saved or dropped. The moment counts
     /// as that of the last change.

@@ -1,6 +1,7 @@
 #include "DeskWorker.h"
 
-#include "DeskNotes.h"
+#include "DeskNoteBoard.h"
+#include "store/StoreEngines.h"
 
 #include <utility>
 
@@ -20,7 +21,7 @@ DeskWorker::~DeskWorker() = default;
 void DeskWorker::begin(const QString& store)
 {
     m_store = store;
-    m_notes = store.isEmpty() ? nullptr : std::make_unique<DeskNotes>(store, m_desk);
+    m_notes = store.isEmpty() ? nullptr : deskNotesFor(store, m_desk);
     m_note = DeskNote();
     m_isWritten = true;
     if (m_notes) {
@@ -44,7 +45,7 @@ void DeskWorker::tell(const DeskNote& note)
 
 void DeskWorker::look()
 {
-    if (!m_isWritten) {
+    if (!m_note.taskIds.empty() && (!m_isWritten || !m_notes->renew())) {
         m_isWritten = m_notes->write(m_note);
     }
     emit found(m_store, m_notes->others());

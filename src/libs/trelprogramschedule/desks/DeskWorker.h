@@ -11,7 +11,7 @@
 
 namespace trel::mediadispatch {
 
-class DeskNotes;
+class DeskNoteBoard;
 
 /// What a DeskWatch has done in its thread.
 class DeskWorker : public QObject
@@ -35,7 +35,7 @@ private:
 
     QString m_desk;
     QString m_store;
-    std::unique_ptr<DeskNotes> m_notes; ///< Null beside no store.
+    std::unique_ptr<DeskNoteBoard> m_notes; ///< Null beside no store.
     DeskNote m_note;
     bool m_isWritten = true; ///< The note stands where others find it.
     QTimer* m_round;

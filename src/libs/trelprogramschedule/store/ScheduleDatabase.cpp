@@ -97,6 +97,11 @@ QString ScheduleDatabase::path() const
     return m_engine ? m_engine->path() : QString();
 }
 
+QString ScheduleDatabase::id() const
+{
+    return m_engine ? m_engine->id() : QString();
+}
+
 const StoreConnection& ScheduleDatabase::connection() const
 {
     return *m_engine->connection();

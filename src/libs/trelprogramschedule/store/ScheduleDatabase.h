@@ -49,6 +49,10 @@ public:
     /// Where the file is, behind any links; empty when none is open.
     QString path() const;
 
+    /// The id that a store on a server has for itself, also when it is restored from a copy; empty
+    /// of one in a file.
+    QString id() const;
+
     /// Whether the file that was opened still stands at its path.
     bool isInPlace() const;
     /// Opens the file that has taken the place of the one that was opened. Where that is refused it

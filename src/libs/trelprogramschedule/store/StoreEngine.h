@@ -27,6 +27,9 @@ public:
 
     /// Where the store is, as messages name it.
     virtual QString path() const = 0;
+    /// By what the store itself says which one it is, wherever it stands; empty where its file says
+    /// that.
+    virtual QString id() const { return {}; }
     /// Opens the store, or makes it. Nothing is written before the look has found it sound; a store
     /// that is refused stays as it is. To be called once.
     virtual StoreResult open() = 0;

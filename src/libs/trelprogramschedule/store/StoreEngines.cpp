@@ -3,7 +3,9 @@
 #include "StoreAttempt.h"
 #include "StorePlace.h"
 #include "StoreRefusals.h"
+#include "desks/DeskNotes.h"
 #include "postgres/PostgresConnection.h"
+#include "postgres/PostgresDeskNotes.h"
 #include "postgres/PostgresSetup.h"
 #include "postgres/PostgresStore.h"
 #include "sqlite/SqliteConnection.h"
@@ -56,6 +58,17 @@ std::unique_ptr<StoreConnection> readerFor(const QString& place)
     const StorePlace server(place);
     expectFlawless(server);
     return std::make_unique<PostgresConnection>(server, PostgresConnection::Access::ReadOnly);
+}
+
+std::unique_ptr<DeskNoteBoard> deskNotesFor(const QString& place, const QString& desk)
+{
+    if (!StorePlace::isAddress(place)) {
+        return std::make_unique<DeskNotes>(place, desk);
+    }
+    const StorePlace server(place);
+    return server.flaw() == StorePlace::Flaw::None
+               ? std::make_unique<PostgresDeskNotes>(server, desk)
+               : nullptr;
 }
 
 StoreResult setUpStore(const QString& address)

@@ -7,6 +7,8 @@
 
 namespace trel::mediadispatch {
 
+class DeskNoteBoard;
+
 /// The engine that keeps the store at a place. Throws StoreError where the place has a flaw; what
 /// is thrown does not repeat the place then, since there may be a password in it.
 std::unique_ptr<StoreEngine> engineFor(const QString& place, StoreOpenMode mode,
@@ -14,6 +16,9 @@ std::unique_ptr<StoreEngine> engineFor(const QString& place, StoreOpenMode mode,
 
 /// A connection that reads the store at a place beside the one that is open on it. Throws the same.
 std::unique_ptr<StoreConnection> readerFor(const QString& place);
+
+/// Where desks leave their notes on the store at a place. Null where the place has a flaw.
+std::unique_ptr<DeskNoteBoard> deskNotesFor(const QString& place, const QString& desk);
 
 /// Makes what a store at an address needs on its server, or brings it up to this program; see
 /// PostgresSetup. A place that is no address, or has a flaw, is refused with Other, and not

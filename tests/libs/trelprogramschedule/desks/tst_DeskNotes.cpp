@@ -270,8 +270,8 @@ void tst_DeskNotes::aServerHasNoFolder()
 {
     const QString former = QDir::currentPath();
     QVERIFY(QDir::setCurrent(m_folder->path()));
-    QVERIFY(QDir().mkpath(QStringLiteral("postgresql:/host")));
-    const QString address = QStringLiteral("postgresql://host/screens?schedule=hall");
+    QVERIFY(QDir().mkpath(QStringLiteral("postgresql:/127.0.0.1:1")));
+    const QString address = QStringLiteral("postgresql://127.0.0.1:1/screens?schedule=hall");
     const QString left = address + QStringLiteral(".edited-anna@studio.1");
     DeskNotes bert(store(), QStringLiteral("bert@hall"));
     QVERIFY(bert.write(note(1, 2, {3})));

@@ -46,6 +46,13 @@ const QString kMakeWritten =
     QStringLiteral("CREATE TABLE written (token uuid PRIMARY KEY,"
                    " moment timestamp with time zone NOT NULL DEFAULT now())");
 
+/// What desks tell each other of what they have open for editing: of each program a row, which it
+/// tells anew as long as it runs.
+const QString kMakeNotes =
+    QStringLiteral("CREATE TABLE desk_note (program uuid PRIMARY KEY, desk bytea NOT NULL,"
+                   " since INTEGER NOT NULL, changed INTEGER NOT NULL, tasks bytea NOT NULL,"
+                   " heard timestamp with time zone NOT NULL DEFAULT now())");
+
 /// More than any schema has, so that one that has more shows.
 constexpr int kMostElements = 1000;
 
@@ -312,18 +319,21 @@ void PostgresConnection::expectSameSchedule() const
 /// What was read back from a copy has the id of the original, yet is another schema.
 PostgresConnection::Seal PostgresConnection::readSeal() const
 {
-    QSqlQuery row = query(QStringLiteral("SELECT version, oid::text || ' ' || id::text FROM seal,"
+    QSqlQuery row = query(QStringLiteral("SELECT version, id::text, oid::text FROM seal,"
                                          " pg_catalog.pg_namespace WHERE nspname = %1")
                               .arg(postgresText(schemaName())));
     if (!next(row)) {
         throw StoreError{refusal(StoreProblem::Damaged, path(), {FaultCode::RowMissing, {}})};
     }
-    return {row.value(0).toInt(), row.value(1).toString()};
+    const QString id = row.value(1).toString();
+    return {row.value(0).toInt(), id, id + QLatin1Char(' ') + row.value(2).toString()};
 }
 
 void PostgresConnection::rememberSchedule() const
 {
-    m_identity = readSeal().identity;
+    const Seal seal = readSeal();
+    m_identity = seal.identity;
+    m_scheduleId = seal.id;
 }
 
 bool PostgresConnection::isSameSchedule() const
@@ -466,11 +476,17 @@ int PostgresConnection::schemaVersion() const
     return m_version;
 }
 
+void PostgresConnection::makeOwnTables() const
+{
+    for (const QString& statement : {kMakeSeal, kMakeWritten, kMakeNotes}) {
+        run(statement);
+    }
+}
+
 void PostgresConnection::seal(qint64 applicationId, int schemaVersion) const
 {
     if (!hasSeal()) {
-        run(kMakeSeal);
-        run(kMakeWritten);
+        makeOwnTables();
     }
     run(QStringLiteral("INSERT INTO seal (one, application, version) VALUES (1, %1, %2)"
                        " ON CONFLICT (one) DO UPDATE SET application = %1, version = %2")
@@ -503,8 +519,7 @@ StoreElements PostgresConnection::elementsMadeBy(const QStringList& statements) 
     const PostgresConnection fresh(m_place, Access::Scratch);
     StoreTransaction transaction(fresh, StorePurpose::Write);
     fresh.run(QStringLiteral("SET LOCAL search_path = pg_temp"));
-    fresh.run(kMakeSeal);
-    fresh.run(kMakeWritten);
+    fresh.makeOwnTables();
     for (const QString& statement : statements) {
         fresh.run(statement);
     }

@@ -27,6 +27,7 @@ public:
         SetUp,     ///< The schema may be missing, and is made by the caller.
         ReadWrite, ///< A transaction that writes keeps all others that write out.
         ReadOnly,  ///< Nothing can be written, also where there is a right to.
+        Beside,    ///< Writes what is no part of the schedule: keeps nobody out.
         Scratch,   ///< For what is undone in any case: keeps nobody out, and waits for nobody.
     };
 
@@ -48,6 +49,8 @@ public:
     /// The schedule that is there now is the one to stay with: what would be written to another one
     /// that takes its place, new or restored from a copy, is refused from then on.
     void rememberSchedule() const;
+    /// Its id, which it keeps when it is restored from a copy; empty while none is remembered.
+    QString scheduleId() const { return m_scheduleId; }
     /// Whether the schedule that is remembered is still there. True as long as it cannot be asked.
     bool isSameSchedule() const;
 
@@ -83,7 +86,8 @@ private:
     struct Seal
     {
         int version = 0;
-        QString identity; ///< No other schedule has it, nor the same one when it was restored.
+        QString id;       ///< No other schedule has it.
+        QString identity; ///< Nor has the same one this, when it was restored.
     };
 
     /// Runs a statement that is in the words of this engine already.
@@ -115,6 +119,8 @@ private:
     /// Part of a change: by this it is known to be done, where the answer is lost.
     QString leaveToken() const;
     Fate fateOf(const QString& token) const;
+    /// Those that a file has no need of.
+    void makeOwnTables() const;
     StoreElements elementsIn(const QString& schemaId) const;
 
     StorePlace m_place;
@@ -122,6 +128,7 @@ private:
     std::unique_ptr<PostgresPatience> m_patience;
     mutable int m_version = kNotAsked; ///< That the seal told, when it was first asked.
     mutable QString m_identity;        ///< Of the schedule to stay with; empty for any.
+    mutable QString m_scheduleId;
     mutable QSqlError m_failure;       ///< Why a connection that had been made was given up.
 
     mutable bool m_isInUse = false; ///< From the begin of a transaction until it is left.

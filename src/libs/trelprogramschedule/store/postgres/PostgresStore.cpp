@@ -61,6 +61,11 @@ const StoreConnection* PostgresStore::connection() const
     return m_connection.get();
 }
 
+QString PostgresStore::id() const
+{
+    return m_connection ? m_connection->scheduleId() : QString();
+}
+
 bool PostgresStore::isInPlace() const
 {
     return m_connection != nullptr && m_connection->isSameSchedule();

@@ -20,6 +20,7 @@ public:
     Q_DISABLE_COPY(PostgresStore)
 
     QString path() const override { return m_place.text(); }
+    QString id() const override;
     StoreResult open() override;
     /// The same as open: what is at a place on a server is found there whenever it is asked for.
     StoreResult reopen() override;
