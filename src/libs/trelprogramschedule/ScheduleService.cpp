@@ -181,20 +181,33 @@ void ScheduleService::lookAtStore()
 {
     if (!m_database.isInPlace()) {
         // The numbers of another file count other changes.
+        lookAgain();
         emit changedElsewhere();
         return;
     }
     StoreRevision now;
     if (!m_database.readRevision(now)) {
         // What cannot be read now is read a second later.
+        lookAgain();
         return;
     }
-    changeEffect([&now](ScheduleInEffect& inEffect) { return inEffect.followTo(now); });
+    if (!changeEffect([&now](ScheduleInEffect& inEffect) { return inEffect.followTo(now); })) {
+        lookAgain();
+    }
     if (std::exchange(m_toldSave, now.schedule) != now.schedule) {
         emit savedElsewhere();
     }
     if (now.catalogue != m_revision.catalogue) {
+        lookAgain();
         emit changedElsewhere();
+    }
+}
+
+void ScheduleService::lookAgain()
+{
+    // A receiver may have opened another store, or none.
+    if (m_follower) {
+        m_follower->lookAgain();
     }
 }
 

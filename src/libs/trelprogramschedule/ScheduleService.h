@@ -170,6 +170,8 @@ private:
     StoreResult followEffect();
     /// The same, and tells when another program has saved.
     void lookAtStore();
+    /// What the look has found has to be told of once more, until it is taken over.
+    void lookAgain();
     /// Follows the store that is open now, where one is to be followed.
     void renewFollower();
     /// Lets the watch know that the files, or what is known of them, are others.

@@ -1,6 +1,10 @@
 #include "StoreFollower.h"
 
+#include "ServerLook.h"
+#include "store/StorePlace.h"
+
 #include <QFile>
+#include <QMetaObject>
 
 #include <chrono>
 
@@ -15,7 +19,46 @@ constexpr std::chrono::seconds kRound{1};
 } // namespace
 
 StoreFollower::StoreFollower(const QString& store)
-    : m_paths({store, store + QStringLiteral("-wal")})
+{
+    if (StorePlace::isAddress(store)) {
+        followServer(store);
+    } else {
+        m_paths = QStringList{store, store + QStringLiteral("-wal")};
+        followFile();
+    }
+}
+
+StoreFollower::~StoreFollower()
+{
+    if (m_server) {
+        QMetaObject::invokeMethod(m_server.get(), [this] {
+            m_server->end();
+            m_thread.quit();
+        });
+        m_thread.wait();
+    }
+}
+
+void StoreFollower::followServer(const QString& store)
+{
+    m_server = std::make_unique<ServerLook>(store);
+    m_server->moveToThread(&m_thread);
+    connect(m_server.get(), &ServerLook::changed, this, &StoreFollower::due);
+    m_thread.setObjectName(QStringLiteral("server"));
+    m_thread.start(QThread::LowPriority);
+    QMetaObject::invokeMethod(m_server.get(), [look = m_server.get()] { look->begin(); });
+}
+
+void StoreFollower::lookAgain()
+{
+    // A file is looked at with each round.
+    if (m_server) {
+        QMetaObject::invokeMethod(m_server.get(),
+                                  [look = m_server.get()] { look->expectNothing(); });
+    }
+}
+
+void StoreFollower::followFile()
 {
     m_soon.setSingleShot(true);
     m_soon.setInterval(kGathering);

@@ -66,6 +66,8 @@ public:
     virtual int schemaVersion() const = 0;
     /// Writes both of these.
     virtual void seal(qint64 applicationId, int schemaVersion) const = 0;
+    /// By what the database says which schedule it holds; empty where its file says that.
+    virtual QString identity() const { return {}; }
     /// What the database defines.
     virtual StoreElements elements() const = 0;
     /// What an engine of this kind makes of statements in an empty database. An engine writes

@@ -50,14 +50,16 @@ std::unique_ptr<StoreEngine> engineFor(const QString& place, StoreOpenMode mode,
     return std::make_unique<PostgresStore>(server, mode, std::move(look));
 }
 
-std::unique_ptr<StoreConnection> readerFor(const QString& place)
+std::unique_ptr<StoreConnection> readerFor(const QString& place, std::chrono::milliseconds patience)
 {
     if (!StorePlace::isAddress(place)) {
         return std::make_unique<SqliteConnection>(place, SqliteConnection::Access::ReadOnly);
     }
     const StorePlace server(place);
     expectFlawless(server);
-    return std::make_unique<PostgresConnection>(server, PostgresConnection::Access::ReadOnly);
+    return std::make_unique<PostgresConnection>(
+        server, PostgresConnection::Access::ReadOnly,
+        patience.count() == 0 ? PostgresConnection::kPatience : patience);
 }
 
 std::unique_ptr<DeskNoteBoard> deskNotesFor(const QString& place, const QString& desk)

@@ -3,6 +3,7 @@
 #include "StoreEngine.h"
 #include "trelprogramschedule_export.h"
 
+#include <chrono>
 #include <memory>
 
 namespace trel::mediadispatch {
@@ -15,7 +16,9 @@ std::unique_ptr<StoreEngine> engineFor(const QString& place, StoreOpenMode mode,
                                        StoreEngine::Look look);
 
 /// A connection that reads the store at a place beside the one that is open on it. Throws the same.
-std::unique_ptr<StoreConnection> readerFor(const QString& place);
+/// A server that does not answer is given up after so long, or after its usual time for 0.
+std::unique_ptr<StoreConnection> readerFor(const QString& place,
+                                           std::chrono::milliseconds patience = {});
 
 /// Where desks leave their notes on the store at a place. Null where the place has a flaw.
 std::unique_ptr<DeskNoteBoard> deskNotesFor(const QString& place, const QString& desk);

@@ -64,6 +64,8 @@ public:
     /// Asked once. Whoever sets up asks each time, as others may do the same meanwhile.
     int schemaVersion() const override;
     void seal(qint64 applicationId, int schemaVersion) const override;
+    /// Another one for a schedule that was set up anew, or restored from a copy.
+    QString identity() const override { return readSeal().identity; }
     StoreElements elements() const override;
     /// On a connection of its own, in a place of the server's that goes with it.
     StoreElements elementsMadeBy(const QStringList& statements) const override;
@@ -129,7 +131,7 @@ private:
     mutable int m_version = kNotAsked; ///< That the seal told, when it was first asked.
     mutable QString m_identity;        ///< Of the schedule to stay with; empty for any.
     mutable QString m_scheduleId;
-    mutable QSqlError m_failure;       ///< Why a connection that had been made was given up.
+    mutable QSqlError m_failure; ///< Why a connection that had been made was given up.
 
     mutable bool m_isInUse = false; ///< From the begin of a transaction until it is left.
     mutable bool m_isInTransaction = false;

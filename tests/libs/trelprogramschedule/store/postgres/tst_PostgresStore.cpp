@@ -1,5 +1,6 @@
 #include "TaskSets.h"
 #include "catalogue/ProgramImporter.h"
+#include "effect/StoreFollower.h"
 #include "faults/FaultWords.h"
 #include "store/ScheduleDatabase.h"
 #include "store/StoreAttempt.h"
@@ -139,6 +140,8 @@ private slots:
     void anotherScheduleInItsPlaceIsNoticed_data();
     void anotherScheduleInItsPlaceIsNoticed();
     void aHostIsToldOfIt();
+    void aFollowerWaitsForNobody();
+    void whatIsNotTakenOverIsToldAgain();
     void aCommitThatIsCutShortIsUndone();
     void aCommitWithoutAnAnswerIsAskedFor();
     void aNumberThatCameAgainIsNotTakenForIt();
@@ -162,6 +165,15 @@ private:
     QString addressBy(const ServerRelay& relay) const
     {
         return address().replace(QString::number(m_server->port()), QString::number(relay.port()));
+    }
+
+    /// Adds one to a revision of the schedule, as a change of another program does.
+    bool raise(const char* revision) const
+    {
+        return !m_server
+                    ->run(QStringLiteral("UPDATE %1.store SET %2 = %2 + 1")
+                              .arg(kSchema, QLatin1String(revision)))
+                    .isNull();
     }
 
     std::unique_ptr<PostgresServer> m_server;
@@ -673,13 +685,83 @@ void tst_PostgresStore::aHostIsToldOfIt()
     host.followStore();
     QVERIFY(!m_server->run(QStringLiteral("DROP SCHEMA %1 CASCADE").arg(kSchema)).isNull());
     DONE(PostgresSetup::run(StorePlace(address())));
-    QTRY_VERIFY(!changed.isEmpty());
+    // As long as it is not taken over.
+    QTRY_VERIFY(changed.count() > 1);
     DONE(host.reload());
     QVERIFY(host.workingSet() == tasks);
     QVERIFY(host.hasUnsavedChanges());
     DONE(host.trySave());
     QCOMPARE(m_server->run(QStringLiteral("SELECT count(*) FROM %1.task").arg(kSchema)),
              QStringLiteral("2"));
+}
+
+// What is saved while the server cannot be reached is told once it can be again.
+void tst_PostgresStore::aFollowerWaitsForNobody()
+{
+    ServerRelay relay(m_server->port());
+    StoreFollower follower(addressBy(relay));
+    QSignalSpy due(&follower, &StoreFollower::due);
+    QVERIFY(due.isValid());
+    // The first look finds something new in any case.
+    QTRY_COMPARE(due.count(), 1);
+    // Two further ones find nothing.
+    constexpr int kPiecesOfLooks = 12;
+    const int asked = relay.pieces();
+    QTRY_VERIFY_WITH_TIMEOUT(relay.pieces() > asked + kPiecesOfLooks, 30000);
+    QCOMPARE(due.count(), 1);
+    int count = 1;
+    for (const char* const number :
+         {"schedule_revision", "catalogue_revision", "effect_revision", "version_revision"}) {
+        QVERIFY(raise(number));
+        ++count;
+        QTRY_COMPARE(due.count(), count);
+    }
+    QVERIFY(!m_server->run(QStringLiteral("UPDATE %1.seal SET id = gen_random_uuid()").arg(kSchema))
+                 .isNull());
+    ++count;
+    QTRY_COMPARE(due.count(), count);
+    follower.lookAgain();
+    ++count;
+    QTRY_COMPARE(due.count(), count);
+    // What was done while it could not be asked is not known.
+    relay.holdAt("schedule_revision");
+    QVERIFY(relay.waitUntilHeld());
+    relay.cut();
+    ++count;
+    QTRY_COMPARE(due.count(), count);
+    // Nothing of it happens here.
+    QVERIFY(follower.thread() == QThread::currentThread());
+}
+
+// A server is read only once a look has found something new: what could not be taken over then has
+// to come again by itself.
+void tst_PostgresStore::whatIsNotTakenOverIsToldAgain()
+{
+    ScheduleHost& host = ScheduleHost::instance();
+    const auto close = qScopeGuard([&host] {
+        host.followStore(false);
+        host.close();
+    });
+    DONE(host.open(address()));
+    host.followStore();
+    QSignalSpy changed(&host, &ScheduleHost::changedElsewhere);
+    QSignalSpy saved(&host, &ScheduleHost::savedElsewhere);
+    QSignalSpy effect(&host, &ScheduleHost::effectChanged);
+    QVERIFY(changed.isValid() && saved.isValid() && effect.isValid());
+    QVERIFY(raise("catalogue_revision"));
+    QTRY_VERIFY(changed.count() > 1);
+    DONE(host.reload());
+    // The look that tells of the save has failed to read what is in effect.
+    QVERIFY(!m_server->run(QStringLiteral("ALTER TABLE %1.effect RENAME TO away").arg(kSchema))
+                 .isNull());
+    const int before = effect.count();
+    QVERIFY(raise("effect_revision"));
+    QVERIFY(raise("schedule_revision"));
+    QTRY_VERIFY(!saved.isEmpty());
+    QCOMPARE(effect.count(), before);
+    QVERIFY(!m_server->run(QStringLiteral("ALTER TABLE %1.away RENAME TO effect").arg(kSchema))
+                 .isNull());
+    QTRY_COMPARE(effect.count(), before + 1);
 }
 
 void tst_PostgresStore::aCommitThatIsCutShortIsUndone()
