@@ -28,11 +28,13 @@ enum class DraftState {
 struct Draft
 {
     DraftState state = DraftState::Empty;
-    QByteArray store;  ///< Which store was edited: storeIdentity(). Empty where that is not known.
-    qint64 saved = 0;  ///< The save that was edited, as the store counts them.
-    QString desk;      ///< Where: see DraftJournal.
-    qint64 edited = 0; ///< When last, in milliseconds since 1970, UTC.
-    DraftTasks tasks;  ///< What was being edited.
+    /// Which store was edited: storeIdentity(), or the id of one on a server. Empty where that is
+    /// not known.
+    QByteArray store;
+    qint64 saved = 0;    ///< The save that was edited, as the store counts them.
+    QString desk;        ///< Where: see DraftJournal.
+    qint64 edited = 0;   ///< When last, in milliseconds since 1970, UTC.
+    DraftTasks tasks;    ///< What was being edited.
     DraftTasks canceled; ///< What was edited before that and canceled.
 };
 

@@ -5,6 +5,7 @@
 #include "ScheduleService.h"
 #include "trelprogramschedule/ScheduleHost.h"
 
+#include <QDir>
 #include <QMetaObject>
 
 #include <utility>
@@ -20,9 +21,21 @@ const TaskSets& sets()
     return ScheduleService::instance().state().tasks;
 }
 
-DraftHead headOf(const QString& store, const QString& desk)
+const ScheduleDatabase& database()
 {
-    return {storeIdentity(store), ScheduleService::instance().revision().schedule, desk};
+    return ScheduleService::instance().database();
+}
+
+/// Which store is open, however it is named.
+QByteArray identity()
+{
+    const QString id = database().id();
+    return id.isEmpty() ? storeIdentity(database().path()) : id.toLatin1();
+}
+
+DraftHead headOf(const QString& desk)
+{
+    return {identity(), ScheduleService::instance().revision().schedule, desk};
 }
 
 std::shared_ptr<const PlayTask> shared(const std::optional<PlayTask>& task)
@@ -62,10 +75,23 @@ bool DraftJournal::isRecording() const
     return !m_store.isEmpty() && m_store == ScheduleHost::instance().path();
 }
 
+QString DraftJournal::start() const
+{
+    const QString id = database().id();
+    if (id.isEmpty()) {
+        return database().path();
+    }
+    return m_aside.isEmpty() ? QString() : m_aside + QLatin1Char('/') + id;
+}
+
 void DraftJournal::begin()
 {
     end();
-    m_store = ScheduleHost::instance().path();
+    m_store = start().isEmpty() ? QString() : ScheduleHost::instance().path();
+    if (!database().id().isEmpty() && !m_aside.isEmpty()) {
+        // Where that is not done it is told with the first edit.
+        QDir().mkpath(m_aside);
+    }
 }
 
 void DraftJournal::end()
@@ -195,12 +221,13 @@ const std::map<int, PlayTask>& DraftJournal::saved() const
 
 std::vector<LeftDraft> DraftJournal::left() const
 {
-    const QString store = ScheduleHost::instance().path();
-    if (store.isEmpty()) {
+    const QString path = start();
+    if (path.isEmpty()) {
         return {};
     }
-    return leftDrafts({store, ScheduleService::instance().revision().schedule, &sets().stored()},
-                      m_desk);
+    return leftDrafts(
+        {path, ScheduleService::instance().revision().schedule, &sets().stored(), identity()},
+        m_desk);
 }
 
 void DraftJournal::note(const std::set<int>& taskIds)
@@ -232,7 +259,7 @@ void DraftJournal::noteSave()
     }
     if (m_writer) {
         DraftEdit head = {Kind::Head};
-        head.head = headOf(m_store, m_desk);
+        head.head = headOf(m_desk);
         edits.push_back(std::move(head));
         hand(std::move(edits));
     }
@@ -291,8 +318,8 @@ void DraftJournal::hand(Edits edits)
                 this, [this, fault] { hear(fault); }, Qt::QueuedConnection);
         });
         DraftEdit begin = {Kind::Begin};
-        begin.store = m_store;
-        begin.head = headOf(m_store, m_desk);
+        begin.store = start();
+        begin.head = headOf(m_desk);
         m_writer->take({std::move(begin)});
     }
     m_writer->take(std::move(edits));

@@ -18,9 +18,10 @@ namespace trel::mediadispatch {
 class DraftWriter;
 struct DraftEdit;
 
-/// Keeps what is edited and not saved in a file beside the store, its draft, so that neither a kill
-/// nor a power cut loses it. Writes in a thread of its own: on the disk within 250 milliseconds,
-/// where the disk is that quick, and no edit waits for it.
+/// Keeps what is edited and not saved in a file beside the store, its draft, or for a store on a
+/// server in a folder of the user's, so that neither a kill nor a power cut loses it. Writes in a
+/// thread of its own: on the disk within 250 milliseconds, where the disk is that quick, and no
+/// edit waits for it.
 ///
 /// A desk, of a name that the host chooses, has drafts of its own on each store; another process of
 /// the same desk writes another file. There is a file only while there is something in it: what is
@@ -36,6 +37,12 @@ public:
     explicit DraftJournal(QString desk, QObject* parent = nullptr, DraftHabits habits = {});
     /// Writes down what is not yet, and leaves the file.
     ~DraftJournal() override;
+
+    /// In which folder the drafts of stores on a server stand, since there is none beside them;
+    /// made if it is missing. To be called before begin(); without it the edits of such a store are
+    /// not recorded. A store has drafts of its own there by the id that it has, wherever the server
+    /// is and whatever the schedule is called.
+    void keepAside(const QString& folder) { m_aside = folder; }
 
     /// Records the edits of the store that is open now, from its next one on. To be called after
     /// each opening of a store; what was recorded of the former one is left as it is.
@@ -95,6 +102,9 @@ private:
     using Edits = std::vector<DraftEdit>;
 
     bool isRecording() const;
+    /// Of the store that is open now: the path that the names of its drafts begin with; empty where
+    /// they have no place.
+    QString start() const;
     void note(const std::set<int>& taskIds);
     void noteSave();
     /// Adds what has changed with a task.
@@ -108,6 +118,7 @@ private:
 
     QString m_desk;
     DraftHabits m_habits;
+    QString m_aside;       ///< For drafts of stores on a server; empty for none.
     QString m_store;       ///< Empty while nothing is recorded.
     SharedTasks m_unsaved; ///< As it was handed over; null for a task that is taken out.
     DraftTasks m_canceled;

@@ -11,7 +11,8 @@ namespace trel::mediadispatch {
 QByteArray storeIdentity(const QString& store);
 
 /// Where the drafts of a desk stand: STORE.unsaved-DESK, and for further ones STORE.unsaved-DESK+2
-/// and on. Of the desk, what does not go well into the name of a file is written as %XX.
+/// and on, where STORE is the file of the store, or for one on a server a path in a folder aside.
+/// Of the desk, what does not go well into the name of a file is written as %XX.
 class DraftPlace
 {
 public:

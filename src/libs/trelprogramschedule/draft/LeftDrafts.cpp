@@ -61,7 +61,7 @@ LeftDraft lookAt(const DraftedStore& store, const QString& path,
     left.draft = readDraft(bytes);
     left.lock = std::move(lock);
     const bool isRead = !left.draft.store.isEmpty();
-    left.isOfOtherStore = isRead && left.draft.store != storeIdentity(store.path);
+    left.isOfOtherStore = isRead && left.draft.store != store.identity;
     left.isOfOtherSave = isRead && !left.isOfOtherStore && left.draft.saved != store.saved;
     if (!left.isOfOtherStore) {
         leaveOutWhatIsSaved(left.draft.tasks, *store.tasks);

@@ -4,6 +4,7 @@
 #include "trelprogramschedule/faults/Fault.h"
 #include "trelprogramschedule_export.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <memory>
@@ -28,9 +29,10 @@ struct LeftDraft
 /// What is asked of a store when its drafts are looked for.
 struct DraftedStore
 {
-    QString path;
+    QString path;                                   ///< That the names of its drafts begin with.
     qint64 saved = 0;                               ///< The save that was read.
     const std::map<int, PlayTask>* tasks = nullptr; ///< Of that save.
+    QByteArray identity;                            ///< Which store it is.
 };
 
 /// The drafts of a desk on a store, that of the first name first. Tasks that are saved as a draft
