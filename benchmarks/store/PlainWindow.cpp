@@ -114,7 +114,7 @@ PlainWindow::PlainWindow(int programs)
 void PlainWindow::addMenus()
 {
     const std::initializer_list<std::pair<const char*, int>> menus = {
-        {"&Schedule", 11}, {"&Programs", 4},  {"&Week", 4},
+        {"&Schedule", 12}, {"&Programs", 4},  {"&Week", 4},
         {"&View", 8},      {"&Language", 10}, {"&Help", 3}};
     for (const auto& [title, actions] : menus) {
         QMenu* menu = menuBar()->addMenu(QLatin1String(title));

@@ -35,6 +35,10 @@
         <translation>Datenbank ö&amp;ffnen…</translation>
     </message>
     <message>
+        <source>Open &amp;from a server…</source>
+        <translation>Vo&amp;m Server öffnen…</translation>
+    </message>
+    <message>
         <source>&amp;Read schedule from a file…</source>
         <translation>Wiedergabeplan aus Datei &amp;laden…</translation>
     </message>
@@ -816,6 +820,10 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
     <message>
         <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
         <translation>Es ist nicht sicher, ob %1 geschrieben wurde. %2 Sehen Sie nach, ob die Änderung vorhanden ist, sobald der Server wieder erreichbar ist, bevor Sie fortfahren.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist. A schedule on a server is set up with “schedulectl server-setup”.</source>
+        <translation>%1 existiert nicht. Ein Wiedergabeplan auf einem Server wird mit „schedulectl server-setup“ eingerichtet.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>
@@ -3336,6 +3344,21 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <source>Copy the plans of %1 onto %2</source>
         <comment>two days</comment>
         <translation>Pläne vom %1 auf %2 kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::place::AddressDialog</name>
+    <message>
+        <source>Open from a server</source>
+        <translation>Vom Server öffnen</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Where the server asks for a password, it is read from the password file of the server's programs (~/.pgpass).</source>
+        <translation>Verlangt der Server ein Passwort, wird es aus der Passwortdatei der Serverprogramme (~/.pgpass) gelesen.</translation>
     </message>
 </context>
 <context>

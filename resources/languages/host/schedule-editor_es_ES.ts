@@ -35,6 +35,10 @@
         <translation>&amp;Abrir base de datos…</translation>
     </message>
     <message>
+        <source>Open &amp;from a server…</source>
+        <translation>A&amp;brir desde un servidor…</translation>
+    </message>
+    <message>
         <source>&amp;Read schedule from a file…</source>
         <translation>&amp;Leer la programación de un archivo…</translation>
     </message>
@@ -816,6 +820,10 @@ Cierre esta pregunta para seguir editando.</translation>
     <message>
         <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
         <translation>No es seguro que %1 se haya escrito. %2 Cuando vuelva a tener acceso al servidor, compruebe si el cambio está ahí antes de continuar.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist. A schedule on a server is set up with “schedulectl server-setup”.</source>
+        <translation>%1 no existe. Una programación en un servidor se configura con «schedulectl server-setup».</translation>
     </message>
     <message>
         <source>You do not have permission.</source>
@@ -3336,6 +3344,21 @@ What do you want to do with your changes?</source>
         <source>Copy the plans of %1 onto %2</source>
         <comment>two days</comment>
         <translation>Copiar los planes de %1 a %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::place::AddressDialog</name>
+    <message>
+        <source>Open from a server</source>
+        <translation>Abrir desde un servidor</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Where the server asks for a password, it is read from the password file of the server's programs (~/.pgpass).</source>
+        <translation>Si el servidor pide una contraseña, se lee del archivo de contraseñas de los programas del servidor (~/.pgpass).</translation>
     </message>
 </context>
 <context>

@@ -35,6 +35,10 @@
         <translation>&amp;Ouvrir une base de données…</translation>
     </message>
     <message>
+        <source>Open &amp;from a server…</source>
+        <translation>Ouvrir depuis un &amp;serveur…</translation>
+    </message>
+    <message>
         <source>&amp;Read schedule from a file…</source>
         <translation>&amp;Lire la programmation depuis un fichier…</translation>
     </message>
@@ -816,6 +820,10 @@ Fermez cette question pour continuer à modifier.</translation>
     <message>
         <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
         <translation>Il n’est pas certain que %1 ait été écrit. %2 Dès que le serveur est de nouveau joignable, vérifiez si la modification s’y trouve avant de continuer.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist. A schedule on a server is set up with “schedulectl server-setup”.</source>
+        <translation>%1 n’existe pas. Une programmation sur un serveur se configure avec «&#xa0;schedulectl server-setup&#xa0;».</translation>
     </message>
     <message>
         <source>You do not have permission.</source>
@@ -3336,6 +3344,21 @@ Que faire de vos modifications&#xa0;?</translation>
         <source>Copy the plans of %1 onto %2</source>
         <comment>two days</comment>
         <translation>Copier les créneaux du %1 vers %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::place::AddressDialog</name>
+    <message>
+        <source>Open from a server</source>
+        <translation>Ouvrir depuis un serveur</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Where the server asks for a password, it is read from the password file of the server's programs (~/.pgpass).</source>
+        <translation>Si le serveur demande un mot de passe, il est lu dans le fichier de mots de passe des programmes du serveur (~/.pgpass).</translation>
     </message>
 </context>
 <context>

@@ -35,6 +35,10 @@
         <translation>データベースを開く(&amp;O)…</translation>
     </message>
     <message>
+        <source>Open &amp;from a server…</source>
+        <translation>サーバーから開く(&amp;F)…</translation>
+    </message>
+    <message>
         <source>&amp;Read schedule from a file…</source>
         <translation>スケジュールをファイルから読み込む(&amp;R)…</translation>
     </message>
@@ -795,6 +799,10 @@ Close this question to keep editing.</source>
     <message>
         <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
         <translation>%1 に書き込まれたかどうかは確かではありません。%2サーバーに再び接続できるようになったら、変更が反映されているか確認してから続行してください。</translation>
+    </message>
+    <message>
+        <source>%1 does not exist. A schedule on a server is set up with “schedulectl server-setup”.</source>
+        <translation>%1 は存在しません。サーバー上のスケジュールは「schedulectl server-setup」で設定します。</translation>
     </message>
     <message>
         <source>You do not have permission.</source>
@@ -3290,6 +3298,21 @@ What do you want to do with your changes?</source>
         <source>Copy the plans of %1 onto %2</source>
         <comment>two days</comment>
         <translation>%1の計画を%2へコピー</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::place::AddressDialog</name>
+    <message>
+        <source>Open from a server</source>
+        <translation>サーバーから開く</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>Where the server asks for a password, it is read from the password file of the server's programs (~/.pgpass).</source>
+        <translation>サーバーがパスワードを求める場合は、サーバーのプログラムのパスワードファイル (~/.pgpass) から読み取られます。</translation>
     </message>
 </context>
 <context>

@@ -35,6 +35,10 @@
         <translation>데이터베이스 열기(&amp;O)…</translation>
     </message>
     <message>
+        <source>Open &amp;from a server…</source>
+        <translation>서버에서 열기(&amp;F)…</translation>
+    </message>
+    <message>
         <source>&amp;Read schedule from a file…</source>
         <translation>파일에서 일정 불러오기(&amp;R)…</translation>
     </message>
@@ -795,6 +799,10 @@ Close this question to keep editing.</source>
     <message>
         <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
         <translation>%1에 쓰였는지 확실하지 않습니다. %2 서버에 다시 연결할 수 있게 되면 변경 내용이 있는지 확인한 후 계속하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist. A schedule on a server is set up with “schedulectl server-setup”.</source>
+        <translation>%1이(가) 없습니다. 서버의 일정은 “schedulectl server-setup”으로 설정합니다.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>
@@ -3290,6 +3298,21 @@ What do you want to do with your changes?</source>
         <source>Copy the plans of %1 onto %2</source>
         <comment>two days</comment>
         <translation>%1의 계획을 %2(으)로 복사</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::place::AddressDialog</name>
+    <message>
+        <source>Open from a server</source>
+        <translation>서버에서 열기</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>주소</translation>
+    </message>
+    <message>
+        <source>Where the server asks for a password, it is read from the password file of the server's programs (~/.pgpass).</source>
+        <translation>서버가 비밀번호를 요구하면 서버 프로그램의 비밀번호 파일(~/.pgpass)에서 읽습니다.</translation>
     </message>
 </context>
 <context>

@@ -35,6 +35,10 @@
         <translation>&amp;Abrir banco de dados…</translation>
     </message>
     <message>
+        <source>Open &amp;from a server…</source>
+        <translation>A&amp;brir de um servidor…</translation>
+    </message>
+    <message>
         <source>&amp;Read schedule from a file…</source>
         <translation>&amp;Ler a programação de um arquivo…</translation>
     </message>
@@ -816,6 +820,10 @@ Feche esta pergunta para continuar editando.</translation>
     <message>
         <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
         <translation>Não é certo que %1 tenha sido gravado. %2 Quando o servidor puder ser acessado novamente, verifique se a alteração está lá antes de continuar.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist. A schedule on a server is set up with “schedulectl server-setup”.</source>
+        <translation>%1 não existe. Uma programação em um servidor é configurada com “schedulectl server-setup”.</translation>
     </message>
     <message>
         <source>You do not have permission.</source>
@@ -3336,6 +3344,21 @@ O que deseja fazer com as alterações?</translation>
         <source>Copy the plans of %1 onto %2</source>
         <comment>two days</comment>
         <translation>Copiar os planos de %1 para %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::place::AddressDialog</name>
+    <message>
+        <source>Open from a server</source>
+        <translation>Abrir de um servidor</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Endereço</translation>
+    </message>
+    <message>
+        <source>Where the server asks for a password, it is read from the password file of the server's programs (~/.pgpass).</source>
+        <translation>Se o servidor pedir uma senha, ela será lida do arquivo de senhas dos programas do servidor (~/.pgpass).</translation>
     </message>
 </context>
 <context>

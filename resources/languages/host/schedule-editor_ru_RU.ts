@@ -35,6 +35,10 @@
         <translation>&amp;Открыть базу данных…</translation>
     </message>
     <message>
+        <source>Open &amp;from a server…</source>
+        <translation>От&amp;крыть на сервере…</translation>
+    </message>
+    <message>
         <source>&amp;Read schedule from a file…</source>
         <translation>&amp;Загрузить расписание из файла…</translation>
     </message>
@@ -837,6 +841,10 @@ Close this question to keep editing.</source>
     <message>
         <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
         <translation>Неизвестно, записано ли %1. %2 Когда сервер снова станет доступен, проверьте, есть ли там изменение, прежде чем продолжать.</translation>
+    </message>
+    <message>
+        <source>%1 does not exist. A schedule on a server is set up with “schedulectl server-setup”.</source>
+        <translation>%1 не существует. Расписание на сервере настраивается командой «schedulectl server-setup».</translation>
     </message>
     <message>
         <source>You do not have permission.</source>
@@ -3382,6 +3390,21 @@ What do you want to do with your changes?</source>
         <source>Copy the plans of %1 onto %2</source>
         <comment>two days</comment>
         <translation>Копировать планы: %1 → %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::place::AddressDialog</name>
+    <message>
+        <source>Open from a server</source>
+        <translation>Открыть на сервере</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Адрес</translation>
+    </message>
+    <message>
+        <source>Where the server asks for a password, it is read from the password file of the server's programs (~/.pgpass).</source>
+        <translation>Если сервер запрашивает пароль, он читается из файла паролей программ сервера (~/.pgpass).</translation>
     </message>
 </context>
 <context>

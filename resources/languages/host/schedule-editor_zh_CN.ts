@@ -35,6 +35,10 @@
         <translation>打开数据库(&amp;O)…</translation>
     </message>
     <message>
+        <source>Open &amp;from a server…</source>
+        <translation>从服务器打开(&amp;F)…</translation>
+    </message>
+    <message>
         <source>&amp;Read schedule from a file…</source>
         <translation>从文件读取排期(&amp;R)…</translation>
     </message>
@@ -795,6 +799,10 @@ Close this question to keep editing.</source>
     <message>
         <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
         <translation>无法确定 %1 是否已写入。%2服务器恢复连接后，请先查看更改是否存在，再继续操作。</translation>
+    </message>
+    <message>
+        <source>%1 does not exist. A schedule on a server is set up with “schedulectl server-setup”.</source>
+        <translation>%1 不存在。服务器上的排期用“schedulectl server-setup”设置。</translation>
     </message>
     <message>
         <source>You do not have permission.</source>
@@ -3290,6 +3298,21 @@ What do you want to do with your changes?</source>
         <source>Copy the plans of %1 onto %2</source>
         <comment>two days</comment>
         <translation>将 %1 的计划复制到 %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::place::AddressDialog</name>
+    <message>
+        <source>Open from a server</source>
+        <translation>从服务器打开</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>Where the server asks for a password, it is read from the password file of the server's programs (~/.pgpass).</source>
+        <translation>如果服务器要求密码，将从服务器程序的密码文件 (~/.pgpass) 中读取。</translation>
     </message>
 </context>
 <context>

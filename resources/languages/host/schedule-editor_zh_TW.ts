@@ -35,6 +35,10 @@
         <translation>開啟資料庫(&amp;O)…</translation>
     </message>
     <message>
+        <source>Open &amp;from a server…</source>
+        <translation>從伺服器開啟(&amp;F)…</translation>
+    </message>
+    <message>
         <source>&amp;Read schedule from a file…</source>
         <translation>從檔案讀取排程(&amp;R)…</translation>
     </message>
@@ -795,6 +799,10 @@ Close this question to keep editing.</source>
     <message>
         <source>It is not certain whether %1 has been written. %2 Once the server can be reached again, see whether the change is there before you go on.</source>
         <translation>無法確定 %1 是否已寫入。%2伺服器恢復連線後，請先查看變更是否存在，再繼續操作。</translation>
+    </message>
+    <message>
+        <source>%1 does not exist. A schedule on a server is set up with “schedulectl server-setup”.</source>
+        <translation>%1 不存在。伺服器上的排程以「schedulectl server-setup」設定。</translation>
     </message>
     <message>
         <source>You do not have permission.</source>
@@ -3290,6 +3298,21 @@ What do you want to do with your changes?</source>
         <source>Copy the plans of %1 onto %2</source>
         <comment>two days</comment>
         <translation>將 %1 的計畫複製到 %2</translation>
+    </message>
+</context>
+<context>
+    <name>trel::desktop::place::AddressDialog</name>
+    <message>
+        <source>Open from a server</source>
+        <translation>從伺服器開啟</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>位址</translation>
+    </message>
+    <message>
+        <source>Where the server asks for a password, it is read from the password file of the server's programs (~/.pgpass).</source>
+        <translation>如果伺服器要求密碼，將從伺服器程式的密碼檔 (~/.pgpass) 讀取。</translation>
     </message>
 </context>
 <context>

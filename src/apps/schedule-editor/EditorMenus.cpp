@@ -73,6 +73,7 @@ EditorMenus::EditorMenus(QMenuBar& bar, Languages& languages, Themes& themes)
     m_schedule->addSeparator();
     m_newDatabase = add(*m_schedule, QKeySequence::New);
     m_openDatabase = add(*m_schedule, QKeySequence::Open);
+    m_openFromServer = add(*m_schedule, {});
     m_recentDatabases = m_schedule->addMenu(QString());
     // The entry, and not the menu, whose own entries would stay out of reach.
     m_recentDatabases->menuAction()->setEnabled(false);
@@ -155,6 +156,7 @@ void EditorMenus::retranslate()
     m_newDatabase->setText(tr("&New database…"));
     m_recentDatabases->setTitle(tr("O&pen recent"));
     m_openDatabase->setText(tr("&Open database…"));
+    m_openFromServer->setText(tr("Open &from a server…"));
     m_importSchedule->setText(tr("&Read schedule from a file…"));
     m_exportSchedule->setText(tr("&Write schedule to a file…"));
     m_skipPlay->setText(tr("S&kip to the next play"));

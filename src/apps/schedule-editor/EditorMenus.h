@@ -26,6 +26,7 @@ public:
     QAction* undo() const { return m_undo; }
     QAction* redo() const { return m_redo; }
     QAction* openDatabase() const { return m_openDatabase; }
+    QAction* openFromServer() const { return m_openFromServer; }
     QAction* newDatabase() const { return m_newDatabase; }
     /// The way to those that were open before.
     QMenu* recentDatabases() const { return m_recentDatabases; }
@@ -70,6 +71,7 @@ private:
     QAction* m_bringBack;
     QAction* m_versions;
     QAction* m_openDatabase;
+    QAction* m_openFromServer;
     QAction* m_newDatabase;
     QMenu* m_recentDatabases;
     QAction* m_importSchedule;

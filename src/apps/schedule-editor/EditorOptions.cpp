@@ -2,9 +2,13 @@
 
 #include "DatabaseArgument.h"
 #include "common/DisplayText.h"
+#include "trelprogramschedule/faults/FaultWords.h"
+#include "trelprogramschedule/store/StoreEngines.h"
 #include "trelprogramschedule/store/StorePlace.h"
 
 #include <QCommandLineParser>
+
+using namespace trel::mediadispatch;
 
 namespace trel::desktop {
 
@@ -16,6 +20,12 @@ EditorOptionsResult ended(EditorOptionsResult::Next next, const QString& text)
     result.next = next;
     result.text = text;
     return result;
+}
+
+/// What may have a password in it is not repeated.
+QString shown(const QString& place)
+{
+    return StorePlace::isAddress(place) && faultOfAddress(place) ? StorePlace::scheme() : place;
 }
 
 } // namespace
@@ -32,7 +42,8 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
     const QCommandLineOption database(
         {QStringLiteral("d"), QStringLiteral("database")},
         QStringLiteral("Open the schedule in FILE instead of the one that was open last, or of "
-                       "your own at first; made if it is missing."),
+                       "your own at first; made if it is missing. Or one on a server: "
+                       "postgresql://[user@]host[:port]/database?schedule=NAME."),
         QStringLiteral("FILE"));
     const QCommandLineOption demonstration(
         QStringLiteral("demonstration"),
@@ -71,12 +82,6 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
         return ended(EditorOptionsResult::Next::Version, {});
     }
 
-    if (mediadispatch::StorePlace::isAddress(parser.value(database))) {
-        // Not repeated, since there may be a password in it.
-        return ended(
-            EditorOptionsResult::Next::Misuse,
-            QStringLiteral("--database takes a file, not a schedule on a server.\nTry --help."));
-    }
     EditorOptionsResult result;
     result.options.database = parser.value(database);
     result.options.demonstration = parser.value(demonstration);
@@ -86,15 +91,23 @@ EditorOptionsResult readEditorOptions(const QStringList& arguments)
     result.options.theme = parser.value(theme);
     const QStringList files = parser.positionalArguments();
     for (const QString& file : files) {
-        if (!isDatabaseFile(file)) {
+        if (!StorePlace::isAddress(file) && !isDatabaseFile(file)) {
             result.options.imports.append(file);
         } else if (result.options.database.isEmpty()) {
             result.options.database = file;
         } else {
             return ended(EditorOptionsResult::Next::Misuse,
                          QStringLiteral("Only one schedule can be opened: %1 is another one.")
-                             .arg(hosts::inQuotes(hosts::printable(file))));
+                             .arg(hosts::inQuotes(hosts::printable(shown(file)))));
         }
+    }
+    const QString place = result.options.database;
+    if (StorePlace::isAddress(place)) {
+        if (const Fault fault = faultOfAddress(place)) {
+            return ended(EditorOptionsResult::Next::Misuse,
+                         englishSentence(fault) + QStringLiteral("\nTry --help."));
+        }
+        result.options.database = StorePlace(place).text();
     }
     return result;
 }

@@ -8,7 +8,7 @@ namespace trel::desktop {
 /// What the command line asks of the editor.
 struct EditorOptions
 {
-    QString database;      ///< Empty for the one open last, or the user's own.
+    QString database; ///< A path or an address; empty for the one open last, or the user's own.
     QString demonstration; ///< Folder that a database which does not exist yet is filled from.
     QString screenshot;  ///< Where to write a picture of the editor before ending; empty for none.
     bool edit = false;   ///< Open the editor at once.

@@ -25,6 +25,8 @@
 #include "help/HelpMenu.h"
 #include "look/Themes.h"
 #include "memory/LastFolders.h"
+#include "place/AddressDialog.h"
+#include "place/PlaceWords.h"
 #include "players/PlayersDock.h"
 #include "problems/ProblemDock.h"
 #include "scheduleControlUI.h"
@@ -36,6 +38,7 @@
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
+#include "trelprogramschedule/store/StorePlace.h"
 #include "undo/EditHistory.h"
 #include "undo/EditWords.h"
 #include "undo/HistoryActions.h"
@@ -97,7 +100,8 @@ void nameButton(const QDockWidget& panel, const char* button, const char* name)
 bool isForeignFile(const QString& path)
 {
     const QFileInfo file(path);
-    return file.isFile() && file.isReadable() && file.size() > 0 && !isDatabaseFile(path);
+    return !StorePlace::isAddress(path) && file.isFile() && file.isReadable() && file.size() > 0 &&
+           !isDatabaseFile(path);
 }
 
 } // namespace
@@ -155,6 +159,7 @@ void EditorWindow::connectMenus()
     };
     run(m_menus->editSchedule(), &EditorWindow::showEditor);
     run(m_menus->openDatabase(), &EditorWindow::chooseDatabase);
+    run(m_menus->openFromServer(), &EditorWindow::chooseAddress);
     run(m_menus->newDatabase(), &EditorWindow::makeDatabase);
     run(m_menus->importSchedule(), &EditorWindow::importSchedule);
     run(m_menus->exportSchedule(), &EditorWindow::exportSchedule);
@@ -299,7 +304,7 @@ void EditorWindow::retranslate()
 
 void EditorWindow::updateTitle()
 {
-    QString database = QFileInfo(ScheduleHost::instance().path()).fileName();
+    QString database = place::placeName(ScheduleHost::instance().path());
     if (!database.isEmpty() && m_drafts->isUnsaved()) {
         database += QLatin1Char('*');
     }
@@ -324,7 +329,7 @@ void EditorWindow::showReplacedSchedule()
 
 QString EditorWindow::openDatabase(const QString& path, const QString& demonstration)
 {
-    const bool isNew = !QFileInfo::exists(path);
+    const bool isNew = !StorePlace::isAddress(path) && !QFileInfo::exists(path);
     QString error = problems::sentence(ScheduleHost::instance().open(path));
     if (error.isEmpty() && isNew && !demonstration.isEmpty()) {
         error = fillWithDemonstration(demonstration);
@@ -336,7 +341,12 @@ QString EditorWindow::openDatabase(const QString& path, const QString& demonstra
     m_catalogue->reload();
     showReplacedSchedule();
     m_versions->readAgain();
-    if (m_asRun != nullptr) {
+    // What players write stands beside a file.
+    const bool isOnServer = StorePlace::isAddress(ScheduleHost::instance().path());
+    m_menus->asRun()->setEnabled(!isOnServer);
+    if (m_asRun != nullptr && isOnServer) {
+        m_asRun->hide();
+    } else if (m_asRun != nullptr) {
         m_asRun->setStore(ScheduleHost::instance().path());
     }
     if (ScheduleHost::instance().isOpen()) {
@@ -390,9 +400,18 @@ void EditorWindow::chooseDatabase()
 {
     const QString file = prompts::openFileName(this, prompts::kDatabases, tr("Open database"),
                                                tr("Schedules (*.db *.sqlite);;All files (*)"),
-                                               QFileInfo(ScheduleHost::instance().path()).path());
+                                               place::placeFolder(ScheduleHost::instance().path()));
     if (!file.isEmpty()) {
         openChosen(file);
+    }
+}
+
+void EditorWindow::chooseAddress()
+{
+    const QString open = ScheduleHost::instance().path();
+    place::AddressDialog dialog(StorePlace::isAddress(open) ? open : QString(), this);
+    if (dialog.exec() == QDialog::Accepted) {
+        openChosen(dialog.address());
     }
 }
 

@@ -112,6 +112,7 @@ private:
     void enableUpdates();
 
     void chooseDatabase();
+    void chooseAddress();
     void makeDatabase();
     void exportSchedule();
     void importSchedule();

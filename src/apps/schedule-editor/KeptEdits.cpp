@@ -2,7 +2,9 @@
 
 #include "clock/Clock.h"
 #include "common/DefaultDatabase.h"
+#include "place/PlaceWords.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
+#include "trelprogramschedule/store/StorePlace.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -17,9 +19,9 @@ namespace {
 QString freshName(const QDir& folder, const QString& store)
 {
     const QDateTime now = QDateTime::fromMSecsSinceEpoch(Clock::current().msecsSinceEpoch());
-    const QString start = QStringLiteral("%1.not-saved-%2")
-                              .arg(QFileInfo(store).completeBaseName(),
-                                   now.toString(QStringLiteral("yyyyMMdd-hhmmss")));
+    const QString start =
+        QStringLiteral("%1.not-saved-%2")
+            .arg(place::placeFileName(store), now.toString(QStringLiteral("yyyyMMdd-hhmmss")));
     QString name = start;
     for (int number = 2; folder.exists(name + QStringLiteral(".json")); ++number) {
         name = QStringLiteral("%1-%2").arg(start, QString::number(number));
@@ -33,7 +35,7 @@ KeptEdits keepEdits(const std::map<int, PlayTask>& tasks, const QString& store)
 {
     KeptEdits kept;
     for (const QString& beside : {store, hosts::makeDefaultDatabaseFolder()}) {
-        if (beside.isEmpty()) {
+        if (beside.isEmpty() || StorePlace::isAddress(beside)) {
             continue;
         }
         const QString file = freshName(QFileInfo(beside).absoluteDir(), store);

@@ -2,6 +2,7 @@
 
 #include "trelprogramschedule/faults/Fault.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
+#include "trelprogramschedule/store/StorePlace.h"
 #include "trelprogramschedule/store/StoreResult.h"
 
 #include <QCoreApplication>
@@ -194,8 +195,16 @@ constexpr char kUnanswered[] = QT_TRANSLATE_NOOP(
     "It is not certain whether %1 has been written. %2 Once the server can be reached again, see "
     "whether the change is there before you go on.");
 
+/// A schedule on a server is never made by opening it.
+constexpr char kNotSetUp[] = QT_TRANSLATE_NOOP(
+    "ProblemWords", "%1 does not exist. A schedule on a server is set up with “schedulectl "
+                    "server-setup”.");
+
 const char* patternOf(const StoreResult& result)
 {
+    if (result.problem == StoreProblem::FileMissing && StorePlace::isAddress(result.path)) {
+        return kNotSetUp;
+    }
     return result.cause.code == FaultCode::AnswerLost
                ? kUnanswered
                : kStoreProblemTexts[static_cast<int>(result.problem)].text;

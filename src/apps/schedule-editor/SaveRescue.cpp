@@ -8,6 +8,7 @@
 #include "draft/DraftKeeper.h"
 #include "merge/ConflictsDialog.h"
 #include "merge/MergeWords.h"
+#include "place/PlaceWords.h"
 #include "service/TaskPeriods.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/faults/FaultWords.h"
@@ -18,7 +19,6 @@
 #include <QDateTime>
 #include <QEvent>
 #include <QEventLoop>
-#include <QFileInfo>
 #include <QMetaObject>
 #include <QWidget>
 
@@ -84,7 +84,7 @@ SaveRescue::Answer SaveRescue::askPlainly(const StoreResult& reason) const
 
 SaveRescue::Answer SaveRescue::askAboutOther() const
 {
-    const QString store = QFileInfo(m_host.path()).fileName();
+    const QString store = place::placeName(m_host.path());
     const QString saved = dateAndTimeText(QDateTime::fromMSecsSinceEpoch(m_other.saved));
     changes::ChangesQuestion question;
     question.text =

@@ -209,6 +209,8 @@ const Case kCases[] = {
      [](PromptFixture& fixture) { fixture.withVersion("versionRestoreButton"); }},
     {"a version is named", nullptr,
      [](PromptFixture& fixture) { fixture.withVersion("versionNameButton"); }},
+    {"an address is asked for", "addressOpen",
+     [](PromptFixture& fixture) { fixture.menus().openFromServer()->trigger(); }},
     {"a day is copied", "copyDayConfirm",
      [](PromptFixture& fixture) {
          const auto* view = fixture.window.findChild<week::WeekPage*>()->panel()->view();

@@ -4,6 +4,7 @@
 #include "support/TestProgram.h"
 
 #include "card/PlanColumns.h"
+#include "place/AddressDialog.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -11,6 +12,7 @@
 #include <QDateEdit>
 #include <QEnterEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -40,6 +42,8 @@ private slots:
     void questionOfTheHost();
     void noticeOfTheHost_data() { addThemes(); }
     void noticeOfTheHost();
+    void addressOfAServer_data() { addThemes(); }
+    void addressOfAServer();
     void progressOfAnImport_data() { addThemes(); }
     void progressOfAnImport();
     void toolTips_data() { addThemes(); }
@@ -147,6 +151,25 @@ void tst_PromptContrast::questionOfTheHost()
 void tst_PromptContrast::noticeOfTheHost()
 {
     lookAtPrompt(1, [] { prompts::notice(QStringLiteral("The file could not be read.")); });
+}
+
+/// With a button that cannot be pressed, and with one that can.
+void tst_PromptContrast::addressOfAServer()
+{
+    QString faults;
+    for (const char* const address : {"", "postgresql://desk/shows?schedule=hall"}) {
+        place::AddressDialog dialog(QLatin1String(address), &m_host->window);
+        dialog.show();
+        QCoreApplication::processEvents();
+        const QList<QWidget*> parts = dialog.findChildren<QWidget*>();
+        for (QWidget* part : parts) {
+            if ((qobject_cast<QLabel*>(part) && !part->property("text").toString().isEmpty()) ||
+                qobject_cast<QLineEdit*>(part) || qobject_cast<QPushButton*>(part)) {
+                faults += faultsOf(part);
+            }
+        }
+    }
+    QVERIFY2(faults.isEmpty(), qPrintable(faults));
 }
 
 void tst_PromptContrast::progressOfAnImport()

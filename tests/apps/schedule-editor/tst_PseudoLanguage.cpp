@@ -319,6 +319,8 @@ void tst_PseudoLanguage::promptsOfTheHost()
     QVERIFY(fixture.window.drafts().keep());
     fixture.window.openDatabase(fixture.database);
     fixture.lookAtDialog(QStringLiteral("draft"), [&fixture] { fixture.window.offerDrafts(); });
+    fixture.lookAtDialog(QStringLiteral("address"),
+                         [&fixture] { fixture.action("Open &from a server…")->trigger(); });
     fixture.lookAtDialog(QStringLiteral("notice"), [] {
         prompts::notice(CatalogueImport::tr("Some files could not be imported:"));
     });

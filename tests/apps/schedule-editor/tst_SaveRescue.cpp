@@ -529,11 +529,16 @@ void tst_SaveRescue::editsAreKeptWhereTheyCanBe()
     const QString store = folder.filePath(QStringLiteral("gone/a.b.db"));
     const KeptEdits first = keepEdits({{3, task}}, store);
     const KeptEdits second = keepEdits({}, store);
+    const KeptEdits ofServer =
+        keepEdits({}, QStringLiteral("postgresql://desk/shows?schedule=North%20hall"));
     qputenv("XDG_DATA_HOME", former);
     QVERIFY(!first.fault);
     QVERIFY2(first.file.startsWith(folder.filePath(QStringLiteral("trel/schedule/a.b.not-saved-"))),
              qPrintable(first.file));
     QVERIFY(second.file != first.file);
+    QVERIFY2(ofServer.file.startsWith(
+                 folder.filePath(QStringLiteral("trel/schedule/North_hall.not-saved-"))),
+             qPrintable(ofServer.file));
     QFile json(first.file);
     QVERIFY(json.open(QIODevice::ReadOnly));
     QCOMPARE(scheduleFromJson(json.readAll()).tasks.size(), std::size_t(1));

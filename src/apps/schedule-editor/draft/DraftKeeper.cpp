@@ -5,6 +5,7 @@
 #include "ProblemWords.h"
 #include "changes/ChangesDialog.h"
 #include "clock/Clock.h"
+#include "common/DefaultDatabase.h"
 #include "draft/DraftWords.h"
 #include "look/Themes.h"
 #include "scheduleControlUI.h"
@@ -18,6 +19,7 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QFileInfo>
 #include <QSysInfo>
 #include <QWidget>
 
@@ -76,6 +78,8 @@ DraftKeeper::DraftKeeper(scheduleControlUI& editor, QAction& bringBack, PendingN
 
 void DraftKeeper::begin()
 {
+    m_journal->keepAside(QFileInfo(hosts::defaultDatabasePath()).absolutePath() +
+                         QStringLiteral("/drafts"));
     m_journal->begin();
     m_desks->begin(ScheduleHost::instance().path());
 }

@@ -1,5 +1,7 @@
 #include "memory/RecentDatabases.h"
 
+#include "trelprogramschedule/store/StorePlace.h"
+
 #include <QAction>
 #include <QDir>
 #include <QFileInfo>
@@ -8,6 +10,8 @@
 #include <QSettings>
 
 #include <algorithm>
+
+using trel::mediadispatch::StorePlace;
 
 namespace trel::desktop {
 
@@ -20,8 +24,12 @@ constexpr int kWidest = 480;
 /// No file system takes longer ones.
 constexpr int kLongestPath = 4096;
 
-bool isPath(const QString& text)
+bool isPlace(const QString& text)
 {
+    if (StorePlace::isAddress(text)) {
+        // What was remembered is in its usual form, and never has a password.
+        return text.size() <= kLongestPath && StorePlace(text).text() == text;
+    }
     return text.size() <= kLongestPath && QDir::isAbsolutePath(text) &&
            std::all_of(text.begin(), text.end(),
                        [](QChar character) { return character.isPrint(); });
@@ -44,7 +52,7 @@ QStringList RecentDatabases::paths() const
     QStringList paths;
     const QStringList remembered = m_settings.value(kRecent).toStringList();
     for (const QString& path : remembered) {
-        if (isPath(path) && !paths.contains(path) && paths.size() < kMost) {
+        if (isPlace(path) && !paths.contains(path) && paths.size() < kMost) {
             paths.append(path);
         }
     }
@@ -54,7 +62,8 @@ QStringList RecentDatabases::paths() const
 QString RecentDatabases::last() const
 {
     const QString path = paths().value(0);
-    return QFileInfo(path).isFile() ? path : QString();
+    // A server is asked when it is opened.
+    return StorePlace::isAddress(path) || QFileInfo(path).isFile() ? path : QString();
 }
 
 void RecentDatabases::add(const QString& path)
@@ -72,8 +81,8 @@ void RecentDatabases::fill()
     const QStringList now = paths();
     for (const QString& path : now) {
         // In a menu the sign would mark a letter.
-        QString text =
-            QDir::toNativeSeparators(path).replace(QLatin1Char('&'), QLatin1String("&&"));
+        QString text = StorePlace::isAddress(path) ? path : QDir::toNativeSeparators(path);
+        text.replace(QLatin1Char('&'), QLatin1String("&&"));
         QAction* const action =
             m_menu.addAction(m_menu.fontMetrics().elidedText(text, Qt::ElideMiddle, kWidest));
         action->setData(path);

@@ -8,7 +8,8 @@ class QSettings;
 
 namespace trel::desktop {
 
-/// The databases that were open last, as a menu. A remembered value that is no path is left out.
+/// The databases that were open last, as a menu: paths, and addresses on servers. A remembered
+/// value that is neither is left out.
 class RecentDatabases : public QObject
 {
     Q_OBJECT
@@ -18,7 +19,8 @@ public:
     /// outlive it.
     RecentDatabases(QSettings& settings, QMenu& menu, QObject* parent = nullptr);
 
-    /// The one that was open last, if its file is still there; empty otherwise.
+    /// The one that was open last, if it is on a server or its file is still there; empty
+    /// otherwise.
     QString last() const;
     /// A database has been opened: puts it on top.
     void add(const QString& path);

@@ -5,6 +5,7 @@
 #include "screen/ScreenFollower.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/screens/PlayerStatusFolder.h"
+#include "trelprogramschedule/store/StorePlace.h"
 #include "trelwidgets/PlainToolTip.h"
 
 #include <QAction>
@@ -95,7 +96,8 @@ void PlayersDock::look()
 {
     m_seconds = 0;
     const QString store = ScheduleHost::instance().path();
-    if (store.isEmpty()) {
+    // What players tell of themselves stands beside a file.
+    if (store.isEmpty() || StorePlace::isAddress(store)) {
         take(store, {});
         return;
     }

@@ -30,14 +30,25 @@ Fault causeOf(StorePlace::Flaw flaw)
     }
 }
 
+bool isFlawless(const StorePlace& place)
+{
+    return place.flaw() == StorePlace::Flaw::None && place.isOnServer();
+}
+
 void expectFlawless(const StorePlace& place)
 {
-    if (place.flaw() != StorePlace::Flaw::None || !place.isOnServer()) {
+    if (!isFlawless(place)) {
         throw StoreError{refusal(StoreProblem::Other, StorePlace::scheme(), causeOf(place.flaw()))};
     }
 }
 
 } // namespace
+
+Fault faultOfAddress(const QString& text)
+{
+    const StorePlace place(text);
+    return isFlawless(place) ? Fault() : causeOf(place.flaw());
+}
 
 std::unique_ptr<StoreEngine> engineFor(const QString& place, StoreOpenMode mode,
                                        StoreEngine::Look look)

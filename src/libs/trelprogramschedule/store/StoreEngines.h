@@ -23,6 +23,10 @@ std::unique_ptr<StoreConnection> readerFor(const QString& place,
 /// Where desks leave their notes on the store at a place. Null where the place has a flaw.
 std::unique_ptr<DeskNoteBoard> deskNotesFor(const QString& place, const QString& desk);
 
+/// Why a text is no address of a store on a server; nothing where it is one. A password in it is
+/// not repeated.
+TRELPROGRAMSCHEDULE_EXPORT Fault faultOfAddress(const QString& text);
+
 /// Makes what a store at an address needs on its server, or brings it up to this program; see
 /// PostgresSetup. A place that is no address, or has a flaw, is refused with Other, and not
 /// repeated.

@@ -1,6 +1,7 @@
 #include "FocusWalk.h"
 #include "HostFixture.h"
 #include "HostWindows.h"
+#include "place/AddressDialog.h"
 #include "support/TestProgram.h"
 
 #include <QApplication>
@@ -20,6 +21,7 @@ private slots:
     void backTabGoesTheSameWayBack();
     void tabReachesAllOfTheOtherWindows_data() { addHostWindows(); }
     void tabReachesAllOfTheOtherWindows();
+    void tabReachesAllOfAnAddress();
 };
 
 namespace {
@@ -101,6 +103,21 @@ void tst_FocusOrder::tabReachesAllOfTheOtherWindows()
     const QList<QWidget*> reached = walkFocus(*window, Qt::Key_Tab);
     QCOMPARE(missedIn(*window, reached), QStringList());
     QVERIFY2(reached.contains(first), qPrintable(namesOf(reached).join(QLatin1Char('\n'))));
+}
+
+/// The field first, so that one may type at once.
+void tst_FocusOrder::tabReachesAllOfAnAddress()
+{
+    place::AddressDialog dialog(QStringLiteral("postgresql://desk/shows?schedule=hall"), nullptr);
+    dialog.show();
+    dialog.activateWindow();
+    QTRY_VERIFY(QApplication::activeWindow() == &dialog);
+    QTRY_VERIFY(QApplication::focusWidget() != nullptr);
+    QWidget* const first = QApplication::focusWidget();
+    QCOMPARE(first->objectName(), QStringLiteral("address"));
+    const QList<QWidget*> reached = walkFocus(dialog, Qt::Key_Tab);
+    QCOMPARE(missedIn(dialog, reached), QStringList());
+    QCOMPARE(reached.last(), first);
 }
 
 TREL_TEST(tst_FocusOrder, QApplication)
