@@ -207,7 +207,7 @@ const Case kCases[] = {
      "a.mp4: Es ist keine Mediendatei, oder sie ist beschädigt.\n"
      "b.mp4: Die Datei ist leer.\n"
      "c.mp4: Die Datei existiert nicht.\n"
-     "host: Adressen dieser Art können nicht abgespielt werden.\n"
+     "tape://host: Adressen dieser Art können nicht abgespielt werden.\n"
      "d.mp4: Die Datei liegt auf einem anderen Computer. Kopieren Sie sie zuerst auf diesen."},
     {"an import that is not stored",
      [](PromptFixture& fixture) {

@@ -168,8 +168,12 @@ void tst_CtlRun::noticesFilesThatComeAndGo()
     QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(3));
     for (int round = 0; round < 2; ++round) {
         QVERIFY(QDir(m_fixture->path(QStringLiteral("media"))).removeRecursively());
-        QCOMPARE(run.event()[QStringLiteral("reason")].toString(),
-                 QStringLiteral("planHasNothing"));
+        QJsonObject event = run.event();
+        if (event[QStringLiteral("reason")] == QStringLiteral("planPlays")) {
+            // At a full minute the clip begins anew.
+            event = run.event();
+        }
+        QCOMPARE(event[QStringLiteral("reason")].toString(), QStringLiteral("planHasNothing"));
         m_fixture->writeClip(QStringLiteral("media/a.wav"), 60000);
         QCOMPARE(run.event()[QStringLiteral("program")], QJsonValue(3));
     }
