@@ -208,7 +208,8 @@ const Case kCases[] = {
      "b.mp4: Die Datei ist leer.\n"
      "c.mp4: Die Datei existiert nicht.\n"
      "tape://host: Adressen dieser Art können nicht abgespielt werden.\n"
-     "d.mp4: Die Datei liegt auf einem anderen Computer. Kopieren Sie sie zuerst auf diesen."},
+     "http://host/d.mp4: Die Datei liegt auf einem anderen Computer. Kopieren Sie sie zuerst auf "
+     "diesen."},
     {"an import that is not stored",
      [](PromptFixture& fixture) {
          QFile::remove(fixture.database);

@@ -196,6 +196,8 @@ void tst_CataloguePanel::keysLeadFromTheSearchToTheTable()
 {
     type(QStringLiteral("we"));
     QVERIFY(search().hasFocus());
+    // A thread that is still busy with an order before may have this one to do as well.
+    QTRY_COMPARE(table().model()->index(0, 0).data().toString(), QStringLiteral("Weather"));
     QTest::keyClick(&search(), Qt::Key_Down);
     QVERIFY(table().hasFocus());
     QCOMPARE(table().currentIndex().data().toString(), QStringLiteral("Weather"));

@@ -364,7 +364,7 @@ void tst_StoredEffect::othersAreFollowed()
                                 {}, cutIn, fixture.clock.msecsSinceEpoch(), false),
                             effect.revision));
     }
-    QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 1, 1000);
+    QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 1, 5000);
     const QStringList told = what == "start"  ? lines({"08:00:03 plays A to 08:00:10"})
                              : what == "stop" ? lines({"08:00:03 black"})
                                               : lines({"08:00:03 plays D inserted to 08:00:09"});

@@ -84,14 +84,14 @@ void tst_TasksNotInEffect::savesOfOthersAreTold()
     QVERIFY(saved.isValid());
     OtherProgram other(store.path);
     other.save(sampleSchedule(2, 1, 0));
-    QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, 1000);
+    QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 1, 5000);
     other.start();
     other.stop();
     QVERIFY(!saved.wait(1200));
     // A refresh of the list reads it, and tells nobody.
     other.save(sampleSchedule(1, 1, 0));
     QCOMPARE(store.manager.getgTaskMap().size(), 1U);
-    QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 2, 1000);
+    QTRY_COMPARE_WITH_TIMEOUT(saved.count(), 2, 5000);
     store.host.followStore(false);
 }
 
