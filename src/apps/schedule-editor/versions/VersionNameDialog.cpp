@@ -48,6 +48,8 @@ VersionNameDialog::VersionNameDialog(const ScheduleVersion& version, QWidget* pa
     layout->addLayout(fields);
     layout->addWidget(m_fault);
     layout->addWidget(m_buttons);
+    // Both are put in their places: where one alone is, the toolkit leaves out its neighbor.
+    setTabOrder(m_note, m_buttons->button(QDialogButtonBox::Cancel));
     setTabOrder(m_buttons->button(QDialogButtonBox::Cancel),
                 m_buttons->button(QDialogButtonBox::Ok));
 

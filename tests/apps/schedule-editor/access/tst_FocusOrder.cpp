@@ -3,13 +3,22 @@
 #include "HostWindows.h"
 #include "place/AddressDialog.h"
 #include "support/TestProgram.h"
+#include "trelprogramschedule/history/ScheduleVersion.h"
+#include "versions/VersionNameDialog.h"
 
 #include <QApplication>
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QTabBar>
 
+#include <functional>
+#include <memory>
+
 using namespace trel::desktop;
+using trel::mediadispatch::ScheduleVersion;
+
+using Form = std::function<std::unique_ptr<QDialog>()>;
+Q_DECLARE_METATYPE(Form)
 
 /// Where Tab leads in the window as it is shown: pressed, not read off the widgets.
 class tst_FocusOrder : public QObject
@@ -21,7 +30,8 @@ private slots:
     void backTabGoesTheSameWayBack();
     void tabReachesAllOfTheOtherWindows_data() { addHostWindows(); }
     void tabReachesAllOfTheOtherWindows();
-    void tabReachesAllOfAnAddress();
+    void tabReachesAllOfTheForms_data();
+    void tabReachesAllOfTheForms();
 };
 
 namespace {
@@ -105,18 +115,35 @@ void tst_FocusOrder::tabReachesAllOfTheOtherWindows()
     QVERIFY2(reached.contains(first), qPrintable(namesOf(reached).join(QLatin1Char('\n'))));
 }
 
-/// The field first, so that one may type at once.
-void tst_FocusOrder::tabReachesAllOfAnAddress()
+void tst_FocusOrder::tabReachesAllOfTheForms_data()
 {
-    place::AddressDialog dialog(QStringLiteral("postgresql://desk/shows?schedule=hall"), nullptr);
-    dialog.show();
-    dialog.activateWindow();
-    QTRY_VERIFY(QApplication::activeWindow() == &dialog);
+    QTest::addColumn<Form>("form");
+    QTest::addColumn<QString>("field");
+    const auto address = [] {
+        return std::make_unique<place::AddressDialog>(
+            QStringLiteral("postgresql://desk/shows?schedule=hall"), nullptr);
+    };
+    const auto version = [] {
+        return std::make_unique<versions::VersionNameDialog>(ScheduleVersion(), nullptr);
+    };
+    QTest::newRow("address") << Form(address) << QStringLiteral("address");
+    QTest::newRow("name of a version") << Form(version) << QStringLiteral("versionName");
+}
+
+/// The field first, so that one may type at once.
+void tst_FocusOrder::tabReachesAllOfTheForms()
+{
+    QFETCH(const Form, form);
+    QFETCH(const QString, field);
+    const std::unique_ptr<QDialog> dialog = form();
+    dialog->show();
+    dialog->activateWindow();
+    QTRY_VERIFY(QApplication::activeWindow() == dialog.get());
     QTRY_VERIFY(QApplication::focusWidget() != nullptr);
     QWidget* const first = QApplication::focusWidget();
-    QCOMPARE(first->objectName(), QStringLiteral("address"));
-    const QList<QWidget*> reached = walkFocus(dialog, Qt::Key_Tab);
-    QCOMPARE(missedIn(dialog, reached), QStringList());
+    QCOMPARE(first->objectName(), field);
+    const QList<QWidget*> reached = walkFocus(*dialog, Qt::Key_Tab);
+    QCOMPARE(missedIn(*dialog, reached), QStringList());
     QCOMPARE(reached.last(), first);
 }
 
