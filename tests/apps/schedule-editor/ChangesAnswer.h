@@ -1,6 +1,7 @@
 #pragma once
 
 #include "changes/ChangesDialog.h"
+#include "service/ScheduleRecords.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -13,6 +14,15 @@
 #include <deque>
 #include <functional>
 #include <initializer_list>
+
+/// What is told of a task of one plan that the other desk has deleted. The demonstration begins
+/// today, so that its dates are not the same tomorrow.
+inline QString deletedLine(const trel::mediadispatch::PlayTask& task)
+{
+    return QStringLiteral("Task %1: deleted, was valid from %2 to %3, 1 plan")
+        .arg(QString::number(task.id), QString::fromStdString(task.startDate),
+             QString::fromStdString(task.endDate));
+}
 
 /// Answers the questions about changes that appear while it lives, through their windows, and
 /// remembers what they said. Each takes the next answer: from 1 for the buttons, 0 for Escape. One
