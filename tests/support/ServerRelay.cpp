@@ -82,10 +82,22 @@ bool ServerRelay::waitUntilHeld()
     return m_changed.wait_for(lock, kPatience, [this] { return m_isHeld; });
 }
 
+int ServerRelay::lines() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_accepted;
+}
+
 int ServerRelay::pieces() const
 {
     const std::lock_guard lock(m_mutex);
     return m_pieces;
+}
+
+bool ServerRelay::hasSeen(const QByteArray& words) const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_sent.contains(words);
 }
 
 void ServerRelay::cut()
@@ -147,6 +159,7 @@ void ServerRelay::run()
 
 void ServerRelay::accept()
 {
+    ++m_accepted;
     Line line;
     line.client = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
     line.server = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
@@ -171,14 +184,17 @@ bool ServerRelay::pass(Line& line, bool isToServer)
         }
         return false;
     }
-    m_pieces += isToServer ? 1 : 0;
-    if (isToServer && !m_words.isEmpty() &&
-        QByteArray::fromRawData(bytes.data(), static_cast<int>(size)).contains(m_words)) {
-        m_words.clear();
-        line.isHeld = true;
-        m_isHeld = true;
-        m_changed.notify_all();
-        return true;
+    if (isToServer) {
+        const auto piece = QByteArray::fromRawData(bytes.data(), static_cast<int>(size));
+        ++m_pieces;
+        m_sent += piece;
+        if (!m_words.isEmpty() && piece.contains(m_words)) {
+            m_words.clear();
+            line.isHeld = true;
+            m_isHeld = true;
+            m_changed.notify_all();
+            return true;
+        }
     }
     return sendAll(isToServer ? line.server : line.client, bytes.data(), size);
 }

@@ -28,9 +28,13 @@ public:
     void holdAt(const QByteArray& words);
     /// Waits until somebody is kept; false when nobody has come in a minute.
     bool waitUntilHeld();
+    /// How many connections clients have made.
+    int lines() const;
     /// In how many pieces clients have sent what they did: one for each statement, and some more
     /// for long ones.
     int pieces() const;
+    /// Whether any client has sent these bytes, in one piece or in several.
+    bool hasSeen(const QByteArray& words) const;
     /// Ends the connections that are there, on both sides. Those that come then pass.
     void cut();
 
@@ -58,7 +62,9 @@ private:
     mutable std::mutex m_mutex; ///< Of what follows.
     std::condition_variable m_changed;
     QByteArray m_words;
+    QByteArray m_sent; ///< By all clients, in the order in which it came.
     int m_pieces = 0;
+    int m_accepted = 0;
     bool m_isHeld = false;
     bool m_isCut = false;
     bool m_isLeaving = false;

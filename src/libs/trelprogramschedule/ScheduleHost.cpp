@@ -168,6 +168,11 @@ void ScheduleHost::followStore(bool isOn)
     service().followStore(isOn);
 }
 
+void ScheduleHost::setPatience(std::chrono::milliseconds patience)
+{
+    service().setPatience(patience);
+}
+
 void ScheduleHost::rehearse()
 {
     service().rehearse();

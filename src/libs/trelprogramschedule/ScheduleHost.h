@@ -9,6 +9,7 @@
 #include <QObject>
 #include <QString>
 
+#include <chrono>
 #include <map>
 #include <memory>
 #include <optional>
@@ -160,6 +161,11 @@ public:
     /// first and, since it needs a QCoreApplication, when that has gone. Without this, open,
     /// reload and a refresh of the list take it over.
     void followStore(bool isOn = true);
+    /// How long the answer of a server to one statement is waited for, from the next open on. What
+    /// the server works at takes three quarters of that at most. 40 seconds at first and for 0;
+    /// less than 3 seconds count as 3. A host whose window stands still with each call chooses a
+    /// short time. A file is waited for as before.
+    void setPatience(std::chrono::milliseconds patience);
     /// Plays the stored set in this process alone, until the store has something in effect. For
     /// hosts that show a schedule which nobody has started. Nothing happens while one is in effect.
     void rehearse();

@@ -11,6 +11,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <chrono>
 #include <functional>
 #include <map>
 #include <memory>
@@ -83,6 +84,8 @@ public:
     StoreResult tasksNotInEffect(std::set<int>& taskIds);
     /// See ScheduleHost::followStore.
     void followStore(bool isOn);
+    /// See ScheduleHost::setPatience.
+    void setPatience(std::chrono::milliseconds patience) { m_database.setPatience(patience); }
 
     /// Commits the working set.
     StoreResult save();

@@ -47,8 +47,9 @@ try {
     close();
     m_looksFor = part;
     StoreResult result = attempt(path, [&] {
-        m_engine =
-            engineFor(path, mode, [this](const StoreConnection& connection) { look(connection); });
+        m_engine = engineFor(
+            path, mode, [this](const StoreConnection& connection) { look(connection); },
+            m_patience);
     });
     if (result) {
         result = m_engine->open();

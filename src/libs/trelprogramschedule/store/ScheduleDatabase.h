@@ -10,6 +10,7 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -44,6 +45,8 @@ public:
     /// that is refused, for its contents too, stays as it is, to the byte, and nothing is left
     /// beside it. No file of the process may be open on the same path.
     StoreResult open(const QString& path, StoreOpenMode mode, StorePart part = StorePart::Both);
+    /// See ScheduleHost::setPatience.
+    void setPatience(std::chrono::milliseconds patience) { m_patience = patience; }
     void close();
     bool isOpen() const;
     /// Where the file is, behind any links; empty when none is open.
@@ -128,6 +131,7 @@ private:
     std::optional<Seen> m_seen;
     std::optional<StoredEffect> m_seenEffect; ///< The same of what is in effect.
     std::unique_ptr<StoreEngine> m_engine;
+    std::chrono::milliseconds m_patience{0}; ///< For the next one; 0 for what is usual.
 };
 
 } // namespace trel::mediadispatch

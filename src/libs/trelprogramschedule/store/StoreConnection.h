@@ -82,6 +82,8 @@ protected:
     const QString& path() const { return m_path; }
     QSqlDatabase& database() { return m_database; }
     const QSqlDatabase& database() const { return m_database; }
+    /// Another one in the place of this one, which is not closed by that.
+    void replaceDatabase(const QSqlDatabase& database) const { m_database = database; }
 
     /// Throws where nothing can be asked of the database.
     virtual void expectOpen() const = 0;
@@ -113,7 +115,7 @@ private:
     virtual void leave() const {}
 
     QString m_path;
-    QSqlDatabase m_database;
+    mutable QSqlDatabase m_database;
 };
 
 /// A transaction that is undone unless it is committed.

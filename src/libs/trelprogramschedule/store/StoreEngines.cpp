@@ -11,6 +11,7 @@
 #include "sqlite/SqliteConnection.h"
 #include "sqlite/SqliteStore.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace trel::mediadispatch {
@@ -42,6 +43,12 @@ void expectFlawless(const StorePlace& place)
     }
 }
 
+std::chrono::milliseconds fitPatience(std::chrono::milliseconds patience)
+{
+    return patience.count() == 0 ? PostgresConnection::kPatience
+                                 : std::max(patience, PostgresConnection::kLeastPatience);
+}
+
 } // namespace
 
 Fault faultOfAddress(const QString& text)
@@ -51,14 +58,14 @@ Fault faultOfAddress(const QString& text)
 }
 
 std::unique_ptr<StoreEngine> engineFor(const QString& place, StoreOpenMode mode,
-                                       StoreEngine::Look look)
+                                       StoreEngine::Look look, std::chrono::milliseconds patience)
 {
     if (!StorePlace::isAddress(place)) {
         return std::make_unique<SqliteStore>(place, mode, std::move(look));
     }
     const StorePlace server(place);
     expectFlawless(server);
-    return std::make_unique<PostgresStore>(server, mode, std::move(look));
+    return std::make_unique<PostgresStore>(server, mode, std::move(look), fitPatience(patience));
 }
 
 std::unique_ptr<StoreConnection> readerFor(const QString& place, std::chrono::milliseconds patience)
@@ -68,9 +75,8 @@ std::unique_ptr<StoreConnection> readerFor(const QString& place, std::chrono::mi
     }
     const StorePlace server(place);
     expectFlawless(server);
-    return std::make_unique<PostgresConnection>(
-        server, PostgresConnection::Access::ReadOnly,
-        patience.count() == 0 ? PostgresConnection::kPatience : patience);
+    return std::make_unique<PostgresConnection>(server, PostgresConnection::Access::ReadOnly,
+                                                fitPatience(patience));
 }
 
 std::unique_ptr<DeskNoteBoard> deskNotesFor(const QString& place, const QString& desk)

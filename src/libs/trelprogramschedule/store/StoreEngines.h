@@ -11,12 +11,15 @@ namespace trel::mediadispatch {
 class DeskNoteBoard;
 
 /// The engine that keeps the store at a place. Throws StoreError where the place has a flaw; what
-/// is thrown does not repeat the place then, since there may be a password in it.
+/// is thrown does not repeat the place then, since there may be a password in it. A server that
+/// does not answer is given up after so long, three seconds at least, or after its usual time for
+/// 0.
 std::unique_ptr<StoreEngine> engineFor(const QString& place, StoreOpenMode mode,
-                                       StoreEngine::Look look);
+                                       StoreEngine::Look look,
+                                       std::chrono::milliseconds patience = {});
 
-/// A connection that reads the store at a place beside the one that is open on it. Throws the same.
-/// A server that does not answer is given up after so long, or after its usual time for 0.
+/// A connection that reads the store at a place beside the one that is open on it. Throws the same,
+/// and waits as long.
 std::unique_ptr<StoreConnection> readerFor(const QString& place,
                                            std::chrono::milliseconds patience = {});
 

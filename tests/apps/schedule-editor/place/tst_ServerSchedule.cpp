@@ -8,6 +8,7 @@
 #include "support/PostgresServer.h"
 #include "support/PromptAnswer.h"
 #include "support/SampleSchedule.h"
+#include "support/ServerRelay.h"
 #include "support/TaskRecords.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/desks/DeskWatch.h"
@@ -40,6 +41,7 @@ private slots:
     void cleanup();
 
     void isOpenedAndSaved();
+    void doesNotStandStillForLong();
     void whatIsNotThereIsToldOf();
     void anAddressIsAskedFor();
     void theMenuOpensIt();
@@ -97,6 +99,18 @@ void tst_ServerSchedule::isOpenedAndSaved()
     QVERIFY(fixture.window.findChild<EditorMenus*>()->asRun()->isEnabled());
     QCOMPARE(fixture.window.openDatabase(address), QString());
     QCOMPARE(fixture.manager.getgTaskMap().size(), std::size_t(1));
+}
+
+// A window that does not answer is closed by its user.
+void tst_ServerSchedule::doesNotStandStillForLong()
+{
+    const ServerRelay relay(m_server->port());
+    const QString address =
+        freshAddress().replace(QString::number(m_server->port()), QString::number(relay.port()));
+    HostFixture fixture;
+    QCOMPARE(fixture.window.openDatabase(address), QString());
+    // What the server may work at is three quarters of what is waited for.
+    QVERIFY(relay.hasSeen("statement_timeout = 7500"));
 }
 
 void tst_ServerSchedule::whatIsNotThereIsToldOf()

@@ -1,6 +1,7 @@
 #include "PostgresConnection.h"
 
 #include "PostgresInserts.h"
+#include "PostgresOpening.h"
 #include "PostgresPatience.h"
 #include "PostgresRefusals.h"
 #include "PostgresRows.h"
@@ -16,6 +17,7 @@
 #include <QUuid>
 #include <QVariant>
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -90,6 +92,20 @@ constexpr char kElements[] =
     "  FROM pg_catalog.pg_proc p JOIN home ON home.oid = pronamespace"
     " LIMIT %2";
 
+/// Longer than the client library waits for one address of the server.
+constexpr std::chrono::milliseconds kPatienceToOpen{12000};
+
+QSqlDatabase closedConnectionTo(const StorePlace& place)
+{
+    QSqlDatabase connection = unlistedConnection(QStringLiteral("QPSQL"));
+    connection.setHostName(place.host());
+    connection.setPort(place.port());
+    connection.setUserName(place.user());
+    connection.setDatabaseName(place.database());
+    connection.setConnectOptions(kOptions);
+    return connection;
+}
+
 } // namespace
 
 PostgresConnection::PostgresConnection(const StorePlace& place, Access access,
@@ -97,14 +113,11 @@ PostgresConnection::PostgresConnection(const StorePlace& place, Access access,
     : StoreConnection(place.text(), unlistedConnection(QStringLiteral("QPSQL")))
     , m_place(place)
     , m_access(access)
+    , m_longestWait(patience)
     , m_patience(std::make_unique<PostgresPatience>(patience))
 {
-    database().setHostName(place.host());
-    database().setPort(place.port());
-    database().setUserName(place.user());
-    database().setDatabaseName(place.database());
-    database().setConnectOptions(kOptions);
     connect();
+    m_isUntold = !isAlive();
 }
 
 PostgresConnection::~PostgresConnection() = default;
@@ -116,17 +129,25 @@ QString PostgresConnection::schemaName() const
 
 void PostgresConnection::connect() const
 {
-    QSqlDatabase connection = database();
-    connection.close();
+    m_former = database();
+    m_former.close();
     m_patience->leave();
     m_failure = QSqlError();
-    if (!connection.open()) {
+    QSqlDatabase connection = closedConnectionTo(m_place);
+    const PostgresOpening::Outcome outcome =
+        PostgresOpening::open(connection, std::min(m_longestWait, kPatienceToOpen));
+    m_isGivenUp = outcome == PostgresOpening::Outcome::GivenUp;
+    if (!m_isGivenUp) {
+        replaceDatabase(connection);
+    }
+    if (outcome != PostgresOpening::Outcome::Open) {
         return;
     }
     m_patience->watch(*connection.driver());
     const QStringList settings = {
         QStringLiteral("SET search_path = %1, pg_temp").arg(postgresName(schemaName())),
-        QStringLiteral("SET statement_timeout = '30s'"),
+        // The server itself ends what takes it long, before the wait for it is ended here.
+        QStringLiteral("SET statement_timeout = %1").arg((m_longestWait * 3 / 4).count()),
         QStringLiteral("SET lock_timeout = '2s'"),
         QStringLiteral("SET idle_in_transaction_session_timeout = '60s'"),
         // A change is on the disk of the server before it is told to be done.
@@ -180,7 +201,10 @@ void PostgresConnection::expectOpen() const
             faultOf(FaultCode::Database, 0, QStringLiteral("the driver QPSQL is not installed")))};
     }
     if (!isAlive()) {
-        throw errorOf(m_failure.isValid() ? m_failure : database().lastError());
+        m_isUntold = false;
+        throw m_isGivenUp
+            ? StoreError{refusal(StoreProblem::Other, path(), {FaultCode::ServerSilent, {}})}
+            : errorOf(m_failure.isValid() ? m_failure : database().lastError());
     }
     expectTime();
 }
@@ -260,6 +284,10 @@ void PostgresConnection::begin(StorePurpose purpose) const
 void PostgresConnection::beginAlive(StorePurpose purpose) const
 {
     if (!isAlive()) {
+        if (m_isUntold) {
+            // Whoever has just waited for nothing does not wait twice.
+            expectOpen();
+        }
         reconnect();
         beginOnce(purpose);
         return;
@@ -516,7 +544,7 @@ StoreElements PostgresConnection::elementsIn(const QString& schemaId) const
 
 StoreElements PostgresConnection::elementsMadeBy(const QStringList& statements) const
 {
-    const PostgresConnection fresh(m_place, Access::Scratch);
+    const PostgresConnection fresh(m_place, Access::Scratch, m_longestWait);
     StoreTransaction transaction(fresh, StorePurpose::Write);
     fresh.run(QStringLiteral("SET LOCAL search_path = pg_temp"));
     fresh.makeOwnTables();

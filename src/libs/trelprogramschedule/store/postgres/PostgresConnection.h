@@ -16,10 +16,11 @@ class PostgresPatience;
 /// server's for itself; see decision 13.
 ///
 /// Where the server has gone and is back, the next transaction connects once more. A statement
-/// takes half a minute at most and no lock is waited for longer than two seconds, by what the
-/// server itself measures. A server whose machine is off, or away from the network, is given up
-/// after some ten seconds, one that stands still while its machine answers for it after forty, and
-/// one that does not take a new connection after five.
+/// takes three quarters of the patience at most and no lock is waited for longer than two seconds,
+/// by what the server itself measures. A server whose machine is off, or away from the network, is
+/// given up after some ten seconds, one that stands still while its machine answers for it when the
+/// patience ends, and one that does not take a new connection after five seconds, or after twelve
+/// at whatever point of that it stands still; no wait is longer than the patience.
 class PostgresConnection final : public StoreConnection
 {
 public:
@@ -33,8 +34,11 @@ public:
 
     /// How long the answer to one statement is waited for: longer than the server works at it.
     static constexpr std::chrono::milliseconds kPatience{40000};
+    /// The server ends its own wait for a lock before its time for a statement ends.
+    static constexpr std::chrono::milliseconds kLeastPatience{3000};
 
-    /// Connects. A failure shows in the first statement.
+    /// Connects. A failure shows in the first statement or transaction; the next transaction tries
+    /// it once more.
     PostgresConnection(const StorePlace& place, Access access,
                        std::chrono::milliseconds patience = kPatience);
     ~PostgresConnection() override;
@@ -127,13 +131,18 @@ private:
 
     StorePlace m_place;
     Access m_access;
+    std::chrono::milliseconds m_longestWait;
     std::unique_ptr<PostgresPatience> m_patience;
     mutable int m_version = kNotAsked; ///< That the seal told, when it was first asked.
     mutable QString m_identity;        ///< Of the schedule to stay with; empty for any.
     mutable QString m_scheduleId;
     mutable QSqlError m_failure; ///< Why a connection that had been made was given up.
 
-    mutable bool m_isInUse = false; ///< From the begin of a transaction until it is left.
+    /// Closed. Queries that have not gone yet stay on it, while the next one is made in a thread.
+    mutable QSqlDatabase m_former;
+    mutable bool m_isGivenUp = false; ///< Nobody answered the last time that one was made.
+    mutable bool m_isUntold = false;  ///< That the first one could not be made.
+    mutable bool m_isInUse = false;   ///< From the begin of a transaction until it is left.
     mutable bool m_isInTransaction = false;
     mutable bool m_isWriting = false;
     mutable StoreDeadline* m_deadline = nullptr;

@@ -9,10 +9,12 @@
 
 namespace trel::mediadispatch {
 
-PostgresStore::PostgresStore(StorePlace place, StoreOpenMode mode, Look look)
+PostgresStore::PostgresStore(StorePlace place, StoreOpenMode mode, Look look,
+                             std::chrono::milliseconds patience)
     : m_place(std::move(place))
     , m_mode(mode)
     , m_look(std::move(look))
+    , m_patience(patience)
 {}
 
 PostgresStore::~PostgresStore() = default;
@@ -21,8 +23,10 @@ StoreResult PostgresStore::open()
 {
     return attempt(path(), [this] {
         auto connection = std::make_unique<PostgresConnection>(
-            m_place, m_mode == StoreOpenMode::ReadOnly ? PostgresConnection::Access::ReadOnly
-                                                       : PostgresConnection::Access::ReadWrite);
+            m_place,
+            m_mode == StoreOpenMode::ReadOnly ? PostgresConnection::Access::ReadOnly
+                                              : PostgresConnection::Access::ReadWrite,
+            m_patience);
         StoreTransaction transaction(*connection, StoreTransaction::Purpose::Read);
         expectFit(*connection);
         connection->rememberSchedule();

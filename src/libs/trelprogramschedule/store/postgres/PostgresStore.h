@@ -3,6 +3,7 @@
 #include "store/StoreEngine.h"
 #include "store/StorePlace.h"
 
+#include <chrono>
 #include <memory>
 
 namespace trel::mediadispatch {
@@ -15,7 +16,8 @@ class PostgresStore final : public StoreEngine
 {
 public:
     /// For a place on a server, without a flaw.
-    PostgresStore(StorePlace place, StoreOpenMode mode, Look look);
+    PostgresStore(StorePlace place, StoreOpenMode mode, Look look,
+                  std::chrono::milliseconds patience);
     ~PostgresStore() override;
     Q_DISABLE_COPY(PostgresStore)
 
@@ -38,6 +40,7 @@ private:
     StorePlace m_place;
     StoreOpenMode m_mode;
     Look m_look;
+    std::chrono::milliseconds m_patience;
     std::unique_ptr<PostgresConnection> m_connection;
 };
 

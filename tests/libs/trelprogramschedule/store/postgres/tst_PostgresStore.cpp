@@ -149,6 +149,10 @@ private slots:
     void aServerThatStandsStillIsGivenUp();
     void aCommitThatIsNotAnsweredIsUnclear();
     void aServerThatTakesNobodyIsGivenUp();
+    void aServerThatStopsWhileOneConnectsIsGivenUp();
+    void aConnectionThatIsGivenUpIsNotWaitedForTwice();
+    void aHostChoosesHowLongItWaits_data();
+    void aHostChoosesHowLongItWaits();
     void aServerThatIsAwayIsToldOf();
     void aDatabaseThatCannotNameItIsToldOf();
     void whoKeepsOthersOutIsNotWaitedForLong();
@@ -912,7 +916,7 @@ void tst_PostgresStore::aServerThatStandsStillIsGivenUp()
     DONE(attempt(QString(), [&desk] {
         StoreTransaction transaction(desk, StoreTransaction::Purpose::Read);
         const auto sleep =
-            QStringLiteral("SELECT pg_sleep(%1)").arg(0.6 * kShortPatience.count() / 1000);
+            QStringLiteral("SELECT pg_sleep(%1)").arg(0.55 * kShortPatience.count() / 1000);
         desk.run(sleep);
         desk.run(sleep);
         transaction.commit();
@@ -951,6 +955,67 @@ void tst_PostgresStore::aServerThatTakesNobodyIsGivenUp()
     const QString text = englishText(result);
     QVERIFY2(result.problem == StoreProblem::Other, qPrintable(text));
     QVERIFY2(text.contains(QLatin1String("timeout")), qPrintable(text));
+}
+
+// What the driver asks by itself, once the client library takes the connection for made.
+void tst_PostgresStore::aServerThatStopsWhileOneConnectsIsGivenUp()
+{
+    ServerRelay relay(m_server->port());
+    relay.holdAt("SELECT version()");
+    const PostgresConnection held(StorePlace(addressBy(relay)),
+                                  PostgresConnection::Access::ReadWrite, kShortPatience);
+    QVERIFY(relay.waitUntilHeld());
+    const StoreResult silent =
+        attempt(QString(), [&held] { held.run(QStringLiteral("SELECT 1")); });
+    QCOMPARE(silent.problem, StoreProblem::Other);
+    QCOMPARE(silent.cause.code, FaultCode::ServerSilent);
+    // The next transaction connects once more, while the first connection is still waited for.
+    DONE(attempt(QString(), [&held] {
+        StoreTransaction transaction(held, StoreTransaction::Purpose::Read);
+        transaction.commit();
+    }));
+}
+
+// A window would stand still for twice the time.
+void tst_PostgresStore::aConnectionThatIsGivenUpIsNotWaitedForTwice()
+{
+    ServerRelay relay(m_server->port());
+    relay.holdAt("SELECT version()");
+    const PostgresConnection held(StorePlace(addressBy(relay)),
+                                  PostgresConnection::Access::ReadWrite, kShortPatience);
+    const auto begin = [&held] {
+        return attempt(QString(), [&held] {
+            const StoreTransaction transaction(held, StoreTransaction::Purpose::Read);
+        });
+    };
+    QCOMPARE(begin().cause.code, FaultCode::ServerSilent);
+    QCOMPARE(relay.lines(), 1);
+    DONE(begin());
+    QCOMPARE(relay.lines(), 2);
+}
+
+void tst_PostgresStore::aHostChoosesHowLongItWaits_data()
+{
+    QTest::addColumn<int>("patience");
+    QTest::addColumn<QByteArray>("forTheServer");
+    QTest::newRow("chosen") << 10000 << QByteArray("statement_timeout = 7500");
+    QTest::newRow("too short") << 1 << QByteArray("statement_timeout = 2250");
+    QTest::newRow("usual") << 0 << QByteArray("statement_timeout = 30000");
+}
+
+void tst_PostgresStore::aHostChoosesHowLongItWaits()
+{
+    QFETCH(const int, patience);
+    QFETCH(const QByteArray, forTheServer);
+    ScheduleHost& host = ScheduleHost::instance();
+    const auto close = qScopeGuard([&host] {
+        host.close();
+        host.setPatience({});
+    });
+    ServerRelay relay(m_server->port());
+    host.setPatience(std::chrono::milliseconds(patience));
+    DONE(host.open(addressBy(relay)));
+    QVERIFY(relay.hasSeen(forTheServer));
 }
 
 void tst_PostgresStore::aServerThatIsAwayIsToldOf()
