@@ -53,7 +53,8 @@ class Findings:
 class Walk:
     """One run of the editor, in a language and a theme."""
 
-    def __init__(self, options, language, theme, findings):
+    def __init__(self, options, language, theme, findings, more=()):
+        """With more options for the editor, if there are any."""
         self.run = f"{language} {theme}"
         self.findings = findings
         self.prints = options.tree
@@ -63,7 +64,7 @@ class Walk:
         environment = {name: value for name, value in os.environ.items() if name != "AT_SPI_BUS_ADDRESS"}
         self.editor = subprocess.Popen(
             [options.editor, "--database", self.database, "--demonstration", options.demonstration,
-             "--language", language, "--theme", theme], env=environment)
+             "--language", language, "--theme", theme, *more], env=environment)
         self.program = bus.wait_for(bus.application, "the editor")
         self.window = bus.wait_for(lambda: next(iter(self.windows()), None), "the first window")
 

@@ -1210,10 +1210,21 @@ Que faire de vos modifications&#xa0;?</translation>
         <source>Original list: %1</source>
         <translation>Liste d’origine&#xa0;: %1</translation>
     </message>
+</context>
+<context>
+    <name>ListText</name>
     <message>
         <source>, </source>
-        <comment>between programs</comment>
+        <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>DateWords</name>
+    <message>
+        <source>%1, %2</source>
+        <comment>day of the week and date</comment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -2467,6 +2478,14 @@ Que faire de vos modifications&#xa0;?</translation>
     <message>
         <source>Not on screen any more, as the schedule is edited.</source>
         <translation>Plus à l’écran, d’après la programmation modifiée.</translation>
+    </message>
+    <message>
+        <source>Never on screen, as the schedule in effect has it.</source>
+        <translation>Jamais à l’écran, d’après la programmation en vigueur.</translation>
+    </message>
+    <message>
+        <source>Never on screen, as the schedule is edited.</source>
+        <translation>Jamais à l’écran, d’après la programmation modifiée.</translation>
     </message>
     <message>
         <source>On screen now: task %1, plan %2.</source>

@@ -1189,10 +1189,21 @@ What do you want to do with your changes?</source>
         <source>Original list: %1</source>
         <translation>이전: %1</translation>
     </message>
+</context>
+<context>
+    <name>ListText</name>
     <message>
         <source>, </source>
-        <comment>between programs</comment>
+        <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>DateWords</name>
+    <message>
+        <source>%1, %2</source>
+        <comment>day of the week and date</comment>
+        <translation>%2 %1</translation>
     </message>
 </context>
 <context>
@@ -2434,6 +2445,14 @@ What do you want to do with your changes?</source>
     <message>
         <source>Not on screen any more, as the schedule is edited.</source>
         <translation>편집 중인 일정에서는 더 이상 화면에 나오지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Never on screen, as the schedule in effect has it.</source>
+        <translation>적용 중인 일정에서는 한 번도 화면에 나오지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Never on screen, as the schedule is edited.</source>
+        <translation>편집 중인 일정에서는 한 번도 화면에 나오지 않습니다.</translation>
     </message>
     <message>
         <source>On screen now: task %1, plan %2.</source>

@@ -1210,10 +1210,21 @@ O que deseja fazer com as alterações?</translation>
         <source>Original list: %1</source>
         <translation>Antes: %1</translation>
     </message>
+</context>
+<context>
+    <name>ListText</name>
     <message>
         <source>, </source>
-        <comment>between programs</comment>
+        <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>DateWords</name>
+    <message>
+        <source>%1, %2</source>
+        <comment>day of the week and date</comment>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -2467,6 +2478,14 @@ O que deseja fazer com as alterações?</translation>
     <message>
         <source>Not on screen any more, as the schedule is edited.</source>
         <translation>Não aparece mais na tela, pela programação editada.</translation>
+    </message>
+    <message>
+        <source>Never on screen, as the schedule in effect has it.</source>
+        <translation>Nunca aparece na tela, pela programação em vigor.</translation>
+    </message>
+    <message>
+        <source>Never on screen, as the schedule is edited.</source>
+        <translation>Nunca aparece na tela, pela programação editada.</translation>
     </message>
     <message>
         <source>On screen now: task %1, plan %2.</source>

@@ -1231,10 +1231,21 @@ What do you want to do with your changes?</source>
         <source>Original list: %1</source>
         <translation>До этого: %1</translation>
     </message>
+</context>
+<context>
+    <name>ListText</name>
     <message>
         <source>, </source>
-        <comment>between programs</comment>
+        <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>DateWords</name>
+    <message>
+        <source>%1, %2</source>
+        <comment>day of the week and date</comment>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
@@ -2500,6 +2511,14 @@ What do you want to do with your changes?</source>
     <message>
         <source>Not on screen any more, as the schedule is edited.</source>
         <translation>По редактируемому расписанию на экране больше не появится.</translation>
+    </message>
+    <message>
+        <source>Never on screen, as the schedule in effect has it.</source>
+        <translation>По действующему расписанию никогда не появляется на экране.</translation>
+    </message>
+    <message>
+        <source>Never on screen, as the schedule is edited.</source>
+        <translation>По редактируемому расписанию никогда не появляется на экране.</translation>
     </message>
     <message>
         <source>On screen now: task %1, plan %2.</source>

@@ -1189,10 +1189,21 @@ What do you want to do with your changes?</source>
         <source>Original list: %1</source>
         <translation>原來：%1</translation>
     </message>
+</context>
+<context>
+    <name>ListText</name>
     <message>
         <source>, </source>
-        <comment>between programs</comment>
+        <comment>between the parts of a list</comment>
         <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>DateWords</name>
+    <message>
+        <source>%1, %2</source>
+        <comment>day of the week and date</comment>
+        <translation>%2 %1</translation>
     </message>
 </context>
 <context>
@@ -2434,6 +2445,14 @@ What do you want to do with your changes?</source>
     <message>
         <source>Not on screen any more, as the schedule is edited.</source>
         <translation>依編輯中的排程，不再出現在螢幕上。</translation>
+    </message>
+    <message>
+        <source>Never on screen, as the schedule in effect has it.</source>
+        <translation>依生效的排程，從不出現在螢幕上。</translation>
+    </message>
+    <message>
+        <source>Never on screen, as the schedule is edited.</source>
+        <translation>依編輯中的排程，從不出現在螢幕上。</translation>
     </message>
     <message>
         <source>On screen now: task %1, plan %2.</source>

@@ -2,6 +2,7 @@
 
 #include "common/ClockChangeText.h"
 #include "common/DisplayText.h"
+#include "common/ListText.h"
 #include "common/PlanFaultText.h"
 #include "service/ScheduleRecords.h"
 
@@ -30,7 +31,7 @@ QString daysText(WeekdaySet weekdays, const QLocale& locale)
             days.append(locale.standaloneDayName(weekday, QLocale::ShortFormat));
         }
     }
-    return days.join(QStringLiteral(", "));
+    return ListText::joined(days);
 }
 
 bool isToEndOfDay(const ScheduleProblem& problem)

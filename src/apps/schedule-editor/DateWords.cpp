@@ -4,6 +4,7 @@
 #include "clock/Clock.h"
 #include "service/ScheduleRecords.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
 
@@ -25,7 +26,8 @@ QString dayText(const QDate& date)
 
 QString weekdayText(const QDate& date, const QLocale& locale)
 {
-    return QStringLiteral("%1, %2").arg(locale.standaloneDayName(date.dayOfWeek()), dateText(date));
+    return QCoreApplication::translate("DateWords", "%1, %2", "day of the week and date")
+        .arg(locale.standaloneDayName(date.dayOfWeek()), dateText(date));
 }
 
 QString dateAndTimeText(const QDateTime& moment)

@@ -16,7 +16,8 @@ QString dateText(const QDate& date);
 /// A date without its year, which stands elsewhere, written the same way.
 QString dayText(const QDate& date);
 
-/// "Monday, 2024.03.04": the day by its name in the language, with such a date.
+/// "Monday, 2024.03.04": the day by its name in the language, with such a date, in the order of the
+/// language in use.
 QString weekdayText(const QDate& date, const QLocale& locale);
 
 /// A moment by its own clock, to the minute, with such a date.

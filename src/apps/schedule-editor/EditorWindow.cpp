@@ -74,6 +74,8 @@ namespace {
 
 /// Leaves room for the frame of the window and for a bar of the desktop on a screen of 1366 by 768.
 constexpr QSize kFirstSize(1350, 700);
+/// With a server.
+constexpr std::chrono::seconds kPatience{10};
 
 /// A panel that never makes the window higher than the screen, whatever it has to say.
 QScrollArea* scrolled(QWidget& panel)
@@ -137,6 +139,8 @@ EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Them
     // reach the toolkit.
     setAnimated(false);
 
+    // The windows wait with each call; an operator takes a longer silence for a crash.
+    ScheduleHost::instance().setPatience(kPatience);
     ScheduleHost::instance().watchFiles();
     ScheduleHost::instance().followStore();
     // The panels write dates as the language does; they take the locale over.
@@ -235,7 +239,7 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({m_programs, m_nowNext}, {275, 260}, Qt::Horizontal);
     resizeDocks({m_nowNext, preview}, {480, 120}, Qt::Vertical);
-    resizeDocks({problems}, {96}, Qt::Vertical);
+    resizeDocks({problems}, {problems->sizeHint().height()}, Qt::Vertical);
 }
 
 void EditorWindow::allowEdits(week::WeekPanel& panel)

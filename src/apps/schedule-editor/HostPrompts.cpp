@@ -1,5 +1,7 @@
 #include "HostPrompts.h"
 
+#include "fit/FileDialogFit.h"
+#include "look/ThemeImages.h"
 #include "memory/LastFolders.h"
 #include "trelwidgets/TipDialog.h"
 
@@ -39,6 +41,14 @@ void remember(const QWidget* parent, const QString& kind, const QString& path)
     }
 }
 
+/// Shows what the names of filters say, whose patterns are long, and returns what was chosen.
+QStringList choose(QFileDialog& dialog)
+{
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    fit::fitFileDialog(dialog);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+}
+
 } // namespace
 
 namespace prompts {
@@ -51,6 +61,15 @@ QString questionTitle()
 void notice(const QString& text)
 {
     TipDialog* const prompt = promptOf(TipDialog::Notice, text);
+    prompt->setBtnText(QCoreApplication::translate("HostPrompts", "OK"), QString(), QString());
+    prompt->run();
+}
+
+void about(const QString& title, const QString& text)
+{
+    TipDialog* const prompt = promptOf(TipDialog::Notice, text);
+    prompt->setWindowTitle(title);
+    prompt->setSignIcon(look::imageIcon(QStringLiteral("schedule-editor"), QColor()));
     prompt->setBtnText(QCoreApplication::translate("HostPrompts", "OK"), QString(), QString());
     prompt->run();
 }
@@ -75,8 +94,9 @@ QString openFileName(QWidget* parent, const char* kind, const QString& title, co
                      const QString& folder)
 {
     const QString remembered = folderOf(parent, QLatin1String(kind));
-    QString file = QFileDialog::getOpenFileName(parent, title,
-                                                remembered.isEmpty() ? folder : remembered, filter);
+    QFileDialog dialog(parent, title, remembered.isEmpty() ? folder : remembered, filter);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    QString file = choose(dialog).value(0);
     remember(parent, QLatin1String(kind), file);
     return file;
 }
@@ -84,16 +104,19 @@ QString openFileName(QWidget* parent, const char* kind, const QString& title, co
 QStringList openFileNames(QWidget* parent, const char* kind, const QString& title,
                           const QString& filter)
 {
-    QStringList files =
-        QFileDialog::getOpenFileNames(parent, title, folderOf(parent, QLatin1String(kind)), filter);
+    QFileDialog dialog(parent, title, folderOf(parent, QLatin1String(kind)), filter);
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    QStringList files = choose(dialog);
     remember(parent, QLatin1String(kind), files.value(0));
     return files;
 }
 
 QString openFolder(QWidget* parent, const char* kind, const QString& title)
 {
-    QString folder =
-        QFileDialog::getExistingDirectory(parent, title, folderOf(parent, QLatin1String(kind)));
+    QFileDialog dialog(parent, title, folderOf(parent, QLatin1String(kind)));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    QString folder = choose(dialog).value(0);
     remember(parent, QLatin1String(kind), folder);
     return folder;
 }
@@ -105,10 +128,7 @@ QString saveFileName(QWidget* parent, const QString& title, const QString& filte
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
     dialog.setOption(QFileDialog::DontConfirmOverwrite, existing == Existing::IsTold);
-    if (dialog.exec() != QDialog::Accepted) {
-        return QString();
-    }
-    QString file = dialog.selectedFiles().value(0);
+    QString file = choose(dialog).value(0);
     remember(parent, suffix, file);
     return file;
 }

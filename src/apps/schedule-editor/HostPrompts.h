@@ -18,6 +18,9 @@ QString questionTitle();
 /// Tells the operator something.
 void notice(const QString& text);
 
+/// Tells what the program is, with its own picture.
+void about(const QString& title, const QString& text);
+
 /// Asks; the result is 1, 2 or 3 for the buttons in order, and 0 for any other way out. Enter
 /// presses the button with the given number, which takes nothing away.
 int confirm(const QString& text, const QString& first, const QString& second,

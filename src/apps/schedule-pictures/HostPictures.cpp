@@ -8,6 +8,7 @@
 #include "ProblemWords.h"
 #include "SaveRescue.h"
 #include "StationPictures.h"
+#include "catalogue/PreviewPicture.h"
 #include "changes/ChangesDialog.h"
 #include "clock/Clock.h"
 #include "draft/DraftKeeper.h"
@@ -31,6 +32,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTabWidget>
@@ -71,6 +73,7 @@ void HostPictures::drawAll()
     drawMenus();
     drawPanels();
     drawEffect();
+    drawFullScreen();
     drawWeeks();
     drawVersions();
     drawOtherWindows();
@@ -137,6 +140,20 @@ void HostPictures::drawEffect()
     host.replaceSchedule(former);
 }
 
+/// While something is on screen.
+void HostPictures::drawFullScreen()
+{
+    QAction& entry = *m_window.findChild<PreviewDock*>()->fullScreen();
+    entry.trigger();
+    auto* const preview = m_window.findChild<QWidget*>(QStringLiteral("previewFullScreen"));
+    QElapsedTimer timer;
+    timer.start();
+    waitUntil([&timer] { return timer.hasExpired(kFilled); });
+    m_files.save(preview, QStringLiteral("preview-full-screen"));
+    preview->close();
+    settle();
+}
+
 void HostPictures::drawWeeks()
 {
     auto* page = m_window.findChild<week::WeekPage*>();
@@ -198,7 +215,8 @@ void HostPictures::drawOtherWindows()
     auto* const programs = m_window.findChild<QTableView*>(QStringLiteral("programTable"));
     programs->setCurrentIndex(programs->model()->index(1, 0));
     drawOther(*menus.whereUsed(), QStringLiteral("usesWindow"));
-    drawOther(*menus.previewProgram(), QStringLiteral("programPreview"));
+    drawOther(*menus.previewProgram(), QStringLiteral("programPreview"),
+              [this] { return !m_window.findChild<PreviewPicture*>()->image().isNull(); });
     drawOther(*menus.asRun(), QStringLiteral("asRunWindow"));
     programs->clearSelection();
     const QList<QAction*> help = m_window.menuBar()->actions().last()->menu()->actions();
@@ -207,13 +225,17 @@ void HostPictures::drawOtherWindows()
 }
 
 /// A window that other threads fill, by the name of its object.
-void HostPictures::drawOther(QAction& entry, const QString& name)
+void HostPictures::drawOther(QAction& entry, const QString& name,
+                             const std::function<bool()>& isFilled)
 {
     entry.trigger();
     auto* const shown = m_window.findChild<QWidget*>(name);
     QElapsedTimer timer;
     timer.start();
     waitUntil([&timer] { return timer.hasExpired(kFilled); });
+    if (isFilled) {
+        waitUntil(isFilled);
+    }
     m_files.save(shown, name);
     shown->close();
     settle();
@@ -230,6 +252,12 @@ void HostPictures::drawImport()
         // Once events go on, the import may be through.
         progress->show();
         m_files.save(progress, QStringLiteral("import-progress"));
+        // As in the middle of many files.
+        progress->setLabelText(QStringLiteral("Summer sale.mp4"));
+        auto* const bar = progress->findChild<QProgressBar*>();
+        bar->setRange(0, 120);
+        bar->setValue(47);
+        m_files.save(progress, QStringLiteral("import-progress-files"));
         progress->setMinimumDuration(kNever);
         progress->hide();
     });

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 class QAction;
 class QString;
 
@@ -30,10 +32,11 @@ private:
     void drawMenus();
     void drawPanels();
     void drawEffect();
+    void drawFullScreen();
     void drawWeeks();
     void drawVersions();
     void drawOtherWindows();
-    void drawOther(QAction& entry, const QString& name);
+    void drawOther(QAction& entry, const QString& name, const std::function<bool()>& isFilled = {});
     void drawImport();
     void drawFileDialogs();
     void drawPrompts();

@@ -37,6 +37,9 @@ namespace trel::pictures {
 
 namespace {
 
+/// Of a block that can be taken in its middle.
+constexpr int kHighEnough = 16;
+
 void press(QWidget* widget, QEvent::Type type, const QPoint& place)
 {
     const Qt::MouseButtons held =
@@ -265,9 +268,9 @@ QPoint PopupPictures::firstBlock() const
     int number = 0;
     for (const week::WeekColumn& day : m_week.layoutOfWeek().days) {
         for (const week::WeekBlock& block : day.blocks) {
-            const QPoint middle =
-                geometry.span(number, block.from, block.to).center() - m_week.offset();
-            if (seen.contains(middle)) {
+            const QRect span = geometry.span(number, block.from, block.to);
+            const QPoint middle = span.center() - m_week.offset();
+            if (span.height() >= kHighEnough && seen.contains(middle)) {
                 return middle;
             }
         }

@@ -42,7 +42,7 @@ private:
     void drawVersionName();
 
     void drawTip(QWidget* widget, const QPoint& place, const QString& name);
-    /// The middle of the first block of the week.
+    /// The middle of the first block of the week that is high enough to be taken there.
     QPoint firstBlock() const;
 
     desktop::EditorWindow& m_window;

@@ -23,6 +23,7 @@
 #include "trelprogramschedule/screens/PlayerStatusFolder.h"
 #include "undo/EditWords.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -198,16 +199,12 @@ void StationPictures::drawDock(const char* dock, const QString& name)
 void StationPictures::drawSizes()
 {
     const QSize former = m_window.size();
-    const QSize formerEditor = m_editor.size();
     for (const QSize size : {QSize(1366, 720), QSize(1024, 700)}) {
         m_window.resize(size);
-        m_editor.resize(size);
         settle();
         m_files.save(&m_window, QStringLiteral("window-%1").arg(size.width()));
-        m_files.save(&m_editor, QStringLiteral("editor-%1").arg(size.width()));
     }
     m_window.resize(former);
-    m_editor.resize(formerEditor);
     settle();
 }
 
@@ -392,6 +389,11 @@ void StationPictures::drawProblems()
     const auto* const table = m_window.findChild<QTableView*>(QStringLiteral("problemTable"));
     waitUntil([table] { return table->model()->rowCount() > 3; });
     drawDock("problemDock", QStringLiteral("station-problems"));
+    const auto cards = m_editor.findChildren<QWidget*>(QStringLiteral("PlanTaskWidget"));
+    for (const QWidget* card : cards) {
+        card->findChild<QAbstractButton*>(QStringLiteral("title"))->setChecked(false);
+    }
+    settle();
     m_files.save(&m_editor, QStringLiteral("editor-problems"));
     m_files.saveDialog(m_window, QStringLiteral("prompt-start-problems"),
                        [this] { m_menus.startSchedule()->trigger(); });

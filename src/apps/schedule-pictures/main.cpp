@@ -1,3 +1,4 @@
+#include "DocumentPicture.h"
 #include "EditorWindow.h"
 #include "HostPictures.h"
 #include "Languages.h"
@@ -20,12 +21,17 @@ using namespace trel::pictures;
 /// schedule-pictures FOLDER DEMONSTRATION [LANGUAGE...]: draws every window of host and editor, in
 /// these languages or in all of them, and in every theme, into the folder. The toolkit's own option
 /// -reverse draws them for those who read from the right.
+///
+/// schedule-pictures --document FROM TO: makes one of them small enough for a document.
 int main(int argc, char** argv)
 {
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() == 4 && arguments[1] == QLatin1String("--document")) {
+        return writeDocumentPicture(arguments[2], arguments[3]) ? 0 : 1;
+    }
     if (arguments.size() < 3 || !QDir().mkpath(arguments[1])) {
         QTextStream(stderr) << "Usage: schedule-pictures FOLDER DEMONSTRATION [LANGUAGE...]"
                             << Qt::endl;

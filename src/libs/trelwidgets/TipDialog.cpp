@@ -6,11 +6,14 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
 #include <QVBoxLayout>
 #include <QVariant>
@@ -114,12 +117,13 @@ public:
         const QStyle::StandardPixmap image =
             type == Confirmation ? QStyle::SP_MessageBoxQuestion : QStyle::SP_MessageBoxWarning;
         const int side = q->style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, q);
-        icon->setPixmap(q->style()
-                            ->standardIcon(image, nullptr, q)
-                            .pixmap(q->windowHandle(), QSize(side, side)));
+        const QIcon sign =
+            signIcon.isNull() ? q->style()->standardIcon(image, nullptr, q) : signIcon;
+        icon->setPixmap(sign.pixmap(q->windowHandle(), QSize(side, side)));
     }
 
-    /// Wide enough for a short text on one line; a long one gets as many lines as it takes.
+    /// Wide enough for a short text on one line; a long one gets as many lines as it takes, and
+    /// scrolls where the screen is lower than that.
     void fitText()
     {
         text->ensurePolished();
@@ -130,7 +134,41 @@ public:
         const int wanted =
             qMax(longestWord, qBound(kMinimumTextWidth, oneLine + 2, kMaximumTextWidth));
         const int width = qMin(wanted, q->screen()->availableSize().width() * 3 / 4);
-        text->setFixedSize(width, qMax(text->heightForWidth(width), icon->sizeHint().height()));
+        const int least = icon->sizeHint().height();
+        const int height = qMax(text->heightForWidth(width), least);
+        const int room = qMax(q->screen()->availableSize().height() - aroundText(), least);
+        text->setFixedSize(width, height);
+        if (height > room && textArea == nullptr) {
+            scrollText();
+        }
+        if (textArea != nullptr) {
+            const int bar = textArea->verticalScrollBar()->sizeHint().width();
+            textArea->setFixedSize(width + (height > room ? bar : 0), qMin(height, room));
+        }
+    }
+
+    /// What the prompt is higher than its text.
+    int aroundText() const
+    {
+        const QLayout& layout = *frame->client()->layout();
+        const QMargins margins = layout.contentsMargins();
+        return frame->title()->sizeHint().height() + margins.top() + margins.bottom() +
+               layout.spacing() + buttons[0]->sizeHint().height() + 2 * frame->frameWidth();
+    }
+
+    void scrollText()
+    {
+        textArea = new QScrollArea(frame->client());
+        textArea->setObjectName(QStringLiteral("dialogTipArea"));
+        textArea->setFrameShape(QFrame::NoFrame);
+        textArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        const std::unique_ptr<QLayoutItem> former(message->replaceWidget(text, textArea));
+        textArea->setWidget(text);
+        // The ground is that of the prompt.
+        text->setAutoFillBackground(false);
+        textArea->viewport()->setAutoFillBackground(false);
+        QWidget::setTabOrder(textArea, buttons.back());
+        textArea->show();
     }
 
     void chooseDefault()
@@ -180,8 +218,11 @@ public:
     WindowFrame* frame;
     QLabel* icon;
     QLabel* text;
+    QScrollArea* textArea = nullptr; ///< Once the screen was lower than the text.
+    QHBoxLayout* message = nullptr;
     std::array<QPushButton*, kButtonCount> buttons{};
     int enterButton = 1;
+    QIcon signIcon; ///< Null for that of the type.
     /// Shared with run(), which needs it when the dialog has died in the meantime.
     std::shared_ptr<int> pressed = std::make_shared<int>(0);
 
@@ -203,7 +244,7 @@ private:
 
     void layOut()
     {
-        auto* message = new QHBoxLayout;
+        message = new QHBoxLayout;
         message->setSpacing(14);
         message->addWidget(icon, 0, Qt::AlignTop);
         message->addWidget(text, 1);
@@ -281,6 +322,11 @@ PromptBoxTriggerInfo TipDialog::run()
     exec();
     delete self.data();
     return {*pressed};
+}
+
+void TipDialog::setSignIcon(const QIcon& icon)
+{
+    d->signIcon = icon;
 }
 
 void TipDialog::changeEvent(QEvent* event)

@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class QIcon;
+
 namespace trel::widgets {
 
 /// How a prompt ended.
@@ -28,9 +30,9 @@ struct PromptBoxTriggerInfo
 /// title, or the name of the application, unless it was given a title of its own.
 ///
 /// Style hooks beside those of Dialog, by object name: "dialogTipIcon" with the property
-/// "labelImage" = "notice" or "question", "dialogTipLabel", and the buttons "tipButton1",
-/// "tipButton2" and "tipButton3", of which the first has the property "style" = "general" and the
-/// others "assist".
+/// "labelImage" = "notice" or "question", "dialogTipLabel", in "dialogTipArea" where it scrolls,
+/// and the buttons "tipButton1", "tipButton2" and "tipButton3", of which the first has the property
+/// "style" = "general" and the others "assist".
 class TRELWIDGETS_EXPORT TipDialog : public QDialog
 {
     Q_OBJECT
@@ -46,7 +48,7 @@ public:
     explicit TipDialog(int tipType, QWidget* parent = nullptr);
     ~TipDialog() override;
 
-    /// Plain text; long lines are wrapped.
+    /// Plain text; long lines are wrapped. What the screen is too low for is scrolled to.
     void setTipText(const QString& text);
     /// The texts of the buttons, in order; a button with an empty text is not shown.
     void setBtnText(const QString& first, const QString& second, const QString& third);
@@ -56,6 +58,11 @@ public:
     /// Shows the prompt, blocks until it is answered and deletes it. The prompt may also die while
     /// it runs, with its parent, and then counts as not answered.
     PromptBoxTriggerInfo run();
+
+    /// A picture of the host's own in the place of the type's sign, such as that of the program
+    /// where it tells of itself; a null icon leaves the sign. Drawn for the screen that the prompt
+    /// is on. Takes effect when it runs.
+    void setSignIcon(const QIcon& icon);
 
 protected:
     /// Fits icon and text to another style, font or palette.

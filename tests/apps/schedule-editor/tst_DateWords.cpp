@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QLocale>
+#include <QTranslator>
 #include <QtTest>
 
 using namespace trel::desktop;
@@ -47,12 +48,21 @@ void tst_DateWords::aDayHasItsNameInTheLanguage_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("en_US") << QStringLiteral("Monday, \u20662026.11.30\u2069");
     QTest::newRow("de_DE") << QStringLiteral("Montag, \u20662026.11.30\u2069");
-    QTest::newRow("zh_CN") << QStringLiteral("星期一, \u20662026.11.30\u2069");
+    QTest::newRow("fr_FR") << QStringLiteral("lundi \u20662026.11.30\u2069");
+    QTest::newRow("zh_CN") << QStringLiteral("\u20662026.11.30\u2069 星期一");
+    QTest::newRow("zh_TW") << QStringLiteral("\u20662026.11.30\u2069 星期一");
+    QTest::newRow("ja_JP") << QStringLiteral("\u20662026.11.30\u2069 月曜日");
+    QTest::newRow("ko_KR") << QStringLiteral("\u20662026.11.30\u2069 월요일");
 }
 
 void tst_DateWords::aDayHasItsNameInTheLanguage()
 {
-    const QLocale locale(QString::fromLatin1(QTest::currentDataTag()));
+    const QString language = QString::fromLatin1(QTest::currentDataTag());
+    const QLocale locale(language);
+    QTranslator texts;
+    QVERIFY(texts.load(
+        QStringLiteral(LANGUAGES "/../host-languages/schedule-editor_%1.qm").arg(language)));
+    QVERIFY(QCoreApplication::installTranslator(&texts));
     QTEST(weekdayText(QDate(2026, 11, 30), locale), "text");
 }
 

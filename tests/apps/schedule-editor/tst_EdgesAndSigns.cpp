@@ -6,10 +6,15 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDockWidget>
+#include <QMainWindow>
 #include <QMenu>
 #include <QRadioButton>
+#include <QSlider>
 #include <QSpinBox>
+#include <QStyleOption>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QtTest>
 
 #include <memory>
@@ -27,6 +32,16 @@ private slots:
 
     void theTabInFrontIsMarked_data() { addThemes(); }
     void theTabInFrontIsMarked();
+    void pagesOfTabsLieOnTheWindow_data() { addThemes(); }
+    void pagesOfTabsLieOnTheWindow();
+    void aSliderStandsOut_data() { addThemes(); }
+    void aSliderStandsOut();
+    void aSliderIsFilledUpToItsHandle_data() { addThemes(); }
+    void aSliderIsFilledUpToItsHandle();
+    void signsOfPanelsAreSharp_data() { addThemes(); }
+    void signsOfPanelsAreSharp();
+    void signsOfMessagesAreSharp_data() { addThemes(); }
+    void signsOfMessagesAreSharp();
     void aMenuHasAnEdge_data() { addThemes(); }
     void aMenuHasAnEdge();
     void groupsOfAMenuAreApart_data() { addThemes(); }
@@ -138,6 +153,127 @@ void tst_EdgesAndSigns::theTabInFrontIsMarked()
         QCOMPARE(edgeOf(1), mark);
         QVERIFY(edgeOf(0) != mark);
         QVERIFY(contrast(mark, m_themes->colours().window) >= 3.0);
+    }
+}
+
+/// What lies on a page is on one ground with what lies beside the tabs.
+void tst_EdgesAndSigns::pagesOfTabsLieOnTheWindow()
+{
+    QTabWidget tabs;
+    tabs.addTab(new QWidget, QStringLiteral("In words"));
+    tabs.addTab(new QWidget, QStringLiteral("On the screen"));
+    tabs.setCurrentIndex(1);
+    tabs.resize(300, 200);
+    tabs.show();
+    const QImage picture = tabs.grab().toImage();
+    const QColor window = m_themes->colours().window;
+    const QRect page(tabs.currentWidget()->mapTo(&tabs, QPoint()), tabs.currentWidget()->size());
+    QCOMPARE(picture.pixelColor(page.center()), window);
+    // The tab in front belongs to it: no line between the two.
+    const QRect tab = tabs.tabBar()->tabRect(1);
+    const int x = tabs.tabBar()->mapTo(&tabs, tab.topLeft()).x() + 4;
+    for (int y = tabs.tabBar()->mapTo(&tabs, tab.center()).y(); y < page.top() + 4; ++y) {
+        QCOMPARE(picture.pixelColor(x, y), window);
+    }
+    // And an edge beside it.
+    QVERIFY(picture.pixelColor(page.right() - 3, page.top() - 1) != window ||
+            picture.pixelColor(page.right() - 3, page.top() - 2) != window);
+}
+
+void tst_EdgesAndSigns::aSliderStandsOut()
+{
+    for (const bool isEnabled : {true, false}) {
+        QSlider slider(Qt::Horizontal);
+        slider.setRange(0, 100);
+        slider.setValue(isEnabled ? 50 : 0);
+        slider.setEnabled(isEnabled);
+        slider.resize(200, slider.sizeHint().height());
+        const QImage picture = slider.grab().toImage();
+        const QColor window = m_themes->colours().window;
+        QStyleOptionSlider option;
+        option.initFrom(&slider);
+        option.minimum = slider.minimum();
+        option.maximum = slider.maximum();
+        option.sliderPosition = slider.sliderPosition();
+        const QRect handle = slider.style()->subControlRect(QStyle::CC_Slider, &option,
+                                                            QStyle::SC_SliderHandle, &slider);
+        // The edges of handle and track.
+        const QColor edge = picture.pixelColor(handle.center().x(), handle.top());
+        QVERIFY2(contrast(edge, window) >= 3.0, qPrintable(edge.name()));
+        const Seen track = lookAt(picture, QRect(150, 0, 40, picture.height()));
+        QVERIFY2(track.contrast >= 3.0, qPrintable(track.text.name()));
+    }
+}
+
+void tst_EdgesAndSigns::aSliderIsFilledUpToItsHandle()
+{
+    const QColor done = m_themes->colours().accentLine;
+    for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            QSlider slider(orientation);
+            slider.setLayoutDirection(direction);
+            slider.setRange(0, 100);
+            slider.setValue(30);
+            const bool isFlat = orientation == Qt::Horizontal;
+            const QSize hint = slider.sizeHint();
+            slider.resize(isFlat ? QSize(200, hint.height()) : QSize(hint.width(), 200));
+            const QImage picture = slider.grab().toImage();
+            // A tenth and nine tenths of the way from the least value.
+            const auto at = [&](int tenths) {
+                const bool isFromTheEnd = isFlat ? direction == Qt::RightToLeft : true;
+                const int along = (isFromTheEnd ? 10 - tenths : tenths) * 20;
+                const QPoint middle = picture.rect().center();
+                return isFlat ? picture.pixelColor(along, middle.y())
+                              : picture.pixelColor(middle.x(), along);
+            };
+            QCOMPARE(at(1), done);
+            QVERIFY(at(9) != done);
+        }
+    }
+}
+
+/// Of panels that are there while the theme changes.
+void tst_EdgesAndSigns::signsOfPanelsAreSharp()
+{
+    QFETCH(QString, theme);
+    m_themes->select(theme == QLatin1String("dark") ? QStringLiteral("light")
+                                                    : QStringLiteral("dark"));
+    QMainWindow window;
+    auto* const panel = new QDockWidget(QStringLiteral("Problems"), &window);
+    panel->setWidget(new QWidget);
+    window.addDockWidget(Qt::LeftDockWidgetArea, panel);
+    window.show();
+    m_themes->select(theme);
+    QCoreApplication::processEvents();
+    for (const char* name : {"qt_dockwidget_floatbutton", "qt_dockwidget_closebutton"}) {
+        const auto* const button = panel->findChild<QAbstractButton*>(QLatin1String(name));
+        QTRY_VERIFY(lookAt(button->icon().pixmap(20, 20).toImage(), QRect(0, 0, 20, 20)).text ==
+                    m_themes->colours().icon);
+        // Drawn for each size, where a bitmap has its own.
+        for (const int side : {10, 20, 40}) {
+            QCOMPARE(button->icon().pixmap(side, side).toImage().size(), QSize(side, side));
+        }
+        // As small as it was.
+        QVERIFY2(button->height() <= 16, qPrintable(QString::number(button->height())));
+        QVERIFY(!faultOf(pictureOf(panel), button->geometry(), button->objectName(), 3.0).size());
+    }
+}
+
+/// In lists, too, where they are small.
+void tst_EdgesAndSigns::signsOfMessagesAreSharp()
+{
+    const std::pair<QStyle::StandardPixmap, QColor> signs[] = {
+        {QStyle::SP_MessageBoxCritical, m_themes->colours().stateCollision},
+        {QStyle::SP_MessageBoxInformation, m_themes->colours().accentLine},
+    };
+    for (const auto& [sign, colour] : signs) {
+        const QIcon icon = QApplication::style()->standardIcon(sign);
+        for (const int side : {16, 32, 64, 128}) {
+            const QImage picture = icon.pixmap(side, side).toImage();
+            QCOMPARE(picture.size(), QSize(side, side));
+            QVERIFY(shareOf(picture, colour) > 0.05);
+        }
+        QVERIFY(contrast(colour, m_themes->colours().field) >= 3.0);
     }
 }
 

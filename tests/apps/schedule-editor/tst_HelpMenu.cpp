@@ -5,6 +5,7 @@
 #include "help/GuideWindow.h"
 #include "help/HelpMenu.h"
 #include "help/KeySheet.h"
+#include "look/ThemeImages.h"
 #include "support/PlatformNotes.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
@@ -12,16 +13,19 @@
 #include "week/WeekMenu.h"
 #include "week/moves/MoveKeys.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QTreeWidget>
 
 using namespace trel::desktop;
@@ -70,6 +74,7 @@ private slots:
     void isTheLastMenu();
     void theGuideNeedsNoFiles();
     void theGuideFollowsItsLinks();
+    void picturesOfTheGuideAreSharp();
     void linksCanBeRead_data() { addThemes(); }
     void linksCanBeRead();
     void theSheetKnowsAllMenus();
@@ -81,6 +86,7 @@ private slots:
     void pictures_data();
     void pictures();
     void saysWhatItIs();
+    void showsItsOwnSign();
     void speaksTheLanguageInUse();
 };
 
@@ -135,6 +141,45 @@ void tst_HelpMenu::theGuideFollowsItsLinks()
     // Nothing of the disk is shown.
     emit text->anchorClicked(QUrl(QStringLiteral("file:///etc/hostname")));
     QCOMPARE(text->source(), QUrl(QStringLiteral("qrc:/guide/schedule-json.md")));
+}
+
+/// No picture is wider than its window, and none has fewer dots than it could have.
+void tst_HelpMenu::picturesOfTheGuideAreSharp()
+{
+    const Desk desk;
+    desk.help().guide()->trigger();
+    const auto& text = *desk.window.findChild<GuideWindow*>()->findChild<QTextBrowser*>();
+    const QTextDocument& document = *text.document();
+    constexpr int kRoom = 820;
+    int pictures = 0;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        for (auto part = block.begin(); part != block.end(); ++part) {
+            const QTextCharFormat format = part.fragment().charFormat();
+            if (!format.isImageFormat()) {
+                continue;
+            }
+            const QUrl name(format.toImageFormat().name());
+            const QImage shown =
+                document.resource(QTextDocument::ImageResource, name).value<QImage>();
+            const QImage whole(QStringLiteral(":/guide/") + name.toString());
+            QVERIFY(!whole.isNull());
+            // What is drawn for fine screens is as large as the window was.
+            const int points = whole.dotsPerMeterX() > 7000 ? whole.width() / 2 : whole.width();
+            const int width = qMin(points, kRoom);
+            QCOMPARE(shown.width(), qMin(whole.width(), qRound(width * qApp->devicePixelRatio())));
+            QCOMPARE(qRound(shown.width() / shown.devicePixelRatio()), width);
+            const double height = shown.height() / shown.devicePixelRatio();
+            const QRectF place = document.documentLayout()->blockBoundingRect(block);
+            QVERIFY2(qAbs(place.height() - height) < 40,
+                     qPrintable(QStringLiteral("%1 is %2 high, and not %3")
+                                    .arg(name.toString())
+                                    .arg(place.height())
+                                    .arg(height)));
+            ++pictures;
+        }
+    }
+    QVERIFY(pictures >= 5);
+    QVERIFY(text.horizontalScrollBar()->maximum() == 0);
 }
 
 /// Of a guide that is open while the theme changes.
@@ -318,6 +363,28 @@ void tst_HelpMenu::saysWhatItIs()
     desk.help().about()->trigger();
     QVERIFY2(answer.texts().front().contains(trel::hosts::versionText("schedule-editor")),
              qPrintable(answer.texts().front()));
+}
+
+/// The sign of the program, and none of a warning.
+void tst_HelpMenu::showsItsOwnSign()
+{
+    const Desk desk;
+    const PromptAnswer answer(1);
+    QImage sign;
+    QString title;
+    QTimer::singleShot(0, &desk.window, [&] {
+        const QWidget* const prompt = QApplication::activeModalWidget();
+        const auto* const label = prompt->findChild<QLabel*>(QStringLiteral("dialogTipIcon"));
+        sign = label->pixmap(Qt::ReturnByValue).toImage();
+        title = prompt->windowTitle();
+    });
+    desk.help().about()->trigger();
+    QCOMPARE(title, QStringLiteral("About this program"));
+    QVERIFY(!sign.isNull());
+    const QImage own =
+        look::imageIcon(QStringLiteral("schedule-editor"), QColor()).pixmap(sign.size()).toImage();
+    QCOMPARE(sign.convertToFormat(QImage::Format_ARGB32),
+             own.convertToFormat(QImage::Format_ARGB32));
 }
 
 void tst_HelpMenu::theSheetKnowsTheKeysOfTheChooser()

@@ -1,5 +1,6 @@
 #include "BidiText.h"
 #include "HostFixture.h"
+#include "LookSupport.h"
 #include "support/Growth.h"
 #include "support/PlanRecords.h"
 #include "support/TestClock.h"
@@ -94,6 +95,8 @@ private slots:
     void keysLeadThroughTheYear();
     void followsTheWeek();
     void tellsWhatItShows();
+    void theFrameCoversNoNumber_data() { addThemes(); }
+    void theFrameCoversNoNumber();
 };
 
 void tst_YearStrip::marksGapsAndOverlaps()
@@ -279,6 +282,49 @@ void tst_YearStrip::tellsWhatItShows()
                           leftToRight(QStringLiteral("2026.06.30"))));
     QCOMPARE(fixture.strip.accessibleName(), QStringLiteral("Validity of the tasks in 2026"));
     QCOMPARE(fixture.strip.focusPolicy(), Qt::StrongFocus);
+}
+
+/// Wherever the week stands, the number of a task is seen as it is without a frame near it, in the
+/// middle of a task that is shorter than the frame as well.
+void tst_YearStrip::theFrameCoversNoNumber()
+{
+    QFETCH(QString, theme);
+    Window window;
+    // In one lane, as numbers have no room in several.
+    window.manager.deleteTask(3);
+    window.manager.addTask(taskOf(4, "2026.09.01", "2026.09.10"));
+    QCoreApplication::processEvents();
+    window.themes.select(theme);
+    window.strip.setColours(window.themes.colours());
+    window.strip.showWeek(day(12, 7));
+    const QImage far = window.strip.grab().toImage();
+    for (const int index : {0, 2}) {
+        const QRect lane = window.strip.spokenPlace(index);
+        QRect place(0, lane.top(), window.strip.fontMetrics().horizontalAdvance(u'4'),
+                    lane.height());
+        place.moveLeft(lane.center().x() - place.width() / 2);
+        const QImage number = far.copy(place);
+        QVERIFY(lookAt(far, place).contrast >= kLeastContrast);
+        const QDate first = index == 0 ? day(1, 26) : day(8, 24);
+        for (QDate week = first; week < first.addDays(28); week = week.addDays(1)) {
+            window.strip.showWeek(week);
+            const QImage picture = window.strip.grab().toImage();
+            bool isSeen = false;
+            for (int x = lane.left(); x <= lane.right() - place.width() && !isSeen; ++x) {
+                isSeen = picture.copy(QRect(QPoint(x, place.top()), place.size())) == number;
+            }
+            QVERIFY2(isSeen, qPrintable(week.toString(Qt::ISODate)));
+            // Where there is room, both lines of the frame stay whole.
+            const QColor line = window.themes.colours().text;
+            for (int y = lane.top(); y <= lane.bottom() && index == 0; ++y) {
+                int dots = 0;
+                for (int x = lane.left(); x <= lane.right(); ++x) {
+                    dots += picture.pixelColor(x, y) == line ? 1 : 0;
+                }
+                QVERIFY2(dots >= 4, qPrintable(week.toString(Qt::ISODate)));
+            }
+        }
+    }
 }
 
 TREL_TEST(tst_YearStrip, QApplication)

@@ -101,7 +101,7 @@ void tst_CtlWhereUsed::aProgramInNoPlan()
     const CtlResult result = ask({QStringLiteral("Spare")});
     QCOMPARE(result.status, 0);
     QCOMPARE(result.lines(), (QStringList{QStringLiteral("Program 3, Spare, is in no plan."),
-                                          QStringLiteral("It does not come on screen any more.")}));
+                                          QStringLiteral("It never comes on screen.")}));
 }
 
 void tst_CtlWhereUsed::whatIsRemovedPlaysNowhere()
@@ -123,7 +123,7 @@ void tst_CtlWhereUsed::theSavedPlansAreListedAndTheScreenInEffect()
                                          "plan 4.")}));
     const CtlResult saved = ask(
         {QStringLiteral("1"), QStringLiteral("--saved"), kAt, QStringLiteral("2024-01-04 12:00")});
-    QCOMPARE(saved.lines().last(), QStringLiteral("It does not come on screen any more."));
+    QCOMPARE(saved.lines().last(), QStringLiteral("It never comes on screen."));
 }
 
 void tst_CtlWhereUsed::asJson()

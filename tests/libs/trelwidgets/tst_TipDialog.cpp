@@ -4,6 +4,7 @@
 #include "trelwidgets/TipDialog.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -66,6 +67,7 @@ private slots:
     void showsOnlyButtonsWithText();
     void tellsTheKindApart_data();
     void tellsTheKindApart();
+    void showsTheSignThatItWasGiven();
     void freesItselfBeforeRunReturns();
     void outlivesNoParent();
     void endsWithTheApplication();
@@ -162,6 +164,28 @@ void TestTipDialog::tellsTheKindApart()
     });
     QVERIFY(hasPicture);
     QCOMPARE(answer.types(), QVector<int>{shown});
+}
+
+void TestTipDialog::showsTheSignThatItWasGiven()
+{
+    PromptAnswer answer({1, 1});
+    QPixmap sign(64, 64);
+    sign.fill(Qt::green);
+    std::vector<QColor> seen;
+    for (const QIcon& icon : {QIcon(sign), QIcon()}) {
+        TipDialog* prompt = makePrompt(TipDialog::Notice);
+        prompt->setSignIcon(icon);
+        runAnd(prompt, [prompt, &seen] {
+            const auto* label = prompt->findChild<QLabel*>(QStringLiteral("dialogTipIcon"));
+            const QImage picture = label->pixmap(Qt::ReturnByValue).toImage();
+            seen.push_back(picture.pixelColor(picture.rect().center()));
+        });
+    }
+    QCOMPARE(seen.size(), std::size_t(2));
+    QCOMPARE(seen[0], QColor(Qt::green));
+    QVERIFY(seen[1] != QColor(Qt::green));
+    // It is a notice all the same.
+    QCOMPARE(answer.types(), (QVector<int>{0, 0}));
 }
 
 void TestTipDialog::freesItselfBeforeRunReturns()

@@ -1,5 +1,6 @@
 #include "asrun/AsRunText.h"
 
+#include "BidiText.h"
 #include "ProblemWords.h"
 #include "asrun/AsRunDay.h"
 #include "screen/ScreenWords.h"
@@ -136,9 +137,10 @@ QString AsRunText::verdict(const AsRunDay& day)
 QString AsRunText::moment(Instant moment, const QDate& day, const MomentFormat& local)
 {
     const QDateTime shown = local.shownAt(moment);
-    return shown.toString(shown.date() == day ? QStringLiteral("HH:mm:ss.zzz")
-                                              : QStringLiteral("yyyy.MM.dd HH:mm:ss.zzz")) +
-           local.offsetMark(moment);
+    return leftToRight(shown.toString(shown.date() == day
+                                          ? QStringLiteral("HH:mm:ss.zzz")
+                                          : QStringLiteral("yyyy.MM.dd HH:mm:ss.zzz")) +
+                       local.offsetMark(moment));
 }
 
 } // namespace trel::desktop

@@ -5,6 +5,7 @@
 #include "ProblemWords.h"
 #include "catalogue/CatalogueFilter.h"
 #include "catalogue/CatalogueOrder.h"
+#include "catalogue/FilledColumns.h"
 #include "catalogue/ProgramDelegate.h"
 #include "catalogue/ProgramLookup.h"
 #include "catalogue/ProgramPreview.h"
@@ -88,6 +89,7 @@ void CataloguePanel::buildTable()
     columns->resizeSection(ProgramTableModel::KindColumn, 66);
     columns->resizeSection(ProgramTableModel::LengthColumn, 82);
     columns->resizeSection(ProgramTableModel::IndexColumn, 80);
+    m_widths = new FilledColumns(*m_table);
     m_table->setItemDelegateForColumn(ProgramTableModel::NameColumn, m_names);
     m_table->verticalHeader()->setDefaultSectionSize(Thumbnails::frame().height() + kAbovePicture);
     connect(m_table, &ProgramTable::sightChanged, this, &CataloguePanel::readPictures);
@@ -240,6 +242,7 @@ void CataloguePanel::restoreState(const QByteArray& state)
     }
     QHeaderView* header = m_table->horizontalHeader();
     if (header->restoreState(columns)) {
+        m_widths->takeWidths();
         wish();
     }
     m_filter->restoreState(filter);

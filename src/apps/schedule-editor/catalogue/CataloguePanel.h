@@ -15,6 +15,7 @@ struct ThemeColours;
 class CatalogueFilter;
 class CatalogueOrder;
 class EditorMenus;
+class FilledColumns;
 class ProgramDelegate;
 class ProgramLookup;
 class ProgramPreview;
@@ -82,6 +83,7 @@ private:
     CatalogueFilter* m_filter;
     ProgramTable* m_table;
     ProgramDelegate* m_names;
+    FilledColumns* m_widths = nullptr;
     QLabel* m_hint;
     CatalogueOrder* m_order;
     ProgramLookup* m_lookup;             ///< For what is to be removed.

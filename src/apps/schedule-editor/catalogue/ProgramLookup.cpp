@@ -49,14 +49,17 @@ struct ProgramLookup::Question
 
     const Tasks& onScreen() const { return isInEffect ? inEffect : edited; }
 
-    std::optional<ScreenState> next(const follow::Cancellation& cancellation) const
+    /// Whether the schedule can have one of them on screen at all. What is in no plan can still
+    /// have been cut in.
+    bool canBeOnScreen() const
     {
-        // What is in no plan can still have been cut in.
-        if (programs.size() > kMostSought ||
-            (insertions.empty() && usesOf(onScreen(), programs).empty())) {
-            return {};
-        }
-        const ScreenTimeline timeline(onScreen(), *catalogue, zone);
+        return programs.size() <= kMostSought &&
+               !(insertions.empty() && usesOf(onScreen(), programs).empty());
+    }
+
+    std::optional<ScreenState> next(const ScreenTimeline& timeline,
+                                    const follow::Cancellation& cancellation) const
+    {
         std::optional<ScreenState> first;
         for (const int program : programs) {
             if (cancellation.isCancelled()) {
@@ -71,6 +74,14 @@ struct ProgramLookup::Question
         return first;
     }
 
+    bool wasOnScreen(const ScreenTimeline& timeline, const follow::Cancellation& cancellation) const
+    {
+        return std::any_of(programs.begin(), programs.end(), [&](int program) {
+            return !cancellation.isCancelled() &&
+                   timeline.nextPlay(kEver, moment, insertions, {program, false}).has_value();
+        });
+    }
+
     LookupAnswer answer(const follow::Cancellation& cancellation) const
     {
         LookupAnswer answer;
@@ -79,7 +90,11 @@ struct ProgramLookup::Question
         for (const ProgramUse& use : answer.uses) {
             answer.tasks.emplace(use.taskId, edited.at(use.taskId));
         }
-        answer.next = next(cancellation);
+        if (canBeOnScreen()) {
+            const ScreenTimeline timeline(onScreen(), *catalogue, zone);
+            answer.next = next(timeline, cancellation);
+            answer.wasOnScreen = !answer.next && wasOnScreen(timeline, cancellation);
+        }
         answer.isInEffect = isInEffect;
         answer.moment = moment;
         answer.zone = zone;

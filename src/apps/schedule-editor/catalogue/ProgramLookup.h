@@ -25,6 +25,8 @@ struct LookupAnswer
     /// by the one that is edited.
     std::optional<trel::mediadispatch::ScreenState> next;
     bool isInEffect = false; ///< `next` is of the schedule in effect.
+    /// That schedule has one of them on screen at some time before, where none comes on any more.
+    bool wasOnScreen = false;
     trel::mediadispatch::Instant moment = 0;
     QTimeZone zone;
 };

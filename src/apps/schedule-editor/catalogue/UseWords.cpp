@@ -1,6 +1,7 @@
 #include "catalogue/UseWords.h"
 
 #include "BidiText.h"
+#include "common/ListText.h"
 #include "service/WeekDays.h"
 #include "trelprogramschedule/dispatch/MomentFormat.h"
 
@@ -60,7 +61,7 @@ QString UseWords::days(const PlayPlan& plan, const QLocale& locale)
                                          .arg(from, locale.dayName(*last, QLocale::ShortFormat)));
         first = std::next(last);
     }
-    return names.join(QStringLiteral(", "));
+    return hosts::ListText::joined(names);
 }
 
 QString UseWords::plan(const ProgramUse& use, const PlayTask& task, const QLocale& locale)
@@ -73,9 +74,13 @@ QString UseWords::plan(const ProgramUse& use, const PlayTask& task, const QLocal
 
 QString UseWords::next(const LookupAnswer& answer)
 {
-    if (!answer.next) {
+    if (!answer.next && answer.wasOnScreen) {
         return answer.isInEffect ? tr("Not on screen any more, as the schedule in effect has it.")
                                  : tr("Not on screen any more, as the schedule is edited.");
+    }
+    if (!answer.next) {
+        return answer.isInEffect ? tr("Never on screen, as the schedule in effect has it.")
+                                 : tr("Never on screen, as the schedule is edited.");
     }
     const ScreenState& state = *answer.next;
     if (state.since <= answer.moment) {

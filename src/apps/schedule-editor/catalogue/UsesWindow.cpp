@@ -102,6 +102,10 @@ void UsesWindow::take(const LookupAnswer& answer)
 
 void UsesWindow::tell()
 {
+    if (m_answer.programs.empty()) {
+        // The answer is still on its way.
+        return;
+    }
     const int plans = static_cast<int>(m_answer.uses.size());
     m_summary->setText(plans == 0 ? tr("No plan plays “%1”.").arg(m_name)
                                   : tr("“%1” is played by %n plans.", nullptr, plans).arg(m_name));

@@ -2,6 +2,7 @@
 
 #include "DateWords.h"
 #include "common/DisplayText.h"
+#include "common/ListText.h"
 #include "trelprogramschedule/desks/DeskWatch.h"
 #include "trelwidgets/PlainToolTip.h"
 
@@ -36,7 +37,7 @@ QString tasksText(const DeskNote& note)
         }
         ids.append(QString::number(id));
     }
-    return ids.join(QLatin1Char(' '));
+    return hosts::ListText::joined(ids);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "DateWords.h"
 #include "ProblemWords.h"
+#include "common/ListText.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -18,8 +19,11 @@ constexpr int kMostNumbers = 12;
 
 QString listed(const QStringList& numbers)
 {
-    const QString list = QStringList(numbers.mid(0, kMostNumbers)).join(QStringLiteral(", "));
-    return numbers.size() > kMostNumbers ? list + QStringLiteral(", …") : list;
+    QStringList told = numbers.mid(0, kMostNumbers);
+    if (told.size() < numbers.size()) {
+        told.append(QStringLiteral("…"));
+    }
+    return hosts::ListText::joined(told);
 }
 
 QString age(qint64 msecs)

@@ -20,6 +20,8 @@ namespace trel::desktop {
 namespace {
 
 constexpr int kLines = 2;
+/// With two long names of programs.
+constexpr int kMostLines = 4;
 
 QString programName(int progIndex)
 {
@@ -33,6 +35,7 @@ CutInLine::CutInLine(const ScreenFollower& follower, QWidget* parent)
     : ElidedText(parent, kLines)
     , m_follower(follower)
 {
+    setMostLines(kMostLines);
     connect(&follower, &ScreenFollower::changed, this, &CutInLine::showCutIn);
     connect(&ScheduleHost::instance(), &ScheduleHost::effectChanged, this, &CutInLine::showCutIn);
     showCutIn();

@@ -1,8 +1,8 @@
 #include "effect/EffectWords.h"
 
 #include "ProblemWords.h"
+#include "common/ListText.h"
 #include "effect/CutIn.h"
-#include "screen/ScreenWords.h"
 
 #include <QStringList>
 
@@ -31,7 +31,7 @@ QString EffectWords::differing(const std::set<int>& taskIds, std::size_t shown)
         numbers.append(QString::number(id));
     }
     return tr("What is saved differs in %n tasks: %1", nullptr, static_cast<int>(taskIds.size()))
-        .arg(ScreenWords::joined(numbers));
+        .arg(hosts::ListText::joined(numbers));
 }
 
 QString EffectWords::shown(const ScreenState& state, const Name& name)

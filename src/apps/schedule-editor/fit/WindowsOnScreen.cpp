@@ -1,35 +1,35 @@
 #include "fit/WindowsOnScreen.h"
 
+#include "fit/ScreenRoom.h"
+#include "fit/ScrolledContent.h"
+
 #include <QCoreApplication>
 #include <QEvent>
-#include <QScreen>
-#include <QWidget>
+#include <QLayout>
+#include <QMainWindow>
 
 namespace trel::desktop::fit {
 
 namespace {
 
-/// The frame that the desktop puts around a window is known only once the window is there. No
-/// common one is larger.
-constexpr QSize kFrame(12, 40);
-
-bool isOrdinary(const QWidget& widget)
+bool fits(const QSize& size, const QSize& room)
 {
-    const Qt::WindowType type = widget.windowType();
-    return (type == Qt::Window || type == Qt::Dialog) && !widget.isFullScreen() &&
-           !widget.isMaximized();
+    return size.width() <= room.width() && size.height() <= room.height();
 }
 
-void keepOnScreen(QWidget& window)
+/// What is in the middle keeps its place in the order of Tab.
+void scrollMiddle(QMainWindow& window)
 {
-    QSize room = window.screen()->availableGeometry().size();
-    if (!window.windowFlags().testFlag(Qt::FramelessWindowHint)) {
-        room -= kFrame;
+    QWidget* const middle = window.centralWidget();
+    if (middle == nullptr || qobject_cast<const ScrolledContent*>(middle) != nullptr) {
+        return;
     }
-    const QSize fitting = window.size().boundedTo(room);
-    if (fitting != window.size()) {
-        window.resize(fitting);
-    }
+    // The window would delete a middle that it still has when it gets another one.
+    auto* const area = new ScrolledContent(*middle, &window);
+    window.setCentralWidget(area);
+    area->show();
+    // It may become smaller only once its layout knows that it can.
+    window.layout()->activate();
 }
 
 } // namespace
@@ -45,8 +45,12 @@ bool WindowsOnScreen::eventFilter(QObject* watched, QEvent* event)
     // Of every event of every object this one is asked first.
     if (event->type() == QEvent::Show && watched->isWidgetType() && !event->spontaneous()) {
         auto& widget = *static_cast<QWidget*>(watched);
-        if (widget.isWindow() && isOrdinary(widget)) {
-            keepOnScreen(widget);
+        if (widget.isWindow()) {
+            auto* const main = qobject_cast<QMainWindow*>(&widget);
+            if (main != nullptr && !fits(main->minimumSizeHint(), roomFor(*main))) {
+                scrollMiddle(*main);
+            }
+            keepWithinRoom(widget);
         }
     }
     return QObject::eventFilter(watched, event);

@@ -7,7 +7,9 @@ class QCoreApplication;
 namespace trel::desktop::fit {
 
 /// Keeps the windows of the program on the screen: one that would open larger than the screen opens
-/// as large as the screen, as far as what is in it does with less.
+/// as large as the screen, as far as what is in it does with less. The middle of a main window does
+/// with what its bars and panels leave, and scrolls there. The chooser, which is always 610 by 470,
+/// is higher than the smallest screens.
 ///
 /// Popups, tool tips and what fills the screen anyway are left alone.
 class WindowsOnScreen : public QObject

@@ -1,5 +1,6 @@
 #include "help/GuideWindow.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QEvent>
 #include <QImage>
@@ -19,7 +20,27 @@ namespace {
 constexpr int kMargin = 16;
 constexpr int kPictureWidth = 820;
 
-/// Shows pictures no wider than the window is at first.
+/// Dots of a picture to a point: two where it says that it is for fine screens.
+qreal dotsToAPoint(const QImage& picture)
+{
+    constexpr double kMetersPerInch = 0.0254;
+    constexpr int kFine = 192;
+    return qRound(picture.dotsPerMeterX() * kMetersPerInch) == kFine ? 2.0 : 1.0;
+}
+
+QImage fitted(QImage picture, qreal ratio)
+{
+    const int width = qMin(kPictureWidth, qRound(picture.width() / dotsToAPoint(picture)));
+    const int dots = qRound(width * ratio);
+    if (picture.width() > dots) {
+        picture = picture.scaledToWidth(dots, Qt::SmoothTransformation);
+    }
+    picture.setDevicePixelRatio(static_cast<qreal>(picture.width()) / width);
+    return picture;
+}
+
+/// Shows pictures no wider than the window is at first, with all dots that the finest screen has
+/// for that.
 class GuideText : public QTextBrowser
 {
 public:
@@ -35,9 +56,7 @@ public:
         if (picture.isNull()) {
             picture.loadFromData(resource.toByteArray());
         }
-        return picture.width() <= kPictureWidth
-                   ? picture
-                   : picture.scaledToWidth(kPictureWidth, Qt::SmoothTransformation);
+        return fitted(picture, qApp->devicePixelRatio());
     }
 };
 

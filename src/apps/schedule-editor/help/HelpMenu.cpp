@@ -2,6 +2,7 @@
 
 #include "HostPrompts.h"
 #include "common/VersionText.h"
+#include "help/EntryText.h"
 #include "help/GuideWindow.h"
 #include "help/KeySheet.h"
 
@@ -29,7 +30,7 @@ HelpMenu::HelpMenu(QMainWindow& window, const QWidget& editor)
     m_about->setMenuRole(QAction::NoRole);
     connect(m_guide, &QAction::triggered, this, &HelpMenu::showGuide);
     connect(m_keys, &QAction::triggered, this, &HelpMenu::showKeys);
-    connect(m_about, &QAction::triggered, this, [] { showAbout(); });
+    connect(m_about, &QAction::triggered, this, [this] { showAbout(); });
     retranslate();
 }
 
@@ -57,10 +58,11 @@ void HelpMenu::showKeys()
     sheet->show();
 }
 
-void HelpMenu::showAbout()
+void HelpMenu::showAbout() const
 {
-    prompts::notice(tr("Schedules media programs on screens, edits the schedule and follows it.") +
-                    QStringLiteral("\n\n") + hosts::versionText("schedule-editor"));
+    prompts::about(withoutLetter(m_about->text()),
+                   tr("Schedules media programs on screens, edits the schedule and follows it.") +
+                       QStringLiteral("\n\n") + hosts::versionText("schedule-editor"));
 }
 
 } // namespace trel::desktop

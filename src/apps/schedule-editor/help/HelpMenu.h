@@ -29,7 +29,7 @@ public:
 private:
     void showGuide();
     void showKeys();
-    static void showAbout();
+    void showAbout() const;
 
     QMainWindow& m_window;
     const QWidget& m_editor;

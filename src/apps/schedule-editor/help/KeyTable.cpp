@@ -1,5 +1,6 @@
 #include "help/KeyTable.h"
 
+#include "common/ListText.h"
 #include "help/EntryText.h"
 
 #include <QAction>
@@ -23,7 +24,7 @@ void addActions(KeySection& section, const QList<QAction*>& actions)
         if (action->menu() != nullptr) {
             addActions(section, action->menu()->actions());
         } else if (!action->shortcut().isEmpty()) {
-            section.lines.push_back({native(action->shortcut()), withoutLetter(action->text())});
+            section.lines.push_back({native(action->shortcut()), entryName(*action)});
         }
     }
 }
@@ -33,7 +34,7 @@ void addKey(KeySection& section, int keys, const QString& text)
 {
     const QString told = native(QKeySequence(keys));
     if (!section.lines.empty() && section.lines.back().text == text) {
-        section.lines.back().keys += QStringLiteral(", ") + told;
+        section.lines.back().keys = hosts::ListText::joined({section.lines.back().keys, told});
     } else {
         section.lines.push_back({told, text});
     }

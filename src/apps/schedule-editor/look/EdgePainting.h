@@ -14,7 +14,10 @@ void paintMenuFrame(QPainter& painter, const ThemeColours& colours, const QRect&
 /// The line between two groups of a menu.
 void paintMenuSeparator(QPainter& painter, const ThemeColours& colours, const QRect& rect);
 
-/// The mark of the tab in front, along its outer edge.
+/// What the pages of tabs lie on: as the window, whose widgets they hold.
+void paintTabPane(QPainter& painter, const ThemeColours& colours, const QRect& rect);
+
+/// The tab in front: on the ground of its page, with a mark along its outer edge.
 void paintTabInFront(QPainter& painter, const ThemeColours& colours, const QStyleOptionTab& tab);
 
 } // namespace trel::desktop::look

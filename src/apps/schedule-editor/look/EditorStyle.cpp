@@ -4,6 +4,7 @@
 #include "ButtonPainting.h"
 #include "EdgePainting.h"
 #include "FieldPainting.h"
+#include "SliderPainting.h"
 #include "StyleHooks.h"
 #include "ThemeImages.h"
 #include "ViewPainting.h"
@@ -14,6 +15,7 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QDockWidget>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -143,6 +145,17 @@ bool isCalendarArrow(const QWidget* widget)
            (isNamed(widget, kFormerMonth) || isNamed(widget, kNextMonth));
 }
 
+constexpr char kFloatSign[] = "qt_dockwidget_floatbutton";
+constexpr char kCloseSign[] = "qt_dockwidget_closebutton";
+/// As wide as the toolkit's own, so that the titles of panels keep their height.
+constexpr int kPanelSign = 10;
+
+bool isPanelSign(const QWidget* widget)
+{
+    return qobject_cast<const QAbstractButton*>(widget) != nullptr &&
+           (isNamed(widget, kFloatSign) || isNamed(widget, kCloseSign));
+}
+
 /// The ground of a plan's state, on which its word stands in the middle.
 QRect stateGround(const QWidget& label)
 {
@@ -210,7 +223,18 @@ void EditorStyle::recolour(QWidget* widget) const
         hideOwnText(*widget);
     } else if (isCalendarArrow(widget)) {
         recolourCalendarArrow(widget);
+    } else if (isPanelSign(widget)) {
+        static_cast<QAbstractButton*>(widget)->setIcon(panelSign(
+            isNamed(widget, kFloatSign) ? SP_TitleBarNormalButton : SP_TitleBarCloseButton));
     }
+}
+
+/// The toolkit has small bitmaps for these, which are blurred on fine screens.
+QIcon EditorStyle::panelSign(StandardPixmap icon) const
+{
+    return imageIcon(icon == SP_TitleBarNormalButton ? QStringLiteral("panel-float")
+                                                     : QStringLiteral("panel-close"),
+                     m_colours.icon);
 }
 
 void EditorStyle::recolourLabel(QWidget* label) const
@@ -301,6 +325,9 @@ void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         return;
     case PE_FrameMenu:
         paintMenuFrame(*painter, m_colours, option->rect);
+        return;
+    case PE_FrameTabWidget:
+        paintTabPane(*painter, m_colours, option->rect);
         return;
     default:
         break;
@@ -411,6 +438,13 @@ void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
         paintScrollBar(*painter, m_colours, *option, thumb, isBarOfPlanTable(widget));
         return;
     }
+    if (const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+        slider != nullptr && control == CC_Slider) {
+        paintSlider(*painter, m_colours, *slider,
+                    proxy()->subControlRect(control, option, SC_SliderGroove, widget),
+                    proxy()->subControlRect(control, option, SC_SliderHandle, widget));
+        return;
+    }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
@@ -498,6 +532,8 @@ int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
         return 1;
     case PM_ScrollBarExtent:
         return kScrollBarExtent;
+    case PM_SmallIconSize:
+        return isPanelSign(widget) ? kPanelSign : QProxyStyle::pixelMetric(metric, option, widget);
     case PM_ScrollBarSliderMin:
         return kScrollBarLeastThumb;
     case PM_ScrollView_ScrollBarOverlap:
@@ -562,6 +598,16 @@ QIcon EditorStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
         return imageIcon(QStringLiteral("question"), m_colours.accentLine);
     case SP_MessageBoxWarning:
         return imageIcon(QStringLiteral("notice"), m_colours.icon);
+    case SP_MessageBoxCritical:
+        return imageIcon(QStringLiteral("error"), m_colours.stateCollision);
+    case SP_MessageBoxInformation:
+        return imageIcon(QStringLiteral("information"), m_colours.accentLine);
+    case SP_TitleBarNormalButton:
+    case SP_TitleBarCloseButton:
+        if (qobject_cast<const QDockWidget*>(widget) != nullptr) {
+            return panelSign(icon);
+        }
+        return QProxyStyle::standardIcon(icon, option, widget);
     default:
         return QProxyStyle::standardIcon(icon, option, widget);
     }

@@ -60,6 +60,7 @@ public:
 private:
     void recolourLabel(QWidget* label) const;
     void recolourCalendarArrow(QWidget* button) const;
+    QIcon panelSign(StandardPixmap icon) const;
     bool paintPanel(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     void paintFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     bool paintLabelFrame(const QStyleOption& option, QPainter& painter,

@@ -87,6 +87,8 @@ void ConflictsDialog::buildTable()
     m_table->setHorizontalHeaderLabels({tr("Task"), tr("What stays")});
     m_table->verticalHeader()->hide();
     // As in every table of the host.
+    m_table->setAlternatingRowColors(true);
+    m_table->setShowGrid(false);
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);

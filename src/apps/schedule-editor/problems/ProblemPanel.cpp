@@ -83,8 +83,10 @@ ProblemPanel::ProblemPanel(ProblemModel& model, QWidget* parent)
 QSize ProblemPanel::sizeHint() const
 {
     constexpr int kWidth = 420;
-    constexpr int kLines = 8;
-    return {kWidth, kLines * fontMetrics().lineSpacing()};
+    constexpr int kRows = 4;
+    return {kWidth, m_table->horizontalHeader()->sizeHint().height() +
+                        kRows * m_table->verticalHeader()->defaultSectionSize() +
+                        2 * m_table->frameWidth()};
 }
 
 void ProblemPanel::setListName(const QString& name)

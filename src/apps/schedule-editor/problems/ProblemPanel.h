@@ -19,6 +19,7 @@ public:
     /// The model outlives the panel.
     ProblemPanel(ProblemModel& model, QWidget* parent);
 
+    /// A few problems are seen at once.
     QSize sizeHint() const override;
 
     /// What a screen reader calls the list.

@@ -15,6 +15,7 @@ namespace trel::desktop {
 ElidedText::ElidedText(QWidget* parent, int lines)
     : QLabel(parent)
     , m_lines(lines)
+    , m_most(lines)
 {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -27,18 +28,35 @@ QSize ElidedText::sizeHint() const
 
 QSize ElidedText::minimumSizeHint() const
 {
-    const QMargins margins = contentsMargins();
-    return {0, fontMetrics().lineSpacing() * m_lines + margins.top() + margins.bottom()};
+    return {0, heightOf(m_lines)};
 }
 
-ElidedText::Shown ElidedText::shown() const
+void ElidedText::setMostLines(int lines)
 {
-    const int width = contentsRect().width();
+    m_most = qMax(m_lines, lines);
+    updateGeometry();
+}
+
+int ElidedText::heightForWidth(int width) const
+{
+    const QMargins margins = contentsMargins();
+    const int lines = shown(width - margins.left() - margins.right()).lines.size();
+    return heightOf(qMax(m_lines, lines));
+}
+
+int ElidedText::heightOf(int lines) const
+{
+    const QMargins margins = contentsMargins();
+    return fontMetrics().lineSpacing() * lines + margins.top() + margins.bottom();
+}
+
+ElidedText::Shown ElidedText::shown(int width) const
+{
     Shown shown;
     QTextLayout layout(text(), font());
     layout.beginLayout();
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        const bool isLast = shown.lines.size() + 1 == m_lines;
+        const bool isLast = shown.lines.size() + 1 == m_most;
         line.setLineWidth(isLast ? INT_MAX / 256 : width);
         const QString part = text().mid(line.textStart(), line.textLength()).trimmed();
         const QString standing = isolated(part, text());
@@ -59,7 +77,7 @@ bool ElidedText::event(QEvent* event)
         return QLabel::event(event);
     }
     const auto* help = static_cast<QHelpEvent*>(event);
-    const QString whole = shown().isWhole ? QString() : text();
+    const QString whole = isWhole() ? QString() : text();
     const QString& tip = m_longText.isEmpty() ? whole : m_longText;
     QToolTip::showText(help->globalPos(), trel::widgets::plainToolTip(tip), this);
     return true;
@@ -74,7 +92,7 @@ void ElidedText::paintEvent(QPaintEvent* event)
                           int(Qt::AlignVCenter) | int(Qt::TextSingleLine);
     QRect line = contentsRect();
     line.setHeight(fontMetrics().lineSpacing());
-    const QStringList lines = shown().lines;
+    const QStringList lines = shown(contentsRect().width()).lines;
     for (const QString& text : lines) {
         style()->drawItemText(&painter, line, alignment, palette(), isEnabled(), text,
                               foregroundRole());

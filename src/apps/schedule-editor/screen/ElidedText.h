@@ -14,11 +14,20 @@ class ElidedText : public QLabel
 public:
     explicit ElidedText(QWidget* parent, int lines = 1);
 
+    /// Lets the text have more lines than it has at least, as many as it takes and up to so many.
+    /// Its place has to ask for its height by its width, as the layouts do.
+    void setMostLines(int lines);
+
+    /// Whether all of the text has room.
+    bool isWhole() const { return shown(contentsRect().width()).isWhole; }
+
     /// Shown in place of the text where there is one, whether the text has room or not.
     void setLongText(const QString& text) { m_longText = text; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return m_most > m_lines; }
+    int heightForWidth(int width) const override;
 
 protected:
     bool event(QEvent* event) override;
@@ -30,9 +39,11 @@ private:
         QStringList lines;
         bool isWhole = true;
     };
-    Shown shown() const;
+    Shown shown(int width) const;
+    int heightOf(int lines) const;
 
-    int m_lines;
+    int m_lines; ///< At least.
+    int m_most;
     QString m_longText;
 };
 

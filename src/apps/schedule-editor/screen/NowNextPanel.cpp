@@ -26,6 +26,8 @@ namespace {
 constexpr qint64 kDay = 86'400'000;
 constexpr int kProgramPixels = 16;
 constexpr int kReasonLines = 2;
+/// More than any reason takes at the usual width of the panel.
+constexpr int kMostReasonLines = 5;
 /// All of it fits onto a screen of 768 lines.
 constexpr int kSpace = 2;
 /// A plan with its times is longer than the panel is wide in most languages.
@@ -128,6 +130,7 @@ void NowNextPanel::build()
 {
     setBold(m_program, kProgramPixels);
     setBold(m_nextProgram, 0);
+    m_reason->setMostLines(kMostReasonLines);
     m_inserted->setRoles(QPalette::Button, QPalette::ButtonText);
     m_nextInserted->setRoles(QPalette::Button, QPalette::ButtonText);
 

@@ -1,5 +1,6 @@
 #include "screen/ScreenWords.h"
 
+#include "common/ListText.h"
 #include "screen/ScreenFollower.h"
 #include "service/PlanFaults.h"
 
@@ -125,12 +126,7 @@ QString ScreenWords::list(const std::vector<struProgInfo>& programs)
                          ? name
                          : QStringLiteral("%1 ×%2").arg(name, QString::number(entry.playCount)));
     }
-    return joined(names);
-}
-
-QString ScreenWords::joined(const QStringList& programs)
-{
-    return programs.join(tr(", ", "between programs"));
+    return hosts::ListText::joined(names);
 }
 
 QString ScreenWords::insertion(const std::vector<struProgInfo>& inserted,

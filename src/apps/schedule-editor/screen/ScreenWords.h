@@ -40,8 +40,6 @@ public:
                           const trel::mediadispatch::PlayPlan* plan);
     /// The names of a list in their order, with the number of plays where it is not one.
     static QString list(const std::vector<trel::mediadispatch::struProgInfo>& programs);
-    /// Names in a row, with what the language puts between them.
-    static QString joined(const QStringList& programs);
     /// The list that was cut in and the one in whose place it stands, in rows.
     static QString insertion(const std::vector<trel::mediadispatch::struProgInfo>& inserted,
                              const std::vector<trel::mediadispatch::struProgInfo>& original);

@@ -1,6 +1,6 @@
 #include "undo/EditWords.h"
 
-#include "screen/ScreenWords.h"
+#include "common/ListText.h"
 #include "service/WeekDays.h"
 #include "undo/EditedField.h"
 
@@ -83,7 +83,7 @@ QString EditWords::ids(const std::set<int>& tasks)
         }
         words.append(QString::number(id));
     }
-    return ScreenWords::joined(words);
+    return hosts::ListText::joined(words);
 }
 
 QString EditWords::takingBackOfOther(const std::set<int>& tasks)
@@ -159,7 +159,7 @@ QString EditWords::days(const std::string& weeks, const QLocale& locale)
         // Numbered as in the language's own week, from Monday.
         names.append(locale.dayName(number, QLocale::ShortFormat));
     }
-    return names.join(QLatin1Char(' '));
+    return hosts::ListText::joined(names);
 }
 
 } // namespace trel::desktop::undo

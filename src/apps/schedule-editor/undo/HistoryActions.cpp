@@ -1,6 +1,7 @@
 #include "undo/HistoryActions.h"
 
 #include "EditorMenus.h"
+#include "help/EntryText.h"
 #include "undo/EditHistory.h"
 
 #include <QAction>
@@ -25,8 +26,13 @@ void HistoryActions::update()
     const bool canRedo = index < m_history.count();
     m_menus.undo()->setEnabled(canUndo && m_history.isAtWork());
     m_menus.redo()->setEnabled(canRedo && m_history.isAtWork());
-    m_menus.undo()->setText(canUndo ? named(tr("&Undo"), index - 1) : tr("&Undo"));
-    m_menus.redo()->setText(canRedo ? named(tr("Re&do"), index) : tr("Re&do"));
+    const QString undo = tr("&Undo");
+    const QString redo = tr("Re&do");
+    // What lists the entries names them without the step, which may be long and is soon another.
+    setEntryName(*m_menus.undo(), undo);
+    setEntryName(*m_menus.redo(), redo);
+    m_menus.undo()->setText(canUndo ? named(undo, index - 1) : undo);
+    m_menus.redo()->setText(canRedo ? named(redo, index) : redo);
 }
 
 QString HistoryActions::named(const QString& action, int step) const

@@ -2,7 +2,7 @@
 
 #include "Languages.h"
 #include "common/DisplayText.h"
-#include "screen/ScreenWords.h"
+#include "common/ListText.h"
 #include "service/ProgramText.h"
 #include "service/WeekDays.h"
 
@@ -44,7 +44,7 @@ QString daysText(const std::string& weeks)
     for (const int number : numbers) {
         days.append(dayText(number));
     }
-    return hosts::shortened(days.join(QLatin1Char(',')), kMostColumns);
+    return hosts::shortened(hosts::ListText::joined(days), kMostColumns);
 }
 
 QString textWord(const DifferenceValue& value)
@@ -170,7 +170,7 @@ QString DifferenceWords::programs(const std::vector<struProgInfo>& entries,
     if (entries.size() > most) {
         names.append(QStringLiteral("…"));
     }
-    return ScreenWords::joined(names);
+    return hosts::ListText::joined(names);
 }
 
 QString DifferenceWords::plan(const QString& form, int row, const PlayPlan& plan,

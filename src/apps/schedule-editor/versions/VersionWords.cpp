@@ -2,7 +2,7 @@
 
 #include "DateWords.h"
 #include "common/DisplayText.h"
-#include "screen/ScreenWords.h"
+#include "common/ListText.h"
 #include "versions/DifferenceWords.h"
 
 #include <QDateTime>
@@ -63,7 +63,7 @@ QString VersionWords::change(const ScheduleVersion& version)
         ids.append(QStringLiteral("…"));
     }
     const QString text = tr("%1 (tasks %2)", "what a save changed, and in which tasks")
-                             .arg(ScreenWords::joined(parts), ScreenWords::joined(ids));
+                             .arg(hosts::ListText::joined(parts), hosts::ListText::joined(ids));
     return version.restored == kNoVersion
                ? text
                : tr("version %1 restored: %2").arg(QString::number(version.restored), text);
@@ -103,7 +103,7 @@ QString VersionWords::restoring(qint64 number, const std::map<int, std::string>&
         lines.append(tr("%n of its programs are no longer in the catalog. Their entries will be "
                         "invalid: %1",
                         nullptr, static_cast<int>(lost.size()))
-                         .arg(ScreenWords::joined(names)));
+                         .arg(hosts::ListText::joined(names)));
     }
     if (isUnsaved) {
         lines.append(tr("The schedule in the editor has changes that are not saved."));

@@ -3,6 +3,7 @@
 #include "HostPrompts.h"
 #include "ProblemWords.h"
 #include "clock/Clock.h"
+#include "fit/ScrolledContent.h"
 #include "scheduleControlUI.h"
 #include "service/InvalidEntries.h"
 #include "service/scheduleManage.h"
@@ -36,6 +37,8 @@ namespace trel::desktop::versions {
 namespace {
 
 constexpr int kNumberRole = Qt::UserRole + 1;
+/// In less room the states to compare with end in dots; their list shows them whole.
+constexpr int kLeastOther = 120;
 
 } // namespace
 
@@ -91,6 +94,7 @@ void VersionsWindow::build()
     m_other->setObjectName(QStringLiteral("versionOther"));
     m_other->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_other->setMinimumContentsLength(28);
+    m_other->setMinimumWidth(kLeastOther);
     m_otherLabel->setTextFormat(Qt::PlainText);
     m_otherLabel->setBuddy(m_other);
     m_swap->setText(QStringLiteral("⇄"));
@@ -127,7 +131,7 @@ void VersionsWindow::build()
     // The title of the last column is whole in every language.
     halves->setSizes({610, 710});
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(halves);
+    layout->addWidget(new fit::ScrolledContent(*halves, this));
 }
 
 void VersionsWindow::connectControls()

@@ -1,9 +1,9 @@
 #include "week/BlockPainting.h"
 
 #include "BidiText.h"
+#include "common/ListText.h"
 #include "look/ProgramColours.h"
 #include "look/ThemeColours.h"
-#include "screen/ScreenWords.h"
 #include "week/WeekScene.h"
 #include "week/WeekWords.h"
 
@@ -82,7 +82,7 @@ QStringList linesOf(const DayPiece& piece, const WeekBlock* block, int lines,
     }
     const QStringList programs = namesOf(*block);
     const QString names =
-        block->hasNothing ? Words::tr("nothing to show") : ScreenWords::joined(programs);
+        block->hasNothing ? Words::tr("nothing to show") : hosts::ListText::joined(programs);
     if (lines < 2) {
         const QString whole = QString::number(block->planId) + kGap + names;
         // A part of a name still tells the program; of other words it tells nothing.

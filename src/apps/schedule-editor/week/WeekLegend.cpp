@@ -2,6 +2,7 @@
 
 #include "BidiText.h"
 #include "PlainLines.h"
+#include "common/ListText.h"
 #include "look/ProgramColours.h"
 #include "screen/ScreenWords.h"
 #include "trelprogramschedule/dispatch/ScreenState.h"
@@ -176,7 +177,7 @@ void WeekLegend::describe()
         names.append(program.name);
     }
     setAccessibleName(Words::tr("Programs of the week"));
-    setAccessibleDescription(ScreenWords::joined(names));
+    setAccessibleDescription(hosts::ListText::joined(names));
 }
 
 bool WeekLegend::event(QEvent* event)

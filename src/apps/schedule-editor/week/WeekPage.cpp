@@ -21,6 +21,15 @@ namespace {
 constexpr int kReasonLines = 4;
 constexpr int kSpace = 6;
 
+/// Has one height. The toolkit takes every text that wraps for one whose height follows its width,
+/// and with one of those in it the page would scroll where it can still be lower.
+class SteadyLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+    bool hasHeightForWidth() const override { return false; }
+};
+
 } // namespace
 
 WeekPage::WeekPage(follow::EditedSchedule& edited, const Languages& languages, const Themes& themes,
@@ -28,7 +37,7 @@ WeekPage::WeekPage(follow::EditedSchedule& edited, const Languages& languages, c
     : QWidget(parent)
     , m_year(new year::YearStrip(edited, this))
     , m_panel(new WeekPanel(edited, this))
-    , m_reason(new QLabel(this))
+    , m_reason(new SteadyLabel(this))
     , m_legend(new WeekLegend(this))
 {
     setObjectName(QStringLiteral("weekPage"));

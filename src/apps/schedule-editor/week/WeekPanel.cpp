@@ -26,7 +26,6 @@ constexpr int kSignWidth = 28;
 /// In less room the controls shrink, and the months are left to the calendar.
 constexpr int kRoomy = 680;
 constexpr int kLeastWidth = 540;
-constexpr int kLeastSource = 70;
 
 /// A sign is no name: the words are for those who cannot see it, or do not know it.
 void setWords(QWidget* widget, const QString& words)
@@ -57,8 +56,6 @@ WeekPanel::WeekPanel(follow::EditedSchedule& edited, QWidget* parent)
     m_source->addItem(QString(), static_cast<int>(WeekSource::Edited));
     m_source->addItem(QString(), static_cast<int>(WeekSource::InEffect));
     m_source->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    m_source->setMinimumWidth(kLeastSource);
-    setMinimumWidth(kLeastWidth);
     buildControls();
     connectControls();
     retranslate();
@@ -174,6 +171,40 @@ void WeekPanel::retranslate()
     m_view->retranslate();
     updateTitle();
     updateButtons();
+    keepControlsWhole();
+}
+
+/// The controls are whole in every language.
+void WeekPanel::keepControlsWhole()
+{
+    // Checked with Qt 5.15.8: the least size of a box stays that of its first texts.
+    m_source->setMinimumWidth(m_source->sizeHint().width());
+    const QLayout& controls = *layout()->itemAt(0)->layout();
+    const QMargins around = layout()->contentsMargins();
+    int width = around.left() + around.right() - controls.spacing();
+    int months = 0;
+    for (int i = 0; i < controls.count(); ++i) {
+        QLayoutItem& item = *controls.itemAt(i);
+        const QWidget* const control = item.widget();
+        if (control == nullptr) {
+            width += item.minimumSize().width();
+            continue;
+        }
+        // A layout that has not been shown yet takes all of them for hidden.
+        const int least = control->minimumWidth() > 0 ? control->minimumWidth()
+                                                      : control->minimumSizeHint().width();
+        const bool isMonth = control == m_formerMonth || control == m_nextMonth;
+        (isMonth ? months : width) += least + controls.spacing();
+    }
+    setMinimumWidth(qMax(kLeastWidth, width));
+    m_roomy = qMax(kRoomy, width + months);
+    showMonths();
+}
+
+void WeekPanel::showMonths()
+{
+    m_formerMonth->setVisible(width() >= m_roomy);
+    m_nextMonth->setVisible(width() >= m_roomy);
 }
 
 void WeekPanel::updateTitle()
@@ -233,8 +264,7 @@ void WeekPanel::hideEvent(QHideEvent* event)
 void WeekPanel::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    m_formerMonth->setVisible(width() >= kRoomy);
-    m_nextMonth->setVisible(width() >= kRoomy);
+    showMonths();
 }
 
 void WeekPanel::changeEvent(QEvent* event)
@@ -242,6 +272,8 @@ void WeekPanel::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::LanguageChange) {
         retranslate();
+    } else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        keepControlsWhole();
     }
 }
 

@@ -53,6 +53,8 @@ private:
     void stepMonths(int months);
     void updateTitle();
     void updateButtons();
+    void keepControlsWhole();
+    void showMonths();
 
     WeekFeed m_feed;
     WeekView* m_view;
@@ -68,6 +70,7 @@ private:
     QPushButton* m_smaller;
     QPushButton* m_larger;
     QPushButton* m_fit;
+    int m_roomy = 0; ///< In less room the months are left to the calendar.
 };
 
 } // namespace trel::desktop::week

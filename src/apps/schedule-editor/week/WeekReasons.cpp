@@ -1,6 +1,8 @@
 #include "week/WeekReasons.h"
 
+#include "BidiText.h"
 #include "DateWords.h"
+#include "common/ListText.h"
 #include "common/PlanFaultText.h"
 #include "screen/ScreenWords.h"
 #include "trelprogramschedule/dispatch/MomentFormat.h"
@@ -49,7 +51,7 @@ QString momentText(const WeekSchedule& schedule, const WeekLayout& layout, const
                              : MomentFormat(schedule.zone())
                                    .offsetMark(layout.clock.instant(hit.day, hit.second, hit.pass));
     return Words::tr("%1, %2", "day and time of day")
-        .arg(weekdayText(date, locale), shortTime(hit.second) + mark);
+        .arg(weekdayText(date, locale), leftToRight(shortTime(hit.second) + mark));
 }
 
 QString changeText(const ClockChange& change)
@@ -96,7 +98,7 @@ QString blockText(const WeekBlock& block)
                        .arg(shortTime(block.from), shortTime(block.to));
     if (!block.programs.isEmpty()) {
         text = Words::tr("%1: %2", "plan and its programs")
-                   .arg(text, shortened(ScreenWords::joined(block.programs)));
+                   .arg(text, shortened(hosts::ListText::joined(block.programs)));
     }
     return text;
 }

@@ -163,6 +163,17 @@ QRect YearStrip::lane(const YearSpan& span) const
     return {whole.left(), whole.top() + span.lane * height, whole.width(), height - 1};
 }
 
+QRect YearStrip::weekFrame() const
+{
+    const QDate first(m_layout.year, 1, 1);
+    const QDate last(m_layout.year, kMonths, 31);
+    QRect week = placeOf(std::max(m_week, first), std::min(m_week.addDays(kDaysOfWeek - 1), last));
+    if (week.width() < 2 * kSpace) {
+        week.adjust(-kSpace, 0, kSpace, 0);
+    }
+    return week.adjusted(0, -1, 0, 1);
+}
+
 void YearStrip::paintMonths(QPainter& painter) const
 {
     const int height = fontMetrics().height();
@@ -196,11 +207,46 @@ void YearStrip::paintSpans(QPainter& painter) const
         painter.fillRect(QStyle::visualRect(layoutDirection(), place,
                                             QRect(place.left(), place.top(), 2, place.height())),
                          m_colours.weekBlockLine);
-        const QString number = QString::number(span.taskId);
-        if (place.height() >= fontMetrics().ascent() &&
-            place.width() > fontMetrics().horizontalAdvance(number) + 2 * kSpace) {
-            painter.setPen(m_colours.weekBlockText);
-            painter.drawText(place, Qt::AlignCenter, number);
+    }
+}
+
+QRect YearStrip::numberOf(const YearSpan& span) const
+{
+    const QRect place = lane(span);
+    const int width = fontMetrics().horizontalAdvance(QString::number(span.taskId));
+    if (place.height() < fontMetrics().ascent() || place.width() <= width + 2 * kSpace) {
+        return {};
+    }
+    QRect number(0, place.top(), width + 2, place.height());
+    number.moveLeft(place.center().x() - number.width() / 2);
+    const QRect frame = weekFrame();
+    if (!number.intersects(frame.adjusted(-kSpace, 0, kSpace, 0))) {
+        return number;
+    }
+    // Beside the frame where there is room, on the side that is nearer.
+    QRect before = number;
+    before.moveRight(frame.left() - kSpace);
+    QRect behind = number;
+    behind.moveLeft(frame.right() + kSpace);
+    const bool isNearerBefore = number.center().x() < frame.center().x();
+    for (const QRect& beside :
+         {isNearerBefore ? before : behind, isNearerBefore ? behind : before}) {
+        if (beside.left() > place.left() + 2 && beside.right() < place.right() - 2) {
+            return beside;
+        }
+    }
+    return number;
+}
+
+/// Above all lines, which would make one number of another.
+void YearStrip::paintNumbers(QPainter& painter) const
+{
+    painter.setPen(m_colours.weekBlockText);
+    for (const YearSpan& span : m_layout.spans) {
+        const QRect place = numberOf(span);
+        if (!place.isEmpty()) {
+            painter.fillRect(place, m_colours.weekBlock);
+            painter.drawText(place, Qt::AlignCenter, QString::number(span.taskId));
         }
     }
 }
@@ -235,16 +281,15 @@ void YearStrip::paintPresent(QPainter& painter) const
         painter.fillRect(QRect(place.left(), place.top() - kSpace, 2, place.height() + kSpace),
                          m_colours.weekNow);
     }
-    const QDate first(m_layout.year, 1, 1);
-    const QDate last(m_layout.year, kMonths, 31);
-    QRect week = placeOf(std::max(m_week, first), std::min(m_week.addDays(kDaysOfWeek - 1), last));
-    if (week.width() < 2 * kSpace) {
-        week.adjust(-kSpace, 0, kSpace, 0);
-    }
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(m_colours.text, 2));
-    painter.drawRect(week.adjusted(0, -1, 0, 1));
+    painter.drawRect(weekFrame());
+}
+
+void YearStrip::paintFocus(QPainter& painter) const
+{
     if (hasFocus()) {
+        painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(m_colours.focus, 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
@@ -259,6 +304,8 @@ void YearStrip::paintEvent(QPaintEvent* event)
     paintSpans(painter);
     paintStretches(painter);
     paintPresent(painter);
+    paintNumbers(painter);
+    paintFocus(painter);
 }
 
 QString YearStrip::tip(const QDate& day) const

@@ -73,6 +73,10 @@ private:
     QString tip(const QDate& day) const;
     QRect days() const;
     QRect lane(const YearSpan& span) const;
+    /// Where the number of a task stands, beside the frame of the week if there is room; empty
+    /// where there is none at all.
+    QRect numberOf(const YearSpan& span) const;
+    QRect weekFrame() const;
     QString taskText(const YearSpan& span) const;
     /// The gap or the overlap that is told at a place behind the tasks.
     const YearStretch& stretchAt(int index, bool& isGap) const;
@@ -81,6 +85,8 @@ private:
     void paintSpans(QPainter& painter) const;
     void paintStretches(QPainter& painter) const;
     void paintPresent(QPainter& painter) const;
+    void paintNumbers(QPainter& painter) const;
+    void paintFocus(QPainter& painter) const;
 
     follow::EditedSchedule& m_edited;
     QMetaObject::Connection m_following;

@@ -30,6 +30,7 @@ struct Finding
     QString name;
     std::vector<ProgramUse> uses;
     std::optional<ScreenState> next;
+    bool wasOnScreen = false; ///< At some time before, where none comes.
 };
 
 const PlayPlan& planOf(const ProgramUse& use, const Tasks& tasks)
@@ -60,7 +61,8 @@ QString usesText(const Finding& finding, const Tasks& tasks)
 QString nextText(const Finding& finding, const StoredScreen& screen, Instant moment)
 {
     if (!finding.next) {
-        return QStringLiteral("It does not come on screen any more.");
+        return finding.wasOnScreen ? QStringLiteral("It does not come on screen any more.")
+                                   : QStringLiteral("It never comes on screen.");
     }
     const ScreenState& state = *finding.next;
     const MomentFormat& local = screen.words().source().local;
@@ -134,9 +136,12 @@ ExitStatus run(const Invocation& invocation, Console& console)
         if (!progIndex) {
             return Refused;
         }
-        const Finding finding{
-            *progIndex, choice.name(*progIndex), usesOf(tasks, {*progIndex}),
-            screen.timeline().nextPlay(moment, kNever, screen.insertions(), {*progIndex, false})};
+        const auto playWithin = [&](Instant from, Instant to) {
+            return screen.timeline().nextPlay(from, to, screen.insertions(), {*progIndex, false});
+        };
+        Finding finding{*progIndex, choice.name(*progIndex), usesOf(tasks, {*progIndex}),
+                        playWithin(moment, kNever), false};
+        finding.wasOnScreen = !finding.next && playWithin(kEver, moment);
         if (invocation.json) {
             writeJson(console, finding, tasks, screen, moment, database.path());
         } else {

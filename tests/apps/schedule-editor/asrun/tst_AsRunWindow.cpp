@@ -1,6 +1,7 @@
 #include "asrun/AsRunWindow.h"
 
 #include "../effect/EffectFixture.h"
+#include "BidiText.h"
 #include "asrun/AsRunModel.h"
 #include "asrun/AsRunText.h"
 #include "libs/trelprogramschedule/asrun/AsRunTampering.h"
@@ -57,6 +58,11 @@ struct Played : EffectFixture
     }
 
     /// The record of the picture that begins at a time.
+    /// Without the marks that have a moment read from the left.
+    static QString unmarked(QString text)
+    {
+        return text.remove(QChar(0x2066)).remove(QChar(0x2069));
+    }
     AsRunRecord& record(const char* time)
     {
         const auto found =
@@ -82,7 +88,7 @@ struct Played : EffectFixture
     {
         return *asRun().findChild<Part*>(QLatin1String(name));
     }
-    QString summary() const { return part<QLabel>("asRunSummary").text(); }
+    QString summary() const { return unmarked(part<QLabel>("asRunSummary").text()); }
     /// The rows of the table, their cells parted by bars.
     QStringList rows() const
     {
@@ -91,7 +97,7 @@ struct Played : EffectFixture
         for (int row = 0; row < model.rowCount(); ++row) {
             QStringList cells;
             for (int column = 0; column < model.columnCount(); ++column) {
-                cells.append(model.index(row, column).data().toString());
+                cells.append(unmarked(model.index(row, column).data().toString()));
             }
             rows.append(cells.join(QStringLiteral(" | ")));
         }
@@ -138,6 +144,7 @@ private slots:
     void tellsWhatStoodInAndWhy();
     void tellsWhatNoRecordExplains();
     void showsDeviationsAlone();
+    void momentsAreReadFromTheLeft();
     void tellsOfAChangedChain();
     void stepsThroughDaysAndScreens();
     void refusesAForeignFile();
@@ -188,6 +195,23 @@ void tst_AsRunWindow::tellsTheOffsetWhereTheClockChanges()
              QStringLiteral("08:00:00.000 +01:00 | 08:00:10.000 +01:00 | A | A | "));
     QVERIFY2(fixture.summary().endsWith(QLatin1String("Recorded until 08:00:30.000 +01:00.")),
              qPrintable(fixture.summary()));
+}
+
+/// Also where the whole is read from the right: the table and the line above it.
+void tst_AsRunWindow::momentsAreReadFromTheLeft()
+{
+    Played fixture(QDate(2024, 10, 27));
+    fixture.keep();
+    fixture.ask();
+    const QAbstractItemModel& model = *fixture.part<QTableView>("asRunTable").model();
+    for (const auto& [column, moment] : {std::pair(AsRunModel::FromColumn, "08:00:00.000 +01:00"),
+                                         std::pair(AsRunModel::ToColumn, "08:00:10.000 +01:00")}) {
+        const QString text = model.index(1, column).data().toString();
+        QCOMPARE(text, leftToRight(QLatin1String(moment)));
+    }
+    const QString summary = fixture.part<QLabel>("asRunSummary").text();
+    const QString until = leftToRight(QStringLiteral("08:00:30.000 +01:00"));
+    QVERIFY2(summary.contains(until), qPrintable(summary));
 }
 
 void tst_AsRunWindow::tellsWhatStoodInAndWhy()

@@ -91,6 +91,7 @@ private slots:
     void showsPlansAndTheNextTime();
     void followsTheEdits();
     void whatIsInEffectDecidesAboutTheScreen();
+    void whatNeverWasIsNotOverYet();
     void datesAndTimesAreReadFromTheLeft();
     void aPlanIsAskedForByMouseAndKey();
     void daysHaveTheirNames_data();
@@ -215,8 +216,32 @@ void tst_UsesWindow::whatIsInEffectDecidesAboutTheScreen()
     QCOMPARE(text("usesNext"),
              QStringLiteral("Next on screen: 2024.01.08 10:00:00, task 1, plan 2."));
     QVERIFY(m_fixture->host.stopSchedule());
+    QTRY_COMPARE(text("usesNext"), QStringLiteral("Never on screen, as the schedule is edited."));
+}
+
+/// What was on screen once and what never is are told apart.
+void tst_UsesWindow::whatNeverWasIsNotOverYet()
+{
+    m_clock->set(QDateTime({2024, 3, 4}, {12, 0}));
+    showUses(0);
     QTRY_COMPARE(text("usesNext"),
                  QStringLiteral("Not on screen any more, as the schedule is edited."));
+    showUses(4);
+    QTRY_COMPARE(text("usesNext"), QStringLiteral("Never on screen, as the schedule is edited."));
+    QVERIFY(m_fixture->host.startSchedule());
+    QTRY_COMPARE(text("usesNext"),
+                 QStringLiteral("Never on screen, as the schedule in effect has it."));
+    showUses(0);
+    QTRY_COMPARE(text("usesNext"),
+                 QStringLiteral("Not on screen any more, as the schedule in effect has it."));
+    // What a plan plays on no date was never on screen either.
+    std::map<int, PlayTask> tasks = sampleTasks();
+    tasks.erase(2);
+    tasks[1].startDate = tasks[1].endDate = "2024.01.02";
+    QVERIFY(m_fixture->host.stopSchedule());
+    QVERIFY(m_fixture->host.replaceSchedule(tasks));
+    QTRY_COMPARE(text("usesNext"), QStringLiteral("Never on screen, as the schedule is edited."));
+    QCOMPARE(rows().size(), 1);
 }
 
 void tst_UsesWindow::datesAndTimesAreReadFromTheLeft()
@@ -285,6 +310,15 @@ void tst_UsesWindow::daysFollowTheLanguage()
                              .arg(german.dayName(Qt::Monday, QLocale::ShortFormat),
                                   german.dayName(Qt::Wednesday, QLocale::ShortFormat));
     QTRY_VERIFY2(rows().first().contains(days), qPrintable(rows().first()));
+    // What stands between them is of the language as well.
+    for (const char* language : {"zh_CN", "zh_TW", "ja_JP"}) {
+        m_fixture->languages.select(QLatin1String(language));
+        const QLocale locale{QLatin1String(language)};
+        const QString inRow = QStringLiteral("|%1、%2|")
+                                  .arg(locale.dayName(Qt::Monday, QLocale::ShortFormat),
+                                       locale.dayName(Qt::Wednesday, QLocale::ShortFormat));
+        QTRY_VERIFY2(rows().first().contains(inRow), qPrintable(rows().first()));
+    }
 }
 
 void tst_UsesWindow::aProgramInNoPlan()

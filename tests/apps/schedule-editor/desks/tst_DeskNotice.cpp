@@ -55,7 +55,7 @@ void tst_DeskNotice::tellsOfOthers()
     QTRY_VERIFY_WITH_TIMEOUT(notice->isVisible(), kPatience);
     QTRY_COMPARE_WITH_TIMEOUT(
         plain(notice->accessibleDescription()),
-        QStringLiteral("<b>anna@studio: since 14:03, last changed at 14:09, tasks 1 3 4"),
+        QStringLiteral("<b>anna@studio: since 14:03, last changed at 14:09, tasks 1, 3, 4"),
         kPatience);
     QCOMPARE(plain(notice->text()), QStringLiteral("Also edited at <b>anna@studio since 14:03"));
     QCOMPARE(notice->textFormat(), Qt::PlainText);

@@ -1,16 +1,22 @@
 #include "../HostFixture.h"
 #include "../HostWindows.h"
+#include "EditorMenus.h"
+#include "fit/ScrolledContent.h"
 #include "fit/ScrolledEditor.h"
 #include "fit/WindowsOnScreen.h"
 #include "memory/RememberedWindow.h"
 #include "merge/ConflictsDialog.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/merge/ScheduleMerge.h"
+#include "week/WeekView.h"
 
 #include "card/PlanColumns.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDockWidget>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
@@ -28,6 +34,10 @@ namespace {
 /// Wide enough for the editor as a whole.
 constexpr int kRoomy = 1366;
 constexpr int kHighEnough = 640;
+/// Wide enough for the host's own window as a whole.
+constexpr int kWide = 900;
+/// What the desktop's frame takes of it.
+constexpr QSize kFrame(12, 40);
 
 QRect screenArea()
 {
@@ -76,6 +86,26 @@ struct Station : HostFixture
         QCoreApplication::processEvents();
     }
 
+    /// What a question or a message looks like that something leads to.
+    template <typename Act, typename Look>
+    void seeWindow(Act act, Look look)
+    {
+        bool isSeen = false;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &window, [&] {
+            if (QWidget* const shown = QApplication::activeModalWidget()) {
+                timer.stop();
+                QCoreApplication::processEvents();
+                isSeen = true;
+                look(*shown);
+                shown->close();
+            }
+        });
+        timer.start(10);
+        act();
+        QTRY_VERIFY(isSeen);
+    }
+
     QSettings settings;
     fit::WindowsOnScreen onScreen;
 };
@@ -96,6 +126,8 @@ private slots:
     void otherWindowsAreWhole();
     void theChooserIsWhole();
     void aPromptIsWhole();
+    void theQuestionBeforeARemovalIsWhole();
+    void theAddressIsWhole();
     void conflictsAreWhole();
 };
 
@@ -113,7 +145,11 @@ void tst_ScreenFit::theWindowIsWhole()
 {
     const Station station;
     const EditorWindow& window = station.window;
+    // With the frame that a desktop puts around it, too.
     QVERIFY2(screenArea().contains(window.geometry()), qPrintable(text(window.geometry())));
+    const QSize room = screenArea().size() - kFrame;
+    QVERIFY2(window.width() <= room.width() && window.height() <= room.height(),
+             qPrintable(text(window.geometry())));
     QList<QWidget*> parts{window.menuBar(), window.statusBar(), window.centralWidget()};
     const QList<QDockWidget*> panels = window.findChildren<QDockWidget*>();
     for (QDockWidget* panel : panels) {
@@ -125,6 +161,19 @@ void tst_ScreenFit::theWindowIsWhole()
     for (const QWidget* part : qAsConst(parts)) {
         QVERIFY2(isWhole(*part), qPrintable(part->objectName() + text(part->geometry())));
     }
+    const auto* const area = qobject_cast<fit::ScrolledContent*>(window.centralWidget());
+    QCOMPARE(area != nullptr, screenArea().width() < kWide);
+    if (area == nullptr) {
+        return;
+    }
+    // What has no room there is scrolled to.
+    const QWidget& page = *area->widget();
+    QVERIFY(page.width() >= page.minimumSizeHint().width() &&
+            page.height() >= page.minimumSizeHint().height());
+    QCOMPARE(area->viewport()->width() + area->horizontalScrollBar()->maximum(), page.width());
+    QCOMPARE(area->viewport()->height() + area->verticalScrollBar()->maximum(), page.height());
+    QVERIFY(area->horizontalScrollBar()->isVisible() && area->verticalScrollBar()->isVisible());
+    QVERIFY(window.findChild<week::WeekView*>()->viewport()->height() >= 100);
 }
 
 void tst_ScreenFit::theEditorIsWholeOrScrolls()
@@ -184,15 +233,73 @@ void tst_ScreenFit::theChooserIsWhole()
 void tst_ScreenFit::aPromptIsWhole()
 {
     Station station;
-    QRect place;
-    QTimer::singleShot(0, &station.window, [&place] {
-        QWidget* prompt = QApplication::activeModalWidget();
-        place = prompt->geometry();
-        prompt->close();
-    });
     // Far longer than those that there are.
-    station.window.tell(QStringLiteral("One of very many sentences. ").repeated(50));
-    QVERIFY2(screenArea().contains(place) && place.isValid(), qPrintable(text(place)));
+    station.seeWindow(
+        [&] { station.window.tell(QStringLiteral("One of very many sentences. ").repeated(50)); },
+        [](const QWidget& prompt) {
+            QVERIFY2(screenArea().contains(prompt.geometry()), qPrintable(text(prompt.geometry())));
+            QVERIFY(isWhole(*prompt.findChild<QPushButton*>(QStringLiteral("tipButton1"))));
+        });
+}
+
+/// Of every program of a schedule with more plans than a prompt tells of.
+void tst_ScreenFit::theQuestionBeforeARemovalIsWhole()
+{
+    Station station;
+    station.manager.slotOpen();
+    PlayTask task = station.manager.getTask(1);
+    for (int i = 0; i < 12; ++i) {
+        PlayPlan plan = task.plans.front();
+        plan.id = 100 + i;
+        task.plans.push_back(plan);
+    }
+    station.manager.addTask(task);
+    auto* const programs = station.window.findChild<QTableView*>(QStringLiteral("programTable"));
+    QTRY_VERIFY(programs->model()->rowCount() > 1);
+    programs->selectAll();
+    auto* const menus = station.window.findChild<EditorMenus*>();
+    station.seeWindow(
+        [menus] { menus->removePrograms()->trigger(); },
+        [](const QWidget& prompt) {
+            QVERIFY2(screenArea().contains(prompt.geometry()), qPrintable(text(prompt.geometry())));
+            QVERIFY(isWhole(*prompt.findChild<QPushButton*>(QStringLiteral("tipButton1"))));
+            QVERIFY(isWhole(*prompt.findChild<QPushButton*>(QStringLiteral("tipButton2"))));
+            const auto* const words = prompt.findChild<QLabel*>(QStringLiteral("dialogTipLabel"));
+            QVERIFY(words->height() >= words->heightForWidth(words->width()));
+            const auto* const area = prompt.findChild<QScrollArea*>();
+            QCOMPARE(area != nullptr, !isWhole(*words));
+            QCOMPARE(area != nullptr, screenArea().height() < 400);
+            if (area != nullptr) {
+                QCOMPARE(area->viewport()->height() + area->verticalScrollBar()->maximum(),
+                         words->height());
+                QVERIFY(area->viewport()->width() >= words->width());
+            }
+        });
+}
+
+/// With the longest that is said about an address.
+void tst_ScreenFit::theAddressIsWhole()
+{
+    Station station;
+    auto* const menus = station.window.findChild<EditorMenus*>();
+    station.seeWindow(
+        [menus] { menus->openFromServer()->trigger(); },
+        [](const QWidget& dialog) {
+            QCOMPARE(dialog.objectName(), QStringLiteral("addressDialog"));
+            auto* const address = dialog.findChild<QLineEdit*>(QStringLiteral("address"));
+            for (const char* typed : {"", "postgresql://", "postgresql://server/base?other=1"}) {
+                address->setText(QLatin1String(typed));
+                QCoreApplication::processEvents();
+                QVERIFY2(screenArea().contains(dialog.geometry()),
+                         qPrintable(text(dialog.geometry())));
+                const QList<QWidget*> parts = dialog.findChildren<QWidget*>();
+                for (const QWidget* part : parts) {
+                    QVERIFY2(!part->isVisible() || isWhole(*part), qPrintable(part->objectName()));
+                }
+                const auto* const fault = dialog.findChild<QLabel*>(QStringLiteral("addressFault"));
+                QVERIFY(fault->height() >= fault->heightForWidth(fault->width()));
+            }
+        });
 }
 
 void tst_ScreenFit::conflictsAreWhole()

@@ -33,6 +33,10 @@ struct Start : HostFixture
     {
         return *window.findChild<QDockWidget*>(QStringLiteral("historyDock"));
     }
+    QDockWidget& problems() const
+    {
+        return *window.findChild<QDockWidget*>(QStringLiteral("problemDock"));
+    }
     QHeaderView& columns() const
     {
         return *window.findChild<QTableView*>(QStringLiteral("programTable"))->horizontalHeader();
@@ -41,12 +45,13 @@ struct Start : HostFixture
     /// All that is remembered, as a line.
     QString line() const
     {
-        return QStringLiteral("%1x%2, history %3, %4 px, %5 an hour")
+        return QStringLiteral("%1x%2, history %3, %4 px, %5 an hour, problems %6 high")
             .arg(window.width())
             .arg(window.height())
             .arg(history().isHidden() ? QStringLiteral("hidden") : QStringLiteral("shown"))
             .arg(columns().sectionSize(0))
-            .arg(week().isFit() ? 0 : qRound(week().hourHeight()));
+            .arg(week().isFit() ? 0 : qRound(week().hourHeight()))
+            .arg(problems().height());
     }
 
     QSettings settings;
@@ -79,9 +84,11 @@ void tst_RememberedWindow::isAsItWasLeft()
         start.history().show();
         start.columns().resizeSection(0, 133);
         start.week().zoom(4);
+        start.window.resizeDocks({&start.problems()}, {121}, Qt::Vertical);
         QCoreApplication::processEvents();
         left = start.line();
         QVERIFY2(left.contains(QStringLiteral("history shown, 133 px")), qPrintable(left));
+        QVERIFY2(left.endsWith(QStringLiteral("problems 121 high")), qPrintable(left));
         QVERIFY(start.window.close());
     }
     Start next(file);

@@ -1,6 +1,7 @@
 #include "../EditorRun.h"
 #include "../LayoutCount.h"
 #include "EditorMenus.h"
+#include "help/KeyTable.h"
 #include "support/PlatformNotes.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
@@ -159,6 +160,7 @@ private slots:
     void marksThatTheEditorWasOpened();
     void goesBackBehindASave();
     void namesTheStepInTheMenu();
+    void theSheetOfKeysNamesNoStep();
     void bringsADeletedTaskBack();
     void takesManyTasksBackAtOnce();
     void bringsADeletedPlanBackWhole();
@@ -315,6 +317,30 @@ void tst_EditHistory::namesTheStepInTheMenu()
     QCOMPARE(desk.redo().text(), QStringLiteral("Re&do: Task 1, plan 4: end 18:00:00 → 17:00:00"));
     desk.redo().trigger();
     QCOMPARE(desk.card(0).endTime(3).time(), QTime(17, 0));
+}
+
+void tst_EditHistory::theSheetOfKeysNamesNoStep()
+{
+    const Desk desk;
+    const auto names = [&desk] {
+        QStringList names;
+        const auto sections = KeyTable::sections(*desk.window.menuBar(), *desk.editor);
+        for (const KeyLine& line : sections.front().lines) {
+            if (line.keys == QLatin1String("Ctrl+Z") ||
+                line.keys == QLatin1String("Ctrl+Shift+Z")) {
+                names.append(line.text);
+            }
+        }
+        return names;
+    };
+    const QStringList plain{QStringLiteral("Undo"), QStringLiteral("Redo")};
+    QCOMPARE(names(), plain);
+    desk.card(0).type(desk.card(0).endTime(3), "17:00:00");
+    QTRY_VERIFY(desk.undo().text() != QStringLiteral("&Undo"));
+    QCOMPARE(names(), plain);
+    desk.undo().trigger();
+    QVERIFY(desk.redo().text() != QStringLiteral("Re&do"));
+    QCOMPARE(names(), plain);
 }
 
 void tst_EditHistory::bringsADeletedTaskBack()
@@ -566,10 +592,10 @@ void tst_EditHistory::speaksTheLanguageInUse()
     QComboBox& days = desk.card(0).weeks(3);
     const QStringList chosen{days.itemText(Monday), days.itemText(Friday)};
     QVERIFY(QMetaObject::invokeMethod(&days, "signalSelectedText", Q_ARG(QStringList, chosen)));
-    QTRY_VERIFY2(desk.lastStep().endsWith(QStringLiteral("→ Mo. Fr.")),
+    QTRY_VERIFY2(desk.lastStep().endsWith(QStringLiteral("→ Mo., Fr.")),
                  qPrintable(desk.lastStep()));
     desk.languages.select(QStringLiteral("fr_FR"));
-    QTRY_VERIFY2(desk.lastStep().endsWith(QStringLiteral("→ lun. ven.")),
+    QTRY_VERIFY2(desk.lastStep().endsWith(QStringLiteral("→ lun., ven.")),
                  qPrintable(desk.lastStep()));
 }
 

@@ -121,7 +121,7 @@ void tst_EditedField::ofOneTask_data()
         true);
     row(
         "days", [](PlayTask& task) { task.plans[0].weeks = "5,1"; },
-        "Task 7, plan 1: days every day → Mon Fri", true);
+        "Task 7, plan 1: days every day → Mon, Fri", true);
     row(
         "programs", [](PlayTask& task) { task.plans[1].programs = {entry(2)}; },
         "Task 7, plan 2: other programs", true);

@@ -158,7 +158,7 @@ void tst_DifferenceWords::inEnglish_data()
             auto& plans = tasks.at(7).plans;
             plans.insert(plans.begin(), timePlan(-1, "12:00:00", "13:00:00", "6,7"));
         },
-        "Task 7, plan -1: added in row 1: Sat,Sun, 12:00:00 to 13:00:00, no programs");
+        "Task 7, plan -1: added in row 1: Sat, Sun, 12:00:00 to 13:00:00, no programs");
     row(
         "plan deleted", [](Tasks& tasks) { tasks.at(7).plans.pop_back(); },
         "Task 7, plan 4: deleted from row 2: Every day, 10:00:00 to 00:00:00, "
@@ -182,10 +182,10 @@ void tst_DifferenceWords::inEnglish_data()
         "Task 7, plan 3: at the end “Black screen” → “Freeze frame”");
     row(
         "days", [](Tasks& tasks) { firstPlan(tasks).weeks = "0"; },
-        "Task 7, plan 3: days Mon,Wed → Every day");
+        "Task 7, plan 3: days Mon, Wed → Every day");
     row(
         "no day", [](Tasks& tasks) { firstPlan(tasks).weeks = "9,2"; },
-        "Task 7, plan 3: days Mon,Wed → 9,Tue");
+        "Task 7, plan 3: days Mon, Wed → 9, Tue");
     row(
         "no length", [](Tasks& tasks) { firstPlan(tasks).hasNoDuration = true; },
         "Task 7, plan 3: now has a program without a length of its own");
@@ -267,7 +267,7 @@ void tst_DifferenceWords::theWordsOfTheCardsAreUsed()
             firstPlan(tasks).endAction = FreezeCurrentFrame;
         }),
         (QStringList{QStringLiteral("Auftrag 7, Plan 3: am Ende „Schwarzbild“ → „Bild einfrieren“"),
-                     QStringLiteral("Auftrag 7, Plan 3: Tage Mo,Mi → Täglich")}));
+                     QStringLiteral("Auftrag 7, Plan 3: Tage Mo, Mi → Täglich")}));
 }
 
 void tst_DifferenceWords::whatLooksTheSameIsSaidToBeHidden()

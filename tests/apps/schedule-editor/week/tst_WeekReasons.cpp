@@ -105,20 +105,25 @@ void tst_WeekReasons::theEveningThatComesTwice()
     const WeekColumn& day = layout.days[5];
     hit.change = &day.changes.front();
     hit.pass = Pass::First;
-    QVERIFY(reasons(schedule, layout, hit).first().endsWith(QStringLiteral(", 23:30 -02:30")));
+    QVERIFY(reasons(schedule, layout, hit)
+                .first()
+                .endsWith(QStringLiteral(", \u206623:30 -02:30\u2069")));
     hit.pass = Pass::Second;
-    QVERIFY(reasons(schedule, layout, hit).first().endsWith(QStringLiteral(", 23:30 -03:30")));
+    QVERIFY(reasons(schedule, layout, hit)
+                .first()
+                .endsWith(QStringLiteral(", \u206623:30 -03:30\u2069")));
     hit = {};
     hit.second = (23 * 60 + 30) * 60;
-    QVERIFY(reasons(schedule, layout, hit).first().endsWith(QStringLiteral(", 23:30")));
+    QVERIFY(reasons(schedule, layout, hit).first().endsWith(QStringLiteral(", \u206623:30\u2069")));
 }
 
 void tst_WeekReasons::theDateIsWrittenAsInTheEditor_data()
 {
     QTest::addColumn<QString>("line");
-    QTest::newRow("en_US") << QStringLiteral("Wednesday, \u20662024.03.06\u2069, 08:00");
-    QTest::newRow("de_DE") << QStringLiteral("Mittwoch, \u20662024.03.06\u2069, 08:00");
-    QTest::newRow("zh_CN") << QStringLiteral("星期三, \u20662024.03.06\u2069, 08:00");
+    QTest::newRow("en_US") << QStringLiteral(
+        "Wednesday, \u20662024.03.06\u2069, \u206608:00\u2069");
+    QTest::newRow("de_DE") << QStringLiteral("Mittwoch, \u20662024.03.06\u2069, \u206608:00\u2069");
+    QTest::newRow("zh_CN") << QStringLiteral("星期三, \u20662024.03.06\u2069, \u206608:00\u2069");
 }
 
 void tst_WeekReasons::theDateIsWrittenAsInTheEditor()

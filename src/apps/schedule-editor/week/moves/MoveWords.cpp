@@ -1,6 +1,7 @@
 #include "week/moves/MoveWords.h"
 
 #include "DateWords.h"
+#include "common/ListText.h"
 #include "service/TimeText.h"
 #include "service/WeekDays.h"
 #include "week/WeekLayout.h"
@@ -44,7 +45,7 @@ QString daysOf(const PlayPlan& plan, const QLocale& locale, const QString& every
         names.append(locale.standaloneDayName(number, numbers.size() == 1 ? QLocale::LongFormat
                                                                           : QLocale::ShortFormat));
     }
-    return names.join(QLatin1Char(' '));
+    return hosts::ListText::joined(names);
 }
 
 } // namespace

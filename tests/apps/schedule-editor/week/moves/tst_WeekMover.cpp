@@ -157,7 +157,7 @@ void tst_WeekMover::movesAllDaysOfAPlan()
     take(at(kWednesday, {15, 0}), at(kWednesday, {18, 0}));
     // On Wednesday and on Thursday.
     QCOMPARE(int(overlay().shown().ghosts.size()), 2);
-    QCOMPARE(said().first(), QStringLiteral("Plan 13: Wed Thu, 17:00 to 19:00"));
+    QCOMPARE(said().first(), QStringLiteral("Plan 13: Wed, Thu, 17:00 to 19:00"));
     mouse(QEvent::MouseButtonRelease, at(kWednesday, {18, 0}));
     QCOMPARE(plan(2), QStringLiteral("17:00:00 19:00:00 3,4"));
 }
@@ -208,7 +208,7 @@ void tst_WeekMover::showsWhatItTakes()
 void tst_WeekMover::collisionsAreShown()
 {
     take(at(kWednesday, {15, 0}), at(kWednesday, {10, 30}));
-    QCOMPARE(said(), (QStringList{QStringLiteral("Plan 13: Wed Thu, 09:30 to 11:30"),
+    QCOMPARE(said(), (QStringList{QStringLiteral("Plan 13: Wed, Thu, 09:30 to 11:30"),
                                   QStringLiteral("Conflicts with plan 11, 08:00 to 10:00."),
                                   QStringLiteral("Conflicts with plan 12, 09:00 to 12:00."),
                                   QStringLiteral("Conflicts with plan 14, 20:00 to 18:00.")}));
