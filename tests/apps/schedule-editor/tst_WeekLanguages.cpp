@@ -159,7 +159,7 @@ void tst_WeekLanguages::everyWordIsTranslated()
 {
     WeekTexts fixture;
     const PseudoLanguage language(*fixture.editor);
-    fixture.window.resize(2400, 1300);
+    fixture.window.resize(2400, 1400);
     QStringList texts;
     for (const QDate& day : kWeeks) {
         fixture.showWeekOf(day);
