@@ -21,6 +21,7 @@
 #include "desks/DeskNotice.h"
 #include "draft/DraftKeeper.h"
 #include "effect/EffectActions.h"
+#include "fit/ScreenRoom.h"
 #include "follow/EditedSchedule.h"
 #include "help/HelpMenu.h"
 #include "look/Themes.h"
@@ -74,6 +75,11 @@ namespace {
 
 /// Leaves room for the frame of the window and for a bar of the desktop on a screen of 1366 by 768.
 constexpr QSize kFirstSize(1350, 700);
+/// As high as it opens where the screen has the room.
+constexpr int kHighest = 900;
+/// From this height on more of the problems are seen, and the week is no lower for it.
+constexpr int kRoomy = 800;
+constexpr int kRowsWhereRoomy = 4;
 /// With a server.
 constexpr std::chrono::seconds kPatience{10};
 
@@ -206,9 +212,9 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     auto* edited = new follow::EditedSchedule(this);
     m_clockChanges->setWidget(new ClockChangePanel(*edited, m_clockChanges));
     addPanel(m_clockChanges, Qt::BottomDockWidgetArea);
-    auto* problems = new ProblemDock(*edited, m_editor, *statusBar(), this);
-    addPanel(problems, Qt::BottomDockWidgetArea);
-    buildBar(*follower, *problems);
+    m_problems = new ProblemDock(*edited, m_editor, *statusBar(), this);
+    addPanel(m_problems, Qt::BottomDockWidgetArea);
+    buildBar(*follower, *m_problems);
     // The problems tell of those changes that touch a plan soon.
     m_clockChanges->hide();
     auto* week = new week::WeekPage(*edited, languages, themes, this);
@@ -233,13 +239,23 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     connect(this, &EditorWindow::databaseOpened, players, &players::PlayersDock::look);
     addPanel(players, Qt::BottomDockWidgetArea);
     players->hide();
-    tabifyDockWidget(problems, players);
+    tabifyDockWidget(m_problems, players);
     // The catalog and what is on screen stand beside the list of changes, not above it.
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({m_programs, m_nowNext}, {275, 260}, Qt::Horizontal);
     resizeDocks({m_nowNext, preview}, {480, 120}, Qt::Vertical);
-    resizeDocks({problems}, {problems->sizeHint().height()}, Qt::Vertical);
+    resizeDocks({m_problems}, {m_problems->sizeHint().height()}, Qt::Vertical);
+}
+
+void EditorWindow::takeRoomOnScreen()
+{
+    const int room = fit::roomFor(*this).height();
+    resize(width(), qBound(kFirstSize.height(), room, kHighest));
+    if (height() >= kRoomy) {
+        m_problems->setRows(kRowsWhereRoomy);
+        resizeDocks({m_problems}, {m_problems->sizeHint().height()}, Qt::Vertical);
+    }
 }
 
 void EditorWindow::allowEdits(week::WeekPanel& panel)

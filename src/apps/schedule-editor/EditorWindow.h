@@ -59,6 +59,11 @@ public:
                  Themes& themes);
     ~EditorWindow() override;
 
+    /// Makes the window higher than it begins, where its screen has the room: the week gets it, and
+    /// from some height on the list of problems as well. To be called before it is shown and before
+    /// it gets the size in which it was left.
+    void takeRoomOnScreen();
+
     /// Opens the store in a file. A database that does not exist yet is made, and filled from the
     /// demonstration's folder unless that is empty. Returns an empty text, or a sentence that says
     /// what went wrong.
@@ -133,6 +138,7 @@ private:
     access::Announcer* m_announcer;
     QDockWidget* m_nowNext;
     QDockWidget* m_clockChanges;
+    ProblemDock* m_problems = nullptr;
     PendingNotices* m_notices;
     CatalogueImport* m_import;
     air::AirState* m_air = nullptr;

@@ -83,10 +83,15 @@ ProblemPanel::ProblemPanel(ProblemModel& model, QWidget* parent)
 QSize ProblemPanel::sizeHint() const
 {
     constexpr int kWidth = 420;
-    constexpr int kRows = 4;
     return {kWidth, m_table->horizontalHeader()->sizeHint().height() +
-                        kRows * m_table->verticalHeader()->defaultSectionSize() +
+                        m_rows * m_table->verticalHeader()->defaultSectionSize() +
                         2 * m_table->frameWidth()};
+}
+
+void ProblemPanel::setRows(int rows)
+{
+    m_rows = qMax(1, rows);
+    updateGeometry();
 }
 
 void ProblemPanel::setListName(const QString& name)
