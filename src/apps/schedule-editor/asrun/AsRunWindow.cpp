@@ -3,6 +3,8 @@
 #include "asrun/AsRunModel.h"
 #include "asrun/AsRunText.h"
 #include "clock/Clock.h"
+#include "fit/ColumnRoom.h"
+#include "memory/RememberedDialog.h"
 #include "trelwidgets/PlainToolTip.h"
 
 #include <QCalendarWidget>
@@ -59,6 +61,7 @@ AsRunWindow::AsRunWindow(QWidget* parent)
     connectControls();
     retranslate();
     resize(860, 520);
+    new RememberedDialog(*this);
 }
 
 AsRunWindow::~AsRunWindow() = default;
@@ -103,6 +106,8 @@ void AsRunWindow::build()
     columns->setStretchLastSection(true);
     columns->setHighlightSections(false);
     columns->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    columns->resizeSection(AsRunModel::FromColumn, columns->minimumSectionSize());
+    columns->resizeSection(AsRunModel::ToColumn, columns->minimumSectionSize());
     columns->resizeSection(AsRunModel::PlannedColumn, 210);
     columns->resizeSection(AsRunModel::ShownColumn, 210);
 
@@ -160,8 +165,8 @@ void AsRunWindow::take(AsRunDay day)
     m_day = std::move(day);
     tellSummary();
     m_model->setDay(std::move(m_day->lines), m_day->date, m_day->zone);
-    m_table->resizeColumnToContents(AsRunModel::FromColumn);
-    m_table->resizeColumnToContents(AsRunModel::ToColumn);
+    fit::widenToContents(*m_table, AsRunModel::FromColumn);
+    fit::widenToContents(*m_table, AsRunModel::ToColumn);
 }
 
 void AsRunWindow::tellSummary()

@@ -3,6 +3,7 @@
 #include "catalogue/ProgramWords.h"
 #include "catalogue/UseWords.h"
 #include "catalogue/UsesModel.h"
+#include "memory/RememberedDialog.h"
 #include "trelprogramschedule/ScheduleHost.h"
 
 #include <QEvent>
@@ -31,6 +32,7 @@ UsesWindow::UsesWindow(QWidget* parent)
     build();
     retranslate();
     resize(560, 340);
+    new RememberedDialog(*this);
     const auto askWhileShown = [this] {
         if (isVisible()) {
             ask();

@@ -1,5 +1,6 @@
 #include "versions/ComparedWeeks.h"
 
+#include "fit/ColumnRoom.h"
 #include "versions/StretchModel.h"
 #include "versions/VersionTables.h"
 #include "versions/VersionWords.h"
@@ -44,7 +45,10 @@ ComparedWeeks::~ComparedWeeks() = default;
 void ComparedWeeks::build()
 {
     prepareTable(*m_table, m_model);
-    m_table->horizontalHeader()->resizeSection(StretchModel::FormerColumn, 260);
+    QHeaderView* columns = m_table->horizontalHeader();
+    columns->resizeSection(StretchModel::FromColumn, columns->minimumSectionSize());
+    columns->resizeSection(StretchModel::ToColumn, columns->minimumSectionSize());
+    columns->resizeSection(StretchModel::FormerColumn, 260);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_weeks, 3);
@@ -88,8 +92,8 @@ void ComparedWeeks::findStretches()
         return [this, states, found] {
             m_isFinding = false;
             m_model->setStretches(states, std::move(*found));
-            m_table->resizeColumnToContents(StretchModel::FromColumn);
-            m_table->resizeColumnToContents(StretchModel::ToColumn);
+            fit::widenToContents(*m_table, StretchModel::FromColumn);
+            fit::widenToContents(*m_table, StretchModel::ToColumn);
             tellStretches();
         };
     });
