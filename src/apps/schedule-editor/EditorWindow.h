@@ -20,6 +20,10 @@ namespace air {
 class AirState;
 }
 
+namespace players {
+class PlayersDock;
+}
+
 namespace undo {
 class EditHistory;
 class HistoryActions;
@@ -41,6 +45,7 @@ class DraftKeeper;
 class EditorMenus;
 class HelpMenu;
 class Languages;
+class NowNextPanel;
 class PendingNotices;
 class ProblemDock;
 class ScreenFollower;
@@ -126,10 +131,12 @@ private:
     void showReplacedSchedule();
     void showAsRun();
     void takeOverTyping();
+    void takeColours();
     /// True when the window may go: nothing unsaved, or the operator has said what becomes of it.
     bool maySettle();
 
     trel::mediadispatch::scheduleControlUI& m_editor;
+    const Themes& m_themes;
     EditorMenus* m_menus;
     HelpMenu* m_help;
     week::WeekMenu* m_week = nullptr;
@@ -137,6 +144,8 @@ private:
     QDockWidget* m_programs;
     access::Announcer* m_announcer;
     QDockWidget* m_nowNext;
+    NowNextPanel* m_nowNextPanel = nullptr;
+    players::PlayersDock* m_players = nullptr;
     QDockWidget* m_clockChanges;
     ProblemDock* m_problems = nullptr;
     PendingNotices* m_notices;

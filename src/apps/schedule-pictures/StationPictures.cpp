@@ -121,6 +121,7 @@ PlayerStatus status(const char* screen, Instant heard)
     status.heard = heard;
     status.shown.picture = ScreenPicture::Playing;
     status.program = QStringLiteral("City news");
+    status.shown.progIndex = 2;
     status.switches = 1200;
     status.medianLateness = 4.2;
     status.worstLateness = 18.0;

@@ -4,6 +4,7 @@
 #include "asrun/AsRunText.h"
 #include "clock/Clock.h"
 #include "fit/ColumnRoom.h"
+#include "look/ProgramSignDelegate.h"
 #include "memory/RememberedDialog.h"
 #include "trelwidgets/PlainToolTip.h"
 
@@ -51,6 +52,7 @@ AsRunWindow::AsRunWindow(QWidget* parent)
     , m_screenLabel(new QLabel(this))
     , m_dayLabel(new QLabel(this))
     , m_table(new QTableView(this))
+    , m_signs(new look::ProgramSignDelegate(m_table))
     , m_summary(new QLabel(this))
 {
     setObjectName(QStringLiteral("asRunWindow"));
@@ -95,6 +97,7 @@ void AsRunWindow::build()
 
     m_table->setObjectName(QStringLiteral("asRunTable"));
     m_table->setModel(m_model);
+    m_table->setItemDelegate(m_signs);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setAlternatingRowColors(true);
     m_table->setShowGrid(false);
@@ -143,6 +146,12 @@ void AsRunWindow::setStore(const QString& store)
 {
     m_store = store;
     read();
+}
+
+void AsRunWindow::setColours(const look::ThemeColours& colours)
+{
+    m_signs->setColours(colours);
+    m_table->viewport()->update();
 }
 
 void AsRunWindow::read()
