@@ -353,6 +353,18 @@ Cierre esta pregunta para seguir editando.</translation>
         <source>OK</source>
         <translation>Aceptar</translation>
     </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>El archivo %1 ya existe. ¿Desea sustituirlo?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sustituir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>ProblemWords</name>

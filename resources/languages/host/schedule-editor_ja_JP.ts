@@ -347,6 +347,18 @@ Close this question to keep editing.</source>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>ファイル %1 はすでにあります。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換える</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
 </context>
 <context>
     <name>ProblemWords</name>

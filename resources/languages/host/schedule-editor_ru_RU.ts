@@ -359,6 +359,18 @@ Close this question to keep editing.</source>
         <source>OK</source>
         <translation>ОК</translation>
     </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>Файл %1 уже есть. Заменить его?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Заменить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
 </context>
 <context>
     <name>ProblemWords</name>

@@ -347,6 +347,18 @@ Close this question to keep editing.</source>
         <source>OK</source>
         <translation>确定</translation>
     </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>文件 %1 已存在。要替换它吗？</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>ProblemWords</name>
