@@ -1232,6 +1232,14 @@ Was soll mit Ihren Änderungen geschehen?</translation>
     </message>
 </context>
 <context>
+    <name>SentenceText</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>DateWords</name>
     <message>
         <source>%1, %2</source>

@@ -1232,6 +1232,14 @@ What do you want to do with your changes?</source>
     </message>
 </context>
 <context>
+    <name>SentenceText</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
     <name>DateWords</name>
     <message>
         <source>%1, %2</source>

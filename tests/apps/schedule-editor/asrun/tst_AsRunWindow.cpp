@@ -342,6 +342,14 @@ void tst_AsRunWindow::speaksTheLanguage()
              qPrintable(fixture.summary()));
     const QAbstractItemModel& model = *fixture.part<QTableView>("asRunTable").model();
     QCOMPARE(model.headerData(2, Qt::Horizontal).toString(), QStringLiteral("Geplant"));
+    // The sentences of the line below follow one another as the language has it.
+    QVERIFY2(fixture.summary().contains(QStringLiteral(". ")), qPrintable(fixture.summary()));
+    for (const char* language : {"zh_CN", "zh_TW", "ja_JP"}) {
+        fixture.languages.select(QLatin1String(language));
+        QTRY_VERIFY2(fixture.summary().count(QChar(0x3002)) == 2, qPrintable(fixture.summary()));
+        QVERIFY2(!fixture.summary().contains(QChar(0x3002) + QStringLiteral(" ")),
+                 qPrintable(fixture.summary()));
+    }
 }
 
 void tst_AsRunWindow::numbersFollowTheLanguage_data()
