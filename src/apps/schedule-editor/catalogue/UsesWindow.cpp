@@ -39,7 +39,7 @@ UsesWindow::UsesWindow(QWidget* parent)
     setAttribute(Qt::WA_WindowPropagation);
     build();
     retranslate();
-    resize(560, 340);
+    resize(566, 340);
     new RememberedDialog(*this);
     const auto askWhileShown = [this] {
         if (isVisible()) {
@@ -76,7 +76,7 @@ void UsesWindow::build()
     columns->setStretchLastSection(true);
     columns->setHighlightSections(false);
     columns->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    columns->resizeSection(UsesModel::TaskColumn, 64);
+    columns->resizeSection(UsesModel::TaskColumn, 70);
     columns->resizeSection(UsesModel::ValidColumn, 180);
     columns->resizeSection(UsesModel::PlanColumn, 64);
     columns->resizeSection(UsesModel::DaysColumn, 110);

@@ -29,7 +29,7 @@ namespace {
 
 /// Half of the time after which a player tells of itself again.
 constexpr int kSeconds = 5;
-constexpr int kAroundHint = 4;
+constexpr int kAroundHint = 8;
 
 } // namespace
 

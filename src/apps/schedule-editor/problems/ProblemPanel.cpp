@@ -49,7 +49,7 @@ ProblemPanel::ProblemPanel(ProblemModel& model, QWidget* parent)
     columns->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     columns->setSectionResizeMode(ProblemModel::WrongColumn, QHeaderView::Stretch);
     columns->setSectionResizeMode(ProblemModel::RemedyColumn, QHeaderView::Stretch);
-    columns->resizeSection(ProblemModel::PlaceColumn, 130);
+    columns->resizeSection(ProblemModel::PlaceColumn, 136);
     columns->resizeSection(ProblemModel::DateColumn, 90);
     setFocusProxy(m_table);
     m_none->setObjectName(QStringLiteral("noProblems"));

@@ -31,7 +31,7 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     m_table->setObjectName(QStringLiteral("differenceTable"));
     prepareTable(*m_table, m_model);
     m_table->setItemDelegate(m_signs);
-    m_table->horizontalHeader()->resizeSection(DifferenceModel::TaskColumn, 70);
+    m_table->horizontalHeader()->resizeSection(DifferenceModel::TaskColumn, 76);
     m_table->horizontalHeader()->resizeSection(DifferenceModel::PlanColumn, 60);
     m_tabs->addTab(m_table, QString());
     m_tabs->addTab(m_weeks, QString());

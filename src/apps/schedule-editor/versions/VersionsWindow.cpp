@@ -83,7 +83,7 @@ void VersionsWindow::build()
     m_table->setObjectName(QStringLiteral("versionTable"));
     prepareTable(*m_table, m_model);
     QHeaderView* columns = m_table->horizontalHeader();
-    columns->resizeSection(VersionModel::NumberColumn, 68);
+    columns->resizeSection(VersionModel::NumberColumn, 74);
     columns->resizeSection(VersionModel::SavedColumn, columns->minimumSectionSize());
     columns->resizeSection(VersionModel::ByColumn, 100);
     columns->resizeSection(VersionModel::ChangeColumn, 140);
@@ -133,7 +133,7 @@ void VersionsWindow::build()
     halves->addWidget(comparison);
     halves->setStretchFactor(1, 1);
     // The title of the last column is whole in every language.
-    halves->setSizes({610, 710});
+    halves->setSizes({616, 704});
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new fit::ScrolledContent(*halves, this));
 }
