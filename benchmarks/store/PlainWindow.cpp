@@ -226,7 +226,7 @@ void PlainWindow::addPanels(int programs)
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({list, now}, {275, 260}, Qt::Horizontal);
     resizeDocks({now, preview}, {480, 120}, Qt::Vertical);
-    resizeDocks({wrong}, {wrong->sizeHint().height()}, Qt::Vertical);
+    resizeDocks({wrong}, {132}, Qt::Vertical);
 }
 
 QDockWidget* PlainWindow::addPanel(const QString& title, QWidget* content, Qt::DockWidgetArea area)

@@ -353,6 +353,18 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>Die Datei %1 gibt es schon. Soll sie ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>ProblemWords</name>
@@ -1217,6 +1229,14 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>SentenceText</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>

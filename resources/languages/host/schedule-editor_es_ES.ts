@@ -353,6 +353,18 @@ Cierre esta pregunta para seguir editando.</translation>
         <source>OK</source>
         <translation>Aceptar</translation>
     </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>El archivo %1 ya existe. ¿Desea sustituirlo?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sustituir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>ProblemWords</name>
@@ -1217,6 +1229,14 @@ What do you want to do with your changes?</source>
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>SentenceText</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>

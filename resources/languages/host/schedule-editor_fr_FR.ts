@@ -353,6 +353,18 @@ Fermez cette question pour continuer à modifier.</translation>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>Le fichier %1 existe déjà. Faut-il le remplacer&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>ProblemWords</name>
@@ -1217,6 +1229,14 @@ Que faire de vos modifications&#xa0;?</translation>
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>SentenceText</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>

@@ -347,6 +347,18 @@ Close this question to keep editing.</source>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>ファイル %1 はすでにあります。置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>置き換える</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
 </context>
 <context>
     <name>ProblemWords</name>
@@ -1196,6 +1208,14 @@ What do you want to do with your changes?</source>
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>SentenceText</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
     </message>
 </context>
 <context>

@@ -353,6 +353,18 @@ Feche esta pergunta para continuar editando.</translation>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>O arquivo %1 já existe. Deseja substituí-lo?</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Substituir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>ProblemWords</name>
@@ -1217,6 +1229,14 @@ O que deseja fazer com as alterações?</translation>
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>SentenceText</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1 %2</translation>
     </message>
 </context>
 <context>

@@ -347,6 +347,18 @@ Close this question to keep editing.</source>
         <source>OK</source>
         <translation>確定</translation>
     </message>
+    <message>
+        <source>The file %1 exists already. Replace it?</source>
+        <translation>檔案 %1 已存在。要取代它嗎？</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>取代</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
 </context>
 <context>
     <name>ProblemWords</name>
@@ -1196,6 +1208,14 @@ What do you want to do with your changes?</source>
         <source>, </source>
         <comment>between the parts of a list</comment>
         <translation>、</translation>
+    </message>
+</context>
+<context>
+    <name>SentenceText</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>two sentences</comment>
+        <translation>%1%2</translation>
     </message>
 </context>
 <context>

@@ -217,6 +217,7 @@ int EditorApplication::run(int argc, char** argv, const EditorOptions& options)
         QObject::connect(&window, &EditorWindow::importEnded, &application, reportAndLeave);
     }
     if (!unattended) {
+        window.takeRoomOnScreen();
         new RememberedWindow(settings, window);
         window.show();
     }

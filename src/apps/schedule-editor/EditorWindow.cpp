@@ -21,6 +21,7 @@
 #include "desks/DeskNotice.h"
 #include "draft/DraftKeeper.h"
 #include "effect/EffectActions.h"
+#include "fit/ScreenRoom.h"
 #include "follow/EditedSchedule.h"
 #include "help/HelpMenu.h"
 #include "look/Themes.h"
@@ -74,6 +75,11 @@ namespace {
 
 /// Leaves room for the frame of the window and for a bar of the desktop on a screen of 1366 by 768.
 constexpr QSize kFirstSize(1350, 700);
+/// As high as it opens where the screen has the room.
+constexpr int kHighest = 900;
+/// From this height on more of the problems are seen, and the week is no lower for it.
+constexpr int kRoomy = 800;
+constexpr int kRowsWhereRoomy = 4;
 /// With a server.
 constexpr std::chrono::seconds kPatience{10};
 
@@ -110,6 +116,7 @@ bool isForeignFile(const QString& path)
 
 EditorWindow::EditorWindow(scheduleControlUI& editor, Languages& languages, Themes& themes)
     : m_editor(editor)
+    , m_themes(themes)
     , m_menus(new EditorMenus(*menuBar(), languages, themes))
     , m_help(new HelpMenu(*this, editor))
     , m_catalogue(new CataloguePanel(*m_menus, this))
@@ -190,14 +197,8 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     auto* news = new ScreenNews(*follower, this);
     connect(news, &ScreenNews::told, m_announcer, &access::Announcer::say);
     m_nowNext->setObjectName(QStringLiteral("nowNextDock"));
-    auto* nowNext = new NowNextPanel(*follower, m_nowNext);
-    const auto takeColours = [this, nowNext, &themes] {
-        nowNext->setColours(themes.colours());
-        m_catalogue->setColours(themes.colours());
-    };
-    connect(&themes, &Themes::changed, nowNext, takeColours);
-    takeColours();
-    m_nowNext->setWidget(scrolled(*nowNext));
+    m_nowNextPanel = new NowNextPanel(*follower, m_nowNext);
+    m_nowNext->setWidget(scrolled(*m_nowNextPanel));
     addPanel(m_nowNext, Qt::RightDockWidgetArea);
     auto* preview = new PreviewDock(*follower, this);
     addPanel(preview, Qt::RightDockWidgetArea);
@@ -206,9 +207,9 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     auto* edited = new follow::EditedSchedule(this);
     m_clockChanges->setWidget(new ClockChangePanel(*edited, m_clockChanges));
     addPanel(m_clockChanges, Qt::BottomDockWidgetArea);
-    auto* problems = new ProblemDock(*edited, m_editor, *statusBar(), this);
-    addPanel(problems, Qt::BottomDockWidgetArea);
-    buildBar(*follower, *problems);
+    m_problems = new ProblemDock(*edited, m_editor, *statusBar(), this);
+    addPanel(m_problems, Qt::BottomDockWidgetArea);
+    buildBar(*follower, *m_problems);
     // The problems tell of those changes that touch a plan soon.
     m_clockChanges->hide();
     auto* week = new week::WeekPage(*edited, languages, themes, this);
@@ -229,17 +230,40 @@ void EditorWindow::buildPanels(const Languages& languages, const Themes& themes)
     m_editor.addActions({m_menus->undo(), m_menus->redo()});
     allowEdits(*week->panel());
     addPanel(new undo::HistoryDock(*m_history, this), Qt::RightDockWidgetArea);
-    auto* players = new players::PlayersDock(*follower, *statusBar(), this);
-    connect(this, &EditorWindow::databaseOpened, players, &players::PlayersDock::look);
-    addPanel(players, Qt::BottomDockWidgetArea);
-    players->hide();
-    tabifyDockWidget(problems, players);
+    m_players = new players::PlayersDock(*follower, *statusBar(), this);
+    connect(this, &EditorWindow::databaseOpened, m_players, &players::PlayersDock::look);
+    addPanel(m_players, Qt::BottomDockWidgetArea);
+    m_players->hide();
+    tabifyDockWidget(m_problems, m_players);
+    connect(&themes, &Themes::changed, this, &EditorWindow::takeColours);
+    takeColours();
     // The catalog and what is on screen stand beside the list of changes, not above it.
     setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     resizeDocks({m_programs, m_nowNext}, {275, 260}, Qt::Horizontal);
     resizeDocks({m_nowNext, preview}, {480, 120}, Qt::Vertical);
-    resizeDocks({problems}, {problems->sizeHint().height()}, Qt::Vertical);
+    resizeDocks({m_problems}, {m_problems->sizeHint().height()}, Qt::Vertical);
+}
+
+void EditorWindow::takeColours()
+{
+    const look::ThemeColours colours = m_themes.colours();
+    m_nowNextPanel->setColours(colours);
+    m_catalogue->setColours(colours);
+    m_players->setColours(colours);
+    if (m_asRun != nullptr) {
+        m_asRun->setColours(colours);
+    }
+}
+
+void EditorWindow::takeRoomOnScreen()
+{
+    const int room = fit::roomFor(*this).height();
+    resize(width(), qBound(kFirstSize.height(), room, kHighest));
+    if (height() >= kRoomy) {
+        m_problems->setRows(kRowsWhereRoomy);
+        resizeDocks({m_problems}, {m_problems->sizeHint().height()}, Qt::Vertical);
+    }
 }
 
 void EditorWindow::allowEdits(week::WeekPanel& panel)
@@ -393,6 +417,7 @@ void EditorWindow::showAsRun()
 {
     if (m_asRun == nullptr) {
         m_asRun = new AsRunWindow(this);
+        m_asRun->setColours(m_themes.colours());
     }
     m_asRun->setStore(ScheduleHost::instance().path());
     m_asRun->show();

@@ -20,6 +20,10 @@ namespace air {
 class AirState;
 }
 
+namespace players {
+class PlayersDock;
+}
+
 namespace undo {
 class EditHistory;
 class HistoryActions;
@@ -41,6 +45,7 @@ class DraftKeeper;
 class EditorMenus;
 class HelpMenu;
 class Languages;
+class NowNextPanel;
 class PendingNotices;
 class ProblemDock;
 class ScreenFollower;
@@ -58,6 +63,11 @@ public:
     EditorWindow(trel::mediadispatch::scheduleControlUI& editor, Languages& languages,
                  Themes& themes);
     ~EditorWindow() override;
+
+    /// Makes the window higher than it begins, where its screen has the room: the week gets it, and
+    /// from some height on the list of problems as well. To be called before it is shown and before
+    /// it gets the size in which it was left.
+    void takeRoomOnScreen();
 
     /// Opens the store in a file. A database that does not exist yet is made, and filled from the
     /// demonstration's folder unless that is empty. Returns an empty text, or a sentence that says
@@ -121,10 +131,12 @@ private:
     void showReplacedSchedule();
     void showAsRun();
     void takeOverTyping();
+    void takeColours();
     /// True when the window may go: nothing unsaved, or the operator has said what becomes of it.
     bool maySettle();
 
     trel::mediadispatch::scheduleControlUI& m_editor;
+    const Themes& m_themes;
     EditorMenus* m_menus;
     HelpMenu* m_help;
     week::WeekMenu* m_week = nullptr;
@@ -132,7 +144,10 @@ private:
     QDockWidget* m_programs;
     access::Announcer* m_announcer;
     QDockWidget* m_nowNext;
+    NowNextPanel* m_nowNextPanel = nullptr;
+    players::PlayersDock* m_players = nullptr;
     QDockWidget* m_clockChanges;
+    ProblemDock* m_problems = nullptr;
     PendingNotices* m_notices;
     CatalogueImport* m_import;
     air::AirState* m_air = nullptr;

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 
 namespace trel::desktop {
 
@@ -121,14 +122,37 @@ QString openFolder(QWidget* parent, const char* kind, const QString& title)
     return folder;
 }
 
+namespace {
+
+/// Whether nothing is lost with a file of this name, or the operator gives it up.
+bool mayWrite(const QString& file)
+{
+    if (file.isEmpty() || !QFileInfo::exists(file)) {
+        return true;
+    }
+    const QString question =
+        QCoreApplication::translate("HostPrompts", "The file %1 exists already. Replace it?");
+    return confirmLoss(question.arg(QFileInfo(file).fileName()),
+                       QCoreApplication::translate("HostPrompts", "Replace"),
+                       QCoreApplication::translate("HostPrompts", "Cancel"));
+}
+
+} // namespace
+
 QString saveFileName(QWidget* parent, const QString& title, const QString& filter,
                      const QString& suffix, Existing existing)
 {
     QFileDialog dialog(parent, title, folderOf(parent, suffix), filter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(suffix);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite, existing == Existing::IsTold);
+    // The question of the toolkit lets Enter write over the file.
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
     QString file = choose(dialog).value(0);
+    while (existing == Existing::IsAskedAbout && !mayWrite(file)) {
+        // The name is there to be changed.
+        dialog.selectFile(file);
+        file = choose(dialog).value(0);
+    }
     remember(parent, suffix, file);
     return file;
 }

@@ -31,7 +31,7 @@ int confirm(const QString& text, const QString& first, const QString& second,
 bool confirmLoss(const QString& text, const QString& first, const QString& second);
 
 /// What becomes of a file that exists when its name is chosen: the operator is asked whether it may
-/// be written over, or the caller tells that it may not.
+/// be replaced, and chooses again where it may not, or the caller tells that it may not.
 enum class Existing { IsAskedAbout, IsTold };
 
 /// The kinds of files whose folders are remembered, beside those that files are written with, which

@@ -121,6 +121,7 @@ PlayerStatus status(const char* screen, Instant heard)
     status.heard = heard;
     status.shown.picture = ScreenPicture::Playing;
     status.program = QStringLiteral("City news");
+    status.shown.progIndex = 2;
     status.switches = 1200;
     status.medianLateness = 4.2;
     status.worstLateness = 18.0;
@@ -361,6 +362,18 @@ void StationPictures::drawReplacement()
     manager.updateUItask();
     m_files.saveDialog(m_window, QStringLiteral("prompt-overwrite"), [this, &file] {
         chooseNext(file);
+        // Who declines is in the file dialog again.
+        bool isAsked = false;
+        QTimer leave;
+        QObject::connect(&leave, &QTimer::timeout, &m_window, [&isAsked] {
+            QWidget* const open = QApplication::activeModalWidget();
+            auto* const dialog = qobject_cast<QFileDialog*>(open);
+            isAsked = isAsked || (open != nullptr && dialog == nullptr);
+            if (isAsked && dialog != nullptr) {
+                dialog->reject();
+            }
+        });
+        leave.start(kFileDialog);
         m_menus.exportSchedule()->trigger();
     });
     m_files.saveDialog(m_window, QStringLiteral("file-new"),

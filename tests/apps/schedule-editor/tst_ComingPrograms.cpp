@@ -1,7 +1,9 @@
 #include "HostFixture.h"
 #include "LookSupport.h"
+#include "look/ProgramColours.h"
 #include "screen/ComingPrograms.h"
 #include "screen/PreviewScreen.h"
+#include "screen/ProgramName.h"
 #include "screen/ScreenFollower.h"
 #include "support/PlanRecords.h"
 #include "support/TestClock.h"
@@ -83,6 +85,8 @@ private slots:
     void passesOverWhatIsKnown();
     void agreesWithALookAtEveryPlay();
     void showsTimesAndNames();
+    void programsHaveTheirSigns_data() { addThemes(); }
+    void programsHaveTheirSigns();
     void theBlackPictureSaysWhy_data() { addThemes(); }
     void theBlackPictureSaysWhy();
 };
@@ -162,6 +166,32 @@ void tst_ComingPrograms::showsTimesAndNames()
     QVERIFY(lines.at(1).contains(QStringLiteral("2026.03.12 07:00:00")));
     QVERIFY(lines.at(1).contains(QStringLiteral("Film 4")));
     QCOMPARE(shown->accessibleName(), QStringLiteral("Programs to come"));
+}
+
+/// Those of now and next as well.
+void tst_ComingPrograms::programsHaveTheirSigns()
+{
+    QFETCH(QString, theme);
+    Window fixture;
+    const auto& now = *fixture.window.findChild<ProgramName*>(QStringLiteral("nowProgram"));
+    const auto& next = *fixture.window.findChild<ProgramName*>(QStringLiteral("nextProgram"));
+    QVERIFY(now.sign().isEmpty() && next.sign().isEmpty());
+    fixture.start({planOf(1, "08:00:00", "08:03:00", {5, 2})});
+    fixture.themes.select(theme);
+    QCoreApplication::processEvents();
+    const auto seen = [](const ProgramName& name) {
+        return const_cast<ProgramName&>(name).grab().toImage().pixelColor(name.sign().center());
+    };
+    const auto ground = [&fixture](int program) {
+        return look::programColours(program, fixture.themes.colours()).ground.rgb();
+    };
+    QCOMPARE(now.text(), QStringLiteral("Film 5"));
+    QCOMPARE(seen(now).rgb(), ground(5));
+    QCOMPARE(next.text(), QStringLiteral("Film 2"));
+    QCOMPARE(seen(next).rgb(), ground(2));
+    QVERIFY(fixture.host.stopSchedule());
+    QTRY_COMPARE(now.text(), QStringLiteral("Not started"));
+    QVERIFY(now.sign().isEmpty());
 }
 
 void tst_ComingPrograms::theBlackPictureSaysWhy()

@@ -20,6 +20,7 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
@@ -36,6 +37,7 @@ using namespace trel::mediadispatch;
 namespace {
 
 constexpr char kNoDraft[] = "a letter";
+constexpr char kFormerFile[] = "former.json";
 /// More than any question has widgets.
 constexpr int kMostSteps = 40;
 
@@ -105,6 +107,34 @@ struct PromptFixture : HostFixture
         pressed->click();
     }
 
+    /// Writes the schedule to a file that there is, and does not choose again where that is not
+    /// meant.
+    void writeOverFile() const
+    {
+        const QString file = folder.filePath(QLatin1String(kFormerFile));
+        QFile former(file);
+        QVERIFY(former.open(QIODevice::WriteOnly) && former.write(kNoDraft) > 0);
+        former.close();
+        int dialogs = 0;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, &timer, [&dialogs, file] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) {
+                return;
+            }
+            if (++dialogs > 1) {
+                dialog->reject();
+                return;
+            }
+            auto* const name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            name->setText(file);
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+        timer.start(10);
+        menus().exportSchedule()->trigger();
+        QCOMPARE(dialogs, 2);
+    }
+
     /// A line for each thing that somebody could miss.
     QStringList things() const
     {
@@ -124,6 +154,10 @@ struct PromptFixture : HostFixture
         QFile left(draft());
         if (left.open(QIODevice::ReadOnly) && left.readAll() == kNoDraft) {
             lines.append(QStringLiteral("a draft that cannot be read"));
+        }
+        QFile former(folder.filePath(QLatin1String(kFormerFile)));
+        if (former.open(QIODevice::ReadOnly) && former.readAll() == kNoDraft) {
+            lines.append(QStringLiteral("a file"));
         }
         return lines;
     }
@@ -164,6 +198,8 @@ const Case kCases[] = {
          fixture.edit();
          fixture.readEmptySchedule();
      }},
+    {"a file is written over", "tipButton1",
+     [](PromptFixture& fixture) { fixture.writeOverFile(); }},
     {"the schedule is started", "tipButton1",
      [](PromptFixture& fixture) { fixture.menus().startSchedule()->trigger(); }},
     {"the schedule is stopped", "tipButton1",

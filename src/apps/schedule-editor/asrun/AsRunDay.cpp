@@ -23,6 +23,7 @@ AsRunLine lineOf(const AsRunStretch& stretch)
     if (stretch.planned != nullptr) {
         line.planned = stretch.planned->picture;
         line.plannedProgram = stretch.plannedProgram;
+        line.plannedIndex = stretch.planned->progIndex;
     }
     line.isRecorded = stretch.record != nullptr;
     if (stretch.record != nullptr) {

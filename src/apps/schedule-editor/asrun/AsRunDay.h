@@ -23,6 +23,7 @@ struct AsRunLine
     bool isPlanKnown = false;
     mediadispatch::ScreenPicture planned = mediadispatch::ScreenPicture::Black;
     QString plannedProgram;
+    int plannedIndex = -1; ///< Of that program.
 
     bool isRecorded = false;
     mediadispatch::AsRunRecord record; ///< Where it is recorded.

@@ -1,6 +1,7 @@
 #include "asrun/AsRunModel.h"
 
 #include "asrun/AsRunText.h"
+#include "look/ProgramSigns.h"
 #include "trelwidgets/PlainToolTip.h"
 
 #include <utility>
@@ -8,6 +9,24 @@
 using namespace trel::mediadispatch;
 
 namespace trel::desktop {
+
+namespace {
+
+/// The program that stands in a column; -1 for none.
+int program(const AsRunLine& line, int column)
+{
+    if (column == AsRunModel::PlannedColumn) {
+        return line.isPlanKnown && line.planned != ScreenPicture::Black ? line.plannedIndex : -1;
+    }
+    const bool isShown = column == AsRunModel::ShownColumn && line.isRecorded &&
+                         line.record.kind == AsRunKind::Picture;
+    const bool isNamed =
+        line.record.shown == AsRunShown::LastFrame ||
+        (line.record.shown == AsRunShown::AsPlanned && line.record.picture != ScreenPicture::Black);
+    return isShown && isNamed ? line.record.progIndex : -1;
+}
+
+} // namespace
 
 AsRunModel::AsRunModel(QObject* parent)
     : QAbstractTableModel(parent)
@@ -63,10 +82,16 @@ int AsRunModel::columnCount(const QModelIndex& parent) const
 
 QVariant AsRunModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
+    if (!index.isValid()) {
         return QVariant();
     }
     const AsRunLine& line = m_lines[m_rows[static_cast<std::size_t>(index.row())]];
+    if (role == look::kProgramsRole) {
+        return QVariant::fromValue(look::ProgramIndexes{program(line, index.column())});
+    }
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) {
+        return QVariant();
+    }
     const QString shown = text(line, index.column());
     return role == Qt::DisplayRole ? shown : trel::widgets::plainToolTip(shown);
 }

@@ -3,6 +3,7 @@
 #include "BidiText.h"
 #include "ProblemWords.h"
 #include "asrun/AsRunDay.h"
+#include "common/SentenceText.h"
 #include "screen/ScreenWords.h"
 #include "trelprogramschedule/dispatch/MomentFormat.h"
 
@@ -118,7 +119,7 @@ QString AsRunText::summary(const AsRunDay& day, const QLocale& locale)
         sentences.append(tr("Only the first %1 lines of the day are shown.")
                              .arg(locale.toString(static_cast<qulonglong>(kMostAsRunLines))));
     }
-    return sentences.join(QLatin1Char(' '));
+    return hosts::SentenceText::joined(sentences);
 }
 
 QString AsRunText::verdict(const AsRunDay& day)

@@ -3,6 +3,9 @@
 #include "asrun/AsRunModel.h"
 #include "asrun/AsRunText.h"
 #include "clock/Clock.h"
+#include "fit/ColumnRoom.h"
+#include "look/ProgramSignDelegate.h"
+#include "memory/RememberedDialog.h"
 #include "trelwidgets/PlainToolTip.h"
 
 #include <QCalendarWidget>
@@ -49,6 +52,7 @@ AsRunWindow::AsRunWindow(QWidget* parent)
     , m_screenLabel(new QLabel(this))
     , m_dayLabel(new QLabel(this))
     , m_table(new QTableView(this))
+    , m_signs(new look::ProgramSignDelegate(m_table))
     , m_summary(new QLabel(this))
 {
     setObjectName(QStringLiteral("asRunWindow"));
@@ -59,6 +63,7 @@ AsRunWindow::AsRunWindow(QWidget* parent)
     connectControls();
     retranslate();
     resize(860, 520);
+    new RememberedDialog(*this);
 }
 
 AsRunWindow::~AsRunWindow() = default;
@@ -92,6 +97,7 @@ void AsRunWindow::build()
 
     m_table->setObjectName(QStringLiteral("asRunTable"));
     m_table->setModel(m_model);
+    m_table->setItemDelegate(m_signs);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setAlternatingRowColors(true);
     m_table->setShowGrid(false);
@@ -103,6 +109,8 @@ void AsRunWindow::build()
     columns->setStretchLastSection(true);
     columns->setHighlightSections(false);
     columns->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    columns->resizeSection(AsRunModel::FromColumn, columns->minimumSectionSize());
+    columns->resizeSection(AsRunModel::ToColumn, columns->minimumSectionSize());
     columns->resizeSection(AsRunModel::PlannedColumn, 210);
     columns->resizeSection(AsRunModel::ShownColumn, 210);
 
@@ -140,6 +148,12 @@ void AsRunWindow::setStore(const QString& store)
     read();
 }
 
+void AsRunWindow::setColours(const look::ThemeColours& colours)
+{
+    m_signs->setColours(colours);
+    m_table->viewport()->update();
+}
+
 void AsRunWindow::read()
 {
     m_day.reset();
@@ -160,8 +174,8 @@ void AsRunWindow::take(AsRunDay day)
     m_day = std::move(day);
     tellSummary();
     m_model->setDay(std::move(m_day->lines), m_day->date, m_day->zone);
-    m_table->resizeColumnToContents(AsRunModel::FromColumn);
-    m_table->resizeColumnToContents(AsRunModel::ToColumn);
+    fit::widenToContents(*m_table, AsRunModel::FromColumn);
+    fit::widenToContents(*m_table, AsRunModel::ToColumn);
 }
 
 void AsRunWindow::tellSummary()

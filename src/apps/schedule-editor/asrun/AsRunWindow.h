@@ -16,6 +16,11 @@ class QTableView;
 
 namespace trel::desktop {
 
+namespace look {
+struct ThemeColours;
+class ProgramSignDelegate;
+} // namespace look
+
 class AsRunModel;
 
 /// What was on a screen on a day, beside what was planned for it. It is read in another thread,
@@ -30,6 +35,8 @@ public:
 
     /// Shows the records beside this store; the same one is read again.
     void setStore(const QString& store);
+    /// The colours by which programs are known in the week.
+    void setColours(const look::ThemeColours& colours);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -53,6 +60,7 @@ private:
     QLabel* m_screenLabel;
     QLabel* m_dayLabel;
     QTableView* m_table;
+    look::ProgramSignDelegate* m_signs;
     QLabel* m_summary;
 
     QString m_store;

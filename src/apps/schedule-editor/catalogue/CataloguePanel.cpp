@@ -51,6 +51,7 @@ CataloguePanel::CataloguePanel(EditorMenus& menus, QWidget* parent)
     , m_hint(new QLabel(this))
     , m_order(new CatalogueOrder(this))
     , m_lookup(new ProgramLookup(this))
+    , m_colours(look::darkColours())
 {
     setObjectName(QStringLiteral("cataloguePanel"));
     m_hint->setObjectName(QStringLiteral("programHint"));
@@ -213,7 +214,11 @@ void CataloguePanel::readPictures()
 
 void CataloguePanel::setColours(const look::ThemeColours& colours)
 {
+    m_colours = colours;
     m_names->setColours(colours);
+    if (m_uses != nullptr) {
+        m_uses->setColours(colours);
+    }
     m_table->viewport()->update();
 }
 
@@ -295,6 +300,7 @@ void CataloguePanel::showUses()
     }
     if (m_uses == nullptr) {
         m_uses = new UsesWindow(window());
+        m_uses->setColours(m_colours);
         connect(m_uses, &UsesWindow::planAsked, this, &CataloguePanel::planAsked);
     }
     m_uses->setProgram(program);

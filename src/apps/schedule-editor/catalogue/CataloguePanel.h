@@ -1,16 +1,13 @@
 #pragma once
 
 #include "catalogue/CatalogueRows.h"
+#include "look/ThemeColours.h"
 
 #include <QWidget>
 
 class QLabel;
 
 namespace trel::desktop {
-
-namespace look {
-struct ThemeColours;
-}
 
 class CatalogueFilter;
 class CatalogueOrder;
@@ -89,7 +86,8 @@ private:
     ProgramLookup* m_lookup;             ///< For what is to be removed.
     UsesWindow* m_uses = nullptr;        ///< Once it has been asked for.
     ProgramPreview* m_preview = nullptr; ///< Once it has been asked for.
-    bool m_isWishNew = false;            ///< The rows to come are what the operator has asked for.
+    look::ThemeColours m_colours;
+    bool m_isWishNew = false; ///< The rows to come are what the operator has asked for.
 };
 
 } // namespace trel::desktop

@@ -2,6 +2,7 @@
 
 #include "catalogue/PreviewPicture.h"
 #include "catalogue/ProgramWords.h"
+#include "memory/RememberedDialog.h"
 #include "screen/ProgramPicture.h"
 #include "trelprogramschedule/ScheduleHost.h"
 
@@ -38,6 +39,7 @@ ProgramPreview::ProgramPreview(QWidget* parent)
     build();
     tell();
     resize(640, 420);
+    new RememberedDialog(*this);
     connect(&m_pictures, &PreviewPictures::ready, this, &ProgramPreview::showPicture);
     connect(m_position, &QSlider::valueChanged, this, [this] {
         tell();

@@ -3,6 +3,8 @@
 #include "catalogue/ProgramWords.h"
 #include "catalogue/UseWords.h"
 #include "catalogue/UsesModel.h"
+#include "memory/RememberedDialog.h"
+#include "screen/ProgramName.h"
 #include "trelprogramschedule/ScheduleHost.h"
 
 #include <QEvent>
@@ -16,10 +18,17 @@ using namespace trel::mediadispatch;
 
 namespace trel::desktop {
 
+namespace {
+
+/// Of the name of a program, which may be a long one.
+constexpr int kMostLines = 4;
+
+} // namespace
+
 UsesWindow::UsesWindow(QWidget* parent)
     : QDialog(parent)
     , m_model(new UsesModel(this))
-    , m_summary(new QLabel(this))
+    , m_summary(new ProgramName(this))
     , m_table(new QTableView(this))
     , m_next(new QLabel(this))
     , m_lookup(new ProgramLookup(this))
@@ -30,7 +39,8 @@ UsesWindow::UsesWindow(QWidget* parent)
     setAttribute(Qt::WA_WindowPropagation);
     build();
     retranslate();
-    resize(560, 340);
+    resize(566, 340);
+    new RememberedDialog(*this);
     const auto askWhileShown = [this] {
         if (isVisible()) {
             ask();
@@ -46,11 +56,10 @@ UsesWindow::UsesWindow(QWidget* parent)
 
 void UsesWindow::build()
 {
-    for (QLabel* label : {m_summary, m_next}) {
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-    }
     m_summary->setObjectName(QStringLiteral("usesSummary"));
+    m_summary->setMostLines(kMostLines);
+    m_next->setTextFormat(Qt::PlainText);
+    m_next->setWordWrap(true);
     m_next->setObjectName(QStringLiteral("usesNext"));
     m_table->setObjectName(QStringLiteral("usesTable"));
     m_table->setModel(m_model);
@@ -67,7 +76,7 @@ void UsesWindow::build()
     columns->setStretchLastSection(true);
     columns->setHighlightSections(false);
     columns->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    columns->resizeSection(UsesModel::TaskColumn, 64);
+    columns->resizeSection(UsesModel::TaskColumn, 70);
     columns->resizeSection(UsesModel::ValidColumn, 180);
     columns->resizeSection(UsesModel::PlanColumn, 64);
     columns->resizeSection(UsesModel::DaysColumn, 110);
@@ -83,6 +92,11 @@ void UsesWindow::setProgram(int progIndex)
     ask();
 }
 
+void UsesWindow::setColours(const look::ThemeColours& colours)
+{
+    m_summary->setColours(colours);
+}
+
 void UsesWindow::ask()
 {
     const auto catalogue = ScheduleHost::instance().catalogue();
@@ -90,6 +104,7 @@ void UsesWindow::ask()
     if (known != catalogue->end()) {
         m_name = programwords::name(known->second);
     }
+    m_summary->setProgram(known != catalogue->end() ? m_program : -1);
     m_lookup->ask({m_program});
 }
 

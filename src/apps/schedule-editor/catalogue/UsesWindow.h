@@ -9,6 +9,11 @@ class QTableView;
 
 namespace trel::desktop {
 
+namespace look {
+struct ThemeColours;
+}
+
+class ProgramName;
 class UsesModel;
 
 /// The plans that play a program, and when the screen shows it next. Follows the edits while it is
@@ -22,6 +27,8 @@ public:
 
     /// Looks a program up, and names it.
     void setProgram(int progIndex);
+    /// The colours by which programs are known in the week.
+    void setColours(const look::ThemeColours& colours);
 
 signals:
     /// A plan was chosen with a double click, or with Enter.
@@ -40,7 +47,7 @@ private:
     void askPlan(const QModelIndex& index);
 
     UsesModel* m_model;
-    QLabel* m_summary;
+    ProgramName* m_summary;
     QTableView* m_table;
     QLabel* m_next;
     ProgramLookup* m_lookup;

@@ -34,4 +34,25 @@ void keepWithinRoom(QWidget& window)
     }
 }
 
+void moveOntoScreen(QWidget& window)
+{
+    if (!isOrdinary(window)) {
+        return;
+    }
+    const QRect screen = window.screen()->availableGeometry();
+    const QSize room = roomFor(window);
+    const QSize frame = screen.size() - room;
+    // As wide on both sides, and below as on a side.
+    const int side = frame.width() / 2;
+    const QRect inside(screen.topLeft() + QPoint(side, qMax(0, frame.height() - side)), room);
+    const QSize size = window.size().boundedTo(room);
+    const QPoint former = window.geometry().topLeft();
+    const QPoint place(
+        qBound(inside.left(), former.x(), inside.left() + room.width() - size.width()),
+        qBound(inside.top(), former.y(), inside.top() + room.height() - size.height()));
+    if (place != former) {
+        window.setGeometry(QRect(place, window.size()));
+    }
+}
+
 } // namespace trel::desktop::fit

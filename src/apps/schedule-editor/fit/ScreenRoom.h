@@ -13,4 +13,9 @@ QSize roomFor(const QWidget& window);
 /// and what fills the screen anyway are left alone.
 void keepWithinRoom(QWidget& window);
 
+/// Moves a window that reaches over an edge of its screen, or lies off every screen, so that all of
+/// it is on the screen, its frame included; of one that is larger the part where one begins to
+/// read, up to which it is made smaller. What fills the screen anyway is left alone.
+void moveOntoScreen(QWidget& window);
+
 } // namespace trel::desktop::fit

@@ -1,5 +1,7 @@
 #include "help/GuideWindow.h"
 
+#include "memory/RememberedDialog.h"
+
 #include <QApplication>
 #include <QDesktopServices>
 #include <QEvent>
@@ -77,6 +79,7 @@ GuideWindow::GuideWindow(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_text);
     resize(900, 700);
+    new RememberedDialog(*this);
     retranslate();
 }
 

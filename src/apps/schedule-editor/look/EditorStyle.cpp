@@ -4,6 +4,7 @@
 #include "ButtonPainting.h"
 #include "EdgePainting.h"
 #include "FieldPainting.h"
+#include "FrameDistance.h"
 #include "SliderPainting.h"
 #include "StyleHooks.h"
 #include "ThemeImages.h"
@@ -376,11 +377,14 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
         paintItem(option, painter, widget);
         return;
     case CE_DockWidgetTitle:
-        painter->save();
-        painter->setFont(titleFont(*painter, widget));
-        QProxyStyle::drawControl(element, option, painter, widget);
-        painter->restore();
+        paintPanelTitle(*option, painter, widget);
         return;
+    case CE_HeaderLabel:
+        if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option)) {
+            paintColumnTitle(*header, painter, widget);
+            return;
+        }
+        break;
     case CE_MenuItem:
         if (isPlainSeparator(*option)) {
             paintMenuSeparator(*painter, m_colours, option->rect);
@@ -404,6 +408,41 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
         break;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+/// The base style writes titles at the left wherever one begins to read.
+void EditorStyle::paintColumnTitle(const QStyleOptionHeader& option, QPainter* painter,
+                                   const QWidget* widget) const
+{
+    QStyleOptionHeader title(option);
+    title.rect = withInset(title.rect, titleInset(*proxy(), title, widget), title.direction);
+    painter->save();
+    if (isTitleOfHost(widget)) {
+        painter->setLayoutDirection(title.direction);
+    }
+    QProxyStyle::drawControl(CE_HeaderLabel, &title, painter, widget);
+    painter->restore();
+}
+
+void EditorStyle::paintPanelTitle(const QStyleOption& option, QPainter* painter,
+                                  const QWidget* widget) const
+{
+    const auto* dock = qstyleoption_cast<const QStyleOptionDockWidget*>(&option);
+    if (dock == nullptr) {
+        return;
+    }
+    QStyleOptionDockWidget title(*dock);
+    if (!title.verticalTitleBar) {
+        const QRect text = QProxyStyle::subElementRect(SE_DockWidgetTitleBarText, dock, widget);
+        const int own = title.direction == Qt::LeftToRight ? text.left() - title.rect.left()
+                                                           : title.rect.right() - text.right();
+        title.rect = withInset(title.rect, qMax(0, kFrameDistance - own), title.direction);
+    }
+    painter->save();
+    painter->setFont(titleFont(*painter, widget));
+    painter->setLayoutDirection(title.direction);
+    QProxyStyle::drawControl(CE_DockWidgetTitle, &title, painter, widget);
+    painter->restore();
 }
 
 // The base style shows a tab's focus only to those who have just pressed Tab.
@@ -514,10 +553,30 @@ QRect EditorStyle::subControlRect(ComplexControl control, const QStyleOptionComp
 QSize EditorStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                     const QSize& contents, const QWidget* widget) const
 {
+    if (type == CT_ItemViewItem || type == CT_HeaderSection) {
+        return sizeWithInset(type, option, contents, widget);
+    }
     const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     return type == CT_PushButton && isAnswer(widget)
                ? size.expandedTo({contents.width() + 2 * kBesideText, 0})
                : size;
+}
+
+/// What has less room for its text may take more lines.
+QSize EditorStyle::sizeWithInset(ContentsType type, const QStyleOption* option,
+                                 const QSize& contents, const QWidget* widget) const
+{
+    if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
+        const int inset = cellInset(*proxy(), *item, widget);
+        QStyleOptionViewItem cell(*item);
+        if (cell.rect.width() > inset) {
+            cell.rect = withInset(cell.rect, inset, cell.direction);
+        }
+        return QProxyStyle::sizeFromContents(type, &cell, contents, widget) + QSize(inset, 0);
+    }
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const auto* title = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    return title == nullptr ? size : size + QSize(titleInset(*proxy(), *title, widget), 0);
 }
 
 int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -682,6 +741,11 @@ void EditorStyle::paintItem(const QStyleOption* option, QPainter* painter,
     QStyleOptionViewItem tinted(*item);
     tinted.palette.setColor(QPalette::HighlightedText, item->palette.color(QPalette::Text));
     tinted.state &= ~QStyle::State_HasFocus;
+    if (const int inset = cellInset(*proxy(), *item, widget); inset > 0) {
+        // The ground goes up to the frame.
+        paintRow(*painter, m_colours, *item, widget);
+        tinted.rect = withInset(tinted.rect, inset, tinted.direction);
+    }
     if (isChooserList(widget)) {
         // The number of a row is set a little lower than the toolkit sets its texts.
         tinted.rect.adjust(0, kListTextDrop, 0, 0);

@@ -5,6 +5,7 @@
 #include <QProxyStyle>
 
 class QAbstractScrollArea;
+class QStyleOptionHeader;
 class QStyleOptionTab;
 
 namespace trel::desktop::look {
@@ -60,12 +61,18 @@ public:
 private:
     void recolourLabel(QWidget* label) const;
     void recolourCalendarArrow(QWidget* button) const;
+    QSize sizeWithInset(ContentsType type, const QStyleOption* option, const QSize& contents,
+                        const QWidget* widget) const;
     QIcon panelSign(StandardPixmap icon) const;
     bool paintPanel(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     void paintFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     bool paintLabelFrame(const QStyleOption& option, QPainter& painter,
                          const QWidget* widget) const;
     void paintItem(const QStyleOption* option, QPainter* painter, const QWidget* widget) const;
+    void paintColumnTitle(const QStyleOptionHeader& option, QPainter* painter,
+                          const QWidget* widget) const;
+    void paintPanelTitle(const QStyleOption& option, QPainter* painter,
+                         const QWidget* widget) const;
     void paintTabLabel(const QStyleOptionTab& tab, QPainter* painter, const QWidget* widget) const;
 
     ThemeColours m_colours;

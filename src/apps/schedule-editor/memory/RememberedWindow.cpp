@@ -1,21 +1,21 @@
 #include "memory/RememberedWindow.h"
 
 #include "HostPrompts.h"
+#include "catalogue/CataloguePanel.h"
+#include "fit/ScreenRoom.h"
 #include "memory/LastFolders.h"
+#include "memory/RememberedParts.h"
+#include "memory/WindowMemory.h"
 #include "week/WeekGeometry.h"
 #include "week/WeekView.h"
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QHeaderView>
 #include <QMainWindow>
 #include <QScreen>
 #include <QSettings>
-#include <QTableView>
 
-#include <algorithm>
 #include <cmath>
-#include <vector>
 
 namespace trel::desktop {
 
@@ -23,31 +23,12 @@ namespace {
 
 const QLatin1String kGeometry("window/geometry");
 const QLatin1String kPanels("window/panels");
+const QLatin1String kCatalogue("catalogue/order");
 const QLatin1String kHour("week/hour");
 const QLatin1String kFolders("folders");
 
 /// Of the panels: with others than these, what was remembered is not taken.
 constexpr int kPanelsVersion = 1;
-/// What a column may be wide, in pixels.
-constexpr int kNarrowest = 16;
-constexpr int kWidest = 4000;
-
-QString columnsOf(const QTableView& table)
-{
-    return QStringLiteral("columns/") + table.objectName();
-}
-
-QList<QTableView*> tablesOf(const QMainWindow& window)
-{
-    QList<QTableView*> tables = window.findChildren<QTableView*>();
-    tables.erase(std::remove_if(tables.begin(), tables.end(),
-                                [&window](const QTableView* table) {
-                                    return table->objectName().isEmpty() ||
-                                           table->window() != &window;
-                                }),
-                 tables.end());
-    return tables;
-}
 
 } // namespace
 
@@ -56,6 +37,7 @@ RememberedWindow::RememberedWindow(QSettings& settings, QMainWindow& window)
     , m_settings(settings)
     , m_window(window)
 {
+    new WindowMemory(settings, window);
     restore();
     window.installEventFilter(this);
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
@@ -72,13 +54,15 @@ bool RememberedWindow::eventFilter(QObject* watched, QEvent* event)
 
 void RememberedWindow::restore()
 {
-    if (!m_window.restoreGeometry(m_settings.value(kGeometry).toByteArray())) {
+    if (m_window.restoreGeometry(m_settings.value(kGeometry).toByteArray())) {
+        fit::moveOntoScreen(m_window);
+    } else {
         m_window.resize(m_window.size().boundedTo(m_window.screen()->availableGeometry().size()));
     }
     m_window.restoreState(m_settings.value(kPanels).toByteArray(), kPanelsVersion);
-    const QList<QTableView*> tables = tablesOf(m_window);
-    for (QTableView* table : tables) {
-        restoreColumns(*table);
+    RememberedParts(m_settings, m_window).restore();
+    if (auto* const catalogue = m_window.findChild<CataloguePanel*>()) {
+        catalogue->restoreState(m_settings.value(kCatalogue).toByteArray());
     }
     if (auto* const view = m_window.findChild<week::WeekView*>()) {
         restoreZoom(*view);
@@ -98,29 +82,6 @@ void RememberedWindow::restoreFolders(LastFolders& folders) const
     m_settings.endGroup();
 }
 
-void RememberedWindow::restoreColumns(QTableView& table) const
-{
-    const QStringList texts = m_settings.value(columnsOf(table)).toStringList();
-    QHeaderView& header = *table.horizontalHeader();
-    std::vector<int> widths;
-    for (const QString& text : texts) {
-        bool isNumber = false;
-        const int width = text.toInt(&isNumber);
-        if (!isNumber || width < kNarrowest || width > kWidest) {
-            return;
-        }
-        widths.push_back(width);
-    }
-    if (static_cast<int>(widths.size()) != header.count()) {
-        return;
-    }
-    for (int column = 0; column < header.count(); ++column) {
-        if (header.sectionResizeMode(column) == QHeaderView::Interactive) {
-            header.resizeSection(column, widths[static_cast<std::size_t>(column)]);
-        }
-    }
-}
-
 void RememberedWindow::restoreZoom(week::WeekView& view) const
 {
     bool isNumber = false;
@@ -135,14 +96,9 @@ void RememberedWindow::save()
 {
     m_settings.setValue(kGeometry, m_window.saveGeometry());
     m_settings.setValue(kPanels, m_window.saveState(kPanelsVersion));
-    const QList<QTableView*> tables = tablesOf(m_window);
-    for (const QTableView* table : tables) {
-        const QHeaderView& header = *table->horizontalHeader();
-        QStringList widths;
-        for (int column = 0; column < header.count(); ++column) {
-            widths.append(QString::number(header.sectionSize(column)));
-        }
-        m_settings.setValue(columnsOf(*table), widths);
+    RememberedParts(m_settings, m_window).save();
+    if (const auto* const catalogue = m_window.findChild<CataloguePanel*>()) {
+        m_settings.setValue(kCatalogue, catalogue->saveState());
     }
     if (const auto* const view = m_window.findChild<week::WeekView*>()) {
         // A whole day is as high as the window.

@@ -1,6 +1,7 @@
 #include "merge/ConflictsDialog.h"
 
 #include "changes/ChangesDialog.h"
+#include "memory/RememberedDialog.h"
 #include "merge/MergeWords.h"
 #include "service/TaskPeriods.h"
 #include "versions/DifferenceWords.h"
@@ -74,6 +75,7 @@ ConflictsDialog::ConflictsDialog(const ScheduleMerge& merge, const Programs& pro
     m_table->setCurrentCell(0, TaskColumn);
     tellOutlook();
     resize(760, 480);
+    new RememberedDialog(*this);
 }
 
 void ConflictsDialog::buildTable()

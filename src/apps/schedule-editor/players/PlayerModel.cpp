@@ -2,6 +2,7 @@
 
 #include "clock/Clock.h"
 #include "common/DisplayText.h"
+#include "look/ProgramSigns.h"
 #include "players/PlayerWords.h"
 #include "screen/ScreenFollower.h"
 #include "trelwidgets/PlainToolTip.h"
@@ -12,6 +13,16 @@
 using namespace trel::mediadispatch;
 
 namespace trel::desktop::players {
+
+namespace {
+
+/// The program whose name stands in the table; -1 for none.
+int namedProgram(const PlayerStatus& status)
+{
+    return status.shown.picture == ScreenPicture::Black ? -1 : status.shown.progIndex;
+}
+
+} // namespace
 
 PlayerModel::PlayerModel(const ScreenFollower& clock, QObject* parent)
     : QAbstractTableModel(parent)
@@ -63,10 +74,17 @@ int PlayerModel::columnCount(const QModelIndex& parent) const
 
 QVariant PlayerModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
+    if (!index.isValid()) {
         return {};
     }
-    const QString shown = text(m_players[static_cast<std::size_t>(index.row())], index.column());
+    const PlayerStatus& status = m_players[static_cast<std::size_t>(index.row())];
+    if (role == look::kProgramsRole && index.column() == ShownColumn) {
+        return QVariant::fromValue(look::ProgramIndexes{namedProgram(status)});
+    }
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) {
+        return {};
+    }
+    const QString shown = text(status, index.column());
     return role == Qt::DisplayRole ? shown : trel::widgets::plainToolTip(shown);
 }
 

@@ -1,5 +1,6 @@
 #include "players/PlayersDock.h"
 
+#include "look/ProgramSignDelegate.h"
 #include "players/PlayerModel.h"
 #include "players/PlayerWords.h"
 #include "screen/ScreenFollower.h"
@@ -28,7 +29,7 @@ namespace {
 
 /// Half of the time after which a player tells of itself again.
 constexpr int kSeconds = 5;
-constexpr int kAroundHint = 4;
+constexpr int kAroundHint = 8;
 
 } // namespace
 
@@ -36,6 +37,7 @@ PlayersDock::PlayersDock(ScreenFollower& follower, QStatusBar& bar, QWidget* par
     : QDockWidget(parent)
     , m_model(new PlayerModel(follower, this))
     , m_table(new QTableView(this))
+    , m_signs(new look::ProgramSignDelegate(m_table))
     , m_hint(new QLabel(this))
     , m_hintArea(new QScrollArea(this))
     , m_number(new QToolButton(&bar))
@@ -76,6 +78,7 @@ void PlayersDock::buildTable()
 {
     m_table->setObjectName(QStringLiteral("playerTable"));
     m_table->setModel(m_model);
+    m_table->setItemDelegate(m_signs);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);
@@ -90,6 +93,12 @@ void PlayersDock::buildTable()
     columns->resizeSection(PlayerModel::ScreenColumn, 120);
     columns->resizeSection(PlayerModel::ShownColumn, 240);
     columns->resizeSection(PlayerModel::HeardColumn, 180);
+}
+
+void PlayersDock::setColours(const look::ThemeColours& colours)
+{
+    m_signs->setColours(colours);
+    m_table->viewport()->update();
 }
 
 void PlayersDock::look()

@@ -15,6 +15,11 @@ class QToolButton;
 
 namespace trel::desktop {
 
+namespace look {
+struct ThemeColours;
+class ProgramSignDelegate;
+} // namespace look
+
 class ScreenFollower;
 
 namespace players {
@@ -38,6 +43,8 @@ public:
 
     /// Looks again at once. To be called when another database has been opened.
     void look();
+    /// The colours by which programs are known in the week.
+    void setColours(const look::ThemeColours& colours);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -53,6 +60,7 @@ private:
 
     PlayerModel* m_model;
     QTableView* m_table;
+    look::ProgramSignDelegate* m_signs;
     QLabel* m_hint;
     QScrollArea* m_hintArea; ///< In the place of the table as long as it is empty.
     QToolButton* m_number;

@@ -47,6 +47,11 @@ int ProblemDock::count() const
     return m_follower->model()->rowCount();
 }
 
+void ProblemDock::setRows(int rows)
+{
+    m_panel->setRows(rows);
+}
+
 void ProblemDock::tellNumber()
 {
     m_number->setText(count() == 0 ? tr("No open problems")

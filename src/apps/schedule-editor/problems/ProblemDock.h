@@ -33,6 +33,8 @@ public:
 
     /// How many problems there are, as far as is known.
     int count() const;
+    /// How many of them are seen at once where the panel is as high as it asks for.
+    void setRows(int rows);
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -49,7 +49,7 @@ ProblemPanel::ProblemPanel(ProblemModel& model, QWidget* parent)
     columns->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     columns->setSectionResizeMode(ProblemModel::WrongColumn, QHeaderView::Stretch);
     columns->setSectionResizeMode(ProblemModel::RemedyColumn, QHeaderView::Stretch);
-    columns->resizeSection(ProblemModel::PlaceColumn, 130);
+    columns->resizeSection(ProblemModel::PlaceColumn, 136);
     columns->resizeSection(ProblemModel::DateColumn, 90);
     setFocusProxy(m_table);
     m_none->setObjectName(QStringLiteral("noProblems"));
@@ -83,10 +83,15 @@ ProblemPanel::ProblemPanel(ProblemModel& model, QWidget* parent)
 QSize ProblemPanel::sizeHint() const
 {
     constexpr int kWidth = 420;
-    constexpr int kRows = 4;
     return {kWidth, m_table->horizontalHeader()->sizeHint().height() +
-                        kRows * m_table->verticalHeader()->defaultSectionSize() +
+                        m_rows * m_table->verticalHeader()->defaultSectionSize() +
                         2 * m_table->frameWidth()};
+}
+
+void ProblemPanel::setRows(int rows)
+{
+    m_rows = qMax(1, rows);
+    updateGeometry();
 }
 
 void ProblemPanel::setListName(const QString& name)

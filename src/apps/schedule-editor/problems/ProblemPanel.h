@@ -19,8 +19,10 @@ public:
     /// The model outlives the panel.
     ProblemPanel(ProblemModel& model, QWidget* parent);
 
-    /// A few problems are seen at once.
+    /// So many problems are seen at once; two while nothing else was asked for.
     QSize sizeHint() const override;
+    /// How many problems the panel asks for the room of, at least one.
+    void setRows(int rows);
 
     /// What a screen reader calls the list.
     void setListName(const QString& name);
@@ -47,6 +49,7 @@ private:
     QLabel* m_none;
     QPushButton* m_go;
     QPushButton* m_split;
+    int m_rows = 2;
 };
 
 } // namespace trel::desktop

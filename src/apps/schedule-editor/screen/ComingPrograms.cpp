@@ -2,7 +2,7 @@
 
 #include "BidiText.h"
 #include "DateWords.h"
-#include "look/ProgramColours.h"
+#include "look/ProgramSigns.h"
 #include "screen/ScreenFollower.h"
 
 #include <QEvent>
@@ -15,8 +15,8 @@ namespace trel::desktop {
 
 namespace {
 
-constexpr int kSign = 10;
-constexpr int kSpace = 6;
+constexpr int kSign = look::kProgramSign;
+constexpr int kSpace = look::kBesideProgramSign;
 constexpr int kLineSpace = 3;
 
 } // namespace
@@ -120,11 +120,8 @@ void ComingPrograms::paintEvent(QPaintEvent* event)
     for (int index = 0; index < count; ++index) {
         const int top = topOf(index);
         const int program = m_follower.coming()[static_cast<std::size_t>(index)].state.progIndex;
-        const look::ProgramColours colours = look::programColours(program, m_colours);
-        const QRect sign = seen(QRect(0, top + (height - kSign) / 2, kSign, kSign));
-        painter.fillRect(sign, colours.ground);
-        painter.setPen(colours.line);
-        painter.drawRect(sign.adjusted(0, 0, -1, -1));
+        look::paintProgramSign(painter, seen(QRect(0, top + (height - kSign) / 2, kSign, kSign)),
+                               program, m_colours);
         const QString time = momentOf(index);
         const int timeWidth = fontMetrics().horizontalAdvance(time);
         draw(QRect(kSign + kSpace, top, timeWidth + 1, height),

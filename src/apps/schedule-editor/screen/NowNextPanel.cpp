@@ -7,6 +7,7 @@
 #include "screen/ComingPrograms.h"
 #include "screen/ElidedText.h"
 #include "screen/PlayBar.h"
+#include "screen/ProgramName.h"
 #include "screen/ScreenFollower.h"
 #include "screen/ScreenWords.h"
 #include "trelwidgets/PlainToolTip.h"
@@ -66,6 +67,12 @@ void setBold(QWidget* widget, int pixels)
     widget->setFont(font);
 }
 
+/// The program that the words for the screen name; -1 for none.
+int namedProgram(const ScreenState& state)
+{
+    return state.picture == ScreenPicture::Black ? -1 : state.progIndex;
+}
+
 /// A text without its room where there is none.
 void setOptional(QLabel* label, const QString& text)
 {
@@ -95,7 +102,7 @@ NowNextPanel::NowNextPanel(ScreenFollower& follower, QWidget* parent)
     , m_nowTitle(named(faint(plainLabel(this)), "nowTitle"))
     , m_picture(named(new Badge(this), "nowPicture"))
     , m_inserted(named(new Badge(this), "nowInserted"))
-    , m_program(named(new ElidedText(this), "nowProgram"))
+    , m_program(named(new ProgramName(this), "nowProgram"))
     , m_bar(named(new PlayBar(this), "nowBar"))
     , m_gone(named(plainLabel(this), "nowGone"))
     , m_toCome(named(plainLabel(this), "nowToCome"))
@@ -105,7 +112,7 @@ NowNextPanel::NowNextPanel(ScreenFollower& follower, QWidget* parent)
     , m_nextPart(new QWidget(this))
     , m_nextTitle(named(faint(plainLabel(m_nextPart)), "nextTitle"))
     , m_nextInserted(named(new Badge(m_nextPart), "nextInserted"))
-    , m_nextProgram(named(new ElidedText(m_nextPart), "nextProgram"))
+    , m_nextProgram(named(new ProgramName(m_nextPart), "nextProgram"))
     , m_nextPlan(named(new ElidedText(m_nextPart, kPlanLines), "nextPlan"))
     , m_nextTime(named(new ElidedText(m_nextPart), "nextTime"))
     , m_coming(new ComingPrograms(follower, this))
@@ -167,6 +174,8 @@ void NowNextPanel::build()
 
 void NowNextPanel::setColours(const look::ThemeColours& colours)
 {
+    m_program->setColours(colours);
+    m_nextProgram->setColours(colours);
     m_coming->setColours(colours);
 }
 
@@ -198,6 +207,7 @@ void NowNextPanel::showScreen()
     m_picture->setVisible(isRunning);
     m_inserted->setVisible(now.state.isInserted());
     m_program->setText(isRunning ? ScreenWords::program(now) : tr("Not started"));
+    m_program->setProgram(isRunning ? namedProgram(now.state) : -1);
     m_reason->setText(ScreenWords::reason(now.state, &now.plan));
     setOptional(m_entry, ScreenWords::entry(now));
     m_bar->setVisible(isPlaying);
@@ -235,6 +245,7 @@ void NowNextPanel::showNext()
     const std::optional<ScreenScene>& next = m_follower.next();
     m_nextInserted->setVisible(next && next->state.isInserted());
     m_nextProgram->setText(next ? ScreenWords::program(*next) : tr("Nothing else is scheduled."));
+    m_nextProgram->setProgram(next ? namedProgram(next->state) : -1);
     QStringList parts;
     if (next) {
         parts = QStringList{ScreenWords::plan(*next), ScreenWords::entry(*next)};

@@ -16,6 +16,7 @@ class CutInLine;
 class EffectLines;
 class ElidedText;
 class PlayBar;
+class ProgramName;
 class ScreenFollower;
 
 /// What is on screen, why, for how long, what comes next, and since when the schedule has been in
@@ -28,7 +29,7 @@ public:
     /// The follower outlives the panel.
     NowNextPanel(ScreenFollower& follower, QWidget* parent);
 
-    /// Those of the theme, for the programs to come.
+    /// Those of the theme, for the programs.
     void setColours(const look::ThemeColours& colours);
 
 protected:
@@ -50,7 +51,7 @@ private:
     QLabel* m_nowTitle;
     Badge* m_picture;
     Badge* m_inserted;
-    ElidedText* m_program;
+    ProgramName* m_program;
     PlayBar* m_bar;
     QLabel* m_gone;
     QLabel* m_toCome;
@@ -60,7 +61,7 @@ private:
     QWidget* m_nextPart;
     QLabel* m_nextTitle;
     Badge* m_nextInserted;
-    ElidedText* m_nextProgram;
+    ProgramName* m_nextProgram;
     ElidedText* m_nextPlan;
     ElidedText* m_nextTime;
     ComingPrograms* m_coming;

@@ -1,5 +1,7 @@
 #include "versions/ComparedWeeks.h"
 
+#include "fit/ColumnRoom.h"
+#include "look/ProgramSignDelegate.h"
 #include "versions/StretchModel.h"
 #include "versions/VersionTables.h"
 #include "versions/VersionWords.h"
@@ -30,6 +32,7 @@ ComparedWeeks::ComparedWeeks(QWidget* parent)
     , m_weeks(new week::WeekPair(this))
     , m_model(new StretchModel(this))
     , m_table(new QTableView(this))
+    , m_signs(new look::ProgramSignDelegate(m_table))
     , m_summary(new QLabel(this))
 {
     m_table->setObjectName(QStringLiteral("stretchTable"));
@@ -44,7 +47,11 @@ ComparedWeeks::~ComparedWeeks() = default;
 void ComparedWeeks::build()
 {
     prepareTable(*m_table, m_model);
-    m_table->horizontalHeader()->resizeSection(StretchModel::FormerColumn, 260);
+    m_table->setItemDelegate(m_signs);
+    QHeaderView* columns = m_table->horizontalHeader();
+    columns->resizeSection(StretchModel::FromColumn, columns->minimumSectionSize());
+    columns->resizeSection(StretchModel::ToColumn, columns->minimumSectionSize());
+    columns->resizeSection(StretchModel::FormerColumn, 260);
 
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_weeks, 3);
@@ -88,8 +95,8 @@ void ComparedWeeks::findStretches()
         return [this, states, found] {
             m_isFinding = false;
             m_model->setStretches(states, std::move(*found));
-            m_table->resizeColumnToContents(StretchModel::FromColumn);
-            m_table->resizeColumnToContents(StretchModel::ToColumn);
+            fit::widenToContents(*m_table, StretchModel::FromColumn);
+            fit::widenToContents(*m_table, StretchModel::ToColumn);
             tellStretches();
         };
     });
@@ -121,6 +128,8 @@ void ComparedWeeks::updateNames()
 void ComparedWeeks::setColours(const look::ThemeColours& colours)
 {
     m_weeks->setColours(colours);
+    m_signs->setColours(colours);
+    m_table->viewport()->update();
 }
 
 void ComparedWeeks::setLanguage(const QLocale& locale)

@@ -15,6 +15,10 @@ namespace trel::desktop::week {
 class WeekPair;
 }
 
+namespace trel::desktop::look {
+class ProgramSignDelegate;
+}
+
 namespace trel::desktop::versions {
 
 class StretchModel;
@@ -46,6 +50,7 @@ private:
     week::WeekPair* m_weeks;
     StretchModel* m_model;
     QTableView* m_table;
+    look::ProgramSignDelegate* m_signs;
     QLabel* m_summary;
 
     std::shared_ptr<const StateComparison> m_comparison;

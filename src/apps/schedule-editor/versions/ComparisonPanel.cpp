@@ -1,6 +1,7 @@
 #include "versions/ComparisonPanel.h"
 
 #include "ProblemWords.h"
+#include "look/ProgramSignDelegate.h"
 #include "versions/ComparedWeeks.h"
 #include "versions/DifferenceModel.h"
 #include "versions/VersionTables.h"
@@ -20,6 +21,7 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     , m_tabs(new QTabWidget(this))
     , m_model(new DifferenceModel(this))
     , m_table(new QTableView(this))
+    , m_signs(new look::ProgramSignDelegate(m_table))
     , m_weeks(new ComparedWeeks(this))
 {
     m_headline->setObjectName(QStringLiteral("versionHeadline"));
@@ -28,7 +30,8 @@ ComparisonPanel::ComparisonPanel(QWidget* parent)
     m_tabs->setObjectName(QStringLiteral("versionTabs"));
     m_table->setObjectName(QStringLiteral("differenceTable"));
     prepareTable(*m_table, m_model);
-    m_table->horizontalHeader()->resizeSection(DifferenceModel::TaskColumn, 70);
+    m_table->setItemDelegate(m_signs);
+    m_table->horizontalHeader()->resizeSection(DifferenceModel::TaskColumn, 76);
     m_table->horizontalHeader()->resizeSection(DifferenceModel::PlanColumn, 60);
     m_tabs->addTab(m_table, QString());
     m_tabs->addTab(m_weeks, QString());
@@ -101,6 +104,8 @@ QDate ComparisonPanel::firstDay() const
 
 void ComparisonPanel::setColours(const look::ThemeColours& colours)
 {
+    m_signs->setColours(colours);
+    m_table->viewport()->update();
     m_weeks->setColours(colours);
 }
 

@@ -11,6 +11,10 @@ class QLabel;
 class QTabWidget;
 class QTableView;
 
+namespace trel::desktop::look {
+class ProgramSignDelegate;
+}
+
 namespace trel::desktop::versions {
 
 class DifferenceModel;
@@ -54,6 +58,7 @@ private:
     QTabWidget* m_tabs;
     DifferenceModel* m_model;
     QTableView* m_table;
+    look::ProgramSignDelegate* m_signs;
     ComparedWeeks* m_weeks;
     Without m_without = Without::Nothing;
     std::shared_ptr<const StateComparison> m_comparison;

@@ -1,5 +1,6 @@
 #include "versions/DifferenceModel.h"
 
+#include "look/ProgramSigns.h"
 #include "trelwidgets/PlainToolTip.h"
 #include "versions/DifferenceWords.h"
 
@@ -8,6 +9,33 @@
 using namespace trel::mediadispatch;
 
 namespace trel::desktop::versions {
+
+namespace {
+
+/// Those that the words for a difference name.
+look::ProgramIndexes programs(const ScheduleDifference& difference)
+{
+    look::ProgramIndexes named;
+    switch (difference.kind) {
+    case DifferenceKind::EntryAdded:
+    case DifferenceKind::EntryRemoved:
+    case DifferenceKind::EntryMoved:
+    case DifferenceKind::EntryField:
+        named.append(difference.entry.progIndex);
+        break;
+    case DifferenceKind::PlanAdded:
+    case DifferenceKind::PlanRemoved:
+        for (const struProgInfo& entry : difference.plan.programs) {
+            named.append(entry.progIndex);
+        }
+        break;
+    default:
+        break;
+    }
+    return named;
+}
+
+} // namespace
 
 DifferenceModel::DifferenceModel(QObject* parent)
     : QAbstractTableModel(parent)
@@ -42,11 +70,17 @@ int DifferenceModel::columnCount(const QModelIndex& parent) const
 
 QVariant DifferenceModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
+    if (!index.isValid()) {
         return {};
     }
     const ScheduleDifference& one =
         m_comparison->differences[static_cast<std::size_t>(index.row())];
+    if (role == look::kProgramsRole && index.column() == DifferenceColumn) {
+        return QVariant::fromValue(programs(one));
+    }
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) {
+        return {};
+    }
     if (role == Qt::ToolTipRole) {
         return trel::widgets::plainToolTip(DifferenceWords::line(one, *m_comparison->catalogue));
     }

@@ -51,10 +51,20 @@ int StretchModel::columnCount(const QModelIndex& parent) const
 
 QVariant StretchModel::data(const QModelIndex& index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
+    if (!index.isValid()) {
         return {};
     }
-    const QString shown = text(m_stretches[static_cast<std::size_t>(index.row())], index.column());
+    const ScreenDifference& stretch = m_stretches[static_cast<std::size_t>(index.row())];
+    if (role == look::kProgramsRole && index.column() == FormerColumn) {
+        return QVariant::fromValue(programs(m_comparison->former, stretch.former));
+    }
+    if (role == look::kProgramsRole && index.column() == LaterColumn) {
+        return QVariant::fromValue(programs(m_comparison->later, stretch.later));
+    }
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) {
+        return {};
+    }
+    const QString shown = text(stretch, index.column());
     return role == Qt::DisplayRole ? shown : trel::widgets::plainToolTip(shown);
 }
 
@@ -98,6 +108,22 @@ QString StretchModel::screenText(const ComparedState& state, const ScreenState& 
     return DifferenceWords::ofPlan(
         screen.taskId, screen.planId,
         DifferenceWords::programs(plan->programs, *m_comparison->catalogue));
+}
+
+/// Those that the words for a screen name.
+look::ProgramIndexes StretchModel::programs(const ComparedState& state,
+                                            const ScreenState& screen) const
+{
+    const PlayPlan* const plan = hasPlan(screen) ? state.picture.schedule->plan(screen) : nullptr;
+    look::ProgramIndexes named;
+    if (plan != nullptr) {
+        for (const struProgInfo& entry : plan->programs) {
+            named.append(entry.progIndex);
+        }
+    } else if (screen.picture != ScreenPicture::Black) {
+        named.append(screen.progIndex);
+    }
+    return named;
 }
 
 QVariant StretchModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "look/ProgramSigns.h"
 #include "trelprogramschedule/dispatch/MomentFormat.h"
 #include "versions/StateComparison.h"
 
@@ -41,6 +42,9 @@ private:
     QString momentText(trel::mediadispatch::Instant moment) const;
     QString screenText(const ComparedState& state,
                        const trel::mediadispatch::ScreenState& screen) const;
+
+    look::ProgramIndexes programs(const ComparedState& state,
+                                  const trel::mediadispatch::ScreenState& screen) const;
 
     std::shared_ptr<const StateComparison> m_comparison;
     std::vector<trel::mediadispatch::ScreenDifference> m_stretches;

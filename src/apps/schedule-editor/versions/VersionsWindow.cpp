@@ -3,7 +3,9 @@
 #include "HostPrompts.h"
 #include "ProblemWords.h"
 #include "clock/Clock.h"
+#include "fit/ColumnRoom.h"
 #include "fit/ScrolledContent.h"
+#include "memory/RememberedDialog.h"
 #include "scheduleControlUI.h"
 #include "service/InvalidEntries.h"
 #include "service/scheduleManage.h"
@@ -63,6 +65,7 @@ VersionsWindow::VersionsWindow(scheduleControlUI& editor, QWidget* parent)
     connectControls();
     followStore();
     resize(1340, 700);
+    new RememberedDialog(*this);
 }
 
 VersionsWindow::~VersionsWindow() = default;
@@ -80,8 +83,8 @@ void VersionsWindow::build()
     m_table->setObjectName(QStringLiteral("versionTable"));
     prepareTable(*m_table, m_model);
     QHeaderView* columns = m_table->horizontalHeader();
-    columns->resizeSection(VersionModel::NumberColumn, 68);
-    columns->resizeSection(VersionModel::SavedColumn, 120);
+    columns->resizeSection(VersionModel::NumberColumn, 74);
+    columns->resizeSection(VersionModel::SavedColumn, columns->minimumSectionSize());
     columns->resizeSection(VersionModel::ByColumn, 100);
     columns->resizeSection(VersionModel::ChangeColumn, 140);
     columns->resizeSection(VersionModel::NameColumn, 80);
@@ -124,12 +127,13 @@ void VersionsWindow::build()
     comparisonLayout->addWidget(m_panel, 1);
 
     auto* halves = new QSplitter(this);
+    halves->setObjectName(QStringLiteral("versionHalves"));
     halves->setChildrenCollapsible(false);
     halves->addWidget(list);
     halves->addWidget(comparison);
     halves->setStretchFactor(1, 1);
     // The title of the last column is whole in every language.
-    halves->setSizes({610, 710});
+    halves->setSizes({616, 704});
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new fit::ScrolledContent(*halves, this));
 }
@@ -206,7 +210,7 @@ void VersionsWindow::takeVersions(const StoreResult& result, std::vector<Schedul
     const bool wasNewest = former && m_model->rowOf(*former) == 0;
     m_isTaking = true;
     m_model->setVersions(std::move(versions), Clock::current().zone());
-    m_table->resizeColumnToContents(VersionModel::SavedColumn);
+    fit::widenToContents(*m_table, VersionModel::SavedColumn);
     fillStates();
     // The newest is what is saved, from which it does not differ.
     if (former && !wasNewest && m_model->rowOf(*former) >= 0) {

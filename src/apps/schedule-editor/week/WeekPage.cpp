@@ -20,6 +20,7 @@ namespace {
 
 constexpr int kReasonLines = 4;
 constexpr int kSpace = 6;
+constexpr int kBesideText = 8;
 
 /// Has one height. The toolkit takes every text that wraps for one whose height follows its width,
 /// and with one of those in it the page would scroll where it can still be lower.
@@ -81,7 +82,7 @@ void WeekPage::build()
     layout->addWidget(m_year);
     layout->addWidget(m_panel, 1);
     auto* below = new QHBoxLayout;
-    below->setContentsMargins(kSpace, 0, kSpace, kSpace);
+    below->setContentsMargins(kBesideText, 0, kBesideText, kSpace);
     below->setSpacing(2 * kSpace);
     below->addWidget(m_reason, 1);
     below->addWidget(m_legend, 1);

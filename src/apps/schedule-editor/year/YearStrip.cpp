@@ -4,6 +4,7 @@
 #include "PlainLines.h"
 #include "access/AccessibleParts.h"
 #include "clock/Clock.h"
+#include "common/SentenceText.h"
 #include "follow/EditedSchedule.h"
 #include "service/DateText.h"
 
@@ -398,7 +399,7 @@ void YearStrip::describe()
     for (const YearStretch& overlap : m_layout.overlaps) {
         told.append(overlapText(overlap));
     }
-    setAccessibleDescription(told.mid(0, kMostTold).join(QLatin1Char(' ')));
+    setAccessibleDescription(hosts::SentenceText::joined(told.mid(0, kMostTold)));
 }
 
 bool YearStrip::event(QEvent* event)

@@ -6,6 +6,7 @@
 #include "asrun/AsRunText.h"
 #include "libs/trelprogramschedule/asrun/AsRunTampering.h"
 #include "libs/trelprogramschedule/asrun/SimulatedPlayer.h"
+#include "look/ProgramSigns.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/asrun/AsRunDatabase.h"
 
@@ -140,6 +141,7 @@ class tst_AsRunWindow : public QObject
 private slots:
     void saysThatNothingIsRecorded();
     void showsADayBesideItsPlan();
+    void programsHaveTheirSigns();
     void tellsTheOffsetWhereTheClockChanges();
     void tellsWhatStoodInAndWhy();
     void tellsWhatNoRecordExplains();
@@ -184,6 +186,30 @@ void tst_AsRunWindow::showsADayBesideItsPlan()
              QStringLiteral("The screen was as planned, or a record tells why not. "
                             "Recorded until 08:00:30.000."));
     QCOMPARE(fixture.rows(), rows);
+}
+
+void tst_AsRunWindow::programsHaveTheirSigns()
+{
+    Played fixture;
+    const int program = fixture.record("08:00:00").progIndex;
+    QVERIFY(program >= 0);
+    fixture.record("08:00:10").shown = AsRunShown::StandBy;
+    const int planned = fixture.record("08:00:10").progIndex;
+    fixture.keep();
+    fixture.ask();
+    const QAbstractItemModel& model = *fixture.part<QTableView>("asRunTable").model();
+    const auto signs = [&model](int row, int column) {
+        return look::signedPrograms(
+            model.index(row, column).data(look::kProgramsRole).value<look::ProgramIndexes>());
+    };
+    // A black screen is no program, and neither is a stand-by picture.
+    QCOMPARE(signs(0, AsRunModel::PlannedColumn), look::ProgramIndexes());
+    QCOMPARE(signs(0, AsRunModel::ShownColumn), look::ProgramIndexes());
+    QCOMPARE(signs(1, AsRunModel::PlannedColumn), look::ProgramIndexes{program});
+    QCOMPARE(signs(1, AsRunModel::ShownColumn), look::ProgramIndexes{program});
+    QCOMPARE(signs(1, AsRunModel::FromColumn), look::ProgramIndexes());
+    QCOMPARE(signs(2, AsRunModel::PlannedColumn), look::ProgramIndexes{planned});
+    QCOMPARE(signs(2, AsRunModel::ShownColumn), look::ProgramIndexes());
 }
 
 void tst_AsRunWindow::tellsTheOffsetWhereTheClockChanges()
@@ -316,6 +342,14 @@ void tst_AsRunWindow::speaksTheLanguage()
              qPrintable(fixture.summary()));
     const QAbstractItemModel& model = *fixture.part<QTableView>("asRunTable").model();
     QCOMPARE(model.headerData(2, Qt::Horizontal).toString(), QStringLiteral("Geplant"));
+    // The sentences of the line below follow one another as the language has it.
+    QVERIFY2(fixture.summary().contains(QStringLiteral(". ")), qPrintable(fixture.summary()));
+    for (const char* language : {"zh_CN", "zh_TW", "ja_JP"}) {
+        fixture.languages.select(QLatin1String(language));
+        QTRY_VERIFY2(fixture.summary().count(QChar(0x3002)) == 2, qPrintable(fixture.summary()));
+        QVERIFY2(!fixture.summary().contains(QChar(0x3002) + QStringLiteral(" ")),
+                 qPrintable(fixture.summary()));
+    }
 }
 
 void tst_AsRunWindow::numbersFollowTheLanguage_data()

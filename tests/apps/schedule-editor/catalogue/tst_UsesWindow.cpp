@@ -5,6 +5,8 @@
 #include "catalogue/UseWords.h"
 #include "catalogue/UsesModel.h"
 #include "clock/Clock.h"
+#include "look/ProgramColours.h"
+#include "screen/ProgramName.h"
 #include "support/PromptAnswer.h"
 #include "support/TestClock.h"
 #include "support/TestProgram.h"
@@ -89,6 +91,7 @@ private slots:
     void init();
     void cleanup();
     void showsPlansAndTheNextTime();
+    void theProgramHasItsSign();
     void followsTheEdits();
     void whatIsInEffectDecidesAboutTheScreen();
     void whatNeverWasIsNotOverYet();
@@ -193,6 +196,21 @@ void tst_UsesWindow::showsPlansAndTheNextTime()
     QCOMPARE(text("usesSummary"), QStringLiteral("“City news” is played by 3 plans."));
     QCOMPARE(text("usesNext"),
              QStringLiteral("Next on screen: 2024.01.05 08:00:00, task 1, plan 1."));
+}
+
+void tst_UsesWindow::theProgramHasItsSign()
+{
+    const QStringList themes = Themes::names();
+    for (const int row : {0, 1}) {
+        showUses(row);
+        auto* const summary = window().findChild<ProgramName*>(QStringLiteral("usesSummary"));
+        for (const QString& theme : themes) {
+            m_fixture->themes.select(theme);
+            QCoreApplication::processEvents();
+            QCOMPARE(summary->grab().toImage().pixelColor(summary->sign().center()).rgb(),
+                     look::programColours(row + 1, m_fixture->themes.colours()).ground.rgb());
+        }
+    }
 }
 
 void tst_UsesWindow::followsTheEdits()

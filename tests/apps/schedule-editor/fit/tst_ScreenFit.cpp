@@ -6,6 +6,7 @@
 #include "fit/WindowsOnScreen.h"
 #include "memory/RememberedWindow.h"
 #include "merge/ConflictsDialog.h"
+#include "support/TestClock.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/merge/ScheduleMerge.h"
 #include "week/WeekView.h"
@@ -15,6 +16,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDockWidget>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -34,6 +36,8 @@ namespace {
 /// Wide enough for the editor as a whole.
 constexpr int kRoomy = 1366;
 constexpr int kHighEnough = 640;
+/// Where there is more room, the host's own window opens no higher.
+constexpr int kHighest = 900;
 /// Wide enough for the host's own window as a whole.
 constexpr int kWide = 900;
 /// What the desktop's frame takes of it.
@@ -74,6 +78,7 @@ struct Station : HostFixture
         , onScreen(*qApp)
     {
         new fit::ScrolledEditor(*editor);
+        window.takeRoomOnScreen();
         new RememberedWindow(settings, window);
         window.openDatabase(database, QStringLiteral(DEMONSTRATION));
         window.show();
@@ -121,6 +126,7 @@ class tst_ScreenFit : public QObject
 private slots:
     void isTheScreenThatIsMeant();
     void theWindowIsWhole();
+    void theFirstWindowTakesTheRoom();
     void theEditorIsWholeOrScrolls();
     void otherWindowsAreWhole_data() { addHostWindows(); }
     void otherWindowsAreWhole();
@@ -174,6 +180,27 @@ void tst_ScreenFit::theWindowIsWhole()
     QCOMPARE(area->viewport()->height() + area->verticalScrollBar()->maximum(), page.height());
     QVERIFY(area->horizontalScrollBar()->isVisible() && area->verticalScrollBar()->isVisible());
     QVERIFY(window.findChild<week::WeekView*>()->viewport()->height() >= 100);
+}
+
+void tst_ScreenFit::theFirstWindowTakesTheRoom()
+{
+    // Of the demonstration's problems there are several then.
+    const TestClock clock(QDateTime(QDate(2026, 3, 11), QTime(12, 30)));
+    const Station station;
+    const int room = (screenArea().size() - kFrame).height();
+    QCOMPARE(station.window.height(), qMin(room, kHighest));
+    const auto* const problems =
+        station.window.findChild<QTableView*>(QStringLiteral("problemTable"));
+    QTRY_VERIFY(problems->isVisible());
+    QCoreApplication::processEvents();
+    const int rows =
+        problems->viewport()->height() / problems->verticalHeader()->defaultSectionSize();
+    QVERIFY2(rows >= (room >= kHighest ? 4 : 1), qPrintable(QString::number(rows)));
+    if (screenArea().width() >= kRoomy) {
+        const int week = station.window.findChild<week::WeekView*>()->viewport()->height();
+        QVERIFY2(week >= (room >= kHighest ? 360 : 260), qPrintable(QString::number(week)));
+        QVERIFY(rows >= 2);
+    }
 }
 
 void tst_ScreenFit::theEditorIsWholeOrScrolls()

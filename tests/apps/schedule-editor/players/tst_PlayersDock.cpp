@@ -1,4 +1,6 @@
 #include "../HostFixture.h"
+#include "look/ProgramSigns.h"
+#include "players/PlayerModel.h"
 #include "players/PlayersDock.h"
 #include "support/PlatformNotes.h"
 #include "support/TestClock.h"
@@ -73,6 +75,7 @@ private slots:
     void nothingIsSaidWithoutPlayers();
     void withoutPlayersItSaysWhatToDo();
     void eachPlayerHasALine();
+    void programsHaveTheirSigns();
     void whatStandsInIsTold();
     void aPlayerFallsSilent();
     void theNumberLeadsToTheList();
@@ -133,6 +136,26 @@ void tst_PlayersDock::eachPlayerHasALine()
     QCOMPARE(fixture.line(1), QStringLiteral("lobby | City news | \u206609:20:00\u2069 | None"));
     // Nothing opens by itself.
     QVERIFY(fixture.dock->isHidden());
+}
+
+void tst_PlayersDock::programsHaveTheirSigns()
+{
+    PlayersFixture fixture;
+    PlayerStatus status = fixture.status("a", "City news");
+    status.shown.progIndex = 2;
+    fixture.tell(status);
+    status.screen = QStringLiteral("b");
+    status.shown.picture = ScreenPicture::Black;
+    fixture.tell(status);
+    fixture.dock->look();
+    QTRY_COMPARE(fixture.told(), QStringLiteral("Players: 2"));
+    const auto signs = [&fixture](int row, int column) {
+        const QModelIndex index = fixture.table->model()->index(row, column);
+        return look::signedPrograms(index.data(look::kProgramsRole).value<look::ProgramIndexes>());
+    };
+    QCOMPARE(signs(0, PlayerModel::ShownColumn), look::ProgramIndexes{2});
+    QCOMPARE(signs(0, PlayerModel::ScreenColumn), look::ProgramIndexes());
+    QCOMPARE(signs(1, PlayerModel::ShownColumn), look::ProgramIndexes());
 }
 
 void tst_PlayersDock::whatStandsInIsTold()

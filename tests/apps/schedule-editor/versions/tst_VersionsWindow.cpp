@@ -2,11 +2,14 @@
 #include "../FileDialogAnswer.h"
 #include "../follow/HeldPool.h"
 #include "EditorMenus.h"
+#include "look/ProgramSigns.h"
 #include "support/PlanRecords.h"
 #include "support/PlatformNotes.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
 #include "trelprogramschedule/json/ScheduleJson.h"
+#include "versions/DifferenceModel.h"
+#include "versions/StretchModel.h"
 #include "versions/VersionsWindow.h"
 #include "week/WeekView.h"
 
@@ -169,6 +172,7 @@ class tst_VersionsWindow : public QObject
 private slots:
     void listsEachSave();
     void tellsWhatDiffersFromWhatIsSaved();
+    void programsHaveTheirSigns();
     void comparesAnyTwo();
     void comparesWithWhatIsInEffect();
     void tellsWhatDiffersOnTheScreen();
@@ -224,6 +228,26 @@ void tst_VersionsWindow::tellsWhatDiffersFromWhatIsSaved()
     desk.choose(static_cast<int>(desk.newest));
     QCOMPARE(desk.differences(),
              QStringList{QStringLiteral("1||added, valid from 2000.01.01 to 2099.12.31, 1 plan")});
+}
+
+void tst_VersionsWindow::programsHaveTheirSigns()
+{
+    Desk desk;
+    desk.open();
+    const auto signs = [&desk](const char* table, int column) {
+        const QModelIndex index = desk.part<QTableView>(table).model()->index(0, column);
+        return look::signedPrograms(index.data(look::kProgramsRole).value<look::ProgramIndexes>());
+    };
+    const int difference = versions::DifferenceModel::DifferenceColumn;
+    // An entry has changed, and then the times of the plan.
+    QCOMPARE(signs("differenceTable", difference), look::ProgramIndexes{1});
+    QCOMPARE(signs("differenceTable", 0), look::ProgramIndexes());
+    desk.choose(2);
+    QCOMPARE(signs("differenceTable", difference), look::ProgramIndexes());
+    // The plan that has the hour more plays two programs.
+    QTRY_VERIFY(!desk.stretches().isEmpty());
+    QCOMPARE(signs("stretchTable", versions::StretchModel::LaterColumn),
+             (look::ProgramIndexes{1, 2}));
 }
 
 void tst_VersionsWindow::comparesAnyTwo()
