@@ -37,6 +37,21 @@ public:
     void finish() const;
 
 private:
+    /// What the table has of a program, or is about to have.
+    struct Known
+    {
+        int index = -1;
+        QByteArray name;
+        double durationMs = 0.0;
+        int kind = 0;
+
+        bool operator==(const Known& other) const
+        {
+            return index == other.index && name == other.name && durationMs == other.durationMs &&
+                   kind == other.kind;
+        }
+    };
+
     /// Finds the programs that are there already.
     void find(const std::vector<MediaSource>& sources);
     void putOne(const MediaSource& source, ImportResult& result);
@@ -46,9 +61,9 @@ private:
     const StoreConnection& m_connection;
     QString m_path;
     int m_nextIndex;
-    std::map<QByteArray, int> m_known; ///< Of the paths that are put, the indexes.
-    std::set<int> m_done;              ///< What was put so far; a path may come twice.
-    ProgramContents m_contents;        ///< Of what was put, also of what holds nothing known.
+    std::map<QByteArray, Known> m_known; ///< By the paths that are put.
+    std::set<int> m_done;                ///< What was put so far; a path may come twice.
+    ProgramContents m_contents;          ///< Of what was put, also of what holds nothing known.
     QSqlQuery m_update;
     std::unique_ptr<StoreInserts> m_inserts;
 };
