@@ -886,6 +886,22 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
         <translation>ganze Zahl als Text</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>Programmnummer, die nur einmal vorkommt</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>eine andere Zahl</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>SHA-256-Prüfsumme</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>ein anderer Text</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>%1 konnte nicht gelesen werden. %2</translation>
     </message>

@@ -886,6 +886,22 @@ Cierre esta pregunta para seguir editando.</translation>
         <translation>número entero como texto</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>número de programa que aparece una sola vez</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>otro número</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>suma de comprobación SHA-256</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>otro texto</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>No se pudo leer %1. %2</translation>
     </message>

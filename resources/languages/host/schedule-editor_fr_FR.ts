@@ -886,6 +886,22 @@ Fermez cette question pour continuer à modifier.</translation>
         <translation>nombre entier sous forme de texte</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>numéro de programme qui n’apparaît qu’une fois</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>un autre nombre</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>empreinte SHA-256</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>un autre texte</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>Impossible de lire %1. %2</translation>
     </message>

@@ -865,6 +865,22 @@ Close this question to keep editing.</source>
         <translation>テキスト形式の整数</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>一度だけ使われる番組番号</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>別の数値</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>SHA-256 ハッシュ値</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>別のテキスト</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>%1 を読み取れませんでした。%2</translation>
     </message>

@@ -865,6 +865,22 @@ Close this question to keep editing.</source>
         <translation>텍스트 형식의 정수</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>한 번만 쓰인 프로그램 번호</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>다른 숫자</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>SHA-256 해시</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>다른 텍스트</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>%1을(를) 읽을 수 없습니다. %2</translation>
     </message>

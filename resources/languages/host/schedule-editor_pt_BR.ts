@@ -886,6 +886,22 @@ Feche esta pergunta para continuar editando.</translation>
         <translation>número inteiro como texto</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>número de programa que aparece uma única vez</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>outro número</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>hash SHA-256</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>outro texto</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>Não foi possível ler %1. %2</translation>
     </message>

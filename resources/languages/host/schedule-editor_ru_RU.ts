@@ -907,6 +907,22 @@ Close this question to keep editing.</source>
         <translation>целое число в виде текста</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>номер программы, который встречается один раз</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>другое число</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>хеш SHA-256</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>другой текст</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>Не удалось прочитать %1. %2</translation>
     </message>

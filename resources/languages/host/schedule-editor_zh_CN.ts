@@ -865,6 +865,22 @@ Close this question to keep editing.</source>
         <translation>文本形式的整数</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>只出现一次的节目编号</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>其他数字</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>SHA-256 散列值</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>其他文本</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>无法读取 %1。%2</translation>
     </message>

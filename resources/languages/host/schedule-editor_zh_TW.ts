@@ -865,6 +865,22 @@ Close this question to keep editing.</source>
         <translation>文字形式的整數</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>只出現一次的節目編號</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>其他數字</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>SHA-256 雜湊值</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>其他文字</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>無法讀取 %1。%2</translation>
     </message>

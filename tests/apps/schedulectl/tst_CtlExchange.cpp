@@ -254,8 +254,8 @@ void tst_CtlExchange::badFilesChangeNothing_data()
         "tasks[0].endDate (line 8): a text is expected here, not a number");
     row("unknown member", "\"plans\"", "\"plan\\u001b\"",
         "tasks[0].plan\\x1b (line 9): there is no member \"plan\\x1b\" here");
-    row("newer version", "\"version\": 1", "\"version\": 2",
-        "version (line 3): 2 is newer than 1, the newest that this program reads");
+    row("newer version", "\"version\": 1", "\"version\": 3",
+        "version (line 3): 3 is newer than 2, the newest that this program reads");
 }
 
 void tst_CtlExchange::badFilesChangeNothing()
