@@ -107,6 +107,11 @@ void StoreCatalogue::put(const std::vector<MediaSource>& sources, ImportResult& 
     StoreProgramContents(m_connection).put(m_contents);
 }
 
+int StoreCatalogue::indexOf(const MediaSource& source) const
+{
+    return m_known.at(bytes(source.path)).index;
+}
+
 void StoreCatalogue::find(const std::vector<MediaSource>& sources)
 {
     for (std::size_t from = 0; from < sources.size(); from += kMostAtOnce) {

@@ -31,6 +31,8 @@ public:
     /// Updates the programs of the same paths or makes new ones, with what their files hold; a path
     /// may come twice.
     void put(const std::vector<MediaSource>& sources, ImportResult& result);
+    /// The program that a source has been put into.
+    int indexOf(const MediaSource& source) const;
     /// False when there is none of these programs.
     bool remove(const std::vector<int>& progIndexes);
     /// Keeps what was changed as a new revision.
