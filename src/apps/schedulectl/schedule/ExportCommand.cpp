@@ -2,10 +2,12 @@
 
 #include "Database.h"
 #include "ScheduleReport.h"
+#include "catalogue/KnownContents.h"
 #include "common/DisplayText.h"
 #include "text/Console.h"
 #include "trelprogramschedule/faults/FaultWords.h"
-#include "trelprogramschedule/json/ScheduleJson.h"
+#include "trelprogramschedule/json/NamedSchedule.h"
+#include "trelprogramschedule/json/ProgramMatch.h"
 
 #include <QFileInfo>
 
@@ -29,9 +31,15 @@ ExitStatus run(const Invocation& invocation, Console& console)
         return Refused;
     }
     const QString& file = invocation.arguments.first();
+    const auto contents = knownContents(invocation, console);
+    if (!contents) {
+        return Refused;
+    }
     const auto tasks = database->tasks();
+    const std::vector<NamedProgram> programs =
+        namedPrograms(programsInEntries(tasks), database->programs(), *contents);
     if (file == kStandardStream) {
-        console.writeExport(scheduleToJson(tasks));
+        console.writeExport(namedScheduleToJson(tasks, programs));
         return Done;
     }
     if (isSameFile(file, database->path())) {
@@ -39,7 +47,7 @@ ExitStatus run(const Invocation& invocation, Console& console)
                          .arg(printable(file)));
         return Refused;
     }
-    if (const Fault fault = writeScheduleFile(file, tasks)) {
+    if (const Fault fault = writeNamedScheduleFile(file, tasks, programs)) {
         console.tell(
             QStringLiteral("%1 cannot be written: %2.").arg(printable(file), englishClause(fault)));
         return Refused;
@@ -60,7 +68,8 @@ Command exportCommand()
             "Write the schedule to a JSON file",
             R"(Writes all tasks, with every field, to FILE as JSON; "-" is the standard output.
 A file that exists is replaced, in one step. The same schedule always gives the
-same bytes. The catalog is not part of the file.)",
+same bytes. The programs that it plays are named, with all by which they can be
+found in another catalog. Their media are not part of the file.)",
             run};
 }
 
