@@ -203,6 +203,7 @@ QString kindText(const QString& name)
         {QStringLiteral("hash"),
          QStringLiteral("a SHA-256 in 64 small hexadecimal digits, or an empty text")},
         {QStringLiteral("otherText"), QStringLiteral("another text")},
+        {QStringLiteral("size"), QStringLiteral("a size in bytes above 0")},
     };
     return texts.value(name);
 }

@@ -115,7 +115,7 @@ void tst_FaultWords::kindsOfValuesAreWorded()
 {
     for (const char* kind :
          {"null", "boolean", "number", "text", "array", "object", "wholeNumber", "wholeNumberText",
-          "programNumber", "otherNumber", "hash", "otherText"}) {
+          "programNumber", "otherNumber", "hash", "otherText", "size"}) {
         const QString clause = englishClause(
             faultOf(FaultCode::OtherKind, QString::fromLatin1(kind), QStringLiteral("array")));
         QVERIFY2(clause.endsWith(QStringLiteral(" is expected here, not an array")) &&
