@@ -153,8 +153,7 @@ void tst_CtlUse::misuseIsAnsweredWithAHint_data()
     row("import-schedule", "The command \"import-schedule\" needs FILE.", "import-schedule ");
     row("import-schedule a b",
         "The command \"import-schedule\" does not know what to do with \"b\".", "import-schedule ");
-    row("export --keep-missing a", "The command \"export\" has no option \"--keep-missing\".",
-        "export ");
+    row("export --media a b", "The command \"export\" has no option \"--media\".", "export ");
     row("check-language", "The command \"check-language\" needs FILE.", "check-language ");
     row("check-language a b", "The command \"check-language\" does not know what to do with \"b\".",
         "check-language ");

@@ -130,14 +130,17 @@ std::vector<FoundProgram> findPrograms(const std::map<int, PlayTask>& tasks,
     found.reserve(programs.size());
     for (const NamedProgram& program : programs) {
         const bool isPlayed = played.erase(program.progIndex) > 0;
-        found.push_back({program, matches.at(program.progIndex), isPlayed});
+        FoundProgram& one = found.emplace_back();
+        one.sought = program;
+        one.match = matches.at(program.progIndex);
+        one.isPlayed = isPlayed;
     }
     const std::map<int, std::string> names = namesInEntries(tasks);
     for (const int index : played) {
-        NamedProgram unnamed;
-        unnamed.progIndex = index;
-        unnamed.name = names.at(index);
-        found.push_back({unnamed, {}, true});
+        FoundProgram& one = found.emplace_back();
+        one.sought.progIndex = index;
+        one.sought.name = names.at(index);
+        one.isPlayed = true;
     }
     return found;
 }
@@ -156,8 +159,9 @@ std::map<int, int> foundIndexes(const std::vector<FoundProgram>& programs)
 std::vector<FoundProgram> missingPrograms(const std::vector<FoundProgram>& programs)
 {
     std::vector<FoundProgram> missing;
-    std::copy_if(programs.begin(), programs.end(), std::back_inserter(missing),
-                 [](const FoundProgram& one) { return one.isPlayed && !isFound(one); });
+    std::copy_if(
+        programs.begin(), programs.end(), std::back_inserter(missing),
+        [](const FoundProgram& one) { return one.isPlayed && !one.isBrought && !isFound(one); });
     return missing;
 }
 
@@ -175,10 +179,19 @@ QString foundText(const std::vector<FoundProgram>& programs)
         }
         all += count;
     }
-    return all == 0 ? QString()
-                    : QStringLiteral("%1 found in the catalog: %2.")
-                          .arg(counted(all, QStringLiteral("program")),
-                               parts.join(QStringLiteral(", ")));
+    QStringList sentences;
+    if (all > 0) {
+        sentences.append(
+            QStringLiteral("%1 found in the catalog: %2.")
+                .arg(counted(all, QStringLiteral("program")), parts.join(QStringLiteral(", "))));
+    }
+    const auto brought = std::count_if(programs.begin(), programs.end(),
+                                       [](const FoundProgram& one) { return one.isBrought; });
+    if (brought > 0) {
+        sentences.append(QStringLiteral("%1 taken from the bundle.")
+                             .arg(counted(brought, QStringLiteral("program"))));
+    }
+    return sentences.join(QLatin1Char(' '));
 }
 
 QStringList doubtTexts(const std::vector<FoundProgram>& programs,
@@ -198,18 +211,30 @@ QStringList missingTexts(const std::vector<FoundProgram>& missing)
     });
 }
 
-QJsonArray foundJson(const std::vector<FoundProgram>& programs)
+QJsonArray foundJson(const std::vector<FoundProgram>& programs,
+                     const std::map<int, ProgramIten>& catalogue)
 {
+    std::map<std::string, int> indexes;
+    for (const auto& [index, program] : catalogue) {
+        indexes[program.mediaPath] = index;
+    }
     QJsonArray array;
     for (const FoundProgram& program : programs) {
         const ProgramMatch& match = program.match;
+        const auto brought = indexes.find(program.place.toStdString());
+        QJsonValue index(QJsonValue::Null);
+        if (isFound(program)) {
+            index = match.progIndex;
+        } else if (program.isBrought && brought != indexes.end()) {
+            index = brought->second;
+        }
         array.append(QJsonObject{
             {QStringLiteral("index"), program.sought.progIndex},
             {QStringLiteral("name"), QString::fromStdString(program.sought.name)},
             {QStringLiteral("isPlayed"), program.isPlayed},
-            {QStringLiteral("foundBy"), traitName(match.trait)},
-            {QStringLiteral("program"),
-             isFound(program) ? QJsonValue(match.progIndex) : QJsonValue(QJsonValue::Null)},
+            {QStringLiteral("foundBy"),
+             program.isBrought ? QJsonValue(QStringLiteral("bundle")) : traitName(match.trait)},
+            {QStringLiteral("program"), index},
             {QStringLiteral("isOtherContent"), match.isOtherContent},
             {QStringLiteral("isGone"), match.isGone},
         });

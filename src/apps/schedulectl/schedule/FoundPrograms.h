@@ -16,7 +16,9 @@ struct FoundProgram
 {
     trel::mediadispatch::NamedProgram sought;
     trel::mediadispatch::ProgramMatch match;
-    bool isPlayed = false; ///< An entry refers to it that has not gone bad.
+    bool isPlayed = false;  ///< An entry refers to it that has not gone bad.
+    bool isBrought = false; ///< The file brings it, and it comes into the catalogue.
+    QString place;          ///< Then, where its media are, or its address.
 };
 
 /// The same of all of them: of those that the file names in their order, and behind them of those
@@ -30,10 +32,11 @@ findPrograms(const std::map<int, trel::mediadispatch::PlayTask>& tasks,
 /// By the numbers of the file, the indexes of those that were found.
 std::map<int, int> foundIndexes(const std::vector<FoundProgram>& programs);
 
-/// Those that are played and were not found.
+/// Those that are played and were neither found nor brought.
 std::vector<FoundProgram> missingPrograms(const std::vector<FoundProgram>& programs);
 
-/// Such as "3 programs found: 2 by content, 1 by path"; empty for none.
+/// Such as "3 programs found in the catalog: 2 by content, 1 by path. 1 program taken from the
+/// bundle."; empty for none.
 QString foundText(const std::vector<FoundProgram>& programs);
 
 /// A sentence for each of the first eight that were found otherwise than by their content, or that
@@ -44,7 +47,8 @@ QStringList doubtTexts(const std::vector<FoundProgram>& programs,
 /// The same of those that were not found.
 QStringList missingTexts(const std::vector<FoundProgram>& missing);
 
-/// All of them for machines.
-QJsonArray foundJson(const std::vector<FoundProgram>& programs);
+/// All of them for machines, with the catalogue as it is then.
+QJsonArray foundJson(const std::vector<FoundProgram>& programs,
+                     const std::map<int, trel::mediadispatch::ProgramIten>& catalogue);
 
 } // namespace trel::console

@@ -1,5 +1,6 @@
 #include "Commands.h"
 
+#include "BundleImport.h"
 #include "Database.h"
 #include "FoundPrograms.h"
 #include "OtherNames.h"
@@ -19,6 +20,8 @@
 
 #include <chrono>
 #include <cstdio>
+#include <functional>
+#include <memory>
 #include <set>
 
 using namespace trel::hosts;
@@ -29,6 +32,7 @@ namespace trel::console {
 namespace {
 
 constexpr char kKeepMissing[] = "--keep-missing";
+constexpr char kMedia[] = "--media";
 
 /// How long a pipe that a schedule is read from may be silent.
 constexpr std::chrono::seconds kPipePatience{10};
@@ -132,26 +136,28 @@ struct ReadSchedule
     const Invocation& invocation;
     QString file;
     NamedScheduleFromJson schedule;
-    std::vector<FoundProgram> programs; ///< Of a file that names them.
+    std::vector<FoundProgram> programs;   ///< Of a file that names them.
+    std::unique_ptr<BundleImport> bundle; ///< Null for a file that is none.
 };
 
 void writeReport(Console& console, const ReadSchedule& read, const Database& database,
                  bool isImported)
 {
-    console.writeJson({{QStringLiteral("database"), database.path()},
-                       {QStringLiteral("isImported"), isImported},
-                       {QStringLiteral("tasks"), static_cast<int>(read.schedule.tasks.size())},
-                       {QStringLiteral("programs"), foundJson(read.programs)}});
+    console.writeJson(
+        {{QStringLiteral("database"), database.path()},
+         {QStringLiteral("isImported"), isImported},
+         {QStringLiteral("tasks"), static_cast<int>(read.schedule.tasks.size())},
+         {QStringLiteral("programs"), foundJson(read.programs, database.programs())}});
 }
 
 /// Nothing is written while a program is missing, unless that is asked for.
 bool mayImport(Console& console, const ReadSchedule& read, const Database& database)
 {
     const std::vector<FoundProgram> missing = missingPrograms(read.programs);
-    tellAll(console, missingTexts(missing));
     if (missing.empty() || read.invocation.has(kKeepMissing)) {
         return true;
     }
+    tellAll(console, missingTexts(missing));
     console.tell(QStringLiteral("Nothing was written. Import what is missing first, or give "
                                 "--keep-missing, which makes its entries invalid."));
     if (read.invocation.json) {
@@ -160,15 +166,22 @@ bool mayImport(Console& console, const ReadSchedule& read, const Database& datab
     return false;
 }
 
-StoreResult replaceSchedule(const ReadSchedule& read, const Database& database)
+/// Has a bundle bring what the catalogue lacks. False where that has come to nothing.
+bool bring(Console& console, ReadSchedule& read, ScheduleImport& import)
 {
-    if (!read.schedule.isNamed) {
-        return database.host().replaceSchedule(read.schedule.tasks);
+    if (!read.bundle) {
+        return true;
     }
-    ScheduleImport import;
-    import.tasks = read.schedule.tasks;
-    import.known = foundIndexes(read.programs);
-    return importSchedule(import);
+    return read.bundle->bring(read.invocation.value(kMedia), read.programs, import, console);
+}
+
+/// Tells what becomes of the programs before anything is written.
+void choose(Console& console, ReadSchedule& read)
+{
+    if (read.bundle && read.bundle->choose(read.programs, read.invocation.has(kMedia))) {
+        console.tell(QStringLiteral("Media of programs that the catalog does not have are in the "
+                                    "bundle; --media FOLDER says where they go."));
+    }
 }
 
 void tellResult(Console& console, const ReadSchedule& read, const Database& database,
@@ -176,6 +189,7 @@ void tellResult(Console& console, const ReadSchedule& read, const Database& data
 {
     tellOddities(console, read.schedule.tasks);
     if (read.schedule.isNamed) {
+        tellAll(console, missingTexts(missingPrograms(read.programs)));
         tellAll(console, doubtTexts(read.programs, database.programs()));
     } else {
         tellNumbers(console, read.schedule.tasks, database.programs());
@@ -184,12 +198,34 @@ void tellResult(Console& console, const ReadSchedule& read, const Database& data
         writeReport(console, read, database, true);
         return;
     }
-    const QString found = foundText(read.programs);
-    if (!found.isEmpty()) {
-        console.writeLine(found);
+    for (const QString& line :
+         {foundText(read.programs), read.bundle ? read.bundle->filesText() : QString()}) {
+        if (!line.isEmpty()) {
+            console.writeLine(line);
+        }
     }
     console.writeLine(QStringLiteral("%1 read from %2, in the place of %3.")
                           .arg(sizeText(read.schedule.tasks), shownName(read.file), before));
+}
+
+/// Replaces the schedule, and tells what has come of it.
+ExitStatus replace(ReadSchedule& read, const Database& database, Console& console,
+                   const std::function<StoreResult()>& work)
+{
+    const QString before = sizeText(database.tasks());
+    const StoreResult result = work();
+    if (!result) {
+        console.tell(refusalText(result));
+        if (read.invocation.json) {
+            console.writeJson(refusalJson(result));
+        }
+        return Refused;
+    }
+    if (read.bundle) {
+        read.bundle->keep();
+    }
+    tellResult(console, read, database, before);
+    return Done;
 }
 
 ExitStatus import(ReadSchedule& read, Console& console)
@@ -202,29 +238,47 @@ ExitStatus import(ReadSchedule& read, Console& console)
     if (!contents) {
         return Refused;
     }
-    if (read.schedule.isNamed) {
-        read.programs = findPrograms(read.schedule.tasks, read.schedule.programs,
-                                     database->programs(), *contents);
+    if (!read.schedule.isNamed) {
+        return replace(read, *database, console,
+                       [&] { return database->host().replaceSchedule(read.schedule.tasks); });
     }
-    if (!mayImport(console, read, *database)) {
+    read.programs =
+        findPrograms(read.schedule.tasks, read.schedule.programs, database->programs(), *contents);
+    choose(console, read);
+    ScheduleImport import;
+    // Where a program is missing in any case, no media are put anywhere.
+    if (!mayImport(console, read, *database) || !bring(console, read, import) ||
+        !mayImport(console, read, *database)) {
         return Refused;
     }
-    const QString before = sizeText(database->tasks());
-    const StoreResult result = replaceSchedule(read, *database);
-    if (!result) {
-        console.tell(refusalText(result));
-        if (read.invocation.json) {
-            console.writeJson(refusalJson(result));
-        }
+    import.tasks = read.schedule.tasks;
+    import.known = foundIndexes(read.programs);
+    return replace(read, *database, console, [&] { return importSchedule(import); });
+}
+
+ExitStatus importBundle(ReadSchedule& read, Console& console)
+{
+    read.bundle = std::make_unique<BundleImport>(read.file);
+    const QString error = read.bundle->open();
+    if (!error.isEmpty()) {
+        console.tell(QStringLiteral("%1: %2.").arg(printable(read.file), printable(error)));
         return Refused;
     }
-    tellResult(console, read, *database, before);
-    return Done;
+    read.schedule = read.bundle->schedule();
+    return import(read, console);
 }
 
 ExitStatus run(const Invocation& invocation, Console& console)
 {
-    ReadSchedule read = {invocation, invocation.arguments.first(), {}, {}};
+    ReadSchedule read = {invocation, invocation.arguments.first(), {}, {}, {}};
+    if (read.file != kStandardStream && BundleImport::isBundle(read.file)) {
+        return importBundle(read, console);
+    }
+    if (invocation.has(kMedia)) {
+        console.tell(QStringLiteral("%1 is no bundle, so there are no media to put anywhere.")
+                         .arg(shownName(read.file)));
+        return Refused;
+    }
     const FileContent content = readAll(read.file);
     if (!content.error.isEmpty()) {
         console.tell(
@@ -250,10 +304,10 @@ Command importScheduleCommand()
         1,
         1,
         true,
-        "Replace the schedule by one from a JSON file",
-        R"(Reads the schedule in FILE, in the form that "schedulectl export" writes, and
-puts it in the place of the one in the database; "-" is the standard input. The
-database is made when it does not exist.
+        "Replace the schedule by one from a JSON file or a bundle",
+        R"(Reads the schedule in FILE, in a form that "schedulectl export" writes, and puts
+it in the place of the one in the database; "-" is the standard input, for JSON
+alone. The database is made when it does not exist.
 
 The file is read as a whole or not at all: what is wrong in it is named with its
 place, and the database is left as it was. A schedule with overlapping tasks is
@@ -263,12 +317,18 @@ Dates that are none are named with their task, and taken as well.
 Each program that the schedule plays is looked for in the catalog: by what its
 file holds, or else by its path, or else by its name with its length. What was
 taken is told. When one is not found nothing is written, and the exit status is
-1. A file of version 1 does not name its programs, so their indexes count:
-programs that have another name in the catalog than in FILE are named.)",
+1. A bundle brings programs that are not found by their content: their media are
+put into FOLDER, under their names, and into the catalog. A file there that has
+the same content is taken, and none is written over. Programs and schedule are
+one change of the database.
+
+A file of version 1 does not name its programs, so their indexes count: programs
+that have another name in the catalog than in FILE are named.)",
         run};
     command.options = {{kKeepMissing, "",
                         "Takes the schedule without the programs that are not found;\n"
-                        "their entries become invalid."}};
+                        "their entries become invalid."},
+                       {kMedia, "FOLDER", "Where the media of a bundle go; it may be a new one."}};
     return command;
 }
 
