@@ -3577,4 +3577,28 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <translation>%1: seit %2, zuletzt geändert um %3, Aufträge %4</translation>
     </message>
 </context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n Programm aus dieser Datei ist nicht im Katalog. Seine Einträge werden ungültig: %1</numerusform>
+            <numerusform>%n Programme aus dieser Datei sind nicht im Katalog. Ihre Einträge werden ungültig: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>%n Programm im Katalog hat vielleicht einen anderen Inhalt als in dieser Datei: %1</numerusform>
+            <numerusform>%n Programme im Katalog haben vielleicht einen anderen Inhalt als in dieser Datei: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>%n Programm heißt im Katalog anders als in dieser Datei: %1</numerusform>
+            <numerusform>%n Programme heißen im Katalog anders als in dieser Datei: %1</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

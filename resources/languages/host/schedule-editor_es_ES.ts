@@ -3577,4 +3577,28 @@ What do you want to do with your changes?</source>
         <translation>%1: desde %2, último cambio a las %3, tareas %4</translation>
     </message>
 </context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n programa de este archivo no está en el catálogo. Sus entradas no serán válidas: %1</numerusform>
+            <numerusform>%n programas de este archivo no están en el catálogo. Sus entradas no serán válidas: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>%n programa del catálogo puede tener un contenido distinto del de este archivo: %1</numerusform>
+            <numerusform>%n programas del catálogo pueden tener un contenido distinto del de este archivo: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>%n programa tiene en el catálogo un nombre distinto del de este archivo: %1</numerusform>
+            <numerusform>%n programas tienen en el catálogo un nombre distinto del de este archivo: %1</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -3577,4 +3577,28 @@ Que faire de vos modifications&#xa0;?</translation>
         <translation>%1 : depuis %2, dernière modification à %3, tâches %4</translation>
     </message>
 </context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n programme de ce fichier n’est pas dans le catalogue. Ses entrées seront non valides&#xa0;: %1</numerusform>
+            <numerusform>%n programmes de ce fichier ne sont pas dans le catalogue. Leurs entrées seront non valides&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>%n programme du catalogue a peut-être un autre contenu que dans ce fichier&#xa0;: %1</numerusform>
+            <numerusform>%n programmes du catalogue ont peut-être un autre contenu que dans ce fichier&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>%n programme porte un autre nom dans le catalogue que dans ce fichier&#xa0;: %1</numerusform>
+            <numerusform>%n programmes portent un autre nom dans le catalogue que dans ce fichier&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -3528,4 +3528,25 @@ What do you want to do with your changes?</source>
         <translation>%1：%2 から、最終変更 %3、タスク %4</translation>
     </message>
 </context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>このファイルの %n 件の番組が番組一覧にありません。その項目は無効になります：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>番組一覧の %n 件の番組は、このファイルの番組と内容が異なる可能性があります：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>番組一覧の %n 件の番組は、このファイルと名前が異なります：%1</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

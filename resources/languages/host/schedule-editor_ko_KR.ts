@@ -3528,4 +3528,25 @@ What do you want to do with your changes?</source>
         <translation>%1: %2부터, 마지막 변경 %3, 작업 %4</translation>
     </message>
 </context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>이 파일의 프로그램 %n개가 목록에 없습니다. 해당 항목은 무효가 됩니다: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>목록의 프로그램 %n개는 이 파일과 내용이 다를 수 있습니다: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>목록의 프로그램 %n개는 이 파일과 이름이 다릅니다: %1</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

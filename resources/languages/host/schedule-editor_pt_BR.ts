@@ -3577,4 +3577,28 @@ O que deseja fazer com as alterações?</translation>
         <translation>%1: desde %2, última alteração às %3, tarefas %4</translation>
     </message>
 </context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n programa deste arquivo não está no catálogo. As entradas dele ficarão inválidas: %1</numerusform>
+            <numerusform>%n programas deste arquivo não estão no catálogo. As entradas deles ficarão inválidas: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>%n programa do catálogo pode ter um conteúdo diferente do deste arquivo: %1</numerusform>
+            <numerusform>%n programas do catálogo podem ter um conteúdo diferente do deste arquivo: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>%n programa tem no catálogo um nome diferente do deste arquivo: %1</numerusform>
+            <numerusform>%n programas têm no catálogo um nome diferente do deste arquivo: %1</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -3528,4 +3528,25 @@ What do you want to do with your changes?</source>
         <translation>%1：自 %2 起，最后更改 %3，任务 %4</translation>
     </message>
 </context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>此文件中有 %n 个节目不在节目库中，相应条目将失效：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>节目库中有 %n 个节目的内容可能与此文件中的不同：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>有 %n 个节目在节目库中的名称与此文件中的不同：%1</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -3528,4 +3528,25 @@ What do you want to do with your changes?</source>
         <translation>%1：自 %2 起，最後變更 %3，任務 %4</translation>
     </message>
 </context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>此檔案中有 %n 個節目不在節目庫中，相應項目將失效：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>節目庫中有 %n 個節目的內容可能與此檔案中的不同：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>有 %n 個節目在節目庫中的名稱與此檔案中的不同：%1</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>
