@@ -266,6 +266,19 @@ void tst_BundleReader::otherArchives_data()
                        "an array"));
     row("a newer form", entry("bundle.json", R"({"version": 2, "more": 1})") + kEnd,
         QStringLiteral(": version: 2 is newer than 1, the newest that this program reads"));
+    row("media twice", entry("bundle.json", manifest(kSchedule, {"a", "a"})) + kEnd,
+        QStringLiteral(": media[1]: the member \"%1\" stands here for the second time")
+            .arg(
+                QString::fromStdString(BundleFixture::hashOf("a")).left(59).append(QChar(0x2026))));
+    const QByteArray one = manifest(kSchedule, {"a"});
+    row("media of no size",
+        entry("bundle.json", QByteArray(one).replace("\"size\": \"1\"", "\"size\": \"0\"")) + kEnd,
+        QStringLiteral(": media[0].size: a size in bytes above 0 is expected here, not another "
+                       "number"));
+    row("media of no hash",
+        entry("bundle.json", QByteArray(one).replace("\"sha256\": \"", "\"sha256\": \"x")) + kEnd,
+        QStringLiteral(": media[0].sha256: a SHA-256 in 64 small hexadecimal digits, or an empty "
+                       "text is expected here, not another text"));
     row("another schedule",
         entry("bundle.json", manifest(kSchedule, {})) +
             entry("schedule.json", QByteArray(kSchedule).replace('2', '3')) + kEnd,
