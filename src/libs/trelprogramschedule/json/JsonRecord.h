@@ -22,7 +22,8 @@ struct JsonRefusal
 
 /// The name of a kind, as OtherKind has it: "null", "boolean", "number", "text", "array" or
 /// "object"; besides, "wholeNumber", "wholeNumberText", "programNumber", "hash" and "size" are
-/// more than a kind that is expected, and "otherNumber" and "otherText" more than one that is found.
+/// more than a kind that is expected, and "otherNumber" and "otherText" more than one that is
+/// found.
 QString jsonKindName(JsonValue::Kind kind);
 
 /// Refuses a value of another kind, with a name for what belongs there.

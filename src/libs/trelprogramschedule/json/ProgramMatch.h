@@ -24,8 +24,8 @@ enum class ProgramTrait {
 /// A program of a catalogue that stands for another one.
 struct ProgramMatch
 {
-    ProgramTrait trait = ProgramTrait::None;
-    int progIndex = -1;          ///< In the catalogue; -1 for None.
+    ProgramTrait trait = ProgramTrait::None; ///< By what it was found.
+    int progIndex = -1;                      ///< In the catalogue; -1 for None.
     bool isOtherContent = false; ///< The files of both are known, and hold different things.
     bool isGone = false;         ///< There is nothing at its path.
 };
