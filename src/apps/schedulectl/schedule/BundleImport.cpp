@@ -35,6 +35,34 @@ bool isWholeAddress(const NamedProgram& program)
            !QFileInfo::exists(address);
 }
 
+/// Shows how far the media have come, on their way to where they go.
+class ShownSink final : public BundleSink
+{
+public:
+    ShownSink(BundleSink& target, int total, Console& console)
+        : m_target(target)
+        , m_total(total)
+        , m_console(console)
+    {}
+
+    BundleFault begin(const BundleMedia& media, bool& isWanted) override
+    {
+        m_console.showProgress(++m_done, m_total, QString::fromLatin1(bundleEntry(media)));
+        return m_target.begin(media, isWanted);
+    }
+    BundleFault write(const char* bytes, std::size_t size) override
+    {
+        return m_target.write(bytes, size);
+    }
+    BundleFault end() override { return m_target.end(); }
+
+private:
+    BundleSink& m_target;
+    int m_total;
+    int m_done = 0;
+    Console& m_console;
+};
+
 /// What is put into the catalogue, by its path or address.
 std::map<QString, MediaSource> sourcesAt(const std::set<QString>& places, const FileContents& known,
                                          Console& console)
@@ -128,7 +156,8 @@ bool BundleImport::bring(const QString& folder, std::vector<FoundProgram>& progr
     }
     m_folderPath = folder;
     m_folder = std::make_unique<BundleFolder>(folder, std::move(wanted));
-    if (const BundleFault fault = m_reader.readMedia(*m_folder)) {
+    ShownSink sink(*m_folder, static_cast<int>(m_reader.media().size()), console);
+    if (const BundleFault fault = m_reader.readMedia(sink)) {
         console.tell(
             QStringLiteral("%1: %2.").arg(printable(m_path), printable(englishClause(fault))));
         return false;

@@ -323,7 +323,9 @@ the same content is taken, and none is written over. Programs and schedule are
 one change of the database.
 
 A file of version 1 does not name its programs, so their indexes count: programs
-that have another name in the catalog than in FILE are named.)",
+that have another name in the catalog than in FILE are named.
+
+Progress is shown only on a terminal.)",
         run};
     command.options = {{kKeepMissing, "",
                         "Takes the schedule without the programs that are not found;\n"

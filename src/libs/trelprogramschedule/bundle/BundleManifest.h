@@ -1,6 +1,7 @@
 #pragma once
 
 #include "trelprogramschedule/faults/Fault.h"
+#include "trelprogramschedule_export.h"
 
 #include <QByteArray>
 #include <QString>
@@ -39,7 +40,7 @@ struct BundleManifestFromJson
 inline const QByteArray kBundleManifest = QByteArrayLiteral("bundle.json");
 inline const QByteArray kBundleSchedule = QByteArrayLiteral("schedule.json");
 /// The entry of a media file.
-QByteArray bundleEntry(const BundleMedia& media);
+TRELPROGRAMSCHEDULE_EXPORT QByteArray bundleEntry(const BundleMedia& media);
 
 /// More than a manifest of as many media as there are numbers for programs.
 constexpr qint64 kLargestManifest = 16 * 1024 * 1024;
