@@ -89,11 +89,17 @@ install(FILES ${CMAKE_BINARY_DIR}/exports/service/Version.h
 install_headers(trelprogramschedule src/libs
   trelprogramschedule/catalogue/ProgramContent.h
   trelprogramschedule/catalogue/ProgramImporter.h
+  trelprogramschedule/catalogue/StoredContents.h
   trelprogramschedule/ScheduleHost.h
+  trelprogramschedule/ScheduleImport.h
+  trelprogramschedule/ScheduleImporter.h
   trelprogramschedule/effect/EffectStart.h
   trelprogramschedule/faults/Fault.h
   trelprogramschedule/faults/FaultWords.h
   trelprogramschedule/history/ScheduleVersion.h
+  trelprogramschedule/json/NamedProgram.h
+  trelprogramschedule/json/NamedSchedule.h
+  trelprogramschedule/json/ProgramMatch.h
   trelprogramschedule/json/ScheduleJson.h
   trelprogramschedule/merge/ScheduleMerge.h
   trelprogramschedule/catalogue/ShownAddress.h

@@ -898,6 +898,22 @@ Schließen Sie diese Frage, um weiter zu bearbeiten.</translation>
         <translation>ganze Zahl als Text</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>Programmnummer, die nur einmal vorkommt</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>eine andere Zahl</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>SHA-256-Prüfsumme</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>ein anderer Text</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>%1 konnte nicht gelesen werden. %2</translation>
     </message>
@@ -3579,6 +3595,30 @@ Was soll mit Ihren Änderungen geschehen?</translation>
         <source>%1: since %2, last changed at %3, tasks %4</source>
         <comment>a desk, times, and numbers</comment>
         <translation>%1: seit %2, zuletzt geändert um %3, Aufträge %4</translation>
+    </message>
+</context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n Programm aus dieser Datei ist nicht im Katalog. Seine Einträge werden ungültig: %1</numerusform>
+            <numerusform>%n Programme aus dieser Datei sind nicht im Katalog. Ihre Einträge werden ungültig: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>%n Programm im Katalog hat vielleicht einen anderen Inhalt als in dieser Datei: %1</numerusform>
+            <numerusform>%n Programme im Katalog haben vielleicht einen anderen Inhalt als in dieser Datei: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>%n Programm heißt im Katalog anders als in dieser Datei: %1</numerusform>
+            <numerusform>%n Programme heißen im Katalog anders als in dieser Datei: %1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -408,4 +408,28 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n program in this file is not in the catalog. Its entries will be invalid: %1</numerusform>
+            <numerusform>%n programs in this file are not in the catalog. Their entries will be invalid: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>%n program in the catalog may have another content than in this file: %1</numerusform>
+            <numerusform>%n programs in the catalog may have another content than in this file: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>%n program has another name in the catalog than in this file: %1</numerusform>
+            <numerusform>%n programs have another name in the catalog than in this file: %1</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

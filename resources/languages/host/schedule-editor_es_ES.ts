@@ -898,6 +898,22 @@ Cierre esta pregunta para seguir editando.</translation>
         <translation>número entero como texto</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>número de programa que aparece una sola vez</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>otro número</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>suma de comprobación SHA-256</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>otro texto</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>No se pudo leer %1. %2</translation>
     </message>
@@ -3579,6 +3595,30 @@ What do you want to do with your changes?</source>
         <source>%1: since %2, last changed at %3, tasks %4</source>
         <comment>a desk, times, and numbers</comment>
         <translation>%1: desde %2, último cambio a las %3, tareas %4</translation>
+    </message>
+</context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n programa de este archivo no está en el catálogo. Sus entradas no serán válidas: %1</numerusform>
+            <numerusform>%n programas de este archivo no están en el catálogo. Sus entradas no serán válidas: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>%n programa del catálogo puede tener un contenido distinto del de este archivo: %1</numerusform>
+            <numerusform>%n programas del catálogo pueden tener un contenido distinto del de este archivo: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>%n programa tiene en el catálogo un nombre distinto del de este archivo: %1</numerusform>
+            <numerusform>%n programas tienen en el catálogo un nombre distinto del de este archivo: %1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

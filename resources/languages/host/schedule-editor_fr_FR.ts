@@ -898,6 +898,22 @@ Fermez cette question pour continuer à modifier.</translation>
         <translation>nombre entier sous forme de texte</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>numéro de programme qui n’apparaît qu’une fois</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>un autre nombre</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>empreinte SHA-256</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>un autre texte</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>Impossible de lire %1. %2</translation>
     </message>
@@ -3579,6 +3595,30 @@ Que faire de vos modifications&#xa0;?</translation>
         <source>%1: since %2, last changed at %3, tasks %4</source>
         <comment>a desk, times, and numbers</comment>
         <translation>%1 : depuis %2, dernière modification à %3, tâches %4</translation>
+    </message>
+</context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n programme de ce fichier n’est pas dans le catalogue. Ses entrées seront non valides&#xa0;: %1</numerusform>
+            <numerusform>%n programmes de ce fichier ne sont pas dans le catalogue. Leurs entrées seront non valides&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>%n programme du catalogue a peut-être un autre contenu que dans ce fichier&#xa0;: %1</numerusform>
+            <numerusform>%n programmes du catalogue ont peut-être un autre contenu que dans ce fichier&#xa0;: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>%n programme porte un autre nom dans le catalogue que dans ce fichier&#xa0;: %1</numerusform>
+            <numerusform>%n programmes portent un autre nom dans le catalogue que dans ce fichier&#xa0;: %1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -877,6 +877,22 @@ Close this question to keep editing.</source>
         <translation>テキスト形式の整数</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>一度だけ使われる番組番号</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>別の数値</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>SHA-256 ハッシュ値</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>別のテキスト</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>%1 を読み取れませんでした。%2</translation>
     </message>
@@ -3530,6 +3546,27 @@ What do you want to do with your changes?</source>
         <source>%1: since %2, last changed at %3, tasks %4</source>
         <comment>a desk, times, and numbers</comment>
         <translation>%1：%2 から、最終変更 %3、タスク %4</translation>
+    </message>
+</context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>このファイルの %n 件の番組が番組一覧にありません。その項目は無効になります：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>番組一覧の %n 件の番組は、このファイルの番組と内容が異なる可能性があります：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>番組一覧の %n 件の番組は、このファイルと名前が異なります：%1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

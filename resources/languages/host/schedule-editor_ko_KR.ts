@@ -877,6 +877,22 @@ Close this question to keep editing.</source>
         <translation>텍스트 형식의 정수</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>한 번만 쓰인 프로그램 번호</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>다른 숫자</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>SHA-256 해시</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>다른 텍스트</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>%1을(를) 읽을 수 없습니다. %2</translation>
     </message>
@@ -3530,6 +3546,27 @@ What do you want to do with your changes?</source>
         <source>%1: since %2, last changed at %3, tasks %4</source>
         <comment>a desk, times, and numbers</comment>
         <translation>%1: %2부터, 마지막 변경 %3, 작업 %4</translation>
+    </message>
+</context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>이 파일의 프로그램 %n개가 목록에 없습니다. 해당 항목은 무효가 됩니다: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>목록의 프로그램 %n개는 이 파일과 내용이 다를 수 있습니다: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>목록의 프로그램 %n개는 이 파일과 이름이 다릅니다: %1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -898,6 +898,22 @@ Feche esta pergunta para continuar editando.</translation>
         <translation>número inteiro como texto</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>número de programa que aparece uma única vez</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>outro número</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>hash SHA-256</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>outro texto</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>Não foi possível ler %1. %2</translation>
     </message>
@@ -3579,6 +3595,30 @@ O que deseja fazer com as alterações?</translation>
         <source>%1: since %2, last changed at %3, tasks %4</source>
         <comment>a desk, times, and numbers</comment>
         <translation>%1: desde %2, última alteração às %3, tarefas %4</translation>
+    </message>
+</context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n programa deste arquivo não está no catálogo. As entradas dele ficarão inválidas: %1</numerusform>
+            <numerusform>%n programas deste arquivo não estão no catálogo. As entradas deles ficarão inválidas: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>%n programa do catálogo pode ter um conteúdo diferente do deste arquivo: %1</numerusform>
+            <numerusform>%n programas do catálogo podem ter um conteúdo diferente do deste arquivo: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>%n programa tem no catálogo um nome diferente do deste arquivo: %1</numerusform>
+            <numerusform>%n programas têm no catálogo um nome diferente do deste arquivo: %1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -919,6 +919,22 @@ Close this question to keep editing.</source>
         <translation>целое число в виде текста</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>номер программы, который встречается один раз</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>другое число</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>хеш SHA-256</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>другой текст</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>Не удалось прочитать %1. %2</translation>
     </message>
@@ -3628,6 +3644,33 @@ What do you want to do with your changes?</source>
         <source>%1: since %2, last changed at %3, tasks %4</source>
         <comment>a desk, times, and numbers</comment>
         <translation>%1: с %2, последнее изменение в %3, задания %4</translation>
+    </message>
+</context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>%n программы из этого файла нет в каталоге. Её записи станут недействительными: %1</numerusform>
+            <numerusform>%n программ из этого файла нет в каталоге. Их записи станут недействительными: %1</numerusform>
+            <numerusform>%n программ из этого файла нет в каталоге. Их записи станут недействительными: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>%n программа в каталоге может иметь другое содержимое, чем в этом файле: %1</numerusform>
+            <numerusform>%n программы в каталоге могут иметь другое содержимое, чем в этом файле: %1</numerusform>
+            <numerusform>%n программ в каталоге могут иметь другое содержимое, чем в этом файле: %1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>%n программа называется в каталоге иначе, чем в этом файле: %1</numerusform>
+            <numerusform>%n программы называются в каталоге иначе, чем в этом файле: %1</numerusform>
+            <numerusform>%n программ называются в каталоге иначе, чем в этом файле: %1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -877,6 +877,22 @@ Close this question to keep editing.</source>
         <translation>文本形式的整数</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>只出现一次的节目编号</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>其他数字</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>SHA-256 散列值</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>其他文本</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>无法读取 %1。%2</translation>
     </message>
@@ -3530,6 +3546,27 @@ What do you want to do with your changes?</source>
         <source>%1: since %2, last changed at %3, tasks %4</source>
         <comment>a desk, times, and numbers</comment>
         <translation>%1：自 %2 起，最后更改 %3，任务 %4</translation>
+    </message>
+</context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>此文件中有 %n 个节目不在节目库中，相应条目将失效：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>节目库中有 %n 个节目的内容可能与此文件中的不同：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>有 %n 个节目在节目库中的名称与此文件中的不同：%1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

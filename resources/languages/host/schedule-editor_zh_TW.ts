@@ -877,6 +877,22 @@ Close this question to keep editing.</source>
         <translation>文字形式的整數</translation>
     </message>
     <message>
+        <source>program number that occurs once</source>
+        <translation>只出現一次的節目編號</translation>
+    </message>
+    <message>
+        <source>another number</source>
+        <translation>其他數字</translation>
+    </message>
+    <message>
+        <source>SHA-256 hash</source>
+        <translation>SHA-256 雜湊值</translation>
+    </message>
+    <message>
+        <source>another text</source>
+        <translation>其他文字</translation>
+    </message>
+    <message>
         <source>%1 could not be read. %2</source>
         <translation>無法讀取 %1。%2</translation>
     </message>
@@ -3530,6 +3546,27 @@ What do you want to do with your changes?</source>
         <source>%1: since %2, last changed at %3, tasks %4</source>
         <comment>a desk, times, and numbers</comment>
         <translation>%1：自 %2 起，最後變更 %3，任務 %4</translation>
+    </message>
+</context>
+<context>
+    <name>FileWords</name>
+    <message numerus="yes">
+        <source>%n programs in this file are not in the catalog. Their entries will be invalid: %1</source>
+        <translation>
+            <numerusform>此檔案中有 %n 個節目不在節目庫中，相應項目將失效：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs in the catalog may have another content than in this file: %1</source>
+        <translation>
+            <numerusform>節目庫中有 %n 個節目的內容可能與此檔案中的不同：%1</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n programs have another name in the catalog than in this file: %1</source>
+        <translation>
+            <numerusform>有 %n 個節目在節目庫中的名稱與此檔案中的不同：%1</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -21,6 +21,7 @@
 #include "desks/DeskNotice.h"
 #include "draft/DraftKeeper.h"
 #include "effect/EffectActions.h"
+#include "exchange/ScheduleFile.h"
 #include "fit/ScreenRoom.h"
 #include "follow/EditedSchedule.h"
 #include "help/HelpMenu.h"
@@ -38,7 +39,6 @@
 #include "service/ScheduleDifferences.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
-#include "trelprogramschedule/json/ScheduleJson.h"
 #include "trelprogramschedule/store/StorePlace.h"
 #include "undo/EditHistory.h"
 #include "undo/EditWords.h"
@@ -504,7 +504,7 @@ void EditorWindow::exportSchedule()
         // Nobody has saved yet.
         saved = m_drafts->saved();
     }
-    if (const Fault fault = writeScheduleFile(file, saved)) {
+    if (const Fault fault = writeSchedule(file, saved, FileHashes::Read)) {
         tell(problems::unwritable(file, fault));
         return;
     }
@@ -525,29 +525,36 @@ void EditorWindow::importSchedule()
         tell(problems::unreadable(name, file.fault()));
         return;
     }
-    const ScheduleFromJson schedule = scheduleFromJson(json);
+    const NamedScheduleFromJson schedule = namedScheduleFromJson(json);
     if (schedule.fault) {
         tell(problems::unreadable(name, schedule));
         return;
     }
-    if (!mayReplace(static_cast<int>(schedule.tasks.size()))) {
+    ArrivingSchedule arriving;
+    if (const StoreResult result = findPrograms(schedule, arriving); !result) {
+        tell(problems::sentence(result));
         return;
     }
-    if (const StoreResult result = ScheduleHost::instance().replaceSchedule(schedule.tasks);
-        !result) {
+    if (!mayReplace(static_cast<int>(schedule.tasks.size()), arriving.doubts)) {
+        return;
+    }
+    if (const StoreResult result = takeSchedule(arriving); !result) {
         tell(problems::sentence(result));
         return;
     }
     showReplacedSchedule();
 }
 
-bool EditorWindow::mayReplace(int tasks)
+bool EditorWindow::mayReplace(int tasks, const QString& doubts)
 {
     // What is being typed is a change that is not saved, too.
     takeOverTyping();
     const ScheduleHost& host = ScheduleHost::instance();
-    const QString question =
+    QString question =
         tr("Replace the whole schedule with the %n tasks in this file?", nullptr, tasks);
+    if (!doubts.isEmpty()) {
+        question += QStringLiteral("\n\n") + doubts;
+    }
     if (!m_editor.isVisible() || !host.hasUnsavedChanges()) {
         return prompts::confirmLoss(question, tr("Replace"), tr("Cancel"));
     }

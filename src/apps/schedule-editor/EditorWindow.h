@@ -126,8 +126,9 @@ private:
     void makeDatabase();
     void exportSchedule();
     void importSchedule();
-    /// Asks before so many tasks out of a file take the place of all, and of what is not saved.
-    bool mayReplace(int tasks);
+    /// Asks before so many tasks out of a file take the place of all, and of what is not saved, and
+    /// tells what is doubtful in them.
+    bool mayReplace(int tasks, const QString& doubts);
     void showReplacedSchedule();
     void showAsRun();
     void takeOverTyping();

@@ -2,8 +2,8 @@
 
 #include "clock/Clock.h"
 #include "common/DefaultDatabase.h"
+#include "exchange/ScheduleFile.h"
 #include "place/PlaceWords.h"
-#include "trelprogramschedule/json/ScheduleJson.h"
 #include "trelprogramschedule/store/StorePlace.h"
 
 #include <QDateTime>
@@ -39,7 +39,7 @@ KeptEdits keepEdits(const std::map<int, PlayTask>& tasks, const QString& store)
             continue;
         }
         const QString file = freshName(QFileInfo(beside).absoluteDir(), store);
-        kept.fault = writeScheduleFile(file, tasks);
+        kept.fault = writeSchedule(file, tasks, FileHashes::LeaveOut);
         if (!kept.fault) {
             kept.file = file;
             break;

@@ -289,6 +289,10 @@ QString kindText(const QString& name)
         {"null", QT_TRANSLATE_NOOP("ProblemWords", "nothing")},
         {"wholeNumber", QT_TRANSLATE_NOOP("ProblemWords", "whole number")},
         {"wholeNumberText", QT_TRANSLATE_NOOP("ProblemWords", "whole number as text")},
+        {"programNumber", QT_TRANSLATE_NOOP("ProblemWords", "program number that occurs once")},
+        {"otherNumber", QT_TRANSLATE_NOOP("ProblemWords", "another number")},
+        {"hash", QT_TRANSLATE_NOOP("ProblemWords", "SHA-256 hash")},
+        {"otherText", QT_TRANSLATE_NOOP("ProblemWords", "another text")},
     };
     for (const Kind& kind : kKinds) {
         if (name == QLatin1String(kind.name)) {

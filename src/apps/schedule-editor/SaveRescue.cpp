@@ -6,13 +6,13 @@
 #include "ProblemWords.h"
 #include "changes/ChangesDialog.h"
 #include "draft/DraftKeeper.h"
+#include "exchange/ScheduleFile.h"
 #include "merge/ConflictsDialog.h"
 #include "merge/MergeWords.h"
 #include "place/PlaceWords.h"
 #include "service/TaskPeriods.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/faults/FaultWords.h"
-#include "trelprogramschedule/json/ScheduleJson.h"
 #include "versions/DifferenceWords.h"
 
 #include <QApplication>
@@ -157,7 +157,8 @@ bool SaveRescue::writeFile()
     if (file.isEmpty()) {
         return false;
     }
-    if (const Fault fault = writeScheduleFile(file, scheduleManage::getInstance().getAllTask())) {
+    if (const Fault fault =
+            writeSchedule(file, scheduleManage::getInstance().getAllTask(), FileHashes::LeaveOut)) {
         prompts::notice(problems::unwritable(file, fault));
         return false;
     }

@@ -1,6 +1,8 @@
 #include "ScheduleService.h"
 
 #include "PlanEnds.h"
+#include "ScheduleImport.h"
+#include "json/ProgramMatch.h"
 
 #include <cstdlib>
 #include <utility>
@@ -360,17 +362,59 @@ StoreResult ScheduleService::replace(const TaskMap& tasks, qint64 restored)
     }
     StoreResult result =
         m_database.writeTasks(filed, m_state.tasks.editsTo(filed), m_revision.schedule, restored);
-    if (!result) {
-        return result;
+    if (result) {
+        takeWritten(std::move(filed));
+        tellReplaced();
     }
-    m_state.tasks.setStored(std::move(filed));
+    return result;
+}
+
+void ScheduleService::takeWritten(TaskMap tasks)
+{
+    m_state.tasks.setStored(std::move(tasks));
     m_isMarkingDue = true;
     m_toldSave = m_revision.schedule;
     m_state.tasks.resetWorking();
+}
+
+void ScheduleService::tellReplaced()
+{
     emit storedSetChanged();
     emit tasksReplaced();
     // An editor that still shows the former tasks answers with them.
     m_state.tasks.resetWorking();
+}
+
+StoreResult ScheduleService::importSchedule(const ScheduleImport& import)
+{
+    TaskMap filed = filedByTheirIds(import.tasks);
+    const auto tasksOf = [&](const std::vector<int>& indexes, const ProgramMap& programs) {
+        std::map<int, int> numbers = import.known;
+        for (const auto& [number, place] : import.coming) {
+            numbers[number] = indexes.at(place);
+        }
+        renumberEntries(filed, numbers);
+        ProgramCatalogue catalogue = m_state.catalogue;
+        for (const auto& [index, program] : programs) {
+            catalogue.put(program);
+        }
+        for (auto& [id, task] : filed) {
+            updatePlanEnds(task, catalogue);
+        }
+        return TasksToWrite{&filed, m_state.tasks.editsTo(filed)};
+    };
+    StoreRevision revision = m_revision;
+    ProgramMap programs;
+    StoreResult result = m_database.writeWithPrograms(import.sources, tasksOf, revision, programs);
+    if (!result) {
+        return result;
+    }
+    m_revision.schedule = revision.schedule;
+    m_revision.catalogue = revision.catalogue;
+    const CatalogueChange change = putPrograms(std::move(programs));
+    takeWritten(std::move(filed));
+    announce(change);
+    tellReplaced();
     return result;
 }
 
@@ -560,14 +604,20 @@ void ScheduleService::takePrograms(StoreContents contents)
         readCatalogue();
         return;
     }
-    CatalogueChange change;
-    for (auto& [index, program] : contents.programs) {
-        change.add(m_state.catalogue.put(std::move(program)));
-        change.add({checkFile(index), false});
-    }
+    const CatalogueChange change = putPrograms(std::move(contents.programs));
     m_revision.catalogue = contents.revision.catalogue;
     m_isMarkingDue = true;
     announce(change);
+}
+
+CatalogueChange ScheduleService::putPrograms(ProgramMap programs)
+{
+    CatalogueChange change;
+    for (auto& [index, program] : programs) {
+        change.add(m_state.catalogue.put(std::move(program)));
+        change.add({checkFile(index), false});
+    }
+    return change;
 }
 
 StoreResult ScheduleService::readContents(ProgramContents& contents)

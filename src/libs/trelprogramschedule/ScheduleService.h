@@ -23,6 +23,7 @@
 namespace trel::mediadispatch {
 
 struct MediaSource;
+struct ScheduleImport;
 
 /// What the service holds in memory.
 struct ScheduleState
@@ -94,6 +95,8 @@ public:
     /// Commits other tasks and makes them the working set; they may be a version that is brought
     /// back.
     StoreResult replace(const TaskMap& tasks, qint64 restored = kNoVersion);
+    /// See mediadispatch::importSchedule.
+    StoreResult importSchedule(const ScheduleImport& import);
     /// See ScheduleHost::versions.
     StoreResult readVersions(std::vector<ScheduleVersion>& versions);
     /// See ScheduleHost::versionTasks.
@@ -184,6 +187,12 @@ private:
     /// Takes over the programs that have just been written; all of them, where another program
     /// wrote as well.
     void takePrograms(StoreContents contents);
+    /// Puts programs of the store into the catalogue in memory.
+    CatalogueChange putPrograms(ProgramMap programs);
+    /// Takes over tasks that have just been written as both sets.
+    void takeWritten(TaskMap tasks);
+    /// Has everybody show them.
+    void tellReplaced();
     /// Nothing but one change of this program lies between what was read and this revision.
     bool isNextCatalogue(const StoreRevision& revision) const;
     /// Marks stored entries whose programs have left the catalogue.

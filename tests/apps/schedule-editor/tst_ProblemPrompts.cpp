@@ -166,7 +166,7 @@ const Case kCases[] = {
      [](PromptFixture& fixture) {
          readSchedule(fixture, R"({ "format": "trel-schedule", "version": 7, "tasks": [] })");
      },
-     "plan.json konnte nicht gelesen werden. Zeile 1, version: Version 7 ist neuer als Version 1, "
+     "plan.json konnte nicht gelesen werden. Zeile 1, version: Version 7 ist neuer als Version 2, "
      "die neueste, die diese Anwendung liest."},
     {"a member that is missing",
      [](PromptFixture& fixture) {

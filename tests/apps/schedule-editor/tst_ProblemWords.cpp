@@ -35,8 +35,9 @@ QStringList sentences()
     for (const int error : {EACCES, ENOENT, EROFS, ENAMETOOLONG, EMFILE, EBUSY, 17}) {
         texts.append(problems::sentence(faultOf(FaultCode::System, error)));
     }
-    for (const char* kind : {"null", "boolean", "number", "text", "array", "object", "wholeNumber",
-                             "wholeNumberText"}) {
+    for (const char* kind :
+         {"null", "boolean", "number", "text", "array", "object", "wholeNumber", "wholeNumberText",
+          "programNumber", "otherNumber", "hash", "otherText"}) {
         texts.append(problems::sentence(
             faultOf(FaultCode::OtherKind, QString::fromLatin1(kind), QString::fromLatin1(kind))));
     }

@@ -4,10 +4,12 @@
 #include "support/PlatformNotes.h"
 #include "support/PromptAnswer.h"
 #include "support/TestProgram.h"
-#include "trelprogramschedule/json/ScheduleJson.h"
+#include "trelprogramschedule/json/NamedSchedule.h"
+#include "trelprogramschedule/json/ProgramMatch.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QFile>
 
 using namespace trel::desktop;
 using namespace trel::mediadispatch;
@@ -80,6 +82,9 @@ private slots:
     void savesFirstWhatIsNotSaved();
     void whatWasNotSavedComesBack();
     void aHiddenEditorHasNothingToLose();
+    void programsAreFoundUnderOtherNumbers();
+    void whatIsDoubtfulIsTold();
+    void whatIsWrittenIsReadAgain();
 };
 
 void tst_ScheduleImport::asksBeforeItReplaces()
@@ -163,6 +168,82 @@ void tst_ScheduleImport::aHiddenEditorHasNothingToLose()
     desk.read();
     QCOMPARE(answer.texts().first(), kQuestion);
     QCOMPARE(desk.host.workingSet().size(), std::size_t(1));
+}
+
+// Each has the number of the one behind it in the file.
+void tst_ScheduleImport::programsAreFoundUnderOtherNumbers()
+{
+    const Desk desk;
+    std::map<int, PlayTask> tasks = desk.host.workingSet();
+    std::vector<NamedProgram> programs =
+        namedPrograms(programsInEntries(tasks), *desk.host.catalogue(), ProgramContents());
+    std::map<int, int> shifted;
+    for (NamedProgram& program : programs) {
+        shifted[program.progIndex] = program.progIndex + 1;
+        ++program.progIndex;
+    }
+    const std::map<int, PlayTask> before = tasks;
+    renumberEntries(tasks, shifted);
+    QVERIFY(tasks != before);
+    QVERIFY(!writeNamedScheduleFile(desk.file, tasks, programs));
+    const PromptAnswer answer(1);
+    desk.read();
+    QVERIFY(desk.host.workingSet() == before);
+    QCOMPARE(answer.texts().first().count(QLatin1Char('\n')), 0);
+}
+
+void tst_ScheduleImport::whatIsDoubtfulIsTold()
+{
+    const Desk desk;
+    PlayTask task;
+    task.id = 5;
+    task.startDate = "2030.01.01";
+    task.endDate = "2030.12.31";
+    task.plans.emplace_back().programs = {{1, false, "Elsewhere", 1}, {900, false, "Gone", 1}};
+    // By its number alone, as in files of the first version.
+    QVERIFY(!writeScheduleFile(desk.file, {{5, task}}));
+    PromptAnswer answer({PromptAnswer::Escape, 1});
+    desk.read();
+    QCOMPARE(answer.texts().first(),
+             kQuestion + QStringLiteral(
+                             "\n\n1 program in this file is not in the catalog. Its entries will "
+                             "be invalid: Gone\n\n1 program has another name in the catalog than "
+                             "in this file: Elsewhere"));
+    NamedProgram elsewhere;
+    elsewhere.progIndex = 1;
+    elsewhere.name = "Elsewhere";
+    elsewhere.path = "/nowhere";
+    QVERIFY(!writeNamedScheduleFile(desk.file, {{5, task}}, {elsewhere}));
+    desk.read();
+    QCOMPARE(answer.texts().last(),
+             kQuestion +
+                 QStringLiteral("\n\n2 programs in this file are not in the catalog. Their entries "
+                                "will be invalid: Elsewhere, Gone"));
+    for (const struProgInfo& entry : desk.host.workingSet().at(5).plans.at(0).programs) {
+        QVERIFY(entry.isInvalid);
+        QCOMPARE(entry.progIndex, kInvalidProgIndex);
+    }
+}
+
+void tst_ScheduleImport::whatIsWrittenIsReadAgain()
+{
+    const Desk desk;
+    const std::map<int, PlayTask> before = desk.host.workingSet();
+    QVERIFY(QFile::remove(desk.file));
+    answerFileDialog(desk.file);
+    desk.menus().exportSchedule()->trigger();
+    QCoreApplication::processEvents();
+    QFile file(desk.file);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray json = file.readAll();
+    const NamedScheduleFromJson written = namedScheduleFromJson(json);
+    QVERIFY(written.isNamed);
+    QCOMPARE(written.programs.size(), programsInEntries(before).size());
+    QCOMPARE(written.programs.front().sha256.size(), std::size_t(64));
+    QVERIFY(desk.host.replaceSchedule({}));
+    const PromptAnswer answer(1);
+    desk.read();
+    QVERIFY(desk.host.workingSet() == before);
 }
 
 TREL_TEST(tst_ScheduleImport, QApplication)

@@ -2,10 +2,13 @@
 
 #include "support/SampleSchedule.h"
 #include "support/TestProgram.h"
-#include "trelprogramschedule/json/ScheduleJson.h"
+#include "trelprogramschedule/faults/FaultWords.h"
+#include "trelprogramschedule/json/NamedSchedule.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QtTest>
 
 #include <thread>
@@ -30,6 +33,9 @@ private slots:
     void importTellsWhatIsOdd();
     void importNamesDatesThatAreNone();
     void importWarnsOfOtherNames();
+    void programsAreFoundUnderOtherNumbers();
+    void whatIsTakenIsTold();
+    void whatIsMissingIsRefused();
     void badFilesChangeNothing_data();
     void badFilesChangeNothing();
     void aPipeIsReadToItsEnd();
@@ -45,6 +51,47 @@ const QString kFile = QStringLiteral("schedule.json");
 QString told(const QString& sentence)
 {
     return QStringLiteral("schedulectl: %1\n").arg(sentence);
+}
+
+/// What is exported of a schedule that plays nothing.
+QByteArray unnamed(const CtlFixture::Schedule& schedule)
+{
+    return namedScheduleToJson(schedule, {});
+}
+
+/// A clip that no other is like, in the catalogue of a database.
+void importClip(const CtlFixture& fixture, const QString& database, const QString& name, int msecs)
+{
+    fixture.writeClip(name, msecs);
+    QCOMPARE(fixture
+                 .run({QStringLiteral("import"), name, QStringLiteral("--database"),
+                       fixture.path(database)})
+                 .status,
+             0);
+}
+
+/// The numbers of the entries of the first plan, such as "2 1", with "-" for one that is invalid.
+QString numbersOf(const QByteArray& json)
+{
+    QStringList numbers;
+    const ScheduleFromJson schedule = scheduleFromJson(json);
+    for (const struProgInfo& entry : schedule.tasks.at(1).plans.at(0).programs) {
+        numbers.append(entry.isInvalid ? kStream : QString::number(entry.progIndex));
+    }
+    return numbers.join(QLatin1Char(' '));
+}
+
+/// A database with a schedule that plays News, Weather and News, and what is exported of it.
+QByteArray makeNews(const CtlFixture& fixture)
+{
+    for (const char* clip : {"News", "Weather"}) {
+        importClip(fixture, QStringLiteral("test.db"), QLatin1String(clip) + QStringLiteral(".wav"),
+                   clip[0] == 'N' ? 100 : 200);
+    }
+    PlayPlan plan = timePlan(1, "08:00:00", "09:00:00", "", 1);
+    plan.programs = {{1, false, "News", 1}, {2, false, "Weather", 1}, {1, false, "News", 3}};
+    fixture.store({{1, januaryTask(1, {plan})}});
+    return fixture.exported();
 }
 
 /// The command that fills a catalogue with what the schedules refer to, and needs no files.
@@ -95,10 +142,11 @@ void tst_CtlExchange::roundTripChangesNoByte()
     QVERIFY2(read.status == 0, qPrintable(read.err));
     const QString again = QStringLiteral("again.json");
     QCOMPARE(fixture.onDatabase({kExport, again}).status, 0);
-    QCOMPARE(fixture.fileContent(again), json);
+    const QByteArray named = fixture.fileContent(again);
+    QCOMPARE(scheduleToJson(scheduleFromJson(named).tasks), json);
     // And once more, into another database.
     QCOMPARE(fixture.run({kImportSchedule, again, option, other}).status, 0);
-    QCOMPARE(fixture.run({kExport, kStream, option, other}).out, json);
+    QCOMPARE(fixture.run({kExport, kStream, option, other}).out, named);
 }
 
 void tst_CtlExchange::standardStreamsCarryASchedule()
@@ -113,7 +161,7 @@ void tst_CtlExchange::standardStreamsCarryASchedule()
     const CtlResult written = fixture.onDatabase({kExport, kStream});
     QCOMPARE(written.status, 0);
     QCOMPARE(written.err, QString());
-    QCOMPARE(written.out, json);
+    QCOMPARE(written.out, unnamed(sampleSchedule(3, 2, 0)));
     QVERIFY(!QFileInfo::exists(fixture.path(kStream)));
 }
 
@@ -164,7 +212,7 @@ void tst_CtlExchange::importReplacesTheWholeSchedule()
     QCOMPARE(result.status, 0);
     QCOMPARE(result.text(), QStringLiteral("1 task with 0 plans read from schedule.json, in the "
                                            "place of 4 tasks with 8 plans.\n"));
-    QCOMPARE(fixture.exported(), scheduleToJson({{9, januaryTask(9)}}));
+    QCOMPARE(fixture.exported(), unnamed({{9, januaryTask(9)}}));
 }
 
 void tst_CtlExchange::importMakesADatabase()
@@ -232,6 +280,108 @@ void tst_CtlExchange::importWarnsOfOtherNames()
                                              " latter.")));
 }
 
+// In another database each number means another program.
+void tst_CtlExchange::programsAreFoundUnderOtherNumbers()
+{
+    const CtlFixture fixture;
+    const QByteArray json = makeNews(fixture);
+    QCOMPARE(numbersOf(json), QStringLiteral("1 2 1"));
+    fixture.writeFile(kFile, json);
+    const QString other = QStringLiteral("other.db");
+    importClip(fixture, other, QStringLiteral("Spot.wav"), 300);
+    importClip(fixture, other, QStringLiteral("Weather.wav"), 200);
+    importClip(fixture, other, QStringLiteral("copy/same.wav"), 100);
+    const QStringList option = {QStringLiteral("--database"), fixture.path(other)};
+    const CtlResult read = fixture.run(QStringList{kImportSchedule, kFile} + option);
+    QCOMPARE(read.err, QString());
+    QCOMPARE(read.status, 0);
+    QCOMPARE(read.text(), QStringLiteral("2 programs found in the catalog: 2 by content.\n"
+                                         "1 task with 1 plan read from schedule.json, in the place "
+                                         "of 0 tasks with 0 plans.\n"));
+    QCOMPARE(numbersOf(fixture.run(QStringList{kExport, kStream} + option).out),
+             QStringLiteral("3 2 3"));
+}
+
+void tst_CtlExchange::whatIsTakenIsTold()
+{
+    const CtlFixture fixture;
+    fixture.writeFile(kFile, makeNews(fixture));
+    const QString other = QStringLiteral("other.db");
+    // News is at its path with another content, Weather only has its name and length.
+    importClip(fixture, other, QStringLiteral("News.wav"), 700);
+    fixture.writeFile(QStringLiteral("sub/x"), {});
+    QVERIFY(QFile::copy(fixture.path(QStringLiteral("Weather.wav")),
+                        fixture.path(QStringLiteral("sub/Weather.wav"))));
+    QFile weather(fixture.path(QStringLiteral("sub/Weather.wav")));
+    QVERIFY(weather.open(QIODevice::ReadWrite) && weather.seek(weather.size() - 1));
+    QVERIFY(weather.putChar('\x55') && weather.flush());
+    const QStringList option = {QStringLiteral("--database"), fixture.path(other)};
+    QCOMPARE(
+        fixture
+            .run(QStringList{QStringLiteral("import"), QStringLiteral("sub/Weather.wav")} + option)
+            .status,
+        0);
+    const QStringList command = QStringList{kImportSchedule, kFile} + option;
+    const QString doubts =
+        told(QStringLiteral("Program 1, \"News\", is program 1, \"News\", in the catalog, found "
+                            "by path; its file has another content.")) +
+        told(QStringLiteral("Program 2, \"Weather\", is program 2, \"Weather\", in the catalog, "
+                            "found by name with length; its file has another content."));
+    const CtlResult read = fixture.run(command);
+    QCOMPARE(read.status, 0);
+    QCOMPARE(read.err, doubts);
+    QCOMPARE(read.lines().first(),
+             QStringLiteral("2 programs found in the catalog: 1 by path, 1 by "
+                            "name with length."));
+    const CtlResult json = fixture.run(command + QStringList{QStringLiteral("--json")});
+    QCOMPARE(json.err, doubts);
+    QCOMPARE(json.json()[QStringLiteral("isImported")].toBool(), true);
+    QCOMPARE(json.json()[QStringLiteral("tasks")].toInt(), 1);
+    QCOMPARE(QString::fromUtf8(QJsonDocument(json.json()[QStringLiteral("programs")].toArray())
+                                   .toJson(QJsonDocument::Compact)),
+             QStringLiteral(R"([{"foundBy":"path","index":1,"isGone":false,"isOtherContent":true,)"
+                            R"("isPlayed":true,"name":"News","program":1},)"
+                            R"({"foundBy":"name","index":2,"isGone":false,"isOtherContent":true,)"
+                            R"("isPlayed":true,"name":"Weather","program":2}])"));
+}
+
+void tst_CtlExchange::whatIsMissingIsRefused()
+{
+    const CtlFixture fixture;
+    fixture.writeFile(kFile, makeNews(fixture));
+    const QString other = QStringLiteral("other.db");
+    importClip(fixture, other, QStringLiteral("Spot.wav"), 300);
+    importClip(fixture, other, QStringLiteral("News.wav"), 100);
+    const QStringList option = {QStringLiteral("--database"), fixture.path(other)};
+    const QStringList command = QStringList{kImportSchedule, kFile} + option;
+    const QString missing = told(QStringLiteral("Program 2, \"Weather\", is not in the catalog."));
+    const QString refused =
+        missing + told(QStringLiteral("Nothing was written. Import what is missing first, or give "
+                                      "--keep-missing, which makes its entries invalid."));
+    const CtlResult read = fixture.run(command);
+    QCOMPARE(read.status, 1);
+    QCOMPARE(read.err, refused);
+    QCOMPARE(read.out, QByteArray());
+    const CtlResult json = fixture.run(command + QStringList{QStringLiteral("--json")});
+    QCOMPARE(json.status, 1);
+    QCOMPARE(json.err, refused);
+    QCOMPARE(json.json()[QStringLiteral("isImported")].toBool(true), false);
+    QVERIFY(json.json()[QStringLiteral("programs")]
+                .toArray()
+                .at(1)
+                .toObject()[QStringLiteral("program")]
+                .isNull());
+    QCOMPARE(fixture.run(QStringList{kExport, kStream} + option).out, unnamed({}));
+
+    const CtlResult kept = fixture.run(command + QStringList{QStringLiteral("--keep-missing")});
+    QCOMPARE(kept.status, 0);
+    QCOMPARE(kept.err, missing);
+    const QByteArray exported = fixture.run(QStringList{kExport, kStream} + option).out;
+    QCOMPARE(numbersOf(exported), QStringLiteral("2 - 2"));
+    // No program takes the place of the one that is missing.
+    QVERIFY(exported.contains("\"progIndex\": 65536, \"progName\": \"Weather\""));
+}
+
 void tst_CtlExchange::badFilesChangeNothing_data()
 {
     QTest::addColumn<QByteArray>("json");
@@ -254,8 +404,8 @@ void tst_CtlExchange::badFilesChangeNothing_data()
         "tasks[0].endDate (line 8): a text is expected here, not a number");
     row("unknown member", "\"plans\"", "\"plan\\u001b\"",
         "tasks[0].plan\\x1b (line 9): there is no member \"plan\\x1b\" here");
-    row("newer version", "\"version\": 1", "\"version\": 2",
-        "version (line 3): 2 is newer than 1, the newest that this program reads");
+    row("newer version", "\"version\": 1", "\"version\": 3",
+        "version (line 3): 3 is newer than 2, the newest that this program reads");
 }
 
 void tst_CtlExchange::badFilesChangeNothing()
@@ -275,7 +425,7 @@ void tst_CtlExchange::badFilesChangeNothing()
     result = fixture.onDatabase({kImportSchedule, kStream}, json);
     QCOMPARE(result.status, 1);
     QCOMPARE(result.err, told(QStringLiteral("the standard input: %1.").arg(error)));
-    QCOMPARE(fixture.exported(), scheduleToJson({{5, januaryTask(5)}}));
+    QCOMPARE(fixture.exported(), unnamed({{5, januaryTask(5)}}));
 
     result = fixture.onDatabase({kImportSchedule, QStringLiteral("missing.json")});
     QCOMPARE(result.status, 1);
@@ -306,7 +456,7 @@ void tst_CtlExchange::aPipeIsReadToItsEnd()
 
     QCOMPARE(result.err, QString());
     QCOMPARE(result.status, 0);
-    QCOMPARE(fixture.exported(), scheduleToJson({{5, januaryTask(5)}}));
+    QCOMPARE(fixture.exported(), unnamed({{5, januaryTask(5)}}));
 }
 
 TREL_TEST(tst_CtlExchange, QCoreApplication)

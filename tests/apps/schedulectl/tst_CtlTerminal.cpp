@@ -3,7 +3,7 @@
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/catalogue/ProgramImporter.h"
 #include "trelprogramschedule/faults/FaultWords.h"
-#include "trelprogramschedule/json/ScheduleJson.h"
+#include "trelprogramschedule/json/NamedSchedule.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -141,10 +141,11 @@ void tst_CtlTerminal::exportMeansTheSame()
     const CtlFixture fixture;
     makeHostileDatabase(fixture.database());
     const QByteArray json = fixture.exported();
-    const ScheduleFromJson read = scheduleFromJson(json);
+    const NamedScheduleFromJson read = namedScheduleFromJson(json);
     QCOMPARE(englishText(read), QString());
     QCOMPARE(QString::fromStdString(read.tasks.at(2).startDate), hostile());
-    QCOMPARE(scheduleToJson(read.tasks), json);
+    QCOMPARE(QString::fromStdString(read.programs.at(0).name), hostile());
+    QCOMPARE(namedScheduleToJson(read.tasks, read.programs), json);
 }
 
 void tst_CtlTerminal::longNamesDoNotFillTheTerminal_data()

@@ -153,8 +153,7 @@ void tst_CtlUse::misuseIsAnsweredWithAHint_data()
     row("import-schedule", "The command \"import-schedule\" needs FILE.", "import-schedule ");
     row("import-schedule a b",
         "The command \"import-schedule\" does not know what to do with \"b\".", "import-schedule ");
-    row("import-schedule --json a", "The command \"import-schedule\" has no option \"--json\".",
-        "import-schedule ");
+    row("export --media a b", "The command \"export\" has no option \"--media\".", "export ");
     row("check-language", "The command \"check-language\" needs FILE.", "check-language ");
     row("check-language a b", "The command \"check-language\" does not know what to do with \"b\".",
         "check-language ");
@@ -229,6 +228,7 @@ void tst_CtlUse::otherFilesAreLeftAlone_data()
     addReadingCommands();
     QTest::newRow("import") << words("import clip.wav");
     QTest::newRow("import-schedule") << words("import-schedule schedule.json");
+    QTest::newRow("import-schedule --json") << words("import-schedule schedule.json --json");
 }
 
 void tst_CtlUse::otherFilesAreLeftAlone()

@@ -181,11 +181,11 @@ void tst_ScheduleJsonErrors::addHeadingErrors()
     row("format of the wrong kind", replaced("\"trel-schedule\"", "1"),
         "format (line 2): a text is expected here, not a number");
     row("no version", replaced("  \"version\": 1,\n", ""), "the member \"version\" is missing");
-    row("newer version", replaced("\"version\": 1", "\"version\": 2"),
-        "version (line 3): 2 is newer than 1, the newest that this program reads");
+    row("newer version", replaced("\"version\": 1", "\"version\": 3"),
+        "version (line 3): 3 is newer than 2, the newest that this program reads");
     row("newer version with new members",
-        R"({ "format": "trel-schedule", "tasks": [ { "new": 1 } ], "more": [], "version": 2 })",
-        "version (line 1): 2 is newer than 1, the newest that this program reads");
+        R"({ "format": "trel-schedule", "tasks": [ { "new": 1 } ], "more": [], "version": 3 })",
+        "version (line 1): 3 is newer than 2, the newest that this program reads");
     row("version 0", replaced("\"version\": 1", "\"version\": 0"),
         "version (line 3): there is no version 0");
     row("version as text", replaced("\"version\": 1", "\"version\": \"1\""),

@@ -25,15 +25,19 @@
 #include <service/WeekDays.h>
 #include <service/scheduleManage.h>
 #include <trelprogramschedule/ScheduleHost.h>
+#include <trelprogramschedule/ScheduleImporter.h>
 #include <trelprogramschedule/catalogue/ProgramContent.h>
 #include <trelprogramschedule/catalogue/ProgramImporter.h>
 #include <trelprogramschedule/catalogue/ShownAddress.h>
+#include <trelprogramschedule/catalogue/StoredContents.h>
 #include <trelprogramschedule/dispatch/ClockChanges.h>
 #include <trelprogramschedule/dispatch/ProgramVerdict.h>
 #include <trelprogramschedule/dispatch/ScreenDispatch.h>
 #include <trelprogramschedule/dispatch/ScreenTimeline.h>
 #include <trelprogramschedule/faults/FaultWords.h>
 #include <trelprogramschedule/history/ScheduleVersion.h>
+#include <trelprogramschedule/json/NamedSchedule.h>
+#include <trelprogramschedule/json/ProgramMatch.h>
 #include <trelprogramschedule/json/ScheduleJson.h>
 #include <trelprogramschedule/media/MediaReading.h>
 #include <trelprogramschedule/media/PictureRequest.h>
@@ -86,16 +90,19 @@ int main()
         &englishSentence, static_cast<QString (*)(const StoreResult&)>(&englishText),
         static_cast<QString (*)(const ScheduleFromJson&)>(&englishText), &exceedsDay, &faultName,
         &faultOfVersionTexts, &firstPlanWithId, &firstTaskOverlap, &followingCopy, &hasForm,
-        &holdsAsInvalid, &lostPrograms, &markLostEntries, &insertedPlan, &insertionScope,
-        &isInvalidReadBack, &tessark::trans::isLanguageFile, &joinWeeks, &lastPlanWithId,
-        &listFromRow, &loadedVersion, &mediaReading, &mediaSuffixes, &namesAnyDay,
+        &importSchedule, &holdsAsInvalid, &lostPrograms, &markLostEntries, &insertedPlan,
+        &insertionScope, &isInvalidReadBack, &tessark::trans::isLanguageFile, &joinWeeks,
+        &lastPlanWithId, &listFromRow, &loadedVersion, &matchPrograms, &mediaReading,
+        &mediaSuffixes, &namedPrograms, &namedScheduleFromJson, &namedScheduleToJson, &namesAnyDay,
         &nextClockChanges, &nextPlanId, &offeredPrograms, &parseWeeks, &planAt, &planClaims,
         &planFault, &plannedEnd, &planTemplate, &programListText, &programText, &entryText,
-        &differencesOfNote, &programVerdict, &programsInUse, &tessark::trans::readLanguageFile,
-        &readFilmPicture, &readPicture, &readScheduleJson, &removeFirstPlanWithId,
-        &runsLessThanOnce, &setMediaReading, &scanMedia, &scheduleDifferences, &scheduleFromJson,
-        &scheduleToJson, &shownAddress, &storeProblemName, &timeFromText, &timeToText, &totalText,
-        &tessark::trans::translate, &usesOf, &weeksOverlap, &writeScheduleFile);
+        &differencesOfNote, &programVerdict, &programsInEntries, &programsInUse,
+        &readStoredContents, &renumberEntries, &tessark::trans::readLanguageFile, &readFilmPicture,
+        &readPicture, &readScheduleJson, &removeFirstPlanWithId, &runsLessThanOnce,
+        &setMediaReading, &scanMedia, &scheduleDifferences, &scheduleFromJson, &scheduleToJson,
+        &shownAddress, &storeProblemName, &storedFileContents, &timeFromText, &timeToText,
+        &totalText, &tessark::trans::translate, &usesOf, &weeksOverlap, &writeNamedScheduleFile,
+        &writeScheduleFile);
     static_assert(TREL_VERSION >= TREL_VERSION_CHECK(0, 2, 0));
     std::cout << "Version: " << loadedVersion()
               << (std::string(loadedVersion()) == TREL_VERSION_STRING ? ", as compiled\n" : "\n");

@@ -92,6 +92,10 @@ const std::vector<WritingCommand>& writingCommands()
         {"insert", onStore({QStringLiteral("insert"), QStringLiteral("1")}), "started"},
         {"cancel-insertion", onStore({QStringLiteral("cancel-insertion")}), "inserted"},
         {"export, new", take, "store", true},
+        {"export --bundle",
+         onStore(
+             {QStringLiteral("export"), QStringLiteral("--bundle"), QStringLiteral("@/out.json")}),
+         "exported", true},
         {"export", take, "exported", true},
     };
     return commands;

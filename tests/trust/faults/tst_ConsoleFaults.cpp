@@ -25,7 +25,8 @@ void tst_ConsoleFaults::everyCallFailsOnce_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<int>("call");
-    for (const char* command : {"import, new", "import, empty file", "remove-program", "export"}) {
+    for (const char* command :
+         {"import, new", "import, empty file", "remove-program", "export", "export --bundle"}) {
         for (const FileCall call : {FileCall::Look, FileCall::Rename, FileCall::Mode}) {
             QTest::addRow("%s: %s", command, nameOf(call))
                 << QString::fromLatin1(command) << int(call);

@@ -1,3 +1,4 @@
+#include "BundleTarget.h"
 #include "DraftTarget.h"
 #include "FuzzTarget.h"
 #include "LanguageTargets.h"
@@ -19,6 +20,7 @@ const std::vector<FuzzTarget>& targets()
         {"translation", tryTranslation},
         {"store", tryStore, mutateStore},
         {"draft", tryDraft, mutateDraft},
+        {"bundle", tryBundle, mutateBundle},
     };
     return all;
 }

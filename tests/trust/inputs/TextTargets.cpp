@@ -11,7 +11,7 @@
 #include "service/WeekDays.h"
 #include "text/HelpText.h"
 #include "trelprogramschedule/faults/FaultWords.h"
-#include "trelprogramschedule/json/ScheduleJson.h"
+#include "trelprogramschedule/json/NamedSchedule.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -60,6 +60,14 @@ void tryJson(const QByteArray& input)
         expect(schedule.tasks.empty(), "a schedule is read whole or not at all");
         return;
     }
+    const NamedScheduleFromJson named = namedScheduleFromJson(input);
+    expect(!named.fault && named.tasks == schedule.tasks, "both readers agree");
+    const QByteArray withPrograms = namedScheduleToJson(named.tasks, named.programs);
+    const NamedScheduleFromJson back = namedScheduleFromJson(withPrograms);
+    expect(!back.fault && back.tasks == named.tasks && back.programs == named.programs,
+           "programs that are read back are the same");
+    expect(printableJson(withPrograms) == withPrograms,
+           "no program holds anything that a terminal obeys");
     const QByteArray written = scheduleToJson(schedule.tasks);
     const ScheduleFromJson again = scheduleFromJson(written);
     expect(!again.fault, "what was written can be read");

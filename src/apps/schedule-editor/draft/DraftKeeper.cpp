@@ -7,12 +7,12 @@
 #include "clock/Clock.h"
 #include "common/DefaultDatabase.h"
 #include "draft/DraftWords.h"
+#include "exchange/ScheduleFile.h"
 #include "look/Themes.h"
 #include "scheduleControlUI.h"
 #include "service/scheduleManage.h"
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/desks/DeskWatch.h"
-#include "trelprogramschedule/json/ScheduleJson.h"
 #include "undo/ListAtRest.h"
 #include "versions/DifferenceWords.h"
 
@@ -367,7 +367,7 @@ bool DraftKeeper::putIntoFile(const LeftDraft& left)
     if (file.isEmpty()) {
         return false;
     }
-    if (const Fault fault = writeScheduleFile(file, scheduleOf(left))) {
+    if (const Fault fault = writeSchedule(file, scheduleOf(left), FileHashes::Read)) {
         prompts::notice(problems::unwritable(file, fault));
         return false;
     }

@@ -3,6 +3,7 @@
 #include "HostPrompts.h"
 #include "ProblemWords.h"
 #include "clock/Clock.h"
+#include "exchange/ScheduleFile.h"
 #include "fit/ColumnRoom.h"
 #include "fit/ScrolledContent.h"
 #include "memory/RememberedDialog.h"
@@ -12,7 +13,6 @@
 #include "trelprogramschedule/ScheduleHost.h"
 #include "trelprogramschedule/dispatch/ScreenDispatch.h"
 #include "trelprogramschedule/history/VersionReader.h"
-#include "trelprogramschedule/json/ScheduleJson.h"
 #include "trelwidgets/PlainToolTip.h"
 #include "versions/ComparisonPanel.h"
 #include "versions/VersionModel.h"
@@ -425,7 +425,7 @@ void VersionsWindow::writeChosen()
     if (file.isEmpty()) {
         return;
     }
-    if (const Fault fault = writeScheduleFile(file, tasks)) {
+    if (const Fault fault = writeSchedule(file, tasks, FileHashes::Read)) {
         prompts::notice(problems::unwritable(file, fault));
         return;
     }

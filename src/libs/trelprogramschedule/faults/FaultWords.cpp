@@ -197,6 +197,13 @@ QString kindText(const QString& name)
         {QStringLiteral("object"), QStringLiteral("an object")},
         {QStringLiteral("wholeNumber"), QStringLiteral("a whole number")},
         {QStringLiteral("wholeNumberText"), QStringLiteral("a whole number written as a text")},
+        {QStringLiteral("programNumber"),
+         QStringLiteral("a number from 0 to 65535 that no other program has")},
+        {QStringLiteral("otherNumber"), QStringLiteral("another number")},
+        {QStringLiteral("hash"),
+         QStringLiteral("a SHA-256 in 64 small hexadecimal digits, or an empty text")},
+        {QStringLiteral("otherText"), QStringLiteral("another text")},
+        {QStringLiteral("size"), QStringLiteral("a size in bytes above 0")},
     };
     return texts.value(name);
 }

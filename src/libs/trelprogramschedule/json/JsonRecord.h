@@ -21,7 +21,9 @@ struct JsonRefusal
 [[noreturn]] void refuseMissing(const JsonValue& object, std::string_view name);
 
 /// The name of a kind, as OtherKind has it: "null", "boolean", "number", "text", "array" or
-/// "object"; besides, "wholeNumber" and "wholeNumberText" are more than a kind.
+/// "object"; besides, "wholeNumber", "wholeNumberText", "programNumber", "hash" and "size" are
+/// more than a kind that is expected, and "otherNumber" and "otherText" more than one that is
+/// found.
 QString jsonKindName(JsonValue::Kind kind);
 
 /// Refuses a value of another kind, with a name for what belongs there.

@@ -14,10 +14,10 @@ class QIODevice;
 namespace trel::mediadispatch {
 
 /// The JSON form of a schedule: every field of every record, in a documented form
-/// (docs/schedule-json.md), in UTF-8. Writing and reading back gives the same records, texts that
-/// are no UTF-8 included, and the same schedule always gives the same bytes. Each task stands in
-/// the map under its own id; a schedule that breaks this is written so that reading it back names
-/// the task.
+/// (docs/schedule-json.md, version 1), in UTF-8. Entries have the numbers of their catalogue.
+/// Writing and reading back gives the same records, texts that are no UTF-8 included, and the same
+/// schedule always gives the same bytes. Each task stands in the map under its own id; a schedule
+/// that breaks this is written so that reading it back names the task.
 TRELPROGRAMSCHEDULE_EXPORT QByteArray scheduleToJson(const std::map<int, PlayTask>& tasks);
 
 /// A schedule read from JSON, or why it could not be read.
@@ -30,8 +30,10 @@ struct ScheduleFromJson
 };
 
 /// Reads all of a schedule or nothing: whatever the form does not know is an error, so that nothing
-/// is dropped without a word. What is larger than any schedule is an error as well, in bytes (128
-/// MiB), in tasks (20,000), plans (100,000), entries (500,000) or in one text (64 KiB).
+/// is dropped without a word. Version 2 is read as well, but for its programs, without which its
+/// numbers mean nothing; namedScheduleFromJson() gives both. What is larger than any schedule is an
+/// error as well, in bytes (128 MiB), in tasks (20,000), plans (100,000), entries (500,000) or in
+/// one text (64 KiB).
 TRELPROGRAMSCHEDULE_EXPORT ScheduleFromJson scheduleFromJson(const QByteArray& json);
 
 /// Reads everything up to the end of the device, which must be open, or as much as shows that it is

@@ -37,6 +37,26 @@ Fault excessOf(const TaskMap& tasks, const TaskEdits& edits)
     return excess;
 }
 
+/// Puts sources into the catalogue, and gives their programs and the index of each.
+std::vector<int> putSources(const StoreConnection& connection, const QString& path,
+                            const std::vector<MediaSource>& sources, StoreContents& contents)
+{
+    std::vector<int> indexes;
+    if (sources.empty()) {
+        return indexes;
+    }
+    ImportResult result;
+    StoreCatalogue catalogue(connection, path);
+    catalogue.put(sources, result);
+    catalogue.finish();
+    indexes.reserve(sources.size());
+    for (const MediaSource& source : sources) {
+        indexes.push_back(catalogue.indexOf(source));
+    }
+    catalogue.read(indexes, contents);
+    return indexes;
+}
+
 } // namespace
 
 ScheduleDatabase::ScheduleDatabase() = default;
@@ -214,13 +234,46 @@ StoreResult ScheduleDatabase::writeTasks(const TaskMap& tasks, const TaskEdits& 
         if (edits.isEmpty()) {
             return;
         }
-        StoreVersionWriter(connection(), path())
-            .keep(revision, edits, {Clock::current().msecsSinceEpoch(), thisProgram(), restored});
-        StoreTaskWriter(connection()).write(edits);
-        connection().run(
-            QStringLiteral("UPDATE store SET schedule_revision = schedule_revision + 1"));
+        writeEdits(edits, revision, restored);
         transaction.commit();
         ++revision;
+    });
+}
+
+void ScheduleDatabase::writeEdits(const TaskEdits& edits, qint64 revision, qint64 restored) const
+{
+    StoreVersionWriter(connection(), path())
+        .keep(revision, edits, {Clock::current().msecsSinceEpoch(), thisProgram(), restored});
+    StoreTaskWriter(connection()).write(edits);
+    connection().run(QStringLiteral("UPDATE store SET schedule_revision = schedule_revision + 1"));
+}
+
+StoreResult ScheduleDatabase::writeWithPrograms(const std::vector<MediaSource>& sources,
+                                                const TasksOfPrograms& tasksOf,
+                                                StoreRevision& revision, ProgramMap& programs)
+{
+    return attempt(path(), [&] {
+        expectChange();
+        StoreTransaction transaction(connection(), StoreTransaction::Purpose::Write);
+        const StoreRevision found = revisionOf(connection());
+        if (found.schedule != revision.schedule || found.catalogue != revision.catalogue) {
+            throw StoreError{refusal(StoreProblem::MovedOn, path())};
+        }
+        StoreContents contents;
+        const std::vector<int> indexes = putSources(connection(), path(), sources, contents);
+        const TasksToWrite toWrite = tasksOf(indexes, contents.programs);
+        if (const Fault excess = excessOf(*toWrite.tasks, toWrite.edits)) {
+            throw StoreError{refusal(StoreProblem::TooLarge, path(), excess)};
+        }
+        if (!toWrite.edits.isEmpty()) {
+            writeEdits(toWrite.edits, found.schedule, kNoVersion);
+        }
+        const StoreRevision written = revisionOf(connection());
+        if (!sources.empty() || !toWrite.edits.isEmpty()) {
+            transaction.commit();
+        }
+        revision = written;
+        programs = std::move(contents.programs);
     });
 }
 

@@ -11,6 +11,7 @@
 #include <QtGlobal>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -27,6 +28,18 @@ enum class StorePart {
     Catalogue,
     Both,
 };
+
+/// Tasks that are to be in the store, and what turns it into them.
+struct TasksToWrite
+{
+    const TaskMap* tasks = nullptr;
+    TaskEdits edits;
+};
+
+/// Makes the tasks that are written together with programs: given is the index that each of these
+/// has got, in their order, and the programs themselves.
+using TasksOfPrograms =
+    std::function<TasksToWrite(const std::vector<int>& indexes, const ProgramMap& programs)>;
 
 /// The store: the one class that speaks to its database, by way of the engine that keeps it.
 ///
@@ -75,6 +88,14 @@ public:
     StoreResult writeTasks(const TaskMap& tasks, const TaskEdits& edits, qint64& revision,
                            qint64 restored = kNoVersion);
 
+    /// Puts sources into the catalogue and writes tasks that may refer to them, all in one
+    /// transaction, if the store still has the revisions of schedule and catalogue that are given;
+    /// MovedOn otherwise. What is asked for the tasks is asked once, within the transaction. Gives
+    /// the programs of the sources and the revisions after that. Otherwise as writeTasks.
+    StoreResult writeWithPrograms(const std::vector<MediaSource>& sources,
+                                  const TasksOfPrograms& tasksOf, StoreRevision& revision,
+                                  ProgramMap& programs);
+
     /// Puts sources into the catalogue; see ScheduleHost::addPrograms. Gives their programs, and
     /// the revisions with them, as they stand in the store then.
     ImportResult addPrograms(const std::vector<MediaSource>& sources, StoreContents& contents);
@@ -116,6 +137,8 @@ private:
     void readParts(StorePart part, const StoreConnection& connection,
                    StoreContents& contents) const;
     bool takeSeen(StorePart part, StoreContents& contents);
+    /// Within a transaction that writes, in a store of this revision of the schedule.
+    void writeEdits(const TaskEdits& edits, qint64 revision, qint64 restored) const;
     StoreResult judgeChange() const;
     /// Throws where that is refused.
     void expectChange() const;

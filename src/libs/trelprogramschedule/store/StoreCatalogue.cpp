@@ -107,24 +107,33 @@ void StoreCatalogue::put(const std::vector<MediaSource>& sources, ImportResult& 
     StoreProgramContents(m_connection).put(m_contents);
 }
 
+int StoreCatalogue::indexOf(const MediaSource& source) const
+{
+    return m_known.at(bytes(source.path)).index;
+}
+
 void StoreCatalogue::find(const std::vector<MediaSource>& sources)
 {
     for (std::size_t from = 0; from < sources.size(); from += kMostAtOnce) {
         const std::size_t end = std::min(sources.size(), from + kMostAtOnce);
-        QStringList terms;
+        // Each path by itself, so that each is looked up in the index: of many in one condition a
+        // server may think that it is quicker to hash the paths of all programs for each of them.
+        QStringList lookUps;
         for (std::size_t i = from; i < end; ++i) {
-            terms.append(QStringLiteral("media_path = CAST(? AS TEXT)"));
+            lookUps.append(
+                QStringLiteral("SELECT prog_index, media_path, name, duration_ms, kind FROM program"
+                               " WHERE removed = 0 AND media_path = CAST(? AS TEXT)"));
         }
-        QSqlQuery row = m_connection.prepare(
-            QStringLiteral("SELECT prog_index, media_path FROM program WHERE removed = 0 AND (%1)")
-                .arg(terms.join(QLatin1String(" OR "))));
+        QSqlQuery row = m_connection.prepare(lookUps.join(QLatin1String(" UNION ALL ")));
         for (std::size_t i = from; i < end; ++i) {
             expectToFit(sources[i]);
             bindFrom(static_cast<int>(i - from), row, bytes(sources[i].path));
         }
         m_connection.exec(row);
         while (m_connection.next(row)) {
-            m_known.emplace(row.value(1).toByteArray(), row.value(0).toInt());
+            m_known.emplace(row.value(1).toByteArray(),
+                            Known{row.value(0).toInt(), row.value(2).toByteArray(),
+                                  row.value(3).toDouble(), row.value(4).toInt()});
         }
     }
 }
@@ -134,22 +143,28 @@ void StoreCatalogue::putOne(const MediaSource& source, ImportResult& result)
     const int kind = static_cast<int>(source.kind);
     const double duration = storedDuration(source.durationMs);
     if (const auto known = m_known.find(bytes(source.path)); known != m_known.end()) {
-        const int index = known->second;
-        const bool isOfThisImport = !m_done.insert(index).second;
+        Known& program = known->second;
+        const bool isOfThisImport = !m_done.insert(program.index).second;
+        if (!isOfThisImport) {
+            result.updated.push_back(program.index);
+        }
+        m_contents[program.index] = source.content;
+        const Known now = {program.index, bytes(source.name), duration, kind};
+        if (now == program) {
+            return; // As most are when a folder is imported once more.
+        }
         if (isOfThisImport) {
             // It may be on its way into the table.
             m_inserts->finish();
-        } else {
-            result.updated.push_back(index);
         }
-        bindFrom(0, m_update, bytes(source.name), duration, kind, index);
+        bindFrom(0, m_update, now.name, duration, kind, program.index);
         m_connection.exec(m_update);
-        m_contents[index] = source.content;
+        program = now;
         return;
     }
     const int index = giveOutIndex();
     m_inserts->put({index, bytes(source.name), bytes(source.path), duration, kind});
-    m_known.emplace(bytes(source.path), index);
+    m_known.emplace(bytes(source.path), Known{index, bytes(source.name), duration, kind});
     m_done.insert(index);
     m_contents[index] = source.content;
     result.added.push_back(index);

@@ -12,7 +12,8 @@ namespace trel::mediadispatch {
 
 /// Which state of the store somebody has read. Every change of the schedule counts the first
 /// number up by one, every change of the catalogue the second, every change of what is in effect
-/// the third, and every name that a version gets the fourth.
+/// the third, and every name that a version gets the fourth. A schedule that brings programs with
+/// it changes the first two at once, and nothing else changes more than one.
 struct StoreRevision
 {
     qint64 schedule = 0;

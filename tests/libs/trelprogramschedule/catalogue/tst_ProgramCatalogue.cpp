@@ -57,6 +57,7 @@ class tst_ProgramCatalogue : public QObject
 private slots:
     void knownPathKeepsItsIndex();
     void samePathTwiceInOneImport();
+    void aSecondImportWritesWhatIsNew();
     void indexesAreNeverGivenOutAgain();
     void indexesRunOut();
     void removedProgramKeepsItsName();
@@ -101,6 +102,38 @@ void tst_ProgramCatalogue::samePathTwiceInOneImport()
     QCOMPARE(result.added, std::vector<int>{1});
     QCOMPARE(result.updated, std::vector<int>());
     QCOMPARE(store.manager.getProgramNameByProgIndex(1), std::string("program 2"));
+}
+
+// More than are looked up with one statement, in every place.
+void tst_ProgramCatalogue::aSecondImportWritesWhatIsNew()
+{
+    constexpr int many = 450;
+    StoreFixture store;
+    std::vector<MediaSource> sources = samplePrograms(many);
+    QVERIFY(store.host.addPrograms(sources).store);
+    QVERIFY(store.host.removeProgram(many));
+    sources[0].name = QStringLiteral("renamed");
+    sources[200].durationMs = 0.5;
+    sources[400].kind = ProgramKind::Other;
+    // Once more as it was, behind a state that it does not keep.
+    sources.push_back(sources[10]);
+    sources[10].name = QStringLiteral("for a moment");
+    const ImportResult again = store.host.addPrograms(sources);
+    QVERIFY(again.store);
+    QCOMPARE(again.added, std::vector<int>{many + 1});
+    QCOMPARE(again.updated.size(), std::size_t(many - 1));
+    QCOMPARE(again.updated.front(), 1);
+    QCOMPARE(again.updated.back(), many - 1);
+    for (int round = 0; round < 2; ++round) {
+        const auto programs = store.manager.getPrograms();
+        QCOMPARE(programs.size(), std::size_t(many));
+        QCOMPARE(programs.at(1).progName, std::string("renamed"));
+        QCOMPARE(programs.at(201).durationMs, 0.5);
+        QVERIFY(programs.at(401).kind == ProgramKind::Other);
+        QCOMPARE(programs.at(11).progName, sources.back().name.toStdString());
+        QCOMPARE(programs.at(200).progName, sources[199].name.toStdString());
+        store.restart();
+    }
 }
 
 void tst_ProgramCatalogue::indexesAreNeverGivenOutAgain()
@@ -408,6 +441,7 @@ void tst_ProgramCatalogue::twentyThousandPrograms()
     QVERIFY(result.store);
     QCOMPARE(result.added.size(), std::size_t(count));
     QCOMPARE(result.added.back(), count);
+    QCOMPARE(store.host.addPrograms(sources).updated, result.added);
     store.restart();
     QCOMPARE(store.manager.getPrograms().size(), std::size_t(count));
     QBENCHMARK_ONCE

@@ -113,8 +113,9 @@ void tst_FaultWords::theErrorOfTheSystemIsWorded()
 
 void tst_FaultWords::kindsOfValuesAreWorded()
 {
-    for (const char* kind : {"null", "boolean", "number", "text", "array", "object", "wholeNumber",
-                             "wholeNumberText"}) {
+    for (const char* kind :
+         {"null", "boolean", "number", "text", "array", "object", "wholeNumber", "wholeNumberText",
+          "programNumber", "otherNumber", "hash", "otherText", "size"}) {
         const QString clause = englishClause(
             faultOf(FaultCode::OtherKind, QString::fromLatin1(kind), QStringLiteral("array")));
         QVERIFY2(clause.endsWith(QStringLiteral(" is expected here, not an array")) &&

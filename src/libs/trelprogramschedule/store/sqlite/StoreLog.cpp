@@ -124,14 +124,17 @@ bool isSame(const StoreRevision& a, const StoreRevision& b)
            a.names == b.names;
 }
 
+/// Whether one change leads from one to the other: it counts one of the numbers, or both that a
+/// schedule with its programs counts.
 bool isNext(const StoreRevision& former, const StoreRevision& later)
 {
     const qint64 schedule = later.schedule - former.schedule;
     const qint64 catalogue = later.catalogue - former.catalogue;
     const qint64 effect = later.effect - former.effect;
     const qint64 names = later.names - former.names;
-    return schedule >= 0 && catalogue >= 0 && effect >= 0 && names >= 0 &&
-           schedule + catalogue + effect + names == 1;
+    const bool isOne = schedule >= 0 && catalogue >= 0 && effect >= 0 && names >= 0 &&
+                       schedule + catalogue + effect + names == 1;
+    return isOne || (schedule == 1 && catalogue == 1 && effect == 0 && names == 0);
 }
 
 } // namespace
