@@ -1,11 +1,14 @@
 #include "PlayerOptions.h"
 
 #include "common/DisplayText.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/screens/PlayerStatusFolder.h"
+#include "trelprogramschedule/store/StoreEngines.h"
 #include "trelprogramschedule/store/StorePlace.h"
 
 #include <QCommandLineParser>
 #include <QSysInfo>
+#include <QTimeZone>
 
 using trel::mediadispatch::PlayerStatusFolder;
 
@@ -33,6 +36,16 @@ QString machineName()
     return PlayerStatusFolder::takesName(name) ? name : QStringLiteral("screen");
 }
 
+/// Why what is to be followed cannot be, as a sentence. An address is not repeated, since there may
+/// be a password in it.
+QString faultOfPlace(const QString& database, bool hasMirror)
+{
+    if (mediadispatch::StorePlace::isAddress(database)) {
+        return mediadispatch::englishSentence(mediadispatch::faultOfAddress(database));
+    }
+    return hasMirror ? QStringLiteral("--mirror goes with a --database on a server.") : QString();
+}
+
 } // namespace
 
 PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
@@ -47,8 +60,19 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
     const QCommandLineOption database(
         {QStringLiteral("d"), QStringLiteral("database")},
         QStringLiteral(
-            "Follow the schedule in FILE instead of your own. It need not be there yet."),
+            "Follow the schedule in FILE instead of your own, or that of a server, by its address "
+            "postgresql://[user@]host[:port]/database?schedule=NAME. It need not be there yet."),
         QStringLiteral("FILE"));
+    const QCommandLineOption mirror(
+        QStringLiteral("mirror"),
+        QStringLiteral("Keep in this folder what the screen needs of a schedule on a server, so "
+                       "that it goes on without one, instead of in a folder of your own."),
+        QStringLiteral("FOLDER"));
+    const QCommandLineOption timeZone(
+        QStringLiteral("time-zone"),
+        QStringLiteral("Play by the time of this zone, such as Europe/Berlin, instead of the "
+                       "machine's."),
+        QStringLiteral("ZONE"));
     const QCommandLineOption screen(
         QStringLiteral("screen"),
         QStringLiteral("Play under this name, which \"schedulectl screens\" lists; the machine's "
@@ -77,8 +101,8 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
         QStringLiteral("Keep the records of what was on the screen in this folder until they are "
                        "handed in, instead of a folder of your own."),
         QStringLiteral("FOLDER"));
-    parser.addOptions(
-        {database, screen, window, fullScreen, monitor, mute, standBy, rotate, spool});
+    parser.addOptions({database, mirror, screen, timeZone, window, fullScreen, monitor, mute,
+                       standBy, rotate, spool});
 
     if (!parser.parse(arguments)) {
         return misuse(hosts::printable(parser.errorText()));
@@ -99,9 +123,14 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
     if (parser.isSet(window) && parser.isSet(monitor)) {
         return misuse(QStringLiteral("--on goes with --full-screen; a window can be moved."));
     }
-    if (mediadispatch::StorePlace::isAddress(parser.value(database))) {
-        // Not repeated, since there may be a password in it.
-        return misuse(QStringLiteral("--database takes a file, not a schedule on a server."));
+    if (const QString wrong = faultOfPlace(parser.value(database), parser.isSet(mirror));
+        !wrong.isEmpty()) {
+        return misuse(wrong);
+    }
+    if (parser.isSet(timeZone) &&
+        !QTimeZone::isTimeZoneIdAvailable(parser.value(timeZone).toUtf8())) {
+        return misuse(QStringLiteral("There is no time zone %1 on this machine.")
+                          .arg(hosts::inQuotes(hosts::printable(parser.value(timeZone)))));
     }
     bool isNumber = false;
     const int turned = parser.value(rotate).toInt(&isNumber);
@@ -118,6 +147,8 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
 
     PlayerOptionsResult result;
     result.options.database = parser.value(database);
+    result.options.mirror = parser.value(mirror);
+    result.options.timeZone = parser.value(timeZone);
     result.options.screen = name;
     result.options.inWindow = parser.isSet(window);
     result.options.monitor = parser.value(monitor);

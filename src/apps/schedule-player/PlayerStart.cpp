@@ -6,7 +6,9 @@
 #include "media/PictureRequest.h"
 #include "system/LoadNotes.h"
 #include "system/ScreenLock.h"
+#include "trelprogramschedule/store/StorePlace.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include <atomic>
@@ -45,6 +47,13 @@ ScreenWishes wishesOf(const PlayerOptions& options)
     wishes.isMute = options.isMute;
     wishes.title = options.screen;
     return wishes;
+}
+
+/// Of the schedule on a server that is followed; empty for a file.
+QString addressOf(const PlayerOptions& options)
+{
+    const mediadispatch::StorePlace place(options.database);
+    return place.isOnServer() ? place.text() : QString();
 }
 
 } // namespace
@@ -91,15 +100,21 @@ PlayerStart::~PlayerStart()
 
 void PlayerStart::takeLock()
 {
-    m_threads.start([shared = m_lock, store = m_place.store, screen = m_options.screen, this] {
-        auto lock = std::make_unique<ScreenLock>(store, screen);
-        {
-            const std::lock_guard held(shared->mutex);
-            shared->lock = std::move(lock);
-            shared->changed.notify_all();
-        }
-        shared->mail.post([this] { lockTried(); });
-    });
+    const bool isMirror = !addressOf(m_options).isEmpty();
+    m_threads.start(
+        [shared = m_lock, store = m_place.store, screen = m_options.screen, isMirror, this] {
+            if (isMirror) {
+                // The lock stands beside it.
+                QDir().mkpath(QFileInfo(store).absolutePath());
+            }
+            auto lock = std::make_unique<ScreenLock>(store, screen);
+            {
+                const std::lock_guard held(shared->mutex);
+                shared->lock = std::move(lock);
+                shared->changed.notify_all();
+            }
+            shared->mail.post([this] { lockTried(); });
+        });
 }
 
 void PlayerStart::showWindow()
@@ -157,7 +172,7 @@ void PlayerStart::play()
                 }
             });
     m_player = std::make_unique<Player>(m_place, m_screen->stage(), m_screen->firstDeck(),
-                                        m_screen->secondDeck());
+                                        m_screen->secondDeck(), addressOf(m_options));
     if (m_notes->formerEnd()) {
         tell(LoadNotes::words(*m_notes->formerEnd()));
     }
