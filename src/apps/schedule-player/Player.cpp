@@ -35,12 +35,23 @@ QString thisPlayer()
              QString::number(QCoreApplication::applicationPid()), QSysInfo::machineHostName());
 }
 
-std::unique_ptr<ScreenFeed> feedOf(const QString& store, const QString& address)
+QString troubleText(MediaTrouble trouble)
 {
-    if (address.isEmpty()) {
-        return std::make_unique<ScheduleFeed>(store);
+    switch (trouble) {
+    case MediaTrouble::None:
+        break;
+    case MediaTrouble::NotThere:
+        return QStringLiteral("it is not there yet");
+    case MediaTrouble::Broken:
+        return QStringLiteral("the way there is cut, and what came is kept");
+    case MediaTrouble::OtherContent:
+        return QStringLiteral("it holds something else than it should");
+    case MediaTrouble::NoRoom:
+        return QStringLiteral("there is no room for it");
+    case MediaTrouble::NotWritable:
+        return QStringLiteral("the disk does not take it");
     }
-    return std::make_unique<MirrorFeed>(address, store);
+    return {};
 }
 
 /// For the manager of services: "plays “News”".
@@ -65,17 +76,17 @@ QString shortText(const PlayerStatus& status)
 } // namespace
 
 Player::Player(const AsRunPlace& place, Stage& stage, Deck& first, Deck& second,
-               const QString& address)
+               const MirrorSettings& mirror)
     : m_store(place.store)
-    , m_address(address)
+    , m_address(mirror.address)
     , m_screen(place.screen)
     , m_started(Clock::current().msecsSinceEpoch())
     , m_asRun(place)
     , m_conductor(stage, first, second, m_events)
-    , m_feed(feedOf(m_store, m_address))
     , m_statusWriter(std::make_unique<PlayerStatusWriter>(m_store))
 {
     qRegisterMetaType<PlayerStatus>();
+    makeFeed(mirror);
     m_feed->moveToThread(&m_thread);
     m_statusWriter->moveToThread(&m_thread);
     connect(&m_log, &PlayerLog::line, this,
@@ -127,6 +138,25 @@ Player::~Player()
         m_logWriter.finish();
         std::_Exit(EXIT_SUCCESS);
     }
+}
+
+void Player::makeFeed(const MirrorSettings& mirror)
+{
+    if (m_address.isEmpty()) {
+        m_feed = std::make_unique<ScheduleFeed>(m_store);
+        return;
+    }
+    auto feed = std::make_unique<MirrorFeed>(mirror, m_store);
+    connect(feed.get(), &MirrorFeed::mediaFailed, this, &Player::tellOfMedia);
+    m_feed = std::move(feed);
+}
+
+void Player::tellOfMedia(const QString& program, MediaTrouble trouble, const QString& words)
+{
+    const QString more = words.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(words);
+    m_log.tell(QStringLiteral("cannot fetch the file of %1: %2%3; it is tried again")
+                   .arg(hosts::inQuotes(hosts::printable(program)), troubleText(trouble),
+                        hosts::printable(more)));
 }
 
 void Player::Events::note(const ScreenEvent& event)

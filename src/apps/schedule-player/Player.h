@@ -6,6 +6,8 @@
 #include "system/ServiceManager.h"
 #include "trelprogramschedule/screens/PlayerStatus.h"
 #include "trelscreen/Conductor.h"
+#include "trelscreen/MirrorSettings.h"
+#include "trelscreen/media/MediaTransfer.h"
 
 #include <QObject>
 #include <QString>
@@ -36,11 +38,11 @@ class Player : public QObject
     Q_OBJECT
 
 public:
-    /// The store need not be there. Where an address is given, it is the mirror of the schedule
+    /// The store need not be there. Where the mirror has an address, it is that of the schedule
     /// there, which the player keeps itself. Stage and decks outlive it; there can be one player in
     /// a process.
     Player(const AsRunPlace& place, screen::Stage& stage, screen::Deck& first, screen::Deck& second,
-           const QString& address = {});
+           const screen::MirrorSettings& mirror = {});
     /// Waits a quarter of a second for each thread; the process ends at once where a disk holds one
     /// up for longer.
     ~Player() override;
@@ -73,6 +75,8 @@ private:
     /// What is followed, for the log.
     QString followed() const { return m_address.isEmpty() ? m_store : m_address; }
     void follow();
+    void makeFeed(const screen::MirrorSettings& mirror);
+    void tellOfMedia(const QString& program, screen::MediaTrouble trouble, const QString& words);
     void tellOfStore();
     void tellStatus();
     mediadispatch::PlayerStatus status() const;

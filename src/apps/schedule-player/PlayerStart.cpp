@@ -7,6 +7,7 @@
 #include "system/LoadNotes.h"
 #include "system/ScreenLock.h"
 #include "trelprogramschedule/store/StorePlace.h"
+#include "trelscreen/media/MediaFetcher.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -54,6 +55,18 @@ QString addressOf(const PlayerOptions& options)
 {
     const mediadispatch::StorePlace place(options.database);
     return place.isOnServer() ? place.text() : QString();
+}
+
+screen::MirrorSettings mirrorOf(const PlayerOptions& options)
+{
+    constexpr qint64 gibibyte = 1024LL * 1024 * 1024;
+    screen::MirrorSettings settings;
+    settings.address = addressOf(options);
+    settings.media = options.media.isEmpty() || screen::MediaFetcher::isWeb(options.media)
+                         ? options.media
+                         : QFileInfo(options.media).absoluteFilePath();
+    settings.mediaLimit = options.mediaLimit * gibibyte;
+    return settings;
 }
 
 } // namespace
@@ -172,7 +185,7 @@ void PlayerStart::play()
                 }
             });
     m_player = std::make_unique<Player>(m_place, m_screen->stage(), m_screen->firstDeck(),
-                                        m_screen->secondDeck(), addressOf(m_options));
+                                        m_screen->secondDeck(), mirrorOf(m_options));
     if (m_notes->formerEnd()) {
         tell(LoadNotes::words(*m_notes->formerEnd()));
     }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "trelprogramschedule/mirror/MirrorNews.h"
+#include "trelscreen/MirrorSettings.h"
 #include "trelscreen/ScreenFeed.h"
+#include "trelscreen/media/MediaTransfer.h"
 
 #include <QString>
 #include <QThread>
@@ -18,6 +20,8 @@ class ScheduleMirror;
 
 namespace trel::screen {
 
+class MediaFetcher;
+
 /// Follows a schedule on a server by way of a mirror on the screen's own disk, and tells of nothing
 /// but what the mirror holds: at the start what it held before, so that nobody waits for a server,
 /// and each change once it is in the mirror.
@@ -29,8 +33,9 @@ class MirrorFeed : public ScreenFeed
     Q_OBJECT
 
 public:
-    /// Of a schedule at an address, in that file; see ScheduleMirror.
-    MirrorFeed(QString address, QString file);
+    /// In that file; see ScheduleMirror. Media that are fetched come into a folder "media" beside
+    /// it.
+    MirrorFeed(MirrorSettings settings, QString file);
     ~MirrorFeed() override;
 
     void start() override;
@@ -38,7 +43,17 @@ public:
     /// not answer.
     void stop() override;
 
+signals:
+    /// The file of a program could not be fetched; see MediaFetcher.
+    void mediaFailed(const QString& program, trel::screen::MediaTrouble trouble,
+                     const QString& words);
+
 private:
+    void startServer();
+    void startMedia();
+    void stopServer();
+    void stopMedia();
+    void tellNeeds();
     void take(const mediadispatch::MirrorNewsPointer& news);
     void look();
     void noteMirror(const mediadispatch::StoreResult& result);
@@ -46,11 +61,14 @@ private:
     void publishSoon();
     void publish();
 
-    QString m_address;
+    MirrorSettings m_settings;
     QString m_file;
     std::unique_ptr<mediadispatch::ScheduleMirror> m_mirror; ///< From start to stop.
     std::unique_ptr<mediadispatch::MirrorSource> m_source;   ///< In the thread, the same.
     QThread m_thread;
+    std::unique_ptr<MediaFetcher> m_fetcher; ///< In another one; null where nothing is fetched.
+    QThread m_mediaThread;
+    QTimer m_needs; ///< Until it is worked out anew what is needed soonest.
     QTimer m_round;
     QTimer m_publishing;
     ScreenSchedule m_told;

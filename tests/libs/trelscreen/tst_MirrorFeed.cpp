@@ -3,11 +3,14 @@
 #include "support/SampleSchedule.h"
 #include "support/TestClock.h"
 #include "trelprogramschedule/ScheduleHost.h"
+#include "trelprogramschedule/catalogue/ProgramImporter.h"
 #include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/store/StoreEngines.h"
 #include "trelscreen/MirrorFeed.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -50,14 +53,19 @@ private:
 class Fed
 {
 public:
-    Fed(const QString& address, const QString& mirror)
-        : m_feed(address, mirror)
+    Fed(const QString& address, const QString& mirror, const QString& media = {})
+        : m_feed({address, media, 0}, mirror)
     {
         QObject::connect(&m_feed, &ScreenFeed::changed, &m_context,
                          [this](const ScreenSchedule& schedule) { told.push_back(schedule); });
         QObject::connect(&m_feed, &ScreenFeed::lost, &m_context,
                          [this](const StoreResult& reason) { losses.push_back(reason.problem); });
         QObject::connect(&m_feed, &ScreenFeed::found, &m_context, [this] { ++finds; });
+        QObject::connect(&m_feed, &MirrorFeed::mediaFailed, &m_context,
+                         [this](const QString& program, MediaTrouble trouble) {
+                             failures.append(QStringLiteral("%1 %2").arg(
+                                 program, QString::number(static_cast<int>(trouble))));
+                         });
         m_feed.start();
     }
     ~Fed() { m_feed.stop(); }
@@ -69,6 +77,7 @@ public:
     std::vector<ScreenSchedule> told;
     std::vector<StoreProblem> losses;
     int finds = 0;
+    QStringList failures;
 
 private:
     MirrorFeed m_feed;
@@ -94,6 +103,7 @@ private slots:
     void aMirrorThatCannotBeWrittenIsTold();
     void theFolderOfAScheduleIsLeftAlone();
     void anotherZone();
+    void mediaAreFetchedAndPlayedFromThere();
     void itEndsBeforeTheServerWasAsked();
 
 private:
@@ -236,6 +246,42 @@ void tst_MirrorFeed::anotherZone()
     QCOMPARE(fed.last().timeline->local(noon).time(), QTime(12, 0));
     clock.set(berlin.toTimeZone(QTimeZone("Asia/Tokyo")));
     QTRY_COMPARE(fed.last().timeline->local(noon).time(), QTime(20, 0));
+}
+
+void tst_MirrorFeed::mediaAreFetchedAndPlayedFromThere()
+{
+    const QByteArray film("a film");
+    MediaSource source;
+    source.name = QStringLiteral("film");
+    source.path = QStringLiteral("/only/at/the/desk/film.mp4");
+    source.durationMs = 1000;
+    source.kind = ProgramKind::Video;
+    source.content.size = film.size();
+    source.content.sha256 = QCryptographicHash::hash(film, QCryptographicHash::Sha256).toHex();
+    Desk desk(address());
+    QVERIFY(ScheduleHost::instance().addPrograms({source}).store);
+    std::map<int, PlayTask> tasks = sampleSchedule(1, 1, 1);
+    tasks.at(1).endDate = "2099.12.31";
+    QVERIFY(ScheduleHost::instance().replaceSchedule(tasks));
+    QVERIFY(ScheduleHost::instance().startSchedule());
+    const QString shared = m_folder->filePath(QStringLiteral("shared"));
+    QVERIFY(QDir().mkpath(shared));
+
+    const Fed fed(address(), mirror(), shared);
+    QTRY_COMPARE(fed.tasks(), 1);
+    QTRY_COMPARE(fed.failures, QStringList{QStringLiteral("film %1").arg(
+                                   static_cast<int>(MediaTrouble::NotThere))});
+    QTRY_VERIFY(fed.last().catalogue->at(1).isNull);
+    QFile put(shared + QLatin1Char('/') + QString::fromLatin1(source.content.sha256));
+    QVERIFY(put.open(QIODevice::WriteOnly));
+    put.write(film);
+    put.close();
+    QTRY_VERIFY_WITH_TIMEOUT(!fed.last().catalogue->at(1).isNull, kPatience);
+    QFile kept(QString::fromStdString(fed.last().catalogue->at(1).mediaPath));
+    QVERIFY(kept.fileName().startsWith(m_folder->path()));
+    QVERIFY(!kept.fileName().startsWith(shared));
+    QVERIFY(kept.open(QIODevice::ReadOnly));
+    QCOMPARE(kept.readAll(), film);
 }
 
 void tst_MirrorFeed::itEndsBeforeTheServerWasAsked()

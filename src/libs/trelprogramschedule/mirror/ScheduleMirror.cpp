@@ -2,6 +2,7 @@
 
 #include "TaskSets.h"
 #include "catalogue/ProgramFileWatch.h"
+#include "media/MediaFolder.h"
 #include "store/StoreAttempt.h"
 #include "store/StoreEngines.h"
 #include "store/StoreMirror.h"
@@ -12,11 +13,15 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <chrono>
 #include <utility>
 
 namespace trel::mediadispatch {
 
 namespace {
+
+/// How long files that come are gathered, where many are being fetched.
+constexpr std::chrono::seconds kGathering{3};
 
 constexpr const char* kDatabaseSuffixes[] = {"", "-wal", "-shm"};
 
@@ -69,7 +74,12 @@ void ScheduleMirror::watchFiles()
     if (m_files) {
         return;
     }
-    m_files = std::make_unique<ProgramFileWatch>([this] { return m_catalogue.files(); });
+    FileScanHabits habits;
+    if (!m_mediaFolder.isEmpty()) {
+        // Each look that finds something makes another schedule, which is recorded as a whole.
+        habits.gather = kGathering;
+    }
+    m_files = std::make_unique<ProgramFileWatch>([this] { return m_catalogue.files(); }, habits);
     connect(m_files.get(), &ProgramFileWatch::found, this, [this](const ProgramFiles& files) {
         if (m_catalogue.takeFiles(files)) {
             emit filesChanged();
@@ -195,7 +205,12 @@ StoreResult ScheduleMirror::write(const MirrorNews& news) const
 void ScheduleMirror::hold(const MirrorNews& news)
 {
     if (news.catalogue) {
-        m_catalogue.assign(news.catalogue->programs, news.catalogue->removedNames);
+        m_contents = news.catalogue->contents;
+        m_catalogue.assign(withPlaces(*news.catalogue), news.catalogue->removedNames);
+        if (!m_mediaFolder.isEmpty()) {
+            // None is begun that has not been fetched.
+            m_catalogue.takeFiles(ownFiles());
+        }
         m_files->renew();
     }
     if (!news.effect) {
@@ -213,6 +228,35 @@ void ScheduleMirror::hold(const MirrorNews& news)
         markLostEntries(task, [this](int index) { return m_catalogue.contains(index); });
     }
     m_tasks = std::make_shared<const TaskMap>(std::move(tasks));
+}
+
+ProgramMap ScheduleMirror::withPlaces(const MirroredCatalogue& catalogue) const
+{
+    ProgramMap programs = catalogue.programs;
+    if (m_mediaFolder.isEmpty()) {
+        return programs;
+    }
+    const MediaFolder folder(m_mediaFolder);
+    for (const auto& [index, content] : catalogue.contents) {
+        const auto program = programs.find(index);
+        if (program != programs.end() && program->second.kind != ProgramKind::Live) {
+            program->second.mediaPath = folder.pathOf(content).toStdString();
+        }
+    }
+    return programs;
+}
+
+/// Those in the folder of the mirror, and which of them are there now.
+ProgramFiles ScheduleMirror::ownFiles() const
+{
+    ProgramFiles own;
+    for (ProgramFile& file : m_catalogue.files()) {
+        if (file.path.startsWith(m_mediaFolder + QLatin1Char('/'))) {
+            file.isThere = QFile::exists(file.path);
+            own.push_back(std::move(file));
+        }
+    }
+    return own;
 }
 
 std::shared_ptr<const std::map<int, ProgramIten>> ScheduleMirror::catalogue() const

@@ -35,6 +35,11 @@ public:
     ScheduleMirror(QString file, const QString& address);
     ~ScheduleMirror() override;
 
+    /// Programs whose content is known are to be found in that folder of the screen's own disk,
+    /// under the hash of what they hold, and not at the path that the catalog names. What comes
+    /// there is told of within some seconds, all of it at a time. To be called before open.
+    void setMediaFolder(const QString& folder) { m_mediaFolder = folder; }
+
     /// Opens the file, makes it where there is none, in a folder that may be missing too, and reads
     /// it. One that is damaged, or no store of this version, is put aside under the name with
     /// "-damaged" at its end. A store that is no mirror is refused with Foreign, and left alone.
@@ -59,6 +64,8 @@ public:
     std::shared_ptr<const std::map<int, PlayTask>> tasks() const { return m_tasks; }
     /// The programs; null ones where the file of a program is not there. Never null.
     std::shared_ptr<const std::map<int, ProgramIten>> catalogue() const;
+    /// What is known of the files of the programs, by their index.
+    const ProgramContents& contents() const { return m_contents; }
 
 signals:
     /// Files of programs have come or gone.
@@ -72,6 +79,8 @@ private:
     void watchFiles();
     StoreResult write(const MirrorNews& news) const;
     void hold(const MirrorNews& news);
+    ProgramFiles ownFiles() const;
+    ProgramMap withPlaces(const MirroredCatalogue& catalogue) const;
     StoreResult expectEverything();
 
     QString m_file;
@@ -84,6 +93,8 @@ private:
     ScreenInsertions m_insertions;
     std::shared_ptr<const std::map<int, PlayTask>> m_tasks;
     ProgramCatalogue m_catalogue;
+    ProgramContents m_contents;
+    QString m_mediaFolder;                     ///< Empty for the paths of the catalog.
     std::unique_ptr<ProgramFileWatch> m_files; ///< From open on.
 };
 

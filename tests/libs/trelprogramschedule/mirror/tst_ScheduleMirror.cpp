@@ -73,6 +73,7 @@ private slots:
     void twoMayHaveOne();
     void entriesOfNoProgramAreLost();
     void filesComeAndGo();
+    void filesOfItsOwnStandUnderTheirHash();
 
 private:
     QString file() const { return m_folder->filePath(QStringLiteral("deep/mirror.db")); }
@@ -467,6 +468,31 @@ void tst_ScheduleMirror::filesComeAndGo()
     QVERIFY(made.open(QIODevice::WriteOnly));
     made.close();
     QTRY_COMPARE(changed.count(), 2);
+    QVERIFY(!mirror.catalogue()->at(1).isNull);
+}
+
+void tst_ScheduleMirror::filesOfItsOwnStandUnderTheirHash()
+{
+    const QString media = m_folder->filePath(QStringLiteral("media"));
+    QVERIFY(QDir().mkpath(media));
+    ScheduleMirror mirror(file(), kAddress);
+    mirror.setMediaFolder(media);
+    DONE(mirror.open());
+    QSignalSpy changed(&mirror, &ScheduleMirror::filesChanged);
+    MirrorNews news = whole(state("id", 1, 1), 1, 3);
+    news.catalogue->programs.at(1).kind = ProgramKind::Video;
+    DONE(mirror.take(news));
+    const QString path = media + QLatin1Char('/') + QString(64, QLatin1Char('a'));
+    QCOMPARE(QString::fromStdString(mirror.catalogue()->at(1).mediaPath), path);
+    // Known at once, so that nothing is begun that is not there.
+    QVERIFY(mirror.catalogue()->at(1).isNull);
+    QCOMPARE(mirror.catalogue()->at(2).mediaPath, std::string("rtsp://camera/2"));
+    QVERIFY(!mirror.catalogue()->at(2).isNull);
+    QCOMPARE(mirror.contents().at(1).size, qint64(12));
+    QFile made(path);
+    QVERIFY(made.open(QIODevice::WriteOnly));
+    made.close();
+    QTRY_COMPARE_WITH_TIMEOUT(changed.count(), 1, 30000);
     QVERIFY(!mirror.catalogue()->at(1).isNull);
 }
 
