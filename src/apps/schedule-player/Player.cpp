@@ -5,6 +5,7 @@
 #include "clock/Clock.h"
 #include "common/DisplayText.h"
 #include "trelprogramschedule/faults/FaultWords.h"
+#include "trelscreen/MirrorFeed.h"
 #include "trelscreen/ScheduleFeed.h"
 
 #include <QCoreApplication>
@@ -34,6 +35,25 @@ QString thisPlayer()
              QString::number(QCoreApplication::applicationPid()), QSysInfo::machineHostName());
 }
 
+QString troubleText(MediaTrouble trouble)
+{
+    switch (trouble) {
+    case MediaTrouble::None:
+        break;
+    case MediaTrouble::NotThere:
+        return QStringLiteral("it is not there yet");
+    case MediaTrouble::Broken:
+        return QStringLiteral("the way there is cut, and what came is kept");
+    case MediaTrouble::OtherContent:
+        return QStringLiteral("it holds something else than it should");
+    case MediaTrouble::NoRoom:
+        return QStringLiteral("there is no room for it");
+    case MediaTrouble::NotWritable:
+        return QStringLiteral("the disk does not take it");
+    }
+    return {};
+}
+
 /// For the manager of services: "plays “News”".
 QString shortText(const PlayerStatus& status)
 {
@@ -55,16 +75,18 @@ QString shortText(const PlayerStatus& status)
 
 } // namespace
 
-Player::Player(const AsRunPlace& place, Stage& stage, Deck& first, Deck& second)
+Player::Player(const AsRunPlace& place, Stage& stage, Deck& first, Deck& second,
+               const MirrorSettings& mirror)
     : m_store(place.store)
+    , m_address(mirror.address)
     , m_screen(place.screen)
     , m_started(Clock::current().msecsSinceEpoch())
     , m_asRun(place)
     , m_conductor(stage, first, second, m_events)
-    , m_feed(std::make_unique<ScheduleFeed>(m_store))
     , m_statusWriter(std::make_unique<PlayerStatusWriter>(m_store))
 {
     qRegisterMetaType<PlayerStatus>();
+    makeFeed(mirror);
     m_feed->moveToThread(&m_thread);
     m_statusWriter->moveToThread(&m_thread);
     connect(&m_log, &PlayerLog::line, this,
@@ -78,12 +100,12 @@ Player::Player(const AsRunPlace& place, Stage& stage, Deck& first, Deck& second)
             [this](const QString& line) { m_log.tell(line); });
     m_asRun.follow(m_conductor);
     tellOfStore();
-    connect(m_feed.get(), &ScheduleFeed::changed, this, [this](const ScreenSchedule& schedule) {
+    connect(m_feed.get(), &ScreenFeed::changed, this, [this](const ScreenSchedule& schedule) {
         m_asRun.take(schedule);
         m_conductor.setSchedule(schedule);
         follow();
     });
-    connect(&m_thread, &QThread::started, m_feed.get(), &ScheduleFeed::start);
+    connect(&m_thread, &QThread::started, m_feed.get(), &ScreenFeed::start);
 
     m_change.setSingleShot(true);
     m_change.setInterval(kChange);
@@ -118,6 +140,25 @@ Player::~Player()
     }
 }
 
+void Player::makeFeed(const MirrorSettings& mirror)
+{
+    if (m_address.isEmpty()) {
+        m_feed = std::make_unique<ScheduleFeed>(m_store);
+        return;
+    }
+    auto feed = std::make_unique<MirrorFeed>(mirror, m_store);
+    connect(feed.get(), &MirrorFeed::mediaFailed, this, &Player::tellOfMedia);
+    m_feed = std::move(feed);
+}
+
+void Player::tellOfMedia(const QString& program, MediaTrouble trouble, const QString& words)
+{
+    const QString more = words.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(words);
+    m_log.tell(QStringLiteral("cannot fetch the file of %1: %2%3; it is tried again")
+                   .arg(hosts::inQuotes(hosts::printable(program)), troubleText(trouble),
+                        hosts::printable(more)));
+}
+
 void Player::Events::note(const ScreenEvent& event)
 {
     m_log.note(event);
@@ -127,14 +168,20 @@ void Player::Events::note(const ScreenEvent& event)
 void Player::tellOfStore()
 {
     m_log.tell(QStringLiteral("screen %1 follows %2")
-                   .arg(hosts::inQuotes(hosts::printable(m_screen)), hosts::printable(m_store)));
-    connect(m_feed.get(), &ScheduleFeed::lost, this, [this](const StoreResult& reason) {
+                   .arg(hosts::inQuotes(hosts::printable(m_screen)), hosts::printable(followed())));
+    if (!m_address.isEmpty()) {
+        m_log.tell(QStringLiteral("plays from the mirror in %1").arg(hosts::printable(m_store)));
+    }
+    connect(m_feed.get(), &ScreenFeed::lost, this, [this](const StoreResult& reason) {
         m_log.tell(hosts::printable(englishText(reason)) +
-                   QStringLiteral(" What was read before goes on; the file is tried again every "
-                                  "second."));
+                   (m_address.isEmpty()
+                        ? QStringLiteral(" What was read before goes on; the file is tried again "
+                                         "every second.")
+                        : QStringLiteral(" What the mirror held before goes on; the server is "
+                                         "asked again every few seconds.")));
     });
-    connect(m_feed.get(), &ScheduleFeed::found, this, [this] {
-        m_log.tell(QStringLiteral("%1 is read again").arg(hosts::printable(m_store)));
+    connect(m_feed.get(), &ScreenFeed::found, this, [this] {
+        m_log.tell(QStringLiteral("%1 is read again").arg(hosts::printable(followed())));
     });
 }
 

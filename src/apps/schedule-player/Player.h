@@ -6,6 +6,8 @@
 #include "system/ServiceManager.h"
 #include "trelprogramschedule/screens/PlayerStatus.h"
 #include "trelscreen/Conductor.h"
+#include "trelscreen/MirrorSettings.h"
+#include "trelscreen/media/MediaTransfer.h"
 
 #include <QObject>
 #include <QString>
@@ -16,7 +18,7 @@
 
 namespace trel::screen {
 class Deck;
-class ScheduleFeed;
+class ScreenFeed;
 class Stage;
 } // namespace trel::screen
 
@@ -36,10 +38,11 @@ class Player : public QObject
     Q_OBJECT
 
 public:
-    /// The store need not be there. Stage and decks outlive it; there can be one player in a
-    /// process.
-    Player(const AsRunPlace& place, screen::Stage& stage, screen::Deck& first,
-           screen::Deck& second);
+    /// The store need not be there. Where the mirror has an address, it is that of the schedule
+    /// there, which the player keeps itself. Stage and decks outlive it; there can be one player in
+    /// a process.
+    Player(const AsRunPlace& place, screen::Stage& stage, screen::Deck& first, screen::Deck& second,
+           const screen::MirrorSettings& mirror = {});
     /// Waits a quarter of a second for each thread; the process ends at once where a disk holds one
     /// up for longer.
     ~Player() override;
@@ -69,12 +72,17 @@ private:
         AsRunRecording& m_asRun;
     };
 
+    /// What is followed, for the log.
+    QString followed() const { return m_address.isEmpty() ? m_store : m_address; }
     void follow();
+    void makeFeed(const screen::MirrorSettings& mirror);
+    void tellOfMedia(const QString& program, screen::MediaTrouble trouble, const QString& words);
     void tellOfStore();
     void tellStatus();
     mediadispatch::PlayerStatus status() const;
 
     const QString m_store;
+    const QString m_address; ///< Empty for a file.
     const QString m_screen;
     const mediadispatch::Instant m_started;
     LogWriter m_logWriter;
@@ -87,7 +95,7 @@ private:
     QTimer m_round;  ///< Since the status was told last.
     QTimer m_change; ///< Until a change is told.
 
-    std::unique_ptr<screen::ScheduleFeed> m_feed; ///< In the thread, as the one below.
+    std::unique_ptr<screen::ScreenFeed> m_feed; ///< In the thread, as the one below.
     std::unique_ptr<PlayerStatusWriter> m_statusWriter;
     QThread m_thread;
 };

@@ -1,11 +1,16 @@
 #include "PlayerOptions.h"
 
 #include "common/DisplayText.h"
+#include "trelprogramschedule/faults/FaultWords.h"
 #include "trelprogramschedule/screens/PlayerStatusFolder.h"
+#include "trelprogramschedule/store/StoreEngines.h"
 #include "trelprogramschedule/store/StorePlace.h"
+#include "trelscreen/media/MediaFetcher.h"
 
 #include <QCommandLineParser>
 #include <QSysInfo>
+#include <QTimeZone>
+#include <QUrl>
 
 using trel::mediadispatch::PlayerStatusFolder;
 
@@ -33,6 +38,33 @@ QString machineName()
     return PlayerStatusFolder::takesName(name) ? name : QStringLiteral("screen");
 }
 
+/// Why what is to be followed cannot be, as a sentence. An address is not repeated, since there may
+/// be a password in it.
+QString faultOfPlace(const QString& database, bool wantsMirror)
+{
+    if (mediadispatch::StorePlace::isAddress(database)) {
+        return mediadispatch::englishSentence(mediadispatch::faultOfAddress(database));
+    }
+    return wantsMirror ? QStringLiteral("--mirror and --media go with a --database on a server.")
+                       : QString();
+}
+
+/// The same of where files are fetched from.
+QString faultOfMedia(const QString& media)
+{
+    const QUrl url(media, QUrl::StrictMode);
+    if (!screen::MediaFetcher::isWeb(media)) {
+        return {};
+    }
+    if (!url.userInfo().isEmpty()) {
+        return QStringLiteral("--media takes no address with a user or a password.");
+    }
+    return url.isValid() && !url.host().isEmpty() && !url.hasQuery() && !url.hasFragment()
+               ? QString()
+               : QStringLiteral("--media takes a folder, or an address such as "
+                                "https://server/media.");
+}
+
 } // namespace
 
 PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
@@ -47,8 +79,30 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
     const QCommandLineOption database(
         {QStringLiteral("d"), QStringLiteral("database")},
         QStringLiteral(
-            "Follow the schedule in FILE instead of your own. It need not be there yet."),
+            "Follow the schedule in FILE instead of your own, or that of a server, by its address "
+            "postgresql://[user@]host[:port]/database?schedule=NAME. It need not be there yet."),
         QStringLiteral("FILE"));
+    const QCommandLineOption mirror(
+        QStringLiteral("mirror"),
+        QStringLiteral("Keep in this folder what the screen needs of a schedule on a server, so "
+                       "that it goes on without one, instead of in a folder of your own."),
+        QStringLiteral("FOLDER"));
+    const QCommandLineOption media(
+        QStringLiteral("media"),
+        QStringLiteral("Fetch the files of programs from this folder, or from below this address "
+                       "of a web server, where \"schedulectl media-folder\" has put them, and play "
+                       "them from the mirror."),
+        QStringLiteral("PLACE"));
+    const QCommandLineOption mediaLimit(
+        QStringLiteral("media-limit"),
+        QStringLiteral("Keep no more than so many GiB of them, instead of all that the disk has "
+                       "but one."),
+        QStringLiteral("GIB"));
+    const QCommandLineOption timeZone(
+        QStringLiteral("time-zone"),
+        QStringLiteral("Play by the time of this zone, such as Europe/Berlin, instead of the "
+                       "machine's."),
+        QStringLiteral("ZONE"));
     const QCommandLineOption screen(
         QStringLiteral("screen"),
         QStringLiteral("Play under this name, which \"schedulectl screens\" lists; the machine's "
@@ -77,8 +131,8 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
         QStringLiteral("Keep the records of what was on the screen in this folder until they are "
                        "handed in, instead of a folder of your own."),
         QStringLiteral("FOLDER"));
-    parser.addOptions(
-        {database, screen, window, fullScreen, monitor, mute, standBy, rotate, spool});
+    parser.addOptions({database, mirror, media, mediaLimit, screen, timeZone, window, fullScreen,
+                       monitor, mute, standBy, rotate, spool});
 
     if (!parser.parse(arguments)) {
         return misuse(hosts::printable(parser.errorText()));
@@ -99,9 +153,23 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
     if (parser.isSet(window) && parser.isSet(monitor)) {
         return misuse(QStringLiteral("--on goes with --full-screen; a window can be moved."));
     }
-    if (mediadispatch::StorePlace::isAddress(parser.value(database))) {
-        // Not repeated, since there may be a password in it.
-        return misuse(QStringLiteral("--database takes a file, not a schedule on a server."));
+    if (const QString wrong =
+            faultOfPlace(parser.value(database), parser.isSet(mirror) || parser.isSet(media));
+        !wrong.isEmpty()) {
+        return misuse(wrong);
+    }
+    if (const QString wrong = faultOfMedia(parser.value(media)); !wrong.isEmpty()) {
+        return misuse(wrong);
+    }
+    const int limit = parser.isSet(mediaLimit) ? parser.value(mediaLimit).toInt() : 0;
+    if (parser.isSet(mediaLimit) && (limit <= 0 || !parser.isSet(media))) {
+        return misuse(
+            QStringLiteral("--media-limit takes a number of GiB, and goes with --media."));
+    }
+    if (parser.isSet(timeZone) &&
+        !QTimeZone::isTimeZoneIdAvailable(parser.value(timeZone).toUtf8())) {
+        return misuse(QStringLiteral("There is no time zone %1 on this machine.")
+                          .arg(hosts::inQuotes(hosts::printable(parser.value(timeZone)))));
     }
     bool isNumber = false;
     const int turned = parser.value(rotate).toInt(&isNumber);
@@ -118,6 +186,10 @@ PlayerOptionsResult readPlayerOptions(const QStringList& arguments)
 
     PlayerOptionsResult result;
     result.options.database = parser.value(database);
+    result.options.mirror = parser.value(mirror);
+    result.options.media = parser.value(media);
+    result.options.mediaLimit = limit;
+    result.options.timeZone = parser.value(timeZone);
     result.options.screen = name;
     result.options.inWindow = parser.isSet(window);
     result.options.monitor = parser.value(monitor);

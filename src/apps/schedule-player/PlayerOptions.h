@@ -8,7 +8,11 @@ namespace trel::player {
 /// What the command line asks of the player.
 struct PlayerOptions
 {
-    QString database;      ///< Empty for the user's own.
+    QString database;      ///< A file or an address; empty for the user's own file.
+    QString mirror;        ///< The folder of the mirror of an address; empty for the user's own.
+    QString media;         ///< Where files are fetched from; empty for nowhere.
+    int mediaLimit = 0;    ///< In GiB; 0 for what the disk has.
+    QString timeZone;      ///< The time zone of the screen; empty for the machine's.
     QString screen;        ///< The name under which it plays; never empty.
     bool inWindow = false; ///< In a window that can be moved, instead of the whole screen.
     QString monitor;       ///< The system's name of the screen to play on; empty for the first one.

@@ -6,7 +6,10 @@
 #include "media/PictureRequest.h"
 #include "system/LoadNotes.h"
 #include "system/ScreenLock.h"
+#include "trelprogramschedule/store/StorePlace.h"
+#include "trelscreen/media/MediaFetcher.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include <atomic>
@@ -45,6 +48,25 @@ ScreenWishes wishesOf(const PlayerOptions& options)
     wishes.isMute = options.isMute;
     wishes.title = options.screen;
     return wishes;
+}
+
+/// Of the schedule on a server that is followed; empty for a file.
+QString addressOf(const PlayerOptions& options)
+{
+    const mediadispatch::StorePlace place(options.database);
+    return place.isOnServer() ? place.text() : QString();
+}
+
+screen::MirrorSettings mirrorOf(const PlayerOptions& options)
+{
+    constexpr qint64 gibibyte = 1024LL * 1024 * 1024;
+    screen::MirrorSettings settings;
+    settings.address = addressOf(options);
+    settings.media = options.media.isEmpty() || screen::MediaFetcher::isWeb(options.media)
+                         ? options.media
+                         : QFileInfo(options.media).absoluteFilePath();
+    settings.mediaLimit = options.mediaLimit * gibibyte;
+    return settings;
 }
 
 } // namespace
@@ -91,15 +113,21 @@ PlayerStart::~PlayerStart()
 
 void PlayerStart::takeLock()
 {
-    m_threads.start([shared = m_lock, store = m_place.store, screen = m_options.screen, this] {
-        auto lock = std::make_unique<ScreenLock>(store, screen);
-        {
-            const std::lock_guard held(shared->mutex);
-            shared->lock = std::move(lock);
-            shared->changed.notify_all();
-        }
-        shared->mail.post([this] { lockTried(); });
-    });
+    const bool isMirror = !addressOf(m_options).isEmpty();
+    m_threads.start(
+        [shared = m_lock, store = m_place.store, screen = m_options.screen, isMirror, this] {
+            if (isMirror) {
+                // The lock stands beside it.
+                QDir().mkpath(QFileInfo(store).absolutePath());
+            }
+            auto lock = std::make_unique<ScreenLock>(store, screen);
+            {
+                const std::lock_guard held(shared->mutex);
+                shared->lock = std::move(lock);
+                shared->changed.notify_all();
+            }
+            shared->mail.post([this] { lockTried(); });
+        });
 }
 
 void PlayerStart::showWindow()
@@ -157,7 +185,7 @@ void PlayerStart::play()
                 }
             });
     m_player = std::make_unique<Player>(m_place, m_screen->stage(), m_screen->firstDeck(),
-                                        m_screen->secondDeck());
+                                        m_screen->secondDeck(), mirrorOf(m_options));
     if (m_notes->formerEnd()) {
         tell(LoadNotes::words(*m_notes->formerEnd()));
     }

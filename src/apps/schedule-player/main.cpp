@@ -1,3 +1,4 @@
+#include "MirrorPlace.h"
 #include "PlayerOptions.h"
 #include "PlayerStart.h"
 #include "asrun/AsRunKeeper.h"
@@ -8,6 +9,7 @@
 #include "deck/PlaybackThreads.h"
 #include "system/FewArenas.h"
 #include "system/LastResort.h"
+#include "trelprogramschedule/store/StorePlace.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -49,6 +51,13 @@ bool hasDisplay()
 
 QString storePath(const PlayerOptions& options)
 {
+    const trel::mediadispatch::StorePlace place(options.database);
+    if (place.isOnServer()) {
+        // What stands beside a file stands beside the mirror.
+        return options.mirror.isEmpty()
+                   ? mirrorPath(defaultMirrorFolder(), place.text(), options.screen)
+                   : mirrorPath(options.mirror);
+    }
     const QString path =
         options.database.isEmpty() ? trel::hosts::defaultDatabasePath() : options.database;
     return QFileInfo(path).absoluteFilePath();
@@ -99,6 +108,10 @@ int main(int argc, char** argv)
     if (!hasDisplay()) {
         return refuse(QStringLiteral("There is no display: neither DISPLAY nor WAYLAND_DISPLAY is "
                                      "set."));
+    }
+    if (!read.options.timeZone.isEmpty()) {
+        // Before there are threads, which may all ask for it.
+        qputenv("TZ", read.options.timeZone.toUtf8());
     }
     QGuiApplication::setApplicationName(QStringLiteral("schedule-player"));
     QGuiApplication application(argc, argv);

@@ -12,6 +12,7 @@ Command importCommand();
 Command programsCommand();
 Command removeProgramCommand();
 Command whereUsedCommand();
+Command mediaFolderCommand();
 Command showCommand();
 Command checkCommand();
 Command nowCommand();

@@ -29,8 +29,6 @@ ScheduleFeed::ScheduleFeed(QString store)
     , m_round(this)
     , m_publishing(this)
 {
-    qRegisterMetaType<ScreenSchedule>();
-    qRegisterMetaType<StoreResult>();
     m_publishing.setSingleShot(true);
     connect(&m_publishing, &QTimer::timeout, this, &ScheduleFeed::publish);
     connect(&m_round, &QTimer::timeout, this, &ScheduleFeed::look);

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "trelprogramschedule/store/StoreResult.h"
-#include "trelscreen/ScreenSchedule.h"
+#include "trelscreen/ScreenFeed.h"
 
-#include <QObject>
 #include <QString>
 #include <QTimeZone>
 #include <QTimer>
@@ -23,25 +21,15 @@ namespace trel::screen {
 /// that a large schedule or a slow disk holds up no picture. A store that is not there, cannot be
 /// read or was replaced is looked for every second, for as long as it takes; meanwhile the screen
 /// goes on with what was read last.
-class ScheduleFeed : public QObject
+class ScheduleFeed : public ScreenFeed
 {
     Q_OBJECT
 
 public:
     explicit ScheduleFeed(QString store);
 
-    /// To be called once each, in the thread of the feed; stop before the thread ends.
-    void start();
-    void stop();
-
-signals:
-    /// Comes once after start, whether the store can be read or not, and whenever something else is
-    /// in effect, cut in, or known of the programs.
-    void changed(const trel::screen::ScreenSchedule& schedule);
-    /// The store cannot be read. Comes again for another reason alone.
-    void lost(const trel::mediadispatch::StoreResult& reason);
-    /// It is read again.
-    void found();
+    void start() override;
+    void stop() override;
 
 private:
     void look();

@@ -27,6 +27,7 @@ private slots:
     void isThereAtOnce();
     void showsNothingWhereTheScreenIsTaken();
     void isThereWhileTheLockHangs();
+    void playsFromItsMirrorWithoutAServer();
 
 private:
     static AsRunPlace placeOf(const QTemporaryDir& folder)
@@ -85,6 +86,25 @@ void tst_PlayerStart::isThereWhileTheLockHangs()
     ::unlink(lock.constData());
     ::close(end);
     QTRY_VERIFY(start.player() != nullptr);
+}
+
+void tst_PlayerStart::playsFromItsMirrorWithoutAServer()
+{
+    const QTemporaryDir folder;
+    PlayerOptions address = options();
+    // Nobody listens there.
+    address.database = QStringLiteral("postgresql://lobby@127.0.0.1:1/schedules?schedule=hall");
+    AsRunPlace place = placeOf(folder);
+    place.store = folder.filePath(QStringLiteral("mirrors/hall/mirror.db"));
+    {
+        const PlayerStart start(address, place);
+        QTRY_VERIFY(start.player() != nullptr);
+        QTRY_VERIFY(QFile::exists(place.store));
+        // It tells of itself beside its mirror.
+        QTRY_VERIFY(
+            QFile::exists(folder.filePath(QStringLiteral("mirrors/hall/mirror.db-screens"))));
+    }
+    QVERIFY(QFile::exists(place.store));
 }
 
 TREL_TEST(tst_PlayerStart, QGuiApplication)

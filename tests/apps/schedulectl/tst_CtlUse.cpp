@@ -49,6 +49,7 @@ const QStringList& commandNames()
                                       QStringLiteral("timeline"),
                                       QStringLiteral("why"),
                                       QStringLiteral("where-used"),
+                                      QStringLiteral("media-folder"),
                                       QStringLiteral("run")};
     return names;
 }

@@ -75,6 +75,11 @@ bool StoreConnection::next(QSqlQuery& query) const
     return false;
 }
 
+void StoreConnection::listen(std::function<void()> hear) const
+{
+    Q_UNUSED(hear)
+}
+
 QString StoreConnection::worded(const QString& statement) const
 {
     return statement;

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class QSqlError;
@@ -52,6 +53,14 @@ public:
     void exec(QSqlQuery& query) const;
     /// Goes to the next row; false behind the last.
     bool next(QSqlQuery& query) const;
+
+    /// From now on the function is called soon after any connection has committed a change of the
+    /// store, from the event loop of the thread that made this connection, and once for several
+    /// changes or more often. Where the connection has gone, all that is told until a transaction
+    /// has made another one is lost. To be called once. A file tells nothing in this way.
+    virtual void listen(std::function<void()> hear) const;
+    /// Whether nothing is known of a loss of the connection, as far as that shows without asking.
+    virtual bool isConnected() const { return true; }
 
     /// What puts rows into a table, by a statement of the form INSERT INTO table (columns) VALUES
     /// (?, ...). Where they refer to rows of others, which outlive them, those are put in before.

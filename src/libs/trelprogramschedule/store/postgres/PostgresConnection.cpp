@@ -120,7 +120,11 @@ PostgresConnection::PostgresConnection(const StorePlace& place, Access access,
     m_isUntold = !isAlive();
 }
 
-PostgresConnection::~PostgresConnection() = default;
+PostgresConnection::~PostgresConnection()
+{
+    // Queries that have not gone yet keep the driver.
+    QObject::disconnect(m_hearing);
+}
 
 QString PostgresConnection::schemaName() const
 {
@@ -129,6 +133,7 @@ QString PostgresConnection::schemaName() const
 
 void PostgresConnection::connect() const
 {
+    QObject::disconnect(m_hearing);
     m_former = database();
     m_former.close();
     m_patience->leave();
@@ -168,6 +173,46 @@ void PostgresConnection::connect() const
         }
     }
     m_patience->end();
+    if (m_hear && connection.isOpen()) {
+        subscribe();
+    }
+}
+
+void PostgresConnection::subscribe() const
+{
+    QSqlDriver* const driver = database().driver();
+    m_hearing = QObject::connect(
+        driver,
+        QOverload<const QString&, QSqlDriver::NotificationSource, const QVariant&>::of(
+            &QSqlDriver::notification),
+        driver, [hear = m_hear] { hear(); });
+    beginAsking();
+    const bool isDone = driver->subscribeToNotification(postgresChannel(schemaName()));
+    endAsking();
+    if (!isDone) {
+        m_failure = driver->lastError();
+        QSqlDatabase(database()).close();
+    }
+}
+
+void PostgresConnection::listen(std::function<void()> hear) const
+{
+    m_hear = std::move(hear);
+    if (isAlive()) {
+        subscribe();
+    }
+    if (!isAlive()) {
+        expectOpen();
+    }
+}
+
+bool PostgresConnection::isConnected() const
+{
+    if (!isAlive()) {
+        // What waits for notices at its socket would go on with whatever has the number next.
+        QSqlDatabase(database()).close();
+    }
+    return isAlive();
 }
 
 void PostgresConnection::beginAsking() const
@@ -428,10 +473,12 @@ QString PostgresConnection::leaveToken() const
         return {};
     }
     QString token = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    // Those who listen are told by the same statement, once the change is committed.
     run(QStringLiteral("WITH old AS"
-                       " (DELETE FROM written WHERE moment < now() - interval '1 day')"
-                       " INSERT INTO written (token) VALUES ('%1')")
-            .arg(token));
+                       " (DELETE FROM written WHERE moment < now() - interval '1 day'),"
+                       " new AS (INSERT INTO written (token) VALUES ('%1'))"
+                       " SELECT pg_notify('%2', '')")
+            .arg(token, postgresChannel(schemaName())));
     return token;
 }
 

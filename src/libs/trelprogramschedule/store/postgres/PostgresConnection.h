@@ -3,9 +3,11 @@
 #include "store/StoreConnection.h"
 #include "store/StorePlace.h"
 
+#include <QMetaObject>
 #include <QSqlError>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 namespace trel::mediadispatch {
@@ -57,6 +59,9 @@ public:
     QString scheduleId() const { return m_scheduleId; }
     /// Whether the schedule that is remembered is still there. True as long as it cannot be asked.
     bool isSameSchedule() const;
+
+    void listen(std::function<void()> hear) const override;
+    bool isConnected() const override;
 
     /// Without preparing it, which the server does for some kinds of statements alone. A deadline
     /// is looked at before each statement; the server ends one that takes long by itself.
@@ -111,6 +116,9 @@ private:
     /// Throws StoreError where the time of a deadline has run out.
     void expectTime() const;
     void connect() const;
+    /// Has the server tell of changes on a connection that has just been made; closes it where it
+    /// refuses.
+    void subscribe() const;
     /// Begins, on another connection where the former has gone.
     void beginAlive(StorePurpose purpose) const;
     /// Throws where the seal tells another version than it did, since whoever set the schedule up
@@ -146,6 +154,8 @@ private:
     mutable bool m_isInTransaction = false;
     mutable bool m_isWriting = false;
     mutable StoreDeadline* m_deadline = nullptr;
+    mutable std::function<void()> m_hear; ///< Empty while nobody listens.
+    mutable QMetaObject::Connection m_hearing;
 
     static constexpr int kNotAsked = -1;
 };

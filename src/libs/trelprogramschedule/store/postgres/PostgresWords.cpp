@@ -1,5 +1,6 @@
 #include "PostgresWords.h"
 
+#include <QCryptographicHash>
 #include <QRegularExpression>
 
 #include <iterator>
@@ -78,6 +79,14 @@ QString postgresWords(const QString& statement)
 QString postgresName(const QString& name)
 {
     return quoted(name, QLatin1Char('"'));
+}
+
+QString postgresChannel(const QString& schema)
+{
+    // As many letters as the server takes of a name, and some less.
+    constexpr int digits = 40;
+    const QByteArray digest = QCryptographicHash::hash(schema.toUtf8(), QCryptographicHash::Sha256);
+    return QStringLiteral("trel_schedule_") + QString::fromLatin1(digest.toHex().left(digits));
 }
 
 QString postgresText(const QString& text)

@@ -14,6 +14,11 @@ QString postgresWords(const QString& statement);
 /// A name in a statement.
 QString postgresName(const QString& name);
 
+/// The channel on which the server tells of changes of what is in a schema. It can stand in a
+/// statement as it is, and where the driver writes one, which takes a dot in a name for the border
+/// of two.
+QString postgresChannel(const QString& schema);
+
 /// A text in a statement.
 QString postgresText(const QString& text);
 
