@@ -88,11 +88,11 @@ class Walk:
         if "showing" not in states:
             return None
         here = f"{place} > {role} “{name.strip()}”" if name.strip() else f"{place} > {role}"
-        self.look(thing, here, role, name, states, depth)
+        asked_again(lambda: self.look(thing, here, role, name, states, depth))
         if self.prints:
             print("  " * depth + f"{role} “{name}” {' '.join(sorted(states))}")
         kinds = {}
-        for number, child in enumerate(thing.children()):
+        for number, child in enumerate(asked_again(thing.children) or []):
             known = self.walk(child, here, depth + 1)
             if known and known[0] not in LISTED and known[1].strip() and known in kinds:
                 self.findings.add(self.run, here, f"two of “{known[1]}”, {known[0]}")
@@ -279,6 +279,17 @@ class Walk:
         table = self.find(self.window, lambda thing: is_shown_table(thing) and self.find(thing, is_cell))
         self.find(table, is_cell).act("Toggle")
         bus.wait_for(lambda: "enabled" in self.menus()[SELECTION].states(), "the entries of a program")
+
+
+def asked_again(question, times=20):
+    """The answer of what may be built anew while it is asked, as the lists of a file dialog are while it reads its
+    folder. What stays away has no answer, and nothing in it can be wrong."""
+    for _ in range(times):
+        try:
+            return question()
+        except bus.Gone:
+            pass
+    return None
 
 
 def is_cell(thing):
